@@ -1,0 +1,16 @@
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+if(MSVC)
+  add_compile_options(/W4 /utf-8 /permissive-)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wno-missing-field-initializers)
+endif()
+
+if(QUELVARN_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,16 @@
+# One static library a folder of src/. Its link list is the layering rule: what a folder does not link
+# it must not include (`./qv lint` checks the includes as well).
+function(quelvarn_folder name)
+  cmake_parse_arguments(ARG "" "" "LINK;PRIVATE_LINK" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  if(WIN32)
+    list(FILTER sources EXCLUDE REGEX "/linux/")
+  else()
+    list(FILTER sources EXCLUDE REGEX "/windows/")
+  endif()
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(quelvarn_${name} STATIC ${sources})
+  set_target_properties(quelvarn_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(quelvarn_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(quelvarn_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+endfunction()

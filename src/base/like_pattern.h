@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+enum class Wildcards {
+    Sql,    // % any run, _ one character, [..] a class
+    Filter, // the same, and * any run as well
+};
+
+// A LIKE pattern, parsed once. Blind to case; counts every blank.
+class LikePattern
+{
+public:
+    LikePattern(std::string_view pattern, Wildcards wildcards);
+
+    bool matches(std::string_view text) const;
+    // The same for a text that went through foldCase already.
+    bool matchesFolded(std::string_view folded) const;
+
+    // Set when the pattern is a plain text (folded), one followed by a run, or one between two runs:
+    // the shapes that a column search can answer without looking at each text.
+    enum class Shape { Exact, Prefix, Contains, Other };
+    Shape shape() const { return shape_; }
+    const std::string& literal() const { return literal_; }
+
+private:
+    struct Token
+    {
+        enum class Kind { Char, AnyOne, AnyRun, Class } kind;
+        char32_t character = 0;
+        std::u32string members; // Pairs: first and last of each range.
+        bool negated = false;
+    };
+    std::vector<Token> tokens_;
+    Shape shape_ = Shape::Other;
+    std::string literal_;
+};
+
+} // namespace quelvarn

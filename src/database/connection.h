@@ -1,0 +1,57 @@
+#pragma once
+
+#include "database/engine.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace quelvarn {
+
+enum class DatenbankArt { Unbekannt, SQLite, PostgreSQL, Access };
+
+// By the first bytes of what lies there, not by the ending. Throws Laufzeitfehler when it cannot be read.
+DatenbankArt erkenneDatenbank(const std::filesystem::path& pfad);
+
+// The one connection of a session; shared by its recordsets.
+class Connection
+{
+public:
+    Connection() = default;
+    ~Connection();
+    Connection(Connection&&) noexcept;
+    Connection& operator=(Connection&&) noexcept;
+
+    // A SQLite file, or a text file whose first line is a postgresql:// address. A true Access file where no
+    // driver for it exists, and a file of another kind, throw Laufzeitfehler with a German description.
+    void Open(const std::filesystem::path& pfad);
+    // A path, or a postgresql:// address itself.
+    void OpenAdresse(std::string_view pfadOderAdresse);
+    void Close();
+    bool offen() const { return engine_ != nullptr; }
+
+    // One INSERT, UPDATE or DELETE of the program's dialect. Rows affected.
+    std::int64_t Execute(std::string_view sql);
+
+    Engine& engine() const;
+
+private:
+    std::shared_ptr<Engine> engine_;
+    friend class Recordset;
+};
+
+// Several row changes that belong together: all or none, where the engine can.
+class Transaktion
+{
+public:
+    explicit Transaktion(Connection& verbindung);
+    ~Transaktion(); // Takes everything back unless schliesseAb was called.
+    void schliesseAb();
+
+private:
+    std::shared_ptr<Engine> engine_;
+    bool offen_ = false;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "database/schema.h"
+#include "database/sql/ast.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+using Zeilenschluessel = std::int64_t;
+
+// Typed rows of a result, one at a time. Text views hold until the next call of next().
+class Zeilenleser
+{
+public:
+    virtual ~Zeilenleser() = default;
+    // Of the selected columns, the row key not among them.
+    virtual const std::vector<Spalte>& spalten() const = 0;
+    virtual bool next() = 0;
+    virtual Zeilenschluessel schluessel() const = 0; // 0 when the engine gives none for this statement.
+    virtual bool istNull(std::size_t spalte) const = 0;
+    virtual std::string_view text(std::size_t spalte) const = 0;
+    virtual std::int64_t ganzzahl(std::size_t spalte) const = 0;
+    virtual double gleitkomma(std::size_t spalte) const = 0;
+    virtual Zeitpunkt datum(std::size_t spalte) const = 0;
+    // The cell by its column's type; a cell that does not fit its type (a text in a number column) as it is.
+    virtual Value wert(std::size_t spalte) const = 0;
+};
+
+struct EngineFaehigkeiten
+{
+    bool zeilenschluessel = true; // Each row has a hidden key.
+    bool distinctBlind = true;    // DISTINCT is blind to case and trailing blanks by itself.
+    bool transaktionen = true;
+};
+
+enum class MitSchluessel { Nein, Ja };
+
+// What a database must be able to do. It takes trees, never text of its own dialect, and hides its driver.
+// Every call throws Laufzeitfehler with the driver's text on a fault.
+class Engine
+{
+public:
+    virtual ~Engine() = default;
+    virtual std::string_view name() const = 0;
+    virtual EngineFaehigkeiten faehigkeiten() const = 0;
+
+    virtual std::vector<std::string> tabellen() = 0;
+    // Columns as they stand in the database; nothing when there is no such table. Names in any case.
+    virtual std::optional<Tabellenschema> findTabelle(std::string_view name) = 0;
+
+    // `grenze` rows at most when above 0. Row keys cannot be had with DISTINCT.
+    virtual std::unique_ptr<Zeilenleser> lese(const sql::Select& select, MitSchluessel schluessel,
+                                              std::size_t grenze = 0) = 0;
+    // These columns of these rows, in any order, keys included; rows that are gone are left out.
+    virtual std::unique_ptr<Zeilenleser> leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
+                                                    std::span<const Zeilenschluessel> schluessel) = 0;
+    // Rows affected.
+    virtual std::int64_t fuehreAus(const sql::Anweisung& anweisung) = 0;
+
+    virtual Zeilenschluessel fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte) = 0;
+    // False when the row is gone.
+    virtual bool aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte) = 0;
+    virtual bool loesche(std::string_view tabelle, Zeilenschluessel zeile) = 0;
+
+    virtual void legeTabelleAn(const Tabellenschema& tabelle) = 0;
+    virtual void legeIndexeAn(const Tabellenschema& tabelle) = 0;
+    // Bulk insert: values in the order of the columns.
+    class Massenschreiber
+    {
+    public:
+        virtual ~Massenschreiber() = default;
+        virtual void zeile(std::span<const Value> werte) = 0;
+        virtual void beende() = 0;
+    };
+    virtual std::unique_ptr<Massenschreiber> massenschreiber(std::string_view tabelle,
+                                                             std::span<const Spalte> spalten) = 0;
+
+    virtual void beginne() = 0;
+    virtual void schliesseAb() = 0;
+    virtual void nimmZurueck() = 0;
+};
+
+} // namespace quelvarn

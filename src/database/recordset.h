@@ -1,0 +1,108 @@
+#pragma once
+
+#include "database/schema.h"
+#include "database/value.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+class Connection;
+
+enum class CursorTyp { NurVorwaerts = 0, Schluesselmenge = 1, Dynamisch = 2, Statisch = 3 };
+enum class SperrTyp { NurLesen = 1, Pessimistisch = 2, Optimistisch = 3, Stapel = 4 };
+enum class Suchrichtung { Vorwaerts, Rueckwaerts };
+
+// A row of a recordset, whatever filter or order is on it. Valid until the recordset is closed.
+using Bookmark = std::uint32_t;
+
+// Long work of a recordset tells its progress here (done, total); false gives up, and the recordset stays as
+// it was.
+using Fortschritt = std::function<bool(std::size_t, std::size_t)>;
+
+// A client-side cursor over columns. Opening a large result reads the keys of its rows and the columns of the
+// sort order; every other column is read when first asked for. RecordCount is that of the opening; rows that
+// vanished since read as empty. Also a recordset in memory, with fields of its own.
+//
+// Where there is no current row (Bof or Eof), reading or writing a field throws Laufzeitfehler 3021.
+class Recordset
+{
+public:
+    Recordset();
+    ~Recordset();
+    Recordset(Recordset&&) noexcept;
+    Recordset& operator=(Recordset&&) noexcept;
+
+    // One SELECT of the program's dialect.
+    void Open(std::string_view sql, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
+              SperrTyp sperre = SperrTyp::NurLesen);
+    // In memory: append fields, then open.
+    void FeldAnhaengen(std::string_view name, FeldTyp typ);
+    void Open();
+    void Close();
+    bool offen() const;
+
+    const std::vector<Spalte>& Felder() const;
+    bool hatFeld(std::string_view name) const; // In any case.
+
+    bool Bof() const;
+    bool Eof() const;
+    bool leer() const { return Bof() && Eof(); }
+    std::size_t RecordCount() const; // Rows that the filter leaves.
+
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+
+    // Field of the current row; names in any case, an unknown one throws Laufzeitfehler 3265.
+    Value Feld(std::string_view name) const;
+    std::string Text(std::string_view name) const; // alsText(Feld(name))
+    void setzeFeld(std::string_view name, Value wert);
+
+    void AddNew();
+    void Update();       // Writes the new or changed row; in Stapel mode it waits for UpdateBatch.
+    void CancelUpdate();
+    void Delete();       // Afterwards the current row is the next one.
+    void UpdateBatch();  // All waiting changes, in one transaction.
+
+    // A recordset filter expression (day first, '*'), "" for none. Moves to the first row left. A bad expression
+    // throws Laufzeitfehler and leaves the old filter.
+    void Filter(std::string_view ausdruck, const Fortschritt& fortschritt = {});
+    const std::string& filterText() const;
+    // "Feld [ASC|DESC], ...", "" for the order of opening.
+    void Sort(std::string_view ausdruck);
+    // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `ueberspringe` rows behind the
+    // current one, or at the first row of all when `vonAnfang`; at Eof (Bof going backwards) when there is none.
+    bool Find(std::string_view kriterium, std::size_t ueberspringe = 0, Suchrichtung richtung = Suchrichtung::Vorwaerts,
+              bool vonAnfang = false);
+
+    Bookmark bookmark() const; // Of the current row.
+    // False, and nothing moves, when the row is not among those the filter leaves.
+    bool setzeBookmark(Bookmark zeile);
+
+    // Position of the current row among the rows left, and the other way round; for grids.
+    std::size_t AbsolutePosition() const;
+    void setzeAbsolutePosition(std::size_t position);
+    // A cell of any row left, without moving. Reads a block of neighbouring rows at once when the column is not
+    // in memory.
+    Value Zelle(std::size_t position, std::string_view feld) const;
+
+    // Reads a whole column into memory, which filters and searches over it do by themselves.
+    void ladeSpalte(std::string_view feld, const Fortschritt& fortschritt = {});
+    bool spalteGeladen(std::string_view feld) const;
+    std::size_t speicherbedarf() const; // bytes
+
+private:
+    struct Kern;
+    std::unique_ptr<Kern> kern_;
+};
+
+} // namespace quelvarn

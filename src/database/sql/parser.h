@@ -1,0 +1,26 @@
+#pragma once
+
+#include "database/sql/ast.h"
+
+#include <string_view>
+
+namespace quelvarn::sql {
+
+// How the day stands in a #..# literal.
+enum class Datumsfolge {
+    MonatZuerst, // SQL: #mm/dd/yy#
+    TagZuerst,   // recordset filter: #dd/mm/yy#
+};
+
+// Reads exactly one SELECT, INSERT, UPDATE or DELETE. Whatever stands behind it is refused, so a pasted
+// value can never add a second statement. Throws Laufzeitfehler with a German description.
+//
+// Values stand in statements as they are, so an apostrophe inside a literal is taken as part of it when what
+// follows cannot end the literal: the next token is no operator, keyword of the grammar, bracket, comma or end.
+// A doubled apostrophe is one apostrophe. A lone apostrophe at the very end of a statement is passed over.
+Anweisung parseAnweisung(std::string_view text);
+
+// A recordset filter or Find criterion: the condition alone. An empty text gives null: no filter.
+AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge = Datumsfolge::TagZuerst);
+
+} // namespace quelvarn::sql

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+// The windows of programs that run on this computer, known to one another by their captions.
+class LaufendeProgramme
+{
+public:
+    virtual ~LaufendeProgramme() = default;
+    // The captions of all top-level windows, this program's own among them.
+    virtual std::vector<std::string> fenstertitel() const = 0;
+    // Tells the caption of this program's own window, from now until the object goes.
+    virtual void eigenerTitel(std::string_view titel) = 0;
+};
+
+} // namespace quelvarn
