@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/runtime_error.h"
+#include "platform/meldungen.h"
+
+#include <exception>
+#include <functional>
+#include <string_view>
+
+namespace quelvarn {
+
+// The last report of every operation: OK goes on, Cancel raises ProgrammEnde.
+void Fehlermeldung(Meldungen& meldungen, const Laufzeitfehler& fehler);
+
+// Runs an operation that a person started. A fault shows the operation's own warning box, then Fehlermeldung.
+// Every exception but ProgrammEnde ends here. True when the operation ran to its end.
+bool gesichert(Meldungen& meldungen, std::string_view titel, std::string_view text,
+               const std::function<void()>& operation);
+
+} // namespace quelvarn
