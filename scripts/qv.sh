@@ -1,0 +1,154 @@
+# The commands behind ./qv. Runs in the top folder.
+set -euo pipefail
+
+JOBS="${QV_JOBS:-$(nproc)}"
+
+BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite3-dev libpq-dev mdbtools-dev
+  libglib2.0-dev libcups2-dev nlohmann-json3-dev qt6-base-dev libqt6svg6-dev libqt6svg6 qt6-qpa-plugins
+  qt6-translations-l10n libgl1-mesa-dev fonts-noto-core)
+TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql)
+BENCH_PACKAGES=(libbenchmark-dev)
+LINT_PACKAGES=(clang-format clang-tidy python3)
+
+say() { printf '%s\n' "$*"; }
+
+# Installs what is missing of the named packages; asks apt only then.
+need() {
+  local missing=() package
+  for package in "$@"; do
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true) == installed ]] || missing+=("$package")
+  done
+  [[ ${#missing[@]} -eq 0 ]] && return
+  say "Installing: ${missing[*]}"
+  local root=()
+  if [[ $(id -u) -ne 0 ]]; then
+    command -v sudo >/dev/null || { say "Not root, and sudo is missing. As root: apt-get install ${missing[*]}"; exit 1; }
+    root=(sudo)
+  fi
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+configure() { # preset [cmake options]
+  local preset="$1"
+  shift
+  cmake --preset "$preset" "$@" >"build-$preset.log" 2>&1 || { cat "build-$preset.log"; rm -f "build-$preset.log"; exit 1; }
+  rm -f "build-$preset.log"
+}
+
+build() { # preset [targets]
+  local preset="$1"
+  shift
+  cmake --build --preset "$preset" -j "$JOBS" ${*:+--target "$@"}
+}
+
+# A register to try the program on, with files, in a home of its own: the user's own settings stay untouched.
+SAMPLE=build/sample
+make_sample() {
+  export XDG_DATA_HOME="$PWD/$SAMPLE/data" XDG_CONFIG_HOME="$PWD/$SAMPLE/config"
+  local drives="$XDG_DATA_HOME/quelvarn/laufwerke"
+  local database="$drives/w/Konstruktion/Werk.mdb"
+  [[ -e "$database" ]] && return
+  mkdir -p "$drives/w/Konstruktion" "$drives/c/Dokumente und Einstellungen Quelvarnis/Datenbank_Pfad" "$XDG_CONFIG_HOME"
+  build/release/bin/qvadmin sample "$database" --files "$drives/w"
+  printf 'W:\\Konstruktion\\Werk.mdb\r\n' >"$drives/c/Dokumente und Einstellungen Quelvarnis/Datenbank_Pfad/Quelvarnis.ini"
+}
+
+command_run() {
+  need "${BUILD_PACKAGES[@]}"
+  configure release
+  build release quelvarn qvadmin quelvarn-scenario
+  make_sample
+  if [[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
+    say "There is no display here, so no window can be opened. Pictures of the pages instead:"
+    pictures "$PWD/build/pictures"
+    return
+  fi
+  exec build/release/bin/quelvarn
+}
+
+command_test() { # [--sanitize] [--core] [ctest options]
+  local preset=release options=()
+  while [[ $# -gt 0 ]]; do
+    case "$1" in
+      --sanitize) preset=sanitize ;;
+      --debug) preset=debug ;;
+      *) options+=("$1") ;;
+    esac
+    shift
+  done
+  need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
+  configure "$preset"
+  build "$preset"
+  ctest --preset "$preset" -j "$JOBS" "${options[@]}"
+}
+
+command_bench() {
+  need "${BUILD_PACKAGES[@]}" "${BENCH_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+  configure release
+  build release quelvarn-bench
+  exec build/release/bin/quelvarn-bench "$@"
+}
+
+command_lint() { # [--quick]: without clang-tidy
+  need "${LINT_PACKAGES[@]}"
+  local files
+  mapfile -t files < <(git ls-files '*.cpp' '*.h')
+  say "Layering ..."
+  python3 scripts/check_layering.py
+  say "Format ..."
+  clang-format --dry-run --Werror "${files[@]}"
+  [[ "${1:-}" == --quick ]] && return
+  need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+  configure debug
+  # Generated headers (moc, resources) must exist for the check to read the sources.
+  cmake --build --preset debug -j "$JOBS" --target autogen-all >/dev/null 2>&1 || true
+  say "clang-tidy ..."
+  git ls-files 'src/*.cpp' | xargs -P "$JOBS" -n 4 clang-tidy -p build/debug --quiet 2> >(grep -v 'warnings generated' >&2)
+  say "Clean."
+}
+
+pictures() { # folder
+  mkdir -p "$1"
+  QT_QPA_PLATFORM=offscreen build/release/bin/quelvarn-scenario --bilder "$1" tests/scenarios/bilder/*.szenario
+  find "$1" -name '*.png' | sort
+}
+
+command_pictures() {
+  need "${BUILD_PACKAGES[@]}"
+  configure release
+  build release qvadmin quelvarn-scenario
+  pictures "${1:-$PWD/build/pictures}"
+}
+
+command_admin() {
+  if [[ ! -x build/release/bin/qvadmin ]]; then
+    need "${BUILD_PACKAGES[@]}"
+    configure release
+    build release qvadmin
+  fi
+  exec build/release/bin/qvadmin "$@"
+}
+
+usage() {
+  cat <<'TEXT'
+./qv run                     install what is missing, build, make a sample register, open the window on it
+./qv test [--sanitize]       build and run all tests; further options go to ctest (-R name ...)
+./qv bench [--documents N] [--json FILE]
+                             measure against peers in the same run
+./qv lint [--quick]          layering, clang-format, clang-tidy
+./qv pictures [FOLDER]       pictures of every page, light and dark
+./qv admin ...               the administrator's tool (./qv admin --help)
+TEXT
+}
+
+name="${1:-help}"
+[[ $# -gt 0 ]] && shift
+case "$name" in
+  run | test | bench | lint | pictures | admin) "command_$name" "$@" ;;
+  help | -h | --help) usage ;;
+  *)
+    usage
+    exit 2
+    ;;
+esac
