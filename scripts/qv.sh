@@ -4,7 +4,7 @@ set -euo pipefail
 JOBS="${QV_JOBS:-$(nproc)}"
 
 BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite3-dev libpq-dev mdbtools-dev
-  libglib2.0-dev libcups2-dev nlohmann-json3-dev qt6-base-dev libqt6svg6-dev libqt6svg6 qt6-qpa-plugins
+  libglib2.0-dev libcups2-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
   qt6-translations-l10n libgl1-mesa-dev fonts-noto-core)
 TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql)
 BENCH_PACKAGES=(libbenchmark-dev)
