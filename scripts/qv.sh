@@ -110,7 +110,7 @@ command_lint() { # [--quick]: without clang-tidy
 
 pictures() { # folder
   mkdir -p "$1"
-  QT_QPA_PLATFORM=offscreen build/release/bin/quelvarn-scenario --bilder "$1" tests/scenarios/bilder/*.szenario
+  QT_QPA_PLATFORM=offscreen build/release/bin/quelvarn-scenario --pictures "$1" tests/scenarios/pictures/*.scenario
   find "$1" -name '*.png' | sort
 }
 
