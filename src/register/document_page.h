@@ -1,11 +1,9 @@
 #pragma once
 
 #include "database/document_types.h"
-#include "database/recordset.h"
 #include "platform/ports.h"
-#include "register/document_record.h"
 #include "register/info_pages.h"
-#include "register/property_tree.h"
+#include "register/table_page.h"
 #include "session/session_state.h"
 
 #include <array>
@@ -15,91 +13,43 @@
 
 namespace quelvarn {
 
-enum TabellenZustand : int {
-    NichtOffen = 0,
-    Leer = 1,
-    Offen = 2,
-    Gefiltert = 3,
-    NeuereDaten = 4,
-    Neuaufbau = 9,
-    Filterergebnis = 11,
-};
-
-// Which page stands on the right. The numbers are the indexes of FrmInfoDoku.
-enum class InfoSeite : int {
-    Revisionen = 0,
-    Allgemein = 1,
-    BenutzDef = 2,
-    Hauptmerkmale = 3,
-    ZusDoku = 4,
-    StichKomm = 5,
-    InZeichnung = 6,
-    InBaugruppe = 7,
-    BestehtAus = 8,
-    InSchweissteil = 9,
-    Datei = 10,
-    Enthaelt = 11,
-    EnthaeltBaugruppe = 12,
-    SendTo = 13,
-    Keine = -1,
-};
-
-struct Statuskopf
-{
-    std::string text;
-    unsigned farbe = 0; // RGB
-    bool breit = false; // "<Name> 'In Arbeit'" needs more room.
-};
-
-// One of the eight tables with its row copy and tree.
-struct Tabellenseite
-{
-    Recordset tabelle;
-    Recordset FilterErgebnis;
-    std::size_t anzahl = 0; // Rows at the opening.
-    int zustand = NichtOffen;
-    Zeitpunkt naechstePruefung;
-    DokuRecord record;
-    Eigenschaftsbaum baum;
-    bool filterListeGefuellt = false;   // The page's list of filter values has rows.
-    std::string filterBeschreibung;     // Text of a quick filter, "" for none.
-
-    // What the grid shows: FilterErgebnis at state 11, else the table.
-    Recordset& sichtbar() { return zustand == Filterergebnis ? FilterErgebnis : tabelle; }
-    const Recordset& sichtbar() const { return zustand == Filterergebnis ? FilterErgebnis : tabelle; }
-};
-
-// State and operations of the document page.
+// State and operations of the document page (FormSEDoku).
 class DocumentPage
 {
 public:
     DocumentPage(SessionState& session, Ports& ports);
 
-    // --- operations, one for each thing a person can do ---
+    // --- operations, one for each thing a person can do; each calls `geaendert` at its end ---
     // Runs when the page is shown; does its work once per database.
     void StartTabelleZeigen();
     void tabGewaehlt(int tab);
-    // A grid row was clicked or became current: its position among the rows left.
+    // A grid row was clicked or became current: its position among the rows shown.
     void zeileGewaehlt(std::size_t position);
+    // One row down; behind the last one comes the first.
     void zeileVor();
+    // A search moved the row of this tab; from Eof it goes back to the first row.
+    void zeileGewechselt();
+    // Opens the table anew without a filter and stays on the document.
     void neuaufbauen();
     void knotenGewaehlt(std::string_view text);
     void knotenAufgeklappt();
-    // Button 8 of the left bar: lifts a filter, or goes to the first row.
+    void knotenZugeklappt();
+    // Button 8 of ToolbarSEDok2: lifts a filter, or goes to the first row.
     void zurueck();
-    // The read-only and archive boxes of the file properties page.
+    // ChDatReadOnly and ChDatArchiv of the file properties page.
     void setzeSchreibschutz(bool gesetzt);
     void setzeArchiv(bool gesetzt);
-    // Writes Suchen/Filtern, Starttabelle and OfflineDaten. The page closes.
-    void schliessen();
+    void baumschalterGeaendert();
     // Another database was opened: nothing is open any more.
     void datenbankGewechselt();
-    void baumschalterGeaendert();
+    // The page closes: writes the Suchen/Filtern, Starttabelle and OfflineDaten rows.
+    void schliessen();
 
-    // --- mechanisms that other pages and operations use ---
+    // --- mechanisms for other pages and operations; faults pass through ---
     void TabelleNeuLaden(int tab);
     void TabelleWechseln();
     void ZeileAktualisieren(int tab);
+    // Back to all rows, state 2. A table with newer data in the database is opened anew.
     void filterAufheben(int tab);
 
     // --- state, for the projection ---
@@ -107,25 +57,47 @@ public:
     const Tabellenseite& seite(int tab) const { return seiten_[tab]; }
     Tabellenseite& seite(int tab) { return seiten_[tab]; }
     const Tabellenseite& aktuelleSeite() const { return seiten_[tab_]; }
-    std::string anzahlText() const;       // LabelSEDoku
-    std::string zugriffText() const;      // LblZugriffSEDoku
-    std::string infoKopf() const;         // LblInfo head: "  Eigenschaften Bauteil"
+    std::string anzahlText() const;  // LabelSEDoku
+    std::string zugriffText() const; // LblZugriffSEDoku
+    std::string infoKopf() const;    // LblInfo head: "  Eigenschaften Bauteil"
+    bool filterKnopf() const;        // Button 8 shows the filter image.
+    std::string_view zurueckTooltip() const;
     const Statuskopf& statuskopf() const { return statuskopf_; }
     const std::string& dateinamePanel() const { return dateinamePanel_; } // panel 2 of StatusBarDatei
     const std::string& ordnerPanel() const { return ordnerPanel_; }       // panel 4
-    bool filterKnopf() const;              // Button 8 shows the filter image.
-    std::string zurueckTooltip() const;
     InfoSeite infoSeite() const { return infoSeite_; }
     const AllgemeineSeite& allgemein() const { return allgemein_; }
     const DateiSeite& datei() const { return datei_; }
+    const StichKommSeite& stichKomm() const { return stichKomm_; }
+    // 1 the right-hand side shows the general page, 2 the viewer.
     int SeitenModus() const { return seitenModus_; }
-    // Texts of the indicator panels of StatusBarUpdate, by tab of the five file types.
-    const std::array<std::string, 5>& aenderungspanel() const { return aenderungspanel_; }
+    // The indicator panels of StatusBarUpdate: part, sheet metal, assembly, drawing, weldment.
+    std::string& aenderungspanel(int tab);
+    const std::array<std::string, 5>& aenderungspanele() const { return aenderungspanele_; }
 
-    // Called after each operation that changed something to show.
     std::function<void()> geaendert;
+    // Shows a file in the viewer; false when it could not. Not set: never can.
+    std::function<bool(const std::string& filename)> viewer;
+    // Lifting a filter tells the filter engine to forget its steps for this tab.
+    std::function<void(int tab)> filterVergessen;
 
 private:
+    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
+    void melde();
+    void waehleTab(int tab);
+    void zeigeZeilen();
+    void leereFilter(int tab);
+    void leereDokument(int tab);
+    void baumAufbauen(int tab);
+    void kinderAufbauen(int tab);
+    void zeigeNachModus();
+    void zeigeAllgemein();
+    void zeigeKopfUndPanele();
+    void leseDatei();
+    bool klickSeite(std::string_view text);
+    void oeffnePdf();
+    void setzeAttribut(bool gesetzt, void (Dateien::*setzer)(std::string_view, bool), bool Dateiattribute::*merkmal);
+
     SessionState& session_;
     Ports& ports_;
     std::array<Tabellenseite, ANZAHL_DOKUTYPEN> seiten_;
@@ -139,7 +111,8 @@ private:
     InfoSeite infoSeite_ = InfoSeite::Keine;
     AllgemeineSeite allgemein_;
     DateiSeite datei_;
-    std::array<std::string, 5> aenderungspanel_;
+    StichKommSeite stichKomm_;
+    std::array<std::string, 5> aenderungspanele_;
 };
 
 } // namespace quelvarn

@@ -8,10 +8,10 @@
 namespace quelvarn {
 
 class Recordset;
-struct DokuTyp;
 struct AktuellesDokument;
+struct DokuTyp;
 
-// The page's copy of a table's current row. A Null text is "", a Null number 0.
+// The page's copy of a table's current row. What is Null or missing is "", 0 or the zero date.
 struct DokuRecord
 {
     int DokuArt = 0;
@@ -19,19 +19,22 @@ struct DokuRecord
     int Status = 0;
     std::string Titel, Thema, Autor, Manager, Firma, Kategorie, Stichwoerter, Kommentar, Bearbeiter;
     Zeitpunkt Erstellt, Geaendert;
-    std::string Gespeichert; // A date, or a text as it stands.
+    std::string Gespeichert;                 // A date, or a text as it stands.
     std::array<std::string, 7> Hauptmerkmal; // A to G
     std::array<double, 7> Hauptwert{};       // a to g
     std::array<std::string, 7> Alias;        // a to g
-    std::string inBaugruppe; // "Ja" or "Nein", "" when not asked
-    std::string inZeichnung;
-    std::string F_05_leer; // Drawings only: the format.
+    std::string F_05_leer;                   // Drawings only: the format.
 
+    // What the tree builder found out about the row.
+    std::string inBaugruppe; // "Ja" or "Nein", "" when not asked
+    std::string inZeichnung; // The same; of a drawing: whether it holds a model.
+    bool neuereRevision = false;
+
+    // `typ` is the type code, which depends on who asks.
     AktuellesDokument alsAktDoku(int typ) const;
 };
 
-// Reads the current row. Throws Laufzeitfehler 94 where DokuBez, RevBez, Dateiname, filename, Status or a date
-// is Null.
+// Reads the current row.
 DokuRecord leseDokuRecord(const Recordset& zeile, const DokuTyp& typ);
 
 } // namespace quelvarn
