@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +12,8 @@ enum class Wildcards {
 };
 
 // A LIKE pattern, parsed once. Blind to case; counts every blank.
+// A class holds characters and ranges ("[a-cx]"), "!" or "^" in front turns it round, wildcards in it are plain
+// characters ("[%]"), an empty one is nothing. A "[" that is never closed is a plain character.
 class LikePattern
 {
 public:
@@ -35,7 +36,14 @@ private:
         char32_t character = 0;
         std::u32string members; // Pairs: first and last of each range.
         bool negated = false;
+
+        bool accepts(char32_t candidate) const;
     };
+
+    void addClass(std::u32string_view members);
+    void findShape();
+    bool matchesTokens(std::string_view folded) const;
+
     std::vector<Token> tokens_;
     Shape shape_ = Shape::Other;
     std::string literal_;

@@ -8,9 +8,9 @@
 namespace quelvarn {
 
 // German numbers in every locale: decimal comma, point as thousands mark.
-std::string formatGanzzahl(std::int64_t zahl);                  // 1.234.567
-std::string formatKomma(double zahl, int nachkommastellen);     // 1.234,500
-std::string formatSekunden(double sekunden);                    // 30,0 (format "0.0")
+std::string formatGanzzahl(std::int64_t zahl);              // 1.234.567
+std::string formatKomma(double zahl, int nachkommastellen); // 1.234,500
+std::string formatSekunden(double sekunden);                // 30,0 (format "0.0")
 // Shortest text that reads back as the same number, with a decimal comma and no thousands mark.
 std::string zahlAlsText(double zahl);
 
