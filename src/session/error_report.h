@@ -3,8 +3,8 @@
 #include "base/runtime_error.h"
 #include "platform/meldungen.h"
 
-#include <exception>
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace quelvarn {
@@ -15,6 +15,9 @@ void Fehlermeldung(Meldungen& meldungen, const Laufzeitfehler& fehler);
 // Runs an operation that a person started. A fault shows the operation's own warning box, then Fehlermeldung.
 // Every exception but ProgrammEnde ends here. True when the operation ran to its end.
 bool gesichert(Meldungen& meldungen, std::string_view titel, std::string_view text,
+               const std::function<void()>& operation);
+// The same for a text that is known only when the fault happens.
+bool gesichert(Meldungen& meldungen, std::string_view titel, const std::function<std::string()>& text,
                const std::function<void()>& operation);
 
 } // namespace quelvarn

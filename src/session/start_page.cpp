@@ -1,0 +1,294 @@
+#include "session/start_page.h"
+
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "platform/meldungen.h"
+#include "platform/umgebung.h"
+#include "session/error_report.h"
+#include "session/local_settings.h"
+#include "session/program.h"
+#include "session/settings_writer.h"
+#include "session/tree_switches.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace quelvarn {
+
+namespace {
+
+std::string datenbankzeile(std::string_view pfad)
+{
+    return "  Datenbank:  " + DateiName(pfad);
+}
+
+} // namespace
+
+StartPage::StartPage(SessionState& session, Ports& ports, MainWindow& rahmen)
+    : session_(session), ports_(ports), rahmen_(rahmen), auswahl_(ports, ".mdb")
+{
+    rahmen_.meldeAn(*this);
+}
+
+// --- load and unload -------------------------------------------------------------------------------------------
+
+void StartPage::seiteGezeigt(Seite seite)
+{
+    if (seite != Seite::Start)
+        return;
+    if (!session_.FormDBGeladen)
+        laden();
+    if (!session_.DatenbankPfad.empty()) {
+        fuelleStatusBar(session_.DatenbankPfad);
+        dateinamePanel_ = datenbankzeile(session_.DatenbankPfad);
+    }
+    meldeGeaendert();
+}
+
+void StartPage::laden()
+{
+    gesichert(ports_.meldungen, "Laden der Start-Form", "Fehler beim Laden der Start-Form!", [&] {
+        session_.FormDBGeladen = true;
+        zeigeDatenbankImWaehler();
+        gewaehlterPfad_ = session_.DatenbankPfad;
+        labelDB_ = gewaehlterPfad_.empty() ? "" : datenbankzeile(gewaehlterPfad_);
+        fuelleStatusBar(gewaehlterPfad_);
+        zeigeSolidEdge();
+        rahmen_.stelleWerkzeugeEin();
+    });
+}
+
+void StartPage::entladen()
+{
+    gesichert(ports_.meldungen, "Schließen der Startseite", "Fehler beim Schließen der Startseite!", [&] {
+        if (session_.FormDBGeladen && session_.DatenbankOk)
+            schreibeStartseite(session_);
+    });
+    session_.FormDBGeladen = false;
+}
+
+void StartPage::zeigeDatenbankImWaehler()
+{
+    const auto gelingt = [](auto&& schritt) {
+        try {
+            schritt();
+            return true;
+        } catch (const Laufzeitfehler&) {
+            return false; // The chooser then keeps what it shows.
+        }
+    };
+    auswahl_.liesLaufwerke();
+    if (!session_.DatenbankPfad.empty() && gelingt([&] { auswahl_.zeigeDatei(session_.DatenbankPfad); }))
+        return;
+    if (gelingt([&] { auswahl_.setzeLaufwerk(ports_.umgebung.systemlaufwerk()); }))
+        return;
+    const auto& laufwerke = auswahl_.laufwerke();
+    std::any_of(laufwerke.begin(), laufwerke.end(),
+                [&](const std::string& eintrag) { return gelingt([&] { auswahl_.setzeLaufwerk(eintrag); }); });
+}
+
+void StartPage::fuelleStatusBar(std::string_view pfad)
+{
+    gesichert(ports_.meldungen, "Einrichten der Statusbar", "Fehler beim Einrichten der Statusbar 'Start'!", [&] {
+        dateinamePanel_ = DateiName(pfad);
+        pfadnamePanel_ = Ordnername(pfad);
+    });
+}
+
+void StartPage::zeigeSolidEdge()
+{
+    const SolidEdgeInfo& solidEdge = rahmen_.solidEdge();
+    const bool nurViewer = solidEdge.nurViewer();
+    lblVersion_ = solidEdge.version.empty() ? " Solid Edge Version?"
+                                            : (nurViewer ? "SmartView " : "Solid Edge ") + solidEdge.version;
+    lblPfad_ = solidEdge.pfad.empty() ? "Pfadname zu Solid Edge???" : solidEdge.pfad;
+
+    activeSESichtbar_ = !nurViewer;
+    activeSEBereit_ = session_.darfBearbeiten();
+    if (nurViewer || !activeSEBereit_)
+        session_.ActiveQuelvarn = false;
+}
+
+// --- choosing a file -------------------------------------------------------------------------------------------
+
+void StartPage::laufwerkGewaehlt(std::string_view eintrag)
+{
+    try {
+        auswahl_.setzeLaufwerk(eintrag);
+    } catch (const Laufzeitfehler&) {
+        ports_.meldungen.warnung("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
+                                                                "es ist wahrscheinlich kein Datenträger im Laufwerk!");
+    }
+    meldeGeaendert();
+}
+
+void StartPage::ordnerGewaehlt(std::string_view ordner)
+{
+    gesichert(ports_.meldungen, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
+              [&] { auswahl_.setzeOrdner(ordner); });
+    meldeGeaendert();
+}
+
+void StartPage::nachOben()
+{
+    gesichert(ports_.meldungen, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
+              [&] { auswahl_.nachOben(); });
+    meldeGeaendert();
+}
+
+void StartPage::dateiGewaehlt(std::string_view name)
+{
+    gesichert(ports_.meldungen, "Auswahl der Datenbank", "Fehler bei Auswahl der Datenbank!", [&] {
+        if (CheckSiblingsRunning(ports_))
+            return;
+        session_.DatenbankOk = false;
+        const std::string neuerPfad = auswahl_.pfad(name);
+        if (!bestaetigtWechsel(neuerPfad))
+            return;
+        auswahl_.waehleDatei(name);
+        gewaehlterPfad_ = neuerPfad;
+        fuelleStatusBar(neuerPfad);
+        rahmen_.setzeTitel(neuerPfad);
+        labelDB_ = datenbankzeile(neuerPfad);
+    });
+    meldeGeaendert();
+}
+
+bool StartPage::bestaetigtWechsel(std::string_view neuerPfad)
+{
+    return ports_.meldungen.frage("Wechsel der Datenbank",
+                                  zeilen({
+                                      "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank",
+                                      "",
+                                      "von:    " + session_.DatenbankPfad,
+                                      "nach:  " + std::string(neuerPfad),
+                                      "",
+                                      "Möchten Sie fortfahren?",
+                                  }));
+}
+
+// --- the two actions -------------------------------------------------------------------------------------------
+
+void StartPage::oeffnen()
+{
+    gesichert(ports_.meldungen, "Öffnen der Datenbank", "Fehler beim Öffnen der Datenbank!", [&] {
+        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
+        if (labelDB_.empty()) {
+            ports_.meldungen.warnung("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
+            return;
+        }
+        session_.DatenbankPfad = gewaehlterPfad_;
+        SchreibeDatenbankPfad(session_, ports_, gewaehlterPfad_);
+        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankWechselt(); });
+        if (Hauptprogramm(session_, ports_))
+            datenbankUebernehmen();
+        else
+            datenbankVerloren();
+    });
+    meldeGeaendert();
+}
+
+void StartPage::datenbankVerloren()
+{
+    session_.ActiveQuelvarn = false;
+    session_.ForwardOn = false;
+    session_.DatenbankOk = false;
+    activeSESichtbar_ = false;
+    rahmen_.stelleWerkzeugeEin();
+    rahmen_.stelleZeitgeberEin();
+}
+
+void StartPage::datenbankUebernehmen()
+{
+    session_.DatenbankOk = true;
+    zeigeSolidEdge();
+    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankGewechselt(); });
+    rahmen_.zeigeSeite(Seite::Dokumente);
+    rahmen_.setzeTitel(session_.DatenbankPfad);
+    rahmen_.RefreshStatusBar();
+    rahmen_.stelleZeitgeberEin();
+    rahmen_.stelleWerkzeugeEin();
+}
+
+void StartPage::verlassen()
+{
+    if (!session_.DatenbankPfad.empty())
+        return rahmen_.zeigeSeite(Seite::Dokumente);
+    if (ports_.meldungen.frage("Auswahl Datenbank", zeilen({
+                                                        "Es wurde keine Datenbank ausgewählt!",
+                                                        "",
+                                                        "Möchten Sie Quelvarn beenden?",
+                                                        "",
+                                                    })))
+        rahmen_.entladen();
+}
+
+// --- settings of the user --------------------------------------------------------------------------------------
+
+void StartPage::setzeActiveSE(bool an)
+{
+    session_.ActiveQuelvarn = an && activeSESichtbar_ && activeSEBereit_;
+    rahmen_.stelleWerkzeugeEin();
+    meldeGeaendert();
+}
+
+std::string_view StartPage::LblActiveSE() const
+{
+    return session_.ActiveQuelvarn ? "Ereignis wird ausgewertet." : "Ereignis wird NICHT ausgewertet.";
+}
+
+void StartPage::setzeSchalter(std::size_t zeile, bool an)
+{
+    assert(zeile < BAUMSCHALTER.size());
+    gesichert(ports_.meldungen, "Einstellungen TREEVIEW", "Fehler bei den Einstellungen TREEVIEW!", [&] {
+        session_.Tree.*BAUMSCHALTER[zeile].feld = an;
+        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.baumschalterGeaendert(); });
+    });
+    meldeGeaendert();
+}
+
+void StartPage::setzeInfoPrio1(int index, bool an)
+{
+    setzeSchalter(static_cast<std::size_t>(index), an);
+}
+
+void StartPage::setzeInfoPrio2(int index, bool an)
+{
+    setzeSchalter(static_cast<std::size_t>(ANZAHL_INFOPRIO1 + index), an);
+}
+
+bool StartPage::infoPrio1(int index) const
+{
+    return session_.Tree.*BAUMSCHALTER[static_cast<std::size_t>(index)].feld;
+}
+
+bool StartPage::infoPrio2(int index) const
+{
+    return session_.Tree.*BAUMSCHALTER[static_cast<std::size_t>(ANZAHL_INFOPRIO1 + index)].feld;
+}
+
+void StartPage::offlineToolGewaehlt(int index)
+{
+    session_.OfflineTool = OFFLINE_TOOLS[static_cast<std::size_t>(index)];
+    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.offlineToolGeaendert(); });
+    meldeGeaendert();
+}
+
+int StartPage::offlineTool() const
+{
+    return session_.OfflineTool == OFFLINE_TOOLS[0] ? 0 : 1;
+}
+
+void StartPage::setzeLokaleAuftraege(bool an)
+{
+    session_.AuftraegeLokal = an;
+    meldeGeaendert();
+}
+
+void StartPage::meldeGeaendert() const
+{
+    if (geaendert)
+        geaendert();
+}
+
+} // namespace quelvarn
