@@ -46,7 +46,7 @@ public:
     virtual void setzeArchiv(std::string_view pfad, bool gesetzt) = 0;
 
     virtual std::string lese(std::string_view pfad) const = 0;
-    // The file appears whole or not at all.
+    // The file appears whole or not at all. A write-protected file is neither written over nor deleted.
     virtual void schreibe(std::string_view pfad, std::string_view inhalt) = 0;
     virtual void kopiere(std::string_view von, std::string_view nach) = 0;
     virtual void loesche(std::string_view pfad) = 0;

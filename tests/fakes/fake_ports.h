@@ -1,0 +1,31 @@
+#pragma once
+
+#include "fakes/fake_dateien.h"
+#include "fakes/fake_meldungen.h"
+#include "fakes/fake_world.h"
+#include "platform/ports.h"
+
+namespace quelvarn {
+
+// The whole outside world of a test.
+struct FakePorts
+{
+    FakeMeldungen meldungen;
+    FakeUhr uhr;
+    FakeUmgebung umgebung;
+    FakeDateien dateien{uhr};
+    FakeLaufwerke laufwerke;
+    FakeDrucker drucker;
+    FakeProgramme programme;
+    FakeZwischenablage zwischenablage;
+    FakeStandardanwendung standardanwendung;
+
+    Ports ports() { return portsMit(dateien); }
+    // With files of another kind, such as real ones.
+    Ports portsMit(Dateien& andere)
+    {
+        return {meldungen, uhr, umgebung, andere, laufwerke, drucker, programme, zwischenablage, standardanwendung};
+    }
+};
+
+} // namespace quelvarn
