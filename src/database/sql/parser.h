@@ -15,9 +15,10 @@ enum class Datumsfolge {
 // Reads exactly one SELECT, INSERT, UPDATE or DELETE. Whatever stands behind it is refused, so a pasted
 // value can never add a second statement. Throws Laufzeitfehler with a German description.
 //
-// Values stand in statements as they are, so an apostrophe inside a literal is taken as part of it when what
-// follows cannot end the literal: the next token is no operator, keyword of the grammar, bracket, comma or end.
-// A doubled apostrophe is one apostrophe. A lone apostrophe at the very end of a statement is passed over.
+// Values stand in statements as they are, so an apostrophe inside a literal is part of it when what follows cannot
+// come behind a literal at this place: AND, OR, ORDER BY, a bracket or comma that is awaited, the end. A doubled
+// apostrophe is one apostrophe, and a value whose apostrophes are all doubled is always read as it was meant. A lone
+// apostrophe behind the table at the very end of a statement is passed over.
 Anweisung parseAnweisung(std::string_view text);
 
 // A recordset filter or Find criterion: the condition alone. An empty text gives null: no filter.

@@ -1,0 +1,133 @@
+#include "database/sql/access_text.h"
+
+#include "base/text.h"
+
+#include <fmt/format.h>
+
+namespace quelvarn::sql {
+namespace {
+
+std::string name(std::string_view name)
+{
+    return fmt::format("[{}]", name);
+}
+
+template <class Liste, class Text> std::string verbunden(const Liste& liste, std::string_view dazwischen, Text text)
+{
+    std::vector<std::string> teile;
+    for (const auto& eintrag : liste)
+        teile.push_back(text(eintrag));
+    return join(teile, dazwischen);
+}
+
+struct Literal
+{
+    std::string operator()(std::monostate) const { return "Null"; }
+    std::string operator()(std::int64_t zahl) const { return fmt::format("{}", zahl); }
+    std::string operator()(double zahl) const { return fmt::format("{}", zahl); }
+    std::string operator()(const std::string& text) const { return "'" + replaceAll(text, "'", "''") + "'"; }
+    std::string operator()(Zeitpunkt zeit) const
+    {
+        const Kalenderzeit k = zeit.kalender();
+        return fmt::format("#{:02}/{:02}/{:04} {:02}:{:02}:{:02}#", k.monat, k.tag, k.jahr, k.stunde, k.minute,
+                           k.sekunde);
+    }
+};
+
+std::string literal(const Value& wert)
+{
+    return std::visit(Literal{}, wert);
+}
+
+std::string_view zeichen(Vergleich vergleich)
+{
+    switch (vergleich) {
+    case Vergleich::Gleich:
+        return "=";
+    case Vergleich::Ungleich:
+        return "<>";
+    case Vergleich::Kleiner:
+        return "<";
+    case Vergleich::KleinerGleich:
+        return "<=";
+    case Vergleich::Groesser:
+        return ">";
+    case Vergleich::GroesserGleich:
+        return ">=";
+    case Vergleich::Like:
+        return "Like";
+    case Vergleich::NotLike:
+        break;
+    }
+    return "Not Like";
+}
+
+struct Bedingungstext
+{
+    std::string operator()(const Bedingung& b) const
+    {
+        return fmt::format("{} {} {}", name(b.spalte), zeichen(b.vergleich), literal(b.wert));
+    }
+    std::string operator()(const IstNull& i) const
+    {
+        return name(i.spalte) + (i.verneint ? " Is Not Null" : " Is Null");
+    }
+    std::string operator()(const Und& und) const { return geklammert(und.teile, " And "); }
+    std::string operator()(const Oder& oder) const { return geklammert(oder.teile, " Or "); }
+    std::string operator()(const Nicht& nicht) const { return "Not " + std::visit(*this, nicht.teil->inhalt); }
+
+    std::string geklammert(const std::vector<AusdruckZeiger>& teile, std::string_view wort) const
+    {
+        return "(" + verbunden(teile, wort, [&](const auto& teil) { return std::visit(*this, teil->inhalt); }) + ")";
+    }
+};
+
+std::string where(const AusdruckZeiger& bedingung)
+{
+    return bedingung ? " Where " + alsAccessText(*bedingung) : "";
+}
+
+struct Anweisungstext
+{
+    std::string operator()(const Select& select) const
+    {
+        const std::string spalten = select.anzahl            ? "Count(*)"
+                                    : select.spalten.empty() ? "*"
+                                                             : verbunden(select.spalten, ", ", name);
+        const std::string sortiert = verbunden(
+            select.orderBy, ", ", [](const Sortierung& s) { return name(s.spalte) + (s.absteigend ? " Desc" : ""); });
+        return fmt::format("Select {}{} From {}{}{}{}", select.distinct ? "Distinct " : "", spalten,
+                           name(select.tabelle), where(select.where), sortiert.empty() ? "" : " Order By ", sortiert);
+    }
+    std::string operator()(const Insert& insert) const
+    {
+        return fmt::format("Insert Into {} ({}) Values ({})", name(insert.tabelle),
+                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return name(z.spalte); }),
+                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return literal(z.wert); }));
+    }
+    std::string operator()(const Update& update) const
+    {
+        const std::string werte = verbunden(update.werte, ", ", [](const Zuweisung& z) {
+            return fmt::format("{} = {}", name(z.spalte), literal(z.wert));
+        });
+        return fmt::format("Update {} Set {}{}", name(update.tabelle), werte, where(update.where));
+    }
+    std::string operator()(const Delete& loeschen) const
+    {
+        return fmt::format("Delete From {}{}", name(loeschen.tabelle), where(loeschen.where));
+    }
+};
+
+} // namespace
+
+std::string alsAccessText(const Anweisung& anweisung)
+{
+    return std::visit(Anweisungstext{}, anweisung);
+}
+
+std::string alsAccessText(const Ausdruck& bedingung)
+{
+    return std::visit(Bedingungstext{}, bedingung.inhalt);
+}
+
+} // namespace quelvarn::sql
