@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quelvarn {
+
+class Connection;
+class Dateien;
+struct DokuRecord;
+
+// What the database knows about the relations of a document. Each question reads as few rows as its answer needs,
+// by an index, so that the tree of a part that stands in thousands of assemblies is built as fast as any other.
+// Paths are those after UniversalNachLaufwerk. A fault throws Laufzeitfehler.
+
+struct Revisionsstand
+{
+    bool mehrere = false;
+    std::string letzte; // By text order.
+};
+Revisionsstand revisionsstand(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez);
+bool neuereRevision(const Revisionsstand& stand, const DokuRecord& record);
+
+// `dokuArt` 1, 4 and 6 are built in as parts, any other as a subassembly.
+bool inBaugruppe(Connection& verbindung, int dokuArt, std::string_view pfad);
+bool inZeichnung(Connection& verbindung, std::string_view pfad);
+bool inSchweissteil(Connection& verbindung, std::string_view pfad);
+bool zeichnungHatModell(Connection& verbindung, const DokuRecord& record);
+bool schweissteilHatBaugruppe(Connection& verbindung, const DokuRecord& record);
+
+// The registered TIFF of a drawing by its file name; "" when none is.
+std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Dateiname);
+// The registered TIFF, or the one that lies beside the drawing; "" when there is neither.
+std::string findTiff(Connection& verbindung, const Dateien& dateien, const DokuRecord& record);
+// The PDF that lies beside the drawing; "" when there is none.
+std::string findPdf(const Dateien& dateien, const DokuRecord& record);
+
+// A user-defined row whose name is a Kennung of Adresstabelle notes where the document was sent.
+struct Benutzerzeilen
+{
+    bool eigenschaften = false;
+    bool versendet = false;
+};
+Benutzerzeilen benutzerzeilen(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record);
+bool hatZusatzdokumente(Connection& verbindung, std::string_view filename);
+
+} // namespace quelvarn
