@@ -4,6 +4,7 @@
 #include "platform/ports.h"
 #include "register/info_pages.h"
 #include "register/table_page.h"
+#include "session/main_window.h"
 #include "session/session_state.h"
 
 #include <array>
@@ -13,8 +14,10 @@
 
 namespace quelvarn {
 
-// State and operations of the document page (FormSEDoku).
-class DocumentPage
+struct Merkzeile;
+
+// State and operations of the document page (FormSEDoku). Follows the frame once it is registered there.
+class DocumentPage : public Rahmenteilnehmer
 {
 public:
     DocumentPage(SessionState& session, Ports& ports);
@@ -39,11 +42,14 @@ public:
     // ChDatReadOnly and ChDatArchiv of the file properties page.
     void setzeSchreibschutz(bool gesetzt);
     void setzeArchiv(bool gesetzt);
-    void baumschalterGeaendert();
-    // Another database was opened: nothing is open any more.
-    void datenbankGewechselt();
     // The page closes: writes the Suchen/Filtern, Starttabelle and OfflineDaten rows.
     void schliessen();
+
+    // --- what the frame tells ---
+    void seiteGezeigt(Seite seite) override;
+    void datenbankWechselt() override;
+    void baumschalterGeaendert() override;
+    void entladen() override { schliessen(); }
 
     // --- mechanisms for other pages and operations; faults pass through ---
     void TabelleNeuLaden(int tab);
@@ -78,24 +84,31 @@ public:
     std::function<void()> geaendert;
     // Shows a file in the viewer; false when it could not. Not set: never can.
     std::function<bool(const std::string& filename)> viewer;
-    // Lifting a filter tells the filter engine to forget its steps for this tab.
-    std::function<void(int tab)> filterVergessen;
+    // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status filter)
+    // stays on the table.
+    std::function<std::string(int tab)> filterVergessen;
 
 private:
     void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
+    // Row changes have no box of their own: faults go to the common report.
+    void bedieneZeile(const std::function<void()>& operation);
+    void berichte(const std::function<void()>& operation);
     void melde();
     void waehleTab(int tab);
+    void wechsle(const Merkzeile* rueckkehr);
     void zeigeZeilen();
-    void leereFilter(int tab);
-    void leereDokument(int tab);
+    std::string leereFilter(int tab);
+    void bindeOhneFilter(int tab);
+    void vergissDatenbank();
     void baumAufbauen(int tab);
-    void kinderAufbauen(int tab);
+    void leereDokument(int tab);
     void zeigeNachModus();
     void zeigeAllgemein();
-    void zeigeKopfUndPanele();
-    void leseDatei();
-    bool klickSeite(std::string_view text);
+    void zeigeEigenschaften();
+    void zeigeViewer();
+    void merkeSeite(InfoSeite seite);
     void oeffnePdf();
+    void leseDatei();
     void setzeAttribut(bool gesetzt, void (Dateien::*setzer)(std::string_view, bool), bool Dateiattribute::*merkmal);
 
     SessionState& session_;

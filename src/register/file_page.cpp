@@ -1,9 +1,8 @@
 #include "base/number_format.h"
+#include "base/text.h"
 #include "register/document_page.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
-
-#include "base/text.h"
 
 namespace quelvarn {
 
@@ -41,8 +40,7 @@ bool mitDateiBox(Meldungen& meldungen, const std::function<void()>& operation)
 void DocumentPage::leseDatei()
 {
     session_.Dateiinfo = {};
-    mitDateiBox(ports_.meldungen,
-                [&] { session_.Dateiinfo = LeseDateiinfo(aktuelleSeite().record.filename, ports_); });
+    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(aktuelleSeite().record.filename, ports_); });
     datei_ = dateiSeite(session_.Dateiinfo);
 }
 

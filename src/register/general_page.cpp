@@ -70,8 +70,8 @@ Statuskopf statuskopf(const DokuRecord& record, const std::string& anwender, uns
     Statuskopf kopf;
     kopf.farbe = istBekannt(record.Status) ? STATUS[record.Status].farbe : bisherigeFarbe;
     kopf.breit = record.Status == 1 && !equalText(record.Bearbeiter, anwender);
-    kopf.text = kopf.breit ? fmt::format("<{}> 'In Arbeit'", record.Bearbeiter)
-                           : fmt::format("{} Status ", record.Status);
+    kopf.text =
+        kopf.breit ? fmt::format("<{}> 'In Arbeit'", record.Bearbeiter) : fmt::format("{} Status ", record.Status);
     return kopf;
 }
 

@@ -21,8 +21,8 @@ struct Gleich
 
 sql::AusdruckZeiger bedingung(const Gleich& gleich)
 {
-    return std::make_unique<sql::Ausdruck>(sql::Ausdruck{
-        sql::Bedingung{std::string(gleich.spalte), sql::Vergleich::Gleich, std::string(gleich.wert)}});
+    return std::make_unique<sql::Ausdruck>(
+        sql::Ausdruck{sql::Bedingung{std::string(gleich.spalte), sql::Vergleich::Gleich, std::string(gleich.wert)}});
 }
 
 // Trees instead of statement texts: a value with an apostrophe stays a value.
@@ -169,8 +169,7 @@ std::string findPdf(const Dateien& dateien, const DokuRecord& record)
 
 Benutzerzeilen benutzerzeilen(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
 {
-    sql::Select select =
-        auswahl(tabelleBenutzDef, "Name", {{"DokuBez", record.DokuBez}, {"RevBez", record.RevBez}});
+    sql::Select select = auswahl(tabelleBenutzDef, "Name", {{"DokuBez", record.DokuBez}, {"RevBez", record.RevBez}});
     select.distinct = true;
     const std::vector<std::string> namen = leseSpalte(verbindung, select);
     const std::set<std::string> bekannt = kennungen(verbindung, namen);

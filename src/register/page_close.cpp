@@ -1,0 +1,50 @@
+#include "register/document_page.h"
+#include "session/error_report.h"
+#include "session/settings_writer.h"
+
+namespace quelvarn {
+
+void DocumentPage::schliessen()
+{
+    if (!session_.FormSEDokuGeladen)
+        return;
+    gesichert(ports_.meldungen, "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
+        if (session_.Verbindung.offen())
+            schreibeDokumentseite(session_, tab_);
+    });
+    session_.FormSEDokuGeladen = false;
+    vergissDatenbank();
+}
+
+void DocumentPage::datenbankWechselt()
+{
+    vergissDatenbank();
+    melde();
+}
+
+void DocumentPage::vergissDatenbank()
+{
+    leereDokument(tab_);
+    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
+        const unsigned fassung = seiten_[tab].fassung;
+        seiten_[tab] = {};
+        seiten_[tab].fassung = fassung + 1; // A grid must see that its rows are gone.
+    }
+    seitenMerker_.fill(0);
+    aenderungspanele_ = {};
+    gemerkterPfad_.clear();
+}
+
+void DocumentPage::seiteGezeigt(Seite seite)
+{
+    if (seite == Seite::Dokumente)
+        StartTabelleZeigen();
+}
+
+void DocumentPage::baumschalterGeaendert()
+{
+    if (aktuelleSeite().hatZeilen())
+        bedieneZeile([&] { ZeileAktualisieren(tab_); });
+}
+
+} // namespace quelvarn

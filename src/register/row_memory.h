@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace quelvarn {
+
+class Recordset;
+struct Tabellenseite;
+
+// The document to come back to when its table has been opened anew.
+struct Merkzeile
+{
+    std::string DokuBez, RevBez, filename;
+    std::size_t position = 0; // Taken when the document is gone.
+};
+
+Merkzeile merkeZeile(const Tabellenseite& seite);
+// Moves to the document, else to the place where it stood. The table must have rows.
+void stelleAuf(Recordset& tabelle, const Merkzeile& zeile);
+
+} // namespace quelvarn

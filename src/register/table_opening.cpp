@@ -1,0 +1,93 @@
+#include "platform/uhr.h"
+#include "register/document_page.h"
+
+#include <fmt/format.h>
+
+namespace quelvarn {
+namespace {
+
+// A revision that sorts higher stands before the older ones of its document.
+void OpenDokuTabelle(Tabellenseite& seite, const DokuTyp& typ, SessionState& session)
+{
+    const std::string_view bereich = typ.statusbereich ? std::string_view(session.WhereStatus) : std::string_view();
+    seite.tabelle.Open(fmt::format("Select * From {}{} ORDER BY DokuBez, RevBez DESC", typ.tabelle, bereich),
+                       session.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
+    seite.zustand = Leer;
+    if (seite.tabelle.leer())
+        return;
+    seite.tabelle.MoveFirst();
+    seite.anzahl = seite.tabelle.RecordCount();
+    seite.zustand = Offen;
+}
+
+constexpr std::int64_t SEKUNDEN_BIS_PRUEFUNG = 60;
+
+} // namespace
+
+void DocumentPage::TabelleNeuLaden(int tab)
+{
+    const DokuTyp& typ = DOKUTYPEN[tab];
+    const bool dateityp = typ.sondertabelle == 0;
+    Tabellenseite& seite = seiten_[tab];
+    if (seite.gefiltert() || (dateityp && seite.zustand == NeuereDaten))
+        leereFilter(tab);
+    seite.filterBeschreibung.clear();
+
+    seite.zustand = NichtOffen;
+    seite.anzahl = 0;
+    ++seite.fassung;
+    seite.tabelle = Recordset();
+    OpenDokuTabelle(seite, typ, session_);
+    if (!dateityp)
+        return;
+    seite.naechstePruefung = ports_.uhr.jetzt().plusSekunden(SEKUNDEN_BIS_PRUEFUNG);
+    aenderungspanel(tab).clear();
+}
+
+std::string DocumentPage::leereFilter(int tab)
+{
+    Tabellenseite& seite = seiten_[tab];
+    ++seite.fassung;
+    seite.zustand = seite.anzahl > 0 ? Offen : Leer;
+    seite.FilterErgebnis = Recordset();
+    seite.filterListeGefuellt = false;
+    seite.filterBeschreibung.clear();
+    return filterVergessen ? filterVergessen(tab) : std::string();
+}
+
+void DocumentPage::bindeOhneFilter(int tab)
+{
+    const std::string bleibt = leereFilter(tab);
+    Recordset& tabelle = seiten_[tab].tabelle;
+    if (tabelle.filterText() != bleibt)
+        tabelle.Filter(bleibt);
+}
+
+void DocumentPage::filterAufheben(int tab)
+{
+    if (!seiten_[tab].geoeffnet())
+        return;
+    if (seiten_[tab].zustand == NeuereDaten)
+        TabelleNeuLaden(tab);
+    bindeOhneFilter(tab);
+    if (tab == tab_)
+        zeigeZeilen();
+}
+
+// Once per database: lazily opened tables of another one must not be left over.
+void DocumentPage::StartTabelleZeigen()
+{
+    if (session_.DatenbankPfad == gemerkterPfad_)
+        return;
+    bediene("Starttabelle", "Fehler beim Anzeigen der Starttabelle!", [&] {
+        vergissDatenbank();
+        gemerkterPfad_ = session_.DatenbankPfad;
+        session_.FormSEDokuGeladen = true;
+        for (const DokuTyp& typ : DOKUTYPEN) {
+            if (typ.sondertabelle == 0 && typ.mehrzahl == session_.Starttabelle)
+                waehleTab(typ.tab);
+        }
+    });
+}
+
+} // namespace quelvarn

@@ -1,0 +1,92 @@
+#include "register/document_page.h"
+#include "register/row_memory.h"
+
+namespace quelvarn {
+
+void DocumentPage::tabGewaehlt(int tab)
+{
+    if (tab < 0 || tab >= ANZAHL_DOKUTYPEN)
+        return;
+    bediene("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!", [&] { waehleTab(tab); });
+}
+
+void DocumentPage::waehleTab(int tab)
+{
+    tab_ = tab;
+    dateinamePanel_.clear();
+    ordnerPanel_.clear();
+    statuskopf_.text.clear();
+    TabelleWechseln();
+}
+
+void DocumentPage::TabelleWechseln()
+{
+    wechsle(nullptr);
+}
+
+void DocumentPage::wechsle(const Merkzeile* rueckkehr)
+{
+    seitenMerker_.fill(0);
+    Tabellenseite& seite = seiten_[tab_];
+    switch (seite.zustand) {
+    case NichtOffen:
+        leereDokument(tab_);
+        TabelleNeuLaden(tab_);
+        zeigeZeilen();
+        break;
+    case Leer:
+        leereDokument(tab_);
+        break;
+    case Offen:
+    case Gefiltert:
+    case NeuereDaten:
+    case Filterergebnis:
+        ZeileAktualisieren(tab_);
+        break;
+    case Neuaufbau:
+        TabelleNeuLaden(tab_);
+        bindeOhneFilter(tab_);
+        if (rueckkehr && seite.hatZeilen())
+            stelleAuf(seite.tabelle, *rueckkehr);
+        zeigeZeilen();
+        break;
+    default:
+        break;
+    }
+    if (seite.hatZeilen())
+        session_.AktDoku = seite.record.alsAktDoku(DOKUTYPEN[tab_].typNachTabwechsel);
+}
+
+void DocumentPage::zeigeZeilen()
+{
+    if (seiten_[tab_].zustand < Offen)
+        leereDokument(tab_);
+    else
+        ZeileAktualisieren(tab_);
+}
+
+void DocumentPage::neuaufbauen()
+{
+    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
+        Tabellenseite& seite = seiten_[tab_];
+        const Merkzeile zeile = merkeZeile(seite);
+        seite.zustand = Neuaufbau;
+        wechsle(&zeile);
+        aenderungspanel(tab_).clear();
+    });
+}
+
+void DocumentPage::zurueck()
+{
+    bediene("Filterung aufheben", "Fehler beim Aufheben der Filterung!", [&] {
+        Tabellenseite& seite = seiten_[tab_];
+        if (seite.gefiltert() || seite.zustand == NeuereDaten)
+            return filterAufheben(tab_);
+        if (!seite.hatZeilen())
+            return;
+        seite.tabelle.MoveFirst();
+        ZeileAktualisieren(tab_);
+    });
+}
+
+} // namespace quelvarn

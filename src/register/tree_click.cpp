@@ -1,0 +1,147 @@
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "platform/zwischenablage.h"
+#include "register/document_page.h"
+#include "register/relations.h"
+#include "register/tree_builder.h"
+
+#include <algorithm>
+
+namespace quelvarn {
+namespace {
+
+// The pages that a row change may keep, by their index in SeitenMerker.
+constexpr std::array MERKSEITEN{InfoSeite::Datei,     InfoSeite::Hauptmerkmale, InfoSeite::BenutzDef,
+                                InfoSeite::StichKomm, InfoSeite::ZusDoku,       InfoSeite::SendTo};
+constexpr int BLEIBT = 2; // Only this mark brings the page up again; any other is forgotten.
+
+struct Knotenseite
+{
+    std::string_view text;
+    InfoSeite seite;
+    bool beendetViewer = false; // The next row shows its general page again instead of the viewer.
+};
+
+constexpr std::array KNOTENSEITEN{
+    Knotenseite{knoten::DATEI, InfoSeite::Datei, true},
+    Knotenseite{knoten::HAUPTMERKMALE, InfoSeite::Hauptmerkmale, true},
+    Knotenseite{knoten::BENUTZDEF, InfoSeite::BenutzDef},
+    Knotenseite{knoten::STICHKOMM, InfoSeite::StichKomm},
+    Knotenseite{knoten::ZUSDOKU, InfoSeite::ZusDoku},
+    Knotenseite{knoten::VERSENDET, InfoSeite::SendTo},
+    Knotenseite{knoten::REVISION, InfoSeite::Revisionen},
+    Knotenseite{knoten::TIFF, InfoSeite::Tiff},
+    Knotenseite{knoten::IN_BAUGRUPPE, InfoSeite::InBaugruppe},
+    Knotenseite{knoten::IN_ZEICHNUNG, InfoSeite::InZeichnung},
+    Knotenseite{knoten::IN_SCHWEISSTEIL, InfoSeite::InSchweissteil},
+    Knotenseite{knoten::BESTEHT_AUS, InfoSeite::BestehtAus},
+    Knotenseite{knoten::ENTHAELT, InfoSeite::Enthaelt},
+    Knotenseite{knoten::ENTHAELT_BAUGRUPPE, InfoSeite::EnthaeltBaugruppe},
+};
+
+// Intended: from row to row parts keep the key words, all other tables the file properties, and nothing else is kept.
+int merkwert(int tab, InfoSeite seite)
+{
+    const InfoSeite bleibende = DOKUTYPEN[tab].schluessel == "Part" ? InfoSeite::StichKomm : InfoSeite::Datei;
+    return seite == bleibende ? BLEIBT : 1;
+}
+
+} // namespace
+
+void DocumentPage::knotenGewaehlt(std::string_view text)
+{
+    if (!aktuelleSeite().baum.finde(text))
+        return;
+    bediene("Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
+        seiten_[tab_].baum.gewaehlt = text;
+        if (text == knoten::EIGENSCHAFTEN)
+            return zeigeEigenschaften();
+        if (text == knoten::SMARTVIEWER)
+            return zeigeViewer();
+        if (text == knoten::PDF)
+            return oeffnePdf();
+        const auto knotenseite = std::ranges::find(KNOTENSEITEN, text, &Knotenseite::text);
+        if (text == knoten::DATEI)
+            leseDatei();
+        merkeSeite(knotenseite->seite);
+        infoSeite_ = knotenseite->seite;
+        if (knotenseite->beendetViewer)
+            seitenModus_ = 1;
+    });
+}
+
+void DocumentPage::knotenAufgeklappt()
+{
+    bedieneZeile([&] {
+        Tabellenseite& seite = seiten_[tab_];
+        if (seite.baum.wurzeln.empty())
+            return;
+        seite.baum.wurzeln.front().offen = true;
+        BaumBauer(seite, DOKUTYPEN[tab_], session_, ports_).KinderAufbauen();
+    });
+}
+
+void DocumentPage::knotenZugeklappt()
+{
+    Tabellenseite& seite = seiten_[tab_];
+    if (!seite.baum.wurzeln.empty())
+        seite.baum.wurzeln.front().offen = false;
+    melde();
+}
+
+void DocumentPage::merkeSeite(InfoSeite seite)
+{
+    const auto merker = std::ranges::find(MERKSEITEN, seite);
+    if (!session_.Tree.Knoten || merker == MERKSEITEN.end())
+        return;
+    seitenMerker_.fill(0);
+    seitenMerker_[static_cast<std::size_t>(merker - MERKSEITEN.begin())] = merkwert(tab_, seite);
+}
+
+void DocumentPage::zeigeEigenschaften()
+{
+    seitenMerker_.fill(0);
+    seitenModus_ = 1;
+    zeigeAllgemein();
+}
+
+void DocumentPage::zeigeAllgemein()
+{
+    const Tabellenseite& seite = aktuelleSeite();
+    const bool vorhanden =
+        session_.Tree.Knoten ? session_.Dateiinfo.vorhanden : ports_.dateien.dateiVorhanden(seite.record.filename);
+    allgemein_ = allgemeineSeite(seite.record, DOKUTYPEN[tab_], session_.Tree.Verwendung, vorhanden);
+    const auto merker = std::ranges::find(seitenMerker_, BLEIBT);
+    const bool bleibt = session_.Tree.Knoten && merker != seitenMerker_.end();
+    infoSeite_ = bleibt ? MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())] : InfoSeite::Allgemein;
+}
+
+void DocumentPage::zeigeViewer()
+{
+    seitenModus_ = 2;
+    if (viewer && viewer(aktuelleSeite().record.filename))
+        infoSeite_ = InfoSeite::Viewer;
+    else
+        zeigeEigenschaften();
+}
+
+void DocumentPage::oeffnePdf()
+{
+    const DokuRecord& record = aktuelleSeite().record;
+    const std::string pfad = mitEndung(record.filename, "pdf");
+    if (findPdf(ports_.dateien, record).empty())
+        ports_.meldungen.warnung("Im Verzeichnis nicht vorhanden", zeilen({
+                                                                       "Die Datei",
+                                                                       pfad,
+                                                                       "ist im Verzeichnis nicht vorhanden!",
+                                                                       "Mögliche Ursache:",
+                                                                       "- Falscher Pfad- und/oder Dateiname.",
+                                                                       "- Datei wurde im Verzeichnis gelöscht.",
+                                                                   }));
+    else if (!ports_.standardanwendung.oeffne(pfad))
+        ports_.meldungen.warnung(std::string(knoten::PDF), zeilen({"Fehler beim Öffnen der Datei:", pfad}));
+}
+
+} // namespace quelvarn
