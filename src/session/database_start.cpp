@@ -1,0 +1,152 @@
+#include "base/text.h"
+#include "database/connection.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "session/error_report.h"
+#include "session/ini_reader/start_run.h"
+#include "session/program.h"
+
+#include <array>
+
+namespace quelvarn {
+
+namespace {
+
+struct Schritt
+{
+    std::string_view abschnitt; // "" keeps the label of the step before.
+    void (*lese)(Startlauf&);
+};
+
+constexpr std::array<Schritt, 19> SCHRITTE{{
+    {"Lesen der Bezeichnungen", leseBezeichnungen},
+    {"", leseSuchtexte},
+    {"Lesen der Namen der Sondertabellen", leseSondertabellen},
+    {"Lesen Pfadname zum Versand- u. Plotverzeichnis", lesePlotPfad},
+    {"Lesen der Einstellung zum Offline-Plotten 'Allgemein'", leseOfflineTool},
+    {"Lesen der Einstellungen 'Printer' für 'Plotter/Drucker ermitteln'", lesePlotDrucker},
+    {"Lesen der Einstellung 'PDF' für 'Plotter/Drucker ermitteln'", lesePdfDrucker},
+    {"Lesen CheckInOut Ja/Nein", leseCheckInOut},
+    {"Lesen Forward Ja/Nein", leseForward},
+    {"Lesen ob Nachrichten sofort mitgeteilt werden.", leseNachricht},
+    {"Lesen aktives Quelvarn Ja/Nein?", leseActiveQuelvarn},
+    {"Lesen Zeitintervall", leseZeitintervall},
+    {"Lesen Starttabelle", leseStarttabelle},
+    {"Lesen der Einstellung der TREEVIEW des Anwenders.", leseTreeview},
+    {"Lesen der Einstellung zum Offline-Plotten 'Anwender'", leseOfflineDaten},
+    {"Lesen der ZIP-Daten 'Anwender'", leseZipDaten},
+    {"Lesen Standardeinstellung Plotten", lesePlotVorgabe},
+    {"Lesen Standardeinstellung PDF", lesePdfVorgabe},
+    {"Erstellen der Recordsets", leseGespeicherteFilter},
+}};
+
+void meldeKeinRegister(Meldungen& meldungen)
+{
+    meldungen.warnung("Modul: Ini-Tabelle fehlt", "Es wurde keine Datenbank vom Typ 'Quelvarnis' ausgewählt\n"
+                                                  "oder es fehlt die Ini-Tabelle in der Datenbank!");
+}
+
+std::string fehlertext(std::string_view pfad, std::string_view abschnitt)
+{
+    return zeilen({
+        pfad,
+        "",
+        "Fehler beim Öffnen, Lesen oder Bearbeiten der Datenbank!",
+        "",
+        "Fehler bei: " + std::string(abschnitt),
+        "",
+        "Mögliche Ursache:",
+        "- Datenbank ist schreibgeschützt.",
+        "- Vergleichen sie den Aufbau ihrer Tabellen mit der neuesten Template.",
+        "- Falscher Eintrag beim Editieren der Ini-Tabelle.",
+        "- Sie benutzen ein älteres Format von Access.",
+        "- Alle Benutzer der Datenbank benötigen 'Vollzugriff'.",
+        "   Überprüfen Sie die Sicherheitseinstellungen der Datenbank.",
+    });
+}
+
+// Lets go of everything that stood on the connection, and of the connection.
+void trenne(SessionState& session)
+{
+    session.CheckInOut = Recordset();
+    session.Verbindung.Close();
+}
+
+// False when what lies there is no database at all.
+bool verbinde(SessionState& session, const Dateien& dateien)
+{
+    trenne(session);
+    const std::filesystem::path pfad = dateien.systempfad(session.DatenbankPfad);
+    if (erkenneDatenbank(pfad) == DatenbankArt::Unbekannt)
+        return false;
+    session.Verbindung.Open(pfad);
+    return true;
+}
+
+// The user's rows of rights, by which a register is known; nothing when the table of settings cannot be read.
+std::optional<Recordset> findBerechtigung(SessionState& session)
+{
+    try {
+        Recordset zeilen;
+        zeilen.Open("SELECT DISTINCT * FROM Ini WHERE Feld1 = '" + session.Anwender + "' AND Feld2 = 'Berechtigung'",
+                    session.Verbindung);
+        return zeilen;
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;
+    }
+}
+
+// False when the file is not a register; the session is filled otherwise.
+bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschnitt)
+{
+    abschnitt = "Verbindung zur Datenbank";
+    if (!verbinde(session, ports.dateien))
+        return false;
+    abschnitt = "Prüfen auf Quelvarnis-Datenbank";
+    std::optional<Recordset> berechtigung = findBerechtigung(session);
+    if (!berechtigung)
+        return false;
+
+    abschnitt = "Prüfen der Einträge";
+    Startlauf lauf{session, ports, abschnitt, IniZeilen(session.Verbindung)};
+    leseBerechtigung(lauf, *berechtigung);
+    for (const Schritt& schritt : SCHRITTE) {
+        if (!schritt.abschnitt.empty())
+            abschnitt = schritt.abschnitt;
+        schritt.lese(lauf);
+        lauf.ini.schliesseAb();
+    }
+    return true;
+}
+
+void verwirf(SessionState& session)
+{
+    trenne(session);
+    session.DatenbankPfad.clear();
+}
+
+} // namespace
+
+bool Hauptprogramm(SessionState& session, Ports& ports)
+{
+    const std::string pfad = session.DatenbankPfad;
+    std::string_view abschnitt;
+    bool istRegister = false;
+    const bool gelesen = gesichert(
+        ports.meldungen, "Fehler beim Öffnen der Datenbank", [&] { return fehlertext(pfad, abschnitt); },
+        [&] {
+            try {
+                istRegister = liesRegister(session, ports, abschnitt);
+            } catch (...) {
+                verwirf(session);
+                throw;
+            }
+        });
+    if (gelesen && !istRegister) {
+        verwirf(session);
+        meldeKeinRegister(ports.meldungen);
+    }
+    return gelesen && istRegister;
+}
+
+} // namespace quelvarn

@@ -1,0 +1,160 @@
+#include "base/collation.h"
+#include "base/number_format.h"
+#include "base/text.h"
+#include "database/document_types.h"
+#include "platform/meldungen.h"
+#include "session/ini_reader/start_run.h"
+#include "session/tree_switches.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::int64_t GROESSTES_INTERVALL = 65535;
+constexpr std::string_view DIESES_PROGRAMM = "Quelvarn";
+
+// An OnOff row of the installation: on at 1, with a box and off where there is none.
+bool leseSchalter(Startlauf& lauf, std::string_view schluessel, std::string_view pruefung1, std::string_view pruefung2)
+{
+    Recordset zeilen = lauf.ini.verschiedene("Feld4", EIGENTUEMER_ALLE, "OnOff", schluessel);
+    if (!zeilen.leer())
+        return zahlOderNull(zeilen, "Feld4") == 1;
+
+    lauf.ports.meldungen.warnung(
+        "Modul: Falscher oder fehlender Eintrag Ini-Tabelle",
+        quelvarn::zeilen({
+            fmt::format("Falscher oder fehlender Eintrag bei 'OnOff' u. '{}' in der Ini-Tabelle!", schluessel),
+            "Die im Intervall vorgenommene Überprüfung von:",
+            pruefung1,
+            pruefung2,
+            "wird nicht durchgeführt.",
+            "Eintrag muss lauten:",
+            "Spalte 'Feld1' = '!QV_Ini'",
+            "Spalte 'Feld2' = 'OnOff'",
+            fmt::format("Spalte 'Feld3' = '{}'", schluessel),
+            "Spalte 'Feld4' = '1' für Ja oder '0' für Nein",
+        }));
+    return false;
+}
+
+bool oeffneNutzungsregister(SessionState& session)
+{
+    try {
+        session.CheckInOut.Open("Select * From CheckInOut", session.Verbindung, CursorTyp::Dynamisch,
+                                SperrTyp::Optimistisch);
+        return true;
+    } catch (const Laufzeitfehler&) {
+        return false; // A register without this table works, only nobody sees who uses what.
+    }
+}
+
+// True when this program tells the user at once, and not the other one does already.
+bool meldetSofort(Startlauf& lauf, std::string_view schluessel)
+{
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Nachricht", schluessel);
+    if (zeilen.leer()) {
+        lauf.ini.fuegeAn({lauf.session.Anwender, "Nachricht", schluessel, DIESES_PROGRAMM, "1"});
+        return true;
+    }
+    int eigener = 0;
+    int anderer = 0;
+    for (; !zeilen.Eof(); zeilen.MoveNext()) {
+        const bool eigeneZeile = equalText(pflichttext(zeilen, "Feld4"), DIESES_PROGRAMM);
+        (eigeneZeile ? eigener : anderer) = zahlOderNull(zeilen, "Feld5");
+    }
+    return anderer != 1 && eigener != 0;
+}
+
+} // namespace
+
+void leseCheckInOut(Startlauf& lauf)
+{
+    lauf.session.CheckInOutOn =
+        leseSchalter(lauf, "CheckInOut", "- Beendigung 'In Arbeit'", "- Beendigung 'In Durchsicht'") &&
+        oeffneNutzungsregister(lauf.session);
+}
+
+void leseForward(Startlauf& lauf)
+{
+    // Forwarding lives in the table of the use registry, whether or not that is kept itself.
+    lauf.session.ForwardOn = leseSchalter(lauf, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
+                             (lauf.session.CheckInOutOn || oeffneNutzungsregister(lauf.session));
+}
+
+void leseNachricht(Startlauf& lauf)
+{
+    if (!lauf.session.ForwardOn)
+        return;
+    lauf.session.MeldenWeiterleiten = meldetSofort(lauf, "Weiterleiten");
+    lauf.session.MeldenWorkflow = meldetSofort(lauf, "Workflow");
+}
+
+void leseActiveQuelvarn(Startlauf& lauf)
+{
+    const std::string& anwender = lauf.session.Anwender;
+    Recordset zeilen = lauf.ini.lese("SELECT * FROM Ini WHERE Feld1 = '" + anwender +
+                                     "' AND Feld2 = 'ActiveQuelvarn' AND (Feld3 = '0' Or Feld3 = '1')");
+    lauf.session.ActiveQuelvarn = !zeilen.leer() && pflichttext(zeilen, "Feld3") == "1";
+    if (zeilen.leer())
+        lauf.ini.fuegeAn({anwender, "ActiveQuelvarn", "0"});
+}
+
+void leseZeitintervall(Startlauf& lauf)
+{
+    SessionState& session = lauf.session;
+    Recordset zeilen =
+        lauf.ini.lese("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
+                      "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')");
+    std::int64_t wert = 0;
+    if (!zeilen.leer() && istNumerisch(zeilen.Feld("Feld4")))
+        wert = std::max<std::int64_t>(0, alsGanzzahl(zeilen.Feld("Feld4")));
+    if (wert > GROESSTES_INTERVALL) {
+        lauf.ports.meldungen.warnung("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
+        wert = GROESSTES_INTERVALL;
+    }
+    session.Zeitintervall = static_cast<int>(wert);
+    session.ZeitintervallText =
+        fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(static_cast<double>(wert) / 1000.0));
+}
+
+void leseStarttabelle(Startlauf& lauf)
+{
+    std::string& tabelle = lauf.session.Starttabelle;
+    tabelle = DOKUTYPEN.front().mehrzahl;
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Starttabelle");
+    if (zeilen.leer())
+        return lauf.ini.fuegeAn({lauf.session.Anwender, "Starttabelle", tabelle});
+
+    const std::string wunsch = pflichttext(zeilen, "Feld3");
+    const bool bekannt = std::any_of(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& typ) {
+        return typ.sondertabelle == 0 && typ.mehrzahl == wunsch;
+    });
+    if (bekannt)
+        tabelle = wunsch;
+}
+
+void leseTreeview(Startlauf& lauf)
+{
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Treeview");
+    lauf.session.Tree = {};
+    for (const Baumschalterzeile& schalter : BAUMSCHALTER) {
+        if (!zeilen.leer())
+            zeilen.MoveFirst();
+        while (!zeilen.Eof() && !equalText(textOderLeer(zeilen, "Feld3"), schalter.schluessel))
+            zeilen.MoveNext();
+        if (zeilen.Eof()) {
+            lauf.ini.fuegeAn({lauf.session.Anwender, "Treeview", schalter.schluessel, "1", schalter.notiz});
+            continue;
+        }
+        // A wrong value is mended in the table, yet the switch stays on for this session.
+        const std::string wert = textOderLeer(zeilen, "Feld4");
+        lauf.session.Tree.*schalter.feld = wert != "0";
+        if (wert != "0" && wert != "1")
+            lauf.ini.aendere(zeilen, "Feld4", schalter.heilwert);
+    }
+}
+
+} // namespace quelvarn

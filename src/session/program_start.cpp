@@ -1,0 +1,62 @@
+#include "base/text.h"
+#include "base/utf8.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "platform/umgebung.h"
+#include "session/error_report.h"
+#include "session/local_settings.h"
+#include "session/program.h"
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::size_t NAMENSLAENGE = 25; // What the columns of the use registry take.
+constexpr int HOEHE_STANDARD = 10090;
+constexpr int HOEHE_VERSION_5_1 = 10150;
+
+void leseUmgebung(SessionState& session, const Umgebung& umgebung)
+{
+    const Systemversion version = umgebung.systemversion();
+    session.OsVersionMajor = version.major;
+    session.OsVersionMinor = version.minor;
+    session.OsPlatform = version.plattform;
+    const bool version51 = version.major == "5" && version.minor == "1" && version.plattform == 2;
+    session.FensterHoehe = version51 ? HOEHE_VERSION_5_1 : HOEHE_STANDARD;
+    session.Rechner = leftCharacters(umgebung.rechnername(), NAMENSLAENGE);
+    session.Anwender = leftCharacters(umgebung.anwendername(), NAMENSLAENGE);
+}
+
+void legeOrdnerAn(SessionState& session, const Umgebung& umgebung, Dateien& dateien)
+{
+    session.OrdnerBasis = umgebung.systemlaufwerk() + "\\Dokumente und Einstellungen Quelvarnis";
+    session.OrdnerSEDokumente = session.OrdnerBasis + "\\SolidEdge_Dokumente";
+    session.OrdnerProtokollPrio = session.OrdnerBasis + "\\Protokoll_Prio";
+    session.OrdnerDatenbankPfad = session.OrdnerBasis + "\\Datenbank_Pfad";
+    session.OrdnerOfflineVersand = session.OrdnerBasis + "\\Offline_Versand";
+    for (const std::string& ordner : {session.OrdnerBasis, session.OrdnerSEDokumente, session.OrdnerProtokollPrio,
+                                      session.OrdnerDatenbankPfad, session.OrdnerOfflineVersand})
+        if (!dateien.ordnerVorhanden(ordner))
+            dateien.ordnerAnlegen(ordner);
+}
+
+} // namespace
+
+bool Main(SessionState& session, Ports& ports)
+{
+    session.DatenbankOk = false;
+    session.DatenbankPfad.clear();
+    const std::string text = zeilen({
+        "Fehler beim Aufruf Hauptprogramm!",
+        "Mögliche Ursache:",
+        "- Keine Schreibberechtigung auf die Verzeichnisse von Quelvarnis.",
+    });
+    return gesichert(ports.meldungen, "Aufruf Hauptprogramm", text, [&] {
+        leseUmgebung(session, ports.umgebung);
+        legeOrdnerAn(session, ports.umgebung, ports.dateien);
+        session.DatenbankPfad = LeseDatenbankPfad(session, ports);
+        session.DatenbankOk = !session.DatenbankPfad.empty() && Hauptprogramm(session, ports);
+    });
+}
+
+} // namespace quelvarn

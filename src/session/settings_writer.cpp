@@ -1,0 +1,93 @@
+#include "session/settings_writer.h"
+
+#include "base/collation.h"
+#include "base/utf8.h"
+#include "database/document_types.h"
+#include "session/ini_reader/ini_rows.h"
+#include "session/tree_switches.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::size_t LAENGSTER_SUCHTEXT = 50;
+constexpr std::string_view LEER = "Leer"; // The next start replaces it by the default.
+
+void schreibeBaumschalter(IniZeilen& ini, const SessionState& session)
+{
+    Recordset zeilen = ini.zeilen(session.Anwender, "Treeview");
+    for (; !zeilen.Eof(); zeilen.MoveNext()) {
+        const std::string schluessel = textOderLeer(zeilen, "Feld3");
+        const auto schalter =
+            std::find_if(BAUMSCHALTER.begin(), BAUMSCHALTER.end(),
+                         [&](const Baumschalterzeile& kandidat) { return equalText(kandidat.schluessel, schluessel); });
+        if (schalter != BAUMSCHALTER.end())
+            ini.aendere(zeilen, "Feld4", session.Tree.*schalter->feld ? "1" : "0");
+    }
+}
+
+bool stehtSoInDerTabelle(Recordset& zeilen, const std::vector<std::string>& texte)
+{
+    std::size_t anzahl = 0;
+    for (; !zeilen.Eof(); zeilen.MoveNext(), ++anzahl)
+        if (anzahl >= texte.size() || textOderLeer(zeilen, "Feld4") != texte[anzahl])
+            return false;
+    return anzahl == texte.size();
+}
+
+void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
+{
+    std::vector<std::string> texte;
+    for (const std::string& text : session.Suchtexte)
+        if (!text.empty())
+            texte.emplace_back(rightCharacters(text, LAENGSTER_SUCHTEXT));
+
+    Recordset zeilen = ini.zeilen(session.Anwender, "Suchen/Filtern");
+    if (stehtSoInDerTabelle(zeilen, texte))
+        return;
+    ini.loesche(zeilen);
+    for (std::size_t index = 0; index < texte.size(); ++index)
+        ini.fuegeAn({session.Anwender, "Suchen/Filtern", fmt::format("Text{}", index), texte[index]});
+}
+
+} // namespace
+
+void schreibeStartseite(SessionState& session)
+{
+    IniZeilen ini(session.Verbindung);
+    Recordset aktiv = ini.lese("SELECT * FROM Ini WHERE Feld1 = '" + session.Anwender +
+                               "' AND Feld2 = 'ActiveQuelvarn' AND (Feld3 = '0' Or Feld3 = '1')");
+    if (!aktiv.leer())
+        ini.aendere(aktiv, "Feld3", session.ActiveQuelvarn ? "1" : "0");
+
+    Recordset offline = ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
+    if (!offline.leer())
+        ini.aendere(offline, "Feld4", session.OfflineTool);
+
+    schreibeBaumschalter(ini, session);
+    ini.schliesseAb();
+}
+
+void schreibeDokumentseite(SessionState& session, int tab)
+{
+    IniZeilen ini(session.Verbindung);
+    schreibeSuchtexte(ini, session);
+
+    const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
+    Recordset start = ini.zeilen(session.Anwender, "Starttabelle");
+    if (!start.leer() && typ.sondertabelle == 0)
+        ini.aendere(start, "Feld3", typ.mehrzahl);
+
+    Recordset offline = ini.zeilen(session.Anwender, "OfflineDaten");
+    if (!offline.leer()) {
+        ini.aendere(offline, "Feld3", session.OfflineArt.empty() ? LEER : session.OfflineArt);
+        ini.aendere(offline, "Feld4", session.OfflineNummer);
+        ini.aendere(offline, "Feld5", session.OfflineExportArt.empty() ? LEER : session.OfflineExportArt);
+    }
+    ini.schliesseAb();
+}
+
+} // namespace quelvarn

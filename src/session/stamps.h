@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/date_time.h"
+
+#include <optional>
+#include <string_view>
+
+namespace quelvarn {
+
+class Connection;
+
+// The WriteDB stamps by which other copies of the program learn that a table changed. The keys are those of
+// DokuTyp::stempel. An installation with fewer than five WriteDB rows (the interval row counts) keeps none.
+
+// Nothing when there is no such stamp; day 0 when the row holds no date.
+std::optional<Zeitpunkt> leseStempel(Connection& verbindung, std::string_view schluessel);
+// Sets the stamp to one minute after `jetzt`, as a table just read counts as younger by that much.
+void setzeStempel(Connection& verbindung, std::string_view schluessel, Zeitpunkt jetzt);
+
+} // namespace quelvarn
