@@ -1,5 +1,6 @@
 #include "base/collation.h"
 #include "base/number_format.h"
+#include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/document_types.h"
 #include "platform/meldungen.h"
