@@ -109,7 +109,11 @@ public:
         neu.inhalt = inhalt;
         lege(pfad, std::move(neu));
     }
-    void kopiere(std::string_view von, std::string_view nach) override { schreibe(nach, lese(von)); }
+    void kopiere(std::string_view von, std::string_view nach) override
+    {
+        schreibe(nach, lese(von));
+        eintrag(nach).attribute.geaendert = eintrag(von).attribute.geaendert;
+    }
     void loesche(std::string_view pfad) override
     {
         pruefeSchreiben(pfad);

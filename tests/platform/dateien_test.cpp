@@ -1,35 +1,16 @@
 #include "base/runtime_error.h"
 #include "fakes/fake_ports.h"
-
-#include <functional>
-#include <gtest/gtest.h>
-#include <memory>
+#include "platform/dateien_regeln.h"
 
 using namespace quelvarn;
 
 namespace {
 
-// A way to have a file system with the empty drives C: and W:.
-struct Welt
-{
-    virtual ~Welt() = default;
-    virtual Dateien& dateien() = 0;
-};
-
-struct ImSpeicher : Welt
+struct ImSpeicher : DateienWelt
 {
     FakeUhr uhr;
     FakeDateien eigene{uhr};
     Dateien& dateien() override { return eigene; }
-};
-
-using MacheWelt = std::function<std::unique_ptr<Welt>()>;
-
-class DateienRegeln : public testing::TestWithParam<MacheWelt>
-{
-protected:
-    std::unique_ptr<Welt> welt_ = GetParam()();
-    Dateien& dateien_ = welt_->dateien();
 };
 
 std::string namen(const std::vector<Ordnereintrag>& inhalt)
