@@ -49,7 +49,8 @@ private:
         anweisung.tabelle = leser_.verlangeName();
         nimmEinsamenApostroph();
         anweisung.where = where(Stelle::Bedingung);
-        anweisung.orderBy = sortierung();
+        if (!anweisung.anzahl)
+            anweisung.orderBy = sortierung();
         pruefeTabellen(anweisung.tabelle);
         return anweisung;
     }

@@ -7,7 +7,6 @@
 namespace quelvarn::sql {
 
 constexpr int FEHLER_SYNTAX = -2147217900;
-constexpr int FEHLER_FELD_FEHLT = -2147217904;
 
 // A column as it is written: with the table in front ("Ini.Feld1") or without.
 struct Spaltenname

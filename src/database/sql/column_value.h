@@ -1,0 +1,16 @@
+#pragma once
+
+#include "database/value.h"
+
+#include <optional>
+
+namespace quelvarn::sql {
+
+// A literal as a column of this type is compared with it: texts that read as a number or date become one, numbers and
+// dates beside a text column become text. Nothing when they cannot be compared. Null is not handed in.
+std::optional<Value> vergleichswert(const Value& literal, FeldTyp typ);
+
+// A value as it is written into a column of this type; Laufzeitfehler when it does not fit.
+Value speicherwert(const Value& wert, FeldTyp typ);
+
+} // namespace quelvarn::sql

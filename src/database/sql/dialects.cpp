@@ -1,0 +1,168 @@
+#include "base/collation.h"
+#include "base/text.h"
+#include "base/utf8.h"
+#include "database/sql/renderer.h"
+
+#include <fmt/format.h>
+
+namespace quelvarn::sql {
+namespace {
+
+class SqliteDialekt : public Dialekt
+{
+protected:
+    std::string_view schluesselspalte() const override { return "rowid"; }
+
+    std::string platzhalter(std::size_t nummer, const Value&, FeldTyp) const override
+    {
+        return fmt::format("?{}", nummer);
+    }
+
+    std::string vergleichsausdruck(const std::string& spalte) const override { return spalte; }
+    std::string vergleichstext(const std::string& text) const override { return text; }
+
+    Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
+    {
+        return {"qv_like(", muster, ", " + ausdruck + ")"};
+    }
+
+    std::string genau(const std::string& ausdruck) const override { return ausdruck + " COLLATE BINARY"; }
+
+    std::string alsText(const std::string& spalte, FeldTyp typ) const override
+    {
+        if (typ == FeldTyp::Datum)
+            return fmt::format("replace(strftime('%d.%m.%Y %H:%M:%S', {}), ' 00:00:00', '')", spalte);
+        if (typ == FeldTyp::Ganzzahl)
+            return fmt::format("CAST({} AS TEXT)", spalte);
+        // printf would make a number of Null.
+        return fmt::format("iif({0} IS NULL, NULL, replace(printf('%.15g', {0}), '.', ','))", spalte);
+    }
+
+    Value datumswert(Zeitpunkt zeit) const override { return formatIso(zeit); }
+
+    std::string sortiert(const std::string& ausdruck, bool absteigend) const override
+    {
+        return ausdruck + (absteigend ? " DESC" : "");
+    }
+
+    bool sortiertDistinct() const override { return true; }
+    std::string_view niemals() const override { return "NULL"; }
+};
+
+// A character of a regular expression, inside or outside of a class, that means nothing but itself.
+std::string alsRegexZeichen(char32_t zeichen)
+{
+    const bool harmlos = (zeichen >= U'a' && zeichen <= U'z') || (zeichen >= U'A' && zeichen <= U'Z') ||
+                         (zeichen >= U'0' && zeichen <= U'9');
+    return harmlos ? std::string(1, static_cast<char>(zeichen))
+                   : fmt::format("\\U{:08x}", static_cast<std::uint32_t>(zeichen));
+}
+
+// The inside of "[..]". Read as LikePattern reads it.
+std::string alsRegexKlasse(std::u32string_view zeichen)
+{
+    const bool verneint = zeichen.size() > 1 && (zeichen.front() == U'!' || zeichen.front() == U'^');
+    zeichen.remove_prefix(verneint ? 1 : 0);
+    if (zeichen.empty())
+        return {};
+    std::string bereiche;
+    for (std::size_t i = 0; i < zeichen.size(); ++i) {
+        const bool bereich = i + 2 < zeichen.size() && zeichen[i + 1] == U'-';
+        const char32_t letztes = zeichen[bereich ? i + 2 : i];
+        if (zeichen[i] <= letztes)
+            bereiche += alsRegexZeichen(zeichen[i]) + (bereich ? "-" + alsRegexZeichen(letztes) : "");
+        i += bereich ? 2 : 0;
+    }
+    if (bereiche.empty()) // A range the wrong way round holds nothing.
+        return verneint ? "." : "(?!)";
+    return (verneint ? "[^" : "[") + bereiche + "]";
+}
+
+std::string alsRegex(std::u32string_view muster)
+{
+    std::string regex = "^";
+    for (std::size_t i = 0; i < muster.size(); ++i) {
+        const std::size_t ende = muster[i] == U'[' ? muster.find(U']', i) : muster.npos;
+        if (muster[i] == U'%') {
+            regex += ".*";
+        } else if (muster[i] == U'_') {
+            regex += '.';
+        } else if (ende != muster.npos) {
+            regex += alsRegexKlasse(muster.substr(i + 1, ende - i - 1));
+            i = ende;
+        } else {
+            regex += alsRegexZeichen(muster[i]);
+        }
+    }
+    return regex + "$";
+}
+
+class PostgresDialekt : public Dialekt
+{
+protected:
+    std::string_view schluesselspalte() const override { return "qv_id"; }
+
+    // The server would take the type of a placeholder from its column and refuse what is too large or no integer.
+    std::string platzhalter(std::size_t nummer, const Value& wert, FeldTyp typ) const override
+    {
+        switch (typ) {
+        case FeldTyp::Text:
+            break;
+        case FeldTyp::Ganzzahl:
+            return fmt::format("${}::{}", nummer, std::holds_alternative<double>(wert) ? "float8" : "bigint");
+        case FeldTyp::Gleitkomma:
+            return fmt::format("${}::float8", nummer);
+        case FeldTyp::Datum:
+            return fmt::format("${}::timestamp", nummer);
+        }
+        return fmt::format("${}", nummer);
+    }
+
+    std::string vergleichsausdruck(const std::string& spalte) const override { return "qv_key(" + spalte + ")"; }
+    std::string vergleichstext(const std::string& text) const override { return sortKey(text); }
+
+    // LIKE of the server knows no classes.
+    Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
+    {
+        const std::string gefaltet = foldCase(muster);
+        const std::size_t klasse = gefaltet.find('[');
+        if (klasse != std::string::npos && gefaltet.find(']', klasse) != std::string::npos)
+            return {"qv_fold(" + ausdruck + ") ~ ", alsRegex(toUtf32(gefaltet)), ""};
+        return {"qv_fold(" + ausdruck + ") LIKE ", replaceAll(gefaltet, "\\", "\\\\"), " ESCAPE '\\'"};
+    }
+
+    std::string genau(const std::string& ausdruck) const override { return ausdruck; }
+
+    std::string alsText(const std::string& spalte, FeldTyp typ) const override
+    {
+        if (typ == FeldTyp::Datum)
+            return fmt::format("replace(to_char({}, 'DD.MM.YYYY HH24:MI:SS'), ' 00:00:00', '')", spalte);
+        return fmt::format("replace(CAST({} AS text), '.', ',')", spalte);
+    }
+
+    Value datumswert(Zeitpunkt zeit) const override { return zeit; }
+
+    std::string sortiert(const std::string& ausdruck, bool absteigend) const override
+    {
+        return ausdruck + (absteigend ? " DESC NULLS LAST" : " ASC NULLS FIRST");
+    }
+
+    bool sortiertDistinct() const override { return false; }
+    std::string_view niemals() const override { return "NULL::boolean"; }
+};
+
+} // namespace
+
+const Dialekt& sqliteDialekt()
+{
+    static const SqliteDialekt dialekt;
+    return dialekt;
+}
+
+const Dialekt& postgresDialekt()
+{
+    static const PostgresDialekt dialekt;
+    return dialekt;
+}
+
+} // namespace quelvarn::sql

@@ -1,0 +1,302 @@
+#include "database/sql/renderer.h"
+
+#include "base/collation.h"
+#include "base/like_pattern.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "base/utf8.h"
+#include "database/sql/column_value.h"
+
+#include <algorithm>
+#include <cassert>
+#include <fmt/format.h>
+
+namespace quelvarn::sql {
+namespace {
+
+std::string_view zeichen(Vergleich vergleich)
+{
+    switch (vergleich) {
+    case Vergleich::Gleich:
+        return "=";
+    case Vergleich::Kleiner:
+        return "<";
+    case Vergleich::KleinerGleich:
+        return "<=";
+    case Vergleich::Groesser:
+        return ">";
+    case Vergleich::GroesserGleich:
+        return ">=";
+    default:
+        return "<>";
+    }
+}
+
+} // namespace
+
+// Writes one statement, counting the placeholders as it goes.
+class Schreiber
+{
+public:
+    Schreiber(const Dialekt& dialekt, const Tabellenschema& tabelle) : dialekt_(dialekt), tabelle_(tabelle) {}
+
+    const Spalte& spalte(std::string_view name) const
+    {
+        const auto gefunden =
+            std::ranges::find_if(tabelle_.spalten, [&](const Spalte& spalte) { return equalText(spalte.name, name); });
+        if (gefunden == tabelle_.spalten.end())
+            throw Laufzeitfehler(
+                FEHLER_FELD_FEHLT, "Datenbank",
+                fmt::format("Feld '{}' ist in der Tabelle '{}' nicht vorhanden.", name, tabelle_.name));
+        return *gefunden;
+    }
+
+    std::string tabelle() const { return Dialekt::bezeichner(tabelle_.name); }
+
+    std::string parameter(Value wert, FeldTyp typ)
+    {
+        if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
+            wert = dialekt_.datumswert(*zeit);
+        ergebnis_.parameter.push_back(std::move(wert));
+        return dialekt_.platzhalter(ergebnis_.parameter.size(), ergebnis_.parameter.back(), typ);
+    }
+
+    // Names of the columns of the result; all of them when none is named.
+    std::string auswahl(std::span<const std::string> namen)
+    {
+        if (namen.empty())
+            ergebnis_.spalten = tabelle_.spalten;
+        for (const std::string& name : namen)
+            ergebnis_.spalten.push_back(spalte(name));
+        std::vector<std::string> texte;
+        for (const Spalte& spalte : ergebnis_.spalten)
+            texte.push_back(Dialekt::bezeichner(spalte.name));
+        return join(texte, ", ");
+    }
+
+    std::string where(const AusdruckZeiger& bedingung)
+    {
+        return bedingung ? " WHERE " + std::visit(*this, bedingung->inhalt) : "";
+    }
+
+    std::string zeile(Zeilenschluessel schluessel)
+    {
+        return fmt::format(" WHERE {} = {}", dialekt_.schluesselspalte(), parameter(schluessel, FeldTyp::Ganzzahl));
+    }
+
+    std::string sortierung(const std::vector<Sortierung>& sortierungen) const
+    {
+        std::vector<std::string> texte;
+        for (const Sortierung& sortierung : sortierungen) {
+            const Spalte& gemeint = spalte(sortierung.spalte);
+            const std::string name = Dialekt::bezeichner(gemeint.name);
+            texte.push_back(dialekt_.sortiert(gemeint.typ == FeldTyp::Text ? dialekt_.vergleichsausdruck(name) : name,
+                                              sortierung.absteigend));
+        }
+        return texte.empty() ? "" : " ORDER BY " + join(texte, ", ");
+    }
+
+    std::string wert(const Zuweisung& zuweisung)
+    {
+        const FeldTyp typ = spalte(zuweisung.spalte).typ;
+        return parameter(speicherwert(zuweisung.wert, typ), typ);
+    }
+
+    std::string operator()(const Bedingung& bedingung)
+    {
+        const Spalte& gemeint = spalte(bedingung.spalte);
+        const std::string name = Dialekt::bezeichner(gemeint.name);
+        if (bedingung.vergleich == Vergleich::Like)
+            return like(gemeint, std::get<std::string>(bedingung.wert));
+        if (bedingung.vergleich == Vergleich::NotLike)
+            return "NOT (" + muster(gemeint, std::get<std::string>(bedingung.wert)) + ")";
+
+        const auto literal = vergleichswert(bedingung.wert, gemeint.typ);
+        if (!literal)
+            return std::string(dialekt_.niemals());
+        if (gemeint.typ == FeldTyp::Text)
+            return textvergleich(name, zeichen(bedingung.vergleich), std::get<std::string>(*literal));
+        return fmt::format("{} {} {}", name, zeichen(bedingung.vergleich), parameter(*literal, gemeint.typ));
+    }
+
+    std::string operator()(const IstNull& istNull) const
+    {
+        return Dialekt::bezeichner(spalte(istNull.spalte).name) + (istNull.verneint ? " IS NOT NULL" : " IS NULL");
+    }
+
+    std::string operator()(const Und& und) { return verbunden(und.teile, " AND "); }
+    std::string operator()(const Oder& oder) { return verbunden(oder.teile, " OR "); }
+    std::string operator()(const Nicht& nicht) { return "NOT (" + std::visit(*this, nicht.teil->inhalt) + ")"; }
+
+    Gerendert fertig(std::string text)
+    {
+        ergebnis_.text = std::move(text);
+        return std::move(ergebnis_);
+    }
+    Gerendert& ergebnis() { return ergebnis_; }
+
+private:
+    std::string verbunden(const std::vector<AusdruckZeiger>& teile, std::string_view wort)
+    {
+        std::vector<std::string> texte;
+        for (const AusdruckZeiger& teil : teile)
+            texte.push_back(std::visit(*this, teil->inhalt));
+        return "(" + join(texte, wort) + ")";
+    }
+
+    std::string textvergleich(const std::string& name, std::string_view zeichen, const std::string& text)
+    {
+        return fmt::format("{} {} {}", dialekt_.vergleichsausdruck(name), zeichen,
+                           parameter(dialekt_.vergleichstext(text), FeldTyp::Text));
+    }
+
+    // What a pattern begins with narrows the rows by an index, before each one is looked at.
+    std::string like(const Spalte& spalte, const std::string& text)
+    {
+        const LikePattern gelesen(text, Wildcards::Sql);
+        const std::string& anfang = gelesen.literal();
+        if (spalte.typ != FeldTyp::Text || trimRightBlanks(anfang).empty())
+            return muster(spalte, text);
+        const std::string name = Dialekt::bezeichner(spalte.name);
+        std::string enger;
+        if (gelesen.shape() == LikePattern::Shape::Exact) {
+            enger = textvergleich(name, "=", anfang);
+        } else if (gelesen.shape() == LikePattern::Shape::Prefix) {
+            enger = textvergleich(name, ">=", anfang);
+            std::string dahinter = anfang;
+            appendUtf8(dahinter, 0x10FFFF);
+            enger += " AND " + textvergleich(name, "<", dahinter);
+        } else {
+            return muster(spalte, text);
+        }
+        return "(" + enger + " AND " + muster(spalte, text) + ")";
+    }
+
+    std::string muster(const Spalte& spalte, const std::string& text)
+    {
+        std::string ausdruck = Dialekt::bezeichner(spalte.name);
+        if (spalte.typ != FeldTyp::Text)
+            ausdruck = dialekt_.alsText(ausdruck, spalte.typ);
+        // Patterns of blanks alone, which every list of choices has, need no matching.
+        if (trimRightBlanks(text).empty())
+            return fmt::format("{} = {}", dialekt_.genau(ausdruck), parameter(text, FeldTyp::Text));
+        Dialekt::Mustervergleich vergleich = dialekt_.like(ausdruck, text);
+        return vergleich.davor + parameter(std::move(vergleich.muster), FeldTyp::Text) + vergleich.dahinter;
+    }
+
+    const Dialekt& dialekt_;
+    const Tabellenschema& tabelle_;
+    Gerendert ergebnis_;
+};
+
+namespace {
+
+std::string zuweisungen(Schreiber& schreiber, std::span<const Zuweisung> werte)
+{
+    std::vector<std::string> texte;
+    for (const Zuweisung& zuweisung : werte)
+        texte.push_back(fmt::format("{} = {}", Dialekt::bezeichner(schreiber.spalte(zuweisung.spalte).name),
+                                    schreiber.wert(zuweisung)));
+    return join(texte, ", ");
+}
+
+// The rows of a DISTINCT have only the columns that were asked for.
+void pruefeSortierung(const Select& anweisung, const std::vector<Spalte>& spalten)
+{
+    for (const Sortierung& sortierung : anweisung.orderBy) {
+        const auto gleich = [&](const Spalte& spalte) { return equalText(spalte.name, sortierung.spalte); };
+        if (anweisung.distinct && std::ranges::none_of(spalten, gleich))
+            throw Laufzeitfehler(
+                FEHLER_FELD_FEHLT, "Datenbank",
+                fmt::format("Nach Feld '{}' kann nicht sortiert werden: Es steht nicht hinter DISTINCT.",
+                            sortierung.spalte));
+    }
+}
+
+} // namespace
+
+std::string Dialekt::bezeichner(std::string_view name)
+{
+    return "\"" + replaceAll(name, "\"", "\"\"") + "\"";
+}
+
+Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle, MitSchluessel schluessel,
+                          std::size_t grenze) const
+{
+    assert(schluessel == MitSchluessel::Nein || !(anweisung.distinct || anweisung.anzahl));
+    Schreiber schreiber(*this, tabelle);
+    std::string text = "SELECT ";
+    if (anweisung.anzahl) {
+        schreiber.ergebnis().spalten = {{"Anzahl", FeldTyp::Ganzzahl}};
+        text += "COUNT(*)";
+    } else {
+        text += anweisung.distinct ? "DISTINCT " : "";
+        text += schluessel == MitSchluessel::Ja ? std::string(schluesselspalte()) + ", " : "";
+        text += schreiber.auswahl(anweisung.spalten);
+        pruefeSortierung(anweisung, schreiber.ergebnis().spalten);
+    }
+    text += " FROM " + schreiber.tabelle() + schreiber.where(anweisung.where);
+    const bool hier = !anweisung.distinct || sortiertDistinct();
+    schreiber.ergebnis().sortiertSelbst = hier || (anweisung.orderBy.empty() && grenze == 0);
+    if (hier) {
+        text += schreiber.sortierung(anweisung.orderBy);
+        text += grenze > 0 ? fmt::format(" LIMIT {}", grenze) : "";
+    }
+    return schreiber.fertig(std::move(text));
+}
+
+Gerendert Dialekt::aenderung(const Anweisung& anweisung, const Tabellenschema& tabelle) const
+{
+    if (const auto* insert = std::get_if<Insert>(&anweisung))
+        return fuegeEin(tabelle, insert->werte);
+    Schreiber schreiber(*this, tabelle);
+    if (const auto* update = std::get_if<Update>(&anweisung)) {
+        const std::string werte = zuweisungen(schreiber, update->werte);
+        return schreiber.fertig(
+            fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), werte, schreiber.where(update->where)));
+    }
+    const auto* loeschen = std::get_if<Delete>(&anweisung);
+    assert(loeschen);
+    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.where(loeschen->where)));
+}
+
+Gerendert Dialekt::zeilen(const Tabellenschema& tabelle, std::span<const std::string> spalten,
+                          std::span<const Zeilenschluessel> schluessel) const
+{
+    Schreiber schreiber(*this, tabelle);
+    const std::string auswahl = schreiber.auswahl(spalten);
+    return schreiber.fertig(fmt::format("SELECT {0}, {1} FROM {2} WHERE {0} IN ({3})", schluesselspalte(), auswahl,
+                                        schreiber.tabelle(),
+                                        schluessel.empty() ? "NULL" : fmt::to_string(fmt::join(schluessel, ","))));
+}
+
+Gerendert Dialekt::fuegeEin(const Tabellenschema& tabelle, std::span<const Zuweisung> werte) const
+{
+    Schreiber schreiber(*this, tabelle);
+    std::vector<std::string> namen;
+    std::vector<std::string> texte;
+    for (const Zuweisung& zuweisung : werte) {
+        namen.push_back(bezeichner(schreiber.spalte(zuweisung.spalte).name));
+        texte.push_back(schreiber.wert(zuweisung));
+    }
+    if (werte.empty())
+        return schreiber.fertig(fmt::format("INSERT INTO {} DEFAULT VALUES", schreiber.tabelle()));
+    return schreiber.fertig(
+        fmt::format("INSERT INTO {} ({}) VALUES ({})", schreiber.tabelle(), join(namen, ", "), join(texte, ", ")));
+}
+
+Gerendert Dialekt::aendere(const Tabellenschema& tabelle, Zeilenschluessel zeile,
+                           std::span<const Zuweisung> werte) const
+{
+    Schreiber schreiber(*this, tabelle);
+    const std::string neu = zuweisungen(schreiber, werte);
+    return schreiber.fertig(fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), neu, schreiber.zeile(zeile)));
+}
+
+Gerendert Dialekt::loesche(const Tabellenschema& tabelle, Zeilenschluessel zeile) const
+{
+    Schreiber schreiber(*this, tabelle);
+    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.zeile(zeile)));
+}
+
+} // namespace quelvarn::sql
