@@ -18,51 +18,51 @@ Value schlicht(double zahl)
     return zahl;
 }
 
-std::optional<Value> alsZahlenwert(const Value& literal)
+std::optional<Value> findZahl(const Value& wert)
 {
-    if (const auto* zahl = std::get_if<double>(&literal))
+    if (const auto* zahl = std::get_if<double>(&wert))
         return schlicht(*zahl);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&literal))
+    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
         return schlicht(zeit->alsTage());
-    if (const auto* text = std::get_if<std::string>(&literal)) {
+    if (const auto* text = std::get_if<std::string>(&wert)) {
         const auto zahl = parseZahl(*text);
         return zahl ? std::optional(schlicht(*zahl)) : std::nullopt;
     }
-    return literal;
+    return wert;
 }
 
-bool passt(const Value& wert, FeldTyp typ)
+std::optional<Value> findDatum(const Value& wert)
 {
-    switch (typ) {
-    case FeldTyp::Text:
-        return std::holds_alternative<std::string>(wert);
-    case FeldTyp::Ganzzahl:
-        return std::holds_alternative<std::int64_t>(wert);
-    case FeldTyp::Gleitkomma:
-        return std::holds_alternative<double>(wert);
-    case FeldTyp::Datum:
-        break;
+    if (const auto* text = std::get_if<std::string>(&wert)) {
+        const auto deutsch = parseDatum(*text);
+        const auto zeit = deutsch ? deutsch : parseIso(*text);
+        return zeit ? std::optional<Value>(*zeit) : std::nullopt;
     }
-    return std::holds_alternative<Zeitpunkt>(wert);
+    if (std::holds_alternative<Zeitpunkt>(wert))
+        return wert;
+    return Zeitpunkt::ausTagen(alsZahl(wert));
 }
 
 } // namespace
 
 std::optional<Value> vergleichswert(const Value& literal, FeldTyp typ)
 {
-    if (typ == FeldTyp::Ganzzahl || typ == FeldTyp::Gleitkomma)
-        return alsZahlenwert(literal);
-    Value wert = passendZu(literal, typ);
-    return passt(wert, typ) ? std::optional(std::move(wert)) : std::nullopt;
+    if (typ == FeldTyp::Text)
+        return alsText(literal);
+    return typ == FeldTyp::Datum ? findDatum(literal) : findZahl(literal);
 }
 
 Value speicherwert(const Value& wert, FeldTyp typ)
 {
-    Value passend = passendZu(wert, typ);
-    if (!istNull(passend) && !passt(passend, typ))
+    if (istNull(wert))
+        return wert;
+    const auto passend = vergleichswert(wert, typ);
+    if (!passend)
         throw Laufzeitfehler(FEHLER_DATENTYP, "Datenbank",
                              "Datentypenkonflikt: '" + alsText(wert) + "' passt nicht zum Datentyp des Feldes.");
-    return passend;
+    if (typ == FeldTyp::Ganzzahl)
+        return alsGanzzahl(*passend);
+    return typ == FeldTyp::Gleitkomma ? Value(alsZahl(*passend)) : *passend;
 }
 
 } // namespace quelvarn::sql
