@@ -1,10 +1,10 @@
 #include "database/filter_comparison.h"
 
 #include "base/collation.h"
-#include "base/runtime_error.h"
 #include "database/column_search.h"
+#include "database/sql/column_value.h"
 
-#include <cmath>
+#include <optional>
 
 namespace quelvarn {
 
@@ -113,13 +113,6 @@ std::unique_ptr<Auswahl> einzelauswahl(const Column& spalte, Vergleich vergleich
     });
 }
 
-[[noreturn]] void meldeUnpassend(const sql::Bedingung& bedingung)
-{
-    throw Laufzeitfehler(3001, "Recordset",
-                         "Der Wert '" + alsText(bedingung.wert) + "' passt nicht zum Typ der Spalte " +
-                             bedingung.spalte + ".");
-}
-
 std::unique_ptr<Auswahl> textvergleich(const TextColumn& spalte, Vergleich vergleich, const std::string& text)
 {
     if (vergleich == Vergleich::Gleich || vergleich == Vergleich::Ungleich)
@@ -128,37 +121,25 @@ std::unique_ptr<Auswahl> textvergleich(const TextColumn& spalte, Vergleich vergl
         spalte, [vergleich, text](std::string_view zelle) { return trifft(vergleich, compareText(zelle, text)); }));
 }
 
-std::unique_ptr<Auswahl> ganzzahlvergleich(const NumberColumn<std::int64_t>& spalte, const sql::Bedingung& bedingung)
+std::unique_ptr<Auswahl> ganzzahlvergleich(const NumberColumn<std::int64_t>& spalte, Vergleich vergleich,
+                                           const Value& literal)
 {
+    if (spalte.hatFremde())
+        return einzelauswahl(spalte, vergleich, literal);
+    if (const auto* zeit = std::get_if<Zeitpunkt>(&literal))
+        return zahlauswahl(spalte, vergleich, zeit->sekunden);
     // A number keeps its fraction: nothing equals 1.5, and 1 is below it.
-    const double zahl = alsZahl(bedingung.wert);
-    if (!istNumerisch(bedingung.wert) && !std::holds_alternative<Zeitpunkt>(bedingung.wert))
-        meldeUnpassend(bedingung);
-    if (spalte.hatFremde())
-        return einzelauswahl(spalte, bedingung.vergleich, zahl);
-    if (std::holds_alternative<std::int64_t>(bedingung.wert) || zahl == std::trunc(zahl))
-        return zahlauswahl(spalte, bedingung.vergleich, alsGanzzahl(bedingung.wert));
-    return zahlauswahl(spalte, bedingung.vergleich, zahl);
+    if (const auto* zahl = std::get_if<double>(&literal))
+        return zahlauswahl(spalte, vergleich, *zahl);
+    return zahlauswahl(spalte, vergleich, std::get<std::int64_t>(literal));
 }
 
-std::unique_ptr<Auswahl> datumsvergleich(const NumberColumn<std::int64_t>& spalte, const sql::Bedingung& bedingung)
+std::unique_ptr<Auswahl> kommazahlvergleich(const NumberColumn<double>& spalte, Vergleich vergleich,
+                                            const Value& literal)
 {
-    const Value literal = passendZu(bedingung.wert, FeldTyp::Datum);
-    const auto* zeit = std::get_if<Zeitpunkt>(&literal);
-    if (!zeit)
-        meldeUnpassend(bedingung);
     if (spalte.hatFremde())
-        return einzelauswahl(spalte, bedingung.vergleich, literal);
-    return zahlauswahl(spalte, bedingung.vergleich, zeit->sekunden);
-}
-
-std::unique_ptr<Auswahl> kommazahlvergleich(const NumberColumn<double>& spalte, const sql::Bedingung& bedingung)
-{
-    if (!istNumerisch(bedingung.wert) && !std::holds_alternative<Zeitpunkt>(bedingung.wert))
-        meldeUnpassend(bedingung);
-    if (spalte.hatFremde())
-        return einzelauswahl(spalte, bedingung.vergleich, alsZahl(bedingung.wert));
-    return zahlauswahl(spalte, bedingung.vergleich, alsZahl(bedingung.wert));
+        return einzelauswahl(spalte, vergleich, literal);
+    return zahlauswahl(spalte, vergleich, alsZahl(literal));
 }
 
 std::unique_ptr<Auswahl> baueLike(const Column& spalte, const sql::Bedingung& bedingung, Wildcards platzhalter)
@@ -175,21 +156,17 @@ std::unique_ptr<Auswahl> baueLike(const Column& spalte, const sql::Bedingung& be
 
 std::unique_ptr<Auswahl> baueVergleich(const Column& spalte, const sql::Bedingung& bedingung, Wildcards platzhalter)
 {
-    if (istNull(bedingung.wert))
-        return zellauswahl([](Zeilennummer) { return false; });
     if (bedingung.vergleich == Vergleich::Like || bedingung.vergleich == Vergleich::NotLike)
         return baueLike(spalte, bedingung, platzhalter);
-    switch (spalte.typ()) {
-    case FeldTyp::Text:
-        return textvergleich(static_cast<const TextColumn&>(spalte), bedingung.vergleich, alsText(bedingung.wert));
-    case FeldTyp::Ganzzahl:
-        return ganzzahlvergleich(static_cast<const NumberColumn<std::int64_t>&>(spalte), bedingung);
-    case FeldTyp::Datum:
-        return datumsvergleich(static_cast<const NumberColumn<std::int64_t>&>(spalte), bedingung);
-    case FeldTyp::Gleitkomma:
-        break;
-    }
-    return kommazahlvergleich(static_cast<const NumberColumn<double>&>(spalte), bedingung);
+    const auto literal = istNull(bedingung.wert) ? std::nullopt : sql::vergleichswert(bedingung.wert, spalte.typ());
+    if (!literal)
+        return zellauswahl([](Zeilennummer) { return false; });
+    if (spalte.typ() == FeldTyp::Text)
+        return textvergleich(static_cast<const TextColumn&>(spalte), bedingung.vergleich,
+                             std::get<std::string>(*literal));
+    if (spalte.typ() == FeldTyp::Gleitkomma)
+        return kommazahlvergleich(static_cast<const NumberColumn<double>&>(spalte), bedingung.vergleich, *literal);
+    return ganzzahlvergleich(static_cast<const NumberColumn<std::int64_t>&>(spalte), bedingung.vergleich, *literal);
 }
 
 std::unique_ptr<Auswahl> baueNullpruefung(const Column& spalte, bool verneint)

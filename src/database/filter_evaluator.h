@@ -24,8 +24,8 @@ public:
 
 using Spaltensuche = std::function<const Column&(std::string_view name)>;
 
-// The columns must outlive the result and not change. A literal is taken as the type of its column; one that
-// cannot be throws Laufzeitfehler 3001.
+// The columns must outlive the result and not change. A literal is taken as the type of its column; where that
+// cannot be, the comparison is never met, nor is its opposite.
 std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten, Wildcards platzhalter);
 
 // Every column that the condition names, each once.

@@ -1,5 +1,6 @@
 #include "database/recordset.h"
 #include "database/recordset_core.h"
+#include "database/sql/column_value.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,21 +8,6 @@
 namespace quelvarn {
 
 namespace {
-
-bool istVomTyp(const Value& wert, FeldTyp typ)
-{
-    switch (typ) {
-    case FeldTyp::Text:
-        return std::holds_alternative<std::string>(wert);
-    case FeldTyp::Ganzzahl:
-        return std::holds_alternative<std::int64_t>(wert);
-    case FeldTyp::Gleitkomma:
-        return std::holds_alternative<double>(wert);
-    case FeldTyp::Datum:
-        break;
-    }
-    return std::holds_alternative<Zeitpunkt>(wert);
-}
 
 constexpr int ZEILE_FEHLT = -2147217864;
 
@@ -31,11 +17,7 @@ void Recordset::setzeFeld(std::string_view name, Value wert)
 {
     kern_->verlangeSchreibbar();
     const std::size_t feld = kern_->zeilen.feldVon(name);
-    const Spalte& spalte = Felder()[feld];
-    wert = passendZu(std::move(wert), spalte.typ);
-    if (!istNull(wert) && !istVomTyp(wert, spalte.typ))
-        throw recordsetFehler(13,
-                              "Der Wert '" + alsText(wert) + "' passt nicht zum Typ des Feldes " + spalte.name + ".");
+    wert = sql::speicherwert(wert, Felder()[feld].typ);
     if (!kern_->bearbeitung) {
         kern_->aktuellePosition();
         kern_->bearbeitung = Bearbeitung{false, std::vector<std::optional<Value>>(Felder().size())};
@@ -52,7 +34,6 @@ void Recordset::AddNew()
 
 void Recordset::Update()
 {
-    kern_->verlangeOffen();
     kern_->beendeBearbeitung();
 }
 
@@ -108,6 +89,7 @@ void Recordset::Kern::verlangeSchreibbar() const
 
 void Recordset::Kern::beendeBearbeitung()
 {
+    verlangeOffen();
     // A row that could not be written is as it was before.
     const auto fertige = std::exchange(bearbeitung, {});
     if (!fertige)

@@ -69,7 +69,6 @@ void sortiere(std::vector<Zeilennummer>& reihe, const std::vector<Sortierfeld>& 
 void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt)
 {
     Kern& kern = *kern_;
-    kern.verlangeOffen();
     kern.beendeBearbeitung();
     const sql::AusdruckZeiger bedingung = sql::parseBedingung(ausdruck);
     if (!bedingung) {
@@ -93,7 +92,6 @@ const std::string& Recordset::filterText() const
 void Recordset::Sort(std::string_view ausdruck)
 {
     Kern& kern = *kern_;
-    kern.verlangeOffen();
     kern.beendeBearbeitung();
     std::vector<Sortierfeld> felder;
     if (!trim(ausdruck).empty())
@@ -121,7 +119,6 @@ void Recordset::Sort(std::string_view ausdruck)
 bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang)
 {
     Kern& kern = *kern_;
-    kern.verlangeOffen();
     kern.beendeBearbeitung();
     const sql::AusdruckZeiger bedingung = sql::parseBedingung(kriterium);
     if (!bedingung)
