@@ -39,6 +39,7 @@ public:
 private:
     std::shared_ptr<Engine> engine_;
     friend class Recordset;
+    friend class Transaktion;
 };
 
 // Several row changes that belong together: all or none, where the engine can.

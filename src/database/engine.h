@@ -61,6 +61,8 @@ public:
     // These columns of these rows, in any order, keys included; rows that are gone are left out.
     virtual std::unique_ptr<Zeilenleser> leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
                                                     std::span<const Zeilenschluessel> schluessel) = 0;
+    // How the engine would run it, in its own words: tells whether an index serves it.
+    virtual std::string ausfuehrungsplan(const sql::Select& select) = 0;
     // Rows affected.
     virtual std::int64_t fuehreAus(const sql::Anweisung& anweisung) = 0;
 

@@ -1,0 +1,156 @@
+#include "database/connection.h"
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "database/catalog.h"
+#include "database/create.h"
+#include "database/sql/parser.h"
+
+#include <array>
+#include <cassert>
+#include <cerrno>
+#include <fmt/format.h>
+#include <fstream>
+
+namespace quelvarn {
+namespace {
+
+std::string anzeige(const std::filesystem::path& pfad)
+{
+    const auto utf8 = pfad.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
+// The first bytes of a file; enough for a postgresql:// address.
+std::string leseAnfang(const std::filesystem::path& pfad)
+{
+    constexpr std::streamsize laenge = 4096;
+    std::error_code fehler;
+    if (!std::filesystem::exists(pfad, fehler))
+        throw Laufzeitfehler(53, "Datenbank", fmt::format("Die Datei '{}' wurde nicht gefunden.", anzeige(pfad)));
+    std::ifstream datei(pfad, std::ios::binary);
+    std::string anfang(laenge, '\0');
+    datei.read(anfang.data(), laenge);
+    if (!datei.is_open() || datei.bad() || std::filesystem::is_directory(pfad, fehler))
+        throw Laufzeitfehler(75, "Datenbank", fmt::format("Die Datei '{}' kann nicht gelesen werden.", anzeige(pfad)));
+    anfang.resize(static_cast<std::size_t>(datei.gcount()));
+    return anfang;
+}
+
+std::string_view ersteZeile(std::string_view anfang)
+{
+    constexpr std::string_view utf8Marke = "\xEF\xBB\xBF";
+    if (anfang.starts_with(utf8Marke))
+        anfang.remove_prefix(utf8Marke.size());
+    return trim(anfang.substr(0, anfang.find_first_of("\r\n")));
+}
+
+bool istPostgresAdresse(std::string_view text)
+{
+    return startsWithIgnoringCase(text, "postgresql://") || startsWithIgnoringCase(text, "postgres://");
+}
+
+DatenbankArt artAusAnfang(std::string_view anfang)
+{
+    using namespace std::string_view_literals;
+    if (anfang.starts_with("SQLite format 3\0"sv))
+        return DatenbankArt::SQLite;
+    if (anfang.starts_with("\0\1\0\0Standard Jet DB\0"sv) || anfang.starts_with("\0\1\0\0Standard ACE DB\0"sv))
+        return DatenbankArt::Access;
+    if (istPostgresAdresse(ersteZeile(anfang)))
+        return DatenbankArt::PostgreSQL;
+    return DatenbankArt::Unbekannt;
+}
+
+[[noreturn]] void meldeAccess(const std::filesystem::path& pfad)
+{
+    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
+                         fmt::format("'{}' ist eine Access-Datenbank.\n"
+                                     "Dieses System hat keinen Treiber für Access.\n"
+                                     "Der Administrator übernimmt die Datei einmalig mit \"qvadmin import\".",
+                                     anzeige(pfad)));
+}
+
+} // namespace
+
+DatenbankArt erkenneDatenbank(const std::filesystem::path& pfad)
+{
+    return artAusAnfang(leseAnfang(pfad));
+}
+
+Connection::~Connection() = default;
+Connection::Connection(Connection&&) noexcept = default;
+Connection& Connection::operator=(Connection&&) noexcept = default;
+
+void Connection::Open(const std::filesystem::path& pfad)
+{
+    const std::string anfang = leseAnfang(pfad);
+    switch (artAusAnfang(anfang)) {
+    case DatenbankArt::SQLite:
+        engine_ = oeffneSqlite(pfad, false);
+        return;
+    case DatenbankArt::PostgreSQL:
+        engine_ = oeffnePostgres(ersteZeile(anfang));
+        return;
+    case DatenbankArt::Access:
+        meldeAccess(pfad);
+    case DatenbankArt::Unbekannt:
+        break;
+    }
+    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
+                         fmt::format("'{}' ist keine Datenbank dieses Programms.", anzeige(pfad)));
+}
+
+void Connection::OpenAdresse(std::string_view pfadOderAdresse)
+{
+    if (istPostgresAdresse(pfadOderAdresse))
+        engine_ = oeffnePostgres(pfadOderAdresse);
+    else
+        Open(std::filesystem::path(std::u8string(pfadOderAdresse.begin(), pfadOderAdresse.end())));
+}
+
+void Connection::Close()
+{
+    engine_.reset();
+}
+
+std::int64_t Connection::Execute(std::string_view sql)
+{
+    const sql::Anweisung anweisung = sql::parseAnweisung(sql);
+    if (std::holds_alternative<sql::Select>(anweisung))
+        throw Laufzeitfehler(FEHLER_ANWEISUNG, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");
+    return engine().fuehreAus(anweisung);
+}
+
+Engine& Connection::engine() const
+{
+    if (!engine_)
+        throw Laufzeitfehler(3709, "Datenbank", "Die Verbindung zur Datenbank ist nicht geöffnet.");
+    return *engine_;
+}
+
+Transaktion::Transaktion(Connection& verbindung)
+{
+    verbindung.engine().beginne();
+    engine_ = verbindung.engine_;
+    offen_ = true;
+}
+
+Transaktion::~Transaktion()
+{
+    if (!offen_)
+        return;
+    try {
+        engine_->nimmZurueck();
+    } catch (const Laufzeitfehler&) {
+        // The connection is gone, and the changes with it.
+    }
+}
+
+void Transaktion::schliesseAb()
+{
+    engine_->schliesseAb();
+    offen_ = false;
+}
+
+} // namespace quelvarn

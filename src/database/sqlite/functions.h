@@ -1,0 +1,10 @@
+#pragma once
+
+struct sqlite3;
+
+namespace quelvarn::sqlite {
+
+// Makes texts compare as everywhere in the program: the collation QV, and qv_like(pattern, text) for LIKE.
+void registriereFunktionen(sqlite3* datenbank);
+
+} // namespace quelvarn::sqlite

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "database/value.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct sqlite3_stmt;
+
+namespace quelvarn::sqlite {
+
+class Handle;
+
+// A prepared statement on loan: when done it goes back to its connection, for the next one with the same text.
+class Statement
+{
+public:
+    Statement(std::shared_ptr<Handle> handle, std::string sql, sqlite3_stmt* statement);
+    ~Statement();
+    Statement(Statement&&) noexcept;
+    Statement& operator=(Statement&&) = delete;
+
+    enum class Textdauer { Kopie, UeberlebtSchritte };
+
+    // Parameters count from 1.
+    void binde(int parameter, const Value& wert);
+    void bindeText(int parameter, std::string_view text, Textdauer dauer);
+    // True for a row, false behind the last one.
+    bool step();
+    // Column of the current row, counted from 0; "" for Null.
+    std::string_view text(int spalte) const;
+    // Ready for another run; frees the read lock.
+    void setzeZurueck();
+
+    sqlite3_stmt* roh() const { return statement_; }
+
+private:
+    void pruefe(int ergebnis) const;
+
+    std::shared_ptr<Handle> handle_;
+    std::string sql_;
+    sqlite3_stmt* statement_;
+};
+
+} // namespace quelvarn::sqlite
