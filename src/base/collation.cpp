@@ -125,11 +125,16 @@ std::string mapCharacters(std::string_view utf8, AsciiCase asciiCase, OtherCase 
 {
     std::string result;
     result.reserve(utf8.size());
-    std::size_t position = 0;
-    while (position < utf8.size()) {
-        if (isAscii(static_cast<unsigned char>(utf8[position])))
-            result += asciiCase(utf8[position++]);
-        else
+    const auto asciiAt = [utf8](std::size_t position) { return isAscii(static_cast<unsigned char>(utf8[position])); };
+    for (std::size_t position = 0; position < utf8.size();) {
+        std::size_t end = position;
+        while (end < utf8.size() && asciiAt(end))
+            ++end;
+        result.append(utf8, position, end - position);
+        const auto run = result.end() - static_cast<std::ptrdiff_t>(end - position);
+        std::transform(run, result.end(), run, asciiCase);
+        position = end;
+        while (position < utf8.size() && !asciiAt(position))
             appendUtf8(result, otherCase(nextCodePoint(utf8, position)));
     }
     return result;
@@ -151,16 +156,17 @@ std::string sortKey(std::string_view utf8)
     Weights weights(trimRightBlanks(utf8));
     std::string key;
     key.reserve(utf8.size());
-    std::string accents;
-    std::size_t lastAccent = 0;
-    for (Weight weight = weights.next(); weight.primary != 0; weight = weights.next()) {
+    std::string accents; // up to the last one
+    std::size_t count = 0;
+    for (Weight weight = weights.next(); weight.primary != 0; weight = weights.next(), ++count) {
         appendUtf8(key, weight.primary);
-        accents += static_cast<char>(2 + weight.accent);
-        if (weight.accent != 0)
-            lastAccent = accents.size();
+        if (weight.accent != 0) {
+            accents.resize(count, '\x02');
+            accents += static_cast<char>(2 + weight.accent);
+        }
     }
-    if (lastAccent > 0)
-        key.append(1, '\x01').append(accents, 0, lastAccent);
+    if (!accents.empty())
+        key.append(1, '\x01').append(accents);
     return key;
 }
 

@@ -113,7 +113,8 @@ std::optional<Zeitpunkt> whenValid(const Kalenderzeit& zeit)
 Zeitpunkt Zeitpunkt::aus(const Kalenderzeit& zeit)
 {
     const std::int64_t day = dayNumber(zeit.jahr, static_cast<unsigned>(zeit.monat), static_cast<unsigned>(zeit.tag));
-    return {day * secondsADay + zeit.stunde * 3600 + zeit.minute * 60 + zeit.sekunde};
+    const int timeOfDay = zeit.stunde * 3600 + zeit.minute * 60 + zeit.sekunde;
+    return {day * secondsADay + timeOfDay};
 }
 
 Zeitpunkt Zeitpunkt::ausTagen(double tage)

@@ -10,6 +10,10 @@ namespace quelvarn {
 // The whole outside world of a test.
 struct FakePorts
 {
+    FakePorts() = default;
+    FakePorts(const FakePorts&) = delete;
+    FakePorts& operator=(const FakePorts&) = delete;
+
     FakeMeldungen meldungen;
     FakeUhr uhr;
     FakeUmgebung umgebung;
