@@ -68,10 +68,12 @@ public:
     void setzeFeld(std::string_view name, Value wert);
 
     void AddNew();
-    void Update();       // Writes the new or changed row; in Stapel mode it waits for UpdateBatch.
+    // Writes the new or changed row, as every move of the cursor does; in Stapel mode it waits for UpdateBatch.
+    // When writing fails the row is as it was before.
+    void Update();
     void CancelUpdate();
-    void Delete();       // Afterwards the current row is the next one.
-    void UpdateBatch();  // All waiting changes, in one transaction.
+    void Delete();      // Afterwards the current row is the next one.
+    void UpdateBatch(); // All waiting changes, in one transaction.
 
     // A recordset filter expression (day first, '*'), "" for none. Moves to the first row left. A bad expression
     // throws Laufzeitfehler and leaves the old filter.
@@ -80,7 +82,8 @@ public:
     // "Feld [ASC|DESC], ...", "" for the order of opening.
     void Sort(std::string_view ausdruck);
     // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `ueberspringe` rows behind the
-    // current one, or at the first row of all when `vonAnfang`; at Eof (Bof going backwards) when there is none.
+    // current one, or at the first row of all (going backwards: the last) when `vonAnfang`; at Eof (Bof going
+    // backwards) when there is none. '*' is a plain character here.
     bool Find(std::string_view kriterium, std::size_t ueberspringe = 0, Suchrichtung richtung = Suchrichtung::Vorwaerts,
               bool vonAnfang = false);
 
@@ -88,13 +91,16 @@ public:
     // False, and nothing moves, when the row is not among those the filter leaves.
     bool setzeBookmark(Bookmark zeile);
 
-    // Position of the current row among the rows left, and the other way round; for grids.
+    // Position of the current row among the rows left, and the other way round; for grids. RecordCount() where
+    // there is no current row.
     std::size_t AbsolutePosition() const;
     void setzeAbsolutePosition(std::size_t position);
     // A cell of any row left, without moving. Reads a block of neighbouring rows at once when the column is not
     // in memory.
     Value Zelle(std::size_t position, std::string_view feld) const;
 
+    // Results up to this many rows are read whole at the opening; 2,048 unless told. Set it before.
+    void setzeGanzGrenze(std::size_t zeilen);
     // Reads a whole column into memory, which filters and searches over it do by themselves.
     void ladeSpalte(std::string_view feld, const Fortschritt& fortschritt = {});
     bool spalteGeladen(std::string_view feld) const;

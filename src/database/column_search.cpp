@@ -1,0 +1,208 @@
+#include "database/column_search.h"
+
+#include "base/collation.h"
+#include "base/text.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr unsigned BLOCKBITS = 12; // 4,096 texts are judged at once.
+constexpr std::size_t FENSTER = 64;
+
+// True when `erstes` and `letztes` stand at their distance somewhere in the window. The fixed length lets the
+// compiler use vector instructions.
+bool kannTreffen(const char* anfang, std::size_t abstand, char erstes, char letztes)
+{
+    unsigned char treffer = 0;
+    for (std::size_t i = 0; i < FENSTER; ++i)
+        treffer |= static_cast<unsigned char>(anfang[i] == erstes) &
+                   static_cast<unsigned char>(anfang[i + abstand] == letztes);
+    return treffer != 0;
+}
+
+// LIKE over the folded texts of a column: the plain shapes by comparing bytes, the others by the pattern.
+class LikeTreffer : public Texttreffer
+{
+public:
+    LikeTreffer(const TextColumn& spalte, LikePattern muster, bool verneint)
+        : Texttreffer(spalte, verneint), muster_(std::move(muster))
+    {}
+
+protected:
+    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    {
+        const auto& gefaltet = texte().gefaltet();
+        if (muster_.shape() == LikePattern::Shape::Contains && !muster_.literal().empty())
+            bewerteEnthaelt(von, bis, urteil);
+        else
+            for (Textcode code = von; code < bis; ++code)
+                urteil[code] = trifft(texte().gefalteterText(code));
+        const auto& andere = gefaltet.andereLaenge;
+        for (auto code = std::lower_bound(andere.begin(), andere.end(), von); code != andere.end() && *code < bis;
+             ++code)
+            urteil[*code] = muster_.matches(texte().text(*code));
+    }
+
+private:
+    bool trifft(std::string_view gefaltet) const
+    {
+        const std::string& text = muster_.literal();
+        switch (muster_.shape()) {
+        case LikePattern::Shape::Exact:
+            return gefaltet == text;
+        case LikePattern::Shape::Prefix:
+            return gefaltet.size() >= text.size() && std::memcmp(gefaltet.data(), text.data(), text.size()) == 0;
+        case LikePattern::Shape::Contains:
+        case LikePattern::Shape::Other:
+            break;
+        }
+        return muster_.matchesFolded(gefaltet);
+    }
+
+    void bewerteEnthaelt(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil)
+    {
+        const auto& anfaenge = texte().anfaenge();
+        const std::string_view bytes = std::string_view(texte().gefaltet().bytes).substr(0, anfaenge[bis]);
+        const std::string& text = muster_.literal();
+        Textcode code = von;
+        for (std::size_t stelle = anfaenge[von];;) {
+            stelle = findeBytes(bytes, text, stelle);
+            if (stelle == std::string_view::npos)
+                return;
+            while (anfaenge[code + 1] <= stelle)
+                ++code;
+            if (stelle + text.size() <= anfaenge[code + 1]) {
+                urteil[code] = 1;
+                stelle = anfaenge[code + 1];
+            } else {
+                ++stelle; // The hit runs over the end of the text.
+            }
+        }
+    }
+
+    LikePattern muster_;
+};
+
+// Most texts differ from the wanted one by a plain letter or digit, which their bytes tell; the collation decides
+// about the others.
+class GleichTreffer : public Texttreffer
+{
+public:
+    GleichTreffer(const TextColumn& spalte, std::string_view text, bool verneint)
+        : Texttreffer(spalte, verneint), text_(text), gefaltet_(foldCase(trimRightBlanks(text)))
+    {}
+
+protected:
+    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    {
+        texte().gefaltet();
+        for (Textcode code = von; code < bis; ++code)
+            urteil[code] = kannGleichSein(texte().gefalteterText(code)) && equalText(texte().text(code), text_);
+    }
+
+private:
+    bool kannGleichSein(std::string_view gefaltet) const
+    {
+        const auto [hier, dort] = std::mismatch(gefaltet.begin(), gefaltet.end(), gefaltet_.begin(), gefaltet_.end());
+        const bool hierEinfach = hier == gefaltet.end() || istEinfach(*hier);
+        const bool dortEinfach = dort == gefaltet_.end() || istEinfach(*dort);
+        const bool beideZuEnde = hier == gefaltet.end() && dort == gefaltet_.end();
+        return beideZuEnde || !hierEinfach || !dortEinfach;
+    }
+
+    static bool istEinfach(char zeichen)
+    {
+        return (zeichen >= 'a' && zeichen <= 'z') || (zeichen >= '0' && zeichen <= '9');
+    }
+
+    std::string text_;
+    std::string gefaltet_;
+};
+
+class PruefTreffer : public Texttreffer
+{
+public:
+    PruefTreffer(const TextColumn& spalte, std::function<bool(std::string_view)> pruefung)
+        : Texttreffer(spalte, false), pruefung_(std::move(pruefung))
+    {}
+
+protected:
+    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    {
+        for (Textcode code = von; code < bis; ++code)
+            urteil[code] = pruefung_(texte().text(code));
+    }
+
+private:
+    std::function<bool(std::string_view)> pruefung_;
+};
+
+} // namespace
+
+std::size_t findeBytes(std::string_view bytes, std::string_view gesucht, std::size_t ab)
+{
+    const std::size_t abstand = gesucht.size() - 1;
+    while (ab + FENSTER + abstand <= bytes.size()) {
+        if (kannTreffen(bytes.data() + ab, abstand, gesucht.front(), gesucht.back())) {
+            const std::size_t treffer = bytes.substr(0, ab + FENSTER + abstand).find(gesucht, ab);
+            if (treffer != std::string_view::npos)
+                return treffer;
+        }
+        ab += FENSTER;
+    }
+    return bytes.find(gesucht, ab);
+}
+
+Texttreffer::Texttreffer(const TextColumn& spalte, bool verneint)
+    : spalte_(spalte), verneint_(verneint), urteil_(spalte.texte().anzahl()),
+      bewertet_((urteil_.size() >> BLOCKBITS) + 1)
+{}
+
+void Texttreffer::behalte(std::vector<Zeilennummer>& zeilen)
+{
+    const Textcode* codes = spalte_.codes().data();
+    std::size_t bleiben = 0;
+    for (const Zeilennummer zeile : zeilen) {
+        const Textcode code = codes[zeile];
+        if (!bewertet_[code >> BLOCKBITS])
+            bewerteBlock(code >> BLOCKBITS);
+        zeilen[bleiben] = zeile;
+        bleiben += urteil_[code];
+    }
+    zeilen.resize(bleiben);
+}
+
+void Texttreffer::bewerteBlock(std::size_t block)
+{
+    bewertet_[block] = 1;
+    const auto von = static_cast<Textcode>(block << BLOCKBITS);
+    const auto bis = static_cast<Textcode>(std::min<std::size_t>(von + (std::size_t{1} << BLOCKBITS), urteil_.size()));
+    bewerte(von, bis, urteil_);
+    if (verneint_)
+        for (Textcode code = von; code < bis; ++code)
+            urteil_[code] ^= 1;
+    if (von == 0)
+        urteil_[0] = 0;
+}
+
+std::unique_ptr<Texttreffer> likeTreffer(const TextColumn& spalte, std::string_view muster, Wildcards platzhalter,
+                                         bool verneint)
+{
+    return std::make_unique<LikeTreffer>(spalte, LikePattern(muster, platzhalter), verneint);
+}
+
+std::unique_ptr<Texttreffer> gleichTreffer(const TextColumn& spalte, std::string_view text, bool verneint)
+{
+    return std::make_unique<GleichTreffer>(spalte, text, verneint);
+}
+
+std::unique_ptr<Texttreffer> pruefTreffer(const TextColumn& spalte, std::function<bool(std::string_view)> pruefung)
+{
+    return std::make_unique<PruefTreffer>(spalte, std::move(pruefung));
+}
+
+} // namespace quelvarn

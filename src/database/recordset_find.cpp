@@ -1,0 +1,152 @@
+#include "database/filter_evaluator.h"
+#include "database/recordset.h"
+#include "database/recordset_core.h"
+#include "database/recordset_sort.h"
+#include "database/sql/parser.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::size_t ERSTER_SCHRITT = 256;
+constexpr std::size_t GROESSTER_SCHRITT = 1 << 16;
+
+std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck, const Zeilenspeicher& zeilen,
+                                        Wildcards platzhalter)
+{
+    return baueAuswahl(
+        ausdruck, [&](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); },
+        platzhalter);
+}
+
+} // namespace
+
+void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt)
+{
+    Kern& kern = *kern_;
+    kern.beendeBearbeitung();
+    const sql::AusdruckZeiger bedingung = sql::parseBedingung(ausdruck);
+    if (!bedingung) {
+        kern.zeigeAlle();
+    } else {
+        if (!kern.ladeGenannte(*bedingung, fortschritt))
+            return;
+        const auto auswahl = baueAuswahlVon(*bedingung, kern.zeilen, Wildcards::Filter);
+        auto gefundene = kern.alleZeilen();
+        auswahl->behalte(gefundene);
+        kern.zeige(std::move(gefundene));
+    }
+    kern.filterText = ausdruck;
+}
+
+const std::string& Recordset::filterText() const
+{
+    return kern_->filterText;
+}
+
+void Recordset::Sort(std::string_view ausdruck)
+{
+    Kern& kern = *kern_;
+    kern.beendeBearbeitung();
+    const auto felder = leseSortierung(ausdruck, [&](std::string_view name) { return kern.zeilen.feldVon(name); });
+    std::vector<std::size_t> nummern;
+    for (const Sortierfeld& feld : felder)
+        nummern.push_back(feld.feld);
+    kern.zeilen.lade(nummern, {});
+
+    std::vector<bool> gezeigt(kern.zeilen.anzahl());
+    for (const Zeilennummer zeile : kern.ansicht.ausschnitt(0, kern.ansicht.anzahl()))
+        gezeigt[zeile] = true;
+    kern.sortiert = false;
+    kern.ordnung.clear();
+    auto reihe = kern.alleZeilen();
+    if (!felder.empty()) {
+        sortiere(reihe, felder, [&](std::size_t feld) -> const Column& { return kern.zeilen.spalte(feld); });
+        kern.ordnung = reihe;
+        kern.sortiert = true;
+    }
+    std::erase_if(reihe, [&](Zeilennummer zeile) { return !gezeigt[zeile]; });
+    kern.zeige(std::move(reihe));
+}
+
+bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang)
+{
+    Kern& kern = *kern_;
+    kern.beendeBearbeitung();
+    const sql::AusdruckZeiger bedingung = sql::parseBedingung(kriterium);
+    if (!bedingung)
+        throw recordsetFehler(3001, "Das Suchkriterium ist leer.");
+    kern.ladeGenannte(*bedingung, {});
+    const auto auswahl = baueAuswahlVon(*bedingung, kern.zeilen, Wildcards::Sql);
+
+    const bool vorwaerts = richtung == Suchrichtung::Vorwaerts;
+    const auto anzahl = static_cast<std::ptrdiff_t>(kern.ansicht.anzahl());
+    const std::ptrdiff_t anfang = vorwaerts ? 0 : anzahl - 1;
+    const std::ptrdiff_t start = vonAnfang ? anfang : kern.position;
+    const auto weiter = static_cast<std::ptrdiff_t>(std::min(ueberspringe, kern.ansicht.anzahl()));
+    const auto gefunden = kern.findePosition(*auswahl, vorwaerts ? start + weiter : start - weiter, vorwaerts);
+    kern.position = gefunden.value_or(vorwaerts ? anzahl : -1);
+    return gefunden.has_value();
+}
+
+std::optional<std::ptrdiff_t> Recordset::Kern::findePosition(Auswahl& auswahl, std::ptrdiff_t ab, bool vorwaerts) const
+{
+    const auto anzahl = static_cast<std::ptrdiff_t>(ansicht.anzahl());
+    ab = std::clamp<std::ptrdiff_t>(ab, vorwaerts ? 0 : -1, vorwaerts ? anzahl : anzahl - 1);
+    for (auto schritt = static_cast<std::ptrdiff_t>(ERSTER_SCHRITT); vorwaerts ? ab < anzahl : ab >= 0;
+         schritt = std::min<std::ptrdiff_t>(schritt * 4, GROESSTER_SCHRITT)) {
+        const std::ptrdiff_t von = vorwaerts ? ab : std::max<std::ptrdiff_t>(ab + 1 - schritt, 0);
+        const std::ptrdiff_t bis = vorwaerts ? std::min(ab + schritt, anzahl) : ab + 1;
+        const auto alle = ansicht.ausschnitt(static_cast<std::size_t>(von), static_cast<std::size_t>(bis));
+        auto treffer = alle;
+        auswahl.behalte(treffer);
+        if (!treffer.empty()) {
+            const Zeilennummer gesucht = vorwaerts ? treffer.front() : treffer.back();
+            return von + (std::find(alle.begin(), alle.end(), gesucht) - alle.begin());
+        }
+        ab = vorwaerts ? bis : von - 1;
+    }
+    return std::nullopt;
+}
+
+std::vector<Zeilennummer> Recordset::Kern::alleZeilen() const
+{
+    if (sortiert)
+        return ordnung;
+    std::vector<Zeilennummer> alle(zeilen.anzahl());
+    std::iota(alle.begin(), alle.end(), Zeilennummer{0});
+    if (!geloescht.empty())
+        std::erase_if(
+            alle, [&](Zeilennummer zeile) { return std::binary_search(geloescht.begin(), geloescht.end(), zeile); });
+    return alle;
+}
+
+void Recordset::Kern::zeigeAlle()
+{
+    if (sortiert || !geloescht.empty())
+        zeige(alleZeilen());
+    else
+        ansicht.zeigeAlle(zeilen.anzahl());
+    position = 0;
+    puffer.leere();
+}
+
+void Recordset::Kern::zeige(std::vector<Zeilennummer> gefundene)
+{
+    ansicht.zeige(std::move(gefundene), !sortiert);
+    position = 0;
+    puffer.leere();
+}
+
+bool Recordset::Kern::ladeGenannte(const sql::Ausdruck& ausdruck, const Fortschritt& fortschritt)
+{
+    std::vector<std::size_t> felder;
+    for (const std::string& name : genannteSpalten(ausdruck))
+        felder.push_back(zeilen.feldVon(name));
+    return zeilen.lade(felder, fortschritt);
+}
+
+} // namespace quelvarn
