@@ -14,3 +14,8 @@ if(QUELVARN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+if(QUELVARN_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -g1)
+  add_link_options(-fsanitize=address,undefined)
+endif()
