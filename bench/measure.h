@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quelvarn::bench {
+
+// One figure with what it must not exceed.
+struct Messung
+{
+    std::string name;
+    std::string einheit = "ms";
+    double median = 0;
+    std::optional<std::string> peer; // What it is compared with; nothing for a bound of its own.
+    std::optional<double> peerMedian;
+    double verhaeltnis = 0; // To the peer, or to the bound itself.
+    double grenze = 0;      // Of the ratio with a peer; otherwise in the unit of the figure.
+    bool gehalten() const { return verhaeltnis <= (peer ? grenze : 1.0); }
+};
+
+// A piece of work to be timed, with what has to be got ready before each run.
+struct Arbeit
+{
+    std::function<void()> tat;
+    std::function<void()> vorher = [] {};
+};
+
+// Takes the figures of one run of the program.
+class Messreihe
+{
+public:
+    explicit Messreihe(int laeufe) : laeufe_(laeufe) {}
+
+    // The median of our time against that of the peer; the two take turns.
+    void vergleiche(std::string name, double grenze, const Arbeit& unsere, std::string peer, const Arbeit& andere);
+    void begrenze(std::string name, double grenzeMs, const Arbeit& unsere);
+    void begrenzeGroesse(std::string name, std::string einheit, double grenze, double wert);
+
+    const std::vector<Messung>& messungen() const { return messungen_; }
+
+private:
+    int laeufe_;
+    std::vector<Messung> messungen_;
+};
+
+} // namespace quelvarn::bench
