@@ -1,0 +1,116 @@
+#include "session/register_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace quelvarn {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+using FirstLogin = RegisterTest;
+
+TEST_F(FirstLogin, GreetsTheUserAndWritesHisRows)
+{
+    world.meldungen.antworte();
+    ASSERT_TRUE(Hauptprogramm(session, ports));
+    EXPECT_EQ(world.meldungen.letzte().titel, "");
+    EXPECT_THAT(world.meldungen.letzte().text,
+                StartsWith("*******************************\n\n                 W i l l k o m m e n\n\n"));
+    EXPECT_THAT(world.meldungen.letzte().text,
+                ::testing::HasSubstr("Anwender:\n\nmueller\n\nin Quelvarnis angemeldet.\n\nIhre Berechtigung ist:\n"
+                                     "     0 (Verfügbar)            Nein\n"));
+
+    const std::string eigene = "Feld1 = 'mueller' AND Feld2 = ";
+    EXPECT_THAT(iniZeilen(eigene + "'Berechtigung'"),
+                ElementsAre("mueller|Berechtigung|0_Status|0|0", "mueller|Berechtigung|1_Status|0|0",
+                            "mueller|Berechtigung|2_Status|0|0", "mueller|Berechtigung|3_Status|1|0",
+                            "mueller|Berechtigung|4_Status|1|0", "mueller|Berechtigung|5_Status|0|0"));
+    EXPECT_THAT(iniZeilen(eigene + "'Sicherung'"),
+                ElementsAre("mueller|Sicherung|BearbeitenVon|~|~", "mueller|Sicherung|SpeichernIn|~|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Nachricht'"),
+                ElementsAre("mueller|Nachricht|Weiterleiten|Quelvarn|1", "mueller|Nachricht|Workflow|Quelvarn|1"));
+    EXPECT_THAT(iniZeilen(eigene + "'ActiveQuelvarn'"), ElementsAre("mueller|ActiveQuelvarn|0|~|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Starttabelle'"), ElementsAre("mueller|Starttabelle|Bauteile|~|~"));
+    EXPECT_THAT(
+        iniZeilen(eigene + "'Treeview'"),
+        ElementsAre("mueller|Treeview|Knoten|1|Knoten immer geöffnet",
+                    "mueller|Treeview|Verwendung|1|Verwendung anzeigen",
+                    "mueller|Treeview|TIFFDoku|1|TIFF-Dokumente (bei Zeichnung)",
+                    "mueller|Treeview|PDFDoku|1|PDF-Dokumente (bei Zeichnung)", "mueller|Treeview|Revision|1|Revision",
+                    "mueller|Treeview|HauptMerk|1|Hauptmerkmale und Hauptwerte",
+                    "mueller|Treeview|BenutzDef|1|Benutzerdefinierte Eigenschaften",
+                    "mueller|Treeview|StichKomm|1|Stichwörter / Kommentar",
+                    "mueller|Treeview|ZusDoku|1|Zusätzliche Dokumente", "mueller|Treeview|Versendet|1|Versendet an"));
+    EXPECT_THAT(iniZeilen(eigene + "'OfflineDaten'"), ElementsAre("mueller|OfflineDaten|Plot|(1)|Export"));
+    EXPECT_THAT(iniZeilen(eigene + "'ZipDaten'"), ElementsAre("mueller|ZipDaten|Normal|Tarnwort|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Plot'"),
+                ElementsAre("mueller|Plot|Printer|Buero|~", "mueller|Plot|PaperSize|Wie in Solid Edge|~",
+                            "mueller|Plot|ColorMode|Schwarz|~", "mueller|Plot|NumCopies|1|~",
+                            "mueller|Plot|Orientation|Ermitteln|~", "mueller|Plot|PlotScale|1|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'PDF'"),
+                ElementsAre("mueller|PDF|Printer|Buero|~", "mueller|PDF|PaperSize|Wie in Solid Edge|~",
+                            "mueller|PDF|ColorMode|Schwarz|~", "mueller|PDF|NumCopies|300|~",
+                            "mueller|PDF|Orientation|Ermitteln|~", "mueller|PDF|PlotScale|1|~",
+                            "mueller|PDF|Pfadname|1|C:\\SE"));
+    EXPECT_EQ(iniZeilen("Feld1 = 'mueller'").size(), 8u + 2 + 1 + 1 + 10 + 1 + 1 + 6 + 7);
+    EXPECT_EQ(iniZeilen("Feld1 = '!QV_Ini'").size(), 10u + 1 + 10 + 1); // Offline tool, ten printers, PDF printer.
+}
+
+TEST_F(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
+{
+    meldeAn();
+    const auto vorher = iniZeilen("Feld2 Like '%'");
+    const auto pruefe = [this] {
+        EXPECT_EQ(session.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
+        EXPECT_EQ(session.Bezeichnungen.at("projekt"), "Auftrag");
+        EXPECT_EQ(session.Bezeichnungen.at("stichwörter"), "Stichwörter");
+        EXPECT_EQ(session.mehrzahl(6) + session.einzahl(5), "NormteileSondertabelle1");
+        EXPECT_EQ(session.PlotPfad, "W:\\Plot");
+        EXPECT_TRUE(session.CheckInOutOn && session.ForwardOn && session.MeldenWeiterleiten && session.MeldenWorkflow);
+        EXPECT_TRUE(session.CheckInOut.offen());
+        EXPECT_EQ(session.Zeitintervall, 30000);
+        EXPECT_EQ(session.ZeitintervallText, " (Zeitintervall = 30,0 Sek.)");
+        EXPECT_EQ(session.PlotVorgabe.Printer, "Buero");
+        EXPECT_EQ(session.PdfVorgabe.ColorMode, "In Farbe");
+        EXPECT_EQ(session.PdfVorgabe.Pfad, "C:\\SE");
+        EXPECT_FALSE(session.PlotDruckerKomplett);
+        EXPECT_TRUE(session.Tree.Versendet);
+    };
+    pruefe();
+    ASSERT_TRUE(Hauptprogramm(session, ports));
+    pruefe();
+    EXPECT_EQ(iniZeilen("Feld2 Like '%'"), vorher);
+}
+
+TEST_F(FirstLogin, WithoutAPrinterNoPrintRowsAreWrittenUntilThereIsOne)
+{
+    world.drucker.standarddrucker.reset();
+    meldeAn();
+    EXPECT_EQ(session.PlotVorgabe.Printer, "");
+    EXPECT_EQ(session.PlotVorgabe.PaperSize, "Wie in Solid Edge");
+    EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND (Feld2 = 'Plot' OR Feld2 = 'PDF')"), IsEmpty());
+
+    world.drucker.standarddrucker = Standarddrucker{"Neu"};
+    ASSERT_TRUE(Hauptprogramm(session, ports));
+    EXPECT_EQ(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'PDF'").size(), 7u);
+}
+
+TEST_F(FirstLogin, AnEmptyTableOfSettingsIsARegister)
+{
+    loesche("Feld2 Like '%'");
+    world.meldungen.erlaubeHinweise();
+    EXPECT_TRUE(Hauptprogramm(session, ports));
+    std::vector<std::string> titel;
+    for (const Meldung& meldung : world.meldungen.gezeigt)
+        titel.push_back(meldung.titel);
+    EXPECT_THAT(titel,
+                ElementsAre("", "Modul: Falscher Eintrag Ini-Tabelle", "Modul: Falscher Eintrag Ini-Tabelle",
+                            "Modul: Falscher Eintrag Ini-Tabelle", "Modul: Falscher oder fehlender Eintrag Ini-Tabelle",
+                            "Modul: Falscher oder fehlender Eintrag Ini-Tabelle"));
+    EXPECT_FALSE(session.CheckInOutOn || session.ForwardOn);
+    EXPECT_EQ(session.ZeitintervallText, " (Zeitintervall = 0,0 Sek.)");
+    EXPECT_THAT(iniZeilen("Feld2 = 'Nachricht'"), IsEmpty());
+}
+
+} // namespace quelvarn

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "base/text.h"
+#include "database/connection.h"
+#include "database/create.h"
+#include "database/recordset.h"
+#include "fakes/fake_ports.h"
+#include "fakes/temp_folder.h"
+#include "session/program.h"
+#include "session/session_state.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace quelvarn {
+
+inline constexpr const char* REGISTERPFAD = "W:\\Daten\\werk.mdb";
+
+// A session of the user "mueller" in front of a register on disk. Rows of Ini are written as lines,
+// "Feld1|Feld2|Feld3|Feld4|Feld5"; "~" is Null.
+class RegisterTest : public ::testing::Test
+{
+protected:
+    RegisterTest()
+    {
+        session.Anwender = "mueller";
+        session.Rechner = "CAD-PC-7";
+        session.OrdnerSEDokumente = "C:\\SE";
+        session.OrdnerDatenbankPfad = "C:";
+        const auto engine = oeffneSqlite(datei, true);
+        legeRegisterAn(*engine);
+        db.Open(datei);
+        world.dateien.verbinde(REGISTERPFAD, datei);
+        world.dateien.legeAn("W:\\Plot\\x.txt");
+        world.dateien.legeAn("W:\\Anderes\\notiz.txt");
+        session.DatenbankPfad = REGISTERPFAD;
+        // What a well kept installation has.
+        fuegeEin({"!QV_Ini|Bezeichnung|Projekt|Auftrag|~", "!QV_Ini|Tabelle|Sondertabelle2|Normteile|~",
+                  "!QV_Ini|Plot|Pfadname|~|W:\\Plot", "!QV_Ini|OnOff|CheckInOut|1|~", "!QV_Ini|OnOff|Forward|1|~",
+                  "!QV_Ini|WriteDB|Zeitinterval|30000|~", "!QV_Ini|WriteDB|PART|01.03.2004 08:00:00|~",
+                  "!QV_Ini|WriteDB|DRAFT|gestern|~", "!QV_Ini|WriteDB|ASSEMB|~|~", "!QV_Ini|WriteDB|WELD|~|~"});
+    }
+
+    void fuegeEin(const std::vector<std::string>& zeilen)
+    {
+        for (const std::string& zeile : zeilen) {
+            std::vector<sql::Zuweisung> werte;
+            for (const std::string& feld : split(zeile, '|'))
+                werte.push_back({"Feld" + std::to_string(werte.size() + 1), feld == "~" ? Value() : Value(feld)});
+            db.engine().fuegeEin("Ini", werte);
+        }
+    }
+    void loesche(const std::string& bedingung) { db.Execute("DELETE FROM Ini WHERE " + bedingung); }
+
+    std::vector<std::string> iniZeilen(const std::string& bedingung)
+    {
+        Recordset zeilen;
+        zeilen.Open("SELECT * FROM Ini WHERE " + bedingung, db);
+        std::vector<std::string> texte;
+        for (; !zeilen.Eof(); zeilen.MoveNext()) {
+            std::vector<std::string> felder;
+            for (const char* feld : {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"})
+                felder.push_back(istNull(zeilen.Feld(feld)) ? "~" : zeilen.Text(feld));
+            texte.push_back(join(felder, "|"));
+        }
+        return texte;
+    }
+
+    // The user's first start, with its welcome.
+    void meldeAn()
+    {
+        world.meldungen.antworte();
+        ASSERT_TRUE(Hauptprogramm(session, ports));
+        session.DatenbankOk = true;
+        world.meldungen.gezeigt.clear();
+    }
+
+    TempFolder ordner;
+    std::filesystem::path datei = ordner / "werk.mdb";
+    Connection db;
+    FakePorts world;
+    Ports ports = world.ports();
+    SessionState session;
+};
+
+} // namespace quelvarn
