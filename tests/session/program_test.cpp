@@ -4,7 +4,7 @@
 #include "session/local_settings.h"
 #include "session/program.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace quelvarn {
 
