@@ -119,10 +119,13 @@ bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschni
     return true;
 }
 
+// Nothing that needs the register may seem to be there.
 void verwirf(SessionState& session)
 {
     trenne(session);
     session.DatenbankPfad.clear();
+    session.CheckInOutOn = session.ForwardOn = session.ActiveQuelvarn = false;
+    setzeZeitintervall(session, 0);
 }
 
 } // namespace

@@ -18,11 +18,11 @@ std::string versionstext();
 std::string fenstertitel(const SessionState& session);
 
 // Start-up: who, where, folders, last database, Hauptprogramm. Opens no window.
-// False when a fault was reported and the program must not go on.
+// False when a fault was reported and the user chose to go on all the same; no database is open then.
 bool Main(SessionState& session, Ports& ports);
 
 // Opens session.DatenbankPfad, tests that it is a register, reads and repairs the Ini rows and fills the session.
-// On false the user has been told why.
+// On false the user has been told why, and nothing of the register is left in the session.
 bool Hauptprogramm(SessionState& session, Ports& ports);
 
 // How many windows with this program's caption run on this computer.

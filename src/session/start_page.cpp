@@ -190,11 +190,10 @@ void StartPage::oeffnen()
 
 void StartPage::datenbankVerloren()
 {
-    session_.ActiveQuelvarn = false;
-    session_.ForwardOn = false;
     session_.DatenbankOk = false;
     activeSESichtbar_ = false;
     rahmen_.stelleWerkzeugeEin();
+    rahmen_.RefreshStatusBar();
     rahmen_.stelleZeitgeberEin();
 }
 

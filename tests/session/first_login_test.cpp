@@ -7,6 +7,7 @@ namespace quelvarn {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
+using ::testing::UnorderedElementsAre;
 
 using FirstLogin = RegisterTest;
 
@@ -23,18 +24,18 @@ TEST_F(FirstLogin, GreetsTheUserAndWritesHisRows)
 
     const std::string eigene = "Feld1 = 'mueller' AND Feld2 = ";
     EXPECT_THAT(iniZeilen(eigene + "'Berechtigung'"),
-                ElementsAre("mueller|Berechtigung|0_Status|0|0", "mueller|Berechtigung|1_Status|0|0",
-                            "mueller|Berechtigung|2_Status|0|0", "mueller|Berechtigung|3_Status|1|0",
-                            "mueller|Berechtigung|4_Status|1|0", "mueller|Berechtigung|5_Status|0|0"));
+                UnorderedElementsAre("mueller|Berechtigung|0_Status|0|0", "mueller|Berechtigung|1_Status|0|0",
+                                     "mueller|Berechtigung|2_Status|0|0", "mueller|Berechtigung|3_Status|1|0",
+                                     "mueller|Berechtigung|4_Status|1|0", "mueller|Berechtigung|5_Status|0|0"));
     EXPECT_THAT(iniZeilen(eigene + "'Sicherung'"),
-                ElementsAre("mueller|Sicherung|BearbeitenVon|~|~", "mueller|Sicherung|SpeichernIn|~|~"));
-    EXPECT_THAT(iniZeilen(eigene + "'Nachricht'"),
-                ElementsAre("mueller|Nachricht|Weiterleiten|Quelvarn|1", "mueller|Nachricht|Workflow|Quelvarn|1"));
-    EXPECT_THAT(iniZeilen(eigene + "'ActiveQuelvarn'"), ElementsAre("mueller|ActiveQuelvarn|0|~|~"));
-    EXPECT_THAT(iniZeilen(eigene + "'Starttabelle'"), ElementsAre("mueller|Starttabelle|Bauteile|~|~"));
-    EXPECT_THAT(
-        iniZeilen(eigene + "'Treeview'"),
-        ElementsAre("mueller|Treeview|Knoten|1|Knoten immer geöffnet",
+                UnorderedElementsAre("mueller|Sicherung|BearbeitenVon|~|~", "mueller|Sicherung|SpeichernIn|~|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Nachricht'"), UnorderedElementsAre("mueller|Nachricht|Weiterleiten|Quelvarn|1",
+                                                                        "mueller|Nachricht|Workflow|Quelvarn|1"));
+    EXPECT_THAT(iniZeilen(eigene + "'ActiveQuelvarn'"), UnorderedElementsAre("mueller|ActiveQuelvarn|0|~|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Starttabelle'"), UnorderedElementsAre("mueller|Starttabelle|Bauteile|~|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'Treeview'"),
+                UnorderedElementsAre(
+                    "mueller|Treeview|Knoten|1|Knoten immer geöffnet",
                     "mueller|Treeview|Verwendung|1|Verwendung anzeigen",
                     "mueller|Treeview|TIFFDoku|1|TIFF-Dokumente (bei Zeichnung)",
                     "mueller|Treeview|PDFDoku|1|PDF-Dokumente (bei Zeichnung)", "mueller|Treeview|Revision|1|Revision",
@@ -42,17 +43,17 @@ TEST_F(FirstLogin, GreetsTheUserAndWritesHisRows)
                     "mueller|Treeview|BenutzDef|1|Benutzerdefinierte Eigenschaften",
                     "mueller|Treeview|StichKomm|1|Stichwörter / Kommentar",
                     "mueller|Treeview|ZusDoku|1|Zusätzliche Dokumente", "mueller|Treeview|Versendet|1|Versendet an"));
-    EXPECT_THAT(iniZeilen(eigene + "'OfflineDaten'"), ElementsAre("mueller|OfflineDaten|Plot|(1)|Export"));
-    EXPECT_THAT(iniZeilen(eigene + "'ZipDaten'"), ElementsAre("mueller|ZipDaten|Normal|Tarnwort|~"));
+    EXPECT_THAT(iniZeilen(eigene + "'OfflineDaten'"), UnorderedElementsAre("mueller|OfflineDaten|Plot|(1)|Export"));
+    EXPECT_THAT(iniZeilen(eigene + "'ZipDaten'"), UnorderedElementsAre("mueller|ZipDaten|Normal|Tarnwort|~"));
     EXPECT_THAT(iniZeilen(eigene + "'Plot'"),
-                ElementsAre("mueller|Plot|Printer|Buero|~", "mueller|Plot|PaperSize|Wie in Solid Edge|~",
-                            "mueller|Plot|ColorMode|Schwarz|~", "mueller|Plot|NumCopies|1|~",
-                            "mueller|Plot|Orientation|Ermitteln|~", "mueller|Plot|PlotScale|1|~"));
+                UnorderedElementsAre("mueller|Plot|Printer|Buero|~", "mueller|Plot|PaperSize|Wie in Solid Edge|~",
+                                     "mueller|Plot|ColorMode|Schwarz|~", "mueller|Plot|NumCopies|1|~",
+                                     "mueller|Plot|Orientation|Ermitteln|~", "mueller|Plot|PlotScale|1|~"));
     EXPECT_THAT(iniZeilen(eigene + "'PDF'"),
-                ElementsAre("mueller|PDF|Printer|Buero|~", "mueller|PDF|PaperSize|Wie in Solid Edge|~",
-                            "mueller|PDF|ColorMode|Schwarz|~", "mueller|PDF|NumCopies|300|~",
-                            "mueller|PDF|Orientation|Ermitteln|~", "mueller|PDF|PlotScale|1|~",
-                            "mueller|PDF|Pfadname|1|C:\\SE"));
+                UnorderedElementsAre("mueller|PDF|Printer|Buero|~", "mueller|PDF|PaperSize|Wie in Solid Edge|~",
+                                     "mueller|PDF|ColorMode|Schwarz|~", "mueller|PDF|NumCopies|300|~",
+                                     "mueller|PDF|Orientation|Ermitteln|~", "mueller|PDF|PlotScale|1|~",
+                                     "mueller|PDF|Pfadname|1|C:\\SE"));
     EXPECT_EQ(iniZeilen("Feld1 = 'mueller'").size(), 8u + 2 + 1 + 1 + 10 + 1 + 1 + 6 + 7);
     EXPECT_EQ(iniZeilen("Feld1 = '!QV_Ini'").size(), 10u + 1 + 10 + 1); // Offline tool, ten printers, PDF printer.
 }

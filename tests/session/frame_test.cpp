@@ -7,7 +7,7 @@
 namespace quelvarn {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
+using ::testing::UnorderedElementsAre;
 
 namespace {
 
@@ -256,9 +256,9 @@ TEST_F(Frame, SettingsOfTheStartPageAreWrittenWhenItUnloads)
     EXPECT_TRUE(beendet);
     EXPECT_FALSE(session.Verbindung.offen());
     EXPECT_THAT(beobachter.ereignisse, ElementsAre("Baum", "Baum", "Offline", "entladen"));
-    EXPECT_THAT(
-        iniZeilen("Feld2 = 'Treeview' AND Feld4 = '0'"),
-        ElementsAre("mueller|Treeview|Verwendung|0|Verwendung anzeigen", "mueller|Treeview|Versendet|0|Versendet an"));
+    EXPECT_THAT(iniZeilen("Feld2 = 'Treeview' AND Feld4 = '0'"),
+                UnorderedElementsAre("mueller|Treeview|Verwendung|0|Verwendung anzeigen",
+                                     "mueller|Treeview|Versendet|0|Versendet an"));
     EXPECT_THAT(iniZeilen("Feld2 = 'ActiveQuelvarn'"), ElementsAre("mueller|ActiveQuelvarn|1|~|~"));
     EXPECT_THAT(iniZeilen("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Druvik|~"));
 }

@@ -68,6 +68,13 @@ std::string druckerzeilen(int anzahl)
     return join(zeilen, ";");
 }
 
+std::vector<std::string> zerlegt(const std::string& zeilen)
+{
+    std::vector<std::string> einzeln = zeilen.empty() ? std::vector<std::string>{} : split(zeilen, ';');
+    std::sort(einzeln.begin(), einzeln.end());
+    return einzeln;
+}
+
 const std::string FALSCH = "Modul: Falscher Eintrag Ini-Tabelle";
 const std::string FEHLT = "Modul: Falscher oder fehlender Eintrag Ini-Tabelle";
 const std::string DRUCKER = "Plotter/Drucker ermitteln";
@@ -181,14 +188,13 @@ protected:
             const std::vector<std::string> sonst = iniZeilen("Not (" + fall.gruppe + ")");
             const std::vector<std::string> urspruenglich = iniZeilen(fall.gruppe);
             loesche(fall.gruppe);
-            if (!fall.vorher.empty())
-                fuegeEin(split(fall.vorher, ';'));
+            fuegeEin(zerlegt(fall.vorher));
             if (!fall.titel.empty())
                 world.meldungen.erwarte(fall.titel, fall.text);
 
             ASSERT_TRUE(Hauptprogramm(session, ports));
             EXPECT_EQ(felder(session).at(fall.feld), fall.erwartet);
-            EXPECT_EQ(join(iniZeilen(fall.gruppe), ";"), fall.nachher == "=" ? fall.vorher : fall.nachher);
+            EXPECT_EQ(iniZeilen(fall.gruppe), zerlegt(fall.nachher == "=" ? fall.vorher : fall.nachher));
             EXPECT_EQ(iniZeilen("Not (" + fall.gruppe + ")"), sonst);
 
             loesche(fall.gruppe);

@@ -9,6 +9,7 @@
 #include "session/program.h"
 #include "session/session_state.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -44,15 +45,18 @@ protected:
 
     void fuegeEin(const std::vector<std::string>& zeilen)
     {
+        Transaktion zusammen(db);
         for (const std::string& zeile : zeilen) {
             std::vector<sql::Zuweisung> werte;
             for (const std::string& feld : split(zeile, '|'))
                 werte.push_back({"Feld" + std::to_string(werte.size() + 1), feld == "~" ? Value() : Value(feld)});
             db.engine().fuegeEin("Ini", werte);
         }
+        zusammen.schliesseAb();
     }
     void loesche(const std::string& bedingung) { db.Execute("DELETE FROM Ini WHERE " + bedingung); }
 
+    // Sorted: rows come in no order of their own.
     std::vector<std::string> iniZeilen(const std::string& bedingung)
     {
         Recordset zeilen;
@@ -64,6 +68,7 @@ protected:
                 felder.push_back(istNull(zeilen.Feld(feld)) ? "~" : zeilen.Text(feld));
             texte.push_back(join(felder, "|"));
         }
+        std::sort(texte.begin(), texte.end());
         return texte;
     }
 

@@ -34,6 +34,7 @@ void leseForward(Startlauf& lauf);
 void leseNachricht(Startlauf& lauf);
 void leseActiveQuelvarn(Startlauf& lauf);
 void leseZeitintervall(Startlauf& lauf);
+void setzeZeitintervall(SessionState& session, int millisekunden);
 void leseStarttabelle(Startlauf& lauf);
 void leseTreeview(Startlauf& lauf);
 

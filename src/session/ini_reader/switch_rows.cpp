@@ -103,9 +103,14 @@ void leseActiveQuelvarn(Startlauf& lauf)
         lauf.ini.fuegeAn({anwender, "ActiveQuelvarn", "0"});
 }
 
+void setzeZeitintervall(SessionState& session, int millisekunden)
+{
+    session.Zeitintervall = millisekunden;
+    session.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(millisekunden / 1000.0));
+}
+
 void leseZeitintervall(Startlauf& lauf)
 {
-    SessionState& session = lauf.session;
     Recordset zeilen =
         lauf.ini.lese("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
                       "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')");
@@ -116,9 +121,7 @@ void leseZeitintervall(Startlauf& lauf)
         lauf.ports.meldungen.warnung("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
         wert = GROESSTES_INTERVALL;
     }
-    session.Zeitintervall = static_cast<int>(wert);
-    session.ZeitintervallText =
-        fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(static_cast<double>(wert) / 1000.0));
+    setzeZeitintervall(lauf.session, static_cast<int>(wert));
 }
 
 void leseStarttabelle(Startlauf& lauf)
