@@ -8,7 +8,14 @@ DocumentPage::DocumentPage(SessionState& session, Ports& ports) : session_(sessi
 
 void DocumentPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
 {
-    gesichert(ports_.meldungen, titel, text, operation);
+    gesichert(ports_.meldungen, titel, text, [&] {
+        try {
+            operation();
+        } catch (...) {
+            melde(); // The box lets the window repaint: it must not show rows that are gone by now.
+            throw;
+        }
+    });
     melde();
 }
 
@@ -31,6 +38,12 @@ void DocumentPage::melde()
 {
     if (geaendert)
         geaendert();
+}
+
+void DocumentPage::zeilenGeaendert(int tab)
+{
+    ++seiten_[tab].fassung;
+    melde();
 }
 
 std::string DocumentPage::anzahlText() const

@@ -94,6 +94,8 @@ private:
     void bedieneZeile(const std::function<void()>& operation);
     void berichte(const std::function<void()>& operation);
     void melde();
+    // At once, since a later step may show a box and the window repaints behind it.
+    void zeilenGeaendert(int tab);
     void waehleTab(int tab);
     void wechsle(const Merkzeile* rueckkehr);
     void zeigeZeilen();

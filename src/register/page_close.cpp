@@ -14,6 +14,7 @@ void DocumentPage::schliessen()
     });
     session_.FormSEDokuGeladen = false;
     vergissDatenbank();
+    melde();
 }
 
 void DocumentPage::datenbankWechselt()

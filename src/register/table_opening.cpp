@@ -35,19 +35,18 @@ void DocumentPage::TabelleNeuLaden(int tab)
 
     seite.zustand = NichtOffen;
     seite.anzahl = 0;
-    ++seite.fassung;
     seite.tabelle = Recordset();
     OpenDokuTabelle(seite, typ, session_);
-    if (!dateityp)
-        return;
-    seite.naechstePruefung = ports_.uhr.jetzt().plusSekunden(SEKUNDEN_BIS_PRUEFUNG);
-    aenderungspanel(tab).clear();
+    if (dateityp) {
+        seite.naechstePruefung = ports_.uhr.jetzt().plusSekunden(SEKUNDEN_BIS_PRUEFUNG);
+        aenderungspanel(tab).clear();
+    }
+    zeilenGeaendert(tab);
 }
 
 std::string DocumentPage::leereFilter(int tab)
 {
     Tabellenseite& seite = seiten_[tab];
-    ++seite.fassung;
     seite.zustand = seite.anzahl > 0 ? Offen : Leer;
     seite.FilterErgebnis = Recordset();
     seite.filterListeGefuellt = false;
@@ -61,6 +60,7 @@ void DocumentPage::bindeOhneFilter(int tab)
     Recordset& tabelle = seiten_[tab].tabelle;
     if (tabelle.filterText() != bleibt)
         tabelle.Filter(bleibt);
+    zeilenGeaendert(tab);
 }
 
 void DocumentPage::filterAufheben(int tab)
