@@ -1,6 +1,7 @@
 #include "database/sql/access_text.h"
 
 #include "base/text.h"
+#include "database/sql/comparison_signs.h"
 
 #include <fmt/format.h>
 
@@ -39,34 +40,11 @@ std::string literal(const Value& wert)
     return std::visit(Literal{}, wert);
 }
 
-std::string_view zeichen(Vergleich vergleich)
-{
-    switch (vergleich) {
-    case Vergleich::Gleich:
-        return "=";
-    case Vergleich::Ungleich:
-        return "<>";
-    case Vergleich::Kleiner:
-        return "<";
-    case Vergleich::KleinerGleich:
-        return "<=";
-    case Vergleich::Groesser:
-        return ">";
-    case Vergleich::GroesserGleich:
-        return ">=";
-    case Vergleich::Like:
-        return "Like";
-    case Vergleich::NotLike:
-        break;
-    }
-    return "Not Like";
-}
-
 struct Bedingungstext
 {
     std::string operator()(const Bedingung& b) const
     {
-        return fmt::format("{} {} {}", name(b.spalte), zeichen(b.vergleich), literal(b.wert));
+        return fmt::format("{} {} {}", name(b.spalte), zeichenOf(b.vergleich), literal(b.wert));
     }
     std::string operator()(const IstNull& i) const
     {

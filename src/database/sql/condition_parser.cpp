@@ -1,6 +1,7 @@
 #include "database/sql/condition_parser.h"
 
-#include <array>
+#include "database/sql/comparison_signs.h"
+
 #include <utility>
 
 namespace quelvarn::sql {
@@ -8,19 +9,6 @@ namespace {
 
 // Brackets and NOTs within one another. Keeps a hostile text from using up the stack.
 constexpr int GROESSTE_TIEFE = 200;
-
-struct Zeichen
-{
-    std::string_view text;
-    Vergleich vergleich;
-};
-// The longer signs first.
-constexpr std::array<Zeichen, 6> VERGLEICHSZEICHEN{{{"<>", Vergleich::Ungleich},
-                                                    {"<=", Vergleich::KleinerGleich},
-                                                    {">=", Vergleich::GroesserGleich},
-                                                    {"=", Vergleich::Gleich},
-                                                    {"<", Vergleich::Kleiner},
-                                                    {">", Vergleich::Groesser}}};
 
 template <class T> AusdruckZeiger ausdruck(T inhalt)
 {
@@ -92,7 +80,7 @@ AusdruckZeiger Bedingungsparser::vergleich()
     Spaltenname name = leser_.verlangeSpalte();
     if (!name.tabelle.empty())
         tabellen_.push_back(std::move(name.tabelle));
-    for (const Zeichen& zeichen : VERGLEICHSZEICHEN) {
+    for (const Vergleichszeichen& zeichen : VERGLEICHSZEICHEN) {
         if (leser_.nimmZeichen(zeichen.text))
             return vergleiche(name.spalte, zeichen.vergleich, literal());
     }

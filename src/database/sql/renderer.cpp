@@ -6,34 +6,13 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/sql/column_value.h"
+#include "database/sql/comparison_signs.h"
 
 #include <algorithm>
 #include <cassert>
 #include <fmt/format.h>
 
 namespace quelvarn::sql {
-namespace {
-
-std::string_view zeichen(Vergleich vergleich)
-{
-    switch (vergleich) {
-    case Vergleich::Gleich:
-        return "=";
-    case Vergleich::Kleiner:
-        return "<";
-    case Vergleich::KleinerGleich:
-        return "<=";
-    case Vergleich::Groesser:
-        return ">";
-    case Vergleich::GroesserGleich:
-        return ">=";
-    default:
-        return "<>";
-    }
-}
-
-} // namespace
-
 // Writes one statement, counting the placeholders as it goes.
 class Schreiber
 {
@@ -115,8 +94,8 @@ public:
         if (!literal)
             return std::string(dialekt_.niemals());
         if (gemeint.typ == FeldTyp::Text)
-            return textvergleich(name, zeichen(bedingung.vergleich), std::get<std::string>(*literal));
-        return fmt::format("{} {} {}", name, zeichen(bedingung.vergleich), parameter(*literal, gemeint.typ));
+            return textvergleich(name, zeichenOf(bedingung.vergleich), std::get<std::string>(*literal));
+        return fmt::format("{} {} {}", name, zeichenOf(bedingung.vergleich), parameter(*literal, gemeint.typ));
     }
 
     std::string operator()(const IstNull& istNull) const

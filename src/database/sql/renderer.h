@@ -83,8 +83,8 @@ private:
 // Texts stand in columns of a collation that is blind to case and trailing blanks, dates as ISO texts. Patterns are
 // matched by qv_like(pattern, text). The row key is rowid.
 const Dialekt& sqliteDialekt();
-// Texts are compared by qv_key(text), patterns by qv_fold(text). The row key is qv_id. DISTINCT heeds case: the caller
-// finishes it, then sorts and limits.
+// Texts are compared by qv_key(text), whose results order byte by byte, and matched by qv_fold(text). The row key is
+// qv_id. DISTINCT heeds case: the caller finishes it, then sorts and limits.
 const Dialekt& postgresDialekt();
 
 } // namespace quelvarn::sql
