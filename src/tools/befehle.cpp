@@ -1,0 +1,77 @@
+#include "tools/befehle.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <array>
+
+namespace quelvarn::tools {
+
+namespace {
+
+const std::array<const Befehl*, 6> BEFEHLE{&BEFEHL_CREATE, &BEFEHL_IMPORT, &BEFEHL_SAMPLE,
+                                           &BEFEHL_CHECK,  &BEFEHL_QUERY,  &BEFEHL_RIGHTS};
+
+constexpr std::string_view HILFE = "--help";
+
+std::string uebersicht()
+{
+    std::string text = "Aufruf: qvadmin BEFEHL ...\n\nWerkzeug zur Verwaltung eines Dokumentenregisters.\n\n";
+    for (const Befehl* befehl : BEFEHLE)
+        text += fmt::format("  {:<8} {}\n", befehl->name, befehl->kurz);
+    text += "\nqvadmin BEFEHL --help zeigt, was ein Befehl kann.\n"
+            "ZIEL ist der Pfad einer Datenbank oder eine Adresse postgresql://...\n"
+            "Ergebnis: 0 gut, 1 Fehler, 2 falscher Aufruf.\n";
+    return text;
+}
+
+int bedienfehler(Konsole& konsole, const Befehl& befehl, std::string_view text)
+{
+    const auto aufruf = befehl.hilfe.substr(0, befehl.hilfe.find('\n'));
+    konsole.meldungen << fmt::format("{}\n{}\nMehr mit: qvadmin {} --help\n", text, aufruf, befehl.name);
+    return FALSCH_BEDIENT;
+}
+
+int fuehreAus(const Befehl& befehl, std::span<const std::string> worte, Konsole& konsole)
+{
+    if (std::ranges::find(worte, HILFE) != worte.end()) {
+        konsole.aus << befehl.hilfe;
+        return GUT;
+    }
+    try {
+        const Argumente argumente(worte, befehl.schalter);
+        if (argumente.anzahl() < befehl.mindestens)
+            return bedienfehler(konsole, befehl, "Es fehlt eine Angabe.");
+        if (argumente.anzahl() > befehl.hoechstens)
+            return bedienfehler(konsole, befehl,
+                                fmt::format("Eine Angabe zuviel: {}", argumente.stelle(befehl.hoechstens)));
+        return befehl.ausfuehren(argumente, konsole);
+    } catch (const Bedienfehler& fehler) {
+        return bedienfehler(konsole, befehl, fehler.what());
+    } catch (const std::exception& fehler) {
+        konsole.meldungen << "Fehler: " << fehler.what() << '\n';
+        return FEHLGESCHLAGEN;
+    }
+}
+
+} // namespace
+
+int fuehreAus(std::span<const std::string> worte, Konsole& konsole)
+{
+    if (worte.empty()) {
+        konsole.meldungen << uebersicht();
+        return FALSCH_BEDIENT;
+    }
+    if (worte[0] == HILFE) {
+        konsole.aus << uebersicht();
+        return GUT;
+    }
+    const auto befehl = std::ranges::find(BEFEHLE, worte[0], &Befehl::name);
+    if (befehl == BEFEHLE.end()) {
+        konsole.meldungen << fmt::format("Unbekannter Befehl: {}\n\n{}", worte[0], uebersicht());
+        return FALSCH_BEDIENT;
+    }
+    return fuehreAus(**befehl, worte.subspan(1), konsole);
+}
+
+} // namespace quelvarn::tools
