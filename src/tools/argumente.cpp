@@ -1,9 +1,8 @@
 #include "tools/argumente.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
+#include <fmt/format.h>
 
 namespace quelvarn::tools {
 
@@ -52,8 +51,8 @@ std::optional<std::int64_t> Argumente::findZahl(std::string_view schalter, std::
         return std::nullopt;
     const auto zahl = parseGanzzahl(*text);
     if (!zahl || *zahl < kleinster || *zahl > groesster)
-        throw Bedienfehler(
-            fmt::format("{} braucht eine ganze Zahl von {} bis {}, nicht '{}'.", schalter, kleinster, groesster, *text));
+        throw Bedienfehler(fmt::format("{} braucht eine ganze Zahl von {} bis {}, nicht '{}'.", schalter, kleinster,
+                                       groesster, *text));
     return zahl;
 }
 

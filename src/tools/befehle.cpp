@@ -1,9 +1,8 @@
 #include "tools/befehle.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
+#include <fmt/format.h>
 
 namespace quelvarn::tools {
 

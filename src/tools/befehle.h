@@ -18,7 +18,7 @@ struct Befehl
 {
     std::string_view name;
     std::string_view kurz;
-    std::string_view hilfe; // Whole text of --help; the first line is the call.
+    std::string_view hilfe;     // Whole text of --help; the first line is the call.
     std::size_t mindestens = 1; // Positional arguments.
     std::size_t hoechstens = 1;
     std::span<const Schalter> schalter;

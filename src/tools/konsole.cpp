@@ -2,9 +2,8 @@
 
 #include "base/number_format.h"
 
-#include <fmt/format.h>
-
 #include <csignal>
+#include <fmt/format.h>
 
 namespace quelvarn::tools {
 

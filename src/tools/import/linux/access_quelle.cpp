@@ -5,7 +5,6 @@
 #include "tools/konsole.h"
 
 #include <fmt/format.h>
-
 #include <fstream>
 
 namespace quelvarn::tools {

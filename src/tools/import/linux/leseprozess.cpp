@@ -2,6 +2,10 @@
 
 #include "tools/konsole.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <poll.h>
@@ -9,11 +13,6 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <algorithm>
-#include <cerrno>
-#include <csignal>
-#include <cstring>
 
 namespace quelvarn::tools {
 
@@ -153,7 +152,8 @@ void Leseprozess::fuelle()
     const auto ende = std::chrono::steady_clock::now() + frist_;
     for (;;) {
         pruefeAbbruch();
-        const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(ende - std::chrono::steady_clock::now());
+        const auto rest =
+            std::chrono::duration_cast<std::chrono::milliseconds>(ende - std::chrono::steady_clock::now());
         if (rest.count() <= 0)
             throw werkzeugfehler(fmt::format("Die Access-Datei ist beschädigt: das Lesen kommt seit {} Sekunden nicht "
                                              "voran und wurde beendet.",

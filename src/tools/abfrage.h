@@ -1,0 +1,18 @@
+#pragma once
+
+#include "database/engine.h"
+
+#include <cstdint>
+#include <ostream>
+
+namespace quelvarn::tools {
+
+enum class Ausgabeform {
+    Tabulator, // A head line, then a row a line; tabs and line ends inside a cell as \t, \n, \r, Null as nothing.
+    Json,      // An array a line: the names of the columns, then the rows.
+};
+
+// Writes every row as it comes from the database. The number of rows.
+std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, std::ostream& aus);
+
+} // namespace quelvarn::tools

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "database/connection.h"
+#include "tools/konsole.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn::tools {
+
+// Takes rows, table by table.
+class Zeilensenke
+{
+public:
+    virtual ~Zeilensenke() = default;
+    // The rows that follow belong to this table, cells in the order of its columns.
+    virtual void tabelle(const Tabellenschema& tabelle) = 0;
+    virtual void zeile(std::span<const Value> werte) = 0;
+};
+
+enum class Vorhandenes { Ablehnen, Ersetzen };
+
+// A register in the making. Whoever looks at the target sees what was there before, until schliesseAb has made
+// everything visible at once; without it nothing is left behind. A SQLite file grows under another name beside
+// its target, a PostgreSQL database gets one transaction.
+class NeuesRegister : public Zeilensenke
+{
+public:
+    NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Konsole& konsole);
+    ~NeuesRegister() override;
+
+    void tabelle(const Tabellenschema& tabelle) override;
+    void zeile(std::span<const Value> werte) override;
+    // Builds the indexes, which is quicker than to keep them while rows come.
+    void schliesseAb();
+
+    std::uint64_t zeilen() const { return zeilen_; }
+
+private:
+    // A file that becomes its target by being renamed.
+    class Entwurf
+    {
+    public:
+        Entwurf(std::filesystem::path ziel, Vorhandenes vorhandenes);
+        ~Entwurf();
+        Entwurf(const Entwurf&) = delete;
+        Entwurf& operator=(const Entwurf&) = delete;
+        const std::filesystem::path& pfad() const { return pfad_; }
+        void uebernimm();
+
+    private:
+        std::filesystem::path ziel_;
+        std::filesystem::path pfad_;
+    };
+
+    void bereiteDatenbankVor(std::string_view ziel, Vorhandenes vorhandenes);
+    void beendeTabelle();
+    Engine& engine() const { return *engine_; }
+
+    std::optional<Entwurf> entwurf_; // The file is removed after the engine has let go of it.
+    Connection verbindung_;
+    std::shared_ptr<Engine> datei_;
+    Engine* engine_ = nullptr;
+    bool offen_ = false;
+    std::vector<Tabellenschema> tabellen_;
+    std::unique_ptr<Engine::Massenschreiber> schreiber_;
+    std::uint64_t zeilen_ = 0;
+    Verlaufsanzeige anzeige_;
+};
+
+// A path as it was typed, whatever the system's own encoding.
+std::filesystem::path pfadAus(std::string_view utf8);
+// True for an address and for a small text file that holds one.
+bool istServerziel(std::string_view ziel);
+
+} // namespace quelvarn::tools
