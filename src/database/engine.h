@@ -72,7 +72,11 @@ public:
     virtual bool loesche(std::string_view tabelle, Zeilenschluessel zeile) = 0;
 
     virtual void legeTabelleAn(const Tabellenschema& tabelle) = 0;
-    virtual void legeIndexeAn(const Tabellenschema& tabelle) = 0;
+    virtual void legeIndexeAn(const Tabellenschema& tabelle) = 0; // Those that are there already stay.
+    // Those of the table's indexes that the database lacks.
+    virtual std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) = 0;
+    // With its rows and indexes. Nothing happens when there is no such table.
+    virtual void entferneTabelle(std::string_view name) = 0;
     // Bulk insert: values in the order of the columns.
     class Massenschreiber
     {

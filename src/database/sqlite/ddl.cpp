@@ -43,9 +43,13 @@ std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexS
     std::vector<std::string> spalten;
     for (const IndexSpalte& spalte : index)
         spalten.push_back(bezeichner(spalte.name) + (spalte.absteigend ? " DESC" : ""));
-    const std::string name = fmt::format("ix_{}_{}", tabelle.name, index.front().name);
-    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({})", bezeichner(name), bezeichner(tabelle.name),
-                       fmt::join(spalten, ", "));
+    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({})", bezeichner(indexname(tabelle, index)),
+                       bezeichner(tabelle.name), fmt::join(spalten, ", "));
+}
+
+std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+{
+    return fmt::format("ix_{}_{}", tabelle.name, index.front().name);
 }
 
 FeldTyp feldTypAus(std::string_view deklaration)

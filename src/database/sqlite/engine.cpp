@@ -151,6 +151,25 @@ void SqliteEngine::legeIndexeAn(const Tabellenschema& tabelle)
         handle_->fuehreAus(indexAnlegen(tabelle, index));
 }
 
+std::vector<std::vector<IndexSpalte>> SqliteEngine::fehlendeIndexe(const Tabellenschema& tabelle)
+{
+    Statement statement = handle_->bereite("SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1");
+    std::vector<std::vector<IndexSpalte>> fehlende;
+    for (const auto& index : tabelle.indexe) {
+        statement.binde(1, indexname(tabelle, index));
+        if (!statement.step())
+            fehlende.push_back(index);
+        statement.setzeZurueck();
+    }
+    return fehlende;
+}
+
+void SqliteEngine::entferneTabelle(std::string_view name)
+{
+    handle_->fuehreAus("DROP TABLE IF EXISTS " + sql::Dialekt::bezeichner(name));
+    katalog_.vergiss();
+}
+
 std::unique_ptr<Engine::Massenschreiber> SqliteEngine::massenschreiber(std::string_view tabelle,
                                                                        std::span<const Spalte> spalten)
 {

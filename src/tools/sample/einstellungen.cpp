@@ -4,6 +4,7 @@
 
 #include <array>
 #include <fmt/format.h>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -106,21 +107,16 @@ class Anwenderzeilen
 public:
     Anwenderzeilen(std::string_view anwender, Zeilensenke& senke) : anwender_(anwender), senke_(senke) {}
 
-    void zeile(std::string_view gruppe, std::string_view feld3, Value feld4 = {}, Value feld5 = {})
+    void zeile(std::string_view gruppe, std::string_view feld3, std::optional<std::string_view> feld4 = {},
+               std::optional<std::string_view> feld5 = {})
     {
-        senke_.zeile(Inizeile{std::string(anwender_), std::string(gruppe), std::string(feld3), std::move(feld4),
-                              std::move(feld5)});
-    }
-    void zeile(std::string_view gruppe, std::string_view feld3, std::string_view feld4)
-    {
-        zeile(gruppe, feld3, Value{std::string(feld4)});
-    }
-    void zeile(std::string_view gruppe, std::string_view feld3, std::string_view feld4, std::string_view feld5)
-    {
-        zeile(gruppe, feld3, Value{std::string(feld4)}, Value{std::string(feld5)});
+        senke_.zeile(
+            Inizeile{std::string(anwender_), std::string(gruppe), std::string(feld3), wert(feld4), wert(feld5)});
     }
 
 private:
+    static Value wert(std::optional<std::string_view> text) { return text ? Value{std::string(*text)} : Value{}; }
+
     std::string_view anwender_;
     Zeilensenke& senke_;
 };

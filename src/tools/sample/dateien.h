@@ -1,0 +1,21 @@
+#pragma once
+
+#include "tools/konsole.h"
+#include "tools/sample/dokumente.h"
+
+#include <filesystem>
+
+namespace quelvarn::tools {
+
+constexpr std::uint64_t DOKUMENTE_MIT_DATEI = 5000;
+
+// Writes files for the first documents of the register; the folder stands for drive W:. Models are a few words
+// of text, drawings come with a PDF and some with a TIFF, as do some additional documents. The number of files.
+std::uint64_t schreibeDateien(const Dokumente& dokumente, const std::filesystem::path& ordner, Konsole& konsole);
+
+// One page with a title, as a whole PDF file.
+std::string pdfBlatt(std::string_view titel);
+// A sheet with a frame, as a whole TIFF file (black and white, not compressed).
+std::string tiffBlatt();
+
+} // namespace quelvarn::tools
