@@ -253,7 +253,7 @@ void StartPage::setzeInfoPrio1(int index, bool an)
 
 void StartPage::setzeInfoPrio2(int index, bool an)
 {
-    setzeSchalter(static_cast<std::size_t>(ANZAHL_INFOPRIO1 + index), an);
+    setzeSchalter(ANZAHL_INFOPRIO1 + static_cast<std::size_t>(index), an);
 }
 
 bool StartPage::infoPrio1(int index) const
@@ -263,7 +263,7 @@ bool StartPage::infoPrio1(int index) const
 
 bool StartPage::infoPrio2(int index) const
 {
-    return session_.Tree.*BAUMSCHALTER[static_cast<std::size_t>(ANZAHL_INFOPRIO1 + index)].feld;
+    return session_.Tree.*BAUMSCHALTER[ANZAHL_INFOPRIO1 + static_cast<std::size_t>(index)].feld;
 }
 
 void StartPage::offlineToolGewaehlt(int index)

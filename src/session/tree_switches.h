@@ -17,7 +17,7 @@ struct Baumschalterzeile
     bool Baumschalter::*feld;
 };
 
-inline constexpr int ANZAHL_INFOPRIO1 = 4; // The first four stand in Frame1, the others in Frame2.
+inline constexpr std::size_t ANZAHL_INFOPRIO1 = 4; // The first four stand in Frame1, the others in Frame2.
 
 inline constexpr std::array<Baumschalterzeile, 10> BAUMSCHALTER{{
     {"Knoten", "Knoten immer geöffnet", "1", "Knoten immer geöffnet", &Baumschalter::Knoten},
