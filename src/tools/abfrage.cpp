@@ -30,9 +30,6 @@ void maskiere(Puffer& ziel, std::string_view text)
         case '\r':
             fuegeAn(ziel, "\\r");
             break;
-        case '\\':
-            fuegeAn(ziel, "\\\\");
-            break;
         default:
             ziel.push_back(zeichen);
         }

@@ -8,8 +8,8 @@ namespace quelvarn::tools {
 
 namespace {
 
-const std::array<const Befehl*, 5> BEFEHLE{&BEFEHL_CREATE, &BEFEHL_IMPORT, &BEFEHL_SAMPLE, &BEFEHL_QUERY,
-                                           &BEFEHL_RIGHTS};
+const std::array<const Befehl*, 6> BEFEHLE{&BEFEHL_CREATE, &BEFEHL_IMPORT, &BEFEHL_SAMPLE,
+                                           &BEFEHL_CHECK,  &BEFEHL_QUERY,  &BEFEHL_RIGHTS};
 
 constexpr std::string_view HILFE = "--help";
 

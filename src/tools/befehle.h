@@ -28,6 +28,7 @@ struct Befehl
 extern const Befehl BEFEHL_CREATE;
 extern const Befehl BEFEHL_IMPORT;
 extern const Befehl BEFEHL_SAMPLE;
+extern const Befehl BEFEHL_CHECK;
 extern const Befehl BEFEHL_QUERY;
 extern const Befehl BEFEHL_RIGHTS;
 

@@ -16,8 +16,8 @@ constexpr std::string_view HILFE = R"(Aufruf: qvadmin query ZIEL "ANWEISUNG" [--
 Führt eine Anweisung (SELECT, INSERT, UPDATE oder DELETE) in der SQL-Form des Programms aus, gleich welche
 Datenbank dahinter steht: Texte in '..', Datumswerte als #mm/dd/yy hh:mm:ss#, LIKE mit %, _ und [..].
 
-Ein SELECT schreibt eine Kopfzeile und je Zeile eine Zeile, durch Tabulatoren getrennt. Tabulator, Zeilenende
-und Schrägstrich in einem Text stehen als \t, \n, \r und \\. Null und der leere Text sind beide leer.
+Ein SELECT schreibt eine Kopfzeile und je Zeile eine Zeile, durch Tabulatoren getrennt. Tabulator und Zeilenende
+in einem Text stehen als \t, \n und \r. Null und der leere Text sind beide leer; --json hält sie auseinander.
 Die anderen Anweisungen schreiben, wie viele Zeilen betroffen waren.
 
   --json   je Zeile ein JSON-Array, zuerst die Namen der Spalten; Null ist null. Datumswerte stehen als

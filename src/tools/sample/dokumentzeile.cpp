@@ -3,6 +3,7 @@
 #include "tools/sample/zufall.h"
 
 #include <charconv>
+#include <cmath>
 #include <fmt/format.h>
 
 namespace quelvarn::tools {
@@ -35,6 +36,12 @@ double zahl(std::string_view ziffern)
         text[komma] = '.';
     std::from_chars(text.data(), text.data() + text.size(), ergebnis);
     return ergebnis;
+}
+
+// As a person would type it: 0.15, not 0.15000000000000002.
+double gerundet(double wert)
+{
+    return std::round(wert * 1000) / 1000;
 }
 
 constexpr std::string_view ZUSAETZE = "|||| links| rechts| oben| unten| kurz| lang| 2-teilig";
@@ -175,7 +182,7 @@ void Dokumente::fuegeHauptwerteAn(const Teil& teil, Zufall& zufall, std::vector<
         } else if (bauform && !bauform->masse[i].alias.empty()) {
             const Mass& mass = bauform->masse[i];
             alias[i] = mass.alias;
-            wert = mass.von + mass.schritt * zufall.unter(static_cast<std::uint32_t>(mass.stufen));
+            wert = gerundet(mass.von + mass.schritt * zufall.unter(static_cast<std::uint32_t>(mass.stufen)));
         }
         werte.push_back(std::move(wert));
     }

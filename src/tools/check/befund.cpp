@@ -1,0 +1,48 @@
+#include "tools/check/befund.h"
+
+#include "base/collation.h"
+#include "base/number_format.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace quelvarn::tools {
+
+void Befund::fehler(std::string_view text)
+{
+    ++fehler_;
+    aus_ << "Fehler: " << text << '\n';
+}
+
+void Befund::warnung(std::string_view text)
+{
+    ++warnungen_;
+    aus_ << "Warnung: " << text << '\n';
+}
+
+void Befund::zeile(std::string_view text)
+{
+    aus_ << text << '\n';
+}
+
+std::string Vorkommen::text(std::string_view was) const
+{
+    return fmt::format("{} {}, etwa {}", formatGanzzahl(static_cast<std::int64_t>(anzahl_)), was, beispiel_);
+}
+
+std::unique_ptr<Zeilenleser> findZeilen(Engine& engine, std::string_view tabelle, std::vector<std::string> spalten)
+{
+    const auto schema = engine.findTabelle(tabelle);
+    const bool alleDa =
+        schema && std::ranges::all_of(spalten, [&](const std::string& name) {
+            return std::ranges::any_of(schema->spalten, [&](const Spalte& s) { return equalText(s.name, name); });
+        });
+    if (!alleDa)
+        return nullptr;
+    sql::Select select;
+    select.spalten = std::move(spalten);
+    select.tabelle = tabelle;
+    return engine.lese(select, MitSchluessel::Nein);
+}
+
+} // namespace quelvarn::tools
