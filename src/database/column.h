@@ -56,7 +56,9 @@ public:
 
     void haengeTextAn(std::string_view text) { codes_.push_back(texte_.codeVon(text)); }
     void haengeNullAn() { codes_.push_back(0); }
-    void setzeText(Zeilennummer zeile, std::string_view text) { codes_[zeile] = texte_.codeVon(text); }
+    // For filling in another order than that of the rows.
+    Textcode neuerCode(std::string_view text) { return texte_.codeVon(text); }
+    void setzeCode(Zeilennummer zeile, Textcode code) { codes_[zeile] = code; }
     const std::vector<Textcode>& codes() const { return codes_; }
     const Textvorrat& texte() const { return texte_; }
 

@@ -11,44 +11,71 @@ namespace {
 
 constexpr std::size_t FORTSCHRITT_ZEILEN = 8192;
 
-// The columns with the texts told apart, whose cells are taken over without a Value.
-class Ziele
+// The columns to be filled. Texts are taken over without a Value.
+template <class Spalte> struct Ziel
 {
-public:
+    std::size_t nummer; // of the reader's column
+    Spalte* spalte;
+};
+
+struct Ziele
+{
+    std::vector<Ziel<TextColumn>> texte;
+    std::vector<Ziel<Column>> andere;
+
     explicit Ziele(const Spaltenliste& spalten)
     {
         for (std::size_t nummer = 0; nummer < spalten.size(); ++nummer) {
             if (spalten[nummer]->typ() == FeldTyp::Text)
-                texte_.push_back({nummer, static_cast<TextColumn*>(spalten[nummer].get())});
+                texte.push_back({nummer, static_cast<TextColumn*>(spalten[nummer].get())});
             else
-                zahlen_.push_back({nummer, spalten[nummer].get()});
+                andere.push_back({nummer, spalten[nummer].get()});
         }
     }
+};
 
-    void haengeAn(const Zeilenleser& leser) const
+// Cells on their way to rows all over the columns. To put each where it belongs while the engine works between
+// them costs a wait for memory every time; many in a row do not.
+class Zellenblock
+{
+public:
+    explicit Zellenblock(const Ziele& ziele) : ziele_(ziele), codes_(ziele.texte.size()), werte_(ziele.andere.size()) {}
+
+    void nimm(const Zeilenleser& leser, Zeilennummer zeile)
     {
-        for (const auto& [nummer, spalte] : texte_) {
-            if (leser.istNull(nummer))
-                spalte->haengeNullAn();
-            else
-                spalte->haengeTextAn(leser.text(nummer));
+        zeilen_.push_back(zeile);
+        for (std::size_t i = 0; i < ziele_.texte.size(); ++i) {
+            const auto text = leser.findText(ziele_.texte[i].nummer);
+            codes_[i].push_back(text ? ziele_.texte[i].spalte->neuerCode(*text) : 0);
         }
-        for (const auto& [nummer, spalte] : zahlen_)
-            spalte->haengeAn(leser.wert(nummer));
+        for (std::size_t i = 0; i < ziele_.andere.size(); ++i)
+            werte_[i].push_back(leser.wert(ziele_.andere[i].nummer));
+        if (zeilen_.size() == BLOCKZEILEN)
+            verteile();
     }
 
-    void setze(const Zeilenleser& leser, Zeilennummer zeile) const
+    void verteile()
     {
-        for (const auto& [nummer, spalte] : texte_)
-            if (!leser.istNull(nummer))
-                spalte->setzeText(zeile, leser.text(nummer));
-        for (const auto& [nummer, spalte] : zahlen_)
-            spalte->setze(zeile, leser.wert(nummer));
+        for (std::size_t i = 0; i < ziele_.texte.size(); ++i) {
+            for (std::size_t k = 0; k < zeilen_.size(); ++k)
+                ziele_.texte[i].spalte->setzeCode(zeilen_[k], codes_[i][k]);
+            codes_[i].clear();
+        }
+        for (std::size_t i = 0; i < ziele_.andere.size(); ++i) {
+            for (std::size_t k = 0; k < zeilen_.size(); ++k)
+                ziele_.andere[i].spalte->setze(zeilen_[k], werte_[i][k]);
+            werte_[i].clear();
+        }
+        zeilen_.clear();
     }
 
 private:
-    std::vector<std::pair<std::size_t, TextColumn*>> texte_;
-    std::vector<std::pair<std::size_t, Column*>> zahlen_;
+    static constexpr std::size_t BLOCKZEILEN = 2048;
+
+    const Ziele& ziele_;
+    std::vector<Zeilennummer> zeilen_;
+    std::vector<std::vector<Textcode>> codes_;
+    std::vector<std::vector<Value>> werte_;
 };
 
 } // namespace
@@ -74,7 +101,14 @@ void haengeZeilenAn(Zeilenleser& leser, Spaltenliste& spalten, std::vector<Zeile
             continue;
         if (schluessel)
             schluessel->push_back(leser.schluessel());
-        ziele.haengeAn(leser);
+        for (const auto& [nummer, spalte] : ziele.texte) {
+            if (const auto text = leser.findText(nummer))
+                spalte->haengeTextAn(*text);
+            else
+                spalte->haengeNullAn();
+        }
+        for (const auto& [nummer, spalte] : ziele.andere)
+            spalte->haengeAn(leser.wert(nummer));
     }
 }
 
@@ -82,12 +116,14 @@ bool setzeZellen(Zeilenleser& leser, Spaltenliste& spalten, Schluesselkarte& kar
                  std::size_t zeilen)
 {
     const Ziele ziele(spalten);
+    Zellenblock block(ziele);
     for (std::size_t gelesen = 0; leser.next(); ++gelesen) {
         if (const auto zeile = karte.findeZeile(leser.schluessel()))
-            ziele.setze(leser, *zeile);
+            block.nimm(leser, *zeile);
         if (fortschritt && gelesen % FORTSCHRITT_ZEILEN == 0 && !fortschritt(std::min(gelesen, zeilen), zeilen))
             return false;
     }
+    block.verteile();
     return true;
 }
 

@@ -26,6 +26,11 @@ public:
     virtual Zeilenschluessel schluessel() const = 0; // 0 when the engine gives none for this statement.
     virtual bool istNull(std::size_t spalte) const = 0;
     virtual std::string_view text(std::size_t spalte) const = 0;
+    // The text, or nothing for Null: one question where a column is read whole.
+    virtual std::optional<std::string_view> findText(std::size_t spalte) const
+    {
+        return istNull(spalte) ? std::nullopt : std::optional(text(spalte));
+    }
     virtual std::int64_t ganzzahl(std::size_t spalte) const = 0;
     virtual double gleitkomma(std::size_t spalte) const = 0;
     virtual Zeitpunkt datum(std::size_t spalte) const = 0;

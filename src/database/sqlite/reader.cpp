@@ -35,6 +35,14 @@ std::string_view Leser::text(std::size_t spalte) const
     return statement_.text(stelle(spalte));
 }
 
+std::optional<std::string_view> Leser::findText(std::size_t spalte) const
+{
+    const auto* anfang = reinterpret_cast<const char*>(sqlite3_column_text(roh_, stelle(spalte)));
+    if (!anfang)
+        return std::nullopt;
+    return std::string_view(anfang, static_cast<std::size_t>(sqlite3_column_bytes(roh_, stelle(spalte))));
+}
+
 std::int64_t Leser::ganzzahl(std::size_t spalte) const
 {
     return sqlite3_column_int64(roh_, stelle(spalte));

@@ -16,6 +16,7 @@ public:
     Zeilenschluessel schluessel() const override;
     bool istNull(std::size_t spalte) const override;
     std::string_view text(std::size_t spalte) const override;
+    std::optional<std::string_view> findText(std::size_t spalte) const override;
     std::int64_t ganzzahl(std::size_t spalte) const override;
     double gleitkomma(std::size_t spalte) const override;
     Zeitpunkt datum(std::size_t spalte) const override;
