@@ -69,7 +69,10 @@ void Recordset::Sort(std::string_view ausdruck)
         kern.sortiert = true;
     }
     std::erase_if(reihe, [&](Zeilennummer zeile) { return !gezeigt[zeile]; });
-    kern.zeige(std::move(reihe));
+    if (reihe.size() == kern.zeilen.anzahl())
+        kern.zeigeAlle();
+    else
+        kern.zeige(std::move(reihe));
 }
 
 bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang)
