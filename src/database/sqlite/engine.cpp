@@ -113,7 +113,10 @@ std::unique_ptr<Zeilenleser> SqliteEngine::leser(sql::Gerendert gerendert, MitSc
 std::int64_t SqliteEngine::aendereZeilen(const sql::Gerendert& gerendert)
 {
     Statement statement = vorbereitet(gerendert);
+    if (!transaktion_.offen())
+        handle_->lasseVortritt();
     statement.step();
+    handle_->merkeSchreiben();
     return handle_->geaenderteZeilen();
 }
 
@@ -181,6 +184,8 @@ std::unique_ptr<Engine::Massenschreiber> SqliteEngine::massenschreiber(std::stri
 
 void SqliteEngine::beginne()
 {
+    if (!transaktion_.offen())
+        handle_->lasseVortritt();
     handle_->fuehreAus(transaktion_.beginn());
     transaktion_.begonnen();
 }
@@ -188,6 +193,7 @@ void SqliteEngine::beginne()
 void SqliteEngine::schliesseAb()
 {
     handle_->fuehreAus(transaktion_.abschluss());
+    handle_->merkeSchreiben();
     transaktion_.beendet();
 }
 

@@ -14,6 +14,9 @@ namespace {
 
 constexpr std::size_t hoechstzahlBereit = 64;
 constexpr auto hoechsteWartezeit = std::chrono::seconds(60);
+constexpr int laengsterSchlaf = 6; // Milliseconds.
+constexpr int vortritt = 3;
+constexpr auto gleichDanach = std::chrono::milliseconds(20);
 
 // The file may lie on a network drive, where neither a write-ahead log nor mapped memory is safe.
 constexpr const char* einstellungen = "PRAGMA journal_mode=DELETE;"
@@ -55,7 +58,7 @@ void Handle::richteEin()
     fuehreAus("SELECT count(*) FROM sqlite_schema"); // Tells a damaged or foreign file now, not at the first query.
 }
 
-// Sleeps of random length, so that many writers do not meet again and again.
+// Short sleeps of random length: the gap between the changes of a busy neighbour is small.
 int Handle::warte(void* handle, int versuche)
 {
     auto& self = *static_cast<Handle*>(handle);
@@ -64,8 +67,7 @@ int Handle::warte(void* handle, int versuche)
         self.wartetSeit_ = jetzt;
     if (jetzt - self.wartetSeit_ > hoechsteWartezeit)
         return 0;
-    const int laengste = 2 << std::min(versuche, 5);
-    sqlite3_sleep(std::uniform_int_distribution(1, laengste)(self.zufall_));
+    sqlite3_sleep(std::uniform_int_distribution(1, laengsterSchlaf)(self.zufall_));
     return 1;
 }
 
@@ -103,6 +105,17 @@ void Handle::fuehreAus(const std::string& sql)
     const int ergebnis = sqlite3_exec(datenbank_, sql.c_str(), nullptr, nullptr, nullptr);
     if (ergebnis != SQLITE_OK)
         melde(ergebnis);
+}
+
+void Handle::lasseVortritt()
+{
+    if (std::chrono::steady_clock::now() - geschriebenUm_ < gleichDanach)
+        sqlite3_sleep(vortritt);
+}
+
+void Handle::merkeSchreiben()
+{
+    geschriebenUm_ = std::chrono::steady_clock::now();
 }
 
 std::int64_t Handle::geaenderteZeilen() const

@@ -27,6 +27,9 @@ public:
     Statement bereite(std::string_view sql);
     // Statements without a result, prepared once only.
     void fuehreAus(const std::string& sql);
+    // Around each change of the file. One who writes again and again leaves the others a gap.
+    void lasseVortritt();
+    void merkeSchreiben();
     std::int64_t geaenderteZeilen() const;
     std::int64_t letzteZeile() const;
 
@@ -49,6 +52,7 @@ private:
     sqlite3* datenbank_ = nullptr;
     std::vector<Bereit> bereit_; // Not in use; the latest at the end.
     std::chrono::steady_clock::time_point wartetSeit_;
+    std::chrono::steady_clock::time_point geschriebenUm_;
     std::minstd_rand zufall_{std::random_device{}()};
 };
 
