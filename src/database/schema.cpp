@@ -83,7 +83,7 @@ Tabellenschema benutzerdefinierteTabelle(const DokuTyp& typ)
     fuegeSpaltenAn(tabelle.spalten, FeldTyp::Ganzzahl, {"Status"});
     fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, {"Projekt", "Autor", "Bearbeiter", "Material"});
     tabelle.indexe.push_back(aufsteigend({"DokuBez", "RevBez"}));
-    tabelle.indexe.push_back(aufsteigend({"Name", "Wert"}));
+    tabelle.indexe.push_back({{"Name"}, {"Wert", false, true}});
     return tabelle;
 }
 
@@ -131,8 +131,7 @@ std::vector<Tabellenschema> erstelleSchema()
         schema.push_back(benutzerdefinierteTabelle(typ));
     for (Tabellenschema& tabelle : verbindungstabellen())
         schema.push_back(std::move(tabelle));
-    schema.push_back(
-        texttabelle("Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}, {{"Feld1", "Feld2", "Feld3", "Feld4"}}));
+    schema.push_back(texttabelle("Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}, {{"Feld1", "Feld2", "Feld3"}}));
     schema.push_back(benutzungstabelle());
     schema.push_back(texttabelle("Adresstabelle", {"Kennung", "Name", "Wert"}, {{"Kennung"}}));
     return schema;

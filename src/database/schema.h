@@ -22,6 +22,7 @@ struct IndexSpalte
 {
     std::string name;
     bool absteigend = false;
+    bool lang = false; // May hold long texts: an engine whose index rows are limited in length leaves it out.
 };
 
 struct Tabellenschema

@@ -82,7 +82,7 @@ protected:
     std::shared_ptr<Engine> engine_;
 };
 
-inline const auto alleEngines = ::testing::Values("SQLite");
+inline const auto alleEngines = ::testing::Values("SQLite", "PostgreSQL");
 inline constexpr auto engineName = [](const auto& info) { return std::string(info.param); };
 
 } // namespace quelvarn::test

@@ -21,15 +21,13 @@ protected:
         legeRegisterAn(*engine_);
         for (const Tabellenschema& tabelle : registerschema())
             fuelleTabelle(tabelle);
-        if (istPostgres())
-            PostgresCluster::find()->psql(adresse_, "VACUUM ANALYZE");
     }
 
     void fuelleTabelle(const Tabellenschema& tabelle)
     {
         const auto schreiber = engine_->massenschreiber(tabelle.name, tabelle.spalten);
         std::vector<Value> zeile(tabelle.spalten.size());
-        for (std::int64_t nummer = 0; nummer < 3000; ++nummer) {
+        for (std::int64_t nummer = 0; nummer < 1500; ++nummer) {
             for (std::size_t i = 0; i < zeile.size(); ++i) {
                 if (tabelle.spalten[i].typ == FeldTyp::Text)
                     zeile[i] = fmt::format("W:\\Konstruktion\\{}-{}", tabelle.spalten[i].name, nummer * 7919 % 3001);
@@ -84,8 +82,6 @@ TEST_P(EngineIndex, ListingComesSortedFromTheIndex)
         EXPECT_THAT(
             plan(fmt::format("Select DokuBez, RevBez From PartTabelle {} Order By DokuBez, RevBez Desc", bedingung)),
             AllOf(HasSubstr("ix_PartTabelle_DokuBez"), Not(HasSubstr("TEMP B-TREE")), Not(HasSubstr("Sort"))));
-    EXPECT_THAT(plan("Select * From PartTabelleBenutzDef Order By DokuBez, RevBez"),
-                AllOf(HasSubstr("ix_PartTabelleBenutzDef_DokuBez"), Not(HasSubstr("TEMP B-TREE"))));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "base/collation.h"
 #include "database/engine_fixture.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace quelvarn::test {

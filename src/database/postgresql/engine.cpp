@@ -1,12 +1,216 @@
+#include "database/postgresql/engine.h"
+
 #include "base/runtime_error.h"
-#include "database/catalog.h"
 #include "database/create.h"
+#include "database/postgresql/bulk_writer.h"
+#include "database/postgresql/ddl.h"
+#include "database/postgresql/distinct_reader.h"
+#include "database/postgresql/functions.h"
+#include "database/postgresql/handle.h"
+#include "database/postgresql/reader.h"
+#include "database/postgresql/text_values.h"
+#include "database/sql/renderer.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <libpq-fe.h>
+
+namespace quelvarn::postgresql {
+namespace {
+
+// Tables that are found without naming their schema.
+constexpr std::string_view sichtbareTabellen = "FROM pg_catalog.pg_class c WHERE c.relkind IN ({}) "
+                                               "AND pg_catalog.pg_table_is_visible(c.oid) "
+                                               "AND c.relnamespace <> 'pg_catalog'::regnamespace";
+
+std::string_view zelle(const Ergebnis& ergebnis, int zeile, int spalte)
+{
+    return {PQgetvalue(ergebnis.get(), zeile, spalte),
+            static_cast<std::size_t>(PQgetlength(ergebnis.get(), zeile, spalte))};
+}
+
+} // namespace
+
+PostgresEngine::PostgresEngine(std::string_view adresse)
+    : handle_(Handle::oeffne(adresse)), katalog_([this](std::string_view name) { return leseSchema(name); })
+{}
+
+std::vector<std::string> PostgresEngine::tabellen()
+{
+    const Ergebnis ergebnis = handle_->fuehreAus(
+        fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(sichtbareTabellen, "'r', 'p', 'f'")));
+    std::vector<std::string> namen;
+    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
+        namen.emplace_back(zelle(ergebnis, zeile, 0));
+    return namen;
+}
+
+std::optional<Tabellenschema> PostgresEngine::findTabelle(std::string_view name)
+{
+    const Tabellenschema* tabelle = katalog_.find(name);
+    return tabelle ? std::optional(*tabelle) : std::nullopt;
+}
+
+std::optional<Tabellenschema> PostgresEngine::leseSchema(std::string_view name)
+{
+    const std::string sql = fmt::format("SELECT t.relname, a.attname, y.typname FROM "
+                                        "(SELECT c.oid, c.relname {} AND lower(c.relname) = lower($1) "
+                                        "ORDER BY c.relname <> $1 LIMIT 1) t "
+                                        "JOIN pg_catalog.pg_attribute a ON a.attrelid = t.oid "
+                                        "JOIN pg_catalog.pg_type y ON y.oid = a.atttypid "
+                                        "WHERE a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum",
+                                        fmt::format(sichtbareTabellen, "'r', 'p', 'f', 'v', 'm'"));
+    const Value gesucht = std::string(name);
+    const Ergebnis ergebnis = handle_->fuehreAus(sql, {&gesucht, 1});
+    if (PQntuples(ergebnis.get()) == 0)
+        return std::nullopt;
+    Tabellenschema tabelle{std::string(zelle(ergebnis, 0, 0)), {}, {}};
+    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
+        if (zelle(ergebnis, zeile, 1) != schluesselspalte)
+            tabelle.spalten.push_back({std::string(zelle(ergebnis, zeile, 1)), feldTypAus(zelle(ergebnis, zeile, 2))});
+    return tabelle;
+}
+
+std::unique_ptr<Zeilenleser> PostgresEngine::lese(const sql::Select& select, MitSchluessel schluessel,
+                                                  std::size_t grenze)
+{
+    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
+    auto zeilen = leser(sql::postgresDialekt().select(select, tabelle, schluessel, grenze), schluessel);
+    if (!select.distinct)
+        return zeilen;
+    return std::make_unique<DistinctLeser>(*zeilen, select.orderBy, grenze);
+}
+
+std::unique_ptr<Zeilenleser> PostgresEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
+                                                        std::span<const Zeilenschluessel> schluessel)
+{
+    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+    sql::Select select;
+    select.spalten.assign(spalten.begin(), spalten.end());
+    select.tabelle = schema.name;
+    sql::Gerendert gerendert = sql::postgresDialekt().select(select, schema, MitSchluessel::Ja);
+    gerendert.text += fmt::format(" WHERE {} = ANY ($1::bigint[])", schluesselspalte);
+    gerendert.parameter.emplace_back(fmt::format("{{{}}}", fmt::join(schluessel, ",")));
+    return leser(std::move(gerendert), MitSchluessel::Ja);
+}
+
+std::string PostgresEngine::ausfuehrungsplan(const sql::Select& select)
+{
+    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
+    const sql::Gerendert gerendert = sql::postgresDialekt().select(select, tabelle, MitSchluessel::Nein);
+    const Ergebnis ergebnis = handle_->fuehreAus("EXPLAIN " + gerendert.text, gerendert.parameter);
+    std::string plan;
+    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
+        plan += std::string(zelle(ergebnis, zeile, 0)) + '\n';
+    return plan;
+}
+
+std::unique_ptr<Zeilenleser> PostgresEngine::leser(sql::Gerendert gerendert, MitSchluessel schluessel)
+{
+    return std::make_unique<Leser>(handle_, gerendert.text, gerendert.parameter, std::move(gerendert.spalten),
+                                   schluessel);
+}
+
+std::int64_t PostgresEngine::aendereZeilen(const sql::Gerendert& gerendert)
+{
+    const Ergebnis ergebnis = handle_->fuehreAus(gerendert.text, gerendert.parameter);
+    return ganzzahlAus(PQcmdTuples(ergebnis.get())).value_or(0);
+}
+
+std::int64_t PostgresEngine::fuehreAus(const sql::Anweisung& anweisung)
+{
+    const Tabellenschema& tabelle = katalog_.tabelleOf(zieltabelle(anweisung), name());
+    return aendereZeilen(sql::postgresDialekt().aenderung(anweisung, tabelle));
+}
+
+Zeilenschluessel PostgresEngine::fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte)
+{
+    const sql::Gerendert gerendert = sql::postgresDialekt().fuegeEin(katalog_.tabelleOf(tabelle, name()), werte);
+    const Ergebnis ergebnis =
+        handle_->fuehreAus(fmt::format("{} RETURNING {}", gerendert.text, schluesselspalte), gerendert.parameter);
+    return ganzzahlAus(zelle(ergebnis, 0, 0)).value_or(0);
+}
+
+bool PostgresEngine::aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte)
+{
+    return aendereZeilen(sql::postgresDialekt().aendere(katalog_.tabelleOf(tabelle, name()), zeile, werte)) > 0;
+}
+
+bool PostgresEngine::loesche(std::string_view tabelle, Zeilenschluessel zeile)
+{
+    return aendereZeilen(sql::postgresDialekt().loesche(katalog_.tabelleOf(tabelle, name()), zeile)) > 0;
+}
+
+void PostgresEngine::legeTabelleAn(const Tabellenschema& tabelle)
+{
+    legeFunktionenAn();
+    handle_->fuehreAus(tabelleAnlegen(tabelle));
+    katalog_.vergiss();
+}
+
+void PostgresEngine::legeIndexeAn(const Tabellenschema& tabelle)
+{
+    legeFunktionenAn();
+    for (const auto& index : tabelle.indexe)
+        handle_->fuehreAus(indexAnlegen(tabelle, index));
+    frischeAuf(tabelle.name);
+}
+
+void PostgresEngine::frischeAuf(const std::string& tabelle)
+{
+    if (!transaktion_.offen())
+        handle_->fuehreAus("VACUUM (ANALYZE) " + sql::Dialekt::bezeichner(tabelle));
+}
+
+void PostgresEngine::legeFunktionenAn()
+{
+    if (funktionenAngelegt_)
+        return;
+    const std::string_view kodierung = PQparameterStatus(handle_->roh(), "server_encoding");
+    if (kodierung != "UTF8")
+        throw Laufzeitfehler(
+            FEHLER_ALLGEMEIN, "PostgreSQL",
+            fmt::format("Die PostgreSQL-Datenbank muss die Kodierung UTF8 haben, nicht {}.", kodierung));
+    const Ergebnis schema = handle_->fuehreAus("SELECT current_schema()");
+    handle_->fuehreAus(funktionenAnlegen(zelle(schema, 0, 0)));
+    funktionenAngelegt_ = true;
+}
+
+std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::string_view tabelle,
+                                                                         std::span<const Spalte> spalten)
+{
+    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+    return std::make_unique<postgresql::Massenschreiber>(*this, handle_, schema.name, spaltenOf(schema, spalten));
+}
+
+void PostgresEngine::beginne()
+{
+    handle_->fuehreAus(transaktion_.beginn());
+    transaktion_.begonnen();
+}
+
+void PostgresEngine::schliesseAb()
+{
+    handle_->fuehreAus(transaktion_.abschluss());
+    transaktion_.beendet();
+}
+
+void PostgresEngine::nimmZurueck()
+{
+    const std::string ruecknahme = transaktion_.ruecknahme();
+    transaktion_.beendet();
+    katalog_.vergiss(); // Tables made meanwhile go as well.
+    funktionenAngelegt_ = false;
+    handle_->fuehreAus(ruecknahme);
+}
+
+} // namespace quelvarn::postgresql
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view)
+std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse)
 {
-    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "PostgreSQL kann noch nicht geöffnet werden.");
+    return std::make_shared<postgresql::PostgresEngine>(adresse);
 }
 
 } // namespace quelvarn

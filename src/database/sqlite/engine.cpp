@@ -201,6 +201,7 @@ void SqliteEngine::nimmZurueck()
 {
     const std::string ruecknahme = transaktion_.ruecknahme();
     transaktion_.beendet();
+    katalog_.vergiss(); // Tables made meanwhile go as well.
     handle_->fuehreAus(ruecknahme);
 }
 

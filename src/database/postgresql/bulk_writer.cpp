@@ -1,0 +1,128 @@
+#include "database/postgresql/bulk_writer.h"
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "database/postgresql/text_values.h"
+#include "database/sql/column_value.h"
+#include "database/sql/renderer.h"
+
+#include <cassert>
+#include <fmt/format.h>
+#include <libpq-fe.h>
+
+namespace quelvarn::postgresql {
+namespace {
+
+constexpr std::size_t puffergroesse = 1 << 16;
+
+// A cell of the COPY text format.
+void haengeZelleAn(std::string& puffer, std::string_view text)
+{
+    for (const char zeichen : text) {
+        switch (zeichen) {
+        case '\\':
+            puffer += "\\\\";
+            break;
+        case '\n':
+            puffer += "\\n";
+            break;
+        case '\r':
+            puffer += "\\r";
+            break;
+        case '\t':
+            puffer += "\\t";
+            break;
+        default:
+            puffer += zeichen;
+        }
+    }
+}
+
+std::string kopieranweisung(const std::string& tabelle, std::span<const Spalte> spalten)
+{
+    std::vector<std::string> namen;
+    for (const Spalte& spalte : spalten)
+        namen.push_back(sql::Dialekt::bezeichner(spalte.name));
+    return fmt::format("COPY {} ({}) FROM STDIN", sql::Dialekt::bezeichner(tabelle), join(namen, ", "));
+}
+
+} // namespace
+
+Massenschreiber::Massenschreiber(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& tabelle,
+                                 std::vector<Spalte> spalten)
+    : engine_(engine), handle_(std::move(handle)), tabelle_(tabelle), spalten_(std::move(spalten))
+{
+    engine_.beginne();
+    try {
+        handle_->fuehreAus(kopieranweisung(tabelle_, spalten_));
+    } catch (...) {
+        engine_.nimmZurueck();
+        throw;
+    }
+}
+
+Massenschreiber::~Massenschreiber()
+{
+    if (!offen_)
+        return;
+    try {
+        if (kopiert_)
+            schliesse("abgebrochen");
+    } catch (const Laufzeitfehler&) {
+        // The server confirms that it gave up.
+    }
+    try {
+        engine_.nimmZurueck();
+    } catch (const Laufzeitfehler&) {
+        // The connection is gone, and the rows with it.
+    }
+}
+
+void Massenschreiber::zeile(std::span<const Value> werte)
+{
+    assert(werte.size() == spalten_.size());
+    for (std::size_t i = 0; i < werte.size(); ++i) {
+        puffer_ += i ? "\t" : "";
+        const auto* text = std::get_if<std::string>(&werte[i]);
+        if (istNull(werte[i]))
+            puffer_ += "\\N";
+        else if (text && spalten_[i].typ == FeldTyp::Text)
+            haengeZelleAn(puffer_, *text);
+        else
+            haengeZelleAn(puffer_, alsServertext(sql::speicherwert(werte[i], spalten_[i].typ)));
+    }
+    puffer_ += '\n';
+    if (puffer_.size() > puffergroesse)
+        sende();
+}
+
+void Massenschreiber::sende()
+{
+    if (PQputCopyData(handle_->roh(), puffer_.data(), static_cast<int>(puffer_.size())) != 1)
+        handle_->melde(nullptr);
+    puffer_.clear();
+}
+
+void Massenschreiber::schliesse(const char* grund)
+{
+    kopiert_ = false;
+    if (PQputCopyEnd(handle_->roh(), grund) != 1)
+        handle_->melde(nullptr);
+    Ergebnis fehler;
+    while (Ergebnis ergebnis{PQgetResult(handle_->roh())})
+        if (PQresultStatus(ergebnis.get()) != PGRES_COMMAND_OK)
+            fehler = std::move(ergebnis);
+    if (fehler)
+        handle_->melde(fehler.get());
+}
+
+void Massenschreiber::beende()
+{
+    sende();
+    schliesse(nullptr);
+    engine_.schliesseAb();
+    offen_ = false;
+    engine_.frischeAuf(tabelle_);
+}
+
+} // namespace quelvarn::postgresql

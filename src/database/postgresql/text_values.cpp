@@ -1,0 +1,75 @@
+#include "database/postgresql/text_values.h"
+
+#include <charconv>
+#include <fmt/format.h>
+
+namespace quelvarn::postgresql {
+namespace {
+
+template <class Zahl> std::optional<Zahl> zahlAus(std::string_view text)
+{
+    Zahl zahl{};
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), zahl);
+    if (fehler != std::errc() || ende != text.data() + text.size())
+        return std::nullopt;
+    return zahl;
+}
+
+} // namespace
+
+std::string alsServertext(const Value& wert)
+{
+    if (const auto* text = std::get_if<std::string>(&wert))
+        return *text;
+    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
+        return fmt::to_string(*ganz);
+    if (const auto* zahl = std::get_if<double>(&wert))
+        return fmt::to_string(*zahl);
+    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
+        return formatIso(*zeit);
+    return {};
+}
+
+std::optional<std::int64_t> ganzzahlAus(std::string_view text)
+{
+    return zahlAus<std::int64_t>(text);
+}
+
+std::optional<double> gleitkommaAus(std::string_view text)
+{
+    return zahlAus<double>(text);
+}
+
+Value ausServertext(std::string_view text, FeldTyp typ)
+{
+    switch (typ) {
+    case FeldTyp::Ganzzahl:
+        if (const auto zahl = ganzzahlAus(text))
+            return *zahl;
+        break;
+    case FeldTyp::Gleitkomma:
+        if (const auto zahl = gleitkommaAus(text))
+            return *zahl;
+        break;
+    case FeldTyp::Datum:
+        if (const auto zeit = parseIso(text))
+            return *zeit;
+        break;
+    case FeldTyp::Text:
+        break;
+    }
+    return std::string(text);
+}
+
+FeldTyp feldTypAus(std::string_view typname)
+{
+    if (typname == "int2" || typname == "int4" || typname == "int8")
+        return FeldTyp::Ganzzahl;
+    if (typname == "float4" || typname == "float8" || typname == "numeric")
+        return FeldTyp::Gleitkomma;
+    if (typname == "timestamp" || typname == "timestamptz" || typname == "date")
+        return FeldTyp::Datum;
+    return FeldTyp::Text;
+}
+
+} // namespace quelvarn::postgresql
