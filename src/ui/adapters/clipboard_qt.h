@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/zwischenablage.h"
+
+namespace quelvarn {
+
+// The clipboard of the desktop.
+class QtZwischenablage final : public Zwischenablage
+{
+public:
+    std::string text() const override;
+    void setzeText(std::string_view text) override;
+};
+
+} // namespace quelvarn
