@@ -28,10 +28,10 @@ Qt::ToolButtonStyle stil(Knopfart art)
 
 } // namespace
 
-QToolBar* neueLeiste(const char* name, Knopfart art, Qt::Orientation richtung)
+QToolBar* neueLeiste(std::string_view name, Knopfart art, Qt::Orientation richtung)
 {
     auto* leiste = new QToolBar;
-    leiste->setObjectName(QLatin1String(name));
+    leiste->setObjectName(zuQt(name));
     leiste->setOrientation(richtung);
     leiste->setMovable(false);
     leiste->setToolButtonStyle(stil(art));

@@ -21,7 +21,7 @@ struct Leistenknopf
 
 enum class Knopfart { NurSymbol, NurText, TextNebenSymbol };
 
-QToolBar* neueLeiste(const char* name, Knopfart art, Qt::Orientation richtung = Qt::Horizontal);
+QToolBar* neueLeiste(std::string_view name, Knopfart art, Qt::Orientation richtung = Qt::Horizontal);
 QAction* fuegeKnopfHinzu(QToolBar& leiste, const Leistenknopf& knopf);
 // What follows stands at the far end.
 void fuegeDehnerHinzu(QToolBar& leiste);

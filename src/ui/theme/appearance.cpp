@@ -43,7 +43,8 @@ QFont programmschrift()
 #ifdef Q_OS_WIN
     schrift.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma")});
 #else
-    schrift.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
+    schrift.setFamilies(
+        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
 #endif
     schrift.setPointSizeF(9);
     return schrift;
@@ -57,7 +58,7 @@ QString stylesheet(const Farbsatz& farben)
         return {};
     QString text = QString::fromUtf8(datei.readAll());
     // A name that begins another one comes after it.
-    const std::array<std::pair<const char*, QColor>, 12> namen{{{"@akzentFlaeche", farben.akzentFlaeche},
+    const std::array<std::pair<const char*, QColor>, 13> namen{{{"@akzentFlaeche", farben.akzentFlaeche},
                                                                 {"@akzent", farben.akzent},
                                                                 {"@auswahl", farben.auswahl},
                                                                 {"@flaeche", farben.flaeche},
@@ -68,7 +69,8 @@ QString stylesheet(const Farbsatz& farben)
                                                                 {"@rand", farben.rand},
                                                                 {"@streifen", farben.streifen},
                                                                 {"@text", farben.text},
-                                                                {"@ueberfahren", farben.ueberfahren}}};
+                                                                {"@ueberfahren", farben.ueberfahren},
+                                                                {"@warnung", farben.warnung}}};
     for (const auto& [name, farbe] : namen)
         text.replace(QLatin1String(name), farbe.name());
     return text;

@@ -9,20 +9,20 @@ namespace quelvarn {
 struct Farbsatz
 {
     bool dunkel;
-    QColor flaeche;       // Pages
-    QColor streifen;      // Head lines, column heads, status bars
-    QColor zeile2;        // Every second row of a grid
-    QColor linie;         // Separators
-    QColor rand;          // Outlines of fields
+    QColor flaeche;  // Pages
+    QColor streifen; // Head lines, column heads, status bars
+    QColor zeile2;   // Every second row of a grid
+    QColor linie;    // Separators
+    QColor rand;     // Outlines of fields
     QColor text;
-    QColor gedaempft;     // Captions beside values
+    QColor gedaempft; // Captions beside values
     QColor inaktiv;
     QColor akzent;
     QColor akzentFlaeche; // Behind the page that is shown, pressed buttons
     QColor ueberfahren;   // Under the mouse
     QColor auswahl;
     QColor warnung;
-    QColor hinweis;       // Fill of a change indicator
+    QColor hinweis; // Fill of a change indicator
     QColor hinweisText;
 };
 

@@ -1,0 +1,93 @@
+#include "ui/controls/grid.h"
+
+#include "database/recordset.h"
+#include "ui/text.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+namespace quelvarn {
+
+namespace {
+
+// Shortens paths in their middle, and shows the whole text in the tool tip where it was shortened.
+class Zellenzeichner : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* ansicht, const QStyleOptionViewItem& option,
+                   const QModelIndex& stelle) override
+    {
+        if (ereignis->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(ereignis, ansicht, option, stelle);
+        const bool gekuerzt = sizeHint(option, stelle).width() > ansicht->visualRect(stelle).width();
+        QToolTip::showText(ereignis->globalPos(), gekuerzt ? stelle.data().toString() : QString(), ansicht);
+        return true;
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& stelle) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, stelle);
+        option->state.setFlag(QStyle::State_HasFocus, false); // The whole row is marked instead.
+        if (option->text.contains(u'\\'))
+            option->textElideMode = Qt::ElideMiddle;
+    }
+};
+
+} // namespace
+
+Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile)
+    : modell_(new Gittermodell(std::move(spalten))), anteile_(std::move(anteile))
+{
+    setObjectName(zuQt(name));
+    modell_->setParent(this);
+    setModel(modell_);
+    setItemDelegate(new Zellenzeichner(this));
+    stelleEin();
+}
+
+void Gitter::stelleEin()
+{
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setMinimumSectionSize(40);
+}
+
+void Gitter::zeige(const Recordset* zeilen, unsigned fassung)
+{
+    still([&] { modell_->zeige(zeilen, fassung); });
+    if (zeilen == nullptr || zeilen->Bof() || zeilen->Eof())
+        return;
+    const int zeile = static_cast<int>(zeilen->AbsolutePosition());
+    if (zeile != currentIndex().row())
+        zeigeGewaehlt(modell_->index(zeile, 0));
+}
+
+void Gitter::resizeEvent(QResizeEvent* ereignis)
+{
+    QTableView::resizeEvent(ereignis);
+    if (breitenGesetzt_ || !isVisible())
+        return;
+    breitenGesetzt_ = true;
+    for (std::size_t i = 0; i + 1 < anteile_.size(); ++i)
+        setColumnWidth(static_cast<int>(i), viewport()->width() * anteile_[i] / 100);
+}
+
+} // namespace quelvarn

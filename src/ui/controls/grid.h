@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/controls/choice_view.h"
+#include "ui/controls/grid_model.h"
+
+#include <QTableView>
+
+#include <vector>
+
+namespace quelvarn {
+
+// A grid of rows of one height, quick also with a million of them.
+class Gitter : public Wahlansicht<QTableView>
+{
+    Q_OBJECT
+
+public:
+    // The widths are shares of the whole; the last column takes what is left.
+    Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile);
+
+    Gittermodell& zeilen() { return *modell_; }
+    void zeige(const Recordset* zeilen, unsigned fassung);
+
+protected:
+    void resizeEvent(QResizeEvent* ereignis) override;
+
+private:
+    void stelleEin();
+
+    Gittermodell* modell_;
+    std::vector<int> anteile_;
+    bool breitenGesetzt_ = false;
+};
+
+} // namespace quelvarn

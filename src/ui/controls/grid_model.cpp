@@ -1,0 +1,81 @@
+#include "ui/controls/grid_model.h"
+
+#include "base/runtime_error.h"
+#include "database/recordset.h"
+#include "ui/guard.h"
+#include "ui/text.h"
+
+#include <QMetaObject>
+
+#include <algorithm>
+#include <limits>
+
+namespace quelvarn {
+
+Gittermodell::Gittermodell(std::vector<Gitterspalte> spalten) : spalten_(std::move(spalten)) {}
+
+bool Gittermodell::zeige(const Recordset* zeilen, unsigned fassung)
+{
+    if (zeilen == zeilen_ && fassung == fassung_)
+        return false;
+    beginResetModel();
+    zeilen_ = zeilen;
+    fassung_ = fassung;
+    const std::size_t anzahl = zeilen != nullptr ? zeilen->RecordCount() : 0;
+    anzahl_ = static_cast<int>(std::min<std::size_t>(anzahl, std::numeric_limits<int>::max()));
+    gestoert_ = false;
+    endResetModel();
+    return true;
+}
+
+int Gittermodell::rowCount(const QModelIndex& eltern) const
+{
+    return eltern.isValid() ? 0 : anzahl_;
+}
+
+int Gittermodell::columnCount(const QModelIndex& eltern) const
+{
+    return eltern.isValid() ? 0 : static_cast<int>(spalten_.size());
+}
+
+QVariant Gittermodell::data(const QModelIndex& stelle, int rolle) const
+{
+    if (rolle != Qt::DisplayRole || !checkIndex(stelle, CheckIndexOption::IndexIsValid))
+        return {};
+    return zelle(stelle);
+}
+
+QVariant Gittermodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
+{
+    if (richtung != Qt::Horizontal || abschnitt < 0 || abschnitt >= columnCount())
+        return {};
+    if (rolle == Qt::DisplayRole)
+        return zuQt(spalten_[static_cast<std::size_t>(abschnitt)].titel);
+    if (rolle == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+}
+
+QString Gittermodell::zelle(const QModelIndex& stelle) const
+{
+    if (gestoert_)
+        return {};
+    try {
+        const auto& spalte = spalten_[static_cast<std::size_t>(stelle.column())];
+        return zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
+    } catch (const Laufzeitfehler& fehler) {
+        melde(fehler);
+        return {};
+    }
+}
+
+// A box must not come up in the middle of drawing.
+void Gittermodell::melde(const Laufzeitfehler& fehler) const
+{
+    gestoert_ = true;
+    QMetaObject::invokeMethod(
+        const_cast<Gittermodell*>(this), [fehler] { Waechter::aktuell().fuehreAus([&] { throw fehler; }); },
+        Qt::QueuedConnection);
+}
+
+} // namespace quelvarn

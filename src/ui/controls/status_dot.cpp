@@ -1,0 +1,24 @@
+#include "ui/controls/status_dot.h"
+
+#include "ui/theme/colours.h"
+
+#include <QPainter>
+
+namespace quelvarn {
+
+void Statuspunkt::setzeFarbe(unsigned rgb)
+{
+    rgb_ = rgb;
+    update();
+}
+
+void Statuspunkt::paintEvent(QPaintEvent* /*ereignis*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(statusPunkt(rgb_));
+    painter.drawEllipse(QRectF(1, (height() - 8) / 2.0, 8, 8));
+}
+
+} // namespace quelvarn

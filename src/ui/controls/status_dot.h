@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quelvarn {
+
+// A filled dot in the colour of a document's status.
+class Statuspunkt : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    void setzeFarbe(unsigned rgb);
+    QSize sizeHint() const override { return {10, 10}; }
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    unsigned rgb_ = 0;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+namespace quelvarn {
+
+// A label that wraps its text at words, and anywhere within a word that is longer than the line, such as a path.
+class Umbruchlabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit Umbruchlabel(QWidget* eltern = nullptr);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int breite) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+};
+
+} // namespace quelvarn

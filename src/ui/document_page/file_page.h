@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QCheckBox;
+class QLabel;
+
+namespace quelvarn {
+
+class DocumentPage;
+
+// The file properties page (FrmInfoDoku 10). Its labels are the array LblDat.
+class Dateiansicht : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Dateiansicht(DocumentPage& modell);
+
+    void zeigen();
+
+private:
+    QCheckBox* neuerKasten(const char* name, const QString& text, void (DocumentPage::*setze)(bool));
+
+    DocumentPage& modell_;
+    std::array<QLabel*, 6> werte_{};
+    QCheckBox* ChDatReadOnly_;
+    QCheckBox* ChDatArchiv_;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,189 @@
+#include "ui/document_page/form_se_doku.h"
+
+#include "register/document_page.h"
+#include "ui/controls/elided_label.h"
+#include "ui/controls/grid.h"
+#include "ui/controls/strip.h"
+#include "ui/controls/tool_bar.h"
+#include "ui/document_page/info_area.h"
+#include "ui/document_page/panels/panels.h"
+#include "ui/document_page/status_bar_datei.h"
+#include "ui/document_page/table_view.h"
+#include "ui/document_page/tool_bars.h"
+#include "ui/text.h"
+#include "ui/theme/icons.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+
+namespace quelvarn {
+
+FormSEDoku::FormSEDoku(DocumentPage& modell)
+    : modell_(modell), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
+      ToolbarSEDokTop_(neueToolbarSEDokTop()), ToolbarSEDok2_(neueToolbarSEDok2()), info_(new Infobereich(modell)),
+      status_(new StatusBarDatei)
+{
+    setObjectName(QStringLiteral("FormSEDoku"));
+    SSTabDGDoku_ = neueReiter();
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins({});
+    aufbau->setSpacing(0);
+    aufbau->addWidget(neueKopfzeile());
+    aufbau->addWidget(neueLeiste());
+    aufbau->addWidget(neueMitte(), 1);
+    aufbau->addWidget(status_);
+    baueTasten();
+}
+
+QWidget* FormSEDoku::neueKopfzeile()
+{
+    auto* zeile = new Streifen(Streifen::Art::Kopfzeile, "KopfSEDoku");
+    LabelSEDoku_->setObjectName(QStringLiteral("LabelSEDoku"));
+    setzeRolle(*LabelSEDoku_, Rolle::Titel);
+    LblZugriffSEDoku_->setObjectName(QStringLiteral("LblZugriffSEDoku"));
+    LblZugriffSEDoku_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setzeRolle(*LblZugriffSEDoku_, Rolle::Klein);
+    zeile->reihe().setContentsMargins(4, 0, 10, 0);
+    zeile->reihe().addWidget(LabelSEDoku_);
+    zeile->reihe().addWidget(LblZugriffSEDoku_, 1);
+    return zeile;
+}
+
+QWidget* FormSEDoku::neueLeiste()
+{
+    auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteSEDoku");
+    auto* ToolbarSEDok3 = neueToolbarSEDok3();
+    ToolbarSEDok3->hide();
+    zeile->reihe().addWidget(ToolbarSEDokTop_, 1);
+    zeile->reihe().addWidget(ToolbarSEDok3);
+    zeile->reihe().addWidget(neueToolbarSEDok4());
+    connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this,
+            bewacht([this](bool) { modell_.neuaufbauen(); }));
+    connect(&knopfVon(*ToolbarSEDok2_, "Zurück"), &QAction::triggered, this,
+            bewacht([this](bool) { modell_.zurueck(); }));
+    return zeile;
+}
+
+QWidget* FormSEDoku::neueMitte()
+{
+    auto* teiler = new QSplitter;
+    teiler->setObjectName(QStringLiteral("FrmDokuSmartView_Doku"));
+    teiler->setChildrenCollapsible(false);
+    teiler->addWidget(neueTabellenseite());
+    teiler->addWidget(info_);
+    teiler->setStretchFactor(0, 3);
+    teiler->setStretchFactor(1, 2);
+    teiler->setSizes({575, 364});
+
+    auto* viewer = new QWidget;
+    viewer->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
+    viewer->hide();
+    auto* mitte = new QWidget;
+    auto* reihe = new QHBoxLayout(mitte);
+    reihe->setContentsMargins({});
+    reihe->setSpacing(0);
+    reihe->addWidget(teiler);
+    reihe->addWidget(viewer);
+    return mitte;
+}
+
+QWidget* FormSEDoku::neueTabellenseite()
+{
+    auto* rand = new QFrame;
+    rand->setObjectName(QStringLiteral("RandSEDoku"));
+    auto* randaufbau = new QVBoxLayout(rand);
+    randaufbau->setContentsMargins(3, 4, 3, 4);
+    randaufbau->addWidget(ToolbarSEDok2_);
+    randaufbau->addStretch(1);
+
+    auto* tabellen = new QVBoxLayout;
+    tabellen->setSpacing(0);
+    for (QWidget* panel : {neuesFrmSuchenFiltern(), neuesFrmFilternDatum(), neuesFrmDelete()})
+        tabellen->addWidget(panel);
+    tabellen->addWidget(SSTabDGDoku_, 1);
+    for (QWidget* panel :
+         {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmInfoFilter(), neuesFrmForwardMessage(), neueAuftragsliste()})
+        tabellen->addWidget(panel, 1);
+
+    auto* seite = new QWidget;
+    auto* aufbau = new QHBoxLayout(seite);
+    aufbau->setContentsMargins({});
+    aufbau->setSpacing(0);
+    aufbau->addWidget(rand);
+    aufbau->addLayout(tabellen, 1);
+    return seite;
+}
+
+QTabWidget* FormSEDoku::neueReiter()
+{
+    auto* reiter = new QTabWidget;
+    reiter->setObjectName(QStringLiteral("SSTabDGDoku"));
+    reiter->setDocumentMode(true);
+    reiter->tabBar()->setElideMode(Qt::ElideRight);
+    reiter->tabBar()->setExpanding(false);
+    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
+        auto* tabelle = new Tabellenansicht(modell_, tab);
+        tabelle->geoeffnet = [this] {
+            if (bearbeiten)
+                bearbeiten();
+        };
+        tabellen_.push_back(tabelle);
+        reiter->addTab(tabelle, {});
+    }
+    connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) { modell_.tabGewaehlt(tab); }));
+    return reiter;
+}
+
+void FormSEDoku::baueTasten()
+{
+    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
+        auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
+        connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
+                    modell_.tabGewaehlt(tab);
+                    tabellen_[static_cast<std::size_t>(tab)]->gitter().setFocus();
+                }));
+    }
+    // Back from wherever the focus went.
+    auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(zurueck, &QShortcut::activated, this,
+            [this] { tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus(); });
+}
+
+void FormSEDoku::zeigen()
+{
+    LabelSEDoku_->setText(zuQt(modell_.anzahlText()));
+    LblZugriffSEDoku_->setText(zuQt(modell_.zugriffText()));
+    zeigeReiter();
+    zeigeZurueck();
+    for (auto* tabelle : tabellen_)
+        tabelle->zeigen();
+    info_->zeigen();
+    status_->zeigen(modell_);
+}
+
+void FormSEDoku::zeigeReiter()
+{
+    const QSignalBlocker still(SSTabDGDoku_);
+    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
+        const QString text = zuQt(modell_.tabtitel(tab));
+        if (SSTabDGDoku_->tabText(tab) == text)
+            continue;
+        SSTabDGDoku_->setTabText(tab, text);
+        SSTabDGDoku_->setTabToolTip(tab, text);
+    }
+    SSTabDGDoku_->setCurrentIndex(modell_.tab());
+}
+
+void FormSEDoku::zeigeZurueck()
+{
+    QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
+    knopf.setToolTip(zuQt(modell_.zurueckTooltip()));
+    knopf.setIcon(symbol(modell_.filterKnopf() ? "filter-aufheben" : "anfang"));
+}
+
+} // namespace quelvarn

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QTabWidget;
+class QToolBar;
+
+namespace quelvarn {
+
+class DocumentPage;
+class Infobereich;
+class KurzLabel;
+class StatusBarDatei;
+class Tabellenansicht;
+
+// The document page: tables with their property trees on the left, one information page on the right.
+class FormSEDoku : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormSEDoku(DocumentPage& modell);
+
+    void zeigen();
+    // A document was double-clicked: what "Bearbeiten" of the frame does.
+    std::function<void()> bearbeiten;
+
+private:
+    QWidget* neueKopfzeile();
+    QWidget* neueLeiste();
+    QWidget* neueMitte();
+    QWidget* neueTabellenseite();
+    QTabWidget* neueReiter();
+    void baueTasten();
+    void zeigeReiter();
+    void zeigeZurueck();
+
+    DocumentPage& modell_;
+    KurzLabel* LabelSEDoku_;
+    KurzLabel* LblZugriffSEDoku_;
+    QToolBar* ToolbarSEDokTop_;
+    QToolBar* ToolbarSEDok2_;
+    QTabWidget* SSTabDGDoku_;
+    std::vector<Tabellenansicht*> tabellen_;
+    Infobereich* info_;
+    StatusBarDatei* status_;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,138 @@
+#include "ui/document_page/info_area.h"
+
+#include "register/document_page.h"
+#include "ui/controls/elided_label.h"
+#include "ui/controls/strip.h"
+#include "ui/document_page/composition_page.h"
+#include "ui/document_page/file_page.h"
+#include "ui/document_page/general_page.h"
+#include "ui/document_page/list_pages.h"
+#include "ui/text.h"
+#include "ui/theme/colours.h"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QStackedWidget>
+
+namespace quelvarn {
+
+namespace {
+
+// "FrmInfoDoku(1)"; the page of the sent-to list has a name of its own.
+QString rahmenname(InfoSeite seite)
+{
+    if (seite == InfoSeite::SendTo)
+        return QStringLiteral("FrmSendTo");
+    return QStringLiteral("FrmInfoDoku(%1)").arg(static_cast<int>(seite));
+}
+
+QPlainTextEdit* neuesTextfeld(const char* name)
+{
+    auto* feld = new QPlainTextEdit;
+    feld->setObjectName(QLatin1String(name));
+    feld->setReadOnly(true);
+    feld->setTabChangesFocus(true);
+    return feld;
+}
+
+QLabel* neueWarnung(const char* name, const QString& text)
+{
+    auto* label = beschriftung(text, Rolle::Beschriftung, QLatin1String(name));
+    label->setProperty("rolle", QStringLiteral("warnung"));
+    label->hide();
+    return label;
+}
+
+} // namespace
+
+Infobereich::Infobereich(DocumentPage& modell)
+    : modell_(modell), kopf_(new KurzLabel),
+      LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei nicht vorhanden"))),
+      LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
+      leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
+      TextKeywords_(neuesTextfeld("TextKeywords")), TextComments_(neuesTextfeld("TextComments"))
+{
+    baueSeiten();
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins({});
+    aufbau->setSpacing(0);
+    aufbau->addWidget(neuerKopf());
+    aufbau->addWidget(seiten_, 1);
+}
+
+QWidget* Infobereich::neuerKopf()
+{
+    auto* kopf = new Streifen(Streifen::Art::Kopfzeile, "KopfInfo");
+    kopf_->setObjectName(QStringLiteral("LblInfo(0)"));
+    setzeRolle(*kopf_, Rolle::Kopf);
+    kopf->reihe().setContentsMargins(4, 0, 12, 0);
+    kopf->reihe().addWidget(kopf_, 1);
+    kopf->reihe().addWidget(LblNichtVorhanden_);
+    kopf->reihe().addWidget(LblAchtungRev_);
+    return kopf;
+}
+
+void Infobereich::baueSeiten()
+{
+    seiten_->addWidget(leer_);
+    fuegeSeiteHinzu(InfoSeite::Allgemein, allgemein_);
+    fuegeSeiteHinzu(InfoSeite::Datei, datei_);
+    fuegeSeiteHinzu(InfoSeite::StichKomm, neueStichKommSeite());
+    fuegeSeiteHinzu(InfoSeite::Revisionen, neueRevisionsseite());
+    fuegeSeiteHinzu(InfoSeite::BenutzDef, neueBenutzDefSeite());
+    fuegeSeiteHinzu(InfoSeite::Hauptmerkmale, neueHauptmerkmalseite());
+    fuegeSeiteHinzu(InfoSeite::ZusDoku, neueZusDokuSeite());
+    fuegeSeiteHinzu(InfoSeite::SendTo, neueSendToSeite());
+    for (const Verwendungsart& art : verwendungsarten())
+        fuegeSeiteHinzu(art.seite, new Verwendungsansicht(art));
+}
+
+void Infobereich::fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt)
+{
+    auto* rahmen = new QWidget;
+    rahmen->setObjectName(rahmenname(seite));
+    auto* aufbau = new QVBoxLayout(rahmen);
+    aufbau->setContentsMargins({});
+    aufbau->addWidget(inhalt);
+    seite_[seite] = rahmen;
+    seiten_->addWidget(rahmen);
+}
+
+QWidget* Infobereich::neueStichKommSeite()
+{
+    auto* seite = new QWidget;
+    auto* aufbau = new QVBoxLayout(seite);
+    aufbau->setContentsMargins(12, 8, 12, 8);
+    aufbau->setSpacing(4);
+    aufbau->addWidget(beschriftung(QStringLiteral("Stichwörter"), Rolle::Kopf));
+    aufbau->addWidget(TextKeywords_, 1);
+    aufbau->addSpacing(4);
+    aufbau->addWidget(beschriftung(QStringLiteral("Kommentar"), Rolle::Kopf));
+    aufbau->addWidget(TextComments_, 2);
+    return seite;
+}
+
+void Infobereich::zeigen()
+{
+    zeigeKopf();
+    allgemein_->zeigen(modell_.allgemein());
+    datei_->zeigen();
+    const auto setze = [](QPlainTextEdit& feld, const std::string& text) {
+        if (feld.toPlainText() != zuQt(text))
+            feld.setPlainText(zuQt(text));
+    };
+    setze(*TextKeywords_, modell_.stichKomm().TextKeywords);
+    setze(*TextComments_, modell_.stichKomm().TextComments);
+    const auto seite = seite_.find(modell_.infoSeite());
+    seiten_->setCurrentWidget(seite != seite_.end() ? seite->second : leer_);
+}
+
+void Infobereich::zeigeKopf()
+{
+    kopf_->setText(zuQt(modell_.infoKopf()));
+    const bool datei = modell_.infoSeite() == InfoSeite::Datei;
+    LblNichtVorhanden_->setVisible(datei ? !modell_.datei().vorhanden : modell_.allgemein().nichtVorhanden);
+    LblAchtungRev_->setVisible(modell_.allgemein().neuereRevision);
+}
+
+} // namespace quelvarn

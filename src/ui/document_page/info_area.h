@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+#include <map>
+
+class QLabel;
+class QPlainTextEdit;
+class QStackedWidget;
+
+namespace quelvarn {
+
+class Allgemeinansicht;
+class Dateiansicht;
+class DocumentPage;
+class KurzLabel;
+enum class InfoSeite : int;
+
+// The right-hand side of the document page: one information page at a time under the head of the document type.
+class Infobereich : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Infobereich(DocumentPage& modell);
+
+    void zeigen();
+
+private:
+    QWidget* neuerKopf();
+    QWidget* neueStichKommSeite();
+    void baueSeiten();
+    void fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt);
+    void zeigeKopf();
+
+    DocumentPage& modell_;
+    KurzLabel* kopf_;
+    QLabel* LblNichtVorhanden_;
+    QLabel* LblAchtungRev_;
+    QStackedWidget* seiten_;
+    std::map<InfoSeite, QWidget*> seite_;
+    QWidget* leer_;
+    Allgemeinansicht* allgemein_;
+    Dateiansicht* datei_;
+    QPlainTextEdit* TextKeywords_;
+    QPlainTextEdit* TextComments_;
+};
+
+} // namespace quelvarn

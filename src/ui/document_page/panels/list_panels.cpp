@@ -1,0 +1,130 @@
+#include "ui/controls/grid.h"
+#include "ui/controls/strip.h"
+#include "ui/document_page/panels/panel_parts.h"
+#include "ui/document_page/panels/panels.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QToolBar>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr Leistenknopf VERWALTEN{"Verwalten.....", "Verwalten.....", "", "verwalten"};
+constexpr Leistenknopf ALLE_LOESCHEN{"Alle löschen", "Alle löschen", "", "loeschen"};
+constexpr Leistenknopf ZEILE_LOESCHEN{"Zeile löschen", "Zeile löschen", "", "zeile-loeschen"};
+constexpr Leistenknopf VERLASSEN{"Verlassen", "Verlassen", "", "zurueck"};
+
+QVBoxLayout* neuerAufbau(QWidget* panel)
+{
+    auto* aufbau = new QVBoxLayout(panel);
+    aufbau->setContentsMargins({});
+    aufbau->setSpacing(0);
+    return aufbau;
+}
+
+QHBoxLayout* neueReihe(QVBoxLayout& aufbau)
+{
+    auto* reihe = new QHBoxLayout;
+    reihe->setContentsMargins(8, 4, 8, 4);
+    aufbau.addLayout(reihe);
+    return reihe;
+}
+
+} // namespace
+
+QWidget* neuesFrmFavoriten()
+{
+    auto* panel = neuesPanel("FrmFavoriten");
+    auto* aufbau = neuerAufbau(panel);
+    aufbau->addWidget(new Gitter("DGFavoriten",
+                                 {{"Dokumentenbezeichnung ", "DokuBezFavoriten"},
+                                  {"Revision", "RevBezFavoriten"},
+                                  {"Dateiname", "DateinameFavoriten"},
+                                  {"Pfad- und Dateiname", "filenameFavoriten"}},
+                                 {30, 11, 24, 35}));
+    Leistenknopf verwalten = VERWALTEN;
+    verwalten.tooltip = "Verwaltung der Favoriten öffnen";
+    aufbau->addWidget(ruhendeLeiste("TBarFavVerlassen", {verwalten}));
+    Leistenknopf alle = ALLE_LOESCHEN;
+    alle.tooltip = "Alle Favoriten löschen";
+    Leistenknopf zeile = ZEILE_LOESCHEN;
+    zeile.tooltip = "Ausgewählten Favoriten löschen";
+    Leistenknopf verlassen = VERLASSEN;
+    verlassen.tooltip = "Verwaltung der Favoriten verlassen";
+    aufbau->addWidget(ruhendeLeiste("TBarFavVerwalten", {alle, zeile, verlassen}));
+    return panel;
+}
+
+QWidget* neuesFrmNutzer()
+{
+    auto* panel = neuesPanel("FrmNutzer");
+    auto* aufbau = neuerAufbau(panel);
+    auto* kopf = neueReihe(*aufbau);
+    kopf->addWidget(
+        beschriftung(QStringLiteral("In Solid Edge geöffnete Dateien."), Rolle::Kopf, QStringLiteral("LblKopfNutzer")),
+        1);
+    kopf->addWidget(ruhend<QCheckBox>("ChBenutzEigen", QStringLiteral("auch eigene")));
+    kopf->addWidget(ruhend<QCheckBox>("ChBenutzInArbeit", QStringLiteral("In Arbeit")));
+    kopf->addWidget(ruhend<QCheckBox>("ChBenutzInDurchsicht", QStringLiteral("In Durchsicht")));
+    aufbau->addWidget(new Gitter("DGNutzer",
+                                 {{"Dokumentname", "DokuBezNutzer"},
+                                  {"Revision", "RevBezNutzer"},
+                                  {"Dateiname", "DateinameNutzer"},
+                                  {"Anwender", "AnwenderNutzer"},
+                                  {"Rechner", "RechnerNutzer"},
+                                  {"Seit", "DateTimeNutzer"}},
+                                 {24, 10, 22, 14, 14, 16}));
+    auto* fuss = neueReihe(*aufbau);
+    fuss->addWidget(ruhend<QPushButton>("CmListBenutzer", QStringLiteral("Ende melden")));
+    fuss->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblMyDocuOpenBy")), 1);
+    aufbau->addWidget(ruhendeLeiste(
+        "TbarNutzVerwalten",
+        {{"Geöffnet", "Geöffnet", "", "bearbeiten"}, {"In Durchsicht", "In Durchsicht", "", "auge"}, VERWALTEN}));
+    aufbau->addWidget(ruhendeLeiste("TbarNutzVerlassen", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
+    return panel;
+}
+
+QWidget* neuesFrmForwardMessage()
+{
+    auto* panel = neuesPanel("FrmForwardMessage");
+    auto* aufbau = neuerAufbau(panel);
+    auto* kopf = neueReihe(*aufbau);
+    kopf->addWidget(ruhend<QPushButton>("TggBtForward(0)", QStringLiteral("Workflow")));
+    kopf->addWidget(ruhend<QPushButton>("TggBtForward(1)", QStringLiteral("Weiterleiten")));
+    kopf->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblMsgForward")), 1);
+    kopf->addWidget(ruhend<QCheckBox>("ChForwardAll", QStringLiteral("Alle Nachrichten")));
+    aufbau->addWidget(new Gitter("DGForward",
+                                 {{"Art", "ArtForward"},
+                                  {"Dokumentname", "DokuBezForward"},
+                                  {"Revision", "RevBezForward"},
+                                  {"Absender", "SenderForward"},
+                                  {"Datum/Uhrzeit", "DateTimeForward"}},
+                                 {28, 24, 10, 18, 20}),
+                      2);
+    aufbau->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoMessage")));
+    auto* TxtMessageKomm = new QPlainTextEdit;
+    TxtMessageKomm->setObjectName(QStringLiteral("TxtMessageKomm"));
+    TxtMessageKomm->setReadOnly(true);
+    aufbau->addWidget(TxtMessageKomm, 1);
+    aufbau->addWidget(
+        ruhendeLeiste("TbarForwardVerl", {VERWALTEN, VERLASSEN, {"Wechseln zu", "Wechseln zu", "", "wechseln"}}));
+    aufbau->addWidget(ruhendeLeiste("TbarForwardVerw", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
+    return panel;
+}
+
+QWidget* neuesFrmDelete()
+{
+    auto* panel = neuesPanel("FrmDelete");
+    auto* reihe = new QHBoxLayout(panel);
+    reihe->addWidget(ruhend<QPushButton>("LblDeleteRecordDB", QStringLiteral("Datensatz löschen")));
+    reihe->addWidget(ruhend<QPushButton>("LblDeleteDateiAndDB", QStringLiteral("Datensatz und Datei löschen")));
+    reihe->addStretch(1);
+    return panel;
+}
+
+} // namespace quelvarn

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/controls/tool_bar.h"
+
+#include <QString>
+
+#include <initializer_list>
+
+class QToolBar;
+class QWidget;
+
+namespace quelvarn {
+
+// A control of a panel whose work is not there yet: named, and disabled.
+template <typename Knopf> Knopf* ruhend(const char* name, const QString& text)
+{
+    auto* knopf = new Knopf(text);
+    knopf->setObjectName(QLatin1String(name));
+    knopf->setEnabled(false);
+    return knopf;
+}
+
+QToolBar* ruhendeLeiste(std::string_view name, std::initializer_list<Leistenknopf> knoepfe);
+// A panel with a head line; hidden until it is asked for.
+QWidget* neuesPanel(const char* name);
+
+} // namespace quelvarn

@@ -1,0 +1,37 @@
+#include "ui/document_page/status_bar_datei.h"
+
+#include "register/document_page.h"
+#include "ui/controls/elided_label.h"
+#include "ui/text.h"
+#include "ui/theme/colours.h"
+
+#include <QHBoxLayout>
+
+namespace quelvarn {
+
+StatusBarDatei::StatusBarDatei()
+    : Streifen(Art::Statuszeile, "StatusBarDatei"), dateiname_(new KurzLabel),
+      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)),
+      LblKopfStatus_(beschriftung({}, Rolle::Kopf, QStringLiteral("LblKopfStatus")))
+{
+    dateiname_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
+    pfadname_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
+    reihe().addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDatei(1)")));
+    reihe().addWidget(dateiname_);
+    reihe().addSpacing(8);
+    reihe().addWidget(beschriftung(QStringLiteral("Pfadname"), Rolle::Klein, QStringLiteral("StatusBarDatei(3)")));
+    reihe().addWidget(pfadname_, 1);
+    reihe().addWidget(LblKopfStatus_);
+}
+
+void StatusBarDatei::zeigen(const DocumentPage& modell)
+{
+    dateiname_->setText(zuQt(modell.dateinamePanel()));
+    pfadname_->setText(zuQt(modell.ordnerPanel()));
+    LblKopfStatus_->setText(zuQt(modell.statuskopf().text));
+    QPalette farben = LblKopfStatus_->palette();
+    farben.setColor(QPalette::WindowText, statusText(modell.statuskopf().farbe));
+    LblKopfStatus_->setPalette(farben);
+}
+
+} // namespace quelvarn

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ui/controls/strip.h"
+
+namespace quelvarn {
+
+class DocumentPage;
+class KurzLabel;
+
+// File name, folder and status of the document shown. The panels are named "StatusBarDatei(1)" and so on.
+class StatusBarDatei : public Streifen
+{
+    Q_OBJECT
+
+public:
+    StatusBarDatei();
+
+    void zeigen(const DocumentPage& modell);
+
+private:
+    KurzLabel* dateiname_;
+    KurzLabel* pfadname_;
+    QLabel* LblKopfStatus_;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui/controls/choice_view.h"
+
+#include <QTreeView>
+#include <QWidget>
+
+namespace quelvarn {
+
+class Baummodell;
+class DocumentPage;
+class Gitter;
+
+// The page of one document type on the tab control: grid above, property tree below.
+class Tabellenansicht : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Tabellenansicht(DocumentPage& modell, int tab);
+
+    void zeigen();
+    Gitter& gitter() { return *gitter_; }
+    // A row was double-clicked, or Enter pressed on it.
+    std::function<void()> geoeffnet;
+
+private:
+    void baueGitter();
+    void baueBaum();
+    void zeigeBaum();
+
+    DocumentPage& modell_;
+    int tab_;
+    Gitter* gitter_;
+    Wahlansicht<QTreeView>* baum_;
+    Baummodell* knoten_;
+};
+
+} // namespace quelvarn

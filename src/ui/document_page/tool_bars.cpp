@@ -1,0 +1,87 @@
+#include "ui/document_page/tool_bars.h"
+
+#include "ui/controls/tool_bar.h"
+
+#include <QAction>
+#include <QToolBar>
+
+#include <algorithm>
+#include <array>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::array<Leistenknopf, 7> OBEN{{
+    {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "neuaufbau"},
+    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "auge", true},
+    {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
+    {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", ""},
+    {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favorit-neu"},
+    {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "", true},
+    {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "", true},
+}};
+
+constexpr std::array<Leistenknopf, 5> LINKS{{
+    {"Suche/Filtern", "Suche/Filtern", "Nach Zeichenfolge suchen / filtern in Spalte...", "suche", true},
+    {"Filtern Datum", "Filtern Datum", "Filtern Heute / Filter zurückliegende Tage...", "datum", true},
+    {"Filtern Favo.", "Filtern Favo.", "Liste der gespeicherte Filterfavoriten anzeigen.", "lesezeichen", true},
+    {"Filterwerte", "Anzeigen der Filterwerte >>", "Anzeigen der Filterwerte >>", "werte", true},
+    {"Zurück", "Zurück", "Zum Anfang der Tabelle", "anfang"},
+}};
+
+constexpr std::array<Leistenknopf, 2> AUFTRAG{{
+    {"Zu Auftragslst", "Zu Auftragslst", "Aktuelles Dokument zur Auftragsliste hinzufügen", "plus"},
+    {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "liste", true},
+}};
+
+constexpr std::array<std::string_view, 2> BEREIT{"Neuaufbau", "Zurück"};
+
+void fuege(QToolBar& leiste, const Leistenknopf& knopf)
+{
+    const bool bereit = std::find(BEREIT.begin(), BEREIT.end(), knopf.schluessel) != BEREIT.end();
+    fuegeKnopfHinzu(leiste, knopf)->setEnabled(bereit);
+}
+
+QToolBar* neueAuftragsleiste(std::string_view name)
+{
+    auto* leiste = neueLeiste(name, Knopfart::TextNebenSymbol);
+    for (const Leistenknopf& knopf : AUFTRAG)
+        fuege(*leiste, knopf);
+    return leiste;
+}
+
+} // namespace
+
+QToolBar* neueToolbarSEDokTop()
+{
+    auto* leiste = neueLeiste("ToolbarSEDokTop", Knopfart::TextNebenSymbol);
+    for (const Leistenknopf& knopf : OBEN) {
+        if (knopf.schluessel == "Pfad in ZwSp" || knopf.schluessel == "Zu Favoriten")
+            leiste->addSeparator();
+        fuege(*leiste, knopf);
+    }
+    knopfVon(*leiste, "Neuaufbau").setShortcut(QKeySequence(Qt::Key_F5));
+    return leiste;
+}
+
+QToolBar* neueToolbarSEDok2()
+{
+    auto* leiste = neueLeiste("ToolbarSEDok2", Knopfart::NurSymbol, Qt::Vertical);
+    for (const Leistenknopf& knopf : LINKS)
+        fuege(*leiste, knopf);
+    knopfVon(*leiste, "Suche/Filtern").setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
+    return leiste;
+}
+
+QToolBar* neueToolbarSEDok3()
+{
+    return neueAuftragsleiste("ToolbarSEDok3");
+}
+
+QToolBar* neueToolbarSEDok4()
+{
+    return neueAuftragsleiste("ToolbarSEDok4");
+}
+
+} // namespace quelvarn

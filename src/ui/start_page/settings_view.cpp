@@ -1,0 +1,150 @@
+#include "ui/start_page/settings_view.h"
+
+#include "session/start_page.h"
+#include "session/tree_switches.h"
+#include "ui/controls/elided_label.h"
+#include "ui/controls/strip.h"
+#include "ui/guard.h"
+#include "ui/text.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace quelvarn {
+
+namespace {
+
+QGroupBox* neuerRahmen(const char* name, const QString& titel)
+{
+    auto* rahmen = new QGroupBox(titel);
+    rahmen->setObjectName(QLatin1String(name));
+    return rahmen;
+}
+
+template <typename Knopf> void setzeStill(Knopf& knopf, bool an)
+{
+    const QSignalBlocker still(&knopf);
+    knopf.setChecked(an);
+}
+
+} // namespace
+
+Einstellungen::Einstellungen(StartPage& modell, QWidget* darstellung)
+    : modell_(modell), version_(new KurzLabel), pfad_(new KurzLabel(nullptr, Qt::ElideMiddle)),
+      FrmActiveSE_(neuesActiveSE())
+{
+    auto* unten = new QHBoxLayout;
+    unten->addWidget(neuesOfflinePlot(), 1);
+    unten->addWidget(neuesOfflineOrder(), 1);
+
+    auto* aufbau = new QVBoxLayout(this);
+    aufbau->setContentsMargins({});
+    aufbau->setSpacing(6);
+    aufbau->addWidget(neuesSolidEdge());
+    aufbau->addWidget(FrmActiveSE_);
+    aufbau->addWidget(neueSchalter("Frame1", QStringLiteral("Informationseinstellungen der TREEVIEW"), 0,
+                                   ANZAHL_INFOPRIO1, ChInfoPrio1_, &StartPage::setzeInfoPrio1));
+    aufbau->addWidget(neueSchalter(
+        "Frame2", QStringLiteral("Informationen in der TREEVIEW anzeigen (sofern vorhanden)"), ANZAHL_INFOPRIO1,
+        static_cast<int>(BAUMSCHALTER.size()) - ANZAHL_INFOPRIO1, ChInfoPrio2_, &StartPage::setzeInfoPrio2));
+    aufbau->addLayout(unten);
+    aufbau->addWidget(darstellung);
+    aufbau->addStretch(1);
+}
+
+QWidget* Einstellungen::neuesSolidEdge()
+{
+    auto* teil = new QWidget;
+    auto* aufbau = new QVBoxLayout(teil);
+    aufbau->setContentsMargins(2, 0, 2, 2);
+    aufbau->setSpacing(2);
+    version_->setObjectName(QStringLiteral("LblSolidEdgeVersion"));
+    setzeRolle(*version_, Rolle::Kopf);
+    pfad_->setObjectName(QStringLiteral("LblSolidEdgePfad"));
+    setzeRolle(*pfad_, Rolle::Beschriftung);
+    aufbau->addWidget(version_);
+    aufbau->addWidget(pfad_);
+    return teil;
+}
+
+QGroupBox* Einstellungen::neuesActiveSE()
+{
+    auto* rahmen = neuerRahmen("FrmActiveSE", QStringLiteral("Einfügen Baugr./Plazieren Zchn. ist aktiv?"));
+    TggBtActiveSE_ = new QPushButton(QStringLiteral("Ereignis"));
+    TggBtActiveSE_->setObjectName(QStringLiteral("TggBtActiveSE"));
+    TggBtActiveSE_->setCheckable(true);
+    LblActiveSE_ = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblActiveSE"));
+    auto* reihe = new QHBoxLayout(rahmen);
+    reihe->addWidget(TggBtActiveSE_);
+    reihe->addWidget(LblActiveSE_, 1);
+    connect(TggBtActiveSE_, &QPushButton::clicked, this, bewacht([this](bool an) { modell_.setzeActiveSE(an); }));
+    return rahmen;
+}
+
+QGroupBox* Einstellungen::neueSchalter(const char* name, const QString& titel, int erster, int anzahl,
+                                       std::vector<QCheckBox*>& kaesten, void (StartPage::*setze)(int, bool))
+{
+    auto* rahmen = neuerRahmen(name, titel);
+    auto* aufbau = new QVBoxLayout(rahmen);
+    aufbau->setSpacing(4);
+    const QString feld = erster == 0 ? QStringLiteral("ChInfoPrio1(%1)") : QStringLiteral("ChInfoPrio2(%1)");
+    for (int i = 0; i < anzahl; ++i) {
+        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(erster + i)].beschriftung));
+        kasten->setObjectName(feld.arg(i));
+        connect(kasten, &QCheckBox::clicked, this, bewacht([this, i, setze](bool an) { (modell_.*setze)(i, an); }));
+        kaesten.push_back(kasten);
+        aufbau->addWidget(kasten);
+    }
+    return rahmen;
+}
+
+QGroupBox* Einstellungen::neuesOfflinePlot()
+{
+    auto* rahmen = neuerRahmen("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
+    auto* aufbau = new QHBoxLayout(rahmen);
+    for (std::size_t i = 0; i < OFFLINE_TOOLS.size(); ++i) {
+        auto* option = new QRadioButton(QStringLiteral("mit ") + zuQt(OFFLINE_TOOLS[i]));
+        option->setObjectName(QStringLiteral("OpOfflinePlot(%1)").arg(i));
+        const int index = static_cast<int>(i);
+        connect(option, &QRadioButton::clicked, this,
+                bewacht([this, index](bool) { modell_.offlineToolGewaehlt(index); }));
+        OpOfflinePlot_.push_back(option);
+        aufbau->addWidget(option);
+    }
+    return rahmen;
+}
+
+QGroupBox* Einstellungen::neuesOfflineOrder()
+{
+    auto* rahmen = neuerRahmen("FrmOfflineOrder", QStringLiteral("Offline/Versenden"));
+    ChLocalOrder_ = new QCheckBox(QStringLiteral("Aufträge lokal speichern"));
+    ChLocalOrder_->setObjectName(QStringLiteral("ChLocalOrder"));
+    connect(ChLocalOrder_, &QCheckBox::clicked, this, bewacht([this](bool an) { modell_.setzeLokaleAuftraege(an); }));
+    auto* aufbau = new QVBoxLayout(rahmen);
+    aufbau->addWidget(ChLocalOrder_);
+    return rahmen;
+}
+
+void Einstellungen::zeigen()
+{
+    version_->setText(zuQt(modell_.LblSolidEdgeVersion()));
+    pfad_->setText(zuQt(modell_.LblSolidEdgePfad()));
+    FrmActiveSE_->setVisible(modell_.activeSESichtbar());
+    FrmActiveSE_->setEnabled(modell_.activeSEBereit());
+    setzeStill(*TggBtActiveSE_, modell_.activeSE());
+    LblActiveSE_->setText(zuQt(modell_.LblActiveSE()));
+    for (std::size_t i = 0; i < ChInfoPrio1_.size(); ++i)
+        setzeStill(*ChInfoPrio1_[i], modell_.infoPrio1(static_cast<int>(i)));
+    for (std::size_t i = 0; i < ChInfoPrio2_.size(); ++i)
+        setzeStill(*ChInfoPrio2_[i], modell_.infoPrio2(static_cast<int>(i)));
+    for (std::size_t i = 0; i < OpOfflinePlot_.size(); ++i)
+        setzeStill(*OpOfflinePlot_[i], modell_.offlineTool() == static_cast<int>(i));
+    setzeStill(*ChLocalOrder_, modell_.lokaleAuftraege());
+}
+
+} // namespace quelvarn

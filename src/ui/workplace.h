@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/ports.h"
+#include "register/document_page.h"
+#include "session/main_window.h"
+#include "session/start_page.h"
+#include "ui/guard.h"
+#include "ui/theme/appearance.h"
+
+#include <functional>
+#include <memory>
+
+namespace quelvarn {
+
+class FormDB;
+class FormSEDoku;
+class MDIForm1;
+struct SessionState;
+
+// The program on the screen: the models of its pages and the windows that show them.
+class Arbeitsplatz
+{
+public:
+    // `programmEnde` ends the program: the window was closed, or a person chose so in an error report.
+    Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& darstellung, std::function<void()> programmEnde);
+    ~Arbeitsplatz();
+
+    // Puts the window on the screen and runs its load. False when the program ends.
+    bool starte();
+    MDIForm1& fenster() { return *fenster_; }
+
+private:
+    class Dokumentteilnehmer;
+
+    void verbinde();
+
+    SessionState& session_;
+    Darstellung& darstellung_;
+    std::function<void()> programmEnde_;
+    Waechter waechter_;
+    MainWindow rahmen_;
+    StartPage startseite_;
+    DocumentPage dokumentseite_;
+    std::unique_ptr<Dokumentteilnehmer> dokumentteilnehmer_;
+    std::unique_ptr<MDIForm1> fenster_;
+    FormDB* formDB_ = nullptr;
+    FormSEDoku* formSEDoku_ = nullptr;
+};
+
+} // namespace quelvarn
