@@ -44,4 +44,9 @@ Waechter& Waechter::aktuell()
     return *inKraft;
 }
 
+bool Waechter::gibtEs()
+{
+    return inKraft != nullptr;
+}
+
 } // namespace quelvarn

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 namespace quelvarn {
 
@@ -20,6 +22,7 @@ public:
 
     // The one in force; every slot of the program runs through it.
     static Waechter& aktuell();
+    static bool gibtEs();
 
 private:
     Meldungen& meldungen_;
@@ -27,11 +30,16 @@ private:
     Waechter* vorheriger_;
 };
 
-// A slot that runs guarded, with the arguments of its signal.
+// A slot that runs guarded, with the arguments of its signal or with none.
 template <typename Slot> auto bewacht(Slot slot)
 {
     return [slot = std::move(slot)](auto... argumente) mutable {
-        Waechter::aktuell().fuehreAus([&] { slot(argumente...); });
+        Waechter::aktuell().fuehreAus([&] {
+            if constexpr (std::is_invocable_v<Slot&, decltype(argumente)...>)
+                slot(argumente...);
+            else
+                slot();
+        });
     };
 }
 

@@ -11,39 +11,11 @@
 
 namespace quelvarn {
 
-// Passes on to the document page what the frame and the start page do.
-class Arbeitsplatz::Dokumentteilnehmer final : public Rahmenteilnehmer
-{
-public:
-    Dokumentteilnehmer(SessionState& session, DocumentPage& seite) : session_(session), seite_(seite) {}
-
-    void seiteGezeigt(Seite seite) override
-    {
-        if (seite != Seite::Dokumente)
-            return;
-        session_.FormSEDokuGeladen = true;
-        seite_.StartTabelleZeigen();
-    }
-    void datenbankWechselt() override { seite_.datenbankGewechselt(); }
-    void baumschalterGeaendert() override { seite_.baumschalterGeaendert(); }
-    void entladen() override
-    {
-        if (session_.FormSEDokuGeladen)
-            seite_.schliessen();
-        session_.FormSEDokuGeladen = false;
-    }
-
-private:
-    SessionState& session_;
-    DocumentPage& seite_;
-};
-
 Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& darstellung,
                            std::function<void()> programmEnde)
-    : session_(session), darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
+    : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
       startseite_(session, ports, rahmen_), dokumentseite_(session, ports),
-      dokumentteilnehmer_(std::make_unique<Dokumentteilnehmer>(session, dokumentseite_)),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -51,9 +23,10 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
         darstellung_.wendeAn(*qApp);
         fenster_->stelleGroesseEin();
         fenster_->show();
+        formSEDoku_->zeigen(); // Its colours of a status depend on the appearance.
     };
     formDB_ = new FormDB(startseite_, aussehen);
-    formSEDoku_ = new FormSEDoku(dokumentseite_);
+    formSEDoku_ = new FormSEDoku(dokumentseite_, session);
     fenster_->setzeSeiten(*formDB_, *new FormSEFiltern, *formSEDoku_);
     verbinde();
 }
@@ -62,10 +35,14 @@ Arbeitsplatz::~Arbeitsplatz() = default;
 
 void Arbeitsplatz::verbinde()
 {
-    rahmen_.meldeAn(*dokumentteilnehmer_);
+    rahmen_.meldeAn(dokumentseite_);
     rahmen_.geaendert = [this] { fenster_->zeigen(); };
     rahmen_.beendet = [this] { programmEnde_(); };
     startseite_.geaendert = [this] { formDB_->zeigen(); };
+    formSEDoku_->bearbeiten = [this] {
+        if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
+            rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
+    };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();
         fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());

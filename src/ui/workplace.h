@@ -30,18 +30,14 @@ public:
     MDIForm1& fenster() { return *fenster_; }
 
 private:
-    class Dokumentteilnehmer;
-
     void verbinde();
 
-    SessionState& session_;
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
     Waechter waechter_;
     MainWindow rahmen_;
     StartPage startseite_;
     DocumentPage dokumentseite_;
-    std::unique_ptr<Dokumentteilnehmer> dokumentteilnehmer_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;
     FormSEDoku* formSEDoku_ = nullptr;

@@ -23,7 +23,7 @@ Seitenknopf::Seitenknopf(std::string_view name, const QString& text, std::string
     text_->setFocusPolicy(Qt::TabFocus);
     for (auto* taste : {bild_, text_}) {
         taste->setAutoRaise(true);
-        connect(taste, &QToolButton::clicked, this, bewacht([this](bool) {
+        connect(taste, &QToolButton::clicked, this, bewacht([this] {
                     if (gewaehlt)
                         gewaehlt();
                 }));

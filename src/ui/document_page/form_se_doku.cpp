@@ -23,8 +23,8 @@
 
 namespace quelvarn {
 
-FormSEDoku::FormSEDoku(DocumentPage& modell)
-    : modell_(modell), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
+FormSEDoku::FormSEDoku(DocumentPage& modell, const SessionState& session)
+    : modell_(modell), session_(session), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
       ToolbarSEDokTop_(neueToolbarSEDokTop()), ToolbarSEDok2_(neueToolbarSEDok2()), info_(new Infobereich(modell)),
       status_(new StatusBarDatei)
 {
@@ -63,9 +63,8 @@ QWidget* FormSEDoku::neueLeiste()
     zeile->reihe().addWidget(ToolbarSEDok3);
     zeile->reihe().addWidget(neueToolbarSEDok4());
     connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this,
-            bewacht([this](bool) { modell_.neuaufbauen(); }));
-    connect(&knopfVon(*ToolbarSEDok2_, "Zurück"), &QAction::triggered, this,
-            bewacht([this](bool) { modell_.zurueck(); }));
+            bewacht([this] { modell_.neuaufbauen(); }));
+    connect(&knopfVon(*ToolbarSEDok2_, "Zurück"), &QAction::triggered, this, bewacht([this] { modell_.zurueck(); }));
     return zeile;
 }
 
@@ -170,7 +169,7 @@ void FormSEDoku::zeigeReiter()
 {
     const QSignalBlocker still(SSTabDGDoku_);
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        const QString text = zuQt(modell_.tabtitel(tab));
+        const QString text = zuQt(session_.mehrzahl(tab));
         if (SSTabDGDoku_->tabText(tab) == text)
             continue;
         SSTabDGDoku_->setTabText(tab, text);

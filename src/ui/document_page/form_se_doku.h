@@ -15,6 +15,7 @@ class Infobereich;
 class KurzLabel;
 class StatusBarDatei;
 class Tabellenansicht;
+struct SessionState;
 
 // The document page: tables with their property trees on the left, one information page on the right.
 class FormSEDoku : public QWidget
@@ -22,7 +23,7 @@ class FormSEDoku : public QWidget
     Q_OBJECT
 
 public:
-    explicit FormSEDoku(DocumentPage& modell);
+    FormSEDoku(DocumentPage& modell, const SessionState& session);
 
     void zeigen();
     // A document was double-clicked: what "Bearbeiten" of the frame does.
@@ -39,6 +40,7 @@ private:
     void zeigeZurueck();
 
     DocumentPage& modell_;
+    const SessionState& session_;
     KurzLabel* LabelSEDoku_;
     KurzLabel* LblZugriffSEDoku_;
     QToolBar* ToolbarSEDokTop_;

@@ -56,7 +56,7 @@ void ToolbarMidiFrm::baueExtras(QAction& knopf)
     auto* menue = new QMenu(this);
     weiterleitenInExtras_ = menue->addAction(symbol("weiterleiten"), QStringLiteral("Weiterleiten"));
     connect(weiterleitenInExtras_, &QAction::triggered, this,
-            bewacht([this](bool) { modell_.werkzeugGewaehlt(Werkzeug::Weiterleiten); }));
+            bewacht([this] { modell_.werkzeugGewaehlt(Werkzeug::Weiterleiten); }));
     knopf.setMenu(menue);
     if (auto* taste = qobject_cast<QToolButton*>(widgetForAction(&knopf)))
         taste->setPopupMode(QToolButton::InstantPopup);

@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -78,7 +79,7 @@ void Dateiwaehler::verbinde()
 {
     connect(DriveDB_, &QComboBox::textActivated, this,
             bewacht([this](const QString& eintrag) { modell_.laufwerkGewaehlt(ausQt(eintrag)); }));
-    connect(TbUpDB_, &QToolButton::clicked, this, bewacht([this](bool) { modell_.nachOben(); }));
+    connect(TbUpDB_, &QToolButton::clicked, this, bewacht([this] { modell_.nachOben(); }));
     connect(DirDB_, &QTreeWidget::itemActivated, this, bewacht([this](QTreeWidgetItem* eintrag, int) {
                 modell_.ordnerGewaehlt(ausQt(eintrag->data(0, ROLLE_PFAD).toString()));
             }));
@@ -89,7 +90,7 @@ void Dateiwaehler::verbinde()
     eingabe->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
     eingabe->setShortcutContext(Qt::WidgetShortcut);
     FileDB_->addAction(eingabe);
-    connect(eingabe, &QAction::triggered, this, bewacht([this](bool) {
+    connect(eingabe, &QAction::triggered, this, bewacht([this] {
                 if (const auto* eintrag = FileDB_->currentItem())
                     modell_.dateiGewaehlt(ausQt(eintrag->text()));
             }));

@@ -52,9 +52,9 @@ QWidget* FormDB::neueLeiste()
     auto* oeffnen = fuegeKnopfHinzu(*leiste, {"Öffnen", "Öffnen", "Öffnen der Datenbank", "ordner-offen"});
     oeffnen->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
     oeffnen->setShortcutContext(Qt::WindowShortcut);
-    connect(oeffnen, &QAction::triggered, this, bewacht([this](bool) { modell_.oeffnen(); }));
+    connect(oeffnen, &QAction::triggered, this, bewacht([this] { modell_.oeffnen(); }));
     auto* verlassen = fuegeKnopfHinzu(*leiste, {"Verlassen", "Verlassen", "Zurück zur Hauptform", "zurueck"});
-    connect(verlassen, &QAction::triggered, this, bewacht([this](bool) { modell_.verlassen(); }));
+    connect(verlassen, &QAction::triggered, this, bewacht([this] { modell_.verlassen(); }));
     zeile->reihe().addWidget(leiste);
     return zeile;
 }
