@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QResizeEvent>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -12,7 +13,7 @@ namespace quelvarn {
 
 namespace {
 
-// Shortens paths in their middle, and shows the whole text in the tool tip where it was shortened.
+// Shows the whole text in the tool tip where it had to be shortened.
 class Zellenzeichner : public QStyledItemDelegate
 {
 public:
@@ -33,8 +34,6 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, stelle);
         option->state.setFlag(QStyle::State_HasFocus, false); // The whole row is marked instead.
-        if (option->text.contains(u'\\'))
-            option->textElideMode = Qt::ElideMiddle;
     }
 };
 
@@ -66,8 +65,13 @@ void Gitter::stelleEin()
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setTextElideMode(Qt::ElideRight);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(40);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int spalte) {
+        const bool letzte = spalte == modell_->columnCount() - 1; // It follows the others.
+        vonHand_ = vonHand_ || (!verteilt_ && !letzte && isVisible());
+    });
 }
 
 void Gitter::zeige(const Recordset* zeilen, unsigned fassung)
@@ -83,11 +87,16 @@ void Gitter::zeige(const Recordset* zeilen, unsigned fassung)
 void Gitter::resizeEvent(QResizeEvent* ereignis)
 {
     QTableView::resizeEvent(ereignis);
-    if (breitenGesetzt_ || !isVisible())
-        return;
-    breitenGesetzt_ = true;
+    if (!vonHand_ && ereignis->size().width() != ereignis->oldSize().width())
+        verteileBreiten();
+}
+
+void Gitter::verteileBreiten()
+{
+    verteilt_ = true;
     for (std::size_t i = 0; i + 1 < anteile_.size(); ++i)
         setColumnWidth(static_cast<int>(i), viewport()->width() * anteile_[i] / 100);
+    verteilt_ = false;
 }
 
 } // namespace quelvarn

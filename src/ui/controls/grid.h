@@ -26,10 +26,12 @@ protected:
 
 private:
     void stelleEin();
+    void verteileBreiten();
 
     Gittermodell* modell_;
     std::vector<int> anteile_;
-    bool breitenGesetzt_ = false;
+    bool verteilt_ = false; // Widths are being set by the program now.
+    bool vonHand_ = false;  // A person has set a width: it stays.
 };
 
 } // namespace quelvarn

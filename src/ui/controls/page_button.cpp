@@ -16,6 +16,7 @@ Seitenknopf::Seitenknopf(std::string_view name, const QString& text, std::string
 {
     bild_->setObjectName(QStringLiteral("Img") + zuQt(name));
     bild_->setIconSize({16, 16});
+    bild_->setFixedSize(16, 16);
     bild_->setFocusPolicy(Qt::NoFocus);
     bild_->setAccessibleName(text);
     text_->setObjectName(QStringLiteral("Lbl") + zuQt(name));
@@ -29,8 +30,8 @@ Seitenknopf::Seitenknopf(std::string_view name, const QString& text, std::string
                 }));
     }
     auto* reihe = new QHBoxLayout(this);
-    reihe->setContentsMargins(9, 5, 9, 5);
-    reihe->setSpacing(5);
+    reihe->setContentsMargins(9, 5, 6, 5);
+    reihe->setSpacing(1);
     reihe->addWidget(bild_);
     reihe->addWidget(text_);
     setCursor(Qt::PointingHandCursor);

@@ -43,6 +43,7 @@ QToolBar* neueLeiste(std::string_view name, Knopfart art, Qt::Orientation richtu
 QAction* fuegeKnopfHinzu(QToolBar& leiste, const Leistenknopf& knopf)
 {
     auto* aktion = leiste.addAction(zuQt(knopf.beschriftung));
+    aktion->setIconText(zuQt(knopf.beschriftung)); // Otherwise its dots are taken away.
     aktion->setObjectName(zuQt(knopf.schluessel));
     aktion->setToolTip(zuQt(knopf.tooltip));
     aktion->setCheckable(knopf.umschalter);

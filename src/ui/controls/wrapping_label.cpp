@@ -1,13 +1,37 @@
 #include "ui/controls/wrapping_label.h"
 
 #include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
 
 namespace quelvarn {
 
 namespace {
 
-constexpr int UMBRUCH = Qt::TextWordWrap | Qt::TextWrapAnywhere | Qt::AlignLeft | Qt::AlignTop;
-constexpr int VIEL_PLATZ = 10000;
+// Lines may end behind the backslashes of a path, but not before them.
+QString mitBruchstellen(QString text)
+{
+    return text.replace(u'\\', QStringLiteral("\u2060\\\u200B"));
+}
+
+// Breaks the text into lines of this width; its height is the answer.
+qreal brichUm(QTextLayout& satz, int breite)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    satz.setTextOption(option);
+    qreal hoehe = 0;
+    satz.beginLayout();
+    for (QTextLine zeile = satz.createLine(); zeile.isValid(); zeile = satz.createLine()) {
+        zeile.setLineWidth(breite);
+        zeile.setPosition({0, hoehe});
+        hoehe += zeile.height();
+    }
+    satz.endLayout();
+    return hoehe;
+}
 
 } // namespace
 
@@ -21,8 +45,8 @@ Umbruchlabel::Umbruchlabel(QWidget* eltern) : QLabel(eltern)
 
 int Umbruchlabel::heightForWidth(int breite) const
 {
-    const QRect platz = fontMetrics().boundingRect({0, 0, breite, VIEL_PLATZ}, UMBRUCH, text());
-    return std::max(platz.height(), fontMetrics().height());
+    QTextLayout satz(mitBruchstellen(text()), font());
+    return std::max(static_cast<int>(std::ceil(brichUm(satz, breite))), fontMetrics().height());
 }
 
 QSize Umbruchlabel::sizeHint() const
@@ -38,8 +62,10 @@ QSize Umbruchlabel::minimumSizeHint() const
 void Umbruchlabel::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), UMBRUCH, text());
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    QTextLayout satz(mitBruchstellen(text()), font(), this);
+    brichUm(satz, width());
+    satz.draw(&painter, {0, 0});
 }
 
 } // namespace quelvarn

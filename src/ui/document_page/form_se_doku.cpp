@@ -4,6 +4,7 @@
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
+#include "ui/controls/tab_bar.h"
 #include "ui/controls/tool_bar.h"
 #include "ui/document_page/info_area.h"
 #include "ui/document_page/panels/panels.h"
@@ -18,10 +19,15 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabBar>
-#include <QTabWidget>
 #include <QToolBar>
 
 namespace quelvarn {
+
+namespace {
+
+constexpr int ERSTE_SONDERTABELLE = 5;
+
+} // namespace
 
 FormSEDoku::FormSEDoku(DocumentPage& modell, const SessionState& session)
     : modell_(modell), session_(session), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
@@ -88,6 +94,7 @@ QWidget* FormSEDoku::neueMitte()
     reihe->setSpacing(0);
     reihe->addWidget(teiler);
     reihe->addWidget(viewer);
+    reihe->addWidget(neueAuftragsliste());
     return mitte;
 }
 
@@ -105,8 +112,7 @@ QWidget* FormSEDoku::neueTabellenseite()
     for (QWidget* panel : {neuesFrmSuchenFiltern(), neuesFrmFilternDatum(), neuesFrmDelete()})
         tabellen->addWidget(panel);
     tabellen->addWidget(SSTabDGDoku_, 1);
-    for (QWidget* panel :
-         {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmInfoFilter(), neuesFrmForwardMessage(), neueAuftragsliste()})
+    for (QWidget* panel : {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmInfoFilter(), neuesFrmForwardMessage()})
         tabellen->addWidget(panel, 1);
 
     auto* seite = new QWidget;
@@ -120,10 +126,11 @@ QWidget* FormSEDoku::neueTabellenseite()
 
 QTabWidget* FormSEDoku::neueReiter()
 {
-    auto* reiter = new QTabWidget;
+    auto* reiter = new Reiter(ERSTE_SONDERTABELLE);
     reiter->setObjectName(QStringLiteral("SSTabDGDoku"));
     reiter->setDocumentMode(true);
-    reiter->tabBar()->setElideMode(Qt::ElideRight);
+    reiter->tabBar()->setElideMode(Qt::ElideMiddle);
+    reiter->tabBar()->setUsesScrollButtons(false);
     reiter->tabBar()->setExpanding(false);
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
         auto* tabelle = new Tabellenansicht(modell_, tab);
@@ -144,7 +151,7 @@ void FormSEDoku::baueTasten()
         auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
         connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
                     modell_.tabGewaehlt(tab);
-                    tabellen_[static_cast<std::size_t>(tab)]->gitter().setFocus();
+                    setFocus();
                 }));
     }
     // Back from wherever the focus went.
@@ -176,6 +183,7 @@ void FormSEDoku::zeigeReiter()
         SSTabDGDoku_->setTabToolTip(tab, text);
     }
     SSTabDGDoku_->setCurrentIndex(modell_.tab());
+    setFocusProxy(&tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter());
 }
 
 void FormSEDoku::zeigeZurueck()

@@ -17,7 +17,7 @@ const std::vector<Gitterspalte> SPALTEN{{"Dokumentname", "DokuBez"},
                                         {"Revision", "RevBez"},
                                         {"Dateiname", "Dateiname"},
                                         {"Pfad- und Dateiname", "filename"}};
-const std::vector<int> ANTEILE{27, 11, 24, 38};
+const std::vector<int> ANTEILE{26, 11, 24, 39};
 
 } // namespace
 

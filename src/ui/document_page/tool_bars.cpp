@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::array<Leistenknopf, 7> OBEN{{
     {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "neuaufbau"},
-    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "auge", true},
+    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "", true},
     {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
     {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", ""},
     {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favorit-neu"},

@@ -88,6 +88,7 @@ QTimer* MDIForm1::neuerZeitgeber(const char* name)
 
 void MDIForm1::setzeSeiten(QWidget& start, QWidget& filter, QWidget& dokumente)
 {
+    seiten_->addWidget(new QWidget); // Until the first page is there.
     for (QWidget* seite : {&start, &filter, &dokumente})
         seiten_->addWidget(seite);
 }
@@ -109,8 +110,11 @@ void MDIForm1::zeigen()
     for (std::size_t i = 0; i < SEITENWEGE.size(); ++i) {
         const bool vorn = modell_.seite() == SEITENWEGE[i].ziel;
         seitenknoepfe_[i]->zeigeAktiv(vorn);
-        if (vorn)
-            seiten_->setCurrentIndex(static_cast<int>(i));
+        const int stelle = static_cast<int>(i) + 1;
+        if (vorn && seiten_->currentIndex() != stelle) {
+            seiten_->setCurrentIndex(stelle);
+            seiten_->currentWidget()->setFocus();
+        }
     }
     werkzeuge_->zeigen();
     status_->zeigen(modell_);

@@ -14,7 +14,13 @@ namespace quelvarn {
 namespace {
 
 constexpr std::array<std::string_view, ANZAHL_WERKZEUGE> SYMBOLE{"bearbeiten", "einfuegen",    "plazieren", "auge",
-                                                                 "extras",     "weiterleiten", "nachricht", "beenden"};
+                                                                 "ab",         "weiterleiten", "nachricht", "beenden"};
+
+// In this order they do without their captions when there is no room.
+constexpr std::array ENTBEHRLICH{Werkzeug::Weiterleiten, Werkzeug::Nachrichten,   Werkzeug::SmartViewer,
+                                 Werkzeug::Beenden,      Werkzeug::PlazierenZchn, Werkzeug::EinfuegenBaugr};
+constexpr int ABSTAND = 2;
+constexpr int RAND = 8;
 
 std::size_t stelle(Werkzeug werkzeug)
 {
@@ -58,8 +64,10 @@ void ToolbarMidiFrm::baueExtras(QAction& knopf)
     connect(weiterleitenInExtras_, &QAction::triggered, this,
             bewacht([this] { modell_.werkzeugGewaehlt(Werkzeug::Weiterleiten); }));
     knopf.setMenu(menue);
-    if (auto* taste = qobject_cast<QToolButton*>(widgetForAction(&knopf)))
+    if (auto* taste = qobject_cast<QToolButton*>(widgetForAction(&knopf))) {
         taste->setPopupMode(QToolButton::InstantPopup);
+        taste->setLayoutDirection(Qt::RightToLeft); // The arrow stands behind the caption.
+    }
 }
 
 void ToolbarMidiFrm::zeigen()
@@ -90,15 +98,29 @@ void ToolbarMidiFrm::resizeEvent(QResizeEvent* ereignis)
 
 void ToolbarMidiFrm::passeAn()
 {
-    int breite = 0;
-    for (const QAction* aktion : knoepfe_)
-        if (aktion->isVisible()) {
-            const int text = fontMetrics().horizontalAdvance(aktion->text());
-            breite += text + iconSize().width() + 24;
-        }
-    const auto stil = breite + 24 > width() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextBesideIcon;
-    if (toolButtonStyle() != stil)
-        setToolButtonStyle(stil);
+    int breite = 2 * RAND;
+    for (const QAction* trenner : trenner_)
+        breite += trenner->isVisible() ? widgetForAction(const_cast<QAction*>(trenner))->sizeHint().width() : 0;
+    for (const Werkzeug werkzeug : ENTBEHRLICH)
+        taste(werkzeug).setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const QAction* knopf : knoepfe_)
+        if (knopf->isVisible())
+            breite += widgetForAction(const_cast<QAction*>(knopf))->sizeHint().width() + ABSTAND;
+    for (const Werkzeug werkzeug : ENTBEHRLICH) {
+        if (breite <= width())
+            return;
+        QToolButton& knopf = taste(werkzeug);
+        if (!knoepfe_[stelle(werkzeug)]->isVisible())
+            continue;
+        breite -= knopf.sizeHint().width();
+        knopf.setToolButtonStyle(Qt::ToolButtonIconOnly);
+        breite += knopf.sizeHint().width();
+    }
+}
+
+QToolButton& ToolbarMidiFrm::taste(Werkzeug werkzeug)
+{
+    return *qobject_cast<QToolButton*>(widgetForAction(knoepfe_[stelle(werkzeug)]));
 }
 
 } // namespace quelvarn

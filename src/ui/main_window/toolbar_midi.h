@@ -6,9 +6,11 @@
 
 #include <array>
 
+class QToolButton;
+
 namespace quelvarn {
 
-// The frame's tool bar. It drops its pictures when not all captions would fit beside them.
+// The frame's tool bar. Where not all captions fit, some buttons show only their pictures.
 class ToolbarMidiFrm : public QToolBar
 {
     Q_OBJECT
@@ -26,6 +28,7 @@ private:
     void baueKnopf(Werkzeug werkzeug);
     void baueExtras(QAction& knopf);
     void passeAn();
+    QToolButton& taste(Werkzeug werkzeug);
 
     MainWindow& modell_;
     std::array<QAction*, ANZAHL_WERKZEUGE> knoepfe_{};

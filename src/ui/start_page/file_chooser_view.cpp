@@ -58,6 +58,7 @@ Dateiwaehler::Dateiwaehler(StartPage& modell)
     FileDB_->setObjectName(QStringLiteral("FileDB"));
     FileDB_->setAccessibleName(QStringLiteral("Datenbank"));
     FileDB_->setProperty("rahmen", true);
+    FileDB_->setIconSize({16, 16});
 
     auto* aufbau = new QGridLayout(this);
     aufbau->setContentsMargins({});
@@ -72,6 +73,7 @@ Dateiwaehler::Dateiwaehler(StartPage& modell)
     aufbau->setColumnStretch(0, 1);
     aufbau->setRowStretch(2, 3);
     aufbau->setRowStretch(3, 2);
+    setFocusProxy(FileDB_);
     verbinde();
 }
 

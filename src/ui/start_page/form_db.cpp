@@ -34,6 +34,7 @@ FormDB::FormDB(StartPage& modell, QWidget* darstellung)
     aufbau->addWidget(neueLeiste());
     aufbau->addLayout(mitte, 1);
     aufbau->addWidget(neueStatuszeile());
+    setFocusProxy(waehler_);
 }
 
 QWidget* FormDB::neueKopfzeile()
@@ -49,7 +50,8 @@ QWidget* FormDB::neueLeiste()
 {
     auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteDB");
     auto* leiste = quelvarn::neueLeiste("ToolbarDB", Knopfart::TextNebenSymbol);
-    auto* oeffnen = fuegeKnopfHinzu(*leiste, {"Öffnen", "Öffnen", "Öffnen der Datenbank", "ordner-offen"});
+    auto* oeffnen = fuegeKnopfHinzu(*leiste, {"Öffnen", "Öffnen", "Öffnen der Datenbank", ""});
+    leiste->widgetForAction(oeffnen)->setProperty("haupt", true);
     oeffnen->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
     oeffnen->setShortcutContext(Qt::WindowShortcut);
     connect(oeffnen, &QAction::triggered, this, bewacht([this] { modell_.oeffnen(); }));

@@ -8,6 +8,7 @@
 #include "ui/text.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -17,7 +18,26 @@
 
 namespace quelvarn {
 
+// A frame with switches of the property tree, which stand in BAUMSCHALTER from `erster` on.
+struct Schaltergruppe
+{
+    const char* rahmen;
+    const char* titel;
+    const char* feld;
+    int erster;
+    int anzahl;
+    int spalten;
+    void (StartPage::*setze)(int, bool);
+};
+
 namespace {
+
+constexpr std::array<Schaltergruppe, 2> SCHALTERGRUPPEN{{
+    {"Frame1", "Informationseinstellungen der TREEVIEW", "ChInfoPrio1", 0, ANZAHL_INFOPRIO1, 1,
+     &StartPage::setzeInfoPrio1},
+    {"Frame2", "Informationen in der TREEVIEW anzeigen (sofern vorhanden)", "ChInfoPrio2", ANZAHL_INFOPRIO1,
+     static_cast<int>(BAUMSCHALTER.size()) - ANZAHL_INFOPRIO1, 2, &StartPage::setzeInfoPrio2},
+}};
 
 QGroupBox* neuerRahmen(const char* name, const QString& titel)
 {
@@ -47,11 +67,8 @@ Einstellungen::Einstellungen(StartPage& modell, QWidget* darstellung)
     aufbau->setSpacing(6);
     aufbau->addWidget(neuesSolidEdge());
     aufbau->addWidget(FrmActiveSE_);
-    aufbau->addWidget(neueSchalter("Frame1", QStringLiteral("Informationseinstellungen der TREEVIEW"), 0,
-                                   ANZAHL_INFOPRIO1, ChInfoPrio1_, &StartPage::setzeInfoPrio1));
-    aufbau->addWidget(neueSchalter(
-        "Frame2", QStringLiteral("Informationen in der TREEVIEW anzeigen (sofern vorhanden)"), ANZAHL_INFOPRIO1,
-        static_cast<int>(BAUMSCHALTER.size()) - ANZAHL_INFOPRIO1, ChInfoPrio2_, &StartPage::setzeInfoPrio2));
+    aufbau->addWidget(neueSchalter(SCHALTERGRUPPEN[0], ChInfoPrio1_));
+    aufbau->addWidget(neueSchalter(SCHALTERGRUPPEN[1], ChInfoPrio2_));
     aufbau->addLayout(unten);
     aufbau->addWidget(darstellung);
     aufbau->addStretch(1);
@@ -86,19 +103,19 @@ QGroupBox* Einstellungen::neuesActiveSE()
     return rahmen;
 }
 
-QGroupBox* Einstellungen::neueSchalter(const char* name, const QString& titel, int erster, int anzahl,
-                                       std::vector<QCheckBox*>& kaesten, void (StartPage::*setze)(int, bool))
+QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector<QCheckBox*>& kaesten)
 {
-    auto* rahmen = neuerRahmen(name, titel);
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->setSpacing(4);
-    const QString feld = erster == 0 ? QStringLiteral("ChInfoPrio1(%1)") : QStringLiteral("ChInfoPrio2(%1)");
-    for (int i = 0; i < anzahl; ++i) {
-        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(erster + i)].beschriftung));
-        kasten->setObjectName(feld.arg(i));
-        connect(kasten, &QCheckBox::clicked, this, bewacht([this, i, setze](bool an) { (modell_.*setze)(i, an); }));
+    auto* rahmen = neuerRahmen(gruppe.rahmen, QLatin1String(gruppe.titel));
+    auto* aufbau = new QGridLayout(rahmen);
+    aufbau->setVerticalSpacing(4);
+    const int reihen = (gruppe.anzahl + gruppe.spalten - 1) / gruppe.spalten;
+    for (int i = 0; i < gruppe.anzahl; ++i) {
+        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(gruppe.erster + i)].beschriftung));
+        kasten->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i));
+        connect(kasten, &QCheckBox::clicked, this,
+                bewacht([this, i, setze = gruppe.setze](bool an) { (modell_.*setze)(i, an); }));
         kaesten.push_back(kasten);
-        aufbau->addWidget(kasten);
+        aufbau->addWidget(kasten, i % reihen, i / reihen);
     }
     return rahmen;
 }

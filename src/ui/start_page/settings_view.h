@@ -14,6 +14,7 @@ namespace quelvarn {
 
 class KurzLabel;
 class StartPage;
+struct Schaltergruppe;
 
 // The settings of the user on the start page.
 class Einstellungen : public QWidget
@@ -28,8 +29,7 @@ public:
 private:
     QWidget* neuesSolidEdge();
     QGroupBox* neuesActiveSE();
-    QGroupBox* neueSchalter(const char* name, const QString& titel, int erster, int anzahl,
-                            std::vector<QCheckBox*>& kaesten, void (StartPage::*setze)(int, bool));
+    QGroupBox* neueSchalter(const Schaltergruppe& gruppe, std::vector<QCheckBox*>& kaesten);
     QGroupBox* neuesOfflinePlot();
     QGroupBox* neuesOfflineOrder();
 

@@ -58,7 +58,8 @@ QString stylesheet(const Farbsatz& farben)
         return {};
     QString text = QString::fromUtf8(datei.readAll());
     // A name that begins another one comes after it.
-    const std::array<std::pair<const char*, QColor>, 13> namen{{{"@akzentFlaeche", farben.akzentFlaeche},
+    const std::array<std::pair<const char*, QColor>, 14> namen{{{"@akzentTief", farben.akzentTief},
+                                                                {"@akzentFlaeche", farben.akzentFlaeche},
                                                                 {"@akzent", farben.akzent},
                                                                 {"@auswahl", farben.auswahl},
                                                                 {"@flaeche", farben.flaeche},

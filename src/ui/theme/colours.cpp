@@ -20,6 +20,7 @@ const Farbsatz& hellerFarbsatz()
         .gedaempft = QColor(0x5C6675),
         .inaktiv = QColor(0x9DA5B1),
         .akzent = QColor(0x1A66DB),
+        .akzentTief = QColor(0x1453B5),
         .akzentFlaeche = QColor(0xE4EEFD),
         .ueberfahren = QColor(0xEDEFF3),
         .auswahl = QColor(0xD3E4FC),
@@ -43,6 +44,7 @@ const Farbsatz& dunklerFarbsatz()
         .gedaempft = QColor(0xA3ACB9),
         .inaktiv = QColor(0x6B7583),
         .akzent = QColor(0x7AB0FF),
+        .akzentTief = QColor(0x9CC4FF),
         .akzentFlaeche = QColor(0x2A3D5B),
         .ueberfahren = QColor(0x323942),
         .auswahl = QColor(0x2F4F7D),
@@ -121,14 +123,27 @@ QColor lesbar(const QColor& farbe, const QColor& grund, double mindestkontrast)
     return ergebnis;
 }
 
+namespace {
+
+// The full tones of the standard colours are too loud for text.
+QColor gedeckt(unsigned rgb)
+{
+    const QColor farbe(rgb);
+    if (farbe.saturation() == 0)
+        return farbsatz().text;
+    return QColor::fromHslF(farbe.hslHueF(), std::min(farbe.hslSaturationF(), 0.78F), farbe.lightnessF());
+}
+
+} // namespace
+
 QColor statusText(unsigned rgb)
 {
-    return lesbar(QColor(rgb), farbsatz().flaeche, 4.5);
+    return lesbar(gedeckt(rgb), farbsatz().flaeche, 4.5);
 }
 
 QColor statusPunkt(unsigned rgb)
 {
-    return lesbar(QColor(rgb), farbsatz().flaeche, 2.2);
+    return lesbar(gedeckt(rgb), farbsatz().flaeche, 2.2);
 }
 
 } // namespace quelvarn

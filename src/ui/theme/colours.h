@@ -18,6 +18,7 @@ struct Farbsatz
     QColor gedaempft; // Captions beside values
     QColor inaktiv;
     QColor akzent;
+    QColor akzentTief;    // The accent under the mouse
     QColor akzentFlaeche; // Behind the page that is shown, pressed buttons
     QColor ueberfahren;   // Under the mouse
     QColor auswahl;

@@ -74,7 +74,7 @@ private:
         const QPalette farben = QGuiApplication::palette();
         if (modus == QIcon::Disabled)
             return farben.color(QPalette::Disabled, QPalette::ButtonText);
-        return farben.color(zustand == QIcon::On ? QPalette::Link : rolle_);
+        return farben.color(zustand == QIcon::On && rolle_ == QPalette::ButtonText ? QPalette::Link : rolle_);
     }
 
     QString name_;

@@ -1,8 +1,13 @@
 #include "ui/theme/style.h"
 
+#include "ui/theme/colours.h"
 #include "ui/theme/icons.h"
 
+#include <QPainter>
 #include <QStyleFactory>
+#include <QStyleOption>
+
+#include <algorithm>
 
 namespace quelvarn {
 
@@ -27,10 +32,21 @@ int Programmstil::pixelMetric(PixelMetric mass, const QStyleOption* option, cons
     case PM_TreeViewIndentation:
         return 16;
     case PM_ScrollBarExtent:
-        return 13;
+        return 12;
+    case PM_TabBarTabHSpace:
+        return 4;
     default:
         return QProxyStyle::pixelMetric(mass, option, widget);
     }
+}
+
+QSize Programmstil::sizeFromContents(ContentsType art, const QStyleOption* option, const QSize& inhalt,
+                                     const QWidget* widget) const
+{
+    QSize groesse = QProxyStyle::sizeFromContents(art, option, inhalt, widget);
+    if (art == CT_ItemViewItem)
+        groesse.setHeight(std::max(groesse.height(), option->fontMetrics.height() + 3));
+    return groesse;
 }
 
 int Programmstil::styleHint(StyleHint frage, const QStyleOption* option, const QWidget* widget,
@@ -46,6 +62,58 @@ int Programmstil::styleHint(StyleHint frage, const QStyleOption* option, const Q
     default:
         return QProxyStyle::styleHint(frage, option, widget, antwort);
     }
+}
+
+namespace {
+
+// The box of a check box or the ring of an option: an outline, filled with the accent when it is set.
+void zeichneRahmen(QPainter& painter, const QRectF& platz, const QStyleOption& option, bool rund)
+{
+    const Farbsatz& farben = farbsatz();
+    const bool an = option.state.testFlag(QStyle::State_On);
+    const bool bereit = option.state.testFlag(QStyle::State_Enabled);
+    const bool hervor = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
+    const QColor strich = !bereit ? farben.linie : an || hervor ? farben.akzent : farben.rand;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(strich, 1));
+    painter.setBrush(!an ? farben.flaeche : bereit ? farben.akzent : farben.linie);
+    const qreal bogen = rund ? platz.height() / 2 : 3;
+    painter.drawRoundedRect(platz, bogen, bogen);
+}
+
+void zeichneMarke(QPainter& painter, const QRectF& platz, const QStyleOption& option, bool rund)
+{
+    if (!option.state.testFlag(QStyle::State_On))
+        return;
+    const QColor farbe = option.state.testFlag(QStyle::State_Enabled) ? farbsatz().flaeche : farbsatz().inaktiv;
+    if (rund) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(farbe);
+        painter.drawEllipse(platz.center(), platz.width() / 5, platz.width() / 5);
+        return;
+    }
+    const qreal einheit = platz.width() / 12;
+    const auto punkt = [&](qreal x, qreal y) { return platz.topLeft() + QPointF(x, y) * einheit; };
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(farbe, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({punkt(2.8, 6.2), punkt(5.1, 8.5), punkt(9.4, 3.8)}));
+}
+
+} // namespace
+
+void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const
+{
+    if (teil != PE_IndicatorCheckBox && teil != PE_IndicatorRadioButton)
+        return QProxyStyle::drawPrimitive(teil, option, painter, widget);
+    const bool rund = teil == PE_IndicatorRadioButton;
+    const int seite = std::min(option->rect.width(), option->rect.height()) - 1;
+    QRectF platz(0, 0, seite, seite);
+    platz.moveCenter(QRectF(option->rect).center());
+    painter->save();
+    zeichneRahmen(*painter, platz, *option, rund);
+    zeichneMarke(*painter, platz, *option, rund);
+    painter->restore();
 }
 
 QIcon Programmstil::standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const

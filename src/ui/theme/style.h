@@ -11,8 +11,12 @@ public:
     Programmstil();
 
     int pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType art, const QStyleOption* option, const QSize& inhalt,
+                           const QWidget* widget) const override;
     int styleHint(StyleHint frage, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* antwort) const override;
+    void drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const override;
 };
 
