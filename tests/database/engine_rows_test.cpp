@@ -161,6 +161,14 @@ TEST_P(EngineRows, TablesAreFoundInAnyCaseWithTheirColumnsAsStored)
     EXPECT_EQ(engine_->tabellen().size(), registerschema().size());
     EXPECT_EQ(engine_->findTabelle("DraftTabelle")->spalten.back().name, "F_05_leer");
     EXPECT_EQ(engine_->findTabelle("Gibtsnicht"), std::nullopt);
+
+    Tabellenschema ini = *findTabelle("Ini");
+    EXPECT_TRUE(engine_->fehlendeIndexe(ini).empty());
+    ini.indexe.push_back({{"Feld5"}});
+    EXPECT_EQ(engine_->fehlendeIndexe(ini).size(), 1U);
+    engine_->entferneTabelle("INI");
+    engine_->entferneTabelle("Ini");
+    EXPECT_EQ(engine_->findTabelle("Ini"), std::nullopt);
 }
 
 TEST_P(EngineRows, FaultsCarryNumberSourceAndText)

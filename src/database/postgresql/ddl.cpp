@@ -59,9 +59,13 @@ std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexS
     }
     // Lists are read from an index of several columns without the table, so it holds the texts beside their keys.
     const std::string dazu = sortiert.size() > 1 ? " INCLUDE (" + join(mitgefuehrt, ", ") + ")" : "";
-    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({}){}",
-                       bezeichner(fmt::format("ix_{}_{}", tabelle.name, index.front().name)), bezeichner(tabelle.name),
-                       join(sortiert, ", "), dazu);
+    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({}){}", bezeichner(indexname(tabelle, index)),
+                       bezeichner(tabelle.name), join(sortiert, ", "), dazu);
+}
+
+std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+{
+    return fmt::format("ix_{}_{}", tabelle.name, index.front().name);
 }
 
 } // namespace quelvarn::postgresql

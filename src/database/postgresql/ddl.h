@@ -12,5 +12,6 @@ inline constexpr std::string_view schluesselspalte = "qv_id";
 
 std::string tabelleAnlegen(const Tabellenschema& tabelle);
 std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index);
+std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index);
 
 } // namespace quelvarn::postgresql

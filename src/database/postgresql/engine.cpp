@@ -156,6 +156,25 @@ void PostgresEngine::legeIndexeAn(const Tabellenschema& tabelle)
     frischeAuf(tabelle.name);
 }
 
+std::vector<std::vector<IndexSpalte>> PostgresEngine::fehlendeIndexe(const Tabellenschema& tabelle)
+{
+    std::vector<std::vector<IndexSpalte>> fehlende;
+    for (const auto& index : tabelle.indexe) {
+        const Value name = sql::Dialekt::bezeichner(indexname(tabelle, index));
+        const Ergebnis ergebnis = handle_->fuehreAus("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
+        if (PQntuples(ergebnis.get()) == 0)
+            fehlende.push_back(index);
+    }
+    return fehlende;
+}
+
+void PostgresEngine::entferneTabelle(std::string_view name)
+{
+    if (const Tabellenschema* tabelle = katalog_.find(name))
+        handle_->fuehreAus("DROP TABLE " + sql::Dialekt::bezeichner(tabelle->name));
+    katalog_.vergiss();
+}
+
 void PostgresEngine::frischeAuf(const std::string& tabelle)
 {
     if (!transaktion_.offen())

@@ -36,6 +36,8 @@ public:
 
     void legeTabelleAn(const Tabellenschema& tabelle) override;
     void legeIndexeAn(const Tabellenschema& tabelle) override;
+    std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) override;
+    void entferneTabelle(std::string_view name) override;
     std::unique_ptr<Engine::Massenschreiber> massenschreiber(std::string_view tabelle,
                                                              std::span<const Spalte> spalten) override;
 
