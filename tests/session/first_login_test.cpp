@@ -1,3 +1,4 @@
+#include "database/postgres_cluster.h"
 #include "session/register_fixture.h"
 
 #include <gmock/gmock.h>
@@ -9,9 +10,28 @@ using ::testing::IsEmpty;
 using ::testing::StartsWith;
 using ::testing::UnorderedElementsAre;
 
-using FirstLogin = RegisterTest;
+class FirstLogin : public RegisterTest, public ::testing::WithParamInterface<std::string_view>
+{
+protected:
+    FirstLogin() : RegisterTest(adresse()) {}
+    void SetUp() override
+    {
+        if (GetParam() == "PostgreSQL" && !test::PostgresCluster::find())
+            GTEST_SKIP() << "no PostgreSQL server is installed here";
+    }
 
-TEST_F(FirstLogin, GreetsTheUserAndWritesHisRows)
+private:
+    static std::string adresse()
+    {
+        test::PostgresCluster* cluster = GetParam() == "PostgreSQL" ? test::PostgresCluster::find() : nullptr;
+        return cluster ? cluster->neueDatenbank() : "";
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, FirstLogin, ::testing::Values("SQLite", "PostgreSQL"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_P(FirstLogin, GreetsTheUserAndWritesHisRows)
 {
     world.meldungen.antworte();
     ASSERT_TRUE(Hauptprogramm(session, ports));
@@ -58,7 +78,7 @@ TEST_F(FirstLogin, GreetsTheUserAndWritesHisRows)
     EXPECT_EQ(iniZeilen("Feld1 = '!QV_Ini'").size(), 10u + 1 + 10 + 1); // Offline tool, ten printers, PDF printer.
 }
 
-TEST_F(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
+TEST_P(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
 {
     meldeAn();
     const auto vorher = iniZeilen("Feld2 Like '%'");
@@ -84,7 +104,7 @@ TEST_F(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
     EXPECT_EQ(iniZeilen("Feld2 Like '%'"), vorher);
 }
 
-TEST_F(FirstLogin, WithoutAPrinterNoPrintRowsAreWrittenUntilThereIsOne)
+TEST_P(FirstLogin, WithoutAPrinterNoPrintRowsAreWrittenUntilThereIsOne)
 {
     world.drucker.standarddrucker.reset();
     meldeAn();
@@ -97,7 +117,7 @@ TEST_F(FirstLogin, WithoutAPrinterNoPrintRowsAreWrittenUntilThereIsOne)
     EXPECT_EQ(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'PDF'").size(), 7u);
 }
 
-TEST_F(FirstLogin, AnEmptyTableOfSettingsIsARegister)
+TEST_P(FirstLogin, AnEmptyTableOfSettingsIsARegister)
 {
     loesche("Feld2 Like '%'");
     world.meldungen.erlaubeHinweise();

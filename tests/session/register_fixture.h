@@ -10,6 +10,7 @@
 #include "session/session_state.h"
 
 #include <algorithm>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -23,14 +24,16 @@ inline constexpr const char* REGISTERPFAD = "W:\\Daten\\werk.mdb";
 class RegisterTest : public ::testing::Test
 {
 protected:
-    RegisterTest()
+    // With the address of an empty PostgreSQL database the register lies there, and the file names it.
+    explicit RegisterTest(const std::string& postgres = "")
     {
         session.Anwender = "mueller";
         session.Rechner = "CAD-PC-7";
         session.OrdnerSEDokumente = "C:\\SE";
         session.OrdnerDatenbankPfad = "C:";
-        const auto engine = oeffneSqlite(datei, true);
-        legeRegisterAn(*engine);
+        legeRegisterAn(postgres.empty() ? *oeffneSqlite(datei, true) : *oeffnePostgres(postgres));
+        if (!postgres.empty())
+            std::ofstream(datei) << postgres << "\n";
         db.Open(datei);
         world.dateien.verbinde(REGISTERPFAD, datei);
         world.dateien.legeAn("W:\\Plot\\x.txt");
