@@ -45,7 +45,7 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
         if (!text.empty())
             texte.emplace_back(rightCharacters(text, LAENGSTER_SUCHTEXT));
 
-    Recordset zeilen = ini.zeilen(session.Anwender, "Suchen/Filtern");
+    Recordset zeilen = ini.suchtexte(session.Anwender);
     if (stehtSoInDerTabelle(zeilen, texte))
         return;
     ini.loesche(zeilen);

@@ -44,6 +44,11 @@ Recordset IniZeilen::verschiedene(std::string_view spalten, std::string_view eig
     return zeilen;
 }
 
+Recordset IniZeilen::suchtexte(std::string_view anwender)
+{
+    return lese(auswahl("*", anwender, "Suchen/Filtern", {}) + " ORDER BY Feld3"); // "Text0", "Text1", ...
+}
+
 void IniZeilen::beginne()
 {
     if (!transaktion_)

@@ -25,6 +25,8 @@ public:
     // The same rows, these columns of them only, each distinct row once.
     Recordset verschiedene(std::string_view spalten, std::string_view eigentuemer, std::string_view gruppe,
                            std::string_view schluessel = {});
+    // The user's search texts, the oldest first.
+    Recordset suchtexte(std::string_view anwender);
     // Any SELECT.
     Recordset lese(std::string_view sql);
 

@@ -76,7 +76,7 @@ void leseSuchtexte(Startlauf& lauf)
 {
     auto& suchtexte = lauf.session.Suchtexte;
     suchtexte.clear();
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Suchen/Filtern");
+    Recordset zeilen = lauf.ini.suchtexte(lauf.session.Anwender);
     for (; !zeilen.Eof() && suchtexte.size() < ANZAHL_SUCHTEXTE; zeilen.MoveNext())
         suchtexte.push_back(pflichttext(zeilen, "Feld4"));
 }
