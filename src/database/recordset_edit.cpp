@@ -11,6 +11,16 @@ namespace {
 
 constexpr int ZEILE_FEHLT = -2147217864;
 
+// The fault that led here is the one to tell, not that of taking back.
+void nimmZurueck(Engine& engine)
+{
+    try {
+        engine.nimmZurueck();
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
+}
+
 } // namespace
 
 void Recordset::setzeFeld(std::string_view name, Value wert)
@@ -73,8 +83,8 @@ void Recordset::UpdateBatch()
         for (const WartendeAenderung& aenderung : kern.wartende)
             kern.fuehreAus(aenderung);
         engine.schliesseAb();
-    } catch (...) {
-        engine.nimmZurueck();
+    } catch (const Laufzeitfehler&) {
+        nimmZurueck(engine);
         throw;
     }
     kern.wartende.clear();

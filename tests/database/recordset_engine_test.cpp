@@ -212,6 +212,7 @@ TEST_P(RecordsetOnEngine, OwnChangesStayVisibleWhenTheyNoLongerMeetItsCondition)
 {
     fuelleZufaellig(50);
     Recordset rs = oeffneRs("SELECT * FROM Tafel WHERE Id < 40 ORDER BY Id", SperrTyp::Optimistisch, 10);
+    EXPECT_EQ(rs.Feld("Thema"), rs.Zelle(0, "Thema")); // Both are read ahead now.
     rs.setzeFeld("Id", std::int64_t{70});
     rs.setzeFeld("Thema", std::string("umgezogen"));
     rs.AddNew();
@@ -246,6 +247,7 @@ TEST_P(RecordsetOnEngine, ABatchIsWrittenAtOnceOrNotAtAll)
     fuehreAus("DELETE FROM Tafel WHERE Wort = 'c'");
     EXPECT_EQ(fehlernummer([&] { rs.UpdateBatch(); }), -2147217864);
     EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("b|20", "d|4"));
+    EXPECT_THAT(spalte(oeffneRs("SELECT * FROM Tafel ORDER BY Wort"), "Nr"), ElementsAre("20", "4"));
 }
 
 TEST_P(RecordsetOnEngine, WhatIsOpenedToReadCannotBeWritten)
