@@ -78,6 +78,15 @@ void messeSuche(Messreihe& reihe, Recordset& rs)
                        {[&rs, &kriterium = kriterium] { rs.Find(kriterium, 0, Suchrichtung::Vorwaerts, true); }});
 }
 
+// The first step over a column has more to do than those that follow.
+void messeErsteSuche(Messreihe& reihe, Connection& verbindung)
+{
+    Recordset rs;
+    reihe.begrenze("search step, anywhere, first one of all", 16,
+                   {[&] { rs.Find("DokuBez LIKE '%9-9-9%'", 0, Suchrichtung::Vorwaerts, true); },
+                    [&] { rs.Open(LISTE, verbindung); }});
+}
+
 void messeZeilenwechsel(Messreihe& reihe, Recordset& rs)
 {
     std::size_t position = 0;
@@ -101,6 +110,7 @@ void messeDatenbank(Messreihe& reihe, const std::filesystem::path& datei)
     messeOeffnen(reihe, verbindung, sqlite);
     messeErstenFilter(reihe, verbindung, sqlite, "Titel", "Welle");
     messeErstenFilter(reihe, verbindung, sqlite, "Dateiname", "0012");
+    messeErsteSuche(reihe, verbindung);
     Recordset rs;
     rs.Open(LISTE, verbindung);
     messeZeilenwechsel(reihe, rs);

@@ -13,15 +13,23 @@ namespace {
 constexpr unsigned BLOCKBITS = 12; // 4,096 texts are judged at once.
 constexpr std::size_t FENSTER = 64;
 
-// True when `erstes` and `letztes` stand at their distance somewhere in the window. The fixed length lets the
-// compiler use vector instructions.
-bool kannTreffen(const char* anfang, std::size_t abstand, char erstes, char letztes)
+// Marks the places of a window where a text may begin, going by three of its bytes. False when there is none. The
+// fixed length lets the compiler use vector instructions.
+bool merkeAnfaenge(const char* fenster, std::string_view gesucht, std::uint8_t* __restrict anfaenge)
 {
-    unsigned char treffer = 0;
-    for (std::size_t i = 0; i < FENSTER; ++i)
-        treffer |= static_cast<unsigned char>(anfang[i] == erstes) &
-                   static_cast<unsigned char>(anfang[i + abstand] == letztes);
-    return treffer != 0;
+    const std::size_t letzte = gesucht.size() - 1;
+    const std::size_t mittlere = gesucht.size() / 2;
+    const char a = gesucht.front();
+    const char b = gesucht[mittlere];
+    const char c = gesucht.back();
+    std::uint8_t einer = 0;
+    for (std::size_t i = 0; i < FENSTER; ++i) {
+        anfaenge[i] = static_cast<std::uint8_t>(fenster[i] == a) &
+                      static_cast<std::uint8_t>(fenster[i + mittlere] == b) &
+                      static_cast<std::uint8_t>(fenster[i + letzte] == c);
+        einer |= anfaenge[i];
+    }
+    return einer != 0;
 }
 
 // LIKE over the folded texts of a column: the plain shapes by comparing bytes, the others by the pattern.
@@ -145,14 +153,13 @@ private:
 
 std::size_t findeBytes(std::string_view bytes, std::string_view gesucht, std::size_t ab)
 {
-    const std::size_t abstand = gesucht.size() - 1;
-    while (ab + FENSTER + abstand <= bytes.size()) {
-        if (kannTreffen(bytes.data() + ab, abstand, gesucht.front(), gesucht.back())) {
-            const std::size_t treffer = bytes.substr(0, ab + FENSTER + abstand).find(gesucht, ab);
-            if (treffer != std::string_view::npos)
-                return treffer;
-        }
-        ab += FENSTER;
+    std::uint8_t anfaenge[FENSTER];
+    for (; ab + FENSTER + gesucht.size() <= bytes.size(); ab += FENSTER) {
+        if (!merkeAnfaenge(bytes.data() + ab, gesucht, anfaenge))
+            continue;
+        for (std::size_t i = 0; i < FENSTER; ++i)
+            if (anfaenge[i] && bytes.compare(ab + i, gesucht.size(), gesucht) == 0)
+                return ab + i;
     }
     return bytes.find(gesucht, ab);
 }

@@ -137,19 +137,31 @@ const Textvorrat::Gefaltet& Textvorrat::gefaltet() const
     if (gefaltet_.bis == anzahl())
         return gefaltet_;
     const std::size_t erstes = gefaltet_.bytes.size();
+    if (falteAscii(erstes))
+        falteAndere(erstes);
+    gefaltet_.bis = static_cast<Textcode>(anzahl());
+    return gefaltet_;
+}
+
+// True when there is more than ASCII from this place on.
+bool Textvorrat::falteAscii(std::size_t stelle) const
+{
     gefaltet_.bytes.resize(bytes_.size());
-    bool hohe = false;
-    std::size_t stelle = erstes;
+    bool andere = false;
     for (; stelle + BLOCK <= bytes_.size(); stelle += BLOCK)
-        hohe |= falteBlock(bytes_.data() + stelle, gefaltet_.bytes.data() + stelle);
+        andere |= falteBlock(bytes_.data() + stelle, gefaltet_.bytes.data() + stelle);
     char quelle[BLOCK] = {};
     char ziel[BLOCK];
     const std::size_t rest = bytes_.size() - stelle;
     bytes_.copy(quelle, rest, stelle);
-    hohe |= falteBlock(quelle, ziel);
+    andere |= falteBlock(quelle, ziel);
     std::copy_n(ziel, rest, gefaltet_.bytes.data() + stelle);
+    return andere;
+}
 
-    for (stelle = hohe ? naechstesHohe(bytes_, erstes) : bytes_.size(); stelle < bytes_.size();) {
+void Textvorrat::falteAndere(std::size_t stelle) const
+{
+    for (stelle = naechstesHohe(bytes_, stelle); stelle < bytes_.size();) {
         const auto naechster = std::upper_bound(anfaenge_.begin() + gefaltet_.bis, anfaenge_.end(), stelle);
         const auto code = static_cast<Textcode>(naechster - anfaenge_.begin() - 1);
         const std::string gefaltet = foldCase(text(code));
@@ -159,8 +171,6 @@ const Textvorrat::Gefaltet& Textvorrat::gefaltet() const
             gefaltet_.andereLaenge.push_back(code);
         stelle = naechstesHohe(bytes_, *naechster);
     }
-    gefaltet_.bis = static_cast<Textcode>(anzahl());
-    return gefaltet_;
 }
 
 } // namespace quelvarn

@@ -60,6 +60,8 @@ private:
     Textcode haengeAn(std::string_view text);
     void vergroessere();
     bool lohntSuche() const;
+    bool falteAscii(std::size_t stelle) const;
+    void falteAndere(std::size_t stelle) const;
 
     std::string bytes_;
     std::vector<std::uint64_t> anfaenge_{0, 0};

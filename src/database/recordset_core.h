@@ -5,6 +5,7 @@
 #include "database/recordset.h"
 #include "database/recordset_cells.h"
 #include "database/recordset_rows.h"
+#include "database/recordset_sort.h"
 #include "database/recordset_view.h"
 #include "database/sql/ast.h"
 
@@ -55,6 +56,8 @@ struct Recordset::Kern
     // --- recordset_find.cpp ---
     // All rows that were not deleted, in the present order.
     std::vector<Zeilennummer> alleZeilen() const;
+    // Puts them in the order of these fields, or of the opening, and hands them out.
+    std::vector<Zeilennummer> setzeOrdnung(const std::vector<Sortierfeld>& felder);
     void zeigeAlle();
     void zeige(std::vector<Zeilennummer> gefundene);
     // False when the progress was given up.

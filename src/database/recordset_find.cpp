@@ -60,19 +60,25 @@ void Recordset::Sort(std::string_view ausdruck)
     std::vector<bool> gezeigt(kern.zeilen.anzahl());
     for (const Zeilennummer zeile : kern.ansicht.ausschnitt(0, kern.ansicht.anzahl()))
         gezeigt[zeile] = true;
-    kern.sortiert = false;
-    kern.ordnung.clear();
-    auto reihe = kern.alleZeilen();
-    if (!felder.empty()) {
-        sortiere(reihe, felder, [&](std::size_t feld) -> const Column& { return kern.zeilen.spalte(feld); });
-        kern.ordnung = reihe;
-        kern.sortiert = true;
-    }
+    auto reihe = kern.setzeOrdnung(felder);
     std::erase_if(reihe, [&](Zeilennummer zeile) { return !gezeigt[zeile]; });
     if (reihe.size() == kern.zeilen.anzahl())
         kern.zeigeAlle();
     else
         kern.zeige(std::move(reihe));
+}
+
+std::vector<Zeilennummer> Recordset::Kern::setzeOrdnung(const std::vector<Sortierfeld>& felder)
+{
+    sortiert = false;
+    ordnung = {};
+    auto reihe = alleZeilen();
+    if (!felder.empty()) {
+        sortiere(reihe, felder, [&](std::size_t feld) -> const Column& { return zeilen.spalte(feld); });
+        ordnung = reihe;
+        sortiert = true;
+    }
+    return reihe;
 }
 
 bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang)

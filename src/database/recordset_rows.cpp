@@ -149,16 +149,22 @@ bool Zeilenspeicher::lade(std::span<const std::size_t> gewuenscht, const Fortsch
     if (!setzeZellen(*leser, gelesen, karte, fortschritt, anzahl_))
         return false;
 
-    std::sort(eigene_.begin(), eigene_.end());
-    eigene_.erase(std::unique(eigene_.begin(), eigene_.end()), eigene_.end());
-    const std::vector<Value> werte = leseZellen(eigene_, felder);
-    for (std::size_t i = 0; i < werte.size(); ++i)
-        gelesen[i % felder.size()]->setze(eigene_[i / felder.size()], werte[i]);
+    setzeEigene(gelesen, felder);
     for (std::size_t i = 0; i < felder.size(); ++i) {
         gelesen[i]->schliesseAb();
         spalten_[felder[i]] = std::move(gelesen[i]);
     }
     return true;
+}
+
+// Rows changed or added here, by their keys: they may no longer meet the recordset's own condition.
+void Zeilenspeicher::setzeEigene(Spaltenliste& spalten, std::span<const std::size_t> felder)
+{
+    std::sort(eigene_.begin(), eigene_.end());
+    eigene_.erase(std::unique(eigene_.begin(), eigene_.end()), eigene_.end());
+    const std::vector<Value> werte = leseZellen(eigene_, felder);
+    for (std::size_t i = 0; i < werte.size(); ++i)
+        spalten[i % felder.size()]->setze(eigene_[i / felder.size()], werte[i]);
 }
 
 std::vector<Value> Zeilenspeicher::leseZellen(std::span<const Zeilennummer> zeilen,

@@ -58,6 +58,7 @@ private:
     bool leseGanz(std::size_t hoechstens, Doppelsuche* doppelte);
     void leseSchluessel();
     void ordneNeu();
+    void setzeEigene(Spaltenliste& spalten, std::span<const std::size_t> felder);
     std::vector<std::string> namen(std::span<const std::size_t> felder) const;
 
     std::shared_ptr<Engine> engine_;
@@ -67,7 +68,7 @@ private:
     std::vector<Zeilenschluessel> schluessel_;
     bool hatSchluessel_ = false;
     std::size_t anzahl_ = 0;
-    std::vector<Zeilennummer> eigene_; // Rows changed or added here: the recordset's own condition may miss them.
+    std::vector<Zeilennummer> eigene_; // Rows changed or added here.
 };
 
 } // namespace quelvarn
