@@ -21,7 +21,7 @@ void Dateiauswahl::liesLaufwerke()
 
 void Dateiauswahl::setzeLaufwerk(std::string_view eintrag)
 {
-    setzeOrdner(std::string(leftCharacters(eintrag, 2)) + "\\");
+    setzeOrdner(toUpper(leftCharacters(eintrag, 2)) + "\\"); // Paths name drives in capitals; the list does not.
 }
 
 void Dateiauswahl::setzeOrdner(std::string_view ordner)

@@ -1,0 +1,64 @@
+#include "scenario_runner/controls.h"
+#include "scenario_runner/steps.h"
+#include "scenario_runner/world.h"
+
+#include <filesystem>
+#include <fmt/format.h>
+
+namespace quelvarn::scenario {
+
+namespace {
+
+struct Vocabulary
+{
+    Verbs steps;
+    Verbs expectations;
+
+    Vocabulary()
+    {
+        addSetupVerbs(steps);
+        addGestureVerbs(steps);
+        addExpectations(expectations);
+        steps["expect"] = [this](World& world, const Step& step) {
+            Step inner = step;
+            inner.words.erase(inner.words.begin());
+            action(expectations, inner)(world, inner);
+        };
+    }
+
+    static const Action& action(const Verbs& verbs, const Step& step)
+    {
+        const auto found = step.words.empty() ? verbs.end() : verbs.find(step.words.front());
+        if (found == verbs.end())
+            throw Difference(fmt::format("\"{}\" is not known", step.words.empty() ? "" : step.words.front()));
+        return found->second;
+    }
+};
+
+void play(World& world, const Vocabulary& vocabulary, const Step& step)
+{
+    Vocabulary::action(vocabulary.steps, step)(world, step);
+    world.settle();
+    if (step.words.front() != "box")
+        world.boxes.check();
+}
+
+} // namespace
+
+void runScenario(const std::string& file, const std::string& pictureFolder)
+{
+    const auto steps = readScript(file);
+    const Vocabulary vocabulary;
+    World world(pictureFolder);
+    for (const auto& step : steps) {
+        try {
+            play(world, vocabulary, step);
+        } catch (const Skipped&) {
+            throw;
+        } catch (const std::exception& fault) {
+            throw Difference(fmt::format("{}:{}: {}", step.file, step.line, fault.what()));
+        }
+    }
+}
+
+} // namespace quelvarn::scenario

@@ -1,0 +1,104 @@
+#include "base/windows_path.h"
+#include "platform/dateien.h"
+#include "scenario_runner/controls.h"
+#include "scenario_runner/steps.h"
+#include "scenario_runner/world.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <filesystem>
+#include <fmt/format.h>
+#include <fstream>
+
+namespace quelvarn::scenario {
+
+namespace {
+
+// The administrator's tool, from the folder of this program.
+void runAdmin(const std::vector<std::string>& arguments)
+{
+    QStringList words;
+    for (const auto& argument : arguments)
+        words << qt(argument);
+    QProcess admin;
+    admin.start(QCoreApplication::applicationDirPath() + QStringLiteral("/qvadmin"), words);
+    if (!admin.waitForFinished(600'000) || admin.exitCode() != 0)
+        throw Difference(
+            fmt::format("qvadmin {}: {}", fmt::join(arguments, " "), admin.readAllStandardError().toStdString()));
+}
+
+void registerVerb(World& world, const Step& step)
+{
+    const auto& path = step.word(1);
+    const auto real = world.realPath(path);
+    std::filesystem::create_directories(real.parent_path());
+    const auto target = real.string();
+    const auto& kind = step.word(2);
+    if (kind == "empty") {
+        runAdmin({"create", target});
+    } else if (kind == "sample") {
+        runAdmin({"sample", target, "--documents", step.word(3), "--files", world.realPath("W:\\").string()});
+    } else if (kind == "import") {
+        const auto source = std::filesystem::path(QUELVARN_SHARED) / "samples" / step.word(3);
+        if (!std::filesystem::exists(source))
+            throw Skipped(fmt::format("{} is not on this machine", step.word(3)));
+        runAdmin({"import", source.string(), target});
+    } else {
+        throw Difference(fmt::format("a register of the kind \"{}\" is not known", kind));
+    }
+    world.useRegister(path);
+}
+
+void makeFile(World& world, const Step& step)
+{
+    const auto real = world.realPath(step.word(1));
+    std::filesystem::create_directories(real.parent_path());
+    std::ofstream(real, std::ios::binary) << step.joinedText();
+}
+
+void lastDatabase(World& world, const Step& step)
+{
+    const auto real = world.realPath("C:\\Dokumente und Einstellungen Quelvarnis\\Datenbank_Pfad\\Quelvarnis.ini");
+    std::filesystem::create_directories(real.parent_path());
+    std::ofstream(real, std::ios::binary) << step.word(1) << "\r\n";
+}
+
+void expectBox(World& world, const Step& step)
+{
+    ExpectedBoxes::Box box{step.word(1), {}, step.has(2) ? step.word(2) : "OK", step.file};
+    if (!step.text.empty())
+        box.text = step.joinedText();
+    world.boxes.expect(std::move(box));
+}
+
+} // namespace
+
+void addSetupVerbs(Verbs& verbs)
+{
+    verbs["user"] = [](World& world, const Step& step) { world.setUser(step.word(1)); };
+    verbs["computer"] = [](World& world, const Step& step) { world.setComputer(step.word(1)); };
+    verbs["clock"] = [](World& world, const Step& step) { world.setClock(step.word(1)); };
+    verbs["advance"] = [](World& world, const Step& step) { world.advance(std::stoi(step.word(1))); };
+    verbs["drive"] = [](World& world, const Step& step) { world.addDrive(step.word(1)); };
+    verbs["share"] = [](World& world, const Step& step) { world.addShare(step.word(1), step.word(2)); };
+    verbs["register"] = registerVerb;
+    verbs["use-register"] = [](World& world, const Step& step) { world.useRegister(step.word(1)); };
+    verbs["last-database"] = lastDatabase;
+    verbs["file"] = makeFile;
+    verbs["remove"] = [](World& world, const Step& step) { world.files().loesche(step.word(1)); };
+    verbs["sql"] = [](World& world, const Step& step) { world.connect().Execute(step.word(1)); };
+    verbs["printer"] = [](World& world, const Step& step) {
+        world.setPrinter(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), std::stoi(step.word(4)));
+    };
+    verbs["no-printers"] = [](World& world, const Step&) { world.removePrinters(); };
+    verbs["look"] = [](World& world, const Step& step) { world.look(step.word(1) == "dark"); };
+    verbs["window"] = [](World& world, const Step& step) { world.addForeignWindow(step.word(1)); };
+    verbs["no-windows"] = [](World& world, const Step&) { world.clearForeignWindows(); };
+    verbs["clipboard"] = [](World& world, const Step& step) { world.setClipboard(step.word(1)); };
+    verbs["box"] = expectBox;
+    verbs["start"] = [](World& world, const Step&) { world.start(); };
+    verbs["close"] = [](World& world, const Step&) { world.close(); };
+}
+
+} // namespace quelvarn::scenario

@@ -1,0 +1,215 @@
+#include "scenario_runner/world.h"
+
+#include "base/runtime_error.h"
+#include "fakes/fake_world.h"
+#include "fakes/temp_folder.h"
+#include "platform/dateien.h"
+#include "platform/system_ports.h"
+#include "scenario_runner/controls.h"
+#include "session/program.h"
+#include "ui/main_window/mdi_form1.h"
+#include "ui/theme/appearance.h"
+#include "ui/workplace.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <fmt/format.h>
+#include <fstream>
+
+namespace quelvarn::scenario {
+
+// Who the user is, what the clock says and which printers there are is told by the scenario; drives and files are
+// real ones in a folder of their own.
+struct World::Parts
+{
+    TempFolder folder;
+    FakeUhr clock;
+    FakeUmgebung environment;
+    FakeDrucker printers;
+    FakeProgramme programs;
+    FakeZwischenablage clipboard;
+    FakeStandardanwendung opener;
+    std::unique_ptr<SystemPorts> system;
+    std::unique_ptr<Ports> ports;
+    std::unique_ptr<Darstellung> appearance;
+    // Gone when the program has ended.
+    std::unique_ptr<SessionState> session;
+    std::unique_ptr<Arbeitsplatz> workplace;
+    bool ended = false;
+
+    std::filesystem::path drives() const { return folder.path() / "laufwerke"; }
+};
+
+World::World(std::string pictureFolder) : parts_(std::make_unique<Parts>()), pictureFolder_(std::move(pictureFolder))
+{
+    std::filesystem::create_directories(parts_->drives());
+    parts_->environment.rechner = "CAD-WS01";
+    parts_->environment.anwender = "Meier";
+    parts_->clock.zeit = Zeitpunkt::aus({2026, 11, 22, 8, 0, 0});
+    parts_->printers.standarddrucker = Standarddrucker{"Buero"};
+    parts_->system = systemPorts(parts_->drives());
+    parts_->ports = std::make_unique<Ports>(Ports{boxes, parts_->clock, parts_->environment, parts_->system->dateien(),
+                                                  parts_->system->laufwerke(), parts_->printers, parts_->programs,
+                                                  parts_->clipboard, parts_->opener});
+    parts_->appearance = std::make_unique<Darstellung>(qt((parts_->folder.path() / "darstellung.ini").string()));
+    parts_->appearance->setzeModus(Modus::Hell);
+    addDrive("c");
+    addDrive("w");
+}
+
+World::~World()
+{
+    parts_->workplace.reset();
+}
+
+void World::setUser(const std::string& name)
+{
+    parts_->environment.anwender = name;
+}
+
+void World::setComputer(const std::string& name)
+{
+    parts_->environment.rechner = name;
+}
+
+void World::setClock(const std::string& iso)
+{
+    const auto time = parseIso(iso);
+    if (!time)
+        throw Difference(fmt::format("\"{}\" is no time (YYYY-MM-DD HH:MM:SS)", iso));
+    parts_->clock.zeit = *time;
+}
+
+void World::advance(int seconds)
+{
+    parts_->clock.vor(seconds);
+}
+
+void World::addDrive(const std::string& letter)
+{
+    std::filesystem::create_directories(parts_->drives() / letter);
+}
+
+void World::addShare(const std::string& letter, const std::string& share)
+{
+    std::ofstream(parts_->drives() / (letter + ".freigabe")) << share << "\n";
+}
+
+void World::setPrinter(const std::string& name, int paper, int copies, int orientation)
+{
+    parts_->printers.standarddrucker = Standarddrucker{name, paper, copies, orientation};
+}
+
+void World::removePrinters()
+{
+    parts_->printers.drucker.clear();
+    parts_->printers.standarddrucker.reset();
+}
+
+void World::addForeignWindow(const std::string& caption)
+{
+    parts_->programs.andere.push_back(caption);
+}
+
+void World::clearForeignWindows()
+{
+    parts_->programs.andere.clear();
+}
+
+void World::setClipboard(const std::string& text)
+{
+    parts_->clipboard.inhalt = text;
+}
+
+void World::look(bool dark)
+{
+    parts_->appearance->setzeModus(dark ? Modus::Dunkel : Modus::Hell);
+    parts_->appearance->wendeAn(*qApp);
+}
+
+void World::start()
+{
+    parts_->ended = false;
+    parts_->appearance->wendeAn(*qApp);
+    parts_->session = std::make_unique<SessionState>();
+    if (!Main(*parts_->session, *parts_->ports)) {
+        parts_->ended = true;
+        return;
+    }
+    parts_->workplace = std::make_unique<Arbeitsplatz>(*parts_->session, *parts_->ports, *parts_->appearance,
+                                                       [this] { parts_->ended = true; });
+    if (!parts_->workplace->starte())
+        parts_->ended = true;
+    settle();
+}
+
+void World::close()
+{
+    if (!running())
+        throw Difference("the program does not run");
+    mainWindow().close();
+    settle();
+}
+
+bool World::running() const
+{
+    return parts_->workplace != nullptr && !parts_->ended;
+}
+
+QWidget& World::mainWindow() const
+{
+    if (parts_->workplace == nullptr)
+        throw Difference("the program does not run");
+    return parts_->workplace->fenster();
+}
+
+void World::settle() const
+{
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (parts_->ended && parts_->workplace != nullptr) {
+        parts_->workplace.reset();
+        parts_->session.reset();
+    }
+}
+
+Dateien& World::files() const
+{
+    return parts_->system->dateien();
+}
+
+std::filesystem::path World::realPath(const std::string& windowsPath) const
+{
+    return files().systempfad(windowsPath);
+}
+
+std::string World::fileText(const std::string& windowsPath) const
+{
+    auto text = files().lese(windowsPath);
+    std::erase(text, '\r');
+    if (text.ends_with('\n'))
+        text.pop_back();
+    return text;
+}
+
+std::string World::clipboardText() const
+{
+    return parts_->clipboard.inhalt;
+}
+
+std::string World::lastOpened() const
+{
+    return parts_->opener.geoeffnet.empty() ? "" : parts_->opener.geoeffnet.back();
+}
+
+Connection World::connect() const
+{
+    if (register_.empty())
+        throw Difference("no register was named yet");
+    Connection connection;
+    connection.Open(realPath(register_));
+    return connection;
+}
+
+} // namespace quelvarn::scenario
