@@ -2,22 +2,24 @@
 // Afterwards every row that a process believes it wrote must be there, exactly once and whole.
 //
 //     quelvarn-stress REGISTER [--processes 8] [--seconds 60]
+//
+// Where no file is yet, an empty SQLite register is made for the time of the run.
 
 #include "base/runtime_error.h"
 #include "database/connection.h"
+#include "database/create.h"
 #include "database/recordset.h"
-
-#include <fmt/format.h>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <fmt/format.h>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 using namespace quelvarn;
@@ -111,8 +113,8 @@ int work(const Options& options, int process)
             checkOut(connection, user, turns);
             if (turns % 3 != 0)
                 checkIn(connection, user, turns);
-            slowest = std::max(slowest,
-                               std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+            slowest =
+                std::max(slowest, std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
         }
         Recordset own;
         own.Open(fmt::format("SELECT * FROM CheckInOut WHERE AnwenderNutzer = '{}'", user), connection);
@@ -138,16 +140,18 @@ void removeTraces(const std::string& target)
     connection.Execute("DELETE FROM Ini WHERE Feld2 = 'Last'");
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+// False when the register was there before.
+bool makeWhereMissing(const std::string& target)
 {
-    const auto options = readOptions(argc, argv);
-    if (options.target.empty()) {
-        fmt::print(stderr, "quelvarn-stress REGISTER [--processes 8] [--seconds 60]\n");
-        return 2;
-    }
-    removeTraces(options.target);
+    if (target.find("://") != std::string::npos || std::filesystem::exists(target))
+        return false;
+    legeRegisterAn(*oeffneSqlite(target, true));
+    return true;
+}
+
+// True when every process found all its rows.
+bool runProcesses(const Options& options)
+{
     std::vector<pid_t> children;
     for (int i = 0; i < options.processes; ++i)
         if (const pid_t child = fork(); child == 0) {
@@ -163,7 +167,24 @@ int main(int argc, char** argv)
         waitpid(child, &status, 0);
         good = good && WIFEXITED(status) && WEXITSTATUS(status) == 0;
     }
+    return good;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const auto options = readOptions(argc, argv);
+    if (options.target.empty()) {
+        fmt::print(stderr, "quelvarn-stress REGISTER [--processes 8] [--seconds 60]\n");
+        return 2;
+    }
+    const bool made = makeWhereMissing(options.target);
     removeTraces(options.target);
+    const bool good = runProcesses(options);
+    removeTraces(options.target);
+    if (made)
+        std::filesystem::remove(options.target);
     fmt::print("{}\n", good ? "No row lost, no fault." : "FAILED");
     return good ? 0 : 1;
 }
