@@ -164,11 +164,6 @@ TEST(SqlRenderer, WritesValuesInTheTypeOfTheirColumn)
     EXPECT_EQ(parameter(geaendert), "'7'|42");
     EXPECT_EQ(postgresDialekt().loesche(PARTS, 42).text, "DELETE FROM \"PartTabelle\" WHERE qv_id = $1::bigint");
     EXPECT_EQ(sqliteDialekt().fuegeEin(PARTS, {}).text, "INSERT INTO \"PartTabelle\" DEFAULT VALUES");
-
-    const std::vector<std::string> spalten{"status"};
-    const std::vector<Zeilenschluessel> schluessel{3, -1};
-    EXPECT_EQ(sqliteDialekt().zeilen(PARTS, spalten, schluessel).text,
-              "SELECT rowid, \"Status\" FROM \"PartTabelle\" WHERE rowid IN (3,-1)");
 }
 
 TEST(SqlRenderer, RefusesWhatTheTableDoesNotHave)

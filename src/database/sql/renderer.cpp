@@ -239,16 +239,6 @@ Gerendert Dialekt::aenderung(const Anweisung& anweisung, const Tabellenschema& t
     return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.where(loeschen->where)));
 }
 
-Gerendert Dialekt::zeilen(const Tabellenschema& tabelle, std::span<const std::string> spalten,
-                          std::span<const Zeilenschluessel> schluessel) const
-{
-    Schreiber schreiber(*this, tabelle);
-    const std::string auswahl = schreiber.auswahl(spalten);
-    return schreiber.fertig(fmt::format("SELECT {0}, {1} FROM {2} WHERE {0} IN ({3})", schluesselspalte(), auswahl,
-                                        schreiber.tabelle(),
-                                        schluessel.empty() ? "NULL" : fmt::to_string(fmt::join(schluessel, ","))));
-}
-
 Gerendert Dialekt::fuegeEin(const Tabellenschema& tabelle, std::span<const Zuweisung> werte) const
 {
     Schreiber schreiber(*this, tabelle);

@@ -42,9 +42,7 @@ public:
     // INSERT, UPDATE or DELETE.
     Gerendert aenderung(const Anweisung& anweisung, const Tabellenschema& tabelle) const;
 
-    // By row key. The keys of `zeilen` stand in the text itself.
-    Gerendert zeilen(const Tabellenschema& tabelle, std::span<const std::string> spalten,
-                     std::span<const Zeilenschluessel> schluessel) const;
+    // By row key.
     Gerendert fuegeEin(const Tabellenschema& tabelle, std::span<const Zuweisung> werte) const;
     Gerendert aendere(const Tabellenschema& tabelle, Zeilenschluessel zeile, std::span<const Zuweisung> werte) const;
     Gerendert loesche(const Tabellenschema& tabelle, Zeilenschluessel zeile) const;
