@@ -6,7 +6,6 @@ namespace quelvarn {
 
 Laufzeitfehler::Laufzeitfehler(int nummer, std::string quelle, const std::string& beschreibung)
     : std::runtime_error(beschreibung), nummer_(nummer), quelle_(std::move(quelle))
-{
-}
+{}
 
 } // namespace quelvarn

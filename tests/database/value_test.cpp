@@ -1,8 +1,8 @@
 #include "database/schema.h"
 #include "database/value.h"
 
-#include <gtest/gtest.h>
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <limits>
 
 namespace quelvarn {
