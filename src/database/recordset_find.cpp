@@ -52,9 +52,8 @@ void Recordset::Sort(std::string_view ausdruck)
     Kern& kern = *kern_;
     kern.beendeBearbeitung();
     const auto felder = leseSortierung(ausdruck, [&](std::string_view name) { return kern.zeilen.feldVon(name); });
-    std::vector<std::size_t> nummern;
-    for (const Sortierfeld& feld : felder)
-        nummern.push_back(feld.feld);
+    std::vector<std::size_t> nummern(felder.size());
+    std::transform(felder.begin(), felder.end(), nummern.begin(), [](const Sortierfeld& feld) { return feld.feld; });
     kern.zeilen.lade(nummern, {});
 
     std::vector<bool> gezeigt(kern.zeilen.anzahl());

@@ -4,6 +4,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace quelvarn {
 
@@ -33,11 +34,11 @@ void sortiere(std::vector<Zeilennummer>& zeilen, const std::vector<Sortierfeld>&
               const std::function<const Column&(std::size_t)>& spalte)
 {
     // The last field first: each pass keeps the order of the one before among equal values.
-    for (auto feld = felder.rbegin(); feld != felder.rend(); ++feld) {
-        const std::vector<std::int64_t> werte = spalte(feld->feld).ordnungswerte();
+    for (const Sortierfeld& feld : felder | std::views::reverse) {
+        const std::vector<std::int64_t> werte = spalte(feld.feld).ordnungswerte();
         const auto frueher = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] < werte[rechts]; };
         const auto spaeter = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] > werte[rechts]; };
-        if (feld->absteigend)
+        if (feld.absteigend)
             std::stable_sort(zeilen.begin(), zeilen.end(), spaeter);
         else
             std::stable_sort(zeilen.begin(), zeilen.end(), frueher);
