@@ -3,6 +3,7 @@
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
 #include "ui/adapters/messages_qt.h"
+#include "ui/busy_pointer.h"
 #include "ui/guard.h"
 #include "ui/theme/appearance.h"
 #include "ui/workplace.h"
@@ -36,13 +37,11 @@ int main(int argc, char** argv)
     Waechter waechter(meldungen, beendeSofort);
     bool weiter = false;
     waechter.fuehreAus([&] {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        const Sanduhr warten;
         weiter = Main(session, ports);
     });
     if (!weiter)
         return EXIT_FAILURE;
     Arbeitsplatz arbeitsplatz(session, ports, darstellung, beendeSofort);
-    weiter = arbeitsplatz.starte();
-    QGuiApplication::restoreOverrideCursor();
-    return weiter ? Anwendung::exec() : EXIT_SUCCESS;
+    return arbeitsplatz.starte() ? Anwendung::exec() : EXIT_SUCCESS;
 }

@@ -1,6 +1,7 @@
 #include "ui/workplace.h"
 
 #include "session/session_state.h"
+#include "ui/busy_pointer.h"
 #include "ui/document_page/form_se_doku.h"
 #include "ui/filter_page/form_se_filtern.h"
 #include "ui/main_window/mdi_form1.h"
@@ -23,7 +24,6 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
         darstellung_.wendeAn(*qApp);
         fenster_->stelleGroesseEin();
         fenster_->show();
-        formSEDoku_->zeigen(); // Its colours of a status depend on the appearance.
     };
     formDB_ = new FormDB(startseite_, aussehen);
     formSEDoku_ = new FormSEDoku(dokumentseite_, session);
@@ -53,6 +53,7 @@ bool Arbeitsplatz::starte()
 {
     bool weiter = false;
     waechter_.fuehreAus([&] {
+        const Sanduhr warten;
         fenster_->zeigen();
         formDB_->zeigen();
         formSEDoku_->zeigen();

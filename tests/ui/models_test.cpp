@@ -51,7 +51,7 @@ TEST(Gittermodell, IsNotBoundAnewWhenOnlyTheRowMoved)
 {
     Recordset zeilen;
     fuelle(zeilen, 3);
-    Gittermodell modell({{"Dokumentname", "DokuBez"}});
+    Gittermodell modell(std::vector<Gitterspalte>{{"Dokumentname", "DokuBez"}});
     modell.zeige(&zeilen, 1);
     const QSignalSpy neu(&modell, &QAbstractItemModel::modelReset);
     zeilen.MoveLast();

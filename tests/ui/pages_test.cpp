@@ -11,6 +11,7 @@
 #include "ui/start_page/form_db.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -106,10 +107,12 @@ TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
     EXPECT_EQ(operationen, 2);
     EXPECT_FALSE(modell.aktuelleSeite().baum.wurzeln.at(0).offen);
     finde<QTabWidget>(seite, "SSTabDGDoku").setCurrentIndex(3);
-    EXPECT_EQ(operationen, 3);
+    EXPECT_EQ(session_.AktDoku.DokuBez, "Z-100");
+    seite.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&seite));
     QTest::keyClick(&seite, Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(operationen, 4);
     EXPECT_EQ(modell.tab(), 0);
+    EXPECT_TRUE(gitter.hasFocus());
 }
 
 TEST_F(SeitenTest, FormDBShowsTheSwitchesAndSetsThem)

@@ -39,7 +39,7 @@ protected:
     int enden_ = 0;
     Waechter waechter_{meldungen_, [this] { ++enden_; }};
     Recordset zeilen_;
-    Gitter gitter_{"PartDataGrid", {{"Dokumentname", "DokuBez"}}, {100}};
+    Gitter gitter_{"PartDataGrid", std::vector<Gitterspalte>{{"Dokumentname", "DokuBez"}}, {100}};
     std::vector<int> gewaehlt_;
     std::vector<int> geoeffnet_;
 };

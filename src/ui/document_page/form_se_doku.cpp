@@ -1,6 +1,7 @@
 #include "ui/document_page/form_se_doku.h"
 
 #include "register/document_page.h"
+#include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
@@ -68,8 +69,10 @@ QWidget* FormSEDoku::neueLeiste()
     zeile->reihe().addWidget(ToolbarSEDokTop_, 1);
     zeile->reihe().addWidget(ToolbarSEDok3);
     zeile->reihe().addWidget(neueToolbarSEDok4());
-    connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this,
-            bewacht([this] { modell_.neuaufbauen(); }));
+    connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this, bewacht([this] {
+        const Sanduhr warten;
+        modell_.neuaufbauen();
+    }));
     connect(&knopfVon(*ToolbarSEDok2_, "Zurück"), &QAction::triggered, this, bewacht([this] { modell_.zurueck(); }));
     return zeile;
 }
@@ -141,7 +144,10 @@ QTabWidget* FormSEDoku::neueReiter()
         tabellen_.push_back(tabelle);
         reiter->addTab(tabelle, {});
     }
-    connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) { modell_.tabGewaehlt(tab); }));
+    connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) {
+                const Sanduhr warten;
+                modell_.tabGewaehlt(tab);
+            }));
     return reiter;
 }
 
@@ -150,6 +156,7 @@ void FormSEDoku::baueTasten()
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
         auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
         connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
+                    const Sanduhr warten;
                     modell_.tabGewaehlt(tab);
                     setFocus();
                 }));
@@ -170,6 +177,14 @@ void FormSEDoku::zeigen()
         tabelle->zeigen();
     info_->zeigen();
     status_->zeigen(modell_);
+}
+
+// The colours of a status depend on the appearance.
+void FormSEDoku::changeEvent(QEvent* ereignis)
+{
+    QWidget::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::PaletteChange)
+        zeigen();
 }
 
 void FormSEDoku::zeigeReiter()

@@ -1,6 +1,7 @@
 #include "ui/start_page/form_db.h"
 
 #include "session/start_page.h"
+#include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/tool_bar.h"
@@ -54,7 +55,10 @@ QWidget* FormDB::neueLeiste()
     leiste->widgetForAction(oeffnen)->setProperty("haupt", true);
     oeffnen->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
     oeffnen->setShortcutContext(Qt::WindowShortcut);
-    connect(oeffnen, &QAction::triggered, this, bewacht([this] { modell_.oeffnen(); }));
+    connect(oeffnen, &QAction::triggered, this, bewacht([this] {
+                const Sanduhr warten;
+                modell_.oeffnen();
+            }));
     auto* verlassen = fuegeKnopfHinzu(*leiste, {"Verlassen", "Verlassen", "Zurück zur Hauptform", "zurueck"});
     connect(verlassen, &QAction::triggered, this, bewacht([this] { modell_.verlassen(); }));
     zeile->reihe().addWidget(leiste);
