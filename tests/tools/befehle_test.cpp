@@ -112,14 +112,14 @@ TEST_P(Befehle, FindsWhatIsWrongWithARegister)
         int ergebnis;
     } faelle[] = {
         {"UPDATE PartTabelle SET Status = 7 WHERE DokuBez = 'GT-0301-111'",
-         "Fehler: PartTabelle: 1 Dokumente mit einem Status außerhalb von 0 bis 5, etwa GT-0301-111 (0)", 1},
+         "Fehler: PartTabelle: Dokumente mit einem Status außerhalb von 0 bis 5: 1, etwa GT-0301-111 (0)", 1},
         {"UPDATE DraftTabelle SET DokuBez = Null WHERE DokuBez = 'VL-001'",
-         "Fehler: DraftTabelle: 1 Dokumente ohne DokuBez oder RevBez, etwa Null (0)", 1},
+         "Fehler: DraftTabelle: Dokumente ohne DokuBez oder RevBez: 1, etwa Null (0)", 1},
         {"INSERT INTO STbl1Tabelle (DokuBez, RevBez, filename, Status) VALUES ('din 933 - M4X10 ', '0', 'W:\\x.par', "
          "3)",
-         "Fehler: STbl1Tabelle: 1 Dokumente, die es schon gibt", 1},
+         "Fehler: STbl1Tabelle: Dokumente, die es schon gibt: 1", 1},
         {"UPDATE ZusBauPart SET Part = 'W:\\weg.par' WHERE AssembDokuBez = 'VR-0001-000'",
-         "Warnung: ZusBauPart: 1 Zeilen, deren Part in keiner Dokumenttabelle steht, etwa W:\\weg.par", 0},
+         "Warnung: ZusBauPart: Zeilen, deren Part in keiner Dokumenttabelle steht: 1, etwa W:\\weg.par", 0},
         {"DELETE FROM Ini WHERE Feld3 = 'Forward'", "Fehler: Ini: die Zeile OnOff/Forward fehlt.", 1},
         {"UPDATE Ini SET Feld4 = '0' WHERE Feld1 = 'Schröder' AND Feld2 = 'Berechtigung'",
          "Fehler: Ini: Schröder darf keinen Status sehen", 1},

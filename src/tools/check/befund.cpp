@@ -27,7 +27,7 @@ void Befund::zeile(std::string_view text)
 
 std::string Vorkommen::text(std::string_view was) const
 {
-    return fmt::format("{} {}, etwa {}", formatGanzzahl(static_cast<std::int64_t>(anzahl_)), was, beispiel_);
+    return fmt::format("{}: {}, etwa {}", was, formatGanzzahl(static_cast<std::int64_t>(anzahl_)), beispiel_);
 }
 
 std::unique_ptr<Zeilenleser> findZeilen(Engine& engine, std::string_view tabelle, std::vector<std::string> spalten)

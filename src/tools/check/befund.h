@@ -38,7 +38,7 @@ public:
             beispiel_ = beispiel;
     }
     std::uint64_t anzahl() const { return anzahl_; }
-    // "3 Zeilen ohne Part, etwa x.asm"
+    // "Zeilen ohne Part: 3, etwa x.asm"
     std::string text(std::string_view was) const;
 
 private:

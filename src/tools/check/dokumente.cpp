@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <fmt/format.h>
 #include <functional>
+#include <unordered_set>
 
 namespace quelvarn::tools {
 
@@ -53,15 +54,13 @@ void findeDoppelte(Engine& engine, const DokuTyp& typ, std::vector<std::uint64_t
     if (mehrfach.empty())
         return;
     const auto zeilen = findZeilen(engine, typ.tabelle, {"DokuBez", "RevBez"});
-    std::vector<std::uint64_t> gesehen;
+    std::unordered_set<std::uint64_t> gesehen;
     while (zeilen->next()) {
         const auto nummer = Dokumentschluessel::aus(zeilen->text(0), zeilen->text(1));
         if (!std::ranges::binary_search(mehrfach, nummer))
             continue;
-        if (std::ranges::find(gesehen, nummer) != gesehen.end())
+        if (!gesehen.insert(nummer).second)
             doppelt.merke(name(*zeilen));
-        else
-            gesehen.push_back(nummer);
     }
 }
 

@@ -35,7 +35,7 @@ class Bericht
 public:
     void verlust(std::string_view tabelle, std::string_view spalte, std::string_view grund)
     {
-        ++verluste_[fmt::format("{}.{}: {}", tabelle, spalte, grund)];
+        ++verluste_[fmt::format("Werte in {}.{} ({})", tabelle, spalte, grund)];
     }
     void tabelle(std::string_view name) { zeilen_.emplace_back(name, 0); }
     void zeile() { ++zeilen_.back().second; }
@@ -63,7 +63,7 @@ public:
         for (const auto& name : uebrigeTabellen)
             aus << fmt::format("Nicht übernommen: Tabelle {}\n", name);
         for (const auto& [was, anzahl] : verluste_)
-            aus << fmt::format("Nicht übernommen: {} ({} Werte)\n", was, formatGanzzahl(anzahl));
+            aus << fmt::format("Nicht übernommen: {}: {}\n", was, formatGanzzahl(anzahl));
     }
 
 private:

@@ -25,13 +25,13 @@ public:
         if (ziel.parent_path() != letzterOrdner_)
             legeOrdnerAn(ziel.parent_path());
         letzterOrdner_ = ziel.parent_path();
+        anzahl_ += std::filesystem::exists(ziel) ? 0 : 1; // Revisions share their additional documents.
         std::ofstream datei(ziel, std::ios::binary | std::ios::trunc);
         datei.write(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
         datei.close();
         if (!datei)
             throw werkzeugfehler(fmt::format("'{}' lässt sich nicht schreiben.", ziel.string()));
         std::filesystem::last_write_time(ziel, dateizeit(geaendert));
-        ++anzahl_;
     }
     void legeOrdnerAn(const std::filesystem::path& ordner)
     {

@@ -36,8 +36,8 @@ int neuesterStatus(std::uint32_t wurf)
 
 Zeitpunkt arbeitszeit(Zeitpunkt tag, Zufall& zufall)
 {
-    constexpr std::int64_t VON = 6 * 3600 + 1800;
-    constexpr std::int64_t BIS = 17 * 3600;
+    constexpr std::int64_t VON = std::int64_t{6} * 3600 + 1800;
+    constexpr std::int64_t BIS = std::int64_t{17} * 3600;
     return tag.tagesbeginn().plusSekunden(zufall.zwischen(VON, BIS));
 }
 
@@ -224,7 +224,7 @@ Zeitpunkt Dokumente::erstellt(std::uint32_t teil, int revision) const
 {
     const auto quelle = modell(teil);
     const Teil& t = plan_.teil(quelle);
-    constexpr std::int64_t TAGE_DES_REGISTERS = 26 * 365;
+    constexpr std::int64_t TAGE_DES_REGISTERS = std::int64_t{26} * 365;
     Zufall projektzeit{plan_.start(), ZEITEN, static_cast<std::uint64_t>(t.bereich), t.projekt};
     Zufall zufall{plan_.start(), ZEITEN, quelle};
     const auto beginn = stichtag().plusTage(-TAGE_DES_REGISTERS + projektzeit.zwischen(0, TAGE_DES_REGISTERS - 200));

@@ -166,12 +166,12 @@ void schreibeAuftragsvorgaben(const Anwender& anwender, Anwenderzeilen& ini)
 // Some documents of each type that the user keeps, spread over the register.
 void schreibeFavoriten(const Anwender& anwender, const Dokumente& dokumente, Anwenderzeilen& ini)
 {
-    constexpr std::uint32_t JE_TYP = 5;
+    constexpr std::size_t JE_TYP = 5;
     const auto& teile = dokumente.plan().teile();
     for (const DokuTyp& typ : DOKUTYPEN) {
         if (anwender.favoriten.find(typ.schluessel) == std::string_view::npos)
             continue;
-        for (std::uint32_t i = 0; i < JE_TYP; ++i) {
+        for (std::size_t i = 0; i < JE_TYP; ++i) {
             auto teil = static_cast<std::uint32_t>(teile.size() * (2 * i + 1) / (2 * JE_TYP));
             while (teil < teile.size() && static_cast<int>(teile[teil].tab) != typ.tab)
                 ++teil;

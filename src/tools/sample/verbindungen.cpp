@@ -50,8 +50,7 @@ void baueNormUndKaufteileEin(const Dokumente& dokumente, std::uint32_t baugruppe
         for (; anzahl > 0 && !auswahl.empty(); --anzahl)
             gewaehlt.push_back(zufall.aus(auswahl));
         std::ranges::sort(gewaehlt);
-        const auto doppelte = std::ranges::unique(gewaehlt);
-        gewaehlt.erase(doppelte.begin(), doppelte.end());
+        gewaehlt.erase(std::unique(gewaehlt.begin(), gewaehlt.end()), gewaehlt.end());
         for (const auto teil : gewaehlt)
             baueEin(dokumente, baugruppe, teil, senke);
     };
