@@ -12,8 +12,6 @@ namespace {
 
 enum Frage : std::uint64_t { NAMEN = 20, STATUSWURF, PERSONEN, ZEITEN };
 
-constexpr std::int64_t TAG = 86400; // seconds
-
 std::string revisionsname(std::uint32_t art, int revision)
 {
     if (art == 3)
