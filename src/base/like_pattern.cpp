@@ -22,7 +22,22 @@ LikePattern::LikePattern(std::string_view pattern, Wildcards wildcards)
             tokens_.push_back({Token::Kind::Char, character});
         }
     }
+    findRequired();
     findShape();
+}
+
+// The longest run of plain characters.
+void LikePattern::findRequired()
+{
+    std::string run;
+    for (const Token& token : tokens_) {
+        if (token.kind == Token::Kind::Char)
+            appendUtf8(run, token.character);
+        else
+            run.clear();
+        if (run.size() > required_.size())
+            required_ = run;
+    }
 }
 
 void LikePattern::addClass(std::u32string_view members)
@@ -93,6 +108,14 @@ bool LikePattern::Token::accepts(char32_t candidate) const
     return found != negated;
 }
 
+// The first place where what stands behind a run can begin.
+std::size_t LikePattern::findStart(std::size_t token, std::string_view folded, std::size_t from) const
+{
+    if (token == tokens_.size() || !tokens_[token].isAscii())
+        return from;
+    return folded.find(static_cast<char>(tokens_[token].character), from);
+}
+
 // After a mismatch only the last run has to grow: what an earlier run took can stay as short as it is.
 bool LikePattern::matchesTokens(std::string_view folded) const
 {
@@ -101,14 +124,19 @@ bool LikePattern::matchesTokens(std::string_view folded) const
     std::size_t behindRun = 0; // 0: no run seen yet
     std::size_t runEnd = 0;
     while (position < folded.size()) {
-        if (token < tokens_.size() && tokens_[token].kind == Token::Kind::AnyRun) {
+        const Token* current = token < tokens_.size() ? &tokens_[token] : nullptr;
+        if (current && current->kind == Token::Kind::AnyRun) {
             behindRun = ++token;
-            runEnd = position;
+            position = runEnd = findStart(behindRun, folded, position);
+            continue;
+        }
+        if (current && current->isAscii() && folded[position] == static_cast<char>(current->character)) {
+            ++token;
+            ++position;
             continue;
         }
         std::size_t next = position;
-        const char32_t character = nextCodePoint(folded, next);
-        if (token < tokens_.size() && tokens_[token].accepts(character)) {
+        if (current && !current->isAscii() && current->accepts(nextCodePoint(folded, next))) {
             ++token;
             position = next;
             continue;
@@ -118,9 +146,11 @@ bool LikePattern::matchesTokens(std::string_view folded) const
         if (behindRun == tokens_.size())
             return true;
         nextCodePoint(folded, runEnd);
-        position = runEnd;
+        position = runEnd = findStart(behindRun, folded, runEnd);
         token = behindRun;
     }
+    if (position == std::string_view::npos)
+        return false;
     if (token < tokens_.size() && tokens_[token].kind == Token::Kind::AnyRun)
         ++token;
     return token == tokens_.size();

@@ -28,6 +28,8 @@ public:
     enum class Shape { Exact, Prefix, Contains, Other };
     Shape shape() const { return shape_; }
     const std::string& literal() const { return literal_; }
+    // A folded text that stands in everything the pattern matches; "" when there is none.
+    const std::string& required() const { return required_; }
 
 private:
     struct Token
@@ -37,16 +39,20 @@ private:
         std::u32string members; // Pairs: first and last of each range.
         bool negated = false;
 
+        bool isAscii() const { return kind == Kind::Char && character < 0x80; }
         bool accepts(char32_t candidate) const;
     };
 
     void addClass(std::u32string_view members);
+    void findRequired();
     void findShape();
+    std::size_t findStart(std::size_t token, std::string_view folded, std::size_t from) const;
     bool matchesTokens(std::string_view folded) const;
 
     std::vector<Token> tokens_;
     Shape shape_ = Shape::Other;
     std::string literal_;
+    std::string required_;
 };
 
 } // namespace quelvarn

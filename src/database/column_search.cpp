@@ -11,7 +11,7 @@ namespace quelvarn {
 namespace {
 
 constexpr unsigned BLOCKBITS = 12; // 4,096 texts are judged at once.
-constexpr std::size_t FENSTER = 64;
+constexpr std::size_t FENSTER = 128;
 
 // Marks the places of a window where a text may begin, going by three of its bytes. False when there is none. The
 // fixed length lets the compiler use vector instructions.
@@ -32,7 +32,14 @@ bool merkeAnfaenge(const char* fenster, std::string_view gesucht, std::uint8_t* 
     return einer != 0;
 }
 
-// LIKE over the folded texts of a column: the plain shapes by comparing bytes, the others by the pattern.
+std::uint8_t* naechster(std::uint8_t* von, std::uint8_t* bis)
+{
+    void* gefunden = std::memchr(von, 1, static_cast<std::size_t>(bis - von));
+    return gefunden ? static_cast<std::uint8_t*>(gefunden) : bis;
+}
+
+// LIKE over the folded texts of a column: the plain shapes by comparing bytes, the others by the pattern where the
+// text can match at all.
 class LikeTreffer : public Texttreffer
 {
 public:
@@ -44,8 +51,9 @@ protected:
     void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
     {
         const auto& gefaltet = texte().gefaltet();
-        if (muster_.shape() == LikePattern::Shape::Contains && !muster_.literal().empty())
-            bewerteEnthaelt(von, bis, urteil);
+        const bool vorn = muster_.shape() == LikePattern::Shape::Exact || muster_.shape() == LikePattern::Shape::Prefix;
+        if (!vorn && !muster_.required().empty())
+            bewerteFundstellen(von, bis, urteil);
         else
             for (Textcode code = von; code < bis; ++code)
                 urteil[code] = trifft(texte().gefalteterText(code));
@@ -71,11 +79,12 @@ private:
         return muster_.matchesFolded(gefaltet);
     }
 
-    void bewerteEnthaelt(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil)
+    // Looks only at the texts that hold what every match must hold.
+    void bewerteFundstellen(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil)
     {
         const auto& anfaenge = texte().anfaenge();
         const std::string_view bytes = std::string_view(texte().gefaltet().bytes).substr(0, anfaenge[bis]);
-        const std::string& text = muster_.literal();
+        const std::string& text = muster_.required();
         Textcode code = von;
         for (std::size_t stelle = anfaenge[von];;) {
             stelle = findeBytes(bytes, text, stelle);
@@ -83,12 +92,13 @@ private:
                 return;
             while (anfaenge[code + 1] <= stelle)
                 ++code;
-            if (stelle + text.size() <= anfaenge[code + 1]) {
-                urteil[code] = 1;
-                stelle = anfaenge[code + 1];
-            } else {
-                ++stelle; // The hit runs over the end of the text.
+            if (stelle + text.size() > anfaenge[code + 1]) {
+                ++stelle; // It runs over the end of the text.
+                continue;
             }
+            urteil[code] =
+                muster_.shape() == LikePattern::Shape::Contains || muster_.matchesFolded(texte().gefalteterText(code));
+            stelle = anfaenge[code + 1];
         }
     }
 
@@ -154,12 +164,15 @@ private:
 std::size_t findeBytes(std::string_view bytes, std::string_view gesucht, std::size_t ab)
 {
     std::uint8_t anfaenge[FENSTER];
+    std::uint8_t* const ende = anfaenge + FENSTER;
     for (; ab + FENSTER + gesucht.size() <= bytes.size(); ab += FENSTER) {
         if (!merkeAnfaenge(bytes.data() + ab, gesucht, anfaenge))
             continue;
-        for (std::size_t i = 0; i < FENSTER; ++i)
-            if (anfaenge[i] && bytes.compare(ab + i, gesucht.size(), gesucht) == 0)
-                return ab + i;
+        for (std::uint8_t* stelle = naechster(anfaenge, ende); stelle != ende; stelle = naechster(stelle + 1, ende)) {
+            const std::size_t treffer = ab + static_cast<std::size_t>(stelle - anfaenge);
+            if (bytes.compare(treffer, gesucht.size(), gesucht) == 0)
+                return treffer;
+        }
     }
     return bytes.find(gesucht, ab);
 }

@@ -4,7 +4,6 @@
 #include "base/text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace quelvarn {
 
@@ -34,7 +33,7 @@ void sortiere(std::vector<Zeilennummer>& zeilen, const std::vector<Sortierfeld>&
               const std::function<const Column&(std::size_t)>& spalte)
 {
     // The last field first: each pass keeps the order of the one before among equal values.
-    for (const Sortierfeld& feld : felder | std::views::reverse) {
+    std::for_each(felder.rbegin(), felder.rend(), [&](const Sortierfeld& feld) {
         const std::vector<std::int64_t> werte = spalte(feld.feld).ordnungswerte();
         const auto frueher = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] < werte[rechts]; };
         const auto spaeter = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] > werte[rechts]; };
@@ -42,7 +41,7 @@ void sortiere(std::vector<Zeilennummer>& zeilen, const std::vector<Sortierfeld>&
             std::stable_sort(zeilen.begin(), zeilen.end(), spaeter);
         else
             std::stable_sort(zeilen.begin(), zeilen.end(), frueher);
-    }
+    });
 }
 
 } // namespace quelvarn
