@@ -2,6 +2,7 @@
 
 #include "database/recordset.h"
 #include "ui/text.h"
+#include "ui/theme/style.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -13,7 +14,7 @@ namespace quelvarn {
 
 namespace {
 
-// Shows the whole text in the tool tip where it had to be shortened.
+// Marks the row that the keyboard moves, and shows the whole text in the tool tip where it had to be shortened.
 class Zellenzeichner : public QStyledItemDelegate
 {
 public:
@@ -27,6 +28,13 @@ public:
         const bool gekuerzt = sizeHint(option, stelle).width() > ansicht->visualRect(stelle).width();
         QToolTip::showText(ereignis->globalPos(), gekuerzt ? stelle.data().toString() : QString(), ansicht);
         return true;
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& stelle) const override
+    {
+        QStyledItemDelegate::paint(painter, option, stelle);
+        if (stelle.column() == 0 && option.state.testFlag(QStyle::State_Selected) && option.widget->hasFocus())
+            zeichneFokusmarke(*painter, option.rect);
     }
 
 protected:

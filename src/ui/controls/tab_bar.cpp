@@ -10,7 +10,7 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int RAND = 14;
+constexpr int RAND = 12;
 constexpr int MINDESTBREITE = 44;
 
 // The width at which cutting every wider one makes all of them fit.

@@ -41,12 +41,14 @@ Umbruchlabel::Umbruchlabel(QWidget* eltern) : QLabel(eltern)
     QSizePolicy regel(QSizePolicy::Preferred, QSizePolicy::Preferred);
     regel.setHeightForWidth(true);
     setSizePolicy(regel);
+    setContentsMargins(UEBERHANG, 0, 0, 0);
 }
 
 int Umbruchlabel::heightForWidth(int breite) const
 {
     QTextLayout satz(mitBruchstellen(text()), font());
-    return std::max(static_cast<int>(std::ceil(brichUm(satz, breite))), fontMetrics().height());
+    const int platz = breite - contentsMargins().left() - contentsMargins().right();
+    return std::max(static_cast<int>(std::ceil(brichUm(satz, platz))), fontMetrics().height());
 }
 
 QSize Umbruchlabel::sizeHint() const
@@ -64,8 +66,8 @@ void Umbruchlabel::paintEvent(QPaintEvent* /*ereignis*/)
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     QTextLayout satz(mitBruchstellen(text()), font(), this);
-    brichUm(satz, width());
-    satz.draw(&painter, {0, 0});
+    brichUm(satz, contentsRect().width());
+    satz.draw(&painter, contentsRect().topLeft());
 }
 
 } // namespace quelvarn

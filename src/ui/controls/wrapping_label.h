@@ -4,6 +4,9 @@
 
 namespace quelvarn {
 
+// Room at the left of a value for letters that reach beyond their place, such as J.
+constexpr int UEBERHANG = 2;
+
 // A label that wraps its text at words, and anywhere within a word that is longer than the line, such as a path.
 class Umbruchlabel : public QLabel
 {

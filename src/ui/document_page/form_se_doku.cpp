@@ -86,7 +86,7 @@ QWidget* FormSEDoku::neueMitte()
     teiler->addWidget(info_);
     teiler->setStretchFactor(0, 3);
     teiler->setStretchFactor(1, 2);
-    teiler->setSizes({575, 364});
+    teiler->setSizes({604, 335});
 
     auto* viewer = new QWidget;
     viewer->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
@@ -177,14 +177,6 @@ void FormSEDoku::zeigen()
         tabelle->zeigen();
     info_->zeigen();
     status_->zeigen(modell_);
-}
-
-// The colours of a status depend on the appearance.
-void FormSEDoku::changeEvent(QEvent* ereignis)
-{
-    QWidget::changeEvent(ereignis);
-    if (ereignis->type() == QEvent::PaletteChange)
-        zeigen();
 }
 
 void FormSEDoku::zeigeReiter()

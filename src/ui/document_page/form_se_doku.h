@@ -29,9 +29,6 @@ public:
     // A document was double-clicked: what "Bearbeiten" of the frame does.
     std::function<void()> bearbeiten;
 
-protected:
-    void changeEvent(QEvent* ereignis) override;
-
 private:
     QWidget* neueKopfzeile();
     QWidget* neueLeiste();

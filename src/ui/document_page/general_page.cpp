@@ -1,7 +1,7 @@
 #include "ui/document_page/general_page.h"
 
 #include "register/info_pages.h"
-#include "ui/controls/status_dot.h"
+#include "ui/controls/status_marks.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/wrapping_label.h"
 #include "ui/text.h"
@@ -91,8 +91,10 @@ QLabel* Allgemeinansicht::neuerWert(int index, std::string AllgemeineSeite::*fel
     QLabel* wert = umbrechen ? new Umbruchlabel : new QLabel;
     wert->setTextFormat(Qt::PlainText);
     wert->setObjectName(name(index));
-    if (!umbrechen)
+    if (!umbrechen) {
         wert->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        wert->setContentsMargins(UEBERHANG, 0, 0, 0);
+    }
     werte_.push_back({wert, feld});
     return wert;
 }
@@ -110,7 +112,8 @@ void Allgemeinansicht::baueStatus(QGridLayout& gitter, int zeile)
     reihe->setSpacing(5);
     reihe->addWidget(punkt_);
     reihe->addWidget(neuerWert(6, &AllgemeineSeite::Status));
-    statusName_ = neuerWert(7, &AllgemeineSeite::StatusName);
+    statusName_ = new Statustext;
+    statusName_->setObjectName(name(7));
     reihe->addWidget(statusName_);
     reihe->addStretch(1);
     gitter.addWidget(neuerKopf(5, QStringLiteral("Status")), zeile, 0);
@@ -134,6 +137,7 @@ void Allgemeinansicht::baueVerwendung(QGridLayout& gitter, int zeile)
 {
     const auto kopf = [this](int index, std::string AllgemeineSeite::*feld) {
         auto* label = neuerWert(index, feld);
+        label->setContentsMargins({});
         setzeRolle(*label, Rolle::Beschriftung);
         return label;
     };
@@ -149,9 +153,8 @@ void Allgemeinansicht::zeigen(const AllgemeineSeite& seite)
         wert.label->setText(zuQt(seite.*wert.feld));
     punkt_->setVisible(!seite.leer);
     punkt_->setzeFarbe(seite.statusfarbe);
-    QPalette farben = statusName_->palette();
-    farben.setColor(QPalette::WindowText, statusText(seite.statusfarbe));
-    statusName_->setPalette(farben);
+    statusName_->setText(zuQt(seite.StatusName));
+    statusName_->setzeFarbe(seite.statusfarbe);
 }
 
 } // namespace quelvarn

@@ -10,6 +10,7 @@ class QLabel;
 namespace quelvarn {
 
 class Statuspunkt;
+class Statustext;
 struct AllgemeineSeite;
 
 // The general page (FrmInfoDoku 1): captions and values of the document. Its labels are the array LblInfo.
@@ -39,7 +40,7 @@ private:
 
     std::vector<Wert> werte_;
     Statuspunkt* punkt_;
-    QLabel* statusName_;
+    Statustext* statusName_;
     QWidget* inhalt_;
 };
 

@@ -65,6 +65,7 @@ QWidget* Infobereich::neuerKopf()
     auto* kopf = new Streifen(Streifen::Art::Kopfzeile, "KopfInfo");
     kopf_->setObjectName(QStringLiteral("LblInfo(0)"));
     setzeRolle(*kopf_, Rolle::Kopf);
+    kopf->setMinimumHeight(30); // As high as the tabs beside it.
     kopf->reihe().setContentsMargins(4, 0, 12, 0);
     kopf->reihe().addWidget(kopf_, 1);
     kopf->reihe().addWidget(LblNichtVorhanden_);

@@ -2,8 +2,8 @@
 
 #include "register/document_page.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/status_marks.h"
 #include "ui/text.h"
-#include "ui/theme/colours.h"
 
 #include <QHBoxLayout>
 
@@ -11,10 +11,11 @@ namespace quelvarn {
 
 StatusBarDatei::StatusBarDatei()
     : Streifen(Art::Statuszeile, "StatusBarDatei"), dateiname_(new KurzLabel),
-      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)),
-      LblKopfStatus_(beschriftung({}, Rolle::Kopf, QStringLiteral("LblKopfStatus")))
+      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)), LblKopfStatus_(new Statustext)
 {
     dateiname_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
+    LblKopfStatus_->setObjectName(QStringLiteral("LblKopfStatus"));
+    setzeRolle(*LblKopfStatus_, Rolle::Kopf);
     pfadname_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
     reihe().addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDatei(1)")));
     reihe().addWidget(dateiname_);
@@ -29,9 +30,7 @@ void StatusBarDatei::zeigen(const DocumentPage& modell)
     dateiname_->setText(zuQt(modell.dateinamePanel()));
     pfadname_->setText(zuQt(modell.ordnerPanel()));
     LblKopfStatus_->setText(zuQt(modell.statuskopf().text));
-    QPalette farben = LblKopfStatus_->palette();
-    farben.setColor(QPalette::WindowText, statusText(modell.statuskopf().farbe));
-    LblKopfStatus_->setPalette(farben);
+    LblKopfStatus_->setzeFarbe(modell.statuskopf().farbe);
 }
 
 } // namespace quelvarn

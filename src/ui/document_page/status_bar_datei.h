@@ -6,6 +6,7 @@ namespace quelvarn {
 
 class DocumentPage;
 class KurzLabel;
+class Statustext;
 
 // File name, folder and status of the document shown. The panels are named "StatusBarDatei(1)" and so on.
 class StatusBarDatei : public Streifen
@@ -20,7 +21,7 @@ public:
 private:
     KurzLabel* dateiname_;
     KurzLabel* pfadname_;
-    QLabel* LblKopfStatus_;
+    Statustext* LblKopfStatus_;
 };
 
 } // namespace quelvarn

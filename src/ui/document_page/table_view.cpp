@@ -34,7 +34,7 @@ Tabellenansicht::Tabellenansicht(DocumentPage& modell, int tab)
     teiler->addWidget(baum_);
     teiler->setStretchFactor(0, 5);
     teiler->setStretchFactor(1, 3);
-    teiler->setSizes({300, 170});
+    teiler->setSizes({285, 190});
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins({});
     aufbau->addWidget(teiler);

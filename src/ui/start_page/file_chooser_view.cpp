@@ -1,7 +1,6 @@
 #include "ui/start_page/file_chooser_view.h"
 
 #include "session/start_page.h"
-#include "ui/controls/strip.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 #include "ui/theme/icons.h"
@@ -9,7 +8,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -63,16 +61,13 @@ Dateiwaehler::Dateiwaehler(StartPage& modell)
     auto* aufbau = new QGridLayout(this);
     aufbau->setContentsMargins({});
     aufbau->setVerticalSpacing(6);
-    aufbau->addWidget(beschriftung(QStringLiteral("Laufwerk, Ordner und Datei wählen, dann <Öffnen>"),
-                                   Rolle::Beschriftung, QStringLiteral("LblAuswahlDB")),
-                      0, 0, 1, 2);
-    aufbau->addWidget(DriveDB_, 1, 0);
-    aufbau->addWidget(TbUpDB_, 1, 1);
-    aufbau->addWidget(DirDB_, 2, 0, 1, 2);
-    aufbau->addWidget(FileDB_, 3, 0, 1, 2);
+    aufbau->addWidget(DriveDB_, 0, 0);
+    aufbau->addWidget(TbUpDB_, 0, 1);
+    aufbau->addWidget(DirDB_, 1, 0, 1, 2);
+    aufbau->addWidget(FileDB_, 2, 0, 1, 2);
     aufbau->setColumnStretch(0, 1);
-    aufbau->setRowStretch(2, 3);
-    aufbau->setRowStretch(3, 2);
+    aufbau->setRowStretch(1, 3);
+    aufbau->setRowStretch(2, 2);
     setFocusProxy(FileDB_);
     verbinde();
 }

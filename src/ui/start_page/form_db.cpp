@@ -43,7 +43,10 @@ QWidget* FormDB::neueKopfzeile()
     auto* zeile = new Streifen(Streifen::Art::Kopfzeile, "KopfDB");
     LabelDB_->setObjectName(QStringLiteral("LabelDB"));
     setzeRolle(*LabelDB_, Rolle::Titel);
+    zeile->reihe().setContentsMargins(4, 0, 16, 0);
     zeile->reihe().addWidget(LabelDB_, 1);
+    zeile->reihe().addWidget(beschriftung(QStringLiteral("Laufwerk, Ordner und Datei wählen, dann <Öffnen>"),
+                                          Rolle::Klein, QStringLiteral("LblAuswahlDB")));
     return zeile;
 }
 

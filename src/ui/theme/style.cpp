@@ -3,6 +3,7 @@
 #include "ui/theme/colours.h"
 #include "ui/theme/icons.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -23,6 +24,7 @@ int Programmstil::pixelMetric(PixelMetric mass, const QStyleOption* option, cons
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
         return 8;
+    case PM_FocusFrameHMargin: // Left and right of the text of an entry
     case PM_SplitterWidth:
         return 5;
     case PM_ToolBarIconSize:
@@ -101,18 +103,59 @@ void zeichneMarke(QPainter& painter, const QRectF& platz, const QStyleOption& op
 
 } // namespace
 
+namespace {
+
+void zeichneMarkierbares(QPainter& painter, const QStyleOption& option, bool rund)
+{
+    const int seite = std::min(option.rect.width(), option.rect.height()) - 1;
+    QRectF platz(0, 0, seite, seite);
+    platz.moveCenter(QRectF(option.rect).center());
+    zeichneRahmen(painter, platz, option, rund);
+    zeichneMarke(painter, platz, option, rund);
+}
+
+void zeichneKnopf(QPainter& painter, const QStyleOption& option)
+{
+    const Farbsatz& farben = farbsatz();
+    const auto ist = [&option](QStyle::StateFlag zustand) { return option.state.testFlag(zustand); };
+    const auto* knopf = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool vorgabe = knopf != nullptr && knopf->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool gedrueckt = ist(QStyle::State_Sunken) || ist(QStyle::State_On);
+    const bool hervor = gedrueckt || vorgabe || ist(QStyle::State_HasFocus);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(!ist(QStyle::State_Enabled) ? farben.linie : hervor ? farben.akzent : farben.rand);
+    painter.setBrush(gedrueckt                                                    ? farben.akzentFlaeche
+                     : ist(QStyle::State_MouseOver) && ist(QStyle::State_Enabled) ? farben.ueberfahren
+                                                                                  : farben.streifen);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+}
+
+} // namespace
+
+void zeichneFokusmarke(QPainter& painter, const QRect& eintrag)
+{
+    painter.fillRect(QRect(0, eintrag.top(), 3, eintrag.height()), farbsatz().akzent);
+}
+
 void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const
 {
-    if (teil != PE_IndicatorCheckBox && teil != PE_IndicatorRadioButton)
-        return QProxyStyle::drawPrimitive(teil, option, painter, widget);
-    const bool rund = teil == PE_IndicatorRadioButton;
-    const int seite = std::min(option->rect.width(), option->rect.height()) - 1;
-    QRectF platz(0, 0, seite, seite);
-    platz.moveCenter(QRectF(option->rect).center());
     painter->save();
-    zeichneRahmen(*painter, platz, *option, rund);
-    zeichneMarke(*painter, platz, *option, rund);
+    switch (teil) {
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorRadioButton:
+        zeichneMarkierbares(*painter, *option, teil == PE_IndicatorRadioButton);
+        break;
+    case PE_PanelButtonCommand:
+        zeichneKnopf(*painter, *option);
+        break;
+    case PE_FrameFocusRect:
+        if (qobject_cast<const QAbstractItemView*>(widget) != nullptr)
+            zeichneFokusmarke(*painter, option->rect);
+        break; // Other controls show the focus in their outline.
+    default:
+        QProxyStyle::drawPrimitive(teil, option, painter, widget);
+    }
     painter->restore();
 }
 

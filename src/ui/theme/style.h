@@ -20,4 +20,7 @@ public:
     QIcon standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const override;
 };
 
+// The bar at the left of the entry that the keyboard moves.
+void zeichneFokusmarke(QPainter& painter, const QRect& eintrag);
+
 } // namespace quelvarn

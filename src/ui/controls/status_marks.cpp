@@ -1,4 +1,4 @@
-#include "ui/controls/status_dot.h"
+#include "ui/controls/status_marks.h"
 
 #include "ui/theme/colours.h"
 
@@ -19,6 +19,19 @@ void Statuspunkt::paintEvent(QPaintEvent* /*ereignis*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(statusPunkt(rgb_));
     painter.drawEllipse(QRectF(1, (height() - 8) / 2.0, 8, 8));
+}
+
+void Statustext::setzeFarbe(unsigned rgb)
+{
+    rgb_ = rgb;
+    update();
+}
+
+void Statustext::paintEvent(QPaintEvent* /*ereignis*/)
+{
+    QPainter painter(this);
+    painter.setPen(statusText(rgb_));
+    painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
 }
 
 } // namespace quelvarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
 namespace quelvarn {
 
@@ -14,6 +14,23 @@ public:
 
     void setzeFarbe(unsigned rgb);
     QSize sizeHint() const override { return {10, 10}; }
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    unsigned rgb_ = 0;
+};
+
+// A text in the colour of a document's status, as readable as the appearance of the moment needs it.
+class Statustext : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+    void setzeFarbe(unsigned rgb);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
