@@ -58,6 +58,13 @@ void Verlaufsanzeige::melde(std::string_view was, std::uint64_t erledigt, std::u
     zeige(was, erledigt, gesamt);
 }
 
+void Verlaufsanzeige::schritt(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
+{
+    pruefeAbbruch();
+    if (konsole_.terminal)
+        zeige(was, erledigt, gesamt);
+}
+
 void Verlaufsanzeige::zeige(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
 {
     etwasZuSehen_ = true;

@@ -36,6 +36,8 @@ public:
 
     // Cheap enough to be called for each row. Throws when the work is to be given up.
     void melde(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt = 0);
+    // For a step that takes long by itself: shown at once.
+    void schritt(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt);
 
 private:
     void zeige(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt);

@@ -134,8 +134,7 @@ void NeuesRegister::schliesseAb()
 {
     beendeTabelle();
     for (std::size_t i = 0; i < tabellen_.size(); ++i) {
-        anzeige_.melde("Indexe der Tabelle", i + 1, tabellen_.size());
-        pruefeAbbruch();
+        anzeige_.schritt("Indexe der Tabelle", i + 1, tabellen_.size());
         engine().legeIndexeAn(tabellen_[i]);
     }
     engine().schliesseAb();

@@ -60,6 +60,45 @@ TEST_P(Befehle, CreatesARegisterThatNeedsNoRepair)
     EXPECT_EQ(zeilen(ziel_, "Select Feld5 From Ini Where Feld2 = 'Plot' And Feld3 = 'Printer'").size(), 11U);
 }
 
+TEST_P(Befehle, KeepsTheOldRegisterWhenReplacingItFails)
+{
+    const auto probe = std::filesystem::path(QUELVARN_SHARED) / "samples/werk-a.mdb";
+    if (!std::filesystem::exists(probe))
+        GTEST_SKIP() << "the sample file is not here: " << probe;
+    ASSERT_EQ(rufe({"sample", ziel_, "--documents", "100"}).ergebnis, tools::GUT);
+    const std::string vorher = rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus;
+    const auto abgeschnitten = ordner_ / "quelle.mdb";
+    std::filesystem::copy_file(probe, abgeschnitten);
+    std::filesystem::resize_file(abgeschnitten, 1930 * 4096); // Only pages of the last tables are missing.
+    EXPECT_EQ(rufe({"import", pfad(abgeschnitten), ziel_, "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
+    EXPECT_EQ(rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus, vorher);
+    EXPECT_EQ(rufe({"check", ziel_}).ergebnis, tools::GUT);
+}
+
+TEST_P(Befehle, TakesASmallFileWithAnAddressForTheDatabaseItself)
+{
+    if (!istPostgres())
+        return;
+    const std::string datei = pfad(ordner_ / "register.mdb");
+    std::ofstream(datei) << ziel_ << "\n";
+    ASSERT_EQ(rufe({"create", datei}).ergebnis, tools::GUT);
+    EXPECT_EQ(rufe({"query", datei, "Select Count(*) From Ini"}).aus,
+              rufe({"query", ziel_, "Select Count(*) From Ini"}).aus);
+}
+
+TEST(Verlauf, IsShownToAPersonOnly)
+{
+    for (const bool terminal : {false, true}) {
+        TempFolder ordner;
+        std::ostringstream aus;
+        std::ostringstream meldungen;
+        tools::Konsole konsole{aus, meldungen, terminal};
+        const std::vector<std::string> worte{"create", pfad(ordner / "register.qv")};
+        ASSERT_EQ(tools::fuehreAus(worte, konsole), tools::GUT);
+        EXPECT_EQ(meldungen.str().empty(), !terminal) << meldungen.str();
+    }
+}
+
 TEST_P(Befehle, PrintsRowsForPeopleAndForPrograms)
 {
     ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
