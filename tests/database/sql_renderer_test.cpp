@@ -144,7 +144,7 @@ TEST(SqlRenderer, LeavesTheOrderOfADistinctToTheCallerOnlyWhereItMust)
     EXPECT_EQ(sqlite.text, "SELECT DISTINCT \"DokuBez\" FROM \"PartTabelle\" ORDER BY \"DokuBez\" LIMIT 1");
     const Gerendert postgres = gerendert(postgresDialekt(), sql, 1);
     EXPECT_FALSE(postgres.sortiertSelbst);
-    EXPECT_EQ(postgres.text, "SELECT DISTINCT \"DokuBez\" FROM \"PartTabelle\"");
+    EXPECT_EQ(postgres.text, "SELECT \"DokuBez\" FROM \"PartTabelle\" GROUP BY \"DokuBez\" ORDER BY MIN(qv_id)");
     EXPECT_TRUE(gerendert(postgresDialekt(), "SELECT DISTINCT DokuBez FROM PartTabelle").sortiertSelbst);
 }
 

@@ -1,8 +1,10 @@
 #include "base/collation.h"
 #include "base/text.h"
 #include "base/utf8.h"
+#include "database/schema.h"
 #include "database/sql/renderer.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace quelvarn::sql {
@@ -46,6 +48,19 @@ protected:
     }
 
     bool sortiertDistinct() const override { return true; }
+
+    // Without a condition the table is read in the order of storage, unless an index that begins with the column
+    // serves instead.
+    bool gruppiertDistinct(const Select& anweisung) const override
+    {
+        if (anweisung.spalten.size() != 1 || anweisung.where || !anweisung.orderBy.empty())
+            return false;
+        const Tabellenschema* tabelle = findTabelle(anweisung.tabelle);
+        return tabelle && std::ranges::any_of(tabelle->indexe, [&](const auto& index) {
+                   return equalText(index.front().name, anweisung.spalten.front());
+               });
+    }
+
     std::string_view niemals() const override { return "NULL"; }
 };
 
@@ -148,6 +163,7 @@ protected:
     }
 
     bool sortiertDistinct() const override { return false; }
+    bool gruppiertDistinct(const Select&) const override { return true; }
     std::string_view niemals() const override { return "NULL::boolean"; }
 };
 

@@ -204,17 +204,21 @@ Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle
 {
     assert(schluessel == MitSchluessel::Nein || !(anweisung.distinct || anweisung.anzahl));
     Schreiber schreiber(*this, tabelle);
+    const bool gruppiert = anweisung.distinct && gruppiertDistinct(anweisung);
     std::string text = "SELECT ";
+    std::string auswahl;
     if (anweisung.anzahl) {
         schreiber.ergebnis().spalten = {{"Anzahl", FeldTyp::Ganzzahl}};
         text += "COUNT(*)";
     } else {
-        text += anweisung.distinct ? "DISTINCT " : "";
+        auswahl = schreiber.auswahl(anweisung.spalten);
+        text += anweisung.distinct && !gruppiert ? "DISTINCT " : "";
         text += schluessel == MitSchluessel::Ja ? std::string(schluesselspalte()) + ", " : "";
-        text += schreiber.auswahl(anweisung.spalten);
+        text += auswahl;
         pruefeSortierung(anweisung, schreiber.ergebnis().spalten);
     }
     text += " FROM " + schreiber.tabelle() + schreiber.where(anweisung.where);
+    text += gruppiert ? fmt::format(" GROUP BY {} ORDER BY MIN({})", auswahl, schluesselspalte()) : "";
     const bool hier = !anweisung.distinct || sortiertDistinct();
     schreiber.ergebnis().sortiertSelbst = hier || (anweisung.orderBy.empty() && grenze == 0);
     if (hier) {

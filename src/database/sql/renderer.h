@@ -72,6 +72,9 @@ protected:
     virtual Value datumswert(Zeitpunkt zeit) const = 0;
     virtual std::string sortiert(const std::string& ausdruck, bool absteigend) const = 0; // Null before everything.
     virtual bool sortiertDistinct() const = 0;
+    // Of texts that are equal to the program, a DISTINCT shows the one that was stored first. True where DISTINCT
+    // would meet the rows in another order than that; the rows are grouped then.
+    virtual bool gruppiertDistinct(const Select& anweisung) const = 0;
     virtual std::string_view niemals() const = 0; // A condition that is Null.
 
 private:
