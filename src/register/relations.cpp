@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace quelvarn {
@@ -91,7 +92,7 @@ std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::s
 
 std::string vorhandene(const Dateien& dateien, std::string pfad)
 {
-    return dateien.dateiVorhanden(pfad) ? pfad : std::string();
+    return dateien.dateiVorhanden(pfad) ? std::move(pfad) : std::string();
 }
 
 } // namespace
