@@ -1,6 +1,9 @@
 #include "bench/database_measures.h"
 #include "bench/register_data.h"
 #include "bench/report.h"
+#ifdef QUELVARN_BENCH_UI
+#include "bench/program/program_run.h"
+#endif
 
 #include <algorithm>
 #include <exception>
@@ -12,35 +15,62 @@ using namespace quelvarn::bench;
 
 namespace {
 
+constexpr const char* AUFRUF = "quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]\n"
+                               "               [--without-program] [--without-qt-peer] [--qt-peer-runs N]";
+
 struct Auftrag
 {
     std::size_t dokumente = 1'000'000;
     int laeufe = 7;
+    int qtLaeufe = 2; // 0 leaves the peer out.
+    bool programm = true;
     std::filesystem::path json;
     std::filesystem::path datenbank;
 };
 
+void nimmWert(Auftrag& auftrag, const std::string& name, const std::string& wert)
+{
+    if (name == "--documents")
+        auftrag.dokumente = std::stoull(wert);
+    else if (name == "--runs")
+        auftrag.laeufe = std::max(std::stoi(wert), 1);
+    else if (name == "--qt-peer-runs")
+        auftrag.qtLaeufe = std::max(std::stoi(wert), 1);
+    else if (name == "--json")
+        auftrag.json = wert;
+    else if (name == "--database")
+        auftrag.datenbank = wert;
+    else
+        throw std::invalid_argument(AUFRUF);
+}
+
 Auftrag leseAuftrag(int anzahl, char** argumente)
 {
     Auftrag auftrag;
-    for (int i = 1; i < anzahl; i += 2) {
+    for (int i = 1; i < anzahl; ++i) {
         const std::string name = argumente[i];
-        const std::string wert = i + 1 < anzahl ? argumente[i + 1] : "";
-        if (name == "--documents" && !wert.empty())
-            auftrag.dokumente = std::stoull(wert);
-        else if (name == "--runs" && !wert.empty())
-            auftrag.laeufe = std::max(std::stoi(wert), 1);
-        else if (name == "--json" && !wert.empty())
-            auftrag.json = wert;
-        else if (name == "--database" && !wert.empty())
-            auftrag.datenbank = wert;
+        if (name == "--without-program")
+            auftrag.programm = false;
+        else if (name == "--without-qt-peer")
+            auftrag.qtLaeufe = 0;
+        else if (i + 1 < anzahl)
+            nimmWert(auftrag, name, argumente[++i]);
         else
-            throw std::invalid_argument("quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]");
+            throw std::invalid_argument(AUFRUF);
     }
     if (auftrag.datenbank.empty())
         auftrag.datenbank =
             std::filesystem::temp_directory_path() / fmt::format("quelvarn-bench-{}.qv", auftrag.dokumente);
     return auftrag;
+}
+
+void messe(Messreihe& reihe, const Auftrag& auftrag)
+{
+    messeDatenbank(reihe, auftrag.datenbank);
+#ifdef QUELVARN_BENCH_UI
+    if (auftrag.programm)
+        messeFenster(reihe, auftrag.datenbank, auftrag.qtLaeufe);
+#endif
 }
 
 } // namespace
@@ -52,7 +82,7 @@ int main(int anzahl, char** argumente)
         const Auftrag auftrag = leseAuftrag(anzahl, argumente);
         legeRegisterBereit(auftrag.datenbank, auftrag.dokumente);
         Messreihe reihe(auftrag.laeufe);
-        messeDatenbank(reihe, auftrag.datenbank);
+        messe(reihe, auftrag);
         zeigeTabelle(reihe.messungen());
         if (!auftrag.json.empty())
             schreibeJson(auftrag.json, reihe.messungen());

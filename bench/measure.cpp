@@ -24,17 +24,23 @@ double median(std::vector<double> zeiten)
 
 } // namespace
 
-void Messreihe::vergleiche(std::string name, double grenze, const Arbeit& unsere, std::string peer,
+void Messreihe::vergleiche(std::string name, std::optional<double> grenze, const Arbeit& unsere, std::string peer,
                            const Arbeit& andere)
 {
     // One run of each beforehand, so that both find the file in the memory of the system.
-    dauer(andere);
-    dauer(unsere);
+    if (!andere.laeufe)
+        dauer(andere);
+    if (!unsere.laeufe)
+        dauer(unsere);
     std::vector<double> unsereZeiten;
     std::vector<double> andereZeiten;
-    for (int lauf = 0; lauf < laeufe_; ++lauf) {
-        unsereZeiten.push_back(dauer(unsere));
-        andereZeiten.push_back(dauer(andere));
+    const int unsereLaeufe = unsere.laeufe.value_or(laeufe_);
+    const int andereLaeufe = andere.laeufe.value_or(laeufe_);
+    for (int lauf = 0; lauf < std::max(unsereLaeufe, andereLaeufe); ++lauf) {
+        if (lauf < unsereLaeufe)
+            unsereZeiten.push_back(dauer(unsere));
+        if (lauf < andereLaeufe)
+            andereZeiten.push_back(dauer(andere));
     }
     const double hier = median(unsereZeiten);
     const double dort = median(andereZeiten);
@@ -44,7 +50,7 @@ void Messreihe::vergleiche(std::string name, double grenze, const Arbeit& unsere
 void Messreihe::begrenze(std::string name, double grenzeMs, const Arbeit& unsere)
 {
     std::vector<double> zeiten;
-    for (int lauf = 0; lauf < laeufe_; ++lauf)
+    for (int lauf = 0; lauf < unsere.laeufe.value_or(laeufe_); ++lauf)
         zeiten.push_back(dauer(unsere));
     const double hier = median(zeiten);
     messungen_.push_back({std::move(name), "ms", hier, {}, {}, hier / grenzeMs, grenzeMs});
@@ -53,6 +59,13 @@ void Messreihe::begrenze(std::string name, double grenzeMs, const Arbeit& unsere
 void Messreihe::begrenzeGroesse(std::string name, std::string einheit, double grenze, double wert)
 {
     messungen_.push_back({std::move(name), std::move(einheit), wert, {}, {}, wert / grenze, grenze});
+}
+
+void Messreihe::vergleicheGroesse(std::string name, std::string einheit, double wert, std::string peer,
+                                  double andererWert)
+{
+    messungen_.push_back(
+        {std::move(name), std::move(einheit), wert, std::move(peer), andererWert, wert / andererWert, {}});
 }
 
 } // namespace quelvarn::bench

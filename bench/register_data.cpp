@@ -1,94 +1,144 @@
 #include "bench/register_data.h"
 
+#include "bench/sample_document.h"
 #include "database/connection.h"
 #include "database/create.h"
 #include "database/recordset.h"
-#include "database/schema.h"
 
+#include <algorithm>
 #include <fmt/format.h>
-#include <random>
+#include <functional>
+#include <numeric>
 #include <vector>
 
 namespace quelvarn::bench {
 
 namespace {
 
-using Worte = std::vector<std::string>;
+constexpr std::size_t PART = 0;
+constexpr std::size_t ASSEMB = 2;
+constexpr std::size_t DRAFT = 3;
+constexpr std::size_t DOKUMENTE_SONST = 2'000; // In each of the seven other tables.
 
-const Worte TEILE{"Welle",   "Achse",    "Flansch", "Gehäuse",  "Deckel",  "Bolzen",  "Hebel",   "Träger", "Platte",
-                  "Lager",   "Zahnrad",  "Ritzel",  "Kupplung", "Führung", "Stütze",  "Halter",  "Buchse", "Ring",
-                  "Scheibe", "Schraube", "Bügel",   "Konsole",  "Rahmen",  "Schiene", "Antrieb", "Rolle",  "Förderer"};
-const Worte ZUSAETZE{"links", "rechts", "oben", "unten", "kurz", "lang", "geschweißt", "gefräst", "verzinkt", "roh"};
-const Worte MATERIAL{"S235JR", "S355J2", "C45", "42CrMo4", "1.4301", "1.4571", "AlMgSi1", "EN-GJL-250", "POM", "PA6 G"};
-const Worte NAMEN{"Meier",   "Müller", "Schulze", "Krüger", "Jäger", "Weiß",
-                  "Lehmann", "Böhm",   "Vogt",    "Sommer", "Franke"};
-const Worte FIRMEN{"Fördertechnik Nord GmbH", "Getriebebau Köhler", "Werk A", "Werk B", "Stahlbau Süd"};
-const Worte KATEGORIEN{"Fertigungsteil", "Kaufteil", "Normteil", "Rohteil", "QV_Vorlage"};
+using Zellenquelle = std::function<Value(std::size_t zeile, const Spalte& spalte)>;
 
-// The row of one document. Two neighbouring documents are revisions of one another.
-class Dokument
+void schreibe(Engine& engine, const Tabellenschema& tabelle, std::size_t zeilen, const Zellenquelle& zelle)
+{
+    engine.legeTabelleAn(tabelle);
+    const auto schreiber = engine.massenschreiber(tabelle.name, tabelle.spalten);
+    std::vector<Value> werte(tabelle.spalten.size());
+    for (std::size_t zeile = 0; zeile < zeilen; ++zeile) {
+        for (std::size_t spalte = 0; spalte < werte.size(); ++spalte)
+            werte[spalte] = zelle(zeile, tabelle.spalten[spalte]);
+        schreiber->zeile(werte);
+    }
+    schreiber->beende();
+    engine.legeIndexeAn(tabelle);
+}
+
+// What stands in a table that relates a document to a part, by the name of the column.
+Value beziehung(const Musterdokument& dokument, const Musterdokument& teil, const std::string& spalte)
+{
+    if (spalte == "DokuBez" || spalte.ends_with("DokuBez") || spalte.starts_with("DokuBez"))
+        return dokument.bezeichnung();
+    if (spalte.ends_with("RevBez") || spalte.starts_with("RevBez"))
+        return dokument.revision();
+    if (spalte == "Part" || spalte == "PfadAssembPart" || spalte == "Dokufilename")
+        return teil.pfad();
+    if (spalte == "DateinameAssembPart")
+        return teil.dateiname();
+    if (spalte.find("filename") != std::string::npos)
+        return dokument.pfad();
+    return dokument.dateiname();
+}
+
+Value eigenschaft(const Musterdokument& teil, std::size_t zeile, const Spalte& spalte)
+{
+    if (spalte.typ != FeldTyp::Text)
+        return std::int64_t{3};
+    if (spalte.name == "DokuBez")
+        return teil.bezeichnung();
+    if (spalte.name == "RevBez")
+        return teil.revision();
+    return fmt::format("{} {}", spalte.name, zeile % 50);
+}
+
+class Registerbau
 {
 public:
-    Dokument(std::size_t nummer, std::mt19937& quelle) : nummer_(nummer), quelle_(quelle) {}
+    Registerbau(Engine& engine, std::size_t dokumente) : engine_(engine), dokumente_(dokumente) {}
 
-    Value wert(const Spalte& spalte)
+    // The settings come last: where they are the register is whole.
+    void baue()
     {
-        switch (spalte.typ) {
-        case FeldTyp::Ganzzahl:
-            return static_cast<std::int64_t>(unter(6));
-        case FeldTyp::Gleitkomma:
-            return unter(3) == 0 ? Value{} : Value{static_cast<double>(unter(20000)) / 4};
-        case FeldTyp::Datum:
-            return Zeitpunkt::aus({2004, 1, 1}).plusSekunden(static_cast<std::int64_t>(unter(600'000'000)));
-        case FeldTyp::Text:
-            break;
-        }
-        return text(spalte.name);
+        for (const DokuTyp& typ : DOKUTYPEN)
+            dokumente(typ, typ.tab == PART ? dokumente_ : DOKUMENTE_SONST);
+        eigenschaften();
+        beziehungen("ZusBauPart", ASSEMB, 4);
+        beziehungen("VerbindungDraftPart", DRAFT, 5);
+        beziehungen("VerbindungPartZusDoku", DRAFT, 10);
+        for (const Tabellenschema& tabelle : registerschema())
+            if (!engine_.findTabelle(tabelle.name) && tabelle.name != "Ini")
+                schreibe(engine_, tabelle, 0, {});
+        einstellungen();
     }
 
 private:
-    std::size_t unter(std::size_t grenze) { return quelle_() % grenze; }
-    const std::string& aus(const Worte& worte) { return worte[unter(worte.size())]; }
-    std::string bezeichnung() const
+    // Rows lie in the file in another order than that of their names, as scanning leaves them.
+    static std::size_t nummer(std::size_t zeile, std::size_t anzahl)
     {
-        const std::size_t haupt = nummer_ / 2;
-        return fmt::format("{:03}-{:06}-{}", 100 + haupt * 7919 % 800, haupt, TEILE[haupt % TEILE.size()].front());
-    }
-    std::string revision() const { return std::string(1, nummer_ % 2 ? 'B' : 'A'); }
-    std::string dateiname() const { return bezeichnung() + "_" + revision() + ".par"; }
-
-    Value text(const std::string& spalte)
-    {
-        if (spalte == "DokuBez")
-            return bezeichnung();
-        if (spalte == "RevBez")
-            return revision();
-        if (spalte == "Dateiname")
-            return dateiname();
-        if (spalte == "filename")
-            return fmt::format("W:\\Konstruktion\\Projekt {:04}\\Bauteile\\{}", nummer_ / 250, dateiname());
-        if (spalte == "Projekt")
-            return fmt::format("P{:04}", nummer_ / 250);
-        if (spalte == "Material")
-            return aus(MATERIAL);
-        if (spalte == "Autor" || spalte == "Bearbeiter" || spalte == "Manager")
-            return aus(NAMEN);
-        if (spalte == "Firma")
-            return aus(FIRMEN);
-        if (spalte == "Kategorie")
-            return aus(KATEGORIEN);
-        if (spalte == "Vorlage")
-            return fmt::format("Vorlage_{}.par", unter(12));
-        if (spalte == "Aenderung" || spalte == "Kommentar" || spalte == "Stichwoerter")
-            return unter(3) == 0 ? Value{} : Value{fmt::format("{} {} {}", aus(TEILE), aus(ZUSAETZE), unter(40))};
-        if (spalte.starts_with("Hauptmerkmal") || spalte.starts_with("Alias"))
-            return unter(2) == 0 ? Value{std::string()} : Value{fmt::format("{} {}", aus(TEILE), unter(9))};
-        return fmt::format("{} {} {}", aus(TEILE), aus(ZUSAETZE), unter(12));
+        std::size_t sprung = 7'368'787;
+        while (std::gcd(sprung, anzahl) != 1)
+            ++sprung;
+        return zeile * sprung % anzahl;
     }
 
-    std::size_t nummer_;
-    std::mt19937& quelle_;
+    void dokumente(const DokuTyp& typ, std::size_t anzahl)
+    {
+        schreibe(engine_, *findTabelle(typ.tabelle), anzahl, [&](std::size_t zeile, const Spalte& spalte) {
+            return Musterdokument(typ, nummer(zeile, anzahl)).wert(spalte, quelle_);
+        });
+    }
+
+    // Two of them for every fourth part.
+    void eigenschaften()
+    {
+        schreibe(engine_, *findTabelle(DOKUTYPEN[PART].tabelleBenutzDef), dokumente_ / 2,
+                 [](std::size_t zeile, const Spalte& spalte) {
+                     return eigenschaft(Musterdokument(DOKUTYPEN[PART], zeile / 2 * 4), zeile, spalte);
+                 });
+    }
+
+    // A document of this type for every n-th part.
+    void beziehungen(std::string_view tabelle, std::size_t typ, std::size_t jedes)
+    {
+        schreibe(engine_, *findTabelle(tabelle), dokumente_ / jedes, [&](std::size_t zeile, const Spalte& spalte) {
+            return beziehung(Musterdokument(DOKUTYPEN[typ], zeile % DOKUMENTE_SONST),
+                             Musterdokument(DOKUTYPEN[PART], zeile * jedes), spalte.name);
+        });
+    }
+
+    void einstellungen()
+    {
+        schreibe(engine_, *findTabelle("Ini"), ANZAHL_STATUS, [](std::size_t zeile, const Spalte& spalte) -> Value {
+            const std::string werte[]{std::string(ANWENDER), "Berechtigung", fmt::format("{}_Status", zeile), "1", "0"};
+            return werte[spalte.name.back() - '1'];
+        });
+    }
+
+    Engine& engine_;
+    std::size_t dokumente_;
+    std::mt19937 quelle_{1};
 };
+
+std::int64_t zaehle(Connection& verbindung, std::string_view tabelle)
+{
+    if (!verbindung.engine().findTabelle(tabelle))
+        return 0;
+    Recordset anzahl;
+    anzahl.Open(fmt::format("SELECT Count(*) FROM {}", tabelle), verbindung);
+    return alsGanzzahl(anzahl.Zelle(0, anzahl.Felder().front().name));
+}
 
 bool istBereit(const std::filesystem::path& datei, std::size_t dokumente)
 {
@@ -96,9 +146,8 @@ bool istBereit(const std::filesystem::path& datei, std::size_t dokumente)
         return false;
     Connection verbindung;
     verbindung.Open(datei);
-    Recordset anzahl;
-    anzahl.Open("SELECT Count(*) FROM PartTabelle", verbindung);
-    return alsGanzzahl(anzahl.Zelle(0, anzahl.Felder().front().name)) == static_cast<std::int64_t>(dokumente);
+    return zaehle(verbindung, DOKUTYPEN[PART].tabelle) == static_cast<std::int64_t>(dokumente) &&
+           zaehle(verbindung, "Ini") > 0;
 }
 
 } // namespace
@@ -110,21 +159,7 @@ void legeRegisterBereit(const std::filesystem::path& datei, std::size_t dokument
     fmt::print("making a register of {} documents in {}\n", dokumente, datei.string());
     std::filesystem::remove(datei);
     const auto engine = oeffneSqlite(datei, true);
-    const Tabellenschema& tabelle = *findTabelle("PartTabelle");
-    engine->legeTabelleAn(tabelle);
-    const auto schreiber = engine->massenschreiber(tabelle.name, tabelle.spalten);
-    std::mt19937 quelle(1);
-    std::vector<Value> werte(tabelle.spalten.size());
-    // Rows lie in the file in another order than that of their names, as scanning leaves them.
-    constexpr std::size_t SPRUNG = 7'368'787;
-    for (std::size_t i = 0; i < dokumente; ++i) {
-        Dokument dokument(i * SPRUNG % dokumente, quelle);
-        for (std::size_t spalte = 0; spalte < werte.size(); ++spalte)
-            werte[spalte] = dokument.wert(tabelle.spalten[spalte]);
-        schreiber->zeile(werte);
-    }
-    schreiber->beende();
-    engine->legeIndexeAn(tabelle);
+    Registerbau(*engine, dokumente).baue();
 }
 
 } // namespace quelvarn::bench

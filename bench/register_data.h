@@ -2,11 +2,16 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <string_view>
 
 namespace quelvarn::bench {
 
-// A register with so many documents in PartTabelle, every column filled as an office would. A file that is there
-// already with the right number of documents is taken as it is.
+// Sees every document; known in the register that legeRegisterBereit makes.
+inline constexpr std::string_view ANWENDER = "Messung";
+
+// A register with so many documents in PartTabelle, every column filled as an office would, small other tables, and
+// what relates documents to one another. A file that is there already with the right number of documents is taken as
+// it is.
 void legeRegisterBereit(const std::filesystem::path& datei, std::size_t dokumente);
 
 } // namespace quelvarn::bench

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 #include <fstream>
+#include <string_view>
 
 namespace quelvarn::bench {
 
@@ -18,6 +19,14 @@ std::string text(const std::optional<std::string>& wert)
     return wert ? '"' + *wert + '"' : "null";
 }
 
+std::string_view urteil(const Messung& messung, std::string_view gehalten, std::string_view gerissen,
+                        std::string_view ohneGrenze)
+{
+    if (!messung.grenze)
+        return ohneGrenze;
+    return messung.gehalten() ? gehalten : gerissen;
+}
+
 } // namespace
 
 void zeigeTabelle(const std::vector<Messung>& messungen)
@@ -28,8 +37,8 @@ void zeigeTabelle(const std::vector<Messung>& messungen)
         fmt::print(ZEILE, messung.name, fmt::format("{:.3f} {}", messung.median, messung.einheit),
                    messung.peer.value_or("-"), messung.peerMedian ? fmt::format("{:.3f}", *messung.peerMedian) : "-",
                    fmt::format("{:.2f}", messung.verhaeltnis),
-                   fmt::format("{:g}{}", messung.grenze, messung.peer ? "x" : ""),
-                   messung.gehalten() ? "holds" : "EXCEEDED");
+                   messung.grenze ? fmt::format("{:g}{}", *messung.grenze, messung.peer ? "x" : "") : "-",
+                   urteil(messung, "holds", "EXCEEDED", ""));
 }
 
 void schreibeJson(const std::filesystem::path& datei, const std::vector<Messung>& messungen)
@@ -40,9 +49,9 @@ void schreibeJson(const std::filesystem::path& datei, const std::vector<Messung>
     for (std::size_t i = 0; i < messungen.size(); ++i) {
         const Messung& messung = messungen[i];
         ziel << fmt::format("  {{\"name\": \"{}\", \"unit\": \"{}\", \"median_ms\": {:.4f}, \"peer\": {}, "
-                            "\"peer_median_ms\": {}, \"ratio\": {:.4f}, \"bound\": {:g}, \"holds\": {}}}{}\n",
+                            "\"peer_median_ms\": {}, \"ratio\": {:.4f}, \"bound\": {}, \"holds\": {}}}{}\n",
                             messung.name, messung.einheit, messung.median, text(messung.peer), zahl(messung.peerMedian),
-                            messung.verhaeltnis, messung.grenze, messung.gehalten(),
+                            messung.verhaeltnis, zahl(messung.grenze), urteil(messung, "true", "false", "null"),
                             i + 1 < messungen.size() ? "," : "");
     }
     ziel << "]\n";

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// Opening, tabs and rows of the program itself, from the gesture to the painted window. Needs a QApplication.
+void messeProgramm(Messreihe& reihe, const std::filesystem::path& datei);
+
+} // namespace quelvarn::bench

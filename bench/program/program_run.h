@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// The measures of the windows, drawn without a screen, with so many runs of the ready-made Qt table (0: none).
+void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe);
+
+} // namespace quelvarn::bench
