@@ -7,7 +7,7 @@
 
 namespace quelvarn::bench {
 
-void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe)
+void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int /*qtLaeufe*/)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
