@@ -6,14 +6,17 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 #include <QToolTip>
 
 namespace quelvarn {
 
 namespace {
 
+// Draws a cell as the style would, but lays its text out once only: moving through rows is mostly drawing cells.
 // Marks the row that the keyboard moves, and shows the whole text in the tool tip where it had to be shortened.
 class Zellenzeichner : public QStyledItemDelegate
 {
@@ -32,7 +35,11 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& stelle) const override
     {
-        QStyledItemDelegate::paint(painter, option, stelle);
+        QStyleOptionViewItem zelle = option;
+        initStyleOption(&zelle, stelle);
+        const QStyle& stil = *zelle.widget->style();
+        stil.drawPrimitive(QStyle::PE_PanelItemViewItem, &zelle, painter, zelle.widget);
+        zeichneText(*painter, zelle, stil);
         if (stelle.column() == 0 && option.state.testFlag(QStyle::State_Selected) && option.widget->hasFocus())
             zeichneFokusmarke(*painter, option.rect);
     }
@@ -42,6 +49,34 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, stelle);
         option->state.setFlag(QStyle::State_HasFocus, false); // The whole row is marked instead.
+    }
+
+private:
+    static void zeichneText(QPainter& painter, const QStyleOptionViewItem& zelle, const QStyle& stil)
+    {
+        const int rand = stil.pixelMetric(QStyle::PM_FocusFrameHMargin, &zelle, zelle.widget) + 1;
+        const QRect platz = zelle.rect.adjusted(rand, 0, -rand, 0);
+        const bool gewaehlt = zelle.state.testFlag(QStyle::State_Selected);
+        const auto gruppe = zelle.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+        painter.setPen(zelle.palette.color(zelle.state.testFlag(QStyle::State_Enabled) ? gruppe : QPalette::Disabled,
+                                           gewaehlt ? QPalette::HighlightedText : QPalette::Text));
+        QTextLayout satz(zelle.text, zelle.font);
+        const QSizeF groesse = setze(satz);
+        if (groesse.width() > platz.width()) {
+            satz.setText(zelle.fontMetrics.elidedText(zelle.text, zelle.textElideMode, platz.width()));
+            setze(satz);
+        }
+        satz.draw(&painter, QPointF(platz.left(), platz.top() + (platz.height() - groesse.height()) / 2));
+    }
+
+    // One line, as long as it needs.
+    static QSizeF setze(QTextLayout& satz)
+    {
+        satz.setCacheEnabled(true);
+        satz.beginLayout();
+        QTextLine zeile = satz.createLine();
+        satz.endLayout();
+        return {zeile.naturalTextWidth(), zeile.height()};
     }
 };
 

@@ -195,6 +195,9 @@ void FormSEDoku::zeigeReiter()
 
 void FormSEDoku::zeigeZurueck()
 {
+    if (filterKnopf_ == modell_.filterKnopf()) // A new icon makes the whole page lay itself out again.
+        return;
+    filterKnopf_ = modell_.filterKnopf();
     QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
     knopf.setToolTip(zuQt(modell_.zurueckTooltip()));
     knopf.setIcon(symbol(modell_.filterKnopf() ? "filter-aufheben" : "anfang"));

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QTabWidget;
@@ -49,6 +50,7 @@ private:
     std::vector<Tabellenansicht*> tabellen_;
     Infobereich* info_;
     StatusBarDatei* status_;
+    std::optional<bool> filterKnopf_; // As shown.
 };
 
 } // namespace quelvarn

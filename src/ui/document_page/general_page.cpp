@@ -91,10 +91,8 @@ QLabel* Allgemeinansicht::neuerWert(int index, std::string AllgemeineSeite::*fel
     QLabel* wert = umbrechen ? new Umbruchlabel : new QLabel;
     wert->setTextFormat(Qt::PlainText);
     wert->setObjectName(name(index));
-    if (!umbrechen) {
-        wert->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (!umbrechen)
         wert->setContentsMargins(UEBERHANG, 0, 0, 0);
-    }
     werte_.push_back({wert, feld});
     return wert;
 }
