@@ -1,7 +1,7 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
-#include <type_traits>
 #include <utility>
 
 namespace quelvarn {
@@ -30,16 +30,23 @@ private:
     Waechter* vorheriger_;
 };
 
-// A slot that runs guarded, with the arguments of its signal or with none.
+// Calls a slot with the arguments of its signal, or with none when it takes none.
+template <typename Slot, typename... Argumente> void rufe(Slot& slot, const Argumente&... argumente)
+{
+    if constexpr (std::invocable<Slot&, const Argumente&...>)
+        slot(argumente...);
+    else
+        slot();
+}
+
+// The same as a slot that runs guarded.
 template <typename Slot> auto bewacht(Slot slot)
 {
-    return [slot = std::move(slot)](auto... argumente) mutable {
-        Waechter::aktuell().fuehreAus([&] {
-            if constexpr (std::is_invocable_v<Slot&, decltype(argumente)...>)
-                slot(argumente...);
-            else
-                slot();
-        });
+    return [slot = std::move(slot)](auto... argumente) mutable -> void requires(
+                                                                   std::invocable<Slot&, decltype(argumente)...> ||
+                                                                   std::invocable<Slot&>)
+    {
+        Waechter::aktuell().fuehreAus([&] { rufe(slot, argumente...); });
     };
 }
 

@@ -66,13 +66,14 @@ QPixmap bild(Symbol art, qreal dichte)
 Antwort QtMeldungen::zeige(const Meldung& meldung)
 {
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(zuQt(meldung.titel));
+    box.setWindowTitle(meldung.titel.empty() ? QApplication::applicationName() : zuQt(meldung.titel));
     box.setTextFormat(Qt::PlainText);
     box.setText(zuQt(meldung.text));
     box.setIconPixmap(bild(meldung.symbol, box.devicePixelRatioF()));
 
     const auto angebot = antworten(meldung.knoepfe);
     std::vector<QPushButton*> knoepfe;
+    knoepfe.reserve(angebot.size());
     for (const auto& antwort : angebot)
         knoepfe.push_back(box.addButton(QString::fromUtf8(antwort.beschriftung), antwort.rolle));
     box.setDefaultButton(knoepfe.front());

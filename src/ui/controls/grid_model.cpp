@@ -5,14 +5,21 @@
 #include "ui/guard.h"
 #include "ui/text.h"
 
-#include <QMetaObject>
+#include <QTimer>
 
 #include <algorithm>
 #include <limits>
 
 namespace quelvarn {
 
-Gittermodell::Gittermodell(std::vector<Gitterspalte> spalten) : spalten_(std::move(spalten)) {}
+Gittermodell::Gittermodell(std::vector<Gitterspalte> spalten) : spalten_(std::move(spalten)), melder_(new QTimer(this))
+{
+    melder_->setSingleShot(true);
+    connect(melder_, &QTimer::timeout, this, bewacht([this] {
+                if (fehler_)
+                    throw Laufzeitfehler(*fehler_);
+            }));
+}
 
 bool Gittermodell::zeige(const Recordset* zeilen, unsigned fassung)
 {
@@ -23,7 +30,7 @@ bool Gittermodell::zeige(const Recordset* zeilen, unsigned fassung)
     fassung_ = fassung;
     const std::size_t anzahl = zeilen != nullptr ? zeilen->RecordCount() : 0;
     anzahl_ = static_cast<int>(std::min<std::size_t>(anzahl, std::numeric_limits<int>::max()));
-    gestoert_ = false;
+    fehler_.reset();
     endResetModel();
     return true;
 }
@@ -58,7 +65,7 @@ QVariant Gittermodell::headerData(int abschnitt, Qt::Orientation richtung, int r
 
 QString Gittermodell::zelle(const QModelIndex& stelle) const
 {
-    if (gestoert_)
+    if (fehler_)
         return {};
     try {
         const auto& spalte = spalten_[static_cast<std::size_t>(stelle.column())];
@@ -72,10 +79,8 @@ QString Gittermodell::zelle(const QModelIndex& stelle) const
 // A box must not come up in the middle of drawing.
 void Gittermodell::melde(const Laufzeitfehler& fehler) const
 {
-    gestoert_ = true;
-    QMetaObject::invokeMethod(
-        const_cast<Gittermodell*>(this), [fehler] { Waechter::aktuell().fuehreAus([&] { throw fehler; }); },
-        Qt::QueuedConnection);
+    fehler_ = fehler;
+    melder_->start();
 }
 
 } // namespace quelvarn

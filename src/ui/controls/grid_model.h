@@ -1,13 +1,17 @@
 #pragma once
 
+#include "base/runtime_error.h"
+
 #include <QAbstractTableModel>
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
+class QTimer;
+
 namespace quelvarn {
 
-class Laufzeitfehler;
 class Recordset;
 
 struct Gitterspalte
@@ -40,7 +44,8 @@ private:
     const Recordset* zeilen_ = nullptr;
     unsigned fassung_ = 0;
     int anzahl_ = 0;
-    mutable bool gestoert_ = false; // A fault while drawing is told once, then cells stay empty.
+    mutable std::optional<Laufzeitfehler> fehler_; // A fault while drawing is told once, then cells stay empty.
+    QTimer* melder_;
 };
 
 } // namespace quelvarn

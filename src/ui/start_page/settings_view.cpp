@@ -110,7 +110,8 @@ QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector
     aufbau->setVerticalSpacing(4);
     const int reihen = (gruppe.anzahl + gruppe.spalten - 1) / gruppe.spalten;
     for (int i = 0; i < gruppe.anzahl; ++i) {
-        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(gruppe.erster + i)].beschriftung));
+        const int zeile = gruppe.erster + i;
+        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(zeile)].beschriftung));
         kasten->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i));
         connect(kasten, &QCheckBox::clicked, this,
                 bewacht([this, i, setze = gruppe.setze](bool an) { (modell_.*setze)(i, an); }));
@@ -123,7 +124,7 @@ QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector
 QGroupBox* Einstellungen::neuesOfflinePlot()
 {
     auto* rahmen = neuerRahmen("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
-    auto* aufbau = new QHBoxLayout(rahmen);
+    auto* aufbau = new QHBoxLayout;
     for (std::size_t i = 0; i < OFFLINE_TOOLS.size(); ++i) {
         auto* option = new QRadioButton(QStringLiteral("mit ") + zuQt(OFFLINE_TOOLS[i]));
         option->setObjectName(QStringLiteral("OpOfflinePlot(%1)").arg(i));
@@ -133,6 +134,7 @@ QGroupBox* Einstellungen::neuesOfflinePlot()
         OpOfflinePlot_.push_back(option);
         aufbau->addWidget(option);
     }
+    rahmen->setLayout(aufbau);
     return rahmen;
 }
 

@@ -112,7 +112,7 @@ void Darstellung::sichere(const QString& name, const QString& wert) const
 void Darstellung::wendeAn(QApplication& programm) const
 {
     dunkel = modus_ == Modus::Dunkel || (modus_ == Modus::Automatisch && systemIstDunkel());
-    programm.setStyle(new Programmstil);
+    programm.setStyle(neuerProgrammstil());
     programm.setFont(programmschrift());
     programm.setPalette(palette(farbsatz()));
     programm.setStyleSheet(stylesheet(farbsatz()));

@@ -175,4 +175,9 @@ QIcon Programmstil::standardIcon(StandardPixmap bild, const QStyleOption* option
     }
 }
 
+QStyle* neuerProgrammstil()
+{
+    return new Programmstil;
+}
+
 } // namespace quelvarn

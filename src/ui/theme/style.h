@@ -20,6 +20,8 @@ public:
     QIcon standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const override;
 };
 
+// For the application, which takes it over.
+QStyle* neuerProgrammstil();
 // The bar at the left of the entry that the keyboard moves.
 void zeichneFokusmarke(QPainter& painter, const QRect& eintrag);
 
