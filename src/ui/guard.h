@@ -30,24 +30,29 @@ private:
     Waechter* vorheriger_;
 };
 
-// Calls a slot with the arguments of its signal, or with none when it takes none.
-template <typename Slot, typename... Argumente> void rufe(Slot& slot, const Argumente&... argumente)
+// A slot that runs guarded, with the arguments of its signal, or with none when it takes none.
+template <typename Slot> class Bewacht
 {
-    if constexpr (std::invocable<Slot&, const Argumente&...>)
-        slot(argumente...);
-    else
-        slot();
-}
+public:
+    explicit Bewacht(Slot slot) : slot_(std::move(slot)) {}
 
-// The same as a slot that runs guarded.
-template <typename Slot> auto bewacht(Slot slot)
-{
-    return [slot = std::move(slot)](auto... argumente) mutable -> void requires(
-                                                                   std::invocable<Slot&, decltype(argumente)...> ||
-                                                                   std::invocable<Slot&>)
+    template <typename... Argumente>
+    requires(std::invocable<Slot&, const Argumente&...> || std::invocable<Slot&>) void
+    operator()(const Argumente&... argumente)
     {
-        Waechter::aktuell().fuehreAus([&] { rufe(slot, argumente...); });
-    };
+        if constexpr (std::invocable<Slot&, const Argumente&...>)
+            Waechter::aktuell().fuehreAus([&] { slot_(argumente...); });
+        else
+            Waechter::aktuell().fuehreAus([&] { slot_(); });
+    }
+
+private:
+    Slot slot_;
+};
+
+template <typename Slot> Bewacht<Slot> bewacht(Slot slot)
+{
+    return Bewacht<Slot>(std::move(slot));
 }
 
 } // namespace quelvarn

@@ -66,7 +66,7 @@ QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void
 {
     auto* kasten = new QCheckBox(text);
     kasten->setObjectName(QLatin1String(name));
-    connect(kasten, &QCheckBox::clicked, this, bewacht([this, setze](bool an) { (modell_.*setze)(an); }));
+    connect(kasten, &QCheckBox::clicked, this, bewacht([&modell = modell_, setze](bool an) { (modell.*setze)(an); }));
     return kasten;
 }
 

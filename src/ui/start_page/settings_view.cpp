@@ -114,7 +114,7 @@ QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector
         auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(zeile)].beschriftung));
         kasten->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i));
         connect(kasten, &QCheckBox::clicked, this,
-                bewacht([this, i, setze = gruppe.setze](bool an) { (modell_.*setze)(i, an); }));
+                bewacht([&modell = modell_, i, setze = gruppe.setze](bool an) { (modell.*setze)(i, an); }));
         kaesten.push_back(kasten);
         aufbau->addWidget(kasten, i % reihen, i / reihen);
     }
