@@ -124,10 +124,11 @@ private:
 
     pid_t starte(const std::vector<std::string>& befehl) const
     {
+        // The server's programs look for one another beside the path that they are called by.
         const std::string programm = (programme_ / befehl.front()).string();
-        std::vector<char*> argumente;
-        for (const std::string& teil : befehl)
-            argumente.push_back(const_cast<char*>(teil.c_str()));
+        std::vector<char*> argumente{const_cast<char*>(programm.c_str())};
+        for (std::size_t i = 1; i < befehl.size(); ++i)
+            argumente.push_back(const_cast<char*>(befehl[i].c_str()));
         argumente.push_back(nullptr);
         const passwd* nutzer = serverNutzer();
         const pid_t kind = fork();
