@@ -4,6 +4,7 @@
 #include "scenario_runner/steps.h"
 
 #include <QApplication>
+#include <QCursor>
 
 #include <cstdio>
 #include <fmt/format.h>
@@ -41,6 +42,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    QCursor::setPos(10000, 10000); // Beside the window: no control looks as if the pointer were on it.
     std::vector<std::string> files;
     std::string pictures;
     for (int i = 1; i < argc; ++i) {
