@@ -80,4 +80,30 @@ sqlite3_stmt* BareSqlite::bereite(const std::string& sql)
     return anweisung;
 }
 
+std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei)
+{
+    const std::filesystem::path kopie = datei.string() + ".plain";
+    const auto anzahl = [](const std::filesystem::path& wo) {
+        return BareSqlite(wo).zahl("SELECT COUNT(*) FROM PartTabelle");
+    };
+    if (std::filesystem::exists(kopie) && anzahl(kopie) == anzahl(datei))
+        return kopie;
+    std::filesystem::remove(kopie);
+    sqlite3* ziel = nullptr;
+    sqlite3_open(kopie.string().c_str(), &ziel);
+    sqlite3_collation_needed(ziel, nullptr, fehlendeKollation);
+    const std::string sql = "PRAGMA synchronous=OFF; ATTACH '" + datei.string() +
+                            "' AS von;"
+                            "CREATE TABLE PartTabelle AS SELECT * FROM von.PartTabelle;"
+                            "CREATE INDEX Liste ON PartTabelle(DokuBez, RevBez DESC, Status);"
+                            "CREATE INDEX Dateien ON PartTabelle(filename);"
+                            "CREATE INDEX Stufen ON PartTabelle(Hauptmerkmal_C, Hauptmerkmal_D, Hauptmerkmal_E);";
+    const int ergebnis = sqlite3_exec(ziel, sql.c_str(), nullptr, nullptr, nullptr);
+    const std::string grund = sqlite3_errmsg(ziel);
+    sqlite3_close(ziel);
+    if (ergebnis != SQLITE_OK)
+        throw std::runtime_error(kopie.string() + ": " + grund);
+    return kopie;
+}
+
 } // namespace quelvarn::bench

@@ -30,4 +30,7 @@ private:
     sqlite3* datenbank_ = nullptr;
 };
 
+// A copy of PartTabelle in a file beside the register, with the same indexes but no collation of the program's.
+std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei);
+
 } // namespace quelvarn::bench

@@ -1,3 +1,6 @@
+#ifdef QUELVARN_BENCH_ACCESS
+#include "bench/access/import_measures.h"
+#endif
 #include "bench/database_measures.h"
 #include "bench/register_data.h"
 #include "bench/report.h"
@@ -15,17 +18,22 @@ using namespace quelvarn::bench;
 
 namespace {
 
-constexpr const char* AUFRUF = "quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]\n"
-                               "               [--without-program] [--without-qt-peer] [--qt-peer-runs N]";
+constexpr const char* AUFRUF =
+    "quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]\n"
+    "               [--access FILE] [--without-program] [--without-qt-peer] [--qt-peer-runs N]";
+
+// A smaller register is for trying things out: its figures are only shown beside those of the peers.
+constexpr std::size_t DOKUMENTE_DER_GRENZEN = 500'000;
 
 struct Auftrag
 {
     std::size_t dokumente = 1'000'000;
     int laeufe = 7;
-    int qtLaeufe = 2; // 0 leaves the peer out.
+    int qtLaeufe = 1; // 0 leaves the peer out.
     bool programm = true;
     std::filesystem::path json;
     std::filesystem::path datenbank;
+    std::filesystem::path access; // Nothing is imported where it is missing.
 };
 
 void nimmWert(Auftrag& auftrag, const std::string& name, const std::string& wert)
@@ -38,6 +46,8 @@ void nimmWert(Auftrag& auftrag, const std::string& name, const std::string& wert
         auftrag.qtLaeufe = std::max(std::stoi(wert), 1);
     else if (name == "--json")
         auftrag.json = wert;
+    else if (name == "--access")
+        auftrag.access = wert;
     else if (name == "--database")
         auftrag.datenbank = wert;
     else
@@ -66,6 +76,12 @@ Auftrag leseAuftrag(int anzahl, char** argumente)
 
 void messe(Messreihe& reihe, const Auftrag& auftrag)
 {
+#ifdef QUELVARN_BENCH_ACCESS
+    const auto access =
+        auftrag.access.empty() ? std::filesystem::path(QUELVARN_SHARED) / "samples/werk-a.mdb" : auftrag.access;
+    if (std::filesystem::exists(access))
+        messeImport(reihe, access);
+#endif
     messeDatenbank(reihe, auftrag.datenbank);
 #ifdef QUELVARN_BENCH_UI
     if (auftrag.programm)
@@ -81,7 +97,7 @@ int main(int anzahl, char** argumente)
     try {
         const Auftrag auftrag = leseAuftrag(anzahl, argumente);
         legeRegisterBereit(auftrag.datenbank, auftrag.dokumente);
-        Messreihe reihe(auftrag.laeufe);
+        Messreihe reihe(auftrag.laeufe, auftrag.dokumente >= DOKUMENTE_DER_GRENZEN);
         messe(reihe, auftrag);
         zeigeTabelle(reihe.messungen());
         if (!auftrag.json.empty())

@@ -30,7 +30,7 @@ void Malwaechter::warte()
 
 bool Malwaechter::eventFilter(QObject* empfaenger, QEvent* ereignis)
 {
-    if (ereignis->type() == QEvent::Paint && ansicht_.model()->rowCount() > 0)
+    if (ereignis->type() == QEvent::Paint && ansicht_.model() != nullptr && ansicht_.model()->rowCount() > 0)
         gemalt_ = true;
     return QObject::eventFilter(empfaenger, ereignis);
 }

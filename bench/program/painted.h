@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QSize>
 
 class QAbstractItemView;
 
 namespace quelvarn::bench {
+
+// Of the lists that are compared: that of the grid in the program's own window.
+inline constexpr QSize FENSTER{560, 320};
 
 // Tells when a view has drawn what a gesture has changed.
 class Malwaechter : public QObject

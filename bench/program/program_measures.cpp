@@ -51,7 +51,7 @@ void messeOeffnen(Messreihe& reihe, LaufendesProgramm& programm, const std::file
 {
     BareSqlite sqlite(datei);
     reihe.vergleiche(
-        "program: open a table, rows painted", 1.5,
+        "program: open a table, rows painted", reihe.beiVielen(1.5),
         {[&] {
              programm.klicke("ImgSEDoku");
              Malwaechter(programm.gitter(BAUTEILE)).warte();

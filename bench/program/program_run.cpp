@@ -1,5 +1,6 @@
 #include "bench/program/program_run.h"
 
+#include "bench/program/list_measures.h"
 #include "bench/program/program_measures.h"
 
 #include <QApplication>
@@ -7,7 +8,7 @@
 
 namespace quelvarn::bench {
 
-void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int /*qtLaeufe*/)
+void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -16,6 +17,8 @@ void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int /*qt
     int anzahl = 1;
     const QApplication anwendung(anzahl, argumente);
     messeProgramm(reihe, datei);
+    if (qtLaeufe > 0)
+        messeListen(reihe, datei, qtLaeufe);
 }
 
 } // namespace quelvarn::bench

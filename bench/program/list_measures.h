@@ -1,0 +1,13 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// The program's grid beside the ready-made parts of Qt, each in a window of its own. To compare: no bounds.
+// So many runs of the slow peer.
+void messeListen(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe);
+
+} // namespace quelvarn::bench
