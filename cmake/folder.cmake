@@ -1,3 +1,7 @@
+# The headers nearly every file of the core reads, compiled once for each kind of target.
+set(QUELVARN_PCH <algorithm> <array> <functional> <map> <memory> <optional> <string> <string_view> <vector>
+  <fmt/format.h>)
+
 # One static library a folder of src/. Its link list is the layering rule: what a folder does not link
 # it must not include (`./qv lint` checks the includes as well).
 function(quelvarn_folder name)
@@ -13,4 +17,5 @@ function(quelvarn_folder name)
   set_target_properties(quelvarn_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(quelvarn_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(quelvarn_${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+  target_precompile_headers(quelvarn_${name} PRIVATE ${QUELVARN_PCH})
 endfunction()

@@ -45,7 +45,8 @@ Antwort LaufendesProgramm::KeineMeldungen::zeige(const Meldung& meldung)
 
 LaufendesProgramm::LaufendesProgramm(const fs::path& datenbank)
     : system_(systemPorts(legeLaufwerkeAn(ausQt(ordner_.path()), datenbank))),
-      ports_(system_->mit(meldungen_, zwischenablage_)), darstellung_(ordner_.filePath(QStringLiteral("look.ini")))
+      ports_(system_->mit(meldungen_, zwischenablage_, fortschritt_)),
+      darstellung_(ordner_.filePath(QStringLiteral("look.ini")))
 {
     darstellung_.setzeModus(Modus::Hell);
     darstellung_.wendeAn(*qApp);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/fortschritt.h"
 #include "platform/meldungen.h"
 #include "platform/ports.h"
 #include "platform/system_ports.h"
@@ -63,6 +64,7 @@ private:
     QTemporaryDir ordner_;
     KeineMeldungen meldungen_;
     KeineZwischenablage zwischenablage_;
+    StilleAnzeige fortschritt_;
     std::unique_ptr<SystemPorts> system_;
     Ports ports_;
     Darstellung darstellung_;

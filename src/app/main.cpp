@@ -1,4 +1,5 @@
 #include "app/application.h"
+#include "platform/fortschritt.h"
 #include "platform/system_ports.h"
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
@@ -30,8 +31,9 @@ int main(int argc, char** argv)
 
     QtMeldungen meldungen;
     QtZwischenablage zwischenablage;
+    StilleAnzeige fortschritt;
     const auto system = systemPorts(standardLaufwerkeOrdner());
-    Ports ports = system->mit(meldungen, zwischenablage);
+    Ports ports = system->mit(meldungen, zwischenablage, fortschritt);
     SessionState session;
 
     Waechter waechter(meldungen, beendeSofort);

@@ -11,6 +11,7 @@ class Drucker;
 class LaufendeProgramme;
 class Zwischenablage;
 class Standardanwendung;
+class Fortschrittsanzeige;
 
 // The doors to the outside world, handed in by the program's entry. All live longer than their users.
 struct Ports
@@ -24,6 +25,7 @@ struct Ports
     LaufendeProgramme& programme;
     Zwischenablage& zwischenablage;
     Standardanwendung& standardanwendung;
+    Fortschrittsanzeige& fortschritt;
 };
 
 } // namespace quelvarn

@@ -7,7 +7,7 @@
 
 namespace quelvarn {
 
-// The real outside world, but for message boxes and the clipboard, which belong to the windows.
+// The real outside world, but for message boxes, progress and the clipboard, which belong to the windows.
 struct SystemPorts
 {
     virtual ~SystemPorts() = default;
@@ -20,10 +20,10 @@ struct SystemPorts
     virtual LaufendeProgramme& programme() = 0;
     virtual Standardanwendung& standardanwendung() = 0;
 
-    Ports mit(Meldungen& meldungen, Zwischenablage& zwischenablage)
+    Ports mit(Meldungen& meldungen, Zwischenablage& zwischenablage, Fortschrittsanzeige& fortschritt)
     {
-        return {meldungen, uhr(),       umgebung(),     dateien(),          laufwerke(),
-                drucker(), programme(), zwischenablage, standardanwendung()};
+        return {meldungen, uhr(),       umgebung(),     dateien(),           laufwerke(),
+                drucker(), programme(), zwischenablage, standardanwendung(), fortschritt};
     }
 };
 

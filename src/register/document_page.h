@@ -17,7 +17,7 @@ namespace quelvarn {
 struct Merkzeile;
 
 // State and operations of the document page (FormSEDoku). Follows the frame once it is registered there.
-class DocumentPage : public Rahmenteilnehmer
+class DocumentPage : public Rahmenteilnehmer, public Tabellenherr
 {
 public:
     DocumentPage(SessionState& session, Ports& ports);
@@ -55,8 +55,13 @@ public:
     void TabelleNeuLaden(int tab);
     void TabelleWechseln();
     void ZeileAktualisieren(int tab);
+
+    // --- what the filters ask ---
+    int filterTab() const override { return tab_; }
+    GefilterteTabelle& filterTabelle(int tab) override;
+    void filterGewechselt(int tab) override;
     // Back to all rows, state 2. A table with newer data in the database is opened anew.
-    void filterAufheben(int tab);
+    void filterAufheben(int tab) override;
 
     // --- state, for the projection ---
     int tab() const { return tab_; }

@@ -63,6 +63,20 @@ void DocumentPage::bindeOhneFilter(int tab)
     zeilenGeaendert(tab);
 }
 
+GefilterteTabelle& DocumentPage::filterTabelle(int tab)
+{
+    if (!seiten_[tab].geoeffnet())
+        TabelleNeuLaden(tab);
+    return seiten_[tab];
+}
+
+void DocumentPage::filterGewechselt(int tab)
+{
+    zeilenGeaendert(tab);
+    if (tab == tab_)
+        zeigeZeilen();
+}
+
 void DocumentPage::filterAufheben(int tab)
 {
     if (!seiten_[tab].geoeffnet())

@@ -3,6 +3,7 @@
 #include "fakes/fake_dateien.h"
 #include "fakes/fake_meldungen.h"
 #include "fakes/fake_world.h"
+#include "platform/fortschritt.h"
 #include "platform/ports.h"
 
 namespace quelvarn {
@@ -23,12 +24,14 @@ struct FakePorts
     FakeProgramme programme;
     FakeZwischenablage zwischenablage;
     FakeStandardanwendung standardanwendung;
+    StilleAnzeige fortschritt;
 
     Ports ports() { return portsMit(dateien); }
     // With files of another kind, such as real ones.
     Ports portsMit(Dateien& andere)
     {
-        return {meldungen, uhr, umgebung, andere, laufwerke, drucker, programme, zwischenablage, standardanwendung};
+        return {meldungen,         uhr,        umgebung, andere, laufwerke, drucker, programme, zwischenablage,
+                standardanwendung, fortschritt};
     }
 };
 

@@ -4,6 +4,7 @@
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
 #include "platform/dateien.h"
+#include "platform/fortschritt.h"
 #include "platform/system_ports.h"
 #include "scenario_runner/controls.h"
 #include "session/program.h"
@@ -30,6 +31,7 @@ struct World::Parts
     FakeProgramme programs;
     FakeZwischenablage clipboard;
     FakeStandardanwendung opener;
+    StilleAnzeige progress;
     std::unique_ptr<SystemPorts> system;
     std::unique_ptr<Ports> ports;
     std::unique_ptr<Darstellung> appearance;
@@ -51,7 +53,7 @@ World::World(std::string pictureFolder) : parts_(std::make_unique<Parts>()), pic
     parts_->system = systemPorts(parts_->drives());
     parts_->ports = std::make_unique<Ports>(Ports{boxes, parts_->clock, parts_->environment, parts_->system->dateien(),
                                                   parts_->system->laufwerke(), parts_->printers, parts_->programs,
-                                                  parts_->clipboard, parts_->opener});
+                                                  parts_->clipboard, parts_->opener, parts_->progress});
     parts_->appearance = std::make_unique<Darstellung>(qt((parts_->folder.path() / "darstellung.ini").string()));
     parts_->appearance->setzeModus(Modus::Hell);
     addDrive("c");

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "filter/filter_state.h"
+#include "filter/filtered_table.h"
+#include "platform/ports.h"
+#include "session/session_state.h"
+
+#include <functional>
+#include <vector>
+
+namespace quelvarn {
+
+// What the parts of the filter page share. FilterWerteTabelle is the working copy; a run copies it to the type.
+struct Filterkontext
+{
+    SessionState& session;
+    Ports& ports;
+    FilterState& filter;
+    Tabellenherr& tabellen;
+    int tab = 0; // Of the type the page is open for.
+    Filterbereich bereich = Filterbereich::Eigenschaften;
+    std::vector<Filterwert> FilterWerteTabelle;
+    std::function<void()> geaendert;
+
+    Filterzustand& zustand() { return filter.typen[static_cast<std::size_t>(tab)]; }
+    const Filterzustand& zustand() const { return filter.typen[static_cast<std::size_t>(tab)]; }
+    GefilterteTabelle& tabelle() { return tabellen.filterTabelle(tab); }
+    void melde() const
+    {
+        if (geaendert)
+            geaendert();
+    }
+};
+
+} // namespace quelvarn

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "filter/filter_context.h"
+#include "filter/property_area.h"
+#include "filter/saved_filters.h"
+#include "filter/structure_area.h"
+#include "filter/user_defined_area.h"
+#include "session/main_window.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+// State and operations of the filter page (FormSEFiltern).
+class FilterPage : public Rahmenteilnehmer
+{
+public:
+    FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen);
+
+    // --- operations, one for each thing a person can do ---
+    void OpenFilterPage(); // For the table that the document page shows.
+    void CloseFilterPage();
+    void bereichGewaehlt(Filterbereich bereich);                  // SSTabDGFilter
+    void filtern();                                               // "Filtern"
+    void zurueck();                                               // "Zurück"
+    void verlassen();                                             // "Verlassen"
+    void werte();                                                 // "Werte"
+    void vorlage(bool gedrueckt);                                 // "Vorlage"
+    void filterSpeichern(std::string_view TxtFilterSave);         // CmFilterSave
+    void filterVerwenden(std::string_view CbFilterSave);          // CmFilterUse
+    void filterLoeschen(std::string_view CbFilterSave);           // CmFilterDelete
+    void wertGeaendert(std::size_t zeile, std::string_view wert); // A Wert of the grid was edited.
+    void sterneErgaenzen();                                       // CmChangeStar
+
+    // --- for the document page: restores and runs a saved filter of the table shown ---
+    void nutzeGespeicherten(std::string_view Filtername);
+
+    // --- what the frame tells ---
+    void seiteGezeigt(Seite seite) override;
+    void datenbankWechselt() override;
+    void entladen() override { CloseFilterPage(); }
+
+    // --- state, for the projection ---
+    Eigenschaftsbereich& eigenschaften() { return eigenschaften_; }
+    Strukturbereich& struktur() { return struktur_; }
+    BenutzDefBereich& benutzDef() { return benutzDef_; }
+    const Filterkontext& kontext() const { return kontext_; }
+    std::string titel() const;                           // "    Solid Edge - Filterwerte für Bauteile"
+    std::string kopfFilterwerte() const;                 // LblKopfFilterWerte, the grid's head
+    std::string zugriffText() const;                     // LblZugriffSEFiltern
+    std::vector<std::string> gespeicherteFilter() const; // CbFilterSave; LblAnzFilterwerte is their number
+    bool bereichVorhanden(Filterbereich bereich) const;
+    bool zeigtVorlage() const { return zeigtVorlage_; }
+    std::string vorlagePfad() const; // TxtPfadDateiVorlage
+
+    std::function<void()> geaendert;
+    std::function<void()> zurDokumentseite; // The page is left.
+    // Shows the template in the viewer, "" for nothing; false when it could not.
+    std::function<bool(const std::string& filename)> viewer;
+
+private:
+    Filterkontext kontext_;
+    Eigenschaftsbereich eigenschaften_;
+    Strukturbereich struktur_;
+    BenutzDefBereich benutzDef_;
+    bool zeigtVorlage_ = false;
+};
+
+} // namespace quelvarn
