@@ -100,11 +100,11 @@ command_lint() { # [--quick]: without clang-tidy
   clang-format --dry-run --Werror "${files[@]}"
   [[ "${1:-}" == --quick ]] && return
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
-  configure debug
+  configure lint
   # Generated headers (moc, resources) must exist for the check to read the sources.
-  cmake --build --preset debug -j "$JOBS" --target autogen-all >/dev/null 2>&1 || true
+  cmake --build --preset lint -j "$JOBS" --target autogen-all >/dev/null 2>&1 || true
   say "clang-tidy ..."
-  git ls-files 'src/*.cpp' | xargs -P "$JOBS" -n 4 clang-tidy -p build/debug --quiet 2> >(grep -v 'warnings generated' >&2)
+  git ls-files 'src/*.cpp' | xargs -P "$JOBS" -n 4 clang-tidy -p build/lint --quiet 2> >(grep -v 'warnings generated' >&2)
   say "Clean."
 }
 
