@@ -1,7 +1,8 @@
 #pragma once
 
-#include "filter/filter_state.h"
-#include "session/session_state.h"
+#include "filter/filter_context.h"
+#include "filter/filter_string.h"
+#include "platform/meldungen.h"
 
 #include <optional>
 #include <string>
@@ -10,27 +11,41 @@
 
 namespace quelvarn {
 
-// What a stored Filterstring says. A damaged entry ends the reading; what stood before it counts.
-struct GespeicherterFilter
-{
-    std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
-    int FilterAnzahl = 0;
-    int BenutzDefAnzahl = 0;
-    std::array<std::string, ANZAHL_ZUSBENUTZDEF> ZusBenutzDef;
-    std::vector<Filterwert> FilterWerteTabelle;
-    std::optional<std::array<bool, ANZAHL_STATUS>> ChFilterStat; // None when no status entry was read.
-    Filterbereich bereich = Filterbereich::Eigenschaften;        // The kind of the entries.
-};
-
-// The stored form of a filter, and back.
-std::string alsFilterstring(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle);
-GespeicherterFilter leseFilterstring(std::string_view Filterstring);
-
+// --- lists of saved filters, one a document type ---
 // The names of a type's saved filters, in their order.
 std::vector<std::string> gespeicherteNamen(const SessionState& session, int tab);
 // "" where there is none of this name; the comparison is exact.
 std::string SavedFilterString(const SessionState& session, int tab, std::string_view Filtername);
-// Writes the rows of one type, or of all eight in their order; each type in one transaction.
+// Writes the rows of one type in one transaction, where they differ from those stored.
 void SaveFilterRows(SessionState& session, int tab);
+// All eight types in their order; a fault of one has its box, and the others go on.
+void speichereFilterlisten(SessionState& session, Meldungen& meldungen);
+
+// --- the page's operations; each shows its own boxes ---
+// CmFilterSave: the filter in front under this name. True when it was taken.
+bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave);
+// CmFilterDelete
+void loescheFilter(Filterkontext& kontext, std::string_view CbFilterSave);
+// CmFilterUse: the stored text of this name; nothing, after a box, when no name is chosen.
+std::optional<std::string> gewaehlterFilter(Filterkontext& kontext, std::string_view CbFilterSave);
+// Restores steps, rows, ticked statuses and the part of the page. The tree, the locks and the run are up to the page.
+GespeicherterFilter UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring);
+// CmChangeStar: ends the edited values with a star and hands them to their steps.
+void ergaenzeSterne(Filterkontext& kontext);
+
+// --- the document page's menu "Filtern Favo." ---
+inline constexpr std::size_t MAX_FILTERFAVORITEN = 25;
+inline constexpr std::string_view TITEL_FILTERFAVORITEN = "Liste mit Filterfavoriten";
+inline constexpr std::string_view FEHLER_FILTERFAVORITEN = "Fehler beim Erstellen der Liste mit Filterfavoriten!";
+
+struct Filterfavoriten
+{
+    std::vector<std::string> namen;
+    std::optional<Meldung> meldung; // To be shown: there is none, or there are more than the menu takes.
+};
+Filterfavoriten favoritenliste(const SessionState& session, int tab);
+// The stored text for the name in LblFilter; nothing, after a box, when it is empty.
+std::optional<std::string> gewaehlterFavorit(const SessionState& session, Meldungen& meldungen, int tab,
+                                             std::string_view LblFilter);
 
 } // namespace quelvarn
