@@ -2,6 +2,7 @@
 
 #include "filter/filter_context.h"
 
+#include <string>
 #include <string_view>
 
 namespace quelvarn {
@@ -22,15 +23,20 @@ void leereFilter(Filterzustand& zustand);
 // The status condition of the ticked boxes; ticks those between the limits.
 void BuildStatusFilter(FilterState& filter, int tab);
 
-// --- runs; faults pass through and leave the old filter ---
-// The driver: runs the part of the page in front and shows what is left.
+// --- runs; faults pass through and leave rows and filter as they were ---
+// The driver: runs the part of the page in front and shows what is left. Nothing changes when the run is given up.
 void FilterEigenMerkBenutzDef(Filterkontext& kontext);
-void ApplyPropertyFilter(Filterkontext& kontext);
-void ApplyStructureFilter(Filterkontext& kontext);
-void ApplyHauptwertFilter(Filterkontext& kontext);
+// Each false when nothing was applied: given up, refused because all steps are filled, or a step that cannot be told
+// as a condition, which shows its own box.
+bool ApplyPropertyFilter(Filterkontext& kontext);
+bool ApplyStructureFilter(Filterkontext& kontext);
+bool ApplyHauptwertFilter(Filterkontext& kontext);
 // The user-defined filter: fills FilterErgebnis of the table. False when it was given up; nothing changed then.
 bool ApplyBenutzDefFilter(Filterkontext& kontext);
+// Tells that this step, counted from 1, leaves no rows.
 void ReportNoRecords(Filterkontext& kontext, int schritt);
+// Forgets the filter of a type and hands out the status condition, which stays.
+std::string vergissFilter(FilterState& filter, int tab);
 // Every loaded table goes back to its status filter.
 void ResetAllFilters(Filterkontext& kontext);
 

@@ -1,6 +1,45 @@
 #include "filter/execution.h"
+#include "platform/meldungen.h"
 
 namespace quelvarn {
+namespace {
+
+constexpr int OHNE_CODE_AB = 5; // Rows behind the fifth are those of the structure features: texts alone.
+
+int codeVon(std::string_view Feldname, int Operator)
+{
+    if (Feldname == "Status")
+        return CodeStatus + Operator;
+    if (Feldname == "Erstellt")
+        return CodeErstellt + Operator;
+    if (Feldname == "Geaendert")
+        return CodeGeaendert + Operator;
+    return CodeText;
+}
+
+} // namespace
+
+void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator)
+{
+    Filterzustand& zustand = kontext.zustand();
+    const int nummer = zustand.FilterAnzahl;
+    const bool frei = nummer < 5 || (nummer == 5 && kontext.bereich == Filterbereich::Struktur) || nummer == 6;
+    if (!frei) {
+        kontext.ports.meldungen.warnung("Anzahl Filter", "Alle Filter sind gefüllt!");
+        zustand.FilterAnzahl = ALLE_GEFUELLT;
+        return;
+    }
+    zustand.FilterSchritte[static_cast<std::size_t>(nummer)] = {
+        std::string(Feldname), std::string(Wert), nummer < OHNE_CODE_AB ? codeVon(Feldname, Operator) : CodeText, {}};
+    zustand.FilterAnzahl = nummer + 1;
+}
+
+void zeigeFilterwert(Filterkontext& kontext, const Filterwert& zeile)
+{
+    const int grenze = kontext.bereich == Filterbereich::Struktur ? 8 : 6;
+    if (kontext.zustand().FilterAnzahl < grenze)
+        kontext.FilterWerteTabelle.push_back(zeile);
+}
 
 void ClearFilterSteps(Filterzustand& zustand)
 {

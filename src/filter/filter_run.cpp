@@ -1,0 +1,83 @@
+#include "filter/filter_run.h"
+
+#include "filter/execution.h"
+#include "platform/fortschritt.h"
+
+#include <optional>
+
+namespace quelvarn {
+
+std::string mitUnd(std::string_view links, std::string_view rechts)
+{
+    const std::string_view dazwischen = links.empty() || rechts.empty() ? "" : " AND ";
+    return std::string(links).append(dazwischen).append(rechts);
+}
+
+std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment)
+{
+    std::vector<Kettenglied> kette;
+    Kettenglied bisher;
+    for (int nummer = 0; nummer < zustand.FilterAnzahl; ++nummer) {
+        const Schrittfragment neu = fragment(zustand.FilterSchritte[static_cast<std::size_t>(nummer)], nummer);
+        bisher.filterform = mitUnd(bisher.filterform, neu.filterform);
+        bisher.sqlform = mitUnd(bisher.sqlform, neu.sqlform);
+        bisher.gemeint.insert(bisher.gemeint.end(), neu.gemeint.begin(), neu.gemeint.end());
+        kette.push_back(bisher);
+    }
+    return kette;
+}
+
+bool setzeFilter(Filterkontext& kontext, const std::string& ausdruck)
+{
+    LangeArbeit arbeit(kontext.ports.fortschritt, "Filtern");
+    kontext.tabelle().tabelle.Filter(ausdruck, std::ref(arbeit));
+    return !arbeit.aufgegeben();
+}
+
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view davor)
+{
+    Filterzustand& zustand = kontext.zustand();
+    const Recordset& zeilen = kontext.tabelle().tabelle;
+    auto schritt = static_cast<int>(kette.size());
+    for (;; --schritt) {
+        const Kettenglied& glied = kette[static_cast<std::size_t>(schritt - 1)];
+        verlangeGemeintes(glied.filterform, glied.gemeint);
+        if (!setzeFilter(kontext, mitUnd(davor, glied.filterform)))
+            return false;
+        zustand.FilterAnzahl = schritt;
+        zustand.FilterString = glied.sqlform;
+        // A single step may leave an empty table.
+        if (kette.size() == 1 || zeilen.RecordCount() > 0)
+            return true;
+        ReportNoRecords(kontext, schritt);
+        if (schritt == 1)
+            return true;
+    }
+}
+
+bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lauf)
+{
+    const Filterzustand vorher = kontext.zustand();
+    Recordset& tabelle = kontext.tabelle().tabelle;
+    const std::string filter = tabelle.filterText();
+    const auto zeile = tabelle.Bof() || tabelle.Eof() ? std::nullopt : std::optional(tabelle.bookmark());
+    const auto stelleZurueck = [&] {
+        kontext.zustand() = vorher;
+        if (tabelle.filterText() != filter)
+            tabelle.Filter(filter);
+        if (zeile)
+            tabelle.setzeBookmark(*zeile);
+    };
+    bool gelaufen = false;
+    try {
+        gelaufen = lauf();
+    } catch (...) {
+        stelleZurueck();
+        throw;
+    }
+    if (!gelaufen)
+        stelleZurueck();
+    return gelaufen;
+}
+
+} // namespace quelvarn
