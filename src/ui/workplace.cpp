@@ -1,5 +1,6 @@
 #include "ui/workplace.h"
 
+#include "filter/execution.h"
 #include "session/session_state.h"
 #include "ui/busy_pointer.h"
 #include "ui/document_page/form_se_doku.h"
@@ -42,6 +43,10 @@ void Arbeitsplatz::verbinde()
     formSEDoku_->bearbeiten = [this] {
         if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
+    };
+    dokumentseite_.filterVergessen = [this](int tab) {
+        leereFilter(filter_.typen[static_cast<std::size_t>(tab)]);
+        return filter_.status.StatusFilter;
     };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();

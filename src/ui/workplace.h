@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filter/filter_state.h"
 #include "platform/ports.h"
 #include "register/document_page.h"
 #include "session/main_window.h"
@@ -37,6 +38,7 @@ private:
     Waechter waechter_;
     MainWindow rahmen_;
     StartPage startseite_;
+    FilterState filter_;
     DocumentPage dokumentseite_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;

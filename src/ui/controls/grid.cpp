@@ -88,33 +88,34 @@ Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::ve
     setObjectName(zuQt(name));
     modell_->setParent(this);
     setModel(modell_);
-    setItemDelegate(new Zellenzeichner(this));
-    stelleEin();
-}
-
-void Gitter::stelleEin()
-{
-    setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
-    setAlternatingRowColors(true);
-    setShowGrid(false);
-    setWordWrap(false);
-    setTabKeyNavigation(false);
-    setCornerButtonEnabled(false);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 5);
-    horizontalHeader()->setStretchLastSection(true);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setTextElideMode(Qt::ElideRight);
-    horizontalHeader()->setSectionsClickable(false);
-    horizontalHeader()->setMinimumSectionSize(40);
+    stelleGitterEin(*this);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int spalte) {
         const bool letzte = spalte == modell_->columnCount() - 1; // It follows the others.
         vonHand_ = vonHand_ || (!verteilt_ && !letzte && isVisible());
     });
+}
+
+void stelleGitterEin(QTableView& gitter)
+{
+    gitter.setItemDelegate(new Zellenzeichner(&gitter));
+    gitter.setSelectionBehavior(QTableView::SelectRows);
+    gitter.setSelectionMode(QTableView::SingleSelection);
+    gitter.setEditTriggers(QTableView::NoEditTriggers);
+    gitter.setAlternatingRowColors(true);
+    gitter.setShowGrid(false);
+    gitter.setWordWrap(false);
+    gitter.setTabKeyNavigation(false);
+    gitter.setCornerButtonEnabled(false);
+    gitter.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    gitter.verticalHeader()->hide();
+    gitter.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    gitter.verticalHeader()->setDefaultSectionSize(gitter.fontMetrics().height() + 5);
+    QHeaderView& kopf = *gitter.horizontalHeader();
+    kopf.setStretchLastSection(true);
+    kopf.setHighlightSections(false);
+    kopf.setTextElideMode(Qt::ElideRight);
+    kopf.setSectionsClickable(false);
+    kopf.setMinimumSectionSize(40);
 }
 
 void Gitter::zeige(const Recordset* zeilen, unsigned fassung)

@@ -25,7 +25,6 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
 
 private:
-    void stelleEin();
     void verteileBreiten();
 
     Gittermodell* modell_;
@@ -33,5 +32,8 @@ private:
     bool verteilt_ = false; // Widths are being set by the program now.
     bool vonHand_ = false;  // A person has set a width: it stays.
 };
+
+// The look and the manners of every grid of the program.
+void stelleGitterEin(QTableView& gitter);
 
 } // namespace quelvarn
