@@ -181,11 +181,19 @@ Value Recordset::Zelle(std::size_t position, std::string_view name) const
     return kern_->puffer.zelle(kern_->zeilen, kern_->ansicht, position, feld);
 }
 
-void Recordset::ladeSpalte(std::string_view name, const Fortschritt& fortschritt)
+bool Recordset::ladeSpalten(std::span<const std::string> namen, const Fortschritt& fortschritt)
 {
     kern_->verlangeOffen();
-    const std::size_t feld = kern_->zeilen.feldVon(name);
-    kern_->zeilen.lade({&feld, 1}, fortschritt);
+    std::vector<std::size_t> felder;
+    for (const std::string& name : namen)
+        felder.push_back(kern_->zeilen.feldVon(name));
+    return kern_->zeilen.lade(felder, fortschritt);
+}
+
+bool Recordset::ladeSpalte(std::string_view name, const Fortschritt& fortschritt)
+{
+    const std::string einer(name);
+    return ladeSpalten({&einer, 1}, fortschritt);
 }
 
 bool Recordset::spalteGeladen(std::string_view name) const

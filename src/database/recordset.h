@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -83,9 +84,10 @@ public:
     void Sort(std::string_view ausdruck);
     // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `ueberspringe` rows behind the
     // current one, or at the first row of all (going backwards: the last) when `vonAnfang`; at Eof (Bof going
-    // backwards) when there is none. '*' is a plain character here.
+    // backwards) when there is none. '*' is a plain character here. False, and nothing moves, when reading a column
+    // for it was given up.
     bool Find(std::string_view kriterium, std::size_t ueberspringe = 0, Suchrichtung richtung = Suchrichtung::Vorwaerts,
-              bool vonAnfang = false);
+              bool vonAnfang = false, const Fortschritt& fortschritt = {});
 
     Bookmark bookmark() const; // Of the current row.
     // False, and nothing moves, when the row is not among those the filter leaves.
@@ -99,10 +101,22 @@ public:
     // in memory.
     Value Zelle(std::size_t position, std::string_view feld) const;
 
+    // What occurs in the rows of the opening. Filter, order and place stay as they are.
+    // The rows that meet a condition as it stands behind WHERE (month first), "" for all. Nothing when given up.
+    std::optional<std::vector<Bookmark>> waehle(std::string_view bedingung, const Fortschritt& fortschritt = {});
+    // The distinct texts of a column in these rows, sorted; no Null, and only those that `gilt` accepts. Of texts that
+    // differ in case or trailing blanks alone, the spelling stored first.
+    std::vector<std::string> verschiedeneTexte(std::string_view feld, std::span<const Bookmark> zeilen,
+                                               const std::function<bool(std::string_view)>& gilt = {});
+    // The same for a column of numbers.
+    std::vector<double> verschiedeneZahlen(std::string_view feld, std::span<const Bookmark> zeilen);
+
     // Results up to this many rows are read whole at the opening; 2,048 unless told. Set it before.
     void setzeGanzGrenze(std::size_t zeilen);
-    // Reads a whole column into memory, which filters and searches over it do by themselves.
-    void ladeSpalte(std::string_view feld, const Fortschritt& fortschritt = {});
+    // Reads whole columns into memory in one pass, which filters, searches and lists over them do by themselves.
+    // False when it was given up: then none of them is there.
+    bool ladeSpalten(std::span<const std::string> felder, const Fortschritt& fortschritt = {});
+    bool ladeSpalte(std::string_view feld, const Fortschritt& fortschritt = {});
     bool spalteGeladen(std::string_view feld) const;
     std::size_t speicherbedarf() const; // bytes
 

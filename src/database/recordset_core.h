@@ -60,6 +60,8 @@ struct Recordset::Kern
     std::vector<Zeilennummer> setzeOrdnung(const std::vector<Sortierfeld>& felder);
     void zeigeAlle();
     void zeige(std::vector<Zeilennummer> gefundene);
+    // Over columns in memory.
+    std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck, Wildcards platzhalter) const;
     // False when the progress was given up.
     bool ladeGenannte(const sql::Ausdruck& ausdruck, const Fortschritt& fortschritt);
     // The first row of the view, from `ab` on, that is chosen.

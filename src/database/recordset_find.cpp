@@ -14,14 +14,6 @@ namespace {
 constexpr std::size_t ERSTER_SCHRITT = 256;
 constexpr std::size_t GROESSTER_SCHRITT = 1 << 16;
 
-std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck, const Zeilenspeicher& zeilen,
-                                        Wildcards platzhalter)
-{
-    return baueAuswahl(
-        ausdruck, [&](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); },
-        platzhalter);
-}
-
 } // namespace
 
 void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt)
@@ -34,7 +26,7 @@ void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt
     } else {
         if (!kern.ladeGenannte(*bedingung, fortschritt))
             return;
-        const auto auswahl = baueAuswahlVon(*bedingung, kern.zeilen, Wildcards::Filter);
+        const auto auswahl = kern.baueAuswahlVon(*bedingung, Wildcards::Filter);
         auto gefundene = kern.alleZeilen();
         auswahl->behalte(gefundene);
         kern.zeige(std::move(gefundene));
@@ -80,15 +72,17 @@ std::vector<Zeilennummer> Recordset::Kern::setzeOrdnung(const std::vector<Sortie
     return reihe;
 }
 
-bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang)
+bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang,
+                     const Fortschritt& fortschritt)
 {
     Kern& kern = *kern_;
     kern.beendeBearbeitung();
     const sql::AusdruckZeiger bedingung = sql::parseBedingung(kriterium);
     if (!bedingung)
         throw recordsetFehler(3001, "Das Suchkriterium ist leer.");
-    kern.ladeGenannte(*bedingung, {});
-    const auto auswahl = baueAuswahlVon(*bedingung, kern.zeilen, Wildcards::Sql);
+    if (!kern.ladeGenannte(*bedingung, fortschritt))
+        return false;
+    const auto auswahl = kern.baueAuswahlVon(*bedingung, Wildcards::Sql);
 
     const bool vorwaerts = richtung == Suchrichtung::Vorwaerts;
     const auto anzahl = static_cast<std::ptrdiff_t>(kern.ansicht.anzahl());
@@ -147,6 +141,13 @@ void Recordset::Kern::zeige(std::vector<Zeilennummer> gefundene)
     ansicht.zeige(std::move(gefundene), !sortiert);
     position = 0;
     puffer.leere();
+}
+
+std::unique_ptr<Auswahl> Recordset::Kern::baueAuswahlVon(const sql::Ausdruck& ausdruck, Wildcards platzhalter) const
+{
+    return baueAuswahl(
+        ausdruck, [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); },
+        platzhalter);
 }
 
 bool Recordset::Kern::ladeGenannte(const sql::Ausdruck& ausdruck, const Fortschritt& fortschritt)

@@ -46,6 +46,8 @@ public:
     const std::string& tabelle() const { return abfrage_.tabelle; }
     bool hatSchluessel() const { return hatSchluessel_; }
     Zeilenschluessel schluessel(Zeilennummer zeile) const { return schluessel_[zeile]; }
+    // Rows with smaller numbers were stored earlier.
+    Zeilenschluessel reihenfolge(Zeilennummer zeile) const { return hatSchluessel_ ? schluessel_[zeile] : zeile; }
     void setzeSchluessel(Zeilennummer zeile, Zeilenschluessel schluessel) { schluessel_[zeile] = schluessel; }
 
     // What the recordset itself changed. These touch only memory.
