@@ -1,9 +1,9 @@
 #include "app/application.h"
-#include "platform/fortschritt.h"
 #include "platform/system_ports.h"
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
 #include "ui/adapters/messages_qt.h"
+#include "ui/adapters/progress_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/guard.h"
 #include "ui/theme/appearance.h"
@@ -31,7 +31,7 @@ int main(int argc, char** argv)
 
     QtMeldungen meldungen;
     QtZwischenablage zwischenablage;
-    StilleAnzeige fortschritt;
+    QtFortschritt fortschritt;
     const auto system = systemPorts(standardLaufwerkeOrdner());
     Ports ports = system->mit(meldungen, zwischenablage, fortschritt);
     SessionState session;

@@ -4,10 +4,10 @@
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
 #include "platform/dateien.h"
-#include "platform/fortschritt.h"
 #include "platform/system_ports.h"
 #include "scenario_runner/controls.h"
 #include "session/program.h"
+#include "ui/adapters/progress_qt.h"
 #include "ui/main_window/mdi_form1.h"
 #include "ui/theme/appearance.h"
 #include "ui/workplace.h"
@@ -31,7 +31,7 @@ struct World::Parts
     FakeProgramme programs;
     FakeZwischenablage clipboard;
     FakeStandardanwendung opener;
-    StilleAnzeige progress;
+    QtFortschritt progress;
     std::unique_ptr<SystemPorts> system;
     std::unique_ptr<Ports> ports;
     std::unique_ptr<Darstellung> appearance;
