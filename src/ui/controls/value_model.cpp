@@ -1,0 +1,38 @@
+#include "ui/controls/value_model.h"
+
+#include "ui/text.h"
+
+#include <algorithm>
+
+namespace quelvarn {
+
+bool Wertemodell::zeige(const std::vector<std::string>& werte)
+{
+    if (werte == werte_)
+        return false;
+    beginResetModel();
+    werte_ = werte;
+    endResetModel();
+    return true;
+}
+
+int Wertemodell::zeile(const std::string& wert) const
+{
+    const auto stelle = std::find(werte_.begin(), werte_.end(), wert);
+    return stelle != werte_.end() ? static_cast<int>(stelle - werte_.begin()) : -1;
+}
+
+int Wertemodell::rowCount(const QModelIndex& eltern) const
+{
+    return eltern.isValid() ? 0 : static_cast<int>(werte_.size());
+}
+
+QVariant Wertemodell::data(const QModelIndex& stelle, int rolle) const
+{
+    if (!checkIndex(stelle, CheckIndexOption::IndexIsValid))
+        return {};
+    const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole || rolle == Qt::ToolTipRole;
+    return text ? QVariant(zuQt(wert(stelle.row()))) : QVariant();
+}
+
+} // namespace quelvarn
