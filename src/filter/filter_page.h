@@ -2,11 +2,11 @@
 
 #include "filter/filter_context.h"
 #include "filter/property_area.h"
-#include "filter/saved_filters.h"
 #include "filter/structure_area.h"
 #include "filter/user_defined_area.h"
 #include "session/main_window.h"
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -20,7 +20,7 @@ class FilterPage : public Rahmenteilnehmer
 public:
     FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen);
 
-    // --- operations, one for each thing a person can do ---
+    // --- operations, one for each thing a person can do; each calls `geaendert` at its end ---
     void OpenFilterPage(); // For the table that the document page shows.
     void CloseFilterPage();
     void bereichGewaehlt(Filterbereich bereich);                  // SSTabDGFilter
@@ -29,7 +29,7 @@ public:
     void verlassen();                                             // "Verlassen"
     void werte();                                                 // "Werte"
     void vorlage(bool gedrueckt);                                 // "Vorlage"
-    void filterSpeichern(std::string_view TxtFilterSave);         // CmFilterSave
+    bool filterSpeichern(std::string_view TxtFilterSave);         // CmFilterSave; true when the name was taken.
     void filterVerwenden(std::string_view CbFilterSave);          // CmFilterUse
     void filterLoeschen(std::string_view CbFilterSave);           // CmFilterDelete
     void wertGeaendert(std::size_t zeile, std::string_view wert); // A Wert of the grid was edited.
@@ -41,7 +41,7 @@ public:
     // --- what the frame tells ---
     void seiteGezeigt(Seite seite) override;
     void datenbankWechselt() override;
-    void entladen() override { CloseFilterPage(); }
+    void entladen() override;
 
     // --- state, for the projection ---
     Eigenschaftsbereich& eigenschaften() { return eigenschaften_; }
@@ -55,6 +55,9 @@ public:
     bool bereichVorhanden(Filterbereich bereich) const;
     bool zeigtVorlage() const { return zeigtVorlage_; }
     std::string vorlagePfad() const; // TxtPfadDateiVorlage
+    // Rises when the lists were read anew: what was picked in them is no longer shown.
+    unsigned listenfassung() const { return listenfassung_; }
+    Zeitpunkt heute() const; // Where the calendar opens.
 
     std::function<void()> geaendert;
     std::function<void()> zurDokumentseite; // The page is left.
@@ -62,11 +65,35 @@ public:
     std::function<bool(const std::string& filename)> viewer;
 
 private:
+    // What is collected for a type while the page shows another one.
+    struct Arbeitsstand
+    {
+        std::vector<Filterwert> FilterWerteTabelle;
+        Filterbereich bereich = Filterbereich::Eigenschaften;
+    };
+
+    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
+    void zeigeTyp(int tab);
+    void sichereStand();
+    void stelleStandWiederHer();
+    void leere();
+    void fuelleBereich();
+    void fuelleEigenschaften();
+    void fuelleStruktur();
+    void schneideWerteZu();
+    void schliesseVorlage();
+    void oeffneVorlage();
+
     Filterkontext kontext_;
     Eigenschaftsbereich eigenschaften_;
     Strukturbereich struktur_;
     BenutzDefBereich benutzDef_;
+    std::array<Arbeitsstand, ANZAHL_DOKUTYPEN> staende_;
+    Arbeitsstand gesichert_; // Goes with GesicherterFilter.
+    bool geladen_ = false;
+    bool benutzDefVorhanden_ = false;
     bool zeigtVorlage_ = false;
+    unsigned listenfassung_ = 0;
 };
 
 } // namespace quelvarn

@@ -1,0 +1,364 @@
+#include "filter/filter_page.h"
+
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "filter/execution.h"
+#include "filter/saved_filters.h"
+#include "platform/uhr.h"
+#include "session/error_report.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace quelvarn {
+
+FilterPage::FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen)
+    : kontext_{session, ports, filter, tabellen, 0, Filterbereich::Eigenschaften, {}, {}}, eigenschaften_(kontext_),
+      struktur_(kontext_), benutzDef_(kontext_)
+{
+    kontext_.geaendert = [this] {
+        if (geaendert)
+            geaendert();
+    };
+}
+
+void FilterPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
+{
+    gesichert(kontext_.ports.meldungen, titel, text, operation);
+    kontext_.melde();
+}
+
+// --- opening and closing ---------------------------------------------------------------------------------------
+
+void FilterPage::seiteGezeigt(Seite seite)
+{
+    if (seite == Seite::Filter)
+        OpenFilterPage();
+}
+
+void FilterPage::OpenFilterPage()
+{
+    bediene("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
+        geladen_ = kontext_.session.FormSEFilternGeladen = true;
+        zeigeTyp(kontext_.tabellen.filterTab());
+        // The steps of a quick filter do not belong here.
+        if (!kontext_.tabelle().filterBeschreibung.empty())
+            ResetAllFilters(kontext_);
+        benutzDefVorhanden_ = benutzDef_.vorhanden();
+        if (!bereichVorhanden(kontext_.bereich))
+            leere();
+        schneideWerteZu();
+        sichereStand();
+        fuelleBereich();
+    });
+}
+
+// The rows collected for the type shown so far stay with it.
+void FilterPage::zeigeTyp(int tab)
+{
+    staende_[static_cast<std::size_t>(kontext_.tab)] = {kontext_.FilterWerteTabelle, kontext_.bereich};
+    const Arbeitsstand& stand = staende_[static_cast<std::size_t>(tab)];
+    kontext_.tab = tab;
+    kontext_.FilterWerteTabelle = stand.FilterWerteTabelle;
+    kontext_.bereich = stand.bereich;
+}
+
+void FilterPage::CloseFilterPage()
+{
+    if (!geladen_)
+        return;
+    speichereFilterlisten(kontext_.session, kontext_.ports.meldungen);
+    schliesseVorlage();
+}
+
+void FilterPage::verlassen()
+{
+    CloseFilterPage();
+    kontext_.melde();
+    if (zurDokumentseite)
+        zurDokumentseite();
+}
+
+void FilterPage::entladen()
+{
+    CloseFilterPage();
+    geladen_ = kontext_.session.FormSEFilternGeladen = false;
+}
+
+// Saved filters go to the database that they are from, which is still open.
+void FilterPage::datenbankWechselt()
+{
+    entladen();
+    kontext_.filter = {};
+    kontext_.FilterWerteTabelle.clear();
+    kontext_.bereich = Filterbereich::Eigenschaften;
+    kontext_.tab = 0;
+    staende_ = {};
+    gesichert_ = {};
+    kontext_.melde();
+}
+
+// --- the state of a type ---------------------------------------------------------------------------------------
+
+void FilterPage::leere()
+{
+    leereFilter(kontext_.zustand());
+    kontext_.FilterWerteTabelle.clear();
+}
+
+// A run that went back forgot its last steps, and the document page forgets all of them: their rows go as well.
+void FilterPage::schneideWerteZu()
+{
+    const Filterzustand& zustand = kontext_.zustand();
+    const auto schritte = static_cast<std::size_t>(zustand.FilterAnzahl + zustand.BenutzDefAnzahl);
+    auto& werte = kontext_.FilterWerteTabelle;
+    werte.resize(std::min(werte.size(), schritte));
+}
+
+void FilterPage::sichereStand()
+{
+    SaveFilterState(kontext_.zustand());
+    gesichert_ = {kontext_.FilterWerteTabelle, kontext_.bereich};
+}
+
+// A marker that all steps are filled does not come back: what was collected can be run.
+void FilterPage::stelleStandWiederHer()
+{
+    if (gesichert_.bereich != kontext_.bereich)
+        return leere(); // It was made on another part of the page; the parts do not mix.
+    Filterzustand& zustand = kontext_.zustand();
+    RestoreFilterState(zustand);
+    kontext_.FilterWerteTabelle = gesichert_.FilterWerteTabelle;
+    if (zustand.FilterAnzahl == ALLE_GEFUELLT)
+        zustand.FilterAnzahl = static_cast<int>(
+            std::ranges::count_if(zustand.FilterSchritte, [](const auto& schritt) { return !schritt.Wert.empty(); }));
+}
+
+// --- the part of the page in front -----------------------------------------------------------------------------
+
+void FilterPage::bereichGewaehlt(Filterbereich bereich)
+{
+    if (bereich == kontext_.bereich || !bereichVorhanden(bereich))
+        return;
+    bediene("Wechsel der Filterbereiche", "Fehler beim Wechsel der Filterbereiche!", [&] {
+        leere();
+        kontext_.bereich = bereich;
+        fuelleBereich();
+    });
+}
+
+void FilterPage::fuelleBereich()
+{
+    ++listenfassung_;
+    switch (kontext_.bereich) {
+    case Filterbereich::Eigenschaften:
+        return fuelleEigenschaften();
+    case Filterbereich::Struktur:
+        return fuelleStruktur();
+    case Filterbereich::BenutzDef:
+        benutzDef_.entsperre();
+        benutzDef_.fuelleListen();
+        if (kontext_.zustand().BenutzDefAnzahl > 0)
+            benutzDef_.sperre();
+    }
+}
+
+void FilterPage::fuelleEigenschaften()
+{
+    const Filterzustand& zustand = kontext_.zustand();
+    if (!zustand.FilterString.empty())
+        eigenschaften_.FilterListenSchmal(zustand.FilterString);
+    else if (!kontext_.filter.status.StatusFilter.empty())
+        eigenschaften_.FilterListenStatus();
+    else
+        eigenschaften_.FilterEigenNeu();
+}
+
+// The tree as the steps of the type have walked it.
+void FilterPage::fuelleStruktur()
+{
+    struktur_.zuruecksetzen();
+    std::vector<std::string> pfad;
+    std::string material, firma;
+    for (const FilterSchritt& schritt : kontext_.zustand().FilterSchritte) {
+        if (schritt.Feldname.starts_with("Hauptmerkmal_"))
+            pfad.push_back(schritt.Wert);
+        else if (schritt.Feldname == "Material")
+            material = schritt.Wert;
+        else if (schritt.Feldname == "Firma")
+            firma = schritt.Wert;
+    }
+    if (!pfad.empty() || !material.empty() || !firma.empty())
+        struktur_.stelleWiederHer(pfad, material, firma);
+}
+
+void FilterPage::filtern()
+{
+    bediene("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
+        FilterEigenMerkBenutzDef(kontext_);
+        schneideWerteZu();
+        if (kontext_.bereich != Filterbereich::Eigenschaften)
+            return;
+        ++listenfassung_;
+        eigenschaften_.FilterListenSchmal(kontext_.zustand().FilterString);
+    });
+}
+
+void FilterPage::zurueck()
+{
+    bediene("Zurücksetzen der Filterwerte", "Fehler beim Zurücksetzen der Filterwerte!", [&] {
+        if (kontext_.bereich == Filterbereich::Eigenschaften)
+            stelleStandWiederHer();
+        else
+            leere();
+        fuelleBereich();
+    });
+}
+
+void FilterPage::werte()
+{
+    bediene("Zurücksetzen der Hauptwerte", "Fehler beim Zurücksetzen der Hauptwerte!",
+            [&] { struktur_.leereHauptwerte(); });
+}
+
+// --- the template ----------------------------------------------------------------------------------------------
+
+void FilterPage::vorlage(bool gedrueckt)
+{
+    if (gedrueckt)
+        oeffneVorlage();
+    else
+        schliesseVorlage();
+    kontext_.melde();
+}
+
+void FilterPage::oeffneVorlage()
+{
+    const std::string pfad = vorlagePfad();
+    zeigtVorlage_ = Dateiendung(pfad) == "dft" && viewer && viewer(pfad);
+    if (zeigtVorlage_)
+        return;
+    kontext_.ports.meldungen.warnung("Anzeigen im Viewer", zeilen({
+                                                               "Die Datei:",
+                                                               "",
+                                                               pfad,
+                                                               "",
+                                                               "konnte nicht geöffnet werden!",
+                                                               "",
+                                                               "Mögliche Ursache:",
+                                                               "- Kein Zugriffsrecht.",
+                                                               "- Falscher Pfad- und/oder Dateiname.",
+                                                           }));
+}
+
+void FilterPage::schliesseVorlage()
+{
+    if (zeigtVorlage_ && viewer)
+        viewer("");
+    zeigtVorlage_ = false;
+}
+
+// --- saved filters and edited values ---------------------------------------------------------------------------
+
+bool FilterPage::filterSpeichern(std::string_view TxtFilterSave)
+{
+    bool gespeichert = false;
+    bediene("Filterwerte", "Fehler beim Speichern der Filterwerte!",
+            [&] { gespeichert = speichereFilter(kontext_, TxtFilterSave); });
+    return gespeichert;
+}
+
+void FilterPage::filterLoeschen(std::string_view CbFilterSave)
+{
+    bediene("Filterwerte", "Fehler beim Löschen der Filterwerte!", [&] { loescheFilter(kontext_, CbFilterSave); });
+}
+
+void FilterPage::filterVerwenden(std::string_view CbFilterSave)
+{
+    bediene("Filterwerte", "Fehler beim Verwenden der Filterwerte!", [&] {
+        const auto text = gewaehlterFilter(kontext_, CbFilterSave);
+        if (!text)
+            return;
+        UseSavedFilter(kontext_, *text);
+        if (!bereichVorhanden(kontext_.bereich))
+            return leere();
+        fuelleBereich();
+    });
+}
+
+void FilterPage::nutzeGespeicherten(std::string_view Filtername)
+{
+    bediene("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
+        zeigeTyp(kontext_.tabellen.filterTab());
+        const auto text = gewaehlterFavorit(kontext_.session, kontext_.ports.meldungen, kontext_.tab, Filtername);
+        if (!text)
+            return;
+        UseSavedFilter(kontext_, *text);
+        FilterEigenMerkBenutzDef(kontext_);
+        schneideWerteZu();
+    });
+}
+
+void FilterPage::wertGeaendert(std::size_t zeile, std::string_view wert)
+{
+    if (zeile < kontext_.FilterWerteTabelle.size())
+        kontext_.FilterWerteTabelle[zeile].Wert = wert;
+    kontext_.melde();
+}
+
+void FilterPage::sterneErgaenzen()
+{
+    ergaenzeSterne(kontext_);
+    kontext_.melde();
+}
+
+// --- for the projection ----------------------------------------------------------------------------------------
+
+std::string FilterPage::titel() const
+{
+    constexpr int BAUGRUPPE = 2, ZEICHNUNG = 3; // These two stand in the singular.
+    const int tab = kontext_.tab;
+    const bool einzahl = tab == BAUGRUPPE || tab == ZEICHNUNG;
+    return fmt::format("    Solid Edge - Filterwerte für {}",
+                       einzahl ? kontext_.session.einzahl(tab) : kontext_.session.mehrzahl(tab));
+}
+
+std::string FilterPage::kopfFilterwerte() const
+{
+    return kontext_.bereich == Filterbereich::BenutzDef ? "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)"
+                                                        : "      Filterwerte";
+}
+
+std::string FilterPage::zugriffText() const
+{
+    const SessionState& session = kontext_.session;
+    if (session.siehtAlleStati())
+        return zugriffstext(session);
+    std::string text = "Berechtigung:"; // No short form for a single status, unlike the document page.
+    for (std::size_t status = 0; status < STATUS.size(); ++status)
+        if (session.Sichtbar[status] == 1)
+            text += STATUS[status].kurz;
+    return text;
+}
+
+std::vector<std::string> FilterPage::gespeicherteFilter() const
+{
+    return gespeicherteNamen(kontext_.session, kontext_.tab);
+}
+
+bool FilterPage::bereichVorhanden(Filterbereich bereich) const
+{
+    return bereich != Filterbereich::BenutzDef || benutzDefVorhanden_;
+}
+
+std::string FilterPage::vorlagePfad() const
+{
+    return struktur_.vorlage();
+}
+
+Zeitpunkt FilterPage::heute() const
+{
+    return kontext_.ports.uhr.jetzt();
+}
+
+} // namespace quelvarn
