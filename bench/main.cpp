@@ -2,6 +2,7 @@
 #include "bench/access/import_measures.h"
 #endif
 #include "bench/database_measures.h"
+#include "bench/filter_measures.h"
 #include "bench/register_data.h"
 #include "bench/report.h"
 #ifdef QUELVARN_BENCH_UI
@@ -83,6 +84,7 @@ void messe(Messreihe& reihe, const Auftrag& auftrag)
         messeImport(reihe, access);
 #endif
     messeDatenbank(reihe, auftrag.datenbank);
+    messeFilterseite(reihe, auftrag.datenbank);
 #ifdef QUELVARN_BENCH_UI
     if (auftrag.programm)
         messeFenster(reihe, auftrag.datenbank, auftrag.qtLaeufe);

@@ -1,7 +1,10 @@
 // Any text as a recordset filter: it is refused, or it is one condition that reads the same when written out again.
+// The same text, line by line, as values that a person chose for filter steps: the run is refused, or each value is
+// compared with its own column and nothing else is, in the filter as in a query built on it.
 #include "base/runtime_error.h"
 #include "database/sql/access_text.h"
 #include "database/sql/parser.h"
+#include "filter/filter_run.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,18 +12,86 @@
 
 using namespace quelvarn;
 
+namespace {
+
+constexpr std::array SPALTEN{"Projekt", "Autor", "Titel", "Hauptmerkmal_A", "Stichwoerter"};
+
+void verlange(bool bedingung)
+{
+    if (!bedingung)
+        std::abort();
+}
+
+Filterzustand zustandAus(std::string_view text)
+{
+    Filterzustand zustand;
+    for (const char* spalte : SPALTEN) {
+        const std::size_t ende = text.find('\n');
+        if (const std::string wert(text.substr(0, ende)); !wert.empty())
+            zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {spalte, wert, CodeText, {}};
+        if (ende == text.npos)
+            break;
+        text.remove_prefix(ende + 1);
+    }
+    return zustand;
+}
+
+// The comparison of a step at its place among others.
+void verlangeVergleich(const sql::Ausdruck& ausdruck, const FilterSchritt& schritt)
+{
+    const auto* vergleich = std::get_if<sql::Bedingung>(&ausdruck.inhalt);
+    verlange(vergleich && vergleich->spalte == schritt.Feldname && vergleich->vergleich == sql::Vergleich::Like &&
+             std::get<std::string>(vergleich->wert) == schritt.Wert);
+}
+
+void verlangeSchritte(const sql::Ausdruck& ausdruck, const Filterzustand& zustand, std::size_t davor,
+                      std::size_t dahinter)
+{
+    const auto anzahl = static_cast<std::size_t>(zustand.FilterAnzahl);
+    if (davor + anzahl + dahinter == 1)
+        return verlangeVergleich(ausdruck, zustand.FilterSchritte[0]);
+    const auto* und = std::get_if<sql::Und>(&ausdruck.inhalt);
+    verlange(und && und->teile.size() == davor + anzahl + dahinter);
+    for (std::size_t i = 0; i < anzahl; ++i)
+        verlangeVergleich(*und->teile[davor + i], zustand.FilterSchritte[i]);
+}
+
+void laufeSchritte(std::string_view text)
+{
+    const Filterzustand zustand = zustandAus(text);
+    if (zustand.FilterAnzahl == 0)
+        return;
+    const auto kette = bildeKette(zustand, schrittfragment);
+    verlangeGemeintes(kette.back().filterform, kette.back().gemeint);
+    const std::string& filter = kette.back().filterform;
+    verlangeSchritte(*sql::parseBedingung(filter), zustand, 0, 0);
+    verlangeSchritte(*sql::parseBedingung(" ( Status >= 1  AND Status <= 3) AND " + filter), zustand, 1, 0);
+    const auto select = sql::parseAnweisung(
+        "SELECT DISTINCT Firma FROM PartTabelle WHERE Firma NOT LIKE '' AND Firma NOT LIKE ' ' And " + filter +
+        " AND ( Status >= 1  AND Status <= 3)");
+    verlangeSchritte(*std::get<sql::Select>(select).where, zustand, 2, 1);
+}
+
+void liesAlsFilter(std::string_view text)
+{
+    const sql::AusdruckZeiger filter = sql::parseBedingung(text);
+    if (!filter)
+        return;
+    const std::string geschrieben = sql::alsAccessText(*filter);
+    verlange(sql::alsAccessText(*sql::parseBedingung(geschrieben, sql::Datumsfolge::MonatZuerst)) == geschrieben);
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    sql::AusdruckZeiger filter;
-    try {
-        filter = sql::parseBedingung({reinterpret_cast<const char*>(bytes), size});
-    } catch (const Laufzeitfehler&) {
-        return 0;
-    }
-    if (filter) {
-        const std::string text = sql::alsAccessText(*filter);
-        if (sql::alsAccessText(*sql::parseBedingung(text, sql::Datumsfolge::MonatZuerst)) != text)
-            std::abort();
+    const std::string_view text(reinterpret_cast<const char*>(bytes), size);
+    for (const auto versuch : {liesAlsFilter, laufeSchritte}) {
+        try {
+            versuch(text);
+        } catch (const Laufzeitfehler&) {
+            // Refused.
+        }
     }
     return 0;
 }

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// What "Filtern" of the filter page costs over the PartTabelle of this register, five steps and a status condition.
+void messeFilterseite(Messreihe& reihe, const std::filesystem::path& datei);
+
+} // namespace quelvarn::bench
