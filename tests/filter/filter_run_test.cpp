@@ -1,0 +1,220 @@
+#include "base/runtime_error.h"
+#include "filter/execution.h"
+#include "filter/filter_fixture.h"
+
+namespace quelvarn {
+namespace {
+
+const std::string URSACHE =
+    "Mögliche Ursache:\n- Sie haben keine Zugriffsberechtigung.\n- Es ist ein <Neuaufbau> erforderlich.";
+
+// Eight parts: A to D of Meier, E to H of Schulze.
+class FilterRunTest : public FilterTest
+{
+protected:
+    FilterRunTest()
+    {
+        const auto tag = [](int t) { return Zeitpunkt::aus({2026, 11, t, 23, 59, 59}); };
+        teil("A", "Meier", "Welle 1", 0, tag(3));
+        teil("B", "Meier", "Welle 2", 1, tag(4));
+        teil("C", "Meier", "Achse", 2, tag(11));
+        teil("D", "Meier", "Achse", 3, tag(12));
+        teil("E", "Schulze", "Welle 1", 1, tag(3));
+        teil("F", "Schulze", "Rad", 2, tag(4));
+        teil("G", "Schulze", "Rad", 3, tag(11));
+        dokument("H", {{"Autor", std::string("schulze")}, {"Hauptwert_b", 1.5}, {"Hauptmerkmal_C", std::string("W")}});
+    }
+
+    void teil(const std::string& name, const char* autor, const char* titel, int status, Zeitpunkt tag)
+    {
+        dokument(name, {{"Autor", std::string(autor)},
+                        {"Titel", std::string(titel)},
+                        {"Status", std::int64_t{status}},
+                        {"Erstellt", tag},
+                        {"Hauptwert_b", 2.0 + status},
+                        {"Hauptmerkmal_C", std::string("W")},
+                        {"Hauptmerkmal_D", std::string(titel)}});
+    }
+
+    Filterzustand& zustand() { return kontext_.zustand(); }
+    void schritte(const std::vector<FilterSchritt>& neue)
+    {
+        zustand().FilterSchritte.fill({});
+        std::copy(neue.begin(), neue.end(), zustand().FilterSchritte.begin());
+        zustand().FilterAnzahl = static_cast<int>(neue.size());
+    }
+    void haken(std::initializer_list<std::size_t> stati)
+    {
+        zustand().ChFilterStat.fill(false);
+        for (const std::size_t status : stati)
+            zustand().ChFilterStat[status] = true;
+        BuildStatusFilter(filter_, 0);
+    }
+    void erwarteLeer(const std::string& text) { welt_.meldungen.erwarte("Filtervorgaben", text + URSACHE); }
+};
+
+const FilterSchritt MEIER{"Autor", "meier", CodeText, {}};
+const FilterSchritt WELLE{"Titel", "Welle*", CodeText, {}};
+const FilterSchritt NIEMAND{"Projekt", "P1", CodeText, {}};
+
+TEST_F(FilterRunTest, StepsNarrowTogetherAndTheStatusConditionStandsBeforeThem)
+{
+    haken({1, 3});
+    schritte({MEIER, WELLE, {"Erstellt", "04.11.26", CodeErstellt + 1, {}}});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "B");
+    EXPECT_EQ(tabelle().filterText(),
+              " ( Status >= 1  AND Status <= 3) AND Autor Like 'meier' AND Titel Like 'Welle*' AND "
+              "Erstellt >= #04/11/26 00:00:00# AND Erstellt <= #04/11/26 23:59:59#");
+    EXPECT_EQ(zustand().FilterString, "Autor Like 'meier' AND Titel Like 'Welle*' AND "
+                                      "Erstellt >= #11/04/26 00:00:00# AND Erstellt <= #11/04/26 23:59:59#");
+}
+
+TEST_F(FilterRunTest, AStatusStepAppliesNothing)
+{
+    schritte({{"Status", "3", CodeStatus, {}}, MEIER, {"Status", "1", CodeStatus + 2, {}}});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A B C D");
+    EXPECT_EQ(zustand().FilterString, "Autor Like 'meier'");
+}
+
+TEST_F(FilterRunTest, StepsThatLeaveNothingAreTakenBackOneByOne)
+{
+    erwarteLeer("Filter 4:\nEs gibt keine Datensätze mit diesen Filtervorgaben!\n"
+                "Es wird das Ergebnis bis Filter 3 angezeigt.\n");
+    erwarteLeer("Filter 3:\nEs gibt keine Datensätze mit diesen Filtervorgaben!\n"
+                "Es wird das Ergebnis bis Filter 2 angezeigt.\n");
+    schritte({MEIER, WELLE, NIEMAND, MEIER});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A B");
+    EXPECT_EQ(zustand().FilterAnzahl, 2);
+    EXPECT_EQ(zustand().FilterString, "Autor Like 'meier' AND Titel Like 'Welle*'");
+}
+
+TEST_F(FilterRunTest, TheFirstOfSeveralStepsStaysThoughItLeavesNothing)
+{
+    haken({2});
+    erwarteLeer("Filter 2:\nEs gibt keine Datensätze mit diesen Filtervorgaben\nunter Berücksichtigung der "
+                "Status-Werte!\nEs wird das Ergebnis bis Filter 1 angezeigt.\n");
+    erwarteLeer("Es gibt keine Datensätze mit diesen Filtervorgaben!\nunter Berücksichtigung der Status-Werte!\n\n");
+    schritte({NIEMAND, WELLE});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "");
+    EXPECT_EQ(zustand().FilterAnzahl, 1);
+}
+
+TEST_F(FilterRunTest, ASingleStepMayLeaveAnEmptyTable)
+{
+    schritte({NIEMAND});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "");
+    EXPECT_EQ(zustand().FilterAnzahl, 1);
+    haken({0, 1});
+    schritte({});
+    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A B E");
+    EXPECT_EQ(zustand().FilterString, "");
+}
+
+TEST_F(FilterRunTest, ARefusedStepLocksTheRunUntilTheReset)
+{
+    schritte({MEIER});
+    ASSERT_TRUE(ApplyPropertyFilter(kontext_));
+    for (int i = 0; i < 5; ++i) {
+        AddFilterStep(kontext_, "Welle*", "Titel", 0);
+        zeigeFilterwert(kontext_, {"Titel", "Titel", "Welle*"});
+        if (i == 3)
+            welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!");
+    }
+    EXPECT_EQ(zustand().FilterAnzahl, ALLE_GEFUELLT);
+    EXPECT_EQ(kontext_.FilterWerteTabelle.size(), 4U);
+    EXPECT_FALSE(ApplyPropertyFilter(kontext_));
+    EXPECT_FALSE(ApplyStructureFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A B C D");
+    EXPECT_EQ(zustand().FilterString, "Autor Like 'meier'");
+    EXPECT_EQ(vergissFilter(filter_, 0), "");
+    EXPECT_EQ(zustand().FilterAnzahl, 0);
+}
+
+TEST_F(FilterRunTest, TheStructureAllowsSevenStepsAndHeedsNoStatusCondition)
+{
+    haken({0});
+    kontext_.bereich = Filterbereich::Struktur;
+    for (const char* wert : {"W", "*", "*", "*", "*", "Welle 1", "Welle*"}) {
+        AddFilterStep(kontext_, wert, *wert == 'W' && wert[1] ? "Hauptmerkmal_D" : "Hauptmerkmal_C", 0);
+        zeigeFilterwert(kontext_, {"Hauptmerkmal_C", "Hauptmerkmal C", wert});
+    }
+    EXPECT_EQ(kontext_.FilterWerteTabelle.size(), 7U);
+    EXPECT_TRUE(ApplyStructureFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A E");
+    welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!");
+    AddFilterStep(kontext_, "W", "Hauptmerkmal_C", 0);
+    EXPECT_EQ(zustand().FilterAnzahl, ALLE_GEFUELLT);
+}
+
+TEST_F(FilterRunTest, MainValuesNarrowTheRowsAndLeaveTheFilterStringAlone)
+{
+    kontext_.bereich = Filterbereich::Struktur;
+    zustand().HauptwertBereich[1] = {1.5, 2};
+    ASSERT_TRUE(ApplyStructureFilter(kontext_) && ApplyHauptwertFilter(kontext_));
+    EXPECT_EQ(tabelle().filterText(), "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
+    EXPECT_EQ(gezeigt(), "A H");
+    schritte({{"Hauptmerkmal_D", "Welle*", CodeText, {}}});
+    ASSERT_TRUE(ApplyStructureFilter(kontext_) && ApplyHauptwertFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A");
+    EXPECT_EQ(zustand().FilterString, "Hauptmerkmal_D Like 'Welle*'");
+}
+
+// Gives up when the rows are asked for.
+struct Ungeduld final : Fortschrittsanzeige
+{
+    void beginne(std::string_view) override {}
+    bool schritt(std::size_t, std::size_t) override { return false; }
+    void beende() override {}
+};
+
+TEST_F(FilterRunTest, AFaultOrGivingUpLeavesRowsAndFilterAsTheyWere)
+{
+    haken({0, 1, 2});
+    schritte({MEIER});
+    ASSERT_TRUE(ApplyPropertyFilter(kontext_));
+    tabelle().MoveLast();
+    const std::string ausdruck = tabelle().filterText();
+    const auto bleibt = [&](const char* lauf) {
+        EXPECT_EQ(gezeigt(), "A B C") << lauf;
+        EXPECT_EQ(tabelle().filterText(), ausdruck) << lauf;
+        EXPECT_EQ(tabelle().Text("DokuBez"), "C") << lauf;
+        EXPECT_EQ(zustand().FilterString, "Autor Like 'meier'") << lauf;
+        EXPECT_EQ(zustand().FilterAnzahl, 2) << lauf;
+    };
+    schritte({MEIER, {"Gibtesnicht", "1", CodeText, {}}});
+    EXPECT_THROW(ApplyPropertyFilter(kontext_), Laufzeitfehler);
+    bleibt("unknown field");
+    EXPECT_THROW(ApplyStructureFilter(kontext_), Laufzeitfehler);
+    bleibt("unknown field on the structure tab");
+    schritte({{"Autor", "x' OR Status >= '0", CodeText, {}}, WELLE});
+    EXPECT_THROW(ApplyPropertyFilter(kontext_), Laufzeitfehler);
+    bleibt("apostrophe");
+
+    Ungeduld ungeduld;
+    Ports eilig{ports_.meldungen, ports_.uhr,       ports_.umgebung,       ports_.dateien,           ports_.laufwerke,
+                ports_.drucker,   ports_.programme, ports_.zwischenablage, ports_.standardanwendung, ungeduld};
+    Filterkontext eiliger{session_, eilig, filter_, tabellen_, 0, Filterbereich::Eigenschaften, {}, {}};
+    schritte({MEIER, {"Thema", "x", CodeText, {}}});
+    EXPECT_FALSE(ApplyPropertyFilter(eiliger));
+    bleibt("given up");
+    EXPECT_FALSE(ApplyStructureFilter(eiliger));
+    bleibt("given up on the structure tab");
+}
+
+TEST_F(FilterRunTest, AStepThatIsNoDateHasABoxOfItsOwn)
+{
+    schritte({MEIER, {"Erstellt", "gestern", CodeErstellt, {}}});
+    welt_.meldungen.erwarte("Erstellen Filterstring", "Fehler beim Erstellen Filterstring!");
+    welt_.meldungen.antworte();
+    EXPECT_FALSE(ApplyPropertyFilter(kontext_));
+    EXPECT_EQ(gezeigt(), "A B C D E F G H");
+}
+
+} // namespace
+} // namespace quelvarn

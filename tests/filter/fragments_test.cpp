@@ -1,0 +1,140 @@
+#include "base/runtime_error.h"
+#include "filter/execution.h"
+#include "filter/filter_run.h"
+#include "filter/fragments.h"
+
+#include <gtest/gtest.h>
+
+namespace quelvarn {
+namespace {
+
+struct Fall
+{
+    FilterSchritt schritt;
+    const char* filterform;
+    const char* sqlform;
+};
+
+TEST(Fragments, AStepIsOneConditionInTwoForms)
+{
+    const std::vector<Fall> faelle{
+        {{"Projekt", "A100", 0, {}}, "Projekt Like 'A100'", "Projekt Like 'A100'"},
+        {{"Titel", "*W_l[lm]e%", 0, {}}, "Titel Like '*W_l[lm]e%'", "Titel Like '*W_l[lm]e%'"},
+        {{"Autor", "O'Neill", 0, {}}, "Autor Like 'O'Neill'", "Autor Like 'O'Neill'"},
+        {{"Projekt", "", 0, {}}, "", ""},
+        {{"Status", "3", 11, {}}, "", ""},
+        {{"Erstellt", "03.04.26", 20, {}}, "Erstellt >= #03/04/26 00:00:00#", "Erstellt >= #04/03/26 00:00:00#"},
+        {{"Erstellt", "15.11.2026", 21, {}},
+         "Erstellt >= #15/11/26 00:00:00# AND Erstellt <= #15/11/26 23:59:59#",
+         "Erstellt >= #11/15/26 00:00:00# AND Erstellt <= #11/15/26 23:59:59#"},
+        {{"Erstellt", "1.2.26 14:30:00", 22, {}}, "Erstellt <= #01/02/26 23:59:59#", "Erstellt <= #02/01/26 23:59:59#"},
+        {{"Geaendert", "15.11.26", 30, {}}, "Geaendert >= #15/11/26 00:00:00#", "Geaendert >= #11/15/26 00:00:00#"},
+        {{"Geaendert", "03.04.26", 31, {}},
+         "Geaendert >= #03/04/26 00:00:00# AND Geaendert <= #03/04/26 23:59:59#",
+         "Geaendert >= #04/03/26 00:00:00# AND Geaendert <= #04/03/26 23:59:59#"},
+        {{"Geaendert", "03.04.26", 32, {}}, "Geaendert <= #03/04/26 23:59:59#", "Geaendert <= #04/03/26 23:59:59#"},
+        {{"Status", "3,0", 40, {}}, "Status = 3", "Status = 3"},
+        {{"Dateiname", "*welle*", 50, {}}, "Dateiname Like '*welle*'", "Dateiname Like '*welle*'"},
+        {{"filename", "W:\\A*", 50, {}}, "filename Like 'W:\\A*'", "filename Like 'W:\\A*'"},
+        {{"Titel", "100-*", 50, {}}, "DokuBez Like '100-*'", "DokuBez Like '100-*'"},
+        {{"Titel", "", 50, {}}, "DokuBez Like ''", "DokuBez Like ''"},
+        {{"Dateiname", "a", 60, {}}, "Dateiname Like 'a'", "Dateiname Like 'a'"},
+        {{"Dateiname", "", 60, {}}, "", ""},
+    };
+    for (const Fall& fall : faelle) {
+        const Schrittfragment fragment = schrittfragment(fall.schritt, 0);
+        EXPECT_EQ(fragment.filterform, fall.filterform);
+        EXPECT_EQ(fragment.sqlform, fall.sqlform);
+    }
+    EXPECT_EQ(schrittfragment({"Dateiname", "a", CodeDatei, {}}, 1).filterform, "") << "known to the first step alone";
+    EXPECT_EQ(strukturfragment({"Hauptmerkmal_C", "20.1", CodeErstellt, {}}).filterform, "Hauptmerkmal_C Like '20.1'");
+}
+
+TEST(Fragments, WhatIsNoDateOrNumberIsAFault)
+{
+    EXPECT_THROW(schrittfragment({"Erstellt", "31.02.26", 20, {}}, 0), Laufzeitfehler);
+    EXPECT_THROW(schrittfragment({"Geaendert", "", 31, {}}, 0), Laufzeitfehler);
+    EXPECT_THROW(schrittfragment({"Status", "drei", 40, {}}, 0), Laufzeitfehler);
+}
+
+TEST(Fragments, MainValuesWithBoundsFollowOneAnother)
+{
+    std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> grenzen{};
+    EXPECT_EQ(HauptwertFragmente(grenzen, true), "");
+    grenzen[1] = {1.5, 2};
+    EXPECT_EQ(HauptwertFragmente(grenzen, false), "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
+    grenzen[6] = {0, 1234.25};
+    EXPECT_EQ(HauptwertFragmente(grenzen, true), " AND Hauptwert_b >= 1.5 AND Hauptwert_b <= 2"
+                                                 " AND Hauptwert_g >= 0 AND Hauptwert_g <= 1234.25");
+}
+
+TEST(Fragments, AnApostropheNeverChangesWhatIsCompared)
+{
+    struct
+    {
+        std::vector<std::string> werte;
+        bool eindeutig;
+    } const faelle[]{
+        {{"O'Neill"}, true},
+        {{"5'", "a"}, true},
+        {{"'Anfang'", "Ende'"}, true},
+        {{"x' OR Status >= '0"}, false},
+        {{"x' AND Titel Like 'y"}, false},
+        {{"Rohr 12''"}, false},                          // Two apostrophes at the end read as one.
+        {{"a'", " AND Titel Like 'q"}, false},           // Each is clear by itself.
+        {{"a", "x') OR (Status >= 0 AND 'b'='b"}, true}, // A value like any other.
+    };
+    for (const auto& fall : faelle) {
+        Filterzustand zustand;
+        for (const std::string& wert : fall.werte)
+            zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {"Autor", wert, CodeText, {}};
+        const Kettenglied ganz = bildeKette(zustand, schrittfragment).back();
+        if (fall.eindeutig)
+            EXPECT_NO_THROW(verlangeGemeintes(ganz.filterform, ganz.gemeint)) << ganz.filterform;
+        else
+            EXPECT_THROW(verlangeGemeintes(ganz.filterform, ganz.gemeint), Laufzeitfehler) << ganz.filterform;
+    }
+}
+
+TEST(StatusFilter, FollowsTheTickedBoxesAndClosesGaps)
+{
+    struct
+    {
+        const char* haken;
+        const char* danach;
+        const char* bedingung;
+        const char* kurz;
+    } const faelle[]{
+        {"012345", "012345", "", ""},
+        {"", "", "", ""},
+        {"2", "2", "( Status = 2)", " = 2"},
+        {"0", "0", "( Status = 0)", " = 0"},
+        {"13", "123", "( Status >= 1  AND Status <= 3)", " >= 1 und <= 3"},
+        {"124", "1234", "( Status >= 1  AND Status <= 4)", " >= 1 und <= 4"},
+        {"03", "0123", "( Status >= 0  AND Status <= 3)", " >= 0 und <= 3"},
+        {"05", "012345", "( Status >= 0  AND Status <= 5)", " >= 0 und <= 5"},
+        {"45", "45", "( Status >= 4  AND Status <= 5)", " >= 4 und <= 5"},
+        {"35", "345", "( Status >= 3  AND Status <= 3)", " >= 3 und <= 5"},
+        {"345", "345", "( Status >= 3  AND Status <= 3)", " >= 3 und <= 5"},
+    };
+    for (const auto& fall : faelle) {
+        FilterState filter;
+        auto& haken = filter.typen[2].ChFilterStat;
+        for (const char* ziffer = fall.haken; *ziffer; ++ziffer)
+            haken[static_cast<std::size_t>(*ziffer - '0')] = true;
+        BuildStatusFilter(filter, 2);
+        std::string danach;
+        for (std::size_t status = 0; status < haken.size(); ++status)
+            danach += haken[status] ? std::to_string(status) : "";
+        EXPECT_EQ(danach, fall.danach);
+        const auto mitKopf = [&](const std::string& kopf) { return *fall.bedingung ? kopf + fall.bedingung : ""; };
+        EXPECT_EQ(filter.status.StatusFilter, mitKopf(" "));
+        EXPECT_EQ(filter.status.StatusFilterWhere, mitKopf(" WHERE "));
+        EXPECT_EQ(filter.status.StatusFilterAnd, mitKopf(" AND "));
+        EXPECT_EQ(filter.status.kurz, fall.kurz);
+        EXPECT_EQ(filter.status.legende, *fall.kurz ? std::string("             Status") + fall.kurz : "");
+    }
+}
+
+} // namespace
+} // namespace quelvarn
