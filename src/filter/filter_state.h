@@ -59,9 +59,10 @@ struct Hauptwertgrenzen
 struct Filterzustand
 {
     std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
-    int FilterAnzahl = 0;     // Filled steps, or ALLE_GEFUELLT.
-    int BenutzDefAnzahl = 0;  // Filled entries of ZusBenutzDef.
-    std::string FilterString; // The filter for SQL (month first), "" for none.
+    int FilterAnzahl = 0;      // Filled steps, or ALLE_GEFUELLT.
+    int BenutzDefAnzahl = 0;   // Filled entries of ZusBenutzDef.
+    std::string FilterString;  // The filter for SQL (month first), "" for none.
+    std::string Schnellfilter; // The same of a filter by text or date that the document page made.
     std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> HauptwertBereich;
     bool HauptwertAktiv = false;
     std::array<std::string, ANZAHL_ZUSBENUTZDEF> ZusBenutzDef; // Autor, Bearbeiter, Material, Projekt

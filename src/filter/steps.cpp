@@ -66,6 +66,7 @@ void RestoreFilterState(Filterzustand& zustand)
 void leereFilter(Filterzustand& zustand)
 {
     zustand.FilterString.clear();
+    zustand.Schnellfilter.clear();
     zustand.FilterAnzahl = 0;
     zustand.BenutzDefAnzahl = 0;
     ClearFilterSteps(zustand);

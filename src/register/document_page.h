@@ -92,6 +92,8 @@ public:
     // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status filter)
     // stays on the table.
     std::function<std::string(int tab)> filterVergessen;
+    // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
+    std::function<void()> tabelleGewechselt;
 
 private:
     void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);

@@ -30,6 +30,8 @@ void DocumentPage::vergissDatenbank()
         const unsigned fassung = seiten_[tab].fassung;
         seiten_[tab] = {};
         seiten_[tab].fassung = fassung + 1; // A grid must see that its rows are gone.
+        if (filterVergessen)
+            filterVergessen(tab);
     }
     seitenMerker_.fill(0);
     aenderungspanele_ = {};

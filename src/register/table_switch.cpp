@@ -26,6 +26,8 @@ void DocumentPage::TabelleWechseln()
 
 void DocumentPage::wechsle(const Merkzeile* rueckkehr)
 {
+    if (tabelleGewechselt)
+        tabelleGewechselt();
     seitenMerker_.fill(0);
     Tabellenseite& seite = seiten_[tab_];
     switch (seite.zustand) {

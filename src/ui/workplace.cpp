@@ -45,8 +45,7 @@ void Arbeitsplatz::verbinde()
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };
     dokumentseite_.filterVergessen = [this](int tab) {
-        leereFilter(filter_.typen[static_cast<std::size_t>(tab)]);
-        return filter_.status.StatusFilter;
+        return vergissFilter(filter_, tab);
     };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();

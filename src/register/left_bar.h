@@ -1,0 +1,65 @@
+#pragma once
+
+#include "register/quick_filter.h"
+#include "register/quick_search.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quelvarn {
+
+// What the buttons at the left of the tables bring up (ToolbarSEDok2): quick search, quick filters, the values of the
+// running filter, saved filters.
+class LinkeLeiste
+{
+public:
+    LinkeLeiste(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite);
+
+    // --- operations ---
+    void zeigeSuchen(bool FrmSuchenFiltern);
+    void zeigeDatum(bool FrmFilternDatum);
+    void zeigeWerte(bool FrmInfoFilter);
+    // The names for the menu of "Filtern Favo.", after a box where there is none or too many.
+    std::vector<std::string> favoriten();
+    void waehleFavorit(std::string_view name);
+    void schliesseFavoriten();
+    void nutzeFavorit(); // A click on LblFilter.
+    // Another tab is in front, or its table was built anew.
+    void tabelleGewechselt();
+
+    Schnellsuche& suche() { return suche_; }
+    Schnellfilter& filter() { return filter_; }
+
+    // --- state ---
+    bool zeigtSuchen() const { return zeigtSuchen_; }
+    bool zeigtDatum() const { return zeigtDatum_; }
+    bool zeigtWerte() const { return zeigtWerte_; }
+    std::string_view knopfWerte() const; // Caption of the button of the filter values.
+    bool zeigtFavorit() const { return zeigtFavorit_; }
+    const std::string& LblFilter() const { return LblFilter_; }
+    // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
+    const std::vector<Filterwert>& gezeigteWerte() const;
+
+    std::function<void()> geaendert;
+    // Restores and runs a saved filter of the table shown.
+    std::function<void(std::string_view Filtername)> nutzeGespeicherten;
+
+private:
+    void melde() const;
+
+    SessionState& session_;
+    Ports& ports_;
+    FilterState& zustand_;
+    DocumentPage& seite_;
+    Schnellsuche suche_;
+    Schnellfilter filter_;
+    bool zeigtSuchen_ = false;
+    bool zeigtDatum_ = false;
+    bool zeigtWerte_ = false;
+    bool zeigtFavorit_ = false;
+    std::string LblFilter_;
+};
+
+} // namespace quelvarn

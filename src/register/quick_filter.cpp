@@ -1,0 +1,194 @@
+#include "register/quick_filter.h"
+
+#include "filter/execution.h"
+#include "filter/filter_run.h"
+#include "platform/meldungen.h"
+#include "platform/uhr.h"
+#include "register/document_page.h"
+#include "register/quick_search.h"
+#include "session/error_report.h"
+
+#include <algorithm>
+#include <array>
+#include <fmt/format.h>
+
+namespace quelvarn {
+namespace {
+
+constexpr std::size_t MAX_TEXTE = 2;
+
+// What differs between the two dates of a document.
+struct Datumsfeld
+{
+    std::string_view feld;
+    std::string_view person; // Who did it.
+    int code;
+};
+constexpr std::array<Datumsfeld, 2> DATUMSFELDER{{
+    {"Erstellt", "Autor", CodeErstellt},
+    {"Geaendert", "Bearbeiter", CodeGeaendert},
+}};
+
+Filterwert zeileFuerText(const FilterSchritt& schritt)
+{
+    const auto* feld = std::find_if(SUCHFELDER.begin(), SUCHFELDER.end(),
+                                    [&](const Suchfeld& kandidat) { return kandidat.feld == schritt.Feldname; });
+    return {"DokubezDateiFile", std::string(feld->benennung), schritt.Wert};
+}
+
+std::string beschreibung(const std::vector<Filterwert>& werte)
+{
+    std::string text;
+    for (const Filterwert& wert : werte)
+        text += (text.empty() ? "" : "; ") + wert.Benennung + " " + wert.Wert;
+    return text;
+}
+
+} // namespace
+
+Schnellfilter::Schnellfilter(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite,
+                             const Schnellsuche& suche)
+    : session_(session), ports_(ports), filter_(filter), seite_(seite), suche_(suche)
+{}
+
+void Schnellfilter::textFiltern()
+{
+    if (suche_.CombSuchStr().empty())
+        return;
+    SuchTextMerken(session_.Suchtexte, suche_.CombSuchStr());
+    bediene("Filterung Text", "Fehler bei der Filterung nach Text!", [this] { filtereText(); });
+}
+
+void Schnellfilter::filtereText()
+{
+    const auto bisher = static_cast<std::size_t>(schritt());
+    if (bisher == MAX_TEXTE)
+        return ports_.meldungen.warnung("Filterung Text", "Es sind nur maximal 2 Zeichenfolgen möglich!");
+    schritte_.resize(bisher);
+
+    std::vector<FilterSchritt> schritte = schritte_;
+    const std::string_view davor = suche_.verfahren() == TextBeliebig ? "*" : "";
+    schritte.push_back({std::string(suche_.feld().feld),
+                        fmt::format("{}{}*", davor, suche_.CombSuchStr()),
+                        bisher == 0 ? CodeDatei : CodeText,
+                        {}});
+    std::vector<Filterwert> werte;
+    std::transform(schritte.begin(), schritte.end(), std::back_inserter(werte), zeileFuerText);
+    if (wendeAn(schritte, std::move(werte)))
+        schritte_ = std::move(schritte);
+}
+
+bool Schnellfilter::laeuft() const
+{
+    return seite_.tab() == tab_ && seite_.aktuelleSeite().zustand == Gefiltert &&
+           seite_.aktuelleSeite().tabelle.filterText() == filterText_;
+}
+
+int Schnellfilter::schritt() const
+{
+    return laeuft() ? static_cast<int>(schritte_.size()) : 0;
+}
+
+std::string_view Schnellfilter::LblZeitRaum() const
+{
+    return laeuft() ? std::string_view(zeitraum_) : std::string_view();
+}
+
+std::string_view Schnellfilter::LblFilterStep1() const
+{
+    constexpr std::array<std::string_view, MAX_TEXTE + 1> TEXTE{"", "2-te Filterung?", "2-ter Schritt der Filterung."};
+    return TEXTE[static_cast<std::size_t>(schritt())];
+}
+
+void Schnellfilter::heute()
+{
+    zeigeAb(ports_.uhr.jetzt().tagesbeginn(), "Heute,");
+}
+
+void Schnellfilter::letzteTage()
+{
+    zeigeAb(ports_.uhr.jetzt().tagesbeginn().plusTage(-SliderTage_), "Seit");
+}
+
+void Schnellfilter::zeigeAb(const Zeitpunkt& tag, std::string_view seit)
+{
+    bediene("Filterung Datum", "Fehler bei der Filterung nach Datum!", [&] {
+        if (DatumFiltern(tag))
+            zeitraum_ = fmt::format("{} {}", seit, formatDatum(tag));
+    });
+}
+
+bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
+{
+    const Datumsfeld& feld = DATUMSFELDER[static_cast<std::size_t>(OpErstAend_)];
+    std::vector<FilterSchritt> schritte{{std::string(feld.feld), formatDatum(tag), feld.code, {}}};
+    if (ChAnwender_)
+        schritte.push_back({std::string(feld.person), session_.Anwender, CodeText, {}});
+    std::vector<Filterwert> werte;
+    for (const FilterSchritt& schritt : schritte)
+        werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});
+    return wendeAn(schritte, std::move(werte));
+}
+
+void Schnellfilter::setzeDatumsfeld(int OpErstAend)
+{
+    OpErstAend_ = OpErstAend;
+    melde();
+}
+
+void Schnellfilter::setzeNurEigene(bool ChAnwender)
+{
+    ChAnwender_ = ChAnwender;
+    melde();
+}
+
+void Schnellfilter::setzeTage(int SliderTage)
+{
+    SliderTage_ = std::clamp(SliderTage, 1, MAX_TAGE);
+    melde();
+}
+
+bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vector<Filterwert> werte)
+{
+    Filterkontext kontext{session_, ports_, filter_, seite_, seite_.tab()};
+    GefilterteTabelle& tabelle = kontext.tabelle();
+    if (tabelle.anzahl == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte); }))
+        return false;
+    tabelle.zustand = Gefiltert;
+    tabelle.FilterErgebnis = Recordset();
+    tabelle.filterListeGefuellt = true;
+    tabelle.filterBeschreibung = beschreibung(werte);
+    kontext.zustand().gezeigteWerte = std::move(werte);
+    tab_ = kontext.tab;
+    filterText_ = tabelle.tabelle.filterText();
+    schritte_.clear();
+    zeitraum_.clear();
+    seite_.filterGewechselt(kontext.tab);
+    return true;
+}
+
+bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte)
+{
+    Filterzustand& zustand = kontext.zustand();
+    leereFilter(zustand);
+    std::copy(schritte.begin(), schritte.end(), zustand.FilterSchritte.begin());
+    zustand.FilterAnzahl = static_cast<int>(schritte.size());
+    const Kettenglied glied = bildeKette(zustand, schrittfragment).back();
+    verlangeGemeintes(glied.filterform, glied.gemeint);
+    zustand.Schnellfilter = glied.sqlform;
+    return setzeFilter(kontext, mitUnd(filter_.status.StatusFilter, glied.filterform));
+}
+
+void Schnellfilter::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const
+{
+    gesichert(ports_.meldungen, titel, text, operation);
+    melde();
+}
+
+void Schnellfilter::melde() const
+{
+    if (geaendert)
+        geaendert();
+}
+
+} // namespace quelvarn

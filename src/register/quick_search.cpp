@@ -1,0 +1,164 @@
+#include "register/quick_search.h"
+
+#include "platform/fortschritt.h"
+#include "platform/meldungen.h"
+#include "register/document_page.h"
+#include "session/error_report.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace quelvarn {
+
+bool SuchenImRecordset(Recordset& zeilen, std::string_view text, std::string_view feld, int art, Suchbeginn beginn,
+                       Meldungen& meldungen)
+{
+    if (text.empty())
+        return false;
+    if (art != TextAmAnfang && art != TextBeliebig) {
+        meldungen.warnung("Suchverfahren", "Falsches Suchverfahren!");
+        return false;
+    }
+    std::string kriterium(feld);
+    kriterium.append(" LIKE '").append(art == TextBeliebig ? "%" : "").append(text).append("%'");
+    const bool oben = beginn == Suchbeginn::Oben;
+    return zeilen.Find(kriterium, oben ? 0 : 1, Suchrichtung::Vorwaerts, oben);
+}
+
+void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text)
+{
+    if (text.empty() || std::find(suchtexte.begin(), suchtexte.end(), text) != suchtexte.end())
+        return;
+    if (suchtexte.size() >= ANZAHL_SUCHTEXTE)
+        suchtexte.erase(suchtexte.begin());
+    suchtexte.emplace_back(text);
+}
+
+Schnellsuche::Schnellsuche(SessionState& session, Ports& ports, DocumentPage& seite)
+    : session_(session), ports_(ports), seite_(seite)
+{}
+
+void Schnellsuche::sucheText(std::string_view CombSuchStr)
+{
+    CombSuchStr_ = CombSuchStr;
+    if (!ChDynSuchen_ && !CombSuchStr_.empty())
+        beginne();
+}
+
+void Schnellsuche::tippe(std::string_view TextDocuBez)
+{
+    TextDocuBez_ = TextDocuBez;
+    sucheImBlatt();
+}
+
+void Schnellsuche::beginne()
+{
+    beginn_ = Suchbeginn::Oben;
+    werte_ = {{std::string(feld().feld), std::string(feld().benennung), nimmText()}};
+    sucheImBlatt();
+}
+
+void Schnellsuche::suche()
+{
+    beginn_ = Suchbeginn::AktuelleZeile;
+    nimmText();
+    sucheImBlatt();
+}
+
+void Schnellsuche::setzeBeimTippen(bool ChDynSuchen)
+{
+    if (ChDynSuchen == ChDynSuchen_)
+        return;
+    ChDynSuchen_ = ChDynSuchen;
+    if (!ChDynSuchen) {
+        CombSuchStr_ = TextDocuBez_;
+        return melde();
+    }
+    TextDocuBez_ = CombSuchStr_;
+    if (sucheImBlatt() == Ausgang::Aufgegeben) // Without its column in memory each key would wait again.
+        ChDynSuchen_ = false;
+    melde();
+}
+
+void Schnellsuche::setzeFeld(std::size_t suchfeld)
+{
+    assert(suchfeld < SUCHFELDER.size());
+    suchfeld_ = suchfeld;
+    if (ChDynSuchen_)
+        berichte([this] { spalteBereit(); });
+    melde();
+}
+
+const std::vector<std::string>& Schnellsuche::suchtexte() const
+{
+    return session_.Suchtexte;
+}
+
+const std::vector<Filterwert>* Schnellsuche::gesuchteWerte() const
+{
+    const bool dieselben = tabDerWerte_ == seite_.tab() && fassungDerWerte_ == seite_.aktuelleSeite().fassung;
+    return dieselben && !werte_.empty() ? &werte_ : nullptr;
+}
+
+const std::string& Schnellsuche::nimmText()
+{
+    if (ChDynSuchen_)
+        return TextDocuBez_;
+    SuchTextMerken(session_.Suchtexte, CombSuchStr_);
+    return CombSuchStr_;
+}
+
+Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
+{
+    tabDerWerte_ = seite_.tab();
+    fassungDerWerte_ = seite_.aktuelleSeite().fassung;
+    Ausgang ausgang = Ausgang::NichtGesucht;
+    berichte([&] {
+        if (!seite_.aktuelleSeite().hatZeilen())
+            return;
+        if (!spalteBereit()) {
+            ausgang = Ausgang::Aufgegeben;
+            return;
+        }
+        const std::string& text = ChDynSuchen_ ? TextDocuBez_ : CombSuchStr_;
+        SuchenImRecordset(zeilen(), text, feld().feld, OptSuchPos_, beginn_, ports_.meldungen);
+        ausgang = text.empty() ? Ausgang::NichtGesucht : Ausgang::Gesucht;
+    });
+    if (ausgang == Ausgang::Gesucht)
+        seite_.zeileGewechselt();
+    melde();
+    return ausgang;
+}
+
+Recordset& Schnellsuche::zeilen()
+{
+    return seite_.seite(seite_.tab()).sichtbar();
+}
+
+// The first search of a column reads it, which takes its time in a large table. False: given up.
+bool Schnellsuche::spalteBereit()
+{
+    if (!zeilen().offen() || zeilen().spalteGeladen(feld().feld))
+        return true;
+    LangeArbeit arbeit(ports_.fortschritt, "Die Tabelle wird gelesen");
+    zeilen().ladeSpalte(feld().feld, std::ref(arbeit));
+    return !arbeit.aufgegeben();
+}
+
+// A pattern that cannot be read, or a fault of the connection: the common report alone.
+void Schnellsuche::berichte(const std::function<void()>& operation) const
+{
+    try {
+        operation();
+    } catch (const Laufzeitfehler& fehler) {
+        Fehlermeldung(ports_.meldungen, fehler);
+    }
+}
+
+void Schnellsuche::melde() const
+{
+    if (geaendert)
+        geaendert();
+}
+
+} // namespace quelvarn

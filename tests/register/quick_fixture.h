@@ -1,0 +1,35 @@
+#pragma once
+
+#include "filter/execution.h"
+#include "register/left_bar.h"
+#include "register_fixture.h"
+
+namespace quelvarn {
+
+// The document page with the bar at its left.
+class QuickTest : public RegisterTest
+{
+protected:
+    QuickTest()
+    {
+        page_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
+        page_.tabelleGewechselt = [this] { bar_.tabelleGewechselt(); };
+    }
+
+    std::string current() const { return session_.AktDoku.DokuBez + "/" + session_.AktDoku.RevBez; }
+    static std::string rows(const std::vector<Filterwert>& values)
+    {
+        std::string text;
+        for (const Filterwert& value : values)
+            text += value.Feldname + "|" + value.Benennung + "|" + value.Wert + "\n";
+        return text;
+    }
+    std::string rows() const { return rows(bar_.gezeigteWerte()); }
+
+    FilterState filter_;
+    LinkeLeiste bar_{session_, ports_, filter_, page_};
+    Schnellsuche& search_ = bar_.suche();
+    Schnellfilter& quick_ = bar_.filter();
+};
+
+} // namespace quelvarn

@@ -1,0 +1,138 @@
+#include "quick_fixture.h"
+
+namespace quelvarn {
+namespace {
+
+class QuickSearchTest : public QuickTest
+{
+protected:
+    QuickSearchTest()
+    {
+        for (const char* name : {"Achse", "Blech", "Bolzen", "Halter", "O'Neill", "Winkel"})
+            dokument(0, name);
+        dokument(1, "Bolzenblech");
+        page_.tabGewaehlt(0);
+    }
+};
+
+TEST_F(QuickSearchTest, FindsFromTheTopOrOnFromTheRowShown)
+{
+    const struct
+    {
+        const char* text;
+        std::size_t field;
+        Suchverfahren place;
+        const char* first;
+        const char* next;
+    } cases[] = {
+        {"b", 0, TextAmAnfang, "Blech/0", "Bolzen/0"},
+        {"LECH", 0, TextBeliebig, "Blech/0", "Achse/0"}, // One hit only: from the end back to the first row.
+        {"lech", 0, TextAmAnfang, "Achse/0", "Achse/0"},
+        {"winkel_0.par", 1, TextAmAnfang, "Winkel/0", "Achse/0"},
+        {"W:\\Teile\\H", 2, TextAmAnfang, "Halter/0", "Achse/0"},
+        {"O'Ne", 0, TextAmAnfang, "O'Neill/0", "Achse/0"},
+        {"e%k", 0, TextBeliebig, "Achse/0", "Achse/0"},
+        {"i%k", 0, TextBeliebig, "Winkel/0", "Achse/0"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        search_.setzeFeld(c.field);
+        search_.setzeVerfahren(c.place);
+        page_.zeileGewaehlt(3);
+        search_.sucheText(c.text);
+        EXPECT_EQ(current(), c.first);
+        EXPECT_EQ(rows(), std::string(SUCHFELDER[c.field].feld) + "|" + std::string(SUCHFELDER[c.field].benennung) +
+                              "|" + c.text + "\n");
+        search_.suche();
+        EXPECT_EQ(current(), c.next);
+    }
+    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 6") << "a search is no filter";
+    page_.tabGewaehlt(1);
+    EXPECT_EQ(rows(), "");
+    search_.sucheText("Bolz");
+    EXPECT_EQ(current(), "Bolzenblech/0");
+}
+
+TEST_F(QuickSearchTest, RefusesWhatIsNoKindOfSearchAndReportsWhatCannotBeRead)
+{
+    Recordset& parts = page_.seite(0).tabelle;
+    welt_.meldungen.erwarte("Suchverfahren", "Falsches Suchverfahren!");
+    EXPECT_FALSE(SuchenImRecordset(parts, "B", "DokuBez", 2, Suchbeginn::Oben, welt_.meldungen));
+    EXPECT_FALSE(SuchenImRecordset(parts, "", "DokuBez", 7, Suchbeginn::Oben, welt_.meldungen));
+    EXPECT_EQ(parts.AbsolutePosition(), 0U);
+    EXPECT_FALSE(SuchenImRecordset(parts, "Zahnrad", "DokuBez", 0, Suchbeginn::Oben, welt_.meldungen));
+    EXPECT_TRUE(parts.Eof());
+
+    page_.zeileGewaehlt(2);
+    welt_.meldungen.antworte();
+    search_.sucheText("x' AND Status = ");
+    EXPECT_EQ(welt_.meldungen.letzte().titel, "Fehlermeldung");
+    EXPECT_EQ(current(), "Bolzen/0");
+}
+
+TEST_F(QuickSearchTest, EachKeySearchesWhileTyping)
+{
+    search_.setzeSuchtext("Bl");
+    search_.setzeBeimTippen(true);
+    EXPECT_EQ(search_.TextDocuBez(), "Bl");
+    EXPECT_EQ(current(), "Blech/0");
+    search_.tippe("B");
+    search_.tippe("Bo");
+    EXPECT_EQ(current(), "Bolzen/0");
+    search_.tippe("");
+    EXPECT_EQ(current(), "Bolzen/0");
+    search_.suche(); // From here on a key searches behind the row, until the search begins at the top again.
+    search_.tippe("B");
+    EXPECT_EQ(current(), "Achse/0");
+    search_.sucheText("Winkel");
+    EXPECT_EQ(current(), "Achse/0") << "the list is out of use";
+    EXPECT_TRUE(session_.Suchtexte.empty());
+
+    search_.setzeBeimTippen(false);
+    EXPECT_EQ(search_.CombSuchStr(), "B");
+    search_.tippe("x");
+    EXPECT_TRUE(page_.seite(1).zustand == NichtOffen) << "no other table was touched";
+}
+
+TEST_F(QuickSearchTest, RemembersTheLastEightTexts)
+{
+    for (const char* text : {"1", "2", "", "3", "4", "5", "2", "6", "7", "8"})
+        SuchTextMerken(session_.Suchtexte, text);
+    EXPECT_EQ(session_.Suchtexte, (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7", "8"}));
+    search_.sucheText("9");
+    EXPECT_EQ(search_.suchtexte(), (std::vector<std::string>{"2", "3", "4", "5", "6", "7", "8", "9"}));
+    EXPECT_EQ(search_.CombSuchStr(), "9");
+}
+
+// Reading a column of a large table can be given up; then nothing is searched.
+TEST_F(QuickSearchTest, ReadingAColumnCanBeGivenUp)
+{
+    for (int i = 0; i < 3000; ++i)
+        dokument(2, "B-" + std::to_string(10000 + i));
+    page_.tabGewaehlt(2);
+    struct Ungeduld : Fortschrittsanzeige
+    {
+        void beginne(std::string_view) override { ++angefangen; }
+        bool schritt(std::size_t, std::size_t) override { return geduld; }
+        void beende() override {}
+        int angefangen = 0;
+        bool geduld = false;
+    } ungeduld;
+    Ports ports{ports_.meldungen, ports_.uhr,       ports_.umgebung,       ports_.dateien,           ports_.laufwerke,
+                ports_.drucker,   ports_.programme, ports_.zwischenablage, ports_.standardanwendung, ungeduld};
+    Schnellsuche search(session_, ports, page_);
+    search.setzeFeld(2);
+    search.setzeSuchtext("W:\\Teile\\B-12");
+    search.setzeBeimTippen(true);
+    EXPECT_FALSE(search.beimTippen());
+    EXPECT_EQ(current(), "B-10000/0");
+    ungeduld.geduld = true;
+    search.setzeBeimTippen(true);
+    EXPECT_TRUE(search.beimTippen());
+    EXPECT_EQ(current(), "B-12000/0");
+    search.tippe("W:\\Teile\\B-125");
+    EXPECT_EQ(ungeduld.angefangen, 2) << "a column is read once";
+}
+
+} // namespace
+} // namespace quelvarn
