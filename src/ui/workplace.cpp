@@ -44,9 +44,7 @@ void Arbeitsplatz::verbinde()
         if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };
-    dokumentseite_.filterVergessen = [this](int tab) {
-        return vergissFilter(filter_, tab);
-    };
+    dokumentseite_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();
         fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());

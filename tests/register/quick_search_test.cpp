@@ -107,8 +107,10 @@ TEST_F(QuickSearchTest, RemembersTheLastEightTexts)
 // Reading a column of a large table can be given up; then nothing is searched.
 TEST_F(QuickSearchTest, ReadingAColumnCanBeGivenUp)
 {
+    engine_->beginne();
     for (int i = 0; i < 3000; ++i)
         dokument(2, "B-" + std::to_string(10000 + i));
+    engine_->schliesseAb();
     page_.tabGewaehlt(2);
     struct Ungeduld : Fortschrittsanzeige
     {
