@@ -9,6 +9,7 @@ BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite
 TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql)
 BENCH_PACKAGES=(libqt6sql6-sqlite)
 LINT_PACKAGES=(clang-format clang-tidy python3)
+FUZZ_PACKAGES=(clang)
 
 say() { printf '%s\n' "$*"; }
 
@@ -108,6 +109,38 @@ command_lint() { # [--quick]: without clang-tidy
   say "Clean."
 }
 
+# Starts one program on its seeds, and on what earlier runs have found worth keeping.
+start_fuzzing() { # program seconds
+  local name
+  name="$(basename "$1")"
+  mkdir -p "build/fuzz/corpus/$name"
+  local options=(-max_total_time="$2" -timeout=10 -rss_limit_mb=1024 -artifact_prefix="build/fuzz/$name-")
+  [[ -e "fuzz/$name.dict" ]] && options+=(-dict="fuzz/$name.dict")
+  "$1" "${options[@]}" "build/fuzz/corpus/$name" "fuzz/seeds/$name" >"build/fuzz/$name.log" 2>&1
+}
+
+command_fuzz() { # [SECONDS]: fails when a program finds something; the input lies in build/fuzz
+  local seconds="${1:-20}" program status=0
+  need "${BUILD_PACKAGES[@]}" "${FUZZ_PACKAGES[@]}"
+  configure fuzz
+  build fuzz
+  local -A running=()
+  for program in build/fuzz/bin/fuzz_*; do
+    start_fuzzing "$program" "$seconds" &
+    running[$program]=$!
+  done
+  for program in "${!running[@]}"; do
+    if wait "${running[$program]}"; then
+      say "$(basename "$program"): $(grep -E '^Done' "build/fuzz/$(basename "$program").log")"
+    else
+      tail -n 40 "build/fuzz/$(basename "$program").log"
+      say "$(basename "$program"): a finding, see build/fuzz/$(basename "$program")-*"
+      status=1
+    fi
+  done
+  return "$status"
+}
+
 pictures() { # folder
   mkdir -p "$1"
   QT_QPA_PLATFORM=offscreen build/release/bin/quelvarn-scenario --pictures "$1" tests/scenarios/pictures/*.scenario
@@ -137,6 +170,7 @@ usage() {
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, clang-format, clang-tidy
+./qv fuzz [SECONDS]          random texts for the parsers, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)
 TEXT
@@ -145,7 +179,7 @@ TEXT
 name="${1:-help}"
 [[ $# -gt 0 ]] && shift
 case "$name" in
-  run | test | bench | lint | pictures | admin) "command_$name" "$@" ;;
+  run | test | bench | lint | fuzz | pictures | admin) "command_$name" "$@" ;;
   help | -h | --help) usage ;;
   *)
     usage

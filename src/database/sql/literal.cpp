@@ -188,7 +188,8 @@ Value Literalleser::zahl()
     const auto ganz = std::from_chars(beginn, ende, ganzzahl);
     if (ganz.ec == std::errc{} && ganz.ptr == gelesen.ptr)
         return faktor * ganzzahl;
-    return static_cast<double>(faktor) * gleitkomma;
+    return static_cast<double>(faktor) * gleitkomma +
+           0.0; // No zero with a sign: written out, it would read as a whole one.
 }
 
 Zeitpunkt Literalleser::datum()
