@@ -6,6 +6,7 @@
 #include "database/recordset.h"
 
 #include <algorithm>
+#include <array>
 #include <fmt/format.h>
 #include <functional>
 #include <numeric>
@@ -18,6 +19,7 @@ namespace {
 constexpr std::size_t PART = 0;
 constexpr std::size_t ASSEMB = 2;
 constexpr std::size_t DRAFT = 3;
+constexpr std::size_t EIGENSCHAFTEN = 5;       // User-defined, of each part.
 constexpr std::size_t DOKUMENTE_SONST = 2'000; // In each of the seven other tables.
 
 using Zellenquelle = std::function<Value(std::size_t zeile, const Spalte& spalte)>;
@@ -52,15 +54,30 @@ Value beziehung(const Musterdokument& dokument, const Musterdokument& teil, cons
     return dokument.dateiname();
 }
 
-Value eigenschaft(const Musterdokument& teil, std::size_t zeile, const Spalte& spalte)
+// The k-th user-defined property of a document: a few values, many, and the path of a file.
+Value eigenschaftswert(std::size_t k, std::size_t nummer, const std::string& spalte)
+{
+    constexpr std::array<std::string_view, EIGENSCHAFTEN> NAMEN{"Werkstoff", "Oberfläche", "Gewicht", "Kunde", "Notiz"};
+    if (spalte == "Name")
+        return std::string(NAMEN[k]);
+    const std::array<std::string, EIGENSCHAFTEN> werte{
+        fmt::format("Stahl {}", nummer % 10), fmt::format("verzinkt {}", nummer % 7),
+        fmt::format("{},5 kg", nummer % 5000), fmt::format("Kunde {}", nummer % 300),
+        fmt::format("W:\\Konstruktion\\Ablage\\Notizen\\Notiz {}.txt", nummer % 1000)};
+    return werte[k];
+}
+
+Value eigenschaft(const Musterdokument& teil, std::size_t k, std::size_t nummer, const Spalte& spalte)
 {
     if (spalte.typ != FeldTyp::Text)
-        return std::int64_t{3};
+        return static_cast<std::int64_t>(nummer % ANZAHL_STATUS);
     if (spalte.name == "DokuBez")
         return teil.bezeichnung();
     if (spalte.name == "RevBez")
         return teil.revision();
-    return fmt::format("{} {}", spalte.name, zeile % 50);
+    if (spalte.name == "Name" || spalte.name == "Wert")
+        return eigenschaftswert(k, nummer, spalte.name);
+    return fmt::format("{} {}", spalte.name, nummer % 50);
 }
 
 class Registerbau
@@ -100,12 +117,12 @@ private:
         });
     }
 
-    // Two of them for every fourth part.
     void eigenschaften()
     {
-        schreibe(engine_, *findTabelle(DOKUTYPEN[PART].tabelleBenutzDef), dokumente_ / 2,
-                 [](std::size_t zeile, const Spalte& spalte) {
-                     return eigenschaft(Musterdokument(DOKUTYPEN[PART], zeile / 2 * 4), zeile, spalte);
+        schreibe(engine_, *findTabelle(DOKUTYPEN[PART].tabelleBenutzDef), dokumente_ * EIGENSCHAFTEN,
+                 [this](std::size_t zeile, const Spalte& spalte) {
+                     const std::size_t teil = nummer(zeile / EIGENSCHAFTEN, dokumente_);
+                     return eigenschaft(Musterdokument(DOKUTYPEN[PART], teil), zeile % EIGENSCHAFTEN, teil, spalte);
                  });
     }
 
@@ -147,6 +164,8 @@ bool istBereit(const std::filesystem::path& datei, std::size_t dokumente)
     Connection verbindung;
     verbindung.Open(datei);
     return zaehle(verbindung, DOKUTYPEN[PART].tabelle) == static_cast<std::int64_t>(dokumente) &&
+           zaehle(verbindung, DOKUTYPEN[PART].tabelleBenutzDef) ==
+               static_cast<std::int64_t>(dokumente * EIGENSCHAFTEN) &&
            zaehle(verbindung, "Ini") > 0;
 }
 

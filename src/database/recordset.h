@@ -44,6 +44,8 @@ public:
     // One SELECT of the program's dialect.
     void Open(std::string_view sql, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
               SperrTyp sperre = SperrTyp::NurLesen);
+    // These rows of one table with all its columns, in this order, read as those of a query are; not to be changed.
+    void OpenZeilen(std::string_view tabelle, std::vector<std::int64_t> schluessel, Connection& verbindung);
     // In memory: append fields, then open.
     void FeldAnhaengen(std::string_view name, FeldTyp typ);
     void Open();

@@ -28,6 +28,10 @@ public:
     void leere();
     void oeffne(std::shared_ptr<Engine> engine, sql::Select abfrage, const Oeffnung& oeffnung);
 
+    // Rows of one table by their keys.
+    void oeffneZeilen(std::shared_ptr<Engine> engine, std::string_view tabelle,
+                      std::vector<Zeilenschluessel> schluessel, std::size_t klein);
+
     const std::vector<Spalte>& felder() const { return felder_; }
     std::optional<std::size_t> findeFeld(std::string_view name) const; // In any case.
     // Throws Laufzeitfehler 3265 when there is none.

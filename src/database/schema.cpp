@@ -83,7 +83,11 @@ Tabellenschema benutzerdefinierteTabelle(const DokuTyp& typ)
     fuegeSpaltenAn(tabelle.spalten, FeldTyp::Ganzzahl, {"Status"});
     fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, {"Projekt", "Autor", "Bearbeiter", "Material"});
     tabelle.indexe.push_back(aufsteigend({"DokuBez", "RevBez"}));
-    tabelle.indexe.push_back({{"Name"}, {"Wert", false, true}});
+    // The filter over these properties takes the documents of a value from the index alone.
+    Index jeName{{"Name"}, {"Wert", false, true}};
+    for (const char* spalte : {"DokuBez", "RevBez", "Status"})
+        jeName.push_back({spalte, false, false, true});
+    tabelle.indexe.push_back(std::move(jeName));
     return tabelle;
 }
 

@@ -23,6 +23,8 @@ struct IndexSpalte
     std::string name;
     bool absteigend = false;
     bool lang = false; // May hold long texts: an engine whose index rows are limited in length leaves it out.
+    bool mitgefuehrt =
+        false; // Only there to be read from the index alone; an engine that reads rows anyway leaves it out.
 };
 
 struct Tabellenschema

@@ -48,7 +48,7 @@ std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexS
     std::vector<std::string> sortiert;
     std::vector<std::string> mitgefuehrt{std::string(schluesselspalte)};
     for (const IndexSpalte& spalte : index) {
-        if (spalte.lang)
+        if (spalte.lang || spalte.mitgefuehrt)
             continue;
         const std::string name = bezeichner(spalte.name);
         const bool text = istText(tabelle, spalte.name);

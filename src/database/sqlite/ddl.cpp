@@ -49,7 +49,7 @@ std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexS
 
 std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
 {
-    return fmt::format("ix_{}_{}", tabelle.name, index.front().name);
+    return fmt::format("ix_{}_{}{}", tabelle.name, index.front().name, index.back().mitgefuehrt ? "_mit" : "");
 }
 
 FeldTyp feldTypAus(std::string_view deklaration)

@@ -1,0 +1,112 @@
+#include "filter/user_defined_match.h"
+
+#include "base/collation.h"
+#include "base/utf8.h"
+#include "filter/conditions.h"
+
+#include <algorithm>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::size_t AB_PFAD = 32; // A Wert of so many characters is taken for a path.
+constexpr std::string_view VERSAND = "*Versand";
+
+// The star is the only wildcard: signs that mean something to LIKE are put into classes.
+std::string alsMuster(std::string_view wert, char stern)
+{
+    std::string muster;
+    for (const char zeichen : wert) {
+        if (zeichen == '*')
+            muster += stern;
+        else if (zeichen == '%' || zeichen == '_' || zeichen == '[')
+            (muster += '[').append(1, zeichen) += ']';
+        else
+            muster += zeichen;
+    }
+    return muster;
+}
+
+} // namespace
+
+BenutzDefSchritte::Schritt::Schritt(const std::string& Name, const std::string& Wert)
+    : name(Name), wert(Wert), nameKlein(toLower(Name)), wertKlein(toLower(Wert)),
+      muster(alsMuster(Wert, '%'), Wildcards::Sql), musterBeiKurzen(Wert.ends_with('*')),
+      versand(Wert.starts_with(VERSAND))
+{}
+
+bool BenutzDefSchritte::Schritt::jederWert() const
+{
+    return wert == "*" || versand;
+}
+
+bool BenutzDefSchritte::Schritt::passt(std::string_view text, std::string_view klein, bool lang) const
+{
+    if (wert == "*" || wertKlein == klein)
+        return true;
+    if (lang && versand)
+        return true; // The pattern is then the file name of the row itself.
+    return (lang || musterBeiKurzen) && muster.matches(text);
+}
+
+sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
+{
+    if (jederWert())
+        return nullptr;
+    if (wert.find('*') == std::string::npos)
+        return vergleich("Wert", sql::Vergleich::Gleich, wert);
+    return vergleich("Wert", sql::Vergleich::Like, alsMuster(wert, '%'));
+}
+
+BenutzDefSchritte::BenutzDefSchritte(const Filterzustand& zustand)
+{
+    if (zustand.FilterSchritte[0].Wert.empty() || zustand.FilterAnzahl >= ALLE_GEFUELLT)
+        return;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(zustand.FilterAnzahl); ++i)
+        schritte_.emplace_back(zustand.FilterSchritte[i].Wert, zustand.FilterSchritte[i].Muster);
+}
+
+bool BenutzDefSchritte::trifft(std::string_view Name, std::string_view Wert) const
+{
+    if (letztes_ && Name == letzterName_ && Wert == letzterWert_)
+        return *letztes_;
+    letzterName_ = Name;
+    letzterWert_ = Wert;
+    letztes_ = passt(Name, Wert);
+    return *letztes_;
+}
+
+bool BenutzDefSchritte::passt(std::string_view Name, std::string_view Wert) const
+{
+    const std::string name = toLower(Name);
+    const std::string klein = toLower(Wert);
+    const bool lang = countCharacters(Wert) >= AB_PFAD;
+    return std::ranges::any_of(schritte_, [&](const Schritt& schritt) {
+        return schritt.nameKlein == name && schritt.passt(Wert, klein, lang);
+    });
+}
+
+std::vector<sql::AusdruckZeiger> BenutzDefSchritte::vorauswahl() const
+{
+    std::vector<sql::AusdruckZeiger> bedingungen;
+    for (auto erster = schritte_.begin(); erster != schritte_.end(); ++erster) {
+        const auto gleicher = [&](const Schritt& schritt) { return equalText(schritt.name, erster->name); };
+        if (std::any_of(schritte_.begin(), erster, gleicher))
+            continue;
+        sql::Oder werte;
+        bool jeder = false;
+        for (auto schritt = erster; schritt != schritte_.end(); ++schritt) {
+            if (!gleicher(*schritt))
+                continue;
+            jeder = jeder || schritt->jederWert();
+            if (!schritt->jederWert())
+                werte.teile.push_back(schritt->bedingung());
+        }
+        auto name = vergleich("Name", sql::Vergleich::Gleich, erster->name);
+        bedingungen.push_back(jeder ? std::move(name) : beide(std::move(name), eines(std::move(werte))));
+    }
+    return bedingungen;
+}
+
+} // namespace quelvarn
