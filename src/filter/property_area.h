@@ -1,28 +1,21 @@
 #pragma once
 
 #include "filter/filter_context.h"
+#include "filter/value_list.h"
 
 #include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quelvarn {
 
 inline constexpr int ANZAHL_EIGENSCHAFTEN = 12;
 
-// A combo of the page: its values, and the count shown beside it.
-struct Werteliste
-{
-    std::vector<std::string> werte;
-    std::string anzahl; // "0" where the one value is empty.
-};
-
 // Tab 0 of the filter page: twelve properties, statuses, dates.
 class Eigenschaftsbereich
 {
 public:
-    explicit Eigenschaftsbereich(Filterkontext& kontext) : kontext_(kontext) {}
+    explicit Eigenschaftsbereich(Filterkontext& kontext);
 
     // --- operations ---
     void wertGewaehlt(int index, std::string_view wert); // CbEigen(1) to CbEigen(12)
@@ -31,19 +24,25 @@ public:
     void setzeBegrenzung(int OpDatBegr) { OpDatBegr_ = OpDatBegr; }
     void statusGewaehlt(int status, bool gesetzt); // ChFilterStat
 
-    // --- mechanisms of the page; faults pass through ---
-    void FilterEigenNeu();                                  // All lists, no filter running.
+    // --- mechanisms of the page; a fault passes through when the lists that can be filled are ---
+    // Read from the columns of the open table. Reading given up leaves them empty.
+    void FilterEigenNeu() { FilterListenSchmal({}); }       // All lists, no filter running.
+    void FilterListenStatus() { FilterListenSchmal({}); }   // The same after the statuses changed.
     void FilterListenSchmal(std::string_view FilterString); // All lists under the running filter.
-    void FilterListenStatus();                              // All lists under the status condition.
 
     // --- state ---
     const Werteliste& liste(int index) const { return listen_[static_cast<std::size_t>(index - 1)]; }
     std::string bezeichnung(int index) const; // LblProjektCb and its like
     int OpDat() const { return OpDat_; }
     int OpDatBegr() const { return OpDatBegr_; }
+    // Some row under the running filter has it; whether it is ticked does not matter.
     bool statusVorhanden(int status) const { return statusVorhanden_[static_cast<std::size_t>(status)]; }
 
 private:
+    void leere();
+    void fuelleStatus(Recordset& tabelle, std::string_view bedingung);
+    void fuelleListe(std::size_t nummer, Recordset& tabelle, std::span<const Bookmark> zeilen);
+
     Filterkontext& kontext_;
     std::array<Werteliste, ANZAHL_EIGENSCHAFTEN> listen_;
     std::array<bool, ANZAHL_STATUS> statusVorhanden_{};

@@ -1,0 +1,120 @@
+#include "base/number_format.h"
+#include "base/text.h"
+#include "filter/execution.h"
+#include "filter/structure_area.h"
+#include "platform/fortschritt.h"
+#include "session/error_report.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <functional>
+
+namespace quelvarn {
+namespace {
+
+constexpr std::string_view HAUPTWERTE = "abcdefg";
+constexpr const char* FEHLER_LISTEN = "Fehler beim Füllen der ComboBoxen für Hauptwerte a bis g!";
+
+char buchstabe(int hauptwert)
+{
+    return HAUPTWERTE[static_cast<std::size_t>(hauptwert)];
+}
+
+Werteliste zahlenliste(std::vector<double> zahlen)
+{
+    std::erase(zahlen, 0.0);
+    std::vector<std::string> texte(zahlen.size());
+    std::ranges::transform(zahlen, texte.begin(), zahlAlsText);
+    return werteliste(std::move(texte));
+}
+
+} // namespace
+
+void Strukturbereich::hauptwertGewaehlt(int hauptwert)
+{
+    hauptwert_ = hauptwert;
+    fuelleHauptwerte();
+    kontext_.melde();
+}
+
+void Strukturbereich::setzeAnzahlWerteZeigen(bool gesetzt)
+{
+    ChShowAnzWerte_ = gesetzt;
+    fuelleHauptwerte();
+    kontext_.melde();
+}
+
+void Strukturbereich::setzeAnzahlAliasZeigen(bool gesetzt)
+{
+    ChShowAnzAlias_ = gesetzt;
+    fuelleHauptwerte();
+    kontext_.melde();
+}
+
+// Each list by itself: one that cannot be filled stays empty.
+void Strukturbereich::fuelleHauptwerte()
+{
+    werte_ = alias_ = {};
+    Meldungen& meldungen = kontext_.ports.meldungen;
+    LangeArbeit arbeit(kontext_.ports.fortschritt, "Hauptwerte werden gelesen ...");
+    const std::string wert = fmt::format("Hauptwert_{}", buchstabe(hauptwert_));
+    const std::string alias = fmt::format("Alias_{}", buchstabe(hauptwert_));
+    std::optional<std::vector<Bookmark>> zeilen;
+    gesichert(meldungen, "SE-Filtern: ComboBoxen für Hauptwerte a bis g", FEHLER_LISTEN, [&] {
+        if (!tabelle().ladeSpalten(std::vector{wert, alias}, std::ref(arbeit)))
+            return;
+        zeilen = tabelle().waehle(StrukturBedingung_, std::ref(arbeit));
+        if (zeilen && ChShowAnzWerte_)
+            werte_ = zahlenliste(tabelle().verschiedeneZahlen(wert, *zeilen));
+    });
+    if (!zeilen)
+        return;
+    gesichert(meldungen, "SE-Filtern: Listen für Alias a bis g", FEHLER_LISTEN, [&] {
+        alias_ = werteliste(tabelle().verschiedeneTexte(alias, *zeilen, [](std::string_view text) {
+            return !text.empty();
+        }));
+        if (!ChShowAnzAlias_)
+            alias_.anzahl.clear();
+    });
+}
+
+void Strukturbereich::hauptwertUebernehmen(std::string_view CbHW, std::string_view TextBB)
+{
+    if (!SperreHauptwert_)
+        return;
+    const auto wert = parseZahl(CbHW);
+    const auto band = trim(TextBB).empty() ? std::optional(0.0) : parseZahl(TextBB);
+    if (!wert || !band) {
+        kontext_.ports.meldungen.warnung("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", wert ? TextBB : CbHW));
+        return;
+    }
+    Filterzustand& zustand = kontext_.zustand();
+    zustand.HauptwertBereich[static_cast<std::size_t>(hauptwert_)] = {*wert - *band, *wert + *band};
+    zustand.HauptwertAktiv = true;
+    SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
+    kontext_.melde();
+}
+
+void Strukturbereich::leereHauptwerte()
+{
+    ClearHauptwertBereich(kontext_.zustand());
+    kontext_.zustand().HauptwertAktiv = false;
+    kontext_.melde();
+}
+
+std::string Strukturbereich::hauptwertName(int hauptwert) const
+{
+    return fmt::format("Hauptwert {}", buchstabe(hauptwert));
+}
+
+std::string Strukturbereich::hauptwertBand(int hauptwert) const
+{
+    const Hauptwertgrenzen& grenzen = kontext_.zustand().HauptwertBereich[static_cast<std::size_t>(hauptwert)];
+    if (!grenzen.gesetzt())
+        return {};
+    if (grenzen.MinWert == grenzen.MaxWert)
+        return zahlAlsText(grenzen.MinWert);
+    return fmt::format("{} - {}", zahlAlsText(grenzen.MinWert), zahlAlsText(grenzen.MaxWert));
+}
+
+} // namespace quelvarn
