@@ -70,9 +70,8 @@ void Strukturbereich::fuelleHauptwerte()
     if (!zeilen)
         return;
     gesichert(meldungen, "SE-Filtern: Listen für Alias a bis g", FEHLER_LISTEN, [&] {
-        alias_ = werteliste(tabelle().verschiedeneTexte(alias, *zeilen, [](std::string_view text) {
-            return !text.empty();
-        }));
+        alias_ = werteliste(
+            tabelle().verschiedeneTexte(alias, *zeilen, [](std::string_view text) { return !text.empty(); }));
         if (!ChShowAnzAlias_)
             alias_.anzahl.clear();
     });

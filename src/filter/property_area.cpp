@@ -1,6 +1,7 @@
 #include "filter/property_area.h"
 
 #include "base/date_time.h"
+#include "base/runtime_error.h"
 #include "base/text.h"
 #include "filter/execution.h"
 #include "platform/fortschritt.h"

@@ -29,10 +29,15 @@ std::string gleich(std::string_view feld, std::string_view wert)
 
 std::string bedingungVon(const Strukturpfad& pfad)
 {
-    std::string bedingung;
+    std::vector<std::string> teile;
     for (std::size_t ebene = 0; ebene < pfad.size(); ++ebene)
-        bedingung += (ebene == 0 ? "" : " AND ") + gleich(merkmal(ebene), pfad[ebene]);
-    return bedingung;
+        teile.push_back(gleich(merkmal(ebene), pfad[ebene]));
+    return join(teile, " AND ");
+}
+
+std::string erweitert(std::string_view bedingung, std::string_view feld, std::string_view wert)
+{
+    return fmt::format("{} {}", bedingung.empty() ? "" : fmt::format("{} AND", bedingung), gleich(feld, wert));
 }
 
 bool nichtLeer(std::string_view text)
@@ -139,7 +144,7 @@ void Strukturbereich::waehleImZweig(std::string_view Feldname, std::string_view 
     zeigeFilterwert(kontext_, {fmt::format("StrukturMerk{}", Feldname), anzeigename(kontext_.session, Feldname),
                                std::string(wert)});
     SperreBaum_ = false;
-    StrukturBedingung_ += (StrukturBedingung_.empty() ? " " : " AND ") + gleich(Feldname, wert);
+    StrukturBedingung_ = erweitert(StrukturBedingung_, Feldname, wert);
     fuelleHauptwerte();
     kontext_.melde();
 }
@@ -230,14 +235,15 @@ void Strukturbereich::zuruecksetzen()
     StrukturLetzterPfad_.clear();
     StrukturBedingung_.clear();
     material_ = firma_ = werte_ = alias_ = {};
-    SperreBaum_ = SperreMaterial_ = SperreFirma_ = SperreHauptwert_ = true;
+    SperreHauptwert_ = true;
+    SperreBaum_ = SperreMaterial_ = SperreFirma_ = !kontext_.zustand().HauptwertAktiv;
     BaumAufbauen();
     FilterEigenMWMitFi({});
+    fuelleHauptwerte();
 }
 
 void Strukturbereich::stelleWiederHer(const Strukturpfad& pfad, std::string_view material, std::string_view firma)
 {
-    zuruecksetzen();
     for (std::size_t ebenen = 1; ebenen <= pfad.size(); ++ebenen) {
         const Strukturpfad bisHier(pfad.begin(), pfad.begin() + static_cast<std::ptrdiff_t>(ebenen));
         auto zweig = leseZweig(bisHier);
@@ -248,11 +254,9 @@ void Strukturbereich::stelleWiederHer(const Strukturpfad& pfad, std::string_view
     for (const auto& [feld, wert] : {std::pair("Material", material), std::pair("Firma", firma)}) {
         if (wert.empty())
             continue;
-        StrukturBedingung_ += (StrukturBedingung_.empty() ? " " : " AND ") + gleich(feld, wert);
+        StrukturBedingung_ = erweitert(StrukturBedingung_, feld, wert);
         SperreBaum_ = false;
     }
-    if (kontext_.zustand().HauptwertAktiv)
-        SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
     fuelleHauptwerte();
 }
 

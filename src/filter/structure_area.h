@@ -41,11 +41,11 @@ public:
     // --- mechanisms of the page; faults pass through. Reading given up leaves tree and lists as they were ---
     void BaumAufbauen();                                 // Level C; forgets the paths.
     void FilterEigenMWMitFi(std::string_view bedingung); // Material and Firma of the branch.
-    // The area as it is without a filter: unlocked, tree anew, lists of all rows. For "Zurück", and whenever the
-    // filter of the type was forgotten or the page is for another type; the filter itself is the page's business.
+    // The area as it is before a choice: tree anew, lists of all rows, unlocked but for main values that are set. For
+    // "Zurück", another part or another type; the filter itself is the page's business, and to be emptied before.
     void zuruecksetzen();
     void leereHauptwerte(); // Button "Werte": bounds only; the locks stay.
-    // A saved filter: the branch and the locks as the choices would have left them.
+    // After `zuruecksetzen`: the branch and the locks as these choices would have left them.
     void stelleWiederHer(const Strukturpfad& pfad, std::string_view material, std::string_view firma);
 
     // --- state ---

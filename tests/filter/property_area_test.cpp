@@ -1,0 +1,179 @@
+#include "base/text.h"
+#include "filter/execution.h"
+#include "filter/filter_fixture.h"
+#include "filter/property_area.h"
+
+#include <functional>
+
+using namespace quelvarn;
+
+namespace {
+
+class Eigenschaften : public FilterTest
+{
+protected:
+    std::string liste(int index) const { return join(bereich_.liste(index).werte, "|"); }
+    std::string stati() const
+    {
+        std::string text;
+        for (int status = 0; status < ANZAHL_STATUS; ++status)
+            text += bereich_.statusVorhanden(status) ? static_cast<char>('0' + status) : '-';
+        return text;
+    }
+    void ticke(std::string_view stati)
+    {
+        for (int status = 0; status < ANZAHL_STATUS; ++status)
+            bereich_.statusGewaehlt(status, stati.find(static_cast<char>('0' + status)) != stati.npos);
+    }
+
+    Eigenschaftsbereich bereich_{kontext_};
+};
+
+// Gives a piece of work up at its first step.
+class Ungeduldiger final : public Fortschrittsanzeige
+{
+public:
+    void beginne(std::string_view) override {}
+    bool schritt(std::size_t, std::size_t) override { return false; }
+    void beende() override { ++beendet; }
+    int beendet = 0;
+};
+
+} // namespace
+
+TEST_F(Eigenschaften, ListsHoldWhatOccursAndCountIt)
+{
+    struct Fall
+    {
+        const char* spalte;
+        int index;
+        std::vector<Value> zellen;
+        const char* liste;
+        const char* anzahl;
+    };
+    const Value NULLWERT{};
+    const std::vector<Fall> faelle{
+        {"Projekt", 1, {"B", "a", "Ä", "A1", "a"}, "a|Ä|A1|B", "4"},
+        {"Titel", 2, {"Welle", "welle  ", "WELLE"}, "Welle", "1"},
+        {"Thema", 3, {" ", " "}, "", "0"},
+        {"Firma", 4, {"   ", ""}, "", "0"},
+        {"Material", 6, {NULLWERT, "", "St 37", NULLWERT}, "St 37", "1"},
+        {"Hauptmerkmal_A", 10, {" ", " ", ""}, " ", "0"},
+        {"Hauptmerkmal_B", 11, {" ", "x"}, " |x", "2"},
+        {"Stichwoerter", 12, {"O'Brien", "a' AND Status = '1"}, "a' AND Status = '1|O'Brien", "2"},
+    };
+    for (const Fall& fall : faelle)
+        for (std::size_t i = 0; i < fall.zellen.size(); ++i)
+            dokument(fall.spalte + std::to_string(i), {{fall.spalte, fall.zellen[i]}});
+    bereich_.FilterEigenNeu();
+    for (const Fall& fall : faelle) {
+        EXPECT_EQ(liste(fall.index), fall.liste) << fall.spalte;
+        EXPECT_EQ(bereich_.liste(fall.index).anzahl, fall.anzahl) << fall.spalte;
+    }
+    EXPECT_EQ(bereich_.liste(5).anzahl, "0") << "a column without values";
+}
+
+TEST_F(Eigenschaften, RunningFilterAndStatusNarrowTheLists)
+{
+    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", std::int64_t{0}}});
+    dokument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", std::int64_t{3}}});
+    dokument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", std::int64_t{4}}});
+    dokument("4", {{"Projekt", "B"}, {"Status", std::int64_t{7}}, {"Geaendert", Zeitpunkt::aus({2026, 11, 3})}});
+    tabelle().Filter("DokuBez = '1'");
+
+    struct Fall
+    {
+        const char* FilterString;
+        const char* stati;
+        const char* projekte;
+        const char* autoren;
+        const char* vorhanden;
+    };
+    const Fall faelle[]{
+        {"", "012345", "A100|A200|B", "Meier|Ober|Ulm", "0--34-"},
+        {"Projekt Like 'A*'", "012345", "A100|A200", "Meier|Ober|Ulm", "0--34-"},
+        {"Projekt Like 'a100'", "012345", "A100", "Meier|Ober", "0--3--"},
+        {"Projekt Like 'a100'", "345", "A100", "Ober", "0--3--"},
+        {"", "345", "A100|A200", "Ober|Ulm", "0--34-"},
+        {"Geaendert >= #11/03/26 00:00:00#", "012345", "B", "", "------"},
+        {"Projekt Like 'nichts'", "012345", "", "", "------"},
+    };
+    for (const Fall& fall : faelle) {
+        ticke(fall.stati);
+        bereich_.FilterListenSchmal(fall.FilterString);
+        EXPECT_EQ(liste(1), fall.projekte) << fall.FilterString << fall.stati;
+        EXPECT_EQ(liste(7), fall.autoren) << fall.FilterString << fall.stati;
+        EXPECT_EQ(stati(), fall.vorhanden) << fall.FilterString << fall.stati;
+    }
+    EXPECT_EQ(gezeigt(), "1") << "the table's own filter stays";
+}
+
+TEST_F(Eigenschaften, ChoicesBecomeSteps)
+{
+    struct Fall
+    {
+        std::function<void(Eigenschaftsbereich&)> wahl;
+        FilterSchritt schritt;
+        Filterwert zeile;
+    };
+    session_.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
+    const Zeitpunkt tag = Zeitpunkt::aus({2026, 11, 5});
+    const Fall faelle[]{
+        {[](auto& b) { b.wertGewaehlt(1, "A100"); }, {"Projekt", "A100", 0, ""}, {"Projekt", "Vorhaben", "A100"}},
+        {[](auto& b) { b.wertGewaehlt(10, "x"); }, {"Hauptmerkmal_A", "x", 0, ""}, {"Hauptmerkmal_A", "Klasse", "x"}},
+        {[](auto& b) { b.wertGewaehlt(12, "y"); }, {"Stichwoerter", "y", 0, ""}, {"Stichwoerter", "Worte", "y"}},
+        {[&](auto& b) { b.datumGewaehlt(tag); },
+         {"Erstellt", "05.11.26", 20, ""},
+         {"Kalender", "Erstellt", ">= 05.11.26"}},
+        {[&](auto& b) {
+             b.setzeDatumsfeld(1);
+             b.setzeBegrenzung(2);
+             b.datumGewaehlt(tag);
+         },
+         {"Geaendert", "05.11.26", 32, ""},
+         {"Kalender", "Geaendert", "<= 05.11.26"}},
+    };
+    std::size_t nummer = 0;
+    bereich_.wertGewaehlt(1, "");
+    for (const Fall& fall : faelle) {
+        fall.wahl(bereich_);
+        EXPECT_EQ(kontext_.zustand().FilterSchritte[nummer++], fall.schritt);
+        ASSERT_EQ(kontext_.FilterWerteTabelle.size(), nummer);
+        EXPECT_EQ(kontext_.FilterWerteTabelle.back(), fall.zeile);
+    }
+    welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!");
+    bereich_.wertGewaehlt(1, "A100");
+    EXPECT_EQ(kontext_.FilterWerteTabelle.size(), nummer);
+}
+
+TEST_F(Eigenschaften, ReadingGivenUpLeavesEmptyListsAndAUsablePage)
+{
+    dokument("1", {{"Projekt", "A100"}});
+    Ungeduldiger anzeige;
+    Ports ports{ports_.meldungen, ports_.uhr,       ports_.umgebung,       ports_.dateien,           ports_.laufwerke,
+                ports_.drucker,   ports_.programme, ports_.zwischenablage, ports_.standardanwendung, anzeige};
+    Filterkontext kontext{session_, ports, filter_, tabellen_, 0, Filterbereich::Eigenschaften, {}, {}};
+    Eigenschaftsbereich bereich(kontext);
+    bereich.FilterEigenNeu();
+    EXPECT_TRUE(bereich.liste(1).werte.empty());
+    EXPECT_TRUE(bereich.statusVorhanden(5));
+    EXPECT_EQ(anzeige.beendet, 1);
+    EXPECT_EQ(gezeigt(), "1");
+}
+
+TEST_F(Eigenschaften, AListThatCannotBeFilledLeavesTheOthers)
+{
+    engine_->entferneTabelle("PartTabelle");
+    engine_->legeTabelleAn({"PartTabelle",
+                            {{"DokuBez", FeldTyp::Text},
+                             {"RevBez", FeldTyp::Text},
+                             {"Status", FeldTyp::Ganzzahl},
+                             {"Projekt", FeldTyp::Text},
+                             {"Autor", FeldTyp::Text}},
+                            {}});
+    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}});
+    EXPECT_THROW(bereich_.FilterEigenNeu(), Laufzeitfehler);
+    EXPECT_EQ(liste(1), "A100");
+    EXPECT_EQ(liste(7), "Meier");
+    EXPECT_EQ(bereich_.liste(6).anzahl, "");
+}
