@@ -86,6 +86,15 @@ void Wertekombo::zeige(const std::vector<std::string>& werte, unsigned fassung)
     clearEditText();
 }
 
+void Wertekombo::zeigeGewaehlt(const std::string& wert)
+{
+    if (currentText() == zuQt(wert))
+        return;
+    const QSignalBlocker still(this);
+    setCurrentIndex(wert.empty() ? -1 : findText(zuQt(wert)));
+    setEditText(itemText(currentIndex()));
+}
+
 void Wertekombo::melde(int index)
 {
     if (gewaehlt && index >= 0 && index < modell_->rowCount())

@@ -21,6 +21,8 @@ public:
 
     // Other values, or the same ones of another time, empty the text.
     void zeige(const std::vector<std::string>& werte, unsigned fassung = 0);
+    // The value that was taken over, "" for none; a pick that was refused does not stay.
+    void zeigeGewaehlt(const std::string& wert);
     std::function<void(const std::string& wert)> gewaehlt;
 
     void showPopup() override;

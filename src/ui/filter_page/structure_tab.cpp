@@ -16,6 +16,8 @@
 #include <QLabel>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace quelvarn {
 
 namespace {
@@ -29,6 +31,13 @@ QLabel* neueAnzahl(const char* name)
     anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     anzahl->setMinimumWidth(anzahl->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
     return anzahl;
+}
+
+// The value of a display row, "" when there is none.
+std::string wertVon(const Filterkontext& kontext, std::string_view Feldname)
+{
+    const auto zeile = std::ranges::find(kontext.FilterWerteTabelle, Feldname, &Filterwert::Feldname);
+    return zeile != kontext.FilterWerteTabelle.end() ? zeile->Wert : std::string();
 }
 
 } // namespace
@@ -161,6 +170,8 @@ void Strukturreiter::zeigeMaterialFirma()
     LblFirmaMW_->setText(zuQt(modell_.eigenschaften().bezeichnung(EIGENSCHAFT_FIRMA)));
     CbMaterialMW_->zeige(struktur_.material().werte);
     CbFirmaMW_->zeige(struktur_.firma().werte);
+    CbMaterialMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "StrukturMerkMaterial"));
+    CbFirmaMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "StrukturMerkFirma"));
     LblAnzMaterialMW_->setText(zuQt(struktur_.material().anzahl));
     LblAnzFirmaMW_->setText(zuQt(struktur_.firma().anzahl));
 }

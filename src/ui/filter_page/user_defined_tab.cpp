@@ -4,7 +4,6 @@
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/lock_look.h"
-#include "ui/controls/progress_field.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/value_combo.h"
 #include "ui/controls/value_list.h"
@@ -46,12 +45,9 @@ BenutzDefReiter::BenutzDefReiter(FilterPage& modell)
     listen->addWidget(neueNamen(), 2);
     listen->addWidget(neueWerte(), 3);
 
-    auto* fortschritt = new Fortschrittsfeld("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef");
-    fortschritt->setzeVerliehen(true);
     auto* rechts = new QVBoxLayout;
     rechts->addWidget(neueZusaetze());
     rechts->addStretch(1);
-    rechts->addWidget(fortschritt);
 
     auto* aufbau = new QHBoxLayout(this);
     aufbau->setContentsMargins(12, 4, 12, 8);
@@ -157,6 +153,7 @@ void BenutzDefReiter::zeigeZusaetze()
         LblEigenZus_[stelle]->setText(text);
         CbEigenBenutzDef_[stelle]->setAccessibleName(text);
         CbEigenBenutzDef_[stelle]->zeige(benutzDef_.zusatz(i).werte);
+        CbEigenBenutzDef_[stelle]->zeigeGewaehlt(modell_.kontext().zustand().ZusBenutzDef[stelle]);
         LblAnzZus_[stelle]->setText(zuQt(benutzDef_.zusatz(i).anzahl));
     }
 }
