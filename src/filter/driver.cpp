@@ -4,18 +4,24 @@
 namespace quelvarn {
 namespace {
 
+bool laufeStruktur(Filterkontext& kontext)
+{
+    if (kontext.zustand().FilterAnzahl == 0 && !kontext.zustand().HauptwertAktiv)
+        return false;
+    return laufeOderWieVorher(kontext, [&] {
+        return ApplyStructureFilter(kontext) && (!kontext.zustand().HauptwertAktiv || ApplyHauptwertFilter(kontext));
+    });
+}
+
 bool laufe(Filterkontext& kontext)
 {
     switch (kontext.bereich) {
     case Filterbereich::Eigenschaften:
         return ApplyPropertyFilter(kontext);
     case Filterbereich::Struktur:
-        return laufeOderWieVorher(kontext, [&] {
-            return ApplyStructureFilter(kontext) &&
-                   (!kontext.zustand().HauptwertAktiv || ApplyHauptwertFilter(kontext));
-        });
+        return laufeStruktur(kontext);
     case Filterbereich::BenutzDef:
-        return ApplyBenutzDefFilter(kontext);
+        return kontext.zustand().FilterAnzahl > 0 && ApplyBenutzDefFilter(kontext);
     }
     return false;
 }
@@ -31,6 +37,8 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext)
     if (!eigenesErgebnis)
         tabelle.FilterErgebnis = Recordset();
     tabelle.zustand = eigenesErgebnis ? Filterergebnis : Gefiltert;
+    tabelle.filterBeschreibung.clear();
+    kontext.zustand().Schnellfilter.clear();
     kontext.zustand().gezeigteWerte = kontext.FilterWerteTabelle;
     tabelle.filterListeGefuellt = !kontext.FilterWerteTabelle.empty();
     kontext.tabellen.filterGewechselt(kontext.tab);

@@ -16,7 +16,7 @@ bool ApplyPropertyFilter(Filterkontext& kontext)
     if (zustand.FilterAnzahl > SCHRITTE_OHNE_STRUKTUR)
         return false;
     if (zustand.FilterSchritte[0].Wert.empty() && StatusFilter.empty())
-        return true; // An empty filter changes no rows.
+        return false; // An empty filter changes no rows.
     return laufeOderWieVorher(kontext, [&] {
         std::vector<Kettenglied> kette;
         if (!gesichert(kontext.ports.meldungen, "Erstellen Filterstring", "Fehler beim Erstellen Filterstring!",
