@@ -34,7 +34,7 @@ void LinkeLeiste::zeigeWerte(bool FrmInfoFilter)
     melde();
 }
 
-std::vector<std::string> LinkeLeiste::favoriten()
+bool LinkeLeiste::zeigeFavoriten()
 {
     Filterfavoriten liste;
     gesichert(ports_.meldungen, TITEL_FILTERFAVORITEN, FEHLER_FILTERFAVORITEN, [&] {
@@ -44,7 +44,12 @@ std::vector<std::string> LinkeLeiste::favoriten()
     });
     zeigtFavorit_ = !liste.namen.empty();
     melde();
-    return liste.namen;
+    return zeigtFavorit_;
+}
+
+std::vector<std::string> LinkeLeiste::favoritennamen() const
+{
+    return favoritenliste(session_, seite_.tab()).namen;
 }
 
 void LinkeLeiste::waehleFavorit(std::string_view name)

@@ -21,8 +21,8 @@ public:
     void zeigeSuchen(bool FrmSuchenFiltern);
     void zeigeDatum(bool FrmFilternDatum);
     void zeigeWerte(bool FrmInfoFilter);
-    // The names for the menu of "Filtern Favo.", after a box where there is none or too many.
-    std::vector<std::string> favoriten();
+    // "Filtern Favo.": a box where there are none or too many. False: there is nothing to choose.
+    bool zeigeFavoriten();
     void waehleFavorit(std::string_view name);
     void schliesseFavoriten();
     void nutzeFavorit(); // A click on LblFilter.
@@ -38,6 +38,7 @@ public:
     bool zeigtWerte() const { return zeigtWerte_; }
     std::string_view knopfWerte() const; // Caption of the button of the filter values.
     bool zeigtFavorit() const { return zeigtFavorit_; }
+    std::vector<std::string> favoritennamen() const;
     const std::string& LblFilter() const { return LblFilter_; }
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
     const std::vector<Filterwert>& gezeigteWerte() const;

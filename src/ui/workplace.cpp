@@ -18,6 +18,7 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
     : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
       startseite_(session, ports, rahmen_), dokumentseite_(session, ports),
+      linkeLeiste_(session, ports, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -27,7 +28,7 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
         fenster_->show();
     };
     formDB_ = new FormDB(startseite_, aussehen);
-    formSEDoku_ = new FormSEDoku(dokumentseite_, session);
+    formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, session);
     fenster_->setzeSeiten(*formDB_, *new FormSEFiltern, *formSEDoku_);
     verbinde();
 }
@@ -45,6 +46,8 @@ void Arbeitsplatz::verbinde()
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };
     dokumentseite_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
+    dokumentseite_.tabelleGewechselt = [this] { linkeLeiste_.tabelleGewechselt(); };
+    linkeLeiste_.geaendert = [this] { formSEDoku_->zeigeLinks(); };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();
         fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());

@@ -3,6 +3,7 @@
 #include "filter/filter_state.h"
 #include "platform/ports.h"
 #include "register/document_page.h"
+#include "register/left_bar.h"
 #include "session/main_window.h"
 #include "session/start_page.h"
 #include "ui/guard.h"
@@ -40,6 +41,7 @@ private:
     StartPage startseite_;
     FilterState filter_;
     DocumentPage dokumentseite_;
+    LinkeLeiste linkeLeiste_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;
     FormSEDoku* formSEDoku_ = nullptr;

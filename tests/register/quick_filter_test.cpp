@@ -172,7 +172,7 @@ TEST_F(QuickFilterTest, PanelsAndFavouritesOfTheBar)
     EXPECT_TRUE(bar_.zeigtSuchen());
 
     welt_.meldungen.erwarte("Gespeicherte Filter", "Es sind keine gespeicherten Filter für Blechteile vorhanden!");
-    EXPECT_TRUE(bar_.favoriten().empty());
+    EXPECT_FALSE(bar_.zeigeFavoriten());
     welt_.meldungen.erwarte("Filterfavoriten", "Es ist kein Filtername eingetragen!");
     bar_.nutzeFavorit();
 

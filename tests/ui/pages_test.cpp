@@ -3,6 +3,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
 #include "register/document_page.h"
+#include "register/left_bar.h"
 #include "session/main_window.h"
 #include "session/rights.h"
 #include "session/start_page.h"
@@ -51,6 +52,7 @@ protected:
     FakePorts welt_;
     Ports ports_ = welt_.ports();
     SessionState session_;
+    FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
 };
 
@@ -62,7 +64,8 @@ template <typename Art> Art& finde(QWidget& seite, const char* name)
 TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
     DocumentPage modell(session_, ports_);
-    FormSEDoku seite(modell, session_);
+    LinkeLeiste links(session_, ports_, filter_, modell);
+    FormSEDoku seite(modell, links, session_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();
@@ -86,7 +89,8 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
     DocumentPage modell(session_, ports_);
-    FormSEDoku seite(modell, session_);
+    LinkeLeiste links(session_, ports_, filter_, modell);
+    FormSEDoku seite(modell, links, session_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();

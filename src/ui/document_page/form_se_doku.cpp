@@ -8,12 +8,12 @@
 #include "ui/controls/tab_bar.h"
 #include "ui/controls/tool_bar.h"
 #include "ui/document_page/info_area.h"
+#include "ui/document_page/left_bar_view.h"
 #include "ui/document_page/panels/panels.h"
 #include "ui/document_page/status_bar_datei.h"
 #include "ui/document_page/table_view.h"
 #include "ui/document_page/tool_bars.h"
 #include "ui/text.h"
-#include "ui/theme/icons.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -30,10 +30,10 @@ constexpr int ERSTE_SONDERTABELLE = 5;
 
 } // namespace
 
-FormSEDoku::FormSEDoku(DocumentPage& modell, const SessionState& session)
+FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session)
     : modell_(modell), session_(session), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
-      ToolbarSEDokTop_(neueToolbarSEDokTop()), ToolbarSEDok2_(neueToolbarSEDok2()), info_(new Infobereich(modell)),
-      status_(new StatusBarDatei)
+      ToolbarSEDokTop_(neueToolbarSEDokTop()), links_(new LinkeLeistenansicht(links, modell)),
+      info_(new Infobereich(modell)), status_(new StatusBarDatei)
 {
     setObjectName(QStringLiteral("FormSEDoku"));
     SSTabDGDoku_ = neueReiter();
@@ -73,7 +73,6 @@ QWidget* FormSEDoku::neueLeiste()
         const Sanduhr warten;
         modell_.neuaufbauen();
     }));
-    connect(&knopfVon(*ToolbarSEDok2_, "Zurück"), &QAction::triggered, this, bewacht([this] { modell_.zurueck(); }));
     return zeile;
 }
 
@@ -103,26 +102,20 @@ QWidget* FormSEDoku::neueMitte()
 
 QWidget* FormSEDoku::neueTabellenseite()
 {
-    auto* rand = new QFrame;
-    rand->setObjectName(QStringLiteral("RandSEDoku"));
-    auto* randaufbau = new QVBoxLayout(rand);
-    randaufbau->setContentsMargins(3, 4, 3, 4);
-    randaufbau->addWidget(ToolbarSEDok2_);
-    randaufbau->addStretch(1);
-
     auto* tabellen = new QVBoxLayout;
     tabellen->setSpacing(0);
-    for (QWidget* panel : {neuesFrmSuchenFiltern(), neuesFrmFilternDatum(), neuesFrmDelete()})
-        tabellen->addWidget(panel);
+    tabellen->addWidget(links_->ueberTabellen());
+    tabellen->addWidget(neuesFrmDelete());
     tabellen->addWidget(SSTabDGDoku_, 1);
-    for (QWidget* panel : {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmInfoFilter(), neuesFrmForwardMessage()})
+    tabellen->addWidget(links_->unterTabellen());
+    for (QWidget* panel : {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmForwardMessage()})
         tabellen->addWidget(panel, 1);
 
     auto* seite = new QWidget;
     auto* aufbau = new QHBoxLayout(seite);
     aufbau->setContentsMargins({});
     aufbau->setSpacing(0);
-    aufbau->addWidget(rand);
+    aufbau->addWidget(links_);
     aufbau->addLayout(tabellen, 1);
     return seite;
 }
@@ -172,7 +165,7 @@ void FormSEDoku::zeigen()
     LabelSEDoku_->setText(zuQt(modell_.anzahlText()));
     LblZugriffSEDoku_->setText(zuQt(modell_.zugriffText()));
     zeigeReiter();
-    zeigeZurueck();
+    zeigeLinks();
     for (auto* tabelle : tabellen_)
         tabelle->zeigen();
     info_->zeigen();
@@ -193,14 +186,9 @@ void FormSEDoku::zeigeReiter()
     setFocusProxy(&tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter());
 }
 
-void FormSEDoku::zeigeZurueck()
+void FormSEDoku::zeigeLinks()
 {
-    if (filterKnopf_ == modell_.filterKnopf()) // A new icon makes the whole page lay itself out again.
-        return;
-    filterKnopf_ = modell_.filterKnopf();
-    QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
-    knopf.setToolTip(zuQt(modell_.zurueckTooltip()));
-    knopf.setIcon(symbol(modell_.filterKnopf() ? "filter-aufheben" : "anfang"));
+    links_->zeigen();
 }
 
 } // namespace quelvarn

@@ -3,7 +3,6 @@
 #include <QWidget>
 
 #include <functional>
-#include <optional>
 #include <vector>
 
 class QTabWidget;
@@ -14,6 +13,8 @@ namespace quelvarn {
 class DocumentPage;
 class Infobereich;
 class KurzLabel;
+class LinkeLeiste;
+class LinkeLeistenansicht;
 class StatusBarDatei;
 class Tabellenansicht;
 struct SessionState;
@@ -24,9 +25,11 @@ class FormSEDoku : public QWidget
     Q_OBJECT
 
 public:
-    FormSEDoku(DocumentPage& modell, const SessionState& session);
+    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session);
 
     void zeigen();
+    // The bar at the left with its panels alone.
+    void zeigeLinks();
     // A document was double-clicked: what "Bearbeiten" of the frame does.
     std::function<void()> bearbeiten;
 
@@ -38,19 +41,17 @@ private:
     QTabWidget* neueReiter();
     void baueTasten();
     void zeigeReiter();
-    void zeigeZurueck();
 
     DocumentPage& modell_;
     const SessionState& session_;
     KurzLabel* LabelSEDoku_;
     KurzLabel* LblZugriffSEDoku_;
     QToolBar* ToolbarSEDokTop_;
-    QToolBar* ToolbarSEDok2_;
+    LinkeLeistenansicht* links_;
     QTabWidget* SSTabDGDoku_;
     std::vector<Tabellenansicht*> tabellen_;
     Infobereich* info_;
     StatusBarDatei* status_;
-    std::optional<bool> filterKnopf_; // As shown.
 };
 
 } // namespace quelvarn

@@ -35,7 +35,8 @@ constexpr std::array<Leistenknopf, 2> AUFTRAG{{
     {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "liste", true},
 }};
 
-constexpr std::array<std::string_view, 2> BEREIT{"Neuaufbau", "Zurück"};
+constexpr std::array<std::string_view, 6> BEREIT{"Neuaufbau",     "Suche/Filtern", "Filtern Datum",
+                                                 "Filtern Favo.", "Filterwerte",   "Zurück"};
 
 void fuege(QToolBar& leiste, const Leistenknopf& knopf)
 {
@@ -70,7 +71,6 @@ QToolBar* neueToolbarSEDok2()
     auto* leiste = neueLeiste("ToolbarSEDok2", Knopfart::NurSymbol, Qt::Vertical);
     for (const Leistenknopf& knopf : LINKS)
         fuege(*leiste, knopf);
-    knopfVon(*leiste, "Suche/Filtern").setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
     return leiste;
 }
 

@@ -14,12 +14,17 @@ QToolBar* ruhendeLeiste(std::string_view name, std::initializer_list<Leistenknop
     return leiste;
 }
 
+void richtePanelEin(QFrame& panel, const char* name)
+{
+    panel.setObjectName(QLatin1String(name));
+    panel.setProperty("rolle", QStringLiteral("panel"));
+    panel.hide();
+}
+
 QWidget* neuesPanel(const char* name)
 {
     auto* panel = new QFrame;
-    panel->setObjectName(QLatin1String(name));
-    panel->setProperty("rolle", QStringLiteral("panel"));
-    panel->hide();
+    richtePanelEin(*panel, name);
     return panel;
 }
 

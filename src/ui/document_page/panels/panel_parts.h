@@ -6,6 +6,7 @@
 
 #include <initializer_list>
 
+class QFrame;
 class QToolBar;
 class QWidget;
 
@@ -21,7 +22,8 @@ template <typename Knopf> Knopf* ruhend(const char* name, const QString& text)
 }
 
 QToolBar* ruhendeLeiste(std::string_view name, std::initializer_list<Leistenknopf> knoepfe);
-// A panel with a head line; hidden until it is asked for.
+// A panel over or under the tables; hidden until it is asked for.
+void richtePanelEin(QFrame& panel, const char* name);
 QWidget* neuesPanel(const char* name);
 
 } // namespace quelvarn

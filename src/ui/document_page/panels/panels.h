@@ -5,9 +5,6 @@ class QWidget;
 namespace quelvarn {
 
 // The panels of the document page that come up over or above the tables, each hidden until it is asked for.
-QWidget* neuesFrmSuchenFiltern();
-QWidget* neuesFrmFilternDatum();
-QWidget* neuesFrmInfoFilter();
 QWidget* neuesFrmFavoriten();
 QWidget* neuesFrmNutzer();
 QWidget* neuesFrmForwardMessage();
