@@ -42,27 +42,6 @@ QAbstractItemView& itemView(const std::string& name)
     return *view;
 }
 
-QModelIndex findEntry(const QAbstractItemModel& model, const QModelIndex& parent, const QString& text)
-{
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const auto index = model.index(row, 0, parent);
-        if (index.data().toString() == text)
-            return index;
-        if (const auto found = findEntry(model, index, text); found.isValid())
-            return found;
-    }
-    return {};
-}
-
-void clickIndex(QAbstractItemView& view, const QModelIndex& index, bool twice)
-{
-    view.scrollTo(index);
-    const auto place = view.visualRect(index).center();
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
-    if (twice)
-        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
-}
-
 void chooseTab(QTabBar& tabs, const std::string& name, const std::string& text)
 {
     for (int i = 0; i < tabs.count(); ++i)
@@ -126,6 +105,34 @@ QWidget& control(const std::string& name)
     if (auto* found = findControl(name))
         return *found;
     throw Difference(fmt::format("there is no control \"{}\"", name));
+}
+
+QAbstractItemView& usableView(const std::string& name)
+{
+    auto& view = itemView(name);
+    mustBeUsable(view, name);
+    return view;
+}
+
+QModelIndex findEntry(const QAbstractItemModel& model, const QModelIndex& parent, const QString& text)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const auto index = model.index(row, 0, parent);
+        if (index.data().toString() == text)
+            return index;
+        if (const auto found = findEntry(model, index, text); found.isValid())
+            return found;
+    }
+    return {};
+}
+
+void clickIndex(QAbstractItemView& view, const QModelIndex& index, bool twice)
+{
+    view.scrollTo(index);
+    const auto place = view.visualRect(index).center();
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    if (twice)
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
 }
 
 QAction* findToolButton(const QWidget& bar, const std::string& caption)
@@ -214,8 +221,7 @@ void choose(const std::string& name, const std::string& text, bool twice)
 
 void clickRow(const std::string& grid, int row, bool twice)
 {
-    auto& view = itemView(grid);
-    mustBeUsable(view, grid);
+    auto& view = usableView(grid);
     const auto index = view.model()->index(row - 1, 0, view.rootIndex());
     if (!index.isValid())
         throw Difference(fmt::format("{} has no row {}", grid, row));

@@ -7,8 +7,10 @@
 #include <string>
 #include <vector>
 
+class QAbstractItemModel;
 class QAbstractItemView;
 class QAction;
+class QModelIndex;
 class QTreeView;
 class QWidget;
 
@@ -18,6 +20,11 @@ namespace quelvarn::scenario {
 // The control of this name, the visible one when several share it. Throws Difference when there is none.
 QWidget& control(const std::string& name);
 QWidget* findControl(const std::string& name);
+// A grid, list or tree that is visible and enabled.
+QAbstractItemView& usableView(const std::string& name);
+// An entry at any depth; invalid when there is none.
+QModelIndex findEntry(const QAbstractItemModel& model, const QModelIndex& parent, const QString& text);
+void clickIndex(QAbstractItemView& view, const QModelIndex& index, bool twice);
 // The button of a tool bar by its caption; nullptr when the bar has none.
 QAction* findToolButton(const QWidget& bar, const std::string& caption);
 QAction& toolButton(const std::string& bar, const std::string& caption);

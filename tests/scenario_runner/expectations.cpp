@@ -1,6 +1,7 @@
 #include "database/recordset.h"
 #include "platform/dateien.h"
 #include "scenario_runner/controls.h"
+#include "scenario_runner/entries.h"
 #include "scenario_runner/steps.h"
 #include "scenario_runner/world.h"
 
@@ -9,6 +10,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace quelvarn::scenario {
@@ -83,15 +85,40 @@ std::string rowAsText(const Recordset& rows)
     return line;
 }
 
+std::vector<std::string> rowsAsText(Recordset& rows)
+{
+    std::vector<std::string> lines;
+    for (; !rows.Eof(); rows.MoveNext())
+        lines.push_back(rowAsText(rows));
+    return lines;
+}
+
 void queryGives(World& world, const Step& step)
 {
     auto connection = world.connect();
     Recordset rows;
     rows.Open(step.word(1), connection);
-    std::vector<std::string> found;
-    for (; !rows.Eof(); rows.MoveNext())
-        found.push_back(rowAsText(rows));
-    compareLines(step.word(1), step.text, found);
+    compareLines(step.word(1), step.text, rowsAsText(rows));
+}
+
+// The order counts where the query has one.
+void showsQuery(World& world, const Step& step)
+{
+    auto connection = world.connect();
+    Recordset rows;
+    rows.Open(step.word(2), connection);
+    auto shown = linesOf(step.word(1), static_cast<int>(rows.Felder().size()));
+    auto wanted = rowsAsText(rows);
+    if (step.word(2).find("ORDER BY") == std::string::npos) {
+        std::ranges::sort(shown);
+        std::ranges::sort(wanted);
+    }
+    const auto what = fmt::format("{} shows {}", step.word(1), step.word(2));
+    const auto [found, expected] = std::ranges::mismatch(shown, wanted);
+    const auto line = [](auto place, const auto& lines) { return place != lines.end() ? *place : std::string("-"); };
+    if (found != shown.end() || expected != wanted.end())
+        throw Difference(fmt::format("{}\n  expected: {} rows, {}\n  found:    {} rows, {}", what, wanted.size(),
+                                     line(expected, wanted), shown.size(), line(found, shown)));
 }
 
 void countIs(World& world, const Step& step)
@@ -163,6 +190,7 @@ void addExpectations(Verbs& verbs)
     verbs["tree"] = [](World&, const Step& step) { compareLines(step.word(1), step.text, treeOf(step.word(1))); };
     verbs["entries"] = [](World&, const Step& step) { compareLines(step.word(1), step.text, entriesOf(step.word(1))); };
     verbs["query"] = queryGives;
+    verbs["shows"] = showsQuery;
     verbs["count"] = countIs;
     verbs["file"] = fileIs;
     verbs["no-file"] = [](World& world, const Step& step) {

@@ -1,4 +1,5 @@
 #include "scenario_runner/controls.h"
+#include "scenario_runner/entries.h"
 #include "scenario_runner/steps.h"
 #include "scenario_runner/world.h"
 
@@ -69,6 +70,14 @@ void addGestureVerbs(Verbs& verbs)
     verbs["press"] = [](World&, const Step& step) { pressKey(step.word(1)); };
     verbs["row"] = rowVerb;
     verbs["open-row"] = [](World&, const Step& step) { clickRow(step.word(1), std::stoi(step.word(2)), true); };
+    verbs["node"] = [](World&, const Step& step) {
+        step.word(2);
+        clickNode(step.word(1), {step.words.begin() + 2, step.words.end()});
+    };
+    verbs["edit"] = [](World&, const Step& step) {
+        editCell(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), step.word(4));
+    };
+    verbs["day"] = [](World&, const Step& step) { clickDay(step.word(1), step.word(2)); };
     verbs["unfold"] = [](World&, const Step& step) { expand(step.word(1), step.word(2), true); };
     verbs["fold"] = [](World&, const Step& step) { expand(step.word(1), step.word(2), false); };
     verbs["fire"] = fireVerb;
