@@ -1,5 +1,8 @@
 #include "filter/conditions.h"
 
+#include "database/sql/parser.h"
+
+#include <fmt/format.h>
 #include <string>
 #include <utility>
 
@@ -26,6 +29,12 @@ sql::AusdruckZeiger eines(sql::Oder oder)
     if (oder.teile.size() == 1)
         return std::move(oder.teile.front());
     return std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(oder)});
+}
+
+sql::AusdruckZeiger statusbereich(std::string_view tabelle, std::string_view WhereStatus)
+{
+    auto anweisung = sql::parseAnweisung(fmt::format("SELECT Status FROM {}{}", tabelle, WhereStatus));
+    return std::move(std::get<sql::Select>(anweisung).where);
 }
 
 } // namespace quelvarn

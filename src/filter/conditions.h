@@ -13,4 +13,7 @@ sql::AusdruckZeiger beide(sql::AusdruckZeiger links, sql::AusdruckZeiger rechts)
 // Any of these.
 sql::AusdruckZeiger eines(sql::Oder oder);
 
+// The condition of WhereStatus (" WHERE (...)", or "" for none) on a table; nothing where there is none.
+sql::AusdruckZeiger statusbereich(std::string_view tabelle, std::string_view WhereStatus);
+
 } // namespace quelvarn

@@ -1,6 +1,7 @@
 #include "filter/filter_string.h"
 
 #include "base/text.h"
+#include "filter/user_defined_match.h"
 
 #include <algorithm>
 #include <charconv>
@@ -15,8 +16,6 @@ constexpr char ENDE = '|';
 constexpr std::string_view STATUS_ENTRY = "Status";
 constexpr std::string_view BENUTZDEF = "BenutzDef";
 constexpr std::string_view ZUSBENUTZDEF = "ZusBenutzDef";
-constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUS_EIGENSCHAFTEN{"Autor", "Bearbeiter", "Material",
-                                                                              "Projekt"};
 constexpr std::string_view STRUKTURMERK = "StrukturMerk";
 constexpr std::string_view HAUPTMERKMAL = "Hauptmerkmal_";
 constexpr char ERSTE_EBENE = 'C'; // Features A and B belong to the properties.
@@ -143,10 +142,10 @@ private:
 
     bool zusatz(const Filterwert& zeile)
     {
-        const auto stelle = std::ranges::find(ZUS_EIGENSCHAFTEN, zeile.Feldname.substr(ZUSBENUTZDEF.size()));
-        if (stelle == ZUS_EIGENSCHAFTEN.end())
+        const auto stelle = std::ranges::find(ZUSATZSPALTEN, zeile.Feldname.substr(ZUSBENUTZDEF.size()));
+        if (stelle == ZUSATZSPALTEN.end())
             return false;
-        filter_.ZusBenutzDef[static_cast<std::size_t>(stelle - ZUS_EIGENSCHAFTEN.begin())] = zeile.Wert;
+        filter_.ZusBenutzDef[static_cast<std::size_t>(stelle - ZUSATZSPALTEN.begin())] = zeile.Wert;
         ++filter_.BenutzDefAnzahl;
         return true;
     }

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quelvarn {
 
@@ -19,11 +20,12 @@ public:
     void nameGewaehlt(std::string_view name);              // DLstBenutzDefName
     void wertGewaehlt(std::string_view wert);              // DLstBenutzDefWert: takes name and value as a step
     void zusatzGewaehlt(int index, std::string_view wert); // CbEigenBenutzDef(0) to (3)
-    void setzeEmpfaenger(bool gesetzt);                    // ChReceiver
+    void setzeEmpfaenger(bool gesetzt);                    // ChReceiver: receivers in place of their codes
 
     // --- mechanisms of the page; faults pass through ---
     bool vorhanden() const; // The type has a table of user-defined properties.
-    void fuelleListen();    // Names and the four additional lists; forgets what was chosen.
+    // Names and the four additional lists; forgets what was chosen. Additional lists that were given up stay empty.
+    void fuelleListen();
     void entsperre();
     void sperre(); // A saved filter with additional values: the properties are locked.
 
@@ -36,8 +38,13 @@ public:
     bool SperreBenutzDef() const { return SperreBenutzDef_; } // True when selection is allowed.
 
 private:
+    void fuelleWerte();
+    void nimmSchritt(std::string_view wert);
+    std::string bezeichnung(int zusatz) const;
+
     Filterkontext& kontext_;
     Werteliste namen_, werte_;
+    std::vector<std::string> kennungen_; // What stands in the table for each of werte_.
     std::array<Werteliste, ANZAHL_ZUSBENUTZDEF> zusatz_;
     std::string name_;
     bool ChReceiver_ = false;

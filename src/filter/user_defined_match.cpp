@@ -10,7 +10,6 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t AB_PFAD = 32; // A Wert of so many characters is taken for a path.
 constexpr std::string_view VERSAND = "*Versand";
 
 // The star is the only wildcard: signs that mean something to LIKE are put into classes.

@@ -4,12 +4,19 @@
 #include "database/sql/ast.h"
 #include "filter/filter_state.h"
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quelvarn {
+
+inline constexpr std::size_t AB_PFAD = 32; // A Wert of so many characters is taken for a path.
+// The columns of the additional values, in the order of ZusBenutzDef.
+inline constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUSATZSPALTEN{"Autor", "Bearbeiter", "Material",
+                                                                                 "Projekt"};
 
 // The steps for user-defined properties: which rows (Name, Wert) meet one of them.
 class BenutzDefSchritte

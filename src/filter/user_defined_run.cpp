@@ -1,5 +1,4 @@
 #include "base/collation.h"
-#include "database/sql/parser.h"
 #include "filter/conditions.h"
 #include "filter/document_counter.h"
 #include "filter/execution.h"
@@ -8,7 +7,6 @@
 #include "session/error_report.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 
 namespace quelvarn {
 
@@ -17,7 +15,6 @@ namespace {
 constexpr std::size_t SCHRITTWEITE = 8192;
 constexpr std::size_t ALS_ABFRAGEN = 2000; // So many documents are looked up one by one.
 constexpr std::size_t JE_ABFRAGE = 100;
-constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUS_SPALTEN{"Autor", "Bearbeiter", "Material", "Projekt"};
 
 // Where the rows of the documents found stand.
 struct Fundort
@@ -32,19 +29,14 @@ struct Fund
     std::size_t fundort = 0;
 };
 
-sql::AusdruckZeiger statusbereich(std::string_view tabelle, const std::string& WhereStatus)
-{
-    auto anweisung = sql::parseAnweisung(fmt::format("SELECT DokuBez FROM {}{}", tabelle, WhereStatus));
-    return std::move(std::get<sql::Select>(anweisung).where);
-}
-
 // One run of the filter for user-defined properties: counts hits per document, then finds the documents' rows.
 class BenutzDefLauf
 {
 public:
     BenutzDefLauf(Filterkontext& kontext, LangeArbeit& arbeit)
         : kontext_(kontext), arbeit_(arbeit), typ_(DOKUTYPEN[static_cast<std::size_t>(kontext.tab)]),
-          schritte_(kontext.zustand()), ZusBenutzDef_(kontext.zustand().ZusBenutzDef)
+          schritte_(kontext.zustand()), ZusBenutzDef_(kontext.zustand().ZusBenutzDef),
+          gesamt_(kontext.tabelle().anzahl * (schritte_.anzahl() + 1) + SCHRITTWEITE)
     {
         // A special table's documents are looked up among the parts first.
         const bool sonder = typ_.sondertabelle > 0;
@@ -69,8 +61,7 @@ private:
     {
         if (++gelesen_ % SCHRITTWEITE != 0)
             return true;
-        const std::size_t gesamt = kontext_.tabelle().anzahl * (schritte_.anzahl() + 1) + SCHRITTWEITE;
-        return arbeit_(std::min(gelesen_, gesamt), gesamt);
+        return arbeit_(std::min(gelesen_, gesamt_), gesamt_);
     }
 
     // --- rows of properties ---
@@ -89,12 +80,12 @@ private:
         select.spalten = {"DokuBez", "RevBez", "Name", "Wert"};
         select.where = beide(std::move(bedingung), statusbereich(select.tabelle, kontext_.session.WhereStatus));
         std::vector<std::size_t> zusaetze;
-        for (std::size_t i = 0; i < ZUS_SPALTEN.size(); ++i)
+        for (std::size_t i = 0; i < ZUSATZSPALTEN.size(); ++i)
             if (!ZusBenutzDef_[i].empty()) {
                 zusaetze.push_back(i);
-                select.spalten.emplace_back(ZUS_SPALTEN[i]);
-                select.where =
-                    beide(std::move(select.where), vergleich(ZUS_SPALTEN[i], sql::Vergleich::Gleich, ZusBenutzDef_[i]));
+                select.spalten.emplace_back(ZUSATZSPALTEN[i]);
+                select.where = beide(std::move(select.where),
+                                     vergleich(ZUSATZSPALTEN[i], sql::Vergleich::Gleich, ZusBenutzDef_[i]));
             }
         const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Nein);
         while (zeilen->next()) {
@@ -262,17 +253,19 @@ private:
     std::vector<Fund> funde_;
     std::vector<Dokumentzaehler::Nummer> gefundene_;
     std::size_t gelesen_ = 0;
+    std::size_t gesamt_; // About.
 };
 
 } // namespace
 
 bool ApplyBenutzDefFilter(Filterkontext& kontext)
 {
+    GefilterteTabelle& tabelle = kontext.tabelle(); // Opening it may take long as well.
     LangeArbeit arbeit(kontext.ports.fortschritt, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
     auto ergebnis = BenutzDefLauf(kontext, arbeit).fuehreAus();
     if (!ergebnis)
         return false;
-    kontext.tabelle().FilterErgebnis = std::move(*ergebnis);
+    tabelle.FilterErgebnis = std::move(*ergebnis);
     return true;
 }
 
