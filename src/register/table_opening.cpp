@@ -75,6 +75,7 @@ void DocumentPage::filterGewechselt(int tab)
     zeilenGeaendert(tab);
     if (tab == tab_)
         zeigeZeilen();
+    melde();
 }
 
 void DocumentPage::filterAufheben(int tab)
@@ -86,6 +87,7 @@ void DocumentPage::filterAufheben(int tab)
     bindeOhneFilter(tab);
     if (tab == tab_)
         zeigeZeilen();
+    melde();
 }
 
 // Once per database: lazily opened tables of another one must not be left over.

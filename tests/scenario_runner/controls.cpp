@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -236,6 +237,17 @@ void typeText(const std::string& name, const std::string& text)
     QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&widget, Qt::Key_Delete);
     QTest::keyClicks(&widget, qt(text));
+}
+
+void slide(const std::string& name, int value)
+{
+    auto* slider = qobject_cast<QAbstractSlider*>(&control(name));
+    if (slider == nullptr)
+        throw Difference(fmt::format("{} is no slider", name));
+    mustBeUsable(*slider, name);
+    slider->setValue(value);
+    if (slider->value() != value)
+        throw Difference(fmt::format("{} has no place for {}", name, value));
 }
 
 void pressKey(const std::string& key)

@@ -37,6 +37,8 @@ void tick(const std::string& name, bool on);
 void choose(const std::string& name, const std::string& text, bool twice = false);
 void clickRow(const std::string& grid, int row, bool twice);
 void typeText(const std::string& name, const std::string& text);
+// A slider to a value.
+void slide(const std::string& name, int value);
 void pressKey(const std::string& key);
 void expand(const std::string& tree, const std::string& text, bool open);
 

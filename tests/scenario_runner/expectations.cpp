@@ -6,6 +6,7 @@
 #include "scenario_runner/world.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -171,6 +172,10 @@ void addControlStates(Verbs& verbs)
 void addExpectations(Verbs& verbs)
 {
     addControlStates(verbs);
+    verbs["focus"] = [](World&, const Step& step) {
+        const auto* focused = QApplication::focusWidget();
+        compare("focus", step.word(1), focused != nullptr ? plain(focused->objectName()) : std::string("nowhere"));
+    };
     verbs["text"] = textIs;
     verbs["part"] = textHolds;
     verbs["tip"] = toolTip;

@@ -68,6 +68,7 @@ void addGestureVerbs(Verbs& verbs)
     verbs["choose"] = [](World&, const Step& step) { choose(step.word(1), step.word(2)); };
     verbs["type"] = [](World&, const Step& step) { typeText(step.word(1), step.word(2)); };
     verbs["press"] = [](World&, const Step& step) { pressKey(step.word(1)); };
+    verbs["slide"] = [](World&, const Step& step) { slide(step.word(1), std::stoi(step.word(2))); };
     verbs["row"] = rowVerb;
     verbs["open-row"] = [](World&, const Step& step) { clickRow(step.word(1), std::stoi(step.word(2)), true); };
     verbs["node"] = [](World&, const Step& step) {

@@ -25,7 +25,7 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int HOEHE_WERTE = 140;
+constexpr int HOEHE_WERTE = 120;
 
 } // namespace
 

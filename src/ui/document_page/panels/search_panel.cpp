@@ -23,7 +23,7 @@ namespace quelvarn {
 namespace {
 
 constexpr std::array<const char*, 3> FELDNAMEN{"OpDokuBez", "OpDatei", "OpPfadDatei"};
-constexpr std::array<const char*, 2> VERFAHREN{"am Anfang", "an beliebiger Stelle"};
+constexpr std::array<const char*, 2> VERFAHREN{"am Anfang", "beliebig"};
 
 } // namespace
 
