@@ -5,6 +5,7 @@
 #include "filter/filter_run.h"
 
 #include <stdexcept>
+#include <string>
 
 namespace quelvarn::bench {
 

@@ -6,9 +6,13 @@
 #include "database/sql/parser.h"
 #include "filter/filter_run.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
+#include <string_view>
+#include <variant>
 
 using namespace quelvarn;
 

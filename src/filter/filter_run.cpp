@@ -3,6 +3,7 @@
 #include "filter/execution.h"
 #include "platform/fortschritt.h"
 
+#include <functional>
 #include <optional>
 
 namespace quelvarn {

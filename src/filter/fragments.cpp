@@ -1,5 +1,6 @@
 #include "filter/fragments.h"
 
+#include "base/date_time.h"
 #include "base/number_format.h"
 #include "base/runtime_error.h"
 #include "base/text.h"

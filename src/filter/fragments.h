@@ -2,6 +2,7 @@
 
 #include "filter/filter_state.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>

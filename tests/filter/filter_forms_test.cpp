@@ -7,7 +7,9 @@
 #include "filter/execution.h"
 #include "filter/filter_run.h"
 
+#include <iterator>
 #include <random>
+#include <string>
 
 namespace quelvarn {
 namespace {
