@@ -52,7 +52,9 @@ QVariant Wertmodell::data(const QModelIndex& stelle, int rolle) const
 
 QVariant Wertmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
 {
-    if (richtung != Qt::Horizontal || abschnitt < 0 || abschnitt >= Anzahl)
+    if (richtung == Qt::Vertical)
+        return rolle == Qt::DisplayRole ? QVariant(abschnitt + 1) : QVariant();
+    if (abschnitt < 0 || abschnitt >= Anzahl)
         return {};
     if (rolle == Qt::DisplayRole)
         return abschnitt == Benennung ? QStringLiteral("Benennung") : zuQt(kopf_);

@@ -1,9 +1,8 @@
 #include "ui/controls/value_combo.h"
 
+#include "ui/controls/value_model.h"
 #include "ui/guard.h"
-#include "ui/text.h"
 
-#include <QAbstractListModel>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QListView>
@@ -25,38 +24,7 @@ QListView* neueListe(QWidget* eltern = nullptr)
 
 } // namespace
 
-// The values; a text is made when it is drawn.
-class Kombomodell : public QAbstractListModel
-{
-public:
-    using QAbstractListModel::QAbstractListModel;
-
-    void zeige(const std::vector<std::string>& werte)
-    {
-        beginResetModel();
-        werte_ = werte;
-        endResetModel();
-    }
-    const std::vector<std::string>& werte() const { return werte_; }
-    const std::string& wert(int zeile) const { return werte_[static_cast<std::size_t>(zeile)]; }
-
-    int rowCount(const QModelIndex& eltern = {}) const override
-    {
-        return eltern.isValid() ? 0 : static_cast<int>(werte_.size());
-    }
-    QVariant data(const QModelIndex& stelle, int rolle) const override
-    {
-        if (!stelle.isValid() || stelle.row() >= rowCount())
-            return {};
-        const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole || rolle == Qt::ToolTipRole;
-        return text ? QVariant(zuQt(wert(stelle.row()))) : QVariant();
-    }
-
-private:
-    std::vector<std::string> werte_;
-};
-
-Wertekombo::Wertekombo(const QString& name) : modell_(new Kombomodell(this))
+Wertekombo::Wertekombo(const QString& name) : modell_(new Wertemodell(this))
 {
     setObjectName(name);
     setEditable(true);
@@ -77,11 +45,11 @@ Wertekombo::Wertekombo(const QString& name) : modell_(new Kombomodell(this))
 
 void Wertekombo::zeige(const std::vector<std::string>& werte, unsigned fassung)
 {
-    if (fassung == fassung_ && werte == modell_->werte())
-        return;
     const QSignalBlocker still(this);
+    const bool andere = modell_->zeige(werte);
+    if (!andere && fassung == fassung_)
+        return;
     fassung_ = fassung;
-    modell_->zeige(werte);
     setCurrentIndex(-1);
     clearEditText();
 }

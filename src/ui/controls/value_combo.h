@@ -8,7 +8,7 @@
 
 namespace quelvarn {
 
-class Kombomodell;
+class Wertemodell;
 
 // A combo of existing values, quick also with a hundred thousand of them: typing narrows the list to the values that
 // hold the text. Only a pick by a person is told, also the same value again.
@@ -37,7 +37,7 @@ private:
     void melde(int index);
     void verwirfEingabe();
 
-    Kombomodell* modell_;
+    Wertemodell* modell_;
     unsigned fassung_ = 0;
 };
 

@@ -29,7 +29,7 @@ int Wertemodell::rowCount(const QModelIndex& eltern) const
 
 QVariant Wertemodell::data(const QModelIndex& stelle, int rolle) const
 {
-    if (!checkIndex(stelle, CheckIndexOption::IndexIsValid))
+    if (!stelle.isValid() || stelle.row() >= rowCount()) // Combos ask for no entry, too.
         return {};
     const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole || rolle == Qt::ToolTipRole;
     return text ? QVariant(zuQt(wert(stelle.row()))) : QVariant();

@@ -2,15 +2,63 @@
 
 #include <QWidget>
 
+class QStackedWidget;
+class QTabWidget;
+class QToolBar;
+
 namespace quelvarn {
 
-// The place of the filter page.
+class BenutzDefReiter;
+class Eigenschaftsreiter;
+class FilterPage;
+class Fortschrittsfeld;
+class GespeicherteFilterRahmen;
+class KurzLabel;
+class LaufenderFilter;
+class Strukturreiter;
+class Vorlagenansicht;
+
+// The filter page: three parts for what is to be filtered, below them the running filter and the saved ones.
 class FormSEFiltern : public QWidget
 {
     Q_OBJECT
 
 public:
-    FormSEFiltern();
+    explicit FormSEFiltern(FilterPage& modell);
+
+    void zeigen();
+    // The template, "" for none.
+    void zeigeVorlage(const std::string& pfad);
+
+protected:
+    void showEvent(QShowEvent* ereignis) override;
+
+private:
+    QWidget* neueKopfzeile();
+    QWidget* neueLeiste();
+    QWidget* neuerInhalt();
+    QWidget* neueStatuszeile();
+    void baueReiter();
+    void baueTasten();
+    void filtern();
+    void zeigeLeiste();
+    void zeigeReiter();
+
+    FilterPage& modell_;
+    KurzLabel* LblKopfSEFiltern_;
+    KurzLabel* LblZugriffSEFiltern_;
+    QToolBar* ToolbarSEFilter_;
+    QStackedWidget* FrmGesamtFilter_;
+    QTabWidget* SSTabDGFilter_;
+    Eigenschaftsreiter* eigenschaften_;
+    Strukturreiter* struktur_;
+    BenutzDefReiter* benutzDef_;
+    LaufenderFilter* filter_;
+    GespeicherteFilterRahmen* gespeicherte_;
+    Vorlagenansicht* vorlage_;
+    KurzLabel* dateiname_;
+    KurzLabel* pfadname_;
+    Fortschrittsfeld* fortschritt_;
 };
 
 } // namespace quelvarn
