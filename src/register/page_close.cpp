@@ -40,7 +40,7 @@ void DocumentPage::vergissDatenbank()
 
 void DocumentPage::seiteGezeigt(Seite seite)
 {
-    if (seite == Seite::Dokumente)
+    if (seite == Seite::Dokumente || seite == Seite::Filter) // The filter page is about the table shown here.
         StartTabelleZeigen();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/workplace.h"
 
 #include "filter/execution.h"
+#include "platform/dateien.h"
 #include "session/session_state.h"
 #include "ui/busy_pointer.h"
 #include "ui/document_page/form_se_doku.h"
@@ -19,6 +20,7 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
       startseite_(session, ports, rahmen_), dokumentseite_(session, ports),
       linkeLeiste_(session, ports, filter_, dokumentseite_),
+      filterseite_(session, ports, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -29,8 +31,10 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
     };
     formDB_ = new FormDB(startseite_, aussehen);
     formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, session);
-    fenster_->setzeSeiten(*formDB_, *new FormSEFiltern, *formSEDoku_);
+    formSEFiltern_ = new FormSEFiltern(filterseite_);
+    fenster_->setzeSeiten(*formDB_, *formSEFiltern_, *formSEDoku_);
     verbinde();
+    verbindeFilterseite(ports);
 }
 
 Arbeitsplatz::~Arbeitsplatz() = default;
@@ -51,6 +55,18 @@ void Arbeitsplatz::verbinde()
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();
         fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());
+    };
+}
+
+void Arbeitsplatz::verbindeFilterseite(const Ports& ports)
+{
+    rahmen_.meldeAn(filterseite_); // Behind the document page, whose table it opens for.
+    filterseite_.geaendert = [this] { formSEFiltern_->zeigen(); };
+    filterseite_.zurDokumentseite = [this] { rahmen_.zuSeite(Seite::Dokumente); };
+    filterseite_.viewer = [this, &dateien = ports.dateien](const std::string& filename) {
+        const bool vorhanden = filename.empty() || dateien.dateiVorhanden(filename);
+        formSEFiltern_->zeigeVorlage(vorhanden ? filename : std::string());
+        return vorhanden;
     };
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filter/filter_page.h"
 #include "filter/filter_state.h"
 #include "platform/ports.h"
 #include "register/document_page.h"
@@ -16,6 +17,7 @@ namespace quelvarn {
 
 class FormDB;
 class FormSEDoku;
+class FormSEFiltern;
 class MDIForm1;
 struct SessionState;
 
@@ -33,6 +35,7 @@ public:
 
 private:
     void verbinde();
+    void verbindeFilterseite(const Ports& ports);
 
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
@@ -42,9 +45,11 @@ private:
     FilterState filter_;
     DocumentPage dokumentseite_;
     LinkeLeiste linkeLeiste_;
+    FilterPage filterseite_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;
     FormSEDoku* formSEDoku_ = nullptr;
+    FormSEFiltern* formSEFiltern_ = nullptr;
 };
 
 } // namespace quelvarn

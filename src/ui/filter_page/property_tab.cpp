@@ -105,10 +105,7 @@ void Eigenschaftsreiter::neueEigenschaft(int index, QGridLayout& gitter)
     caption->setFixedWidth(caption->fontMetrics().horizontalAdvance(QStringLiteral("Hauptmerkmal A")) + 8);
     setzeRolle(*caption, Rolle::Beschriftung);
     auto* kombo = new Wertekombo(QStringLiteral("CbEigen(%1)").arg(index));
-    kombo->gewaehlt = [this, index](const std::string& wert) {
-        modell_.eigenschaften().wertGewaehlt(index, wert);
-        modell_.kontext().melde();
-    };
+    kombo->gewaehlt = [this, index](const std::string& wert) { modell_.eigenschaften().wertGewaehlt(index, wert); };
     auto* anzahl = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblAnzEigen(%1)").arg(index));
     anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     anzahl->setMinimumWidth(anzahl->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
@@ -142,7 +139,6 @@ QWidget* Eigenschaftsreiter::neueStati()
         auto* kasten = new QCheckBox(QStringLiteral("%1 %2").arg(status).arg(zuQt(STATUS[status].name)));
         connect(kasten, &QCheckBox::clicked, this, bewacht([this, status](bool an) {
                     modell_.eigenschaften().statusGewaehlt(static_cast<int>(status), an);
-                    modell_.kontext().melde();
                 }));
         aufbau->addWidget(ChFilterStat_[status] = kasten);
     }
@@ -201,7 +197,6 @@ QWidget* Eigenschaftsreiter::neuerKalender()
 void Eigenschaftsreiter::datumGewaehlt(const QDate& tag)
 {
     modell_.eigenschaften().datumGewaehlt(Zeitpunkt::aus({tag.year(), tag.month(), tag.day()}));
-    modell_.kontext().melde();
     if (datumUebernommen)
         datumUebernommen();
 }
