@@ -152,7 +152,7 @@ void FilterPage::fuelleBereich()
     ++listenfassung_;
     switch (kontext_.bereich) {
     case Filterbereich::Eigenschaften:
-        return fuelleEigenschaften();
+        return eigenschaften_.FilterListenSchmal(kontext_.zustand().FilterString);
     case Filterbereich::Struktur:
         return fuelleStruktur();
     case Filterbereich::BenutzDef:
@@ -161,17 +161,6 @@ void FilterPage::fuelleBereich()
         if (kontext_.zustand().BenutzDefAnzahl > 0)
             benutzDef_.sperre();
     }
-}
-
-void FilterPage::fuelleEigenschaften()
-{
-    const Filterzustand& zustand = kontext_.zustand();
-    if (!zustand.FilterString.empty())
-        eigenschaften_.FilterListenSchmal(zustand.FilterString);
-    else if (!kontext_.filter.status.StatusFilter.empty())
-        eigenschaften_.FilterListenStatus();
-    else
-        eigenschaften_.FilterEigenNeu();
 }
 
 // The tree as the steps of the type have walked it.
@@ -197,10 +186,8 @@ void FilterPage::filtern()
     bediene("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
         FilterEigenMerkBenutzDef(kontext_);
         schneideWerteZu();
-        if (kontext_.bereich != Filterbereich::Eigenschaften)
-            return;
-        ++listenfassung_;
-        eigenschaften_.FilterListenSchmal(kontext_.zustand().FilterString);
+        if (kontext_.bereich == Filterbereich::Eigenschaften)
+            fuelleBereich();
     });
 }
 

@@ -78,7 +78,6 @@ private:
     void stelleStandWiederHer();
     void leere();
     void fuelleBereich();
-    void fuelleEigenschaften();
     void fuelleStruktur();
     void schneideWerteZu();
     void schliesseVorlage();

@@ -17,6 +17,7 @@
 #include "ui/guard.h"
 #include "ui/text.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QHBoxLayout>
 #include <QShortcut>
@@ -29,7 +30,7 @@ namespace {
 
 constexpr std::array<const char*, 3> REITER{"Eigenschaften und Datum", "Hauptmerkmale und Hauptwerte",
                                             "Benutzerdefinierte Eigenschaften"};
-constexpr int HOEHE_FILTER = 158; // Head, five steps and the statuses.
+constexpr int HOEHE_FILTER = 160; // Head, five steps and the statuses.
 constexpr int BREITE_GESPEICHERTE = 262;
 
 } // namespace
@@ -152,6 +153,7 @@ QWidget* FormSEFiltern::neueStatuszeile()
     reihe.addSpacing(8);
     reihe.addWidget(beschriftung(QStringLiteral("Pfadname"), Rolle::Klein, QStringLiteral("StatusBarDatei(3)")));
     reihe.addWidget(pfadname_, 1);
+    fortschritt_->abbrechen().setProperty("flach", true);
     reihe.addWidget(fortschritt_);
     return zeile;
 }

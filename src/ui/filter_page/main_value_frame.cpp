@@ -71,8 +71,8 @@ Hauptwertrahmen::Hauptwertrahmen(Strukturbereich& modell)
 {
     setObjectName(QStringLiteral("FrmHWag"));
     auto* rechts = new QVBoxLayout;
+    rechts->setSpacing(4);
     baueWert(*rechts);
-    rechts->addSpacing(8);
     baueAlias(*rechts);
     auto* aufbau = new QHBoxLayout(this);
     aufbau->setSpacing(16);
@@ -142,6 +142,7 @@ void Hauptwertrahmen::baueAlias(QVBoxLayout& aufbau)
     kopf->addWidget(ChShowAnzAlias_);
     kopf->addWidget(LblAnzAlias_, 1);
     aufbau.addLayout(kopf);
+    LstHW_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // What the fields above leave.
     aufbau.addWidget(LstHW_, 1);
 }
 

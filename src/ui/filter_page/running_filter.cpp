@@ -19,6 +19,7 @@ namespace quelvarn {
 namespace {
 
 constexpr int BREITE_HAUPTWERTE = 210;
+constexpr int BREITE_NUMMER = 26;
 
 } // namespace
 
@@ -33,12 +34,16 @@ LaufenderFilter::LaufenderFilter(FilterPage& modell)
     baueHauptwerte();
     auto* schritte = new QFrame;
     schritte->setProperty("rahmen", true);
+    auto* status = new QHBoxLayout;
+    status->setContentsMargins(BREITE_NUMMER, 0, 0, 0); // Below the names of the steps.
+    status->addWidget(DataGridStatus_);
     auto* senkrecht = new QVBoxLayout(schritte);
     senkrecht->setContentsMargins(1, 1, 1, 1);
     senkrecht->setSpacing(0);
     senkrecht->addWidget(neuerKopf());
     senkrecht->addWidget(DataGridFilterEigenMerk_, 1);
-    senkrecht->addWidget(DataGridStatus_);
+    senkrecht->addWidget(trennlinie());
+    senkrecht->addLayout(status);
     auto* aufbau = new QHBoxLayout(this);
     aufbau->setContentsMargins({});
     aufbau->addWidget(schritte, 1);
@@ -67,6 +72,7 @@ void LaufenderFilter::baueSchritte()
     DataGridFilterEigenMerk_->installEventFilter(this);
     for (Werttabelle* tabelle : {DataGridFilterEigenMerk_, DataGridStatus_})
         tabelle->horizontalHeader()->hide();
+    DataGridFilterEigenMerk_->verticalHeader()->setFixedWidth(BREITE_NUMMER);
     DataGridStatus_->setFixedHeight(DataGridStatus_->verticalHeader()->defaultSectionSize());
     DataGridStatus_->setFocusPolicy(Qt::NoFocus);
     DataGridStatus_->setSelectionMode(QAbstractItemView::NoSelection);
@@ -81,6 +87,9 @@ void LaufenderFilter::baueHauptwerte()
     DGFilternWerte_->setModel(hauptwerte_);
     stelleGitterEin(*DGFilternWerte_);
     DGFilternWerte_->setFixedWidth(BREITE_HAUPTWERTE);
+    DGFilternWerte_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    DGFilternWerte_->verticalHeader()->setMinimumSectionSize(DGFilternWerte_->fontMetrics().height());
+    DGFilternWerte_->verticalHeader()->setDefaultSectionSize(DGFilternWerte_->fontMetrics().height() + 2);
     DGFilternWerte_->setColumnWidth(0, BREITE_HAUPTWERTE / 5);
     DGFilternWerte_->setColumnWidth(1, BREITE_HAUPTWERTE * 2 / 5);
 }

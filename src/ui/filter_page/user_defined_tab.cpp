@@ -71,6 +71,7 @@ QWidget* BenutzDefReiter::neueNamen()
     auto* aufbau = new QGridLayout(teil);
     aufbau->setContentsMargins({});
     aufbau->setVerticalSpacing(4);
+    aufbau->setRowMinimumHeight(0, ChReceiver_->sizeHint().height()); // Both lists begin on one line.
     aufbau->addWidget(LblEigenBenutzDef, 0, 0);
     aufbau->addWidget(LblAnzEigenBenutzDef_, 0, 1);
     aufbau->addWidget(DLstBenutzDefName_, 1, 0, 1, 2);

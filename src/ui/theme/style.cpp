@@ -130,6 +130,28 @@ void zeichneKnopf(QPainter& painter, const QStyleOption& option)
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }
 
+// Fields to type in: an outline that shows the focus.
+void zeichneFeld(QPainter& painter, const QRect& rand, bool bereit, bool fokus, const QColor& grund)
+{
+    const Farbsatz& farben = farbsatz();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(!bereit ? farben.linie : fokus ? farben.akzent : farben.rand);
+    painter.setBrush(grund);
+    painter.drawRoundedRect(QRectF(rand).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+}
+
+void zeichneAuswahlfeld(QPainter& painter, const QStyleOptionComboBox& option, const QRect& pfeil)
+{
+    const Farbsatz& farben = farbsatz();
+    const bool bereit = option.state.testFlag(QStyle::State_Enabled);
+    const bool hervor = option.state & (QStyle::State_HasFocus | QStyle::State_On);
+    zeichneFeld(painter, option.rect, bereit, bereit && hervor, option.editable ? farben.flaeche : farben.streifen);
+    const QPointF mitte = QRectF(pfeil).center();
+    painter.setPen(QPen(bereit ? farben.gedaempft : farben.inaktiv, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolyline(QPolygonF({mitte + QPointF(-3.5, -1.5), mitte + QPointF(0, 2), mitte + QPointF(3.5, -1.5)}));
+}
+
 } // namespace
 
 void zeichneFokusmarke(QPainter& painter, const QRect& eintrag)
@@ -149,6 +171,10 @@ void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* opti
     case PE_PanelButtonCommand:
         zeichneKnopf(*painter, *option);
         break;
+    case PE_FrameLineEdit:
+        zeichneFeld(*painter, option->rect, option->state.testFlag(State_Enabled),
+                    option->state.testFlag(State_HasFocus), farbsatz().flaeche);
+        break;
     case PE_FrameFocusRect:
         if (qobject_cast<const QAbstractItemView*>(widget) != nullptr)
             zeichneFokusmarke(*painter, option->rect);
@@ -157,6 +183,23 @@ void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* opti
         QProxyStyle::drawPrimitive(teil, option, painter, widget);
     }
     painter->restore();
+}
+
+void Programmstil::drawComplexControl(ComplexControl art, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const
+{
+    const auto* auswahl = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (art != CC_ComboBox || auswahl == nullptr)
+        return QProxyStyle::drawComplexControl(art, option, painter, widget);
+    painter->save();
+    zeichneAuswahlfeld(*painter, *auswahl, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+    painter->restore();
+}
+
+QRect Programmstil::subElementRect(SubElement teil, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect platz = QProxyStyle::subElementRect(teil, option, widget);
+    return teil == SE_LineEditContents ? platz.adjusted(2, 0, -2, 0) : platz;
 }
 
 QIcon Programmstil::standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const

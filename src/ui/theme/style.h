@@ -17,6 +17,9 @@ public:
                   QStyleHintReturn* antwort) const override;
     void drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl art, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    QRect subElementRect(SubElement teil, const QStyleOption* option, const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const override;
 };
 
