@@ -277,10 +277,10 @@ void FilterPage::nutzeGespeicherten(std::string_view Filtername)
 {
     bediene("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
         zeigeTyp(kontext_.tabellen.filterTab());
-        const auto text = gewaehlterFavorit(kontext_.session, kontext_.ports.meldungen, kontext_.tab, Filtername);
-        if (!text)
+        const std::string text = SavedFilterString(kontext_.session, kontext_.tab, Filtername);
+        if (text.empty())
             return;
-        UseSavedFilter(kontext_, *text);
+        UseSavedFilter(kontext_, text);
         FilterEigenMerkBenutzDef(kontext_);
         schneideWerteZu();
     });

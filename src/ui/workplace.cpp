@@ -62,6 +62,10 @@ void Arbeitsplatz::verbindeFilterseite(const Ports& ports)
 {
     rahmen_.meldeAn(filterseite_); // Behind the document page, whose table it opens for.
     filterseite_.geaendert = [this] { formSEFiltern_->zeigen(); };
+    linkeLeiste_.nutzeGespeicherten = [this](std::string_view Filtername) {
+        const Sanduhr warten;
+        filterseite_.nutzeGespeicherten(Filtername);
+    };
     filterseite_.zurDokumentseite = [this] { rahmen_.zuSeite(Seite::Dokumente); };
     filterseite_.viewer = [this, &dateien = ports.dateien](const std::string& filename) {
         const bool vorhanden = filename.empty() || dateien.dateiVorhanden(filename);

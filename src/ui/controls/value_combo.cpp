@@ -2,6 +2,7 @@
 
 #include "ui/controls/value_model.h"
 #include "ui/guard.h"
+#include "ui/text.h"
 
 #include <QCompleter>
 #include <QKeyEvent>
