@@ -5,12 +5,14 @@
 
 #include <algorithm>
 #include <cstring>
+#include <future>
 
 namespace quelvarn {
 
 namespace {
 
-constexpr unsigned BLOCKBITS = 12; // 4,096 texts are judged at once.
+constexpr unsigned BLOCKBITS = 12;            // 4,096 texts are judged at once.
+constexpr std::size_t BLOECKE_FUER_ZWEI = 16; // From this many blocks on two threads judge them.
 constexpr std::size_t FENSTER = 128;
 
 // Marks the places of a window where a text may begin, going by three of its bytes. False when there is none. The
@@ -194,6 +196,27 @@ void Texttreffer::behalte(std::vector<Zeilennummer>& zeilen)
         bleiben += urteil_[code];
     }
     zeilen.resize(bleiben);
+}
+
+bool Texttreffer::nirgends()
+{
+    const std::size_t bloecke = bewertet_.size();
+    if (bloecke < BLOECKE_FUER_ZWEI) {
+        bewerteBloecke(0, bloecke);
+    } else {
+        spalte_.texte().gefaltet(); // Made when first asked for, which only one may do.
+        std::future<void> haelfte = std::async(std::launch::async, [&] { bewerteBloecke(bloecke / 2, bloecke); });
+        bewerteBloecke(0, bloecke / 2);
+        haelfte.get();
+    }
+    return std::memchr(urteil_.data(), 1, urteil_.size()) == nullptr;
+}
+
+void Texttreffer::bewerteBloecke(std::size_t von, std::size_t bis)
+{
+    for (std::size_t block = von; block < bis; ++block)
+        if (!bewertet_[block])
+            bewerteBlock(block);
 }
 
 void Texttreffer::bewerteBlock(std::size_t block)

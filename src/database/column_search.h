@@ -21,16 +21,19 @@ public:
     virtual ~Texttreffer() = default;
     // Removes the rows that do not meet the condition; the others stay in their order. Null never meets one.
     void behalte(std::vector<Zeilennummer>& zeilen);
+    // True when no text of the column meets the condition. Judges all of them, on two processors when they are many.
+    bool nirgends();
 
 protected:
     Texttreffer(const TextColumn& spalte, bool verneint);
     // Sets urteil[code] to 1 for the codes from `von` up to, not including, `bis` that meet the condition; all
-    // are 0 before.
+    // are 0 before. May run for different codes at the same time.
     virtual void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) = 0;
     const Textvorrat& texte() const { return spalte_.texte(); }
 
 private:
     void bewerteBlock(std::size_t block);
+    void bewerteBloecke(std::size_t von, std::size_t bis);
 
     const TextColumn& spalte_;
     bool verneint_;

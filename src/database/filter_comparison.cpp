@@ -40,6 +40,7 @@ class Textauswahl : public Auswahl
 public:
     explicit Textauswahl(std::unique_ptr<Texttreffer> treffer) : treffer_(std::move(treffer)) {}
     void behalte(std::vector<Zeilennummer>& zeilen) override { treffer_->behalte(zeilen); }
+    bool nirgends() override { return treffer_->nirgends(); }
 
 private:
     std::unique_ptr<Texttreffer> treffer_;

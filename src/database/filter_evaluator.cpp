@@ -20,6 +20,10 @@ public:
         for (const auto& teil : teile_)
             teil->behalte(zeilen);
     }
+    bool nirgends() override
+    {
+        return std::ranges::any_of(teile_, [](const auto& teil) { return teil->nirgends(); });
+    }
 
 private:
     Teile teile_;
@@ -53,6 +57,10 @@ public:
             nimmWeg(uebrig, treffer);
         }
         nimmWeg(zeilen, uebrig);
+    }
+    bool nirgends() override
+    {
+        return std::ranges::all_of(teile_, [](const auto& teil) { return teil->nirgends(); });
     }
 
 private:

@@ -20,6 +20,8 @@ public:
     // Removes the rows that do not meet the condition; the others stay in their order. A comparison with Null is
     // never met, nor is its opposite.
     virtual void behalte(std::vector<Zeilennummer>& zeilen) = 0;
+    // True when no row at all meets the condition, where that can be told without looking at the rows.
+    virtual bool nirgends() { return false; }
 };
 
 using Spaltensuche = std::function<const Column&(std::string_view name)>;

@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::size_t ERSTER_SCHRITT = 256;
 constexpr std::size_t GROESSTER_SCHRITT = 1 << 16;
+// What is not near is often nowhere; the texts of a column tell that sooner than its rows.
+constexpr std::ptrdiff_t FRAGE_AB_SCHRITT = 16 * ERSTER_SCHRITT;
 
 } // namespace
 
@@ -100,6 +102,8 @@ std::optional<std::ptrdiff_t> Recordset::Kern::findePosition(Auswahl& auswahl, s
     ab = std::clamp<std::ptrdiff_t>(ab, vorwaerts ? 0 : -1, vorwaerts ? anzahl : anzahl - 1);
     for (auto schritt = static_cast<std::ptrdiff_t>(ERSTER_SCHRITT); vorwaerts ? ab < anzahl : ab >= 0;
          schritt = std::min<std::ptrdiff_t>(schritt * 4, GROESSTER_SCHRITT)) {
+        if (schritt == FRAGE_AB_SCHRITT && auswahl.nirgends())
+            return std::nullopt;
         const std::ptrdiff_t von = vorwaerts ? ab : std::max<std::ptrdiff_t>(ab + 1 - schritt, 0);
         const std::ptrdiff_t bis = vorwaerts ? std::min(ab + schritt, anzahl) : ab + 1;
         const auto alle = ansicht.ausschnitt(static_cast<std::size_t>(von), static_cast<std::size_t>(bis));

@@ -73,6 +73,28 @@ TEST(ColumnSearch, FindsWhatLookingAtEachTextFinds)
     }
 }
 
+TEST(ColumnSearch, TellsBeforehandThatNothingWillBeFound)
+{
+    TextColumn spalte(Textvorrat::Suche::Nachbar); // So many texts that they are judged on two processors.
+    const auto texte = vieleTexte();
+    for (int i = 0; i < 6; ++i)
+        for (const auto& text : texte)
+            spalte.haengeTextAn(text + static_cast<char>('0' + i));
+    spalte.haengeTextAn("ganz hinten");
+    for (const auto* muster : {"%hinten", "%xyz%", "welle%5", "q%", "%\u212A%1", "%", "%a_z%"}) {
+        const LikePattern einzelnes(muster, Wildcards::Sql);
+        std::vector<Zeilennummer> erwartet;
+        for (const Zeilennummer zeile : alleZeilen(spalte))
+            if (einzelnes.matches(alsText(spalte.wert(zeile))))
+                erwartet.push_back(zeile);
+        const auto treffer = likeTreffer(spalte, muster, Wildcards::Sql, false);
+        EXPECT_EQ(treffer->nirgends(), erwartet.empty()) << muster;
+        auto zeilen = alleZeilen(spalte);
+        treffer->behalte(zeilen);
+        EXPECT_EQ(zeilen, erwartet) << muster;
+    }
+}
+
 TEST(ColumnSearch, BytesAreFoundAtEveryPlaceAndAcrossEveryWindow)
 {
     for (std::size_t laenge = 1; laenge < 300; laenge += 7) {

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <gmock/gmock.h>
+#include <map>
+#include <set>
 
 using namespace quelvarn;
 using quelvarn::test::alleEngines;
@@ -103,6 +105,54 @@ TEST_P(RecordsetOnEngine, ReadsLaterWhatItWouldHaveReadAtOnce)
         taten[i](spaet);
         ASSERT_EQ(abbild(spaet), abbild(ganz)) << "step " << i;
     }
+}
+
+TEST_P(RecordsetOnEngine, TellsWhatOccursAmongTheRowsOfACondition)
+{
+    fuelleZufaellig(400);
+    Recordset rs = oeffneRs("SELECT * FROM Tafel ORDER BY Titel DESC", SperrTyp::NurLesen, 10);
+    rs.Filter("Nr = 1");
+    rs.MoveNext();
+    const std::string vorher = abbild(rs);
+    for (int i = 0; i < 60; ++i) {
+        const referenz::Bedingung bedingung = zufall_.bedingung(2);
+        std::map<std::string, std::string> texte; // By sortKey; the spelling stored first stays.
+        std::set<double> zahlen;
+        for (const referenz::Zeile& zeile : zeilen_) {
+            if (bedingung.trifft(zeile) != referenz::Urteil(true))
+                continue;
+            if (!istNull(zeile[1]) && alsText(zeile[1]) != "a")
+                texte.emplace(sortKey(alsText(zeile[1])), alsText(zeile[1]));
+            if (!istNull(zeile[3]))
+                zahlen.insert(alsZahl(zeile[3]));
+        }
+        std::vector<std::string> erwartet;
+        for (const auto& [schluessel, text] : texte)
+            erwartet.push_back(text);
+        const auto gewaehlt = rs.waehle(bedingung.alsSql);
+        ASSERT_TRUE(gewaehlt);
+        EXPECT_EQ(rs.verschiedeneTexte("Thema", *gewaehlt, [](std::string_view text) { return text != "a"; }), erwartet)
+            << bedingung.alsSql;
+        EXPECT_THAT(rs.verschiedeneZahlen("Wert", *gewaehlt), testing::ElementsAreArray(zahlen)) << bedingung.alsSql;
+    }
+    EXPECT_EQ(abbild(rs), vorher);
+    EXPECT_EQ(fehlernummer([&] { rs.verschiedeneZahlen("Thema", {}); }), 3421);
+    EXPECT_EQ(fehlernummer([&] { rs.verschiedeneTexte("Wert", {}); }), 3421);
+}
+
+TEST_P(RecordsetOnEngine, GivingUpLeavesRowsPlaceAndColumnsAsTheyWere)
+{
+    fuelleZufaellig(50);
+    Recordset rs = oeffneRs("SELECT * FROM Tafel ORDER BY Titel", SperrTyp::NurLesen, 10);
+    rs.setzeAbsolutePosition(7);
+    const auto niemals = [](std::size_t, std::size_t) { return false; };
+    EXPECT_FALSE(rs.Find("Thema LIKE '%a%'", 0, Suchrichtung::Vorwaerts, true, niemals));
+    EXPECT_FALSE(rs.ladeSpalten(std::vector<std::string>{"Titel", "Thema", "Nr"}, niemals));
+    EXPECT_FALSE(rs.waehle("Thema = 'a'", niemals));
+    EXPECT_FALSE(rs.spalteGeladen("Thema") || rs.spalteGeladen("Nr"));
+    EXPECT_EQ(rs.AbsolutePosition(), 7u);
+    EXPECT_TRUE(rs.ladeSpalten(std::vector<std::string>{"Titel", "Thema", "Nr"}));
+    EXPECT_TRUE(rs.spalteGeladen("Thema") && rs.spalteGeladen("Nr"));
 }
 
 TEST_P(RecordsetOnEngine, WalksThroughUnreadRowsInBothDirections)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// The lists of the filter page, a level of its tree, and a key press of the quick search where every text differs.
+void messeListen(Messreihe& reihe, const std::filesystem::path& datei);
+
+} // namespace quelvarn::bench
