@@ -30,7 +30,7 @@ std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragment
 
 bool setzeFilter(Filterkontext& kontext, const std::string& ausdruck)
 {
-    LangeArbeit arbeit(kontext.ports.fortschritt, "Filtern");
+    LangeArbeit arbeit(kontext.ports.fortschritt, "Die Tabelle wird gefiltert ...");
     kontext.tabelle().tabelle.Filter(ausdruck, std::ref(arbeit));
     return !arbeit.aufgegeben();
 }
