@@ -4,7 +4,9 @@
 
 namespace quelvarn {
 
-DocumentPage::DocumentPage(SessionState& session, Ports& ports) : session_(session), ports_(ports) {}
+DocumentPage::DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt)
+    : session_(session), ports_(ports), gezeigt_(gezeigt)
+{}
 
 void DocumentPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
 {

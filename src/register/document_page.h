@@ -14,13 +14,14 @@
 
 namespace quelvarn {
 
+class GezeigteDateien;
 struct Merkzeile;
 
 // State and operations of the document page (FormSEDoku). Follows the frame once it is registered there.
 class DocumentPage : public Rahmenteilnehmer, public Tabellenherr
 {
 public:
-    DocumentPage(SessionState& session, Ports& ports);
+    DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt);
 
     // --- operations, one for each thing a person can do; each calls `geaendert` at its end ---
     // Runs when the page is shown; does its work once per database.
@@ -87,8 +88,6 @@ public:
     const std::array<std::string, 5>& aenderungspanele() const { return aenderungspanele_; }
 
     std::function<void()> geaendert;
-    // Shows a file in the viewer; false when it could not. Not set: never can.
-    std::function<bool(const std::string& filename)> viewer;
     // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status filter)
     // stays on the table.
     std::function<std::string(int tab)> filterVergessen;
@@ -114,7 +113,8 @@ private:
     void zeigeNachModus();
     void zeigeAllgemein();
     void zeigeEigenschaften();
-    void zeigeViewer();
+    void zeigeSeite(InfoSeite seite);
+    bool zeigeViewer();
     void merkeSeite(InfoSeite seite);
     void oeffnePdf();
     void leseDatei();
@@ -122,6 +122,7 @@ private:
 
     SessionState& session_;
     Ports& ports_;
+    GezeigteDateien& gezeigt_;
     std::array<Tabellenseite, ANZAHL_DOKUTYPEN> seiten_;
     int tab_ = 0;
     std::string gemerkterPfad_;

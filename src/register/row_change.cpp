@@ -74,7 +74,7 @@ void DocumentPage::leereDokument(int tab)
     session_.AktDoku = {};
     session_.Dateiinfo = {};
     seitenModus_ = 1;
-    infoSeite_ = InfoSeite::Keine;
+    zeigeSeite(InfoSeite::Keine);
     allgemein_ = {};
     datei_ = {};
     stichKomm_ = {};
@@ -85,10 +85,8 @@ void DocumentPage::leereDokument(int tab)
 
 void DocumentPage::zeigeNachModus()
 {
-    if (seitenModus_ == 2 && viewer && viewer(aktuelleSeite().record.filename)) {
-        infoSeite_ = InfoSeite::Viewer;
+    if (seitenModus_ == 2 && zeigeViewer())
         return;
-    }
     seitenModus_ = 1;
     zeigeAllgemein();
 }

@@ -6,6 +6,7 @@
 #include "register/document_page.h"
 #include "register/relations.h"
 #include "register/tree_builder.h"
+#include "use/shown_files.h"
 
 #include <algorithm>
 
@@ -58,15 +59,18 @@ void DocumentPage::knotenGewaehlt(std::string_view text)
         seiten_[tab_].baum.gewaehlt = text;
         if (text == knoten::EIGENSCHAFTEN)
             return zeigeEigenschaften();
-        if (text == knoten::SMARTVIEWER)
-            return zeigeViewer();
+        if (text == knoten::SMARTVIEWER) {
+            if (!zeigeViewer())
+                zeigeEigenschaften();
+            return;
+        }
         if (text == knoten::PDF)
             return oeffnePdf();
         const auto knotenseite = std::ranges::find(KNOTENSEITEN, text, &Knotenseite::text);
         if (text == knoten::DATEI)
             leseDatei();
         merkeSeite(knotenseite->seite);
-        infoSeite_ = knotenseite->seite;
+        zeigeSeite(knotenseite->seite);
         if (knotenseite->beendetViewer)
             seitenModus_ = 1;
     });
@@ -115,16 +119,35 @@ void DocumentPage::zeigeAllgemein()
     allgemein_ = allgemeineSeite(seite.record, DOKUTYPEN[tab_], session_.Tree.Verwendung, vorhanden);
     const auto merker = std::ranges::find(seitenMerker_, BLEIBT);
     const bool bleibt = session_.Tree.Knoten && merker != seitenMerker_.end();
-    infoSeite_ = bleibt ? MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())] : InfoSeite::Allgemein;
+    zeigeSeite(bleibt ? MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())] : InfoSeite::Allgemein);
 }
 
-void DocumentPage::zeigeViewer()
+// A viewer behind another page would hold its file for nothing.
+void DocumentPage::zeigeSeite(InfoSeite seite)
 {
+    if (infoSeite_ == InfoSeite::Viewer && seite != InfoSeite::Viewer)
+        gezeigt_.leere(Ansicht::Eigenschaften);
+    infoSeite_ = seite;
+}
+
+bool DocumentPage::zeigeViewer()
+{
+    const std::string& filename = aktuelleSeite().record.filename;
+    if (!gezeigt_.zeige(Ansicht::Eigenschaften, filename)) {
+        ports_.meldungen.warnung("Anzeigen im Viewer", zeilen({
+                                                           "Die Datei:",
+                                                           filename,
+                                                           "konnte nicht geöffnet werden!",
+                                                           "",
+                                                           "Mögliche Ursache:",
+                                                           "- Falscher Pfad- und/oder Dateiname.",
+                                                           "- Kein Zugriffsrecht.",
+                                                       }));
+        return false;
+    }
     seitenModus_ = 2;
-    if (viewer && viewer(aktuelleSeite().record.filename))
-        infoSeite_ = InfoSeite::Viewer;
-    else
-        zeigeEigenschaften();
+    zeigeSeite(InfoSeite::Viewer);
+    return true;
 }
 
 void DocumentPage::oeffnePdf()

@@ -1,7 +1,6 @@
 #include "ui/workplace.h"
 
 #include "filter/execution.h"
-#include "platform/dateien.h"
 #include "session/session_state.h"
 #include "ui/busy_pointer.h"
 #include "ui/document_page/form_se_doku.h"
@@ -18,8 +17,8 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
                            std::function<void()> programmEnde)
     : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
-      startseite_(session, ports, rahmen_), dokumentseite_(session, ports),
-      linkeLeiste_(session, ports, filter_, dokumentseite_),
+      startseite_(session, ports, rahmen_), viewer_(ports.dateien), gezeigt_(viewer_, nutzung_),
+      dokumentseite_(session, ports, gezeigt_), linkeLeiste_(session, ports, filter_, dokumentseite_),
       filterseite_(session, ports, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
@@ -30,11 +29,11 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
         fenster_->show();
     };
     formDB_ = new FormDB(startseite_, aussehen);
-    formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, session);
-    formSEFiltern_ = new FormSEFiltern(filterseite_);
+    formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, session, viewer_);
+    formSEFiltern_ = new FormSEFiltern(filterseite_, viewer_.platz(Ansicht::Filtervorlage));
     fenster_->setzeSeiten(*formDB_, *formSEFiltern_, *formSEDoku_);
     verbinde();
-    verbindeFilterseite(ports);
+    verbindeFilterseite();
 }
 
 Arbeitsplatz::~Arbeitsplatz() = default;
@@ -58,7 +57,7 @@ void Arbeitsplatz::verbinde()
     };
 }
 
-void Arbeitsplatz::verbindeFilterseite(const Ports& ports)
+void Arbeitsplatz::verbindeFilterseite()
 {
     rahmen_.meldeAn(filterseite_); // Behind the document page, whose table it opens for.
     filterseite_.geaendert = [this] { formSEFiltern_->zeigen(); };
@@ -67,10 +66,11 @@ void Arbeitsplatz::verbindeFilterseite(const Ports& ports)
         filterseite_.nutzeGespeicherten(Filtername);
     };
     filterseite_.zurDokumentseite = [this] { rahmen_.zuSeite(Seite::Dokumente); };
-    filterseite_.viewer = [this, &dateien = ports.dateien](const std::string& filename) {
-        const bool vorhanden = filename.empty() || dateien.dateiVorhanden(filename);
-        formSEFiltern_->zeigeVorlage(vorhanden ? filename : std::string());
-        return vorhanden;
+    filterseite_.viewer = [this](const std::string& filename) {
+        if (!filename.empty())
+            return gezeigt_.zeige(Ansicht::Filtervorlage, filename);
+        gezeigt_.leere(Ansicht::Filtervorlage);
+        return true;
     };
 }
 

@@ -7,8 +7,11 @@
 #include "register/left_bar.h"
 #include "session/main_window.h"
 #include "session/start_page.h"
+#include "ui/adapters/viewer_qt.h"
 #include "ui/guard.h"
 #include "ui/theme/appearance.h"
+#include "use/shown_files.h"
+#include "use/use_registry.h"
 
 #include <functional>
 #include <memory>
@@ -35,7 +38,7 @@ public:
 
 private:
     void verbinde();
-    void verbindeFilterseite(const Ports& ports);
+    void verbindeFilterseite();
 
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
@@ -43,6 +46,9 @@ private:
     MainWindow rahmen_;
     StartPage startseite_;
     FilterState filter_;
+    KeinNutzungsregister nutzung_;
+    QtViewer viewer_;
+    GezeigteDateien gezeigt_;
     DocumentPage dokumentseite_;
     LinkeLeiste linkeLeiste_;
     FilterPage filterseite_;

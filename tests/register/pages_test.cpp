@@ -129,11 +129,15 @@ TEST_F(PagesTest, TheViewerFollowsTheRowsUntilItCannotShowOne)
     dokument(0, "B");
     dokument(0, "C");
     page_.tabGewaehlt(0);
-    page_.viewer = [](const std::string& filename) { return filename != pfad("C_0.par"); };
+    bildschirm_.viewer.kaputt = {pfad("C_0.par")};
     page_.knotenGewaehlt(knoten::SMARTVIEWER);
     EXPECT_EQ(page_.infoSeite(), InfoSeite::Viewer);
     page_.zeileVor();
     EXPECT_EQ(page_.infoSeite(), InfoSeite::Viewer);
+    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::Eigenschaften), pfad("B_0.par"));
+    welt_.meldungen.erwarte("Anzeigen im Viewer", "Die Datei:\n" + pfad("C_0.par") +
+                                                      "\nkonnte nicht geöffnet werden!\n\nMögliche Ursache:\n"
+                                                      "- Falscher Pfad- und/oder Dateiname.\n- Kein Zugriffsrecht.");
     page_.zeileVor();
     EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
     EXPECT_EQ(page_.allgemein().DokuBez, "C");
@@ -179,7 +183,7 @@ TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
     dokument(0, "A");
     dateien.legeAn(pfad("A_0.par"));
     Ports ports = welt_.portsMit(dateien);
-    DocumentPage page(session_, ports);
+    DocumentPage page(session_, ports, bildschirm_.gezeigt);
     page.tabGewaehlt(0);
     welt_.meldungen.erwarte("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
                                                   "Datei ist nicht vorhanden.");

@@ -3,6 +3,7 @@
 #include "database/create.h"
 #include "database/engine.h"
 #include "fakes/fake_ports.h"
+#include "fakes/fake_viewer.h"
 #include "fakes/temp_folder.h"
 #include "register/document_page.h"
 #include "session/rights.h"
@@ -99,7 +100,8 @@ protected:
     FakePorts welt_;
     Ports ports_ = welt_.ports();
     SessionState session_;
-    DocumentPage page_{session_, ports_};
+    FakeBildschirm bildschirm_;
+    DocumentPage page_{session_, ports_, bildschirm_.gezeigt};
 };
 
 } // namespace quelvarn

@@ -1,12 +1,14 @@
 #include "database/create.h"
 #include "database/engine.h"
 #include "fakes/fake_ports.h"
+#include "fakes/fake_viewer.h"
 #include "fakes/temp_folder.h"
 #include "register/document_page.h"
 #include "register/left_bar.h"
 #include "session/main_window.h"
 #include "session/rights.h"
 #include "session/start_page.h"
+#include "ui/adapters/viewer_qt.h"
 #include "ui/document_page/form_se_doku.h"
 #include "ui/guard.h"
 #include "ui/start_page/form_db.h"
@@ -53,6 +55,8 @@ protected:
     Ports ports_ = welt_.ports();
     SessionState session_;
     FilterState filter_;
+    FakeBildschirm bildschirm_;
+    QtViewer viewer_{welt_.dateien};
     Waechter waechter_{welt_.meldungen, [] {}};
 };
 
@@ -63,9 +67,9 @@ template <typename Art> Art& finde(QWidget& seite, const char* name)
 
 TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
-    DocumentPage modell(session_, ports_);
+    DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, ports_, filter_, modell);
-    FormSEDoku seite(modell, links, session_);
+    FormSEDoku seite(modell, links, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();
@@ -88,9 +92,9 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 
 TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
-    DocumentPage modell(session_, ports_);
+    DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, ports_, filter_, modell);
-    FormSEDoku seite(modell, links, session_);
+    FormSEDoku seite(modell, links, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();

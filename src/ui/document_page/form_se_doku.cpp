@@ -30,10 +30,10 @@ constexpr int ERSTE_SONDERTABELLE = 5;
 
 } // namespace
 
-FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session)
+FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session, QtViewer& viewer)
     : modell_(modell), session_(session), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
       ToolbarSEDokTop_(neueToolbarSEDokTop()), links_(new LinkeLeistenansicht(links, modell)),
-      info_(new Infobereich(modell)), status_(new StatusBarDatei)
+      info_(new Infobereich(modell, viewer)), status_(new StatusBarDatei)
 {
     setObjectName(QStringLiteral("FormSEDoku"));
     SSTabDGDoku_ = neueReiter();

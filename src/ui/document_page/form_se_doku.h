@@ -15,6 +15,7 @@ class Infobereich;
 class KurzLabel;
 class LinkeLeiste;
 class LinkeLeistenansicht;
+class QtViewer;
 class StatusBarDatei;
 class Tabellenansicht;
 struct SessionState;
@@ -25,7 +26,7 @@ class FormSEDoku : public QWidget
     Q_OBJECT
 
 public:
-    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session);
+    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session, QtViewer& viewer);
 
     void zeigen();
     // The bar at the left with its panels alone.

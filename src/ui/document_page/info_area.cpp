@@ -1,6 +1,7 @@
 #include "ui/document_page/info_area.h"
 
 #include "register/document_page.h"
+#include "ui/adapters/viewer_qt.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/composition_page.h"
@@ -45,14 +46,14 @@ QLabel* neueWarnung(const char* name, const QString& text)
 
 } // namespace
 
-Infobereich::Infobereich(DocumentPage& modell)
+Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
     : modell_(modell), kopf_(new KurzLabel),
       LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei nicht vorhanden"))),
       LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
       leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
       TextKeywords_(neuesTextfeld("TextKeywords")), TextComments_(neuesTextfeld("TextComments"))
 {
-    baueSeiten();
+    baueSeiten(viewer);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins({});
     aufbau->setSpacing(0);
@@ -73,7 +74,7 @@ QWidget* Infobereich::neuerKopf()
     return kopf;
 }
 
-void Infobereich::baueSeiten()
+void Infobereich::baueSeiten(QtViewer& viewer)
 {
     seiten_->addWidget(leer_);
     fuegeSeiteHinzu(InfoSeite::Allgemein, allgemein_);
@@ -84,6 +85,7 @@ void Infobereich::baueSeiten()
     fuegeSeiteHinzu(InfoSeite::Hauptmerkmale, neueHauptmerkmalseite());
     fuegeSeiteHinzu(InfoSeite::ZusDoku, neueZusDokuSeite());
     fuegeSeiteHinzu(InfoSeite::SendTo, neueSendToSeite());
+    fuegeSeiteHinzu(InfoSeite::Viewer, &viewer.platz(Ansicht::Eigenschaften));
     for (const Verwendungsart& art : verwendungsarten())
         fuegeSeiteHinzu(art.seite, new Verwendungsansicht(art));
 }

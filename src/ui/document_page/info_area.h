@@ -14,6 +14,7 @@ class Allgemeinansicht;
 class Dateiansicht;
 class DocumentPage;
 class KurzLabel;
+class QtViewer;
 enum class InfoSeite : int;
 
 // The right-hand side of the document page: one information page at a time under the head of the document type.
@@ -22,14 +23,14 @@ class Infobereich : public QWidget
     Q_OBJECT
 
 public:
-    explicit Infobereich(DocumentPage& modell);
+    Infobereich(DocumentPage& modell, QtViewer& viewer);
 
     void zeigen();
 
 private:
     QWidget* neuerKopf();
     QWidget* neueStichKommSeite();
-    void baueSeiten();
+    void baueSeiten(QtViewer& viewer);
     void fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt);
     void zeigeKopf();
 

@@ -12,7 +12,6 @@
 #include "ui/filter_page/running_filter.h"
 #include "ui/filter_page/saved_filter_frame.h"
 #include "ui/filter_page/structure_tab.h"
-#include "ui/filter_page/template_view.h"
 #include "ui/filter_page/user_defined_tab.h"
 #include "ui/guard.h"
 #include "ui/text.h"
@@ -33,16 +32,26 @@ constexpr std::array<const char*, 3> REITER{"Eigenschaften und Datum", "Hauptmer
 constexpr int HOEHE_FILTER = 160; // Head, five steps and the statuses.
 constexpr int BREITE_GESPEICHERTE = 262;
 
+QWidget* neuerVorlagenrahmen(QWidget& vorlage)
+{
+    auto* rahmen = new QWidget;
+    rahmen->setObjectName(QStringLiteral("FrmVorlageSmartViewDraft"));
+    vorlage.setObjectName(QStringLiteral("SEDraftVorlage"));
+    auto* aufbau = new QVBoxLayout(rahmen);
+    aufbau->addWidget(&vorlage);
+    return rahmen;
+}
+
 } // namespace
 
-FormSEFiltern::FormSEFiltern(FilterPage& modell)
+FormSEFiltern::FormSEFiltern(FilterPage& modell, QWidget& vorlage)
     : modell_(modell), LblKopfSEFiltern_(new KurzLabel), LblZugriffSEFiltern_(new KurzLabel),
       ToolbarSEFilter_(quelvarn::neueLeiste("ToolbarSEFilter", Knopfart::TextNebenSymbol)),
       FrmGesamtFilter_(new QStackedWidget), SSTabDGFilter_(new Reiter(static_cast<int>(REITER.size()))),
       eigenschaften_(new Eigenschaftsreiter(modell)), struktur_(new Strukturreiter(modell)),
       benutzDef_(new BenutzDefReiter(modell)), filter_(new LaufenderFilter(modell)),
-      gespeicherte_(new GespeicherteFilterRahmen(modell)), vorlage_(new Vorlagenansicht), dateiname_(new KurzLabel),
-      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)),
+      gespeicherte_(new GespeicherteFilterRahmen(modell)), vorlage_(neuerVorlagenrahmen(vorlage)),
+      dateiname_(new KurzLabel), pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)),
       fortschritt_(new Fortschrittsfeld("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef"))
 {
     setObjectName(QStringLiteral("FormSEFiltern"));
@@ -226,11 +235,6 @@ void FormSEFiltern::zeigeReiter()
     case Filterbereich::BenutzDef:
         return benutzDef_->zeigen();
     }
-}
-
-void FormSEFiltern::zeigeVorlage(const std::string& pfad)
-{
-    vorlage_->zeige(zuQt(pfad));
 }
 
 } // namespace quelvarn

@@ -16,7 +16,6 @@ class GespeicherteFilterRahmen;
 class KurzLabel;
 class LaufenderFilter;
 class Strukturreiter;
-class Vorlagenansicht;
 
 // The filter page: three parts for what is to be filtered, below them the running filter and the saved ones.
 class FormSEFiltern : public QWidget
@@ -24,11 +23,10 @@ class FormSEFiltern : public QWidget
     Q_OBJECT
 
 public:
-    explicit FormSEFiltern(FilterPage& modell);
+    // `vorlage` is the place where a viewer shows the template of a branch.
+    FormSEFiltern(FilterPage& modell, QWidget& vorlage);
 
     void zeigen();
-    // The template, "" for none.
-    void zeigeVorlage(const std::string& pfad);
 
 protected:
     void showEvent(QShowEvent* ereignis) override;
@@ -55,7 +53,7 @@ private:
     BenutzDefReiter* benutzDef_;
     LaufenderFilter* filter_;
     GespeicherteFilterRahmen* gespeicherte_;
-    Vorlagenansicht* vorlage_;
+    QWidget* vorlage_;
     KurzLabel* dateiname_;
     KurzLabel* pfadname_;
     Fortschrittsfeld* fortschritt_;
