@@ -1,0 +1,119 @@
+#include "database/create.h"
+#include "database/engine.h"
+#include "fakes/fake_ports.h"
+#include "fakes/temp_folder.h"
+#include "filter/filter_page.h"
+#include "register/document_page.h"
+#include "session/rights.h"
+#include "ui/controls/calendar.h"
+#include "ui/filter_page/form_se_filtern.h"
+#include "ui/guard.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace quelvarn {
+namespace {
+
+class FormSEFilternTest : public testing::Test
+{
+protected:
+    FormSEFilternTest()
+    {
+        const auto datei = ordner_ / "Werk.mdb";
+        legeRegisterAn(*oeffneSqlite(datei, true));
+        session_.Verbindung.Open(datei);
+        session_.Sichtbar = {1, 1, 1, 1, 1, 1};
+        bildeStatusbereich(session_);
+        session_.Verbindung.Execute("INSERT INTO PartTabelle (DokuBez, RevBez, Status, Projekt, Geaendert) VALUES "
+                                    "('A-100', '0', 3, 'P1', #11/02/2026#)");
+        dokumente_.StartTabelleZeigen();
+        modell_.geaendert = [this] {
+            ++operationen_;
+            seite_.zeigen();
+        };
+        modell_.zurDokumentseite = [this] { ++verlassen_; };
+        welt_.uhr.zeit = Zeitpunkt::aus({2026, 11, 22});
+        modell_.OpenFilterPage();
+        seite_.resize(939, 600);
+        seite_.show();
+        seite_.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&seite_));
+        operationen_ = 0;
+    }
+
+    template <typename Art> Art& finde(const char* name) { return *seite_.findChild<Art*>(QLatin1String(name)); }
+    std::string letzterWert() const
+    {
+        const auto& werte = modell_.kontext().FilterWerteTabelle;
+        return werte.empty() ? "" : werte.back().Benennung + " " + werte.back().Wert;
+    }
+
+    TempFolder ordner_;
+    FakePorts welt_;
+    Ports ports_ = welt_.ports();
+    SessionState session_;
+    FilterState filter_;
+    Waechter waechter_{welt_.meldungen, [] {}};
+    DocumentPage dokumente_{session_, ports_};
+    FilterPage modell_{session_, ports_, filter_, dokumente_};
+    FormSEFiltern seite_{modell_};
+    int operationen_ = 0;
+    int verlassen_ = 0;
+};
+
+TEST_F(FormSEFilternTest, FollowsItsModelAndFiresNoOperation)
+{
+    modell_.eigenschaften().statusGewaehlt(1, true);
+    modell_.bereichGewaehlt(Filterbereich::Struktur);
+    operationen_ = 0;
+    seite_.zeigen();
+    EXPECT_EQ(operationen_, 0);
+    EXPECT_EQ(finde<QTabWidget>("SSTabDGFilter").currentIndex(), 1);
+    EXPECT_TRUE(finde<QAbstractButton>("ChFilterStat(1)").isChecked());
+    EXPECT_TRUE(finde<QTableView>("DGFilternWerte").isVisible());
+}
+
+TEST_F(FormSEFilternTest, ADayIsPickedByOneClickOrByEnter)
+{
+    finde<QAbstractButton>("OpDat(1)").click();
+    finde<QAbstractButton>("OpDatBegr(2)").click();
+    auto& kalender = finde<Kalender>("MonthViewEigen");
+    EXPECT_EQ(kalender.selectedDate(), QDate(2026, 11, 22)) << "today";
+    auto& tage = *kalender.findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"));
+    QTest::keyClick(&tage, Qt::Key_Left);
+    EXPECT_EQ(letzterWert(), "") << "moving about picks nothing";
+    QTest::keyClick(&tage, Qt::Key_Return);
+    EXPECT_EQ(letzterWert(), "Geaendert <= 21.11.26");
+    const QModelIndex sechzehnter = tage.model()->index(4, 0);
+    QTest::mouseClick(tage.viewport(), Qt::LeftButton, {}, tage.visualRect(sechzehnter).center());
+    EXPECT_EQ(letzterWert(), "Geaendert <= 16.11.26");
+    EXPECT_EQ(modell_.kontext().FilterWerteTabelle.size(), 2U);
+}
+
+TEST_F(FormSEFilternTest, KeysRunTheFilterAndLeave)
+{
+    auto& kombo = finde<QComboBox>("CbEigen(1)");
+    kombo.setFocus();
+    kombo.setCurrentIndex(0);
+    Q_EMIT kombo.activated(0);
+    EXPECT_EQ(letzterWert(), "Projekt P1");
+    EXPECT_EQ(kombo.currentText(), u"P1");
+    QTest::keyClick(&seite_, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(dokumente_.seite(0).zustand, Gefiltert);
+    EXPECT_EQ(kombo.currentText(), u"") << "the lists were read anew";
+
+    QTest::keyClicks(&kombo, QStringLiteral("x"));
+    QTest::keyClick(&kombo, Qt::Key_Escape);
+    EXPECT_EQ(verlassen_, 0) << "takes back what was typed";
+    QTest::keyClick(&kombo, Qt::Key_Escape);
+    EXPECT_EQ(verlassen_, 1);
+}
+
+} // namespace
+} // namespace quelvarn
