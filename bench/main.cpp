@@ -5,6 +5,7 @@
 #include "bench/filter_measures.h"
 #include "bench/register_data.h"
 #include "bench/report.h"
+#include "bench/user_defined_measures.h"
 #include "bench/value_list_measures.h"
 #ifdef QUELVARN_BENCH_UI
 #include "bench/program/program_run.h"
@@ -86,6 +87,7 @@ void messe(Messreihe& reihe, const Auftrag& auftrag)
 #endif
     messeDatenbank(reihe, auftrag.datenbank);
     messeFilterseite(reihe, auftrag.datenbank);
+    messeBenutzDef(reihe, auftrag.datenbank);
     messeListen(reihe, auftrag.datenbank);
 #ifdef QUELVARN_BENCH_UI
     if (auftrag.programm)
