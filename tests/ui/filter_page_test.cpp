@@ -1,6 +1,7 @@
 #include "database/create.h"
 #include "database/engine.h"
 #include "fakes/fake_ports.h"
+#include "fakes/fake_viewer.h"
 #include "fakes/temp_folder.h"
 #include "filter/filter_page.h"
 #include "register/document_page.h"
@@ -60,9 +61,10 @@ protected:
     SessionState session_;
     FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
-    DocumentPage dokumente_{session_, ports_};
+    FakeBildschirm bildschirm_;
+    DocumentPage dokumente_{session_, ports_, bildschirm_.gezeigt};
     FilterPage modell_{session_, ports_, filter_, dokumente_};
-    FormSEFiltern seite_{modell_};
+    FormSEFiltern seite_{modell_, *new QWidget};
     int operationen_ = 0;
     int verlassen_ = 0;
 };
