@@ -319,6 +319,12 @@ std::vector<std::string> entriesOf(const std::string& name)
             entries.push_back(plain(combo->itemText(i)));
         return entries;
     }
+    if (const auto* menu = qobject_cast<QMenu*>(&control(name))) {
+        std::vector<std::string> entries;
+        for (const auto* action : menu->actions())
+            entries.push_back(plain(withoutMnemonic(action->text())));
+        return entries;
+    }
     return treeOf(name);
 }
 
