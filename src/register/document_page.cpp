@@ -5,8 +5,10 @@
 namespace quelvarn {
 
 DocumentPage::DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt)
-    : session_(session), ports_(ports), gezeigt_(gezeigt)
-{}
+    : session_(session), ports_(ports), gezeigt_(gezeigt), details_(session, ports)
+{
+    details_.geaendert = [this] { melde(); };
+}
 
 void DocumentPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
 {

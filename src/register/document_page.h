@@ -2,6 +2,7 @@
 
 #include "database/document_types.h"
 #include "platform/ports.h"
+#include "register/detail_pages.h"
 #include "register/info_pages.h"
 #include "register/table_page.h"
 #include "session/main_window.h"
@@ -81,6 +82,9 @@ public:
     const AllgemeineSeite& allgemein() const { return allgemein_; }
     const DateiSeite& datei() const { return datei_; }
     const StichKommSeite& stichKomm() const { return stichKomm_; }
+    // The pages that are filled when they come up, with their own operations.
+    Detailseiten& details() { return details_; }
+    const Detailseiten& details() const { return details_; }
     // 1 the right-hand side shows the general page, 2 the viewer.
     int SeitenModus() const { return seitenModus_; }
     // The indicator panels of StatusBarUpdate: part, sheet metal, assembly, drawing, weldment.
@@ -135,6 +139,7 @@ private:
     AllgemeineSeite allgemein_;
     DateiSeite datei_;
     StichKommSeite stichKomm_;
+    Detailseiten details_;
     std::array<std::string, 5> aenderungspanele_;
 };
 

@@ -70,26 +70,6 @@ std::vector<std::string> leseSpalte(Connection& verbindung, const sql::Select& s
     return werte;
 }
 
-// Which of these names address somebody, as sort keys.
-std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::string>& namen)
-{
-    constexpr std::size_t JE_ABFRAGE = 100; // A longer condition is more than some engines take.
-    std::set<std::string> gefunden;
-    for (std::size_t i = 0; i < namen.size(); i += JE_ABFRAGE) {
-        sql::Oder oder;
-        for (std::size_t k = i; k < std::min(namen.size(), i + JE_ABFRAGE); ++k)
-            oder.teile.push_back(bedingung({"Kennung", namen[k]}));
-        sql::Select select;
-        select.distinct = true;
-        select.tabelle = "Adresstabelle";
-        select.spalten = {"Kennung"};
-        select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(oder)});
-        for (const std::string& kennung : leseSpalte(verbindung, select))
-            gefunden.insert(sortKey(kennung));
-    }
-    return gefunden;
-}
-
 std::string vorhandene(const Dateien& dateien, std::string pfad)
 {
     return dateien.dateiVorhanden(pfad) ? std::move(pfad) : std::string();
@@ -166,6 +146,25 @@ std::string findTiff(Connection& verbindung, const Dateien& dateien, const DokuR
 std::string findPdf(const Dateien& dateien, const DokuRecord& record)
 {
     return vorhandene(dateien, mitEndung(record.filename, "pdf"));
+}
+
+std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::string>& namen)
+{
+    constexpr std::size_t JE_ABFRAGE = 100; // A longer condition is more than some engines take.
+    std::set<std::string> gefunden;
+    for (std::size_t i = 0; i < namen.size(); i += JE_ABFRAGE) {
+        sql::Oder oder;
+        for (std::size_t k = i; k < std::min(namen.size(), i + JE_ABFRAGE); ++k)
+            oder.teile.push_back(bedingung({"Kennung", namen[k]}));
+        sql::Select select;
+        select.distinct = true;
+        select.tabelle = "Adresstabelle";
+        select.spalten = {"Kennung"};
+        select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(oder)});
+        for (const std::string& kennung : leseSpalte(verbindung, select))
+            gefunden.insert(sortKey(kennung));
+    }
+    return gefunden;
 }
 
 Benutzerzeilen benutzerzeilen(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quelvarn {
 
@@ -34,6 +36,9 @@ std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Date
 std::string findTiff(Connection& verbindung, const Dateien& dateien, const DokuRecord& record);
 // The PDF that lies beside the drawing; "" when there is none.
 std::string findPdf(const Dateien& dateien, const DokuRecord& record);
+
+// Which of these names address somebody, as sort keys.
+std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::string>& namen);
 
 // A user-defined row whose name is a Kennung of Adresstabelle notes where the document was sent.
 struct Benutzerzeilen

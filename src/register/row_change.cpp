@@ -78,6 +78,7 @@ void DocumentPage::leereDokument(int tab)
     allgemein_ = {};
     datei_ = {};
     stichKomm_ = {};
+    details_.leere();
     dateinamePanel_.clear();
     ordnerPanel_.clear();
     statuskopf_.text.clear();

@@ -70,9 +70,9 @@ void DocumentPage::knotenGewaehlt(std::string_view text)
         if (text == knoten::DATEI)
             leseDatei();
         merkeSeite(knotenseite->seite);
-        zeigeSeite(knotenseite->seite);
         if (knotenseite->beendetViewer)
             seitenModus_ = 1;
+        zeigeSeite(knotenseite->seite);
     });
 }
 
@@ -128,6 +128,7 @@ void DocumentPage::zeigeSeite(InfoSeite seite)
     if (infoSeite_ == InfoSeite::Viewer && seite != InfoSeite::Viewer)
         gezeigt_.leere(Ansicht::Eigenschaften);
     infoSeite_ = seite;
+    details_.fuelle(seite, DOKUTYPEN[tab_], aktuelleSeite().record);
 }
 
 bool DocumentPage::zeigeViewer()

@@ -1,0 +1,111 @@
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "platform/zwischenablage.h"
+#include "register/detail_pages.h"
+#include "session/session_state.h"
+
+namespace quelvarn {
+namespace {
+
+constexpr std::string_view NICHT_IM_VERZEICHNIS = "Im Verzeichnis nicht vorhanden";
+
+// Where the finished orders of this session go in the end.
+std::string archivordner(const SessionState& session)
+{
+    const bool lokal = session.AuftraegeLokal || session.PlotPfad.empty();
+    return (lokal ? session.OrdnerOfflineVersand : session.PlotPfad) + "\\Auftragsarchiv";
+}
+
+bool sollImArchivSuchen(Meldungen& meldungen, const std::string& pfad)
+{
+    return meldungen.zeige({std::string(NICHT_IM_VERZEICHNIS),
+                            zeilen({
+                                "Die Datei",
+                                pfad,
+                                "ist im Verzeichnis nicht vorhanden!",
+                                "Mögliche Ursache:",
+                                "- Versandauftrag / Protokoll wurde bereits archiviert.",
+                                "- Versandauftrag / Protokoll wurde im Verzeichnis gelöscht.",
+                                "Soll im Archiv nach der Datei gesucht werden?",
+                            }),
+                            Symbol::Warnung, Knoepfe::JaNein}) == Antwort::Ja;
+}
+
+} // namespace
+
+void Detailseiten::oeffneAuftrag()
+{
+    bediene("Versendet an", "Fehler beim Öffnen der Datei!", [&] {
+        const std::string pfad = feldDerZeile(InfoSeite::SendTo, "Orderfilename");
+        if (pfad.empty())
+            return;
+        if (ports_.dateien.dateiVorhanden(pfad))
+            return oeffne("Versendet an", pfad);
+        if (!sollImArchivSuchen(ports_.meldungen, pfad))
+            return;
+        const std::string imArchiv = archivordner(session_) + "\\" + DateiName(pfad);
+        if (ports_.dateien.dateiVorhanden(imArchiv))
+            return oeffne("Versendet an", imArchiv);
+        ports_.meldungen.warnung("Im Archiv nicht vorhanden", zeilen({
+                                                                  "Die Datei",
+                                                                  imArchiv,
+                                                                  "ist im Archiv nicht vorhanden!",
+                                                                  "Mögliche Ursache:",
+                                                                  "- Versandauftrag wurde auch im Archiv gelöscht.",
+                                                              }));
+    });
+}
+
+void Detailseiten::oeffneZusDoku()
+{
+    bediene("Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
+        const std::string pfad = feldDerZeile(InfoSeite::ZusDoku, "ZusDokufilename");
+        if (!pfad.empty() && vorhandenOderBox(pfad))
+            oeffne("Zusätzl. Dokumente", pfad);
+    });
+}
+
+void Detailseiten::oeffne(std::string_view titel, const std::string& pfad)
+{
+    if (!ports_.standardanwendung.oeffne(pfad))
+        ports_.meldungen.warnung(titel, zeilen({"Fehler beim Öffnen der Datei:", pfad}));
+}
+
+bool Detailseiten::vorhandenOderBox(const std::string& pfad)
+{
+    if (ports_.dateien.dateiVorhanden(pfad))
+        return true;
+    ports_.meldungen.warnung(NICHT_IM_VERZEICHNIS, zeilen({
+                                                       "Die Datei",
+                                                       pfad,
+                                                       "ist im Verzeichnis nicht vorhanden!",
+                                                       "Mögliche Ursache:",
+                                                       "- Falscher Pfad- und/oder Dateiname.",
+                                                       "- Datei wurde im Verzeichnis gelöscht.",
+                                                       "Löschen Sie den Verweis auf diese Datei in 'Harvel'.",
+                                                   }));
+    return false;
+}
+
+void Detailseiten::bildNichtGeladen(InfoSeite seite)
+{
+    if (seite == InfoSeite::Tiff)
+        tiff_.clear();
+    else
+        grafik_ = {};
+    constexpr std::string_view NICHT_GELADEN = "Die TIFF-Datei konnte nicht geladen werden";
+    ports_.meldungen.warnung(NICHT_GELADEN, zeilen({
+                                                "Die TIFF-Datei konnte nicht geladen werden!",
+                                                "Mögliche Ursache:",
+                                                "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
+                                                "Empfehlung:",
+                                                "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
+                                                "Kontrollkästchen 'Graphik anzeigen'.",
+                                            }));
+    if (geaendert)
+        geaendert();
+}
+
+} // namespace quelvarn

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "database/recordset.h"
+
+#include <string>
+#include <string_view>
+
+namespace quelvarn {
+
+class Connection;
+class Dateien;
+struct DokuRecord;
+struct SessionState;
+
+// The rows of the information pages that are lists, in recordsets in memory. A fault of the database throws.
+
+// OpRevErstBearb: who made each revision, or who changed it last.
+enum class RevErstBearb : int { Erstellt = 0, Bearbeitet = 1 };
+
+// RevBez, Geaendert, Bearbeiter, Aenderung. Revisions without a text of change are left out.
+Recordset InfoRevision(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez,
+                       RevErstBearb ansicht);
+// Name, Wert: the user-defined rows that are no sent-to notes.
+Recordset benutzDefListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record);
+// SendToDatum, Kennung, OrderDateiname, Orderfilename: the sent-to notes.
+Recordset sendToListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record);
+// "14.02.11  10:30" from the twelve digits before the ending of an order file; "" without them.
+std::string SendToDatum(std::string_view OrderDateiname);
+
+// The branch of the classification that a document stands in, as VorlageSuchen asks for it.
+struct Vorlagenzweig
+{
+    int Ebene = 0; // 1 for Hauptmerkmal_C alone, 0 for none.
+    std::string Bedingung;
+};
+Vorlagenzweig vorlagenzweig(const DokuRecord& record);
+// Bezeichn, Inhalt, Benennung. With a template the row of the branch's last feature is named so.
+Recordset hauptmerkmalListe(const DokuRecord& record, const SessionState& session, bool mitVorlage);
+
+// ZusDokuDatum, ZusDokuDateiname, ZusDokuSenden, ZusDokufilename, ZusDokuCreated, ZusDokuFileSize. A document that is
+// missing has neither dates nor a size.
+Recordset zusDokuListe(Connection& verbindung, const Dateien& dateien, std::string_view filename);
+// LblInfoZusDoku for the current row.
+std::string zusDokuInfo(const Recordset& zeile);
+
+} // namespace quelvarn
