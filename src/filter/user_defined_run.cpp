@@ -120,6 +120,8 @@ private:
             for (Dokumentzaehler::Nummer nummer = 0; nummer < dokumente_.anzahl(); ++nummer)
                 if (gesucht(nummer))
                     offene.push_back(nummer);
+            if (offene.empty())
+                break;
             if (!(offene.size() <= ALS_ABFRAGEN ? sucheEinzeln(fundort, offene) : sucheImGanzen(fundort)))
                 return false;
         }
@@ -130,6 +132,7 @@ private:
     bool sucheEinzeln(std::size_t fundort, const std::vector<Dokumentzaehler::Nummer>& offene)
     {
         bool weitergehen = true;
+        einDurchgang_ = false;
         for (std::size_t i = 0; i < offene.size() && weitergehen; i += JE_ABFRAGE) {
             sql::Oder oder;
             for (std::size_t k = i; k < std::min(offene.size(), i + JE_ABFRAGE); ++k)
@@ -143,6 +146,7 @@ private:
     bool sucheImGanzen(std::size_t fundort)
     {
         bool weitergehen = true;
+        einDurchgang_ = gefundene_.empty();
         gesichertKopiert([&] { weitergehen = nimmZeilen(fundort, nullptr); });
         return weitergehen;
     }
@@ -179,15 +183,26 @@ private:
     }
 
     // --- the result ---
-    // By document, older revisions first. The rows came by document already, a run of revisions the other way round.
+    // By document, older revisions first. One pass over all brought the documents in order already, their revisions
+    // the other way round.
     void ordne()
     {
-        const auto vorher = [&](Dokumentzaehler::Nummer links, Dokumentzaehler::Nummer rechts) {
-            const int bezeichnung = compareText(dokumente_.DokuBez(links), dokumente_.DokuBez(rechts));
-            return bezeichnung != 0 ? bezeichnung < 0
-                                    : compareText(dokumente_.RevBez(links), dokumente_.RevBez(rechts)) < 0;
-        };
-        std::ranges::sort(gefundene_, vorher);
+        const auto bezeichnung = [&](Dokumentzaehler::Nummer nummer) { return dokumente_.DokuBez(nummer); };
+        if (!einDurchgang_) {
+            std::ranges::sort(gefundene_, [&](auto links, auto rechts) {
+                const int vergleich = compareText(bezeichnung(links), bezeichnung(rechts));
+                return vergleich != 0 ? vergleich < 0
+                                      : compareText(dokumente_.RevBez(links), dokumente_.RevBez(rechts)) < 0;
+            });
+            return;
+        }
+        for (auto erste = gefundene_.begin(); erste != gefundene_.end();) {
+            const auto ende = std::find_if(erste + 1, gefundene_.end(), [&](Dokumentzaehler::Nummer nummer) {
+                return !equalText(bezeichnung(nummer), bezeichnung(*erste));
+            });
+            std::reverse(erste, ende);
+            erste = ende;
+        }
     }
 
     std::optional<Recordset> ergebnis()
@@ -252,6 +267,7 @@ private:
     Dokumentzaehler dokumente_;
     std::vector<Fund> funde_;
     std::vector<Dokumentzaehler::Nummer> gefundene_;
+    bool einDurchgang_ = false;
     std::size_t gelesen_ = 0;
     std::size_t gesamt_; // About.
 };
