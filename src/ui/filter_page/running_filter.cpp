@@ -99,7 +99,10 @@ bool LaufenderFilter::eventFilter(QObject* empfaenger, QEvent* ereignis)
 {
     if (empfaenger == DataGridFilterEigenMerk_ && ereignis->type() == QEvent::KeyPress) {
         const int taste = static_cast<QKeyEvent*>(ereignis)->key();
-        if ((taste == Qt::Key_Return || taste == Qt::Key_Enter) && filtern) {
+        // The key that ends the editing of a value comes here as well, before the value is taken.
+        const bool schreibt =
+            DataGridFilterEigenMerk_->isPersistentEditorOpen(DataGridFilterEigenMerk_->currentIndex());
+        if ((taste == Qt::Key_Return || taste == Qt::Key_Enter) && filtern && !schreibt) {
             filtern();
             return true;
         }

@@ -157,6 +157,9 @@ void Strukturreiter::zeigeBaum()
     gezeigterPfad_ = pfad;
     TreeViewStrukMerk_->setCurrentIndex(stelle);
     TreeViewStrukMerk_->expand(stelle);
+    // The next choice is among the children: as many of them in sight as there is room for.
+    TreeViewStrukMerk_->scrollTo(knoten_->index(knoten_->rowCount(stelle) - 1, 0, stelle));
+    TreeViewStrukMerk_->scrollTo(stelle);
 }
 
 void Strukturreiter::zeigeMaterialFirma()
