@@ -1,0 +1,118 @@
+#include "register/favourite_rows.h"
+
+#include "base/collation.h"
+#include "base/text.h"
+#include "database/document_types.h"
+#include "session/ini_reader/ini_rows.h"
+#include "session/session_state.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <map>
+#include <utility>
+
+namespace quelvarn {
+namespace {
+
+constexpr std::string_view GRUPPE = "Favoriten"; // Feld2
+constexpr std::size_t NAMEN_JE_FRAGE = 100;      // More would make a statement that some engine refuses.
+
+std::string gleich(std::string_view feld, std::string_view wert)
+{
+    return FeldGleichWert(feld, replaceAll(wert, "'", "''"));
+}
+
+std::string auswahl(const SessionState& session, const DokuTyp& typ)
+{
+    return fmt::format("SELECT * FROM Ini WHERE {} AND {} AND {}", gleich("Feld1", session.Anwender),
+                       gleich("Feld2", GRUPPE), gleich("Feld3", typ.schluessel));
+}
+
+// Feld5 is compared by whom it concerns: some engines keep an empty text as Null.
+Favorit favoritVon(const Recordset& zeile)
+{
+    return {textOderLeer(zeile, "Feld4"), textOderLeer(zeile, "Feld5")};
+}
+
+using Schluessel = std::pair<std::string, std::string>;
+Schluessel schluessel(std::string_view DokuBez, std::string_view RevBez)
+{
+    return {sortKey(DokuBez), sortKey(RevBez)};
+}
+
+using Dateinamen = std::map<Schluessel, std::string>;
+void leseDateien(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten, Dateinamen& dateien)
+{
+    std::vector<std::string> bedingungen;
+    for (const Favorit& favorit : favoriten)
+        bedingungen.push_back(gleich("DokuBez", favorit.DokuBez));
+    Recordset zeilen;
+    zeilen.Open(
+        fmt::format("SELECT DokuBez, RevBez, filename FROM {} WHERE {}", typ.tabelle, join(bedingungen, " OR ")),
+        verbindung);
+    for (; !zeilen.Eof(); zeilen.MoveNext())
+        dateien.try_emplace(schluessel(zeilen.Text("DokuBez"), zeilen.Text("RevBez")), zeilen.Text("filename"));
+}
+
+} // namespace
+
+bool derselbe(const Favorit& links, const Favorit& rechts)
+{
+    return equalText(links.DokuBez, rechts.DokuBez) && equalText(links.RevBez, rechts.RevBez);
+}
+
+std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
+{
+    IniZeilen ini(session.Verbindung);
+    std::vector<Favorit> favoriten;
+    for (Recordset zeilen = ini.lese(auswahl(session, typ) + " ORDER BY Feld4, Feld5"); !zeilen.Eof();
+         zeilen.MoveNext())
+        favoriten.push_back(favoritVon(zeilen));
+    const auto doppelte = std::ranges::unique(favoriten, derselbe);
+    favoriten.erase(doppelte.begin(), doppelte.end());
+    return favoriten;
+}
+
+void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit)
+{
+    IniZeilen ini(session.Verbindung);
+    for (Recordset zeilen = ini.lese(auswahl(session, typ) + " AND " + gleich("Feld4", favorit.DokuBez)); !zeilen.Eof();
+         zeilen.MoveNext())
+        if (derselbe(favoritVon(zeilen), favorit))
+            return;
+    ini.fuegeAn({session.Anwender, GRUPPE, typ.schluessel, favorit.DokuBez, favorit.RevBez});
+    ini.schliesseAb();
+}
+
+void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const Favorit> favoriten)
+{
+    std::vector<Schluessel> gemeint;
+    for (const Favorit& favorit : favoriten)
+        gemeint.push_back(schluessel(favorit.DokuBez, favorit.RevBez));
+    std::ranges::sort(gemeint);
+
+    IniZeilen ini(session.Verbindung);
+    Recordset zeilen = ini.lese(auswahl(session, typ));
+    Transaktion transaktion(session.Verbindung);
+    while (!zeilen.Eof()) {
+        const Favorit favorit = favoritVon(zeilen);
+        if (std::ranges::binary_search(gemeint, schluessel(favorit.DokuBez, favorit.RevBez)))
+            zeilen.Delete(); // Moves to the next row.
+        else
+            zeilen.MoveNext();
+    }
+    transaktion.schliesseAb();
+}
+
+std::vector<std::string> dateienVon(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten)
+{
+    Dateinamen dateien;
+    for (auto rest = favoriten; !rest.empty(); rest = rest.subspan(std::min(NAMEN_JE_FRAGE, rest.size())))
+        leseDateien(verbindung, typ, rest.first(std::min(NAMEN_JE_FRAGE, rest.size())), dateien);
+    std::vector<std::string> namen;
+    for (const Favorit& favorit : favoriten)
+        namen.push_back(dateien[schluessel(favorit.DokuBez, favorit.RevBez)]);
+    return namen;
+}
+
+} // namespace quelvarn

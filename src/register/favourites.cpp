@@ -1,0 +1,199 @@
+#include "register/favourites.h"
+
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "platform/meldungen.h"
+#include "register/document_page.h"
+#include "register/favourite_rows.h"
+#include "session/error_report.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace quelvarn {
+namespace {
+
+constexpr std::string_view TITEL = "Favoriten";
+
+Favorit favoritVon(const Recordset& zeile)
+{
+    return {zeile.Text("DokuBezFavoriten"), zeile.Text("RevBezFavoriten")};
+}
+
+void fuegeAn(Recordset& zeilen, const Favorit& favorit, const std::string& filename)
+{
+    zeilen.AddNew();
+    zeilen.setzeFeld("DokuBezFavoriten", favorit.DokuBez);
+    zeilen.setzeFeld("RevBezFavoriten", favorit.RevBez);
+    zeilen.setzeFeld("DateinameFavoriten", DateiName(filename));
+    zeilen.setzeFeld("filenameFavoriten", filename);
+    zeilen.Update();
+}
+
+Recordset neueListe()
+{
+    Recordset zeilen;
+    for (const char* feld : {"DokuBezFavoriten", "RevBezFavoriten", "DateinameFavoriten", "filenameFavoriten"})
+        zeilen.FeldAnhaengen(feld, FeldTyp::Text);
+    zeilen.Open();
+    return zeilen;
+}
+
+std::vector<Favorit> alle(const Recordset& zeilen)
+{
+    std::vector<Favorit> favoriten;
+    for (std::size_t i = 0; i < zeilen.RecordCount(); ++i)
+        favoriten.push_back(
+            {alsText(zeilen.Zelle(i, "DokuBezFavoriten")), alsText(zeilen.Zelle(i, "RevBezFavoriten"))});
+    return favoriten;
+}
+
+} // namespace
+
+Favoriten::Favoriten(SessionState& session, Ports& ports, DocumentPage& seite)
+    : session_(session), ports_(ports), seite_(seite)
+{}
+
+Favoriten::Liste& Favoriten::geladen(const DokuTyp& typ)
+{
+    Liste& liste = listen_[static_cast<std::size_t>(typ.tab)];
+    if (!liste.FavoritenGeladen)
+        FavoritLaden(typ, liste);
+    return liste;
+}
+
+const DokuTyp& Favoriten::typ() const
+{
+    return DOKUTYPEN[static_cast<std::size_t>(seite_.tab())];
+}
+
+Favoriten::Liste& Favoriten::aktuelle()
+{
+    return listen_[static_cast<std::size_t>(seite_.tab())];
+}
+
+// Without their files the favourites stand all the same, and are read again next time.
+void Favoriten::FavoritLaden(const DokuTyp& typ, Liste& liste)
+{
+    const std::vector<Favorit> favoriten = leseFavoriten(session_, typ);
+    std::vector<std::string> dateien(favoriten.size());
+    liste.FavoritenGeladen = gesichert(ports_.meldungen, "Modul: Ermitteln filename für DokuBez und RevBez",
+                                       "Fehler beim Ermitteln filename für DokuBez und RevBez!",
+                                       [&] { dateien = dateienVon(session_.Verbindung, typ, favoriten); });
+    liste.zeilen = neueListe();
+    for (std::size_t i = 0; i < favoriten.size(); ++i)
+        fuegeAn(liste.zeilen, favoriten[i], dateien[i]);
+    if (!liste.zeilen.leer())
+        liste.zeilen.MoveFirst();
+    ++fassung_;
+}
+
+void Favoriten::FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view schluessel,
+                                   const std::string& filename)
+{
+    const auto dokuTyp = std::ranges::find(DOKUTYPEN, schluessel, &DokuTyp::schluessel);
+    assert(dokuTyp != DOKUTYPEN.end());
+    const Favorit favorit{DokuBez, RevBez};
+    Liste& liste = geladen(*dokuTyp);
+    for (const Favorit& vorhanden : alle(liste.zeilen))
+        if (derselbe(vorhanden, favorit))
+            return;
+    schreibeFavorit(session_, *dokuTyp, favorit);
+    fuegeAn(liste.zeilen, favorit, filename);
+    ++fassung_;
+    melde();
+}
+
+void Favoriten::zuFavoriten()
+{
+    bediene("Fehler beim Hinzufügen zu den Favoriten!", [&] {
+        const Tabellenseite& seite = seite_.aktuelleSeite();
+        if (seite.hatZeilen())
+            FavoritHinzufuegen(seite.record.DokuBez, seite.record.RevBez, typ().schluessel, seite.record.filename);
+    });
+}
+
+void Favoriten::FavoritenZeigen(bool an)
+{
+    zeigtFavoriten_ = false;
+    verwaltung_ = false;
+    bediene("Fehler beim Anzeigen der Favoriten!", [&] {
+        if (!an)
+            return;
+        geladen(typ());
+        zeigtFavoriten_ = true;
+    });
+}
+
+void Favoriten::oeffneVerwaltung()
+{
+    verwaltung_ = zeigtFavoriten_;
+    melde();
+}
+
+void Favoriten::verlasseVerwaltung()
+{
+    verwaltung_ = false;
+    melde();
+}
+
+void Favoriten::FavoritLoeschen()
+{
+    bediene("Fehler beim Löschen des Favoriten!", [&] {
+        Recordset& zeilen = aktuelle().zeilen;
+        if (!zeilen.offen() || zeilen.Eof() || zeilen.Bof())
+            return;
+        const std::array favorit{favoritVon(zeilen)};
+        loescheFavoriten(session_, typ(), favorit);
+        zeilen.Delete();
+        if (zeilen.Eof() && !zeilen.leer())
+            zeilen.MoveLast();
+        ++fassung_;
+    });
+}
+
+void Favoriten::AlleFavoritenLoeschen()
+{
+    bediene("Fehler beim Löschen der Favoriten!", [&] {
+        Recordset& zeilen = aktuelle().zeilen;
+        if (!zeilen.offen())
+            return;
+        loescheFavoriten(session_, typ(), alle(zeilen));
+        zeilen = neueListe();
+        ++fassung_;
+    });
+}
+
+void Favoriten::tabelleGewechselt()
+{
+    zeigtFavoriten_ = false;
+    verwaltung_ = false;
+}
+
+void Favoriten::datenbankWechselt()
+{
+    listen_ = {};
+    ++fassung_;
+    tabelleGewechselt();
+    melde();
+}
+
+const Recordset* Favoriten::liste() const
+{
+    const Recordset& zeilen = listen_[static_cast<std::size_t>(seite_.tab())].zeilen;
+    return zeilen.offen() ? &zeilen : nullptr;
+}
+
+void Favoriten::bediene(std::string_view text, const std::function<void()>& operation)
+{
+    gesichert(ports_.meldungen, TITEL, text, operation);
+    melde();
+}
+
+void Favoriten::melde() const
+{
+    if (geaendert)
+        geaendert();
+}
+
+} // namespace quelvarn

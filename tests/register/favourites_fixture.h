@@ -1,0 +1,49 @@
+#pragma once
+
+#include "register/favourites.h"
+#include "register_fixture.h"
+
+namespace quelvarn {
+
+// The document page with the user's favourites.
+class FavouritesTest : public RegisterTest
+{
+protected:
+    FavouritesTest()
+    {
+        page_.tabelleGewechselt = [this] { favourites_.tabelleGewechselt(); };
+    }
+
+    // The grid, one row a line.
+    std::string grid() const
+    {
+        std::string text;
+        const Recordset* rows = favourites_.liste();
+        for (std::size_t i = 0; rows && i < rows->RecordCount(); ++i) {
+            for (const char* field : {"DokuBezFavoriten", "RevBezFavoriten", "DateinameFavoriten", "filenameFavoriten"})
+                text += alsText(rows->Zelle(i, field)) + "|";
+            text += "\n";
+        }
+        return text;
+    }
+    // What the Ini table keeps, of all users.
+    std::string stored()
+    {
+        Recordset rows;
+        rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Favoriten' ORDER BY Feld1, Feld3, Feld4, Feld5",
+                  session_.Verbindung);
+        std::string text;
+        for (; !rows.Eof(); rows.MoveNext())
+            text += rows.Text("Feld1") + "|" + rows.Text("Feld3") + "|" + rows.Text("Feld4") + "|" +
+                    rows.Text("Feld5") + "\n";
+        return text;
+    }
+    void store(const char* user, const char* type, const std::string& DokuBez, const Value& RevBez)
+    {
+        zeile("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
+    }
+
+    Favoriten favourites_{session_, ports_, page_};
+};
+
+} // namespace quelvarn

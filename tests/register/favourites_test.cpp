@@ -1,0 +1,112 @@
+#include "favourites_fixture.h"
+
+namespace quelvarn {
+
+TEST_F(FavouritesTest, EachTabKeepsItsOwnAndRefusesDoubles)
+{
+    const struct
+    {
+        int tab;
+        const char* key;
+    } cases[] = {{0, "Part"}, {1, "SheetM"}, {2, "Assemb"}, {3, "Draft"},
+                 {4, "Weld"}, {5, "STbl1"},  {6, "STbl2"},  {7, "STbl3"}};
+    for (const auto& [tab, key] : cases) {
+        dokument(tab, "D'" + std::to_string(tab));
+        page_.tabGewaehlt(tab);
+        favourites_.zuFavoriten();
+        favourites_.zuFavoriten();
+        const std::string name = "D'" + std::to_string(tab);
+        const std::string file = page_.aktuelleSeite().record.Dateiname;
+        EXPECT_EQ(grid(), name + "|0|" + file + "|" + pfad(file) + "|\n");
+    }
+    EXPECT_EQ(stored(), "Mueller|Assemb|D'2|0\nMueller|Draft|D'3|0\nMueller|Part|D'0|0\nMueller|SheetM|D'1|0\n"
+                        "Mueller|STbl1|D'5|0\nMueller|STbl2|D'6|0\nMueller|STbl3|D'7|0\nMueller|Weld|D'4|0\n");
+}
+
+TEST_F(FavouritesTest, AnEmptyTableHasNothingToKeep)
+{
+    page_.tabGewaehlt(0);
+    favourites_.zuFavoriten();
+    EXPECT_EQ(stored(), "");
+}
+
+TEST_F(FavouritesTest, TheListIsReadWithTheFilesOfTheTable)
+{
+    dokument(0, "B", "1");
+    dokument(0, "B", "2");
+    zeile("PartTabelle", {{"DokuBez", "N"}, {"filename", pfad("n.par")}}); // A revision of Null reads as none.
+    store("Mueller", "Part", "n", Value{});
+    store("Mueller", "Part", "b", "2");
+    store("Mueller", "Part", "B", "2"); // Twice the same.
+    store("Mueller", "Part", "Weg", "0");
+    store("Meier", "Part", "B", "1");
+    store("Mueller", "Draft", "B", "1");
+    page_.tabGewaehlt(0);
+    favourites_.FavoritenZeigen(true);
+    EXPECT_EQ(grid(), "b|2|B_2.par|W:\\Teile\\B_2.par|\nn||n.par|W:\\Teile\\n.par|\nWeg|0|||\n");
+
+    favourites_.FavoritHinzufuegen("N", "", "Part", pfad("n.par"));
+    favourites_.FavoritHinzufuegen("B", "1", "Part", pfad("B_1.par")); // Another revision is another favourite.
+    EXPECT_EQ(favourites_.liste()->RecordCount(), 4u);
+}
+
+TEST_F(FavouritesTest, AFaultOfTheLookupLeavesTheNamesAndIsTriedAgain)
+{
+    dokument(0, "A");
+    store("Mueller", "Part", "A", "0");
+    page_.tabGewaehlt(0);
+    const auto table = engine_->findTabelle("PartTabelle");
+    engine_->entferneTabelle("PartTabelle");
+    welt_.meldungen.erwarte("Modul: Ermitteln filename für DokuBez und RevBez",
+                            "Fehler beim Ermitteln filename für DokuBez und RevBez!");
+    welt_.meldungen.antworte();
+    favourites_.FavoritenZeigen(true);
+    EXPECT_EQ(grid(), "A|0|||\n");
+
+    engine_->legeTabelleAn(*table);
+    dokument(0, "A");
+    favourites_.FavoritenZeigen(false);
+    favourites_.FavoritenZeigen(true);
+    EXPECT_EQ(grid(), "A|0|A_0.par|W:\\Teile\\A_0.par|\n");
+}
+
+TEST_F(FavouritesTest, TheListGoesWithItsTabAndItsDatabase)
+{
+    dokument(0, "A");
+    store("Mueller", "Part", "A", "0");
+    page_.tabGewaehlt(0);
+    const std::pair<const char*, std::function<void()>> leaves[] = {
+        {"button", [&] { favourites_.FavoritenZeigen(false); }},
+        {"tab", [&] { page_.tabGewaehlt(1), page_.tabGewaehlt(0); }},
+        {"rebuild", [&] { page_.neuaufbauen(); }},
+        {"database", [&] { favourites_.datenbankWechselt(); }},
+    };
+    for (const auto& [how, leave] : leaves) {
+        favourites_.FavoritenZeigen(true);
+        favourites_.oeffneVerwaltung();
+        EXPECT_TRUE(favourites_.zeigtFavoriten() && favourites_.verwaltung()) << how;
+        leave();
+        EXPECT_FALSE(favourites_.zeigtFavoriten() || favourites_.verwaltung()) << how;
+    }
+    EXPECT_EQ(favourites_.liste(), nullptr); // Read anew from the next database.
+}
+
+TEST_F(FavouritesTest, RowsAreDeletedInTheListAndInTheTable)
+{
+    for (const char* name : {"A", "B", "C"})
+        store("Mueller", "Part", name, name[0] == 'B' ? Value{} : Value("0"));
+    store("Meier", "Part", "A", "0");
+    page_.tabGewaehlt(0);
+    favourites_.FavoritenZeigen(true);
+    favourites_.FavoritLoeschen();
+    EXPECT_EQ(grid(), "B||||\nC|0|||\n");
+    favourites_.FavoritLoeschen();
+    EXPECT_EQ(stored(), "Meier|Part|A|0\nMueller|Part|C|0\n");
+    store("Mueller", "Part", "Neu", "0"); // By another copy of the program: not on this list, so it stays.
+    favourites_.AlleFavoritenLoeschen();
+    favourites_.FavoritLoeschen();
+    EXPECT_EQ(grid(), "");
+    EXPECT_EQ(stored(), "Meier|Part|A|0\nMueller|Part|Neu|0\n");
+}
+
+} // namespace quelvarn
