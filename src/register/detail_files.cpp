@@ -35,6 +35,11 @@ bool sollImArchivSuchen(Meldungen& meldungen, const std::string& pfad)
 
 } // namespace
 
+std::filesystem::path Detailseiten::systempfad(std::string_view pfad) const
+{
+    return ports_.dateien.systempfad(pfad);
+}
+
 void Detailseiten::oeffneAuftrag()
 {
     bediene("Versendet an", "Fehler beim Öffnen der Datei!", [&] {

@@ -5,9 +5,11 @@
 #include "register/document_record.h"
 #include "register/info_pages.h"
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace quelvarn {
 
@@ -53,6 +55,7 @@ public:
     bool ChViewGrafikZusDoku() const { return viewGrafik_; }
     const Dateibild& grafikZusDoku() const { return grafik_; }
     const std::string& tiff() const { return tiff_; } // "" when none is shown
+    std::filesystem::path systempfad(std::string_view pfad) const;
 
     std::function<void()> geaendert;
 

@@ -16,6 +16,7 @@
 namespace quelvarn {
 
 class GezeigteDateien;
+enum class Ansicht : int;
 struct Merkzeile;
 
 // State and operations of the document page (FormSEDoku). Follows the frame once it is registered there.
@@ -41,6 +42,9 @@ public:
     void knotenZugeklappt();
     // Button 8 of ToolbarSEDok2: lifts a filter, or goes to the first row.
     void zurueck();
+    // "Anschauen" of ToolbarSEDokTop: the viewer page with the document in place of the tables, and back.
+    void anschauen(bool an);
+    void zeigeVorlage(); // CmViewVorlage
     // ChDatReadOnly and ChDatArchiv of the file properties page.
     void setzeSchreibschutz(bool gesetzt);
     void setzeArchiv(bool gesetzt);
@@ -57,6 +61,10 @@ public:
     void TabelleNeuLaden(int tab);
     void TabelleWechseln();
     void ZeileAktualisieren(int tab);
+
+    // The viewer page (FrmDokuSmartView_SmartView) with any document; false after its box.
+    bool zeigeImViewer(const std::string& filename);
+    void verlasseViewer();
 
     // --- what the filters ask ---
     int filterTab() const override { return tab_; }
@@ -82,6 +90,7 @@ public:
     const AllgemeineSeite& allgemein() const { return allgemein_; }
     const DateiSeite& datei() const { return datei_; }
     const StichKommSeite& stichKomm() const { return stichKomm_; }
+    bool imViewer() const { return imViewer_; } // The viewer page stands in place of the tables.
     // The pages that are filled when they come up, with their own operations.
     Detailseiten& details() { return details_; }
     const Detailseiten& details() const { return details_; }
@@ -119,6 +128,8 @@ private:
     void zeigeEigenschaften();
     void zeigeSeite(InfoSeite seite);
     bool zeigeViewer();
+    // False after the viewer's box.
+    bool zeigeOderBox(Ansicht ansicht, const std::string& filename);
     void merkeSeite(InfoSeite seite);
     void oeffnePdf();
     void leseDatei();
@@ -140,6 +151,7 @@ private:
     DateiSeite datei_;
     StichKommSeite stichKomm_;
     Detailseiten details_;
+    bool imViewer_ = false;
     std::array<std::string, 5> aenderungspanele_;
 };
 

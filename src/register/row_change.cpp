@@ -43,6 +43,7 @@ void DocumentPage::baumAufbauen(int tab)
 {
     const DokuTyp& typ = DOKUTYPEN[tab];
     Tabellenseite& seite = seiten_[tab];
+    verlasseViewer();
     seite.baum.leere();
     if (seite.zustand <= NichtOffen)
         return;

@@ -133,19 +133,8 @@ void DocumentPage::zeigeSeite(InfoSeite seite)
 
 bool DocumentPage::zeigeViewer()
 {
-    const std::string& filename = aktuelleSeite().record.filename;
-    if (!gezeigt_.zeige(Ansicht::Eigenschaften, filename)) {
-        ports_.meldungen.warnung("Anzeigen im Viewer", zeilen({
-                                                           "Die Datei:",
-                                                           filename,
-                                                           "konnte nicht geöffnet werden!",
-                                                           "",
-                                                           "Mögliche Ursache:",
-                                                           "- Falscher Pfad- und/oder Dateiname.",
-                                                           "- Kein Zugriffsrecht.",
-                                                       }));
+    if (!zeigeOderBox(Ansicht::Eigenschaften, aktuelleSeite().record.filename))
         return false;
-    }
     seitenModus_ = 2;
     zeigeSeite(InfoSeite::Viewer);
     return true;

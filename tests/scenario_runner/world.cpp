@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QThreadPool>
 
 #include <fmt/format.h>
 #include <fstream>
@@ -168,6 +169,8 @@ QWidget& World::mainWindow() const
 
 void World::settle() const
 {
+    QApplication::processEvents();
+    QThreadPool::globalInstance()->waitForDone(); // Pictures are loaded beside the window.
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     if (parts_->ended && parts_->workplace != nullptr) {

@@ -1,6 +1,7 @@
 #include "ui/document_page/form_se_doku.h"
 
 #include "register/document_page.h"
+#include "ui/adapters/viewer_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
@@ -31,9 +32,10 @@ constexpr int ERSTE_SONDERTABELLE = 5;
 } // namespace
 
 FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session, QtViewer& viewer)
-    : modell_(modell), session_(session), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
-      ToolbarSEDokTop_(neueToolbarSEDokTop()), links_(new LinkeLeistenansicht(links, modell)),
-      info_(new Infobereich(modell, viewer)), status_(new StatusBarDatei)
+    : modell_(modell), session_(session), viewer_(viewer), LabelSEDoku_(new KurzLabel),
+      LblZugriffSEDoku_(new KurzLabel), ToolbarSEDokTop_(neueToolbarSEDokTop()),
+      links_(new LinkeLeistenansicht(links, modell)), info_(new Infobereich(modell, viewer)),
+      status_(new StatusBarDatei)
 {
     setObjectName(QStringLiteral("FormSEDoku"));
     SSTabDGDoku_ = neueReiter();
@@ -69,6 +71,10 @@ QWidget* FormSEDoku::neueLeiste()
     zeile->reihe().addWidget(ToolbarSEDokTop_, 1);
     zeile->reihe().addWidget(ToolbarSEDok3);
     zeile->reihe().addWidget(neueToolbarSEDok4());
+    connect(&knopfVon(*ToolbarSEDokTop_, "Anschauen"), &QAction::triggered, this, bewacht([this](bool an) {
+        const Sanduhr warten;
+        modell_.anschauen(an);
+    }));
     connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this, bewacht([this] {
         const Sanduhr warten;
         modell_.neuaufbauen();
@@ -87,15 +93,18 @@ QWidget* FormSEDoku::neueMitte()
     teiler->setStretchFactor(1, 2);
     teiler->setSizes({604, 335});
 
-    auto* viewer = new QWidget;
-    viewer->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
-    viewer->hide();
+    FrmDokuSmartView_Doku_ = teiler;
+    FrmDokuSmartView_SmartView_ = new QWidget;
+    FrmDokuSmartView_SmartView_->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
+    auto* viewerplatz = new QVBoxLayout(FrmDokuSmartView_SmartView_);
+    viewerplatz->addWidget(&viewer_.platz(Ansicht::Dokument));
+    FrmDokuSmartView_SmartView_->hide();
     auto* mitte = new QWidget;
     auto* reihe = new QHBoxLayout(mitte);
     reihe->setContentsMargins({});
     reihe->setSpacing(0);
     reihe->addWidget(teiler);
-    reihe->addWidget(viewer);
+    reihe->addWidget(FrmDokuSmartView_SmartView_);
     reihe->addWidget(neueAuftragsliste());
     return mitte;
 }
@@ -169,6 +178,7 @@ void FormSEDoku::zeigen()
     for (auto* tabelle : tabellen_)
         tabelle->zeigen();
     info_->zeigen();
+    zeigeViewerseite();
     status_->zeigen(modell_);
 }
 
@@ -184,6 +194,13 @@ void FormSEDoku::zeigeReiter()
     }
     SSTabDGDoku_->setCurrentIndex(modell_.tab());
     setFocusProxy(&tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter());
+}
+
+void FormSEDoku::zeigeViewerseite()
+{
+    FrmDokuSmartView_Doku_->setVisible(!modell_.imViewer());
+    FrmDokuSmartView_SmartView_->setVisible(modell_.imViewer());
+    knopfVon(*ToolbarSEDokTop_, "Anschauen").setChecked(modell_.imViewer());
 }
 
 void FormSEDoku::zeigeLinks()

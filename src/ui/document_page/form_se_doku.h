@@ -42,9 +42,13 @@ private:
     QTabWidget* neueReiter();
     void baueTasten();
     void zeigeReiter();
+    void zeigeViewerseite();
 
     DocumentPage& modell_;
     const SessionState& session_;
+    QtViewer& viewer_;
+    QWidget* FrmDokuSmartView_Doku_ = nullptr;
+    QWidget* FrmDokuSmartView_SmartView_ = nullptr;
     KurzLabel* LabelSEDoku_;
     KurzLabel* LblZugriffSEDoku_;
     QToolBar* ToolbarSEDokTop_;

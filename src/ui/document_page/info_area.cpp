@@ -6,7 +6,9 @@
 #include "ui/controls/strip.h"
 #include "ui/document_page/composition_page.h"
 #include "ui/document_page/file_page.h"
+#include "ui/document_page/file_picture.h"
 #include "ui/document_page/general_page.h"
+#include "ui/document_page/list_page.h"
 #include "ui/document_page/list_pages.h"
 #include "ui/text.h"
 #include "ui/theme/colours.h"
@@ -24,6 +26,8 @@ QString rahmenname(InfoSeite seite)
 {
     if (seite == InfoSeite::SendTo)
         return QStringLiteral("FrmSendTo");
+    if (seite == InfoSeite::Tiff)
+        return QStringLiteral("FrmTiff");
     return QStringLiteral("FrmInfoDoku(%1)").arg(static_cast<int>(seite));
 }
 
@@ -51,7 +55,8 @@ Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
       LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei nicht vorhanden"))),
       LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
       leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
-      TextKeywords_(neuesTextfeld("TextKeywords")), TextComments_(neuesTextfeld("TextComments"))
+      tiff_(new Tiffseite(modell.details())), TextKeywords_(neuesTextfeld("TextKeywords")),
+      TextComments_(neuesTextfeld("TextComments"))
 {
     baueSeiten(viewer);
     auto* aufbau = new QVBoxLayout(this);
@@ -80,11 +85,12 @@ void Infobereich::baueSeiten(QtViewer& viewer)
     fuegeSeiteHinzu(InfoSeite::Allgemein, allgemein_);
     fuegeSeiteHinzu(InfoSeite::Datei, datei_);
     fuegeSeiteHinzu(InfoSeite::StichKomm, neueStichKommSeite());
-    fuegeSeiteHinzu(InfoSeite::Revisionen, neueRevisionsseite());
-    fuegeSeiteHinzu(InfoSeite::BenutzDef, neueBenutzDefSeite());
-    fuegeSeiteHinzu(InfoSeite::Hauptmerkmale, neueHauptmerkmalseite());
-    fuegeSeiteHinzu(InfoSeite::ZusDoku, neueZusDokuSeite());
-    fuegeSeiteHinzu(InfoSeite::SendTo, neueSendToSeite());
+    for (auto* neueSeite :
+         {neueRevisionsseite, neueBenutzDefSeite, neueHauptmerkmalseite, neueZusDokuSeite, neueSendToSeite}) {
+        listen_.push_back(neueSeite(modell_));
+        fuegeSeiteHinzu(listen_.back()->seite(), listen_.back());
+    }
+    fuegeSeiteHinzu(InfoSeite::Tiff, tiff_);
     fuegeSeiteHinzu(InfoSeite::Viewer, &viewer.platz(Ansicht::Eigenschaften));
     for (const Verwendungsart& art : verwendungsarten())
         fuegeSeiteHinzu(art.seite, new Verwendungsansicht(art));
@@ -126,6 +132,9 @@ void Infobereich::zeigen()
     };
     setze(*TextKeywords_, modell_.stichKomm().TextKeywords);
     setze(*TextComments_, modell_.stichKomm().TextComments);
+    for (Listenseite* liste : listen_)
+        liste->zeigen();
+    tiff_->zeigen();
     const auto seite = seite_.find(modell_.infoSeite());
     seiten_->setCurrentWidget(seite != seite_.end() ? seite->second : leer_);
 }

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <map>
+#include <vector>
 
 class QLabel;
 class QPlainTextEdit;
@@ -14,7 +15,9 @@ class Allgemeinansicht;
 class Dateiansicht;
 class DocumentPage;
 class KurzLabel;
+class Listenseite;
 class QtViewer;
+class Tiffseite;
 enum class InfoSeite : int;
 
 // The right-hand side of the document page: one information page at a time under the head of the document type.
@@ -43,6 +46,8 @@ private:
     QWidget* leer_;
     Allgemeinansicht* allgemein_;
     Dateiansicht* datei_;
+    Tiffseite* tiff_;
+    std::vector<Listenseite*> listen_;
     QPlainTextEdit* TextKeywords_;
     QPlainTextEdit* TextComments_;
 };

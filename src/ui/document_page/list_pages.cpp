@@ -1,107 +1,154 @@
 #include "ui/document_page/list_pages.h"
 
+#include "register/document_page.h"
+#include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
-#include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
-#include "ui/document_page/panels/panel_parts.h"
+#include "ui/document_page/file_picture.h"
+#include "ui/document_page/list_page.h"
+#include "ui/guard.h"
+#include "ui/text.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
+
+#include <array>
 
 namespace quelvarn {
 
 namespace {
 
-QVBoxLayout* neueSeite(const QString& titel, Gitter* gitter)
+template <typename Knopf> Knopf* neuerKnopf(const char* name, const QString& text)
 {
-    auto* seite = new QWidget;
-    auto* aufbau = new QVBoxLayout(seite);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    auto* kopf = beschriftung(titel, Rolle::Kopf);
-    kopf->setContentsMargins(12, 8, 12, 4);
-    aufbau->addWidget(kopf);
-    aufbau->addWidget(gitter, 1);
-    return aufbau;
+    auto* knopf = new Knopf(text);
+    knopf->setObjectName(QLatin1String(name));
+    return knopf;
 }
 
-QHBoxLayout* neueReihe(QVBoxLayout& aufbau)
+// With the hourglass, since a program or a database may take its time.
+QPushButton* neueTaste(const char* name, const QString& text, std::function<void()> tun)
 {
-    auto* reihe = new QHBoxLayout;
-    reihe->setContentsMargins(12, 8, 12, 8);
-    aufbau.addLayout(reihe);
-    return reihe;
+    auto* taste = neuerKnopf<QPushButton>(name, text);
+    QObject::connect(taste, &QPushButton::clicked, taste, bewacht([tun = std::move(tun)] {
+                         const Sanduhr warten;
+                         tun();
+                     }));
+    return taste;
+}
+
+bool hatZeilen(const Detailseiten& details, InfoSeite seite)
+{
+    const Recordset* liste = details.liste(seite);
+    return liste != nullptr && !liste->leer();
+}
+
+void zeigeGesetzt(QAbstractButton& knopf, bool gesetzt)
+{
+    const QSignalBlocker still(&knopf);
+    knopf.setChecked(gesetzt);
 }
 
 } // namespace
 
-QWidget* neueRevisionsseite()
+Listenseite* neueRevisionsseite(DocumentPage& modell)
 {
-    auto* aufbau = neueSeite(
-        QStringLiteral("Revision"),
-        new Gitter("DataGridRevision",
-                   {{"Revision", "RevBez"}, {"Datum", "Geaendert"}, {"Name", "Bearbeiter"}, {"Änderung", "Aenderung"}},
-                   {18, 20, 24, 38}));
-    auto* reihe = neueReihe(*aufbau);
-    reihe->addWidget(ruhend<QRadioButton>("OpRevErstBearb(0)", QStringLiteral("Erstellt")));
-    reihe->addWidget(ruhend<QRadioButton>("OpRevErstBearb(1)", QStringLiteral("Bearbeitet")));
-    reihe->addStretch(1);
-    return aufbau->parentWidget();
+    auto* seite = new Listenseite(
+        modell, InfoSeite::Revisionen, QStringLiteral("Revision"), "DataGridRevision",
+        {{"Revision", "RevBez"}, {"Datum", "Geaendert"}, {"Name", "Bearbeiter"}, {"Änderung", "Aenderung"}},
+        {17, 19, 24, 40});
+    QHBoxLayout& reihe = seite->neueReihe();
+    constexpr std::array ANSICHTEN{std::pair("OpRevErstBearb(0)", "Erstellt"),
+                                   std::pair("OpRevErstBearb(1)", "Bearbeitet")};
+    for (std::size_t i = 0; i < ANSICHTEN.size(); ++i) {
+        auto* knopf = neuerKnopf<QRadioButton>(ANSICHTEN[i].first, QLatin1String(ANSICHTEN[i].second));
+        const auto ansicht = static_cast<RevErstBearb>(i);
+        QObject::connect(knopf, &QRadioButton::clicked, knopf,
+                         bewacht([&modell, ansicht] { modell.details().setzeRevErstBearb(ansicht); }));
+        seite->folge([knopf, ansicht, &modell] { zeigeGesetzt(*knopf, modell.details().OpRevErstBearb() == ansicht); });
+        reihe.addWidget(knopf);
+    }
+    reihe.addStretch(1);
+    return seite;
 }
 
-QWidget* neueBenutzDefSeite()
+Listenseite* neueBenutzDefSeite(DocumentPage& modell)
 {
-    return neueSeite(QStringLiteral("Benutzerdef. Eigenschaften"),
-                     new Gitter("DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60}))
-        ->parentWidget();
+    return new Listenseite(modell, InfoSeite::BenutzDef, QStringLiteral("Benutzerdef. Eigenschaften"),
+                           "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
 }
 
-QWidget* neueHauptmerkmalseite()
+Listenseite* neueHauptmerkmalseite(DocumentPage& modell)
 {
-    auto* aufbau = neueSeite(QStringLiteral("Hauptmerkmale / -werte"),
-                             new Gitter("DataGridMerkWert",
-                                        {{"Bezeichn.", "Bezeichn"}, {"Inhalt", "Inhalt"}, {"Benennung", "Benennung"}},
-                                        {22, 42, 36}));
+    auto* seite =
+        new Listenseite(modell, InfoSeite::Hauptmerkmale, QStringLiteral("Hauptmerkmale / -werte"), "DataGridMerkWert",
+                        {{"Bezeichn.", "Bezeichn"}, {"Inhalt", "Inhalt"}, {"Benennung", "Benennung"}}, {22, 42, 36});
     auto* vorlage = new KurzLabel(nullptr, Qt::ElideMiddle);
     vorlage->setObjectName(QStringLiteral("LblPfadDateiVorlage"));
-    auto* reihe = neueReihe(*aufbau);
-    reihe->addWidget(beschriftung(QStringLiteral("Vorlage"), Rolle::Beschriftung));
-    reihe->addWidget(vorlage, 1);
-    reihe->addWidget(ruhend<QPushButton>("CmViewVorlage", QStringLiteral("Anschauen")));
-    return aufbau->parentWidget();
+    auto* anschauen = neueTaste("CmViewVorlage", QStringLiteral("Anschauen"), [&modell] { modell.zeigeVorlage(); });
+    QHBoxLayout& reihe = seite->neueReihe();
+    reihe.addWidget(beschriftung(QStringLiteral("Vorlage"), Rolle::Beschriftung));
+    reihe.addWidget(vorlage, 1);
+    reihe.addWidget(anschauen);
+    seite->folge([vorlage, anschauen, &modell] {
+        const std::string& pfad = modell.details().LblPfadDateiVorlage();
+        vorlage->setText(zuQt(pfad));
+        anschauen->setEnabled(!pfad.empty());
+    });
+    return seite;
 }
 
-QWidget* neueZusDokuSeite()
+Listenseite* neueZusDokuSeite(DocumentPage& modell)
 {
-    auto* aufbau =
-        neueSeite(QStringLiteral("Zusätzl. Dokumente"), new Gitter("DataGridZusDoku",
-                                                                   {{"Datum/Uhrzeit", "ZusDokuDatum"},
-                                                                    {"Objekt ", "ZusDokuDateiname"},
-                                                                    {"Senden", "ZusDokuSenden"},
-                                                                    {"Pfad- u. Dateiname", "ZusDokufilename"}},
-                                                                   {30, 28, 17, 25}));
-    aufbau->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoZusDoku")));
-    auto* reihe = neueReihe(*aufbau);
-    reihe->addWidget(ruhend<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen")), 1);
-    reihe->addWidget(ruhend<QPushButton>("CmStartZusDoku", QStringLiteral("Anschauen")));
-    return aufbau->parentWidget();
+    auto* seite = new Listenseite(modell, InfoSeite::ZusDoku, QStringLiteral("Zusätzl. Dokumente"), "DataGridZusDoku",
+                                  {{"Datum/Uhrzeit", "ZusDokuDatum"},
+                                   {"Objekt ", "ZusDokuDateiname"},
+                                   {"Senden", "ZusDokuSenden"},
+                                   {"Pfad- u. Dateiname", "ZusDokufilename"}},
+                                  {28, 30, 17, 25});
+    auto* info = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoZusDoku"));
+    info->setContentsMargins(12, 6, 12, 0);
+    auto* bild = new Dateibildansicht(modell.details());
+    auto* grafik = neuerKnopf<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
+    QObject::connect(grafik, &QCheckBox::clicked, grafik,
+                     bewacht([&modell](bool an) { modell.details().setzeViewGrafikZusDoku(an); }));
+    auto* starten =
+        neueTaste("CmStartZusDoku", QStringLiteral("Anschauen"), [&modell] { modell.details().oeffneZusDoku(); });
+    seite->setzeOeffnen([&modell] { modell.details().oeffneZusDoku(); });
+    seite->aufbau().addWidget(info);
+    QHBoxLayout& reihe = seite->neueReihe();
+    reihe.addWidget(grafik, 1);
+    reihe.addWidget(starten);
+    seite->aufbau().addWidget(bild, 2);
+    seite->folge([=, &modell] {
+        const Detailseiten& details = modell.details();
+        const bool zeilen = hatZeilen(details, InfoSeite::ZusDoku);
+        info->setText(zuQt(details.LblInfoZusDoku()));
+        grafik->setEnabled(zeilen);
+        zeigeGesetzt(*grafik, details.ChViewGrafikZusDoku());
+        starten->setEnabled(zeilen);
+        bild->zeigen();
+    });
+    return seite;
 }
 
-QWidget* neueSendToSeite()
+Listenseite* neueSendToSeite(DocumentPage& modell)
 {
-    auto* aufbau =
-        neueSeite(QStringLiteral("Versendet an"), new Gitter("DataGridSendTo",
-                                                             {{"Datum/Uhrzeit", "SendToDatum"},
-                                                              {"Versendet an", "Kennung"},
-                                                              {"Auftrag / Protokoll", "OrderDateiname"},
-                                                              {"Pfad- u. Dateiname Speicherort", "Orderfilename"}},
-                                                             {26, 24, 26, 24}));
-    auto* reihe = neueReihe(*aufbau);
-    reihe->addStretch(1);
-    reihe->addWidget(ruhend<QPushButton>("CmSendTo", QStringLiteral("Öffnen")));
-    return aufbau->parentWidget();
+    auto* seite = new Listenseite(modell, InfoSeite::SendTo, QStringLiteral("Versendet an"), "DataGridSendTo",
+                                  {{"Datum/Uhrzeit", "SendToDatum"},
+                                   {"Versendet an", "Kennung"},
+                                   {"Auftrag / Protokoll", "OrderDateiname"},
+                                   {"Pfad- u. Dateiname Speicherort", "Orderfilename"}},
+                                  {28, 24, 26, 22});
+    auto* oeffnen = neueTaste("CmSendTo", QStringLiteral("Öffnen"), [&modell] { modell.details().oeffneAuftrag(); });
+    seite->setzeOeffnen([&modell] { modell.details().oeffneAuftrag(); });
+    QHBoxLayout& reihe = seite->neueReihe();
+    reihe.addStretch(1);
+    reihe.addWidget(oeffnen);
+    seite->folge([oeffnen, &modell] { oeffnen->setEnabled(hatZeilen(modell.details(), InfoSeite::SendTo)); });
+    return seite;
 }
 
 } // namespace quelvarn

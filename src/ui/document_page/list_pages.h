@@ -4,13 +4,13 @@ class QWidget;
 
 namespace quelvarn {
 
-class Gitter;
+class DocumentPage;
+class Listenseite;
 
-// The information pages that are a titled grid with little around it.
-QWidget* neueRevisionsseite();    // FrmInfoDoku 0
-QWidget* neueBenutzDefSeite();    // FrmInfoDoku 2
-QWidget* neueHauptmerkmalseite(); // FrmInfoDoku 3
-QWidget* neueZusDokuSeite();      // FrmInfoDoku 4
-QWidget* neueSendToSeite();       // FrmSendTo
+Listenseite* neueRevisionsseite(DocumentPage& modell);    // FrmInfoDoku 0
+Listenseite* neueBenutzDefSeite(DocumentPage& modell);    // FrmInfoDoku 2
+Listenseite* neueHauptmerkmalseite(DocumentPage& modell); // FrmInfoDoku 3
+Listenseite* neueZusDokuSeite(DocumentPage& modell);      // FrmInfoDoku 4
+Listenseite* neueSendToSeite(DocumentPage& modell);       // FrmSendTo
 
 } // namespace quelvarn

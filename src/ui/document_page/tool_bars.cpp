@@ -35,8 +35,8 @@ constexpr std::array<Leistenknopf, 2> AUFTRAG{{
     {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "liste", true},
 }};
 
-constexpr std::array<std::string_view, 6> BEREIT{"Neuaufbau",     "Suche/Filtern", "Filtern Datum",
-                                                 "Filtern Favo.", "Filterwerte",   "Zurück"};
+constexpr std::array<std::string_view, 7> BEREIT{"Neuaufbau",     "Anschauen",   "Suche/Filtern", "Filtern Datum",
+                                                 "Filtern Favo.", "Filterwerte", "Zurück"};
 
 void fuege(QToolBar& leiste, const Leistenknopf& knopf)
 {
