@@ -73,6 +73,18 @@ std::string mitEndung(std::string pfad, std::string_view endung)
     return pfad.replace(pfad.size() - 3, 3, endung);
 }
 
+// Of four orders two lie in their folder, one in the archive, and one has been deleted.
+void schreibeAuftrag(const Benutzereigenschaft& versand, const std::string& titel, std::uint32_t teil, Zeitpunkt zeit,
+                     Laufwerk& laufwerk)
+{
+    const std::string inhalt = fmt::format("Versand an: {}\r\nDokument: {}\r\n", versand.name, titel);
+    const std::string name = versand.wert.substr(versand.wert.rfind('\\') + 1);
+    if (teil % 4 < 2)
+        laufwerk.schreibe(versand.wert, inhalt, zeit);
+    else if (teil % 4 == 2)
+        laufwerk.schreibe(fmt::format("{}\\Auftragsarchiv\\{}", AUFTRAGSORDNER, name), inhalt, zeit);
+}
+
 void schreibeDokument(const Dokumente& dokumente, std::uint32_t teil, int revision, Laufwerk& laufwerk)
 {
     const std::string pfad = dokumente.filename(teil, revision);
@@ -89,9 +101,14 @@ void schreibeDokument(const Dokumente& dokumente, std::uint32_t teil, int revisi
     for (const auto& zusatz : zusaetzlicheDokumente(dokumente, teil, revision)) {
         if (zusatz.dateiname.ends_with(".pdf"))
             laufwerk.schreibe(zusatz.filename, pdfBlatt(zusatz.dateiname), geaendert);
+        else if (zusatz.dateiname.ends_with(".tif"))
+            laufwerk.schreibe(zusatz.filename, tiffBlatt(), geaendert);
         else if (zusatz.dateiname.ends_with(".txt"))
             laufwerk.schreibe(zusatz.filename, zusatz.dateiname + "\r\n", geaendert);
     }
+    for (const auto& eigenschaft : benutzereigenschaften(dokumente, teil, revision))
+        if (eigenschaft.versand)
+            schreibeAuftrag(eigenschaft, titel, teil, geaendert, laufwerk);
 }
 
 } // namespace

@@ -54,31 +54,39 @@ std::string auftragsdatei(const Dokumente& dokumente, std::uint32_t teil, int re
 
 } // namespace
 
+std::vector<Benutzereigenschaft> benutzereigenschaften(const Dokumente& dokumente, std::uint32_t teil, int revision)
+{
+    const Tab tab = dokumente.plan().teil(teil).tab;
+    Zufall zufall{dokumente.plan().start(), FRAGE, teil, static_cast<std::uint64_t>(revision)};
+    std::vector<Benutzereigenschaft> ergebnis;
+    if (zufall.prozent(45)) {
+        std::string_view vorige;
+        for (auto anzahl = zufall.zwischen(1, 4); anzahl > 0; --anzahl) {
+            const auto name = zufall.teil(tab == Tab::Draft ? NAMEN_ZEICHNUNG : NAMEN_TEIL);
+            if (name != vorige)
+                ergebnis.push_back({.name = name, .wert = wert(name, zufall)});
+            vorige = name;
+        }
+    }
+    if (zufall.prozent(1))
+        ergebnis.push_back({.name = zufall.prozent(50) ? "" : " ", .wert = "ohne Namen"});
+    if (tab <= Tab::Weld && zufall.prozent(4)) {
+        const std::string_view empfaenger = zufall.aus(tools::empfaenger());
+        ergebnis.push_back({empfaenger, auftragsdatei(dokumente, teil, revision, zufall), true});
+    }
+    return ergebnis;
+}
+
 void schreibeBenutzDef(const Dokumente& dokumente, Tab tab, Zeilensenke& senke)
 {
     fuerJedesDokument(dokumente, [&](std::uint32_t teil, int revision) {
         if (dokumente.plan().teil(teil).tab != tab)
             return;
-        Zufall zufall{dokumente.plan().start(), FRAGE, teil, static_cast<std::uint64_t>(revision)};
-        const auto zeile = [&](std::string_view name, std::string inhalt) {
-            senke.zeile(std::vector<Value>{dokumente.dokuBez(teil), dokumente.revBez(teil, revision), std::string(name),
-                                           std::move(inhalt), std::int64_t{dokumente.status(teil, revision)},
-                                           dokumente.projekt(teil), dokumente.autor(teil),
-                                           dokumente.bearbeiter(teil, revision), dokumente.material(teil)});
-        };
-        if (zufall.prozent(45)) {
-            std::string_view vorige;
-            for (auto anzahl = zufall.zwischen(1, 4); anzahl > 0; --anzahl) {
-                const auto name = zufall.teil(tab == Tab::Draft ? NAMEN_ZEICHNUNG : NAMEN_TEIL);
-                if (name != vorige)
-                    zeile(name, wert(name, zufall));
-                vorige = name;
-            }
-        }
-        if (zufall.prozent(1))
-            zeile(zufall.prozent(50) ? "" : " ", "ohne Namen");
-        if (tab <= Tab::Weld && zufall.prozent(4))
-            zeile(zufall.aus(empfaenger()), auftragsdatei(dokumente, teil, revision, zufall));
+        for (Benutzereigenschaft& eigenschaft : benutzereigenschaften(dokumente, teil, revision))
+            senke.zeile(std::vector<Value>{
+                dokumente.dokuBez(teil), dokumente.revBez(teil, revision), std::string(eigenschaft.name),
+                std::move(eigenschaft.wert), std::int64_t{dokumente.status(teil, revision)}, dokumente.projekt(teil),
+                dokumente.autor(teil), dokumente.bearbeiter(teil, revision), dokumente.material(teil)});
     });
 }
 

@@ -24,6 +24,14 @@ void schreibeBenutzDef(const Dokumente& dokumente, Tab tab, Zeilensenke& senke);
 // The names (Kennung) of the recipients in the address table.
 std::span<const std::string_view> empfaenger();
 
+struct Benutzereigenschaft
+{
+    std::string_view name;
+    std::string wert;
+    bool versand = false; // A sent-to note: the value is the path of its order file.
+};
+std::vector<Benutzereigenschaft> benutzereigenschaften(const Dokumente& dokumente, std::uint32_t teil, int revision);
+
 struct ZusaetzlichesDokument
 {
     std::string dateiname;

@@ -136,7 +136,8 @@ void schreibeVerbindungWeldAssemb(const Dokumente& dokumente, Zeilensenke& senke
 std::vector<ZusaetzlichesDokument> zusaetzlicheDokumente(const Dokumente& dokumente, std::uint32_t teil, int revision)
 {
     constexpr std::string_view ARTEN =
-        "Datenblatt.pdf|Prüfprotokoll.pdf|Berechnung.xls|Montageanleitung.doc|Hinweise.txt|Schaltplan.pdf";
+        "Datenblatt.pdf|Prüfprotokoll.pdf|Berechnung.xls|Montageanleitung.doc|Hinweise.txt|Schaltplan.pdf|"
+        "Skizze.tif";
     Zufall zufall{dokumente.plan().start(), ZUSATZ, teil, static_cast<std::uint64_t>(revision)};
     std::vector<ZusaetzlichesDokument> ergebnis;
     if (!zufall.prozent(6))
