@@ -5,7 +5,8 @@
 namespace quelvarn {
 
 DocumentPage::DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt)
-    : session_(session), ports_(ports), gezeigt_(gezeigt), details_(session, ports)
+    : session_(session), ports_(ports), gezeigt_(gezeigt), details_(session, ports),
+      verwendung_(session, ports, gezeigt, *this)
 {
     details_.geaendert = [this] { melde(); };
 }

@@ -5,6 +5,7 @@
 #include "register/detail_pages.h"
 #include "register/info_pages.h"
 #include "register/table_page.h"
+#include "register/usage_page.h"
 #include "session/main_window.h"
 #include "session/session_state.h"
 
@@ -61,6 +62,11 @@ public:
     void TabelleNeuLaden(int tab);
     void TabelleWechseln();
     void ZeileAktualisieren(int tab);
+    void waehleTab(int tab);
+    // Shows this table, opened anew without a filter, at the document that was current in it.
+    void baueNeuAuf(int tab);
+    // The status bar tells of a related document instead of the current one.
+    void zeigeDateiUnten(const std::string& filename);
 
     // The viewer page (FrmDokuSmartView_SmartView) with any document; false after its box.
     bool zeigeImViewer(const std::string& filename);
@@ -94,6 +100,8 @@ public:
     // The pages that are filled when they come up, with their own operations.
     Detailseiten& details() { return details_; }
     const Detailseiten& details() const { return details_; }
+    // The page of composition or where-used, when one of these is shown.
+    Verwendungsseite& verwendung() { return verwendung_; }
     // 1 the right-hand side shows the general page, 2 the viewer.
     int SeitenModus() const { return seitenModus_; }
     // The indicator panels of StatusBarUpdate: part, sheet metal, assembly, drawing, weldment.
@@ -106,6 +114,8 @@ public:
     std::function<std::string(int tab)> filterVergessen;
     // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
     std::function<void()> tabelleGewechselt;
+    // A document was double-clicked: what "Bearbeiten" of the frame does.
+    std::function<void()> bearbeiten;
 
 private:
     void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
@@ -115,7 +125,7 @@ private:
     void melde();
     // At once, since a later step may show a box and the window repaints behind it.
     void zeilenGeaendert(int tab);
-    void waehleTab(int tab);
+    void zeigeTab(int tab);
     void wechsle(const Merkzeile* rueckkehr);
     void zeigeZeilen();
     std::string leereFilter(int tab);
@@ -152,6 +162,7 @@ private:
     StichKommSeite stichKomm_;
     Detailseiten details_;
     bool imViewer_ = false;
+    Verwendungsseite verwendung_;
     std::array<std::string, 5> aenderungspanele_;
 };
 

@@ -56,11 +56,6 @@ bool gibtEsZumPfad(Connection& verbindung, std::string_view tabelle, std::string
     return !pfad.empty() && gibtEs(verbindung, tabelle, spalte, {{spalte, pfad}});
 }
 
-bool istTeil(int dokuArt)
-{
-    return dokuArt == 1 || dokuArt == 4 || dokuArt == 6;
-}
-
 std::vector<std::string> leseSpalte(Connection& verbindung, const sql::Select& select)
 {
     std::vector<std::string> werte;
@@ -94,34 +89,6 @@ bool neuereRevision(const Revisionsstand& stand, const DokuRecord& record)
 {
     return !record.DokuBez.empty() && !record.RevBez.empty() && !stand.letzte.empty() &&
            !equalText(stand.letzte, record.RevBez);
-}
-
-bool inBaugruppe(Connection& verbindung, int dokuArt, std::string_view pfad)
-{
-    return istTeil(dokuArt) ? gibtEsZumPfad(verbindung, "ZusBauPart", "Part", pfad)
-                            : gibtEsZumPfad(verbindung, "ZusBauSubAss", "Subassembly", pfad);
-}
-
-bool inZeichnung(Connection& verbindung, std::string_view pfad)
-{
-    return gibtEsZumPfad(verbindung, "VerbindungDraftPart", "PfadAssembPart", pfad);
-}
-
-bool inSchweissteil(Connection& verbindung, std::string_view pfad)
-{
-    return gibtEsZumPfad(verbindung, "VerbindungWeldAssemb", "PfadAssemb", pfad);
-}
-
-bool zeichnungHatModell(Connection& verbindung, const DokuRecord& record)
-{
-    return gibtEs(verbindung, "VerbindungDraftPart", "PfadAssembPart",
-                  {{"DokuBezDraft", record.DokuBez}, {"RevBezDraft", record.RevBez}});
-}
-
-bool schweissteilHatBaugruppe(Connection& verbindung, const DokuRecord& record)
-{
-    return gibtEs(verbindung, "VerbindungWeldAssemb", "PfadAssemb",
-                  {{"DokuBezWeld", record.DokuBez}, {"RevBezWeld", record.RevBez}});
 }
 
 std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Dateiname)

@@ -23,13 +23,6 @@ struct Revisionsstand
 Revisionsstand revisionsstand(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez);
 bool neuereRevision(const Revisionsstand& stand, const DokuRecord& record);
 
-// `dokuArt` 1, 4 and 6 are built in as parts, any other as a subassembly.
-bool inBaugruppe(Connection& verbindung, int dokuArt, std::string_view pfad);
-bool inZeichnung(Connection& verbindung, std::string_view pfad);
-bool inSchweissteil(Connection& verbindung, std::string_view pfad);
-bool zeichnungHatModell(Connection& verbindung, const DokuRecord& record);
-bool schweissteilHatBaugruppe(Connection& verbindung, const DokuRecord& record);
-
 // The registered TIFF of a drawing by its file name; "" when none is.
 std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Dateiname);
 // The registered TIFF, or the one that lies beside the drawing; "" when there is neither.

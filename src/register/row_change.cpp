@@ -68,6 +68,13 @@ void DocumentPage::baumAufbauen(int tab)
     zeigeNachModus();
 }
 
+void DocumentPage::zeigeDateiUnten(const std::string& filename)
+{
+    dateinamePanel_ = DateiName(filename);
+    ordnerPanel_ = Ordnername(filename);
+    statuskopf_.text.clear();
+}
+
 void DocumentPage::leereDokument(int tab)
 {
     seiten_[tab].baum.leere();

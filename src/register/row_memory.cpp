@@ -10,18 +10,24 @@
 namespace quelvarn {
 namespace {
 
-// Looks through the rows of one DokuBez, which stand together. Another path with the same revision is second best.
-std::optional<std::size_t> findeDokument(Recordset& tabelle, const Merkzeile& zeile)
+struct Fundstelle
 {
-    std::optional<std::size_t> zweitbeste;
+    std::size_t position = 0;
+    bool derselbePfad = false;
+};
+
+// Looks through the rows of one DokuBez, which stand together. Another path with the same revision is second best.
+std::optional<Fundstelle> findeDokument(Recordset& tabelle, const Merkzeile& zeile)
+{
+    std::optional<Fundstelle> zweitbeste;
     tabelle.Find("DokuBez = '" + replaceAll(zeile.DokuBez, "'", "''") + "'", 0, Suchrichtung::Vorwaerts, true);
     for (; !tabelle.Eof() && equalText(tabelle.Text("DokuBez"), zeile.DokuBez); tabelle.MoveNext()) {
         if (!equalText(tabelle.Text("RevBez"), zeile.RevBez))
             continue;
         if (equalText(tabelle.Text("filename"), zeile.filename))
-            return tabelle.AbsolutePosition();
+            return Fundstelle{tabelle.AbsolutePosition(), true};
         if (!zweitbeste)
-            zweitbeste = tabelle.AbsolutePosition();
+            zweitbeste = Fundstelle{tabelle.AbsolutePosition()};
     }
     return zweitbeste;
 }
@@ -39,7 +45,23 @@ Merkzeile merkeZeile(const Tabellenseite& seite)
 void stelleAuf(Recordset& tabelle, const Merkzeile& zeile)
 {
     const std::size_t letzte = tabelle.RecordCount() - 1;
-    tabelle.setzeAbsolutePosition(findeDokument(tabelle, zeile).value_or(std::min(zeile.position, letzte)));
+    const auto gefunden = findeDokument(tabelle, zeile);
+    tabelle.setzeAbsolutePosition(gefunden ? gefunden->position : std::min(zeile.position, letzte));
+}
+
+bool stelleAufDatei(Recordset& tabelle, const Merkzeile& zeile)
+{
+    if (!tabelle.offen() || tabelle.leer())
+        return false;
+    const std::size_t vorher = tabelle.AbsolutePosition();
+    const auto gefunden = findeDokument(tabelle, zeile);
+    if (gefunden && gefunden->derselbePfad) {
+        tabelle.setzeAbsolutePosition(gefunden->position);
+        return true;
+    }
+    if (vorher < tabelle.RecordCount())
+        tabelle.setzeAbsolutePosition(vorher);
+    return false;
 }
 
 } // namespace quelvarn

@@ -18,5 +18,7 @@ struct Merkzeile
 Merkzeile merkeZeile(const Tabellenseite& seite);
 // Moves to the document, else to the place where it stood. The table must have rows.
 void stelleAuf(Recordset& tabelle, const Merkzeile& zeile);
+// Moves to the row with this path; without one the table stays where it is.
+bool stelleAufDatei(Recordset& tabelle, const Merkzeile& zeile);
 
 } // namespace quelvarn

@@ -12,11 +12,16 @@ void DocumentPage::tabGewaehlt(int tab)
 
 void DocumentPage::waehleTab(int tab)
 {
+    zeigeTab(tab);
+    TabelleWechseln();
+}
+
+void DocumentPage::zeigeTab(int tab)
+{
     tab_ = tab;
     dateinamePanel_.clear();
     ordnerPanel_.clear();
     statuskopf_.text.clear();
-    TabelleWechseln();
 }
 
 void DocumentPage::TabelleWechseln()
@@ -69,13 +74,17 @@ void DocumentPage::zeigeZeilen()
 
 void DocumentPage::neuaufbauen()
 {
-    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
-        Tabellenseite& seite = seiten_[tab_];
-        const Merkzeile zeile = merkeZeile(seite);
-        seite.zustand = Neuaufbau;
-        wechsle(&zeile);
-        aenderungspanel(tab_).clear();
-    });
+    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] { baueNeuAuf(tab_); });
+}
+
+void DocumentPage::baueNeuAuf(int tab)
+{
+    zeigeTab(tab);
+    Tabellenseite& seite = seiten_[tab];
+    const Merkzeile zeile = merkeZeile(seite);
+    seite.zustand = Neuaufbau;
+    wechsle(&zeile);
+    aenderungspanel(tab).clear();
 }
 
 void DocumentPage::zurueck()

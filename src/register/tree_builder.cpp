@@ -2,6 +2,8 @@
 
 #include "database/document_types.h"
 #include "register/relations.h"
+#include "register/usage_kinds.h"
+#include "register/usage_rows.h"
 #include "session/local_settings.h"
 #include "session/session_state.h"
 
@@ -16,8 +18,10 @@ std::string jaNein(bool ja)
 } // namespace
 
 BaumBauer::BaumBauer(Tabellenseite& seite, const DokuTyp& typ, SessionState& session, const Ports& ports)
-    : seite_(seite), typ_(typ), session_(session), ports_(ports)
-{}
+    : seite_(seite), typ_(typ), session_(session), ports_(ports), pfad_(seite.record.filename)
+{
+    UniversalNachLaufwerk(pfad_, ports);
+}
 
 void BaumBauer::fuegeAn(std::string_view schluessel, std::string_view text)
 {
@@ -59,28 +63,27 @@ void BaumBauer::revision()
     seite_.baum.wurzeln.back().rot = record.neuereRevision;
 }
 
+// Adds the node when the link tables know of something.
+bool BaumBauer::fuegeVerwendungAn(InfoSeite seite, std::string_view schluessel)
+{
+    const Verwendungsart& art = verwendungsartVon(seite);
+    if (!gibtEsVerwendung(session_.Verbindung, art, seite_.record, pfad_))
+        return false;
+    fuegeAn(schluessel, art.knoten);
+    return true;
+}
+
 void BaumBauer::verwendung()
 {
     DokuRecord& record = seite_.record;
-    std::string pfad = record.filename;
-    UniversalNachLaufwerk(pfad, ports_);
-
-    const bool baugruppe = inBaugruppe(session_.Verbindung, record.DokuArt, pfad);
-    record.inBaugruppe = jaNein(baugruppe);
-    if (baugruppe)
-        fuegeAn("EnthaltenInAssemb", knoten::IN_BAUGRUPPE);
-    const bool zeichnung = inZeichnung(session_.Verbindung, pfad);
-    record.inZeichnung = jaNein(zeichnung);
-    if (zeichnung)
-        fuegeAn("EnthaltenInDraft", knoten::IN_ZEICHNUNG);
-
+    record.inBaugruppe = jaNein(fuegeVerwendungAn(InfoSeite::InBaugruppe, "EnthaltenInAssemb"));
+    record.inZeichnung = jaNein(fuegeVerwendungAn(InfoSeite::InZeichnung, "EnthaltenInDraft"));
     if (typ_.schluessel == "Assemb") {
-        if (inSchweissteil(session_.Verbindung, pfad))
-            fuegeAn("EnthaltenInWeld", knoten::IN_SCHWEISSTEIL);
+        fuegeVerwendungAn(InfoSeite::InSchweissteil, "EnthaltenInWeld");
         fuegeAn(knoten::BESTEHT_AUS, knoten::BESTEHT_AUS);
     }
-    if (typ_.schluessel == "Weld" && schweissteilHatBaugruppe(session_.Verbindung, record))
-        fuegeAn("EnthaeltAssemb", knoten::ENTHAELT_BAUGRUPPE);
+    if (typ_.schluessel == "Weld")
+        fuegeVerwendungAn(InfoSeite::EnthaeltBaugruppe, "EnthaeltAssemb");
 }
 
 void BaumBauer::zeichnung()
@@ -92,10 +95,7 @@ void BaumBauer::zeichnung()
         fuegeAn(knoten::PDF, knoten::PDF);
     if (!session_.Tree.Verwendung)
         return;
-    const bool modell = zeichnungHatModell(session_.Verbindung, record);
-    record.inZeichnung = jaNein(modell);
-    if (modell)
-        fuegeAn(knoten::ENTHAELT, knoten::ENTHAELT);
+    record.inZeichnung = jaNein(fuegeVerwendungAn(InfoSeite::Enthaelt, knoten::ENTHAELT));
 }
 
 } // namespace quelvarn

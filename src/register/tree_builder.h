@@ -1,7 +1,11 @@
 #pragma once
 
 #include "platform/ports.h"
+#include "register/info_pages.h"
 #include "register/table_page.h"
+
+#include <string>
+#include <string_view>
 
 namespace quelvarn {
 
@@ -24,6 +28,7 @@ public:
 private:
     void revision();
     void verwendung();
+    bool fuegeVerwendungAn(InfoSeite seite, std::string_view schluessel);
     void zeichnung();
     void fuegeAn(std::string_view schluessel, std::string_view text);
     void fuegeKindAn(std::string_view text);
@@ -32,6 +37,7 @@ private:
     const DokuTyp& typ_;
     SessionState& session_;
     const Ports& ports_;
+    std::string pfad_; // Of the document, on a drive.
 };
 
 } // namespace quelvarn

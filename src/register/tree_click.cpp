@@ -4,8 +4,10 @@
 #include "platform/meldungen.h"
 #include "platform/zwischenablage.h"
 #include "register/document_page.h"
+#include "register/file_boxes.h"
 #include "register/relations.h"
 #include "register/tree_builder.h"
+#include "register/usage_kinds.h"
 #include "use/shown_files.h"
 
 #include <algorithm>
@@ -127,7 +129,11 @@ void DocumentPage::zeigeSeite(InfoSeite seite)
 {
     if (infoSeite_ == InfoSeite::Viewer && seite != InfoSeite::Viewer)
         gezeigt_.leere(Ansicht::Eigenschaften);
+    if (verwendung_.art())
+        verwendung_.leere();
     infoSeite_ = seite;
+    if (const Verwendungsart* art = findVerwendungsart(seite))
+        verwendung_.fuelle(*art);
     details_.fuelle(seite, DOKUTYPEN[tab_], aktuelleSeite().record);
 }
 
@@ -145,14 +151,7 @@ void DocumentPage::oeffnePdf()
     const DokuRecord& record = aktuelleSeite().record;
     const std::string pfad = mitEndung(record.filename, "pdf");
     if (findPdf(ports_.dateien, record).empty())
-        ports_.meldungen.warnung("Im Verzeichnis nicht vorhanden", zeilen({
-                                                                       "Die Datei",
-                                                                       pfad,
-                                                                       "ist im Verzeichnis nicht vorhanden!",
-                                                                       "Mögliche Ursache:",
-                                                                       "- Falscher Pfad- und/oder Dateiname.",
-                                                                       "- Datei wurde im Verzeichnis gelöscht.",
-                                                                   }));
+        meldeDateiFehlt(ports_.meldungen, pfad);
     else if (!ports_.standardanwendung.oeffne(pfad))
         ports_.meldungen.warnung(std::string(knoten::PDF), zeilen({"Fehler beim Öffnen der Datei:", pfad}));
 }

@@ -44,7 +44,7 @@ void Arbeitsplatz::verbinde()
     rahmen_.geaendert = [this] { fenster_->zeigen(); };
     rahmen_.beendet = [this] { programmEnde_(); };
     startseite_.geaendert = [this] { formDB_->zeigen(); };
-    formSEDoku_->bearbeiten = [this] {
+    dokumentseite_.bearbeiten = [this] {
         if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };

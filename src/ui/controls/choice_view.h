@@ -18,7 +18,8 @@ public:
     using Ansicht::Ansicht;
 
     std::function<void(const QModelIndex&)> gewaehlt;
-    std::function<void(const QModelIndex&)> geoeffnet; // Double click or Enter.
+    std::function<void(const QModelIndex&)> geoeffnet;  // Double click or Enter.
+    std::function<void(const QModelIndex&)> eingegeben; // Enter, where it is not the same as a double click.
 
     void zeigeGewaehlt(const QModelIndex& stelle)
     {
@@ -80,7 +81,7 @@ protected:
         const bool eingabe = ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter;
         if (!eingabe || !this->currentIndex().isValid())
             return Ansicht::keyPressEvent(ereignis);
-        melde(geoeffnet, this->currentIndex());
+        melde(eingegeben ? eingegeben : geoeffnet, this->currentIndex());
     }
 
     // The first focus makes the first entry current.

@@ -140,8 +140,8 @@ QTabWidget* FormSEDoku::neueReiter()
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
         auto* tabelle = new Tabellenansicht(modell_, tab);
         tabelle->geoeffnet = [this] {
-            if (bearbeiten)
-                bearbeiten();
+            if (modell_.bearbeiten)
+                modell_.bearbeiten();
         };
         tabellen_.push_back(tabelle);
         reiter->addTab(tabelle, {});
@@ -165,8 +165,9 @@ void FormSEDoku::baueTasten()
     }
     // Back from wherever the focus went.
     auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(zurueck, &QShortcut::activated, this,
-            [this] { tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus(); });
+    const auto zurTabelle = [this] { tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus(); };
+    connect(zurueck, &QShortcut::activated, this, zurTabelle);
+    info_->zurTabelle = zurTabelle;
 }
 
 void FormSEDoku::zeigen()

@@ -31,8 +31,6 @@ public:
     void zeigen();
     // The bar at the left with its panels alone.
     void zeigeLinks();
-    // A document was double-clicked: what "Bearbeiten" of the frame does.
-    std::function<void()> bearbeiten;
 
 private:
     QWidget* neueKopfzeile();

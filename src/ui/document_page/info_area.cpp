@@ -1,6 +1,7 @@
 #include "ui/document_page/info_area.h"
 
 #include "register/document_page.h"
+#include "register/usage_kinds.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/strip.h"
@@ -92,8 +93,16 @@ void Infobereich::baueSeiten(QtViewer& viewer)
     }
     fuegeSeiteHinzu(InfoSeite::Tiff, tiff_);
     fuegeSeiteHinzu(InfoSeite::Viewer, &viewer.platz(Ansicht::Eigenschaften));
-    for (const Verwendungsart& art : verwendungsarten())
-        fuegeSeiteHinzu(art.seite, new Verwendungsansicht(art));
+    for (const Verwendungsnamen& namen : VERWENDUNGSNAMEN) {
+        QWidget& vorschau = viewer.platz(verwendungsartVon(namen.seite).ansicht);
+        auto* ansicht = new Verwendungsansicht(modell_.verwendung(), namen, vorschau);
+        ansicht->verlassen = [this] {
+            if (zurTabelle)
+                zurTabelle();
+        };
+        verwendung_.push_back(ansicht);
+        fuegeSeiteHinzu(namen.seite, ansicht);
+    }
 }
 
 void Infobereich::fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt)
@@ -126,6 +135,8 @@ void Infobereich::zeigen()
     zeigeKopf();
     allgemein_->zeigen(modell_.allgemein());
     datei_->zeigen();
+    for (auto* ansicht : verwendung_)
+        ansicht->zeigen();
     const auto setze = [](QPlainTextEdit& feld, const std::string& text) {
         if (feld.toPlainText() != zuQt(text))
             feld.setPlainText(zuQt(text));

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -18,6 +19,7 @@ class KurzLabel;
 class Listenseite;
 class QtViewer;
 class Tiffseite;
+class Verwendungsansicht;
 enum class InfoSeite : int;
 
 // The right-hand side of the document page: one information page at a time under the head of the document type.
@@ -29,6 +31,8 @@ public:
     Infobereich(DocumentPage& modell, QtViewer& viewer);
 
     void zeigen();
+    // A page has led to a document of a table: the keyboard goes there.
+    std::function<void()> zurTabelle;
 
 private:
     QWidget* neuerKopf();
@@ -48,6 +52,7 @@ private:
     Dateiansicht* datei_;
     Tiffseite* tiff_;
     std::vector<Listenseite*> listen_;
+    std::vector<Verwendungsansicht*> verwendung_;
     QPlainTextEdit* TextKeywords_;
     QPlainTextEdit* TextComments_;
 };

@@ -1,0 +1,89 @@
+#include "register/document_jump.h"
+
+#include "base/text.h"
+#include "database/document_types.h"
+#include "platform/meldungen.h"
+#include "register/document_page.h"
+#include "register/row_memory.h"
+#include "register/usage_rows.h"
+#include "session/local_settings.h"
+
+#include <algorithm>
+
+namespace quelvarn {
+
+bool Dokumentsprung::ZuDokumentWechseln(const DokuTyp& typ, const std::string& filename)
+{
+    return springe(typ, filename,
+                   {"Das zugehörige Dokument kann eventuell nicht angezeigt werden.",
+                    "Das Modell ist in der Tabelle nicht vorhanden!", false});
+}
+
+bool Dokumentsprung::ZeichnungZeigen(const std::string& filename)
+{
+    return springe(*std::ranges::find(DOKUTYPEN, std::string_view("Draft"), &DokuTyp::schluessel), filename,
+                   {"Die zugehörige Zeichnung kann eventuell nicht angezeigt werden.",
+                    "Die Zeichnung ist in der Tabelle nicht vorhanden!", true});
+}
+
+void Dokumentsprung::bereiteVor(const DokuTyp& typ, std::string_view hinweis)
+{
+    const Tabellenseite& tabelle = seite_.seite(typ.tab);
+    if (tabelle.zustand == NichtOffen)
+        seite_.TabelleNeuLaden(typ.tab);
+    // Intended: of a special table only the plain filter is asked about.
+    if (tabelle.zustand != Gefiltert && (tabelle.zustand != Filterergebnis || typ.sondertabelle != 0))
+        return;
+    const std::string name = session_.mehrzahl(typ.tab);
+    if (!ports_.meldungen.frage(
+            "Filterung der Tabelle '" + name + "' aufheben?",
+            zeilen({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", hinweis, "Soll der Filter aufgehoben werden?"})))
+        return;
+    seite_.waehleTab(typ.tab);
+    seite_.filterAufheben(typ.tab);
+}
+
+bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
+{
+    std::string pfad = filename;
+    UniversalNachLaufwerk(pfad, ports_);
+    const auto name = findDokument(session_.Verbindung, typ, pfad);
+    if (!name)
+        return false;
+    return stelleAufDatei(seite_.seite(typ.tab).sichtbar(), {name->DokuBez, name->RevBez, pfad, 0});
+}
+
+bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen)
+{
+    bereiteVor(typ, fragen.hinweis);
+    if (sucheDatei(typ, filename)) {
+        seite_.waehleTab(typ.tab);
+        return true;
+    }
+    const Antwort antwort = ports_.meldungen.zeige(
+        {"Neuaufbau der Tabelle durchführen?", zeilen({fragen.fehlt, "Soll ein 'Neuaufbau' durchgeführt werden?"}),
+         Symbol::Frage, fragen.abbrechbar ? Knoepfe::JaNeinAbbrechen : Knoepfe::JaNein});
+    if (antwort == Antwort::Ja)
+        return nachNeuaufbau(typ, filename);
+    if (antwort == Antwort::Nein)
+        seite_.waehleTab(typ.tab);
+    return false;
+}
+
+bool Dokumentsprung::nachNeuaufbau(const DokuTyp& typ, const std::string& filename)
+{
+    seite_.baueNeuAuf(typ.tab);
+    if (sucheDatei(typ, filename)) {
+        seite_.ZeileAktualisieren(typ.tab);
+        return true;
+    }
+    ports_.meldungen.warnung("Suchergebnis", zeilen({
+                                                 "Datei ist in der Tabelle nicht vorhanden!",
+                                                 "es ist ein <Neuaufbau> erforderlich.",
+                                                 "oder",
+                                                 "Sie haben keine Zugriffsberechtigung.",
+                                             }));
+    return false;
+}
+
+} // namespace quelvarn

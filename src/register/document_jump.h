@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/ports.h"
+
+#include <string>
+#include <string_view>
+
+namespace quelvarn {
+
+class DocumentPage;
+struct DokuTyp;
+struct SessionState;
+
+// Goes to the row of a document in its own table. What stands in the way is asked: a filter that may hide it, a table
+// that does not have it yet. Faults pass through.
+class Dokumentsprung
+{
+public:
+    Dokumentsprung(SessionState& session, Ports& ports, DocumentPage& seite)
+        : session_(session), ports_(ports), seite_(seite)
+    {}
+
+    // True when the document was found; it is the current row of the table shown then.
+    bool ZuDokumentWechseln(const DokuTyp& typ, const std::string& filename);
+    // The same from a model to its drawing; the question about a rebuild can be cancelled.
+    bool ZeichnungZeigen(const std::string& filename);
+
+    // --- its steps, for other ways to a document ---
+    // Opens the table, and lifts a filter after asking. `hinweis` says what may not be seen otherwise.
+    void bereiteVor(const DokuTyp& typ, std::string_view hinweis);
+    // Moves the table to the row of this file; without one it stays where it is. The tab does not change.
+    bool sucheDatei(const DokuTyp& typ, const std::string& filename);
+
+private:
+    struct Fragen
+    {
+        std::string_view hinweis;
+        std::string_view fehlt;
+        bool abbrechbar;
+    };
+
+    bool springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen);
+    bool nachNeuaufbau(const DokuTyp& typ, const std::string& filename);
+
+    SessionState& session_;
+    Ports& ports_;
+    DocumentPage& seite_;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,266 @@
+#include "register/usage_page.h"
+
+#include "base/text.h"
+#include "base/windows_path.h"
+#include "database/document_types.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "platform/zwischenablage.h"
+#include "register/document_jump.h"
+#include "register/document_page.h"
+#include "register/file_boxes.h"
+#include "register/usage_kinds.h"
+#include "session/error_report.h"
+#include "session/local_settings.h"
+#include "use/shown_files.h"
+
+namespace quelvarn {
+
+namespace {
+
+void meldeAnderenStatus(Meldungen& meldungen)
+{
+    meldungen.warnung("Status der Baugruppe", zeilen({
+                                                  "ACHTUNG!",
+                                                  "Bestandteile der Baugruppe haben einen",
+                                                  "anderen Status als die Baugruppe.",
+                                              }));
+}
+
+void meldeKeinenZugriff(Meldungen& meldungen, std::string_view auf)
+{
+    meldungen.warnung("Keine Zugriffsberechtigung",
+                      zeilen({"ACHTUNG!", "Sie haben " + std::string(auf) + " keine Zugriffsberechtigung."}));
+}
+
+void meldeKeineVorschau(Meldungen& meldungen, const std::string& filename)
+{
+    meldungen.warnung("Anzeigen im Viewer", zeilen({
+                                                "Die Datei:",
+                                                filename,
+                                                "konnte nicht geöffnet werden!",
+                                                "Mögliche Ursache:",
+                                                "- Falscher Pfad- und/oder Dateiname.",
+                                                "- Kein Zugriffsrecht.",
+                                            }));
+}
+
+void meldeKeinenFavoriten(Meldungen& meldungen)
+{
+    meldungen.warnung("Favoriten", zeilen({
+                                       "Der Eintrag bei Favoriten konnte",
+                                       "nicht erfolgreich durchgeführt werden!",
+                                       "Mögliche Ursache:",
+                                       "- Datei ist in der Tabelle nicht vorhanden.",
+                                       "- Es ist ein <Neuaufbau> erforderlich.",
+                                       "- Falscher Pfad-/Dateiname.",
+                                   }));
+}
+
+void meldeSondertabelle(Meldungen& meldungen)
+{
+    meldungen.warnung(
+        "Bearbeiten der Dokumente in den Sondertabellen",
+        zeilen({
+            "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!",
+            "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.",
+            "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
+        }));
+}
+
+} // namespace
+
+Verwendungsseite::Verwendungsseite(SessionState& session, Ports& ports, GezeigteDateien& gezeigt, DocumentPage& seite)
+    : session_(session), ports_(ports), gezeigt_(gezeigt), seite_(seite)
+{}
+
+void Verwendungsseite::bediene(const std::function<void()>& operation)
+{
+    if (!hatZeilen())
+        return;
+    gesichert(ports_.meldungen, art_->knoten, "Fehler beim Anzeigen der Verwendung!", operation);
+    if (seite_.geaendert)
+        seite_.geaendert();
+}
+
+// --- filling ---------------------------------------------------------------------------------------------------
+
+void Verwendungsseite::fuelle(const Verwendungsart& art)
+{
+    leere();
+    art_ = &art;
+    const DokuRecord& record = seite_.aktuelleSeite().record;
+    std::string pfad = record.filename;
+    UniversalNachLaufwerk(pfad, ports_);
+    zeilen_ = verwendungszeilen(session_.Verbindung, art, record, pfad);
+    leseZeile();
+}
+
+void Verwendungsseite::leere()
+{
+    leereVorschau();
+    art_ = nullptr;
+    zeilen_ = Recordset();
+    ++fassung_; // A grid must see that its rows are gone.
+    filename_.clear();
+    dokument_ = {};
+    grafik_ = false;
+}
+
+void Verwendungsseite::leseZeile()
+{
+    dokument_ = {};
+    filename_.clear();
+    if (!hatZeilen())
+        return;
+    filename_ = zeilen_.Text(art_->felder.filename);
+    dokument_ = dokumentZu(session_.Verbindung, *art_, zeilen_);
+}
+
+// --- the current row -------------------------------------------------------------------------------------------
+
+void Verwendungsseite::zeileGewaehlt(std::size_t position)
+{
+    bediene([&] {
+        if (position >= zeilen_.RecordCount())
+            return;
+        zeilen_.setzeAbsolutePosition(position);
+        leereVorschau();
+        leseZeile();
+        if (art_->seite == InfoSeite::BestehtAus)
+            pruefeBestandteil();
+        if (grafik_ && (art_->seite == InfoSeite::BestehtAus || hatZugriff()))
+            ladeVorschau();
+        seite_.zeigeDateiUnten(filename_);
+    });
+}
+
+// The special tables have no status scope.
+bool Verwendungsseite::liegtImStatusbereich() const
+{
+    return !dokument_.typ || dokument_.SondertabelleNr != 0 ||
+           istSichtbar(session_.Verbindung, *dokument_.typ, filename_, session_.AndStatus);
+}
+
+// Tells that a component lies outside the statuses of the user, and lets him see it all the same.
+void Verwendungsseite::pruefeBestandteil()
+{
+    if (!liegtImStatusbereich())
+        meldeAnderenStatus(ports_.meldungen);
+}
+
+bool Verwendungsseite::hatZugriff()
+{
+    const bool zugriff = liegtImStatusbereich();
+    if (!zugriff)
+        meldeKeinenZugriff(ports_.meldungen, art_->zugriffAuf);
+    return zugriff;
+}
+
+// --- preview ---------------------------------------------------------------------------------------------------
+
+bool Verwendungsseite::ladeVorschau()
+{
+    if (ports_.dateien.dateiVorhanden(filename_) && gezeigt_.zeige(art_->ansicht, filename_))
+        return true;
+    leereVorschau();
+    meldeKeineVorschau(ports_.meldungen, filename_);
+    return false;
+}
+
+void Verwendungsseite::leereVorschau()
+{
+    if (zeigtVorschau())
+        gezeigt_.leere(art_->ansicht);
+}
+
+bool Verwendungsseite::zeigtVorschau() const
+{
+    return art_ && !gezeigt_.datei(art_->ansicht).empty();
+}
+
+void Verwendungsseite::setzeGrafik(bool ChViewGrafik)
+{
+    grafik_ = ChViewGrafik;
+    bediene([&] {
+        if (!ChViewGrafik)
+            leereVorschau();
+        else if (art_->seite == InfoSeite::BestehtAus || hatZugriff())
+            ladeVorschau();
+        seite_.zeigeDateiUnten(filename_);
+    });
+}
+
+void Verwendungsseite::anschauen()
+{
+    bediene([&] {
+        if (!bedienbar() || !hatZugriff() || !ladeVorschau())
+            return;
+        grafik_ = true;
+        seite_.zeigeDateiUnten(filename_);
+    });
+}
+
+// --- what can be done with the document ------------------------------------------------------------------------
+
+void Verwendungsseite::pfadInZwSp()
+{
+    bediene([&] {
+        if (bedienbar())
+            ports_.zwischenablage.setzeText(filename_);
+    });
+}
+
+void Verwendungsseite::zuFavoriten()
+{
+    bediene([&] {
+        if (!bedienbar())
+            return;
+        if (const auto eintrag = findDokument(session_.Verbindung, *dokument_.typ, filename_)) {
+            if (favoritHinzufuegen)
+                favoritHinzufuegen(eintrag->DokuBez, eintrag->RevBez, dokument_.typ->schluessel, filename_);
+            return;
+        }
+        meldeKeinenFavoriten(ports_.meldungen);
+    });
+}
+
+void Verwendungsseite::wechselnZu()
+{
+    bediene([&] {
+        if (bedienbar() && !dateiFehlt())
+            springe();
+    });
+}
+
+void Verwendungsseite::geoeffnet()
+{
+    bediene([&] {
+        if (dateiFehlt())
+            return;
+        if (art_->seite == InfoSeite::BestehtAus && dokument_.SondertabelleNr != 0)
+            return meldeSondertabelle(ports_.meldungen);
+        if (bedienbar() && springe() && seite_.bearbeiten)
+            seite_.bearbeiten();
+    });
+}
+
+bool Verwendungsseite::dateiFehlt()
+{
+    if (ports_.dateien.dateiVorhanden(filename_))
+        return false;
+    meldeDateiFehlt(ports_.meldungen, filename_);
+    return true;
+}
+
+// The page is emptied on the way.
+bool Verwendungsseite::springe()
+{
+    Dokumentsprung sprung(session_, ports_, seite_);
+    const std::string filename = filename_;
+    if (art_->seite == InfoSeite::InZeichnung)
+        return sprung.ZeichnungZeigen(filename);
+    return sprung.ZuDokumentWechseln(*dokument_.typ, filename);
+}
+
+} // namespace quelvarn

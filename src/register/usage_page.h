@@ -1,0 +1,80 @@
+#pragma once
+
+#include "database/recordset.h"
+#include "platform/ports.h"
+#include "register/usage_rows.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace quelvarn {
+
+class DocumentPage;
+class GezeigteDateien;
+struct SessionState;
+struct Verwendungsart;
+
+// One of the six pages of composition and where-used: the rows of the document shown, the document of the current
+// row, and what can be done with it. Only one of them stands on the right at a time.
+class Verwendungsseite
+{
+public:
+    Verwendungsseite(SessionState& session, Ports& ports, GezeigteDateien& gezeigt, DocumentPage& seite);
+
+    // --- operations; each calls `geaendert` of the document page at its end ---
+    void zeileGewaehlt(std::size_t position);
+    void geoeffnet(); // Double click: to the document's table, and into the CAD program.
+    void setzeGrafik(bool ChViewGrafik);
+    void anschauen();
+    void pfadInZwSp();
+    void zuFavoriten();
+    void wechselnZu();
+
+    // --- for the document page; faults pass through ---
+    void fuelle(const Verwendungsart& art);
+    void leere();
+
+    // --- state ---
+    const Verwendungsart* art() const { return art_; } // nullptr while none of the pages is shown.
+    const Recordset& zeilen() const { return zeilen_; }
+    unsigned fassung() const { return fassung_; } // Rises when the page is filled.
+    bool hatZeilen() const { return art_ && zeilen_.offen() && zeilen_.RecordCount() > 0; }
+    // The document of the current row; "" for none.
+    const std::string& filename() const { return filename_; }
+    const AllgemeineSeite& details() const { return dokument_.details; }
+    int SondertabelleNr() const { return dokument_.SondertabelleNr; }
+    // The buttons of the tool bar need a row whose file belongs to a table.
+    bool bedienbar() const { return dokument_.typ != nullptr; }
+    bool ChViewGrafik() const { return grafik_; }
+    bool zeigtVorschau() const; // In place of the details.
+
+    // Set by who keeps the favourites.
+    std::function<void(const std::string& DokuBez, const std::string& RevBez, std::string_view typ,
+                       const std::string& filename)>
+        favoritHinzufuegen;
+
+private:
+    void bediene(const std::function<void()>& operation);
+    void leseZeile();
+    bool liegtImStatusbereich() const;
+    void pruefeBestandteil();
+    bool hatZugriff();
+    bool ladeVorschau();
+    void leereVorschau();
+    bool dateiFehlt();
+    bool springe();
+
+    SessionState& session_;
+    Ports& ports_;
+    GezeigteDateien& gezeigt_;
+    DocumentPage& seite_;
+    const Verwendungsart* art_ = nullptr;
+    Recordset zeilen_;
+    unsigned fassung_ = 0;
+    std::string filename_;
+    Verwendungsdokument dokument_;
+    bool grafik_ = false;
+};
+
+} // namespace quelvarn

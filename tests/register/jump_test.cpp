@@ -1,0 +1,168 @@
+#include "register/document_jump.h"
+#include "register/usage_page.h"
+#include "register_fixture.h"
+
+namespace quelvarn {
+namespace {
+
+// Jumps between parts, assemblies, drawings and the second special table; each table has three documents.
+class JumpTest : public RegisterTest
+{
+protected:
+    JumpTest()
+    {
+        for (const int tab : {0, 2, 3, 6})
+            for (const char* name : {"A", "B", "C"})
+                dokument(tab, name);
+        page_.tabGewaehlt(0);
+    }
+
+    bool springe(int tab, const std::string& datei)
+    {
+        const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
+        return tab == 3 ? sprung_.ZeichnungZeigen(pfad(datei)) : sprung_.ZuDokumentWechseln(typ, pfad(datei));
+    }
+    void filtere(int tab, const std::string& filter)
+    {
+        page_.filterTabelle(tab).tabelle.Filter(filter);
+        page_.seite(tab).zustand = Gefiltert;
+    }
+    static std::string dateiVon(int tab, const std::string& name)
+    {
+        return name + (tab == 2 ? "_0.asm" : tab == 3 ? "_0.dft" : "_0.par");
+    }
+    void fragtFilter(int tab, Antwort antwort)
+    {
+        const std::string name = session_.mehrzahl(tab);
+        welt_.meldungen.erwarte("Filterung der Tabelle '" + name + "' aufheben?",
+                                "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
+                                    (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +
+                                    " kann eventuell nicht angezeigt werden.\nSoll der Filter aufgehoben werden?",
+                                antwort);
+    }
+    void fragtNeuaufbau(int tab, Antwort antwort)
+    {
+        welt_.meldungen.erwarte("Neuaufbau der Tabelle durchführen?",
+                                std::string(tab == 3 ? "Die Zeichnung" : "Das Modell") +
+                                    " ist in der Tabelle nicht vorhanden!\nSoll ein 'Neuaufbau' durchgeführt werden?",
+                                antwort);
+    }
+    std::string ort() { return std::to_string(page_.tab()) + session_.AktDoku.DokuBez; }
+
+    Dokumentsprung sprung_{session_, ports_, page_};
+};
+
+TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
+{
+    for (const int tab : {2, 3, 6, 0}) {
+        EXPECT_TRUE(springe(tab, dateiVon(tab, "B"))) << tab;
+        EXPECT_EQ(ort(), std::to_string(tab) + "B");
+    }
+    dokument(0, "A1", "0");
+    session_.Verbindung.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
+    page_.neuaufbauen();
+    EXPECT_TRUE(springe(0, "B_0.par")); // Not the longer path in the row before.
+    EXPECT_EQ(ort(), "0B");
+}
+
+TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
+{
+    for (const int tab : {2, 3, 6}) {
+        filtere(tab, "DokuBez = 'B'");
+        fragtFilter(tab, Antwort::Nein);
+        EXPECT_TRUE(springe(tab, dateiVon(tab, "B")));
+        EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
+
+        page_.tabGewaehlt(0);
+        fragtFilter(tab, Antwort::Nein); // Kept, and it hides the document.
+        fragtNeuaufbau(tab, Antwort::Nein);
+        EXPECT_FALSE(springe(tab, dateiVon(tab, "C")));
+        EXPECT_EQ(ort(), std::to_string(tab) + "B") << "the place in the table is kept";
+
+        fragtFilter(tab, Antwort::Ja);
+        EXPECT_TRUE(springe(tab, dateiVon(tab, "C")));
+        EXPECT_EQ(ort(), std::to_string(tab) + "C");
+        EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
+    }
+}
+
+TEST_F(JumpTest, ADocumentThatIsNewerThanItsTableNeedsARebuild)
+{
+    for (const int tab : {2, 3, 6}) {
+        page_.tabGewaehlt(tab);
+        page_.zeileGewaehlt(1);
+        page_.tabGewaehlt(0);
+        dokument(tab, "D");
+        const std::string neu = dateiVon(tab, "D");
+        if (tab == 3) {
+            fragtNeuaufbau(tab, Antwort::Abbrechen);
+            EXPECT_FALSE(springe(tab, neu));
+            EXPECT_EQ(ort(), "0A");
+        }
+        fragtNeuaufbau(tab, Antwort::Nein);
+        EXPECT_FALSE(springe(tab, neu));
+        EXPECT_EQ(ort(), std::to_string(tab) + "B");
+        fragtNeuaufbau(tab, Antwort::Ja);
+        EXPECT_TRUE(springe(tab, neu));
+        EXPECT_EQ(ort(), std::to_string(tab) + "D");
+        EXPECT_EQ(liste(), "A/0 B/0 C/0 D/0 ");
+    }
+}
+
+TEST_F(JumpTest, ADocumentThatMayNotBeSeenStaysHidden)
+{
+    dokument(2, "G", "0", 0);
+    siehtStati("3");
+    page_.tabGewaehlt(2);
+    page_.zeileGewaehlt(2);
+    page_.tabGewaehlt(0);
+    fragtNeuaufbau(2, Antwort::Ja);
+    welt_.meldungen.erwarte("Suchergebnis", "Datei ist in der Tabelle nicht vorhanden!\n"
+                                            "es ist ein <Neuaufbau> erforderlich.\noder\n"
+                                            "Sie haben keine Zugriffsberechtigung.");
+    EXPECT_FALSE(springe(2, "G_0.asm"));
+    EXPECT_EQ(ort(), "2C");
+}
+
+TEST_F(JumpTest, ADoubleClickOpensTheDocumentWhenItWasFound)
+{
+    int bearbeitet = 0;
+    page_.bearbeiten = [&] { ++bearbeitet; };
+    for (const char* teil : {"A_0.par", "S_0.par"})
+        zeile("ZusBauPart",
+              {{"AssembDokuBez", std::string("A")}, {"AssembRevBez", std::string("0")}, {"Part", pfad(teil)}});
+    dokument(6, "S");
+    Verwendungsseite& usage = page_.verwendung();
+    zeigeDokument(2, "A");
+    page_.knotenGewaehlt("Besteht aus");
+    welt_.meldungen.erwarte("Im Verzeichnis nicht vorhanden",
+                            "Die Datei\n" + pfad("A_0.par") +
+                                "\nist im Verzeichnis nicht vorhanden!\nMögliche Ursache:\n"
+                                "- Falscher Pfad- und/oder Dateiname.\n- Datei wurde im Verzeichnis gelöscht.");
+    usage.geoeffnet();
+    welt_.dateien.legeAn(pfad("A_0.par"));
+    welt_.dateien.legeAn(pfad("S_0.par"));
+    usage.zeileGewaehlt(1);
+    welt_.meldungen.erwarte(
+        "Bearbeiten der Dokumente in den Sondertabellen",
+        "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!\n"
+        "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.\n"
+        "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.");
+    usage.geoeffnet();
+    EXPECT_EQ(bearbeitet, 0);
+    EXPECT_EQ(page_.tab(), 2);
+    usage.zeileGewaehlt(0);
+    usage.geoeffnet();
+    EXPECT_EQ(bearbeitet, 1);
+    EXPECT_EQ(ort(), "0A");
+
+    zeigeDokument(2, "A");
+    page_.knotenGewaehlt("Besteht aus");
+    usage.zeileGewaehlt(1);
+    usage.wechselnZu();
+    EXPECT_EQ(ort(), "6S");
+    EXPECT_EQ(bearbeitet, 1);
+}
+
+} // namespace
+} // namespace quelvarn
