@@ -41,7 +41,8 @@ std::string bildpunkte()
     std::string bild;
     for (std::uint32_t y = 0; y < HOEHE; ++y)
         for (std::uint32_t x = 0; x < BREITE; x += 8) {
-            const bool waagrecht = y == RAND || y == HOEHE - RAND || (y == HOEHE - 60 && x > BREITE / 2);
+            const bool waagrecht =
+                x < BREITE - 2 * RAND && (y == RAND || y == HOEHE - RAND || (y == HOEHE - 60 && x >= BREITE / 2));
             const bool senkrecht = x == RAND || x == BREITE - 2 * RAND || (x == BREITE / 2 && y > HOEHE - 60);
             const bool innen = x >= RAND && x < BREITE - RAND && y >= RAND && y <= HOEHE - RAND;
             bild += static_cast<char>(!innen ? 0xFF : waagrecht ? 0x00 : senkrecht ? 0x7F : 0xFF);

@@ -138,8 +138,13 @@ void Gitter::resizeEvent(QResizeEvent* ereignis)
 void Gitter::verteileBreiten()
 {
     verteilt_ = true;
-    for (std::size_t i = 0; i + 1 < anteile_.size(); ++i)
+    int rest = viewport()->width();
+    for (std::size_t i = 0; i + 1 < anteile_.size(); ++i) {
         setColumnWidth(static_cast<int>(i), viewport()->width() * anteile_[i] / 100);
+        rest -= columnWidth(static_cast<int>(i));
+    }
+    // The head stretches it too, but not as long as the columns before were too wide.
+    setColumnWidth(static_cast<int>(anteile_.size()) - 1, rest);
     verteilt_ = false;
 }
 

@@ -56,7 +56,7 @@ QVariant Gittermodell::headerData(int abschnitt, Qt::Orientation richtung, int r
 {
     if (richtung != Qt::Horizontal || abschnitt < 0 || abschnitt >= columnCount())
         return {};
-    if (rolle == Qt::DisplayRole)
+    if (rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole)
         return zuQt(spalten_[static_cast<std::size_t>(abschnitt)].titel);
     if (rolle == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);

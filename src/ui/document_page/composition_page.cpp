@@ -82,8 +82,7 @@ Verwendungsansicht::Verwendungsansicht(Verwendungsseite& modell, const Verwendun
     : modell_(modell), namen_(namen), art_(verwendungsartVon(namen.seite)),
       gitter_(new Gitter(namen.gitter, spalten(art_), anteile(art_))),
       leiste_(quelvarn::neueLeiste(namen.leiste, Knopfart::NurText)),
-      ChViewGrafik_(new QCheckBox(QStringLiteral("Graphik anzeigen"))), leer_(new QLabel),
-      vorschau_(&vorschau)
+      ChViewGrafik_(new QCheckBox(QStringLiteral("Graphik anzeigen"))), leer_(new QLabel), vorschau_(&vorschau)
 {
     setObjectName(zuQt(namen.rahmen));
     auto* titel = beschriftung(zuQt(art_.knoten), Rolle::Kopf);

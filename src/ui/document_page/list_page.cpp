@@ -3,6 +3,8 @@
 #include "register/document_page.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
+#include "ui/controls/wrapping_label.h"
+#include "ui/text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -33,6 +35,21 @@ QHBoxLayout& Listenseite::neueReihe()
     reihe->setSpacing(12);
     aufbau_->addLayout(reihe);
     return *reihe;
+}
+
+void Listenseite::zeigeGanz(std::string_view feld)
+{
+    auto* ganz = new Umbruchlabel;
+    auto* reihe = new QHBoxLayout;
+    reihe->setContentsMargins(10, 6, 12, 4);
+    reihe->addWidget(ganz);
+    aufbau_->addLayout(reihe);
+    folge([this, ganz, feld] {
+        const Recordset* liste = modell_.details().liste(seite_);
+        const bool zeile = liste != nullptr && !liste->Bof() && !liste->Eof();
+        ganz->setText(zeile ? zuQt(liste->Text(feld)) : QString());
+        ganz->setVisible(!ganz->text().isEmpty());
+    });
 }
 
 void Listenseite::setzeOeffnen(std::function<void()> oeffnen)

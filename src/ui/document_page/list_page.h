@@ -32,6 +32,8 @@ public:
     QHBoxLayout& neueReihe();
     // Each brings a control around the grid up to date.
     void folge(std::function<void()> schritt) { schritte_.push_back(std::move(schritt)); }
+    // A long cell of the current row stands under the grid as a whole.
+    void zeigeGanz(std::string_view feld);
     // What a double click on a row does.
     void setzeOeffnen(std::function<void()> oeffnen);
     void zeigen();

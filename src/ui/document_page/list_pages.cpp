@@ -59,6 +59,7 @@ Listenseite* neueRevisionsseite(DocumentPage& modell)
         modell, InfoSeite::Revisionen, QStringLiteral("Revision"), "DataGridRevision",
         {{"Revision", "RevBez"}, {"Datum", "Geaendert"}, {"Name", "Bearbeiter"}, {"Änderung", "Aenderung"}},
         {17, 19, 24, 40});
+    seite->zeigeGanz("Aenderung");
     QHBoxLayout& reihe = seite->neueReihe();
     constexpr std::array ANSICHTEN{std::pair("OpRevErstBearb(0)", "Erstellt"),
                                    std::pair("OpRevErstBearb(1)", "Bearbeitet")};
@@ -76,8 +77,10 @@ Listenseite* neueRevisionsseite(DocumentPage& modell)
 
 Listenseite* neueBenutzDefSeite(DocumentPage& modell)
 {
-    return new Listenseite(modell, InfoSeite::BenutzDef, QStringLiteral("Benutzerdef. Eigenschaften"),
-                           "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
+    auto* seite = new Listenseite(modell, InfoSeite::BenutzDef, QStringLiteral("Benutzerdef. Eigenschaften"),
+                                  "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
+    seite->zeigeGanz("Wert");
+    return seite;
 }
 
 Listenseite* neueHauptmerkmalseite(DocumentPage& modell)
@@ -107,7 +110,8 @@ Listenseite* neueZusDokuSeite(DocumentPage& modell)
                                    {"Objekt ", "ZusDokuDateiname"},
                                    {"Senden", "ZusDokuSenden"},
                                    {"Pfad- u. Dateiname", "ZusDokufilename"}},
-                                  {28, 30, 17, 25});
+                                  {33, 28, 18, 21});
+    seite->zeigeGanz("ZusDokufilename");
     auto* info = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoZusDoku"));
     info->setContentsMargins(12, 6, 12, 0);
     auto* bild = new Dateibildansicht(modell.details());
@@ -141,7 +145,8 @@ Listenseite* neueSendToSeite(DocumentPage& modell)
                                    {"Versendet an", "Kennung"},
                                    {"Auftrag / Protokoll", "OrderDateiname"},
                                    {"Pfad- u. Dateiname Speicherort", "Orderfilename"}},
-                                  {28, 24, 26, 22});
+                                  {34, 24, 22, 20});
+    seite->zeigeGanz("Orderfilename");
     auto* oeffnen = neueTaste("CmSendTo", QStringLiteral("Öffnen"), [&modell] { modell.details().oeffneAuftrag(); });
     seite->setzeOeffnen([&modell] { modell.details().oeffneAuftrag(); });
     QHBoxLayout& reihe = seite->neueReihe();
