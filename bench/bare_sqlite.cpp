@@ -82,9 +82,19 @@ sqlite3_stmt* BareSqlite::bereite(const std::string& sql)
 
 std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei)
 {
+    return legeSchlichteKopieBereit(datei, "PartTabelle",
+                                    "CREATE INDEX Liste ON PartTabelle(DokuBez, RevBez DESC, Status);"
+                                    "CREATE INDEX Dateien ON PartTabelle(filename);"
+                                    "CREATE INDEX Stufen ON PartTabelle(Hauptmerkmal_C, Hauptmerkmal_D, "
+                                    "Hauptmerkmal_E);");
+}
+
+std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei, const std::string& tabelle,
+                                               const std::string& indexe)
+{
     const std::filesystem::path kopie = datei.string() + ".plain";
-    const auto anzahl = [](const std::filesystem::path& wo) {
-        return BareSqlite(wo).zahl("SELECT COUNT(*) FROM PartTabelle");
+    const auto anzahl = [&](const std::filesystem::path& wo) {
+        return BareSqlite(wo).zahl("SELECT COUNT(*) FROM " + tabelle);
     };
     if (std::filesystem::exists(kopie) && anzahl(kopie) == anzahl(datei))
         return kopie;
@@ -94,10 +104,8 @@ std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& date
     sqlite3_collation_needed(ziel, nullptr, fehlendeKollation);
     const std::string sql = "PRAGMA synchronous=OFF; ATTACH '" + datei.string() +
                             "' AS von;"
-                            "CREATE TABLE PartTabelle AS SELECT * FROM von.PartTabelle;"
-                            "CREATE INDEX Liste ON PartTabelle(DokuBez, RevBez DESC, Status);"
-                            "CREATE INDEX Dateien ON PartTabelle(filename);"
-                            "CREATE INDEX Stufen ON PartTabelle(Hauptmerkmal_C, Hauptmerkmal_D, Hauptmerkmal_E);";
+                            "CREATE TABLE " +
+                            tabelle + " AS SELECT * FROM von." + tabelle + ";" + indexe;
     const int ergebnis = sqlite3_exec(ziel, sql.c_str(), nullptr, nullptr, nullptr);
     const std::string grund = sqlite3_errmsg(ziel);
     sqlite3_close(ziel);

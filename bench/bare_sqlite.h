@@ -32,5 +32,8 @@ private:
 
 // A copy of PartTabelle in a file beside the register, with the same indexes but no collation of the program's.
 std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei);
+// The same of another table, with the statements that make its indexes.
+std::filesystem::path legeSchlichteKopieBereit(const std::filesystem::path& datei, const std::string& tabelle,
+                                               const std::string& indexe);
 
 } // namespace quelvarn::bench

@@ -4,6 +4,7 @@
 #include "bench/database_measures.h"
 #include "bench/filter_measures.h"
 #include "bench/register_data.h"
+#include "bench/relation_measures.h"
 #include "bench/report.h"
 #include "bench/user_defined_measures.h"
 #include "bench/value_list_measures.h"
@@ -88,6 +89,7 @@ void messe(Messreihe& reihe, const Auftrag& auftrag)
     messeDatenbank(reihe, auftrag.datenbank);
     messeFilterseite(reihe, auftrag.datenbank);
     messeBenutzDef(reihe, auftrag.datenbank);
+    messeVerwendung(reihe, auftrag.datenbank);
     messeListen(reihe, auftrag.datenbank);
 #ifdef QUELVARN_BENCH_UI
     if (auftrag.programm)

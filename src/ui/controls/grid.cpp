@@ -111,6 +111,9 @@ void stelleGitterEin(QTableView& gitter)
     gitter.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     gitter.verticalHeader()->setDefaultSectionSize(gitter.fontMetrics().height() + 5);
     QHeaderView& kopf = *gitter.horizontalHeader();
+    QFont fett = kopf.font(); // As the style sheet draws it: a caption is shortened by this font.
+    fett.setBold(true);
+    kopf.setFont(fett);
     kopf.setStretchLastSection(true);
     kopf.setHighlightSections(false);
     kopf.setTextElideMode(Qt::ElideRight);

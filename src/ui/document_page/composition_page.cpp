@@ -58,7 +58,7 @@ std::vector<Gitterspalte> spalten(const Verwendungsart& art)
 
 std::vector<int> anteile(const Verwendungsart& art)
 {
-    return art.bestandteile() ? std::vector{40, 60} : std::vector{30, 18, 26, 26};
+    return art.bestandteile() ? std::vector{40, 60} : std::vector{31, 18, 24, 27};
 }
 
 } // namespace
@@ -139,10 +139,13 @@ QWidget* Verwendungsansicht::neueLeiste()
 
     auto* unten = new QWidget;
     auto* aufbau = new QVBoxLayout(unten);
-    aufbau->setContentsMargins(4, 4, 4, 4);
+    aufbau->setContentsMargins(0, 4, 0, 4);
     aufbau->setSpacing(2);
     aufbau->addWidget(leiste_);
-    aufbau->addWidget(ChViewGrafik_);
+    auto* grafik = new QHBoxLayout;
+    grafik->setContentsMargins(8, 0, 8, 0);
+    grafik->addWidget(ChViewGrafik_);
+    aufbau->addLayout(grafik);
     return unten;
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "bench/measure.h"
+
+#include <filesystem>
+
+namespace quelvarn::bench {
+
+// What the tree asks of the link tables for each row, the components of a large assembly, the jump to a document.
+void messeVerwendung(Messreihe& reihe, const std::filesystem::path& datei);
+
+} // namespace quelvarn::bench
