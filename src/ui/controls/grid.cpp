@@ -80,6 +80,21 @@ private:
     }
 };
 
+// Shortens the captions that have no room: under a style sheet the header itself cuts them off.
+class Gitterkopf : public QHeaderView
+{
+public:
+    using QHeaderView::QHeaderView;
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int abschnitt) const override
+    {
+        constexpr int RAENDER = 12;
+        QHeaderView::initStyleOptionForIndex(option, abschnitt);
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, sectionSize(abschnitt) - RAENDER);
+    }
+};
+
 } // namespace
 
 Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile)
@@ -98,6 +113,7 @@ Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::ve
 void stelleGitterEin(QTableView& gitter)
 {
     gitter.setItemDelegate(new Zellenzeichner(&gitter));
+    gitter.setHorizontalHeader(new Gitterkopf(Qt::Horizontal, &gitter));
     gitter.setSelectionBehavior(QTableView::SelectRows);
     gitter.setSelectionMode(QTableView::SingleSelection);
     gitter.setEditTriggers(QTableView::NoEditTriggers);
@@ -113,10 +129,10 @@ void stelleGitterEin(QTableView& gitter)
     QHeaderView& kopf = *gitter.horizontalHeader();
     QFont fett = kopf.font(); // As the style sheet draws it: a caption is shortened by this font.
     fett.setBold(true);
+    fett.setPointSizeF(8.25);
     kopf.setFont(fett);
     kopf.setStretchLastSection(true);
     kopf.setHighlightSections(false);
-    kopf.setTextElideMode(Qt::ElideRight);
     kopf.setSectionsClickable(false);
     kopf.setMinimumSectionSize(40);
 }
