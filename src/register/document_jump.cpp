@@ -14,9 +14,7 @@ namespace quelvarn {
 
 bool Dokumentsprung::ZuDokumentWechseln(const DokuTyp& typ, const std::string& filename)
 {
-    return springe(typ, filename,
-                   {"Das zugehörige Dokument kann eventuell nicht angezeigt werden.",
-                    "Das Modell ist in der Tabelle nicht vorhanden!", false});
+    return springe(typ, filename, {HINWEIS_DOKUMENT, "Das Modell ist in der Tabelle nicht vorhanden!", false});
 }
 
 bool Dokumentsprung::ZeichnungZeigen(const std::string& filename)
@@ -32,14 +30,19 @@ void Dokumentsprung::bereiteVor(const DokuTyp& typ, std::string_view hinweis)
     if (tabelle.zustand == NichtOffen)
         seite_.TabelleNeuLaden(typ.tab);
     // Intended: of a special table only the plain filter is asked about.
-    if (tabelle.zustand != Gefiltert && (tabelle.zustand != Filterergebnis || typ.sondertabelle != 0))
-        return;
+    if (tabelle.zustand == Gefiltert || (tabelle.zustand == Filterergebnis && typ.sondertabelle == 0))
+        frageNachFilter(typ, hinweis);
+}
+
+void Dokumentsprung::frageNachFilter(const DokuTyp& typ, std::string_view hinweis)
+{
     const std::string name = session_.mehrzahl(typ.tab);
     if (!ports_.meldungen.frage(
             "Filterung der Tabelle '" + name + "' aufheben?",
             zeilen({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", hinweis, "Soll der Filter aufgehoben werden?"})))
         return;
-    seite_.waehleTab(typ.tab);
+    if (seite_.tab() != typ.tab)
+        seite_.waehleTab(typ.tab);
     seite_.filterAufheben(typ.tab);
 }
 

@@ -11,6 +11,9 @@ class DocumentPage;
 struct DokuTyp;
 struct SessionState;
 
+// What may not be seen while a table is filtered.
+inline constexpr std::string_view HINWEIS_DOKUMENT = "Das zugehörige Dokument kann eventuell nicht angezeigt werden.";
+
 // Goes to the row of a document in its own table. What stands in the way is asked: a filter that may hide it, a table
 // that does not have it yet. Faults pass through.
 class Dokumentsprung
@@ -28,6 +31,8 @@ public:
     // --- its steps, for other ways to a document ---
     // Opens the table, and lifts a filter after asking. `hinweis` says what may not be seen otherwise.
     void bereiteVor(const DokuTyp& typ, std::string_view hinweis);
+    // The question alone, about a table that is filtered.
+    void frageNachFilter(const DokuTyp& typ, std::string_view hinweis);
     // Moves the table to the row of this file; without one it stays where it is. The tab does not change.
     bool sucheDatei(const DokuTyp& typ, const std::string& filename);
 

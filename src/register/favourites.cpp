@@ -3,8 +3,10 @@
 #include "base/text.h"
 #include "base/windows_path.h"
 #include "platform/meldungen.h"
+#include "register/document_jump.h"
 #include "register/document_page.h"
 #include "register/favourite_rows.h"
+#include "register/row_memory.h"
 #include "session/error_report.h"
 
 #include <algorithm>
@@ -123,6 +125,50 @@ void Favoriten::FavoritenZeigen(bool an)
         geladen(typ());
         zeigtFavoriten_ = true;
     });
+}
+
+void Favoriten::FavoritAuswaehlen(std::size_t position)
+{
+    bediene("Fehler beim Suchen des Favoriten!", [&] {
+        if (stelleAuf(position))
+            wechsleZuFavorit();
+    });
+}
+
+void Favoriten::zeileGewechselt(std::size_t position)
+{
+    if (!verwaltung_)
+        return FavoritAuswaehlen(position);
+    stelleAuf(position);
+    melde();
+}
+
+bool Favoriten::stelleAuf(std::size_t position)
+{
+    Recordset& zeilen = aktuelle().zeilen;
+    if (!zeilen.offen() || position >= zeilen.RecordCount())
+        return false;
+    zeilen.setzeAbsolutePosition(position);
+    return true;
+}
+
+void Favoriten::wechsleZuFavorit()
+{
+    const Recordset& zeile = aktuelle().zeilen;
+    const Favorit favorit = favoritVon(zeile);
+    const Merkzeile gesucht{favorit.DokuBez, favorit.RevBez, zeile.Text("filenameFavoriten")};
+    if (seite_.aktuelleSeite().gefiltert())
+        Dokumentsprung(session_, ports_, seite_).frageNachFilter(typ(), HINWEIS_DOKUMENT);
+    if (stelleAufDokument(seite_.seite(seite_.tab()).sichtbar(), gesucht))
+        return seite_.zeileGewechselt();
+    ports_.meldungen.warnung(TITEL, zeilen({
+                                        "Datei ist in der Tabelle nicht vorhanden!",
+                                        "es ist ein <Neuaufbau> erforderlich.",
+                                        "oder",
+                                        "Sie haben keine Zugriffsberechtigung!",
+                                        "oder",
+                                        "Tabelle ist gefiltert!",
+                                    }));
 }
 
 void Favoriten::oeffneVerwaltung()

@@ -25,7 +25,10 @@ public:
 
     // --- operations, one for each thing a person can do ---
     void FavoritenZeigen(bool an);
-    void zuFavoriten();        // The document shown.
+    void zuFavoriten(); // The document shown.
+    // A row was clicked; one that only became current moves no table while favourites are tidied up.
+    void FavoritAuswaehlen(std::size_t position);
+    void zeileGewechselt(std::size_t position);
     void oeffneVerwaltung();   // "Verwalten.....": TBarFavVerwalten comes up.
     void verlasseVerwaltung(); // "Verlassen"
     void FavoritLoeschen();    // The current row of the list.
@@ -63,6 +66,8 @@ private:
     void FavoritLaden(const DokuTyp& typ, Liste& liste);
     Liste& aktuelle();
     const DokuTyp& typ() const;
+    bool stelleAuf(std::size_t position);
+    void wechsleZuFavorit();
     void bediene(std::string_view text, const std::function<void()>& operation);
     void melde() const;
 

@@ -32,6 +32,21 @@ std::optional<Fundstelle> findeDokument(Recordset& tabelle, const Merkzeile& zei
     return zweitbeste;
 }
 
+bool stelleAufFund(Recordset& tabelle, const Merkzeile& zeile, bool nurDieserPfad)
+{
+    if (!tabelle.offen() || tabelle.leer())
+        return false;
+    const std::size_t vorher = tabelle.AbsolutePosition();
+    const auto gefunden = findeDokument(tabelle, zeile);
+    if (gefunden && (gefunden->derselbePfad || !nurDieserPfad)) {
+        tabelle.setzeAbsolutePosition(gefunden->position);
+        return true;
+    }
+    if (vorher < tabelle.RecordCount())
+        tabelle.setzeAbsolutePosition(vorher);
+    return false;
+}
+
 } // namespace
 
 Merkzeile merkeZeile(const Tabellenseite& seite)
@@ -51,17 +66,12 @@ void stelleAuf(Recordset& tabelle, const Merkzeile& zeile)
 
 bool stelleAufDatei(Recordset& tabelle, const Merkzeile& zeile)
 {
-    if (!tabelle.offen() || tabelle.leer())
-        return false;
-    const std::size_t vorher = tabelle.AbsolutePosition();
-    const auto gefunden = findeDokument(tabelle, zeile);
-    if (gefunden && gefunden->derselbePfad) {
-        tabelle.setzeAbsolutePosition(gefunden->position);
-        return true;
-    }
-    if (vorher < tabelle.RecordCount())
-        tabelle.setzeAbsolutePosition(vorher);
-    return false;
+    return stelleAufFund(tabelle, zeile, true);
+}
+
+bool stelleAufDokument(Recordset& tabelle, const Merkzeile& zeile)
+{
+    return stelleAufFund(tabelle, zeile, false);
 }
 
 } // namespace quelvarn

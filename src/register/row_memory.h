@@ -20,5 +20,7 @@ Merkzeile merkeZeile(const Tabellenseite& seite);
 void stelleAuf(Recordset& tabelle, const Merkzeile& zeile);
 // Moves to the row with this path; without one the table stays where it is.
 bool stelleAufDatei(Recordset& tabelle, const Merkzeile& zeile);
+// The same for the document by its name and revision; this path comes first where several have them.
+bool stelleAufDokument(Recordset& tabelle, const Merkzeile& zeile);
 
 } // namespace quelvarn

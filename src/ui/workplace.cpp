@@ -10,6 +10,7 @@
 #include "ui/start_page/form_db.h"
 
 #include <QApplication>
+#include <QPrintDialog>
 
 namespace quelvarn {
 
@@ -19,7 +20,7 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
       startseite_(session, ports, rahmen_), viewer_(ports.dateien), gezeigt_(viewer_, nutzung_),
       dokumentseite_(session, ports, gezeigt_), linkeLeiste_(session, ports, filter_, dokumentseite_),
-      filterseite_(session, ports, filter_, dokumentseite_),
+      obereLeiste_(session, ports, dokumentseite_), filterseite_(session, ports, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -29,10 +30,11 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
         fenster_->show();
     };
     formDB_ = new FormDB(startseite_, aussehen);
-    formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, session, viewer_);
+    formSEDoku_ = new FormSEDoku(dokumentseite_, linkeLeiste_, obereLeiste_, session, viewer_);
     formSEFiltern_ = new FormSEFiltern(filterseite_, viewer_.platz(Ansicht::Filtervorlage));
     fenster_->setzeSeiten(*formDB_, *formSEFiltern_, *formSEDoku_);
     verbinde();
+    verbindeObereLeiste();
     verbindeFilterseite();
 }
 
@@ -49,12 +51,27 @@ void Arbeitsplatz::verbinde()
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };
     dokumentseite_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
-    dokumentseite_.tabelleGewechselt = [this] { linkeLeiste_.tabelleGewechselt(); };
+    dokumentseite_.tabelleGewechselt = [this] {
+        linkeLeiste_.tabelleGewechselt();
+        obereLeiste_.favoriten().tabelleGewechselt();
+    };
     linkeLeiste_.geaendert = [this] { formSEDoku_->zeigeLinks(); };
     dokumentseite_.geaendert = [this] {
         formSEDoku_->zeigen();
         fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());
     };
+}
+
+void Arbeitsplatz::verbindeObereLeiste()
+{
+    Favoriten& favoriten = obereLeiste_.favoriten();
+    rahmen_.meldeAn(favoriten);
+    favoriten.geaendert = [this] { formSEDoku_->zeigeOben(); };
+    dokumentseite_.verwendung().favoritHinzufuegen = [&favoriten](const std::string& DokuBez, const std::string& RevBez,
+                                                                  std::string_view typ, const std::string& filename) {
+        favoriten.FavoritHinzufuegen(DokuBez, RevBez, typ, filename);
+    };
+    obereLeiste_.druckerdialog = [this] { QPrintDialog(fenster_.get()).exec(); };
 }
 
 void Arbeitsplatz::verbindeFilterseite()

@@ -5,6 +5,7 @@
 #include "platform/ports.h"
 #include "register/document_page.h"
 #include "register/left_bar.h"
+#include "register/top_bar.h"
 #include "session/main_window.h"
 #include "session/start_page.h"
 #include "ui/adapters/viewer_qt.h"
@@ -38,6 +39,7 @@ public:
 
 private:
     void verbinde();
+    void verbindeObereLeiste();
     void verbindeFilterseite();
 
     Darstellung& darstellung_;
@@ -51,6 +53,7 @@ private:
     GezeigteDateien gezeigt_;
     DocumentPage dokumentseite_;
     LinkeLeiste linkeLeiste_;
+    ObereLeiste obereLeiste_;
     FilterPage filterseite_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;

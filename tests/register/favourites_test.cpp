@@ -1,3 +1,4 @@
+#include "database/sql/parser.h"
 #include "favourites_fixture.h"
 
 namespace quelvarn {
@@ -107,6 +108,82 @@ TEST_F(FavouritesTest, RowsAreDeletedInTheListAndInTheTable)
     favourites_.FavoritLoeschen();
     EXPECT_EQ(grid(), "");
     EXPECT_EQ(stored(), "Meier|Part|A|0\nMueller|Part|Neu|0\n");
+}
+
+const char* const FILTER_TITLE = "Filterung der Tabelle 'Bauteile' aufheben?";
+const char* const FILTER_TEXT = "ACHTUNG: Tabelle 'Bauteile' ist gefiltert!\n"
+                                "Das zugehörige Dokument kann eventuell nicht angezeigt werden.\n"
+                                "Soll der Filter aufgehoben werden?";
+const char* const GONE = "Datei ist in der Tabelle nicht vorhanden!\nes ist ein <Neuaufbau> erforderlich.\noder\n"
+                         "Sie haben keine Zugriffsberechtigung!\noder\nTabelle ist gefiltert!";
+
+TEST_F(FavouritesTest, AChosenRowMovesTheTable)
+{
+    for (const char* revision : {"1", "2"})
+        dokument(0, "B'b", revision);
+    dokument(0, "A");
+    store("Mueller", "Part", "b'B", "1");
+    store("Mueller", "Part", "Weg", "0");
+    page_.tabGewaehlt(0);
+    favourites_.FavoritenZeigen(true);
+    EXPECT_EQ(session_.AktDoku.DokuBez, "A"); // Showing the list chooses nothing.
+    favourites_.zeileGewechselt(0);
+    EXPECT_EQ(session_.AktDoku.filename, pfad("B'b_1.par"));
+    EXPECT_NE(baum(), "");
+
+    welt_.meldungen.erwarte("Favoriten", GONE);
+    favourites_.FavoritAuswaehlen(1);
+    EXPECT_EQ(session_.AktDoku.DokuBez, "B'b");
+
+    favourites_.oeffneVerwaltung();
+    page_.zeileGewaehlt(0);
+    favourites_.zeileGewechselt(0); // The keyboard only goes through the rows,
+    EXPECT_EQ(session_.AktDoku.DokuBez, "A");
+    favourites_.FavoritAuswaehlen(0); // the mouse chooses.
+    EXPECT_EQ(session_.AktDoku.DokuBez, "B'b");
+    EXPECT_TRUE(favourites_.zeigtFavoriten() && favourites_.verwaltung());
+}
+
+TEST_F(FavouritesTest, AFilterIsLiftedWhenTheUserAgrees)
+{
+    const struct
+    {
+        const char* favourite;
+        Antwort answer;
+        const char* shown;
+        std::size_t rows;
+        bool box;
+    } cases[] = {
+        {"A", Antwort::Ja, "A", 3, false},
+        {"B", Antwort::Nein, "B", 1, false}, // Within the filter.
+        {"A", Antwort::Nein, "B", 1, true},
+    };
+    for (const char* name : {"A", "B", "C"})
+        dokument(0, name);
+    store("Mueller", "Part", "A", "0");
+    store("Mueller", "Part", "B", "0");
+    for (const auto& c : cases) {
+        page_.tabGewaehlt(0);
+        page_.neuaufbauen();
+        page_.filterTabelle(0).tabelle.Filter("DokuBez = 'B'");
+        page_.filterTabelle(0).zustand = Gefiltert;
+        page_.filterGewechselt(0);
+        favourites_.FavoritenZeigen(true);
+        welt_.meldungen.erwarte(FILTER_TITLE, FILTER_TEXT, c.answer);
+        if (c.box)
+            welt_.meldungen.erwarte("Favoriten", GONE);
+        favourites_.FavoritAuswaehlen(c.favourite[0] == 'A' ? 0 : 1);
+        EXPECT_EQ(session_.AktDoku.DokuBez, c.shown);
+        EXPECT_EQ(page_.aktuelleSeite().sichtbar().RecordCount(), c.rows);
+        EXPECT_TRUE(favourites_.zeigtFavoriten()); // Lifting a filter does not close the list.
+    }
+}
+
+TEST_F(FavouritesTest, FilesOfManyFavouritesAreFoundByAnIndex)
+{
+    const std::string plan = engine_->ausfuehrungsplan(std::get<sql::Select>(
+        sql::parseAnweisung("SELECT DokuBez, RevBez, filename FROM PartTabelle WHERE DokuBez = 'A' OR DokuBez = 'B'")));
+    EXPECT_EQ(plan.find("SCAN"), std::string::npos) << plan;
 }
 
 } // namespace quelvarn

@@ -5,6 +5,7 @@
 #include "fakes/temp_folder.h"
 #include "register/document_page.h"
 #include "register/left_bar.h"
+#include "register/top_bar.h"
 #include "session/main_window.h"
 #include "session/rights.h"
 #include "session/start_page.h"
@@ -69,7 +70,8 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
     DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, ports_, filter_, modell);
-    FormSEDoku seite(modell, links, session_, viewer_);
+    ObereLeiste oben(session_, ports_, modell);
+    FormSEDoku seite(modell, links, oben, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();
@@ -94,7 +96,8 @@ TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
     DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, ports_, filter_, modell);
-    FormSEDoku seite(modell, links, session_, viewer_);
+    ObereLeiste oben(session_, ports_, modell);
+    FormSEDoku seite(modell, links, oben, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();

@@ -18,6 +18,7 @@ public:
     using Ansicht::Ansicht;
 
     std::function<void(const QModelIndex&)> gewaehlt;
+    std::function<void(const QModelIndex&)> angeklickt; // Instead, where a choice by mouse means something else.
     std::function<void(const QModelIndex&)> geoeffnet;  // Double click or Enter.
     std::function<void(const QModelIndex&)> eingegeben; // Enter, where it is not the same as a double click.
 
@@ -65,7 +66,7 @@ protected:
         const QModelIndex jetzt = this->currentIndex();
         const bool getroffen = this->visualRect(jetzt).contains(ereignis->position().toPoint());
         if (jetzt.isValid() && (getroffen || jetzt != vorDemKlick_))
-            melde(gewaehlt, jetzt);
+            melde(angeklickt ? angeklickt : gewaehlt, jetzt);
     }
 
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override

@@ -7,16 +7,16 @@
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/tab_bar.h"
-#include "ui/controls/tool_bar.h"
 #include "ui/document_page/info_area.h"
 #include "ui/document_page/left_bar_view.h"
+#include "ui/document_page/panels/favourites_panel.h"
 #include "ui/document_page/panels/panels.h"
 #include "ui/document_page/status_bar_datei.h"
 #include "ui/document_page/table_view.h"
 #include "ui/document_page/tool_bars.h"
+#include "ui/document_page/top_bar_view.h"
 #include "ui/text.h"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QShortcut>
 #include <QSplitter>
@@ -31,9 +31,10 @@ constexpr int ERSTE_SONDERTABELLE = 5;
 
 } // namespace
 
-FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session, QtViewer& viewer)
+FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, ObereLeiste& oben, const SessionState& session,
+                       QtViewer& viewer)
     : modell_(modell), session_(session), viewer_(viewer), LabelSEDoku_(new KurzLabel),
-      LblZugriffSEDoku_(new KurzLabel), ToolbarSEDokTop_(neueToolbarSEDokTop()),
+      LblZugriffSEDoku_(new KurzLabel), oben_(new ObereLeistenansicht(oben, this)),
       links_(new LinkeLeistenansicht(links, modell)), info_(new Infobereich(modell, viewer)),
       status_(new StatusBarDatei)
 {
@@ -68,17 +69,9 @@ QWidget* FormSEDoku::neueLeiste()
     auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteSEDoku");
     auto* ToolbarSEDok3 = neueToolbarSEDok3();
     ToolbarSEDok3->hide();
-    zeile->reihe().addWidget(ToolbarSEDokTop_, 1);
+    zeile->reihe().addWidget(oben_->ToolbarSEDokTop(), 1);
     zeile->reihe().addWidget(ToolbarSEDok3);
     zeile->reihe().addWidget(neueToolbarSEDok4());
-    connect(&knopfVon(*ToolbarSEDokTop_, "Anschauen"), &QAction::triggered, this, bewacht([this](bool an) {
-        const Sanduhr warten;
-        modell_.anschauen(an);
-    }));
-    connect(&knopfVon(*ToolbarSEDokTop_, "Neuaufbau"), &QAction::triggered, this, bewacht([this] {
-        const Sanduhr warten;
-        modell_.neuaufbauen();
-    }));
     return zeile;
 }
 
@@ -117,7 +110,8 @@ QWidget* FormSEDoku::neueTabellenseite()
     tabellen->addWidget(neuesFrmDelete());
     tabellen->addWidget(SSTabDGDoku_, 1);
     tabellen->addWidget(links_->unterTabellen());
-    for (QWidget* panel : {neuesFrmFavoriten(), neuesFrmNutzer(), neuesFrmForwardMessage()})
+    for (QWidget* panel :
+         std::initializer_list<QWidget*>{oben_->FrmFavoriten(), neuesFrmNutzer(), neuesFrmForwardMessage()})
         tabellen->addWidget(panel, 1);
 
     auto* seite = new QWidget;
@@ -163,10 +157,13 @@ void FormSEDoku::baueTasten()
                     setFocus();
                 }));
     }
-    // Back from wherever the focus went.
+    // Back from wherever the focus went, and from what the upper bar has brought up.
     auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    const auto zurTabelle = [this] { tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus(); };
-    connect(zurueck, &QShortcut::activated, this, zurTabelle);
+    const auto zurTabelle = [this] {
+        oben_->schliesse();
+        tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus();
+    };
+    connect(zurueck, &QShortcut::activated, this, bewacht(zurTabelle));
     info_->zurTabelle = zurTabelle;
 }
 
@@ -176,6 +173,7 @@ void FormSEDoku::zeigen()
     LblZugriffSEDoku_->setText(zuQt(modell_.zugriffText()));
     zeigeReiter();
     zeigeLinks();
+    zeigeOben();
     for (auto* tabelle : tabellen_)
         tabelle->zeigen();
     info_->zeigen();
@@ -201,12 +199,16 @@ void FormSEDoku::zeigeViewerseite()
 {
     FrmDokuSmartView_Doku_->setVisible(!modell_.imViewer());
     FrmDokuSmartView_SmartView_->setVisible(modell_.imViewer());
-    knopfVon(*ToolbarSEDokTop_, "Anschauen").setChecked(modell_.imViewer());
 }
 
 void FormSEDoku::zeigeLinks()
 {
     links_->zeigen();
+}
+
+void FormSEDoku::zeigeOben()
+{
+    oben_->zeigen();
 }
 
 } // namespace quelvarn

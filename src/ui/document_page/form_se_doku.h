@@ -6,7 +6,6 @@
 #include <vector>
 
 class QTabWidget;
-class QToolBar;
 
 namespace quelvarn {
 
@@ -15,6 +14,8 @@ class Infobereich;
 class KurzLabel;
 class LinkeLeiste;
 class LinkeLeistenansicht;
+class ObereLeiste;
+class ObereLeistenansicht;
 class QtViewer;
 class StatusBarDatei;
 class Tabellenansicht;
@@ -26,11 +27,14 @@ class FormSEDoku : public QWidget
     Q_OBJECT
 
 public:
-    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, const SessionState& session, QtViewer& viewer);
+    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, ObereLeiste& oben, const SessionState& session,
+               QtViewer& viewer);
 
     void zeigen();
     // The bar at the left with its panels alone.
     void zeigeLinks();
+    // The bar over the tables with the list of favourites alone.
+    void zeigeOben();
 
 private:
     QWidget* neueKopfzeile();
@@ -49,7 +53,7 @@ private:
     QWidget* FrmDokuSmartView_SmartView_ = nullptr;
     KurzLabel* LabelSEDoku_;
     KurzLabel* LblZugriffSEDoku_;
-    QToolBar* ToolbarSEDokTop_;
+    ObereLeistenansicht* oben_;
     LinkeLeistenansicht* links_;
     QTabWidget* SSTabDGDoku_;
     std::vector<Tabellenansicht*> tabellen_;

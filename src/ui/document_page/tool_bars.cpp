@@ -5,7 +5,6 @@
 #include <QAction>
 #include <QToolBar>
 
-#include <algorithm>
 #include <array>
 
 namespace quelvarn {
@@ -14,12 +13,12 @@ namespace {
 
 constexpr std::array<Leistenknopf, 7> OBEN{{
     {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "neuaufbau"},
-    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "", true},
-    {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
-    {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", ""},
+    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "auge", true},
+    {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", "pfad-kopieren"},
+    {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", "pfad-einfuegen"},
     {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favorit-neu"},
-    {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "", true},
-    {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "", true},
+    {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "favorit", true},
+    {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "benutzer", true},
 }};
 
 constexpr std::array<Leistenknopf, 5> LINKS{{
@@ -35,20 +34,11 @@ constexpr std::array<Leistenknopf, 2> AUFTRAG{{
     {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "liste", true},
 }};
 
-constexpr std::array<std::string_view, 7> BEREIT{"Neuaufbau",     "Anschauen",   "Suche/Filtern", "Filtern Datum",
-                                                 "Filtern Favo.", "Filterwerte", "Zurück"};
-
-void fuege(QToolBar& leiste, const Leistenknopf& knopf)
-{
-    const bool bereit = std::find(BEREIT.begin(), BEREIT.end(), knopf.schluessel) != BEREIT.end();
-    fuegeKnopfHinzu(leiste, knopf)->setEnabled(bereit);
-}
-
 QToolBar* neueAuftragsleiste(std::string_view name)
 {
     auto* leiste = neueLeiste(name, Knopfart::TextNebenSymbol);
     for (const Leistenknopf& knopf : AUFTRAG)
-        fuege(*leiste, knopf);
+        fuegeKnopfHinzu(*leiste, knopf)->setEnabled(false);
     return leiste;
 }
 
@@ -60,7 +50,7 @@ QToolBar* neueToolbarSEDokTop()
     for (const Leistenknopf& knopf : OBEN) {
         if (knopf.schluessel == "Pfad in ZwSp" || knopf.schluessel == "Zu Favoriten")
             leiste->addSeparator();
-        fuege(*leiste, knopf);
+        fuegeKnopfHinzu(*leiste, knopf);
     }
     knopfVon(*leiste, "Neuaufbau").setShortcut(QKeySequence(Qt::Key_F5));
     return leiste;
@@ -70,7 +60,7 @@ QToolBar* neueToolbarSEDok2()
 {
     auto* leiste = neueLeiste("ToolbarSEDok2", Knopfart::NurSymbol, Qt::Vertical);
     for (const Leistenknopf& knopf : LINKS)
-        fuege(*leiste, knopf);
+        fuegeKnopfHinzu(*leiste, knopf);
     return leiste;
 }
 

@@ -37,29 +37,6 @@ QHBoxLayout* neueReihe(QVBoxLayout& aufbau)
 
 } // namespace
 
-QWidget* neuesFrmFavoriten()
-{
-    auto* panel = neuesPanel("FrmFavoriten");
-    auto* aufbau = neuerAufbau(panel);
-    aufbau->addWidget(new Gitter("DGFavoriten",
-                                 {{"Dokumentenbezeichnung ", "DokuBezFavoriten"},
-                                  {"Revision", "RevBezFavoriten"},
-                                  {"Dateiname", "DateinameFavoriten"},
-                                  {"Pfad- und Dateiname", "filenameFavoriten"}},
-                                 {30, 11, 24, 35}));
-    Leistenknopf verwalten = VERWALTEN;
-    verwalten.tooltip = "Verwaltung der Favoriten öffnen";
-    aufbau->addWidget(ruhendeLeiste("TBarFavVerlassen", {verwalten}));
-    Leistenknopf alle = ALLE_LOESCHEN;
-    alle.tooltip = "Alle Favoriten löschen";
-    Leistenknopf zeile = ZEILE_LOESCHEN;
-    zeile.tooltip = "Ausgewählten Favoriten löschen";
-    Leistenknopf verlassen = VERLASSEN;
-    verlassen.tooltip = "Verwaltung der Favoriten verlassen";
-    aufbau->addWidget(ruhendeLeiste("TBarFavVerwalten", {alle, zeile, verlassen}));
-    return panel;
-}
-
 QWidget* neuesFrmNutzer()
 {
     auto* panel = neuesPanel("FrmNutzer");

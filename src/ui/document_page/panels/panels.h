@@ -5,7 +5,6 @@ class QWidget;
 namespace quelvarn {
 
 // The panels of the document page that come up over or above the tables, each hidden until it is asked for.
-QWidget* neuesFrmFavoriten();
 QWidget* neuesFrmNutzer();
 QWidget* neuesFrmForwardMessage();
 QWidget* neuesFrmDelete();
