@@ -13,12 +13,12 @@ namespace {
 
 constexpr std::array<Leistenknopf, 7> OBEN{{
     {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "neuaufbau"},
-    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "auge", true},
-    {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", "pfad-kopieren"},
-    {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", "pfad-einfuegen"},
+    {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "", true},
+    {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
+    {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", ""},
     {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favorit-neu"},
-    {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "favorit", true},
-    {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "benutzer", true},
+    {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "", true},
+    {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "", true},
 }};
 
 constexpr std::array<Leistenknopf, 5> LINKS{{
