@@ -23,7 +23,8 @@ MAY_INCLUDE = {
 }
 WITH_QT = {"ui", "app", "scenario"}
 # Headers of a driver stay inside their own folder, and out of our headers.
-DRIVERS = {"sqlite3.h": "database/sqlite", "libpq-fe.h": "database/postgresql", "mdbtools.h": "tools/import/linux"}
+DRIVERS = {"sqlite3.h": "database/sqlite", "libpq-fe.h": "database/postgresql", "mdbtools.h": "tools/import/linux",
+           "sql.h": "database/odbc", "sqlext.h": "database/odbc", "sqlucode.h": "database/odbc"}
 # Its types have no names that could be declared forward.
 IN_HEADERS_TOO = {"mdbtools.h"}
 

@@ -93,7 +93,10 @@ void Connection::Open(const std::filesystem::path& pfad)
         engine_ = oeffnePostgres(ersteZeile(anfang));
         return;
     case DatenbankArt::Access:
-        meldeAccess(pfad);
+        engine_ = oeffneAccess(pfad);
+        if (!engine_)
+            meldeAccess(pfad);
+        return;
     case DatenbankArt::Unbekannt:
         break;
     }

@@ -19,12 +19,13 @@ class Connection
 {
 public:
     Connection() = default;
+    explicit Connection(std::shared_ptr<Engine> engine) : engine_(std::move(engine)) {}
     ~Connection();
     Connection(Connection&&) noexcept;
     Connection& operator=(Connection&&) noexcept;
 
-    // A SQLite file, or a text file whose first line is a postgresql:// address. A true Access file where no
-    // driver for it exists, and a file of another kind, throw Laufzeitfehler with a German description.
+    // A SQLite file, an Access file where a driver for it is installed, or a text file whose first line is a
+    // postgresql:// address. Anything else throws Laufzeitfehler with a German description.
     void Open(const std::filesystem::path& pfad);
     // A path, or a postgresql:// address itself.
     void OpenAdresse(std::string_view pfadOderAdresse);

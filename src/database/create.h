@@ -11,6 +11,10 @@ class Engine;
 // Opens an engine on a SQLite file (made when `neu`) or on a postgresql:// address.
 std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu);
 std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse);
+// The Access file in place; null where no driver for Access is installed.
+std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad);
+// By a connection text of ODBC: DRIVER={...};...
+std::shared_ptr<Engine> oeffneOdbc(std::string_view verbindungstext);
 
 // All tables of the register with their indexes, empty.
 void legeRegisterAn(Engine& engine);

@@ -41,6 +41,7 @@ public:
 struct EngineFaehigkeiten
 {
     bool zeilenschluessel = true; // Each row has a hidden key.
+    bool spaltenNachladen = true; // Columns are read later by row key for little; else a recordset is read whole.
     bool distinctBlind = true;    // DISTINCT is blind to case and trailing blanks by itself.
     bool transaktionen = true;
 };

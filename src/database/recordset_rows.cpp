@@ -52,10 +52,11 @@ void Zeilenspeicher::oeffne(std::shared_ptr<Engine> engine, sql::Select abfrage,
     const bool nurNeue = ersteZeilen || (abfrage_.distinct && !kann.distinctBlind);
     if (ersteZeilen)
         abfrage_.distinct = false;
-    hatSchluessel_ = kann.zeilenschluessel && !abfrage_.anzahl && !abfrage_.distinct;
+    hatSchluessel_ = kann.zeilenschluessel && (kann.spaltenNachladen || oeffnung.schreibbar) && !abfrage_.anzahl &&
+                     !abfrage_.distinct;
 
     Doppelsuche doppelte;
-    const bool ganz = oeffnung.ganzLesen || nurNeue || !hatSchluessel_;
+    const bool ganz = oeffnung.ganzLesen || nurNeue || !hatSchluessel_ || !kann.spaltenNachladen;
     if (!leseGanz(ganz ? 0 : oeffnung.klein, nurNeue ? &doppelte : nullptr))
         leseSchluessel();
     if (abfrage_.distinct && !kann.distinctBlind)

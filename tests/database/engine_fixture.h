@@ -2,6 +2,7 @@
 
 #include "database/create.h"
 #include "database/engine.h"
+#include "database/odbc_drivers.h"
 #include "database/postgres_cluster.h"
 #include "database/sql/parser.h"
 #include "fakes/temp_folder.h"
@@ -26,14 +27,21 @@ protected:
                 GTEST_SKIP() << "no PostgreSQL server is installed here";
             adresse_ = cluster->neueDatenbank();
         }
+        if (istOdbc()) {
+            if (const std::string fehlt = bereiteOdbcVor(istPostgres(), adresse_); !fehlt.empty())
+                GTEST_SKIP() << fehlt;
+        }
         engine_ = oeffne();
     }
 
-    bool istPostgres() const { return GetParam() == "PostgreSQL"; }
+    bool istPostgres() const { return GetParam().ends_with("PostgreSQL"); }
+    bool istOdbc() const { return GetParam().starts_with("Odbc"); }
 
     // Another connection to the same database.
     std::shared_ptr<Engine> oeffne() const
     {
+        if (istOdbc())
+            return oeffneOdbc(istPostgres() ? odbcText(adresse_) : odbcText(ordner_.path() / "test.qv"));
         return istPostgres() ? oeffnePostgres(adresse_) : oeffneSqlite(ordner_.path() / "test.qv", true);
     }
 
@@ -82,7 +90,9 @@ protected:
     std::shared_ptr<Engine> engine_;
 };
 
-inline const auto alleEngines = ::testing::Values("SQLite", "PostgreSQL");
+inline const auto eigeneEngines = ::testing::Values("SQLite", "PostgreSQL");
+// What the ODBC engine does otherwise (odbc_drivers.h names it) is skipped or told apart in the test concerned.
+inline const auto alleEngines = ::testing::Values("SQLite", "PostgreSQL", "OdbcSQLite", "OdbcPostgreSQL");
 inline constexpr auto engineName = [](const auto& info) { return std::string(info.param); };
 
 } // namespace quelvarn::test

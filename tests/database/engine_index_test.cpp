@@ -41,7 +41,7 @@ protected:
 
     std::string plan(const std::string& text) const { return engine_->ausfuehrungsplan(select(text)); }
 };
-INSTANTIATE_TEST_SUITE_P(, EngineIndex, alleEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(, EngineIndex, eigeneEngines, engineName);
 
 TEST_P(EngineIndex, LookUpsAreServedByTheirIndexes)
 {

@@ -36,7 +36,9 @@ protected:
 
     Recordset oeffneRs(std::string_view sql, SperrTyp sperre = SperrTyp::NurLesen, std::size_t ganzBis = 2048)
     {
-        if (!verbindung_.offen()) // An empty file is no database yet.
+        if (!verbindung_.offen() && istOdbc())
+            verbindung_ = Connection(oeffne());
+        else if (!verbindung_.offen()) // An empty file is no database yet.
             verbindung_.OpenAdresse(istPostgres() ? adresse_ : (ordner_.path() / "test.qv").string());
         Recordset rs;
         rs.setzeGanzGrenze(ganzBis);

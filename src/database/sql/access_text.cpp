@@ -8,11 +8,6 @@
 namespace quelvarn::sql {
 namespace {
 
-std::string name(std::string_view name)
-{
-    return fmt::format("[{}]", name);
-}
-
 template <class Liste, class Text> std::string verbunden(const Liste& liste, std::string_view dazwischen, Text text)
 {
     std::vector<std::string> teile;
@@ -35,20 +30,15 @@ struct Literal
     }
 };
 
-std::string literal(const Value& wert)
-{
-    return std::visit(Literal{}, wert);
-}
-
 struct Bedingungstext
 {
     std::string operator()(const Bedingung& b) const
     {
-        return fmt::format("{} {} {}", name(b.spalte), zeichenOf(b.vergleich), literal(b.wert));
+        return fmt::format("{} {} {}", accessName(b.spalte), zeichenOf(b.vergleich), accessLiteral(b.wert));
     }
     std::string operator()(const IstNull& i) const
     {
-        return name(i.spalte) + (i.verneint ? " Is Not Null" : " Is Null");
+        return accessName(i.spalte) + (i.verneint ? " Is Not Null" : " Is Null");
     }
     std::string operator()(const Und& und) const { return geklammert(und.teile, " And "); }
     std::string operator()(const Oder& oder) const { return geklammert(oder.teile, " Or "); }
@@ -71,32 +61,44 @@ struct Anweisungstext
     {
         const std::string spalten = select.anzahl            ? "Count(*)"
                                     : select.spalten.empty() ? "*"
-                                                             : verbunden(select.spalten, ", ", name);
-        const std::string sortiert = verbunden(
-            select.orderBy, ", ", [](const Sortierung& s) { return name(s.spalte) + (s.absteigend ? " Desc" : ""); });
+                                                             : verbunden(select.spalten, ", ", accessName);
+        const std::string sortiert = verbunden(select.orderBy, ", ", [](const Sortierung& s) {
+            return accessName(s.spalte) + (s.absteigend ? " Desc" : "");
+        });
         return fmt::format("Select {}{} From {}{}{}{}", select.distinct ? "Distinct " : "", spalten,
-                           name(select.tabelle), where(select.where), sortiert.empty() ? "" : " Order By ", sortiert);
+                           accessName(select.tabelle), where(select.where), sortiert.empty() ? "" : " Order By ",
+                           sortiert);
     }
     std::string operator()(const Insert& insert) const
     {
-        return fmt::format("Insert Into {} ({}) Values ({})", name(insert.tabelle),
-                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return name(z.spalte); }),
-                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return literal(z.wert); }));
+        return fmt::format("Insert Into {} ({}) Values ({})", accessName(insert.tabelle),
+                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return accessName(z.spalte); }),
+                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return accessLiteral(z.wert); }));
     }
     std::string operator()(const Update& update) const
     {
         const std::string werte = verbunden(update.werte, ", ", [](const Zuweisung& z) {
-            return fmt::format("{} = {}", name(z.spalte), literal(z.wert));
+            return fmt::format("{} = {}", accessName(z.spalte), accessLiteral(z.wert));
         });
-        return fmt::format("Update {} Set {}{}", name(update.tabelle), werte, where(update.where));
+        return fmt::format("Update {} Set {}{}", accessName(update.tabelle), werte, where(update.where));
     }
     std::string operator()(const Delete& loeschen) const
     {
-        return fmt::format("Delete From {}{}", name(loeschen.tabelle), where(loeschen.where));
+        return fmt::format("Delete From {}{}", accessName(loeschen.tabelle), where(loeschen.where));
     }
 };
 
 } // namespace
+
+std::string accessName(std::string_view name)
+{
+    return fmt::format("[{}]", name);
+}
+
+std::string accessLiteral(const Value& wert)
+{
+    return std::visit(Literal{}, wert);
+}
 
 std::string alsAccessText(const Anweisung& anweisung)
 {

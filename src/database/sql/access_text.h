@@ -3,6 +3,7 @@
 #include "database/sql/ast.h"
 
 #include <string>
+#include <string_view>
 
 namespace quelvarn::sql {
 
@@ -10,5 +11,7 @@ namespace quelvarn::sql {
 // the month first in dates. Reading it gives the same tree.
 std::string alsAccessText(const Anweisung& anweisung);
 std::string alsAccessText(const Ausdruck& bedingung);
+std::string accessName(std::string_view name);
+std::string accessLiteral(const Value& wert);
 
 } // namespace quelvarn::sql

@@ -10,14 +10,20 @@
 namespace quelvarn::sql {
 namespace {
 
+// How placeholders are written. Behind ODBC they have no numbers, and the tables no row key of ours.
+enum class Zaehlung { Nummern, Keine };
+
 class SqliteDialekt : public Dialekt
 {
+public:
+    explicit SqliteDialekt(Zaehlung zaehlung) : zaehlung_(zaehlung) {}
+
 protected:
-    std::string_view schluesselspalte() const override { return "rowid"; }
+    std::string_view schluesselspalte() const override { return zaehlung_ == Zaehlung::Nummern ? "rowid" : ""; }
 
     std::string platzhalter(std::size_t nummer, const Value&, FeldTyp) const override
     {
-        return fmt::format("?{}", nummer);
+        return zaehlung_ == Zaehlung::Nummern ? fmt::format("?{}", nummer) : "?";
     }
 
     std::string vergleichsausdruck(const std::string& spalte) const override { return spalte; }
@@ -28,7 +34,10 @@ protected:
         return {"qv_like(", muster, ", " + ausdruck + ")"};
     }
 
-    std::string genau(const std::string& ausdruck) const override { return ausdruck + " COLLATE BINARY"; }
+    std::string genauGleich(const std::string& ausdruck, const std::string& text) const override
+    {
+        return fmt::format("{} COLLATE BINARY = {}", ausdruck, text);
+    }
 
     std::string alsText(const std::string& spalte, FeldTyp typ) const override
     {
@@ -53,7 +62,8 @@ protected:
     // serves instead.
     bool gruppiertDistinct(const Select& anweisung) const override
     {
-        if (anweisung.spalten.size() != 1 || anweisung.where || !anweisung.orderBy.empty())
+        if (zaehlung_ == Zaehlung::Keine || anweisung.spalten.size() != 1 || anweisung.where ||
+            !anweisung.orderBy.empty())
             return false;
         const Tabellenschema* tabelle = findTabelle(anweisung.tabelle);
         return tabelle && std::ranges::any_of(tabelle->indexe, [&](const auto& index) {
@@ -62,6 +72,9 @@ protected:
     }
 
     std::string_view niemals() const override { return "NULL"; }
+
+private:
+    Zaehlung zaehlung_;
 };
 
 // A character of a regular expression, inside or outside of a class, that means nothing but itself.
@@ -114,23 +127,27 @@ std::string alsRegex(std::u32string_view muster)
 
 class PostgresDialekt : public Dialekt
 {
+public:
+    explicit PostgresDialekt(Zaehlung zaehlung) : zaehlung_(zaehlung) {}
+
 protected:
-    std::string_view schluesselspalte() const override { return "qv_id"; }
+    std::string_view schluesselspalte() const override { return zaehlung_ == Zaehlung::Nummern ? "qv_id" : ""; }
 
     // The server would take the type of a placeholder from its column and refuse what is too large or no integer.
     std::string platzhalter(std::size_t nummer, const Value& wert, FeldTyp typ) const override
     {
+        const std::string stelle = zaehlung_ == Zaehlung::Nummern ? fmt::format("${}", nummer) : "?";
         switch (typ) {
         case FeldTyp::Text:
             break;
         case FeldTyp::Ganzzahl:
-            return fmt::format("${}::{}", nummer, std::holds_alternative<double>(wert) ? "float8" : "bigint");
+            return stelle + (std::holds_alternative<double>(wert) ? "::float8" : "::bigint");
         case FeldTyp::Gleitkomma:
-            return fmt::format("${}::float8", nummer);
+            return stelle + "::float8";
         case FeldTyp::Datum:
-            return fmt::format("${}::timestamp", nummer);
+            return stelle + "::timestamp";
         }
-        return fmt::format("${}", nummer);
+        return stelle;
     }
 
     std::string vergleichsausdruck(const std::string& spalte) const override { return "qv_key(" + spalte + ")"; }
@@ -146,7 +163,10 @@ protected:
         return {"qv_fold(" + ausdruck + ") LIKE ", replaceAll(gefaltet, "\\", "\\\\"), " ESCAPE '\\'"};
     }
 
-    std::string genau(const std::string& ausdruck) const override { return ausdruck; }
+    std::string genauGleich(const std::string& ausdruck, const std::string& text) const override
+    {
+        return fmt::format("{} = {}", ausdruck, text);
+    }
 
     std::string alsText(const std::string& spalte, FeldTyp typ) const override
     {
@@ -163,21 +183,36 @@ protected:
     }
 
     bool sortiertDistinct() const override { return false; }
-    bool gruppiertDistinct(const Select&) const override { return true; }
+    bool gruppiertDistinct(const Select&) const override { return zaehlung_ == Zaehlung::Nummern; }
     std::string_view niemals() const override { return "NULL::boolean"; }
+
+private:
+    Zaehlung zaehlung_;
 };
 
 } // namespace
 
 const Dialekt& sqliteDialekt()
 {
-    static const SqliteDialekt dialekt;
+    static const SqliteDialekt dialekt(Zaehlung::Nummern);
     return dialekt;
 }
 
 const Dialekt& postgresDialekt()
 {
-    static const PostgresDialekt dialekt;
+    static const PostgresDialekt dialekt(Zaehlung::Nummern);
+    return dialekt;
+}
+
+const Dialekt& sqliteOdbcDialekt()
+{
+    static const SqliteDialekt dialekt(Zaehlung::Keine);
+    return dialekt;
+}
+
+const Dialekt& postgresOdbcDialekt()
+{
+    static const PostgresDialekt dialekt(Zaehlung::Keine);
     return dialekt;
 }
 

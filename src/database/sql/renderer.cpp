@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <fmt/format.h>
+#include <limits>
 
 namespace quelvarn::sql {
 // Writes one statement, counting the placeholders as it goes.
@@ -30,10 +32,13 @@ public:
         return *gefunden;
     }
 
-    std::string tabelle() const { return Dialekt::bezeichner(tabelle_.name); }
+    std::string name(const Spalte& spalte) const { return dialekt_.name(spalte.name); }
+    std::string tabelle() const { return dialekt_.name(tabelle_.name); }
 
     std::string parameter(Value wert, FeldTyp typ)
     {
+        if (auto literal = dialekt_.alsLiteral(wert))
+            return *std::move(literal);
         if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
             wert = dialekt_.datumswert(*zeit);
         ergebnis_.parameter.push_back(std::move(wert));
@@ -49,8 +54,20 @@ public:
             ergebnis_.spalten.push_back(spalte(name));
         std::vector<std::string> texte;
         for (const Spalte& spalte : ergebnis_.spalten)
-            texte.push_back(Dialekt::bezeichner(spalte.name));
+            texte.push_back(name(spalte));
         return join(texte, ", ");
+    }
+
+    std::string rest()
+    {
+        std::string text;
+        for (const Spalte& andere : tabelle_.spalten) {
+            if (std::ranges::find(ergebnis_.spalten, andere) != ergebnis_.spalten.end())
+                continue;
+            ergebnis_.rest.push_back(andere);
+            text += ", " + name(andere);
+        }
+        return text;
     }
 
     std::string where(const AusdruckZeiger& bedingung)
@@ -63,14 +80,23 @@ public:
         return fmt::format(" WHERE {} = {}", dialekt_.schluesselspalte(), parameter(schluessel, FeldTyp::Ganzzahl));
     }
 
+    std::string zeile(Dialekt::Zeilenbild bild)
+    {
+        std::vector<std::string> texte;
+        for (const Zuweisung& zelle : bild)
+            texte.push_back(genau(spalte(zelle.spalte), zelle.wert));
+        return " WHERE " + join(texte, " AND ");
+    }
+
     std::string sortierung(const std::vector<Sortierung>& sortierungen) const
     {
         std::vector<std::string> texte;
         for (const Sortierung& sortierung : sortierungen) {
             const Spalte& gemeint = spalte(sortierung.spalte);
-            const std::string name = Dialekt::bezeichner(gemeint.name);
-            texte.push_back(dialekt_.sortiert(gemeint.typ == FeldTyp::Text ? dialekt_.vergleichsausdruck(name) : name,
-                                              sortierung.absteigend));
+            const std::string ausdruck = name(gemeint);
+            texte.push_back(
+                dialekt_.sortiert(gemeint.typ == FeldTyp::Text ? dialekt_.vergleichsausdruck(ausdruck) : ausdruck,
+                                  sortierung.absteigend));
         }
         return texte.empty() ? "" : " ORDER BY " + join(texte, ", ");
     }
@@ -84,7 +110,6 @@ public:
     std::string operator()(const Bedingung& bedingung)
     {
         const Spalte& gemeint = spalte(bedingung.spalte);
-        const std::string name = Dialekt::bezeichner(gemeint.name);
         if (bedingung.vergleich == Vergleich::Like)
             return like(gemeint, std::get<std::string>(bedingung.wert));
         if (bedingung.vergleich == Vergleich::NotLike)
@@ -94,13 +119,13 @@ public:
         if (!literal)
             return std::string(dialekt_.niemals());
         if (gemeint.typ == FeldTyp::Text)
-            return textvergleich(name, zeichenOf(bedingung.vergleich), std::get<std::string>(*literal));
-        return fmt::format("{} {} {}", name, zeichenOf(bedingung.vergleich), parameter(*literal, gemeint.typ));
+            return textvergleich(name(gemeint), zeichenOf(bedingung.vergleich), std::get<std::string>(*literal));
+        return fmt::format("{} {} {}", name(gemeint), zeichenOf(bedingung.vergleich), parameter(*literal, gemeint.typ));
     }
 
     std::string operator()(const IstNull& istNull) const
     {
-        return Dialekt::bezeichner(spalte(istNull.spalte).name) + (istNull.verneint ? " IS NOT NULL" : " IS NULL");
+        return name(spalte(istNull.spalte)) + (istNull.verneint ? " IS NOT NULL" : " IS NULL");
     }
 
     std::string operator()(const Und& und) { return verbunden(und.teile, " AND "); }
@@ -115,6 +140,31 @@ public:
     Gerendert& ergebnis() { return ergebnis_; }
 
 private:
+    std::string genau(const Spalte& spalte, const Value& wert)
+    {
+        if (istNull(wert))
+            return name(spalte) + " IS NULL";
+        if (const auto* text = std::get_if<std::string>(&wert); text && spalte.typ == FeldTyp::Text)
+            return dialekt_.genauGleich(name(spalte), parameter(*text, FeldTyp::Text));
+        if (const auto* zahl = std::get_if<double>(&wert)) {
+            constexpr double groesste = std::numeric_limits<double>::max();
+            const double spielraum = std::abs(*zahl) * 1e-14;
+            return bereich(spalte, std::max(*zahl - spielraum, -groesste), std::min(*zahl + spielraum, groesste));
+        }
+        if (const auto* zeit = std::get_if<Zeitpunkt>(&wert)) {
+            static const Zeitpunkt erste = Zeitpunkt::aus({100, 1, 1});
+            static const Zeitpunkt letzte = Zeitpunkt::aus({9999, 12, 31, 23, 59, 59});
+            return bereich(spalte, std::max(zeit->plusSekunden(-1), erste), std::min(zeit->plusSekunden(1), letzte));
+        }
+        return fmt::format("{} = {}", name(spalte), parameter(wert, spalte.typ));
+    }
+
+    std::string bereich(const Spalte& spalte, const Value& von, const Value& bis)
+    {
+        const std::string unten = parameter(von, spalte.typ);
+        return fmt::format("({} BETWEEN {} AND {})", name(spalte), unten, parameter(bis, spalte.typ));
+    }
+
     std::string verbunden(const std::vector<AusdruckZeiger>& teile, std::string_view wort)
     {
         std::vector<std::string> texte;
@@ -134,17 +184,16 @@ private:
     {
         const LikePattern gelesen(text, Wildcards::Sql);
         const std::string& anfang = gelesen.literal();
-        if (spalte.typ != FeldTyp::Text || trimRightBlanks(anfang).empty())
+        if (!dialekt_.engtMusterEin() || spalte.typ != FeldTyp::Text || trimRightBlanks(anfang).empty())
             return muster(spalte, text);
-        const std::string name = Dialekt::bezeichner(spalte.name);
         std::string enger;
         if (gelesen.shape() == LikePattern::Shape::Exact) {
-            enger = textvergleich(name, "=", anfang);
+            enger = textvergleich(name(spalte), "=", anfang);
         } else if (gelesen.shape() == LikePattern::Shape::Prefix) {
-            enger = textvergleich(name, ">=", anfang);
+            enger = textvergleich(name(spalte), ">=", anfang);
             std::string dahinter = anfang;
             appendUtf8(dahinter, 0x10FFFF);
-            enger += " AND " + textvergleich(name, "<", dahinter);
+            enger += " AND " + textvergleich(name(spalte), "<", dahinter);
         } else {
             return muster(spalte, text);
         }
@@ -153,12 +202,12 @@ private:
 
     std::string muster(const Spalte& spalte, const std::string& text)
     {
-        std::string ausdruck = Dialekt::bezeichner(spalte.name);
+        std::string ausdruck = name(spalte);
         if (spalte.typ != FeldTyp::Text)
             ausdruck = dialekt_.alsText(ausdruck, spalte.typ);
         // Patterns of blanks alone, which every list of choices has, need no matching.
-        if (trimRightBlanks(text).empty())
-            return fmt::format("{} = {}", dialekt_.genau(ausdruck), parameter(text, FeldTyp::Text));
+        if (dialekt_.engtMusterEin() && trimRightBlanks(text).empty())
+            return dialekt_.genauGleich(ausdruck, parameter(text, FeldTyp::Text));
         Dialekt::Mustervergleich vergleich = dialekt_.like(ausdruck, text);
         return vergleich.davor + parameter(std::move(vergleich.muster), FeldTyp::Text) + vergleich.dahinter;
     }
@@ -174,8 +223,8 @@ std::string zuweisungen(Schreiber& schreiber, std::span<const Zuweisung> werte)
 {
     std::vector<std::string> texte;
     for (const Zuweisung& zuweisung : werte)
-        texte.push_back(fmt::format("{} = {}", Dialekt::bezeichner(schreiber.spalte(zuweisung.spalte).name),
-                                    schreiber.wert(zuweisung)));
+        texte.push_back(
+            fmt::format("{} = {}", schreiber.name(schreiber.spalte(zuweisung.spalte)), schreiber.wert(zuweisung)));
     return join(texte, ", ");
 }
 
@@ -199,6 +248,11 @@ std::string Dialekt::bezeichner(std::string_view name)
     return "\"" + replaceAll(name, "\"", "\"\"") + "\"";
 }
 
+std::string Dialekt::grenzeHinten(std::size_t grenze) const
+{
+    return fmt::format(" LIMIT {}", grenze);
+}
+
 Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle, MitSchluessel schluessel,
                           std::size_t grenze) const
 {
@@ -213,8 +267,10 @@ Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle
     } else {
         auswahl = schreiber.auswahl(anweisung.spalten);
         text += anweisung.distinct && !gruppiert ? "DISTINCT " : "";
-        text += schluessel == MitSchluessel::Ja ? std::string(schluesselspalte()) + ", " : "";
-        text += auswahl;
+        text += grenze > 0 ? grenzeVorn(grenze) : "";
+        const bool mitRest = schluessel == MitSchluessel::Ja && schluesselspalte().empty();
+        text += schluessel == MitSchluessel::Ja && !mitRest ? std::string(schluesselspalte()) + ", " : "";
+        text += auswahl + (mitRest ? schreiber.rest() : "");
         pruefeSortierung(anweisung, schreiber.ergebnis().spalten);
     }
     text += " FROM " + schreiber.tabelle() + schreiber.where(anweisung.where);
@@ -223,7 +279,7 @@ Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle
     schreiber.ergebnis().sortiertSelbst = hier || (anweisung.orderBy.empty() && grenze == 0);
     if (hier) {
         text += schreiber.sortierung(anweisung.orderBy);
-        text += grenze > 0 ? fmt::format(" LIMIT {}", grenze) : "";
+        text += grenze > 0 ? grenzeHinten(grenze) : "";
     }
     return schreiber.fertig(std::move(text));
 }
@@ -249,7 +305,7 @@ Gerendert Dialekt::fuegeEin(const Tabellenschema& tabelle, std::span<const Zuwei
     std::vector<std::string> namen;
     std::vector<std::string> texte;
     for (const Zuweisung& zuweisung : werte) {
-        namen.push_back(bezeichner(schreiber.spalte(zuweisung.spalte).name));
+        namen.push_back(schreiber.name(schreiber.spalte(zuweisung.spalte)));
         texte.push_back(schreiber.wert(zuweisung));
     }
     if (werte.empty())
@@ -270,6 +326,33 @@ Gerendert Dialekt::loesche(const Tabellenschema& tabelle, Zeilenschluessel zeile
 {
     Schreiber schreiber(*this, tabelle);
     return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.zeile(zeile)));
+}
+
+Gerendert Dialekt::leseZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+{
+    Schreiber schreiber(*this, tabelle);
+    const std::string auswahl = schreiber.auswahl({});
+    return schreiber.fertig(fmt::format("SELECT {} FROM {}{}", auswahl, schreiber.tabelle(), schreiber.zeile(bild)));
+}
+
+Gerendert Dialekt::zaehleZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+{
+    Schreiber schreiber(*this, tabelle);
+    schreiber.ergebnis().spalten = {{"Anzahl", FeldTyp::Ganzzahl}};
+    return schreiber.fertig(fmt::format("SELECT COUNT(*) FROM {}{}", schreiber.tabelle(), schreiber.zeile(bild)));
+}
+
+Gerendert Dialekt::aendereZeile(const Tabellenschema& tabelle, Zeilenbild bild, std::span<const Zuweisung> werte) const
+{
+    Schreiber schreiber(*this, tabelle);
+    const std::string neu = zuweisungen(schreiber, werte);
+    return schreiber.fertig(fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), neu, schreiber.zeile(bild)));
+}
+
+Gerendert Dialekt::loescheZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+{
+    Schreiber schreiber(*this, tabelle);
+    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.zeile(bild)));
 }
 
 } // namespace quelvarn::sql

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What the parts of this folder share of ODBC without its headers.
+namespace quelvarn::odbc {
+
+using RohHandle = void*;
+using Ergebnis = short;
+
+enum class Handleart { Umgebung, Verbindung, Anweisung };
+
+// Throws Laufzeitfehler with the driver's text unless the call succeeded; "no data" counts as success.
+void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view quelle);
+
+// One allocated handle.
+class Handle
+{
+public:
+    Handle(Handleart art, RohHandle eltern);
+    ~Handle();
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    RohHandle roh() const { return roh_; }
+
+private:
+    Handleart art_;
+    RohHandle roh_ = nullptr;
+};
+
+// ODBC 3, once for each connection.
+class Umgebung
+{
+public:
+    Umgebung();
+    RohHandle roh() const { return handle_.roh(); }
+    std::vector<std::string> treiber() const; // Names of the drivers that are installed.
+
+private:
+    Handle handle_;
+};
+
+} // namespace quelvarn::odbc

@@ -1,0 +1,44 @@
+#include "database/odbc/bulk_writer.h"
+
+#include "base/runtime_error.h"
+
+#include <cassert>
+
+namespace quelvarn::odbc {
+
+Massenschreiber::Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten) : engine_(engine)
+{
+    sql::Insert einfuegen{std::move(tabelle), {}};
+    for (Spalte& spalte : spalten)
+        einfuegen.werte.push_back({std::move(spalte.name), {}});
+    einfuegen_ = std::move(einfuegen);
+    engine_.beginne();
+}
+
+Massenschreiber::~Massenschreiber()
+{
+    if (!offen_)
+        return;
+    try {
+        engine_.nimmZurueck();
+    } catch (const Laufzeitfehler&) {
+        // Closing the connection takes the rows back as well.
+    }
+}
+
+void Massenschreiber::zeile(std::span<const Value> werte)
+{
+    auto& ziel = std::get<sql::Insert>(einfuegen_).werte;
+    assert(werte.size() == ziel.size());
+    for (std::size_t i = 0; i < werte.size(); ++i)
+        ziel[i].wert = werte[i];
+    engine_.fuehreAus(einfuegen_);
+}
+
+void Massenschreiber::beende()
+{
+    engine_.schliesseAb();
+    offen_ = false;
+}
+
+} // namespace quelvarn::odbc

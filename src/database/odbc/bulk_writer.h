@@ -1,0 +1,23 @@
+#pragma once
+
+#include "database/engine.h"
+
+namespace quelvarn::odbc {
+
+// Inserts row after row, in a transaction of its own.
+class Massenschreiber final : public Engine::Massenschreiber
+{
+public:
+    Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten);
+    ~Massenschreiber() override; // Takes the rows back unless beende() was called.
+
+    void zeile(std::span<const Value> werte) override;
+    void beende() override;
+
+private:
+    Engine& engine_;
+    sql::Anweisung einfuegen_;
+    bool offen_ = true;
+};
+
+} // namespace quelvarn::odbc

@@ -1,0 +1,72 @@
+#include "database/odbc/connection_handle.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+#include "database/odbc/utf16.h"
+
+#include <array>
+#include <cstdint>
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+namespace quelvarn::odbc {
+
+Verbindung::Verbindung() : handle_(Handleart::Verbindung, umgebung_.roh()) {}
+
+std::shared_ptr<Verbindung> Verbindung::oeffne(std::string_view text)
+{
+    std::shared_ptr<Verbindung> verbindung(new Verbindung);
+    std::u16string breit = alsUtf16(text);
+    const SQLRETURN ergebnis = SQLDriverConnectW(verbindung->roh(), nullptr, reinterpret_cast<SQLWCHAR*>(breit.data()),
+                                                 SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    pruefe(ergebnis, Handleart::Verbindung, verbindung->roh(), verbindung->quelle_);
+    return verbindung;
+}
+
+Verbindung::~Verbindung()
+{
+    SQLEndTran(SQL_HANDLE_DBC, roh(), SQL_ROLLBACK); // A driver may refuse to leave an open transaction.
+    SQLDisconnect(roh());
+}
+
+std::string Verbindung::datenbankname() const
+{
+    std::array<char16_t, 128> name{};
+    SQLSMALLINT laenge = 0;
+    const SQLRETURN ergebnis = SQLGetInfoW(roh(), SQL_DBMS_NAME, name.data(),
+                                           static_cast<SQLSMALLINT>(name.size() * sizeof(char16_t)), &laenge);
+    pruefe(ergebnis, Handleart::Verbindung, roh(), quelle_);
+    return ausUtf16(name.data());
+}
+
+void Verbindung::setzeAutomatik(bool an)
+{
+    auto* wert = reinterpret_cast<SQLPOINTER>(static_cast<std::uintptr_t>(an ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF));
+    pruefe(SQLSetConnectAttrW(roh(), SQL_ATTR_AUTOCOMMIT, wert, SQL_IS_UINTEGER), Handleart::Verbindung, roh(),
+           quelle_);
+}
+
+void Verbindung::beginne()
+{
+    setzeAutomatik(false);
+}
+
+void Verbindung::beende(bool uebernehmen)
+{
+    const SQLRETURN ergebnis = SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK);
+    if (SQL_SUCCEEDED(ergebnis)) {
+        setzeAutomatik(true);
+        return;
+    }
+    try {
+        pruefe(ergebnis, Handleart::Verbindung, roh(), quelle_);
+    } catch (...) {
+        SQLEndTran(SQL_HANDLE_DBC, roh(), SQL_ROLLBACK);
+        setzeAutomatik(true);
+        throw;
+    }
+}
+
+} // namespace quelvarn::odbc
