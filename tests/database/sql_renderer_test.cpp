@@ -186,3 +186,29 @@ TEST(SqlRenderer, RefusesWhatTheTableDoesNotHave)
         }
     }
 }
+
+TEST(SqlRenderer, AccessIsTakenAtItsWord)
+{
+    const std::pair<std::string, std::string> faelle[] = {
+        {"Select DokuBez, Status From PartTabelle Where Größe = 'ä''b' Order By DokuBez, Status Desc",
+         "SELECT TOP 5 [DokuBez], [Status] FROM [PartTabelle] WHERE [Größe] = ? ORDER BY [DokuBez], [Status] DESC <- "
+         "'ä'b'"},
+        {"Select Distinct DokuBez From PartTabelle Where DokuBez Not Like '' And DokuBez Like 'a#%*_[a-c]?[b'",
+         "SELECT DISTINCT TOP 5 [DokuBez] FROM [PartTabelle] WHERE (NOT ([DokuBez] LIKE ?) AND [DokuBez] LIKE ?) <- "
+         "''|'a[#]%[*]_[a-c][?][[]b'"},
+        {"Select Count(*) From PartTabelle Where Erstellt >= #03/07/06 13:59:01# And Status = '3'",
+         "SELECT COUNT(*) FROM [PartTabelle] WHERE ([Erstellt] >= #03/07/2006 13:59:01# AND [Status] = 3) <- "},
+        {"Update PartTabelle Set Hauptwert_a = 1.5, Größe = Null Where Status Is Null",
+         "UPDATE [PartTabelle] SET [Hauptwert_a] = 1.5, [Größe] = Null WHERE [Status] IS NULL <- "},
+        {"Insert Into PartTabelle (DokuBez, Status) Values ('a', 2)",
+         "INSERT INTO [PartTabelle] ([DokuBez], [Status]) VALUES (?, 2) <- 'a'"},
+    };
+    for (const auto& [anweisung, erwartet] : faelle) {
+        const Gerendert fertig = gerendert(accessDialekt(), anweisung, 5);
+        EXPECT_EQ(fertig.text + " <- " + parameter(fertig), erwartet);
+    }
+    const Zuweisung bild[] = {{"DokuBez", std::string("a")}, {"Größe", {}}, {"Status", std::int64_t{2}}};
+    const Gerendert loeschen = accessDialekt().loescheZeile(PARTS, bild);
+    EXPECT_EQ(loeschen.text,
+              "DELETE FROM [PartTabelle] WHERE StrComp([DokuBez], ?, 0) = 0 AND [Größe] IS NULL AND [Status] = 2");
+}

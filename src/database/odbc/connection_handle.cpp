@@ -55,18 +55,9 @@ void Verbindung::beginne()
 
 void Verbindung::beende(bool uebernehmen)
 {
-    const SQLRETURN ergebnis = SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK);
-    if (SQL_SUCCEEDED(ergebnis)) {
-        setzeAutomatik(true);
-        return;
-    }
-    try {
-        pruefe(ergebnis, Handleart::Verbindung, roh(), quelle_);
-    } catch (...) {
-        SQLEndTran(SQL_HANDLE_DBC, roh(), SQL_ROLLBACK);
-        setzeAutomatik(true);
-        throw;
-    }
+    pruefe(SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK), Handleart::Verbindung, roh(),
+           quelle_);
+    setzeAutomatik(true);
 }
 
 } // namespace quelvarn::odbc

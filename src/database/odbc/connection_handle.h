@@ -20,8 +20,8 @@ public:
 
     // What the driver calls the database behind it.
     std::string datenbankname() const;
-    void beginne(); // Until beende, changes stay open.
-    void beende(bool uebernehmen);
+    void beginne();                // Until beende, changes stay open.
+    void beende(bool uebernehmen); // When it throws, they still are.
 
     RohHandle roh() const { return handle_.roh(); }
     void setzeQuelle(std::string_view quelle) { quelle_ = quelle; }

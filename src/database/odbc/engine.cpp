@@ -15,7 +15,6 @@
 #include <charconv>
 #include <fmt/format.h>
 #include <unordered_set>
-#include <utility>
 
 namespace quelvarn::odbc {
 namespace {
@@ -283,6 +282,7 @@ bool OdbcEngine::aendere(std::string_view tabelle, Zeilenschluessel zeile, std::
         const std::size_t stelle = stelleOf(schema.spalten, neu.spalte);
         inhalt[stelle] = sql::speicherwert(neu.wert, schema.spalten[stelle].typ);
     }
+    merkeVorher(buch, zeile);
     buch->ersetze(zeile, Zeilenbuch::bildOf(inhalt));
     return true;
 }
@@ -297,8 +297,15 @@ bool OdbcEngine::loesche(std::string_view tabelle, Zeilenschluessel zeile)
     const auto alt = alsZuweisungen(schema, Zeilenbuch::zeileOf(*bild));
     if (!schreibeEine(schema, alt, art_->dialekt().loescheZeile(schema, alt)))
         return false;
+    merkeVorher(buch, zeile);
     buch->entferne(zeile);
     return true;
+}
+
+void OdbcEngine::merkeVorher(const std::shared_ptr<Zeilenbuch>& buch, Zeilenschluessel schluessel)
+{
+    if (!marken_.empty())
+        vorher_.push_back({buch, schluessel, *buch->findBild(schluessel)});
 }
 
 void OdbcEngine::pruefeSchreibenderAufbau() const
@@ -344,43 +351,49 @@ std::unique_ptr<Engine::Massenschreiber> OdbcEngine::massenschreiber(std::string
 
 void OdbcEngine::beginne()
 {
-    if (tiefe_ == 0)
+    if (marken_.empty())
         verbindung_->beginne();
     else if (art_->sicherungspunkte)
-        Anweisung::fuehreAus(verbindung_, fmt::format("SAVEPOINT qv_{}", tiefe_));
-    ++tiefe_;
+        Anweisung::fuehreAus(verbindung_, fmt::format("SAVEPOINT qv_{}", marken_.size()));
+    marken_.push_back(vorher_.size());
 }
 
+// When it throws, the transaction is still there to be taken back.
 void OdbcEngine::schliesseAb()
 {
-    assert(tiefe_ > 0);
-    if (--tiefe_ > 0) {
+    assert(!marken_.empty());
+    if (marken_.size() > 1) {
         if (art_->sicherungspunkte)
-            Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", tiefe_));
-        return;
+            Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", marken_.size() - 1));
+    } else {
+        if (verdorben_)
+            throw Laufzeitfehler(FEHLER_ALLGEMEIN, std::string(name()),
+                                 "Ein Teil der Änderungen ging nicht, daher wurden alle zurückgenommen.");
+        verbindung_->beende(true);
+        vorher_.clear();
     }
-    const bool verdorben = std::exchange(verdorben_, false);
-    verbindung_->beende(!verdorben);
-    if (verdorben)
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, std::string(name()),
-                             "Ein Teil der Änderungen ging nicht, daher wurden alle zurückgenommen.");
+    marken_.pop_back();
 }
 
 void OdbcEngine::nimmZurueck()
 {
-    assert(tiefe_ > 0);
-    if (--tiefe_ > 0) {
-        if (art_->sicherungspunkte) {
-            Anweisung::fuehreAus(verbindung_, fmt::format("ROLLBACK TO SAVEPOINT qv_{}", tiefe_));
-            Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", tiefe_));
-        } else {
-            verdorben_ = true;
-        }
-    } else {
+    assert(!marken_.empty());
+    const std::size_t marke = marken_.back();
+    marken_.pop_back();
+    katalog_.vergiss(); // Tables made meanwhile go as well.
+    if (!marken_.empty() && !art_->sicherungspunkte) {
+        verdorben_ = true;
+        return;
+    }
+    for (; vorher_.size() > marke; vorher_.pop_back())
+        vorher_.back().buch->ersetze(vorher_.back().schluessel, vorher_.back().bild);
+    if (marken_.empty()) {
         verdorben_ = false;
         verbindung_->beende(false);
+        return;
     }
-    katalog_.vergiss(); // Tables made meanwhile go as well.
+    Anweisung::fuehreAus(verbindung_, fmt::format("ROLLBACK TO SAVEPOINT qv_{}", marken_.size()));
+    Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", marken_.size()));
 }
 
 } // namespace quelvarn::odbc

@@ -64,13 +64,22 @@ private:
                                              std::span<const Zeilenschluessel> schluessel);
     bool schreibeEine(const Tabellenschema& tabelle, std::span<const sql::Zuweisung> bild,
                       const sql::Gerendert& gerendert);
+    void merkeVorher(const std::shared_ptr<Zeilenbuch>& buch, Zeilenschluessel schluessel);
     void pruefeSchreibenderAufbau() const;
 
     std::shared_ptr<Verbindung> verbindung_;
     const Datenbankart* art_;
     Tabellenkatalog katalog_;
     std::unordered_map<std::string, std::shared_ptr<Zeilenbuch>> buecher_; // By the stored name of the table.
-    int tiefe_ = 0;                                                        // Transactions one inside another.
+    // What rows held before they were changed in the open transaction; each inner one has its mark.
+    struct Vorher
+    {
+        std::shared_ptr<Zeilenbuch> buch;
+        Zeilenschluessel schluessel;
+        std::string bild;
+    };
+    std::vector<Vorher> vorher_;
+    std::vector<std::size_t> marken_;
     bool verdorben_ = false; // An inner one was taken back without a savepoint.
 };
 
