@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <iterator>
 
 namespace quelvarn {
 
@@ -110,9 +111,10 @@ void FilterPage::leere()
 void FilterPage::schneideWerteZu()
 {
     const Filterzustand& zustand = kontext_.zustand();
-    const auto schritte = static_cast<std::size_t>(zustand.FilterAnzahl + zustand.BenutzDefAnzahl);
+    const int schritte = zustand.FilterAnzahl + zustand.BenutzDefAnzahl;
     auto& werte = kontext_.FilterWerteTabelle;
-    werte.resize(std::min(werte.size(), schritte));
+    if (std::ssize(werte) > schritte)
+        werte.resize(static_cast<std::size_t>(schritte));
 }
 
 void FilterPage::sichereStand()

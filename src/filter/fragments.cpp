@@ -31,8 +31,8 @@ std::string Datumsfragment(std::string_view feld, std::string_view Datum, int co
     const std::string tagImJahr =
         fmt::format("#{}/{}/{}", tagZuerst ? tag : monat, tagZuerst ? monat : tag, datum.substr(6, 2));
 
-    const std::string ab = fmt::format("{} >= {} 00:00:00#", feld, tagImJahr);
-    const std::string bis = fmt::format("{} <= {} 23:59:59#", feld, tagImJahr);
+    std::string ab = fmt::format("{} >= {} 00:00:00#", feld, tagImJahr);
+    std::string bis = fmt::format("{} <= {} 23:59:59#", feld, tagImJahr);
     switch (code % 10) {
     case 0:
         return ab;
