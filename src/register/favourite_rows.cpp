@@ -68,8 +68,7 @@ std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
     for (Recordset zeilen = ini.lese(auswahl(session, typ) + " ORDER BY Feld4, Feld5"); !zeilen.Eof();
          zeilen.MoveNext())
         favoriten.push_back(favoritVon(zeilen));
-    const auto doppelte = std::ranges::unique(favoriten, derselbe);
-    favoriten.erase(doppelte.begin(), doppelte.end());
+    favoriten.erase(std::unique(favoriten.begin(), favoriten.end(), derselbe), favoriten.end());
     return favoriten;
 }
 

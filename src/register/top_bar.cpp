@@ -71,8 +71,9 @@ bool ObereLeiste::bedienbar(std::string_view schluessel) const
 {
     if (seite_.imViewer())
         return schluessel == "Anschauen";
+    // Where use is not registered its box tells what to do; the list of users has no page yet.
     if (schluessel == "In Benutzung..")
-        return session_.CheckInOutOn;
+        return !session_.CheckInOutOn;
     const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
     return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || seite_.aktuelleSeite().hatZeilen());
 }

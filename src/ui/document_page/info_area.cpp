@@ -53,7 +53,7 @@ QLabel* neueWarnung(const char* name, const QString& text)
 
 Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
     : modell_(modell), kopf_(new KurzLabel),
-      LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei nicht vorhanden"))),
+      LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei fehlt"))),
       LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
       leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
       tiff_(new Tiffseite(modell.details())), TextKeywords_(neuesTextfeld("TextKeywords")),
