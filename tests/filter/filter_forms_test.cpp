@@ -126,7 +126,7 @@ protected:
     Connection verbindung_;
     Recordset tabelle_;
 };
-INSTANTIATE_TEST_SUITE_P(, FilterForms, test::alleEngines, test::engineName);
+INSTANTIATE_TEST_SUITE_P(, FilterForms, test::eigeneEngines, test::engineName);
 
 TEST_P(FilterForms, FindTheSameRows)
 {

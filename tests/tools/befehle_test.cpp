@@ -190,7 +190,7 @@ TEST_P(Befehle, BuildsMissingIndexesWhenTold)
     EXPECT_NE(rufe({"check", ziel_}).aus.find("Fehler: Die Tabelle TIFFTabelle fehlt."), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, Befehle, alleEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, Befehle, eigeneEngines, engineName);
 
 } // namespace
 } // namespace quelvarn::test

@@ -240,7 +240,7 @@ TEST_P(WerkA, ListsTablesInTheOrderOfTheSource)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, WerkA, alleEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, WerkA, eigeneEngines, engineName);
 
 } // namespace
 } // namespace quelvarn::test
