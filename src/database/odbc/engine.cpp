@@ -166,7 +166,7 @@ std::unique_ptr<Zeilenleser> OdbcEngine::leseZeilen(std::string_view tabelle, st
     for (const auto leser = lese(alle, MitSchluessel::Ja, 0); leser->next();) {
         if (!verlangte.contains(leser->schluessel()))
             continue;
-        Schluesselzeile& zeile = zeilen.emplace_back(leser->schluessel());
+        Schluesselzeile& zeile = zeilen.emplace_back(Schluesselzeile{leser->schluessel()});
         for (std::size_t i = 0; i < gesuchte.size(); ++i)
             zeile.werte.push_back(leser->wert(i));
     }
@@ -184,7 +184,7 @@ std::unique_ptr<Zeilenleser> OdbcEngine::leseEinzeln(const Tabellenschema& tabel
         const auto gefunden = findZeilen(tabelle, alsZuweisungen(tabelle, Zeilenbuch::zeileOf(*bild)));
         if (gefunden.empty())
             continue;
-        Schluesselzeile& zeile = zeilen.emplace_back(gesucht);
+        Schluesselzeile& zeile = zeilen.emplace_back(Schluesselzeile{gesucht});
         for (const Spalte& spalte : spalten)
             zeile.werte.push_back(gefunden.front()[stelleOf(tabelle.spalten, spalte.name)]);
     }
