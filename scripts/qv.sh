@@ -9,7 +9,7 @@ BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite
 TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql unixodbc libsqliteodbc odbc-postgresql odbc-mdbtools)
 BENCH_PACKAGES=(libqt6sql6-sqlite)
 LINT_PACKAGES=(clang-format clang-tidy python3)
-FUZZ_PACKAGES=(clang)
+FUZZ_PACKAGES=(clang libclang-rt-dev)
 
 say() { printf '%s\n' "$*"; }
 
