@@ -120,8 +120,9 @@ QAction* Verwendungsansicht::fuegeKnopf(std::string_view schluessel, std::string
                                         std::string_view tipp, void (Verwendungsseite::*operation)())
 {
     auto* knopf = fuegeKnopfHinzu(*leiste_, {schluessel, beschriftung, tipp, ""});
-    connect(knopf, &QAction::triggered, this,
-            bewacht([this, operation] { bediene([this, operation] { (modell_.*operation)(); }); }));
+    connect(knopf, &QAction::triggered, this, bewacht([this, &modell = modell_, operation] {
+                bediene([&modell, operation] { (modell.*operation)(); });
+            }));
     return knopf;
 }
 

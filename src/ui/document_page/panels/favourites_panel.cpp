@@ -77,9 +77,9 @@ void Favoritenpanel::baueLeisten()
 
 void Favoritenpanel::beiKnopf(QToolBar& leiste, const char* schluessel, void (Favoriten::*tue)())
 {
-    connect(&knopfVon(leiste, schluessel), &QAction::triggered, this, bewacht([this, tue] {
+    connect(&knopfVon(leiste, schluessel), &QAction::triggered, this, bewacht([&modell = modell_, tue] {
         const Sanduhr warten;
-        (modell_.*tue)();
+        (modell.*tue)();
     }));
 }
 
