@@ -30,6 +30,7 @@ constexpr Grund gruende[] = {
     {std::errc::text_file_busy, 55, "Datei ist in Benutzung"},
     {std::errc::device_or_resource_busy, 55, "Datei ist in Benutzung"},
     {std::errc::filename_too_long, 52, "Dateiname ist zu lang"},
+    {std::errc::invalid_argument, 52, "Dateiname ist ungültig"},
     {std::errc::not_supported, 73, "Das Dateisystem unterstützt dies nicht"},
     {std::errc::operation_not_supported, 73, "Das Dateisystem unterstützt dies nicht"},
 };
