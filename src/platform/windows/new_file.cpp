@@ -1,0 +1,109 @@
+#include "platform/windows/new_file.h"
+
+#include "platform/file_error.h"
+#include "platform/windows/open_file.h"
+#include "platform/windows/windows_error.h"
+
+#include <atomic>
+#include <system_error>
+#include <windows.h>
+
+namespace quelvarn {
+namespace {
+
+bool exists(const std::wstring& path)
+{
+    return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// Replacing a file asks nobody whether it may be written, so it is asked here.
+void checkReplaceable(const std::wstring& path, std::string_view pfad)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return;
+    if (attributes & FILE_ATTRIBUTE_READONLY && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        throw dateifehler(std::errc::permission_denied, pfad);
+    const OpenFile writable(path, OpenFile::Zugriff::Schreiben, pfad);
+}
+
+// What a link leads to is replaced, not the link.
+std::wstring behindLinks(const std::wstring& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT))
+        return path;
+    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return path;
+    std::wstring real(32768, L'\0');
+    const DWORD length = GetFinalPathNameByHandleW(file, real.data(), static_cast<DWORD>(real.size()), 0);
+    CloseHandle(file);
+    real.resize(length < real.size() ? length : 0);
+    return real.empty() ? path : real;
+}
+
+std::wstring nameBeside(const std::wstring& target)
+{
+    static std::atomic<unsigned> counter = 0;
+    const std::wstring folder = target.substr(0, target.rfind(L'\\') + 1);
+    std::wstring name;
+    do {
+        name = folder + L"~neu-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++counter) + L".tmp";
+    } while (exists(name));
+    return name;
+}
+
+} // namespace
+
+NewFile::NewFile(const std::wstring& target, std::string_view pfad) : target_(behindLinks(target)), pfad_(pfad)
+{
+    checkReplaceable(target_, pfad);
+}
+
+NewFile::~NewFile()
+{
+    if (!path_.empty())
+        DeleteFileW(path_.c_str());
+}
+
+void NewFile::write(std::string_view bytes)
+{
+    const std::wstring name = nameBeside(target_);
+    OpenFile file(name, OpenFile::Zugriff::NeuAnlegen, pfad_);
+    path_ = name;
+    file.write(bytes);
+    file.flush();
+}
+
+void NewFile::copyFrom(const std::wstring& source)
+{
+    // The system copies within a server without sending the bytes to and fro.
+    const std::wstring name = nameBeside(target_);
+    if (!CopyFileW(source.c_str(), name.c_str(), TRUE))
+        throw windowsDateifehler(GetLastError(), pfad_);
+    path_ = name;
+    SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_ARCHIVE);
+    OpenFile(path_, OpenFile::Zugriff::Schreiben, pfad_).flush();
+}
+
+void NewFile::replaceTarget()
+{
+    const DWORD attributes = GetFileAttributesW(target_.c_str());
+    const bool replaces = attributes != INVALID_FILE_ATTRIBUTES;
+    // This keeps attributes, rights and the time of creation, but not every file system can do it.
+    const bool replaced =
+        replaces && ReplaceFileW(target_.c_str(), path_.c_str(), nullptr,
+                                 REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS, nullptr, nullptr);
+    const DWORD error = GetLastError();
+    if (!replaced) {
+        if (replaces)
+            SetFileAttributesW(path_.c_str(), attributes);
+        if (!MoveFileExW(path_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            throw windowsDateifehler(replaces ? error : GetLastError(), pfad_);
+    }
+    path_.clear();
+}
+
+} // namespace quelvarn
