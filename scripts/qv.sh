@@ -7,6 +7,7 @@ BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite
   mdbtools-dev libglib2.0-dev libcups2-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
   qt6-image-formats-plugins qt6-translations-l10n libgl1-mesa-dev fonts-noto-core)
 TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql unixodbc libsqliteodbc odbc-postgresql odbc-mdbtools)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
 BENCH_PACKAGES=(libqt6sql6-sqlite)
 LINT_PACKAGES=(clang-format clang-tidy python3)
 FUZZ_PACKAGES=(clang libclang-rt-dev)
@@ -68,16 +69,45 @@ command_run() {
   exec build/release/bin/quelvarn
 }
 
-command_test() { # [--sanitize] [--core] [ctest options]
+# SQLite for the cross build, for which there is no library: its one big source, from a package that carries it.
+SQLITE_PACKAGE=better-sqlite3@12.11.1
+fetch_sqlite() { # into build/sqlite
+  [[ -e build/sqlite/sqlite3.c && -e build/sqlite/sqlite3.h ]] && return
+  command -v npm >/dev/null || need npm
+  say "Fetching the source of SQLite ..."
+  npm install --prefix build/npm --ignore-scripts --no-audit --no-fund --loglevel=error "$SQLITE_PACKAGE" >/dev/null
+  mkdir -p build/sqlite
+  cp build/npm/node_modules/better-sqlite3/deps/sqlite3/sqlite3.[ch] build/sqlite/
+}
+
+# The core for Windows, built here and run under Wine.
+test_windows() { # [ctest options]
+  need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
+  fetch_sqlite
+  scripts/wine_prefix.sh
+  configure windows
+  build windows
+  local status=0
+  ctest --preset windows -j "$JOBS" "$@" || status=$?
+  scripts/wine_prefix.sh stop
+  return "$status"
+}
+
+command_test() { # [--sanitize|--debug|--windows] [ctest options]
   local preset=release options=()
   while [[ $# -gt 0 ]]; do
     case "$1" in
       --sanitize) preset=sanitize ;;
       --debug) preset=debug ;;
+      --windows) preset=windows ;;
       *) options+=("$1") ;;
     esac
     shift
   done
+  if [[ "$preset" == windows ]]; then
+    test_windows "${options[@]}"
+    return
+  fi
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
   configure "$preset"
   build "$preset"
@@ -167,6 +197,7 @@ usage() {
   cat <<'TEXT'
 ./qv run                     install what is missing, build, make a sample register, open the window on it
 ./qv test [--sanitize]       build and run all tests; further options go to ctest (-R name ...)
+./qv test --windows          build the core for Windows and run its tests under Wine
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, clang-format, clang-tidy

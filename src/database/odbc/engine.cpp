@@ -3,11 +3,11 @@
 #include "base/collation.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "database/distinct_reader.h"
 #include "database/odbc/bulk_writer.h"
 #include "database/odbc/connection_handle.h"
 #include "database/odbc/database_kind.h"
 #include "database/odbc/reader.h"
-#include "database/postgresql/distinct_reader.h"
 #include "database/sql/column_value.h"
 
 #include <algorithm>
@@ -146,7 +146,7 @@ std::unique_ptr<Zeilenleser> OdbcEngine::lese(const sql::Select& select, MitSchl
     auto leser = std::make_unique<Leser>(starte(gerendert), gerendert.spalten, gerendert.rest,
                                          hierUnterscheiden ? 0 : grenze, std::move(quelle));
     if (hierUnterscheiden)
-        return std::make_unique<postgresql::DistinctLeser>(*leser, select.orderBy, grenze);
+        return std::make_unique<DistinctLeser>(*leser, select.orderBy, grenze);
     return leser;
 }
 

@@ -2,9 +2,9 @@
 
 #include "base/runtime_error.h"
 #include "database/create.h"
+#include "database/distinct_reader.h"
 #include "database/postgresql/bulk_writer.h"
 #include "database/postgresql/ddl.h"
-#include "database/postgresql/distinct_reader.h"
 #include "database/postgresql/functions.h"
 #include "database/postgresql/handle.h"
 #include "database/postgresql/reader.h"

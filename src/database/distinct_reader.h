@@ -2,9 +2,9 @@
 
 #include "database/engine.h"
 
-namespace quelvarn::postgresql {
+namespace quelvarn {
 
-// The rows of a DISTINCT, which the server tells apart by case and trailing blanks: one of each set of equal rows,
+// The rows of a DISTINCT, which a server tells apart by case and trailing blanks: one of each set of equal rows,
 // in the order and number asked for.
 class DistinctLeser final : public Zeilenleser
 {
@@ -34,4 +34,4 @@ private:
     mutable std::string text_;
 };
 
-} // namespace quelvarn::postgresql
+} // namespace quelvarn

@@ -1,11 +1,11 @@
-#include "database/postgresql/distinct_reader.h"
+#include "database/distinct_reader.h"
 
 #include "base/collation.h"
 
 #include <algorithm>
 #include <unordered_set>
 
-namespace quelvarn::postgresql {
+namespace quelvarn {
 namespace {
 
 int vergleiche(const Value& links, const Value& rechts)
@@ -74,4 +74,4 @@ std::string_view DistinctLeser::text(std::size_t spalte) const
     return text_;
 }
 
-} // namespace quelvarn::postgresql
+} // namespace quelvarn

@@ -1,0 +1,13 @@
+#include "base/runtime_error.h"
+#include "database/catalog.h"
+#include "database/create.h"
+
+// In place of postgresql/ where its library was not there when the program was built.
+namespace quelvarn {
+
+std::shared_ptr<Engine> oeffnePostgres(std::string_view)
+{
+    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "Dieses Programm wurde ohne PostgreSQL gebaut.");
+}
+
+} // namespace quelvarn
