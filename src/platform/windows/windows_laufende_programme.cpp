@@ -2,7 +2,9 @@
 
 #include "base/runtime_error.h"
 #include "platform/windows/wide_text.h"
+#include "platform/windows/windows_error.h"
 
+#include <fmt/format.h>
 #include <set>
 #include <utility>
 #include <windows.h>
@@ -15,7 +17,7 @@ constexpr std::size_t GROESSTER_TITEL = 64 * 1024;
 Laufzeitfehler systemfehler(const char* vorgang)
 {
     const DWORD nummer = GetLastError();
-    return {static_cast<int>(nummer), "Fensterliste", vorgang};
+    return {static_cast<int>(nummer), "Fensterliste", fmt::format("{}: {}", vorgang, windowsMeldung(nummer))};
 }
 
 BOOL CALLBACK merke(HWND fenster, LPARAM liste) noexcept
