@@ -57,6 +57,8 @@ protected:
         setText(HKEY_LOCAL_MACHINE, key, L"Name", made.back());
         setText(HKEY_LOCAL_MACHINE, key, L"Port", L"FILE:");
         setText(HKEY_LOCAL_MACHINE, key, L"Printer Driver", L"wineps.drv");
+        setText(HKEY_LOCAL_MACHINE, key, L"Print Processor", L"wineps");
+        setText(HKEY_LOCAL_MACHINE, key, L"Datatype", L"RAW");
         setNumber(key, L"Attributes", 64);
         setNumber(key, L"Status", 0);
         DEVMODEA mode = {}; // Wine keeps the narrow form.

@@ -58,6 +58,7 @@ public:
         std::wstring line = L"\"" + path + L"\" --gtest_filter=OtherProgram.* --gtest_also_run_disabled_tests";
         STARTUPINFOW how = {};
         how.cb = sizeof how;
+        how.dwFlags = STARTF_USESTDHANDLES; // None: what it says belongs to no test.
         EXPECT_TRUE(
             CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &it_));
         SetEnvironmentVariableW(CAPTION, nullptr);
