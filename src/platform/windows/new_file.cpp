@@ -27,12 +27,19 @@ void checkReplaceable(const std::wstring& path, std::string_view pfad)
     const OpenFile writable(path, OpenFile::Zugriff::Schreiben, pfad);
 }
 
-// What a link leads to is replaced, not the link.
+// With the file's name as it is, whatever the case of the name by which it is called.
+std::wstring asStored(const std::wstring& path)
+{
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = FindFirstFileW(path.c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE)
+        return path;
+    FindClose(search);
+    return path.substr(0, path.rfind(L'\\') + 1) + entry.cFileName;
+}
+
 std::wstring behindLinks(const std::wstring& path)
 {
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT))
-        return path;
     const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (file == INVALID_HANDLE_VALUE)
@@ -42,6 +49,15 @@ std::wstring behindLinks(const std::wstring& path)
     CloseHandle(file);
     real.resize(length < real.size() ? length : 0);
     return real.empty() ? path : real;
+}
+
+// What a link leads to is replaced, not the link; and the file keeps its name.
+std::wstring realPath(const std::wstring& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return path;
+    return attributes & FILE_ATTRIBUTE_REPARSE_POINT ? behindLinks(path) : asStored(path);
 }
 
 std::wstring nameBeside(const std::wstring& target)
@@ -72,7 +88,7 @@ DWORD swapIn(const std::wstring& path, const std::wstring& target)
 
 } // namespace
 
-NewFile::NewFile(const std::wstring& target, std::string_view pfad) : target_(behindLinks(target)), pfad_(pfad)
+NewFile::NewFile(const std::wstring& target, std::string_view pfad) : target_(realPath(target)), pfad_(pfad)
 {
     checkReplaceable(target_, pfad);
 }
