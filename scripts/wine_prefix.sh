@@ -21,14 +21,18 @@ make_prefix() {
   # A crash ends the program with a code instead of waiting for a debugger.
   set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Auto 1
   set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' Debugger 'C:\none.exe'
+  "$here/wine_world.sh"
   "$WINESERVER" -w
 }
 
-if [ ! -f "$WINEPREFIX/.ready" ]; then
+# The number grows when one made before has to be made anew.
+ready="$WINEPREFIX/.ready-2"
+if [ ! -f "$ready" ]; then
+  [ ! -d "$WINEPREFIX" ] || "$WINESERVER" -k || true
   rm -rf "$WINEPREFIX"
   mkdir -p "$(dirname "$WINEPREFIX")"
   make_prefix </dev/null >/dev/null 2>&1
-  touch "$WINEPREFIX/.ready"
+  touch "$ready"
 fi
 # Started here, with nothing of ours held open: whoever waits for the end of a test's output would wait for them.
 "$WINESERVER" -p </dev/null >/dev/null 2>&1 || true
