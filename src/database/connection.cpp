@@ -7,7 +7,6 @@
 #include "database/sql/parser.h"
 
 #include <array>
-#include <cassert>
 #include <cerrno>
 #include <fmt/format.h>
 #include <fstream>
@@ -130,30 +129,6 @@ Engine& Connection::engine() const
     if (!engine_)
         throw Laufzeitfehler(3709, "Datenbank", "Die Verbindung zur Datenbank ist nicht geöffnet.");
     return *engine_;
-}
-
-Transaktion::Transaktion(Connection& verbindung)
-{
-    verbindung.engine().beginne();
-    engine_ = verbindung.engine_;
-    offen_ = true;
-}
-
-Transaktion::~Transaktion()
-{
-    if (!offen_)
-        return;
-    try {
-        engine_->nimmZurueck();
-    } catch (const Laufzeitfehler&) {
-        // The connection is gone, and the changes with it.
-    }
-}
-
-void Transaktion::schliesseAb()
-{
-    engine_->schliesseAb();
-    offen_ = false;
 }
 
 } // namespace quelvarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/engine.h"
+#include "database/engine_transaction.h"
 
 #include <filesystem>
 #include <memory>
@@ -43,17 +43,18 @@ private:
     friend class Transaktion;
 };
 
-// Several row changes that belong together: all or none, where the engine can.
+// Several row changes that belong together: all or none, where the engine can. Taken back unless schliesseAb was
+// called.
 class Transaktion
 {
 public:
-    explicit Transaktion(Connection& verbindung);
-    ~Transaktion(); // Takes everything back unless schliesseAb was called.
-    void schliesseAb();
+    explicit Transaktion(const Connection& verbindung) : engine_(verbindung.engine_), transaktion_(verbindung.engine())
+    {}
+    void schliesseAb() { transaktion_.schliesseAb(); }
 
 private:
-    std::shared_ptr<Engine> engine_;
-    bool offen_ = false;
+    std::shared_ptr<Engine> engine_; // Outlives a connection that is closed meanwhile.
+    Enginetransaktion transaktion_;
 };
 
 } // namespace quelvarn

@@ -1,29 +1,16 @@
 #include "database/odbc/bulk_writer.h"
 
-#include "base/runtime_error.h"
-
 #include <cassert>
 
 namespace quelvarn::odbc {
 
-Massenschreiber::Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten) : engine_(engine)
+Massenschreiber::Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten)
+    : engine_(engine), transaktion_(engine)
 {
     sql::Insert einfuegen{std::move(tabelle), {}};
     for (Spalte& spalte : spalten)
         einfuegen.werte.push_back({std::move(spalte.name), {}});
     einfuegen_ = std::move(einfuegen);
-    engine_.beginne();
-}
-
-Massenschreiber::~Massenschreiber()
-{
-    if (!offen_)
-        return;
-    try {
-        engine_.nimmZurueck();
-    } catch (const Laufzeitfehler&) {
-        // Closing the connection takes the rows back as well.
-    }
 }
 
 void Massenschreiber::zeile(std::span<const Value> werte)
@@ -37,8 +24,7 @@ void Massenschreiber::zeile(std::span<const Value> werte)
 
 void Massenschreiber::beende()
 {
-    engine_.schliesseAb();
-    offen_ = false;
+    transaktion_.schliesseAb();
 }
 
 } // namespace quelvarn::odbc

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/engine.h"
+#include "database/engine_transaction.h"
 
 namespace quelvarn::odbc {
 
@@ -9,7 +9,6 @@ class Massenschreiber final : public Engine::Massenschreiber
 {
 public:
     Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten);
-    ~Massenschreiber() override; // Takes the rows back unless beende() was called.
 
     void zeile(std::span<const Value> werte) override;
     void beende() override;
@@ -17,7 +16,7 @@ public:
 private:
     Engine& engine_;
     sql::Anweisung einfuegen_;
-    bool offen_ = true;
+    Enginetransaktion transaktion_;
 };
 
 } // namespace quelvarn::odbc

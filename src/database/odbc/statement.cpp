@@ -5,6 +5,7 @@
 #endif
 #include "database/odbc/connection_handle.h"
 #include "database/odbc/utf16.h"
+#include "database/sql/column_value.h"
 
 #include <array>
 #include <charconv>
@@ -24,24 +25,13 @@ struct Gebunden
     SQLLEN laenge = SQL_NULL_DATA;
 };
 
-std::string alsParametertext(const Value& wert)
-{
-    if (const auto* text = std::get_if<std::string>(&wert))
-        return *text;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return fmt::to_string(*ganz);
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return fmt::to_string(*zahl);
-    return formatIso(std::get<Zeitpunkt>(wert));
-}
-
 std::vector<Gebunden> bindung(std::span<const Value> parameter)
 {
     std::vector<Gebunden> gebundene(parameter.size());
     for (std::size_t i = 0; i < parameter.size(); ++i) {
         if (istNull(parameter[i]))
             continue;
-        gebundene[i].text = alsUtf16(alsParametertext(parameter[i]));
+        gebundene[i].text = alsUtf16(sql::parametertext(parameter[i]));
         gebundene[i].laenge = static_cast<SQLLEN>(gebundene[i].text.size() * sizeof(char16_t));
     }
     return gebundene;

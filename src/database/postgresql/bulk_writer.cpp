@@ -2,7 +2,6 @@
 
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "database/postgresql/text_values.h"
 #include "database/sql/column_value.h"
 #include "database/sql/renderer.h"
 
@@ -50,31 +49,19 @@ std::string kopieranweisung(const std::string& tabelle, std::span<const Spalte> 
 
 Massenschreiber::Massenschreiber(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& tabelle,
                                  std::vector<Spalte> spalten)
-    : engine_(engine), handle_(std::move(handle)), tabelle_(tabelle), spalten_(std::move(spalten))
+    : engine_(engine), handle_(std::move(handle)), tabelle_(tabelle), spalten_(std::move(spalten)), transaktion_(engine)
 {
-    engine_.beginne();
-    try {
-        handle_->fuehreAus(kopieranweisung(tabelle_, spalten_));
-    } catch (...) {
-        engine_.nimmZurueck();
-        throw;
-    }
+    handle_->fuehreAus(kopieranweisung(tabelle_, spalten_));
 }
 
 Massenschreiber::~Massenschreiber()
 {
-    if (!offen_)
+    if (!kopiert_)
         return;
     try {
-        if (kopiert_)
-            schliesse("abgebrochen");
+        schliesse("abgebrochen");
     } catch (const Laufzeitfehler&) {
         // The server confirms that it gave up.
-    }
-    try {
-        engine_.nimmZurueck();
-    } catch (const Laufzeitfehler&) {
-        // The connection is gone, and the rows with it.
     }
 }
 
@@ -89,7 +76,7 @@ void Massenschreiber::zeile(std::span<const Value> werte)
         else if (text && spalten_[i].typ == FeldTyp::Text)
             haengeZelleAn(puffer_, *text);
         else
-            haengeZelleAn(puffer_, alsServertext(sql::speicherwert(werte[i], spalten_[i].typ)));
+            haengeZelleAn(puffer_, sql::parametertext(sql::speicherwert(werte[i], spalten_[i].typ)));
     }
     puffer_ += '\n';
     if (puffer_.size() > puffergroesse)
@@ -120,8 +107,7 @@ void Massenschreiber::beende()
 {
     sende();
     schliesse(nullptr);
-    engine_.schliesseAb();
-    offen_ = false;
+    transaktion_.schliesseAb();
     engine_.frischeAuf(tabelle_);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/engine_transaction.h"
 #include "database/postgresql/engine.h"
 #include "database/postgresql/handle.h"
 
@@ -11,7 +12,7 @@ class Massenschreiber final : public Engine::Massenschreiber
 public:
     Massenschreiber(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& tabelle,
                     std::vector<Spalte> spalten);
-    ~Massenschreiber() override; // Takes the rows back unless beende() was called.
+    ~Massenschreiber() override; // Gives the COPY up unless beende() was called.
 
     void zeile(std::span<const Value> werte) override;
     void beende() override;
@@ -27,7 +28,7 @@ private:
     std::vector<Spalte> spalten_;
     std::string puffer_;
     bool kopiert_ = true;
-    bool offen_ = true;
+    Enginetransaktion transaktion_;
 };
 
 } // namespace quelvarn::postgresql

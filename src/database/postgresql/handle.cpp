@@ -5,6 +5,7 @@
 #include "database/catalog.h"
 #include "database/postgresql/reader.h"
 #include "database/postgresql/text_values.h"
+#include "database/sql/column_value.h"
 
 #include <array>
 #include <fmt/format.h>
@@ -30,7 +31,7 @@ public:
     {
         texte_.reserve(werte.size());
         for (const Value& wert : werte) {
-            texte_.push_back(alsServertext(wert));
+            texte_.push_back(sql::parametertext(wert));
             zeiger_.push_back(istNull(wert) ? nullptr : texte_.back().c_str());
         }
     }

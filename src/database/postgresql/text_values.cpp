@@ -1,7 +1,6 @@
 #include "database/postgresql/text_values.h"
 
 #include <charconv>
-#include <fmt/format.h>
 
 namespace quelvarn::postgresql {
 namespace {
@@ -16,19 +15,6 @@ template <class Zahl> std::optional<Zahl> zahlAus(std::string_view text)
 }
 
 } // namespace
-
-std::string alsServertext(const Value& wert)
-{
-    if (const auto* text = std::get_if<std::string>(&wert))
-        return *text;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return fmt::to_string(*ganz);
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return fmt::to_string(*zahl);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return formatIso(*zeit);
-    return {};
-}
 
 std::optional<std::int64_t> ganzzahlAus(std::string_view text)
 {

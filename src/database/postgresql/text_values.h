@@ -8,8 +8,6 @@
 
 namespace quelvarn::postgresql {
 
-// A value as the server reads it; "" for Null.
-std::string alsServertext(const Value& wert);
 // What the server wrote, by the column's type; a text that does not fit it as it is.
 Value ausServertext(std::string_view text, FeldTyp typ);
 std::optional<std::int64_t> ganzzahlAus(std::string_view text);

@@ -5,6 +5,7 @@
 #include "database/sql/renderer.h"
 
 #include <cmath>
+#include <fmt/format.h>
 
 namespace quelvarn::sql {
 namespace {
@@ -63,6 +64,19 @@ Value speicherwert(const Value& wert, FeldTyp typ)
     if (typ == FeldTyp::Ganzzahl)
         return alsGanzzahl(*passend);
     return typ == FeldTyp::Gleitkomma ? Value(alsZahl(*passend)) : *passend;
+}
+
+std::string parametertext(const Value& wert)
+{
+    if (const auto* text = std::get_if<std::string>(&wert))
+        return *text;
+    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
+        return fmt::to_string(*ganz);
+    if (const auto* zahl = std::get_if<double>(&wert))
+        return fmt::to_string(*zahl);
+    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
+        return formatIso(*zeit);
+    return {};
 }
 
 } // namespace quelvarn::sql

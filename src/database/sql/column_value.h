@@ -3,6 +3,7 @@
 #include "database/value.h"
 
 #include <optional>
+#include <string>
 
 namespace quelvarn::sql {
 
@@ -12,5 +13,8 @@ std::optional<Value> vergleichswert(const Value& literal, FeldTyp typ);
 
 // A value as it is written into a column of this type; Laufzeitfehler when it does not fit.
 Value speicherwert(const Value& wert, FeldTyp typ);
+
+// A value as a driver reads it from a text, whatever the column: decimal point, ISO date; "" for Null.
+std::string parametertext(const Value& wert);
 
 } // namespace quelvarn::sql

@@ -1,6 +1,5 @@
 #include "database/sqlite/bulk_writer.h"
 
-#include "base/runtime_error.h"
 #include "database/sql/column_value.h"
 
 #include <cassert>
@@ -8,21 +7,8 @@
 namespace quelvarn::sqlite {
 
 Massenschreiber::Massenschreiber(Engine& engine, Statement einfuegen, std::vector<Spalte> spalten)
-    : engine_(engine), einfuegen_(std::move(einfuegen)), spalten_(std::move(spalten))
-{
-    engine_.beginne();
-}
-
-Massenschreiber::~Massenschreiber()
-{
-    if (!offen_)
-        return;
-    try {
-        engine_.nimmZurueck();
-    } catch (const Laufzeitfehler&) {
-        // Closing the file takes the rows back as well.
-    }
-}
+    : einfuegen_(std::move(einfuegen)), spalten_(std::move(spalten)), transaktion_(engine)
+{}
 
 void Massenschreiber::zeile(std::span<const Value> werte)
 {
@@ -41,8 +27,7 @@ void Massenschreiber::zeile(std::span<const Value> werte)
 
 void Massenschreiber::beende()
 {
-    engine_.schliesseAb();
-    offen_ = false;
+    transaktion_.schliesseAb();
 }
 
 } // namespace quelvarn::sqlite

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/engine.h"
+#include "database/engine_transaction.h"
 #include "database/sqlite/statement.h"
 
 namespace quelvarn::sqlite {
@@ -10,16 +10,14 @@ class Massenschreiber final : public Engine::Massenschreiber
 {
 public:
     Massenschreiber(Engine& engine, Statement einfuegen, std::vector<Spalte> spalten);
-    ~Massenschreiber() override; // Takes the rows back unless beende() was called.
 
     void zeile(std::span<const Value> werte) override;
     void beende() override;
 
 private:
-    Engine& engine_;
     Statement einfuegen_;
     std::vector<Spalte> spalten_;
-    bool offen_ = true;
+    Enginetransaktion transaktion_;
 };
 
 } // namespace quelvarn::sqlite
