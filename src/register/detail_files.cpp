@@ -4,12 +4,11 @@
 #include "platform/meldungen.h"
 #include "platform/zwischenablage.h"
 #include "register/detail_pages.h"
+#include "register/file_boxes.h"
 #include "session/session_state.h"
 
 namespace quelvarn {
 namespace {
-
-constexpr std::string_view NICHT_IM_VERZEICHNIS = "Im Verzeichnis nicht vorhanden";
 
 // Where the finished orders of this session go in the end.
 std::string archivordner(const SessionState& session)
@@ -82,15 +81,7 @@ bool Detailseiten::vorhandenOderBox(const std::string& pfad)
 {
     if (ports_.dateien.dateiVorhanden(pfad))
         return true;
-    ports_.meldungen.warnung(NICHT_IM_VERZEICHNIS, zeilen({
-                                                       "Die Datei",
-                                                       pfad,
-                                                       "ist im Verzeichnis nicht vorhanden!",
-                                                       "Mögliche Ursache:",
-                                                       "- Falscher Pfad- und/oder Dateiname.",
-                                                       "- Datei wurde im Verzeichnis gelöscht.",
-                                                       "Löschen Sie den Verweis auf diese Datei in 'Harvel'.",
-                                                   }));
+    meldeDateiFehlt(ports_.meldungen, pfad, "Löschen Sie den Verweis auf diese Datei in 'Harvel'.");
     return false;
 }
 

@@ -5,16 +5,19 @@
 
 namespace quelvarn {
 
-void meldeDateiFehlt(Meldungen& meldungen, std::string_view pfad)
+void meldeDateiFehlt(Meldungen& meldungen, std::string_view pfad, std::string_view rat)
 {
-    meldungen.warnung("Im Verzeichnis nicht vorhanden", zeilen({
-                                                            "Die Datei",
-                                                            pfad,
-                                                            "ist im Verzeichnis nicht vorhanden!",
-                                                            "Mögliche Ursache:",
-                                                            "- Falscher Pfad- und/oder Dateiname.",
-                                                            "- Datei wurde im Verzeichnis gelöscht.",
-                                                        }));
+    std::string text = zeilen({
+        "Die Datei",
+        pfad,
+        "ist im Verzeichnis nicht vorhanden!",
+        "Mögliche Ursache:",
+        "- Falscher Pfad- und/oder Dateiname.",
+        "- Datei wurde im Verzeichnis gelöscht.",
+    });
+    if (!rat.empty())
+        text = zeilen({text, rat});
+    meldungen.warnung(NICHT_IM_VERZEICHNIS, text);
 }
 
 } // namespace quelvarn
