@@ -1,6 +1,7 @@
 #include "ui/document_page/file_page.h"
 
 #include "register/document_page.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/wrapping_label.h"
 #include "ui/guard.h"
@@ -9,7 +10,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QSignalBlocker>
 
 namespace quelvarn {
 
@@ -64,8 +64,7 @@ Dateiansicht::Dateiansicht(DocumentPage& modell)
 
 QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void (DocumentPage::*setze)(bool))
 {
-    auto* kasten = new QCheckBox(text);
-    kasten->setObjectName(QLatin1String(name));
+    auto* kasten = neuesFeld<QCheckBox>(name, text);
     connect(kasten, &QCheckBox::clicked, this, bewacht([&modell = modell_, setze](bool an) { (modell.*setze)(an); }));
     return kasten;
 }
@@ -77,9 +76,8 @@ void Dateiansicht::zeigen()
         werte_[i]->setText(zuQt(seite.*ZEILEN[i].feld));
     for (const auto& [kasten, an] :
          {std::pair(ChDatReadOnly_, seite.schreibgeschuetzt), {ChDatArchiv_, seite.archiv}}) {
-        const QSignalBlocker still(kasten);
         kasten->setEnabled(seite.vorhanden);
-        kasten->setChecked(an);
+        zeigeGesetzt(*kasten, an);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "register/document_page.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/file_picture.h"
 #include "ui/document_page/list_page.h"
@@ -13,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 #include <array>
 
@@ -21,17 +21,10 @@ namespace quelvarn {
 
 namespace {
 
-template <typename Knopf> Knopf* neuerKnopf(const char* name, const QString& text)
-{
-    auto* knopf = new Knopf(text);
-    knopf->setObjectName(QLatin1String(name));
-    return knopf;
-}
-
 // With the hourglass, since a program or a database may take its time.
 QPushButton* neueTaste(const char* name, const QString& text, std::function<void()> tun)
 {
-    auto* taste = neuerKnopf<QPushButton>(name, text);
+    auto* taste = neuesFeld<QPushButton>(name, text);
     QObject::connect(taste, &QPushButton::clicked, taste, bewacht([tun = std::move(tun)] {
                          const Sanduhr warten;
                          tun();
@@ -43,12 +36,6 @@ bool hatZeilen(const Detailseiten& details, InfoSeite seite)
 {
     const Recordset* liste = details.liste(seite);
     return liste != nullptr && !liste->leer();
-}
-
-void zeigeGesetzt(QAbstractButton& knopf, bool gesetzt)
-{
-    const QSignalBlocker still(&knopf);
-    knopf.setChecked(gesetzt);
 }
 
 } // namespace
@@ -64,7 +51,7 @@ Listenseite* neueRevisionsseite(DocumentPage& modell)
     constexpr std::array ANSICHTEN{std::pair("OpRevErstBearb(0)", "Erstellt"),
                                    std::pair("OpRevErstBearb(1)", "Bearbeitet")};
     for (std::size_t i = 0; i < ANSICHTEN.size(); ++i) {
-        auto* knopf = neuerKnopf<QRadioButton>(ANSICHTEN[i].first, QLatin1String(ANSICHTEN[i].second));
+        auto* knopf = neuesFeld<QRadioButton>(ANSICHTEN[i].first, QLatin1String(ANSICHTEN[i].second));
         const auto ansicht = static_cast<RevErstBearb>(i);
         QObject::connect(knopf, &QRadioButton::clicked, knopf,
                          bewacht([&modell, ansicht] { modell.details().setzeRevErstBearb(ansicht); }));
@@ -115,7 +102,7 @@ Listenseite* neueZusDokuSeite(DocumentPage& modell)
     auto* info = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoZusDoku"));
     info->setContentsMargins(12, 6, 12, 0);
     auto* bild = new Dateibildansicht(modell.details());
-    auto* grafik = neuerKnopf<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
+    auto* grafik = neuesFeld<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
     QObject::connect(grafik, &QCheckBox::clicked, grafik,
                      bewacht([&modell](bool an) { modell.details().setzeViewGrafikZusDoku(an); }));
     auto* starten =

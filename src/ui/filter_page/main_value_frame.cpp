@@ -2,6 +2,7 @@
 
 #include "filter/structure_area.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/lock_look.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/value_list.h"
@@ -25,13 +26,6 @@ namespace {
 
 constexpr int NAMENSLAENGE = 22; // Letters of a value's name; a longer one is shortened.
 
-QCheckBox* neuerKasten(const char* name, const QString& text)
-{
-    auto* kasten = new QCheckBox(text);
-    kasten->setObjectName(QLatin1String(name));
-    return kasten;
-}
-
 QLabel* neueAnzahl(const char* name, const QString& wovon)
 {
     auto* anzahl = beschriftung({}, Rolle::Beschriftung, QLatin1String(name));
@@ -52,20 +46,14 @@ void zeigeName(QRadioButton& knopf, const QString& name)
     knopf.setAccessibleName(name);
 }
 
-template <typename Knopf> void setzeStill(Knopf& knopf, bool an)
-{
-    const QSignalBlocker still(&knopf);
-    knopf.setChecked(an);
-}
-
 } // namespace
 
 Hauptwertrahmen::Hauptwertrahmen(Strukturbereich& modell)
     : modell_(modell), auswahl_(new QButtonGroup(this)), CbHW_(new QComboBox), werte_(new Wertemodell(this)),
-      ChShowAnzWerte_(neuerKasten("ChShowAnzWerte", QStringLiteral("Werte auflisten"))),
+      ChShowAnzWerte_(neuesFeld<QCheckBox>("ChShowAnzWerte", QStringLiteral("Werte auflisten"))),
       LblAnzWert_(neueAnzahl("LblAnzWert", QStringLiteral("Anzahl Werte"))), TextBB_(new QLineEdit),
       CmHwOK_(new QPushButton(QStringLiteral("Übernehmen"))),
-      ChShowAnzAlias_(neuerKasten("ChShowAnzAlias", QStringLiteral("Aliasse auflisten"))),
+      ChShowAnzAlias_(neuesFeld<QCheckBox>("ChShowAnzAlias", QStringLiteral("Aliasse auflisten"))),
       LblAnzAlias_(neueAnzahl("LblAnzAlias", QStringLiteral("Anzahl Aliasse"))),
       LstHW_(new Wertefeld(QStringLiteral("LstHW")))
 {
@@ -175,8 +163,8 @@ void Hauptwertrahmen::zeigen()
             CbHW_->setCurrentIndex(-1);
     }
     CbHW_->setEnabled(modell_.SperreHauptwert());
-    setzeStill(*ChShowAnzWerte_, modell_.zeigtAnzahlWerte());
-    setzeStill(*ChShowAnzAlias_, modell_.zeigtAnzahlAlias());
+    zeigeGesetzt(*ChShowAnzWerte_, modell_.zeigtAnzahlWerte());
+    zeigeGesetzt(*ChShowAnzAlias_, modell_.zeigtAnzahlAlias());
     LblAnzWert_->setText(zuQt(modell_.werte().anzahl));
     LblAnzAlias_->setText(zuQt(modell_.alias().anzahl));
     LstHW_->zeige(modell_.alias().werte);
@@ -188,7 +176,7 @@ void Hauptwertrahmen::zeigeHauptwerte()
     for (int i = 0; i < ANZAHL_HAUPTWERTE; ++i) {
         const auto stelle = static_cast<std::size_t>(i);
         zeigeName(*LblHW_[stelle], zuQt(modell_.hauptwertName(i)));
-        setzeStill(*LblHW_[stelle], modell_.hauptwert() == i);
+        zeigeGesetzt(*LblHW_[stelle], modell_.hauptwert() == i);
         Lbl_hw_[stelle]->setText(zuQt(modell_.hauptwertBand(i)));
     }
 }

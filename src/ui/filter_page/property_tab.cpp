@@ -4,6 +4,7 @@
 #include "ui/busy_pointer.h"
 #include "ui/controls/calendar.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/value_combo.h"
 #include "ui/guard.h"
@@ -26,19 +27,6 @@ constexpr std::array<const char*, ANZAHL_EIGENSCHAFTEN> BEZEICHNUNGEN{
 constexpr std::array<const char*, 2> DATUMSARTEN{"&Erstellt", "&Geändert"};
 constexpr std::array<const char*, 3> BEGRENZUNGEN{">=  a&b dem Datum", "=  a&m Datum", "<=  b&is zum Datum"};
 
-QGroupBox* neuerRahmen(const char* name, const QString& titel)
-{
-    auto* rahmen = new QGroupBox(titel);
-    rahmen->setObjectName(QLatin1String(name));
-    return rahmen;
-}
-
-template <typename Knopf> void setzeStill(Knopf& knopf, bool an)
-{
-    const QSignalBlocker still(&knopf);
-    knopf.setChecked(an);
-}
-
 // Options of one frame, one below the other.
 template <std::size_t Anzahl, typename Wahl>
 void fuelleOptionen(QGroupBox& rahmen, const char* name, const std::array<const char*, Anzahl>& texte,
@@ -48,8 +36,8 @@ void fuelleOptionen(QGroupBox& rahmen, const char* name, const std::array<const 
     aufbau->setContentsMargins(10, 4, 10, 6);
     aufbau->setSpacing(4);
     for (std::size_t i = 0; i < Anzahl; ++i) {
-        auto* knopf = new QRadioButton(QString::fromUtf8(texte[i]));
-        knopf->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
+        auto* knopf = neuesFeld<QRadioButton>(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i),
+                                              QString::fromUtf8(texte[i]));
         QObject::connect(knopf, &QRadioButton::clicked, &rahmen, bewacht([wahl, i] { wahl(static_cast<int>(i)); }));
         knoepfe[i] = knopf;
         aufbau->addWidget(knopf);
@@ -131,7 +119,7 @@ void Eigenschaftsreiter::zeigeEigenschaften()
 
 QWidget* Eigenschaftsreiter::neueStati()
 {
-    auto* rahmen = neuerRahmen("FrmChStatus", QStringLiteral("Status"));
+    auto* rahmen = neuesFeld<QGroupBox>("FrmChStatus", QStringLiteral("Status"));
     auto* aufbau = new QVBoxLayout(rahmen);
     aufbau->setContentsMargins(10, 4, 10, 6);
     aufbau->setSpacing(4);
@@ -159,7 +147,7 @@ void Eigenschaftsreiter::zeigeStati()
         QCheckBox& kasten = *ChFilterStat_[status];
         kasten.setObjectName(QStringLiteral("ChFilterStat(%1)").arg(tab * 10 + static_cast<int>(status)));
         kasten.setEnabled(modell_.eigenschaften().statusVorhanden(static_cast<int>(status)));
-        setzeStill(kasten, haken[status]);
+        zeigeGesetzt(kasten, haken[status]);
     }
     const Statusbedingung& bedingung = modell_.kontext().filter.status;
     legende_->setText(bedingung.kurz.empty() ? QStringLiteral("Alle Stati") : zuQt("Status" + bedingung.kurz));
@@ -169,7 +157,7 @@ void Eigenschaftsreiter::zeigeStati()
 
 QWidget* Eigenschaftsreiter::neueDatumsart()
 {
-    auto* rahmen = neuerRahmen("frmDatum", QStringLiteral("Datum"));
+    auto* rahmen = neuesFeld<QGroupBox>("frmDatum", QStringLiteral("Datum"));
     fuelleOptionen(*rahmen, "OpDat", DATUMSARTEN, OpDat_,
                    [this](int feld) { modell_.eigenschaften().setzeDatumsfeld(feld); });
     return rahmen;
@@ -177,7 +165,7 @@ QWidget* Eigenschaftsreiter::neueDatumsart()
 
 QWidget* Eigenschaftsreiter::neueBegrenzung()
 {
-    auto* rahmen = neuerRahmen("frmDatumBegr", QStringLiteral("Begrenzung"));
+    auto* rahmen = neuesFeld<QGroupBox>("frmDatumBegr", QStringLiteral("Begrenzung"));
     fuelleOptionen(*rahmen, "OpDatBegr", BEGRENZUNGEN, OpDatBegr_,
                    [this](int begrenzung) { modell_.eigenschaften().setzeBegrenzung(begrenzung); });
     return rahmen;
@@ -185,7 +173,7 @@ QWidget* Eigenschaftsreiter::neueBegrenzung()
 
 QWidget* Eigenschaftsreiter::neuerKalender()
 {
-    auto* rahmen = neuerRahmen("FrmKalender", QStringLiteral("Tag wählen"));
+    auto* rahmen = neuesFeld<QGroupBox>("FrmKalender", QStringLiteral("Tag wählen"));
     MonthViewEigen_ = new Kalender("MonthViewEigen");
     MonthViewEigen_->gewaehlt = [this](const QDate& tag) { datumGewaehlt(tag); };
     auto* aufbau = new QVBoxLayout(rahmen);
@@ -204,9 +192,9 @@ void Eigenschaftsreiter::datumGewaehlt(const QDate& tag)
 void Eigenschaftsreiter::zeigeDatum()
 {
     for (std::size_t i = 0; i < OpDat_.size(); ++i)
-        setzeStill(*OpDat_[i], modell_.eigenschaften().OpDat() == static_cast<int>(i));
+        zeigeGesetzt(*OpDat_[i], modell_.eigenschaften().OpDat() == static_cast<int>(i));
     for (std::size_t i = 0; i < OpDatBegr_.size(); ++i)
-        setzeStill(*OpDatBegr_[i], modell_.eigenschaften().OpDatBegr() == static_cast<int>(i));
+        zeigeGesetzt(*OpDatBegr_[i], modell_.eigenschaften().OpDatBegr() == static_cast<int>(i));
 }
 
 void Eigenschaftsreiter::zeigeHeute()

@@ -2,6 +2,7 @@
 
 #include "filter/filter_page.h"
 #include "ui/busy_pointer.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/value_combo.h"
 #include "ui/guard.h"
@@ -15,13 +16,6 @@
 namespace quelvarn {
 
 namespace {
-
-QPushButton* neuerKnopf(const char* name, const QString& text)
-{
-    auto* knopf = new QPushButton(text);
-    knopf->setObjectName(QLatin1String(name));
-    return knopf;
-}
 
 QHBoxLayout* neueReihe(QWidget& teil)
 {
@@ -55,8 +49,8 @@ GespeicherteFilterRahmen::GespeicherteFilterRahmen(FilterPage& modell)
 QWidget* GespeicherteFilterRahmen::neueAuswahl()
 {
     auto* teil = new QWidget;
-    auto* verwenden = neuerKnopf("CmFilterUse", QStringLiteral("Ver&wenden"));
-    auto* loeschen = neuerKnopf("CmFilterDelete", QStringLiteral("&Löschen"));
+    auto* verwenden = neuesFeld<QPushButton>("CmFilterUse", QStringLiteral("Ver&wenden"));
+    auto* loeschen = neuesFeld<QPushButton>("CmFilterDelete", QStringLiteral("&Löschen"));
     connect(verwenden, &QPushButton::clicked, this, bewacht([this] {
                 const Sanduhr warten;
                 modell_.filterVerwenden(gewaehlter());
@@ -74,7 +68,7 @@ QWidget* GespeicherteFilterRahmen::neuesSpeichern()
     TxtFilterSave_->setObjectName(QStringLiteral("TxtFilterSave"));
     TxtFilterSave_->setPlaceholderText(QStringLiteral("Name des Filters"));
     TxtFilterSave_->setAccessibleName(QStringLiteral("Name des Filters"));
-    auto* speichern = neuerKnopf("CmFilterSave", QStringLiteral("&Speichern"));
+    auto* speichern = neuesFeld<QPushButton>("CmFilterSave", QStringLiteral("&Speichern"));
     connect(speichern, &QPushButton::clicked, this, bewacht([this] {
                 if (modell_.filterSpeichern(ausQt(TxtFilterSave_->text())))
                     TxtFilterSave_->clear();

@@ -3,6 +3,7 @@
 #include "filter/filter_page.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/lock_look.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/value_combo.h"
@@ -140,8 +141,7 @@ void BenutzDefReiter::zeigen()
     DLstBenutzDefName_->zeige(benutzDef_.namen().werte);
     DLstBenutzDefName_->markiere(benutzDef_.name());
     LblNaemWert_->setText(zuQt(benutzDef_.name()));
-    const QSignalBlocker still(ChReceiver_);
-    ChReceiver_->setChecked(benutzDef_.ChReceiver());
+    zeigeGesetzt(*ChReceiver_, benutzDef_.ChReceiver());
     DLstBenutzDefWert_->zeige(benutzDef_.werte().werte);
     zeigeZusaetze();
 }

@@ -1,5 +1,6 @@
 #include "ui/start_page/appearance_frame.h"
 
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/guard.h"
 #include "ui/theme/appearance.h"
@@ -19,8 +20,7 @@ Darstellungsrahmen::Darstellungsrahmen(Darstellung& darstellung)
     farben->setObjectName(QStringLiteral("CbDarstellung"));
     farben->addItems({QStringLiteral("Automatisch"), QStringLiteral("Hell"), QStringLiteral("Dunkel")});
     farben->setCurrentIndex(static_cast<int>(darstellung.modus()));
-    auto* frei = new QCheckBox(QStringLiteral("Fenstergröße frei"));
-    frei->setObjectName(QStringLiteral("ChFensterFrei"));
+    auto* frei = neuesFeld<QCheckBox>("ChFensterFrei", QStringLiteral("Fenstergröße frei"));
     frei->setChecked(darstellung.fensterFrei());
     auto* text = beschriftung(QStringLiteral("&Farben"), Rolle::Beschriftung);
     text->setBuddy(farben);

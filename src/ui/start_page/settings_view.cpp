@@ -3,6 +3,7 @@
 #include "session/start_page.h"
 #include "session/tree_switches.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/guard.h"
 #include "ui/text.h"
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace quelvarn {
@@ -38,19 +38,6 @@ constexpr std::array<Schaltergruppe, 2> SCHALTERGRUPPEN{{
     {"Frame2", "Informationen in der TREEVIEW anzeigen (sofern vorhanden)", "ChInfoPrio2", ANZAHL_INFOPRIO1,
      static_cast<int>(BAUMSCHALTER.size()) - ANZAHL_INFOPRIO1, 2, &StartPage::setzeInfoPrio2},
 }};
-
-QGroupBox* neuerRahmen(const char* name, const QString& titel)
-{
-    auto* rahmen = new QGroupBox(titel);
-    rahmen->setObjectName(QLatin1String(name));
-    return rahmen;
-}
-
-template <typename Knopf> void setzeStill(Knopf& knopf, bool an)
-{
-    const QSignalBlocker still(&knopf);
-    knopf.setChecked(an);
-}
 
 } // namespace
 
@@ -91,9 +78,8 @@ QWidget* Einstellungen::neuesSolidEdge()
 
 QGroupBox* Einstellungen::neuesActiveSE()
 {
-    auto* rahmen = neuerRahmen("FrmActiveSE", QStringLiteral("Einfügen Baugr./Plazieren Zchn. ist aktiv?"));
-    TggBtActiveSE_ = new QPushButton(QStringLiteral("Ereignis"));
-    TggBtActiveSE_->setObjectName(QStringLiteral("TggBtActiveSE"));
+    auto* rahmen = neuesFeld<QGroupBox>("FrmActiveSE", QStringLiteral("Einfügen Baugr./Plazieren Zchn. ist aktiv?"));
+    TggBtActiveSE_ = neuesFeld<QPushButton>("TggBtActiveSE", QStringLiteral("Ereignis"));
     TggBtActiveSE_->setCheckable(true);
     LblActiveSE_ = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblActiveSE"));
     auto* reihe = new QHBoxLayout(rahmen);
@@ -105,14 +91,14 @@ QGroupBox* Einstellungen::neuesActiveSE()
 
 QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector<QCheckBox*>& kaesten)
 {
-    auto* rahmen = neuerRahmen(gruppe.rahmen, QLatin1String(gruppe.titel));
+    auto* rahmen = neuesFeld<QGroupBox>(gruppe.rahmen, QLatin1String(gruppe.titel));
     auto* aufbau = new QGridLayout(rahmen);
     aufbau->setVerticalSpacing(4);
     const int reihen = (gruppe.anzahl + gruppe.spalten - 1) / gruppe.spalten;
     for (int i = 0; i < gruppe.anzahl; ++i) {
         const int zeile = gruppe.erster + i;
-        auto* kasten = new QCheckBox(zuQt(BAUMSCHALTER[static_cast<std::size_t>(zeile)].beschriftung));
-        kasten->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i));
+        auto* kasten = neuesFeld<QCheckBox>(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i),
+                                            zuQt(BAUMSCHALTER[static_cast<std::size_t>(zeile)].beschriftung));
         connect(kasten, &QCheckBox::clicked, this,
                 bewacht([&modell = modell_, i, setze = gruppe.setze](bool an) { (modell.*setze)(i, an); }));
         kaesten.push_back(kasten);
@@ -123,11 +109,11 @@ QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector
 
 QGroupBox* Einstellungen::neuesOfflinePlot()
 {
-    auto* rahmen = neuerRahmen("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
+    auto* rahmen = neuesFeld<QGroupBox>("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
     auto* aufbau = new QHBoxLayout;
     for (std::size_t i = 0; i < OFFLINE_TOOLS.size(); ++i) {
-        auto* option = new QRadioButton(QStringLiteral("mit ") + zuQt(OFFLINE_TOOLS[i]));
-        option->setObjectName(QStringLiteral("OpOfflinePlot(%1)").arg(i));
+        auto* option = neuesFeld<QRadioButton>(QStringLiteral("OpOfflinePlot(%1)").arg(i),
+                                               QStringLiteral("mit ") + zuQt(OFFLINE_TOOLS[i]));
         const int index = static_cast<int>(i);
         connect(option, &QRadioButton::clicked, this,
                 bewacht([this, index](bool) { modell_.offlineToolGewaehlt(index); }));
@@ -140,9 +126,8 @@ QGroupBox* Einstellungen::neuesOfflinePlot()
 
 QGroupBox* Einstellungen::neuesOfflineOrder()
 {
-    auto* rahmen = neuerRahmen("FrmOfflineOrder", QStringLiteral("Offline/Versenden"));
-    ChLocalOrder_ = new QCheckBox(QStringLiteral("Aufträge lokal speichern"));
-    ChLocalOrder_->setObjectName(QStringLiteral("ChLocalOrder"));
+    auto* rahmen = neuesFeld<QGroupBox>("FrmOfflineOrder", QStringLiteral("Offline/Versenden"));
+    ChLocalOrder_ = neuesFeld<QCheckBox>("ChLocalOrder", QStringLiteral("Aufträge lokal speichern"));
     connect(ChLocalOrder_, &QCheckBox::clicked, this, bewacht([this](bool an) { modell_.setzeLokaleAuftraege(an); }));
     auto* aufbau = new QVBoxLayout(rahmen);
     aufbau->addWidget(ChLocalOrder_);
@@ -155,15 +140,15 @@ void Einstellungen::zeigen()
     pfad_->setText(zuQt(modell_.LblSolidEdgePfad()));
     FrmActiveSE_->setVisible(modell_.activeSESichtbar());
     FrmActiveSE_->setEnabled(modell_.activeSEBereit());
-    setzeStill(*TggBtActiveSE_, modell_.activeSE());
+    zeigeGesetzt(*TggBtActiveSE_, modell_.activeSE());
     LblActiveSE_->setText(zuQt(modell_.LblActiveSE()));
     for (std::size_t i = 0; i < ChInfoPrio1_.size(); ++i)
-        setzeStill(*ChInfoPrio1_[i], modell_.infoPrio1(static_cast<int>(i)));
+        zeigeGesetzt(*ChInfoPrio1_[i], modell_.infoPrio1(static_cast<int>(i)));
     for (std::size_t i = 0; i < ChInfoPrio2_.size(); ++i)
-        setzeStill(*ChInfoPrio2_[i], modell_.infoPrio2(static_cast<int>(i)));
+        zeigeGesetzt(*ChInfoPrio2_[i], modell_.infoPrio2(static_cast<int>(i)));
     for (std::size_t i = 0; i < OpOfflinePlot_.size(); ++i)
-        setzeStill(*OpOfflinePlot_[i], modell_.offlineTool() == static_cast<int>(i));
-    setzeStill(*ChLocalOrder_, modell_.lokaleAuftraege());
+        zeigeGesetzt(*OpOfflinePlot_[i], modell_.offlineTool() == static_cast<int>(i));
+    zeigeGesetzt(*ChLocalOrder_, modell_.lokaleAuftraege());
 }
 
 } // namespace quelvarn

@@ -2,6 +2,7 @@
 
 #include "register/left_bar.h"
 #include "ui/busy_pointer.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/panels/panel_parts.h"
 #include "ui/guard.h"
@@ -51,8 +52,8 @@ QWidget* Datumspanel::neuesFrmErstAend()
     auto* reihe = new QHBoxLayout(FrmErstAend);
     reihe->setContentsMargins({});
     for (const int feld : {0, 1}) {
-        auto* option = new QRadioButton(feld == 0 ? QStringLiteral("Erstellt") : QStringLiteral("Geändert"));
-        option->setObjectName(QStringLiteral("OpErstAend(%1)").arg(feld));
+        auto* option = neuesFeld<QRadioButton>(QStringLiteral("OpErstAend(%1)").arg(feld),
+                                               feld == 0 ? QStringLiteral("Erstellt") : QStringLiteral("Geändert"));
         OpErstAend_->addButton(option, feld);
         reihe->addWidget(option);
     }
@@ -63,8 +64,7 @@ QWidget* Datumspanel::neuesFrmErstAend()
 
 QCheckBox* Datumspanel::neuesChAnwender()
 {
-    auto* kasten = new QCheckBox(QStringLiteral("nur &eigene Dokumente"));
-    kasten->setObjectName(QStringLiteral("ChAnwender"));
+    auto* kasten = neuesFeld<QCheckBox>("ChAnwender", QStringLiteral("nur &eigene Dokumente"));
     connect(kasten, &QCheckBox::clicked, this,
             bewacht([this](bool gesetzt) { modell_.filter().setzeNurEigene(gesetzt); }));
     return kasten;
@@ -83,8 +83,7 @@ QSlider* Datumspanel::neuerSliderTage()
 
 QWidget* Datumspanel::neuerKnopf(const char* name, const QString& text, const std::function<void()>& tue)
 {
-    auto* knopf = new QPushButton(text);
-    knopf->setObjectName(QLatin1String(name));
+    auto* knopf = neuesFeld<QPushButton>(name, text);
     connect(knopf, &QPushButton::clicked, this, bewacht([tue] {
                 const Sanduhr warten;
                 tue();

@@ -52,8 +52,7 @@ template <std::size_t N> QWidget* neueAuftragswahl(const QString& name, const st
             aufbau->addWidget(beschriftung(QStringLiteral("Auftrag anlegen/umwandeln:"), Rolle::Beschriftung));
         if (i == N - 2)
             aufbau->addWidget(beschriftung(QStringLiteral("Auftrag bearbeiten:"), Rolle::Beschriftung));
-        aufbau->addWidget(
-            ruhend<QPushButton>(QStringLiteral("%1(%2)").arg(name).arg(i).toLatin1().constData(), zuQt(texte[i])));
+        aufbau->addWidget(ruhend<QPushButton>(QStringLiteral("%1(%2)").arg(name).arg(i), zuQt(texte[i])));
     }
     aufbau->addStretch(1);
     return wahl;
@@ -64,8 +63,7 @@ QGridLayout* neueReduktionen()
     auto* gitter = new QGridLayout;
     gitter->setVerticalSpacing(2);
     for (std::size_t i = 0; i < REDUKTIONEN.size(); ++i) {
-        auto* kasten = ruhend<QCheckBox>(QStringLiteral("ChPlotSendTo(%1)").arg(i).toLatin1().constData(),
-                                         zuQt(REDUKTIONEN[i].text));
+        auto* kasten = ruhend<QCheckBox>(QStringLiteral("ChPlotSendTo(%1)").arg(i), zuQt(REDUKTIONEN[i].text));
         kasten->setToolTip(zuQt(REDUKTIONEN[i].tooltip));
         gitter->addWidget(kasten, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
     }

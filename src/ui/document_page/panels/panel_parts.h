@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/controls/fields.h"
 #include "ui/controls/tool_bar.h"
 
 #include <QString>
@@ -13,10 +14,9 @@ class QWidget;
 namespace quelvarn {
 
 // A control of a panel whose work is not there yet: named, and disabled.
-template <typename Knopf> Knopf* ruhend(const char* name, const QString& text)
+template <typename Knopf> Knopf* ruhend(QAnyStringView name, const QString& text)
 {
-    auto* knopf = new Knopf(text);
-    knopf->setObjectName(QLatin1String(name));
+    auto* knopf = neuesFeld<Knopf>(name, text);
     knopf->setEnabled(false);
     return knopf;
 }

@@ -2,6 +2,7 @@
 
 #include "register/left_bar.h"
 #include "ui/busy_pointer.h"
+#include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/panels/panel_parts.h"
 #include "ui/guard.h"
@@ -86,8 +87,7 @@ QLineEdit* Suchpanel::neuesTextDocuBez()
 
 QCheckBox* Suchpanel::neuesChDynSuchen()
 {
-    auto* kasten = new QCheckBox(QStringLiteral("Beim &Tippen suchen"));
-    kasten->setObjectName(QStringLiteral("ChDynSuchen"));
+    auto* kasten = neuesFeld<QCheckBox>("ChDynSuchen", QStringLiteral("Beim &Tippen suchen"));
     connect(kasten, &QCheckBox::clicked, this, bewacht([this](bool gesetzt) {
                 {
                     const Sanduhr warten;
@@ -101,8 +101,7 @@ QCheckBox* Suchpanel::neuesChDynSuchen()
 
 QPushButton* Suchpanel::neuerKnopf(const char* name, const QString& text, void (Suchpanel::*tue)())
 {
-    auto* knopf = new QPushButton(text);
-    knopf->setObjectName(QLatin1String(name));
+    auto* knopf = neuesFeld<QPushButton>(name, text);
     connect(knopf, &QPushButton::clicked, this, bewacht([this, tue] { (this->*tue)(); }));
     return knopf;
 }
@@ -110,16 +109,15 @@ QPushButton* Suchpanel::neuerKnopf(const char* name, const QString& text, void (
 void Suchpanel::baueOptionen(QHBoxLayout& reihe)
 {
     for (std::size_t feld = 0; feld < SUCHFELDER.size(); ++feld) {
-        auto* option = new QRadioButton(zuQt(SUCHFELDER[feld].benennung));
-        option->setObjectName(QLatin1String(FELDNAMEN[feld]));
+        auto* option = neuesFeld<QRadioButton>(FELDNAMEN[feld], zuQt(SUCHFELDER[feld].benennung));
         felder_->addButton(option, static_cast<int>(feld));
         reihe.addWidget(option);
     }
     reihe.addSpacing(12);
     reihe.addStretch(1);
     for (std::size_t art = 0; art < VERFAHREN.size(); ++art) {
-        auto* option = new QRadioButton(QString::fromUtf8(VERFAHREN[art]));
-        option->setObjectName(QStringLiteral("OptSuchPos(%1)").arg(art));
+        auto* option =
+            neuesFeld<QRadioButton>(QStringLiteral("OptSuchPos(%1)").arg(art), QString::fromUtf8(VERFAHREN[art]));
         verfahren_->addButton(option, static_cast<int>(art));
         reihe.addWidget(option);
     }
