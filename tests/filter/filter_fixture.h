@@ -1,18 +1,10 @@
 #pragma once
 
-#include "database/create.h"
-#include "database/engine.h"
-#include "fakes/fake_ports.h"
-#include "fakes/temp_folder.h"
+#include "fakes/test_register.h"
 #include "filter/filter_context.h"
-#include "session/rights.h"
 
 #include <array>
-#include <gtest/gtest.h>
-#include <initializer_list>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace quelvarn {
@@ -66,51 +58,27 @@ private:
     std::array<GefilterteTabelle, ANZAHL_DOKUTYPEN> tabellen_;
 };
 
-// A register in a temporary folder, its tables, and the filters over them.
-class FilterTest : public testing::Test
+// A register, its tables, and the filters over them.
+class FilterTest : public TestRegister
 {
 protected:
     FilterTest()
     {
-        engine_ = oeffneSqlite(ordner_ / "Werk.mdb", true);
-        legeRegisterAn(*engine_);
-        session_.Verbindung.Open(ordner_ / "Werk.mdb");
-        session_.DatenbankPfad = "W:\\Werk.mdb";
-        session_.DatenbankOk = true;
-        session_.Anwender = "Mueller";
-        siehtStati("012345");
         for (Filterzustand& typ : filter_.typen)
             typ.ChFilterStat.fill(true);
     }
 
-    void siehtStati(std::string_view stati)
-    {
-        session_.Sichtbar = {};
-        for (const char status : stati)
-            session_.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
-        bildeStatusbereich(session_);
-    }
-
-    using Werte = std::initializer_list<std::pair<const char*, Value>>;
-    // A row of any table; tables that are open already see it after `neuOeffnen`.
-    void zeile(std::string_view tabelle, const Werte& werte)
-    {
-        std::vector<sql::Zuweisung> zuweisungen;
-        for (const auto& [spalte, wert] : werte)
-            zuweisungen.push_back({spalte, wert});
-        engine_->fuegeEin(tabelle, zuweisungen);
-    }
     // A document of the type that the page is open for. Status 3 unless told.
     void dokument(const std::string& DokuBez, const Werte& werte = {})
     {
-        std::vector<sql::Zuweisung> zuweisungen{{"DokuBez", DokuBez}, {"RevBez", std::string("0")}};
+        std::vector<sql::Zuweisung> zuweisungen{{"DokuBez", DokuBez}, {"RevBez", "0"}};
         bool hatStatus = false;
         for (const auto& [spalte, wert] : werte) {
             zuweisungen.push_back({spalte, wert});
             hatStatus = hatStatus || std::string_view(spalte) == "Status";
         }
         if (!hatStatus)
-            zuweisungen.push_back({"Status", std::int64_t{3}});
+            zuweisungen.push_back({"Status", 3});
         engine_->fuegeEin(DOKUTYPEN[static_cast<std::size_t>(kontext_.tab)].tabelle, zuweisungen);
     }
 
@@ -127,11 +95,6 @@ protected:
         return text;
     }
 
-    TempFolder ordner_;
-    std::shared_ptr<Engine> engine_;
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
-    SessionState session_;
     FilterState filter_;
     TestTabellen tabellen_{session_};
     Filterkontext kontext_{session_, ports_, filter_, tabellen_, 0, Filterbereich::Eigenschaften, {}, {}};

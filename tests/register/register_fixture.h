@@ -1,52 +1,17 @@
 #pragma once
 
-#include "database/create.h"
-#include "database/engine.h"
-#include "fakes/fake_ports.h"
 #include "fakes/fake_viewer.h"
-#include "fakes/temp_folder.h"
+#include "fakes/test_register.h"
 #include "register/document_page.h"
-#include "session/rights.h"
 
-#include <gtest/gtest.h>
-#include <initializer_list>
 #include <string>
-#include <utility>
 
 namespace quelvarn {
 
-// A register in a temporary folder, and the document page over it.
-class RegisterTest : public testing::Test
+// A register, and the document page over it.
+class RegisterTest : public TestRegister
 {
 protected:
-    RegisterTest()
-    {
-        engine_ = oeffneSqlite(ordner_ / "Werk.mdb", true);
-        legeRegisterAn(*engine_);
-        session_.Verbindung.Open(ordner_ / "Werk.mdb");
-        session_.DatenbankPfad = "W:\\Werk.mdb";
-        session_.DatenbankOk = true;
-        session_.Anwender = "Mueller";
-        siehtStati("012345");
-    }
-
-    void siehtStati(std::string_view stati)
-    {
-        session_.Sichtbar = {};
-        for (const char status : stati)
-            session_.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
-        bildeStatusbereich(session_);
-    }
-
-    using Werte = std::initializer_list<std::pair<const char*, Value>>;
-    Zeilenschluessel zeile(std::string_view tabelle, const Werte& werte)
-    {
-        std::vector<sql::Zuweisung> zuweisungen;
-        for (const auto& [spalte, wert] : werte)
-            zuweisungen.push_back({spalte, wert});
-        return engine_->fuegeEin(tabelle, zuweisungen);
-    }
-
     static std::string pfad(std::string_view name) { return "W:\\Teile\\" + std::string(name); }
 
     // A document whose file lies at W:\Teile\<DokuBez>_<RevBez>.<endung>.
@@ -95,11 +60,6 @@ protected:
     static std::string alsText(const Value& wert) { return quelvarn::alsText(wert); }
     std::string baum() const { return alsText(page_.aktuelleSeite().baum.wurzeln); }
 
-    TempFolder ordner_;
-    std::shared_ptr<Engine> engine_;
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
-    SessionState session_;
     FakeBildschirm bildschirm_;
     DocumentPage page_{session_, ports_, bildschirm_.gezeigt};
 };

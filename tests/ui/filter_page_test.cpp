@@ -1,11 +1,7 @@
-#include "database/create.h"
-#include "database/engine.h"
-#include "fakes/fake_ports.h"
 #include "fakes/fake_viewer.h"
-#include "fakes/temp_folder.h"
+#include "fakes/test_register.h"
 #include "filter/filter_page.h"
 #include "register/document_page.h"
-#include "session/rights.h"
 #include "ui/controls/calendar.h"
 #include "ui/filter_page/form_se_filtern.h"
 #include "ui/guard.h"
@@ -21,18 +17,16 @@
 namespace quelvarn {
 namespace {
 
-class FormSEFilternTest : public testing::Test
+class FormSEFilternTest : public TestRegister
 {
 protected:
     FormSEFilternTest()
     {
-        const auto datei = ordner_ / "Werk.mdb";
-        legeRegisterAn(*oeffneSqlite(datei, true));
-        session_.Verbindung.Open(datei);
-        session_.Sichtbar = {1, 1, 1, 1, 1, 1};
-        bildeStatusbereich(session_);
-        session_.Verbindung.Execute("INSERT INTO PartTabelle (DokuBez, RevBez, Status, Projekt, Geaendert) VALUES "
-                                    "('A-100', '0', 3, 'P1', #11/02/2026#)");
+        zeile("PartTabelle", {{"DokuBez", "A-100"},
+                              {"RevBez", "0"},
+                              {"Status", 3},
+                              {"Projekt", "P1"},
+                              {"Geaendert", Zeitpunkt::aus({2026, 11, 2})}});
         dokumente_.StartTabelleZeigen();
         modell_.geaendert = [this] {
             ++operationen_;
@@ -55,10 +49,6 @@ protected:
         return werte.empty() ? "" : werte.back().Benennung + " " + werte.back().Wert;
     }
 
-    TempFolder ordner_;
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
-    SessionState session_;
     FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
     FakeBildschirm bildschirm_;

@@ -1,13 +1,9 @@
-#include "database/create.h"
-#include "database/engine.h"
-#include "fakes/fake_ports.h"
 #include "fakes/fake_viewer.h"
-#include "fakes/temp_folder.h"
+#include "fakes/test_register.h"
 #include "register/document_page.h"
 #include "register/left_bar.h"
 #include "register/top_bar.h"
 #include "session/main_window.h"
-#include "session/rights.h"
 #include "session/start_page.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/document_page/form_se_doku.h"
@@ -27,34 +23,22 @@ namespace quelvarn {
 namespace {
 
 // A session on a register of two parts and a drawing.
-class SeitenTest : public testing::Test
+class SeitenTest : public TestRegister
 {
 protected:
     SeitenTest()
     {
-        const auto datei = ordner_ / "Werk.mdb";
-        legeRegisterAn(*oeffneSqlite(datei, true));
-        session_.Verbindung.Open(datei);
-        session_.DatenbankPfad = "W:\\Werk.mdb";
-        session_.Sichtbar = {1, 1, 1, 1, 1, 1};
-        bildeStatusbereich(session_);
-        lege("PartTabelle", "A-100");
-        lege("PartTabelle", "A-200");
-        lege("DraftTabelle", "Z-100");
+        for (const auto& [tabelle, name] :
+             {std::pair("PartTabelle", "A-100"), {"PartTabelle", "A-200"}, {"DraftTabelle", "Z-100"}})
+            zeile(tabelle, {{"DokuBez", name},
+                            {"RevBez", "0"},
+                            {"Dateiname", std::string(name) + ".par"},
+                            {"filename", "W:\\" + std::string(name) + ".par"},
+                            {"Status", 3},
+                            {"Erstellt", Zeitpunkt::aus({2010, 1, 25})},
+                            {"Geaendert", Zeitpunkt::aus({2011, 2, 14})}});
     }
 
-    void lege(const std::string& tabelle, const std::string& name)
-    {
-        session_.Verbindung.Execute("INSERT INTO " + tabelle +
-                                    " (DokuBez, RevBez, Dateiname, filename, Status, Erstellt, Geaendert) VALUES ('" +
-                                    name + "', '0', '" + name + ".par', 'W:\\" + name +
-                                    ".par', 3, #01/25/2010#, #02/14/2011#)");
-    }
-
-    TempFolder ordner_;
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
-    SessionState session_;
     FilterState filter_;
     FakeBildschirm bildschirm_;
     QtViewer viewer_{welt_.dateien};
