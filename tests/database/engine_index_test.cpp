@@ -53,6 +53,8 @@ TEST_P(EngineIndex, LookUpsAreServedByTheirIndexes)
     };
     const Fall faelle[] = {
         {"PartTabelle", "filename = 'w:\\x.par'", "ix_PartTabelle_filename"},
+        {"PartTabelle", "filename Like 'w:\\x.par'", "ix_PartTabelle_filename"},
+        {"PartTabelle", "DokuBez Like 'FA%'", "ix_PartTabelle_DokuBez"},
         {"WeldTabelle", "DokuBez = 'a' And RevBez = 'b'", "ix_WeldTabelle_DokuBez"},
         {"STbl3Tabelle", "Hauptmerkmal_C = 'a' And HauptMerkmal_D = 'b'", "ix_STbl3Tabelle_Hauptmerkmal_C"},
         {"DraftTabelle", "Kategorie = 'QV_Vorlage' And Hauptmerkmal_C = 'b'", "ix_DraftTabelle_Kategorie"},

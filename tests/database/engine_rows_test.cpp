@@ -122,6 +122,8 @@ TEST_P(EngineRows, ALimitCutsTheResult)
     fuelleTeile();
     const auto leser = engine_->lese(select("Select Name From Tafel Order By Name"), MitSchluessel::Ja, 1);
     EXPECT_THAT(zeilen(*leser), ElementsAre("Nabe"));
+    EXPECT_THAT(zeilen(*engine_->lese(select("Select Distinct Name From Tafel Order By Name"), {}, 1)),
+                ElementsAre("Nabe"));
 }
 
 TEST_P(EngineRows, ATransactionHoldsAllOrNothing)

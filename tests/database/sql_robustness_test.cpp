@@ -16,44 +16,12 @@ using namespace quelvarn::sql;
 
 namespace {
 
-constexpr std::array<std::string_view, 38> BROCKEN{"'",
-                                                   "''",
-                                                   "'''",
-                                                   "\"",
-                                                   "#",
-                                                   "(",
-                                                   ")",
-                                                   ",",
-                                                   ";",
-                                                   "=",
-                                                   "<>",
-                                                   ">=",
-                                                   "*",
-                                                   "[",
-                                                   "]",
-                                                   ".",
-                                                   " ",
-                                                   "  ",
-                                                   "AND",
-                                                   " or ",
-                                                   " Not ",
-                                                   " Like ",
-                                                   " In (",
-                                                   " Between ",
-                                                   "Is Null",
-                                                   " ORDER BY ",
-                                                   " WHERE ",
-                                                   "SELECT ",
-                                                   "DELETE FROM Ini",
-                                                   "Feld1",
-                                                   "Ä_1",
-                                                   "3",
-                                                   "-1.5e2",
-                                                   "11/15/26",
-                                                   "2026-11-15 08:00:00",
-                                                   "\xC3",
-                                                   "; DROP TABLE Ini",
-                                                   "Müller's"};
+// clang-format off
+constexpr std::string_view BROCKEN[]{
+    "'", "''", "'''", "\"", "#", "(", ")", ",", ";", "=", "<>", ">=", "*", "[", "]", ".", " ", "  ", "AND", " or ",
+    " Not ", " Like ", " In (", " Between ", "Is Null", " ORDER BY ", " WHERE ", "SELECT ", "DELETE FROM Ini",
+    "Feld1", "Ä_1", "3", "-1.5e2", "11/15/26", "2026-11-15 08:00:00", "\xC3", "; DROP TABLE Ini", "Müller's"};
+// clang-format on
 
 constexpr std::array<std::string_view, 5> ANWEISUNGEN{
     "SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND (Feld3 = 'A' Or Feld3 = '') ORDER BY Feld4 DESC",
@@ -66,7 +34,7 @@ class Zufall
 {
 public:
     std::size_t bis(std::size_t ende) { return erzeuger_() % ende; }
-    std::string_view brocken() { return BROCKEN[bis(BROCKEN.size())]; }
+    std::string_view brocken() { return BROCKEN[bis(std::size(BROCKEN))]; }
 
     std::string brockenfolge(std::size_t hoechstens)
     {

@@ -3,7 +3,6 @@
 #include "fakes/fake_dateien.h"
 #include "fakes/fake_meldungen.h"
 #include "fakes/fake_world.h"
-#include "platform/fortschritt.h"
 #include "platform/ports.h"
 
 namespace quelvarn {
@@ -24,7 +23,7 @@ struct FakePorts
     FakeProgramme programme;
     FakeZwischenablage zwischenablage;
     FakeStandardanwendung standardanwendung;
-    StilleAnzeige fortschritt;
+    FakeFortschritt fortschritt;
 
     Ports ports() { return portsMit(dateien); }
     // With files of another kind, such as real ones.

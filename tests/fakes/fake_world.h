@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/drucker.h"
+#include "platform/fortschritt.h"
 #include "platform/laufende_programme.h"
 #include "platform/laufwerke.h"
 #include "platform/uhr.h"
@@ -93,6 +94,19 @@ public:
 
     std::vector<std::string> geoeffnet;
     bool startetEtwas = true;
+};
+
+// Gives work up at its next step once it has lost patience.
+class FakeFortschritt final : public Fortschrittsanzeige
+{
+public:
+    void beginne(std::string_view) override { ++begonnen; }
+    bool schritt(std::size_t, std::size_t) override { return geduld; }
+    void beende() override { ++beendet; }
+
+    bool geduld = true;
+    int begonnen = 0;
+    int beendet = 0;
 };
 
 } // namespace quelvarn

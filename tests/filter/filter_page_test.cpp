@@ -18,9 +18,9 @@ protected:
             liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
             liste.Open();
         }
-        dokument("A", {{"Projekt", std::string("P1")}, {"Autor", std::string("Meier")}});
-        dokument("B", {{"Projekt", std::string("P1")}, {"Autor", std::string("Schulz")}});
-        dokument("C", {{"Projekt", std::string("P2")}, {"Autor", std::string("Schulz")}, {"Status", std::int64_t{1}}});
+        dokument("A", {{"Projekt", "P1"}, {"Autor", "Meier"}});
+        dokument("B", {{"Projekt", "P1"}, {"Autor", "Schulz"}});
+        dokument("C", {{"Projekt", "P2"}, {"Autor", "Schulz"}, {"Status", 1}});
         seite_.zurDokumentseite = [this] { ++verlassen_; };
     }
 
@@ -261,11 +261,11 @@ TEST_F(FilterPageTest, TheTemplateIsADrawing)
     for (const Fall& fall : {Fall{"Welle", "W:\\Welle.DFT", true}, Fall{"Rad", "W:\\Rad.par", false},
                              Fall{"Kette", "W:\\Kaputt.dft", false}}) {
         dokument("V", {{"Hauptmerkmal_C", std::string(fall.merkmal)}});
-        zeile("DraftTabelle", {{"DokuBez", std::string("V")},
-                               {"RevBez", std::string("0")},
-                               {"Kategorie", std::string("QV_Vorlage")},
+        zeile("DraftTabelle", {{"DokuBez", "V"},
+                               {"RevBez", "0"},
+                               {"Kategorie", "QV_Vorlage"},
                                {"Hauptmerkmal_C", std::string(fall.merkmal)},
-                               {"Hauptmerkmal_D", std::string()},
+                               {"Hauptmerkmal_D", ""},
                                {"filename", fall.vorlage}});
         neuOeffnen();
         seite_.OpenFilterPage();

@@ -29,16 +29,6 @@ protected:
     Eigenschaftsbereich bereich_{kontext_};
 };
 
-// Gives a piece of work up at its first step.
-class Ungeduldiger final : public Fortschrittsanzeige
-{
-public:
-    void beginne(std::string_view) override {}
-    bool schritt(std::size_t, std::size_t) override { return false; }
-    void beende() override { ++beendet; }
-    int beendet = 0;
-};
-
 } // namespace
 
 TEST_F(Eigenschaften, ListsHoldWhatOccursAndCountIt)
@@ -75,10 +65,10 @@ TEST_F(Eigenschaften, ListsHoldWhatOccursAndCountIt)
 
 TEST_F(Eigenschaften, RunningFilterAndStatusNarrowTheLists)
 {
-    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", std::int64_t{0}}});
-    dokument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", std::int64_t{3}}});
-    dokument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", std::int64_t{4}}});
-    dokument("4", {{"Projekt", "B"}, {"Status", std::int64_t{7}}, {"Geaendert", Zeitpunkt::aus({2026, 11, 3})}});
+    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", 0}});
+    dokument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", 3}});
+    dokument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", 4}});
+    dokument("4", {{"Projekt", "B"}, {"Status", 7}, {"Geaendert", Zeitpunkt::aus({2026, 11, 3})}});
     tabelle().Filter("DokuBez = '1'");
 
     struct Fall
@@ -150,15 +140,11 @@ TEST_F(Eigenschaften, ReadingGivenUpLeavesEmptyListsAndAUsablePage)
 {
     dokument("1", {{"Projekt", "A100"}});
     dokument("2");
-    Ungeduldiger anzeige;
-    Ports ports{ports_.meldungen, ports_.uhr,       ports_.umgebung,       ports_.dateien,           ports_.laufwerke,
-                ports_.drucker,   ports_.programme, ports_.zwischenablage, ports_.standardanwendung, anzeige};
-    Filterkontext kontext{session_, ports, filter_, tabellen_, 0, Filterbereich::Eigenschaften, {}, {}};
-    Eigenschaftsbereich bereich(kontext);
-    bereich.FilterEigenNeu();
-    EXPECT_TRUE(bereich.liste(1).werte.empty());
-    EXPECT_TRUE(bereich.statusVorhanden(5));
-    EXPECT_EQ(anzeige.beendet, 1);
+    welt_.fortschritt.geduld = false;
+    bereich_.FilterEigenNeu();
+    EXPECT_TRUE(bereich_.liste(1).werte.empty());
+    EXPECT_TRUE(bereich_.statusVorhanden(5));
+    EXPECT_EQ(welt_.fortschritt.beendet, 1);
     EXPECT_EQ(gezeigt(), "1 2");
 }
 

@@ -183,11 +183,11 @@ TEST_F(GespeicherteFilterTest, AFilterInUseReplacesTheOneBefore)
 TEST_F(GespeicherteFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer)
 {
     for (const char* anwender : {"Mueller", "Huber"})
-        zeile("Ini", {{"Feld1", std::string(anwender)},
-                      {"Feld2", std::string("Filterwerte")},
-                      {"Feld3", std::string("Part")},
-                      {"Feld4", std::string("Alt")},
-                      {"Feld5", std::string("\\100000\\\\Status|")}});
+        zeile("Ini", {{"Feld1", anwender},
+                      {"Feld2", "Filterwerte"},
+                      {"Feld3", "Part"},
+                      {"Feld4", "Alt"},
+                      {"Feld5", "\\100000\\\\Status|"}});
     schritt("Projekt", "Halle 'Ost'");
     ASSERT_TRUE(speichereFilter(kontext_, "Meier's"));
     speichereFilterlisten(session_, welt_.meldungen);

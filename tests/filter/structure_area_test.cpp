@@ -22,7 +22,7 @@ protected:
         teil("3", {"Welle", "kurz", "", "", ""}, "C45", "Ober", 0);
         teil("4", {"Rohr", "kurz", "", "", ""}, "V2A", "Ulm", 7);
         teil("5", {"Bob's", "5'' Zoll", "", "", ""}, "Alu", "", 1);
-        zeile("PartTabelle", {{"DokuBez", std::string("6")}});
+        zeile("PartTabelle", {{"DokuBez", "6"}});
         bereich_.zuruecksetzen();
     }
 
@@ -228,8 +228,7 @@ TEST_F(Strukturmerkmale, AFaultShowsTheBoxesOfItsLevelAndChangesNothing)
 TEST_F(Strukturmerkmale, TheMostExactTemplateIsFoundFirst)
 {
     const auto vorlage = [&](const char* name, const Werte& merkmale) {
-        std::vector<sql::Zuweisung> werte{
-            {"DokuBez", std::string(name)}, {"filename", std::string(name)}, {"Kategorie", std::string("QV_Vorlage")}};
+        std::vector<sql::Zuweisung> werte{{"DokuBez", name}, {"filename", name}, {"Kategorie", "QV_Vorlage"}};
         for (const char* leer : {"Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F", "Hauptmerkmal_G"})
             werte.push_back({leer, std::string()});
         for (const auto& [spalte, wert] : merkmale) {

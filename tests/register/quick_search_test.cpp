@@ -112,28 +112,19 @@ TEST_F(QuickSearchTest, ReadingAColumnCanBeGivenUp)
         dokument(2, "B-" + std::to_string(10000 + i));
     engine_->schliesseAb();
     page_.tabGewaehlt(2);
-    struct Ungeduld : Fortschrittsanzeige
-    {
-        void beginne(std::string_view) override { ++angefangen; }
-        bool schritt(std::size_t, std::size_t) override { return geduld; }
-        void beende() override {}
-        int angefangen = 0;
-        bool geduld = false;
-    } ungeduld;
-    Ports ports{ports_.meldungen, ports_.uhr,       ports_.umgebung,       ports_.dateien,           ports_.laufwerke,
-                ports_.drucker,   ports_.programme, ports_.zwischenablage, ports_.standardanwendung, ungeduld};
-    Schnellsuche search(session_, ports, page_);
-    search.setzeFeld(2);
-    search.setzeSuchtext("W:\\Teile\\B-12");
-    search.setzeBeimTippen(true);
-    EXPECT_FALSE(search.beimTippen());
+    welt_.fortschritt = {};
+    welt_.fortschritt.geduld = false;
+    search_.setzeFeld(2);
+    search_.setzeSuchtext("W:\\Teile\\B-12");
+    search_.setzeBeimTippen(true);
+    EXPECT_FALSE(search_.beimTippen());
     EXPECT_EQ(current(), "B-10000/0");
-    ungeduld.geduld = true;
-    search.setzeBeimTippen(true);
-    EXPECT_TRUE(search.beimTippen());
+    welt_.fortschritt.geduld = true;
+    search_.setzeBeimTippen(true);
+    EXPECT_TRUE(search_.beimTippen());
     EXPECT_EQ(current(), "B-12000/0");
-    search.tippe("W:\\Teile\\B-125");
-    EXPECT_EQ(ungeduld.angefangen, 2) << "a column is read once";
+    search_.tippe("W:\\Teile\\B-125");
+    EXPECT_EQ(welt_.fortschritt.begonnen, 2) << "a column is read once";
 }
 
 } // namespace
