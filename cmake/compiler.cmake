@@ -9,10 +9,12 @@ if(CCACHE_PROGRAM)
 endif()
 
 if(MSVC)
-  add_compile_options(/W4 /utf-8 /permissive-)
+  # Sources and texts are UTF-8; __cplusplus tells the standard in force; large tables make large object files.
+  set(compiler_options /W4 /utf-8 /permissive- /Zc:__cplusplus /bigobj)
 else()
-  add_compile_options(-Wall -Wextra -Wpedantic -Wno-missing-field-initializers)
+  set(compiler_options -Wall -Wextra -Wpedantic -Wno-missing-field-initializers)
 endif()
+add_compile_options("$<$<COMPILE_LANGUAGE:C,CXX>:${compiler_options}>") # The resource compiler knows none of them.
 
 if(WIN32)
   # Windows 10, wide calls.
