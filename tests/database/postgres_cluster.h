@@ -182,8 +182,14 @@ private:
     pid_t server_ = 0;
     int zaehler_ = 0;
 #else
-    std::string neueDatenbank() { throw std::runtime_error("no server"); }
-    std::string psql(const std::string&, const std::string&) const { throw std::runtime_error("no server"); }
+    std::string neueDatenbank()
+    {
+        throw std::runtime_error("no server");
+    }
+    std::string psql(const std::string&, const std::string&) const
+    {
+        throw std::runtime_error("no server");
+    }
 #endif
 };
 
