@@ -86,7 +86,7 @@ TEST_P(EngineOdbc, ANewRowIsWrittenAgainByItsKey)
     Recordset rs;
     rs.Open("Select * From Tafel Order By Wort", verbindung, CursorTyp::Statisch, SperrTyp::Optimistisch);
     rs.AddNew();
-    rs.setzeFeld("Wort", std::string("neu"));
+    rs.setzeFeld("Wort", "neu");
     rs.Update();
     for (std::int64_t nummer = 7; nummer < 10; ++nummer) {
         rs.setzeFeld("Nr", nummer);

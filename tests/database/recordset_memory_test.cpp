@@ -21,7 +21,7 @@ Recordset recordsetMit(const std::vector<std::pair<std::string, int>>& zeilen)
     for (const auto& [name, nr] : zeilen) {
         rs.AddNew();
         rs.setzeFeld("Name", name);
-        rs.setzeFeld("Nr", std::int64_t{nr});
+        rs.setzeFeld("Nr", nr);
         rs.Update();
     }
     if (!rs.leer())
@@ -81,7 +81,7 @@ TEST_P(RecordsetCursor, StandsWhereAdoWouldStand)
             rs.Delete();
         else {
             rs.AddNew();
-            rs.setzeFeld("NAME", std::string("N"));
+            rs.setzeFeld("NAME", "N");
         }
     }
     EXPECT_EQ(stelle(rs), GetParam().stelle);
@@ -114,7 +114,7 @@ TEST(Recordset, RefusesWhatThereIsNoRowOrFieldFor)
         {3021, [&] { leer().bookmark(); }},
         {3704, [&] { Recordset().MoveFirst(); }},
         {3704, [&] { Recordset().AddNew(); }},
-        {-2147217913, [&] { rs.setzeFeld("Nr", std::string("abc")); }},
+        {-2147217913, [&] { rs.setzeFeld("Nr", "abc"); }},
     };
     for (std::size_t i = 0; i < faelle.size(); ++i)
         EXPECT_EQ(fehlernummer(faelle[i].second), faelle[i].first) << "case " << i;
@@ -129,8 +129,8 @@ TEST(Recordset, TakesValuesAsTheTypeOfTheirField)
     auto rs = recordsetMit({});
     rs.AddNew();
     EXPECT_TRUE(istNull(rs.Feld("Nr")));
-    rs.setzeFeld("Nr", std::string("12"));
-    rs.setzeFeld("Wert", std::string("1,5"));
+    rs.setzeFeld("Nr", "12");
+    rs.setzeFeld("Wert", "1,5");
     rs.setzeFeld("Name", 2.25);
     EXPECT_EQ(rs.Feld("nr"), Value(std::int64_t{12}));
     rs.Update();
@@ -148,13 +148,13 @@ TEST(Recordset, TakesValuesAsTheTypeOfTheirField)
 TEST(Recordset, CancelUpdateForgetsAndAMoveKeepsWhatWasSet)
 {
     auto rs = recordsetMit({{"A", 1}, {"B", 2}});
-    rs.setzeFeld("Name", std::string("X"));
+    rs.setzeFeld("Name", "X");
     rs.CancelUpdate();
     EXPECT_EQ(rs.Text("Name"), "A");
     rs.AddNew();
     rs.CancelUpdate();
     EXPECT_THAT(namen(rs), ElementsAre("A", "B"));
-    rs.setzeFeld("Name", std::string("X"));
+    rs.setzeFeld("Name", "X");
     rs.MoveNext();
     EXPECT_THAT(namen(rs), ElementsAre("X", "B"));
 }
@@ -188,7 +188,7 @@ TEST(Recordset, SortsAsTheDatabaseDoesNullFirstAndStable)
 {
     auto rs = recordsetMit({{"b", 1}, {"Ä", 2}, {"a", 1}, {"B ", 2}, {"z", 2}});
     rs.AddNew();
-    rs.setzeFeld("Nr", std::int64_t{2});
+    rs.setzeFeld("Nr", 2);
     rs.Update();
     rs.Sort("Name");
     EXPECT_THAT(namen(rs), ElementsAre("", "a", "Ä", "b", "B ", "z"));
@@ -199,7 +199,7 @@ TEST(Recordset, SortsAsTheDatabaseDoesNullFirstAndStable)
     rs.Filter("Nr = 2");
     EXPECT_THAT(namen(rs), ElementsAre("z", "B ", "Ä", ""));
     rs.AddNew();
-    rs.setzeFeld("Name", std::string("neu"));
+    rs.setzeFeld("Name", "neu");
     rs.Update();
     EXPECT_THAT(namen(rs), ElementsAre("z", "B ", "Ä", "", "neu"));
     rs.Sort("Wert");

@@ -110,10 +110,6 @@ TEST_F(FavouritesTest, RowsAreDeletedInTheListAndInTheTable)
     EXPECT_EQ(stored(), "Meier|Part|A|0\nMueller|Part|Neu|0\n");
 }
 
-const char* const FILTER_TITLE = "Filterung der Tabelle 'Bauteile' aufheben?";
-const char* const FILTER_TEXT = "ACHTUNG: Tabelle 'Bauteile' ist gefiltert!\n"
-                                "Das zugehörige Dokument kann eventuell nicht angezeigt werden.\n"
-                                "Soll der Filter aufgehoben werden?";
 const char* const GONE = "Datei ist in der Tabelle nicht vorhanden!\nes ist ein <Neuaufbau> erforderlich.\noder\n"
                          "Sie haben keine Zugriffsberechtigung!\noder\nTabelle ist gefiltert!";
 
@@ -165,11 +161,10 @@ TEST_F(FavouritesTest, AFilterIsLiftedWhenTheUserAgrees)
     for (const auto& c : cases) {
         page_.tabGewaehlt(0);
         page_.neuaufbauen();
-        page_.filterTabelle(0).tabelle.Filter("DokuBez = 'B'");
-        page_.filterTabelle(0).zustand = Gefiltert;
+        filtere(0, "DokuBez = 'B'");
         page_.filterGewechselt(0);
         favourites_.FavoritenZeigen(true);
-        welt_.meldungen.erwarte(FILTER_TITLE, FILTER_TEXT, c.answer);
+        erwarteFilterfrage(0, c.answer);
         if (c.box)
             welt_.meldungen.erwarte("Favoriten", GONE);
         favourites_.FavoritAuswaehlen(c.favourite[0] == 'A' ? 0 : 1);

@@ -22,23 +22,9 @@ protected:
         const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
         return tab == 3 ? sprung_.ZeichnungZeigen(pfad(datei)) : sprung_.ZuDokumentWechseln(typ, pfad(datei));
     }
-    void filtere(int tab, const std::string& filter)
-    {
-        page_.filterTabelle(tab).tabelle.Filter(filter);
-        page_.seite(tab).zustand = Gefiltert;
-    }
     static std::string dateiVon(int tab, const std::string& name)
     {
         return name + (tab == 2 ? "_0.asm" : tab == 3 ? "_0.dft" : "_0.par");
-    }
-    void fragtFilter(int tab, Antwort antwort)
-    {
-        const std::string name = session_.mehrzahl(tab);
-        welt_.meldungen.erwarte("Filterung der Tabelle '" + name + "' aufheben?",
-                                "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
-                                    (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +
-                                    " kann eventuell nicht angezeigt werden.\nSoll der Filter aufgehoben werden?",
-                                antwort);
     }
     void fragtNeuaufbau(int tab, Antwort antwort)
     {
@@ -69,17 +55,17 @@ TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
 {
     for (const int tab : {2, 3, 6}) {
         filtere(tab, "DokuBez = 'B'");
-        fragtFilter(tab, Antwort::Nein);
+        erwarteFilterfrage(tab, Antwort::Nein);
         EXPECT_TRUE(springe(tab, dateiVon(tab, "B")));
         EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
 
         page_.tabGewaehlt(0);
-        fragtFilter(tab, Antwort::Nein); // Kept, and it hides the document.
+        erwarteFilterfrage(tab, Antwort::Nein); // Kept, and it hides the document.
         fragtNeuaufbau(tab, Antwort::Nein);
         EXPECT_FALSE(springe(tab, dateiVon(tab, "C")));
         EXPECT_EQ(ort(), std::to_string(tab) + "B") << "the place in the table is kept";
 
-        fragtFilter(tab, Antwort::Ja);
+        erwarteFilterfrage(tab, Antwort::Ja);
         EXPECT_TRUE(springe(tab, dateiVon(tab, "C")));
         EXPECT_EQ(ort(), std::to_string(tab) + "C");
         EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
@@ -129,16 +115,12 @@ TEST_F(JumpTest, ADoubleClickOpensTheDocumentWhenItWasFound)
     int bearbeitet = 0;
     page_.bearbeiten = [&] { ++bearbeitet; };
     for (const char* teil : {"A_0.par", "S_0.par"})
-        zeile("ZusBauPart",
-              {{"AssembDokuBez", std::string("A")}, {"AssembRevBez", std::string("0")}, {"Part", pfad(teil)}});
+        zeile("ZusBauPart", {{"AssembDokuBez", "A"}, {"AssembRevBez", "0"}, {"Part", pfad(teil)}});
     dokument(6, "S");
     Verwendungsseite& usage = page_.verwendung();
     zeigeDokument(2, "A");
     page_.knotenGewaehlt("Besteht aus");
-    welt_.meldungen.erwarte("Im Verzeichnis nicht vorhanden",
-                            "Die Datei\n" + pfad("A_0.par") +
-                                "\nist im Verzeichnis nicht vorhanden!\nMögliche Ursache:\n"
-                                "- Falscher Pfad- und/oder Dateiname.\n- Datei wurde im Verzeichnis gelöscht.");
+    welt_.meldungen.erwarte("Im Verzeichnis nicht vorhanden", dateiFehlt(pfad("A_0.par")));
     usage.geoeffnet();
     welt_.dateien.legeAn(pfad("A_0.par"));
     welt_.dateien.legeAn(pfad("S_0.par"));

@@ -42,7 +42,7 @@ TEST_F(PagesTest, GeneralPageShowsTheRow)
 {
     zeile("PartTabelle", {{"DokuBez", "P-1"},
                           {"filename", "W:\\Teile\\P-1.par"},
-                          {"Status", std::int64_t{4}},
+                          {"Status", 4},
                           {"Erstellt", Zeitpunkt::aus({2004, 2, 9, 7, 5, 0})}});
     page_.tabGewaehlt(0);
     const AllgemeineSeite& seite = page_.allgemein();

@@ -20,15 +20,15 @@ protected:
                   const char* editor)
     {
         const Zeitpunkt erstellt = Zeitpunkt::aus(made);
-        zeile("PartTabelle", {{"DokuBez", std::string(name)},
-                              {"RevBez", std::string("0")},
-                              {"Dateiname", std::string(file)},
+        zeile("PartTabelle", {{"DokuBez", name},
+                              {"RevBez", "0"},
+                              {"Dateiname", file},
                               {"filename", pfad(file)},
-                              {"Status", std::int64_t{status}},
+                              {"Status", status},
                               {"Erstellt", erstellt},
                               {"Geaendert", erstellt.plusTage(3)},
-                              {"Autor", std::string(author)},
-                              {"Bearbeiter", std::string(editor)}});
+                              {"Autor", author},
+                              {"Bearbeiter", editor}});
     }
 
     void filterText(const char* text, std::size_t field, Suchverfahren place)

@@ -23,7 +23,7 @@ protected:
                                               {"RevBez", RevBez},
                                               {"Dateiname", name},
                                               {"filename", pfad(name)},
-                                              {"Status", std::int64_t{status}}});
+                                              {"Status", status}});
     }
 
     void zeigeDokument(int tab, const std::string& DokuBez, const std::string& RevBez = "0")
@@ -37,6 +37,28 @@ protected:
             ++i;
         page_.zeileGewaehlt(i);
         ASSERT_EQ(session_.AktDoku.DokuBez, DokuBez);
+    }
+
+    void erwarteFilterfrage(int tab, Antwort antwort)
+    {
+        const std::string name = session_.mehrzahl(tab);
+        welt_.meldungen.erwarte("Filterung der Tabelle '" + name + "' aufheben?",
+                                "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
+                                    (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +
+                                    " kann eventuell nicht angezeigt werden.\nSoll der Filter aufgehoben werden?",
+                                antwort);
+    }
+    static std::string dateiFehlt(const std::string& pfad)
+    {
+        return "Die Datei\n" + pfad +
+               "\nist im Verzeichnis nicht vorhanden!\nMögliche Ursache:\n"
+               "- Falscher Pfad- und/oder Dateiname.\n- Datei wurde im Verzeichnis gelöscht.";
+    }
+    // As a filter run leaves the table.
+    void filtere(int tab, const std::string& filter)
+    {
+        page_.filterTabelle(tab).tabelle.Filter(filter);
+        page_.seite(tab).zustand = Gefiltert;
     }
 
     // The grid's first two columns, from the top.

@@ -51,11 +51,6 @@ TEST_F(TopBarTest, APathFromTheClipboardLeadsToItsTable)
 
 TEST_F(TopBarTest, WhatIsNoDocumentOfATableGetsItsBox)
 {
-    const auto missing = [](const std::string& path) {
-        return "Die Datei\n" + path +
-               "\nist im Verzeichnis nicht vorhanden!\nMögliche Ursache:\n"
-               "- Falscher Pfad- und/oder Dateiname.\n- Datei wurde im Verzeichnis gelöscht.";
-    };
     for (const char* name : {"neu.par", "neu.dft", "neu.txt", "neu.par.bak"})
         welt_.dateien.legeAn(pfad(name));
     const struct
@@ -66,8 +61,8 @@ TEST_F(TopBarTest, WhatIsNoDocumentOfATableGetsItsBox)
         int tab; // Afterwards.
     } cases[] = {
         {"", "SE-Doku: Zwischenspeicher", "Der Zwischenspeicher ist leer!", 1},
-        {"Hallo\nWelt", "Im Verzeichnis nicht vorhanden", missing("Hallo\nWelt"), 1},
-        {pfad("weg.par") + "\n\n\n", "Im Verzeichnis nicht vorhanden", missing(pfad("weg.par") + "\n"), 1},
+        {"Hallo\nWelt", "Im Verzeichnis nicht vorhanden", dateiFehlt("Hallo\nWelt"), 1},
+        {pfad("weg.par") + "\n\n\n", "Im Verzeichnis nicht vorhanden", dateiFehlt(pfad("weg.par") + "\n"), 1},
         {pfad("neu.txt"), "File-Endung", "File-Endung txt ist nicht zulässig!", 1},
         {pfad("neu.par"), "Suchergebnis",
          notFound(pfad("neu.par"), "\noder\nist Bestandteil der Sondertabellen!\n(z.B. Normteile)"), 0},
@@ -86,14 +81,9 @@ TEST_F(TopBarTest, AFilteredTableIsAskedAbout)
     present(0, "A");
     present(0, "B");
     for (const Antwort answer : {Antwort::Nein, Antwort::Ja}) {
-        page_.filterTabelle(0).tabelle.Filter("DokuBez = 'A'");
-        page_.filterTabelle(0).zustand = Gefiltert;
+        filtere(0, "DokuBez = 'A'");
         page_.tabGewaehlt(1);
-        welt_.meldungen.erwarte("Filterung der Tabelle 'Bauteile' aufheben?",
-                                "ACHTUNG: Tabelle 'Bauteile' ist gefiltert!\n"
-                                "Das zugehörige Dokument kann eventuell nicht angezeigt werden.\n"
-                                "Soll der Filter aufgehoben werden?",
-                                answer);
+        erwarteFilterfrage(0, answer);
         if (answer == Antwort::Nein)
             welt_.meldungen.antworte();
         paste(pfad("B_0.par"));

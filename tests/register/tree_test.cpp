@@ -18,7 +18,7 @@ protected:
                             {"RevBez", "b"},
                             {"Dateiname", "D_b." + endung},
                             {"filename", datei},
-                            {"Status", std::int64_t{3}},
+                            {"Status", 3},
                             {"Hauptmerkmal_B", "Welle"},
                             {"Kommentar", "gehärtet"}});
         dokument(tab, "D", "c");

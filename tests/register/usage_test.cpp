@@ -14,7 +14,7 @@ protected:
         const auto verbinde = [&](const char* tabelle, const char* spalte, const std::string& baugruppe,
                                   const std::string& datei) {
             zeile(tabelle, {{"AssembDokuBez", baugruppe},
-                            {"AssembRevBez", std::string("0")},
+                            {"AssembRevBez", "0"},
                             {"AssembDateiname", baugruppe + "_0.asm"},
                             {"Assembfilename", pfad(baugruppe + "_0.asm")},
                             {spalte, pfad(datei)}});
@@ -33,17 +33,17 @@ protected:
         verbinde("ZusBauPart", "Part", "G", "fehlt.stp");
         verbinde("ZusBauPart", "Part", "U", "P1_0.par");
         verbinde("ZusBauSubAss", "Subassembly", "G", "U_0.asm");
-        zeile("VerbindungDraftPart", {{"DokuBezDraft", std::string("Z")},
-                                      {"RevBezDraft", std::string("0")},
-                                      {"DateinameDraft", std::string("Z_0.dft")},
+        zeile("VerbindungDraftPart", {{"DokuBezDraft", "Z"},
+                                      {"RevBezDraft", "0"},
+                                      {"DateinameDraft", "Z_0.dft"},
                                       {"filenameDraft", pfad("Z_0.dft")},
-                                      {"DateinameAssembPart", std::string("P1_0.par")},
+                                      {"DateinameAssembPart", "P1_0.par"},
                                       {"PfadAssembPart", pfad("P1_0.par")}});
-        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", std::string("S")},
-                                       {"RevBezWeld", std::string("0")},
-                                       {"DateinameWeld", std::string("S_0.pwd")},
+        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", "S"},
+                                       {"RevBezWeld", "0"},
+                                       {"DateinameWeld", "S_0.pwd"},
                                        {"filenameWeld", pfad("S_0.pwd")},
-                                       {"DateinameAssemb", std::string("U_0.asm")},
+                                       {"DateinameAssemb", "U_0.asm"},
                                        {"PfadAssemb", pfad("U_0.asm")}});
     }
 

@@ -3,14 +3,10 @@
 #include "register/document_page.h"
 #include "register/left_bar.h"
 #include "register/top_bar.h"
-#include "session/main_window.h"
-#include "session/start_page.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/document_page/form_se_doku.h"
 #include "ui/guard.h"
-#include "ui/start_page/form_db.h"
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QTabWidget>
 #include <QTableView>
@@ -108,29 +104,6 @@ TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
     QTest::keyClick(&seite, Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(modell.tab(), 0);
     EXPECT_TRUE(gitter.hasFocus());
-}
-
-TEST_F(SeitenTest, FormDBShowsTheSwitchesAndSetsThem)
-{
-    MainWindow rahmen(session_, ports_, {});
-    StartPage modell(session_, ports_, rahmen);
-    FormDB seite(modell, new QWidget);
-    seite.show();
-    session_.Tree.Verwendung = false;
-    session_.OfflineTool = "Druvik";
-    int operationen = 0;
-    modell.geaendert = [&] { ++operationen; };
-    seite.zeigen();
-    EXPECT_EQ(operationen, 0);
-    EXPECT_TRUE(finde<QAbstractButton>(seite, "ChInfoPrio1(0)").isChecked());
-    EXPECT_FALSE(finde<QAbstractButton>(seite, "ChInfoPrio1(1)").isChecked());
-    EXPECT_TRUE(finde<QAbstractButton>(seite, "OpOfflinePlot(0)").isChecked());
-
-    finde<QAbstractButton>(seite, "ChInfoPrio2(5)").click();
-    EXPECT_FALSE(session_.Tree.Versendet);
-    finde<QAbstractButton>(seite, "OpOfflinePlot(1)").click();
-    EXPECT_EQ(session_.OfflineTool, "Talvik");
-    EXPECT_EQ(operationen, 2);
 }
 
 } // namespace
