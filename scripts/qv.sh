@@ -69,26 +69,39 @@ command_run() {
   exec build/release/bin/quelvarn
 }
 
-# SQLite for the cross build, for which there is no library: its one big source, from a package that carries it.
-SQLITE_PACKAGE=better-sqlite3@12.11.1
-fetch_sqlite() { # into build/sqlite
-  [[ -e build/sqlite/sqlite3.c && -e build/sqlite/sqlite3.h ]] && return
+# What the cross build finds nowhere else, from packages that carry it: the one big source of SQLite, and PostgreSQL's
+# client library with those it needs.
+CROSS_PACKAGES=(better-sqlite3@12.11.1 @embedded-postgres/windows-x64@15.18.0-beta.17)
+CROSS_SQLITE=(deps/sqlite3/sqlite3.c deps/sqlite3/sqlite3.h)
+CROSS_LIBPQ=(native/bin/{libpq,libssl-3-x64,libcrypto-3-x64,libintl-9,libiconv-2,libwinpthread-1,zlib1}.dll)
+
+unpack() { # folder archive files
+  local folder="$1" archive="$2"
+  shift 2
+  mkdir -p "$folder"
+  tar -xzf "$archive" -C "$folder" --transform 's,.*/,,' "${@/#/package/}"
+}
+
+fetch_cross_libraries() { # into build/sqlite and build/libpq
+  [[ -e build/sqlite/sqlite3.h && -e build/libpq/libpq.dll ]] && return
   command -v npm >/dev/null || need npm
-  say "Fetching the source of SQLite ..."
-  npm install --prefix build/npm --ignore-scripts --no-audit --no-fund --loglevel=error "$SQLITE_PACKAGE" >/dev/null
-  mkdir -p build/sqlite
-  cp build/npm/node_modules/better-sqlite3/deps/sqlite3/sqlite3.[ch] build/sqlite/
+  say "Fetching SQLite and PostgreSQL's client library for Windows ..."
+  mkdir -p build/npm
+  npm pack --silent --pack-destination build/npm "${CROSS_PACKAGES[@]}" >/dev/null
+  unpack build/sqlite build/npm/better-sqlite3-*.tgz "${CROSS_SQLITE[@]}"
+  unpack build/libpq build/npm/embedded-postgres-*.tgz "${CROSS_LIBPQ[@]}"
+  rm -r build/npm
 }
 
 # The core for Windows, built here and run under Wine.
 test_windows() { # [ctest options]
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
-  fetch_sqlite
+  fetch_cross_libraries
   scripts/wine_prefix.sh
   configure windows
   build windows
   local status=0
-  ctest --preset windows -j "$JOBS" "$@" || status=$?
+  scripts/with_postgres.sh ctest --preset windows -j "$JOBS" "$@" || status=$?
   scripts/wine_prefix.sh stop
   return "$status"
 }

@@ -1,12 +1,18 @@
 # Answers find_package() in the cross build, for which no distribution has libraries: those that can be are built from
 # the sources or headers that lie on this machine. Anything else is looked for as usual.
 
-function(quelvarn_cross_headers name folder) # header-only library
-  # Never the whole include folder of this machine: its other headers are not meant for Windows.
+# Makes a header, or a folder of them, of this machine known to the target: never its whole include folder, whose other
+# headers are not meant for Windows.
+function(quelvarn_cross_header target path)
+  cmake_path(GET path FILENAME name)
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/include)
-  file(CREATE_LINK /usr/include/${folder} ${CMAKE_BINARY_DIR}/include/${folder} SYMBOLIC)
+  file(CREATE_LINK /usr/include/${path} ${CMAKE_BINARY_DIR}/include/${name} SYMBOLIC)
+  target_include_directories(${target} INTERFACE ${CMAKE_BINARY_DIR}/include)
+endfunction()
+
+function(quelvarn_cross_headers name folder) # header-only library
   add_library(${name} INTERFACE IMPORTED GLOBAL)
-  target_include_directories(${name} INTERFACE ${CMAKE_BINARY_DIR}/include)
+  quelvarn_cross_header(${name} ${folder})
 endfunction()
 
 function(quelvarn_cross_sqlite)
@@ -15,6 +21,18 @@ function(quelvarn_cross_sqlite)
   target_include_directories(sqlite_amalgamation PUBLIC ${QUELVARN_SQLITE_SOURCE})
   target_compile_options(sqlite_amalgamation PRIVATE -w -O1)
   add_library(SQLite::SQLite3 ALIAS sqlite_amalgamation)
+endfunction()
+
+function(quelvarn_cross_postgresql)
+  add_library(PostgreSQL::PostgreSQL UNKNOWN IMPORTED GLOBAL)
+  # The linker takes a DLL for its own import library.
+  set_target_properties(PostgreSQL::PostgreSQL PROPERTIES IMPORTED_LOCATION ${QUELVARN_LIBPQ}/libpq.dll)
+  foreach(header libpq-fe.h postgres_ext.h pg_config_ext.h)
+    quelvarn_cross_header(PostgreSQL::PostgreSQL postgresql/${header})
+  endforeach()
+  # Programs look for their DLLs beside themselves.
+  file(GLOB dlls ${QUELVARN_LIBPQ}/*.dll)
+  file(COPY ${dlls} DESTINATION ${CMAKE_BINARY_DIR}/bin)
 endfunction()
 
 macro(quelvarn_cross_library method name)
@@ -34,6 +52,15 @@ macro(quelvarn_cross_library method name)
       quelvarn_cross_sqlite()
     endif()
     set(SQLite3_FOUND TRUE)
+  elseif("${name}" STREQUAL "PostgreSQL")
+    set(QUELVARN_LIBPQ "" CACHE PATH "Folder with libpq.dll and the DLLs it needs; without it there is no PostgreSQL")
+    set(PostgreSQL_FOUND FALSE)
+    if(EXISTS ${QUELVARN_LIBPQ}/libpq.dll)
+      if(NOT TARGET PostgreSQL::PostgreSQL)
+        quelvarn_cross_postgresql()
+      endif()
+      set(PostgreSQL_FOUND TRUE)
+    endif()
   elseif("${name}" STREQUAL "ODBC")
     if(NOT TARGET ODBC::ODBC)
       add_library(ODBC::ODBC INTERFACE IMPORTED GLOBAL)

@@ -50,7 +50,7 @@ TEST_P(EnginePostgres, ServerFunctionsGiveWhatTheProgramGives)
 {
     const std::vector<Value> worte = pruefworte();
     fuelleWorte(worte);
-    const std::string ausgabe = PostgresCluster::find()->psql(
+    const std::string ausgabe = PostgresCluster::find()->frage(
         adresse_, "SELECT encode(convert_to(qv_key(\"Wort\"), 'UTF8'), 'hex'), "
                   "encode(convert_to(qv_fold(\"Wort\"), 'UTF8'), 'hex') FROM \"Tafel\" ORDER BY qv_id");
     const std::vector<std::string> zeilen = split(ausgabe, '\n');

@@ -3,17 +3,15 @@
 #include "database/create.h"
 #include "database/engine.h"
 
-#include <cstdlib>
+#ifndef QUELVARN_NO_ODBC
+#include "database/odbc/api.h"
+#endif
+
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
-
-#if __has_include(<sqlite3.h>)
-#include "database/sqlite/functions.h"
-
-#include <sqlite3.h>
-#endif
+#include <vector>
 
 namespace quelvarn::test {
 
@@ -28,30 +26,20 @@ namespace quelvarn::test {
 inline constexpr std::string_view ODBC_TREIBER_SQLITE = "SQLite3";
 inline constexpr std::string_view ODBC_TREIBER_POSTGRES = "PostgreSQL Unicode";
 inline constexpr std::string_view ODBC_TREIBER_MDB = "MDBTools";
+inline constexpr std::string_view ODBC_TREIBER_ACCESS = "Microsoft Access Driver (*.mdb, *.accdb)";
 
-// Whether odbcinst.ini lists the driver, and the program was built with ODBC.
-inline bool hatOdbcTreiber(std::string_view name)
+// Whether the driver is installed, and the program was built with ODBC.
+inline bool hatOdbcTreiber([[maybe_unused]] std::string_view name)
 {
 #ifdef QUELVARN_NO_ODBC
     return false;
+#else
+    static const std::vector<std::string> vorhandene = odbc::Umgebung().treiber();
+    return std::ranges::find(vorhandene, name) != vorhandene.end();
 #endif
-    std::ifstream liste("/etc/odbcinst.ini");
-    for (std::string zeile; std::getline(liste, zeile);)
-        if (zeile == "[" + std::string(name) + "]")
-            return true;
-    return false;
 }
 
-#if __has_include(<sqlite3.h>)
-inline int richteSqliteEin(sqlite3* datenbank, char**, const void*)
-{
-    sqlite::registriereFunktionen(datenbank);
-    return SQLITE_OK;
-}
-#endif
-
-// Why the tests over this driver cannot run, or "". The driver knows neither the order of our texts in SQLite nor the
-// functions that a PostgreSQL database of ours has: here they get both.
+// Why the tests over this driver cannot run, or "". The functions that a PostgreSQL database of ours has are made here.
 inline std::string bereiteOdbcVor(bool postgres, const std::string& adresse)
 {
     if (!hatOdbcTreiber(postgres ? ODBC_TREIBER_POSTGRES : ODBC_TREIBER_SQLITE))
@@ -60,19 +48,25 @@ inline std::string bereiteOdbcVor(bool postgres, const std::string& adresse)
         const auto engine = oeffnePostgres(adresse);
         engine->legeTabelleAn({"Anlass", {{"x"}}, {}});
         engine->entferneTabelle("Anlass");
-        return {};
     }
-#if __has_include(<sqlite3.h>)
-    sqlite3_auto_extension(reinterpret_cast<void (*)()>(richteSqliteEin)); // Once, however often it is called.
     return {};
-#else
-    return "the library of SQLite is not installed";
-#endif
 }
 
+// As a driver takes it: those that Wine lends its programs are Linux programs.
+#ifdef _WIN32
+std::string treiberPfad(const std::filesystem::path& pfad);
+#else
+inline std::string treiberPfad(const std::filesystem::path& pfad)
+{
+    return pfad.string();
+}
+#endif
+
+// With the module that teaches the driver the order of our texts.
 inline std::string odbcText(const std::filesystem::path& sqliteDatei)
 {
-    return "DRIVER={" + std::string(ODBC_TREIBER_SQLITE) + "};Database=" + sqliteDatei.string() + ";Timeout=60000";
+    return "DRIVER={" + std::string(ODBC_TREIBER_SQLITE) + "};Database=" + treiberPfad(sqliteDatei) +
+           ";Timeout=60000;LoadExt=" QUELVARN_SQLITE_MODULE;
 }
 
 // From the address that PostgresCluster gives.
@@ -83,7 +77,7 @@ inline std::string odbcText(const std::string& adresse)
         return adresse.substr(anfang, adresse.find(nach, anfang) - anfang);
     };
     return "DRIVER={" + std::string(ODBC_TREIBER_POSTGRES) + "};Servername=" + zwischen("host=", "&") +
-           ";Database=" + zwischen("postgresql:///", "?") + ";Uid=quelvarn";
+           ";Port=" + zwischen("port=", "&") + ";Database=" + zwischen("postgresql:///", "?") + ";Uid=quelvarn";
 }
 
 } // namespace quelvarn::test
