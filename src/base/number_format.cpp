@@ -6,6 +6,7 @@
 #include <cmath>
 #include <fmt/format.h>
 #include <limits>
+#include <system_error>
 
 namespace quelvarn {
 namespace {

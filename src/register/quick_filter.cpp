@@ -31,8 +31,8 @@ constexpr std::array<Datumsfeld, 2> DATUMSFELDER{{
 
 Filterwert zeileFuerText(const FilterSchritt& schritt)
 {
-    const auto* feld = std::find_if(SUCHFELDER.begin(), SUCHFELDER.end(),
-                                    [&](const Suchfeld& kandidat) { return kandidat.feld == schritt.Feldname; });
+    const auto feld = std::find_if(SUCHFELDER.begin(), SUCHFELDER.end(),
+                                   [&](const Suchfeld& kandidat) { return kandidat.feld == schritt.Feldname; });
     return {"DokubezDateiFile", std::string(feld->benennung), schritt.Wert};
 }
 

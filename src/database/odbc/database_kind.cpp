@@ -40,7 +40,7 @@ std::string_view deklaration(const Datenbankart& art, FeldTyp typ)
 
 const Datenbankart& datenbankartOf(std::string_view kennung)
 {
-    const auto* treffer = std::ranges::find_if(
+    const auto treffer = std::ranges::find_if(
         arten, [&](const Datenbankart& art) { return startsWithIgnoringCase(kennung, art.kennung); });
     return treffer == arten.end() ? arten.front() : *treffer;
 }

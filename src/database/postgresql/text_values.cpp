@@ -1,6 +1,7 @@
 #include "database/postgresql/text_values.h"
 
 #include <charconv>
+#include <system_error>
 
 namespace quelvarn::postgresql {
 namespace {
