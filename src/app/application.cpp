@@ -12,10 +12,20 @@ Anwendung::Anwendung(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationName(QStringLiteral("Quelvarn"));
     setDesktopFileName(QStringLiteral("quelvarn"));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    const QString beimProgramm = applicationDirPath() + QStringLiteral("/translations");
-    const QString name = QStringLiteral("qtbase_de");
-    if (qtTexte_.load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) || qtTexte_.load(name, beimProgramm))
-        installTranslator(&qtTexte_);
+    ladeQtTexte();
+}
+
+// A packed program carries the texts of all of Qt's libraries in one file, under another name.
+void Anwendung::ladeQtTexte()
+{
+    const QString ordner[] = {QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+                              applicationDirPath() + QStringLiteral("/translations")};
+    for (const QString& name : {QStringLiteral("qtbase_de"), QStringLiteral("qt_de")}) {
+        if (qtTexte_.load(name, ordner[0]) || qtTexte_.load(name, ordner[1])) {
+            installTranslator(&qtTexte_);
+            return;
+        }
+    }
 }
 
 // Slots are guarded one by one; this is the net under what is not a slot, such as drawing.

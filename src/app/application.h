@@ -16,6 +16,8 @@ public:
     bool notify(QObject* empfaenger, QEvent* ereignis) override;
 
 private:
+    void ladeQtTexte();
+
     QTranslator qtTexte_;
 };
 

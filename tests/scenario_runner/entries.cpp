@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace quelvarn::scenario {
 

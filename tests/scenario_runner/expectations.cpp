@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 namespace quelvarn::scenario {
 

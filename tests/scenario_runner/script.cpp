@@ -1,6 +1,7 @@
 #include "scenario_runner/script.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <fstream>
 
 namespace quelvarn::scenario {

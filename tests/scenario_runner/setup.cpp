@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <fstream>
 
 namespace quelvarn::scenario {
