@@ -82,7 +82,7 @@ QString stylesheet(const Farbsatz& farben)
 Darstellung::Darstellung(QString datei) : datei_(std::move(datei))
 {
     if (datei_.isEmpty())
-        datei_ = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation) +
+        datei_ = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                  QStringLiteral("/Quelvarn/Darstellung.ini");
     const QSettings gespeichert(datei_, QSettings::IniFormat);
     const QString name = gespeichert.value(QLatin1String(SCHLUESSEL_MODUS)).toString();
