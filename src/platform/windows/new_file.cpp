@@ -11,6 +11,10 @@
 namespace quelvarn {
 namespace {
 
+// Virus scanners and the system's index look into new files; they soon are done.
+constexpr int attempts = 10;
+constexpr DWORD pause = 50; // milliseconds
+
 bool exists(const std::wstring& path)
 {
     return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
@@ -60,13 +64,15 @@ std::wstring realPath(const std::wstring& path)
     return attributes & FILE_ATTRIBUTE_REPARSE_POINT ? behindLinks(path) : asStored(path);
 }
 
+// A name that nobody has, on this computer or another one that works in the same folder.
 std::wstring nameBeside(const std::wstring& target)
 {
     static std::atomic<unsigned> counter = 0;
     const std::wstring folder = target.substr(0, target.rfind(L'\\') + 1);
     std::wstring name;
     do {
-        name = folder + L"~neu-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++counter) + L".tmp";
+        name = folder + L"~neu-" + std::to_wstring(GetTickCount64()) + L"-" + std::to_wstring(GetCurrentProcessId()) +
+               L"-" + std::to_wstring(++counter) + L".tmp";
     } while (exists(name));
     return name;
 }
@@ -84,6 +90,26 @@ DWORD swapIn(const std::wstring& path, const std::wstring& target)
     else
         MoveFileExW(old.c_str(), target.c_str(), 0);
     return error;
+}
+
+// The new file at the target's place, with the target's attributes; the error when it could not be.
+DWORD takePlace(const std::wstring& path, const std::wstring& target)
+{
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    const bool replaces = attributes != INVALID_FILE_ATTRIBUTES;
+    if (replaces)
+        SetFileAttributesW(path.c_str(), attributes);
+    const DWORD error = replaces ? swapIn(path, target) : ERROR_NOT_SUPPORTED;
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (error == NO_ERROR || MoveFileExW(path.c_str(), target.c_str(), flags))
+        return NO_ERROR;
+    return replaces ? error : GetLastError();
+}
+
+bool mayPass(DWORD error)
+{
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED ||
+           (error >= ERROR_UNABLE_TO_REMOVE_REPLACED && error <= ERROR_UNABLE_TO_MOVE_REPLACEMENT_2);
 }
 
 } // namespace
@@ -121,14 +147,14 @@ void NewFile::copyFrom(const std::wstring& source)
 
 void NewFile::replaceTarget()
 {
-    const DWORD attributes = GetFileAttributesW(target_.c_str());
-    const bool replaces = attributes != INVALID_FILE_ATTRIBUTES;
-    if (replaces)
-        SetFileAttributesW(path_.c_str(), attributes);
-    const DWORD error = replaces ? swapIn(path_, target_) : ERROR_NOT_SUPPORTED;
-    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (error != NO_ERROR && !MoveFileExW(path_.c_str(), target_.c_str(), flags))
-        throw windowsDateifehler(replaces ? error : GetLastError(), pfad_);
+    for (int attempt = 1;; ++attempt) {
+        const DWORD error = takePlace(path_, target_);
+        if (error == NO_ERROR)
+            break;
+        if (!mayPass(error) || attempt == attempts)
+            throw windowsDateifehler(error, pfad_);
+        Sleep(pause);
+    }
     path_.clear();
 }
 
