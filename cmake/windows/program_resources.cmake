@@ -25,8 +25,8 @@ function(quelvarn_program_resources target)
     set(icon "IDI_ICON1 ICON \"${ARG_ICON}\"") # The name under which Qt looks for it.
   endif()
   if(MSVC)
-    target_sources(${target} PRIVATE ${folder}/${target}.manifest) # CMake hands it to the linker's manifest tool.
-    target_link_options(${target} PRIVATE /MANIFESTUAC:NO)         # The manifest says it already.
+    # CMake has it merged with the linker's own, which says the same of the rights.
+    target_sources(${target} PRIVATE ${folder}/${target}.manifest)
   else()
     set(manifest "1 24 \"${folder}/${target}.manifest\"") # The program's own manifest, which is resource type 24.
   endif()
