@@ -53,6 +53,7 @@ TEST_P(EngineMeaning, ConditionsFindTheSameRowsOnEveryEngine)
         {"Wort Like 'a[_]b'", {"21"}},
         {"Wort Like 'a_b'", {"12", "21", "22"}},
         {"Wort Like 'a[[]b'", {"22"}},
+        {"Wort Like '[a-c].b'", {}},
         {"Wort Like '%\\teil'", {"14"}},
         {"Wort Like '%''%'", {"13"}},
         {"Wort Like ''", {"15"}},
