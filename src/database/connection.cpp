@@ -61,13 +61,18 @@ DatenbankArt artAusAnfang(std::string_view anfang)
     return DatenbankArt::Unbekannt;
 }
 
+#ifdef _WIN32
+constexpr std::string_view ACCESS_FEHLT = "Dieses System hat keinen 64-Bit-Treiber für Access.\n"
+                                          "Er wird mit dem 64-Bit-Access oder dessen Datenbankmodul installiert.";
+#else
+constexpr std::string_view ACCESS_FEHLT = "Dieses System hat keinen Treiber für Access.\n"
+                                          "Der Administrator übernimmt die Datei einmalig mit \"qvadmin import\".";
+#endif
+
 [[noreturn]] void meldeAccess(const std::filesystem::path& pfad)
 {
     throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
-                         fmt::format("'{}' ist eine Access-Datenbank.\n"
-                                     "Dieses System hat keinen Treiber für Access.\n"
-                                     "Der Administrator übernimmt die Datei einmalig mit \"qvadmin import\".",
-                                     anzeige(pfad)));
+                         fmt::format("'{}' ist eine Access-Datenbank.\n{}", anzeige(pfad), ACCESS_FEHLT));
 }
 
 } // namespace

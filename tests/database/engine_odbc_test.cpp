@@ -3,7 +3,9 @@
 #include "database/engine_fixture.h"
 #include "database/recordset.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
+#include <thread>
 
 namespace quelvarn::test {
 namespace {
@@ -169,6 +171,36 @@ TEST(EngineAccess, OpensInPlaceWhereADriverOfItsNameIsInstalled)
     Recordset rs;
     rs.Open("Select * From Ini", verbindung);
     EXPECT_EQ(rs.RecordCount(), 210U);
+}
+
+// The Access file is shared with other programs: a lock is waited for a moment, then told.
+TEST(EngineAccess, ALockOfAnotherProgramIsWaitedForAndThenTold)
+{
+    if (!hatOdbcTreiber(ODBC_TREIBER_SQLITE))
+        GTEST_SKIP() << "the ODBC driver of SQLite is not installed";
+    const TempFolder ordner;
+    const auto anderes = oeffneSqlite(ordner / "test.qv", true);
+    anderes->legeTabelleAn({"Tafel", {{"Wort"}}, {}});
+    const auto engine = oeffneOdbc(odbcText(ordner / "test.qv", 1));
+    const sql::Zuweisung werte[] = {{"Wort", "x"}};
+    anderes->beginne();
+    anderes->fuegeEin("Tafel", werte);
+    {
+        const std::jthread freigabe([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(150));
+            anderes->schliesseAb();
+        });
+        EXPECT_NO_THROW(engine->fuegeEin("Tafel", werte));
+    }
+    anderes->beginne();
+    anderes->fuegeEin("Tafel", werte);
+    try {
+        engine->fuegeEin("Tafel", werte);
+        ADD_FAILURE();
+    } catch (const Laufzeitfehler& fehler) {
+        EXPECT_THAT(fehler.beschreibung(), HasSubstr("durch ein anderes Programm gesperrt"));
+    }
+    anderes->nimmZurueck();
 }
 
 TEST(EngineAccess, FaultsOfADriverAreTold)

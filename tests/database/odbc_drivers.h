@@ -63,10 +63,10 @@ inline std::string treiberPfad(const std::filesystem::path& pfad)
 #endif
 
 // With the module that teaches the driver the order of our texts.
-inline std::string odbcText(const std::filesystem::path& sqliteDatei)
+inline std::string odbcText(const std::filesystem::path& sqliteDatei, int millisekundenGeduld = 60000)
 {
     return "DRIVER={" + std::string(ODBC_TREIBER_SQLITE) + "};Database=" + treiberPfad(sqliteDatei) +
-           ";Timeout=60000;LoadExt=" QUELVARN_SQLITE_MODULE;
+           ";LoadExt=" QUELVARN_SQLITE_MODULE ";Timeout=" + std::to_string(millisekundenGeduld);
 }
 
 // From the address that PostgresCluster gives.

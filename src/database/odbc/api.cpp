@@ -7,10 +7,13 @@
 #include "database/catalog.h"
 #include "database/odbc/utf16.h"
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlucode.h>
+#include <thread>
 
 namespace quelvarn::odbc {
 namespace {
@@ -25,22 +28,63 @@ SQLSMALLINT rohArt(Handleart art)
     return art == Handleart::Verbindung ? SQL_HANDLE_DBC : SQL_HANDLE_STMT;
 }
 
+constexpr int VERSUCHE = 6;
+constexpr auto PAUSE = std::chrono::milliseconds(100);
+// What Access calls a file, a row or a table that another program holds, and SQLite its file.
+constexpr std::array<SQLINTEGER, 6> BELEGT{-1024, -1032, -3976, -1102, -1302, 5};
+
+// What the driver tells of the last call on a handle.
+struct Auskunft
+{
+    std::array<char16_t, 6> status{};
+    SQLINTEGER nummer = 0;
+    std::string text = "Der ODBC-Treiber nennt keinen Grund.";
+
+    bool anweisungFalsch() const { return status[0] == u'4' && status[1] == u'2'; } // Syntax or access rule.
+    bool belegt() const { return std::ranges::find(BELEGT, nummer) != BELEGT.end(); }
+};
+
+Auskunft auskunftOf(Handleart art, RohHandle handle)
+{
+    Auskunft auskunft;
+    std::array<char16_t, 1024> text{};
+    SQLSMALLINT laenge = 0;
+    const SQLRETURN ergebnis =
+        SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(auskunft.status.data()), &auskunft.nummer,
+                       reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &laenge);
+    if (SQL_SUCCEEDED(ergebnis))
+        auskunft.text = ausUtf16(text.data());
+    return auskunft;
+}
+
+bool gelungen(Ergebnis ergebnis)
+{
+    return SQL_SUCCEEDED(ergebnis) || ergebnis == SQL_NO_DATA;
+}
+
 } // namespace
 
 void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view quelle)
 {
-    if (SQL_SUCCEEDED(ergebnis) || ergebnis == SQL_NO_DATA)
+    if (gelungen(ergebnis))
         return;
-    std::array<char16_t, 6> status{};
-    std::array<char16_t, 1024> text{};
-    SQLINTEGER nummer = 0;
-    SQLSMALLINT laenge = 0;
-    const SQLRETURN auskunft =
-        SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(status.data()), &nummer,
-                       reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &laenge);
-    const bool anweisungFalsch = status[0] == u'4' && status[1] == u'2'; // Syntax or access rule.
-    throw Laufzeitfehler(anweisungFalsch ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN, std::string(quelle),
-                         SQL_SUCCEEDED(auskunft) ? ausUtf16(text.data()) : "Der ODBC-Treiber nennt keinen Grund.");
+    Auskunft auskunft = auskunftOf(art, handle);
+    if (auskunft.belegt())
+        auskunft.text = "Die Datenbank oder der Datensatz ist durch ein anderes Programm gesperrt, oder es fehlt das "
+                        "Recht zum Schreiben.\n" +
+                        auskunft.text;
+    throw Laufzeitfehler(auskunft.anweisungFalsch() ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN, std::string(quelle),
+                         auskunft.text);
+}
+
+Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle)
+{
+    for (int versuch = 1;; ++versuch) {
+        const Ergebnis ergebnis = aufruf();
+        if (gelungen(ergebnis) || versuch == VERSUCHE || !auskunftOf(art, handle).belegt())
+            return ergebnis;
+        std::this_thread::sleep_for(PAUSE);
+    }
 }
 
 Handle::Handle(Handleart art, RohHandle eltern) : art_(art)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,9 @@ enum class Handleart { Umgebung, Verbindung, Anweisung };
 
 // Throws Laufzeitfehler with the driver's text unless the call succeeded; "no data" counts as success.
 void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view quelle);
+
+// Makes the call, and makes it again for a moment while another program holds the file, the table or the row.
+Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle);
 
 // One allocated handle.
 class Handle

@@ -19,9 +19,12 @@ std::shared_ptr<Verbindung> Verbindung::oeffne(std::string_view text)
 {
     std::shared_ptr<Verbindung> verbindung(new Verbindung);
     std::u16string breit = alsUtf16(text);
-    const SQLRETURN ergebnis = SQLDriverConnectW(verbindung->roh(), nullptr, reinterpret_cast<SQLWCHAR*>(breit.data()),
-                                                 SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
-    pruefe(ergebnis, Handleart::Verbindung, verbindung->roh(), verbindung->quelle_);
+    const auto verbinde = [&]() -> Ergebnis {
+        return SQLDriverConnectW(verbindung->roh(), nullptr, reinterpret_cast<SQLWCHAR*>(breit.data()), SQL_NTS,
+                                 nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    };
+    pruefe(wiederhole(verbinde, Handleart::Verbindung, verbindung->roh()), Handleart::Verbindung, verbindung->roh(),
+           verbindung->quelle_);
     return verbindung;
 }
 
@@ -55,8 +58,10 @@ void Verbindung::beginne()
 
 void Verbindung::beende(bool uebernehmen)
 {
-    pruefe(SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK), Handleart::Verbindung, roh(),
-           quelle_);
+    const auto schliesse = [&]() -> Ergebnis {
+        return SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK);
+    };
+    pruefe(wiederhole(schliesse, Handleart::Verbindung, roh()), Handleart::Verbindung, roh(), quelle_);
     setzeAutomatik(true);
 }
 

@@ -81,7 +81,8 @@ Anweisung Anweisung::fuehreAus(std::shared_ptr<Verbindung> verbindung, std::stri
     std::vector<Gebunden> gebundene = bindung(parameter);
     for (std::size_t i = 0; i < gebundene.size(); ++i)
         anweisung.pruefe(binde(anweisung.handle_->roh(), i + 1, gebundene[i]));
-    anweisung.pruefe(SQLExecDirectW(anweisung.handle_->roh(), breit(text), SQL_NTS));
+    const auto starte = [&]() -> Ergebnis { return SQLExecDirectW(anweisung.handle_->roh(), breit(text), SQL_NTS); };
+    anweisung.pruefe(wiederhole(starte, Handleart::Anweisung, anweisung.handle_->roh()));
     SQLFreeStmt(anweisung.handle_->roh(), SQL_RESET_PARAMS); // The values go now.
     return anweisung;
 }
