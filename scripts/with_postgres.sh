@@ -14,7 +14,7 @@ folder="$(mktemp -d)"
 server=
 finish() {
   if [[ -n "$server" ]]; then
-    kill -INT "$server" 2>/dev/null || true
+    kill -QUIT "$server" 2>/dev/null || true # At once: nothing of it is kept.
     wait "$server" || true
   fi
   rm -rf "$folder"
@@ -24,7 +24,7 @@ trap 'exit 130' INT TERM HUP
 
 start() { # port; false when it did not come up: another program may have the port
   "${AS_SERVER[@]}" "$PROGRAMS/postgres" -D "$folder/data" -p "$1" -k '' -c listen_addresses=127.0.0.1 -c fsync=off \
-    -c full_page_writes=off -c log_min_messages=fatal >>"$folder/log" 2>&1 &
+    -c full_page_writes=off -c max_wal_size=8GB -c log_min_messages=fatal >>"$folder/log" 2>&1 &
   server=$!
   local attempt
   for ((attempt = 0; attempt < 600; ++attempt)); do
