@@ -7,7 +7,7 @@ BUILD_PACKAGES=(git cmake ninja-build g++ ccache pkg-config libfmt-dev libsqlite
   mdbtools-dev libglib2.0-dev libcups2-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
   qt6-image-formats-plugins qt6-translations-l10n libgl1-mesa-dev fonts-noto-core)
 TEST_PACKAGES=(libgtest-dev libgmock-dev postgresql unixodbc libsqliteodbc odbc-postgresql odbc-mdbtools)
-WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix clang lld wine wine64 googletest)
 BENCH_PACKAGES=(libqt6sql6-sqlite)
 LINT_PACKAGES=(clang-format clang-tidy python3)
 FUZZ_PACKAGES=(clang libclang-rt-dev)
