@@ -21,6 +21,10 @@ if(WIN32)
   add_compile_definitions(_WIN32_WINNT=0x0A00 WINVER=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
 endif()
 
+if(MINGW AND CMAKE_CROSSCOMPILING)
+  include(cmake/windows/linker.cmake)
+endif()
+
 if(QUELVARN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -g1)
   add_link_options(-fsanitize=address,undefined)

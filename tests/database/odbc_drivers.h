@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/create.h"
+#include "database/driver_path.h"
 #include "database/engine.h"
 
 #ifndef QUELVARN_NO_ODBC
@@ -51,16 +52,6 @@ inline std::string bereiteOdbcVor(bool postgres, const std::string& adresse)
     }
     return {};
 }
-
-// As a driver takes it: those that Wine lends its programs are Linux programs.
-#ifdef _WIN32
-std::string treiberPfad(const std::filesystem::path& pfad);
-#else
-inline std::string treiberPfad(const std::filesystem::path& pfad)
-{
-    return pfad.string();
-}
-#endif
 
 // With the module that teaches the driver the order of our texts.
 inline std::string odbcText(const std::filesystem::path& sqliteDatei, int millisekundenGeduld = 60000)

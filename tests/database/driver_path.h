@@ -1,11 +1,18 @@
-#include "database/odbc_drivers.h"
+#pragma once
 
+#include <filesystem>
+#include <string>
+
+#ifdef _WIN32
 #include <windows.h>
+#endif
 
 namespace quelvarn::test {
 
+// As an ODBC driver takes it: those that Wine lends its programs are Linux programs.
+#ifdef _WIN32
 // Only Wine has the function; on Windows itself a driver takes the path as it is.
-std::string treiberPfad(const std::filesystem::path& pfad)
+inline std::string treiberPfad(const std::filesystem::path& pfad)
 {
     using UnixName = char*(CDECL*)(const wchar_t*);
     const FARPROC funktion = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name");
@@ -17,5 +24,11 @@ std::string treiberPfad(const std::filesystem::path& pfad)
     HeapFree(GetProcessHeap(), 0, name);
     return text;
 }
+#else
+inline std::string treiberPfad(const std::filesystem::path& pfad)
+{
+    return pfad.string();
+}
+#endif
 
 } // namespace quelvarn::test
