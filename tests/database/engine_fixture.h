@@ -34,6 +34,13 @@ protected:
         engine_ = oeffne();
     }
 
+    void TearDown() override
+    {
+        engine_.reset();
+        if (!adresse_.empty())
+            PostgresCluster::find()->gibFrei(adresse_);
+    }
+
     bool istPostgres() const { return GetParam().ends_with("PostgreSQL"); }
     bool istOdbc() const { return GetParam().starts_with("Odbc"); }
 

@@ -72,7 +72,7 @@ TEST_F(DatabaseFault, AMissingFileAndAnAccessFileFailAtTheConnection)
     erwarteFehler(REGISTERPFAD, "Verbindung zur Datenbank");
     schreibe("access.mdb", std::string("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24) + std::string(4096, '\0'));
     scheitert();
-    EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("qvadmin import"));
+    EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("Treiber für Access"));
 }
 
 TEST_F(DatabaseFault, ATableThatLacksAColumnFailsInTheStepThatNeedsIt)
