@@ -1,5 +1,6 @@
 #include "database/connection.h"
 
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/catalog.h"
@@ -14,24 +15,19 @@
 namespace quelvarn {
 namespace {
 
-std::string anzeige(const std::filesystem::path& pfad)
-{
-    const auto utf8 = pfad.u8string();
-    return {utf8.begin(), utf8.end()};
-}
-
 // The first bytes of a file; enough for a postgresql:// address.
 std::string leseAnfang(const std::filesystem::path& pfad)
 {
     constexpr std::streamsize laenge = 4096;
     std::error_code fehler;
     if (!std::filesystem::exists(pfad, fehler))
-        throw Laufzeitfehler(53, "Datenbank", fmt::format("Die Datei '{}' wurde nicht gefunden.", anzeige(pfad)));
+        throw Laufzeitfehler(53, "Datenbank", fmt::format("Die Datei '{}' wurde nicht gefunden.", utf8FromPath(pfad)));
     std::ifstream datei(pfad, std::ios::binary);
     std::string anfang(laenge, '\0');
     datei.read(anfang.data(), laenge);
     if (!datei.is_open() || datei.bad() || std::filesystem::is_directory(pfad, fehler))
-        throw Laufzeitfehler(75, "Datenbank", fmt::format("Die Datei '{}' kann nicht gelesen werden.", anzeige(pfad)));
+        throw Laufzeitfehler(75, "Datenbank",
+                             fmt::format("Die Datei '{}' kann nicht gelesen werden.", utf8FromPath(pfad)));
     anfang.resize(static_cast<std::size_t>(datei.gcount()));
     return anfang;
 }
@@ -72,7 +68,7 @@ constexpr std::string_view ACCESS_FEHLT = "Dieses System hat keinen Treiber für
 [[noreturn]] void meldeAccess(const std::filesystem::path& pfad)
 {
     throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
-                         fmt::format("'{}' ist eine Access-Datenbank.\n{}", anzeige(pfad), ACCESS_FEHLT));
+                         fmt::format("'{}' ist eine Access-Datenbank.\n{}", utf8FromPath(pfad), ACCESS_FEHLT));
 }
 
 } // namespace
@@ -105,7 +101,7 @@ void Connection::Open(const std::filesystem::path& pfad)
         break;
     }
     throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
-                         fmt::format("'{}' ist keine Datenbank dieses Programms.", anzeige(pfad)));
+                         fmt::format("'{}' ist keine Datenbank dieses Programms.", utf8FromPath(pfad)));
 }
 
 void Connection::OpenAdresse(std::string_view pfadOderAdresse)
@@ -113,7 +109,7 @@ void Connection::OpenAdresse(std::string_view pfadOderAdresse)
     if (istPostgresAdresse(pfadOderAdresse))
         engine_ = oeffnePostgres(pfadOderAdresse);
     else
-        Open(std::filesystem::path(std::u8string(pfadOderAdresse.begin(), pfadOderAdresse.end())));
+        Open(pathFromUtf8(pfadOderAdresse));
 }
 
 void Connection::Close()

@@ -30,6 +30,9 @@ void fangeAbbruch()
 {
     std::signal(SIGINT, merkeAbbruch);
     std::signal(SIGTERM, merkeAbbruch);
+#ifdef SIGBREAK // The window of the console is closed.
+    std::signal(SIGBREAK, merkeAbbruch);
+#endif
 }
 
 void pruefeAbbruch()

@@ -1,28 +1,15 @@
 #include "tools/neues_register.h"
 
+#include "base/file_path.h"
 #include "base/text.h"
 #include "database/create.h"
+#include "tools/prozess.h"
 
 #include <fmt/format.h>
-
-#ifdef _WIN32
-#include <process.h>
-#else
-#include <unistd.h>
-#endif
 
 namespace quelvarn::tools {
 
 namespace {
-
-int prozessnummer()
-{
-#ifdef _WIN32
-    return _getpid();
-#else
-    return getpid();
-#endif
-}
 
 void pruefeZieldatei(const std::filesystem::path& ziel, Vorhandenes vorhandenes)
 {
@@ -30,12 +17,25 @@ void pruefeZieldatei(const std::filesystem::path& ziel, Vorhandenes vorhandenes)
     if (!std::filesystem::exists(ziel, fehler))
         return;
     if (!std::filesystem::is_regular_file(ziel, fehler))
-        throw werkzeugfehler(fmt::format("Das Ziel '{}' ist keine Datei.", ziel.string()));
+        throw werkzeugfehler(fmt::format("Das Ziel '{}' ist keine Datei.", utf8FromPath(ziel)));
     if (vorhandenes == Vorhandenes::Ablehnen)
         throw werkzeugfehler(
-            fmt::format("Das Ziel '{}' gibt es schon. Mit --ersetzen wird es ersetzt.", ziel.string()));
+            fmt::format("Das Ziel '{}' gibt es schon. Mit --ersetzen wird es ersetzt.", utf8FromPath(ziel)));
     if (erkenneDatenbank(ziel) != DatenbankArt::SQLite)
-        throw werkzeugfehler(fmt::format("Das Ziel '{}' ist kein Register und wird nicht ersetzt.", ziel.string()));
+        throw werkzeugfehler(
+            fmt::format("Das Ziel '{}' ist kein Register und wird nicht ersetzt.", utf8FromPath(ziel)));
+}
+
+// Windows replaces no file that a program has open, and says only that it may not.
+Laufzeitfehler nichtUebernommen(const std::filesystem::path& ziel, const std::error_code& fehler)
+{
+    const bool abgelehnt = fehler == std::errc::permission_denied || fehler == std::errc::device_or_resource_busy;
+    std::error_code unbekannt;
+    if (abgelehnt && std::filesystem::exists(ziel, unbekannt))
+        return werkzeugfehler(fmt::format("Das Ziel '{}' lässt sich nicht ersetzen: ein Programm hat es offen, oder es "
+                                          "ist schreibgeschützt. Das alte Register ist noch da.",
+                                          utf8FromPath(ziel)));
+    return werkzeugfehler(fmt::format("'{}' lässt sich nicht anlegen: {}", utf8FromPath(ziel), fehler.message()));
 }
 
 } // namespace
@@ -63,7 +63,7 @@ void NeuesRegister::Entwurf::uebernimm()
     std::filesystem::remove(std::filesystem::path(ziel_) += "-journal", fehler);
     std::filesystem::rename(pfad_, ziel_, fehler);
     if (fehler)
-        throw werkzeugfehler(fmt::format("'{}' lässt sich nicht anlegen: {}", ziel_.string(), fehler.message()));
+        throw nichtUebernommen(ziel_, fehler);
 }
 
 NeuesRegister::NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Konsole& konsole) : anzeige_(konsole)
@@ -72,7 +72,7 @@ NeuesRegister::NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Kon
         bereiteDatenbankVor(ziel, vorhandenes);
         return;
     }
-    entwurf_.emplace(pfadAus(ziel), vorhandenes);
+    entwurf_.emplace(pathFromUtf8(ziel), vorhandenes);
     try {
         datei_ = oeffneSqlite(entwurf_->pfad(), true);
         engine_ = datei_.get();
@@ -144,18 +144,13 @@ void NeuesRegister::schliesseAb()
         entwurf_->uebernimm();
 }
 
-std::filesystem::path pfadAus(std::string_view utf8)
-{
-    return {std::u8string(utf8.begin(), utf8.end())};
-}
-
 bool istServerziel(std::string_view ziel)
 {
     if (startsWithIgnoringCase(ziel, "postgresql://") || startsWithIgnoringCase(ziel, "postgres://"))
         return true;
     std::error_code fehler;
-    return std::filesystem::is_regular_file(pfadAus(ziel), fehler) &&
-           erkenneDatenbank(pfadAus(ziel)) == DatenbankArt::PostgreSQL;
+    return std::filesystem::is_regular_file(pathFromUtf8(ziel), fehler) &&
+           erkenneDatenbank(pathFromUtf8(ziel)) == DatenbankArt::PostgreSQL;
 }
 
 } // namespace quelvarn::tools

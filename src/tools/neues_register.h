@@ -73,8 +73,6 @@ private:
     Verlaufsanzeige anzeige_;
 };
 
-// A path as it was typed, whatever the system's own encoding.
-std::filesystem::path pfadAus(std::string_view utf8);
 // True for an address and for a small text file that holds one.
 bool istServerziel(std::string_view ziel);
 

@@ -1,3 +1,4 @@
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/connection.h"
 #include "database/create.h"
@@ -65,7 +66,7 @@ TEST(DatabaseFile, ConnectionExecutesChangesButNoQueries)
 
     Connection verbindung;
     EXPECT_THAT(fehlertext([&] { verbindung.Execute("Delete From Ini"); }), HasSubstr("nicht geöffnet"));
-    verbindung.OpenAdresse(pfad.string());
+    verbindung.OpenAdresse(utf8FromPath(pfad));
     EXPECT_EQ(verbindung.Execute("Insert Into Ini (Feld1, Feld2) Values ('mm', 'Plot')"), 1);
     {
         Transaktion verworfen(verbindung);
@@ -86,7 +87,7 @@ TEST(DatabaseFile, TakesCellsAndColumnsOfAnotherMakersFile)
     const TempFolder ordner;
     const auto pfad = ordner / "fremd.qv";
     sqlite3* fremd = nullptr;
-    sqlite3_open(pfad.string().c_str(), &fremd);
+    sqlite3_open(utf8FromPath(pfad).c_str(), &fremd);
     const int ergebnis = sqlite3_exec(
         fremd,
         "CREATE TABLE partTABELLE (DokuBez VARCHAR(50) COLLATE NOCASE, Status SMALLINT, Erstellt TIMESTAMP, "

@@ -1,3 +1,4 @@
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/connection.h"
 #include "database/recordset.h"
@@ -39,7 +40,7 @@ protected:
         if (!verbindung_.offen() && istOdbc())
             verbindung_ = Connection(oeffne());
         else if (!verbindung_.offen()) // An empty file is no database yet.
-            verbindung_.OpenAdresse(istPostgres() ? adresse_ : (ordner_.path() / "test.qv").string());
+            verbindung_.OpenAdresse(istPostgres() ? adresse_ : utf8FromPath(ordner_ / "test.qv"));
         Recordset rs;
         rs.setzeGanzGrenze(ganzBis);
         rs.Open(sql, verbindung_, CursorTyp::Statisch, sperre);

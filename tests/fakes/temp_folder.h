@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/file_path.h"
+
 #include <filesystem>
 #include <random>
 #include <string>
@@ -27,7 +29,7 @@ public:
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
-    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+    std::filesystem::path operator/(const std::string& name) const { return path_ / pathFromUtf8(name); }
 
 private:
     std::filesystem::path path_;

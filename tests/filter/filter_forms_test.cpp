@@ -1,5 +1,6 @@
 // A filter stands in the table's recordset in one form and in queries in the other. Over generated rows both must
 // mean the same on every engine: what a person sees in the grid is what the lists and orders count.
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/connection.h"
@@ -78,7 +79,7 @@ protected:
             schreiber->zeile(zeile);
         }
         schreiber->beende();
-        verbindung_.OpenAdresse(istPostgres() ? adresse_ : (ordner_.path() / "test.qv").string());
+        verbindung_.OpenAdresse(istPostgres() ? adresse_ : utf8FromPath(ordner_ / "test.qv"));
         tabelle_.setzeGanzGrenze(1);
         tabelle_.Open("Select * From PartTabelle ORDER BY DokuBez", verbindung_);
     }

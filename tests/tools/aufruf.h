@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/file_path.h"
 #include "tools/befehle.h"
 
 #include <gtest/gtest.h>
@@ -39,9 +40,10 @@ inline std::vector<nlohmann::json> zeilen(const std::string& ziel, const std::st
     return zeilen;
 }
 
+// With "/" on every system, as drivers of this one want it.
 inline std::string pfad(const std::filesystem::path& datei)
 {
-    return datei.string();
+    return utf8FromPath(datei.generic_u8string());
 }
 
 } // namespace quelvarn::test

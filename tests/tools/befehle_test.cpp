@@ -1,9 +1,7 @@
 #include "database/create.h"
-#include "database/engine_fixture.h"
-#include "tools/aufruf.h"
+#include "tools/befehle_fixture.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
 
 namespace quelvarn::test {
 namespace {
@@ -33,22 +31,6 @@ TEST(Befehle, AnswersACallThatIsWrongWithItsUsage)
         EXPECT_TRUE(rufe({befehl, "--help"}).aus.starts_with("Aufruf: qvadmin " + befehl)) << befehl;
 }
 
-class Befehle : public ::testing::TestWithParam<std::string_view>
-{
-protected:
-    void SetUp() override
-    {
-        if (istPostgres() && !PostgresCluster::find())
-            GTEST_SKIP() << "no PostgreSQL server is installed here";
-        ziel_ = istPostgres() ? PostgresCluster::find()->neueDatenbank() : pfad(ordner_ / "register.qv");
-    }
-
-    static bool istPostgres() { return GetParam() == "PostgreSQL"; }
-
-    TempFolder ordner_;
-    std::string ziel_;
-};
-
 TEST_P(Befehle, CreatesARegisterThatNeedsNoRepair)
 {
     ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
@@ -58,21 +40,6 @@ TEST_P(Befehle, CreatesARegisterThatNeedsNoRepair)
     EXPECT_EQ(rufe({"query", ziel_, "DELETE FROM Ini"}).ergebnis, tools::GUT);
     EXPECT_EQ(rufe({"create", ziel_, "--ersetzen"}).ergebnis, tools::GUT);
     EXPECT_EQ(zeilen(ziel_, "Select Feld5 From Ini Where Feld2 = 'Plot' And Feld3 = 'Printer'").size(), 11U);
-}
-
-TEST_P(Befehle, KeepsTheOldRegisterWhenReplacingItFails)
-{
-    const auto probe = std::filesystem::path(QUELVARN_SHARED) / "samples/werk-a.mdb";
-    if (!std::filesystem::exists(probe))
-        GTEST_SKIP() << "the sample file is not here: " << probe;
-    ASSERT_EQ(rufe({"sample", ziel_, "--documents", "100"}).ergebnis, tools::GUT);
-    const std::string vorher = rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus;
-    const auto abgeschnitten = ordner_ / "quelle.mdb";
-    std::filesystem::copy_file(probe, abgeschnitten);
-    std::filesystem::resize_file(abgeschnitten, 1930 * 4096); // Only pages of the last tables are missing.
-    EXPECT_EQ(rufe({"import", pfad(abgeschnitten), ziel_, "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
-    EXPECT_EQ(rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus, vorher);
-    EXPECT_EQ(rufe({"check", ziel_}).ergebnis, tools::GUT);
 }
 
 TEST_P(Befehle, TakesASmallFileWithAnAddressForTheDatabaseItself)

@@ -4,11 +4,11 @@
 #include "database/connection.h"
 #include "database/engine_fixture.h"
 #include "database/recordset.h"
+#include "fakes/sha256.h"
 #include "tools/aufruf.h"
 
 #include <fmt/format.h>
 #include <fstream>
-#include <glib.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -28,11 +28,7 @@ std::string sha256(const std::vector<json>& zeilen)
     std::string text;
     for (const json& zeile : zeilen)
         text += (text.empty() ? "" : "\n") + zeile.dump();
-    gchar* summe =
-        g_compute_checksum_for_data(G_CHECKSUM_SHA256, reinterpret_cast<const guchar*>(text.data()), text.size());
-    std::string ergebnis = summe;
-    g_free(summe);
-    return ergebnis;
+    return sha256(std::string_view(text));
 }
 
 std::vector<json> sortiert(std::vector<json> zeilen)

@@ -53,7 +53,7 @@ std::string tabelleAnlegen(const Datenbankart& art, const Tabellenschema& tabell
     return fmt::format("CREATE TABLE {} ({})", sql::Dialekt::bezeichner(tabelle.name), join(spalten, ", "));
 }
 
-FeldTyp feldTypAus(int odbcTyp)
+std::optional<FeldTyp> findFeldTyp(int odbcTyp)
 {
     switch (odbcTyp) {
     case SQL_BIT:
@@ -75,6 +75,10 @@ FeldTyp feldTypAus(int odbcTyp)
     case SQL_TYPE_TIME:
     case SQL_TYPE_TIMESTAMP:
         return FeldTyp::Datum;
+    case SQL_BINARY:
+    case SQL_VARBINARY:
+    case SQL_LONGVARBINARY:
+        return std::nullopt;
     default:
         return FeldTyp::Text;
     }

@@ -2,6 +2,7 @@
 
 #include "database/sql/renderer.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,7 +24,7 @@ struct Datenbankart
 const Datenbankart& datenbankartOf(std::string_view kennung);
 // CREATE TABLE without a row key.
 std::string tabelleAnlegen(const Datenbankart& art, const Tabellenschema& tabelle);
-// By the number of the type in ODBC.
-FeldTyp feldTypAus(int odbcTyp);
+// By the number of the type in ODBC; nothing for pictures and other bytes, which no cell of ours holds.
+std::optional<FeldTyp> findFeldTyp(int odbcTyp);
 
 } // namespace quelvarn::odbc

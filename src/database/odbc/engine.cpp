@@ -117,7 +117,8 @@ std::optional<Tabellenschema> OdbcEngine::leseSchema(std::string_view name)
         if (auskunft.text(AUSKUNFT_TABELLE) != tabelle.name) // "_" in a name is a wildcard to the driver.
             continue;
         std::string spalte = auskunft.text(AUSKUNFT_SPALTE);
-        tabelle.spalten.push_back({std::move(spalte), feldTypAus(ganzzahlAus(auskunft.text(AUSKUNFT_TYP)))});
+        if (const auto typ = findFeldTyp(ganzzahlAus(auskunft.text(AUSKUNFT_TYP))))
+            tabelle.spalten.push_back({std::move(spalte), *typ});
     }
     return tabelle;
 }

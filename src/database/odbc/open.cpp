@@ -1,3 +1,4 @@
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/catalog.h"
 #include "database/create.h"
@@ -35,8 +36,7 @@ std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad)
     const std::string treiber = accessTreiber();
     if (treiber.empty())
         return nullptr;
-    const auto utf8 = pfad.u8string();
-    const std::string datei(utf8.begin(), utf8.end());
+    const std::string datei = utf8FromPath(pfad);
     if (datei.find_first_of(";{}") != std::string::npos) // They would end the path, or begin another entry.
         throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Access",
                              fmt::format("Der Pfad '{}' darf für den Treiber von Access weder \";\" noch geschweifte "

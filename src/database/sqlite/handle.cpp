@@ -1,5 +1,6 @@
 #include "database/sqlite/handle.h"
 
+#include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/catalog.h"
 #include "database/sqlite/functions.h"
@@ -29,10 +30,8 @@ constexpr const char* einstellungen = "PRAGMA journal_mode=DELETE;"
 std::shared_ptr<Handle> Handle::oeffne(const std::filesystem::path& pfad, bool neu)
 {
     std::shared_ptr<Handle> handle(new Handle);
-    const auto utf8 = pfad.u8string();
     const int modus = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (neu ? SQLITE_OPEN_CREATE : 0);
-    const int ergebnis =
-        sqlite3_open_v2(reinterpret_cast<const char*>(utf8.c_str()), &handle->datenbank_, modus, nullptr);
+    const int ergebnis = sqlite3_open_v2(utf8FromPath(pfad).c_str(), &handle->datenbank_, modus, nullptr);
     if (ergebnis != SQLITE_OK)
         handle->melde(ergebnis);
     handle->richteEin();

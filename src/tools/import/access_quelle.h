@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -11,12 +12,13 @@
 
 namespace quelvarn::tools {
 
-// A true Access file, read in a process of its own. Every fault is one Laufzeitfehler with a German sentence.
+// A true Access file: on Windows read by the driver of Access, elsewhere by a process of our own. Every fault is one
+// Laufzeitfehler with a German sentence.
 class AccessQuelle
 {
 public:
-    // Looks at the file's head, starts the reading and waits for its catalog. Only the wanted tables are read;
-    // their names in any case.
+    // Looks at the file's head, starts the reading and waits for its catalog, no longer than `frist` where a process
+    // reads. Only the wanted tables are read; their names in any case.
     AccessQuelle(const std::filesystem::path& datei, std::span<const std::string> gewuenscht,
                  std::chrono::milliseconds frist = std::chrono::minutes(1));
     ~AccessQuelle();
@@ -29,8 +31,8 @@ public:
               const std::function<void(std::span<const Zelle>)>& zeile);
 
 private:
-    struct Prozess;
-    std::unique_ptr<Prozess> prozess_;
+    struct Leser;
+    std::unique_ptr<Leser> leser_;
     Katalog katalog_;
 };
 

@@ -1,4 +1,5 @@
 #include "base/collation.h"
+#include "base/file_path.h"
 #include "base/number_format.h"
 #include "tools/befehle.h"
 #include "tools/import/abbildung.h"
@@ -128,7 +129,7 @@ int importiere(const Argumente& argumente, Konsole& konsole)
 {
     fangeAbbruch();
     const auto vorhandenes = argumente.gesetzt("--ersetzen") ? Vorhandenes::Ersetzen : Vorhandenes::Ablehnen;
-    AccessQuelle quelle(pfadAus(argumente.stelle(0)), tabellennamen());
+    AccessQuelle quelle(pathFromUtf8(argumente.stelle(0)), tabellennamen());
     if (const auto einwand = findEinwand(quelle.katalog()))
         throw werkzeugfehler(
             fmt::format("'{}' ist kein Register dieses Programms: {}.", argumente.stelle(0), *einwand));

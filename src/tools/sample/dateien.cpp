@@ -1,7 +1,8 @@
 #include "tools/sample/dateien.h"
 
+#include "base/file_path.h"
 #include "base/text.h"
-#include "tools/neues_register.h"
+#include "tools/konsole.h"
 #include "tools/sample/musterregister.h"
 #include "tools/sample/wortschatz.h"
 
@@ -30,7 +31,7 @@ public:
         datei.write(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
         datei.close();
         if (!datei)
-            throw werkzeugfehler(fmt::format("'{}' lässt sich nicht schreiben.", ziel.string()));
+            throw werkzeugfehler(fmt::format("'{}' lässt sich nicht schreiben.", utf8FromPath(ziel)));
         std::filesystem::last_write_time(ziel, dateizeit(geaendert));
     }
     void legeOrdnerAn(const std::filesystem::path& ordner)
@@ -39,12 +40,12 @@ public:
         std::filesystem::create_directories(ordner, fehler);
         if (fehler)
             throw werkzeugfehler(
-                fmt::format("Der Ordner '{}' lässt sich nicht anlegen: {}", ordner.string(), fehler.message()));
+                fmt::format("Der Ordner '{}' lässt sich nicht anlegen: {}", utf8FromPath(ordner), fehler.message()));
     }
     std::filesystem::path systempfad(std::string_view pfad) const
     {
         constexpr std::size_t HINTER_DEM_LAUFWERK = 3;
-        return ordner_ / pfadAus(replaceAll(pfad.substr(HINTER_DEM_LAUFWERK), "\\", "/"));
+        return ordner_ / pathFromUtf8(replaceAll(pfad.substr(HINTER_DEM_LAUFWERK), "\\", "/"));
     }
     std::uint64_t anzahl() const { return anzahl_; }
 

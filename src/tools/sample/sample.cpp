@@ -1,3 +1,4 @@
+#include "base/file_path.h"
 #include "base/number_format.h"
 #include "tools/befehle.h"
 #include "tools/neues_register.h"
@@ -46,7 +47,7 @@ int sample(const Argumente& argumente, Konsole& konsole)
     if (const auto ordner = argumente.findWert("--files"))
         konsole.aus << fmt::format(
             "{} Dateien geschrieben.\n",
-            formatGanzzahl(static_cast<std::int64_t>(schreibeDateien(dokumente, pfadAus(*ordner), konsole))));
+            formatGanzzahl(static_cast<std::int64_t>(schreibeDateien(dokumente, pathFromUtf8(*ordner), konsole))));
     return GUT;
 }
 

@@ -1,0 +1,21 @@
+#include "tools/prozess.h"
+
+#include <unistd.h>
+
+namespace quelvarn::tools {
+
+Prozess::Prozess() : terminal_(isatty(STDERR_FILENO) != 0) {}
+
+Prozess::~Prozess() = default;
+
+std::vector<std::string> Prozess::worte(int anzahl, const char* const* argumente)
+{
+    return {argumente + 1, argumente + anzahl};
+}
+
+int prozessnummer()
+{
+    return getpid();
+}
+
+} // namespace quelvarn::tools

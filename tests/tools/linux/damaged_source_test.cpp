@@ -1,0 +1,58 @@
+#include "tools/befehle_fixture.h"
+#include "tools/import_fixture.h"
+
+#include <unistd.h>
+
+namespace quelvarn::test {
+namespace {
+
+constexpr std::size_t SEITE = 4096;
+constexpr char DATENSEITE = 1; // First byte of a page with rows.
+
+TEST_F(ImportDerProbe, RefusesADamagedFileWhereverItIsDamaged)
+{
+    erwarteAbsage(std::string_view(inhalt_).substr(0, inhalt_.size() - 100), "ist abgeschnitten");
+    for (std::size_t seiten = 1; seiten < inhalt_.size() / SEITE - 1; seiten += 97)
+        erwarteAbsage(std::string_view(inhalt_).substr(0, seiten * SEITE), "Access-Datei ist");
+    int versuche = 0;
+    for (std::size_t seite = 20; seite < inhalt_.size() / SEITE; seite += 67) {
+        if (inhalt_[seite * SEITE] != DATENSEITE)
+            continue;
+        std::string beschaedigt = inhalt_;
+        std::fill_n(beschaedigt.begin() + static_cast<std::ptrdiff_t>(seite * SEITE), SEITE, '\0');
+        erwarteAbsage(beschaedigt, "Access-Datei ist beschädigt");
+        ++versuche;
+    }
+    EXPECT_GT(versuche, 5);
+}
+
+TEST_F(ImportDerProbe, LeavesNothingInAFolderThatMayNotBeWritten)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may write everywhere";
+    std::filesystem::create_directory(ordner_ / "nurlesen");
+    std::filesystem::permissions(ordner_ / "nurlesen", std::filesystem::perms::owner_read);
+    test::erwarteAbsage({"import", pfad(PROBE), pfad(ordner_ / "nurlesen/ziel.qv")}, "lässt sich nicht anlegen",
+                        ordner_.path());
+}
+
+class BeschaedigteQuelle : public Befehle
+{};
+INSTANTIATE_TEST_SUITE_P(Engines, BeschaedigteQuelle, eigeneEngines, engineName);
+
+TEST_P(BeschaedigteQuelle, KeepsTheOldRegisterWhenReplacingItFails)
+{
+    if (!std::filesystem::exists(PROBE))
+        GTEST_SKIP() << "the sample file is not here: " << PROBE;
+    ASSERT_EQ(rufe({"sample", ziel_, "--documents", "100"}).ergebnis, tools::GUT);
+    const std::string vorher = rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus;
+    const auto abgeschnitten = ordner_ / "quelle.mdb";
+    std::filesystem::copy_file(PROBE, abgeschnitten);
+    std::filesystem::resize_file(abgeschnitten, 1930 * SEITE); // Only pages of the last tables are missing.
+    EXPECT_EQ(rufe({"import", pfad(abgeschnitten), ziel_, "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
+    EXPECT_EQ(rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus, vorher);
+    EXPECT_EQ(rufe({"check", ziel_}).ergebnis, tools::GUT);
+}
+
+} // namespace
+} // namespace quelvarn::test
