@@ -1,4 +1,3 @@
-#include "base/text.h"
 #include "tools/import_fixture.h"
 
 namespace quelvarn::test {
@@ -13,14 +12,6 @@ TEST_F(Import, RefusesSourcesThatAreNoAccessFile)
     std::filesystem::remove(quelle_);
     test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "ziel.qv")}, "gibt es nicht", ordner_.path());
     test::erwarteAbsage({"import", pfad(ordner_.path()), pfad(ordner_ / "ziel.qv")}, "ist keine Datei", ordner_.path());
-}
-
-TEST_F(ImportDerProbe, RefusesADatabaseOfAnotherKind)
-{
-    using namespace std::string_view_literals;
-    const std::string fremd = replaceAll(inhalt_, "I\0n\0i\0"sv, "X\0y\0z\0"sv); // In the catalog.
-    ASSERT_NE(fremd, inhalt_);
-    erwarteAbsage(fremd, "ist kein Register dieses Programms: die Tabelle Ini fehlt");
 }
 
 TEST_F(ImportDerProbe, LeavesATargetAloneThatItMayNotReplace)

@@ -2,11 +2,13 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/connection.h"
+#include "database/create.h"
 #include "database/engine_fixture.h"
 #include "database/recordset.h"
 #include "fakes/sha256.h"
 #include "tools/aufruf.h"
 
+#include <cstdlib>
 #include <fmt/format.h>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -23,12 +25,12 @@ const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_SHARED) / "s
 // These need more than the program's own dialect: joins, subselects, functions.
 const std::set<std::string> NICHT_IM_DIALEKT{"Q19", "Q45", "Q46", "Q47"};
 
-std::string sha256(const std::vector<json>& zeilen)
+std::string summeOf(const std::vector<json>& zeilen)
 {
     std::string text;
     for (const json& zeile : zeilen)
         text += (text.empty() ? "" : "\n") + zeile.dump();
-    return sha256(std::string_view(text));
+    return sha256(text);
 }
 
 std::vector<json> sortiert(std::vector<json> zeilen)
@@ -56,6 +58,10 @@ protected:
             GTEST_SKIP() << "the sample file is not here: " << PROBEN;
         if (GetParam() == "PostgreSQL" && !PostgresCluster::find())
             GTEST_SKIP() << "no PostgreSQL server is installed here";
+#ifdef _WIN32
+        if (!std::getenv("QUELVARN_WERK_A") && !oeffneAccess(pfad(PROBEN / "werk-a.mdb")))
+            GTEST_SKIP() << "no ODBC driver of Access is here";
+#endif
         wahrheit_ = &wahrheit();
         ziel_ = uebernommen(std::string(GetParam()));
     }
@@ -70,6 +76,9 @@ protected:
     {
         static TempFolder ordner;
         static std::map<std::string, std::string> ziele;
+        // One that another system has made from the same source, for a driver that reads it only half.
+        if (const char* fertig = std::getenv("QUELVARN_WERK_A"); fertig && engine == "SQLite")
+            return fertig;
         if (!ziele.contains(engine)) {
             const std::string ziel =
                 engine == "PostgreSQL" ? PostgresCluster::find()->neueDatenbank() : pfad(ordner / "werk-a.qv");
@@ -197,7 +206,7 @@ TEST_P(WerkA, AnswersEveryQueryLikeTheSource)
         EXPECT_EQ(ist.size(), soll["count"]) << nummer;
         if (!frage["ordered"])
             ist = sortiert(std::move(ist));
-        EXPECT_EQ(sha256(ist), soll["sha256"]) << nummer << ' ' << frage["sql"];
+        EXPECT_EQ(summeOf(ist), soll["sha256"]) << nummer << ' ' << frage["sql"];
     }
 }
 
@@ -221,7 +230,7 @@ TEST_P(WerkA, FiltersARecordsetLikeTheSource)
                 zeile.push_back(wieAbgelegt(rs.Feld(spalte)));
             ist.push_back(zeile);
         }
-        EXPECT_EQ(sha256(sortiert(std::move(ist))), frage["result"]["sha256"]) << frage["id"];
+        EXPECT_EQ(summeOf(sortiert(std::move(ist))), frage["result"]["sha256"]) << frage["id"];
     }
 }
 
@@ -232,7 +241,7 @@ TEST_P(WerkA, ListsTablesInTheOrderOfTheSource)
             zeilen(ziel_, fmt::format("Select DokuBez, RevBez From {} ORDER BY DokuBez, RevBez DESC", tabelle));
         ist.erase(ist.begin());
         EXPECT_EQ(ist.size(), soll["count"]) << tabelle;
-        EXPECT_EQ(sha256(ist), soll["sha256"]) << tabelle;
+        EXPECT_EQ(summeOf(ist), soll["sha256"]) << tabelle;
     }
 }
 

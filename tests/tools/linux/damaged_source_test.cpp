@@ -1,3 +1,4 @@
+#include "base/text.h"
 #include "tools/befehle_fixture.h"
 #include "tools/import_fixture.h"
 
@@ -24,6 +25,14 @@ TEST_F(ImportDerProbe, RefusesADamagedFileWhereverItIsDamaged)
         ++versuche;
     }
     EXPECT_GT(versuche, 5);
+}
+
+TEST_F(ImportDerProbe, RefusesADatabaseOfAnotherKind)
+{
+    using namespace std::string_view_literals;
+    const std::string fremd = replaceAll(inhalt_, "I\0n\0i\0"sv, "X\0y\0z\0"sv); // In the catalog.
+    ASSERT_NE(fremd, inhalt_);
+    erwarteAbsage(fremd, "ist kein Register dieses Programms: die Tabelle Ini fehlt");
 }
 
 TEST_F(ImportDerProbe, LeavesNothingInAFolderThatMayNotBeWritten)
