@@ -100,6 +100,8 @@ test_windows() { # [ctest options]
   scripts/wine_prefix.sh
   configure windows
   build windows
+  configure release
+  build release qvadmin # For the tests that hold both systems against each other.
   local status=0
   scripts/with_postgres.sh ctest --preset windows -j "$JOBS" "$@" || status=$?
   scripts/wine_prefix.sh stop
