@@ -18,7 +18,7 @@ inline std::string treiberPfad(const std::filesystem::path& pfad)
     const FARPROC funktion = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name");
     const auto unixName = reinterpret_cast<UnixName>(reinterpret_cast<void*>(funktion));
     if (!unixName)
-        return pfad.string();
+        return utf8FromPath(pfad);
     char* name = unixName(pfad.c_str());
     std::string text = name ? name : "";
     HeapFree(GetProcessHeap(), 0, name);
