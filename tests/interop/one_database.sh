@@ -36,7 +36,7 @@ QUESTIONS=(
   "Select DokuBez From PartTabelle Where DokuBez LIKE 'fa-1%' ORDER BY DokuBez, RevBez"
   "Select DokuBez, Titel From PartTabelle Where Titel LIKE '%Ü%' ORDER BY DokuBez, RevBez"
   "Select Titel From PartTabelle Where Titel LIKE '[a-n]%' And Titel NOT LIKE '%e' ORDER BY Titel"
-  "Select Titel From PartTabelle Where Titel LIKE '%ß_' ORDER BY Titel"
+  "Select Titel From PartTabelle Where Titel LIKE '%ß' ORDER BY Titel"
   "Select Titel From PartTabelle Where Titel LIKE '%😀'"
   "Select DISTINCT Titel From PartTabelle ORDER BY Titel"
   "Select DISTINCT Material From PartTabelle ORDER BY Material DESC"
