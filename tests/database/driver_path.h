@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/file_path.h"
+
 #include <filesystem>
 #include <string>
 
@@ -27,7 +29,7 @@ inline std::string treiberPfad(const std::filesystem::path& pfad)
 #else
 inline std::string treiberPfad(const std::filesystem::path& pfad)
 {
-    return pfad.string();
+    return utf8FromPath(pfad);
 }
 #endif
 

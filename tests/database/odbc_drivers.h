@@ -14,11 +14,6 @@
 #include <string_view>
 #include <vector>
 
-// Programs that test anything but the ODBC engine go without.
-#ifndef QUELVARN_SQLITE_MODULE
-#define QUELVARN_SQLITE_MODULE ""
-#endif
-
 namespace quelvarn::test {
 
 // The ODBC engine over other drivers than that of Access, which only Windows has. What differs there, and why:
