@@ -59,6 +59,8 @@ protected:
         if (GetParam() == "PostgreSQL" && !PostgresCluster::find())
             GTEST_SKIP() << "no PostgreSQL server is installed here";
 #ifdef _WIN32
+        if (std::getenv("QUELVARN_WERK_A") && GetParam() == "PostgreSQL")
+            GTEST_SKIP() << "mdbtools, which stands in for the driver of Access, does not tell Null from an empty text";
         if (!std::getenv("QUELVARN_WERK_A") && !oeffneAccess(pfad(PROBEN / "werk-a.mdb")))
             GTEST_SKIP() << "no ODBC driver of Access is here";
 #endif
