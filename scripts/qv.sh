@@ -87,7 +87,7 @@ fetch_cross_libraries() { # into build/sqlite and build/libpq
   command -v npm >/dev/null || need npm
   say "Fetching SQLite and PostgreSQL's client library for Windows ..."
   mkdir -p build/npm
-  npm pack --silent --pack-destination build/npm "${CROSS_PACKAGES[@]}" >/dev/null
+  npm pack --loglevel=error --pack-destination build/npm "${CROSS_PACKAGES[@]}" >/dev/null
   unpack build/sqlite build/npm/better-sqlite3-*.tgz "${CROSS_SQLITE[@]}"
   unpack build/libpq build/npm/embedded-postgres-*.tgz "${CROSS_LIBPQ[@]}"
   rm -r build/npm
