@@ -97,9 +97,11 @@ fetch_cross_libraries() { # into build/sqlite and build/libpq
 test_windows() { # [ctest options]
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
   fetch_cross_libraries
-  scripts/wine_prefix.sh
+  scripts/wine_prefix.sh & # Takes ten seconds the first time, mostly of waiting.
+  local prefix=$!
   configure windows
   build windows
+  wait "$prefix"
   configure release
   build release qvadmin # For the tests that hold both systems against each other.
   local status=0
