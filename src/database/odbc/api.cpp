@@ -102,11 +102,14 @@ Handle::~Handle()
     SQLFreeHandle(rohArt(art_), roh_);
 }
 
+void* alsZeiger(std::uintptr_t zahl)
+{
+    return reinterpret_cast<void*>(zahl); // NOLINT(performance-no-int-to-ptr)
+}
+
 Umgebung::Umgebung() : handle_(Handleart::Umgebung, nullptr)
 {
-    // A number in the shape of a pointer, as ODBC wants it.
-    auto* version = reinterpret_cast<SQLPOINTER>(static_cast<std::uintptr_t>(SQL_OV_ODBC3));
-    pruefe(SQLSetEnvAttr(roh(), SQL_ATTR_ODBC_VERSION, version, 0), Handleart::Umgebung, roh(), "ODBC");
+    pruefe(SQLSetEnvAttr(roh(), SQL_ATTR_ODBC_VERSION, alsZeiger(SQL_OV_ODBC3), 0), Handleart::Umgebung, roh(), "ODBC");
 }
 
 std::vector<std::string> Umgebung::treiber() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -18,6 +19,9 @@ void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view
 
 // Makes the call, and makes it again for a moment while another program holds the file, the table or the row.
 Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle);
+
+// A number in the shape of a pointer, as ODBC wants attributes.
+void* alsZeiger(std::uintptr_t zahl);
 
 // One allocated handle.
 class Handle

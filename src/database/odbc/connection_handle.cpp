@@ -6,7 +6,6 @@
 #include "database/odbc/utf16.h"
 
 #include <array>
-#include <cstdint>
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlucode.h>
@@ -46,7 +45,7 @@ std::string Verbindung::datenbankname() const
 
 void Verbindung::setzeAutomatik(bool an)
 {
-    auto* wert = reinterpret_cast<SQLPOINTER>(static_cast<std::uintptr_t>(an ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF));
+    void* wert = alsZeiger(an ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
     pruefe(SQLSetConnectAttrW(roh(), SQL_ATTR_AUTOCOMMIT, wert, SQL_IS_UINTEGER), Handleart::Verbindung, roh(),
            quelle_);
 }

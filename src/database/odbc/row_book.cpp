@@ -23,7 +23,7 @@ template <class Zahl> Zahl lies(std::string_view& bild)
 }
 
 // What a cell holds stands in front of it.
-enum Art : char { Nichts, Ganz, Zahl, Text, Zeit };
+constexpr char Nichts = 'N', Ganz = 'G', Zahl = 'Z', Text = 'T', Zeit = 'D';
 
 struct Schreiber
 {

@@ -136,7 +136,7 @@ protected:
     // The server would take the type of a placeholder from its column and refuse what is too large or no integer.
     std::string platzhalter(std::size_t nummer, const Value& wert, FeldTyp typ) const override
     {
-        const std::string stelle = zaehlung_ == Zaehlung::Nummern ? fmt::format("${}", nummer) : "?";
+        std::string stelle = zaehlung_ == Zaehlung::Nummern ? fmt::format("${}", nummer) : "?";
         switch (typ) {
         case FeldTyp::Text:
             break;
