@@ -4,8 +4,8 @@
 #include <windows.h>
 #endif
 #include "base/runtime_error.h"
+#include "base/utf16.h"
 #include "database/catalog.h"
-#include "database/odbc/utf16.h"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +53,7 @@ Auskunft auskunftOf(Handleart art, RohHandle handle)
         SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(auskunft.status.data()), &auskunft.nummer,
                        reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &laenge);
     if (SQL_SUCCEEDED(ergebnis))
-        auskunft.text = ausUtf16(text.data());
+        auskunft.text = fromUtf16(text.data());
     return auskunft;
 }
 
@@ -125,7 +125,7 @@ std::vector<std::string> Umgebung::treiber() const
             reinterpret_cast<SQLWCHAR*>(angaben.data()), static_cast<SQLSMALLINT>(angaben.size()), &angabenLaenge));
     };
     for (bool da = weiter(SQL_FETCH_FIRST); da; da = weiter(SQL_FETCH_NEXT))
-        namen.push_back(ausUtf16(name.data()));
+        namen.push_back(fromUtf16(name.data()));
     return namen;
 }
 

@@ -3,7 +3,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #endif
-#include "database/odbc/utf16.h"
+#include "base/utf16.h"
 
 #include <array>
 #include <sql.h>
@@ -17,7 +17,7 @@ Verbindung::Verbindung() : handle_(Handleart::Verbindung, umgebung_.roh()) {}
 std::shared_ptr<Verbindung> Verbindung::oeffne(std::string_view text)
 {
     std::shared_ptr<Verbindung> verbindung(new Verbindung);
-    std::u16string breit = alsUtf16(text);
+    std::u16string breit = toUtf16(text);
     const auto verbinde = [&]() -> Ergebnis {
         return SQLDriverConnectW(verbindung->roh(), nullptr, reinterpret_cast<SQLWCHAR*>(breit.data()), SQL_NTS,
                                  nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
@@ -40,7 +40,7 @@ std::string Verbindung::datenbankname() const
     const SQLRETURN ergebnis = SQLGetInfoW(roh(), SQL_DBMS_NAME, name.data(),
                                            static_cast<SQLSMALLINT>(name.size() * sizeof(char16_t)), &laenge);
     pruefe(ergebnis, Handleart::Verbindung, roh(), quelle_);
-    return ausUtf16(name.data());
+    return fromUtf16(name.data());
 }
 
 void Verbindung::setzeAutomatik(bool an)

@@ -3,8 +3,8 @@
 #ifdef _WIN32
 #include <windows.h>
 #endif
+#include "base/utf16.h"
 #include "database/odbc/connection_handle.h"
-#include "database/odbc/utf16.h"
 #include "database/sql/column_value.h"
 
 #include <array>
@@ -31,7 +31,7 @@ std::vector<Gebunden> bindung(std::span<const Value> parameter)
     for (std::size_t i = 0; i < parameter.size(); ++i) {
         if (istNull(parameter[i]))
             continue;
-        gebundene[i].text = alsUtf16(sql::parametertext(parameter[i]));
+        gebundene[i].text = toUtf16(sql::parametertext(parameter[i]));
         gebundene[i].laenge = static_cast<SQLLEN>(gebundene[i].text.size() * sizeof(char16_t));
     }
     return gebundene;
@@ -77,7 +77,7 @@ Anweisung Anweisung::fuehreAus(std::shared_ptr<Verbindung> verbindung, std::stri
                                std::span<const Value> parameter)
 {
     Anweisung anweisung(std::move(verbindung));
-    std::u16string text = alsUtf16(sql);
+    std::u16string text = toUtf16(sql);
     std::vector<Gebunden> gebundene = bindung(parameter);
     for (std::size_t i = 0; i < gebundene.size(); ++i)
         anweisung.pruefe(binde(anweisung.handle_->roh(), i + 1, gebundene[i]));
@@ -98,7 +98,7 @@ Anweisung Anweisung::tabellen(std::shared_ptr<Verbindung> verbindung)
 Anweisung Anweisung::spalten(std::shared_ptr<Verbindung> verbindung, std::string_view tabelle)
 {
     Anweisung anweisung(std::move(verbindung));
-    std::u16string name = alsUtf16(tabelle);
+    std::u16string name = toUtf16(tabelle);
     anweisung.pruefe(SQLColumnsW(anweisung.handle_->roh(), nullptr, 0, nullptr, 0, breit(name), SQL_NTS, nullptr, 0));
     return anweisung;
 }
@@ -130,7 +130,7 @@ bool Anweisung::holeText(std::size_t spalte, std::string& text)
         if (!rest)
             break;
     }
-    text = ausUtf16(gesamt);
+    text = fromUtf16(gesamt);
     return true;
 }
 
