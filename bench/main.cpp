@@ -82,7 +82,7 @@ void messe(Messreihe& reihe, const Auftrag& auftrag)
 {
 #ifdef QUELVARN_BENCH_ACCESS
     const auto access =
-        auftrag.access.empty() ? std::filesystem::path(QUELVARN_SHARED) / "samples/werk-a.mdb" : auftrag.access;
+        auftrag.access.empty() ? std::filesystem::path(QUELVARN_TEST_DATA) / "werk-a.mdb" : auftrag.access;
     if (std::filesystem::exists(access))
         messeImport(reihe, access);
 #endif

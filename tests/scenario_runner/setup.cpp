@@ -41,9 +41,7 @@ void registerVerb(World& world, const Step& step)
     } else if (kind == "sample") {
         runAdmin({"sample", target, "--documents", step.word(3), "--files", world.realPath("W:\\").string()});
     } else if (kind == "import") {
-        const auto source = std::filesystem::path(QUELVARN_SHARED) / "samples" / step.word(3);
-        if (!std::filesystem::exists(source))
-            throw Skipped(fmt::format("{} is not on this machine", step.word(3)));
+        const auto source = std::filesystem::path(QUELVARN_TEST_DATA) / step.word(3);
         runAdmin({"import", source.string(), target});
     } else {
         throw Difference(fmt::format("a register of the kind \"{}\" is not known", kind));

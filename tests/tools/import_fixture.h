@@ -10,7 +10,7 @@
 
 namespace quelvarn::test {
 
-inline const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_SHARED) / "samples";
+inline const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_TEST_DATA);
 inline const std::filesystem::path PROBE = PROBEN / "werk-a.mdb";
 
 inline void schreibe(const std::filesystem::path& datei, std::string_view inhalt)
@@ -60,8 +60,6 @@ class ImportDerProbe : public Import
 protected:
     void SetUp() override
     {
-        if (!std::filesystem::exists(PROBE))
-            GTEST_SKIP() << "the sample file is not here: " << PROBE;
 #ifdef _WIN32
         if (!oeffneAccess(pfad(PROBE)))
             GTEST_SKIP() << "no ODBC driver of Access is here";

@@ -20,7 +20,7 @@ using nlohmann::json;
 namespace quelvarn::test {
 namespace {
 
-const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_SHARED) / "samples";
+const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_TEST_DATA);
 
 // These need more than the program's own dialect: joins, subselects, functions.
 const std::set<std::string> NICHT_IM_DIALEKT{"Q19", "Q45", "Q46", "Q47"};
@@ -54,8 +54,6 @@ class WerkA : public ::testing::TestWithParam<std::string_view>
 protected:
     void SetUp() override
     {
-        if (!std::filesystem::exists(PROBEN / "werk-a.mdb"))
-            GTEST_SKIP() << "the sample file is not here: " << PROBEN;
         if (GetParam() == "PostgreSQL" && !PostgresCluster::find())
             GTEST_SKIP() << "no PostgreSQL server is installed here";
 #ifdef _WIN32
