@@ -9,7 +9,7 @@
 
 namespace quelvarn {
 
-class DatabaseFault : public RegisterTest
+class FaultsAtTheStart : public RegisterTest
 {
 protected:
     void erwarteFehler(const std::string& pfad, const std::string& abschnitt)
@@ -50,7 +50,7 @@ protected:
     }
 };
 
-TEST_F(DatabaseFault, FilesThatAreNoRegisterAreRefused)
+TEST_F(FaultsAtTheStart, FilesThatAreNoRegisterAreRefused)
 {
     erwarteKeinRegister();
     nurMit({"Anderes", {{"Feld1", FeldTyp::Text}}, {}});
@@ -62,7 +62,7 @@ TEST_F(DatabaseFault, FilesThatAreNoRegisterAreRefused)
     scheitert();
 }
 
-TEST_F(DatabaseFault, AMissingFileAndAnAccessFileFailAtTheConnection)
+TEST_F(FaultsAtTheStart, AMissingFileAndAnAccessFileFailAtTheConnection)
 {
     session.DatenbankPfad = "W:\\weg.mdb";
     erwarteFehler("W:\\weg.mdb", "Verbindung zur Datenbank");
@@ -75,7 +75,7 @@ TEST_F(DatabaseFault, AMissingFileAndAnAccessFileFailAtTheConnection)
     EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("Treiber für Access"));
 }
 
-TEST_F(DatabaseFault, ATableThatLacksAColumnFailsInTheStepThatNeedsIt)
+TEST_F(FaultsAtTheStart, ATableThatLacksAColumnFailsInTheStepThatNeedsIt)
 {
     Tabellenschema ini{"Ini", {}, {}};
     for (const char* feld : {"Feld1", "Feld2", "Feld3", "Feld4"})
@@ -85,7 +85,7 @@ TEST_F(DatabaseFault, ATableThatLacksAColumnFailsInTheStepThatNeedsIt)
     scheitert();
 }
 
-TEST_F(DatabaseFault, ANullWhereATextMustStandFailsInItsStep)
+TEST_F(FaultsAtTheStart, ANullWhereATextMustStandFailsInItsStep)
 {
     meldeAn();
     const struct
@@ -109,7 +109,7 @@ TEST_F(DatabaseFault, ANullWhereATextMustStandFailsInItsStep)
     }
 }
 
-TEST_F(DatabaseFault, CancelEndsTheProgram)
+TEST_F(FaultsAtTheStart, CancelEndsTheProgram)
 {
     session.DatenbankPfad = "W:\\weg.mdb";
     world.meldungen.antworte();
@@ -118,7 +118,7 @@ TEST_F(DatabaseFault, CancelEndsTheProgram)
 }
 
 #ifndef _WIN32
-TEST_F(DatabaseFault, AReadOnlyRegisterFailsAtTheFirstWriteAndKeepsNothing)
+TEST_F(FaultsAtTheStart, AReadOnlyRegisterFailsAtTheFirstWriteAndKeepsNothing)
 {
     db.Close();
     std::filesystem::permissions(ordner.path(), std::filesystem::perms(0555));
