@@ -93,6 +93,22 @@ fetch_cross_libraries() { # into build/sqlite and build/libpq
   rm -r build/npm
 }
 
+# Runs ctest, and names in the end what was skipped: a skipped test is a passed one for ctest.
+run_tests() { # preset command...
+  local reports="$PWD/build/$1/reports" status=0
+  shift
+  rm -rf "$reports"
+  mkdir -p "$reports"
+  GTEST_OUTPUT="xml:$reports/" "$@" || status=$?
+  local skipped
+  skipped="$(awk -F'"' '
+    /<testcase/ { for (i = 1; i < NF; i += 2) { if ($i ~ / name=$/) test = $(i + 1); if ($i ~ / classname=$/) suite = $(i + 1) } }
+    /<skipped message=/ { reason = $2; sub(/^.*&#x0A;/, "", reason); print "  " suite "." test ": " reason }
+  ' "$reports"/*.xml | sort -u)"
+  [[ -n "$skipped" ]] && printf 'Skipped here:\n%s\n' "$skipped"
+  return "$status"
+}
+
 # The core for Windows, built here and run under Wine.
 test_windows() { # [ctest options]
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
@@ -105,7 +121,7 @@ test_windows() { # [ctest options]
   configure release
   build release qvadmin # For the tests that hold both systems against each other.
   local status=0
-  scripts/with_postgres.sh ctest --preset windows -j "$JOBS" "$@" || status=$?
+  run_tests windows scripts/with_postgres.sh ctest --preset windows -j "$JOBS" "$@" || status=$?
   scripts/wine_prefix.sh stop
   return "$status"
 }
@@ -128,7 +144,7 @@ command_test() { # [--sanitize|--debug|--windows] [ctest options]
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
   configure "$preset"
   build "$preset"
-  ctest --preset "$preset" -j "$JOBS" "${options[@]}"
+  run_tests "$preset" ctest --preset "$preset" -j "$JOBS" "${options[@]}"
 }
 
 command_bench() {

@@ -113,13 +113,12 @@ TEST(DatabaseFile, TakesCellsAndColumnsOfAnotherMakersFile)
 
 class EngineWriters : public EngineTest
 {};
-INSTANTIATE_TEST_SUITE_P(, EngineWriters, alleEngines, engineName);
+// SQLite's ODBC driver asks for the write lock too late: two writers may block each other.
+INSTANTIATE_TEST_SUITE_P(, EngineWriters, ::testing::Values("SQLite", "PostgreSQL", "OdbcPostgreSQL"), engineName);
 
 // Several seats of the office write and read at once; none may see a fault or lose a row.
 TEST_P(EngineWriters, ManyAtOnceLoseNothing)
 {
-    if (GetParam() == "OdbcSQLite")
-        GTEST_SKIP() << "this driver asks for the write lock too late: two writers may block each other";
     fuelle({{"Name", FeldTyp::Text}, {"Nummer", FeldTyp::Ganzzahl}}, {}, {{{"Name", false}}});
     std::atomic<int> geschrieben = 0;
     std::atomic<int> fehler = 0;
