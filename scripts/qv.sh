@@ -95,11 +95,12 @@ fetch_cross_libraries() { # into build/sqlite and build/libpq
 
 # Runs ctest, and names in the end what was skipped: a skipped test is a passed one for ctest.
 run_tests() { # preset command...
-  local reports="$PWD/build/$1/reports" status=0
+  local reports="$PWD/build/$1/reports" drive="" status=0
+  [[ "$1" == windows ]] && drive=Z: # Where Wine shows this machine's folders.
   shift
   rm -rf "$reports"
   mkdir -p "$reports"
-  GTEST_OUTPUT="xml:$reports/" "$@" || status=$?
+  GTEST_OUTPUT="xml:$drive$reports/" "$@" || status=$?
   local skipped
   skipped="$(awk -F'"' '
     /<testcase/ { for (i = 1; i < NF; i += 2) { if ($i ~ / name=$/) test = $(i + 1); if ($i ~ / classname=$/) suite = $(i + 1) } }
