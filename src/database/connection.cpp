@@ -87,13 +87,13 @@ void Connection::Open(const std::filesystem::path& pfad)
     const std::string anfang = leseAnfang(pfad);
     switch (artAusAnfang(anfang)) {
     case DatenbankArt::SQLite:
-        engine_ = oeffneSqlite(pfad, false);
+        use(oeffneSqlite(pfad, false));
         return;
     case DatenbankArt::PostgreSQL:
-        engine_ = oeffnePostgres(ersteZeile(anfang));
+        use(oeffnePostgres(ersteZeile(anfang), patience_));
         return;
     case DatenbankArt::Access:
-        engine_ = oeffneAccess(pfad);
+        use(oeffneAccess(pfad));
         if (!engine_)
             meldeAccess(pfad);
         return;
@@ -107,9 +107,22 @@ void Connection::Open(const std::filesystem::path& pfad)
 void Connection::OpenAdresse(std::string_view pfadOderAdresse)
 {
     if (istPostgresAdresse(pfadOderAdresse))
-        engine_ = oeffnePostgres(pfadOderAdresse);
+        use(oeffnePostgres(pfadOderAdresse, patience_));
     else
         Open(pathFromUtf8(pfadOderAdresse));
+}
+
+void Connection::setPatience(Patience* patience)
+{
+    patience_ = patience;
+    if (engine_)
+        engine_->setPatience(patience);
+}
+
+void Connection::use(std::shared_ptr<Engine> engine)
+{
+    engine_ = std::move(engine);
+    setPatience(patience_);
 }
 
 void Connection::Close()

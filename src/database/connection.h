@@ -32,13 +32,19 @@ public:
     void Close();
     bool offen() const { return engine_ != nullptr; }
 
+    // Asked while a database lets wait, also one that is opened later; null for nobody. Outlives the connection.
+    void setPatience(Patience* patience);
+
     // One INSERT, UPDATE or DELETE of the program's dialect. Rows affected.
     std::int64_t Execute(std::string_view sql);
 
     Engine& engine() const;
 
 private:
+    void use(std::shared_ptr<Engine> engine);
+
     std::shared_ptr<Engine> engine_;
+    Patience* patience_ = nullptr;
     friend class Recordset;
     friend class Transaktion;
 };

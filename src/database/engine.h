@@ -13,6 +13,8 @@
 
 namespace quelvarn {
 
+class Patience;
+
 using Zeilenschluessel = std::int64_t;
 
 // Typed rows of a result, one at a time. Text views hold until the next call of next().
@@ -56,6 +58,8 @@ public:
     virtual ~Engine() = default;
     virtual std::string_view name() const = 0;
     virtual EngineFaehigkeiten faehigkeiten() const = 0;
+    // Asked while the engine waits for somebody else; null: it waits as long as it finds right. Outlives the engine.
+    virtual void setPatience(Patience*) {}
 
     virtual std::vector<std::string> tabellen() = 0;
     // Columns as they stand in the database; nothing when there is no such table. Names in any case.

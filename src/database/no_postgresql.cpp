@@ -5,7 +5,7 @@
 // In place of postgresql/ where its library was not there when the program was built.
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view)
+std::shared_ptr<Engine> oeffnePostgres(std::string_view, Patience*)
 {
     throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "Dieses Programm wurde ohne PostgreSQL gebaut.");
 }

@@ -227,7 +227,7 @@ void PostgresEngine::nimmZurueck()
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse)
+std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience*)
 {
     return std::make_shared<postgresql::PostgresEngine>(adresse);
 }
