@@ -141,11 +141,7 @@ bool Zeilenspeicher::lade(std::span<const std::size_t> gewuenscht, const Fortsch
     if (felder.empty())
         return true;
 
-    std::vector<std::string> alle = std::exchange(abfrage_.spalten, namen(felder));
-    std::vector<sql::Sortierung> ordnung = std::exchange(abfrage_.orderBy, {});
-    const auto leser = engine_->lese(abfrage_, MitSchluessel::Ja);
-    abfrage_.spalten = std::move(alle);
-    abfrage_.orderBy = std::move(ordnung);
+    const auto leser = leseUnsortiert(felder);
     Schluesselkarte karte(schluessel_);
     if (!setzeZellen(*leser, gelesen, karte, fortschritt, anzahl_))
         return false;
@@ -156,6 +152,25 @@ bool Zeilenspeicher::lade(std::span<const std::size_t> gewuenscht, const Fortsch
         spalten_[felder[i]] = std::move(gelesen[i]);
     }
     return true;
+}
+
+// The statement is whole again also when the engine fails: the recordset stays in use.
+std::unique_ptr<Zeilenleser> Zeilenspeicher::leseUnsortiert(std::span<const std::size_t> felder)
+{
+    struct Rueckgabe
+    {
+        ~Rueckgabe()
+        {
+            abfrage.spalten = std::move(spalten);
+            abfrage.orderBy = std::move(ordnung);
+        }
+        sql::Select& abfrage;
+        std::vector<std::string> spalten;
+        std::vector<sql::Sortierung> ordnung;
+    };
+    const Rueckgabe rueckgabe{abfrage_, std::exchange(abfrage_.spalten, namen(felder)),
+                              std::exchange(abfrage_.orderBy, {})};
+    return engine_->lese(abfrage_, MitSchluessel::Ja);
 }
 
 // Rows changed or added here, by their keys: they may no longer meet the recordset's own condition.

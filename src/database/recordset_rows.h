@@ -64,6 +64,7 @@ private:
     bool leseGanz(std::size_t hoechstens, Doppelsuche* doppelte);
     void leseSchluessel();
     void ordneNeu();
+    std::unique_ptr<Zeilenleser> leseUnsortiert(std::span<const std::size_t> felder);
     void setzeEigene(Spaltenliste& spalten, std::span<const std::size_t> felder);
     std::vector<std::string> namen(std::span<const std::size_t> felder) const;
 

@@ -7,7 +7,6 @@
 
 #include <cassert>
 #include <fmt/format.h>
-#include <libpq-fe.h>
 
 namespace quelvarn::postgresql {
 namespace {
@@ -59,9 +58,9 @@ Massenschreiber::~Massenschreiber()
     if (!kopiert_)
         return;
     try {
-        schliesse("abgebrochen");
+        handle_->beendeZeilen("abgebrochen");
     } catch (const Laufzeitfehler&) {
-        // The server confirms that it gave up.
+        // The server confirms that it gave up, or is gone.
     }
 }
 
@@ -85,28 +84,15 @@ void Massenschreiber::zeile(std::span<const Value> werte)
 
 void Massenschreiber::sende()
 {
-    if (PQputCopyData(handle_->roh(), puffer_.data(), static_cast<int>(puffer_.size())) != 1)
-        handle_->melde(nullptr);
+    handle_->sendeZeilen(puffer_);
     puffer_.clear();
-}
-
-void Massenschreiber::schliesse(const char* grund)
-{
-    kopiert_ = false;
-    if (PQputCopyEnd(handle_->roh(), grund) != 1)
-        handle_->melde(nullptr);
-    Ergebnis fehler;
-    while (Ergebnis ergebnis{PQgetResult(handle_->roh())})
-        if (PQresultStatus(ergebnis.get()) != PGRES_COMMAND_OK)
-            fehler = std::move(ergebnis);
-    if (fehler)
-        handle_->melde(fehler.get());
 }
 
 void Massenschreiber::beende()
 {
     sende();
-    schliesse(nullptr);
+    kopiert_ = false;
+    handle_->beendeZeilen(nullptr);
     transaktion_.schliesseAb();
     engine_.frischeAuf(tabelle_);
 }

@@ -19,8 +19,6 @@ public:
 
 private:
     void sende();
-    // Ends the COPY, with a reason when it is to fail.
-    void schliesse(const char* grund);
 
     PostgresEngine& engine_;
     std::shared_ptr<Handle> handle_;

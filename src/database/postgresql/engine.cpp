@@ -3,6 +3,7 @@
 #include "base/runtime_error.h"
 #include "database/create.h"
 #include "database/distinct_reader.h"
+#include "database/faults.h"
 #include "database/postgresql/bulk_writer.h"
 #include "database/postgresql/ddl.h"
 #include "database/postgresql/functions.h"
@@ -31,14 +32,29 @@ std::string_view zelle(const Ergebnis& ergebnis, int zeile, int spalte)
 
 } // namespace
 
-PostgresEngine::PostgresEngine(std::string_view adresse)
-    : handle_(Handle::oeffne(adresse)), katalog_([this](std::string_view name) { return leseSchema(name); })
-{}
+PostgresEngine::PostgresEngine(std::string_view adresse, Patience* patience)
+    : handle_(Handle::oeffne(adresse, patience)), katalog_([this](std::string_view name) { return leseSchema(name); })
+{
+    handle_->verbundenAnders = [this] {
+        katalog_.vergiss();
+        funktionenAngelegt_ = false;
+    };
+}
+
+PostgresEngine::~PostgresEngine()
+{
+    handle_->verbundenAnders = {}; // A reader may keep the connection for longer.
+}
+
+void PostgresEngine::setPatience(Patience* patience)
+{
+    handle_->setPatience(patience);
+}
 
 std::vector<std::string> PostgresEngine::tabellen()
 {
-    const Ergebnis ergebnis = handle_->fuehreAus(
-        fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(sichtbareTabellen, "'r', 'p', 'f'")));
+    const Ergebnis ergebnis =
+        handle_->lies(fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(sichtbareTabellen, "'r', 'p', 'f'")));
     std::vector<std::string> namen;
     for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
         namen.emplace_back(zelle(ergebnis, zeile, 0));
@@ -61,7 +77,7 @@ std::optional<Tabellenschema> PostgresEngine::leseSchema(std::string_view name)
                                         "WHERE a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum",
                                         fmt::format(sichtbareTabellen, "'r', 'p', 'f', 'v', 'm'"));
     const Value gesucht = std::string(name);
-    const Ergebnis ergebnis = handle_->fuehreAus(sql, {&gesucht, 1});
+    const Ergebnis ergebnis = handle_->lies(sql, {&gesucht, 1});
     if (PQntuples(ergebnis.get()) == 0)
         return std::nullopt;
     Tabellenschema tabelle{std::string(zelle(ergebnis, 0, 0)), {}, {}};
@@ -75,10 +91,23 @@ std::unique_ptr<Zeilenleser> PostgresEngine::lese(const sql::Select& select, Mit
                                                   std::size_t grenze)
 {
     const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    auto zeilen = leser(sql::postgresDialekt().select(select, tabelle, schluessel, grenze), schluessel);
-    if (!select.distinct)
-        return zeilen;
-    return std::make_unique<DistinctLeser>(*zeilen, select.orderBy, grenze);
+    const sql::Gerendert gerendert = sql::postgresDialekt().select(select, tabelle, schluessel, grenze);
+    return select.distinct ? leseVerschiedene(select, gerendert, grenze) : leser(gerendert, schluessel);
+}
+
+std::unique_ptr<Zeilenleser> PostgresEngine::leseVerschiedene(const sql::Select& select,
+                                                              const sql::Gerendert& gerendert, std::size_t grenze)
+{
+    const auto lies = [&] {
+        return std::make_unique<DistinctLeser>(*leser(gerendert, MitSchluessel::Nein), select.orderBy, grenze);
+    };
+    try {
+        return lies();
+    } catch (const DatabaseFault& fehler) { // Nobody has seen a row yet.
+        if (!handle_->darfWiederholen(fehler))
+            throw;
+    }
+    return lies();
 }
 
 std::unique_ptr<Zeilenleser> PostgresEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
@@ -91,24 +120,23 @@ std::unique_ptr<Zeilenleser> PostgresEngine::leseZeilen(std::string_view tabelle
     sql::Gerendert gerendert = sql::postgresDialekt().select(select, schema, MitSchluessel::Ja);
     gerendert.text += fmt::format(" WHERE {} = ANY ($1::bigint[])", schluesselspalte);
     gerendert.parameter.emplace_back(fmt::format("{{{}}}", fmt::join(schluessel, ",")));
-    return leser(std::move(gerendert), MitSchluessel::Ja);
+    return leser(gerendert, MitSchluessel::Ja);
 }
 
 std::string PostgresEngine::ausfuehrungsplan(const sql::Select& select)
 {
     const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
     const sql::Gerendert gerendert = sql::postgresDialekt().select(select, tabelle, MitSchluessel::Nein);
-    const Ergebnis ergebnis = handle_->fuehreAus("EXPLAIN " + gerendert.text, gerendert.parameter);
+    const Ergebnis ergebnis = handle_->lies("EXPLAIN " + gerendert.text, gerendert.parameter);
     std::string plan;
     for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
         plan += std::string(zelle(ergebnis, zeile, 0)) + '\n';
     return plan;
 }
 
-std::unique_ptr<Zeilenleser> PostgresEngine::leser(sql::Gerendert gerendert, MitSchluessel schluessel)
+std::unique_ptr<Zeilenleser> PostgresEngine::leser(const sql::Gerendert& gerendert, MitSchluessel schluessel)
 {
-    return std::make_unique<Leser>(handle_, gerendert.text, gerendert.parameter, std::move(gerendert.spalten),
-                                   schluessel);
+    return std::make_unique<Leser>(handle_, gerendert.text, gerendert.parameter, gerendert.spalten, schluessel);
 }
 
 std::int64_t PostgresEngine::aendereZeilen(const sql::Gerendert& gerendert)
@@ -161,7 +189,7 @@ std::vector<std::vector<IndexSpalte>> PostgresEngine::fehlendeIndexe(const Tabel
     std::vector<std::vector<IndexSpalte>> fehlende;
     for (const auto& index : tabelle.indexe) {
         const Value name = sql::Dialekt::bezeichner(indexname(tabelle, index));
-        const Ergebnis ergebnis = handle_->fuehreAus("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
+        const Ergebnis ergebnis = handle_->lies("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
         if (PQntuples(ergebnis.get()) == 0)
             fehlende.push_back(index);
     }
@@ -177,7 +205,7 @@ void PostgresEngine::entferneTabelle(std::string_view name)
 
 void PostgresEngine::frischeAuf(const std::string& tabelle)
 {
-    if (!transaktion_.offen())
+    if (!handle_->inTransaktion())
         handle_->fuehreAus("VACUUM (ANALYZE) " + sql::Dialekt::bezeichner(tabelle));
 }
 
@@ -185,12 +213,12 @@ void PostgresEngine::legeFunktionenAn()
 {
     if (funktionenAngelegt_)
         return;
-    const std::string_view kodierung = PQparameterStatus(handle_->roh(), "server_encoding");
+    const std::string kodierung = handle_->kodierung();
     if (kodierung != "UTF8")
         throw Laufzeitfehler(
             FEHLER_ALLGEMEIN, "PostgreSQL",
             fmt::format("Die PostgreSQL-Datenbank muss die Kodierung UTF8 haben, nicht {}.", kodierung));
-    const Ergebnis schema = handle_->fuehreAus("SELECT current_schema()");
+    const Ergebnis schema = handle_->lies("SELECT current_schema()");
     handle_->fuehreAus(funktionenAnlegen(zelle(schema, 0, 0)));
     funktionenAngelegt_ = true;
 }
@@ -204,32 +232,28 @@ std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::st
 
 void PostgresEngine::beginne()
 {
-    handle_->fuehreAus(transaktion_.beginn());
-    transaktion_.begonnen();
+    handle_->beginne();
 }
 
 void PostgresEngine::schliesseAb()
 {
-    handle_->fuehreAus(transaktion_.abschluss());
-    transaktion_.beendet();
+    handle_->schliesseAb();
 }
 
 void PostgresEngine::nimmZurueck()
 {
-    const std::string ruecknahme = transaktion_.ruecknahme();
-    transaktion_.beendet();
     katalog_.vergiss(); // Tables made meanwhile go as well.
     funktionenAngelegt_ = false;
-    handle_->fuehreAus(ruecknahme);
+    handle_->nimmZurueck();
 }
 
 } // namespace quelvarn::postgresql
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience*)
+std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience* patience)
 {
-    return std::make_shared<postgresql::PostgresEngine>(adresse);
+    return std::make_shared<postgresql::PostgresEngine>(adresse, patience);
 }
 
 } // namespace quelvarn

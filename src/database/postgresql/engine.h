@@ -2,7 +2,6 @@
 
 #include "database/catalog.h"
 #include "database/engine.h"
-#include "database/nested_transaction.h"
 
 namespace quelvarn::sql {
 struct Gerendert;
@@ -16,10 +15,13 @@ class Handle;
 class PostgresEngine final : public Engine
 {
 public:
-    explicit PostgresEngine(std::string_view adresse);
+    // `patience` may be null, and outlives the engine.
+    PostgresEngine(std::string_view adresse, Patience* patience);
+    ~PostgresEngine() override;
 
     std::string_view name() const override { return "PostgreSQL"; }
     EngineFaehigkeiten faehigkeiten() const override { return {}; }
+    void setPatience(Patience* patience) override;
 
     std::vector<std::string> tabellen() override;
     std::optional<Tabellenschema> findTabelle(std::string_view name) override;
@@ -51,13 +53,14 @@ public:
 
 private:
     std::optional<Tabellenschema> leseSchema(std::string_view name);
-    std::unique_ptr<Zeilenleser> leser(sql::Gerendert gerendert, MitSchluessel schluessel);
+    std::unique_ptr<Zeilenleser> leser(const sql::Gerendert& gerendert, MitSchluessel schluessel);
+    std::unique_ptr<Zeilenleser> leseVerschiedene(const sql::Select& select, const sql::Gerendert& gerendert,
+                                                  std::size_t grenze);
     std::int64_t aendereZeilen(const sql::Gerendert& gerendert);
     void legeFunktionenAn();
 
     std::shared_ptr<Handle> handle_;
     Tabellenkatalog katalog_;
-    Transaktionsfolge transaktion_{"BEGIN"};
     bool funktionenAngelegt_ = false;
 };
 

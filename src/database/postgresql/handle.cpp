@@ -1,133 +1,116 @@
 #include "database/postgresql/handle.h"
 
-#include "base/runtime_error.h"
-#include "base/text.h"
 #include "database/catalog.h"
 #include "database/postgresql/reader.h"
-#include "database/postgresql/text_values.h"
-#include "database/sql/column_value.h"
+#include "database/postgresql/server_faults.h"
 
-#include <array>
-#include <fmt/format.h>
 #include <libpq-fe.h>
-#include <utility>
-#include <vector>
 
 namespace quelvarn::postgresql {
 namespace {
 
-// Results come as the program reads them. Compiling plans would take longer than the register's queries.
-constexpr const char* einstellungen = "SET client_min_messages = warning;"
-                                      "SET datestyle = 'ISO, YMD';"
-                                      "SET extra_float_digits = 1;"
-                                      "SET standard_conforming_strings = on;"
-                                      "SET jit = off";
-
-// Parameters as the driver takes them: texts, with a null pointer for Null.
-class Parameter
-{
-public:
-    explicit Parameter(std::span<const Value> werte)
-    {
-        texte_.reserve(werte.size());
-        for (const Value& wert : werte) {
-            texte_.push_back(sql::parametertext(wert));
-            zeiger_.push_back(istNull(wert) ? nullptr : texte_.back().c_str());
-        }
-    }
-
-    int anzahl() const { return static_cast<int>(zeiger_.size()); }
-    const char* const* zeiger() const { return zeiger_.data(); }
-
-private:
-    std::vector<std::string> texte_;
-    std::vector<const char*> zeiger_;
-};
-
-bool istFehler(const PGresult* ergebnis)
-{
-    const ExecStatusType status = PQresultStatus(ergebnis);
-    return status == PGRES_FATAL_ERROR || status == PGRES_BAD_RESPONSE;
-}
+constexpr std::string_view TRANSAKTION_VERLOREN = "Die begonnenen Änderungen wurden nicht geschrieben.";
+constexpr std::string_view WIRKUNG_UNGEWISS = "Ob die Änderung noch geschrieben wurde, ist ungewiss.";
 
 } // namespace
 
-void LoescheErgebnis::operator()(pg_result* ergebnis) const
+std::shared_ptr<Handle> Handle::oeffne(std::string_view adresse, Patience* patience)
 {
-    PQclear(ergebnis);
-}
-
-std::shared_ptr<Handle> Handle::oeffne(std::string_view adresse)
-{
-    const std::string text(adresse);
-    // What stands in the address wins over what stands in front of it here.
-    const std::array<const char*, 5> namen{"connect_timeout", "fallback_application_name", "dbname", "client_encoding",
-                                           nullptr};
-    const std::array<const char*, 5> werte{"15", "Quelvarn", text.c_str(), "UTF8", nullptr};
-    std::shared_ptr<Handle> handle(new Handle);
-    handle->verbindung_ = PQconnectdbParams(namen.data(), werte.data(), 1);
-    if (PQstatus(handle->verbindung_) != CONNECTION_OK)
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL",
-                             fmt::format("Die Verbindung zur PostgreSQL-Datenbank kann nicht hergestellt werden.\n{}",
-                                         trim(PQerrorMessage(handle->verbindung_))));
-    PQsetNoticeProcessor(
-        handle->verbindung_, [](void*, const char*) {}, nullptr);
-    handle->fuehreAus(einstellungen);
+    std::shared_ptr<Handle> handle(new Handle(adresse, patience));
+    handle->link_.connect();
     return handle;
 }
 
-Handle::~Handle()
+void Handle::bereite()
 {
-    PQfinish(verbindung_);
+    if (link_.waiting())
+        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "Die Antwort der Datenbank steht noch aus.");
+    machFrei();
+    if (link_.alive())
+        return;
+    link_.drop();
+    if (transaktion_.offen())
+        link_.throwLost(TRANSAKTION_VERLOREN);
+    link_.connect();
+    if (verbundenAnders)
+        verbundenAnders();
+}
+
+std::string_view Handle::wennVerloren() const
+{
+    return transaktion_.offen() ? TRANSAKTION_VERLOREN : WIRKUNG_UNGEWISS;
+}
+
+bool Handle::darfWiederholen(const DatabaseFault& fehler) const
+{
+    return fehler.kind() == FaultKind::ConnectionLost && !link_.connected() && !transaktion_.offen() &&
+           !dynamic_cast<const ServerSilent*>(&fehler);
+}
+
+template <class Lauf> Ergebnis Handle::wiederholbar(Lauf lauf)
+{
+    bereite();
+    try {
+        return lauf();
+    } catch (const DatabaseFault& fehler) {
+        if (!darfWiederholen(fehler))
+            throw;
+    }
+    bereite();
+    return lauf();
+}
+
+Ergebnis Handle::lies(const std::string& sql, std::span<const Value> parameter)
+{
+    return wiederholbar([&] {
+        link_.send(sql, parameter, transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+        return link_.answer();
+    });
 }
 
 Ergebnis Handle::fuehreAus(const std::string& sql)
 {
-    machFrei();
-    Ergebnis ergebnis(PQexec(verbindung_, sql.c_str()));
-    if (istFehler(ergebnis.get()))
-        melde(ergebnis.get());
-    return ergebnis;
+    bereite();
+    link_.send(sql, wennVerloren());
+    return link_.answer();
 }
 
 Ergebnis Handle::fuehreAus(const std::string& sql, std::span<const Value> parameter)
 {
-    machFrei();
-    const Parameter p(parameter);
-    Ergebnis ergebnis(PQexecParams(verbindung_, sql.c_str(), p.anzahl(), nullptr, p.zeiger(), nullptr, nullptr, 0));
-    if (istFehler(ergebnis.get()))
-        melde(ergebnis.get());
-    return ergebnis;
+    bereite();
+    link_.send(sql, parameter, wennVerloren());
+    return link_.answer();
 }
 
-void Handle::starte(const std::string& sql, std::span<const Value> parameter, Leser& leser)
+Ergebnis Handle::starte(const std::string& sql, std::span<const Value> parameter, Leser& leser)
 {
-    machFrei();
-    const Parameter p(parameter);
-    if (!PQsendQueryParams(verbindung_, sql.c_str(), p.anzahl(), nullptr, p.zeiger(), nullptr, nullptr, 0))
-        melde(nullptr);
-    PQsetSingleRowMode(verbindung_);
-    liest_ = &leser;
+    return wiederholbar([&] {
+        link_.send(sql, parameter, transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+        link_.singleRows();
+        liest_ = &leser;
+        return naechstes();
+    });
 }
 
 Ergebnis Handle::naechstes()
 {
-    Ergebnis ergebnis(PQgetResult(verbindung_));
-    if (ergebnis && istFehler(ergebnis.get())) {
-        while (Ergebnis(PQgetResult(verbindung_))) {
-        }
+    try {
+        return link_.next();
+    } catch (...) {
         liest_ = nullptr;
-        melde(ergebnis.get());
+        throw;
     }
-    return ergebnis;
 }
 
-void Handle::meldeAb(const Leser& leser)
+void Handle::meldeAb(const Leser& leser) noexcept
 {
     if (liest_ != &leser)
         return;
     liest_ = nullptr;
-    while (Ergebnis(PQgetResult(verbindung_))) {
+    try {
+        link_.drain();
+    } catch (...) {
+        link_.drop(); // Nothing that was asked for is missing. The next statement connects anew.
     }
 }
 
@@ -137,13 +120,42 @@ void Handle::machFrei()
         liest_->holeRest();
 }
 
-void Handle::melde(const pg_result* ergebnis) const
+void Handle::beginne()
 {
-    const char* text = ergebnis ? PQresultErrorMessage(ergebnis) : PQerrorMessage(verbindung_);
-    const char* zustand = ergebnis ? PQresultErrorField(ergebnis, PG_DIAG_SQLSTATE) : nullptr;
-    constexpr std::string_view fehlerInAnweisung = "42";
-    const bool anweisung = zustand && std::string_view(zustand).starts_with(fehlerInAnweisung);
-    throw Laufzeitfehler(anweisung ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN, "PostgreSQL", std::string(trim(text)));
+    wiederholbar([&] {
+        link_.send(transaktion_.beginn(), transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+        return link_.answer();
+    });
+    transaktion_.begonnen();
+}
+
+void Handle::schliesseAb()
+{
+    bereite();
+    const bool ganz = transaktion_.abschluss() == "COMMIT";
+    link_.send(transaktion_.abschluss(), ganz ? WIRKUNG_UNGEWISS : TRANSAKTION_VERLOREN);
+    const Ergebnis ergebnis = link_.answer();
+    // The server answers so, and with no fault, when a statement of the transaction had failed.
+    if (std::string_view(PQcmdStatus(ergebnis.get())) == "ROLLBACK")
+        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL",
+                             "Die Änderungen wurden zurückgenommen, weil eine von ihnen gescheitert ist.");
+    transaktion_.beendet();
+}
+
+void Handle::nimmZurueck()
+{
+    const std::string ruecknahme = transaktion_.ruecknahme();
+    transaktion_.beendet();
+    if (!link_.connected())
+        return;
+    try {
+        machFrei();
+        link_.send(ruecknahme, "");
+        link_.answer();
+    } catch (const DatabaseFault&) {
+        if (link_.connected())
+            throw;
+    }
 }
 
 } // namespace quelvarn::postgresql

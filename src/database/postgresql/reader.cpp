@@ -10,10 +10,9 @@ Leser::Leser(std::shared_ptr<Handle> handle, const std::string& sql, std::span<c
              std::vector<Spalte> spalten, MitSchluessel schluessel)
     : handle_(std::move(handle)), spalten_(std::move(spalten)), versatz_(schluessel == MitSchluessel::Ja ? 1 : 0)
 {
-    handle_->starte(sql, parameter, *this);
-    zeile_ = holeZeile(); // A fault of the statement is told here, not at the first row.
-    if (zeile_)
-        rest_.push_back(std::move(zeile_));
+    // A fault of the statement is told here, not at the first row.
+    if (Ergebnis erste = nimm(handle_->starte(sql, parameter, *this)))
+        rest_.push_back(std::move(erste));
 }
 
 Leser::~Leser()
@@ -24,15 +23,20 @@ Leser::~Leser()
 
 Ergebnis Leser::holeZeile()
 {
-    Ergebnis zeile;
     try {
-        zeile = handle_->naechstes();
+        return nimm(handle_->naechstes());
     } catch (...) {
         amServer_ = false;
+        fehler_ = std::current_exception();
         throw;
     }
-    if (zeile && PQresultStatus(zeile.get()) == PGRES_SINGLE_TUPLE)
-        return zeile;
+}
+
+// The row, or nothing when the piece is the end of the rows.
+Ergebnis Leser::nimm(Ergebnis stueck)
+{
+    if (stueck && PQresultStatus(stueck.get()) == PGRES_SINGLE_TUPLE)
+        return stueck;
     amServer_ = false;
     handle_->meldeAb(*this);
     return nullptr;
@@ -43,17 +47,23 @@ bool Leser::next()
     if (!rest_.empty()) {
         zeile_ = std::move(rest_.front());
         rest_.pop_front();
+    } else if (fehler_) {
+        std::rethrow_exception(fehler_);
     } else {
         zeile_ = amServer_ ? holeZeile() : nullptr;
     }
     return zeile_ != nullptr;
 }
 
-void Leser::holeRest()
+void Leser::holeRest() noexcept
 {
-    while (amServer_)
-        if (Ergebnis zeile = holeZeile())
-            rest_.push_back(std::move(zeile));
+    try {
+        while (amServer_)
+            if (Ergebnis zeile = holeZeile())
+                rest_.push_back(std::move(zeile));
+    } catch (...) {
+        amServer_ = false; // next() tells it.
+    }
 }
 
 Zeilenschluessel Leser::schluessel() const

@@ -4,6 +4,7 @@
 #include "database/postgresql/handle.h"
 
 #include <deque>
+#include <exception>
 
 namespace quelvarn::postgresql {
 
@@ -25,11 +26,13 @@ public:
     Zeitpunkt datum(std::size_t spalte) const override;
     Value wert(std::size_t spalte) const override;
 
-    // Takes the other rows into memory: the connection is wanted for another statement.
-    void holeRest();
+    // Takes the other rows into memory: the connection is wanted for another statement. A fault meanwhile is that of
+    // this reader alone, and told behind the rows that came before it.
+    void holeRest() noexcept;
 
 private:
     Ergebnis holeZeile();
+    Ergebnis nimm(Ergebnis stueck);
 
     std::shared_ptr<Handle> handle_;
     std::vector<Spalte> spalten_;
@@ -37,6 +40,7 @@ private:
     bool amServer_ = true;
     Ergebnis zeile_;
     std::deque<Ergebnis> rest_;
+    std::exception_ptr fehler_; // Rows are missing.
 };
 
 } // namespace quelvarn::postgresql

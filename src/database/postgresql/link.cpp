@@ -1,0 +1,242 @@
+#include "database/postgresql/link.h"
+
+#include "base/text.h"
+#include "database/catalog.h"
+#include "database/postgresql/cancel.h"
+#include "database/postgresql/server_faults.h"
+#include "database/sql/column_value.h"
+
+#include <array>
+#include <fmt/format.h>
+#include <libpq-fe.h>
+#include <vector>
+
+namespace quelvarn::postgresql {
+namespace {
+
+// Parameters as the driver takes them: texts, with a null pointer for Null.
+class Parameter
+{
+public:
+    explicit Parameter(std::span<const Value> werte)
+    {
+        texte_.reserve(werte.size());
+        for (const Value& wert : werte) {
+            texte_.push_back(sql::parametertext(wert));
+            zeiger_.push_back(istNull(wert) ? nullptr : texte_.back().c_str());
+        }
+    }
+
+    int anzahl() const { return static_cast<int>(zeiger_.size()); }
+    const char* const* zeiger() const { return zeiger_.data(); }
+
+private:
+    std::vector<std::string> texte_;
+    std::vector<const char*> zeiger_;
+};
+
+bool isFault(const PGresult* answer)
+{
+    const ExecStatusType status = PQresultStatus(answer);
+    return status == PGRES_FATAL_ERROR || status == PGRES_BAD_RESPONSE;
+}
+
+} // namespace
+
+void LoescheErgebnis::operator()(pg_result* ergebnis) const
+{
+    PQclear(ergebnis);
+}
+
+bool Link::alive()
+{
+    // What came unasked is a notice, or the server's last words and the end of the connection behind them.
+    constexpr int pieces = 4;
+    constexpr std::chrono::milliseconds noTime{0};
+    for (int i = 0; i < pieces && connection_; ++i) {
+        if (PQstatus(connection_.get()) != CONNECTION_OK)
+            return false;
+        if (!waitForSocket(PQsocket(connection_.get()), SocketEvent::Readable, noTime))
+            return true;
+        if (!PQconsumeInput(connection_.get()))
+            return false;
+    }
+    return connected();
+}
+
+void Link::send(const std::string& sql, std::string_view ifLost)
+{
+    sent(PQsendQuery(connection_.get(), sql.c_str()), ifLost);
+}
+
+void Link::send(const std::string& sql, std::span<const Value> parameters, std::string_view ifLost)
+{
+    const Parameter p(parameters);
+    sent(PQsendQueryParams(connection_.get(), sql.c_str(), p.anzahl(), nullptr, p.zeiger(), nullptr, nullptr, 0),
+         ifLost);
+}
+
+void Link::sent(int accepted, std::string_view ifLost)
+{
+    ifLost_ = ifLost;
+    if (!accepted)
+        fail(nullptr);
+    flush();
+}
+
+void Link::singleRows()
+{
+    PQsetSingleRowMode(connection_.get());
+}
+
+void Link::flush()
+{
+    int left = PQflush(connection_.get());
+    if (left > 0) {
+        ServerWait wait(rules_);
+        for (; left > 0; left = PQflush(connection_.get()))
+            pass(wait, SocketEvent::Either); // The server may speak first, and take more only then.
+    }
+    if (left < 0)
+        fail(nullptr);
+}
+
+void Link::awaitAnswer()
+{
+    ServerWait wait(rules_);
+    do
+        pass(wait, SocketEvent::Readable);
+    while (PQisBusy(connection_.get()));
+}
+
+void Link::pass(ServerWait& wait, SocketEvent event)
+{
+    WaitEnd end = WaitEnd::Silent;
+    while (end == WaitEnd::Silent) {
+        try {
+            end = wait.wait(PQsocket(connection_.get()), event);
+        } catch (...) {
+            drop(); // In the middle of a statement it is of no use.
+            throw;
+        }
+        if (end == WaitEnd::GivenUp)
+            giveUp();
+        if (end == WaitEnd::Silent)
+            checkSilence(wait);
+    }
+    if (!PQconsumeInput(connection_.get()))
+        fail(nullptr);
+    wait.restart();
+}
+
+void Link::giveUp()
+{
+    cancelInBackground(connection_.get());
+    drop();
+    throw DatabaseFault(FaultKind::GivenUp, FEHLER_ALLGEMEIN, "PostgreSQL", where_, withEffect(""));
+}
+
+// Long work and a server that hangs look the same on the connection. One that still greets others is at work.
+void Link::checkSilence(ServerWait& wait)
+{
+    const std::string seconds = std::to_string(rules_.limit.count() / 1000);
+    const std::array<const char*, 4> names{"connect_timeout", "dbname", "connect_timeout", nullptr};
+    const std::array<const char*, 4> values{"15", address_.c_str(), seconds.c_str(), nullptr};
+    const PGPing ping = PQpingParams(names.data(), values.data(), 1);
+    if (ping == PQPING_OK || ping == PQPING_REJECT)
+        return wait.restart();
+    drop();
+    throw ServerSilent(FaultKind::ConnectionLost, FEHLER_ALLGEMEIN, "PostgreSQL", where_,
+                       withEffect(fmt::format("Der Server antwortet seit {} Sekunden nicht.", seconds)));
+}
+
+Ergebnis Link::next()
+{
+    if (PQisBusy(connection_.get()))
+        awaitAnswer();
+    Ergebnis piece(PQgetResult(connection_.get()));
+    if (piece && isFault(piece.get()))
+        fail(piece.get());
+    return piece;
+}
+
+Ergebnis Link::answer()
+{
+    Ergebnis last;
+    while (Ergebnis piece = next()) {
+        last = std::move(piece);
+        if (PQresultStatus(last.get()) == PGRES_COPY_IN)
+            break; // The server waits for rows.
+    }
+    return last;
+}
+
+void Link::drain()
+{
+    while (connection_) {
+        if (PQisBusy(connection_.get()))
+            awaitAnswer();
+        const Ergebnis piece(PQgetResult(connection_.get()));
+        if (!piece || PQresultStatus(piece.get()) == PGRES_COPY_IN)
+            return;
+    }
+}
+
+void Link::sendCopy(std::string_view rows)
+{
+    if (!alive()) // The driver would swallow all further rows, and tell at the end.
+        fail(nullptr);
+    int taken = 0;
+    while ((taken = PQputCopyData(connection_.get(), rows.data(), static_cast<int>(rows.size()))) == 0)
+        flush();
+    if (taken < 0)
+        fail(nullptr);
+    flush();
+}
+
+void Link::endCopy(const char* reason)
+{
+    if (!connected())
+        throwLost("");
+    int taken = 0;
+    while ((taken = PQputCopyEnd(connection_.get(), reason)) == 0)
+        flush();
+    if (taken < 0)
+        fail(nullptr);
+    flush();
+    answer();
+}
+
+std::string Link::parameterStatus(const char* name) const
+{
+    const char* text = connection_ ? PQparameterStatus(connection_.get(), name) : nullptr;
+    return text ? text : "";
+}
+
+void Link::throwLost(std::string_view words) const
+{
+    throw serverFault(FaultKind::ConnectionLost, "", where_, words);
+}
+
+std::string Link::withEffect(std::string_view words) const
+{
+    return std::string(ifLost_) + (ifLost_.empty() ? "" : "\n") + std::string(trim(words));
+}
+
+void Link::fail(const pg_result* answer)
+{
+    const std::string sqlstate(sqlstateOf(answer));
+    const std::string words = answer ? PQresultErrorMessage(answer) : PQerrorMessage(connection_.get());
+    const bool over = endsConnection(answer) || PQstatus(connection_.get()) != CONNECTION_OK;
+    FaultKind kind = kindOf(sqlstate);
+    if (!over) {
+        drain();
+        throw serverFault(kind, sqlstate, where_, words);
+    }
+    drop();
+    if (kind == FaultKind::Other)
+        kind = FaultKind::ConnectionLost;
+    throw serverFault(kind, sqlstate, where_, withEffect(words));
+}
+
+} // namespace quelvarn::postgresql
