@@ -6,18 +6,16 @@
 namespace quelvarn {
 namespace {
 
-// A revision that sorts higher stands before the older ones of its document.
-void OpenDokuTabelle(Tabellenseite& seite, const DokuTyp& typ, SessionState& session)
+// On its first row. A revision that sorts higher stands before the older ones of its document.
+Recordset OpenDokuTabelle(const DokuTyp& typ, SessionState& session)
 {
     const std::string_view bereich = typ.statusbereich ? std::string_view(session.WhereStatus) : std::string_view();
-    seite.tabelle.Open(fmt::format("Select * From {}{} ORDER BY DokuBez, RevBez DESC", typ.tabelle, bereich),
-                       session.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
-    seite.zustand = Leer;
-    if (seite.tabelle.leer())
-        return;
-    seite.tabelle.MoveFirst();
-    seite.anzahl = seite.tabelle.RecordCount();
-    seite.zustand = Offen;
+    Recordset tabelle;
+    tabelle.Open(fmt::format("Select * From {}{} ORDER BY DokuBez, RevBez DESC", typ.tabelle, bereich),
+                 session.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
+    if (!tabelle.leer())
+        tabelle.MoveFirst();
+    return tabelle;
 }
 
 constexpr std::int64_t SEKUNDEN_BIS_PRUEFUNG = 60;
@@ -27,16 +25,16 @@ constexpr std::int64_t SEKUNDEN_BIS_PRUEFUNG = 60;
 void DocumentPage::TabelleNeuLaden(int tab)
 {
     const DokuTyp& typ = DOKUTYPEN[tab];
+    Recordset neue = OpenDokuTabelle(typ, session_); // When that fails the table stays as it is.
     const bool dateityp = typ.sondertabelle == 0;
     Tabellenseite& seite = seiten_[tab];
     if (seite.gefiltert() || (dateityp && seite.zustand == NeuereDaten))
         leereFilter(tab);
     seite.filterBeschreibung.clear();
 
-    seite.zustand = NichtOffen;
-    seite.anzahl = 0;
-    seite.tabelle = Recordset();
-    OpenDokuTabelle(seite, typ, session_);
+    seite.tabelle = std::move(neue);
+    seite.anzahl = seite.tabelle.RecordCount();
+    seite.zustand = seite.tabelle.leer() ? Leer : Offen;
     if (dateityp) {
         seite.naechstePruefung = ports_.uhr.jetzt().plusSekunden(SEKUNDEN_BIS_PRUEFUNG);
         aenderungspanel(tab).clear();

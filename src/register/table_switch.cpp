@@ -1,6 +1,8 @@
 #include "register/document_page.h"
 #include "register/row_memory.h"
 
+#include <utility>
+
 namespace quelvarn {
 
 void DocumentPage::tabGewaehlt(int tab)
@@ -79,11 +81,26 @@ void DocumentPage::neuaufbauen()
 
 void DocumentPage::baueNeuAuf(int tab)
 {
-    zeigeTab(tab);
     Tabellenseite& seite = seiten_[tab];
     const Merkzeile zeile = merkeZeile(seite);
-    seite.zustand = Neuaufbau;
-    wechsle(&zeile);
+    const int vorher = std::exchange(seite.zustand, Neuaufbau);
+    const std::string dateiname = dateinamePanel_;
+    const std::string ordner = ordnerPanel_;
+    const std::string kopf = statuskopf_.text;
+    const int vorherigerTab = tab_;
+    try {
+        zeigeTab(tab);
+        wechsle(&zeile);
+    } catch (...) {
+        if (seite.zustand == Neuaufbau) { // The rows could not be had: those shown stay, with their filter.
+            seite.zustand = vorher;
+            tab_ = vorherigerTab;
+            dateinamePanel_ = dateiname;
+            ordnerPanel_ = ordner;
+            statuskopf_.text = kopf;
+        }
+        throw;
+    }
     aenderungspanel(tab).clear();
 }
 

@@ -1,5 +1,6 @@
 #include "base/text.h"
 #include "database/connection.h"
+#include "database/faults.h"
 #include "platform/dateien.h"
 #include "platform/meldungen.h"
 #include "session/error_report.h"
@@ -91,6 +92,10 @@ std::optional<Recordset> findBerechtigung(SessionState& session)
         zeilen.Open("SELECT DISTINCT * FROM Ini WHERE Feld1 = '" + session.Anwender + "' AND Feld2 = 'Berechtigung'",
                     session.Verbindung);
         return zeilen;
+    } catch (const DatabaseFault& fehler) {
+        if (fehler.kind() != FaultKind::Other) // It tells nothing of what lies there.
+            throw;
+        return std::nullopt;
     } catch (const Laufzeitfehler&) {
         return std::nullopt;
     }

@@ -54,6 +54,27 @@ public:
         frei_.push_back(std::move(adresse));
     }
 
+#ifdef __linux__
+    // Null when the server is not this program's own: others may need it.
+    PostgresServer* server()
+    {
+        return server_.get();
+    }
+    // Of the own server. Whoever stops it starts it again.
+    void stop()
+    {
+        server_->stop();
+    }
+    void start()
+    {
+        server_->start();
+    }
+    void kill()
+    {
+        server_->kill();
+    }
+#endif
+
     // What the server answers, read without the engine: a line a row, columns divided by "|".
     std::string frage(const std::string& adresse, const std::string& sql) const;
 

@@ -147,7 +147,7 @@ void Link::checkSilence(ServerWait& wait)
         return wait.restart();
     drop();
     throw ServerSilent(FaultKind::ConnectionLost, FEHLER_ALLGEMEIN, "PostgreSQL", where_,
-                       withEffect(fmt::format("Der Server antwortet seit {} Sekunden nicht.", seconds)));
+                       withEffect(fmt::format("Der Server antwortet nicht (gewartet: {} s).", seconds)));
 }
 
 Ergebnis Link::next()

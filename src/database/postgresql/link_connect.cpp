@@ -108,7 +108,7 @@ void Link::awaitConnecting(SocketEvent event)
         throw DatabaseFault(FaultKind::GivenUp, FEHLER_ALLGEMEIN, "PostgreSQL", where_, "");
     throw ServerSilent(FaultKind::ConnectionLost, FEHLER_ALLGEMEIN, "PostgreSQL", where_,
                        fmt::format("Die Verbindung zur PostgreSQL-Datenbank kann nicht hergestellt werden.\n"
-                                   "Der Server antwortet seit {} Sekunden nicht.",
+                                   "Der Server antwortet nicht (gewartet: {} s).",
                                    rules_.limit.count() / 1000));
 }
 

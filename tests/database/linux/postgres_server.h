@@ -36,13 +36,33 @@ public:
 
     ~PostgresServer()
     {
-        kill(server_, SIGINT);
-        waitpid(server_, nullptr, 0);
+        resume();
+        stop();
         std::error_code fehler;
         std::filesystem::remove_all(ordner_, fehler);
     }
     PostgresServer(const PostgresServer&) = delete;
     PostgresServer& operator=(const PostgresServer&) = delete;
+
+    // Ends it as an administrator does: open connections are ended, everything is kept.
+    void stop() { end(SIGINT); }
+    // Ends it as a crash does.
+    void kill() { end(SIGQUIT); }
+    // Once more, under the same address; returns when connections are taken.
+    void start()
+    {
+        if (server_ != 0)
+            return;
+        std::error_code none;
+        std::filesystem::remove(ordner_ / "daten/postmaster.pid", none); // Left by a crash, it would say "ready".
+        server_ = starte({"postgres", "-D", (ordner_ / "daten").string(), "-k", ordner_.string(), "-c",
+                          "listen_addresses=", "-c", "fsync=off", "-c", "full_page_writes=off", "-c",
+                          "log_min_messages=fatal"});
+        warteAufBereitschaft();
+    }
+    // It hangs: sockets stay open, nothing answers.
+    void pause() { signalAll(SIGSTOP); }
+    void resume() { signalAll(SIGCONT); }
 
     // The part of an address behind "?".
     std::string zugang() const { return "host=" + ordner_.string() + "&port=5432&user=quelvarn"; }
@@ -64,9 +84,28 @@ private:
                                               "--locale=C.UTF-8", "--no-sync", "--no-instructions"}));
         if (ergebnis != 0)
             throw std::runtime_error("initdb");
-        server_ = starte({"postgres", "-D", daten, "-k", ordner_.string(), "-c", "listen_addresses=", "-c", "fsync=off",
-                          "-c", "full_page_writes=off", "-c", "log_min_messages=fatal"});
-        warteAufBereitschaft();
+        start();
+    }
+
+    void end(int signal)
+    {
+        if (server_ == 0)
+            return;
+        ::kill(server_, signal);
+        waitpid(server_, nullptr, 0);
+        server_ = 0;
+    }
+
+    // The server and the processes that serve connections.
+    void signalAll(int signal) const
+    {
+        if (server_ == 0)
+            return;
+        const std::string number = std::to_string(server_);
+        std::ifstream children("/proc/" + number + "/task/" + number + "/children");
+        ::kill(server_, signal);
+        for (pid_t child = 0; children >> child;)
+            ::kill(child, signal);
     }
 
     static std::filesystem::path findProgramme()
@@ -138,7 +177,7 @@ private:
             if (!name.starts_with(vorsilbe))
                 continue;
             const pid_t besitzer = std::atoi(name.c_str() + vorsilbe.size());
-            if (besitzer > 0 && kill(besitzer, 0) != 0 && errno == ESRCH)
+            if (besitzer > 0 && ::kill(besitzer, 0) != 0 && errno == ESRCH)
                 std::filesystem::remove_all(eintrag.path(), fehler);
         }
     }

@@ -1,0 +1,108 @@
+#include "database/postgres_cluster.h"
+#include "register/register_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace quelvarn {
+
+using ::testing::HasSubstr;
+
+// The document page over a register whose server goes away and comes back.
+class ServerAway : public RegisterTest
+{
+protected:
+    void SetUp() override
+    {
+        cluster_ = test::PostgresCluster::find();
+        if (!cluster_ || !cluster_->server())
+            GTEST_SKIP() << "no PostgreSQL server of its own can be started here";
+        address_ = cluster_->neueDatenbank();
+        engine_ = oeffnePostgres(address_);
+        legeRegisterAn(*engine_);
+        session_.Verbindung = Connection(oeffnePostgres(address_));
+        for (const char* name : {"A", "B", "C"})
+            dokument(0, name);
+        zeigeDokument(0, "B");
+    }
+    void TearDown() override
+    {
+        if (!cluster_)
+            return;
+        cluster_->start();
+        engine_.reset();
+        page_.datenbankWechselt();
+        session_.Verbindung.Close();
+        cluster_->gibFrei(address_);
+    }
+
+    void rebuildFails()
+    {
+        welt_.meldungen.erwarte("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!");
+        welt_.meldungen.antworte(); // Fehlermeldung
+        page_.neuaufbauen();
+        EXPECT_THAT(welt_.meldungen.letzte().text, HasSubstr("Die Verbindung zur Datenbank ist unterbrochen.\n"));
+    }
+    // All that a person sees of the table.
+    std::string shown() const
+    {
+        const Tabellenseite& seite = page_.aktuelleSeite();
+        return liste() + "|" + std::to_string(seite.zustand) + "|" + std::to_string(seite.anzahl) + "|" +
+               session_.AktDoku.DokuBez + "|" + page_.dateinamePanel() + "|" + page_.ordnerPanel() + "|" +
+               page_.statuskopf().text + "|" + seite.filterBeschreibung + "|" + baum();
+    }
+
+    test::PostgresCluster* cluster_ = nullptr;
+    std::string address_;
+};
+
+TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
+{
+    const auto asItIs = [] {};
+    const auto filtered = [&] {
+        filtere(0, "DokuBez = 'B'");
+        page_.seite(0).filterBeschreibung = "Text";
+    };
+    const auto result = [&] {
+        page_.seite(0).FilterErgebnis.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.Verbindung);
+        page_.seite(0).zustand = Filterergebnis;
+    };
+    const auto newer = [&] { page_.seite(0).zustand = NeuereDaten; };
+    const std::pair<std::function<void()>, std::string> cases[]{
+        {asItIs, "A/0 B/0 C/0 "}, {filtered, "B/0 "}, {result, "B/0 "}, {newer, "A/0 B/0 C/0 "}};
+    int added = 0;
+    std::string all = "A/0 B/0 C/0 ";
+    for (const auto& [state, rows] : cases) {
+        state();
+        const std::string before = shown();
+        EXPECT_THAT(before, ::testing::StartsWith(added > 0 && rows != "B/0 " ? all : rows));
+        cluster_->stop();
+        for (int i = 0; i < 2; ++i) {
+            rebuildFails();
+            EXPECT_EQ(shown(), before);
+        }
+        cluster_->start();
+        const std::string name = "D" + std::to_string(++added);
+        dokument(0, name);
+        page_.neuaufbauen();
+        EXPECT_EQ(liste(), all += name + "/0 ");
+        EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
+        EXPECT_EQ(session_.AktDoku.DokuBez, "B");
+    }
+}
+
+TEST_F(ServerAway, ATableThatCouldNotBeOpenedIsOpenedNextTime)
+{
+    dokument(1, "S");
+    cluster_->stop();
+    welt_.meldungen.erwarte("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!");
+    welt_.meldungen.antworte();
+    page_.tabGewaehlt(1);
+    EXPECT_EQ(liste(), "");
+    cluster_->start();
+    page_.tabGewaehlt(1);
+    EXPECT_EQ(liste(), "S/0 ");
+    page_.tabGewaehlt(0);
+    EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
+}
+
+} // namespace quelvarn
