@@ -1,3 +1,4 @@
+#include "database/postgres_cluster.h"
 #include "session/register_fixture.h"
 
 #include <fstream>
@@ -115,6 +116,22 @@ TEST_F(FaultsAtTheStart, CancelEndsTheProgram)
     world.meldungen.antworte();
     world.meldungen.antworte(Antwort::Abbrechen);
     EXPECT_THROW(Hauptprogramm(session, ports), ProgrammEnde);
+}
+
+TEST_F(FaultsAtTheStart, AServerThatRefusesToReadIsNoWrongFile)
+{
+    test::PostgresCluster* cluster = test::PostgresCluster::find();
+    if (!cluster)
+        GTEST_SKIP() << "no PostgreSQL server is installed here";
+    const std::string address = cluster->neueDatenbank();
+    legeRegisterAn(*oeffnePostgres(address));
+    cluster->frage(address, "DO $$ BEGIN CREATE ROLE gast LOGIN; EXCEPTION WHEN duplicate_object THEN END $$;"
+                            "GRANT USAGE ON SCHEMA public TO gast");
+    erwarteFehler(REGISTERPFAD, "Prüfen auf Quelvarnis-Datenbank");
+    schreibe("postgres.mdb", address + "&user=gast");
+    scheitert();
+    EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("Für die Datenbank fehlen die nötigen Rechte."));
+    cluster->gibFrei(address);
 }
 
 #ifndef _WIN32

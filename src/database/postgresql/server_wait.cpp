@@ -21,6 +21,14 @@ ServerWait::ServerWait(WaitRules& rules) : rules_(rules)
     restart();
 }
 
+ServerWait::~ServerWait()
+{
+    if (!asked_ || !rules_.patience)
+        return;
+    const Asking asking(rules_.asking);
+    rules_.patience->waitEnded();
+}
+
 WaitEnd ServerWait::wait(int socket, SocketEvent event)
 {
     while (!waitForSocket(socket, event, slice)) {
@@ -39,6 +47,7 @@ WaitEnd ServerWait::wait(int socket, SocketEvent event)
 bool ServerWait::ask(std::chrono::milliseconds waited)
 {
     const Asking asking(rules_.asking);
+    asked_ = true;
     return rules_.patience->keepWaiting(WaitReason::Server, waited);
 }
 

@@ -21,6 +21,9 @@ class ServerWait
 {
 public:
     explicit ServerWait(WaitRules& rules);
+    ~ServerWait();
+    ServerWait(const ServerWait&) = delete;
+    ServerWait& operator=(const ServerWait&) = delete;
 
     WaitEnd wait(int socket, SocketEvent event);
     void restart() { begin_ = std::chrono::steady_clock::now(); } // A sign came.
@@ -30,6 +33,7 @@ private:
 
     WaitRules& rules_;
     std::chrono::steady_clock::time_point begin_;
+    bool asked_ = false;
 };
 
 } // namespace quelvarn::postgresql

@@ -28,8 +28,10 @@ public:
             meanwhile();
         return waited < time_;
     }
+    void waitEnded() override { ++ended; }
 
     int asked = 0;
+    int ended = 0;
     std::function<void()> meanwhile;
 
 private:

@@ -312,7 +312,7 @@ TEST_P(PostgresOutage, WhoeverWaitsForAHungServerMayGiveUp)
         std::ignore = lies("Select Nr From Tafel");
         if (c.before)
             c.before();
-        patience.asked = 0;
+        patience.asked = patience.ended = 0;
         cluster_->server()->pause();
         std::optional<DatabaseFault> fault;
         const double seconds = secondsOf([&] {
@@ -325,6 +325,7 @@ TEST_P(PostgresOutage, WhoeverWaitsForAHungServerMayGiveUp)
         EXPECT_EQ(fault->kind(), FaultKind::GivenUp);
         EXPECT_LT(seconds, 3);
         EXPECT_GE(patience.asked, 3);
+        EXPECT_GE(patience.ended, 1);
         EXPECT_EQ(lies("Select Wort From Tafel Where Nr = 1").at(0), "eins");
     }
     std::this_thread::sleep_for(200ms);
@@ -382,6 +383,7 @@ TEST_P(PostgresOutage, NoStatementRunsWhileTheAnswerToAnotherIsWaitedFor)
     EXPECT_THAT(lies("Select Wort From Langsam"), ElementsAre("fertig"));
     EXPECT_GE(refused, 3);
     EXPECT_LE(refused, patience.asked);
+    EXPECT_EQ(patience.ended, 1);
     EXPECT_LE(patience.asked, 10); // Some twenty times a second.
 }
 

@@ -3,8 +3,8 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <grp.h>
@@ -142,7 +142,9 @@ private:
         if (nutzer && (setgroups(0, nullptr) != 0 || setgid(nutzer->pw_gid) != 0 || setuid(nutzer->pw_uid) != 0))
             _exit(126);
         prctl(PR_SET_PDEATHSIG, SIGINT); // The server must not outlive a crashed test.
-        if (chdir(ordner_.c_str()) != 0 || !std::freopen("protokoll.txt", "a", stdout) || dup2(1, 2) < 0)
+        constexpr mode_t mode = 0600;
+        const int log = chdir(ordner_.c_str()) == 0 ? open("protokoll.txt", O_WRONLY | O_CREAT | O_APPEND, mode) : -1;
+        if (log < 0 || dup2(log, 1) < 0 || dup2(log, 2) < 0)
             _exit(126);
         execv(programm.c_str(), argumente.data());
         _exit(127);
