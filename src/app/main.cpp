@@ -1,4 +1,6 @@
 #include "app/application.h"
+#include "app/command_line.h"
+#include "app/end_request.h"
 #include "platform/system_ports.h"
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
@@ -6,10 +8,13 @@
 #include "ui/adapters/progress_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/guard.h"
+#include "ui/main_window/mdi_form1.h"
 #include "ui/theme/appearance.h"
 #include "ui/workplace.h"
 
 #include <cstdlib>
+#include <memory>
+#include <optional>
 
 using namespace quelvarn;
 
@@ -21,11 +26,22 @@ namespace {
     std::_Exit(EXIT_SUCCESS);
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+// Nobody is there to answer, or to wait: as if the window had been closed. False while long work is being given up.
+bool endUnattended(QtMeldungen& boxes, QtFortschritt& progress, Arbeitsplatz* workplace)
 {
-    Anwendung anwendung(argc, argv);
+    boxes.answerAlone();
+    if (!workplace)
+        beendeSofort(); // Nothing has been done yet.
+    if (progress.atWork()) {
+        progress.giveUp();
+        return false;
+    }
+    workplace->fenster().close();
+    return true;
+}
+
+int openWindow(Anwendung& anwendung)
+{
     Darstellung darstellung;
     darstellung.wendeAn(anwendung);
 
@@ -37,13 +53,26 @@ int main(int argc, char** argv)
     SessionState session;
 
     Waechter waechter(meldungen, beendeSofort);
-    bool weiter = false;
+    std::unique_ptr<Arbeitsplatz> arbeitsplatz;
+    const EndRequest endRequest([&] { return endUnattended(meldungen, fortschritt, arbeitsplatz.get()); });
     waechter.fuehreAus([&] {
         const Sanduhr warten;
-        weiter = Main(session, ports);
+        Main(session, ports);
     });
-    if (!weiter)
-        return EXIT_FAILURE;
-    Arbeitsplatz arbeitsplatz(session, ports, darstellung, beendeSofort);
-    return arbeitsplatz.starte() ? Anwendung::exec() : EXIT_SUCCESS;
+    arbeitsplatz = std::make_unique<Arbeitsplatz>(session, ports, darstellung, beendeSofort);
+    return arbeitsplatz->starte() ? Anwendung::exec() : EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (const std::optional<int> answered = answerWithoutWindow(argc, argv))
+        return *answered;
+    std::optional<DisplayCheck> displayCheck(std::in_place);
+    Anwendung anwendung(argc, argv);
+    displayCheck.reset();
+    if (const std::optional<int> refused = refuseUnknownArguments())
+        return *refused;
+    return openWindow(anwendung);
 }

@@ -1,6 +1,6 @@
 #include "register/detail_pages.h"
 
-#include "base/utf8.h"
+#include "base/file_text.h"
 #include "base/windows_path.h"
 #include "database/document_types.h"
 #include "filter/template_lookup.h"
@@ -26,12 +26,6 @@ constexpr std::string_view OHNE_ANSICHT = "Für diese Datei gibt es hier keine A
 bool enthaelt(const auto& endungen, std::string_view endung)
 {
     return std::ranges::find(endungen, endung) != endungen.end();
-}
-
-std::string lesbarerText(std::string inhalt)
-{
-    constexpr char32_t KEIN_UTF8 = 0xFFFD;
-    return toUtf32(inhalt).find(KEIN_UTF8) == std::u32string::npos ? std::move(inhalt) : fromWindows1252(inhalt);
 }
 
 } // namespace
@@ -143,7 +137,7 @@ Dateibild Detailseiten::bildVon(const std::string& pfad) const
     const auto attribute = ports_.dateien.attribute(pfad);
     if (!enthaelt(TEXTENDUNGEN, endung) || !attribute || attribute->groesse > TEXT_HOECHSTENS)
         return {Dateibild::Art::Text, {}, std::string(OHNE_ANSICHT)};
-    return {Dateibild::Art::Text, {}, lesbarerText(ports_.dateien.lese(pfad))};
+    return {Dateibild::Art::Text, {}, decodeFileText(ports_.dateien.lese(pfad))};
 }
 
 void Detailseiten::zeigeTiff()

@@ -1,9 +1,9 @@
 #include "session/local_settings.h"
 
 #include "base/collation.h"
+#include "base/file_text.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "base/utf8.h"
 #include "base/windows_path.h"
 #include "platform/dateien.h"
 #include "platform/laufwerke.h"
@@ -36,7 +36,7 @@ std::string letzteZeile(std::string_view text)
 std::string LeseDatenbankPfad(const SessionState& session, const Ports& ports)
 {
     try {
-        const std::string pfad = letzteZeile(fromWindows1252(ports.dateien.lese(einstellungsdatei(session))));
+        const std::string pfad = letzteZeile(decodeFileText(ports.dateien.lese(einstellungsdatei(session))));
         return pfad.ends_with(".mdb") && ports.dateien.dateiVorhanden(pfad) ? pfad : "";
     } catch (const Laufzeitfehler&) {
         return ""; // No such file yet: nobody opened a database on this computer.
@@ -46,7 +46,7 @@ std::string LeseDatenbankPfad(const SessionState& session, const Ports& ports)
 bool SchreibeDatenbankPfad(const SessionState& session, const Ports& ports, std::string_view pfad)
 {
     try {
-        ports.dateien.schreibe(einstellungsdatei(session), toWindows1252(pfad) + "\r\n");
+        ports.dateien.schreibe(einstellungsdatei(session), encodeFileText(std::string(pfad) + "\r\n"));
         return true;
     } catch (const Laufzeitfehler&) {
         return false;

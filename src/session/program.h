@@ -18,8 +18,8 @@ std::string versionstext();
 std::string fenstertitel(const SessionState& session);
 
 // Start-up: who, where, folders, last database, Hauptprogramm. Opens no window.
-// False when a fault was reported and the user chose to go on all the same; no database is open then.
-bool Main(SessionState& session, Ports& ports);
+// After a fault that was reported, and that the user goes on from, no database is open.
+void Main(SessionState& session, Ports& ports);
 
 // Opens session.DatenbankPfad, tests that it is a register, reads and repairs the Ini rows and fills the session.
 // On false the user has been told why, and nothing of the register is left in the session.

@@ -42,7 +42,7 @@ void legeOrdnerAn(SessionState& session, const Umgebung& umgebung, Dateien& date
 
 } // namespace
 
-bool Main(SessionState& session, Ports& ports)
+void Main(SessionState& session, Ports& ports)
 {
     session.DatenbankOk = false;
     session.DatenbankPfad.clear();
@@ -51,12 +51,14 @@ bool Main(SessionState& session, Ports& ports)
         "Mögliche Ursache:",
         "- Keine Schreibberechtigung auf die Verzeichnisse von Quelvarnis.",
     });
-    return gesichert(ports.meldungen, "Aufruf Hauptprogramm", text, [&] {
+    const bool good = gesichert(ports.meldungen, "Aufruf Hauptprogramm", text, [&] {
         leseUmgebung(session, ports.umgebung);
         legeOrdnerAn(session, ports.umgebung, ports.dateien);
         session.DatenbankPfad = LeseDatenbankPfad(session, ports);
         session.DatenbankOk = !session.DatenbankPfad.empty() && Hauptprogramm(session, ports);
     });
+    if (!good)
+        session.DatenbankPfad.clear();
 }
 
 } // namespace quelvarn

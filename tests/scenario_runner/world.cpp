@@ -136,10 +136,7 @@ void World::start()
     parts_->ended = false;
     parts_->appearance->wendeAn(*qApp);
     parts_->session = std::make_unique<SessionState>();
-    if (!Main(*parts_->session, *parts_->ports)) {
-        parts_->ended = true;
-        return;
-    }
+    Main(*parts_->session, *parts_->ports);
     parts_->workplace = std::make_unique<Arbeitsplatz>(*parts_->session, *parts_->ports, *parts_->appearance,
                                                        [this] { parts_->ended = true; });
     if (!parts_->workplace->starte())

@@ -20,7 +20,7 @@ TEST_F(Program, StartKnowsWhoAndWhereAndMakesItsFolders)
 {
     world.umgebung.anwender = "ein-viel-zu-langer-anwendername";
     world.umgebung.laufwerk = "W:";
-    EXPECT_TRUE(Main(session, ports));
+    Main(session, ports);
     EXPECT_EQ(session.Anwender, "ein-viel-zu-langer-anwend");
     EXPECT_EQ(session.FensterHoehe, 10090);
     EXPECT_FALSE(session.DatenbankOk);
@@ -29,7 +29,7 @@ TEST_F(Program, StartKnowsWhoAndWhereAndMakesItsFolders)
         EXPECT_TRUE(world.dateien.ordnerVorhanden(session.OrdnerBasis + "\\" + name)) << name;
 
     world.umgebung.version = {"5", "1", 2};
-    EXPECT_TRUE(Main(session, ports)); // The folders are there already.
+    Main(session, ports); // The folders are there already.
     EXPECT_EQ(session.FensterHoehe, 10150);
 }
 
@@ -40,7 +40,9 @@ TEST_F(Program, AFolderThatCannotBeMadeIsReported)
                             "Fehler beim Aufruf Hauptprogramm!\nMögliche Ursache:\n"
                             "- Keine Schreibberechtigung auf die Verzeichnisse von Quelvarnis.");
     world.meldungen.antworte(Antwort::Ok);
-    EXPECT_FALSE(Main(session, ports));
+    Main(session, ports);
+    EXPECT_FALSE(session.DatenbankOk);
+    EXPECT_EQ(session.DatenbankPfad, "");
 }
 
 TEST_F(Program, ErrorReportEndsTheProgramOnCancel)
@@ -103,14 +105,23 @@ TEST_F(Program, LastDatabaseIsTheLastLineOfTheLocalFile)
          ""},
         {"W:\\fehlt.mdb\r\n", ""},
         {"", ""},
+        {"W:\\Übersicht\\werk.mdb\r\n", "W:\\Übersicht\\werk.mdb"}, // Saved as UTF-8 by an editor.
+        {"\xEF\xBB\xBFW:\\Übersicht\\werk.mdb", "W:\\Übersicht\\werk.mdb"},
     };
     EXPECT_EQ(LeseDatenbankPfad(session, ports), "");
     for (const auto& fall : faelle) {
         world.dateien.legeAn("C:\\Quelvarnis.ini", fall.inhalt);
         EXPECT_EQ(LeseDatenbankPfad(session, ports), fall.pfad) << fall.inhalt;
     }
+    // In the code page of older programs where it can hold the path, and never in a way that reads as another one.
+    for (const std::string pfad : {"W:\\Übersicht\\werk.mdb", "W:\\Łódź\\Ωмега\\werk.mdb", "W:\\Ã¼\\werk.mdb"}) {
+        world.dateien.legeAn(pfad, "");
+        EXPECT_TRUE(SchreibeDatenbankPfad(session, ports, pfad));
+        EXPECT_EQ(LeseDatenbankPfad(session, ports), pfad);
+    }
     EXPECT_TRUE(SchreibeDatenbankPfad(session, ports, "W:\\Übersicht\\werk.mdb"));
-    EXPECT_EQ(LeseDatenbankPfad(session, ports), "W:\\Übersicht\\werk.mdb");
+    EXPECT_EQ(world.dateien.lese("C:\\Quelvarnis.ini"), "W:\\\xDC"
+                                                        "bersicht\\werk.mdb\r\n");
     world.dateien.sperre("C:\\Quelvarnis.ini");
     EXPECT_FALSE(SchreibeDatenbankPfad(session, ports, "W:\\x.mdb"));
 }

@@ -1,7 +1,6 @@
 #include "platform/linux/linux_laufende_programme.h"
 
 #include "base/text.h"
-#include "platform/file_error.h"
 #include "platform/linux/new_file.h"
 
 #include <cstdlib>
@@ -37,42 +36,60 @@ std::string startOf(const std::string& process)
     return fields.size() < 20 || dead ? std::string() : fields[19];
 }
 
-// Made for this user alone. A folder that somebody else put there would let him feed us captions.
-void makeOwnFolder(const fs::path& folder)
+// A folder that somebody else put there would let him feed us captions.
+bool isOwnFolder(const fs::path& folder)
+{
+    struct stat status = {};
+    return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid();
+}
+
+bool makeOwnFolder(const fs::path& folder)
 {
     std::error_code ignored;
     fs::create_directories(folder.parent_path(), ignored);
     mkdir(folder.c_str(), 0700);
-    struct stat status = {};
-    if (lstat(folder.c_str(), &status) != 0)
-        throw dateifehler(std::error_code(errno, std::generic_category()), folder.string());
-    if (!S_ISDIR(status.st_mode) || status.st_uid != geteuid())
-        throw dateifehler(std::errc::permission_denied, folder.string());
+    return isOwnFolder(folder);
+}
+
+bool writeWhole(const fs::path& path, const std::string& text)
+{
+    try {
+        NewFile file(path);
+        file.write(text);
+        file.replaceTarget();
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
 }
 
 } // namespace
 
-LinuxLaufendeProgramme::LinuxLaufendeProgramme(fs::path ordner) : ordner_(std::move(ordner)) {}
+LinuxLaufendeProgramme::LinuxLaufendeProgramme(std::vector<fs::path> folders) : folders_(std::move(folders)) {}
 
 LinuxLaufendeProgramme::~LinuxLaufendeProgramme()
 {
     std::error_code ignored;
-    if (angemeldet_)
-        fs::remove(ordner_ / std::to_string(getpid()), ignored);
+    if (!ownFile_.empty())
+        fs::remove(ownFile_, ignored);
 }
 
 std::vector<std::string> LinuxLaufendeProgramme::fenstertitel() const
 {
     std::vector<std::string> result;
-    std::error_code error;
-    for (fs::directory_iterator entry(ordner_, error), end; !error && entry != end; entry.increment(error)) {
-        if (!isProcessNumber(entry->path().filename().string()))
+    for (const fs::path& folder : folders_) {
+        if (!isOwnFolder(folder))
             continue;
-        if (auto titel = titelAus(entry->path())) {
-            result.push_back(std::move(*titel));
-        } else {
-            std::error_code ignored;
-            fs::remove(entry->path(), ignored);
+        std::error_code error;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+            if (!isProcessNumber(entry->path().filename().string()))
+                continue;
+            if (auto titel = titelAus(entry->path())) {
+                result.push_back(std::move(*titel));
+            } else {
+                std::error_code ignored;
+                fs::remove(entry->path(), ignored);
+            }
         }
     }
     return result;
@@ -92,24 +109,31 @@ std::optional<std::string> LinuxLaufendeProgramme::titelAus(const fs::path& date
 
 void LinuxLaufendeProgramme::eigenerTitel(std::string_view titel)
 {
-    makeOwnFolder(ordner_);
     const std::string process = std::to_string(getpid());
-    try {
-        NewFile file(ordner_ / process);
-        file.write(startOf(process) + "\n" + replaceAll(titel, "\n", " ") + "\n");
-        file.replaceTarget();
-    } catch (const std::system_error& error) {
-        throw dateifehler(error.code(), (ordner_ / process).string());
+    const std::string text = startOf(process) + "\n" + replaceAll(titel, "\n", " ") + "\n";
+    const fs::path before = std::exchange(ownFile_, {});
+    for (const fs::path& folder : folders_) {
+        if (makeOwnFolder(folder) && writeWhole(folder / process, text)) {
+            ownFile_ = folder / process;
+            break;
+        }
     }
-    angemeldet_ = true;
+    std::error_code ignored;
+    if (!before.empty() && before != ownFile_)
+        fs::remove(before, ignored);
 }
 
-fs::path LinuxLaufendeProgramme::standardOrdner()
+std::vector<fs::path> LinuxLaufendeProgramme::standardFolders()
 {
+    std::vector<fs::path> folders;
     const char* runFolder = std::getenv("XDG_RUNTIME_DIR");
     if (runFolder && *runFolder == '/')
-        return fs::path(runFolder) / "quelvarn";
-    return fs::temp_directory_path() / ("quelvarn-" + std::to_string(geteuid()));
+        folders.push_back(fs::path(runFolder) / "quelvarn");
+    std::error_code error;
+    const fs::path temporary = fs::temp_directory_path(error);
+    if (!error)
+        folders.push_back(temporary / ("quelvarn-" + std::to_string(geteuid())));
+    return folders;
 }
 
 } // namespace quelvarn

@@ -31,7 +31,7 @@ private:
     LinuxDateien dateien_{ordner_};
     LinuxLaufwerke laufwerke_{ordner_};
     LinuxDrucker drucker_;
-    LinuxLaufendeProgramme programme_{LinuxLaufendeProgramme::standardOrdner()};
+    LinuxLaufendeProgramme programme_{LinuxLaufendeProgramme::standardFolders()};
     LinuxStandardanwendung standardanwendung_{dateien_};
 };
 

@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <cstdio>
+#include <fmt/format.h>
 #include <vector>
 
 namespace quelvarn {
@@ -42,6 +44,14 @@ std::vector<Antwortknopf> antworten(Knoepfe knoepfe)
     return {OK};
 }
 
+// OK goes on; no question is answered by a yes that nobody gave.
+Antwort answerWithoutPerson(const Meldung& box)
+{
+    fmt::print(stderr, "{}: {}\n", box.titel, box.text);
+    const auto offered = antworten(box.knoepfe);
+    return offered.front().antwort == Antwort::Ok ? Antwort::Ok : offered.back().antwort;
+}
+
 QPixmap bild(Symbol art, qreal dichte)
 {
     constexpr int SEITE = 32;
@@ -65,6 +75,8 @@ QPixmap bild(Symbol art, qreal dichte)
 
 Antwort QtMeldungen::zeige(const Meldung& meldung)
 {
+    if (alone_)
+        return answerWithoutPerson(meldung);
     QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(meldung.titel.empty() ? QApplication::applicationName() : zuQt(meldung.titel));
     box.setTextFormat(Qt::PlainText);

@@ -9,6 +9,12 @@ class QtMeldungen final : public Meldungen
 {
 public:
     Antwort zeige(const Meldung& meldung) override;
+
+    // From now on nobody answers: boxes are written to the standard error output, and the program goes on.
+    void answerAlone() { alone_ = true; }
+
+private:
+    bool alone_ = false;
 };
 
 } // namespace quelvarn

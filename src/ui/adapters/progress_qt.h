@@ -27,6 +27,10 @@ public:
     bool schritt(std::size_t getan, std::size_t gesamt) override;
     void beende() override;
 
+    bool atWork() const { return tiefe_ > 0; }
+    // As the person would by the button.
+    void giveUp() { aufgegeben_ = true; }
+
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
 
 private:

@@ -41,14 +41,14 @@ TEST(LaufendeProgramme, KnowEachOtherAsLongAsTheyLive)
 {
     TempFolder folder;
     const fs::path captions = folder / "run/quelvarn";
-    LinuxLaufendeProgramme own(captions);
+    LinuxLaufendeProgramme own({captions});
     EXPECT_THAT(own.fenstertitel(), UnorderedElementsAre());
     own.eigenerTitel("noch keiner");
     own.eigenerTitel("W:\\x.mdb    Quelvarn Version 2.0");
 
     const pid_t child = fork();
     if (child == 0) {
-        LinuxLaufendeProgramme other(captions);
+        LinuxLaufendeProgramme other({captions});
         other.eigenerTitel("Harvel Version 2.1");
         pause();
         _exit(0);
@@ -66,7 +66,7 @@ TEST(LaufendeProgramme, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
 {
     TempFolder folder;
     {
-        LinuxLaufendeProgramme own(folder.path());
+        LinuxLaufendeProgramme own({folder.path()});
         own.eigenerTitel("Quelvarn Version 2.0");
         std::ofstream(folder / "1") << "99999999999999\nTalvik Version 2.0\n";
         std::ofstream(folder / "notiz") << "kein Programm\n";
@@ -75,6 +75,25 @@ TEST(LaufendeProgramme, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
     EXPECT_FALSE(fs::exists(folder / std::to_string(getpid())));
     EXPECT_FALSE(fs::exists(folder / "1"));
     EXPECT_TRUE(fs::exists(folder / "notiz"));
+}
+
+// A run folder may be full, missing, or somebody else's.
+TEST(LaufendeProgramme, GoOnWithTheNextFolderOrUnseen)
+{
+    TempFolder folder;
+    const fs::path file = folder / "file";
+    std::ofstream(file) << "in the way";
+    const fs::path full = "/dev/full/quelvarn";
+    LinuxLaufendeProgramme own({full, file / "quelvarn", file, folder / "second"});
+    own.eigenerTitel("Quelvarn Version 2.0");
+    LinuxLaufendeProgramme other({folder / "first", folder / "second"});
+    EXPECT_THAT(other.fenstertitel(), UnorderedElementsAre("Quelvarn Version 2.0"));
+    other.eigenerTitel("Harvel Version 2.1");
+    EXPECT_EQ(other.fenstertitel().size(), 2U);
+
+    LinuxLaufendeProgramme nowhere({full});
+    nowhere.eigenerTitel("Talvik Version 2.0");
+    EXPECT_THAT(nowhere.fenstertitel(), UnorderedElementsAre());
 }
 
 TEST(Standardanwendung, HandsOverThePathAsOneWord)
