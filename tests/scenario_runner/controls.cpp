@@ -229,6 +229,18 @@ void clickRow(const std::string& grid, int row, bool twice)
     clickIndex(view, index, twice);
 }
 
+// The toolkit's own simulation knows the keys of ASCII alone.
+void typeKeys(QWidget& target, const QString& text)
+{
+    for (const char32_t character : text.toUcs4()) {
+        const QString letter = QString::fromUcs4(&character, 1);
+        if (character < 0x80)
+            QTest::keyClicks(&target, letter);
+        else
+            QTest::sendKeyEvent(QTest::Click, &target, static_cast<Qt::Key>(QChar::toUpper(character)), letter, {});
+    }
+}
+
 void typeText(const std::string& name, const std::string& text)
 {
     auto& widget = control(name);
@@ -236,7 +248,7 @@ void typeText(const std::string& name, const std::string& text)
     widget.setFocus();
     QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&widget, Qt::Key_Delete);
-    QTest::keyClicks(&widget, qt(text));
+    typeKeys(widget, qt(text));
 }
 
 void slide(const std::string& name, int value)

@@ -36,6 +36,8 @@ void tick(const std::string& name, bool on);
 // An entry of a list, combo box, tab bar or tree by its text.
 void choose(const std::string& name, const std::string& text, bool twice = false);
 void clickRow(const std::string& grid, int row, bool twice);
+// Any characters, as a keyboard that has keys for them.
+void typeKeys(QWidget& target, const QString& text);
 void typeText(const std::string& name, const std::string& text);
 // A slider to a value.
 void slide(const std::string& name, int value);

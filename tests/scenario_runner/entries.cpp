@@ -64,7 +64,7 @@ void editCell(const std::string& grid, int row, int column, const std::string& t
     if (editor == nullptr)
         throw Difference(fmt::format("cell {}, {} of {} does not open", row, column, grid));
     editor->selectAll();
-    QTest::keyClicks(editor, qt(text));
+    typeKeys(*editor, qt(text));
     QTest::keyClick(editor, Qt::Key_Return);
 }
 

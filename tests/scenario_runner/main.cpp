@@ -1,7 +1,9 @@
 // quelvarn-scenario [--pictures FOLDER] FILE...: plays scenarios on the real windows. See docs/scenarios.md.
 
+#include "scenario_runner/lock_holder.h"
 #include "scenario_runner/script.h"
 #include "scenario_runner/steps.h"
+#include "scenario_runner/warnings.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -39,8 +41,11 @@ int play(const std::vector<std::string>& files, const std::string& pictures)
 
 int main(int argc, char** argv)
 {
+    if (argc == 4 && std::string(argv[1]) == "--hold-lock")
+        return quelvarn::scenario::holdLock(argv[2], argv[3]);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    quelvarn::scenario::keepWarnings();
     QApplication application(argc, argv);
     QCursor::setPos(10000, 10000); // Beside the window: no control looks as if the pointer were on it.
     std::vector<std::string> files;

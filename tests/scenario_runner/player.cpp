@@ -1,5 +1,6 @@
 #include "scenario_runner/controls.h"
 #include "scenario_runner/steps.h"
+#include "scenario_runner/warnings.h"
 #include "scenario_runner/world.h"
 
 #include <filesystem>
@@ -19,6 +20,7 @@ struct Vocabulary
         addSetupVerbs(steps);
         addGestureVerbs(steps);
         addExpectations(expectations);
+        addOutsideVerbs(steps, expectations);
         steps["expect"] = [this](World& world, const Step& step) {
             Step inner = step;
             inner.words.erase(inner.words.begin());
@@ -41,13 +43,12 @@ void play(World& world, const Vocabulary& vocabulary, const Step& step)
     world.settle();
     if (step.words.front() != "box")
         world.boxes.check();
+    if (const auto warnings = takeWarnings(); !warnings.empty())
+        throw Difference("a warning of the toolkit came" + warnings);
 }
 
-} // namespace
-
-void runScenario(const std::string& file, const std::string& pictureFolder)
+void playAll(const std::vector<Step>& steps, const std::string& pictureFolder)
 {
-    const auto steps = readScript(file);
     const Vocabulary vocabulary;
     World world(pictureFolder);
     for (const auto& step : steps) {
@@ -56,9 +57,19 @@ void runScenario(const std::string& file, const std::string& pictureFolder)
         } catch (const Skipped&) {
             throw;
         } catch (const std::exception& fault) {
-            throw Difference(fmt::format("{}:{}: {}", step.file, step.line, fault.what()));
+            throw Difference(fmt::format("{}:{}: {}{}", step.file, step.line, fault.what(), takeWarnings()));
         }
     }
+}
+
+} // namespace
+
+void runScenario(const std::string& file, const std::string& pictureFolder)
+{
+    const auto steps = readScript(file);
+    playAll(steps, pictureFolder);
+    if (const auto warnings = takeWarnings(); !warnings.empty())
+        throw Difference(fmt::format("{}: a warning of the toolkit came at the end{}", file, warnings));
 }
 
 } // namespace quelvarn::scenario

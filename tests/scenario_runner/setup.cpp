@@ -1,4 +1,5 @@
 #include "base/windows_path.h"
+#include "database/postgres_cluster.h"
 #include "platform/dateien.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/steps.h"
@@ -29,19 +30,38 @@ void runAdmin(const std::vector<std::string>& arguments)
             fmt::format("qvadmin {}: {}", fmt::join(arguments, " "), admin.readAllStandardError().toStdString()));
 }
 
+// An empty database on the server of this run, and its address in the register's file.
+std::string newServerDatabase(const std::filesystem::path& file)
+{
+    auto* cluster = test::PostgresCluster::find();
+    if (cluster == nullptr)
+        throw Skipped("PostgreSQL is not installed");
+#ifdef __linux__
+    if (auto* server = cluster->server()) { // An earlier scenario may have left it stopped.
+        server->resume();
+        server->start();
+    }
+#endif
+    const auto address = cluster->neueDatenbank();
+    std::ofstream(file, std::ios::binary) << address << "\n";
+    return address;
+}
+
 void registerVerb(World& world, const Step& step)
 {
     const auto& path = step.word(1);
     const auto real = world.realPath(path);
     std::filesystem::create_directories(real.parent_path());
-    const auto target = real.string();
-    const auto& kind = step.word(2);
+    const bool onServer = step.word(2) == "server";
+    const auto target = onServer ? newServerDatabase(real) : real.string();
+    const std::size_t first = onServer ? 3 : 2;
+    const auto& kind = step.word(first);
     if (kind == "empty") {
         runAdmin({"create", target});
     } else if (kind == "sample") {
-        runAdmin({"sample", target, "--documents", step.word(3), "--files", world.realPath("W:\\").string()});
+        runAdmin({"sample", target, "--documents", step.word(first + 1), "--files", world.realPath("W:\\").string()});
     } else if (kind == "import") {
-        const auto source = std::filesystem::path(QUELVARN_TEST_DATA) / step.word(3);
+        const auto source = std::filesystem::path(QUELVARN_TEST_DATA) / step.word(first + 1);
         runAdmin({"import", source.string(), target});
     } else {
         throw Difference(fmt::format("a register of the kind \"{}\" is not known", kind));
@@ -75,7 +95,12 @@ void expectBox(World& world, const Step& step)
 
 void addSetupVerbs(Verbs& verbs)
 {
-    verbs["user"] = [](World& world, const Step& step) { world.setUser(step.word(1)); };
+    verbs["user"] = [](World& world, const Step& step) {
+        if (step.has(1))
+            world.setUser(step.word(1));
+        else
+            world.setSystemUser();
+    };
     verbs["computer"] = [](World& world, const Step& step) { world.setComputer(step.word(1)); };
     verbs["clock"] = [](World& world, const Step& step) { world.setClock(step.word(1)); };
     verbs["advance"] = [](World& world, const Step& step) { world.advance(std::stoi(step.word(1))); };

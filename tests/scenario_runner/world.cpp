@@ -5,9 +5,13 @@
 #include "fakes/temp_folder.h"
 #include "platform/dateien.h"
 #include "platform/system_ports.h"
+#include "platform/umgebung.h"
 #include "scenario_runner/controls.h"
+#include "scenario_runner/disk.h"
+#include "scenario_runner/lock_holder.h"
 #include "session/program.h"
 #include "ui/adapters/progress_qt.h"
+#include "ui/guard.h"
 #include "ui/main_window/mdi_form1.h"
 #include "ui/theme/appearance.h"
 #include "ui/workplace.h"
@@ -18,6 +22,7 @@
 
 #include <fmt/format.h>
 #include <fstream>
+#include <functional>
 
 namespace quelvarn::scenario {
 
@@ -40,6 +45,8 @@ struct World::Parts
     std::unique_ptr<SessionState> session;
     std::unique_ptr<Arbeitsplatz> workplace;
     bool ended = false;
+    std::unique_ptr<LockHolder> lock;
+    std::unique_ptr<RealProgram> realProgram;
 
     std::filesystem::path drives() const { return folder.path() / "laufwerke"; }
 };
@@ -63,12 +70,18 @@ World::World(std::string pictureFolder) : parts_(std::make_unique<Parts>()), pic
 
 World::~World()
 {
+    fillDisk({});
     parts_->workplace.reset();
 }
 
 void World::setUser(const std::string& name)
 {
     parts_->environment.anwender = name;
+}
+
+void World::setSystemUser()
+{
+    setUser(parts_->system->umgebung().anwendername());
 }
 
 void World::setComputer(const std::string& name)
@@ -136,7 +149,12 @@ void World::start()
     parts_->ended = false;
     parts_->appearance->wendeAn(*qApp);
     parts_->session = std::make_unique<SessionState>();
-    Main(*parts_->session, *parts_->ports);
+    {
+        Waechter guard(boxes, [this] { parts_->ended = true; });
+        guard.fuehreAus([this] { Main(*parts_->session, *parts_->ports); });
+    }
+    if (parts_->ended)
+        return parts_->session.reset();
     parts_->workplace = std::make_unique<Arbeitsplatz>(*parts_->session, *parts_->ports, *parts_->appearance,
                                                        [this] { parts_->ended = true; });
     if (!parts_->workplace->starte())
@@ -174,6 +192,39 @@ void World::settle() const
         parts_->workplace.reset();
         parts_->session.reset();
     }
+}
+
+void World::lockRegister(const std::string& mode)
+{
+    parts_->lock.reset();
+    parts_->lock = std::make_unique<LockHolder>(realPath(register_), mode);
+}
+
+void World::unlockRegister()
+{
+    if (parts_->lock == nullptr)
+        throw Difference("the register is not locked");
+    parts_->lock.reset();
+}
+
+std::filesystem::path World::awayPlace(const std::string& windowsPath) const
+{
+    const auto folder = parts_->folder.path() / "away";
+    std::filesystem::create_directories(folder);
+    return folder / std::to_string(std::hash<std::string>()(windowsPath));
+}
+
+void World::startRealProgram()
+{
+    parts_->realProgram.reset();
+    parts_->realProgram = std::make_unique<RealProgram>(parts_->folder.path(), parts_->drives());
+}
+
+RealProgram& World::realProgram() const
+{
+    if (parts_->realProgram == nullptr)
+        throw Difference("the program was not started as a process of its own");
+    return *parts_->realProgram;
 }
 
 Dateien& World::files() const

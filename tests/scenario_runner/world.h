@@ -2,6 +2,7 @@
 
 #include "database/connection.h"
 #include "scenario_runner/expected_boxes.h"
+#include "scenario_runner/real_program.h"
 
 #include <filesystem>
 #include <memory>
@@ -27,6 +28,8 @@ public:
 
     // --- setup ---
     void setUser(const std::string& name);
+    // The one who runs this program.
+    void setSystemUser();
     void setComputer(const std::string& name);
     void setClock(const std::string& iso);
     void advance(int seconds);
@@ -48,6 +51,14 @@ public:
     QWidget& mainWindow() const;
     // Lets queued events happen.
     void settle() const;
+
+    // --- what is around the program ---
+    void lockRegister(const std::string& mode);
+    void unlockRegister();
+    // Where something lies while it is away.
+    std::filesystem::path awayPlace(const std::string& windowsPath) const;
+    void startRealProgram();
+    RealProgram& realProgram() const;
 
     // --- what can be looked at ---
     Dateien& files() const;

@@ -1,3 +1,5 @@
+#include "ui/qt_warnings.h"
+
 #include <QApplication>
 #include <QByteArray>
 
@@ -5,14 +7,10 @@
 
 namespace {
 
-// A warning of the toolkit is a fault of ours, but for what the platform without a screen cannot do.
 void warnung(QtMsgType art, const QMessageLogContext& /*ort*/, const QString& text)
 {
-    if (art == QtDebugMsg || art == QtInfoMsg || text.contains(QLatin1String("propagateSizeHints")) ||
-        text.startsWith(QLatin1String("This plugin does not support")) ||
-        text.contains(QLatin1String("XDG_RUNTIME_DIR")))
-        return;
-    ADD_FAILURE() << "Qt: " << text.toStdString();
+    if (quelvarn::test::isFault(art, text))
+        ADD_FAILURE() << "Qt: " << text.toStdString();
 }
 
 } // namespace
