@@ -3,6 +3,7 @@
 #include "bench/bare_sqlite.h"
 #include "database/connection.h"
 #include "database/recordset.h"
+#include "database/sql/parser.h"
 
 #include <stdexcept>
 
@@ -29,7 +30,9 @@ std::size_t messeOeffnen(Messreihe& reihe, const std::string& name, const std::s
     verlange(sqlite.plan(nackt).find("TEMP B-TREE") == std::string::npos, "no index serves the peer's listing");
     Recordset rs;
     std::size_t gelistet = 0;
-    reihe.vergleiche(name, reihe.beiVielen(1.5), {[&] { rs.Open("SELECT *" + rest, verbindung); }, [&] { rs.Close(); }},
+    reihe.vergleiche(name, reihe.beiVielen(1.5),
+                     {[&] { rs.Open(std::get<sql::Select>(sql::parseAnweisung("SELECT *" + rest)), verbindung); },
+                      [&] { rs.Close(); }},
                      "sqlite3_step, same order", {[&] { gelistet = sqlite.listeAuf(nackt); }});
     verlange(rs.RecordCount() == gelistet, "the recordset and the peer list different rows");
     return rs.speicherbedarf() / rs.RecordCount();

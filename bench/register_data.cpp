@@ -4,12 +4,14 @@
 #include "database/connection.h"
 #include "database/create.h"
 #include "database/recordset.h"
+#include "database/sql/conditions.h"
 
 #include <algorithm>
 #include <array>
 #include <fmt/format.h>
 #include <functional>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace quelvarn::bench {
@@ -153,7 +155,9 @@ std::int64_t zaehle(Connection& verbindung, std::string_view tabelle)
     if (!verbindung.engine().findTabelle(tabelle))
         return 0;
     Recordset anzahl;
-    anzahl.Open(fmt::format("SELECT Count(*) FROM {}", tabelle), verbindung);
+    sql::Select count = sql::Query(tabelle);
+    count.anzahl = true;
+    anzahl.Open(std::move(count), verbindung);
     return alsGanzzahl(anzahl.Zelle(0, anzahl.Felder().front().name));
 }
 

@@ -9,6 +9,7 @@
 #include "database/connection.h"
 #include "database/create.h"
 #include "database/recordset.h"
+#include "database/sql/conditions.h"
 
 #include <algorithm>
 #include <chrono>
@@ -52,12 +53,23 @@ std::string nameOf(int process)
     return fmt::format("Last{}", process);
 }
 
+sql::Select counterOf(const std::string& user)
+{
+    return sql::Query("Ini").where(sql::all(sql::equal("Feld1", user), sql::equal("Feld2", "Last")));
+}
+
+sql::Select useOf(const std::string& user, long turn)
+{
+    return sql::Query("CheckInOut")
+        .where(sql::all(sql::equal("ADNutzer", 1), sql::equal("AnwenderNutzer", user),
+                        sql::equal("filenameNutzer", fmt::format("W:\\{}.par", turn))));
+}
+
 // A setting of the user's own, changed over and over: read, count up, write back.
 void countUp(Connection& connection, const std::string& user)
 {
     Recordset row;
-    row.Open(fmt::format("SELECT * FROM Ini WHERE Feld1 = '{}' AND Feld2 = 'Last'", user), connection,
-             CursorTyp::Statisch, SperrTyp::Optimistisch);
+    row.Open(counterOf(user), connection, CursorTyp::Statisch, SperrTyp::Optimistisch);
     if (row.Eof()) {
         row.AddNew();
         row.setzeFeld("Feld1", user);
@@ -72,10 +84,7 @@ void countUp(Connection& connection, const std::string& user)
 void checkOut(Connection& connection, const std::string& user, long turn)
 {
     Recordset rows;
-    rows.Open(fmt::format("SELECT * FROM CheckInOut WHERE ADNutzer = 1 AND AnwenderNutzer = '{}' AND filenameNutzer = "
-                          "'W:\\{}.par'",
-                          user, turn),
-              connection, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
+    rows.Open(useOf(user, turn), connection, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
     rows.AddNew();
     rows.setzeFeld("ADNutzer", std::int64_t{1});
     rows.setzeFeld("AnwenderNutzer", user);
@@ -88,10 +97,7 @@ void checkOut(Connection& connection, const std::string& user, long turn)
 void checkIn(Connection& connection, const std::string& user, long turn)
 {
     Recordset rows;
-    rows.Open(fmt::format("SELECT * FROM CheckInOut WHERE ADNutzer = 1 AND AnwenderNutzer = '{}' AND filenameNutzer = "
-                          "'W:\\{}.par'",
-                          user, turn),
-              connection, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
+    rows.Open(useOf(user, turn), connection, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
     if (rows.RecordCount() != 1)
         throw Laufzeitfehler(1, "stress", fmt::format("{}: {} rows of turn {}", user, rows.RecordCount(), turn));
     rows.Delete();
@@ -117,9 +123,9 @@ int work(const Options& options, int process)
                 std::max(slowest, std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
         }
         Recordset own;
-        own.Open(fmt::format("SELECT * FROM CheckInOut WHERE AnwenderNutzer = '{}'", user), connection);
+        own.Open(sql::Query("CheckInOut").where(sql::equal("AnwenderNutzer", user)), connection);
         Recordset count;
-        count.Open(fmt::format("SELECT * FROM Ini WHERE Feld1 = '{}' AND Feld2 = 'Last'", user), connection);
+        count.Open(counterOf(user), connection);
         const long expected = (turns + 2) / 3;
         fmt::print("{}: {} turns, slowest {:.2f} s, rows {} of {}, counter {} of {}\n", user, turns, slowest,
                    own.RecordCount(), expected, count.Text("Feld4"), turns);

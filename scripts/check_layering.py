@@ -28,6 +28,9 @@ DRIVERS = {"sqlite3.h": "database/sqlite", "libpq-fe.h": "database/postgresql", 
 # Its types have no names that could be declared forward.
 IN_HEADERS_TOO = {"mdbtools.h"}
 
+# Statements from text: the database itself, and what a person types. Everybody else makes trees (sql/conditions.h).
+STATEMENT_READERS = re.compile(r"database/|tools/query\.cpp|filter/fragments\.cpp")
+
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)')
 
 
@@ -46,6 +49,8 @@ def faults_of(path: pathlib.Path, source: pathlib.Path) -> list[str]:
             target = own.split("/", 1)[0]
             if target in MAY_INCLUDE and target != folder and target not in MAY_INCLUDE[folder]:
                 faults.append(f"{inner}:{number}: {folder}/ must not include {own}")
+        if own == "database/sql/parser.h" and not STATEMENT_READERS.match(inner):
+            faults.append(f"{inner}:{number}: statements are made as trees, not read from text")
         name = system or own
         if folder not in WITH_QT and re.match(r"Q[A-Z]|Qt", name):
             faults.append(f"{inner}:{number}: the core must not include {name}")

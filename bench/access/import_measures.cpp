@@ -4,6 +4,7 @@
 #include "database/connection.h"
 #include "database/create.h"
 #include "database/recordset.h"
+#include "database/sql/conditions.h"
 
 #include <cstdlib>
 #include <fmt/format.h>
@@ -63,7 +64,7 @@ std::vector<Tabelle> liesRegister(const fs::path& datei)
     for (const std::string& name : verbindung.engine().tabellen()) {
         Tabelle tabelle{*verbindung.engine().findTabelle(name), {}};
         Recordset zeilen;
-        zeilen.Open("SELECT * FROM " + name, verbindung);
+        zeilen.Open(sql::Query(name), verbindung);
         for (; !zeilen.Eof(); zeilen.MoveNext()) {
             std::vector<Value>& werte = tabelle.zeilen.emplace_back();
             for (const Spalte& spalte : tabelle.schema.spalten)

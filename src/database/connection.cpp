@@ -130,9 +130,13 @@ void Connection::Close()
     engine_.reset();
 }
 
-std::int64_t Connection::Execute(std::string_view sql)
+std::int64_t Connection::Execute(sql::FixedText anweisung)
 {
-    const sql::Anweisung anweisung = sql::parseAnweisung(sql);
+    return Execute(sql::parseAnweisung(anweisung.text()));
+}
+
+std::int64_t Connection::Execute(const sql::Anweisung& anweisung)
+{
     if (std::holds_alternative<sql::Select>(anweisung))
         throw Laufzeitfehler(FEHLER_ANWEISUNG, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");
     return engine().fuehreAus(anweisung);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/engine_transaction.h"
+#include "database/sql/fixed_text.h"
 
 #include <filesystem>
 #include <memory>
@@ -35,8 +36,10 @@ public:
     // Asked while a database lets wait, also one that is opened later; null for nobody. Outlives the connection.
     void setPatience(Patience* patience);
 
-    // One INSERT, UPDATE or DELETE of the program's dialect. Rows affected.
-    std::int64_t Execute(std::string_view sql);
+    // One INSERT, UPDATE or DELETE: a tree, or text of the program's dialect without a value from outside. Rows
+    // affected.
+    std::int64_t Execute(const sql::Anweisung& anweisung);
+    std::int64_t Execute(sql::FixedText anweisung);
 
     Engine& engine() const;
 

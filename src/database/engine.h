@@ -98,6 +98,10 @@ public:
     virtual std::unique_ptr<Massenschreiber> massenschreiber(std::string_view tabelle,
                                                              std::span<const Spalte> spalten) = 0;
 
+    // In a transaction, by one who looks before he writes: until its end others who call this wait here, and then see
+    // what was written. Nothing where beginning a transaction does that already, or where the engine has no means.
+    virtual void lockForWriting(std::string_view) {}
+
     virtual void beginne() = 0;
     virtual void schliesseAb() = 0;
     virtual void nimmZurueck() = 0;

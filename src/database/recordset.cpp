@@ -18,19 +18,24 @@ Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
-void Recordset::Open(std::string_view sql, Connection& verbindung, CursorTyp, SperrTyp sperre)
+void Recordset::Open(sql::FixedText select, Connection& verbindung, CursorTyp cursor, SperrTyp sperre)
+{
+    auto anweisung = sql::parseAnweisung(select.text());
+    auto* abfrage = std::get_if<sql::Select>(&anweisung);
+    if (!abfrage)
+        throw recordsetFehler(3001, "Ein Recordset kann nur mit einer Auswahlabfrage geöffnet werden.");
+    Open(std::move(*abfrage), verbindung, cursor, sperre);
+}
+
+void Recordset::Open(sql::Select select, Connection& verbindung, CursorTyp, SperrTyp sperre)
 {
     auto neu = std::make_unique<Kern>();
     neu->klein = kern_->klein;
     neu->sperre = sperre;
-    auto anweisung = sql::parseAnweisung(sql);
-    auto* abfrage = std::get_if<sql::Select>(&anweisung);
-    if (!abfrage)
-        throw recordsetFehler(3001, "Ein Recordset kann nur mit einer Auswahlabfrage geöffnet werden.");
     if (!verbindung.offen())
         throw recordsetFehler(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
     neu->zeilen.oeffne(
-        verbindung.engine_, std::move(*abfrage),
+        verbindung.engine_, std::move(select),
         {.schreibbar = sperre != SperrTyp::NurLesen, .ganzLesen = sperre == SperrTyp::Stapel, .klein = neu->klein});
     neu->ansicht.zeigeAlle(neu->zeilen.anzahl());
     neu->offen = true;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "database/schema.h"
+#include "database/sql/ast.h"
+#include "database/sql/fixed_text.h"
 #include "database/value.h"
 
 #include <cstddef>
@@ -41,8 +43,10 @@ public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    // One SELECT of the program's dialect.
-    void Open(std::string_view sql, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
+    // Made of conditions (sql/conditions.h), or one SELECT of the program's dialect without a value from outside.
+    void Open(sql::Select select, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
+              SperrTyp sperre = SperrTyp::NurLesen);
+    void Open(sql::FixedText select, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
               SperrTyp sperre = SperrTyp::NurLesen);
     // These rows of one table with all its columns, in this order, read as those of a query are; not to be changed.
     void OpenZeilen(std::string_view tabelle, std::vector<std::int64_t> schluessel, Connection& verbindung);

@@ -79,6 +79,12 @@ std::int64_t alsGanzzahl(const Value& wert)
     return gerundet(alsZahl(wert));
 }
 
+std::optional<std::int64_t> wholeNumber(const Value& wert, std::int64_t lowest, std::int64_t highest)
+{
+    const std::int64_t zahl = alsGanzzahl(wert);
+    return istNumerisch(wert) && zahl >= lowest && zahl <= highest ? std::optional(zahl) : std::nullopt;
+}
+
 bool istNumerisch(const Value& wert)
 {
     if (const auto* text = std::get_if<std::string>(&wert))

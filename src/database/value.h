@@ -3,6 +3,7 @@
 #include "base/date_time.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -23,6 +24,8 @@ std::string alsText(const Value& wert);
 // Null and texts that are no number give 0.
 double alsZahl(const Value& wert);
 std::int64_t alsGanzzahl(const Value& wert);
+// A number in this range, after rounding; nothing for every other and for what is no number.
+std::optional<std::int64_t> wholeNumber(const Value& wert, std::int64_t lowest, std::int64_t highest);
 // True for numbers and for texts that read as one.
 bool istNumerisch(const Value& wert);
 // Null and what is no date give day 0.

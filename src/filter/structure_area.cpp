@@ -1,6 +1,7 @@
 #include "filter/structure_area.h"
 
 #include "base/text.h"
+#include "database/sql/conditions.h"
 #include "filter/execution.h"
 #include "filter/template_lookup.h"
 #include "platform/fortschritt.h"
@@ -21,10 +22,9 @@ std::string merkmal(std::size_t ebene)
     return fmt::format("Hauptmerkmal_{}", EBENEN[ebene]);
 }
 
-// A doubled apostrophe is one that belongs to the value, whatever stands behind it.
 std::string gleich(std::string_view feld, std::string_view wert)
 {
-    return FeldGleichWert(feld, replaceAll(wert, "'", "''"));
+    return fmt::format("{} = {}", feld, sql::quoted(wert));
 }
 
 std::string bedingungVon(const Strukturpfad& pfad)
@@ -167,14 +167,13 @@ std::optional<Strukturbereich::Zweig> Strukturbereich::leseZweig(const Strukturp
     LangeArbeit arbeit(kontext_.ports.fortschritt, "Strukturmerkmale werden gelesen ...");
     if (!tabelle().ladeSpalten(spalten, std::ref(arbeit)))
         return std::nullopt;
-    const std::string bedingung = bedingungVon(pfad);
-    const auto zeilen = tabelle().waehle(bedingung);
+    const auto zeilen = tabelle().waehle(bedingungVon(pfad));
     Zweig zweig;
     if (pfad.size() < EBENEN.size())
         zweig.kinder = knotenVon(tabelle().verschiedeneTexte(merkmal(pfad.size()), *zeilen, nichtLeer));
     zweig.material = werteliste(tabelle().verschiedeneTexte("Material", *zeilen, nichtNurBlanks));
     zweig.firma = werteliste(tabelle().verschiedeneTexte("Firma", *zeilen, nichtNurBlanks));
-    zweig.vorlage = VorlageSuchen(kontext_.session.Verbindung, static_cast<int>(pfad.size()), bedingung);
+    zweig.vorlage = VorlageSuchen(kontext_.session.Verbindung, pfad);
     return zweig;
 }
 

@@ -2,13 +2,13 @@
 
 #include "database/connection.h"
 
+#include <span>
 #include <string>
-#include <string_view>
 
 namespace quelvarn {
 
-// The template drawing of a branch: `Ebene` 1 to 5 for Hauptmerkmal_C to G, and its condition. A drawing whose deeper
+// The template drawing of a branch: its values of Hauptmerkmal_C and below, five at most. A drawing whose deeper
 // features are empty goes before more general ones. "" when there is none.
-std::string VorlageSuchen(Connection& verbindung, int Ebene, std::string_view Bedingung);
+std::string VorlageSuchen(Connection& verbindung, std::span<const std::string> branch);
 
 } // namespace quelvarn

@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "base/windows_path.h"
-#include "filter/conditions.h"
+#include "database/sql/conditions.h"
 #include "filter/user_defined_match.h"
 
 #include <algorithm>
@@ -67,9 +67,10 @@ std::vector<std::string> leseNamen(Connection& verbindung, std::string_view tabe
         select.tabelle = tabelle;
         select.spalten = {"Name"};
         select.orderBy = {{"Name", false}};
-        select.where = statusbereich(tabelle, WhereStatus);
+        select.where = sql::statusScope(WhereStatus);
         if (!namen.empty())
-            select.where = beide(vergleich("Name", sql::Vergleich::Groesser, namen.back()), std::move(select.where));
+            select.where =
+                sql::all(sql::compare("Name", sql::Vergleich::Groesser, namen.back()), std::move(select.where));
         const auto zeile = verbindung.engine().lese(select, MitSchluessel::Nein, 1);
         if (!zeile->next())
             return namen;
@@ -101,7 +102,7 @@ std::vector<std::string> leseWerte(Connection& verbindung, std::string_view tabe
     sql::Select select;
     select.tabelle = tabelle;
     select.spalten = {"Wert"};
-    select.where = vergleich("Name", sql::Vergleich::Gleich, name);
+    select.where = sql::equal("Name", name);
     Textsammlung texte;
     const auto leser = verbindung.engine().lese(select, MitSchluessel::Nein);
     while (leser->next())
@@ -119,7 +120,7 @@ std::string empfaenger(Connection& verbindung, std::string_view kennung)
 {
     sql::Select select;
     select.tabelle = "Adresstabelle";
-    select.where = vergleich("Kennung", sql::Vergleich::Gleich, kennung);
+    select.where = sql::equal("Kennung", kennung);
     const auto zeilen = verbindung.engine().lese(select, MitSchluessel::Nein);
     const auto spalte = [&](std::string_view name) {
         return static_cast<std::size_t>(

@@ -2,7 +2,7 @@
 
 #include "base/collation.h"
 #include "base/utf8.h"
-#include "filter/conditions.h"
+#include "database/sql/conditions.h"
 
 #include <algorithm>
 
@@ -54,8 +54,8 @@ sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
     if (jederWert())
         return nullptr;
     if (wert.find('*') == std::string::npos)
-        return vergleich("Wert", sql::Vergleich::Gleich, wert);
-    return vergleich("Wert", sql::Vergleich::Like, alsMuster(wert, '%'));
+        return sql::equal("Wert", wert);
+    return sql::compare("Wert", sql::Vergleich::Like, alsMuster(wert, '%'));
 }
 
 BenutzDefSchritte::BenutzDefSchritte(const Filterzustand& zustand)
@@ -93,17 +93,17 @@ std::vector<sql::AusdruckZeiger> BenutzDefSchritte::vorauswahl() const
         const auto gleicher = [&](const Schritt& schritt) { return equalText(schritt.name, erster->name); };
         if (std::any_of(schritte_.begin(), erster, gleicher))
             continue;
-        sql::Oder werte;
+        std::vector<sql::AusdruckZeiger> werte;
         bool jeder = false;
         for (auto schritt = erster; schritt != schritte_.end(); ++schritt) {
             if (!gleicher(*schritt))
                 continue;
             jeder = jeder || schritt->jederWert();
             if (!schritt->jederWert())
-                werte.teile.push_back(schritt->bedingung());
+                werte.push_back(schritt->bedingung());
         }
-        auto name = vergleich("Name", sql::Vergleich::Gleich, erster->name);
-        bedingungen.push_back(jeder ? std::move(name) : beide(std::move(name), eines(std::move(werte))));
+        auto name = sql::equal("Name", erster->name);
+        bedingungen.push_back(jeder ? std::move(name) : sql::all(std::move(name), sql::any(std::move(werte))));
     }
     return bedingungen;
 }

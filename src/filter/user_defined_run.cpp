@@ -1,5 +1,5 @@
 #include "base/collation.h"
-#include "filter/conditions.h"
+#include "database/sql/conditions.h"
 #include "filter/document_counter.h"
 #include "filter/execution.h"
 #include "filter/user_defined_match.h"
@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::size_t SCHRITTWEITE = 8192;
 constexpr std::size_t ALS_ABFRAGEN = 2000; // So many documents are looked up one by one.
-constexpr std::size_t JE_ABFRAGE = 100;
 
 // Where the rows of the documents found stand.
 struct Fundort
@@ -78,14 +77,13 @@ private:
         sql::Select select;
         select.tabelle = typ_.tabelleBenutzDef;
         select.spalten = {"DokuBez", "RevBez", "Name", "Wert"};
-        select.where = beide(std::move(bedingung), statusbereich(select.tabelle, kontext_.session.WhereStatus));
+        select.where = sql::all(std::move(bedingung), sql::statusScope(kontext_.session.WhereStatus));
         std::vector<std::size_t> zusaetze;
         for (std::size_t i = 0; i < ZUSATZSPALTEN.size(); ++i)
             if (!ZusBenutzDef_[i].empty()) {
                 zusaetze.push_back(i);
                 select.spalten.emplace_back(ZUSATZSPALTEN[i]);
-                select.where = beide(std::move(select.where),
-                                     vergleich(ZUSATZSPALTEN[i], sql::Vergleich::Gleich, ZusBenutzDef_[i]));
+                select.where = sql::all(std::move(select.where), sql::equal(ZUSATZSPALTEN[i], ZusBenutzDef_[i]));
             }
         const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Nein);
         while (zeilen->next()) {
@@ -133,14 +131,16 @@ private:
     {
         bool weitergehen = true;
         einDurchgang_ = false;
-        for (std::size_t i = 0; i < offene.size() && weitergehen; i += JE_ABFRAGE) {
-            sql::Oder oder;
-            for (std::size_t k = i; k < std::min(offene.size(), i + JE_ABFRAGE); ++k)
-                oder.teile.push_back(beide(vergleich("DokuBez", sql::Vergleich::Gleich, dokumente_.DokuBez(offene[k])),
-                                           vergleich("RevBez", sql::Vergleich::Gleich, dokumente_.RevBez(offene[k]))));
-            gesichertKopiert([&] { weitergehen = nimmZeilen(fundort, eines(std::move(oder))); });
+        std::vector<sql::AusdruckZeiger> dokumente;
+        for (const Dokumentzaehler::Nummer nummer : offene)
+            dokumente.push_back(sql::all(sql::equal("DokuBez", dokumente_.DokuBez(nummer)),
+                                         sql::equal("RevBez", dokumente_.RevBez(nummer))));
+        for (sql::AusdruckZeiger& einige : sql::chunks(std::move(dokumente))) {
+            gesichertKopiert([&] { weitergehen = nimmZeilen(fundort, std::move(einige)); });
+            if (!weitergehen)
+                return false;
         }
-        return weitergehen;
+        return true;
     }
 
     bool sucheImGanzen(std::size_t fundort)
@@ -163,7 +163,7 @@ private:
         sql::Select select;
         select.tabelle = fundorte_[fundort].tabelle;
         select.spalten = {"DokuBez", "RevBez"};
-        select.where = beide(std::move(bedingung), statusbereich(select.tabelle, fundorte_[fundort].bereich));
+        select.where = sql::all(std::move(bedingung), sql::statusScope(fundorte_[fundort].bereich));
         select.orderBy = {{"DokuBez", false}, {"RevBez", true}}; // As the index has it.
         const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Ja);
         while (zeilen->next()) {

@@ -2,12 +2,13 @@
 
 #include "base/date_time.h"
 #include "base/number_format.h"
-#include "base/text.h"
+#include "database/sql/conditions.h"
 #include "platform/dateien.h"
 #include "register/document_record.h"
 #include "register/text_list.h"
 #include "session/session_state.h"
 
+#include <algorithm>
 #include <array>
 #include <fmt/format.h>
 #include <optional>
@@ -15,8 +16,8 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view ABSATZ = "      "; // Before the letter of a feature.
-constexpr int ERSTES_STRUKTURMERKMAL = 2;     // Hauptmerkmal_C
+constexpr std::string_view ABSATZ = "      ";     // Before the letter of a feature.
+constexpr std::size_t ERSTES_STRUKTURMERKMAL = 2; // Hauptmerkmal_C
 constexpr int NACHKOMMASTELLEN = 3;
 
 char buchstabe(char erster, std::size_t nummer)
@@ -50,10 +51,13 @@ Recordset InfoRevision(Connection& verbindung, std::string_view tabelle, std::st
     const std::string_view datum = erstellt ? "Erstellt" : "Geaendert";
     const std::string_view name = erstellt ? "Autor" : "Bearbeiter";
     Recordset zeilen;
-    zeilen.Open(fmt::format("SELECT DISTINCT RevBez, {}, {}, Aenderung FROM {} WHERE DokuBez = '{}' AND "
-                            "Aenderung NOT LIKE '' ORDER BY RevBez",
-                            datum, name, tabelle, replaceAll(DokuBez, "'", "''")),
-                verbindung);
+    zeilen.Open(
+        sql::Query(tabelle)
+            .columns({"RevBez", datum, name, "Aenderung"})
+            .distinct()
+            .where(sql::all(sql::equal("DokuBez", DokuBez), sql::compare("Aenderung", sql::Vergleich::NotLike, "")))
+            .sortedBy("RevBez"),
+        verbindung);
     Textliste liste{"RevBez", "Geaendert", "Bearbeiter", "Aenderung"};
     for (; !zeilen.Eof(); zeilen.MoveNext())
         liste.zeile({{"RevBez", zeilen.Text("RevBez")},
@@ -63,29 +67,21 @@ Recordset InfoRevision(Connection& verbindung, std::string_view tabelle, std::st
     return liste.fertig();
 }
 
-Vorlagenzweig vorlagenzweig(const DokuRecord& record)
+std::span<const std::string> templateBranch(const DokuRecord& record)
 {
-    Vorlagenzweig zweig;
-    for (std::size_t i = ERSTES_STRUKTURMERKMAL; i < record.Hauptmerkmal.size(); ++i) {
-        const std::string& wert = record.Hauptmerkmal[i];
-        if (wert.empty())
-            break;
-        zweig.Bedingung += zweig.Ebene == 0 ? "" : " AND ";
-        zweig.Bedingung +=
-            FeldGleichWert(fmt::format("Hauptmerkmal_{}", buchstabe('A', i)), replaceAll(wert, "'", "''"));
-        ++zweig.Ebene;
-    }
-    return zweig;
+    const auto features = std::span(record.Hauptmerkmal).subspan(ERSTES_STRUKTURMERKMAL);
+    const auto behind = std::ranges::find(features, std::string());
+    return features.first(static_cast<std::size_t>(behind - features.begin()));
 }
 
 Recordset hauptmerkmalListe(const DokuRecord& record, const SessionState& session, bool mitVorlage)
 {
     Textliste liste{"Bezeichn", "Inhalt", "Benennung"};
-    const int ebene = mitVorlage ? vorlagenzweig(record).Ebene : 0;
+    const std::size_t ebene = mitVorlage ? templateBranch(record).size() : 0;
     for (std::size_t i = 0; i < record.Hauptmerkmal.size(); ++i) {
         if (i == ERSTES_STRUKTURMERKMAL)
             trenne(liste);
-        const bool vorlage = ebene > 0 && static_cast<int>(i) == ERSTES_STRUKTURMERKMAL + ebene - 1;
+        const bool vorlage = ebene > 0 && i == ERSTES_STRUKTURMERKMAL + ebene - 1;
         liste.zeile({{"Bezeichn", fmt::format("{}{}", ABSATZ, buchstabe('A', i))},
                      {"Inhalt", record.Hauptmerkmal[i]},
                      {"Benennung", vorlage ? "Vorlage" : merkmalname(session, i)}});
@@ -102,9 +98,10 @@ Recordset zusDokuListe(Connection& verbindung, const Dateien& dateien, std::stri
 {
     constexpr std::string_view MITSENDEN = "/J";
     Recordset zeilen;
-    zeilen.Open(fmt::format("SELECT DISTINCT ZusDokuDateiname, ZusDokufilename FROM VerbindungPartZusDoku WHERE "
-                            "Dokufilename = '{}'",
-                            replaceAll(filename, "'", "''")),
+    zeilen.Open(sql::Query("VerbindungPartZusDoku")
+                    .columns({"ZusDokuDateiname", "ZusDokufilename"})
+                    .distinct()
+                    .where(sql::equal("Dokufilename", filename)),
                 verbindung);
     Textliste liste{"ZusDokuDatum", "ZusDokuDateiname", "ZusDokuSenden", "ZusDokufilename"};
     liste.mit("ZusDokuCreated", FeldTyp::Datum).mit("ZusDokuFileSize", FeldTyp::Ganzzahl);

@@ -27,13 +27,9 @@ Recordset sendToListe(Connection& verbindung, std::string_view tabelleBenutzDef,
 // "14.02.11  10:30" from the twelve digits before the ending of an order file; "" without them.
 std::string SendToDatum(std::string_view OrderDateiname);
 
-// The branch of the classification that a document stands in, as VorlageSuchen asks for it.
-struct Vorlagenzweig
-{
-    int Ebene = 0; // 1 for Hauptmerkmal_C alone, 0 for none.
-    std::string Bedingung;
-};
-Vorlagenzweig vorlagenzweig(const DokuRecord& record);
+// The branch of the classification that a document stands in, as VorlageSuchen asks for it: the values of
+// Hauptmerkmal_C and below, up to the first empty one.
+std::span<const std::string> templateBranch(const DokuRecord& record);
 // Bezeichn, Inhalt, Benennung. With a template the row of the branch's last feature is named so.
 Recordset hauptmerkmalListe(const DokuRecord& record, const SessionState& session, bool mitVorlage);
 

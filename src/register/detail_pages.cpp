@@ -83,8 +83,7 @@ void Detailseiten::leere()
 void Detailseiten::fuelleHauptmerkmale()
 {
     LblPfadDateiVorlage_.clear();
-    const Vorlagenzweig zweig = vorlagenzweig(record_);
-    LblPfadDateiVorlage_ = VorlageSuchen(session_.Verbindung, zweig.Ebene, zweig.Bedingung);
+    LblPfadDateiVorlage_ = VorlageSuchen(session_.Verbindung, templateBranch(record_));
     listen_[InfoSeite::Hauptmerkmale] = hauptmerkmalListe(record_, session_, !LblPfadDateiVorlage_.empty());
 }
 

@@ -4,6 +4,9 @@
 #include "database/recordset.h"
 #include "session/session_state.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace quelvarn {
 namespace {
 
@@ -56,7 +59,9 @@ DokuRecord leseDokuRecord(const Recordset& zeile, const DokuTyp& typ)
     DokuRecord record;
     record.DokuArt = typ.dokuArt;
     leseTexte(zeile, record);
-    record.Status = static_cast<int>(alsGanzzahl(zeile.Feld("Status")));
+    using Limits = std::numeric_limits<int>; // A number beyond them is no status either.
+    record.Status =
+        static_cast<int>(std::clamp<std::int64_t>(alsGanzzahl(zeile.Feld("Status")), Limits::min(), Limits::max()));
     record.Erstellt = alsDatum(zeile.Feld("Erstellt"));
     record.Geaendert = alsDatum(zeile.Feld("Geaendert"));
     leseMerkmale(zeile, record);

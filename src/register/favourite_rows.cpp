@@ -1,13 +1,12 @@
 #include "register/favourite_rows.h"
 
 #include "base/collation.h"
-#include "base/text.h"
 #include "database/document_types.h"
+#include "database/sql/conditions.h"
 #include "session/ini_reader/ini_rows.h"
 #include "session/session_state.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 #include <map>
 #include <utility>
 
@@ -15,18 +14,6 @@ namespace quelvarn {
 namespace {
 
 constexpr std::string_view GRUPPE = "Favoriten"; // Feld2
-constexpr std::size_t NAMEN_JE_FRAGE = 100;      // More would make a statement that some engine refuses.
-
-std::string gleich(std::string_view feld, std::string_view wert)
-{
-    return FeldGleichWert(feld, replaceAll(wert, "'", "''"));
-}
-
-std::string auswahl(const SessionState& session, const DokuTyp& typ)
-{
-    return fmt::format("SELECT * FROM Ini WHERE {} AND {} AND {}", gleich("Feld1", session.Anwender),
-                       gleich("Feld2", GRUPPE), gleich("Feld3", typ.schluessel));
-}
 
 // Feld5 is compared by whom it concerns: some engines keep an empty text as Null.
 Favorit favoritVon(const Recordset& zeile)
@@ -41,15 +28,11 @@ Schluessel schluessel(std::string_view DokuBez, std::string_view RevBez)
 }
 
 using Dateinamen = std::map<Schluessel, std::string>;
-void leseDateien(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten, Dateinamen& dateien)
+void leseDateien(Connection& verbindung, const DokuTyp& typ, sql::AusdruckZeiger einige, Dateinamen& dateien)
 {
-    std::vector<std::string> bedingungen;
-    for (const Favorit& favorit : favoriten)
-        bedingungen.push_back(gleich("DokuBez", favorit.DokuBez));
     Recordset zeilen;
-    zeilen.Open(
-        fmt::format("SELECT DokuBez, RevBez, filename FROM {} WHERE {}", typ.tabelle, join(bedingungen, " OR ")),
-        verbindung);
+    zeilen.Open(sql::Query(typ.tabelle).columns({"DokuBez", "RevBez", "filename"}).where(std::move(einige)),
+                verbindung);
     for (; !zeilen.Eof(); zeilen.MoveNext())
         dateien.try_emplace(schluessel(zeilen.Text("DokuBez"), zeilen.Text("RevBez")), zeilen.Text("filename"));
 }
@@ -65,8 +48,11 @@ std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
 {
     IniZeilen ini(session.Verbindung);
     std::vector<Favorit> favoriten;
-    for (Recordset zeilen = ini.lese(auswahl(session, typ) + " ORDER BY Feld4, Feld5"); !zeilen.Eof();
-         zeilen.MoveNext())
+    for (Recordset zeilen = ini.lese(sql::Query("Ini")
+                                         .where(iniRows(session.Anwender, GRUPPE, typ.schluessel))
+                                         .sortedBy("Feld4")
+                                         .sortedBy("Feld5"));
+         !zeilen.Eof(); zeilen.MoveNext())
         favoriten.push_back(favoritVon(zeilen));
     favoriten.erase(std::unique(favoriten.begin(), favoriten.end(), derselbe), favoriten.end());
     return favoriten;
@@ -75,8 +61,9 @@ std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
 void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit)
 {
     IniZeilen ini(session.Verbindung);
-    for (Recordset zeilen = ini.lese(auswahl(session, typ) + " AND " + gleich("Feld4", favorit.DokuBez)); !zeilen.Eof();
-         zeilen.MoveNext())
+    for (Recordset zeilen = ini.lese(sql::Query("Ini").where(
+             sql::all(iniRows(session.Anwender, GRUPPE, typ.schluessel), sql::equal("Feld4", favorit.DokuBez))));
+         !zeilen.Eof(); zeilen.MoveNext())
         if (derselbe(favoritVon(zeilen), favorit))
             return;
     ini.fuegeAn({session.Anwender, GRUPPE, typ.schluessel, favorit.DokuBez, favorit.RevBez});
@@ -91,7 +78,7 @@ void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const
     std::ranges::sort(gemeint);
 
     IniZeilen ini(session.Verbindung);
-    Recordset zeilen = ini.lese(auswahl(session, typ));
+    Recordset zeilen = ini.zeilen(session.Anwender, GRUPPE, typ.schluessel);
     Transaktion transaktion(session.Verbindung);
     while (!zeilen.Eof()) {
         const Favorit favorit = favoritVon(zeilen);
@@ -105,9 +92,12 @@ void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const
 
 std::vector<std::string> dateienVon(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten)
 {
+    std::vector<sql::AusdruckZeiger> gefragte;
+    for (const Favorit& favorit : favoriten)
+        gefragte.push_back(sql::equal("DokuBez", favorit.DokuBez));
     Dateinamen dateien;
-    for (auto rest = favoriten; !rest.empty(); rest = rest.subspan(std::min(NAMEN_JE_FRAGE, rest.size())))
-        leseDateien(verbindung, typ, rest.first(std::min(NAMEN_JE_FRAGE, rest.size())), dateien);
+    for (sql::AusdruckZeiger& einige : sql::chunks(std::move(gefragte)))
+        leseDateien(verbindung, typ, std::move(einige), dateien);
     std::vector<std::string> namen;
     for (const Favorit& favorit : favoriten)
         namen.push_back(dateien[schluessel(favorit.DokuBez, favorit.RevBez)]);

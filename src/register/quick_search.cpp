@@ -1,5 +1,6 @@
 #include "register/quick_search.h"
 
+#include "database/sql/conditions.h"
 #include "platform/fortschritt.h"
 #include "platform/meldungen.h"
 #include "register/document_page.h"
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <fmt/format.h>
 
 namespace quelvarn {
 
@@ -19,8 +21,8 @@ bool SuchenImRecordset(Recordset& zeilen, std::string_view text, std::string_vie
         meldungen.warnung("Suchverfahren", "Falsches Suchverfahren!");
         return false;
     }
-    std::string kriterium(feld);
-    kriterium.append(" LIKE '").append(art == TextBeliebig ? "%" : "").append(text).append("%'");
+    const std::string pattern = fmt::format("{}{}%", art == TextBeliebig ? "%" : "", text);
+    const std::string kriterium = fmt::format("{} LIKE {}", feld, sql::quoted(pattern));
     const bool oben = beginn == Suchbeginn::Oben;
     return zeilen.Find(kriterium, oben ? 0 : 1, Suchrichtung::Vorwaerts, oben);
 }

@@ -3,10 +3,10 @@
 #include "base/collation.h"
 #include "base/windows_path.h"
 #include "database/connection.h"
+#include "database/sql/conditions.h"
 #include "platform/dateien.h"
 #include "register/document_record.h"
 
-#include <algorithm>
 #include <set>
 #include <utility>
 #include <vector>
@@ -14,46 +14,15 @@
 namespace quelvarn {
 namespace {
 
-struct Gleich
-{
-    std::string_view spalte;
-    std::string_view wert;
-};
-
-sql::AusdruckZeiger bedingung(const Gleich& gleich)
-{
-    return std::make_unique<sql::Ausdruck>(
-        sql::Ausdruck{sql::Bedingung{std::string(gleich.spalte), sql::Vergleich::Gleich, std::string(gleich.wert)}});
-}
-
-// Trees instead of statement texts: a value with an apostrophe stays a value.
-sql::Select auswahl(std::string_view tabelle, std::string_view spalte, std::initializer_list<Gleich> alle)
-{
-    sql::Select select;
-    select.tabelle = tabelle;
-    select.spalten = {std::string(spalte)};
-    sql::Und und;
-    for (const Gleich& gleich : alle)
-        und.teile.push_back(bedingung(gleich));
-    select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(und)});
-    return select;
-}
-
 std::unique_ptr<Zeilenleser> lese(Connection& verbindung, const sql::Select& select, std::size_t grenze = 0)
 {
     return verbindung.engine().lese(select, MitSchluessel::Nein, grenze);
 }
 
-bool gibtEs(Connection& verbindung, std::string_view tabelle, std::string_view spalte,
-            std::initializer_list<Gleich> alle)
-{
-    return lese(verbindung, auswahl(tabelle, spalte, alle), 1)->next();
-}
-
 // A document without a path is used nowhere.
 bool gibtEsZumPfad(Connection& verbindung, std::string_view tabelle, std::string_view spalte, std::string_view pfad)
 {
-    return !pfad.empty() && gibtEs(verbindung, tabelle, spalte, {{spalte, pfad}});
+    return !pfad.empty() && rowExists(verbindung, tabelle, spalte, sql::equal(spalte, pfad));
 }
 
 std::vector<std::string> leseSpalte(Connection& verbindung, const sql::Select& select)
@@ -72,14 +41,18 @@ std::string vorhandene(const Dateien& dateien, std::string pfad)
 
 } // namespace
 
+bool rowExists(Connection& verbindung, std::string_view tabelle, std::string_view spalte, sql::AusdruckZeiger condition)
+{
+    return lese(verbindung, sql::Query(tabelle).columns({spalte}).where(std::move(condition)), 1)->next();
+}
+
 Revisionsstand revisionsstand(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez)
 {
     if (DokuBez.empty())
         return {};
-    sql::Select select = auswahl(tabelle, "RevBez", {{"DokuBez", DokuBez}});
-    select.distinct = true;
-    select.orderBy = {{"RevBez", false}};
-    const std::vector<std::string> revisionen = leseSpalte(verbindung, select);
+    const std::vector<std::string> revisionen = leseSpalte(
+        verbindung,
+        sql::Query(tabelle).columns({"RevBez"}).distinct().where(sql::equal("DokuBez", DokuBez)).sortedBy("RevBez"));
     if (revisionen.empty())
         return {};
     return {!equalText(revisionen.front(), revisionen.back()), revisionen.back()};
@@ -97,7 +70,8 @@ std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Date
         return {};
     const std::string stamm(Dateiname.substr(0, Dateiname.rfind('.')));
     for (const std::string& name : {mitEndung(Dateiname, "tif"), stamm + ".tif"}) {
-        const auto zeile = lese(verbindung, auswahl("TIFFTabelle", "filename", {{"Dateiname", name}}), 1);
+        const auto zeile =
+            lese(verbindung, sql::Query("TIFFTabelle").columns({"filename"}).where(sql::equal("Dateiname", name)), 1);
         if (zeile->next())
             return std::string(zeile->text(0));
     }
@@ -117,17 +91,12 @@ std::string findPdf(const Dateien& dateien, const DokuRecord& record)
 
 std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::string>& namen)
 {
-    constexpr std::size_t JE_ABFRAGE = 100; // A longer condition is more than some engines take.
+    std::vector<sql::AusdruckZeiger> gefragte;
+    for (const std::string& name : namen)
+        gefragte.push_back(sql::equal("Kennung", name));
     std::set<std::string> gefunden;
-    for (std::size_t i = 0; i < namen.size(); i += JE_ABFRAGE) {
-        sql::Oder oder;
-        for (std::size_t k = i; k < std::min(namen.size(), i + JE_ABFRAGE); ++k)
-            oder.teile.push_back(bedingung({"Kennung", namen[k]}));
-        sql::Select select;
-        select.distinct = true;
-        select.tabelle = "Adresstabelle";
-        select.spalten = {"Kennung"};
-        select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(oder)});
+    for (sql::AusdruckZeiger& einige : sql::chunks(std::move(gefragte))) {
+        const sql::Select select = sql::Query("Adresstabelle").columns({"Kennung"}).distinct().where(std::move(einige));
         for (const std::string& kennung : leseSpalte(verbindung, select))
             gefunden.insert(sortKey(kennung));
     }
@@ -136,9 +105,11 @@ std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::s
 
 Benutzerzeilen benutzerzeilen(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
 {
-    sql::Select select = auswahl(tabelleBenutzDef, "Name", {{"DokuBez", record.DokuBez}, {"RevBez", record.RevBez}});
-    select.distinct = true;
-    const std::vector<std::string> namen = leseSpalte(verbindung, select);
+    const std::vector<std::string> namen = leseSpalte(
+        verbindung, sql::Query(tabelleBenutzDef)
+                        .columns({"Name"})
+                        .distinct()
+                        .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez))));
     const std::set<std::string> bekannt = kennungen(verbindung, namen);
     Benutzerzeilen ergebnis;
     for (const std::string& name : namen)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/sql/ast.h"
+
 #include <set>
 #include <string>
 #include <string_view>
@@ -14,6 +16,10 @@ struct DokuRecord;
 // What the database knows about the relations of a document. Each question reads as few rows as its answer needs,
 // by an index, so that the tree of a part that stands in thousands of assemblies is built as fast as any other.
 // Paths are those after UniversalNachLaufwerk. A fault throws Laufzeitfehler.
+
+// Reads one row at most, and one column of it: one that the index of the condition holds.
+bool rowExists(Connection& verbindung, std::string_view tabelle, std::string_view spalte,
+               sql::AusdruckZeiger condition);
 
 struct Revisionsstand
 {

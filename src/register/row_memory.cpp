@@ -1,7 +1,7 @@
 #include "register/row_memory.h"
 
 #include "base/collation.h"
-#include "base/text.h"
+#include "database/sql/conditions.h"
 #include "register/table_page.h"
 
 #include <algorithm>
@@ -20,7 +20,7 @@ struct Fundstelle
 std::optional<Fundstelle> findeDokument(Recordset& tabelle, const Merkzeile& zeile)
 {
     std::optional<Fundstelle> zweitbeste;
-    tabelle.Find("DokuBez = '" + replaceAll(zeile.DokuBez, "'", "''") + "'", 0, Suchrichtung::Vorwaerts, true);
+    tabelle.Find("DokuBez = " + sql::quoted(zeile.DokuBez), 0, Suchrichtung::Vorwaerts, true);
     for (; !tabelle.Eof() && equalText(tabelle.Text("DokuBez"), zeile.DokuBez); tabelle.MoveNext()) {
         if (!equalText(tabelle.Text("RevBez"), zeile.RevBez))
             continue;

@@ -1,7 +1,6 @@
+#include "database/sql/conditions.h"
 #include "platform/uhr.h"
 #include "register/document_page.h"
-
-#include <fmt/format.h>
 
 namespace quelvarn {
 namespace {
@@ -11,7 +10,7 @@ Recordset OpenDokuTabelle(const DokuTyp& typ, SessionState& session)
 {
     const std::string_view bereich = typ.statusbereich ? std::string_view(session.WhereStatus) : std::string_view();
     Recordset tabelle;
-    tabelle.Open(fmt::format("Select * From {}{} ORDER BY DokuBez, RevBez DESC", typ.tabelle, bereich),
+    tabelle.Open(sql::Query(typ.tabelle).where(sql::statusScope(bereich)).sortedBy("DokuBez").sortedDownBy("RevBez"),
                  session.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
     if (!tabelle.leer())
         tabelle.MoveFirst();

@@ -139,7 +139,7 @@ void Verwendungsseite::zeileGewaehlt(std::size_t position)
 bool Verwendungsseite::liegtImStatusbereich() const
 {
     return !dokument_.typ || dokument_.SondertabelleNr != 0 ||
-           istSichtbar(session_.Verbindung, *dokument_.typ, filename_, session_.AndStatus);
+           istSichtbar(session_.Verbindung, *dokument_.typ, filename_, session_.WhereStatus);
 }
 
 // Tells that a component lies outside the statuses of the user, and lets him see it all the same.

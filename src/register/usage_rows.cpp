@@ -4,43 +4,23 @@
 #include "base/windows_path.h"
 #include "database/connection.h"
 #include "database/document_types.h"
-#include "database/sql/parser.h"
+#include "database/sql/conditions.h"
 #include "register/document_record.h"
+#include "register/relations.h"
 #include "register/usage_kinds.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 #include <utility>
 
 namespace quelvarn {
 namespace {
 
-std::string inHochkommas(std::string_view wert)
-{
-    return "'" + replaceAll(wert, "'", "''") + "'";
-}
-
-std::string gleich(std::string_view spalte, std::string_view wert)
-{
-    return fmt::format("{} = {}", spalte, inHochkommas(wert));
-}
-
-// Reads one row at most.
-bool gibtEs(Connection& verbindung, std::string_view tabelle, std::string_view spalte, const std::string& bedingung)
-{
-    sql::Select select;
-    select.tabelle = tabelle;
-    select.spalten = {std::string(spalte)};
-    select.where = sql::parseBedingung(bedingung, sql::Datumsfolge::MonatZuerst);
-    return verbindung.engine().lese(select, MitSchluessel::Nein, 1)->next();
-}
-
-// A document without a path is used nowhere.
-std::string bedingung(const Verbindungstabelle& tabelle, const DokuRecord& record, std::string_view pfad)
+// A document without a path is used nowhere: null.
+sql::AusdruckZeiger bedingung(const Verbindungstabelle& tabelle, const DokuRecord& record, std::string_view pfad)
 {
     if (!tabelle.pfad.empty())
-        return pfad.empty() ? std::string() : gleich(tabelle.pfad, pfad);
-    return gleich(tabelle.DokuBez, record.DokuBez) + " AND " + gleich(tabelle.RevBez, record.RevBez);
+        return pfad.empty() ? nullptr : sql::equal(tabelle.pfad, pfad);
+    return sql::all(sql::equal(tabelle.DokuBez, record.DokuBez), sql::equal(tabelle.RevBez, record.RevBez));
 }
 
 bool istTeil(int dokuArt)
@@ -54,13 +34,17 @@ const Verbindungstabelle& quelle(const Verwendungsart& art, const DokuRecord& re
     return art.tabellen[zweite ? 1 : 0];
 }
 
-Recordset oeffne(Connection& verbindung, const Verbindungstabelle& tabelle, const std::string& bedingung)
+Recordset oeffne(Connection& verbindung, const Verbindungstabelle& tabelle, sql::AusdruckZeiger bedingung)
 {
     Recordset zeilen;
-    if (!bedingung.empty())
-        zeilen.Open(fmt::format("SELECT DISTINCT {0} FROM {1} WHERE {2} ORDER BY {0}", tabelle.spalten, tabelle.tabelle,
-                                bedingung),
-                    verbindung);
+    if (!bedingung)
+        return zeilen;
+    sql::Select select = sql::Query(tabelle.tabelle).distinct().where(std::move(bedingung));
+    for (const std::string& spalte : split(tabelle.spalten, ',')) {
+        select.spalten.emplace_back(trim(spalte));
+        select.orderBy.push_back({select.spalten.back(), false});
+    }
+    zeilen.Open(std::move(select), verbindung);
     return zeilen;
 }
 
@@ -87,10 +71,10 @@ Recordset vereinigt(Connection& verbindung, const Verwendungsart& art, const Dok
     return alle;
 }
 
-bool lese(Connection& verbindung, const DokuTyp& typ, const std::string& bedingung, AllgemeineSeite& details)
+bool lese(Connection& verbindung, const DokuTyp& typ, sql::AusdruckZeiger bedingung, AllgemeineSeite& details)
 {
     Recordset zeile;
-    zeile.Open(fmt::format("SELECT * FROM {} WHERE {}", typ.tabelle, bedingung), verbindung);
+    zeile.Open(sql::Query(typ.tabelle).where(std::move(bedingung)), verbindung);
     if (zeile.leer())
         return false;
     details = allgemeineSeite(leseDokuRecord(zeile, typ), typ, false, true);
@@ -108,9 +92,9 @@ bool gibtEsVerwendung(Connection& verbindung, const Verwendungsart& art, const D
                       std::string_view pfad)
 {
     const Verbindungstabelle& tabelle = quelle(art, record);
-    const std::string wo = bedingung(tabelle, record, pfad);
-    return !wo.empty() &&
-           gibtEs(verbindung, tabelle.tabelle, tabelle.pfad.empty() ? tabelle.DokuBez : tabelle.pfad, wo);
+    sql::AusdruckZeiger wo = bedingung(tabelle, record, pfad);
+    return wo &&
+           rowExists(verbindung, tabelle.tabelle, tabelle.pfad.empty() ? tabelle.DokuBez : tabelle.pfad, std::move(wo));
 }
 
 Recordset verwendungszeilen(Connection& verbindung, const Verwendungsart& art, const DokuRecord& record,
@@ -128,19 +112,18 @@ Verwendungsdokument dokumentZu(Connection& verbindung, const Verwendungsart& art
     if (!art.bestandteile()) {
         dokument.typ = &typVon(art.zieltyp);
         lese(verbindung, *dokument.typ,
-             gleich("DokuBez", zeile.Text(art.felder.DokuBez)) + " AND " +
-                 gleich("RevBez", zeile.Text(art.felder.RevBez)),
+             sql::all(sql::equal("DokuBez", zeile.Text(art.felder.DokuBez)),
+                      sql::equal("RevBez", zeile.Text(art.felder.RevBez))),
              dokument.details);
         return dokument;
     }
     const std::string filename = zeile.Text(art.felder.filename);
-    const std::string bedingung = gleich("filename", filename);
     dokument.typ = findTypZurDatei(filename);
     const DokuTyp& erste = dokument.typ ? *dokument.typ : typVon("Draft");
-    if (lese(verbindung, erste, bedingung, dokument.details))
+    if (lese(verbindung, erste, sql::equal("filename", filename), dokument.details))
         return dokument;
     for (const DokuTyp& typ : DOKUTYPEN) {
-        if (typ.sondertabelle == 0 || !lese(verbindung, typ, bedingung, dokument.details))
+        if (typ.sondertabelle == 0 || !lese(verbindung, typ, sql::equal("filename", filename), dokument.details))
             continue;
         dokument.typ = &typ;
         dokument.SondertabelleNr = typ.sondertabelle;
@@ -151,11 +134,9 @@ Verwendungsdokument dokumentZu(Connection& verbindung, const Verwendungsart& art
 
 std::optional<Dokumentname> findDokument(Connection& verbindung, const DokuTyp& typ, std::string_view filename)
 {
-    sql::Select select;
-    select.tabelle = typ.tabelle;
-    select.spalten = {"DokuBez", "RevBez"};
-    select.where = sql::parseBedingung(gleich("filename", filename));
-    const auto zeile = verbindung.engine().lese(select, MitSchluessel::Nein, 1);
+    const auto zeile = verbindung.engine().lese(
+        sql::Query(typ.tabelle).columns({"DokuBez", "RevBez"}).where(sql::equal("filename", filename)),
+        MitSchluessel::Nein, 1);
     if (!zeile->next())
         return std::nullopt;
     return Dokumentname{std::string(zeile->text(0)), std::string(zeile->text(1))};
@@ -168,10 +149,10 @@ const DokuTyp* findTypZurDatei(std::string_view filename)
     return code == 0 || typ == DOKUTYPEN.end() ? nullptr : &*typ;
 }
 
-bool istSichtbar(Connection& verbindung, const DokuTyp& typ, std::string_view filename, std::string_view AndStatus)
+bool istSichtbar(Connection& verbindung, const DokuTyp& typ, std::string_view filename, std::string_view WhereStatus)
 {
-    return AndStatus.empty() ||
-           gibtEs(verbindung, typ.tabelle, "filename", gleich("filename", filename) + std::string(AndStatus));
+    return WhereStatus.empty() || rowExists(verbindung, typ.tabelle, "filename",
+                                            sql::all(sql::equal("filename", filename), sql::statusScope(WhereStatus)));
 }
 
 } // namespace quelvarn

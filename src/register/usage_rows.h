@@ -40,7 +40,7 @@ std::optional<Dokumentname> findDokument(Connection& verbindung, const DokuTyp& 
 
 // The type by the ending of the file; nullptr when it is none of the five.
 const DokuTyp* findTypZurDatei(std::string_view filename);
-// Whether the document lies within the statuses of a user (`AndStatus`).
-bool istSichtbar(Connection& verbindung, const DokuTyp& typ, std::string_view filename, std::string_view AndStatus);
+// Whether the document lies within the statuses of a user (`WhereStatus`).
+bool istSichtbar(Connection& verbindung, const DokuTyp& typ, std::string_view filename, std::string_view WhereStatus);
 
 } // namespace quelvarn

@@ -1,7 +1,7 @@
 #include "base/collation.h"
-#include "base/text.h"
 #include "base/windows_path.h"
 #include "database/connection.h"
+#include "database/sql/conditions.h"
 #include "register/detail_lists.h"
 #include "register/document_record.h"
 #include "register/relations.h"
@@ -23,8 +23,10 @@ std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabell
                                  bool versendet)
 {
     Recordset zeilen;
-    zeilen.Open(fmt::format("SELECT DISTINCT Name, Wert FROM {} WHERE DokuBez = '{}' AND RevBez = '{}'", tabelle,
-                            replaceAll(record.DokuBez, "'", "''"), replaceAll(record.RevBez, "'", "''")),
+    zeilen.Open(sql::Query(tabelle)
+                    .columns({"Name", "Wert"})
+                    .distinct()
+                    .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez))),
                 verbindung);
     std::vector<Wertpaar> alle;
     std::vector<std::string> namen;

@@ -1,6 +1,7 @@
 #include "base/text.h"
 #include "database/connection.h"
 #include "database/faults.h"
+#include "database/sql/conditions.h"
 #include "platform/dateien.h"
 #include "platform/meldungen.h"
 #include "session/error_report.h"
@@ -89,8 +90,7 @@ std::optional<Recordset> findBerechtigung(SessionState& session)
 {
     try {
         Recordset zeilen;
-        zeilen.Open("SELECT DISTINCT * FROM Ini WHERE Feld1 = '" + session.Anwender + "' AND Feld2 = 'Berechtigung'",
-                    session.Verbindung);
+        zeilen.Open(sql::Query("Ini").distinct().where(iniRows(session.Anwender, "Berechtigung")), session.Verbindung);
         return zeilen;
     } catch (const DatabaseFault& fehler) {
         if (fehler.kind() != FaultKind::Other) // It tells nothing of what lies there.

@@ -58,8 +58,7 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
 void schreibeStartseite(SessionState& session)
 {
     IniZeilen ini(session.Verbindung);
-    Recordset aktiv = ini.lese("SELECT * FROM Ini WHERE Feld1 = '" + session.Anwender +
-                               "' AND Feld2 = 'ActiveQuelvarn' AND (Feld3 = '0' Or Feld3 = '1')");
+    Recordset aktiv = ini.activeQuelvarn(session.Anwender);
     if (!aktiv.leer())
         ini.aendere(aktiv, "Feld3", session.ActiveQuelvarn ? "1" : "0");
 

@@ -4,11 +4,13 @@
 #include "database/connection.h"
 #include "database/document_types.h"
 #include "database/engine.h"
+#include "database/sql/conditions.h"
 #include "tools/befehle.h"
 
 #include <algorithm>
 #include <array>
 #include <fmt/format.h>
+#include <limits>
 #include <map>
 
 namespace quelvarn::tools {
@@ -48,24 +50,21 @@ std::string schluessel(int status)
     return fmt::format("{}_Status", status);
 }
 
-// Column = text, for a tree: names hold apostrophes.
-sql::AusdruckZeiger gleich(std::string_view spalte, std::string_view text)
-{
-    return std::make_unique<sql::Ausdruck>(
-        sql::Ausdruck{sql::Bedingung{std::string(spalte), sql::Vergleich::Gleich, std::string(text)}});
-}
-
 sql::AusdruckZeiger rechtezeilen()
 {
-    return gleich("Feld2", GRUPPE);
+    return sql::equal("Feld2", GRUPPE);
 }
 
 sql::AusdruckZeiger rechtezeilen(std::string_view anwender)
 {
-    sql::Und und;
-    und.teile.push_back(gleich("Feld1", anwender));
-    und.teile.push_back(rechtezeilen());
-    return std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(und)});
+    return sql::all(sql::equal("Feld1", anwender), rechtezeilen());
+}
+
+// As the program reads it: what is no number of 16 bits counts as 0.
+std::int64_t number(const Value& wert)
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    return wholeNumber(wert, Limits::min(), Limits::max()).value_or(0);
 }
 
 void uebernimm(const Zeilenleser& zeile, Rechte& rechte)
@@ -74,18 +73,15 @@ void uebernimm(const Zeilenleser& zeile, Rechte& rechte)
     for (int status = 0; status < ANZAHL_STATUS; ++status) {
         if (stelle != toLower(schluessel(status)))
             continue;
-        rechte.sichtbar[status] = alsGanzzahl(zeile.wert(2));
-        rechte.loeschrecht[status] = alsGanzzahl(zeile.wert(3));
+        rechte.sichtbar[status] = number(zeile.wert(2));
+        rechte.loeschrecht[status] = number(zeile.wert(3));
     }
 }
 
 // Users in the order of their names, with the spelling of their first row.
 std::map<std::string, std::pair<std::string, Rechte>> liesRechte(Engine& engine)
 {
-    sql::Select select;
-    select.spalten = {"Feld1", "Feld3", "Feld4", "Feld5"};
-    select.tabelle = "Ini";
-    select.where = rechtezeilen();
+    const sql::Select select = sql::Query("Ini").columns({"Feld1", "Feld3", "Feld4", "Feld5"}).where(rechtezeilen());
     std::map<std::string, std::pair<std::string, Rechte>> alle;
     const auto zeilen = engine.lese(select, MitSchluessel::Nein);
     while (zeilen->next()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/sql/conditions.h"
 #include "fakes/test_register.h"
 #include "filter/filter_context.h"
 
@@ -40,9 +41,10 @@ public:
         const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(nummer)];
         GefilterteTabelle& tabelle = tabellen_[static_cast<std::size_t>(nummer)];
         tabelle.tabelle.setzeGanzGrenze(ganzGrenze);
-        tabelle.tabelle.Open("Select * From " + std::string(typ.tabelle) +
-                                 (typ.statusbereich ? session_.WhereStatus : std::string()) +
-                                 " ORDER BY DokuBez, RevBez DESC",
+        tabelle.tabelle.Open(sql::Query(typ.tabelle)
+                                 .where(sql::statusScope(typ.statusbereich ? session_.WhereStatus : ""))
+                                 .sortedBy("DokuBez")
+                                 .sortedDownBy("RevBez"),
                              session_.Verbindung);
         tabelle.anzahl = tabelle.tabelle.RecordCount();
         tabelle.zustand = tabelle.anzahl > 0 ? Offen : Leer;

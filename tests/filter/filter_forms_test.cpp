@@ -109,9 +109,9 @@ protected:
     std::string dokumenteDerAbfrage(const std::string& bedingung)
     {
         Recordset gefragt;
-        gefragt.Open(replaceAll("SELECT DokuBez FROM PartTabelle WHERE DokuBez NOT LIKE '' And " + bedingung +
-                                    " ORDER BY DokuBez",
-                                "*", "%"),
+        gefragt.Open(select(replaceAll("SELECT DokuBez FROM PartTabelle WHERE DokuBez NOT LIKE '' And " + bedingung +
+                                           " ORDER BY DokuBez",
+                                       "*", "%")),
                      verbindung_);
         return namen(gefragt);
     }

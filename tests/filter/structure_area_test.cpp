@@ -243,14 +243,18 @@ TEST_F(Strukturmerkmale, TheMostExactTemplateIsFoundFirst)
     vorlage("r.dft", {{"Hauptmerkmal_C", "Rohr"}, {"Hauptmerkmal_D", "kurz"}});
     zeile("DraftTabelle", {{"filename", "keine.dft"}, {"Kategorie", "Plan"}, {"Hauptmerkmal_C", "Bob's"}});
 
-    const std::tuple<int, const char*, const char*> faelle[]{
-        {1, "Hauptmerkmal_C = 'Welle'", "c.dft"}, {2, "Hauptmerkmal_C = 'Welle' AND Hauptmerkmal_D = 'lang'", "d.dft"},
-        {1, "Hauptmerkmal_C = 'Rohr'", "r.dft"},  {5, "Hauptmerkmal_C = 'Rohr'", "r.dft"},
-        {1, "Hauptmerkmal_C = 'Bob''s'", ""},     {1, "", ""},
-        {6, "Hauptmerkmal_C = 'Welle'", ""},
+    const std::pair<std::vector<std::string>, const char*> faelle[]{
+        {{"Welle"}, "c.dft"},
+        {{"Welle", "lang"}, "d.dft"},
+        {{"Rohr"}, "r.dft"},
+        {{"Rohr", "kurz"}, "r.dft"},
+        {{"Bob's"}, ""},
+        {{"Welle' OR Hauptmerkmal_C Like '%"}, ""},
+        {{}, ""},
+        {{"Welle", "", "", "", "", ""}, ""},
     };
-    for (const auto& [ebene, bedingung, gefunden] : faelle)
-        EXPECT_EQ(VorlageSuchen(session_.Verbindung, ebene, bedingung), gefunden) << bedingung;
+    for (const auto& [zweig, gefunden] : faelle)
+        EXPECT_EQ(VorlageSuchen(session_.Verbindung, zweig), gefunden) << join(zweig, "/");
 
     bereich_.knotenGewaehlt({"Welle"});
     EXPECT_EQ(bereich_.vorlage(), "c.dft");

@@ -1,4 +1,5 @@
 #include "database/recordset.h"
+#include "fakes/statements.h"
 #include "platform/dateien.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/entries.h"
@@ -99,7 +100,7 @@ void queryGives(World& world, const Step& step)
 {
     auto connection = world.connect();
     Recordset rows;
-    rows.Open(step.word(1), connection);
+    rows.Open(test::query(step.word(1)), connection);
     compareLines(step.word(1), step.text, rowsAsText(rows));
 }
 
@@ -108,7 +109,7 @@ void showsQuery(World& world, const Step& step)
 {
     auto connection = world.connect();
     Recordset rows;
-    rows.Open(step.word(2), connection);
+    rows.Open(test::query(step.word(2)), connection);
     auto shown = linesOf(step.word(1), static_cast<int>(rows.Felder().size()));
     auto wanted = rowsAsText(rows);
     if (step.word(2).find("ORDER BY") == std::string::npos) {
@@ -127,7 +128,7 @@ void countIs(World& world, const Step& step)
 {
     auto connection = world.connect();
     Recordset rows;
-    rows.Open(step.word(1), connection);
+    rows.Open(test::query(step.word(1)), connection);
     compare(step.word(1), step.word(2), std::to_string(rows.RecordCount()));
 }
 

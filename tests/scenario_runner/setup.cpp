@@ -1,5 +1,6 @@
 #include "base/windows_path.h"
 #include "database/postgres_cluster.h"
+#include "fakes/statements.h"
 #include "platform/dateien.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/steps.h"
@@ -111,7 +112,7 @@ void addSetupVerbs(Verbs& verbs)
     verbs["last-database"] = lastDatabase;
     verbs["file"] = makeFile;
     verbs["remove"] = [](World& world, const Step& step) { world.files().loesche(step.word(1)); };
-    verbs["sql"] = [](World& world, const Step& step) { world.connect().Execute(step.word(1)); };
+    verbs["sql"] = [](World& world, const Step& step) { world.connect().Execute(test::statement(step.word(1))); };
     verbs["printer"] = [](World& world, const Step& step) {
         world.setPrinter(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), std::stoi(step.word(4)));
     };

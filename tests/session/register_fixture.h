@@ -5,6 +5,7 @@
 #include "database/create.h"
 #include "database/recordset.h"
 #include "fakes/fake_ports.h"
+#include "fakes/statements.h"
 #include "fakes/temp_folder.h"
 #include "session/program.h"
 #include "session/session_state.h"
@@ -57,13 +58,13 @@ protected:
         }
         zusammen.schliesseAb();
     }
-    void loesche(const std::string& bedingung) { db.Execute("DELETE FROM Ini WHERE " + bedingung); }
+    void loesche(const std::string& bedingung) { db.Execute(test::statement("DELETE FROM Ini WHERE " + bedingung)); }
 
     // Sorted: rows come in no order of their own.
     std::vector<std::string> iniZeilen(const std::string& bedingung)
     {
         Recordset zeilen;
-        zeilen.Open("SELECT * FROM Ini WHERE " + bedingung, db);
+        zeilen.Open(test::query("SELECT * FROM Ini WHERE " + bedingung), db);
         std::vector<std::string> texte;
         for (; !zeilen.Eof(); zeilen.MoveNext()) {
             std::vector<std::string> felder;

@@ -6,6 +6,7 @@
 #include "database/engine_fixture.h"
 #include "database/recordset.h"
 #include "fakes/sha256.h"
+#include "fakes/statements.h"
 #include "tools/aufruf.h"
 
 #include <cstdlib>
@@ -220,7 +221,7 @@ TEST_P(WerkA, FiltersARecordsetLikeTheSource)
         const std::string sql = frage["sql"];
         const auto ab = sql.find(" FROM ");
         Recordset rs;
-        rs.Open("Select *" + sql.substr(ab, sql.find(" WHERE ") - ab), verbindung);
+        rs.Open(query("Select *" + sql.substr(ab, sql.find(" WHERE ") - ab)), verbindung);
         rs.Filter(frage["recordset_filter"].get<std::string>());
         EXPECT_EQ(rs.RecordCount(), frage["result"]["count"]) << frage["id"];
         std::vector<json> ist;

@@ -15,9 +15,10 @@ namespace quelvarn::odbc {
 namespace {
 
 constexpr std::array<Datenbankart, 3> arten{{
-    {"ACCESS", "Access", sql::accessDialekt, true, false, false},
-    {"SQLite", "OdbcSQLite", sql::sqliteOdbcDialekt, true, true, true},
-    {"PostgreSQL", "OdbcPostgreSQL", sql::postgresOdbcDialekt, false, true, true},
+    {"ACCESS", "Access", sql::accessDialekt, true, false, "", false},
+    {"SQLite", "OdbcSQLite", sql::sqliteOdbcDialekt, true, true, "UPDATE {0} SET {1} = {1} WHERE 1 = 0", true},
+    {"PostgreSQL", "OdbcPostgreSQL", sql::postgresOdbcDialekt, false, true,
+     "LOCK TABLE {0} IN SHARE ROW EXCLUSIVE MODE", true},
 }};
 
 std::string_view deklaration(const Datenbankart& art, FeldTyp typ)

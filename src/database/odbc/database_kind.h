@@ -17,7 +17,10 @@ struct Datenbankart
     const sql::Dialekt& (*dialekt)();
     bool distinctBlind;    // Its DISTINCT is that of the program.
     bool sicherungspunkte; // Knows SAVEPOINT.
-    bool legtTabellenAn;   // The tables of an Access file belong to the program that fills it.
+    // Takes the write lock of table {0} without a change, {1} being one of its columns; "" where there is no such
+    // means.
+    std::string_view writeLock;
+    bool legtTabellenAn; // The tables of an Access file belong to the program that fills it.
 };
 
 // By the driver's name of the database; Access for every name unknown.

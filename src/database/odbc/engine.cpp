@@ -350,6 +350,15 @@ std::unique_ptr<Engine::Massenschreiber> OdbcEngine::massenschreiber(std::string
     return std::make_unique<odbc::Massenschreiber>(*this, schema.name, spaltenOf(schema, spalten));
 }
 
+void OdbcEngine::lockForWriting(std::string_view tabelle)
+{
+    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+    if (!art_->writeLock.empty())
+        Anweisung::fuehreAus(verbindung_,
+                             fmt::format(fmt::runtime(art_->writeLock), sql::Dialekt::bezeichner(schema.name),
+                                         sql::Dialekt::bezeichner(schema.spalten.front().name)));
+}
+
 void OdbcEngine::beginne()
 {
     if (marken_.empty())

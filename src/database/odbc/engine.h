@@ -50,6 +50,7 @@ public:
                                                              std::span<const Spalte> spalten) override;
 
     // Without savepoints an inner transaction that is taken back takes the outer one with it.
+    void lockForWriting(std::string_view tabelle) override;
     void beginne() override;
     void schliesseAb() override;
     void nimmZurueck() override;

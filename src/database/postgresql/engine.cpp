@@ -230,6 +230,13 @@ std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::st
     return std::make_unique<postgresql::Massenschreiber>(*this, handle_, schema.name, spaltenOf(schema, spalten));
 }
 
+// Writers who do not look first go on meanwhile; a lock of the table would stop them, and the server's own cleaning.
+void PostgresEngine::lockForWriting(std::string_view tabelle)
+{
+    const Value name = sql::Dialekt::bezeichner(katalog_.tabelleOf(tabelle, this->name()).name);
+    handle_->fuehreAus("SELECT pg_advisory_xact_lock($1::regclass::oid::bigint)", {&name, 1});
+}
+
 void PostgresEngine::beginne()
 {
     handle_->beginne();

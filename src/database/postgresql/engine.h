@@ -43,6 +43,7 @@ public:
     std::unique_ptr<Engine::Massenschreiber> massenschreiber(std::string_view tabelle,
                                                              std::span<const Spalte> spalten) override;
 
+    void lockForWriting(std::string_view tabelle) override;
     void beginne() override;
     void schliesseAb() override;
     void nimmZurueck() override;

@@ -1,9 +1,12 @@
 #include "session/ini_reader/ini_rows.h"
 
 #include "base/runtime_error.h"
+#include "database/sql/conditions.h"
 
 #include <array>
 #include <fmt/format.h>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace quelvarn {
@@ -12,41 +15,46 @@ namespace {
 
 constexpr std::array<std::string_view, 5> FELDER{"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"};
 
-std::string auswahl(std::string_view spalten, std::string_view eigentuemer, std::string_view gruppe,
-                    std::string_view schluessel)
-{
-    std::string sql =
-        fmt::format("SELECT {} FROM Ini WHERE Feld1 = '{}' AND Feld2 = '{}'", spalten, eigentuemer, gruppe);
-    if (!schluessel.empty())
-        sql += fmt::format(" AND Feld3 = '{}'", schluessel);
-    return sql;
-}
-
 } // namespace
 
-Recordset IniZeilen::lese(std::string_view sql)
+sql::AusdruckZeiger iniRows(std::string_view owner, std::string_view group, std::string_view key)
+{
+    return sql::all(sql::equal("Feld1", owner), sql::equal("Feld2", group),
+                    key.empty() ? nullptr : sql::equal("Feld3", key));
+}
+
+Recordset IniZeilen::lese(sql::Select select)
 {
     Recordset zeilen;
-    zeilen.Open(sql, verbindung_, CursorTyp::Statisch, SperrTyp::Optimistisch);
+    zeilen.Open(std::move(select), verbindung_, CursorTyp::Statisch, SperrTyp::Optimistisch);
     return zeilen;
 }
 
 Recordset IniZeilen::zeilen(std::string_view eigentuemer, std::string_view gruppe, std::string_view schluessel)
 {
-    return lese(auswahl("*", eigentuemer, gruppe, schluessel));
+    return lese(sql::Query("Ini").where(iniRows(eigentuemer, gruppe, schluessel)));
 }
 
-Recordset IniZeilen::verschiedene(std::string_view spalten, std::string_view eigentuemer, std::string_view gruppe,
-                                  std::string_view schluessel)
+Recordset IniZeilen::verschiedene(std::initializer_list<std::string_view> spalten, std::string_view eigentuemer,
+                                  std::string_view gruppe, std::string_view schluessel)
 {
     Recordset zeilen;
-    zeilen.Open(auswahl("DISTINCT " + std::string(spalten), eigentuemer, gruppe, schluessel), verbindung_);
+    zeilen.Open(sql::Query("Ini").columns(spalten).distinct().where(iniRows(eigentuemer, gruppe, schluessel)),
+                verbindung_);
     return zeilen;
+}
+
+Recordset IniZeilen::activeQuelvarn(std::string_view user)
+{
+    std::vector<sql::AusdruckZeiger> switches;
+    switches.push_back(sql::equal("Feld3", "0"));
+    switches.push_back(sql::equal("Feld3", "1"));
+    return lese(sql::Query("Ini").where(sql::all(iniRows(user, "ActiveQuelvarn"), sql::any(std::move(switches)))));
 }
 
 Recordset IniZeilen::suchtexte(std::string_view anwender)
 {
-    return lese(auswahl("*", anwender, "Suchen/Filtern", {}) + " ORDER BY Feld3"); // "Text0", "Text1", ...
+    return lese(sql::Query("Ini").where(iniRows(anwender, "Suchen/Filtern")).sortedBy("Feld3")); // "Text0", ...
 }
 
 void IniZeilen::beginne()
@@ -102,10 +110,16 @@ std::string textOderLeer(const Recordset& zeile, std::string_view feld)
     return alsText(zeile.Feld(feld));
 }
 
+std::optional<int> findNumber(const Recordset& zeile, std::string_view feld)
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    const auto zahl = wholeNumber(zeile.Feld(feld), Limits::min(), Limits::max());
+    return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
+}
+
 int zahlOderNull(const Recordset& zeile, std::string_view feld)
 {
-    const Value wert = zeile.Feld(feld);
-    return istNumerisch(wert) ? static_cast<int>(alsGanzzahl(wert)) : 0;
+    return findNumber(zeile, feld).value_or(0);
 }
 
 } // namespace quelvarn

@@ -13,6 +13,9 @@ namespace quelvarn {
 inline constexpr std::string_view EIGENTUEMER_ALLE = "!QV_Ini"; // Feld1 of settings for the whole installation.
 inline constexpr std::string_view KEINE_ANGABE = "Keine Angabe";
 
+// The rows of an owner's group, or of one key in it.
+sql::AusdruckZeiger iniRows(std::string_view owner, std::string_view group, std::string_view key = {});
+
 // The rows of Ini as one step of the start reads and mends them. The first write opens a transaction, which
 // schliesseAb ends; without that call everything written since is taken back.
 class IniZeilen
@@ -23,12 +26,14 @@ public:
     // The rows of an owner's group, or of one key in it; they can be changed.
     Recordset zeilen(std::string_view eigentuemer, std::string_view gruppe, std::string_view schluessel = {});
     // The same rows, these columns of them only, each distinct row once.
-    Recordset verschiedene(std::string_view spalten, std::string_view eigentuemer, std::string_view gruppe,
-                           std::string_view schluessel = {});
+    Recordset verschiedene(std::initializer_list<std::string_view> spalten, std::string_view eigentuemer,
+                           std::string_view gruppe, std::string_view schluessel = {});
+    // The row that holds the switch for events of the CAD program.
+    Recordset activeQuelvarn(std::string_view user);
     // The user's search texts, the oldest first.
     Recordset suchtexte(std::string_view anwender);
     // Any SELECT.
-    Recordset lese(std::string_view sql);
+    Recordset lese(sql::Select select);
 
     // A new row with Feld1, Feld2, ... as far as given; the others stay Null.
     void fuegeAn(std::initializer_list<std::string_view> felder);
@@ -48,7 +53,8 @@ private:
 std::string pflichttext(const Recordset& zeile, std::string_view feld);
 // "" for Null.
 std::string textOderLeer(const Recordset& zeile, std::string_view feld);
-// 0 for what is no number.
+// Numbers of settings are small ones, of 16 bits; others count as no number. Nothing, or 0, for what is none.
+std::optional<int> findNumber(const Recordset& zeile, std::string_view feld);
 int zahlOderNull(const Recordset& zeile, std::string_view feld);
 
 } // namespace quelvarn

@@ -40,7 +40,7 @@ const Namen SONDERTABELLEN{
 // The names of a group of !QV_Ini rows; a key without a row, or with an empty name, keeps its default.
 Namen leseNamen(Startlauf& lauf, std::string_view gruppe, Namen namen)
 {
-    Recordset zeilen = lauf.ini.verschiedene("Feld3, Feld4", EIGENTUEMER_ALLE, gruppe);
+    Recordset zeilen = lauf.ini.verschiedene({"Feld3", "Feld4"}, EIGENTUEMER_ALLE, gruppe);
     if (zeilen.leer()) {
         lauf.ports.meldungen.warnung("Modul: Falscher Eintrag Ini-Tabelle",
                                      fmt::format("Falscher Eintrag bei '{}'in der Ini-Tabelle!\n"

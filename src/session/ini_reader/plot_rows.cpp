@@ -45,7 +45,7 @@ void uebernimmDrucker(SessionState& session, Recordset& zeilen)
 void lesePlotPfad(Startlauf& lauf)
 {
     lauf.session.PlotPfad.clear();
-    Recordset zeilen = lauf.ini.verschiedene("Feld5", EIGENTUEMER_ALLE, "Plot", "Pfadname");
+    Recordset zeilen = lauf.ini.verschiedene({"Feld5"}, EIGENTUEMER_ALLE, "Plot", "Pfadname");
     if (zeilen.leer()) {
         lauf.ports.meldungen.warnung("Modul: Falscher Eintrag Ini-Tabelle",
                                      "Falscher Eintrag bei 'Plot'u. 'Pfadname' in der Ini-Tabelle!");

@@ -99,11 +99,11 @@ std::string Vorgabeleser::papier(const std::string& wert)
 
 int Vorgabeleser::exemplare(const Recordset& zeile)
 {
-    const Value wert = zeile.Feld("Feld4");
+    const std::optional<int> zahl = findNumber(zeile, "Feld4");
     if (!pdf_)
-        return istNumerisch(wert) ? static_cast<int>(alsGanzzahl(wert)) : drucker().exemplare;
-    const std::string text = alsText(wert);
-    return text == "150" || text == "600" ? static_cast<int>(alsGanzzahl(wert)) : PDF_AUFLOESUNG;
+        return zahl ? *zahl : drucker().exemplare;
+    const std::string text = alsText(zeile.Feld("Feld4"));
+    return text == "150" || text == "600" ? *zahl : PDF_AUFLOESUNG;
 }
 
 std::string Vorgabeleser::ausrichtung(const std::string& wert)

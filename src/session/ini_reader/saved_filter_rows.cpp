@@ -1,4 +1,5 @@
 #include "base/collation.h"
+#include "database/sql/conditions.h"
 #include "session/ini_reader/start_run.h"
 
 #include <algorithm>
@@ -23,8 +24,8 @@ void leseGespeicherteFilter(Startlauf& lauf)
     auto& listen = lauf.session.GespeicherteFilter;
     std::generate(listen.begin(), listen.end(), leereFilterliste);
 
-    Recordset zeilen = lauf.ini.lese("SELECT Feld3, Feld4, Feld5 FROM Ini WHERE Feld1 = '" + lauf.session.Anwender +
-                                     "' AND Feld2 = 'Filterwerte'");
+    Recordset zeilen = lauf.ini.lese(
+        sql::Query("Ini").columns({"Feld3", "Feld4", "Feld5"}).where(iniRows(lauf.session.Anwender, "Filterwerte")));
     for (; !zeilen.Eof(); zeilen.MoveNext()) {
         const std::string schluessel = textOderLeer(zeilen, "Feld3");
         const auto typ = std::find_if(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& kandidat) {

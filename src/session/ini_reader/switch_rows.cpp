@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <limits>
 
 namespace quelvarn {
 
@@ -20,7 +21,7 @@ constexpr std::string_view DIESES_PROGRAMM = "Quelvarn";
 // An OnOff row of the installation: on at 1, with a box and off where there is none.
 bool leseSchalter(Startlauf& lauf, std::string_view schluessel, std::string_view pruefung1, std::string_view pruefung2)
 {
-    Recordset zeilen = lauf.ini.verschiedene("Feld4", EIGENTUEMER_ALLE, "OnOff", schluessel);
+    Recordset zeilen = lauf.ini.verschiedene({"Feld4"}, EIGENTUEMER_ALLE, "OnOff", schluessel);
     if (!zeilen.leer())
         return zahlOderNull(zeilen, "Feld4") == 1;
 
@@ -96,8 +97,7 @@ void leseNachricht(Startlauf& lauf)
 void leseActiveQuelvarn(Startlauf& lauf)
 {
     const std::string& anwender = lauf.session.Anwender;
-    Recordset zeilen = lauf.ini.lese("SELECT * FROM Ini WHERE Feld1 = '" + anwender +
-                                     "' AND Feld2 = 'ActiveQuelvarn' AND (Feld3 = '0' Or Feld3 = '1')");
+    Recordset zeilen = lauf.ini.activeQuelvarn(anwender);
     lauf.session.ActiveQuelvarn = !zeilen.leer() && pflichttext(zeilen, "Feld3") == "1";
     if (zeilen.leer())
         lauf.ini.fuegeAn({anwender, "ActiveQuelvarn", "0"});
@@ -111,12 +111,13 @@ void setzeZeitintervall(SessionState& session, int millisekunden)
 
 void leseZeitintervall(Startlauf& lauf)
 {
-    Recordset zeilen =
-        lauf.ini.lese("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
-                      "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')");
+    Recordset zeilen;
+    zeilen.Open("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
+                "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')",
+                lauf.session.Verbindung);
     std::int64_t wert = 0;
-    if (!zeilen.leer() && istNumerisch(zeilen.Feld("Feld4")))
-        wert = std::max<std::int64_t>(0, alsGanzzahl(zeilen.Feld("Feld4")));
+    if (!zeilen.leer())
+        wert = wholeNumber(zeilen.Feld("Feld4"), 0, std::numeric_limits<std::int32_t>::max()).value_or(0);
     if (wert > GROESSTES_INTERVALL) {
         lauf.ports.meldungen.warnung("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
         wert = GROESSTES_INTERVALL;
