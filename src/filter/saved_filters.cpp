@@ -124,6 +124,8 @@ void SaveFilterRows(SessionState& session, int tab)
     Recordset zeilen = ini.zeilen(session.Anwender, GRUPPE, schluessel);
     if (stehtSoInDerTabelle(zeilen, filter))
         return;
+    ini.writeAlone();
+    zeilen = ini.zeilen(session.Anwender, GRUPPE, schluessel);
     ini.loesche(zeilen);
     for (std::size_t i = 0; i < filter.RecordCount(); ++i)
         ini.fuegeAn(

@@ -61,6 +61,7 @@ std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
 void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit)
 {
     IniZeilen ini(session.Verbindung);
+    ini.writeAlone();
     for (Recordset zeilen = ini.lese(sql::Query("Ini").where(
              sql::all(iniRows(session.Anwender, GRUPPE, typ.schluessel), sql::equal("Feld4", favorit.DokuBez))));
          !zeilen.Eof(); zeilen.MoveNext())

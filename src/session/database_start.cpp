@@ -85,20 +85,33 @@ bool verbinde(SessionState& session, const Dateien& dateien)
     return true;
 }
 
-// The user's rows of rights, by which a register is known; nothing when the table of settings cannot be read.
-std::optional<Recordset> findBerechtigung(SessionState& session)
+// By the user's rows of rights; whether there are any is another question.
+bool isRegister(SessionState& session)
 {
     try {
         Recordset zeilen;
         zeilen.Open(sql::Query("Ini").distinct().where(iniRows(session.Anwender, "Berechtigung")), session.Verbindung);
-        return zeilen;
+        return true;
     } catch (const DatabaseFault& fehler) {
         if (fehler.kind() != FaultKind::Other) // It tells nothing of what lies there.
             throw;
-        return std::nullopt;
+        return false;
     } catch (const Laufzeitfehler&) {
-        return std::nullopt;
+        return false; // The table of settings cannot be read.
     }
+}
+
+// Most starts only look. Where rows are missing or wrong, the step is repeated in a transaction that no other start
+// enters meanwhile: one of the same user may have written them since.
+void run(Startlauf& lauf, void (*step)(Startlauf&))
+{
+    lauf.ini.lookOnly();
+    step(lauf);
+    if (!lauf.ini.wantsToWrite())
+        return;
+    lauf.ini.writeAlone();
+    step(lauf);
+    lauf.ini.schliesseAb();
 }
 
 // False when the file is not a register; the session is filled otherwise.
@@ -108,18 +121,17 @@ bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschni
     if (!verbinde(session, ports.dateien))
         return false;
     abschnitt = "Prüfen auf Quelvarnis-Datenbank";
-    std::optional<Recordset> berechtigung = findBerechtigung(session);
-    if (!berechtigung)
+    if (!isRegister(session))
         return false;
 
     abschnitt = "Prüfen der Einträge";
-    Startlauf lauf{session, ports, abschnitt, IniZeilen(session.Verbindung)};
-    leseBerechtigung(lauf, *berechtigung);
+    Startlauf lauf{.session = session, .ports = ports, .abschnitt = abschnitt, .ini = IniZeilen(session.Verbindung)};
+    run(lauf, leseBerechtigung);
+    werteBerechtigungAus(lauf);
     for (const Schritt& schritt : SCHRITTE) {
         if (!schritt.abschnitt.empty())
             abschnitt = schritt.abschnitt;
-        schritt.lese(lauf);
-        lauf.ini.schliesseAb();
+        run(lauf, schritt.lese);
     }
     return true;
 }

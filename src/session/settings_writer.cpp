@@ -48,6 +48,8 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
     Recordset zeilen = ini.suchtexte(session.Anwender);
     if (stehtSoInDerTabelle(zeilen, texte))
         return;
+    ini.writeAlone();
+    zeilen = ini.suchtexte(session.Anwender);
     ini.loesche(zeilen);
     for (std::size_t index = 0; index < texte.size(); ++index)
         ini.fuegeAn({session.Anwender, "Suchen/Filtern", fmt::format("Text{}", index), texte[index]});
@@ -55,16 +57,15 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
 
 } // namespace
 
+// All rows of a setting say the same afterwards: where older versions left twins, no start knows which it reads first.
 void schreibeStartseite(SessionState& session)
 {
     IniZeilen ini(session.Verbindung);
     Recordset aktiv = ini.activeQuelvarn(session.Anwender);
-    if (!aktiv.leer())
-        ini.aendere(aktiv, "Feld3", session.ActiveQuelvarn ? "1" : "0");
+    ini.aendereAlle(aktiv, "Feld3", session.ActiveQuelvarn ? "1" : "0");
 
     Recordset offline = ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
-    if (!offline.leer())
-        ini.aendere(offline, "Feld4", session.OfflineTool);
+    ini.aendereAlle(offline, "Feld4", session.OfflineTool);
 
     schreibeBaumschalter(ini, session);
     ini.schliesseAb();
@@ -77,11 +78,11 @@ void schreibeDokumentseite(SessionState& session, int tab)
 
     const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
     Recordset start = ini.zeilen(session.Anwender, "Starttabelle");
-    if (!start.leer() && typ.sondertabelle == 0)
-        ini.aendere(start, "Feld3", typ.mehrzahl);
+    if (typ.sondertabelle == 0)
+        ini.aendereAlle(start, "Feld3", typ.mehrzahl);
 
     Recordset offline = ini.zeilen(session.Anwender, "OfflineDaten");
-    if (!offline.leer()) {
+    for (; !offline.Eof(); offline.MoveNext()) {
         ini.aendere(offline, "Feld3", session.OfflineArt.empty() ? LEER : session.OfflineArt);
         ini.aendere(offline, "Feld4", session.OfflineNummer);
         ini.aendere(offline, "Feld5", session.OfflineExportArt.empty() ? LEER : session.OfflineExportArt);

@@ -7,9 +7,11 @@
 #include "session/rights.h"
 #include "session/session_state.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -20,9 +22,12 @@ namespace quelvarn {
 class TestRegister : public testing::Test
 {
 protected:
-    TestRegister()
+    // With the address of an empty PostgreSQL database the register lies there, and the file names it.
+    explicit TestRegister(const std::string& postgres = "")
     {
-        engine_ = oeffneSqlite(ordner_ / "Werk.mdb", true);
+        engine_ = postgres.empty() ? oeffneSqlite(ordner_ / "Werk.mdb", true) : oeffnePostgres(postgres);
+        if (!postgres.empty())
+            std::ofstream(ordner_ / "Werk.mdb") << postgres << "\n";
         legeRegisterAn(*engine_);
         session_.Verbindung.Open(ordner_ / "Werk.mdb");
         session_.DatenbankPfad = "W:\\Werk.mdb";

@@ -122,6 +122,10 @@ const std::vector<Fall> INSTALLATION{
      "65535 (Zeitintervall = 65,5 Sek.)", "Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535"},
     {"interval that is no number", "Feld3 Like '%interval'", "!QV_Ini|WriteDB|Zeitinterval|bald|~", "=", "Intervall",
      "0 (Zeitintervall = 0,0 Sek.)"},
+    {"interval that is no number of this size", "Feld3 Like '%interval'", "!QV_Ini|WriteDB|Zeitinterval|4294967297|~",
+     "=", "Intervall", "0 (Zeitintervall = 0,0 Sek.)"},
+    {"switch beyond every number", "Feld3 = 'Forward'", "!QV_Ini|OnOff|Forward|4294967297|~", "=", "OnOff",
+     "janeinja"},
 };
 
 const std::vector<Fall> ANWENDER{
@@ -168,6 +172,17 @@ const std::vector<Fall> ANWENDER{
     {"rights that are no numbers", "Feld2 = 'Berechtigung'",
      "mueller|Berechtigung|0_STATUS|1|6;mueller|Berechtigung|1_Status|ja|~;mueller|Berechtigung|9_Status|1|1", "=",
      "Rechte", " WHERE (Status = 0)60"},
+    {"rights beyond every number", "Feld2 = 'Berechtigung'",
+     "mueller|Berechtigung|0_Status|4294967297|4294967302;mueller|Berechtigung|1_Status|1|65542;"
+     "mueller|Berechtigung|2_Status|-4294967295|1E300;mueller|Berechtigung|3_Status|18446744073709551617|6", "=",
+     "Rechte", " WHERE ( Status = 1)00"},
+    {"print values beyond every number", "Feld1 = 'mueller' AND Feld2 = 'Plot'",
+     "mueller|Plot|Printer|HP|~;mueller|Plot|PaperSize|A4|~;mueller|Plot|ColorMode|Schwarz|~;"
+     "mueller|Plot|NumCopies|4294967298|~;mueller|Plot|Orientation|Hochformat|~;mueller|Plot|PlotScale|1E999|~", "=",
+     "Plot", "HP,A4,Schwarz,3,Hochformat,1.0,1,"},
+    {"PDF folder kind beyond every number", "Feld2 = 'PDF' AND Feld3 = 'Pfadname'",
+     "mueller|PDF|Pfadname|4294967298|W:\\PDF", "=",
+     "PDF", "Buero,Wie in Solid Edge,In Farbe,300,Ermitteln,1.0,1,W:\\PDF"},
     {"saved filters of a type", "Feld2 = 'Filterwerte'",
      "mueller|Filterwerte|Draft|Alles|\\110000\\\\Status;mueller|Filterwerte|Nichts|x|y", "=",
      "Filter", "Alles=\\110000\\\\Status"},

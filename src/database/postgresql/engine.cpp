@@ -230,11 +230,11 @@ std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::st
     return std::make_unique<postgresql::Massenschreiber>(*this, handle_, schema.name, spaltenOf(schema, spalten));
 }
 
-// Writers who do not look first go on meanwhile; a lock of the table would stop them, and the server's own cleaning.
+// Readers go on meanwhile. As no SELECT, it leaves what the transaction sees to the time after the waiting.
 void PostgresEngine::lockForWriting(std::string_view tabelle)
 {
-    const Value name = sql::Dialekt::bezeichner(katalog_.tabelleOf(tabelle, this->name()).name);
-    handle_->fuehreAus("SELECT pg_advisory_xact_lock($1::regclass::oid::bigint)", {&name, 1});
+    handle_->fuehreAus(fmt::format("LOCK TABLE {} IN SHARE ROW EXCLUSIVE MODE",
+                                   sql::Dialekt::bezeichner(katalog_.tabelleOf(tabelle, name()).name)));
 }
 
 void PostgresEngine::beginne()

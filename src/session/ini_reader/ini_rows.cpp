@@ -57,15 +57,31 @@ Recordset IniZeilen::suchtexte(std::string_view anwender)
     return lese(sql::Query("Ini").where(iniRows(anwender, "Suchen/Filtern")).sortedBy("Feld3")); // "Text0", ...
 }
 
-void IniZeilen::beginne()
+bool IniZeilen::beginne()
 {
-    if (!transaktion_)
+    wantsToWrite_ = true;
+    if (!lookOnly_ && !transaktion_)
         transaktion_.emplace(verbindung_);
+    return !lookOnly_;
+}
+
+void IniZeilen::lookOnly()
+{
+    lookOnly_ = true;
+    wantsToWrite_ = false;
+}
+
+void IniZeilen::writeAlone()
+{
+    lookOnly_ = false;
+    transaktion_.emplace(verbindung_);
+    verbindung_.engine().lockForWriting("Ini");
 }
 
 void IniZeilen::fuegeAn(std::initializer_list<std::string_view> felder)
 {
-    beginne();
+    if (!beginne())
+        return;
     std::vector<sql::Zuweisung> werte;
     for (const std::string_view feld : felder)
         werte.push_back({std::string(FELDER.at(werte.size())), std::string(feld)});
@@ -74,18 +90,22 @@ void IniZeilen::fuegeAn(std::initializer_list<std::string_view> felder)
 
 void IniZeilen::aendere(Recordset& zeile, std::string_view feld, std::string_view wert)
 {
-    if (zeile.Feld(feld) == Value(std::string(wert)))
+    if (zeile.Feld(feld) == Value(std::string(wert)) || !beginne())
         return;
-    beginne();
     zeile.setzeFeld(feld, std::string(wert));
     zeile.Update();
 }
 
+void IniZeilen::aendereAlle(Recordset& zeilen, std::string_view feld, std::string_view wert)
+{
+    for (; !zeilen.Eof(); zeilen.MoveNext())
+        aendere(zeilen, feld, wert);
+}
+
 void IniZeilen::loesche(Recordset& zeilen)
 {
-    if (zeilen.leer())
+    if (zeilen.leer() || !beginne())
         return;
-    beginne();
     for (zeilen.MoveFirst(); !zeilen.Eof();)
         zeilen.Delete(); // Moves to the next row.
 }

@@ -17,7 +17,8 @@ inline constexpr std::string_view KEINE_ANGABE = "Keine Angabe";
 sql::AusdruckZeiger iniRows(std::string_view owner, std::string_view group, std::string_view key = {});
 
 // The rows of Ini as one step of the start reads and mends them. The first write opens a transaction, which
-// schliesseAb ends; without that call everything written since is taken back.
+// schliesseAb ends; without that call everything written since is taken back. What is written because rows were not
+// there, or were others, is looked at behind writeAlone: another copy of the same user may write them at this moment.
 class IniZeilen
 {
 public:
@@ -39,14 +40,24 @@ public:
     void fuegeAn(std::initializer_list<std::string_view> felder);
     // Writes one field of the current row, unless it says so already.
     void aendere(Recordset& zeile, std::string_view feld, std::string_view wert);
+    void aendereAlle(Recordset& zeilen, std::string_view feld, std::string_view wert);
     void loesche(Recordset& zeilen);
     void schliesseAb();
 
+    // From here on nothing is written, but wantsToWrite tells whether it would have been.
+    void lookOnly();
+    bool wantsToWrite() const { return wantsToWrite_; }
+    // Opens the transaction at once, and waits for others who do the same with this table.
+    void writeAlone();
+
 private:
-    void beginne();
+    // False when nothing is to be written.
+    bool beginne();
 
     Connection& verbindung_;
     std::optional<Transaktion> transaktion_;
+    bool lookOnly_ = false;
+    bool wantsToWrite_ = false;
 };
 
 // A text that must be there: Null throws Laufzeitfehler 94.

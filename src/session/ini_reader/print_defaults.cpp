@@ -1,9 +1,6 @@
 #include "base/number_format.h"
-#include "platform/drucker.h"
 #include "session/ini_reader/start_run.h"
 #include "session/paper_sizes.h"
-
-#include <optional>
 
 namespace quelvarn {
 
@@ -43,8 +40,6 @@ private:
     bool pdf_;
     std::string_view gruppe_;
     Druckvorgabe& vorgabe_;
-    // Asked only when a row leaves it to the printer.
-    std::optional<std::optional<Standarddrucker>> standard_;
     bool schreibt_ = true;
 };
 
@@ -164,15 +159,15 @@ void Vorgabeleser::fuegeAn(std::string_view schluessel, std::string_view wert)
 
 bool Vorgabeleser::druckerVorhanden()
 {
-    if (!standard_)
-        standard_ = lauf_.ports.drucker.standard();
-    return standard_->has_value();
+    if (!lauf_.defaultPrinter)
+        lauf_.defaultPrinter = lauf_.ports.drucker.standard();
+    return lauf_.defaultPrinter->has_value();
 }
 
 Standarddrucker Vorgabeleser::drucker()
 {
     if (druckerVorhanden())
-        return **standard_;
+        return **lauf_.defaultPrinter;
     Standarddrucker keiner;
     keiner.papiercode = PAPIERCODE_UNBEKANNT;
     return keiner;

@@ -64,24 +64,27 @@ void trageEin(Startlauf& lauf)
     lauf.ini.fuegeAn({anwender, "Sicherung", "BearbeitenVon"});
     lauf.ini.fuegeAn({anwender, "Sicherung", "SpeichernIn"});
     lauf.session.Sichtbar = SICHTBAR_FUER_NEUE;
-    // Nobody else shall wait for the database while the box is open.
-    lauf.ini.schliesseAb();
-    lauf.ports.meldungen.hinweis("", willkommen(anwender));
 }
 
 } // namespace
 
-void leseBerechtigung(Startlauf& lauf, Recordset& zeilen)
+void leseBerechtigung(Startlauf& lauf)
 {
     lauf.session.Sichtbar.fill(0);
     lauf.session.LoeschRecht.fill(0);
-    if (zeilen.leer()) {
-        lauf.abschnitt = "Berechtigung eintragen";
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Berechtigung");
+    lauf.newUser = zeilen.leer();
+    lauf.abschnitt = lauf.newUser ? "Berechtigung eintragen" : "Berechtigung lesen";
+    if (lauf.newUser)
         trageEin(lauf);
-    } else {
-        lauf.abschnitt = "Berechtigung lesen";
+    else
         lies(lauf.session, zeilen);
-    }
+}
+
+void werteBerechtigungAus(Startlauf& lauf)
+{
+    if (lauf.newUser)
+        lauf.ports.meldungen.hinweis("", willkommen(lauf.session.Anwender));
     lauf.abschnitt = "Berechtigung auswerten";
     bildeStatusbereich(lauf.session);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/drucker.h"
 #include "platform/ports.h"
 #include "session/ini_reader/ini_rows.h"
 #include "session/session_state.h"
 
+#include <optional>
 #include <string_view>
 
 namespace quelvarn {
@@ -15,10 +17,17 @@ struct Startlauf
     Ports& ports;
     std::string_view& abschnitt;
     IniZeilen ini;
+    bool newUser = false;
+    // Asked only when a row leaves it to the printer, and once: it may take its time.
+    std::optional<std::optional<Standarddrucker>> defaultPrinter;
 };
 
-// Each reads the rows of its group into the session and adds or mends what is missing or wrong.
-void leseBerechtigung(Startlauf& lauf, Recordset& zeilen);
+// Greets a new user; then the rights count.
+void werteBerechtigungAus(Startlauf& lauf);
+
+// Each reads the rows of its group into the session and adds or mends what is missing or wrong. It may run twice: the
+// second time in a transaction, where others cannot write these rows. So it shows no box where it writes.
+void leseBerechtigung(Startlauf& lauf);
 
 void leseBezeichnungen(Startlauf& lauf);
 void leseSuchtexte(Startlauf& lauf);
