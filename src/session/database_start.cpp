@@ -120,20 +120,8 @@ bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschni
     abschnitt = "Verbindung zur Datenbank";
     if (!verbinde(session, ports.dateien))
         return false;
-    abschnitt = "Prüfen auf Quelvarnis-Datenbank";
-    if (!isRegister(session))
-        return false;
-
-    abschnitt = "Prüfen der Einträge";
     Startlauf lauf{.session = session, .ports = ports, .abschnitt = abschnitt, .ini = IniZeilen(session.Verbindung)};
-    run(lauf, leseBerechtigung);
-    werteBerechtigungAus(lauf);
-    for (const Schritt& schritt : SCHRITTE) {
-        if (!schritt.abschnitt.empty())
-            abschnitt = schritt.abschnitt;
-        run(lauf, schritt.lese);
-    }
-    return true;
+    return readRegister(lauf);
 }
 
 // Nothing that needs the register may seem to be there.
@@ -146,6 +134,23 @@ void verwirf(SessionState& session)
 }
 
 } // namespace
+
+bool readRegister(Startlauf& lauf)
+{
+    lauf.abschnitt = "Prüfen auf Quelvarnis-Datenbank";
+    if (!isRegister(lauf.session))
+        return false;
+
+    lauf.abschnitt = "Prüfen der Einträge";
+    run(lauf, leseBerechtigung);
+    werteBerechtigungAus(lauf);
+    for (const Schritt& schritt : SCHRITTE) {
+        if (!schritt.abschnitt.empty())
+            lauf.abschnitt = schritt.abschnitt;
+        run(lauf, schritt.lese);
+    }
+    return true;
+}
 
 bool Hauptprogramm(SessionState& session, Ports& ports)
 {

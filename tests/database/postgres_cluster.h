@@ -106,6 +106,14 @@ private:
     std::vector<std::string> frei_;
 };
 
+// For a fixture that runs on an engine by its name: the address of an empty database, "" for SQLite or without a
+// server.
+inline std::string addressOn(std::string_view engine)
+{
+    PostgresCluster* cluster = engine == "PostgreSQL" ? PostgresCluster::find() : nullptr;
+    return cluster ? cluster->neueDatenbank() : "";
+}
+
 inline std::string PostgresCluster::frage(const std::string& adresse, const std::string& sql) const
 {
 #ifdef QUELVARN_NO_POSTGRESQL

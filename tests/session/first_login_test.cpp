@@ -13,18 +13,11 @@ using ::testing::UnorderedElementsAre;
 class FirstLogin : public RegisterTest, public ::testing::WithParamInterface<std::string_view>
 {
 protected:
-    FirstLogin() : RegisterTest(adresse()) {}
+    FirstLogin() : RegisterTest(test::addressOn(GetParam())) {}
     void SetUp() override
     {
         if (GetParam() == "PostgreSQL" && !test::PostgresCluster::find())
             GTEST_SKIP() << "no PostgreSQL server is installed here";
-    }
-
-private:
-    static std::string adresse()
-    {
-        test::PostgresCluster* cluster = GetParam() == "PostgreSQL" ? test::PostgresCluster::find() : nullptr;
-        return cluster ? cluster->neueDatenbank() : "";
     }
 };
 

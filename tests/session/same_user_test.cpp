@@ -21,7 +21,7 @@ struct Start
 class SameUser : public RegisterTest, public ::testing::WithParamInterface<std::string_view>
 {
 protected:
-    SameUser() : RegisterTest(address()) {}
+    SameUser() : RegisterTest(test::addressOn(GetParam())) {}
     void SetUp() override
     {
         if (GetParam() == "PostgreSQL" && !test::PostgresCluster::find())
@@ -63,13 +63,6 @@ protected:
     }
 
     std::array<Start, STARTS> starts_;
-
-private:
-    static std::string address()
-    {
-        test::PostgresCluster* cluster = GetParam() == "PostgreSQL" ? test::PostgresCluster::find() : nullptr;
-        return cluster ? cluster->neueDatenbank() : "";
-    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, SameUser, ::testing::Values("SQLite", "PostgreSQL"),

@@ -48,7 +48,7 @@ AusdruckZeiger all(std::vector<AusdruckZeiger> parts)
 
 AusdruckZeiger any(std::vector<AusdruckZeiger> parts)
 {
-    assert(!parts.empty() && std::ranges::find(parts, nullptr) == parts.end());
+    assert(!parts.empty() && std::find(parts.begin(), parts.end(), nullptr) == parts.end());
     return joined<Oder>(std::move(parts));
 }
 

@@ -22,6 +22,9 @@ struct Startlauf
     std::optional<std::optional<Standarddrucker>> defaultPrinter;
 };
 
+// The whole run over the register on the session's connection. False when there is none.
+bool readRegister(Startlauf& lauf);
+
 // Greets a new user; then the rights count.
 void werteBerechtigungAus(Startlauf& lauf);
 

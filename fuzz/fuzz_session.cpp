@@ -1,0 +1,324 @@
+// Any text, line by line, as a login name and as what this person types: he starts, sets, saves and filters, and starts
+// again. No row of anybody else is read or changed, and his own ones are found again.
+#include "base/collation.h"
+#include "base/utf8.h"
+#include "database/create.h"
+#include "database/sql/conditions.h"
+#include "fakes/fake_dateien.h"
+#include "fakes/fake_world.h"
+#include "fakes/temp_folder.h"
+#include "filter/execution.h"
+#include "filter/filter_context.h"
+#include "filter/saved_filters.h"
+#include "filter/template_lookup.h"
+#include "platform/meldungen.h"
+#include "register/detail_lists.h"
+#include "register/document_record.h"
+#include "register/favourite_rows.h"
+#include "register/quick_search.h"
+#include "register/relations.h"
+#include "register/usage_rows.h"
+#include "session/ini_reader/start_run.h"
+#include "session/settings_writer.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace quelvarn;
+
+namespace {
+
+constexpr std::string_view ANNA = "anna";
+constexpr std::string_view BOB = "b' OR Feld1 Like '%";
+
+void require(bool condition)
+{
+    if (!condition)
+        std::abort();
+}
+
+class Boxes final : public Meldungen
+{
+public:
+    Antwort zeige(const Meldung& box) override
+    {
+        shown.push_back(box.titel);
+        return Antwort::Ok;
+    }
+    std::vector<std::string> shown;
+};
+
+// The outside world of one person; it is the same for everybody.
+struct World
+{
+    Boxes boxes;
+    FakeUhr clock;
+    FakeUmgebung environment;
+    FakeDateien files{clock};
+    FakeLaufwerke drives;
+    FakeDrucker printers;
+    FakeProgramme programs;
+    FakeZwischenablage clipboard;
+    FakeStandardanwendung application;
+    FakeFortschritt progress;
+    Ports ports{boxes, clock, environment, files, drives, printers, programs, clipboard, application, progress};
+};
+
+class Tables final : public Tabellenherr
+{
+public:
+    explicit Tables(SessionState& session) : session_(session) {}
+    int filterTab() const override { return 0; }
+    GefilterteTabelle& filterTabelle(int) override
+    {
+        if (!parts_.geoeffnet()) {
+            parts_.tabelle.Open(sql::Query("PartTabelle").where(sql::statusScope(session_.WhereStatus)),
+                                session_.Verbindung);
+            parts_.anzahl = parts_.tabelle.RecordCount();
+            parts_.zustand = Offen;
+        }
+        return parts_;
+    }
+    void filterGewechselt(int) override {}
+    void filterAufheben(int) override {}
+
+private:
+    SessionState& session_;
+    GefilterteTabelle parts_;
+};
+
+// What a line of the input says.
+struct Input
+{
+    std::string user, search, name, value, DokuBez;
+};
+
+class Register
+{
+public:
+    Register()
+    {
+        legeRegisterAn(*engine_);
+        insertInstallation();
+        insertDocuments();
+        for (const std::string_view user : {ANNA, BOB}) {
+            World world;
+            SessionState session = sessionOf(user, world);
+            session.Starttabelle = "Zeichnungen";
+            session.ActiveQuelvarn = true;
+            schreibeStartseite(session);
+            save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
+            connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
+        }
+    }
+
+    // Everything is taken back afterwards.
+    void play(const Input& input)
+    {
+        for (const std::string_view owner : {ANNA, BOB, EIGENTUEMER_ALLE})
+            if (equalText(owner, input.user))
+                return;
+        const Transaktion takenBack(connection_);
+        const std::vector<std::string> others = rowsOfOthers(input.user);
+        playFirstDay(input);
+        require(rowsOfOthers(input.user) == others);
+        playSecondDay(input);
+        require(rowsOfOthers(input.user) == others);
+    }
+
+private:
+    void insert(std::string_view table, std::vector<sql::Zuweisung> values) { engine_->fuegeEin(table, values); }
+
+    void insertInstallation()
+    {
+        const std::array<std::array<const char*, 4>, 7> rows{{{"Bezeichnung", "Projekt", "Auftrag", ""},
+                                                              {"Tabelle", "Sondertabelle1", "Normteile", ""},
+                                                              {"Plot", "Pfadname", "", ""},
+                                                              {"Plot", "Offline", "Talvik", ""},
+                                                              {"OnOff", "CheckInOut", "1", ""},
+                                                              {"OnOff", "Forward", "1", ""},
+                                                              {"WriteDB", "Zeitinterval", "0", ""}}};
+        for (const auto& [group, key, value, second] : rows)
+            insert("Ini", {{"Feld1", std::string(EIGENTUEMER_ALLE)},
+                           {"Feld2", group},
+                           {"Feld3", key},
+                           {"Feld4", value},
+                           {"Feld5", second}});
+    }
+
+    void insertDocuments()
+    {
+        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
+            const std::string name = "Geheim" + std::to_string(status);
+            for (const char* table : {"PartTabelle", "DraftTabelle"})
+                insert(table, {{"DokuBez", name},
+                               {"RevBez", "A"},
+                               {"filename", "W:\\" + name},
+                               {"Status", status},
+                               {"Projekt", name},
+                               {"Aenderung", "geheim"},
+                               {"Kategorie", "QV_Vorlage"},
+                               {"Hauptmerkmal_C", name}});
+            insert("PartTabelleBenutzDef",
+                   {{"DokuBez", name}, {"RevBez", "A"}, {"Name", "Farbe"}, {"Wert", name}, {"Status", status}});
+            insert("VerbindungPartZusDoku", {{"Dokufilename", "W:\\" + name}, {"ZusDokufilename", "W:\\geheim"}});
+            insert("TIFFTabelle", {{"Dateiname", name + ".tif"}, {"filename", "W:\\geheim.tif"}});
+            insert("Adresstabelle", {{"Kennung", name}, {"Name", "Firma"}, {"Wert", name}});
+        }
+    }
+
+    SessionState sessionOf(std::string_view user, World& world)
+    {
+        SessionState session;
+        session.Anwender = user;
+        session.OrdnerSEDokumente = "C:\\SE";
+        session.Verbindung = Connection(engine_);
+        std::string_view label;
+        Startlauf run{
+            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.Verbindung)};
+        require(readRegister(run));
+        return session;
+    }
+
+    static void save(SessionState& session, const Input& input)
+    {
+        session.Suchtexte = {input.search};
+        schreibeDokumentseite(session, 0);
+        Recordset& filters = session.GespeicherteFilter[0];
+        filters.AddNew();
+        filters.setzeFeld("Filtername", input.name);
+        filters.setzeFeld("Filterstring", input.value);
+        filters.Update();
+        SaveFilterRows(session, 0);
+        schreibeFavorit(session, DOKUTYPEN[0], {input.DokuBez, input.value});
+    }
+
+    void playFirstDay(const Input& input)
+    {
+        World world;
+        SessionState session = sessionOf(input.user, world);
+        require(world.boxes.shown == std::vector<std::string>{""}); // He is greeted.
+        require(session.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.ActiveQuelvarn);
+        require(session.Suchtexte.empty() && session.Starttabelle == "Bauteile");
+        for (const DokuTyp& type : DOKUTYPEN)
+            require(gespeicherteNamen(session, type.tab).empty() && leseFavoriten(session, type).empty());
+        filter(session, world, input);
+        ask(session, input);
+        session.ActiveQuelvarn = true;
+        session.Tree.Knoten = false;
+        schreibeStartseite(session);
+        save(session, input);
+    }
+
+    void playSecondDay(const Input& input)
+    {
+        World world;
+        SessionState session = sessionOf(input.user, world);
+        require(world.boxes.shown.empty());
+        require(session.ActiveQuelvarn && !session.Tree.Knoten);
+        const std::string text(rightCharacters(input.search, 50));
+        require(session.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
+        require(gespeicherteNamen(session, 0) == std::vector{input.name});
+        require(SavedFilterString(session, 0, input.name) == input.value);
+        const auto favourites = leseFavoriten(session, DOKUTYPEN[0]);
+        require(favourites.size() == 1 && derselbe(favourites.front(), {input.DokuBez, input.value}));
+        loescheFavoriten(session, DOKUTYPEN[0], favourites);
+        require(leseFavoriten(session, DOKUTYPEN[0]).empty());
+    }
+
+    // Whatever he looks for, he sees released and frozen documents alone.
+    static void filter(SessionState& session, World& world, const Input& input)
+    {
+        FilterState state;
+        Tables tables(session);
+        Filterkontext context{session, world.ports, state, tables, 0, Filterbereich::Eigenschaften, {}, {}};
+        AddFilterStep(context, input.value, "Projekt", 0);
+        AddFilterStep(context, input.search, "Autor", 0);
+        FilterEigenMerkBenutzDef(context);
+        requireOwnStatuses(context.tabelle().sichtbar());
+        leereFilter(context.zustand());
+        context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
+        context.zustand().FilterAnzahl = 1;
+        if (ApplyBenutzDefFilter(context))
+            requireOwnStatuses(context.tabelle().FilterErgebnis);
+        context.tabelle().tabelle.Filter("");
+        SuchenImRecordset(context.tabelle().tabelle, input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben,
+                          world.boxes);
+    }
+
+    static void requireOwnStatuses(const Recordset& rows)
+    {
+        for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
+            const std::int64_t status = alsGanzzahl(rows.Zelle(i, "Status"));
+            require(status == 3 || status == 4);
+        }
+    }
+
+    // Nothing belongs to a document that is not there.
+    static void ask(SessionState& session, const Input& input)
+    {
+        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
+            const std::string name = "Geheim" + std::to_string(status);
+            for (const std::string& known : {name, "W:\\" + name, name + ".tif"})
+                if (equalText(known, input.value) || equalText(known, input.DokuBez))
+                    return;
+        }
+        Connection& database = session.Verbindung;
+        DokuRecord record;
+        record.DokuBez = input.DokuBez;
+        record.RevBez = input.value;
+        record.filename = input.value;
+        require(InfoRevision(database, "PartTabelle", input.DokuBez, RevErstBearb::Erstellt).leer());
+        require(benutzDefListe(database, "PartTabelleBenutzDef", record).leer());
+        require(!hatZusatzdokumente(database, input.value) && !findDokument(database, DOKUTYPEN[0], input.value));
+        require(revisionsstand(database, "PartTabelle", input.DokuBez).letzte.empty());
+        require(EnthaltenInTIFFTabelle(database, input.value + ".dft").empty());
+        require(kennungen(database, {input.value, input.DokuBez}).empty());
+        require(VorlageSuchen(database, std::vector{input.value, input.DokuBez}).empty());
+        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.WhereStatus));
+        require(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{input.DokuBez, "A"}}).front().empty());
+    }
+
+    std::vector<std::string> rowsOfOthers(std::string_view user)
+    {
+        sql::Select all;
+        all.tabelle = "Ini";
+        std::vector<std::string> rows;
+        for (const auto row = engine_->lese(all, MitSchluessel::Nein); row->next();) {
+            if (equalText(row->text(0), user))
+                continue;
+            std::string& text = rows.emplace_back();
+            for (std::size_t i = 0; i < row->spalten().size(); ++i)
+                text.append(row->istNull(i) ? "Null" : row->text(i)).append("|");
+        }
+        return rows;
+    }
+
+    TempFolder folder_;
+    std::shared_ptr<Engine> engine_ = oeffneSqlite(folder_ / "werk.qv", true);
+    Connection connection_{engine_};
+};
+
+// A login name and what a person types are valid texts.
+std::string nextLine(std::string_view& text)
+{
+    const std::size_t end = text.find('\n');
+    std::string line(text.substr(0, end));
+    text.remove_prefix(end == text.npos ? text.size() : end + 1);
+    std::erase(line, '\0');
+    return toUtf8(toUtf32(line));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+{
+    static Register register_;
+    std::string_view text(reinterpret_cast<const char*>(bytes), size);
+    Input input;
+    for (std::string* line : {&input.user, &input.search, &input.name, &input.value, &input.DokuBez})
+        *line = nextLine(text);
+    register_.play(input);
+    return 0;
+}

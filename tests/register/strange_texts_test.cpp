@@ -1,0 +1,277 @@
+// Names and values that mean something in a statement, a pattern or a filter: nobody's rows but the own ones are read
+// or changed, and what was stored under such a text is found by it.
+#include "base/collation.h"
+#include "database/postgres_cluster.h"
+#include "database/sql/conditions.h"
+#include "fakes/test_register.h"
+#include "filter/saved_filters.h"
+#include "filter/template_lookup.h"
+#include "filter/user_defined_lists.h"
+#include "register/detail_lists.h"
+#include "register/document_record.h"
+#include "register/favourite_rows.h"
+#include "register/quick_search.h"
+#include "register/relations.h"
+#include "register/row_memory.h"
+#include "register/usage_kinds.h"
+#include "register/usage_rows.h"
+#include "session/ini_reader/ini_rows.h"
+#include "session/program.h"
+#include "session/settings_writer.h"
+
+#include <gmock/gmock.h>
+
+namespace quelvarn {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::vector<std::string> strangeTexts()
+{
+    std::vector<std::string> texts{"Meier",
+                                   "a' OR Feld1 Like '%",
+                                   "a' OR DokuBez Like '%",
+                                   "'",
+                                   "''",
+                                   "O'Neill",
+                                   "O''Neill",
+                                   "' --",
+                                   "x' AND Feld2 = 'Treeview",
+                                   "\"",
+                                   "\"Anna\"",
+                                   "[Bob]",
+                                   "[",
+                                   "]",
+                                   "[a-z]",
+                                   "100%",
+                                   "%",
+                                   "*",
+                                   "_",
+                                   "a_b",
+                                   "?",
+                                   "#01/02/04#",
+                                   "\\",
+                                   "a;DELETE FROM Ini",
+                                   "(",
+                                   ")",
+                                   "Müller-Lüdenscheidt",
+                                   " vorn",
+                                   "Null",
+                                   "1",
+                                   "01.01.2004",
+                                   "{fn now()}",
+                                   "$1",
+                                   "?1"};
+    std::string longText;
+    for (int i = 0; i < 300; ++i)
+        longText += "é";
+    texts.push_back(longText);
+    texts.push_back(std::string(300, '\''));
+    return texts;
+}
+
+class StrangeTexts : public TestRegister, public ::testing::WithParamInterface<std::string_view>
+{
+protected:
+    StrangeTexts() : TestRegister(test::addressOn(GetParam())) {}
+    void SetUp() override
+    {
+        if (GetParam() == "PostgreSQL" && !test::PostgresCluster::find())
+            GTEST_SKIP() << "no PostgreSQL server is installed here";
+    }
+
+    std::vector<std::string> rowsOfOthers(std::string_view user)
+    {
+        std::vector<std::string> rows;
+        const auto row = engine_->lese(sql::Query("Ini"), MitSchluessel::Nein);
+        while (row->next()) {
+            if (equalText(row->text(0), user))
+                continue;
+            std::string& text = rows.emplace_back();
+            for (std::size_t i = 0; i < row->spalten().size(); ++i)
+                text.append(row->istNull(i) ? "Null" : row->text(i)).append("|");
+        }
+        std::ranges::sort(rows);
+        return rows;
+    }
+
+    void start(SessionState& session, std::string_view user)
+    {
+        session.Anwender = user;
+        session.DatenbankPfad = "W:\\Werk.mdb";
+        welt_.dateien.verbinde("W:\\Werk.mdb", ordner_ / "Werk.mdb");
+        welt_.meldungen.gezeigt.clear();
+        ASSERT_TRUE(Hauptprogramm(session, ports_)) << user;
+    }
+
+    static void save(SessionState& session, const std::string& text)
+    {
+        session.ActiveQuelvarn = true;
+        session.Tree.Knoten = false;
+        session.Suchtexte = {text};
+        schreibeStartseite(session);
+        schreibeDokumentseite(session, 3);
+        Recordset& filters = session.GespeicherteFilter[0];
+        filters.AddNew();
+        filters.setzeFeld("Filtername", text);
+        filters.setzeFeld("Filterstring", text);
+        filters.Update();
+        SaveFilterRows(session, 0);
+        schreibeFavorit(session, DOKUTYPEN[0], {text, text});
+        schreibeFavorit(session, DOKUTYPEN[0], {text, text});
+    }
+
+    // A document of that name, and everything that is linked to it.
+    void insertDocument(const std::string& text)
+    {
+        const std::string path = pathOf(text);
+        for (const char* table : {"PartTabelle", "AssembTabelle", "DraftTabelle", "WeldTabelle"})
+            zeile(table, {{"DokuBez", text},
+                          {"RevBez", text},
+                          {"filename", path},
+                          {"Status", 3},
+                          {"Aenderung", text},
+                          {"Kategorie", "QV_Vorlage"},
+                          {"Hauptmerkmal_C", text}});
+        zeile("PartTabelleBenutzDef", {{"DokuBez", text}, {"RevBez", text}, {"Name", text}, {"Wert", text}});
+        zeile("VerbindungPartZusDoku", {{"Dokufilename", path}, {"ZusDokuDateiname", text}, {"ZusDokufilename", text}});
+        zeile("TIFFTabelle", {{"Dateiname", text + ".tif"}, {"filename", text}});
+        zeile("Adresstabelle", {{"Kennung", "an " + text}, {"Name", "Firma"}, {"Wert", text}});
+        zeile("ZusBauPart", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Part", path}});
+        zeile("ZusBauSubAss", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Subassembly", path}});
+        zeile("VerbindungDraftPart", {{"DokuBezDraft", text}, {"RevBezDraft", text}, {"PfadAssembPart", path}});
+        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", text}, {"RevBezWeld", text}, {"PfadAssemb", path}});
+    }
+    static std::string pathOf(const std::string& text) { return "W:\\" + text + ".par"; }
+
+    static DokuRecord recordOf(const std::string& text)
+    {
+        DokuRecord record;
+        record.DokuArt = 1;
+        record.DokuBez = record.RevBez = text;
+        record.filename = pathOf(text);
+        record.Hauptmerkmal[2] = text;
+        return record;
+    }
+
+    static std::vector<std::string> column(Recordset rows, std::string_view field)
+    {
+        std::vector<std::string> texts;
+        for (; !rows.Eof(); rows.MoveNext())
+            texts.push_back(rows.Text(field));
+        return texts;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, StrangeTexts, ::testing::Values("SQLite", "PostgreSQL"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
+{
+    welt_.meldungen.erlaubeHinweise();
+    for (const std::string& user : strangeTexts()) {
+        SessionState first;
+        std::vector<std::string> others = rowsOfOthers(user);
+        start(first, user);
+        EXPECT_EQ(welt_.meldungen.gezeigt.front().titel, "") << user << ": he is greeted";
+        if (others.empty()) // The first of all writes the rows of the installation.
+            others = rowsOfOthers(user);
+        EXPECT_FALSE(first.ActiveQuelvarn) << user;
+        EXPECT_THAT(first.Suchtexte, IsEmpty()) << user;
+        EXPECT_THAT(gespeicherteNamen(first, 0), IsEmpty()) << user;
+        EXPECT_THAT(leseFavoriten(first, DOKUTYPEN[0]), IsEmpty()) << user;
+        save(first, user);
+        EXPECT_EQ(rowsOfOthers(user), others) << user;
+
+        SessionState second;
+        start(second, user);
+        for (const Meldung& box : welt_.meldungen.gezeigt)
+            EXPECT_NE(box.titel, "") << user << ": he is no longer new";
+        EXPECT_TRUE(second.ActiveQuelvarn && !second.Tree.Knoten) << user;
+        EXPECT_EQ(second.Starttabelle, "Zeichnungen") << user;
+        EXPECT_EQ(second.Suchtexte.size(), 1U) << user;
+        EXPECT_THAT(gespeicherteNamen(second, 0), ElementsAre(user));
+        EXPECT_EQ(SavedFilterString(second, 0, user), user);
+        const auto favourites = leseFavoriten(second, DOKUTYPEN[0]);
+        ASSERT_EQ(favourites.size(), 1U) << user;
+        EXPECT_EQ(favourites.front().DokuBez, user);
+        loescheFavoriten(second, DOKUTYPEN[0], favourites);
+        EXPECT_EQ(rowsOfOthers(user), others) << user;
+        schreibeFavorit(second, DOKUTYPEN[0], {user, user});
+    }
+}
+
+TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
+{
+    const auto texts = strangeTexts();
+    for (const std::string& text : texts)
+        insertDocument(text);
+    Connection& database = session_.Verbindung;
+    siehtStati("3");
+    Recordset parts;
+    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC", database);
+    for (const std::string& text : texts) {
+        SCOPED_TRACE(text);
+        const DokuRecord record = recordOf(text);
+        EXPECT_THAT(column(InfoRevision(database, "PartTabelle", text, RevErstBearb::Erstellt), "RevBez"),
+                    ElementsAre(text));
+        EXPECT_THAT(column(benutzDefListe(database, "PartTabelleBenutzDef", record), "Wert"), ElementsAre(text));
+        EXPECT_THAT(column(zusDokuListe(database, welt_.dateien, record.filename), "ZusDokuDateiname"),
+                    ElementsAre(text));
+        EXPECT_EQ(revisionsstand(database, "PartTabelle", text).letzte, text);
+        EXPECT_FALSE(revisionsstand(database, "PartTabelle", text).mehrere);
+        EXPECT_EQ(EnthaltenInTIFFTabelle(database, text + ".dft"), text);
+        EXPECT_THAT(kennungen(database, {"an " + text, text}), ElementsAre(sortKey("an " + text)));
+        EXPECT_TRUE(benutzerzeilen(database, "PartTabelleBenutzDef", record).eigenschaften);
+        EXPECT_TRUE(hatZusatzdokumente(database, record.filename));
+        EXPECT_EQ(VorlageSuchen(database, templateBranch(record)), record.filename);
+        EXPECT_EQ(findDokument(database, DOKUTYPEN[0], record.filename)->DokuBez, text);
+        EXPECT_TRUE(istSichtbar(database, DOKUTYPEN[0], record.filename, session_.WhereStatus));
+        EXPECT_FALSE(istSichtbar(database, DOKUTYPEN[0], record.filename, " WHERE ( Status = 1)"));
+        EXPECT_THAT(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{text, text}}),
+                    ElementsAre(record.filename));
+        EXPECT_TRUE(stelleAufDatei(parts, {text, text, record.filename, 0}));
+        EXPECT_EQ(parts.Text("DokuBez"), text);
+        EXPECT_TRUE(stelleAufDokument(parts, {text, text, "", 0}));
+        EXPECT_EQ(parts.Text("DokuBez"), text);
+    }
+}
+
+TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhereTheyAreUsed)
+{
+    const auto texts = strangeTexts();
+    for (const std::string& text : texts)
+        insertDocument(text);
+    for (const std::string& text : texts)
+        for (const Verwendungsart& kind : VERWENDUNGSARTEN) {
+            SCOPED_TRACE(text + std::string(kind.knoten));
+            const DokuRecord record = recordOf(text);
+            EXPECT_TRUE(gibtEsVerwendung(session_.Verbindung, kind, record, record.filename));
+            Recordset rows = verwendungszeilen(session_.Verbindung, kind, record, record.filename);
+            ASSERT_EQ(rows.RecordCount(), kind.quellwahl == Quellwahl::Alle ? 2U : 1U);
+            const Verwendungsdokument document = dokumentZu(session_.Verbindung, kind, rows);
+            EXPECT_FALSE(document.details.leer);
+            EXPECT_EQ(rows.Text(kind.bestandteile() ? kind.felder.filename : kind.felder.DokuBez),
+                      kind.bestandteile() ? record.filename : text);
+        }
+}
+
+// A text that is searched for is a pattern, but never more than that.
+TEST_P(StrangeTexts, AsSearchTextsFindNothingElse)
+{
+    for (const std::string& text : strangeTexts())
+        insertDocument(text);
+    Recordset parts;
+    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.Verbindung);
+    for (const std::string& text : strangeTexts()) {
+        if (text.find_first_of("%_[") != std::string::npos)
+            continue;
+        EXPECT_TRUE(SuchenImRecordset(parts, text, "DokuBez", TextAmAnfang, Suchbeginn::Oben, welt_.meldungen));
+        ASSERT_FALSE(parts.Eof()) << text;
+        EXPECT_TRUE(parts.Text("DokuBez").starts_with(text)) << text << " / " << parts.Text("DokuBez");
+    }
+}
+
+} // namespace
+} // namespace quelvarn
