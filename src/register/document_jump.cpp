@@ -46,14 +46,25 @@ void Dokumentsprung::frageNachFilter(const DokuTyp& typ, std::string_view hinwei
     seite_.filterAufheben(typ.tab);
 }
 
+// Harvel may have met the file by the letter of a drive or by the share behind it.
 bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
 {
-    std::string pfad = filename;
-    UniversalNachLaufwerk(pfad, ports_);
-    const auto name = findDokument(session_.Verbindung, typ, pfad);
-    if (!name)
-        return false;
-    return stelleAufDatei(seite_.seite(typ.tab).sichtbar(), {name->DokuBez, name->RevBez, pfad, 0});
+    if (moveTo(typ, filename))
+        return true;
+    std::string withLetter = filename;
+    UniversalNachLaufwerk(withLetter, ports_);
+    if (withLetter != filename)
+        return moveTo(typ, withLetter);
+    const std::string withShare = pathOnShare(filename, ports_);
+    return !withShare.empty() && moveTo(typ, withShare);
+}
+
+bool Dokumentsprung::moveTo(const DokuTyp& typ, const std::string& filename)
+{
+    Recordset& rows = seite_.seite(typ.tab).sichtbar();
+    return std::ranges::any_of(documentsWithPath(session_.Verbindung, typ, filename), [&](const Dokumentname& name) {
+        return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
+    });
 }
 
 bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen)

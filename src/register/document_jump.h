@@ -33,7 +33,8 @@ public:
     void bereiteVor(const DokuTyp& typ, std::string_view hinweis);
     // The question alone, about a table that is filtered.
     void frageNachFilter(const DokuTyp& typ, std::string_view hinweis);
-    // Moves the table to the row of this file; without one it stays where it is. The tab does not change.
+    // Moves the table to the row of this file, by whichever of its paths it is stored; without one it stays where it is.
+    // The tab does not change.
     bool sucheDatei(const DokuTyp& typ, const std::string& filename);
 
 private:
@@ -44,6 +45,7 @@ private:
         bool abbrechbar;
     };
 
+    bool moveTo(const DokuTyp& typ, const std::string& filename);
     bool springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen);
     bool nachNeuaufbau(const DokuTyp& typ, const std::string& filename);
 

@@ -69,7 +69,7 @@ std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Date
     if (Dateiname.empty())
         return {};
     const std::string stamm(Dateiname.substr(0, Dateiname.rfind('.')));
-    for (const std::string& name : {mitEndung(Dateiname, "tif"), stamm + ".tif"}) {
+    for (const std::string& name : {stamm + "tif", stamm + ".tif"}) { // Some offices name them without a point.
         const auto zeile =
             lese(verbindung, sql::Query("TIFFTabelle").columns({"filename"}).where(sql::equal("Dateiname", name)), 1);
         if (zeile->next())

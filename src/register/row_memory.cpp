@@ -20,7 +20,10 @@ struct Fundstelle
 std::optional<Fundstelle> findeDokument(Recordset& tabelle, const Merkzeile& zeile)
 {
     std::optional<Fundstelle> zweitbeste;
-    tabelle.Find("DokuBez = " + sql::quoted(zeile.DokuBez), 0, Suchrichtung::Vorwaerts, true);
+    if (zeile.DokuBez.empty()) // Null as well, which meets no condition. They stand before all others.
+        tabelle.MoveFirst();
+    else
+        tabelle.Find("DokuBez = " + sql::quoted(zeile.DokuBez), 0, Suchrichtung::Vorwaerts, true);
     for (; !tabelle.Eof() && equalText(tabelle.Text("DokuBez"), zeile.DokuBez); tabelle.MoveNext()) {
         if (!equalText(tabelle.Text("RevBez"), zeile.RevBez))
             continue;

@@ -134,12 +134,19 @@ Verwendungsdokument dokumentZu(Connection& verbindung, const Verwendungsart& art
 
 std::optional<Dokumentname> findDokument(Connection& verbindung, const DokuTyp& typ, std::string_view filename)
 {
-    const auto zeile = verbindung.engine().lese(
+    std::vector<Dokumentname> names = documentsWithPath(verbindung, typ, filename);
+    return names.empty() ? std::nullopt : std::optional(std::move(names.front()));
+}
+
+std::vector<Dokumentname> documentsWithPath(Connection& verbindung, const DokuTyp& typ, std::string_view filename)
+{
+    std::vector<Dokumentname> names;
+    const auto rows = verbindung.engine().lese(
         sql::Query(typ.tabelle).columns({"DokuBez", "RevBez"}).where(sql::equal("filename", filename)),
-        MitSchluessel::Nein, 1);
-    if (!zeile->next())
-        return std::nullopt;
-    return Dokumentname{std::string(zeile->text(0)), std::string(zeile->text(1))};
+        MitSchluessel::Nein);
+    while (rows->next())
+        names.push_back({std::string(rows->text(0)), std::string(rows->text(1))});
+    return names;
 }
 
 const DokuTyp* findTypZurDatei(std::string_view filename)

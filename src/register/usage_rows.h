@@ -31,12 +31,14 @@ struct Verwendungsdokument
 };
 Verwendungsdokument dokumentZu(Connection& verbindung, const Verwendungsart& art, const Recordset& zeile);
 
-// The name of the document with this path, as its table has it.
+// The name of a document with this path, as its table has it; Null reads as empty.
 struct Dokumentname
 {
     std::string DokuBez, RevBez;
 };
 std::optional<Dokumentname> findDokument(Connection& verbindung, const DokuTyp& typ, std::string_view filename);
+// All of them: nothing keeps a table from naming a file twice.
+std::vector<Dokumentname> documentsWithPath(Connection& verbindung, const DokuTyp& typ, std::string_view filename);
 
 // The type by the ending of the file; nullptr when it is none of the five.
 const DokuTyp* findTypZurDatei(std::string_view filename);

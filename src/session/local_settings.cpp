@@ -98,4 +98,13 @@ void UniversalNachLaufwerk(std::string& pfad, const Ports& ports)
         });
 }
 
+std::string pathOnShare(std::string_view path, const Ports& ports)
+{
+    const std::vector<Laufwerk> drives = ports.laufwerke.liste();
+    const auto drive = std::ranges::find_if(drives, [&](const Laufwerk& candidate) {
+        return !candidate.freigabe.empty() && equalText(candidate.buchstabe, path.substr(0, 2));
+    });
+    return drive == drives.end() ? std::string() : drive->freigabe + std::string(path.substr(2));
+}
+
 } // namespace quelvarn

@@ -17,5 +17,7 @@ int DateiTyp(std::string_view pfad, Meldungen& meldungen);
 DateiInfo LeseDateiinfo(std::string_view pfad, const Ports& ports);
 // "\\server\share\x" becomes "W:\x" where the share is mapped; otherwise a warning box, and the path stays.
 void UniversalNachLaufwerk(std::string& pfad, const Ports& ports);
+// The other way round: "W:\x" as "\\server\share\x"; "" where the drive is no mapped share.
+std::string pathOnShare(std::string_view path, const Ports& ports);
 
 } // namespace quelvarn

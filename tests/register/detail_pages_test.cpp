@@ -1,3 +1,4 @@
+#include "register/relations.h"
 #include "register_fixture.h"
 
 #include <map>
@@ -208,6 +209,10 @@ TEST_F(DetailPagesTest, TheTiffIsTheRegisteredOneOrTheOneBesideTheDrawing)
     welt_.meldungen.antworte();
     details_.bildNichtGeladen(InfoSeite::Tiff);
     EXPECT_EQ(details_.tiff(), "");
+
+    zeile("TIFFTabelle",
+          {{"Dateiname", "HB-101-20tif"}, {"filename", "W:\\TIFF\\HB-101-20.tif"}}); // As Harvel wrote some.
+    EXPECT_EQ(EnthaltenInTIFFTabelle(session_.Verbindung, "HB-101-20.dft"), "W:\\TIFF\\HB-101-20.tif");
 }
 
 TEST_F(DetailPagesTest, AFaultLeavesTheTreeAndAnEmptyPage)

@@ -51,6 +51,34 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
     EXPECT_EQ(ort(), "0B");
 }
 
+TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
+{
+    Connection& database = session_.Verbindung;
+    database.Execute(
+        "UPDATE PartTabelle SET filename = '\\\\server\\konstruktion\\Teile\\B_0.par' WHERE DokuBez = 'B'");
+    page_.neuaufbauen();
+    EXPECT_TRUE(springe(0, "B_0.par")); // Stored by the share that W: stands for.
+    EXPECT_EQ(ort(), "0B");
+    EXPECT_TRUE(sprung_.ZuDokumentWechseln(DOKUTYPEN[2], "\\\\server\\konstruktion\\Teile\\C_0.asm"));
+    EXPECT_EQ(ort(), "2C"); // Stored by the letter.
+
+    database.Execute("UPDATE DraftTabelle SET DokuBez = Null, RevBez = Null WHERE DokuBez = 'B'");
+    page_.tabGewaehlt(3);
+    page_.neuaufbauen();
+    page_.zeileGewaehlt(2);
+    page_.tabGewaehlt(0);
+    EXPECT_TRUE(springe(3, "B_0.dft"));
+    EXPECT_EQ(session_.AktDoku.filename, pfad("B_0.dft"));
+
+    zeile("PartTabelle", {{"DokuBez", "A9"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 0}});
+    zeile("PartTabelle", {{"DokuBez", "D"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 3}});
+    siehtStati("3");
+    page_.tabGewaehlt(0);
+    page_.neuaufbauen();
+    EXPECT_TRUE(springe(0, "twice.par")); // The one that may be seen.
+    EXPECT_EQ(ort(), "0D");
+}
+
 TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
 {
     for (const int tab : {2, 3, 6}) {
