@@ -33,8 +33,8 @@ public:
     void bereiteVor(const DokuTyp& typ, std::string_view hinweis);
     // The question alone, about a table that is filtered.
     void frageNachFilter(const DokuTyp& typ, std::string_view hinweis);
-    // Moves the table to the row of this file, by whichever of its paths it is stored; without one it stays where it is.
-    // The tab does not change.
+    // Moves the table to the row of this file, by whichever of its paths it is stored; without one it stays where it
+    // is. The tab does not change.
     bool sucheDatei(const DokuTyp& typ, const std::string& filename);
 
 private:

@@ -19,6 +19,11 @@ void Wertmodell::zeige(const std::vector<Filterwert>& werte)
 {
     if (werte == werte_)
         return;
+    if (werte.size() == werte_.size()) { // The editor of a cell stays: the view closes it when it has written.
+        werte_ = werte;
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, Anzahl - 1));
+        return;
+    }
     beginResetModel();
     werte_ = werte;
     endResetModel();
