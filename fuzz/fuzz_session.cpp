@@ -1,6 +1,7 @@
 // Any text, line by line, as a login name and as what this person types: he starts, sets, saves and filters, and starts
 // again. No row of anybody else is read or changed, and his own ones are found again.
 #include "base/collation.h"
+#include "base/runtime_error.h"
 #include "base/utf8.h"
 #include "database/create.h"
 #include "database/sql/conditions.h"
@@ -111,20 +112,21 @@ public:
             save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
             connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
         }
+        others_ = rowsOfOthers("");
     }
 
-    // Everything is taken back afterwards.
     void play(const Input& input)
     {
         for (const std::string_view owner : {ANNA, BOB, EIGENTUEMER_ALLE})
             if (equalText(owner, input.user))
                 return;
-        const Transaktion takenBack(connection_);
-        const std::vector<std::string> others = rowsOfOthers(input.user);
+        if (equalText(input.user, "")) // Nobody is called so.
+            return;
         playFirstDay(input);
-        require(rowsOfOthers(input.user) == others);
         playSecondDay(input);
-        require(rowsOfOthers(input.user) == others);
+        require(rowsOfOthers(input.user) == others_);
+        connection_.Execute(sql::Delete{"Ini", sql::equal("Feld1", input.user)});
+        require(rowsOfOthers("") == others_);
     }
 
 private:
@@ -235,7 +237,11 @@ private:
         Filterkontext context{session, world.ports, state, tables, 0, Filterbereich::Eigenschaften, {}, {}};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
-        FilterEigenMerkBenutzDef(context);
+        try {
+            FilterEigenMerkBenutzDef(context);
+        } catch (const Laufzeitfehler&) {
+            // Refused: one of the values cannot stand in a filter.
+        }
         requireOwnStatuses(context.tabelle().sichtbar());
         leereFilter(context.zustand());
         context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
@@ -298,6 +304,8 @@ private:
     TempFolder folder_;
     std::shared_ptr<Engine> engine_ = oeffneSqlite(folder_ / "werk.qv", true);
     Connection connection_{engine_};
+    Transaktion unwritten_{connection_}; // Nothing ever reaches the disk, which saves most of the time.
+    std::vector<std::string> others_;
 };
 
 // A login name and what a person types are valid texts.
@@ -311,6 +319,12 @@ std::string nextLine(std::string_view& text)
 }
 
 } // namespace
+
+// A session allocates much: short stacks of where save an eighth of the time.
+extern "C" const char* __asan_default_options()
+{
+    return "malloc_context_size=4";
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {

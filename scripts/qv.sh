@@ -234,7 +234,7 @@ usage() {
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, clang-format, clang-tidy
-./qv fuzz [SECONDS]          random texts for the parsers, with sanitizers (Clang); 20 seconds unless told
+./qv fuzz [SECONDS]          random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)
 TEXT

@@ -1,6 +1,7 @@
 // Names and values that mean something in a statement, a pattern or a filter: nobody's rows but the own ones are read
 // or changed, and what was stored under such a text is found by it.
 #include "base/collation.h"
+#include "database/engine_transaction.h"
 #include "database/postgres_cluster.h"
 #include "database/sql/conditions.h"
 #include "fakes/test_register.h"
@@ -122,6 +123,13 @@ protected:
         schreibeFavorit(session, DOKUTYPEN[0], {text, text});
     }
 
+    void insertDocuments()
+    {
+        Enginetransaktion together(*engine_);
+        for (const std::string& text : strangeTexts())
+            insertDocument(text);
+        together.schliesseAb();
+    }
     // A document of that name, and everything that is linked to it.
     void insertDocument(const std::string& text)
     {
@@ -204,9 +212,8 @@ TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
 
 TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
 {
+    insertDocuments();
     const auto texts = strangeTexts();
-    for (const std::string& text : texts)
-        insertDocument(text);
     Connection& database = session_.Verbindung;
     siehtStati("3");
     Recordset parts;
@@ -240,10 +247,8 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
 
 TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhereTheyAreUsed)
 {
-    const auto texts = strangeTexts();
-    for (const std::string& text : texts)
-        insertDocument(text);
-    for (const std::string& text : texts)
+    insertDocuments();
+    for (const std::string& text : strangeTexts())
         for (const Verwendungsart& kind : VERWENDUNGSARTEN) {
             SCOPED_TRACE(text + std::string(kind.knoten));
             const DokuRecord record = recordOf(text);
@@ -260,8 +265,7 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhereTheyAreUsed)
 // A text that is searched for is a pattern, but never more than that.
 TEST_P(StrangeTexts, AsSearchTextsFindNothingElse)
 {
-    for (const std::string& text : strangeTexts())
-        insertDocument(text);
+    insertDocuments();
     Recordset parts;
     parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.Verbindung);
     for (const std::string& text : strangeTexts()) {
