@@ -87,7 +87,7 @@ void Connection::Open(const std::filesystem::path& pfad)
     const std::string anfang = leseAnfang(pfad);
     switch (artAusAnfang(anfang)) {
     case DatenbankArt::SQLite:
-        use(oeffneSqlite(pfad, false));
+        use(oeffneSqlite(pfad, false, patience_));
         return;
     case DatenbankArt::PostgreSQL:
         use(oeffnePostgres(ersteZeile(anfang), patience_));
@@ -140,6 +140,17 @@ std::int64_t Connection::Execute(const sql::Anweisung& anweisung)
     if (std::holds_alternative<sql::Select>(anweisung))
         throw Laufzeitfehler(FEHLER_ANWEISUNG, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");
     return engine().fuehreAus(anweisung);
+}
+
+FileState Connection::fileState() const
+{
+    return engine_ ? engine_->fileState() : FileState::Same;
+}
+
+void Connection::checkFile() const
+{
+    if (engine_)
+        engine_->checkFile();
 }
 
 Engine& Connection::engine() const

@@ -35,6 +35,12 @@ public:
 
     // Asked while a database lets wait, also one that is opened later; null for nobody. Outlives the connection.
     void setPatience(Patience* patience);
+    Patience* patience() const { return patience_; }
+
+    // What became of the file that was opened; the same where a server keeps the database.
+    FileState fileState() const;
+    // Throws DatabaseFault unless it is still the same.
+    void checkFile() const;
 
     // One INSERT, UPDATE or DELETE: a tree, or text of the program's dialect without a value from outside. Rows
     // affected.

@@ -9,9 +9,9 @@ namespace quelvarn {
 class Engine;
 class Patience;
 
-// Opens an engine on a SQLite file (made when `neu`) or on a postgresql:// address.
-std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu);
-// `patience` is asked while a server lets wait, also at the opening.
+// Opens an engine on a SQLite file (made when `neu`) or on a postgresql:// address. `patience` is asked while another
+// program or a server lets wait, also at the opening.
+std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu, Patience* patience = nullptr);
 std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience* patience = nullptr);
 // The Access file in place; null where no driver for Access is installed.
 std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad);

@@ -2,6 +2,7 @@
 
 #include "database/schema.h"
 #include "database/sql/ast.h"
+#include "database/watched_file.h"
 
 #include <cstdint>
 #include <memory>
@@ -60,6 +61,9 @@ public:
     virtual EngineFaehigkeiten faehigkeiten() const = 0;
     // Asked while the engine waits for somebody else; null: it waits as long as it finds right. Outlives the engine.
     virtual void setPatience(Patience*) {}
+    // What became of the file that was opened; the same for an engine without one.
+    virtual FileState fileState() const { return FileState::Same; }
+    virtual void checkFile() const {} // Throws DatabaseFault unless it is still the same.
 
     virtual std::vector<std::string> tabellen() = 0;
     // Columns as they stand in the database; nothing when there is no such table. Names in any case.

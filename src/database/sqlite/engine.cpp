@@ -4,6 +4,7 @@
 #include "database/sql/renderer.h"
 #include "database/sqlite/bulk_writer.h"
 #include "database/sqlite/ddl.h"
+#include "database/sqlite/faults.h"
 #include "database/sqlite/handle.h"
 #include "database/sqlite/reader.h"
 #include "database/sqlite/statement.h"
@@ -27,18 +28,73 @@ std::string einfuegeanweisung(std::string_view tabelle, std::span<const Spalte> 
 
 } // namespace
 
-SqliteEngine::SqliteEngine(const std::filesystem::path& pfad, bool neu)
-    : handle_(Handle::oeffne(pfad, neu)), katalog_([this](std::string_view name) { return leseSchema(name); })
+SqliteEngine::SqliteEngine(const std::filesystem::path& pfad, bool neu, Patience* patience)
+    : patience_(patience), handle_(Handle::oeffne(pfad, neu, patience)),
+      katalog_([this](std::string_view name) { return leseSchema(name); })
 {}
+
+void SqliteEngine::setPatience(Patience* patience)
+{
+    patience_ = patience;
+    handle_->setPatience(patience);
+}
+
+FileState SqliteEngine::fileState() const
+{
+    return handle_->file().state();
+}
+
+void SqliteEngine::checkFile() const
+{
+    handle_->file().check(std::string(name()));
+}
+
+void SqliteEngine::makeReady()
+{
+    if (handle_->lost() && !transaktion_.offen())
+        openAgain();
+}
+
+// Rows are known by their keys, which mean nothing in another file.
+void SqliteEngine::openAgain()
+{
+    checkFile();
+    handle_ = Handle::oeffne(handle_->file().path(), false, patience_);
+    katalog_.vergiss();
+}
+
+template <class Read> auto SqliteEngine::repeatable(Read read)
+{
+    makeReady();
+    try {
+        return read();
+    } catch (const DatabaseFault&) {
+        if (!handle_->lost() || transaktion_.offen())
+            throw;
+    }
+    openAgain();
+    return read();
+}
+
+void SqliteEngine::beforeChange()
+{
+    makeReady();
+    if (transaktion_.offen())
+        return;
+    checkFile();
+    handle_->lasseVortritt();
+}
 
 std::vector<std::string> SqliteEngine::tabellen()
 {
-    std::vector<std::string> namen;
-    Statement statement = handle_->bereite(
-        "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT GLOB 'sqlite_*' ORDER BY name");
-    while (statement.step())
-        namen.emplace_back(statement.text(0));
-    return namen;
+    return repeatable([this] {
+        std::vector<std::string> namen;
+        Statement statement = handle_->bereite(
+            "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT GLOB 'sqlite_*' ORDER BY name");
+        while (statement.step())
+            namen.emplace_back(statement.text(0));
+        return namen;
+    });
 }
 
 std::optional<Tabellenschema> SqliteEngine::findTabelle(std::string_view name)
@@ -49,38 +105,44 @@ std::optional<Tabellenschema> SqliteEngine::findTabelle(std::string_view name)
 
 std::optional<Tabellenschema> SqliteEngine::leseSchema(std::string_view name)
 {
-    Statement statement =
-        handle_->bereite("SELECT t.name, c.name, c.type FROM sqlite_schema AS t, pragma_table_info(t.name) AS c "
-                         "WHERE t.type IN ('table', 'view') AND t.name = ?1 COLLATE NOCASE ORDER BY c.cid");
-    statement.binde(1, std::string(name));
-    std::optional<Tabellenschema> tabelle;
-    while (statement.step()) {
-        if (!tabelle)
-            tabelle = Tabellenschema{std::string(statement.text(0)), {}, {}};
-        if (statement.text(1) != schluesselspalte)
-            tabelle->spalten.push_back({std::string(statement.text(1)), feldTypAus(statement.text(2))});
-    }
-    return tabelle;
+    return repeatable([&] {
+        Statement statement =
+            handle_->bereite("SELECT t.name, c.name, c.type FROM sqlite_schema AS t, pragma_table_info(t.name) AS c "
+                             "WHERE t.type IN ('table', 'view') AND t.name = ?1 COLLATE NOCASE ORDER BY c.cid");
+        statement.binde(1, std::string(name));
+        std::optional<Tabellenschema> tabelle;
+        while (statement.step()) {
+            if (!tabelle)
+                tabelle = Tabellenschema{std::string(statement.text(0)), {}, {}};
+            if (statement.text(1) != schluesselspalte)
+                tabelle->spalten.push_back({std::string(statement.text(1)), feldTypAus(statement.text(2))});
+        }
+        return tabelle;
+    });
 }
 
 std::unique_ptr<Zeilenleser> SqliteEngine::lese(const sql::Select& select, MitSchluessel schluessel, std::size_t grenze)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    return leser(sql::sqliteDialekt().select(select, tabelle, schluessel, grenze), schluessel);
+    return repeatable([&] {
+        const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
+        return leser(sql::sqliteDialekt().select(select, tabelle, schluessel, grenze), schluessel);
+    });
 }
 
 std::unique_ptr<Zeilenleser> SqliteEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
                                                       std::span<const Zeilenschluessel> schluessel)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    sql::Select select;
-    select.spalten.assign(spalten.begin(), spalten.end());
-    select.tabelle = schema.name;
-    // One text for any number of keys, so that it is prepared once.
-    sql::Gerendert gerendert = sql::sqliteDialekt().select(select, schema, MitSchluessel::Ja);
-    gerendert.text += " WHERE rowid IN (SELECT value FROM json_each(?1))";
-    gerendert.parameter.emplace_back(fmt::format("[{}]", fmt::join(schluessel, ",")));
-    return leser(std::move(gerendert), MitSchluessel::Ja);
+    return repeatable([&] {
+        const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+        sql::Select select;
+        select.spalten.assign(spalten.begin(), spalten.end());
+        select.tabelle = schema.name;
+        // One text for any number of keys, so that it is prepared once.
+        sql::Gerendert gerendert = sql::sqliteDialekt().select(select, schema, MitSchluessel::Ja);
+        gerendert.text += " WHERE rowid IN (SELECT value FROM json_each(?1))";
+        gerendert.parameter.emplace_back(fmt::format("[{}]", fmt::join(schluessel, ",")));
+        return leser(std::move(gerendert), MitSchluessel::Ja);
+    });
 }
 
 std::string SqliteEngine::ausfuehrungsplan(const sql::Select& select)
@@ -107,14 +169,15 @@ Statement SqliteEngine::vorbereitet(const sql::Gerendert& gerendert)
 std::unique_ptr<Zeilenleser> SqliteEngine::leser(sql::Gerendert gerendert, MitSchluessel schluessel)
 {
     Statement statement = vorbereitet(gerendert);
-    return std::make_unique<Leser>(std::move(statement), std::move(gerendert.spalten), schluessel);
+    auto leser = std::make_unique<Leser>(std::move(statement), std::move(gerendert.spalten), schluessel);
+    leser->begin();
+    return leser;
 }
 
 std::int64_t SqliteEngine::aendereZeilen(const sql::Gerendert& gerendert)
 {
+    beforeChange();
     Statement statement = vorbereitet(gerendert);
-    if (!transaktion_.offen())
-        handle_->lasseVortritt();
     statement.step();
     handle_->merkeSchreiben();
     return handle_->geaenderteZeilen();
@@ -156,15 +219,17 @@ void SqliteEngine::legeIndexeAn(const Tabellenschema& tabelle)
 
 std::vector<std::vector<IndexSpalte>> SqliteEngine::fehlendeIndexe(const Tabellenschema& tabelle)
 {
-    Statement statement = handle_->bereite("SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1");
-    std::vector<std::vector<IndexSpalte>> fehlende;
-    for (const auto& index : tabelle.indexe) {
-        statement.binde(1, indexname(tabelle, index));
-        if (!statement.step())
-            fehlende.push_back(index);
-        statement.setzeZurueck();
-    }
-    return fehlende;
+    return repeatable([&] {
+        Statement statement = handle_->bereite("SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1");
+        std::vector<std::vector<IndexSpalte>> fehlende;
+        for (const auto& index : tabelle.indexe) {
+            statement.binde(1, indexname(tabelle, index));
+            if (!statement.step())
+                fehlende.push_back(index);
+            statement.setzeZurueck();
+        }
+        return fehlende;
+    });
 }
 
 void SqliteEngine::entferneTabelle(std::string_view name)
@@ -184,9 +249,8 @@ std::unique_ptr<Engine::Massenschreiber> SqliteEngine::massenschreiber(std::stri
 
 void SqliteEngine::beginne()
 {
-    if (!transaktion_.offen())
-        handle_->lasseVortritt();
-    handle_->fuehreAus(transaktion_.beginn());
+    beforeChange();
+    repeatable([this] { handle_->fuehreAus(transaktion_.beginn()); });
     transaktion_.begonnen();
 }
 
@@ -209,9 +273,9 @@ void SqliteEngine::nimmZurueck()
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu)
+std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu, Patience* patience)
 {
-    return std::make_shared<sqlite::SqliteEngine>(pfad, neu);
+    return std::make_shared<sqlite::SqliteEngine>(pfad, neu, patience);
 }
 
 } // namespace quelvarn

@@ -16,13 +16,17 @@ class Handle;
 class Statement;
 
 // The register in one SQLite file, which may be shared on a network drive.
+// A file that was away is opened again by the next statement: what only reads is repeated then, a change never.
 class SqliteEngine final : public Engine
 {
 public:
-    SqliteEngine(const std::filesystem::path& pfad, bool neu);
+    SqliteEngine(const std::filesystem::path& pfad, bool neu, Patience* patience);
 
     std::string_view name() const override { return "SQLite"; }
     EngineFaehigkeiten faehigkeiten() const override { return {}; }
+    void setPatience(Patience* patience) override;
+    FileState fileState() const override;
+    void checkFile() const override;
 
     std::vector<std::string> tabellen() override;
     std::optional<Tabellenschema> findTabelle(std::string_view name) override;
@@ -50,10 +54,17 @@ public:
 
 private:
     std::optional<Tabellenschema> leseSchema(std::string_view name);
+    // Runs what only reads, once more on a file that is back.
+    template <class Read> auto repeatable(Read read);
+    void makeReady();
+    void openAgain();
+    // Before a change that stands alone, or the first of several.
+    void beforeChange();
     Statement vorbereitet(const sql::Gerendert& gerendert);
     std::unique_ptr<Zeilenleser> leser(sql::Gerendert gerendert, MitSchluessel schluessel);
     std::int64_t aendereZeilen(const sql::Gerendert& gerendert);
 
+    Patience* patience_;
     std::shared_ptr<Handle> handle_;
     Tabellenkatalog katalog_;
     // Asks for the write lock at once: two writers wait for one another instead of failing halfway.

@@ -3,6 +3,7 @@
 #include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/catalog.h"
+#include "database/sqlite/faults.h"
 #include "database/sqlite/functions.h"
 #include "database/sqlite/statement.h"
 
@@ -14,9 +15,7 @@ namespace quelvarn::sqlite {
 namespace {
 
 constexpr std::size_t hoechstzahlBereit = 64;
-constexpr auto hoechsteWartezeit = std::chrono::seconds(60);
-constexpr int laengsterSchlaf = 6; // Milliseconds.
-constexpr int vortritt = 3;
+constexpr int vortritt = 3; // Milliseconds.
 constexpr auto gleichDanach = std::chrono::milliseconds(20);
 
 // The file may lie on a network drive, where neither a write-ahead log nor mapped memory is safe.
@@ -27,14 +26,17 @@ constexpr const char* einstellungen = "PRAGMA journal_mode=DELETE;"
 
 } // namespace
 
-std::shared_ptr<Handle> Handle::oeffne(const std::filesystem::path& pfad, bool neu)
+std::shared_ptr<Handle> Handle::oeffne(const std::filesystem::path& pfad, bool neu, Patience* patience)
 {
-    std::shared_ptr<Handle> handle(new Handle);
+    std::shared_ptr<Handle> handle(new Handle(pfad));
+    handle->setPatience(patience);
     const int modus = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (neu ? SQLITE_OPEN_CREATE : 0);
     const int ergebnis = sqlite3_open_v2(utf8FromPath(pfad).c_str(), &handle->datenbank_, modus, nullptr);
     if (ergebnis != SQLITE_OK)
         handle->melde(ergebnis);
     handle->richteEin();
+    if (neu)
+        handle->file_ = WatchedFile(pfad); // It is there only now.
     return handle;
 }
 
@@ -48,7 +50,7 @@ Handle::~Handle()
 void Handle::richteEin()
 {
     sqlite3_extended_result_codes(datenbank_, 1);
-    sqlite3_busy_handler(datenbank_, warte, this);
+    wait_.serve(datenbank_);
     // An unknown name in quotes is a fault, not a text.
     sqlite3_db_config(datenbank_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(datenbank_, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
@@ -57,17 +59,10 @@ void Handle::richteEin()
     fuehreAus("SELECT count(*) FROM sqlite_schema"); // Tells a damaged or foreign file now, not at the first query.
 }
 
-// Short sleeps of random length: the gap between the changes of a busy neighbour is small.
-int Handle::warte(void* handle, int versuche)
+void Handle::refuseNested() const
 {
-    auto& self = *static_cast<Handle*>(handle);
-    const auto jetzt = std::chrono::steady_clock::now();
-    if (versuche == 0)
-        self.wartetSeit_ = jetzt;
-    if (jetzt - self.wartetSeit_ > hoechsteWartezeit)
-        return 0;
-    sqlite3_sleep(std::uniform_int_distribution(1, laengsterSchlaf)(self.zufall_));
-    return 1;
+    if (wait_.asking())
+        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "SQLite", "Die Antwort der Datenbank steht noch aus.");
 }
 
 Statement Handle::bereite(std::string_view sql)
@@ -80,8 +75,10 @@ Statement Handle::bereite(std::string_view sql)
         return {shared_from_this(), std::move(eintrag.sql), eintrag.statement};
     }
     sqlite3_stmt* statement = nullptr;
-    const int ergebnis = sqlite3_prepare_v3(datenbank_, sql.data(), static_cast<int>(sql.size()),
-                                            SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+    const int ergebnis = call([&] {
+        return sqlite3_prepare_v3(datenbank_, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                                  &statement, nullptr);
+    });
     if (ergebnis != SQLITE_OK)
         melde(ergebnis);
     assert(statement);
@@ -101,7 +98,7 @@ void Handle::gibZurueck(std::string sql, sqlite3_stmt* statement)
 
 void Handle::fuehreAus(const std::string& sql)
 {
-    const int ergebnis = sqlite3_exec(datenbank_, sql.c_str(), nullptr, nullptr, nullptr);
+    const int ergebnis = call([&] { return sqlite3_exec(datenbank_, sql.c_str(), nullptr, nullptr, nullptr); });
     if (ergebnis != SQLITE_OK)
         melde(ergebnis);
 }
@@ -127,10 +124,18 @@ std::int64_t Handle::letzteZeile() const
     return sqlite3_last_insert_rowid(datenbank_);
 }
 
-void Handle::melde(int nummer) const
+void Handle::melde(int nummer)
 {
-    const char* text = datenbank_ ? sqlite3_errmsg(datenbank_) : sqlite3_errstr(nummer);
-    throw Laufzeitfehler((nummer & 0xFF) == SQLITE_ERROR ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN, "SQLite", text);
+    Failure failure{.code = nummer, .systemError = 0, .words = sqlite3_errstr(nummer), .givenUp = wait_.takeGivenUp()};
+    if (datenbank_) {
+        const int extended = sqlite3_extended_errcode(datenbank_);
+        failure.code = (extended & 0xFF) == (nummer & 0xFF) ? extended : nummer;
+        failure.systemError = sqlite3_system_errno(datenbank_);
+        failure.words = sqlite3_errmsg(datenbank_);
+    }
+    DatabaseFault fault = faultOf(failure, file_);
+    lost_ = lost_ || losesFile(fault);
+    throw fault;
 }
 
 } // namespace quelvarn::sqlite

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "database/sqlite/lock_wait.h"
+#include "database/watched_file.h"
+
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,10 +22,15 @@ class Statement;
 class Handle : public std::enable_shared_from_this<Handle>
 {
 public:
-    static std::shared_ptr<Handle> oeffne(const std::filesystem::path& pfad, bool neu);
+    static std::shared_ptr<Handle> oeffne(const std::filesystem::path& pfad, bool neu, Patience* patience);
     ~Handle();
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
+
+    void setPatience(Patience* patience) { wait_.setPatience(patience); }
+    const WatchedFile& file() const { return file_; }
+    // The file was not to be had in a statement; another handle must be opened.
+    bool lost() const { return lost_; }
 
     Statement bereite(std::string_view sql);
     // Statements without a result, prepared once only.
@@ -34,7 +41,8 @@ public:
     std::int64_t geaenderteZeilen() const;
     std::int64_t letzteZeile() const;
 
-    [[noreturn]] void melde(int nummer) const;
+    // Throws DatabaseFault.
+    [[noreturn]] void melde(int nummer);
 
 private:
     friend class Statement;
@@ -45,16 +53,27 @@ private:
         sqlite3_stmt* statement;
     };
 
-    Handle() = default;
+    explicit Handle(const std::filesystem::path& pfad) : file_(pfad) {}
     void richteEin();
     void gibZurueck(std::string sql, sqlite3_stmt* statement);
-    static int warte(void* handle, int versuche);
+    // A call of the library that may wait for a lock.
+    template <class Call> int call(Call call);
+    void refuseNested() const;
 
+    WatchedFile file_;
+    LockWait wait_;
+    bool lost_ = false;
     sqlite3* datenbank_ = nullptr;
     std::vector<Bereit> bereit_; // Not in use; the latest at the end.
-    std::chrono::steady_clock::time_point wartetSeit_;
     std::chrono::steady_clock::time_point geschriebenUm_;
-    std::minstd_rand zufall_{std::random_device{}()};
 };
+
+template <class Call> int Handle::call(Call call)
+{
+    refuseNested();
+    const int result = call();
+    wait_.end();
+    return result;
+}
 
 } // namespace quelvarn::sqlite

@@ -1,6 +1,7 @@
 #include "database/sqlite/reader.h"
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace quelvarn::sqlite {
 
@@ -9,8 +10,15 @@ Leser::Leser(Statement statement, std::vector<Spalte> spalten, MitSchluessel sch
       versatz_(schluessel == MitSchluessel::Ja ? 1 : 0)
 {}
 
+void Leser::begin()
+{
+    aufErster_ = next();
+}
+
 bool Leser::next()
 {
+    if (std::exchange(aufErster_, false))
+        return true;
     if (zuEnde_)
         return false;
     if (statement_.step())

@@ -12,6 +12,8 @@ public:
     Leser(Statement statement, std::vector<Spalte> spalten, MitSchluessel schluessel);
 
     const std::vector<Spalte>& spalten() const override { return spalten_; }
+    // Steps to the first row, so that a fault of the statement comes here.
+    void begin();
     bool next() override;
     Zeilenschluessel schluessel() const override;
     bool istNull(std::size_t spalte) const override;
@@ -30,6 +32,7 @@ private:
     std::vector<Spalte> spalten_;
     int versatz_; // 1 behind a row key
     bool zuEnde_ = false;
+    bool aufErster_ = false; // begin() was there already.
 };
 
 } // namespace quelvarn::sqlite

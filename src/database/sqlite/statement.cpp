@@ -52,7 +52,7 @@ void Statement::pruefe(int ergebnis) const
 
 bool Statement::step()
 {
-    const int ergebnis = sqlite3_step(statement_);
+    const int ergebnis = handle_->call([this] { return sqlite3_step(statement_); });
     if (ergebnis == SQLITE_ROW)
         return true;
     if (ergebnis != SQLITE_DONE)
