@@ -1,7 +1,13 @@
 #include "base/runtime_error.h"
+#include "database/catalog.h"
 #include "database/connection.h"
 #include "database/engine_fixture.h"
+#include "database/faults.h"
 #include "database/recordset.h"
+
+#ifndef QUELVARN_NO_ODBC
+#include "database/odbc/faults.h"
+#endif
 
 #include <chrono>
 #include <gmock/gmock.h>
@@ -202,6 +208,35 @@ TEST(EngineAccess, ALockOfAnotherProgramIsWaitedForAndThenTold)
     }
     anderes->nimmZurueck();
 }
+
+#ifndef QUELVARN_NO_ODBC
+// The numbers of Access, whose driver is not everywhere.
+TEST(EngineAccess, FaultsAreToldInGermanByTheirNumberOrState)
+{
+    using odbc::faultOf;
+    const struct
+    {
+        odbc::Failure failure;
+        FaultKind kind;
+        const char* sentence;
+    } cases[] = {
+        {{"HY000", -1811, "Could not find file."}, FaultKind::FileGone, "Die Datenbank ist nicht mehr vorhanden."},
+        {{"S1000", -1022, "Disk error."}, FaultKind::ConnectionLost, "Die Verbindung zur Datenbank ist unterbrochen."},
+        {{"08S01", 35, "Link failure"}, FaultKind::ConnectionLost, "Die Verbindung zur Datenbank ist unterbrochen."},
+        {{"28000", -1905, "Password"}, FaultKind::WrongPassword, "Die Anmeldung an der Datenbank wurde abgelehnt."},
+        {{"HYT00", 0, "Timeout"}, FaultKind::Locked, "Die Datenbank ist durch ein anderes Programm gesperrt."},
+        {{"HY000", 11, "Not SQLite"}, FaultKind::Other, "Die Datenbank meldet einen Fehler."},
+        {{"42000", -3100, "Syntax error"}, FaultKind::Other, "Die Datenbank meldet einen Fehler."},
+    };
+    for (const auto& [failure, kind, sentence] : cases) {
+        const DatabaseFault fault = faultOf(failure, {"Access", "W:\\werk.mdb"});
+        EXPECT_EQ(fault.kind(), kind) << failure.words;
+        EXPECT_EQ(fault.beschreibung(), std::string(sentence) + "\nW:\\werk.mdb\n" + failure.words);
+        EXPECT_EQ(fault.nummer(), failure.sqlstate == "42000" ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN);
+    }
+    EXPECT_EQ(faultOf({"HY000", 11, "malformed"}, {"SQLite", ""}).kind(), FaultKind::Damaged);
+}
+#endif
 
 TEST(EngineAccess, FaultsOfADriverAreTold)
 {

@@ -7,7 +7,6 @@
 #include "base/utf16.h"
 #include "database/catalog.h"
 
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <sql.h>
@@ -30,30 +29,20 @@ SQLSMALLINT rohArt(Handleart art)
 
 constexpr int VERSUCHE = 6;
 constexpr auto PAUSE = std::chrono::milliseconds(100);
-// What Access calls a file, a row or a table that another program holds, and SQLite its file.
-constexpr std::array<SQLINTEGER, 6> BELEGT{-1024, -1032, -3976, -1102, -1302, 5};
 
 // What the driver tells of the last call on a handle.
-struct Auskunft
+Failure auskunftOf(Handleart art, RohHandle handle)
 {
+    Failure auskunft{.sqlstate = "", .number = 0, .words = "Der ODBC-Treiber nennt keinen Grund."};
     std::array<char16_t, 6> status{};
-    SQLINTEGER nummer = 0;
-    std::string text = "Der ODBC-Treiber nennt keinen Grund.";
-
-    bool anweisungFalsch() const { return status[0] == u'4' && status[1] == u'2'; } // Syntax or access rule.
-    bool belegt() const { return std::ranges::find(BELEGT, nummer) != BELEGT.end(); }
-};
-
-Auskunft auskunftOf(Handleart art, RohHandle handle)
-{
-    Auskunft auskunft;
     std::array<char16_t, 1024> text{};
+    SQLINTEGER nummer = 0;
     SQLSMALLINT laenge = 0;
     const SQLRETURN ergebnis =
-        SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(auskunft.status.data()), &auskunft.nummer,
+        SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(status.data()), &nummer,
                        reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &laenge);
     if (SQL_SUCCEEDED(ergebnis))
-        auskunft.text = fromUtf16(text.data());
+        auskunft = {fromUtf16(status.data()), nummer, fromUtf16(text.data())};
     return auskunft;
 }
 
@@ -64,24 +53,17 @@ bool gelungen(Ergebnis ergebnis)
 
 } // namespace
 
-void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view quelle)
+void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, const Place& place)
 {
-    if (gelungen(ergebnis))
-        return;
-    Auskunft auskunft = auskunftOf(art, handle);
-    if (auskunft.belegt())
-        auskunft.text = "Die Datenbank oder der Datensatz ist durch ein anderes Programm gesperrt, oder es fehlt das "
-                        "Recht zum Schreiben.\n" +
-                        auskunft.text;
-    throw Laufzeitfehler(auskunft.anweisungFalsch() ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN, std::string(quelle),
-                         auskunft.text);
+    if (!gelungen(ergebnis))
+        throw faultOf(auskunftOf(art, handle), place);
 }
 
 Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle)
 {
     for (int versuch = 1;; ++versuch) {
         const Ergebnis ergebnis = aufruf();
-        if (gelungen(ergebnis) || versuch == VERSUCHE || !auskunftOf(art, handle).belegt())
+        if (gelungen(ergebnis) || versuch == VERSUCHE || !isHeld(auskunftOf(art, handle)))
             return ergebnis;
         std::this_thread::sleep_for(PAUSE);
     }
@@ -94,7 +76,7 @@ Handle::Handle(Handleart art, RohHandle eltern) : art_(art)
         return;
     if (art == Handleart::Umgebung)
         throw Laufzeitfehler(FEHLER_ALLGEMEIN, "ODBC", "ODBC kann nicht gestartet werden.");
-    pruefe(ergebnis, art == Handleart::Verbindung ? Handleart::Umgebung : Handleart::Verbindung, eltern, "ODBC");
+    pruefe(ergebnis, art == Handleart::Verbindung ? Handleart::Umgebung : Handleart::Verbindung, eltern, {});
 }
 
 Handle::~Handle()
@@ -109,7 +91,7 @@ void* alsZeiger(std::uintptr_t zahl)
 
 Umgebung::Umgebung() : handle_(Handleart::Umgebung, nullptr)
 {
-    pruefe(SQLSetEnvAttr(roh(), SQL_ATTR_ODBC_VERSION, alsZeiger(SQL_OV_ODBC3), 0), Handleart::Umgebung, roh(), "ODBC");
+    pruefe(SQLSetEnvAttr(roh(), SQL_ATTR_ODBC_VERSION, alsZeiger(SQL_OV_ODBC3), 0), Handleart::Umgebung, roh(), {});
 }
 
 std::vector<std::string> Umgebung::treiber() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/odbc/faults.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -14,8 +16,8 @@ using Ergebnis = short;
 
 enum class Handleart { Umgebung, Verbindung, Anweisung };
 
-// Throws Laufzeitfehler with the driver's text unless the call succeeded; "no data" counts as success.
-void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, std::string_view quelle);
+// Throws DatabaseFault with the driver's text unless the call succeeded; "no data" counts as success.
+void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, const Place& place);
 
 // Makes the call, and makes it again for a moment while another program holds the file, the table or the row.
 Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle);

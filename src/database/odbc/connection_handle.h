@@ -12,8 +12,8 @@ namespace quelvarn::odbc {
 class Verbindung
 {
 public:
-    // `text` is a connection text: DRIVER={...};...
-    static std::shared_ptr<Verbindung> oeffne(std::string_view text);
+    // `text` is a connection text: DRIVER={...};...  `path` of its file, for faults.
+    static std::shared_ptr<Verbindung> oeffne(std::string_view text, std::string path);
     ~Verbindung();
     Verbindung(const Verbindung&) = delete;
     Verbindung& operator=(const Verbindung&) = delete;
@@ -24,8 +24,8 @@ public:
     void beende(bool uebernehmen); // When it throws, they still are.
 
     RohHandle roh() const { return handle_.roh(); }
-    void setzeQuelle(std::string_view quelle) { quelle_ = quelle; }
-    const std::string& quelle() const { return quelle_; } // The source of faults.
+    void setSource(std::string_view source) { place_.source = source; }
+    const Place& place() const { return place_; } // Of faults.
 
 private:
     Verbindung();
@@ -33,7 +33,7 @@ private:
 
     Umgebung umgebung_;
     Handle handle_;
-    std::string quelle_ = "ODBC";
+    Place place_;
 };
 
 } // namespace quelvarn::odbc

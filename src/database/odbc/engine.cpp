@@ -63,11 +63,12 @@ std::vector<sql::Zuweisung> alsZuweisungen(const Tabellenschema& tabelle, std::s
 
 } // namespace
 
-OdbcEngine::OdbcEngine(std::string_view verbindungstext)
-    : verbindung_(Verbindung::oeffne(verbindungstext)), art_(&datenbankartOf(verbindung_->datenbankname())),
+OdbcEngine::OdbcEngine(std::string_view verbindungstext, std::optional<WatchedFile> file)
+    : file_(std::move(file)), verbindung_(Verbindung::oeffne(verbindungstext, file_ ? file_->text() : "")),
+      art_(&datenbankartOf(verbindung_->datenbankname())),
       katalog_([this](std::string_view name) { return leseSchema(name); })
 {
-    verbindung_->setzeQuelle(art_->name);
+    verbindung_->setSource(art_->name);
 }
 
 std::string_view OdbcEngine::name() const
@@ -80,6 +81,17 @@ EngineFaehigkeiten OdbcEngine::faehigkeiten() const
     EngineFaehigkeiten kann;
     kann.spaltenNachladen = false; // To know a row again, all of it must be read anyway.
     return kann;
+}
+
+FileState OdbcEngine::fileState() const
+{
+    return file_ ? file_->state() : FileState::Same;
+}
+
+void OdbcEngine::checkFile() const
+{
+    if (file_)
+        file_->check(std::string(name()));
 }
 
 std::vector<std::string> OdbcEngine::tabellen()

@@ -21,10 +21,13 @@ struct Datenbankart;
 class OdbcEngine final : public Engine
 {
 public:
-    explicit OdbcEngine(std::string_view verbindungstext);
+    // `file`: the one that the connection text names, where it is known.
+    explicit OdbcEngine(std::string_view verbindungstext, std::optional<WatchedFile> file = {});
 
     std::string_view name() const override;
     EngineFaehigkeiten faehigkeiten() const override;
+    FileState fileState() const override;
+    void checkFile() const override;
 
     std::vector<std::string> tabellen() override;
     std::optional<Tabellenschema> findTabelle(std::string_view name) override;
@@ -68,6 +71,7 @@ private:
     void merkeVorher(const std::shared_ptr<Zeilenbuch>& buch, Zeilenschluessel schluessel);
     void pruefeSchreibenderAufbau() const;
 
+    std::optional<WatchedFile> file_;
     std::shared_ptr<Verbindung> verbindung_;
     const Datenbankart* art_;
     Tabellenkatalog katalog_;

@@ -42,7 +42,7 @@ std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad)
                              fmt::format("Der Pfad '{}' darf für den Treiber von Access weder \";\" noch geschweifte "
                                          "Klammern enthalten.",
                                          datei));
-    return oeffneOdbc(fmt::format("DRIVER={{{}}};DBQ={}", treiber, datei));
+    return std::make_shared<odbc::OdbcEngine>(fmt::format("DRIVER={{{}}};DBQ={}", treiber, datei), WatchedFile(pfad));
 }
 
 } // namespace quelvarn

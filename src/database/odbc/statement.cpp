@@ -70,7 +70,7 @@ Anweisung::Anweisung(std::shared_ptr<Verbindung> verbindung)
 
 void Anweisung::pruefe(Ergebnis ergebnis) const
 {
-    odbc::pruefe(ergebnis, Handleart::Anweisung, handle_->roh(), verbindung_->quelle());
+    odbc::pruefe(ergebnis, Handleart::Anweisung, handle_->roh(), verbindung_->place());
 }
 
 Anweisung Anweisung::fuehreAus(std::shared_ptr<Verbindung> verbindung, std::string_view sql,
