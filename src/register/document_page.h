@@ -114,6 +114,8 @@ public:
     std::function<std::string(int tab)> filterVergessen;
     // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
     std::function<void()> tabelleGewechselt;
+    // Asked before a rebuild; false when another database was opened instead. Throws when there is none any more.
+    std::function<bool()> databaseStillOpen;
     // A document was double-clicked: what "Bearbeiten" of the frame does.
     std::function<void()> bearbeiten;
 

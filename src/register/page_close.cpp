@@ -1,5 +1,4 @@
 #include "register/document_page.h"
-#include "session/error_report.h"
 #include "session/settings_writer.h"
 
 namespace quelvarn {
@@ -8,7 +7,7 @@ void DocumentPage::schliessen()
 {
     if (!session_.FormSEDokuGeladen)
         return;
-    gesichert(ports_.meldungen, "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
+    saveSettings(ports_, "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
         if (session_.Verbindung.offen())
             schreibeDokumentseite(session_, tab_);
     });

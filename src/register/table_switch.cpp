@@ -76,7 +76,10 @@ void DocumentPage::zeigeZeilen()
 
 void DocumentPage::neuaufbauen()
 {
-    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] { baueNeuAuf(tab_); });
+    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
+        if (!databaseStillOpen || databaseStillOpen())
+            baueNeuAuf(tab_);
+    });
 }
 
 void DocumentPage::baueNeuAuf(int tab)

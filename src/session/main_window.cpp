@@ -3,6 +3,7 @@
 #include "base/number_format.h"
 #include "base/text.h"
 #include "database/document_types.h"
+#include "platform/dateien.h"
 #include "platform/laufende_programme.h"
 #include "platform/meldungen.h"
 #include "session/error_report.h"
@@ -149,11 +150,31 @@ void MainWindow::werkzeugGewaehlt(Werkzeug knopf)
     });
 }
 
+void MainWindow::tickDBUpdate()
+{
+    if (watchDatabase && !session_.DatenbankPfad.empty())
+        watchDatabase();
+    meldeGeaendert();
+}
+
+// The settings of the session belong into the file that the next start opens.
+void MainWindow::reachReplacedFile()
+{
+    if (session_.Verbindung.fileState() != FileState::Replaced)
+        return;
+    try {
+        session_.Verbindung.Open(ports_.dateien.systempfad(session_.DatenbankPfad));
+    } catch (const Laufzeitfehler&) {
+        return; // The pages tell that they cannot write.
+    }
+}
+
 void MainWindow::entladen()
 {
     if (std::exchange(entladen_, true))
         return;
     timerDBUpdate_ = timerCheckInOut_ = timerWorkflow_ = {};
+    reachReplacedFile();
     melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.entladen(); });
     session_.CheckInOut = Recordset();
     session_.Verbindung.Close();

@@ -76,6 +76,8 @@ public:
     bool laden();
     void zuSeite(Seite ziel);
     void werkzeugGewaehlt(Werkzeug knopf);
+    // The time of TimerDBUpdate has come.
+    void tickDBUpdate();
     // The pages write their rows, the connection goes, `beendet` is called. Only the first call counts.
     void entladen();
 
@@ -100,11 +102,13 @@ public:
     Zeitgeber TimerWorkflow() const { return timerWorkflow_; }
     const SolidEdgeInfo& solidEdge() const { return solidEdge_; }
 
-    std::function<void()> geaendert; // Called after each operation that changed something to show.
-    std::function<void()> beendet;   // The window goes, the program ends.
+    std::function<void()> watchDatabase; // Looks after the file of the open database, at each tick.
+    std::function<void()> geaendert;     // Called after each operation that changed something to show.
+    std::function<void()> beendet;       // The window goes, the program ends.
 
 private:
     void oeffneErsteSeite();
+    void reachReplacedFile();
     bool forwardAn(std::string_view titel, std::string_view ersteZeile);
     void meldeGeaendert() const;
 

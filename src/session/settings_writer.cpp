@@ -3,6 +3,8 @@
 #include "base/collation.h"
 #include "base/utf8.h"
 #include "database/document_types.h"
+#include "database/faults.h"
+#include "session/error_report.h"
 #include "session/ini_reader/ini_rows.h"
 #include "session/tree_switches.h"
 
@@ -56,6 +58,21 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
 }
 
 } // namespace
+
+void saveSettings(const Ports& ports, std::string_view title, std::string_view text, const std::function<void()>& write)
+{
+    std::string told(text);
+    gesichert(
+        ports.meldungen, title, [&] { return told; },
+        [&] {
+            try {
+                write();
+            } catch (const DatabaseFault&) {
+                told += "\nDie Einstellungen wurden nicht gespeichert.";
+                throw;
+            }
+        });
+}
 
 // All rows of a setting say the same afterwards: where older versions left twins, no start knows which it reads first.
 void schreibeStartseite(SessionState& session)

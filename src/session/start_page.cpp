@@ -60,7 +60,7 @@ void StartPage::laden()
 
 void StartPage::entladen()
 {
-    gesichert(ports_.meldungen, "Schließen der Startseite", "Fehler beim Schließen der Startseite!", [&] {
+    saveSettings(ports_, "Schließen der Startseite", "Fehler beim Schließen der Startseite!", [&] {
         if (session_.FormDBGeladen && session_.DatenbankOk)
             schreibeStartseite(session_);
     });
@@ -185,6 +185,20 @@ void StartPage::oeffnen()
         else
             datenbankVerloren();
     });
+    meldeGeaendert();
+}
+
+void StartPage::openAgain()
+{
+    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
+    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankWechselt(); });
+    if (Hauptprogramm(session_, ports_)) {
+        datenbankUebernehmen();
+    } else {
+        datenbankVerloren();
+        rahmen_.zeigeSeite(Seite::Start);
+        rahmen_.setzeTitel(session_.DatenbankPfad);
+    }
     meldeGeaendert();
 }
 

@@ -28,6 +28,8 @@ public:
     void nachOben();                                 // TbUpDB
     void dateiGewaehlt(std::string_view name);       // FileDB
     void oeffnen();
+    // The open database, from the file that stands under its path now.
+    void openAgain();
     void verlassen();
     void setzeActiveSE(bool an);             // TggBtActiveSE
     void setzeInfoPrio1(int index, bool an); // ChInfoPrio1

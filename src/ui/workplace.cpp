@@ -18,9 +18,10 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
                            std::function<void()> programmEnde)
     : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
       waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
-      startseite_(session, ports, rahmen_), viewer_(ports.dateien), gezeigt_(viewer_, nutzung_),
-      dokumentseite_(session, ports, gezeigt_), linkeLeiste_(session, ports, filter_, dokumentseite_),
-      obereLeiste_(session, ports, dokumentseite_), filterseite_(session, ports, filter_, dokumentseite_),
+      startseite_(session, ports, rahmen_), watch_(session, ports, [this] { openDatabaseAgain(); }),
+      viewer_(ports.dateien), gezeigt_(viewer_, nutzung_), dokumentseite_(session, ports, gezeigt_),
+      linkeLeiste_(session, ports, filter_, dokumentseite_), obereLeiste_(session, ports, dokumentseite_),
+      filterseite_(session, ports, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -50,6 +51,8 @@ void Arbeitsplatz::verbinde()
         if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
     };
+    rahmen_.watchDatabase = [this] { watch_.tick(); };
+    dokumentseite_.databaseStillOpen = [this] { return watch_.stillOpen(); };
     dokumentseite_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
     dokumentseite_.tabelleGewechselt = [this] {
         linkeLeiste_.tabelleGewechselt();
@@ -89,6 +92,15 @@ void Arbeitsplatz::verbindeFilterseite()
         gezeigt_.leere(Ansicht::Filtervorlage);
         return true;
     };
+}
+
+// The table in front stays in front.
+void Arbeitsplatz::openDatabaseAgain()
+{
+    const int tab = dokumentseite_.tab();
+    startseite_.openAgain();
+    if (rahmen_.seite() == Seite::Dokumente && dokumentseite_.tab() != tab)
+        dokumentseite_.tabGewaehlt(tab);
 }
 
 bool Arbeitsplatz::starte()

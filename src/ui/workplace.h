@@ -6,6 +6,7 @@
 #include "register/document_page.h"
 #include "register/left_bar.h"
 #include "register/top_bar.h"
+#include "session/database_watch.h"
 #include "session/main_window.h"
 #include "session/start_page.h"
 #include "ui/adapters/viewer_qt.h"
@@ -41,12 +42,14 @@ private:
     void verbinde();
     void verbindeObereLeiste();
     void verbindeFilterseite();
+    void openDatabaseAgain();
 
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
     Waechter waechter_;
     MainWindow rahmen_;
     StartPage startseite_;
+    DatabaseWatch watch_;
     FilterState filter_;
     KeinNutzungsregister nutzung_;
     QtViewer viewer_;

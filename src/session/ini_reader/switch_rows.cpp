@@ -3,6 +3,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/document_types.h"
+#include "database/faults.h"
 #include "platform/meldungen.h"
 #include "session/ini_reader/start_run.h"
 #include "session/tree_switches.h"
@@ -48,6 +49,10 @@ bool oeffneNutzungsregister(SessionState& session)
         session.CheckInOut.Open("Select * From CheckInOut", session.Verbindung, CursorTyp::Dynamisch,
                                 SperrTyp::Optimistisch);
         return true;
+    } catch (const DatabaseFault& fault) {
+        if (fault.kind() != FaultKind::Other)
+            throw;
+        return false;
     } catch (const Laufzeitfehler&) {
         return false; // A register without this table works, only nobody sees who uses what.
     }

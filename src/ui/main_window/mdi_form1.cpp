@@ -17,6 +17,8 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <utility>
+
 namespace quelvarn {
 
 namespace {
@@ -41,8 +43,9 @@ constexpr std::array<Seitenweg, 3> SEITENWEGE{{
 
 MDIForm1::MDIForm1(MainWindow& modell, const SessionState& session, const Darstellung& darstellung)
     : modell_(modell), session_(session), darstellung_(darstellung), werkzeuge_(new ToolbarMidiFrm(modell)),
-      seiten_(new QStackedWidget), status_(new StatusBarUpdate), timerDBUpdate_(neuerZeitgeber("TimerDBUpdate")),
-      timerCheckInOut_(neuerZeitgeber("TimerCheckInOut"))
+      seiten_(new QStackedWidget), status_(new StatusBarUpdate),
+      timerDBUpdate_(neuerZeitgeber("TimerDBUpdate", [this] { modell_.tickDBUpdate(); })),
+      timerCheckInOut_(neuerZeitgeber("TimerCheckInOut", {}))
 {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowIcon(programmsymbol());
@@ -76,13 +79,17 @@ QWidget* MDIForm1::neuerKopf()
     return kopf;
 }
 
-QTimer* MDIForm1::neuerZeitgeber(const char* name)
+QTimer* MDIForm1::neuerZeitgeber(const char* name, std::function<void()> tick)
 {
     auto* zeitgeber = new QTimer(this);
     zeitgeber->setObjectName(QLatin1String(name));
     // One-shot: a tick that takes long, or shows a box, cannot be overtaken by the next one.
     zeitgeber->setSingleShot(true);
-    connect(zeitgeber, &QTimer::timeout, this, bewacht([this] { zeigeZeitgeber(); }));
+    connect(zeitgeber, &QTimer::timeout, this, bewacht([this, tick = std::move(tick)] {
+                if (tick)
+                    Waechter::aktuell().fuehreAus(tick);
+                zeigeZeitgeber();
+            }));
     return zeitgeber;
 }
 

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class QStackedWidget;
 class QTimer;
@@ -38,7 +39,8 @@ protected:
 
 private:
     QWidget* neuerKopf();
-    QTimer* neuerZeitgeber(const char* name);
+    // Guarded, and started again behind each tick.
+    QTimer* neuerZeitgeber(const char* name, std::function<void()> tick);
     void zeigeZeitgeber();
 
     MainWindow& modell_;

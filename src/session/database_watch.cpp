@@ -1,0 +1,84 @@
+#include "session/database_watch.h"
+
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "database/connection.h"
+#include "database/recordset.h"
+#include "platform/dateien.h"
+#include "platform/meldungen.h"
+#include "session/session_state.h"
+
+#include <utility>
+
+namespace quelvarn {
+
+namespace {
+
+constexpr std::string_view TITLE = "Datenbank";
+constexpr std::string_view REPLACED = "Die Datenbank wurde durch eine andere Datei ersetzt.";
+
+} // namespace
+
+DatabaseWatch::DatabaseWatch(SessionState& session, Ports& ports, std::function<void()> openAgain)
+    : session_(session), ports_(ports), openAgain_(std::move(openAgain))
+{}
+
+void DatabaseWatch::tick()
+{
+    const FileState now = session_.Verbindung.fileState();
+    if (now == FileState::Replaced)
+        return tickReplaced();
+    if (now == FileState::Gone && told_ != now)
+        ports_.meldungen.warnung(TITLE, zeilen({
+                                            "Die Datenbank ist nicht mehr vorhanden.",
+                                            session_.DatenbankPfad,
+                                            "",
+                                            "Angezeigt wird, was schon gelesen ist.",
+                                            "Sobald die Datei wieder da ist, geht es ohne Neustart weiter.",
+                                        }));
+    if (now != FileState::Away)
+        told_ = now;
+}
+
+// The file may still be on its way here: what cannot be opened now is tried again.
+void DatabaseWatch::tickReplaced()
+{
+    try {
+        requireRegister();
+    } catch (const Laufzeitfehler& fault) {
+        if (std::exchange(told_, FileState::Replaced) != FileState::Replaced)
+            ports_.meldungen.warnung(TITLE, zeilen({REPLACED, session_.DatenbankPfad, "",
+                                                    "Sie lässt sich nicht öffnen:", fault.beschreibung(), "",
+                                                    "Angezeigt wird, was aus der vorigen gelesen ist."}));
+        return;
+    }
+    openReplacement();
+}
+
+bool DatabaseWatch::stillOpen()
+{
+    if (session_.Verbindung.fileState() != FileState::Replaced) {
+        session_.Verbindung.checkFile();
+        return true;
+    }
+    requireRegister();
+    openReplacement();
+    return false;
+}
+
+void DatabaseWatch::requireRegister() const
+{
+    Connection other;
+    other.setPatience(session_.Verbindung.patience());
+    other.Open(ports_.dateien.systempfad(session_.DatenbankPfad));
+    Recordset().Open("SELECT * FROM Ini WHERE Feld1 = ''", other);
+}
+
+void DatabaseWatch::openReplacement()
+{
+    told_ = FileState::Same;
+    ports_.meldungen.hinweis(TITLE, zeilen({REPLACED, session_.DatenbankPfad, "", "Sie wird neu geöffnet."}));
+    openAgain_();
+}
+
+} // namespace quelvarn
