@@ -5,6 +5,7 @@
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
 #include "ui/adapters/messages_qt.h"
+#include "ui/adapters/patience_qt.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/guard.h"
@@ -48,9 +49,11 @@ int openWindow(Anwendung& anwendung)
     QtMeldungen meldungen;
     QtZwischenablage zwischenablage;
     QtFortschritt fortschritt;
+    QtPatience patience;
     const auto system = systemPorts(standardLaufwerkeOrdner());
     Ports ports = system->mit(meldungen, zwischenablage, fortschritt);
     SessionState session;
+    session.Verbindung.setPatience(&patience);
 
     Waechter waechter(meldungen, beendeSofort);
     std::unique_ptr<Arbeitsplatz> arbeitsplatz;

@@ -1,9 +1,15 @@
+#include "database/connection.h"
+#include "database/create.h"
 #include "database/recordset.h"
+#include "fakes/fake_meldungen.h"
+#include "fakes/temp_folder.h"
 #include "ui/controls/grid_model.h"
 #include "ui/document_page/tree_model.h"
+#include "ui/guard.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +51,44 @@ TEST(Gittermodell, ShowsTheRowsOfARecordset)
     EXPECT_EQ(modell.index(0, 0).data().toString(), u"A-1");
     EXPECT_TRUE(modell.zeige(nullptr, 2));
     EXPECT_EQ(modell.rowCount(), 0);
+}
+
+// The database cannot be read for a while.
+TEST(Gittermodell, AFaultIsToldOnceAndTheNextOperationReadsAgain)
+{
+    const TempFolder folder;
+    FakeMeldungen boxes;
+    const Waechter guard(boxes, [] {});
+    const auto engine = oeffneSqlite(folder / "test.qv", true);
+    const auto fill = [&] {
+        engine->legeTabelleAn({"Tafel", {{"Wort"}, {"Bild"}}, {}});
+        const sql::Zuweisung values[] = {{"Wort", "w"}, {"Bild", "b"}};
+        engine->fuegeEin("Tafel", values);
+        engine->fuegeEin("Tafel", values);
+    };
+    fill();
+    Connection connection;
+    connection.Open(folder / "test.qv");
+    Recordset rows;
+    rows.setzeGanzGrenze(1);
+    rows.Open("Select * From Tafel Order By Wort", connection);
+    Gittermodell model(std::vector<Gitterspalte>{{"Bild", "Bild"}});
+    model.zeige(&rows, 1);
+    const auto cell = [&] { return model.index(1, 0).data().toString(); };
+    engine->entferneTabelle("Tafel");
+    boxes.antworte();
+    for (int operation = 0; operation < 3; ++operation) {
+        model.zeige(&rows, 1);
+        EXPECT_EQ(cell(), u"");
+        QTest::qWait(10);
+    }
+    EXPECT_EQ(boxes.gezeigt.size(), 1U);
+    fill();
+    EXPECT_EQ(cell(), u"") << "not before an operation";
+    const QSignalSpy drawn(&model, &QAbstractItemModel::dataChanged);
+    model.zeige(&rows, 1);
+    EXPECT_EQ(drawn.count(), 1);
+    EXPECT_EQ(cell(), u"b");
 }
 
 TEST(Gittermodell, IsNotBoundAnewWhenOnlyTheRowMoved)

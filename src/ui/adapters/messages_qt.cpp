@@ -1,5 +1,6 @@
 #include "ui/adapters/messages_qt.h"
 
+#include "ui/adapters/held_back.h"
 #include "ui/text.h"
 #include "ui/theme/colours.h"
 #include "ui/theme/icons.h"
@@ -77,7 +78,7 @@ Antwort QtMeldungen::zeige(const Meldung& meldung)
 {
     if (alone_)
         return answerWithoutPerson(meldung);
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(frontWindow());
     box.setWindowTitle(meldung.titel.empty() ? QApplication::applicationName() : zuQt(meldung.titel));
     box.setTextFormat(Qt::PlainText);
     box.setText(zuQt(meldung.text));

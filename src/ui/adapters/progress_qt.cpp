@@ -1,5 +1,6 @@
 #include "ui/adapters/progress_qt.h"
 
+#include "ui/adapters/held_back.h"
 #include "ui/controls/progress_field.h"
 #include "ui/text.h"
 
@@ -7,7 +8,6 @@
 #include <QApplication>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -19,15 +19,6 @@ namespace {
 constexpr int UNGEZEIGT = 100;  // milliseconds; shorter work is never shown
 constexpr int BILDABSTAND = 40; // milliseconds between two looks at the event queue
 constexpr int TAFELBREITE = 420;
-
-QWidget* fensterVorn()
-{
-    if (QWidget* aktiv = QApplication::activeWindow())
-        return aktiv;
-    const auto fenster = QApplication::topLevelWidgets();
-    const auto sichtbar = std::find_if(fenster.begin(), fenster.end(), [](const QWidget* w) { return w->isVisible(); });
-    return sichtbar != fenster.end() ? *sichtbar : nullptr;
-}
 
 QFrame* neueTafel(QWidget& fenster, Fortschrittsfeld& feld)
 {
@@ -42,37 +33,6 @@ QFrame* neueTafel(QWidget& fenster, Fortschrittsfeld& feld)
     tafel->move((fenster.width() - tafel->width()) / 2, (fenster.height() - tafel->height()) / 3);
     tafel->show();
     return tafel;
-}
-
-bool istEingabe(QEvent::Type art)
-{
-    switch (art) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
-    case QEvent::ContextMenu:
-    case QEvent::InputMethod:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::DragEnter:
-    case QEvent::Drop:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool istEsc(QEvent* ereignis)
-{
-    const bool taste = ereignis->type() == QEvent::KeyPress || ereignis->type() == QEvent::ShortcutOverride;
-    return taste && static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Escape;
 }
 
 } // namespace
@@ -116,7 +76,7 @@ void QtFortschritt::zeige()
 {
     feld_ = Fortschrittsfeld::geliehenes();
     if (feld_ == nullptr) {
-        QWidget* fenster = fensterVorn();
+        QWidget* fenster = frontWindow();
         if (fenster == nullptr)
             return;
         feld_ = new Fortschrittsfeld("PrgBarFortschritt", "LblFortschritt", "CmAbbrechen");
@@ -155,7 +115,7 @@ bool QtFortschritt::eventFilter(QObject* empfaenger, QEvent* ereignis)
     // Timers start operations too; they come again when the work is done.
     if (ereignis->type() == QEvent::Timer)
         return qobject_cast<QTimer*>(empfaenger) != nullptr;
-    if (istEsc(ereignis)) {
+    if (isEscape(ereignis)) {
         aufgegeben_ = true;
         ereignis->accept();
         return true;
@@ -169,7 +129,7 @@ bool QtFortschritt::eventFilter(QObject* empfaenger, QEvent* ereignis)
         ereignis->ignore();
         return true;
     }
-    return istEingabe(ereignis->type());
+    return isInput(ereignis->type());
 }
 
 } // namespace quelvarn

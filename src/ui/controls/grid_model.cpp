@@ -2,6 +2,7 @@
 
 #include "base/runtime_error.h"
 #include "database/recordset.h"
+#include "ui/adapters/patience_qt.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace quelvarn {
 
@@ -23,8 +25,10 @@ Gittermodell::Gittermodell(std::vector<Gitterspalte> spalten) : spalten_(std::mo
 
 bool Gittermodell::zeige(const Recordset* zeilen, unsigned fassung)
 {
-    if (zeilen == zeilen_ && fassung == fassung_)
+    if (zeilen == zeilen_ && fassung == fassung_) {
+        tryAgain();
         return false;
+    }
     beginResetModel();
     zeilen_ = zeilen;
     fassung_ = fassung;
@@ -65,11 +69,13 @@ QVariant Gittermodell::headerData(int abschnitt, Qt::Orientation richtung, int r
 
 QString Gittermodell::zelle(const QModelIndex& stelle) const
 {
-    if (fehler_)
+    if (fehler_ || QtPatience::isAsking()) // The connection is at work; the window is drawn anew afterwards.
         return {};
     try {
         const auto& spalte = spalten_[static_cast<std::size_t>(stelle.column())];
-        return zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
+        const QString text = zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
+        told_.clear();
+        return text;
     } catch (const Laufzeitfehler& fehler) {
         melde(fehler);
         return {};
@@ -80,7 +86,17 @@ QString Gittermodell::zelle(const QModelIndex& stelle) const
 void Gittermodell::melde(const Laufzeitfehler& fehler) const
 {
     fehler_ = fehler;
-    melder_->start();
+    if (std::exchange(told_, fehler.beschreibung()) != told_)
+        melder_->start();
+}
+
+// What could not be read may be there again.
+void Gittermodell::tryAgain()
+{
+    if (!fehler_ || melder_->isActive() || anzahl_ == 0)
+        return;
+    fehler_.reset();
+    Q_EMIT dataChanged(index(0, 0), index(anzahl_ - 1, columnCount() - 1));
 }
 
 } // namespace quelvarn

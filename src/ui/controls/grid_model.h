@@ -5,6 +5,7 @@
 #include <QAbstractTableModel>
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -39,12 +40,14 @@ public:
 private:
     QString zelle(const QModelIndex& stelle) const;
     void melde(const Laufzeitfehler& fehler) const;
+    void tryAgain();
 
     std::vector<Gitterspalte> spalten_;
     const Recordset* zeilen_ = nullptr;
     unsigned fassung_ = 0;
     int anzahl_ = 0;
-    mutable std::optional<Laufzeitfehler> fehler_; // A fault while drawing is told once, then cells stay empty.
+    mutable std::optional<Laufzeitfehler> fehler_; // While drawing: cells are empty until the next operation.
+    mutable std::string told_;                     // What it said; not again before cells could be read.
     QTimer* melder_;
 };
 
