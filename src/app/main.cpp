@@ -27,12 +27,18 @@ namespace {
     std::_Exit(EXIT_SUCCESS);
 }
 
-// Nobody is there to answer, or to wait: as if the window had been closed. False while long work is being given up.
-bool endUnattended(QtMeldungen& boxes, QtFortschritt& progress, Arbeitsplatz* workplace)
+// Nobody is there to answer, or to wait: as if the window had been closed. False while a wait or long work is being
+// given up.
+bool endUnattended(QtMeldungen& boxes, QtPatience& patience, QtFortschritt& progress, Arbeitsplatz* workplace)
 {
     boxes.answerAlone();
+    patience.waitAlone();
     if (!workplace)
         beendeSofort(); // Nothing has been done yet.
+    if (QtPatience::isAsking()) {
+        patience.giveUp();
+        return false;
+    }
     if (progress.atWork()) {
         progress.giveUp();
         return false;
@@ -57,7 +63,7 @@ int openWindow(Anwendung& anwendung)
 
     Waechter waechter(meldungen, beendeSofort);
     std::unique_ptr<Arbeitsplatz> arbeitsplatz;
-    const EndRequest endRequest([&] { return endUnattended(meldungen, fortschritt, arbeitsplatz.get()); });
+    const EndRequest endRequest([&] { return endUnattended(meldungen, patience, fortschritt, arbeitsplatz.get()); });
     waechter.fuehreAus([&] {
         const Sanduhr warten;
         Main(session, ports);

@@ -41,8 +41,10 @@ void play(World& world, const Vocabulary& vocabulary, const Step& step)
 {
     Vocabulary::action(vocabulary.steps, step)(world, step);
     world.settle();
-    if (step.words.front() != "box")
+    if (step.words.front() != "box" && step.words.front() != "give-up") {
         world.boxes.check();
+        world.waits.check();
+    }
     if (const auto warnings = takeWarnings(); !warnings.empty())
         throw Difference("a warning of the toolkit came" + warnings);
 }

@@ -122,6 +122,10 @@ void addSetupVerbs(Verbs& verbs)
     verbs["no-windows"] = [](World& world, const Step&) { world.clearForeignWindows(); };
     verbs["clipboard"] = [](World& world, const Step& step) { world.setClipboard(step.word(1)); };
     verbs["box"] = expectBox;
+    verbs["give-up"] = [](World& world, const Step& step) {
+        const bool picture = step.has(1) && !world.pictureFolder().empty();
+        world.waits.expectGivingUp(picture ? world.pictureFolder() + "/" + step.word(1) + ".png" : "");
+    };
     verbs["start"] = [](World& world, const Step&) { world.start(); };
     verbs["close"] = [](World& world, const Step&) { world.close(); };
 }

@@ -10,7 +10,6 @@
 #include "scenario_runner/disk.h"
 #include "scenario_runner/lock_holder.h"
 #include "session/program.h"
-#include "ui/adapters/patience_qt.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/guard.h"
 #include "ui/main_window/mdi_form1.h"
@@ -39,7 +38,6 @@ struct World::Parts
     FakeZwischenablage clipboard;
     FakeStandardanwendung opener;
     QtFortschritt progress;
-    QtPatience patience;
     std::unique_ptr<SystemPorts> system;
     std::unique_ptr<Ports> ports;
     std::unique_ptr<Darstellung> appearance;
@@ -151,7 +149,7 @@ void World::start()
     parts_->ended = false;
     parts_->appearance->wendeAn(*qApp);
     parts_->session = std::make_unique<SessionState>();
-    parts_->session->Verbindung.setPatience(&parts_->patience);
+    parts_->session->Verbindung.setPatience(&waits);
     {
         Waechter guard(boxes, [this] { parts_->ended = true; });
         guard.fuehreAus([this] { Main(*parts_->session, *parts_->ports); });

@@ -2,6 +2,7 @@
 
 #include "database/connection.h"
 #include "scenario_runner/expected_boxes.h"
+#include "scenario_runner/foretold_waits.h"
 #include "scenario_runner/real_program.h"
 
 #include <filesystem>
@@ -25,6 +26,7 @@ public:
     ~World();
 
     ExpectedBoxes boxes;
+    ForetoldWaits waits;
 
     // --- setup ---
     void setUser(const std::string& name);

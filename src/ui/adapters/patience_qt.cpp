@@ -19,6 +19,7 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr milliseconds UNSHOWN{500};
+constexpr milliseconds LONGEST_ALONE{2000};
 constexpr int MARGIN = 16;
 
 bool asking = false;
@@ -63,8 +64,8 @@ bool QtPatience::keepWaiting(WaitReason reason, milliseconds waited)
 {
     if (asking) // Another connection, from within an event of the wait.
         return false;
-    if (waited < UNSHOWN)
-        return true;
+    if (waited < UNSHOWN || alone_)
+        return waited < LONGEST_ALONE;
     const Asking now;
     if (panel_ == nullptr)
         show(reason);

@@ -24,6 +24,11 @@ public: // Without Qt's macro: its compiler does not read the standard library's
     bool keepWaiting(WaitReason reason, std::chrono::milliseconds waited) override;
     void waitEnded() override;
 
+    // Nobody is there to wait, or to give up: no panel any more, and no long wait.
+    void waitAlone() { alone_ = true; }
+    // As the person would by the button.
+    void giveUp() { givenUp_ = true; }
+
     // A statement waits: who would read cells now shows what is there.
     static bool isAsking();
 
@@ -35,6 +40,7 @@ private:
     void hide();
     bool isOurs(const QObject* receiver) const;
 
+    bool alone_ = false;
     bool givenUp_ = false;
     QPointer<QDialog> panel_;
     QPointer<QLabel> text_;

@@ -36,7 +36,7 @@ protected:
                                                      REGISTERPFAD, "", "Sie wird neu geöffnet."}));
     }
     // Another register in the place of the open one, as a fresh takeover leaves it.
-    void replace(const std::string& change)
+    void replace(sql::FixedText change)
     {
         const auto other = ordner / "neu.db";
         fs::copy_file(datei, other);
