@@ -46,7 +46,8 @@ TEST(DatabaseFile, IsToldByItsFirstBytes)
         {"", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
         {"\0\1\0\0Standard", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
         {"Notiz: postgresql://x", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
-        {"SQLite format 3\0"s + std::string(5000, '\x7'), DatenbankArt::SQLite, HasSubstr("Die Datenbank ist beschädigt.")},
+        {"SQLite format 3\0"s + std::string(5000, '\x7'), DatenbankArt::SQLite,
+         HasSubstr("Die Datenbank ist beschädigt.")},
     };
     for (const Fall& fall : faelle) {
         const auto pfad = ordner / "Prüfung.mdb";
