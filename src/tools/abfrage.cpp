@@ -66,7 +66,7 @@ void gleitkommazahl(Puffer& ziel, double zahl)
 class Schreiber
 {
 public:
-    Schreiber(Ausgabeform form, std::ostream& aus) : json_(form == Ausgabeform::Json), aus_(aus) {}
+    Schreiber(Ausgabeform form, ResultBuffer& aus) : json_(form == Ausgabeform::Json), aus_(aus) {}
 
     void kopf(const std::vector<Spalte>& spalten)
     {
@@ -95,7 +95,7 @@ public:
 
     void spuele()
     {
-        aus_.write(puffer_.data(), static_cast<std::streamsize>(puffer_.size()));
+        aus_.append({puffer_.data(), puffer_.size()});
         puffer_.clear();
     }
 
@@ -134,19 +134,19 @@ private:
     }
 
     bool json_;
-    std::ostream& aus_;
+    ResultBuffer& aus_;
     Puffer puffer_;
     bool ersteZelle_ = true;
 };
 
 } // namespace
 
-std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, std::ostream& aus)
+std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, ResultBuffer& aus)
 {
     Schreiber schreiber(form, aus);
     schreiber.kopf(zeilen.spalten());
     std::uint64_t anzahl = 0;
-    while (aus.good() && zeilen.next()) { // Not good: whoever read has gone.
+    while (zeilen.next()) {
         schreiber.zeile(zeilen);
         ++anzahl;
     }

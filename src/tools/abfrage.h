@@ -1,9 +1,9 @@
 #pragma once
 
 #include "database/engine.h"
+#include "tools/result_buffer.h"
 
 #include <cstdint>
-#include <ostream>
 
 namespace quelvarn::tools {
 
@@ -12,7 +12,7 @@ enum class Ausgabeform {
     Json,      // An array a line: the names of the columns, then the rows.
 };
 
-// Writes every row as it comes from the database. The number of rows.
-std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, std::ostream& aus);
+// Takes every row from the database. The number of rows.
+std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, ResultBuffer& aus);
 
 } // namespace quelvarn::tools

@@ -1,8 +1,13 @@
 #include "tools/befehle.h"
 
+#include "base/file_path.h"
+#include "base/runtime_error.h"
+
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fmt/format.h>
+#include <new>
 
 namespace quelvarn::tools {
 
@@ -31,6 +36,14 @@ int bedienfehler(Konsole& konsole, const Befehl& befehl, std::string_view text)
     return FALSCH_BEDIENT;
 }
 
+// A German sentence first; the words of an engine or of the system stand below it.
+int fault(Konsole& konsole, std::string_view text)
+{
+    konsole.aus.flush();
+    konsole.meldungen << "Fehler: " << text << '\n';
+    return FEHLGESCHLAGEN;
+}
+
 int fuehreAus(const Befehl& befehl, std::span<const std::string> worte, Konsole& konsole)
 {
     if (std::ranges::find(worte, HILFE) != worte.end()) {
@@ -47,9 +60,15 @@ int fuehreAus(const Befehl& befehl, std::span<const std::string> worte, Konsole&
         return befehl.ausfuehren(argumente, konsole);
     } catch (const Bedienfehler& fehler) {
         return bedienfehler(konsole, befehl, fehler.what());
+    } catch (const Laufzeitfehler& fehler) {
+        return fault(konsole, fehler.what());
+    } catch (const std::bad_alloc&) {
+        return fault(konsole, "Der Arbeitsspeicher reicht nicht.");
+    } catch (const std::filesystem::filesystem_error& fehler) {
+        return fault(konsole, fmt::format("Das Dateisystem lässt es nicht zu.\n{}\n{}", utf8FromPath(fehler.path1()),
+                                          fehler.code().message()));
     } catch (const std::exception& fehler) {
-        konsole.meldungen << "Fehler: " << fehler.what() << '\n';
-        return FEHLGESCHLAGEN;
+        return fault(konsole, fmt::format("Das ist ein Fehler des Programms selbst.\n{}", fehler.what()));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <fmt/format.h>
+#include <utility>
 
 namespace quelvarn::tools {
 
@@ -41,12 +42,6 @@ void pruefeAbbruch()
         throw werkzeugfehler("Abgebrochen. Es wurde nichts verändert.");
 }
 
-Verlaufsanzeige::~Verlaufsanzeige()
-{
-    if (etwasZuSehen_)
-        konsole_.meldungen << "\r\x1b[K" << std::flush;
-}
-
 void Verlaufsanzeige::melde(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
 {
     if (aufrufe_++ % AUFRUFE_JE_BLICK_AUF_DIE_UHR != 0)
@@ -70,11 +65,12 @@ void Verlaufsanzeige::schritt(std::string_view was, std::uint64_t erledigt, std:
 
 void Verlaufsanzeige::zeige(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
 {
-    etwasZuSehen_ = true;
-    std::string zeile = fmt::format("\r\x1b[K{}: {}", was, formatGanzzahl(static_cast<std::int64_t>(erledigt)));
+    if (!painter_)
+        painter_.emplace(konsole_.meldungen);
+    std::string zeile = fmt::format("{}: {}", was, formatGanzzahl(static_cast<std::int64_t>(erledigt)));
     if (gesamt != 0)
         zeile += fmt::format(" von {}", formatGanzzahl(static_cast<std::int64_t>(gesamt)));
-    konsole_.meldungen << zeile << std::flush;
+    painter_->show(std::move(zeile));
 }
 
 } // namespace quelvarn::tools

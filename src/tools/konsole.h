@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/runtime_error.h"
+#include "tools/progress_painter.h"
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -30,9 +32,6 @@ class Verlaufsanzeige
 {
 public:
     explicit Verlaufsanzeige(Konsole& konsole) : konsole_(konsole) {}
-    ~Verlaufsanzeige();
-    Verlaufsanzeige(const Verlaufsanzeige&) = delete;
-    Verlaufsanzeige& operator=(const Verlaufsanzeige&) = delete;
 
     // Cheap enough to be called for each row. Throws when the work is to be given up.
     void melde(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt = 0);
@@ -45,7 +44,7 @@ private:
     Konsole& konsole_;
     std::uint64_t aufrufe_ = 0;
     std::chrono::steady_clock::time_point naechste_;
-    bool etwasZuSehen_ = false;
+    std::optional<ProgressPainter> painter_;
 };
 
 } // namespace quelvarn::tools

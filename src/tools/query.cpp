@@ -34,8 +34,11 @@ int query(const Argumente& argumente, Konsole& konsole)
         konsole.aus << verbindung.engine().fuehreAus(anweisung) << '\n';
         return GUT;
     }
-    const auto zeilen = verbindung.engine().lese(*select, MitSchluessel::Nein);
-    gibZeilenAus(*zeilen, argumente.gesetzt("--json") ? Ausgabeform::Json : Ausgabeform::Tabulator, konsole.aus);
+    ResultBuffer result;
+    gibZeilenAus(*verbindung.engine().lese(*select, MitSchluessel::Nein),
+                 argumente.gesetzt("--json") ? Ausgabeform::Json : Ausgabeform::Tabulator, result);
+    verbindung.Close(); // A person with a pager reads for hours.
+    result.writeTo(konsole.aus);
     return GUT;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/collation.h"
 #include "base/number_format.h"
+#include "tools/check/table_rows.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -39,10 +40,7 @@ std::unique_ptr<Zeilenleser> findZeilen(Engine& engine, std::string_view tabelle
         });
     if (!alleDa)
         return nullptr;
-    sql::Select select;
-    select.spalten = std::move(spalten);
-    select.tabelle = tabelle;
-    return engine.lese(select, MitSchluessel::Nein);
+    return std::make_unique<TableRows>(engine, schema->name, std::move(spalten));
 }
 
 } // namespace quelvarn::tools

@@ -92,6 +92,19 @@ void pruefeTabelle(Engine& engine, const DokuTyp& typ, Befund& befund, Verlaufsa
     fehler.melde(typ.tabelle, befund);
 }
 
+constexpr char BEHIND_A_NAME = '\0';
+
+// All at once: a drive may take hours for its answers, and nobody is to wait so long for the database.
+std::string fileNames(Engine& engine, const DokuTyp& typ)
+{
+    std::string names;
+    const auto rows = findZeilen(engine, typ.tabelle, {"filename"});
+    while (rows && rows->next())
+        if (!rows->istNull(0))
+            names.append(rows->text(0)) += BEHIND_A_NAME;
+    return names;
+}
+
 } // namespace
 
 std::uint64_t Dokumentschluessel::aus(std::string_view text)
@@ -127,13 +140,16 @@ void pruefeDateien(Engine& engine, Befund& befund, Verlaufsanzeige& anzeige)
 {
     const auto system = systemPorts(standardLaufwerkeOrdner());
     for (const DokuTyp& typ : DOKUTYPEN) {
-        const auto zeilen = findZeilen(engine, typ.tabelle, {"filename"});
+        const std::string names = fileNames(engine, typ);
         Vorkommen fehlt;
         std::uint64_t anzahl = 0;
-        while (zeilen && zeilen->next()) {
+        for (std::size_t begin = 0; begin < names.size();) {
+            const auto end = names.find(BEHIND_A_NAME, begin);
+            const auto file = std::string_view(names).substr(begin, end - begin);
+            begin = end + 1;
             anzeige.melde("Dateien", ++anzahl);
-            if (!zeilen->istNull(0) && !system->dateien().dateiVorhanden(zeilen->text(0)))
-                fehlt.merke(zeilen->text(0));
+            if (!system->dateien().dateiVorhanden(file))
+                fehlt.merke(file);
         }
         if (fehlt.anzahl() > 0)
             befund.warnung(fmt::format("{}: {}", typ.tabelle, fehlt.text("Dokumente, deren Datei fehlt")));
