@@ -1,10 +1,10 @@
 #pragma once
 
 #include "database/connection.h"
+#include "tools/draft_file.h"
 #include "tools/konsole.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <span>
@@ -23,8 +23,6 @@ public:
     virtual void zeile(std::span<const Value> werte) = 0;
 };
 
-enum class Vorhandenes { Ablehnen, Ersetzen };
-
 // A register in the making. Whoever looks at the target sees what was there before, until schliesseAb has made
 // everything visible at once; without it nothing is left behind. A SQLite file grows under another name beside
 // its target, a PostgreSQL database gets one transaction.
@@ -42,27 +40,11 @@ public:
     std::uint64_t zeilen() const { return zeilen_; }
 
 private:
-    // A file that becomes its target by being renamed.
-    class Entwurf
-    {
-    public:
-        Entwurf(std::filesystem::path ziel, Vorhandenes vorhandenes);
-        ~Entwurf();
-        Entwurf(const Entwurf&) = delete;
-        Entwurf& operator=(const Entwurf&) = delete;
-        const std::filesystem::path& pfad() const { return pfad_; }
-        void uebernimm();
-
-    private:
-        std::filesystem::path ziel_;
-        std::filesystem::path pfad_;
-    };
-
     void bereiteDatenbankVor(std::string_view ziel, Vorhandenes vorhandenes);
     void beendeTabelle();
     Engine& engine() const { return *engine_; }
 
-    std::optional<Entwurf> entwurf_; // The file is removed after the engine has let go of it.
+    std::optional<DraftFile> entwurf_; // The file is removed after the engine has let go of it.
     Connection verbindung_;
     std::shared_ptr<Engine> datei_;
     Engine* engine_ = nullptr;

@@ -26,5 +26,9 @@ private:
 };
 
 int prozessnummer();
+// Of this computer, whoever started it.
+bool processRuns(int number);
+// A file can be replaced by renaming another one over it while it is open.
+bool openFilesCanBeReplaced();
 
 } // namespace quelvarn::tools

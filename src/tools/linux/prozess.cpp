@@ -1,5 +1,7 @@
 #include "tools/prozess.h"
 
+#include <cerrno>
+#include <csignal>
 #include <unistd.h>
 
 namespace quelvarn::tools {
@@ -16,6 +18,16 @@ std::vector<std::string> Prozess::worte(int anzahl, const char* const* argumente
 int prozessnummer()
 {
     return getpid();
+}
+
+bool processRuns(int number)
+{
+    return kill(number, 0) == 0 || errno != ESRCH;
+}
+
+bool openFilesCanBeReplaced()
+{
+    return true;
 }
 
 } // namespace quelvarn::tools

@@ -57,4 +57,19 @@ int prozessnummer()
     return static_cast<int>(GetCurrentProcessId());
 }
 
+bool processRuns(int number)
+{
+    const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(number));
+    if (!process)
+        return GetLastError() != ERROR_INVALID_PARAMETER; // Whoever may not ask is told that it is there.
+    const bool runs = WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+    CloseHandle(process);
+    return runs;
+}
+
+bool openFilesCanBeReplaced()
+{
+    return false;
+}
+
 } // namespace quelvarn::tools

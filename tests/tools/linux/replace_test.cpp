@@ -1,0 +1,179 @@
+// What becomes of a register when the one that is to replace it is stopped in between.
+
+#include "database/create.h"
+#include "database/engine.h"
+#include "database/exclusive_file.h"
+#include "database/faults.h"
+#include "tools/import_fixture.h"
+
+#include <csignal>
+#include <fmt/format.h>
+#include <sqlite3.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+bool killedAtRename = false;
+
+} // namespace
+
+// Takes the place of the system's own in this program.
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    if (killedAtRename)
+        raise(SIGKILL);
+    return static_cast<int>(syscall(SYS_rename, from, to));
+}
+
+namespace quelvarn::test {
+namespace {
+
+constexpr int NOBODY = 999'999'999; // Beyond the numbers of processes.
+
+template <typename Work> int inAProcessOfItsOwn(const Work& work)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        work();
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+}
+
+class Replacing : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(rufe({"sample", target(), "--documents", "500"}).ergebnis, tools::GUT);
+        documents_ = documents();
+    }
+
+    std::string target() const { return pfad(file_); }
+    std::string documents() const { return rufe({"query", target(), "Select * From PartTabelle"}).aus; }
+    std::filesystem::path beside(const std::string& suffix) const { return std::filesystem::path(file_) += suffix; }
+
+    // A program that is killed while it writes: half of it stands in the file, the way back in the journal.
+    void letAWriterBreakDown() const
+    {
+        const std::string before = lies(file_);
+        inAProcessOfItsOwn([&] {
+            sqlite3* database = nullptr;
+            sqlite3_open(file_.c_str(), &database);
+            sqlite3_exec(database,
+                         "PRAGMA cache_size=5; BEGIN; UPDATE PartTabelle SET Stichwoerter = hex(randomblob(200))",
+                         nullptr, nullptr, nullptr);
+            raise(SIGKILL);
+        });
+        ASSERT_GT(std::filesystem::file_size(beside("-journal")), 1000U);
+        ASSERT_NE(lies(file_), before);
+    }
+
+    TempFolder folder_;
+    std::filesystem::path file_ = folder_ / "register.qv";
+    std::string documents_;
+};
+
+TEST_F(Replacing, LosesNothingOfARegisterWhoseWriterBrokeDownWhereverItIsKilled)
+{
+    letAWriterBreakDown();
+    const int signal = inAProcessOfItsOwn([&] {
+        killedAtRename = true;
+        rufe({"create", target(), "--ersetzen"});
+    });
+    ASSERT_EQ(signal, SIGKILL);
+    EXPECT_EQ(eintraege(folder_.path()), 2U) << "what was begun is still there";
+    EXPECT_EQ(documents(), documents_);
+    EXPECT_EQ(rufe({"check", target()}).ergebnis, tools::GUT);
+
+    letAWriterBreakDown();
+    ASSERT_EQ(rufe({"create", target(), "--ersetzen"}).ergebnis, tools::GUT);
+    EXPECT_EQ(eintraege(folder_.path()), 1U) << "neither the journal nor the draft of the killed run is left";
+    EXPECT_EQ(rufe({"check", target(), "--streng"}).ergebnis, tools::GUT);
+}
+
+TEST_F(Replacing, LeavesTheWayBackToARegisterThatIsNotReplacedAfterAll)
+{
+    letAWriterBreakDown();
+    schreibe(folder_ / "quelle.mdb", lies(PROBE).substr(0, 1930 * 4096)); // Only pages of the last tables are missing.
+    ASSERT_EQ(rufe({"import", pfad(folder_ / "quelle.mdb"), target(), "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
+    EXPECT_EQ(documents(), documents_);
+}
+
+TEST_F(Replacing, FollowsALinkToTheRegisterBehindIt)
+{
+    std::filesystem::create_directory(folder_ / "hier");
+    const auto link = folder_ / "hier/verweis.qv";
+    std::filesystem::create_symlink("../zweiter.qv", link);
+    std::filesystem::create_symlink("register.qv", folder_ / "zweiter.qv");
+    letAWriterBreakDown();
+    ASSERT_EQ(rufe({"create", pfad(link), "--ersetzen"}).ergebnis, tools::GUT);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(rufe({"query", target(), "Select Count(*) From PartTabelle"}).aus, "Anzahl\n0\n");
+    std::filesystem::remove(file_);
+    ASSERT_EQ(rufe({"create", pfad(link)}).ergebnis, tools::GUT) << "a link to nothing yet";
+    EXPECT_TRUE(std::filesystem::is_regular_file(file_));
+    EXPECT_EQ(eintraege(folder_ / "hier"), 1U);
+    EXPECT_EQ(eintraege(folder_.path()), 3U);
+}
+
+TEST_F(Replacing, RemovesWhatKilledRunsLeftAndNothingElse)
+{
+    const std::string left[] = {fmt::format(".neu-{}", NOBODY), fmt::format(".neu-{}-journal", NOBODY),
+                                fmt::format(".neu-{}-journal", NOBODY - 1), fmt::format(".neu-{}", getpid())};
+    const std::string others[] = {
+        fmt::format(".neu-{}", getppid()),    ".neu-", ".neu-7x", ".neu--7", "2.neu-999999999",
+        fmt::format(".neu-{}.sicher", NOBODY)};
+    for (const std::string& name : left)
+        schreibe(beside(name), "angefangen");
+    for (const std::string& name : others)
+        schreibe(beside(name), "fremd");
+    // Made by a process of another computer, which has the file open.
+    const std::string elsewhere = fmt::format(".neu-{}", NOBODY - 2);
+    const auto writer = oeffneSqlite(beside(elsewhere), true);
+    writer->beginne();
+    writer->legeTabelleAn({"Tafel", {{"Wort", FeldTyp::Text}}, {}});
+    ASSERT_EQ(rufe({"create", target(), "--ersetzen"}).ergebnis, tools::GUT);
+    for (const std::string& name : left)
+        EXPECT_FALSE(std::filesystem::exists(beside(name))) << name;
+    for (const std::string& name : others)
+        EXPECT_EQ(lies(beside(name)), "fremd") << name;
+    writer->schliesseAb();
+    EXPECT_EQ(writer->tabellen().size(), 1U);
+}
+
+TEST_F(Replacing, WaitsForOthersAndKeepsThemOut)
+{
+    using namespace std::chrono_literals;
+    const auto kindOf = [&](const std::filesystem::path& file) {
+        try {
+            const ExclusiveFile held(file, 20ms);
+        } catch (const DatabaseFault& fault) {
+            return fault.kind();
+        }
+        return FaultKind::Other;
+    };
+    {
+        const auto other = oeffneSqlite(file_, false);
+        sql::Select all;
+        all.tabelle = "PartTabelle";
+        const auto rows = other->lese(all, MitSchluessel::Nein);
+        ASSERT_TRUE(rows->next());
+        EXPECT_EQ(kindOf(file_), FaultKind::Locked) << "while another one reads";
+    }
+    {
+        const ExclusiveFile held(file_, 20ms);
+        EXPECT_EQ(kindOf(file_), FaultKind::Locked) << "while another one replaces it";
+    }
+    schreibe(folder_ / "unsinn.qv", std::string("SQLite format 3\0", 16) + std::string(5000, 'x'));
+    EXPECT_EQ(kindOf(folder_ / "unsinn.qv"), FaultKind::Damaged);
+    EXPECT_EQ(rufe({"create", pfad(folder_ / "unsinn.qv"), "--ersetzen"}).ergebnis, tools::GUT);
+    EXPECT_EQ(rufe({"check", pfad(folder_ / "unsinn.qv"), "--streng"}).ergebnis, tools::GUT);
+}
+
+} // namespace
+} // namespace quelvarn::test
