@@ -51,6 +51,13 @@ struct EngineFaehigkeiten
 
 enum class MitSchluessel { Nein, Ja };
 
+// What an engine's own check of the database says.
+struct DamageReport
+{
+    bool checked = false;              // Not every engine, and not every server, has one.
+    std::vector<std::string> findings; // In the engine's own words.
+};
+
 // What a database must be able to do. It takes trees, never text of its own dialect, and hides its driver.
 // Every call throws Laufzeitfehler with the driver's text on a fault.
 class Engine
@@ -91,6 +98,9 @@ public:
     virtual std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) = 0;
     // With its rows and indexes. Nothing happens when there is no such table.
     virtual void entferneTabelle(std::string_view name) = 0;
+    // Looks for damage in the stored pages and indexes, which takes as long as reading all of them. Whoever writes
+    // may have to wait meanwhile. After `limit` findings it ends.
+    virtual DamageReport findDamage(std::size_t /*limit*/) { return {}; }
     // Bulk insert: values in the order of the columns.
     class Massenschreiber
     {

@@ -8,6 +8,7 @@
 #include "database/postgresql/ddl.h"
 #include "database/postgresql/functions.h"
 #include "database/postgresql/handle.h"
+#include "database/postgresql/integrity.h"
 #include "database/postgresql/reader.h"
 #include "database/postgresql/text_values.h"
 #include "database/sql/renderer.h"
@@ -221,6 +222,11 @@ void PostgresEngine::legeFunktionenAn()
     const Ergebnis schema = handle_->lies("SELECT current_schema()");
     handle_->fuehreAus(funktionenAnlegen(zelle(schema, 0, 0)));
     funktionenAngelegt_ = true;
+}
+
+DamageReport PostgresEngine::findDamage(std::size_t limit)
+{
+    return postgresql::findDamage(*handle_, limit);
 }
 
 std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::string_view tabelle,

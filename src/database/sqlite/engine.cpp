@@ -6,6 +6,7 @@
 #include "database/sqlite/ddl.h"
 #include "database/sqlite/faults.h"
 #include "database/sqlite/handle.h"
+#include "database/sqlite/integrity.h"
 #include "database/sqlite/reader.h"
 #include "database/sqlite/statement.h"
 
@@ -236,6 +237,11 @@ void SqliteEngine::entferneTabelle(std::string_view name)
 {
     handle_->fuehreAus("DROP TABLE IF EXISTS " + sql::Dialekt::bezeichner(name));
     katalog_.vergiss();
+}
+
+DamageReport SqliteEngine::findDamage(std::size_t limit)
+{
+    return sqlite::findDamage(*handle_, limit);
 }
 
 std::unique_ptr<Engine::Massenschreiber> SqliteEngine::massenschreiber(std::string_view tabelle,

@@ -45,6 +45,7 @@ public:
     void legeIndexeAn(const Tabellenschema& tabelle) override;
     std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) override;
     void entferneTabelle(std::string_view name) override;
+    DamageReport findDamage(std::size_t limit) override;
     std::unique_ptr<Engine::Massenschreiber> massenschreiber(std::string_view tabelle,
                                                              std::span<const Spalte> spalten) override;
 

@@ -2,6 +2,7 @@
 
 #include "base/collation.h"
 #include "base/number_format.h"
+#include "base/text.h"
 #include "tools/check/table_rows.h"
 
 #include <algorithm>
@@ -24,6 +25,28 @@ void Befund::warnung(std::string_view text)
 void Befund::zeile(std::string_view text)
 {
     aus_ << text << '\n';
+}
+
+bool endsCheck(const Laufzeitfehler& fault)
+{
+    const auto* database = dynamic_cast<const DatabaseFault*>(&fault);
+    if (!database)
+        return false;
+    switch (database->kind()) {
+    case FaultKind::ConnectionLost:
+    case FaultKind::Locked:
+    case FaultKind::GivenUp:
+    case FaultKind::FileGone:
+    case FaultKind::FileReplaced:
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::string oneLine(std::string_view text)
+{
+    return join(split(text, '\n'), " ");
 }
 
 std::string Vorkommen::text(std::string_view was) const

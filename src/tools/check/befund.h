@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/runtime_error.h"
 #include "database/engine.h"
+#include "database/faults.h"
 
 #include <cstdint>
 #include <ostream>
@@ -27,6 +29,23 @@ private:
     std::uint64_t fehler_ = 0;
     std::uint64_t warnungen_ = 0;
 };
+
+// Whether no further part of a check can succeed.
+bool endsCheck(const Laufzeitfehler& fault);
+// A text of several lines as one.
+std::string oneLine(std::string_view text);
+
+// A part of a check. What a damaged database does not give is a finding; the other parts go on.
+template <typename Work> void attempt(std::string_view what, Befund& befund, const Work& work)
+{
+    try {
+        work();
+    } catch (const Laufzeitfehler& fault) {
+        if (endsCheck(fault))
+            throw;
+        befund.fehler(std::string(what) + ": nicht zu lesen: " + oneLine(fault.what()));
+    }
+}
 
 // Counts the rows with one fault and remembers the first of them.
 class Vorkommen

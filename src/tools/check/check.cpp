@@ -13,8 +13,9 @@ constexpr std::array SCHALTER{Schalter{"--files"}, Schalter{"--reparieren"}, Sch
 
 constexpr std::string_view HILFE = R"(Aufruf: qvadmin check ZIEL [--files] [--reparieren] [--streng]
 
-Prüft ein Register: Tabellen, Spalten und Indexe, Dokumente ohne Schlüssel, mit falschem Status oder doppelt,
-Verweise auf Dokumente, die es nicht gibt, und Einstellungen, die ein Start bemängelt oder ersetzt.
+Prüft ein Register: ob die Datenbank beschädigt ist, Tabellen, Spalten und Indexe, Dokumente ohne Schlüssel, mit
+falschem Status oder doppelt, Verweise auf Dokumente, die es nicht gibt, und Einstellungen, die ein Start bemängelt
+oder ersetzt. Solange ihre Seiten geprüft werden, warten in einer SQLite-Datei alle, die schreiben.
 
   --files        sucht auch die Dateien der Dokumente auf den Laufwerken dieses Rechners
   --reparieren   baut fehlende Indexe
@@ -32,12 +33,18 @@ int check(const Argumente& argumente, Konsole& konsole)
     {
         Verlaufsanzeige anzeige(konsole);
         Dokumentschluessel schluessel;
-        pruefeSchema(engine, argumente.gesetzt("--reparieren") ? Indexe::Bauen : Indexe::Pruefen, befund);
-        pruefeDokumente(engine, befund, anzeige, schluessel);
-        pruefeVerbindungen(engine, befund, anzeige, schluessel);
-        pruefeIni(engine, befund);
+        const auto part = [&](std::string_view what, const auto& work) { attempt(what, befund, work); };
+        anzeige.schritt("Seiten und Indexe", 0, 0);
+        part("Seiten und Indexe", [&] { checkPages(engine, befund); });
+        part("Der Aufbau", [&] {
+            pruefeSchema(engine, argumente.gesetzt("--reparieren") ? Indexe::Bauen : Indexe::Pruefen, befund);
+        });
+        checkCells(engine, befund, anzeige);
+        part("Die Dokumente", [&] { pruefeDokumente(engine, befund, anzeige, schluessel); });
+        part("Die Verbindungen", [&] { pruefeVerbindungen(engine, befund, anzeige, schluessel); });
+        part("Die Tabelle Ini", [&] { pruefeIni(engine, befund); });
         if (argumente.gesetzt("--files"))
-            pruefeDateien(engine, befund, anzeige);
+            part("Die Dateinamen", [&] { pruefeDateien(engine, befund, anzeige); });
     }
     konsole.aus << fmt::format("{} Fehler, {} Warnungen\n", befund.anzahlFehler(), befund.anzahlWarnungen());
     const bool gut = befund.anzahlFehler() == 0 && (befund.anzahlWarnungen() == 0 || !argumente.gesetzt("--streng"));

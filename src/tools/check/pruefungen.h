@@ -12,6 +12,10 @@ namespace quelvarn::tools {
 
 enum class Indexe { Pruefen, Bauen };
 
+// Pages and indexes, as far as the engine checks them itself.
+void checkPages(Engine& engine, Befund& befund);
+// Every cell of the register's tables can be read and is what its column says.
+void checkCells(Engine& engine, Befund& befund, Verlaufsanzeige& anzeige);
 // Tables, columns, their types, and indexes. Missing indexes are built when wanted.
 void pruefeSchema(Engine& engine, Indexe indexe, Befund& befund);
 

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "database/engine.h"
+
+namespace quelvarn::sqlite {
+
+class Handle;
+
+DamageReport findDamage(Handle& handle, std::size_t limit);
+
+} // namespace quelvarn::sqlite
