@@ -8,7 +8,7 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::size_t AT_MOST = 1000; // findings
+constexpr std::size_t AT_MOST = 200; // findings
 
 // What the engine says of an index or of free pages stands for itself; all the rest is one thing to a person.
 std::string kindOf(std::string_view finding)
