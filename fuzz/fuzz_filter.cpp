@@ -1,6 +1,6 @@
 // Any text as a recordset filter: it is refused, or it is one condition that reads the same when written out again.
-// The same text, line by line, as values that a person chose for filter steps: the run is refused, or each value is
-// compared with its own column and nothing else is, in the filter as in a query built on it.
+// The same text, line by line, as values that a person chose for filter steps: each value is compared with its own
+// column and nothing else is, in the text of the filter as in its conditions.
 #include "base/runtime_error.h"
 #include "database/sql/access_text.h"
 #include "database/sql/parser.h"
@@ -45,7 +45,7 @@ void verlangeVergleich(const sql::Ausdruck& ausdruck, const FilterSchritt& schri
 {
     const auto* vergleich = std::get_if<sql::Bedingung>(&ausdruck.inhalt);
     verlange(vergleich && vergleich->spalte == schritt.Feldname && vergleich->vergleich == sql::Vergleich::Like &&
-             std::get<std::string>(vergleich->wert) == schritt.Wert);
+             vergleich->wildcards == Wildcards::Star && std::get<std::string>(vergleich->wert) == schritt.Wert);
 }
 
 void verlangeSchritte(const sql::Ausdruck& ausdruck, const Filterzustand& zustand, std::size_t davor,
@@ -66,14 +66,16 @@ void laufeSchritte(std::string_view text)
     if (zustand.FilterAnzahl == 0)
         return;
     const auto kette = bildeKette(zustand, schrittfragment);
-    verlangeGemeintes(kette.back().filterform, kette.back().gemeint);
-    const std::string& filter = kette.back().filterform;
-    verlangeSchritte(*sql::parseBedingung(filter), zustand, 0, 0);
-    verlangeSchritte(*sql::parseBedingung(" ( Status >= 1  AND Status <= 3) AND " + filter), zustand, 1, 0);
-    const auto select = sql::parseAnweisung(
-        "SELECT DISTINCT Firma FROM PartTabelle WHERE Firma NOT LIKE '' AND Firma NOT LIKE ' ' And " + filter +
-        " AND ( Status >= 1  AND Status <= 3)");
-    verlangeSchritte(*std::get<sql::Select>(select).where, zustand, 2, 1);
+    const std::string& filter = kette.back().sqlform;
+    verlangeSchritte(*filterCondition(filter), zustand, 0, 0);
+    verlangeSchritte(*filterCondition(" ( Status >= 1  AND Status <= 3) AND " + filter), zustand, 1, 0);
+    verlangeSchritte(*filterCondition("Firma NOT LIKE '' AND Firma NOT LIKE ' ' And " + filter +
+                                      " AND ( Status >= 1  AND Status <= 3)"),
+                     zustand, 2, 1);
+    const auto& conditions = kette.back().conditions;
+    verlange(conditions.size() == static_cast<std::size_t>(zustand.FilterAnzahl));
+    for (std::size_t i = 0; i < conditions.size(); ++i)
+        verlangeVergleich(*conditions[i], zustand.FilterSchritte[i]);
 }
 
 void liesAlsFilter(std::string_view text)

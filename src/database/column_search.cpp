@@ -14,6 +14,7 @@ namespace {
 constexpr unsigned BLOCKBITS = 12;            // 4,096 texts are judged at once.
 constexpr std::size_t BLOECKE_FUER_ZWEI = 16; // From this many blocks on two threads judge them.
 constexpr std::size_t FENSTER = 128;
+constexpr std::size_t LONGEST_SOUGHT = 64; // bytes; a longer text is looked for in each text by itself
 
 // Marks the places of a window where a text may begin, going by three of its bytes. False when there is none. The
 // fixed length lets the compiler use vector instructions.
@@ -54,7 +55,8 @@ protected:
     {
         const auto& gefaltet = texte().gefaltet();
         const bool vorn = muster_.shape() == LikePattern::Shape::Exact || muster_.shape() == LikePattern::Shape::Prefix;
-        if (!vorn && !muster_.required().empty())
+        const std::string& required = muster_.required();
+        if (!vorn && !required.empty() && required.size() <= LONGEST_SOUGHT)
             bewerteFundstellen(von, bis, urteil);
         else
             for (Textcode code = von; code < bis; ++code)
@@ -68,12 +70,13 @@ protected:
 private:
     bool trifft(std::string_view gefaltet) const
     {
-        const std::string& text = muster_.literal();
         switch (muster_.shape()) {
         case LikePattern::Shape::Exact:
-            return gefaltet == text;
-        case LikePattern::Shape::Prefix:
+            return gefaltet == muster_.literal();
+        case LikePattern::Shape::Prefix: {
+            const std::string& text = muster_.literal();
             return gefaltet.size() >= text.size() && std::memcmp(gefaltet.data(), text.data(), text.size()) == 0;
+        }
         case LikePattern::Shape::Contains:
         case LikePattern::Shape::Other:
             break;
@@ -94,12 +97,10 @@ private:
                 return;
             while (anfaenge[code + 1] <= stelle)
                 ++code;
-            if (stelle + text.size() > anfaenge[code + 1]) {
-                ++stelle; // It runs over the end of the text.
-                continue;
-            }
-            urteil[code] =
-                muster_.shape() == LikePattern::Shape::Contains || muster_.matchesFolded(texte().gefalteterText(code));
+            // What runs over the end of the text does so from each later place as well.
+            if (stelle + text.size() <= anfaenge[code + 1])
+                urteil[code] = muster_.shape() == LikePattern::Shape::Contains ||
+                               muster_.matchesFolded(texte().gefalteterText(code));
             stelle = anfaenge[code + 1];
         }
     }

@@ -143,22 +143,22 @@ std::unique_ptr<Auswahl> kommazahlvergleich(const NumberColumn<double>& spalte, 
     return zahlauswahl(spalte, vergleich, alsZahl(literal));
 }
 
-std::unique_ptr<Auswahl> baueLike(const Column& spalte, const sql::Bedingung& bedingung, Wildcards platzhalter)
+std::unique_ptr<Auswahl> baueLike(const Column& spalte, const sql::Bedingung& bedingung)
 {
     const bool verneint = bedingung.vergleich == Vergleich::NotLike;
     const std::string muster = alsText(bedingung.wert);
     if (spalte.typ() == FeldTyp::Text)
         return std::make_unique<Textauswahl>(
-            likeTreffer(static_cast<const TextColumn&>(spalte), muster, platzhalter, verneint));
-    return likeUeberText(spalte, LikePattern(muster, platzhalter), verneint);
+            likeTreffer(static_cast<const TextColumn&>(spalte), muster, bedingung.wildcards, verneint));
+    return likeUeberText(spalte, LikePattern(muster, bedingung.wildcards), verneint);
 }
 
 } // namespace
 
-std::unique_ptr<Auswahl> baueVergleich(const Column& spalte, const sql::Bedingung& bedingung, Wildcards platzhalter)
+std::unique_ptr<Auswahl> baueVergleich(const Column& spalte, const sql::Bedingung& bedingung)
 {
     if (bedingung.vergleich == Vergleich::Like || bedingung.vergleich == Vergleich::NotLike)
-        return baueLike(spalte, bedingung, platzhalter);
+        return baueLike(spalte, bedingung);
     const auto literal = istNull(bedingung.wert) ? std::nullopt : sql::vergleichswert(bedingung.wert, spalte.typ());
     if (!literal)
         return zellauswahl([](Zeilennummer) { return false; });

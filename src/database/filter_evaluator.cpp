@@ -71,7 +71,7 @@ private:
 class Bau
 {
 public:
-    Bau(const Spaltensuche& spalten, Wildcards platzhalter) : spalten_(spalten), platzhalter_(platzhalter) {}
+    explicit Bau(const Spaltensuche& spalten) : spalten_(spalten) {}
 
     std::unique_ptr<Auswahl> baue(const sql::Ausdruck& ausdruck, bool verneint) const
     {
@@ -82,7 +82,8 @@ private:
     std::unique_ptr<Auswahl> baue(const sql::Bedingung& bedingung, bool verneint) const
     {
         const sql::Vergleich vergleich = verneint ? gegenteil(bedingung.vergleich) : bedingung.vergleich;
-        return baueVergleich(spalten_(bedingung.spalte), {bedingung.spalte, vergleich, bedingung.wert}, platzhalter_);
+        return baueVergleich(spalten_(bedingung.spalte),
+                             {bedingung.spalte, vergleich, bedingung.wert, bedingung.wildcards});
     }
     std::unique_ptr<Auswahl> baue(const sql::IstNull& pruefung, bool verneint) const
     {
@@ -109,7 +110,6 @@ private:
     }
 
     const Spaltensuche& spalten_;
-    Wildcards platzhalter_;
 };
 
 // Hands every column name of the condition to `nimm`.
@@ -130,9 +130,9 @@ template <class Nehmer> void besuche(const sql::Ausdruck& ausdruck, const Nehmer
 
 } // namespace
 
-std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten, Wildcards platzhalter)
+std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten)
 {
-    return Bau(spalten, platzhalter).baue(ausdruck, false);
+    return Bau(spalten).baue(ausdruck, false);
 }
 
 std::vector<std::string> genannteSpalten(const sql::Ausdruck& ausdruck)

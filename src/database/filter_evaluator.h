@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/like_pattern.h"
 #include "database/column.h"
 #include "database/sql/ast.h"
 
@@ -28,7 +27,7 @@ using Spaltensuche = std::function<const Column&(std::string_view name)>;
 
 // The columns must outlive the result and not change. A literal is taken as the type of its column; where that
 // cannot be, the comparison is never met, nor is its opposite.
-std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten, Wildcards platzhalter);
+std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten);
 
 // Every column that the condition names, each once.
 std::vector<std::string> genannteSpalten(const sql::Ausdruck& ausdruck);

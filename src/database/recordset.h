@@ -30,6 +30,15 @@ using Bookmark = std::uint32_t;
 // it was.
 using Fortschritt = std::function<bool(std::size_t, std::size_t)>;
 
+using SharedCondition = std::shared_ptr<const sql::Ausdruck>;
+
+// What a recordset is narrowed to: rows that meet every condition. The text stands for it where it is shown or compared.
+struct RowFilter
+{
+    std::string text;
+    std::vector<SharedCondition> conditions = {};
+};
+
 // A client-side cursor over columns. Opening a large result reads the keys of its rows and the columns of the
 // sort order; every other column is read when first asked for. RecordCount is that of the opening; rows that
 // vanished since read as empty. Also a recordset in memory, with fields of its own.
@@ -82,16 +91,18 @@ public:
     void Delete();      // Afterwards the current row is the next one.
     void UpdateBatch(); // All waiting changes, in one transaction.
 
-    // A recordset filter expression (day first, '*'), "" for none. Moves to the first row left. A bad expression
-    // throws Laufzeitfehler and leaves the old filter.
+    // A recordset filter expression (day first, '*' as the only wildcard), "" for none. Moves to the first row left.
+    // A bad expression throws Laufzeitfehler and leaves the old filter.
     void Filter(std::string_view ausdruck, const Fortschritt& fortschritt = {});
-    const std::string& filterText() const;
+    void Filter(RowFilter filter, const Fortschritt& fortschritt = {});
+    const RowFilter& filter() const;
+    const std::string& filterText() const { return filter().text; }
     // "Feld [ASC|DESC], ...", "" for the order of opening.
     void Sort(std::string_view ausdruck);
     // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `ueberspringe` rows behind the
     // current one, or at the first row of all (going backwards: the last) when `vonAnfang`; at Eof (Bof going
-    // backwards) when there is none. '*' is a plain character here. False, and nothing moves, when reading a column
-    // for it was given up.
+    // backwards) when there is none. '%' is the only wildcard. False, and nothing moves, when reading a column for it
+    // was given up.
     bool Find(std::string_view kriterium, std::size_t ueberspringe = 0, Suchrichtung richtung = Suchrichtung::Vorwaerts,
               bool vonAnfang = false, const Fortschritt& fortschritt = {});
 
@@ -110,6 +121,7 @@ public:
     // What occurs in the rows of the opening. Filter, order and place stay as they are.
     // The rows that meet a condition as it stands behind WHERE (month first), "" for all. Nothing when given up.
     std::optional<std::vector<Bookmark>> waehle(std::string_view bedingung, const Fortschritt& fortschritt = {});
+    std::optional<std::vector<Bookmark>> waehle(const RowFilter& filter, const Fortschritt& fortschritt = {});
     // The distinct texts of a column in these rows, sorted; no Null, and only those that `gilt` accepts. Of texts that
     // differ in case or trailing blanks alone, the spelling stored first.
     std::vector<std::string> verschiedeneTexte(std::string_view feld, std::span<const Bookmark> zeilen,

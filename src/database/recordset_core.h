@@ -61,9 +61,11 @@ struct Recordset::Kern
     void zeigeAlle();
     void zeige(std::vector<Zeilennummer> gefundene);
     // Over columns in memory.
-    std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck, Wildcards platzhalter) const;
+    std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck) const;
+    // All rows that meet the filter, in the present order; nothing when the progress was given up.
+    std::optional<std::vector<Zeilennummer>> choose(const RowFilter& filter, const Fortschritt& fortschritt);
     // False when the progress was given up.
-    bool ladeGenannte(const sql::Ausdruck& ausdruck, const Fortschritt& fortschritt);
+    bool ladeGenannte(std::span<const SharedCondition> conditions, const Fortschritt& fortschritt);
     // The first row of the view, from `ab` on, that is chosen.
     std::optional<std::ptrdiff_t> findePosition(Auswahl& auswahl, std::ptrdiff_t ab, bool vorwaerts) const;
 
@@ -74,7 +76,7 @@ struct Recordset::Kern
     std::ptrdiff_t position = 0; // -1: Bof; behind the last one: Eof
     mutable Zellenpuffer puffer;
 
-    std::string filterText;
+    RowFilter filter;
     std::vector<Zeilennummer> geloescht; // ascending
     bool sortiert = false;
     std::vector<Zeilennummer> ordnung; // All rows not deleted, when sorted.

@@ -20,25 +20,30 @@ constexpr std::ptrdiff_t FRAGE_AB_SCHRITT = 16 * ERSTER_SCHRITT;
 
 void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt)
 {
-    Kern& kern = *kern_;
-    kern.beendeBearbeitung();
-    const sql::AusdruckZeiger bedingung = sql::parseBedingung(ausdruck);
-    if (!bedingung) {
-        kern.zeigeAlle();
-    } else {
-        if (!kern.ladeGenannte(*bedingung, fortschritt))
-            return;
-        const auto auswahl = kern.baueAuswahlVon(*bedingung, Wildcards::Filter);
-        auto gefundene = kern.alleZeilen();
-        auswahl->behalte(gefundene);
-        kern.zeige(std::move(gefundene));
-    }
-    kern.filterText = ausdruck;
+    RowFilter filter{std::string(ausdruck), {}};
+    if (SharedCondition condition = sql::parseBedingung(ausdruck, sql::Datumsfolge::TagZuerst, Wildcards::Star))
+        filter.conditions.push_back(std::move(condition));
+    Filter(std::move(filter), fortschritt);
 }
 
-const std::string& Recordset::filterText() const
+void Recordset::Filter(RowFilter filter, const Fortschritt& fortschritt)
 {
-    return kern_->filterText;
+    Kern& kern = *kern_;
+    kern.beendeBearbeitung();
+    if (filter.conditions.empty()) {
+        kern.zeigeAlle();
+    } else {
+        auto gefundene = kern.choose(filter, fortschritt);
+        if (!gefundene)
+            return;
+        kern.zeige(std::move(*gefundene));
+    }
+    kern.filter = std::move(filter);
+}
+
+const RowFilter& Recordset::filter() const
+{
+    return kern_->filter;
 }
 
 void Recordset::Sort(std::string_view ausdruck)
@@ -79,12 +84,13 @@ bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchr
 {
     Kern& kern = *kern_;
     kern.beendeBearbeitung();
-    const sql::AusdruckZeiger bedingung = sql::parseBedingung(kriterium);
+    const SharedCondition bedingung =
+        sql::parseBedingung(kriterium, sql::Datumsfolge::TagZuerst, Wildcards::Percent);
     if (!bedingung)
         throw recordsetFehler(3001, "Das Suchkriterium ist leer.");
-    if (!kern.ladeGenannte(*bedingung, fortschritt))
+    if (!kern.ladeGenannte({&bedingung, 1}, fortschritt))
         return false;
-    const auto auswahl = kern.baueAuswahlVon(*bedingung, Wildcards::Sql);
+    const auto auswahl = kern.baueAuswahlVon(*bedingung);
 
     const bool vorwaerts = richtung == Suchrichtung::Vorwaerts;
     const auto anzahl = static_cast<std::ptrdiff_t>(kern.ansicht.anzahl());
@@ -147,18 +153,30 @@ void Recordset::Kern::zeige(std::vector<Zeilennummer> gefundene)
     puffer.leere();
 }
 
-std::unique_ptr<Auswahl> Recordset::Kern::baueAuswahlVon(const sql::Ausdruck& ausdruck, Wildcards platzhalter) const
+std::unique_ptr<Auswahl> Recordset::Kern::baueAuswahlVon(const sql::Ausdruck& ausdruck) const
 {
     return baueAuswahl(
-        ausdruck, [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); },
-        platzhalter);
+        ausdruck, [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); });
 }
 
-bool Recordset::Kern::ladeGenannte(const sql::Ausdruck& ausdruck, const Fortschritt& fortschritt)
+std::optional<std::vector<Zeilennummer>> Recordset::Kern::choose(const RowFilter& filter,
+                                                                 const Fortschritt& fortschritt)
+{
+    if (!ladeGenannte(filter.conditions, fortschritt))
+        return std::nullopt;
+    std::vector<Zeilennummer> chosen = alleZeilen();
+    for (const SharedCondition& condition : filter.conditions)
+        baueAuswahlVon(*condition)->behalte(chosen);
+    return chosen;
+}
+
+bool Recordset::Kern::ladeGenannte(std::span<const SharedCondition> conditions, const Fortschritt& fortschritt)
 {
     std::vector<std::size_t> felder;
-    for (const std::string& name : genannteSpalten(ausdruck))
-        felder.push_back(zeilen.feldVon(name));
+    for (const SharedCondition& condition : conditions)
+        for (const std::string& name : genannteSpalten(*condition))
+            if (const std::size_t feld = zeilen.feldVon(name); std::ranges::find(felder, feld) == felder.end())
+                felder.push_back(feld);
     return zeilen.lade(felder, fortschritt);
 }
 

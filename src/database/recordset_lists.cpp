@@ -38,15 +38,16 @@ std::vector<Zeilennummer> ersteZeilen(const TextColumn& spalte, const Zeilenspei
 
 std::optional<std::vector<Bookmark>> Recordset::waehle(std::string_view bedingung, const Fortschritt& fortschritt)
 {
-    Kern& kern = *kern_;
-    kern.verlangeOffen();
-    const sql::AusdruckZeiger ausdruck = sql::parseBedingung(bedingung, sql::Datumsfolge::MonatZuerst);
-    if (ausdruck && !kern.ladeGenannte(*ausdruck, fortschritt))
-        return std::nullopt;
-    std::vector<Bookmark> zeilen = kern.alleZeilen();
-    if (ausdruck)
-        kern.baueAuswahlVon(*ausdruck, Wildcards::Sql)->behalte(zeilen);
-    return zeilen;
+    RowFilter filter;
+    if (SharedCondition condition = sql::parseBedingung(bedingung, sql::Datumsfolge::MonatZuerst))
+        filter.conditions.push_back(std::move(condition));
+    return waehle(filter, fortschritt);
+}
+
+std::optional<std::vector<Bookmark>> Recordset::waehle(const RowFilter& filter, const Fortschritt& fortschritt)
+{
+    kern_->verlangeOffen();
+    return kern_->choose(filter, fortschritt);
 }
 
 std::vector<std::string> Recordset::verschiedeneTexte(std::string_view name, std::span<const Bookmark> zeilen,

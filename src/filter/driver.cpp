@@ -4,10 +4,23 @@
 namespace quelvarn {
 namespace {
 
+// The status condition alone is a filter of the properties.
+bool nothingChosen(const Filterkontext& kontext)
+{
+    const Filterzustand& zustand = kontext.zustand();
+    return zustand.FilterAnzahl == 0 && zustand.BenutzDefAnzahl == 0 && !zustand.HauptwertAktiv &&
+           (kontext.bereich != Filterbereich::Eigenschaften || kontext.filter.status.StatusFilter.empty());
+}
+
+void showAllRows(Filterkontext& kontext)
+{
+    vergissFilter(kontext.filter, kontext.tab);
+    kontext.FilterWerteTabelle.clear();
+    kontext.tabellen.filterAufheben(kontext.tab);
+}
+
 bool laufeStruktur(Filterkontext& kontext)
 {
-    if (kontext.zustand().FilterAnzahl == 0 && !kontext.zustand().HauptwertAktiv)
-        return false;
     return laufeOderWieVorher(kontext, [&] {
         return ApplyStructureFilter(kontext) && (!kontext.zustand().HauptwertAktiv || ApplyHauptwertFilter(kontext));
     });
@@ -30,6 +43,8 @@ bool laufe(Filterkontext& kontext)
 
 void FilterEigenMerkBenutzDef(Filterkontext& kontext)
 {
+    if (nothingChosen(kontext))
+        return showAllRows(kontext);
     if (!laufe(kontext))
         return;
     GefilterteTabelle& tabelle = kontext.tabelle();

@@ -24,8 +24,8 @@ void leereFilter(Filterzustand& zustand);
 void BuildStatusFilter(FilterState& filter, int tab);
 
 // --- runs; faults pass through and leave rows and filter as they were ---
-// The driver: runs the part of the page in front and shows what is left. Nothing changes when the run is given up or
-// nothing was chosen.
+// The driver: runs the part of the page in front and shows what is left. With nothing chosen the filter that was there
+// is lifted. Nothing changes when the run is given up.
 void FilterEigenMerkBenutzDef(Filterkontext& kontext);
 // Each false when nothing was applied: given up, nothing chosen, refused because all steps are filled, or a step that
 // cannot be told as a condition, which shows its own box.

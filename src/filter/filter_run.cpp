@@ -1,10 +1,12 @@
 #include "filter/filter_run.h"
 
+#include "database/sql/parser.h"
 #include "filter/execution.h"
 #include "platform/fortschritt.h"
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace quelvarn {
 
@@ -22,28 +24,37 @@ std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragment
         const Schrittfragment neu = fragment(zustand.FilterSchritte[static_cast<std::size_t>(nummer)], nummer);
         bisher.filterform = mitUnd(bisher.filterform, neu.filterform);
         bisher.sqlform = mitUnd(bisher.sqlform, neu.sqlform);
-        bisher.gemeint.insert(bisher.gemeint.end(), neu.gemeint.begin(), neu.gemeint.end());
+        if (neu.condition)
+            bisher.conditions.push_back(neu.condition);
         kette.push_back(bisher);
     }
     return kette;
 }
 
-bool setzeFilter(Filterkontext& kontext, const std::string& ausdruck)
+RowFilter Kettenglied::behind(std::string_view StatusFilter) const
+{
+    RowFilter filter{mitUnd(StatusFilter, filterform)};
+    if (SharedCondition status = sql::parseBedingung(StatusFilter))
+        filter.conditions.push_back(std::move(status));
+    filter.conditions.insert(filter.conditions.end(), conditions.begin(), conditions.end());
+    return filter;
+}
+
+bool setzeFilter(Filterkontext& kontext, RowFilter filter)
 {
     LangeArbeit arbeit(kontext.ports.fortschritt, "Die Tabelle wird gefiltert ...");
-    kontext.tabelle().tabelle.Filter(ausdruck, std::ref(arbeit));
+    kontext.tabelle().tabelle.Filter(std::move(filter), std::ref(arbeit));
     return !arbeit.aufgegeben();
 }
 
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view davor)
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view StatusFilter)
 {
     Filterzustand& zustand = kontext.zustand();
     const Recordset& zeilen = kontext.tabelle().tabelle;
     auto schritt = static_cast<int>(kette.size());
     for (;; --schritt) {
         const Kettenglied& glied = kette[static_cast<std::size_t>(schritt - 1)];
-        verlangeGemeintes(glied.filterform, glied.gemeint);
-        if (!setzeFilter(kontext, mitUnd(davor, glied.filterform)))
+        if (!setzeFilter(kontext, glied.behind(StatusFilter)))
             return false;
         zustand.FilterAnzahl = schritt;
         zustand.FilterString = glied.sqlform;
@@ -60,11 +71,11 @@ bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lau
 {
     const Filterzustand vorher = kontext.zustand();
     Recordset& tabelle = kontext.tabelle().tabelle;
-    const std::string filter = tabelle.filterText();
+    const RowFilter filter = tabelle.filter();
     const auto zeile = tabelle.Bof() || tabelle.Eof() ? std::nullopt : std::optional(tabelle.bookmark());
     const auto stelleZurueck = [&] {
         kontext.zustand() = vorher;
-        if (tabelle.filterText() != filter)
+        if (tabelle.filterText() != filter.text)
             tabelle.Filter(filter);
         if (zeile)
             tabelle.setzeBookmark(*zeile);

@@ -15,7 +15,10 @@ struct Kettenglied
 {
     std::string filterform;
     std::string sqlform;
-    std::vector<std::string> gemeint;
+    std::vector<SharedCondition> conditions = {};
+
+    // As a filter of the table, behind the status condition.
+    RowFilter behind(std::string_view StatusFilter) const;
 };
 
 // What a step makes of its cells.
@@ -25,11 +28,11 @@ using Fragmentbildner = std::function<Schrittfragment(const FilterSchritt& schri
 std::string mitUnd(std::string_view links, std::string_view rechts);
 // The steps up to FilterAnzahl, each joined with those before it.
 std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment);
-// Runs the last link; one that leaves no rows is told and the one before it runs. `davor` stands before each of
-// them. False when it was given up. Throws Laufzeitfehler where a value makes the text ambiguous.
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view davor);
+// Runs the last link; one that leaves no rows is told and the one before it runs. The status condition stands before
+// each of them. False when it was given up.
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view StatusFilter);
 // Assigns a filter to the table. False when it was given up; the table is then as it was.
-bool setzeFilter(Filterkontext& kontext, const std::string& ausdruck);
+bool setzeFilter(Filterkontext& kontext, RowFilter filter);
 // Runs `lauf`. When it is false or a fault ends it, the rows shown and the state of the filter are as before.
 bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lauf);
 

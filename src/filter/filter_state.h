@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/decimal.h"
 #include "database/document_types.h"
 
 #include <array>
@@ -49,9 +50,9 @@ struct Filterwert
 // Bounds of one main value; 0 in both: not filtered.
 struct Hauptwertgrenzen
 {
-    double MinWert = 0;
-    double MaxWert = 0;
-    bool gesetzt() const { return MinWert != 0 || MaxWert != 0; }
+    Decimal MinWert;
+    Decimal MaxWert;
+    bool gesetzt() const { return !MinWert.isZero() || !MaxWert.isZero(); }
     bool operator==(const Hauptwertgrenzen&) const = default;
 };
 

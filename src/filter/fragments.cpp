@@ -4,9 +4,8 @@
 #include "base/number_format.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "database/sql/access_text.h"
+#include "database/sql/conditions.h"
 #include "database/sql/parser.h"
-#include "database/sql/reader.h"
 
 #include <cmath>
 #include <fmt/format.h>
@@ -53,51 +52,49 @@ std::int64_t ganzzahl(std::string_view Wert)
     return static_cast<std::int64_t>(std::nearbyint(*zahl));
 }
 
-// The comparisons that AND joins.
-std::vector<std::string> vergleiche(std::string_view ausdruck)
+std::string_view nameColumn(std::string_view Feldname)
 {
-    const sql::AusdruckZeiger gelesen = sql::parseBedingung(ausdruck);
-    if (!gelesen)
-        return {};
-    const auto* und = std::get_if<sql::Und>(&gelesen->inhalt);
-    if (!und)
-        return {sql::alsAccessText(*gelesen)};
-    std::vector<std::string> texte;
-    for (const auto& teil : und->teile)
-        texte.push_back(sql::alsAccessText(*teil));
-    return texte;
+    return Feldname == "Dateiname" || Feldname == "filename" ? Feldname : "DokuBez";
 }
 
-Schrittfragment einVergleich(const std::string& fragment, std::string_view feld, sql::Vergleich vergleich, Value wert)
+std::string doubled(std::string_view Wert)
 {
-    if (fragment.empty())
-        return {};
-    const sql::Ausdruck gemeint{sql::Bedingung{std::string(feld), vergleich, std::move(wert)}};
-    return {fragment, fragment, {sql::alsAccessText(gemeint)}};
+    return replaceAll(Wert, "'", "''");
 }
 
-Schrittfragment dateifragment(const FilterSchritt& schritt, const std::string& fragment)
+// The text of a comparison with a pattern, and its condition; nothing for "".
+Schrittfragment textFragment(const std::string& text, std::string_view column, std::string_view pattern)
 {
-    const bool dateifeld = schritt.Feldname == "Dateiname" || schritt.Feldname == "filename";
-    return einVergleich(fragment, dateifeld ? schritt.Feldname : "DokuBez", sql::Vergleich::Like, schritt.Wert);
+    return text.empty() ? Schrittfragment{}
+                        : Schrittfragment{text, text, sql::like(column, pattern, Wildcards::Star)};
 }
 
 Schrittfragment zahlfragment(const FilterSchritt& schritt)
 {
-    return einVergleich(NumberFragment(schritt.Feldname, schritt.Wert), schritt.Feldname, sql::Vergleich::Gleich,
-                        ganzzahl(schritt.Wert));
+    const std::string text = NumberFragment(schritt.Feldname, schritt.Wert);
+    return {text, text, sql::equal(schritt.Feldname, ganzzahl(schritt.Wert))};
 }
 
 Schrittfragment datumsfragmente(const std::string& filterform, const std::string& sqlform)
 {
-    return {filterform, sqlform, vergleiche(filterform)};
+    return {filterform, sqlform, sql::parseBedingung(filterform)};
+}
+
+sql::AusdruckZeiger limit(const std::string& column, sql::Vergleich comparison, double value)
+{
+    return std::make_unique<sql::Ausdruck>(sql::Ausdruck{sql::Bedingung{column, comparison, value}});
+}
+
+std::string mainValueColumn(std::size_t number)
+{
+    return fmt::format("Hauptwert_{}", static_cast<char>('a' + number));
 }
 
 } // namespace
 
 std::string LikeFragment(std::string_view Feldname, std::string_view Wert)
 {
-    return fmt::format("{} Like '{}'", Feldname, Wert);
+    return fmt::format("{} Like '{}'", Feldname, doubled(Wert));
 }
 
 std::string NumberFragment(std::string_view Feldname, std::string_view Wert)
@@ -107,12 +104,12 @@ std::string NumberFragment(std::string_view Feldname, std::string_view Wert)
 
 std::string DateiFragment(std::string_view Feldname, std::string_view Wert)
 {
-    return NameLike(Feldname, Wert);
+    return NameLike(Feldname, doubled(Wert));
 }
 
 std::string DateiFragmentWennGefuellt(std::string_view Feldname, std::string_view Wert)
 {
-    return NameLikeNichtLeer(Feldname, Wert);
+    return NameLikeNichtLeer(Feldname, doubled(Wert));
 }
 
 std::string ErstelltFilterFragment(std::string_view Datum, int code)
@@ -137,17 +134,29 @@ std::string GeaendertSqlFragment(std::string_view Datum, int code)
 
 std::string HauptwertFragmente(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& grenzen, bool hinterFilter)
 {
-    const auto zahl = [](double wert) { return replaceAll(zahlAlsText(wert), ",", "."); };
+    const auto number = [](Decimal value) { return replaceAll(value.text(), ",", "."); };
     std::string text;
     for (std::size_t i = 0; i < grenzen.size(); ++i) {
         if (!grenzen[i].gesetzt())
             continue;
-        const char buchstabe = static_cast<char>('a' + i);
         text += hinterFilter || !text.empty() ? " AND " : "";
-        text += fmt::format("Hauptwert_{0} >= {1} AND Hauptwert_{0} <= {2}", buchstabe, zahl(grenzen[i].MinWert),
-                            zahl(grenzen[i].MaxWert));
+        text += fmt::format("{0} >= {1} AND {0} <= {2}", mainValueColumn(i), number(grenzen[i].MinWert),
+                            number(grenzen[i].MaxWert));
     }
     return text;
+}
+
+std::vector<sql::AusdruckZeiger> mainValueConditions(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& bounds)
+{
+    std::vector<sql::AusdruckZeiger> conditions;
+    for (std::size_t i = 0; i < bounds.size(); ++i) {
+        if (!bounds[i].gesetzt())
+            continue;
+        conditions.push_back(
+            limit(mainValueColumn(i), sql::Vergleich::GroesserGleich, bounds[i].MinWert.firstDouble()));
+        conditions.push_back(limit(mainValueColumn(i), sql::Vergleich::Kleiner, bounds[i].MaxWert.behindDoubles()));
+    }
+    return conditions;
 }
 
 Schrittfragment schrittfragment(const FilterSchritt& schritt, int nummer)
@@ -167,10 +176,12 @@ Schrittfragment schrittfragment(const FilterSchritt& schritt, int nummer)
     case CodeZahl:
         return zahlfragment(schritt);
     case CodeDatei:
-        return nummer == 0 ? dateifragment(schritt, DateiFragment(schritt.Feldname, wert)) : Schrittfragment{};
     case CodeDateiWennGefuellt:
-        return nummer == 0 ? dateifragment(schritt, DateiFragmentWennGefuellt(schritt.Feldname, wert))
-                           : Schrittfragment{};
+        if (nummer > 0)
+            return {};
+        return textFragment(schritt.code == CodeDatei ? DateiFragment(schritt.Feldname, wert)
+                                                      : DateiFragmentWennGefuellt(schritt.Feldname, wert),
+                            nameColumn(schritt.Feldname), wert);
     default:
         return {};
     }
@@ -180,16 +191,12 @@ Schrittfragment strukturfragment(const FilterSchritt& schritt)
 {
     if (schritt.Wert.empty())
         return {};
-    return einVergleich(LikeFragment(schritt.Feldname, schritt.Wert), schritt.Feldname, sql::Vergleich::Like,
-                        schritt.Wert);
+    return textFragment(LikeFragment(schritt.Feldname, schritt.Wert), schritt.Feldname, schritt.Wert);
 }
 
-void verlangeGemeintes(std::string_view ausdruck, const std::vector<std::string>& gemeint)
+sql::AusdruckZeiger filterCondition(std::string_view FilterString)
 {
-    if (vergleiche(ausdruck) != gemeint)
-        throw Laufzeitfehler(
-            sql::FEHLER_SYNTAX, "Filter",
-            fmt::format("Ein Hochkomma in den Filterwerten macht den Ausdruck mehrdeutig: {}", ausdruck));
+    return sql::parseBedingung(FilterString, Datumsfolge::MonatZuerst, Wildcards::Star);
 }
 
 } // namespace quelvarn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/recordset.h"
 #include "filter/filter_state.h"
 
 #include <array>
@@ -9,7 +10,8 @@
 
 namespace quelvarn {
 
-// Conditions as text. A value stands in them as it is: no quote is doubled, no wildcard added.
+// Conditions as text. A value stands in them as it is, no wildcard added; its apostrophes are doubled, so that the text
+// reads as it was meant, whatever the value holds. '*' is the only wildcard.
 std::string LikeFragment(std::string_view Feldname, std::string_view Wert);
 // The value as a whole number; throws Laufzeitfehler where it is none.
 std::string NumberFragment(std::string_view Feldname, std::string_view Wert);
@@ -25,21 +27,23 @@ std::string GeaendertSqlFragment(std::string_view Datum, int code);
 
 // The bounds of all main values that have some; " AND " in front where a filter stands before them.
 std::string HauptwertFragmente(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& grenzen, bool hinterFilter);
+// The same as conditions. A stored number counts as it reads with four places.
+std::vector<sql::AusdruckZeiger> mainValueConditions(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& bounds);
 
-// A step as a condition. Both texts empty: it applies nothing.
+// A step as a condition. Both texts empty and no condition: it applies nothing.
 struct Schrittfragment
 {
-    std::string filterform;           // Day first.
-    std::string sqlform;              // Month first.
-    std::vector<std::string> gemeint; // Each comparison that a reader of the text must find, written out clearly.
+    std::string filterform; // Day first.
+    std::string sqlform;    // Month first.
+    SharedCondition condition = {};
 };
 
 // The step of this number, counted from 0.
 Schrittfragment schrittfragment(const FilterSchritt& schritt, int nummer);
 // The same for the structure features, which know texts alone.
 Schrittfragment strukturfragment(const FilterSchritt& schritt);
-// Throws Laufzeitfehler when the text reads as anything but these comparisons joined with " AND ": an apostrophe in
-// a value must neither add a condition nor change one.
-void verlangeGemeintes(std::string_view ausdruck, const std::vector<std::string>& gemeint);
+// What a FilterString means, for a query or a list; null for "". Only this way do its values mean in a statement what
+// they mean in the filter of a recordset.
+sql::AusdruckZeiger filterCondition(std::string_view FilterString);
 
 } // namespace quelvarn

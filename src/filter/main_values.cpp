@@ -20,12 +20,24 @@ char buchstabe(int hauptwert)
     return HAUPTWERTE[static_cast<std::size_t>(hauptwert)];
 }
 
-Werteliste zahlenliste(std::vector<double> zahlen)
+// Numbers that count as the same one stand there once.
+Werteliste zahlenliste(const std::vector<double>& zahlen)
 {
-    std::erase(zahlen, 0.0);
-    std::vector<std::string> texte(zahlen.size());
-    std::ranges::transform(zahlen, texte.begin(), zahlAlsText);
+    std::vector<Decimal> values;
+    for (const double zahl : zahlen) {
+        const auto value = Decimal::from(zahl);
+        if (value && !value->isZero() && (values.empty() || values.back() != *value))
+            values.push_back(*value);
+    }
+    std::vector<std::string> texte(values.size());
+    std::ranges::transform(values, texte.begin(), &Decimal::text);
     return werteliste(std::move(texte));
+}
+
+std::optional<Decimal> decimalFrom(std::string_view text)
+{
+    const auto number = parseZahl(text);
+    return number ? Decimal::from(*number) : std::nullopt;
 }
 
 } // namespace
@@ -81,14 +93,16 @@ void Strukturbereich::hauptwertUebernehmen(std::string_view CbHW, std::string_vi
 {
     if (!SperreHauptwert_)
         return;
-    const auto wert = parseZahl(CbHW);
-    const auto band = trim(TextBB).empty() ? std::optional(0.0) : parseZahl(TextBB);
-    if (!wert || !band) {
+    const auto wert = decimalFrom(CbHW);
+    const auto band = trim(TextBB).empty() ? std::optional(Decimal()) : decimalFrom(TextBB);
+    const auto MinWert = wert && band ? wert->minus(*band) : std::nullopt;
+    const auto MaxWert = wert && band ? wert->plus(*band) : std::nullopt;
+    if (!MinWert || !MaxWert) {
         kontext_.ports.meldungen.warnung("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", wert ? TextBB : CbHW));
         return;
     }
     Filterzustand& zustand = kontext_.zustand();
-    zustand.HauptwertBereich[static_cast<std::size_t>(hauptwert_)] = {*wert - *band, *wert + *band};
+    zustand.HauptwertBereich[static_cast<std::size_t>(hauptwert_)] = {*MinWert, *MaxWert};
     zustand.HauptwertAktiv = true;
     SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
     kontext_.melde();
@@ -112,8 +126,8 @@ std::string Strukturbereich::hauptwertBand(int hauptwert) const
     if (!grenzen.gesetzt())
         return {};
     if (grenzen.MinWert == grenzen.MaxWert)
-        return zahlAlsText(grenzen.MinWert);
-    return fmt::format("{} - {}", zahlAlsText(grenzen.MinWert), zahlAlsText(grenzen.MaxWert));
+        return grenzen.MinWert.text();
+    return fmt::format("{} - {}", grenzen.MinWert.text(), grenzen.MaxWert.text());
 }
 
 } // namespace quelvarn

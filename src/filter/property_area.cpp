@@ -3,7 +3,9 @@
 #include "base/date_time.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "database/sql/parser.h"
 #include "filter/execution.h"
+#include "filter/fragments.h"
 #include "platform/fortschritt.h"
 
 #include <exception>
@@ -100,12 +102,13 @@ void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
     LangeArbeit arbeit(kontext_.ports.fortschritt, "Filterlisten werden gefüllt ...");
     if (!tabelle.ladeSpalten(spaltenDerListen(tabelle), std::ref(arbeit)))
         return;
-    // A run reads '*' where the database reads '%'.
-    const std::string bedingung = replaceAll(FilterString, "*", "%");
-    const std::string& StatusFilter = kontext_.filter.status.StatusFilter;
-    const std::string_view verbindung = bedingung.empty() || StatusFilter.empty() ? "" : " AND ";
-    fuelleStatus(tabelle, bedingung);
-    const auto zeilen = tabelle.waehle(bedingung + std::string(verbindung) + StatusFilter, std::ref(arbeit));
+    RowFilter filter;
+    if (SharedCondition condition = filterCondition(FilterString))
+        filter.conditions.push_back(std::move(condition));
+    fuelleStatus(tabelle, filter);
+    if (SharedCondition status = sql::parseBedingung(kontext_.filter.status.StatusFilter))
+        filter.conditions.push_back(std::move(status));
+    const auto zeilen = tabelle.waehle(filter, std::ref(arbeit));
     if (!zeilen)
         return;
     std::exception_ptr erster;
@@ -120,9 +123,9 @@ void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
         std::rethrow_exception(erster);
 }
 
-void Eigenschaftsbereich::fuelleStatus(Recordset& tabelle, std::string_view bedingung)
+void Eigenschaftsbereich::fuelleStatus(Recordset& tabelle, const RowFilter& filter)
 {
-    const auto zeilen = tabelle.waehle(bedingung);
+    const auto zeilen = tabelle.waehle(filter);
     statusVorhanden_.fill(false);
     for (const double status : tabelle.verschiedeneZahlen("Status", *zeilen))
         if (status >= 0 && status < ANZAHL_STATUS)

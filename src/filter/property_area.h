@@ -40,7 +40,7 @@ public:
 
 private:
     void leere();
-    void fuelleStatus(Recordset& tabelle, std::string_view bedingung);
+    void fuelleStatus(Recordset& tabelle, const RowFilter& filter);
     void fuelleListe(std::size_t nummer, Recordset& tabelle, std::span<const Bookmark> zeilen);
 
     Filterkontext& kontext_;

@@ -25,7 +25,7 @@ bool ApplyPropertyFilter(Filterkontext& kontext)
         if (!kette.empty())
             return laufeKette(kontext, kette, StatusFilter);
         zustand.FilterString.clear();
-        return setzeFilter(kontext, StatusFilter);
+        return setzeFilter(kontext, Kettenglied().behind(StatusFilter));
     });
 }
 

@@ -1,6 +1,9 @@
 #include "filter/execution.h"
 #include "filter/filter_run.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quelvarn {
 
 // The status condition is no part of this filter: the rows are limited by what the table was opened with alone.
@@ -21,8 +24,12 @@ bool ApplyStructureFilter(Filterkontext& kontext)
 bool ApplyHauptwertFilter(Filterkontext& kontext)
 {
     const Filterzustand& zustand = kontext.zustand();
-    const std::string hauptwerte = HauptwertFragmente(zustand.HauptwertBereich, !zustand.FilterString.empty());
-    return laufeOderWieVorher(kontext, [&] { return setzeFilter(kontext, zustand.FilterString + hauptwerte); });
+    RowFilter filter{zustand.FilterString +
+                     HauptwertFragmente(zustand.HauptwertBereich, !zustand.FilterString.empty())};
+    if (SharedCondition condition = filterCondition(zustand.FilterString))
+        filter.conditions.push_back(std::move(condition));
+    std::ranges::move(mainValueConditions(zustand.HauptwertBereich), std::back_inserter(filter.conditions));
+    return laufeOderWieVorher(kontext, [&] { return setzeFilter(kontext, std::move(filter)); });
 }
 
 } // namespace quelvarn

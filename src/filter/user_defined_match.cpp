@@ -12,26 +12,11 @@ namespace {
 
 constexpr std::string_view VERSAND = "*Versand";
 
-// The star is the only wildcard: signs that mean something to LIKE are put into classes.
-std::string alsMuster(std::string_view wert, char stern)
-{
-    std::string muster;
-    for (const char zeichen : wert) {
-        if (zeichen == '*')
-            muster += stern;
-        else if (zeichen == '%' || zeichen == '_' || zeichen == '[')
-            (muster += '[').append(1, zeichen) += ']';
-        else
-            muster += zeichen;
-    }
-    return muster;
-}
-
 } // namespace
 
 BenutzDefSchritte::Schritt::Schritt(const std::string& Name, const std::string& Wert)
     : name(Name), wert(Wert), nameKlein(toLower(Name)), wertKlein(toLower(Wert)),
-      muster(alsMuster(Wert, '%'), Wildcards::Sql), musterBeiKurzen(Wert.ends_with('*')),
+      muster(Wert, Wildcards::Star), musterBeiKurzen(Wert.ends_with('*')),
       versand(Wert.starts_with(VERSAND))
 {}
 
@@ -55,7 +40,7 @@ sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
         return nullptr;
     if (wert.find('*') == std::string::npos)
         return sql::equal("Wert", wert);
-    return sql::compare("Wert", sql::Vergleich::Like, alsMuster(wert, '%'));
+    return sql::like("Wert", wert, Wildcards::Star);
 }
 
 BenutzDefSchritte::BenutzDefSchritte(const Filterzustand& zustand)

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <fmt/format.h>
+#include <utility>
 
 namespace quelvarn {
 namespace {
@@ -74,8 +75,15 @@ void Schnellfilter::filtereText()
                         {}});
     std::vector<Filterwert> werte;
     std::transform(schritte.begin(), schritte.end(), std::back_inserter(werte), zeileFuerText);
-    if (wendeAn(schritte, std::move(werte)))
-        schritte_ = std::move(schritte);
+    if (!wendeAn(schritte, std::move(werte), Run::OneByOne))
+        return;
+    schritte_ = std::move(schritte);
+    schritte_.resize(stepsLeft());
+}
+
+std::size_t Schnellfilter::stepsLeft() const
+{
+    return static_cast<std::size_t>(filter_.typen[static_cast<std::size_t>(tab_)].FilterAnzahl);
 }
 
 bool Schnellfilter::laeuft() const
@@ -127,7 +135,7 @@ bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
     std::vector<Filterwert> werte;
     for (const FilterSchritt& schritt : schritte)
         werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});
-    return wendeAn(schritte, std::move(werte));
+    return wendeAn(schritte, std::move(werte), Run::Together);
 }
 
 void Schnellfilter::setzeDatumsfeld(int OpErstAend)
@@ -148,18 +156,19 @@ void Schnellfilter::setzeTage(int SliderTage)
     melde();
 }
 
-bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vector<Filterwert> werte)
+bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vector<Filterwert> werte, Run run)
 {
     Filterkontext kontext{session_, ports_, filter_, seite_, seite_.tab()};
     GefilterteTabelle& tabelle = kontext.tabelle();
-    if (tabelle.anzahl == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte); }))
+    if (tabelle.anzahl == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
         return false;
     tabelle.zustand = Gefiltert;
     tabelle.FilterErgebnis = Recordset();
+    tab_ = kontext.tab;
+    werte.resize(stepsLeft());
     tabelle.filterListeGefuellt = true;
     tabelle.filterBeschreibung = beschreibung(werte);
     kontext.zustand().gezeigteWerte = std::move(werte);
-    tab_ = kontext.tab;
     filterText_ = tabelle.tabelle.filterText();
     schritte_.clear();
     zeitraum_.clear();
@@ -167,16 +176,21 @@ bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vec
     return true;
 }
 
-bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte)
+bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte, Run run)
 {
     Filterzustand& zustand = kontext.zustand();
     leereFilter(zustand);
     std::copy(schritte.begin(), schritte.end(), zustand.FilterSchritte.begin());
     zustand.FilterAnzahl = static_cast<int>(schritte.size());
-    const Kettenglied glied = bildeKette(zustand, schrittfragment).back();
-    verlangeGemeintes(glied.filterform, glied.gemeint);
-    zustand.Schnellfilter = glied.sqlform;
-    return setzeFilter(kontext, mitUnd(filter_.status.StatusFilter, glied.filterform));
+    const std::vector<Kettenglied> kette = bildeKette(zustand, schrittfragment);
+    const std::string& StatusFilter = filter_.status.StatusFilter;
+    if (run == Run::OneByOne) {
+        const bool gelaufen = laufeKette(kontext, kette, StatusFilter);
+        zustand.Schnellfilter = std::exchange(zustand.FilterString, {});
+        return gelaufen;
+    }
+    zustand.Schnellfilter = kette.back().sqlform;
+    return setzeFilter(kontext, kette.back().behind(StatusFilter));
 }
 
 void Schnellfilter::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const

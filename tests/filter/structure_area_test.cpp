@@ -152,6 +152,11 @@ TEST_F(Strukturmerkmale, LaterChoicesLockEarlierOnes)
     EXPECT_EQ(schritte(), "Hauptmerkmal_C=Rohr ");
 }
 
+Hauptwertgrenzen bounds(std::int64_t from, std::int64_t to)
+{
+    return {Decimal::ofUnits(from), Decimal::ofUnits(to)};
+}
+
 TEST_F(Strukturmerkmale, MainValuesTakeAnAbsoluteBand)
 {
     struct Fall
@@ -166,10 +171,14 @@ TEST_F(Strukturmerkmale, MainValuesTakeAnAbsoluteBand)
         {"", "1", "Kein Zahlenwert: ", {}, ""},
         {"zehn", "1", "Kein Zahlenwert: zehn", {}, ""},
         {"10", "%", "Kein Zahlenwert: %", {}, ""},
-        {"2,5", "", "", {2.5, 2.5}, "2,5"},
-        {"10", "0", "", {10, 10}, "10"},
-        {"10", "0,5", "", {9.5, 10.5}, "9,5 - 10,5"},
-        {"1.000", "2", "", {998, 1002}, "998 - 1002"},
+        {"9E20", "1", "Kein Zahlenwert: 9E20", {}, ""},
+        {"8E14", "8E14", "Kein Zahlenwert: 8E14", {}, ""},
+        {"2,5", "", "", bounds(25000, 25000), "2,5"},
+        {"10", "0", "", bounds(100000, 100000), "10"},
+        {"10", "0,5", "", bounds(95000, 105000), "9,5 - 10,5"},
+        {"1.000", "2", "", bounds(9980000, 10020000), "998 - 1002"},
+        {"0,7", "0,1", "", bounds(6000, 8000), "0,6 - 0,8"},
+        {"0,3", "0,2", "", bounds(1000, 5000), "0,1 - 0,5"},
     };
     bereich_.hauptwertGewaehlt(2);
     for (const Fall& fall : faelle) {

@@ -148,15 +148,28 @@ TEST_F(QuickFilterTest, TheStatusConditionStaysAndFiltersTakeTurns)
     EXPECT_EQ(liste(), "FA-100/0 FA-200/0 FB-100/0 ");
 }
 
-// A text that would turn into another condition is refused, and the filter stays as it was.
-TEST_F(QuickFilterTest, ATextAddsNoConditionOfItsOwn)
+constexpr const char* NOTHING_LEFT = "Filter 2:\nEs gibt keine Datensätze mit diesen Filtervorgaben!\n"
+                                     "Es wird das Ergebnis bis Filter 1 angezeigt.\n"
+                                     "Mögliche Ursache:\n- Sie haben keine Zugriffsberechtigung.\n"
+                                     "- Es ist ein <Neuaufbau> erforderlich.";
+
+// A text that looks like a condition is a text that nothing holds.
+TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
 {
-    filterText("FA", 0, TextAmAnfang);
-    welt_.meldungen.erwarte("Filterung Text", "Fehler bei der Filterung nach Text!");
-    welt_.meldungen.antworte();
-    filterText("x' OR Status Like '", 0, TextAmAnfang);
-    EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
-    EXPECT_EQ(quick_.schritt(), 1);
+    for (const char* text : {"gibt es nicht", "x' OR Status Like '", "F_", "[F]", "%"}) {
+        SCOPED_TRACE(text);
+        filterText("FA", 0, TextAmAnfang);
+        welt_.meldungen.erwarte("Filtervorgaben", NOTHING_LEFT);
+        filterText(text, 1, TextAmAnfang);
+        EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
+        EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
+        EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
+        EXPECT_EQ(filter_.typen[0].Schnellfilter, "DokuBez Like 'FA*'");
+        filterText("w", 1, TextAmAnfang);
+        EXPECT_EQ(quick_.schritt(), 2);
+        EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
+        page_.zurueck();
+    }
 }
 
 TEST_F(QuickFilterTest, PanelsAndFavouritesOfTheBar)

@@ -72,6 +72,21 @@ TEST_F(QuickSearchTest, RefusesWhatIsNoKindOfSearchAndTakesTheTextAsAText)
     EXPECT_EQ(current(), "O'Neill/0");
 }
 
+TEST_F(QuickSearchTest, KnowsThePercentSignAsItsOnlyWildcard)
+{
+    for (const char* name : {"TEST0", "TEST[01]", "TESTX01", "TEST_01", "TEST*01"})
+        dokument(0, name);
+    page_.neuaufbauen();
+    for (const char* text : {"TEST[01]", "TEST_0", "TEST*"}) {
+        search_.sucheText(text);
+        EXPECT_TRUE(current().starts_with(text)) << text << " / " << current();
+        search_.suche();
+        EXPECT_EQ(current(), "Achse/0") << text;
+    }
+    search_.sucheText("TEST%01]");
+    EXPECT_EQ(current(), "TEST[01]/0");
+}
+
 TEST_F(QuickSearchTest, EachKeySearchesWhileTyping)
 {
     search_.setzeSuchtext("Bl");

@@ -1,3 +1,5 @@
+#include "base/like_pattern.h"
+#include "base/utf8.h"
 #include "database/sql/access_text.h"
 #include "database/sql/renderer.h"
 
@@ -6,24 +8,38 @@
 namespace quelvarn::sql {
 namespace {
 
+std::string asAccessClass(const LikeToken& token)
+{
+    std::string text = token.negated ? "[!" : "[";
+    for (std::size_t i = 0; i < token.members.size(); i += 2) {
+        appendUtf8(text, token.members[i]);
+        if (token.members[i] == token.members[i + 1])
+            continue;
+        text += '-';
+        appendUtf8(text, token.members[i + 1]);
+    }
+    return text + "]";
+}
+
 // What the program calls a pattern, as Access reads it: "#", "*" and "?" are wildcards to it in some modes, and a
 // bracket that is never closed is a fault. In brackets each stands for itself.
 std::string alsAccessMuster(std::string_view muster)
 {
-    std::string ergebnis;
-    for (std::size_t i = 0; i < muster.size(); ++i) {
-        const char zeichen = muster[i];
-        const std::size_t ende = zeichen == '[' ? muster.find(']', i) : muster.npos;
-        if (ende != muster.npos) {
-            ergebnis += muster.substr(i, ende - i + 1);
-            i = ende;
-        } else if (zeichen == '[' || zeichen == '#' || zeichen == '*' || zeichen == '?') {
-            ergebnis += fmt::format("[{}]", zeichen);
-        } else {
-            ergebnis += zeichen;
-        }
+    constexpr std::u32string_view SIGNS = U"[#*?%_";
+    std::string text;
+    for (const LikeToken& token : likeTokens(toUtf32(muster), Wildcards::Sql)) {
+        if (token.kind == LikeToken::Kind::AnyRun)
+            text += '%';
+        else if (token.kind == LikeToken::Kind::AnyOne)
+            text += '_';
+        else if (token.kind == LikeToken::Kind::Class)
+            text += asAccessClass(token);
+        else if (SIGNS.find(token.character) != SIGNS.npos)
+            text += fmt::format("[{}]", static_cast<char>(token.character));
+        else
+            appendUtf8(text, token.character);
     }
-    return ergebnis;
+    return text;
 }
 
 // Relied on: its equality, order and DISTINCT are blind to case, Null is sorted first, LIKE through ODBC knows "%" and

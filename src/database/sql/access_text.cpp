@@ -34,6 +34,10 @@ struct Bedingungstext
 {
     std::string operator()(const Bedingung& b) const
     {
+        const auto* pattern = std::get_if<std::string>(&b.wert);
+        if (pattern && (b.vergleich == Vergleich::Like || b.vergleich == Vergleich::NotLike))
+            return fmt::format("{} {} {}", accessName(b.spalte), zeichenOf(b.vergleich),
+                               accessLiteral(asSqlPattern(*pattern, b.wildcards)));
         return fmt::format("{} {} {}", accessName(b.spalte), zeichenOf(b.vergleich), accessLiteral(b.wert));
     }
     std::string operator()(const IstNull& i) const

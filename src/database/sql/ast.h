@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/like_pattern.h"
 #include "database/value.h"
 
 #include <memory>
@@ -21,6 +22,7 @@ struct Bedingung
     std::string spalte;
     Vergleich vergleich = Vergleich::Gleich;
     Value wert;
+    Wildcards wildcards = Wildcards::Sql; // Of a LIKE: how its text is read.
 };
 struct IstNull
 {

@@ -113,7 +113,7 @@ AusdruckZeiger Bedingungsparser::muster(const std::string& spalte, Vergleich ver
     Value wert = literal();
     if (!std::holds_alternative<std::string>(wert))
         leser_.syntaxfehler(anfang);
-    return vergleiche(spalte, vergleich, std::move(wert));
+    return ausdruck(Bedingung{spalte, vergleich, std::move(wert), wildcards_});
 }
 
 AusdruckZeiger Bedingungsparser::liste(const std::string& spalte)

@@ -13,8 +13,8 @@ class Bedingungsparser
 {
 public:
     // `stelle` is Filterbedingung or Bedingung.
-    Bedingungsparser(Leser& leser, Literalleser& literale, Stelle stelle)
-        : leser_(leser), literale_(literale), stelle_(stelle)
+    Bedingungsparser(Leser& leser, Literalleser& literale, Stelle stelle, Wildcards wildcards = Wildcards::Sql)
+        : leser_(leser), literale_(literale), stelle_(stelle), wildcards_(wildcards)
     {}
 
     AusdruckZeiger lies();
@@ -36,6 +36,7 @@ private:
     Leser& leser_;
     Literalleser& literale_;
     Stelle stelle_;
+    Wildcards wildcards_;
     int klammern_ = 0;
     int tiefe_ = 0;
     std::vector<std::string> tabellen_;

@@ -30,6 +30,11 @@ AusdruckZeiger compare(std::string_view column, Vergleich comparison, std::strin
     return expression(Bedingung{std::string(column), comparison, std::string(value)});
 }
 
+AusdruckZeiger like(std::string_view column, std::string_view pattern, Wildcards wildcards)
+{
+    return expression(Bedingung{std::string(column), Vergleich::Like, std::string(pattern), wildcards});
+}
+
 AusdruckZeiger equal(std::string_view column, std::string_view value)
 {
     return compare(column, Vergleich::Gleich, value);

@@ -15,6 +15,7 @@
 namespace quelvarn::sql {
 
 AusdruckZeiger compare(std::string_view column, Vergleich comparison, std::string_view value);
+AusdruckZeiger like(std::string_view column, std::string_view pattern, Wildcards wildcards);
 AusdruckZeiger equal(std::string_view column, std::string_view value);
 AusdruckZeiger equal(std::string_view column, std::int64_t value);
 

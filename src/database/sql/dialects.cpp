@@ -1,4 +1,5 @@
 #include "base/collation.h"
+#include "base/like_pattern.h"
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/schema.h"
@@ -6,6 +7,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <vector>
 
 namespace quelvarn::sql {
 namespace {
@@ -86,43 +88,57 @@ std::string alsRegexZeichen(char32_t zeichen)
                    : fmt::format("\\U{:08x}", static_cast<std::uint32_t>(zeichen));
 }
 
-// The inside of "[..]". Read as LikePattern reads it.
-std::string alsRegexKlasse(std::u32string_view zeichen)
+std::string asRegexClass(const LikeToken& token)
 {
-    const bool verneint = zeichen.size() > 1 && (zeichen.front() == U'!' || zeichen.front() == U'^');
-    zeichen.remove_prefix(verneint ? 1 : 0);
-    if (zeichen.empty())
-        return {};
-    std::string bereiche;
-    for (std::size_t i = 0; i < zeichen.size(); ++i) {
-        const bool bereich = i + 2 < zeichen.size() && zeichen[i + 1] == U'-';
-        const char32_t letztes = zeichen[bereich ? i + 2 : i];
-        if (zeichen[i] <= letztes)
-            bereiche += alsRegexZeichen(zeichen[i]) + (bereich ? "-" + alsRegexZeichen(letztes) : "");
-        i += bereich ? 2 : 0;
+    std::string ranges;
+    for (std::size_t i = 0; i < token.members.size(); i += 2) {
+        const char32_t first = token.members[i];
+        const char32_t last = token.members[i + 1];
+        if (first <= last)
+            ranges += alsRegexZeichen(first) + (first < last ? "-" + alsRegexZeichen(last) : "");
     }
-    if (bereiche.empty()) // A range the wrong way round holds nothing.
-        return verneint ? "." : "(?!)";
-    return (verneint ? "[^" : "[") + bereiche + "]";
+    if (ranges.empty()) // A range the wrong way round holds nothing.
+        return token.negated ? "." : "(?!)";
+    return (token.negated ? "[^" : "[") + ranges + "]";
 }
 
-std::string alsRegex(std::u32string_view muster)
+std::string asRegex(const std::vector<LikeToken>& pattern)
 {
     std::string regex = "^";
-    for (std::size_t i = 0; i < muster.size(); ++i) {
-        const std::size_t ende = muster[i] == U'[' ? muster.find(U']', i) : muster.npos;
-        if (muster[i] == U'%') {
-            regex += ".*";
-        } else if (muster[i] == U'_') {
+    for (const LikeToken& token : pattern) {
+        switch (token.kind) {
+        case LikeToken::Kind::Char:
+            regex += alsRegexZeichen(token.character);
+            break;
+        case LikeToken::Kind::AnyOne:
             regex += '.';
-        } else if (ende != muster.npos) {
-            regex += alsRegexKlasse(muster.substr(i + 1, ende - i - 1));
-            i = ende;
-        } else {
-            regex += alsRegexZeichen(muster[i]);
+            break;
+        case LikeToken::Kind::AnyRun:
+            regex += ".*";
+            break;
+        case LikeToken::Kind::Class:
+            regex += asRegexClass(token);
+            break;
         }
     }
     return regex + "$";
+}
+
+// A pattern of the server's own LIKE, which knows no classes: "\\" takes the meaning from the character behind it.
+std::string asServerPattern(const std::vector<LikeToken>& pattern)
+{
+    std::string text;
+    for (const LikeToken& token : pattern) {
+        if (token.kind == LikeToken::Kind::AnyRun)
+            text += '%';
+        else if (token.kind == LikeToken::Kind::AnyOne)
+            text += '_';
+        else if (token.character == U'%' || token.character == U'_' || token.character == U'\\')
+            (text += '\\') += static_cast<char>(token.character);
+        else
+            appendUtf8(text, token.character);
+    }
+    return text;
 }
 
 class PostgresDialekt : public Dialekt
@@ -153,14 +169,12 @@ protected:
     std::string vergleichsausdruck(const std::string& spalte) const override { return "qv_key(" + spalte + ")"; }
     std::string vergleichstext(const std::string& text) const override { return sortKey(text); }
 
-    // LIKE of the server knows no classes.
     Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
     {
-        const std::string gefaltet = foldCase(muster);
-        const std::size_t klasse = gefaltet.find('[');
-        if (klasse != std::string::npos && gefaltet.find(']', klasse) != std::string::npos)
-            return {"qv_fold(" + ausdruck + ") ~ ", alsRegex(toUtf32(gefaltet)), ""};
-        return {"qv_fold(" + ausdruck + ") LIKE ", replaceAll(gefaltet, "\\", "\\\\"), " ESCAPE '\\'"};
+        const std::vector<LikeToken> tokens = likeTokens(toUtf32(foldCase(muster)), Wildcards::Sql);
+        if (std::ranges::find(tokens, LikeToken::Kind::Class, &LikeToken::kind) != tokens.end())
+            return {"qv_fold(" + ausdruck + ") ~ ", asRegex(tokens), ""};
+        return {"qv_fold(" + ausdruck + ") LIKE ", asServerPattern(tokens), " ESCAPE '\\'"};
     }
 
     std::string genauGleich(const std::string& ausdruck, const std::string& text) const override

@@ -186,13 +186,13 @@ Anweisung parseAnweisung(std::string_view text)
     return Anweisungsparser(text).lies();
 }
 
-AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge)
+AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge, Wildcards wildcards)
 {
     Leser leser(text);
     if (leser.nimmEnde())
         return nullptr;
     Literalleser literale(leser, folge);
-    Bedingungsparser parser(leser, literale, Stelle::Filterbedingung);
+    Bedingungsparser parser(leser, literale, Stelle::Filterbedingung, wildcards);
     AusdruckZeiger bedingung = parser.lies();
     leser.verlangeEnde();
     if (!parser.tabellen().empty())

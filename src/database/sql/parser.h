@@ -21,7 +21,9 @@ enum class Datumsfolge {
 // apostrophe behind the table at the very end of a statement is passed over.
 Anweisung parseAnweisung(std::string_view text);
 
-// A recordset filter or Find criterion: the condition alone. An empty text gives null: no filter.
-AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge = Datumsfolge::TagZuerst);
+// A recordset filter or Find criterion: the condition alone. An empty text gives null: no filter. `wildcards` tells how
+// its patterns are meant.
+AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge = Datumsfolge::TagZuerst,
+                              Wildcards wildcards = Wildcards::Sql);
 
 } // namespace quelvarn::sql

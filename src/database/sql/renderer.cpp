@@ -111,9 +111,9 @@ public:
     {
         const Spalte& gemeint = spalte(bedingung.spalte);
         if (bedingung.vergleich == Vergleich::Like)
-            return like(gemeint, std::get<std::string>(bedingung.wert));
+            return like(gemeint, std::get<std::string>(bedingung.wert), bedingung.wildcards);
         if (bedingung.vergleich == Vergleich::NotLike)
-            return "NOT (" + muster(gemeint, std::get<std::string>(bedingung.wert)) + ")";
+            return "NOT (" + muster(gemeint, std::get<std::string>(bedingung.wert), bedingung.wildcards) + ")";
 
         const auto literal = vergleichswert(bedingung.wert, gemeint.typ);
         if (!literal)
@@ -180,27 +180,28 @@ private:
     }
 
     // What a pattern begins with narrows the rows by an index, before each one is looked at.
-    std::string like(const Spalte& spalte, const std::string& text)
+    std::string like(const Spalte& spalte, const std::string& text, Wildcards wildcards)
     {
-        const LikePattern gelesen(text, Wildcards::Sql);
-        const std::string& anfang = gelesen.literal();
+        const LikePattern gelesen(text, wildcards);
+        const std::string anfang =
+            gelesen.shape() == LikePattern::Shape::Exact || gelesen.shape() == LikePattern::Shape::Prefix
+                ? gelesen.literal()
+                : std::string();
         if (!dialekt_.engtMusterEin() || spalte.typ != FeldTyp::Text || trimRightBlanks(anfang).empty())
-            return muster(spalte, text);
+            return muster(spalte, text, wildcards);
         std::string enger;
         if (gelesen.shape() == LikePattern::Shape::Exact) {
             enger = textvergleich(name(spalte), "=", anfang);
-        } else if (gelesen.shape() == LikePattern::Shape::Prefix) {
+        } else {
             enger = textvergleich(name(spalte), ">=", anfang);
             std::string dahinter = anfang;
             appendUtf8(dahinter, 0x10FFFF);
             enger += " AND " + textvergleich(name(spalte), "<", dahinter);
-        } else {
-            return muster(spalte, text);
         }
-        return "(" + enger + " AND " + muster(spalte, text) + ")";
+        return "(" + enger + " AND " + muster(spalte, text, wildcards) + ")";
     }
 
-    std::string muster(const Spalte& spalte, const std::string& text)
+    std::string muster(const Spalte& spalte, const std::string& text, Wildcards wildcards)
     {
         std::string ausdruck = name(spalte);
         if (spalte.typ != FeldTyp::Text)
@@ -208,7 +209,7 @@ private:
         // Patterns of blanks alone, which every list of choices has, need no matching.
         if (dialekt_.engtMusterEin() && trimRightBlanks(text).empty())
             return dialekt_.genauGleich(ausdruck, parameter(text, FeldTyp::Text));
-        Dialekt::Mustervergleich vergleich = dialekt_.like(ausdruck, text);
+        Dialekt::Mustervergleich vergleich = dialekt_.like(ausdruck, asSqlPattern(text, wildcards));
         return vergleich.davor + parameter(std::move(vergleich.muster), FeldTyp::Text) + vergleich.dahinter;
     }
 

@@ -78,6 +78,7 @@ protected:
     // What the texts of a column are compared and sorted by, and a text on the other side of the comparison.
     virtual std::string vergleichsausdruck(const std::string& spalte) const = 0;
     virtual std::string vergleichstext(const std::string& text) const = 0;
+    // The pattern has the wildcards of statements.
     virtual Mustervergleich like(const std::string& ausdruck, const std::string& muster) const = 0;
     // False: patterns reach the engine alone, which finds its own way to an index.
     virtual bool engtMusterEin() const { return true; }

@@ -40,7 +40,7 @@ QVariant Hauptwertmodell::data(const QModelIndex& stelle, int rolle) const
     const Hauptwertgrenzen& grenzen = grenzen_[static_cast<std::size_t>(stelle.row())];
     if (!grenzen.gesetzt())
         return {};
-    return zuQt(zahlAlsText(stelle.column() == 1 ? grenzen.MinWert : grenzen.MaxWert));
+    return zuQt((stelle.column() == 1 ? grenzen.MinWert : grenzen.MaxWert).text());
 }
 
 QVariant Hauptwertmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
