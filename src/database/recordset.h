@@ -32,7 +32,8 @@ using Fortschritt = std::function<bool(std::size_t, std::size_t)>;
 
 using SharedCondition = std::shared_ptr<const sql::Ausdruck>;
 
-// What a recordset is narrowed to: rows that meet every condition. The text stands for it where it is shown or compared.
+// What a recordset is narrowed to: rows that meet every condition. The text stands for it where it is shown or
+// compared.
 struct RowFilter
 {
     std::string text;

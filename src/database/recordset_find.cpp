@@ -84,8 +84,7 @@ bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchr
 {
     Kern& kern = *kern_;
     kern.beendeBearbeitung();
-    const SharedCondition bedingung =
-        sql::parseBedingung(kriterium, sql::Datumsfolge::TagZuerst, Wildcards::Percent);
+    const SharedCondition bedingung = sql::parseBedingung(kriterium, sql::Datumsfolge::TagZuerst, Wildcards::Percent);
     if (!bedingung)
         throw recordsetFehler(3001, "Das Suchkriterium ist leer.");
     if (!kern.ladeGenannte({&bedingung, 1}, fortschritt))
@@ -155,8 +154,8 @@ void Recordset::Kern::zeige(std::vector<Zeilennummer> gefundene)
 
 std::unique_ptr<Auswahl> Recordset::Kern::baueAuswahlVon(const sql::Ausdruck& ausdruck) const
 {
-    return baueAuswahl(
-        ausdruck, [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); });
+    return baueAuswahl(ausdruck,
+                       [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); });
 }
 
 std::optional<std::vector<Zeilennummer>> Recordset::Kern::choose(const RowFilter& filter,

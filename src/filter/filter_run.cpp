@@ -1,6 +1,6 @@
 #include "filter/filter_run.h"
 
-#include "database/sql/parser.h"
+#include "database/sql/conditions.h"
 #include "filter/execution.h"
 #include "platform/fortschritt.h"
 
@@ -31,11 +31,11 @@ std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragment
     return kette;
 }
 
-RowFilter Kettenglied::behind(std::string_view StatusFilter) const
+RowFilter Kettenglied::behind(const Statusbedingung& status) const
 {
-    RowFilter filter{mitUnd(StatusFilter, filterform)};
-    if (SharedCondition status = sql::parseBedingung(StatusFilter))
-        filter.conditions.push_back(std::move(status));
+    RowFilter filter{mitUnd(status.StatusFilter, filterform)};
+    if (SharedCondition scope = sql::statusScope(status.StatusFilterWhere))
+        filter.conditions.push_back(std::move(scope));
     filter.conditions.insert(filter.conditions.end(), conditions.begin(), conditions.end());
     return filter;
 }
@@ -47,14 +47,14 @@ bool setzeFilter(Filterkontext& kontext, RowFilter filter)
     return !arbeit.aufgegeben();
 }
 
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, std::string_view StatusFilter)
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const Statusbedingung& status)
 {
     Filterzustand& zustand = kontext.zustand();
     const Recordset& zeilen = kontext.tabelle().tabelle;
     auto schritt = static_cast<int>(kette.size());
     for (;; --schritt) {
         const Kettenglied& glied = kette[static_cast<std::size_t>(schritt - 1)];
-        if (!setzeFilter(kontext, glied.behind(StatusFilter)))
+        if (!setzeFilter(kontext, glied.behind(status)))
             return false;
         zustand.FilterAnzahl = schritt;
         zustand.FilterString = glied.sqlform;

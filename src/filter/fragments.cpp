@@ -65,8 +65,7 @@ std::string doubled(std::string_view Wert)
 // The text of a comparison with a pattern, and its condition; nothing for "".
 Schrittfragment textFragment(const std::string& text, std::string_view column, std::string_view pattern)
 {
-    return text.empty() ? Schrittfragment{}
-                        : Schrittfragment{text, text, sql::like(column, pattern, Wildcards::Star)};
+    return text.empty() ? Schrittfragment{} : Schrittfragment{text, text, sql::like(column, pattern, Wildcards::Star)};
 }
 
 Schrittfragment zahlfragment(const FilterSchritt& schritt)

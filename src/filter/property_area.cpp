@@ -3,7 +3,7 @@
 #include "base/date_time.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
-#include "database/sql/parser.h"
+#include "database/sql/conditions.h"
 #include "filter/execution.h"
 #include "filter/fragments.h"
 #include "platform/fortschritt.h"
@@ -106,7 +106,7 @@ void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
     if (SharedCondition condition = filterCondition(FilterString))
         filter.conditions.push_back(std::move(condition));
     fuelleStatus(tabelle, filter);
-    if (SharedCondition status = sql::parseBedingung(kontext_.filter.status.StatusFilter))
+    if (SharedCondition status = sql::statusScope(kontext_.filter.status.StatusFilterWhere))
         filter.conditions.push_back(std::move(status));
     const auto zeilen = tabelle.waehle(filter, std::ref(arbeit));
     if (!zeilen)

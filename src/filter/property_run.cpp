@@ -12,10 +12,10 @@ constexpr int SCHRITTE_OHNE_STRUKTUR = 5;
 bool ApplyPropertyFilter(Filterkontext& kontext)
 {
     Filterzustand& zustand = kontext.zustand();
-    const std::string& StatusFilter = kontext.filter.status.StatusFilter;
+    const Statusbedingung& status = kontext.filter.status;
     if (zustand.FilterAnzahl > SCHRITTE_OHNE_STRUKTUR)
         return false;
-    if (zustand.FilterSchritte[0].Wert.empty() && StatusFilter.empty())
+    if (zustand.FilterSchritte[0].Wert.empty() && status.StatusFilter.empty())
         return false; // An empty filter changes no rows.
     return laufeOderWieVorher(kontext, [&] {
         std::vector<Kettenglied> kette;
@@ -23,9 +23,9 @@ bool ApplyPropertyFilter(Filterkontext& kontext)
                        [&] { kette = bildeKette(zustand, schrittfragment); }))
             return false;
         if (!kette.empty())
-            return laufeKette(kontext, kette, StatusFilter);
+            return laufeKette(kontext, kette, status);
         zustand.FilterString.clear();
-        return setzeFilter(kontext, Kettenglied().behind(StatusFilter));
+        return setzeFilter(kontext, Kettenglied().behind(status));
     });
 }
 

@@ -16,7 +16,7 @@ bool ApplyStructureFilter(Filterkontext& kontext)
         zustand.FilterString.clear();
         const auto kette =
             bildeKette(zustand, [](const FilterSchritt& schritt, int) { return strukturfragment(schritt); });
-        return kette.empty() || laufeKette(kontext, kette, "");
+        return kette.empty() || laufeKette(kontext, kette, {});
     });
 }
 

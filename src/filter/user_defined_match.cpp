@@ -15,9 +15,8 @@ constexpr std::string_view VERSAND = "*Versand";
 } // namespace
 
 BenutzDefSchritte::Schritt::Schritt(const std::string& Name, const std::string& Wert)
-    : name(Name), wert(Wert), nameKlein(toLower(Name)), wertKlein(toLower(Wert)),
-      muster(Wert, Wildcards::Star), musterBeiKurzen(Wert.ends_with('*')),
-      versand(Wert.starts_with(VERSAND))
+    : name(Name), wert(Wert), nameKlein(toLower(Name)), wertKlein(toLower(Wert)), muster(Wert, Wildcards::Star),
+      musterBeiKurzen(Wert.ends_with('*')), versand(Wert.starts_with(VERSAND))
 {}
 
 bool BenutzDefSchritte::Schritt::jederWert() const

@@ -183,14 +183,13 @@ bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchrit
     std::copy(schritte.begin(), schritte.end(), zustand.FilterSchritte.begin());
     zustand.FilterAnzahl = static_cast<int>(schritte.size());
     const std::vector<Kettenglied> kette = bildeKette(zustand, schrittfragment);
-    const std::string& StatusFilter = filter_.status.StatusFilter;
     if (run == Run::OneByOne) {
-        const bool gelaufen = laufeKette(kontext, kette, StatusFilter);
+        const bool gelaufen = laufeKette(kontext, kette, filter_.status);
         zustand.Schnellfilter = std::exchange(zustand.FilterString, {});
         return gelaufen;
     }
     zustand.Schnellfilter = kette.back().sqlform;
-    return setzeFilter(kontext, kette.back().behind(StatusFilter));
+    return setzeFilter(kontext, kette.back().behind(filter_.status));
 }
 
 void Schnellfilter::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const

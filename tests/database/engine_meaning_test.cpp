@@ -72,24 +72,22 @@ TEST_P(EngineMeaning, ConditionsFindTheSameRowsOnEveryEngine)
 // What a filter or a search means by its pattern is the same in a statement.
 TEST_P(EngineMeaning, PatternsOfFiltersKnowOneWildcardAlone)
 {
-    const std::vector<Value> worte{"20_50", "20x50", "A[1]", "A1",    "100%", "100 kg", "4*6", "4x6", "a\\b",
+    const std::vector<Value> worte{"20_50",  "20x50", "A[1]", "A1",   "100%", "100 kg", "4*6", "4x6", "a\\b",
                                    "a\\\\b", "[",     "]",    "'a''", "#1!",  "?",      "51",  "",    Value{}};
     std::vector<std::vector<Value>> zeilen;
     for (std::size_t i = 0; i < worte.size(); ++i)
         zeilen.push_back({static_cast<std::int64_t>(i), worte[i]});
     fuelle({{"Nr", FeldTyp::Ganzzahl}, {"Wort", FeldTyp::Text}}, zeilen, {{{"Wort", false}}});
     for (const Wildcards wildcards : {Wildcards::Star, Wildcards::Percent}) {
-        for (const char* muster : {"20_50", "20_*", "20_%", "a[1]", "A[*", "A[%", "100%", "100*", "*[*", "%[%", "*]*",
-                                   "4*6", "4%6", "A\\B", "*\\*", "%\\%", "'A''", "*'*", "#*", "?", "[!a]", "*", "%"}) {
+        for (const char* muster :
+             {"20_50", "20_*", "20_%", "a[1]", "A[*",  "A[%", "100%", "100*", "*[*",  "%[%", "*]*", "4*6",
+              "4%6",   "A\\B", "*\\*", "%\\%", "'A''", "*'*", "#*",   "?",    "[!a]", "*",   "%"}) {
             std::vector<std::string> erwartet;
             for (std::size_t i = 0; i < worte.size(); ++i)
                 if (!istNull(worte[i]) && LikePattern(muster, wildcards).matches(alsText(worte[i])))
                     erwartet.push_back(std::to_string(i));
-            const auto gefragt = engine_->lese(sql::Query("Tafel")
-                                                   .columns({"Nr"})
-                                                   .where(sql::like("Wort", muster, wildcards))
-                                                   .sortedBy("Nr"),
-                                               {});
+            const auto gefragt = engine_->lese(
+                sql::Query("Tafel").columns({"Nr"}).where(sql::like("Wort", muster, wildcards)).sortedBy("Nr"), {});
             EXPECT_EQ(EngineTest::zeilen(*gefragt), erwartet) << muster;
         }
     }

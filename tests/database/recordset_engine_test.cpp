@@ -196,14 +196,17 @@ TEST_P(RecordsetOnEngine, FiltersKeepTheRowsThatMeetTheConditionAsTheEngineDoes)
     fuelleZufaellig(400);
     Recordset rs = oeffneRs("SELECT * FROM Tafel ORDER BY Id", SperrTyp::NurLesen, 10);
     std::size_t treffer = 0;
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 400; ++i) {
+        zufall_.filterPatterns = i % 2 == 0;
         const auto bedingung = zufall_.bedingung(3);
         std::vector<std::string> erwartet;
         for (std::size_t id = 0; id < zeilen_.size(); ++id)
             if (bedingung.trifft(zeilen_[id]) == referenz::Urteil(true))
                 erwartet.push_back(std::to_string(id));
-        rs.Filter(bedingung.alsFilter);
-        ASSERT_EQ(spalte(rs, "Id"), erwartet) << bedingung.alsFilter;
+        if (zufall_.filterPatterns) {
+            rs.Filter(bedingung.alsFilter);
+            ASSERT_EQ(spalte(rs, "Id"), erwartet) << bedingung.alsFilter;
+        }
         ASSERT_EQ(spalte(oeffneRs("SELECT Id FROM Tafel WHERE " + bedingung.alsSql + " ORDER BY Id"), "Id"), erwartet)
             << bedingung.alsSql;
         treffer += erwartet.size();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/collation.h"
+#include "base/like_pattern.h"
 #include "base/utf8.h"
 #include "database/value.h"
 
@@ -29,8 +30,8 @@ inline const std::vector<Feld> FELDER{{"Titel", FeldTyp::Text},
 using Urteil = std::optional<bool>;
 struct Bedingung
 {
-    std::string alsFilter; // day first, '*'
-    std::string alsSql;    // month first, '%'
+    std::string alsFilter; // day first; means the same where the patterns are those of filters
+    std::string alsSql;    // month first
     std::function<Urteil(const Zeile&)> trifft;
 };
 
@@ -63,13 +64,14 @@ class Zufall
 {
 public:
     explicit Zufall(unsigned saat) : quelle_(saat) {}
+    bool filterPatterns = false; // '*' alone is a wildcard; else '%', '_' and classes are.
     std::size_t unter(std::size_t grenze) { return quelle_() % grenze; }
     template <class T> const T& aus(const std::vector<T>& liste) { return liste[unter(liste.size())]; }
 
     std::string text()
     {
-        static const std::vector<std::string> STUECKE{"a",  "A", "ä", "Ä", "b", "B", "ß",
-                                                      "ss", " ", "1", "é", "-", "ab"};
+        static const std::vector<std::string> STUECKE{"a", "A", "ä", "Ä", "b",  "B", "ß", "ss",
+                                                      " ", "1", "é", "-", "ab", "_", "["};
         std::string ergebnis;
         for (std::size_t n = unter(4); n > 0; --n)
             ergebnis += aus(STUECKE);
@@ -163,14 +165,13 @@ private:
     Bedingung like(std::size_t nummer)
     {
         static const std::vector<std::string> STUECKE{"%", "%", "_", "a", "ä", "B", "ß", "[aé]", " ", "1"};
-        std::string muster;
+        static const std::vector<std::string> OF_FILTERS{"*", "*", "_", "a", "ä", "B", "ß", "[", " ", "1", "%"};
+        std::string filtermuster;
         for (std::size_t n = unter(5); n > 0; --n)
-            muster += aus(STUECKE);
+            filtermuster += aus(filterPatterns ? OF_FILTERS : STUECKE);
+        const std::string muster = filterPatterns ? asSqlPattern(filtermuster, Wildcards::Star) : filtermuster;
         const bool nicht = unter(3) == 0;
         const std::string davor = FELDER[nummer].name + (nicht ? " NOT LIKE '" : " Like '");
-        std::string filtermuster = muster;
-        if (unter(2) == 0)
-            std::replace(filtermuster.begin(), filtermuster.end(), '%', '*');
         return {davor + filtermuster + "'", davor + muster + "'",
                 [=, gefaltet = toUtf32(foldCase(muster))](const Zeile& zeile) -> Urteil {
                     if (istNull(zeile[nummer]))

@@ -82,7 +82,8 @@ TEST(SqlRenderer, AccessIsTakenAtItsWord)
         const Gerendert fertig = gerendert(accessDialekt(), anweisung, 5);
         EXPECT_EQ(fertig.text + " <- " + parameter(fertig), erwartet);
     }
-    const Select gefiltert = Query("PartTabelle").columns({"DokuBez"}).where(like("DokuBez", "a#%*_[a]?]", Wildcards::Star));
+    const Select gefiltert =
+        Query("PartTabelle").columns({"DokuBez"}).where(like("DokuBez", "a#%*_[a]?]", Wildcards::Star));
     EXPECT_EQ(parameter(accessDialekt().select(gefiltert, PARTS, MitSchluessel::Nein)), "'a[#][%]%[_][[]a][?]]'");
     const Zuweisung bild[] = {{"DokuBez", std::string("a")}, {"Größe", {}}, {"Status", std::int64_t{2}}};
     const Gerendert loeschen = accessDialekt().loescheZeile(PARTS, bild);

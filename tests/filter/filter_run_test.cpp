@@ -173,9 +173,8 @@ TEST_F(FilterRunTest, MainValuesAreComparedInFourPlaces)
     {
         const char* name;
         Value stored;
-    } documents[] = {{"N1", 0.8},      {"N2", 0.1 + 0.7}, {"N3", 0.8F + 0.0},  {"N4", 0.8001},
-                     {"N5", 0.59995},  {"N6", 0.6},       {"N7", 1.1 - 0.5},   {"N8", 0.5999},
-                     {"N9", Value{}}};
+    } documents[] = {{"N1", 0.8}, {"N2", 0.1 + 0.7}, {"N3", 0.8F + 0.0}, {"N4", 0.8001}, {"N5", 0.59995},
+                     {"N6", 0.6}, {"N7", 1.1 - 0.5}, {"N8", 0.5999},     {"N9", Value{}}};
     for (const auto& document : documents)
         dokument(document.name, {{"Hauptwert_a", document.stored}});
     neuOeffnen();
