@@ -237,11 +237,7 @@ private:
         Filterkontext context{session, world.ports, state, tables, 0, Filterbereich::Eigenschaften, {}, {}};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
-        try {
-            FilterEigenMerkBenutzDef(context);
-        } catch (const Laufzeitfehler&) {
-            // Refused: one of the values cannot stand in a filter.
-        }
+        FilterEigenMerkBenutzDef(context);
         requireOwnStatuses(context.tabelle().sichtbar());
         leereFilter(context.zustand());
         context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};

@@ -1,4 +1,5 @@
 #include "database/engine_fixture.h"
+#include "database/sql/conditions.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>
@@ -76,6 +77,15 @@ TEST_P(EngineIndex, LookUpsAreServedByTheirIndexes)
     for (const Fall& fall : faelle)
         EXPECT_THAT(plan(fmt::format("Select * From {} Where {}", fall.tabelle, fall.bedingung)),
                     HasSubstr(fall.index));
+}
+
+TEST_P(EngineIndex, APatternOfAFilterThatBeginsWithTextIsARange)
+{
+    for (const char* pattern : {"A[1]_x*", "A[1]", "20_50%*"})
+        EXPECT_THAT(
+            engine_->ausfuehrungsplan(sql::Query("PartTabelle").where(sql::like("DokuBez", pattern, Wildcards::Star))),
+            HasSubstr("ix_PartTabelle_DokuBez"))
+            << pattern;
 }
 
 TEST_P(EngineIndex, ListingComesSortedFromTheIndex)
