@@ -1,6 +1,7 @@
 #include "stress/accounting.h"
 
 #include "database/engine.h"
+#include "database/sql/conditions.h"
 #include "stress/gestures.h"
 
 #include <algorithm>
@@ -16,12 +17,6 @@ using Row = std::vector<std::string>;
 using Rows = std::vector<Row>;
 using Column = std::pair<const char*, std::string>;
 
-sql::AusdruckZeiger equals(const Column& column)
-{
-    return std::make_unique<sql::Ausdruck>(
-        sql::Ausdruck{sql::Bedingung{column.first, sql::Vergleich::Gleich, column.second}});
-}
-
 // The rows where these columns say so.
 Rows read(Engine& engine, const char* table, std::vector<std::string> columns, const std::vector<Column>& where)
 {
@@ -30,7 +25,7 @@ Rows read(Engine& engine, const char* table, std::vector<std::string> columns, c
     select.spalten = std::move(columns);
     sql::Und all;
     for (const Column& column : where)
-        all.teile.push_back(equals(column));
+        all.teile.push_back(sql::equal(column.first, column.second));
     select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(all)});
     Rows rows;
     const auto reader = engine.lese(select, MitSchluessel::Nein);

@@ -2,6 +2,7 @@
 
 #include "base/runtime_error.h"
 #include "database/document_types.h"
+#include "database/sql/conditions.h"
 #include "register/favourite_rows.h"
 #include "session/ini_reader/ini_rows.h"
 #include "session/session_state.h"
@@ -33,9 +34,9 @@ void countUp(SessionState& session)
 Recordset openUses(SessionState& session, long turn)
 {
     Recordset rows;
-    rows.Open(fmt::format("SELECT * FROM CheckInOut WHERE ADNutzer = 1 AND AnwenderNutzer = '{}' AND filenameNutzer = "
-                          "'{}'",
-                          session.Anwender, fileOf(session.Anwender, turn)),
+    rows.Open(sql::Query("CheckInOut")
+                  .where(sql::all(sql::equal("ADNutzer", 1), sql::equal("AnwenderNutzer", session.Anwender),
+                                  sql::equal("filenameNutzer", fileOf(session.Anwender, turn)))),
               session.Verbindung, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
     return rows;
 }
