@@ -3,10 +3,25 @@
 #include "base/file_path.h"
 #include "base/text.h"
 #include "database/create.h"
+#include "database/faults.h"
 
 #include <fmt/format.h>
 
 namespace quelvarn::tools {
+namespace {
+
+// Of a file that is not there yet the engine only knows that it cannot open it.
+std::string whyNotMade(const DatabaseFault& fault, const std::filesystem::path& target)
+{
+    if (fault.kind() != FaultKind::FileGone)
+        return fault.what();
+    std::error_code none;
+    return std::filesystem::is_directory(std::filesystem::absolute(target, none).parent_path(), none)
+               ? "In den Ordner kann nicht geschrieben werden."
+               : "Der Ordner ist nicht vorhanden.";
+}
+
+} // namespace
 
 NeuesRegister::NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Konsole& konsole) : anzeige_(konsole)
 {
@@ -19,8 +34,9 @@ NeuesRegister::NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Kon
         datei_ = oeffneSqlite(entwurf_->path(), true);
         engine_ = datei_.get();
         engine().beginne();
-    } catch (const Laufzeitfehler& fehler) {
-        throw werkzeugfehler(fmt::format("Das Ziel '{}' lässt sich nicht anlegen: {}", ziel, fehler.what()));
+    } catch (const DatabaseFault& fault) {
+        throw werkzeugfehler(
+            fmt::format("Das Ziel '{}' lässt sich nicht anlegen: {}", ziel, whyNotMade(fault, pathFromUtf8(ziel))));
     }
     offen_ = true;
 }

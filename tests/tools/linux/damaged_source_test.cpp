@@ -57,8 +57,8 @@ TEST_F(ImportDerProbe, LeavesNothingInAFolderThatMayNotBeWritten)
     std::filesystem::create_directory(ordner_ / "nurlesen");
     std::filesystem::permissions(ordner_ / "nurlesen", std::filesystem::perms(0555));
     const WithoutRootsRights stranger;
-    test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "nurlesen/ziel.qv")}, "lässt sich nicht anlegen",
-                        ordner_ / "nurlesen");
+    test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "nurlesen/ziel.qv")},
+                        "lässt sich nicht anlegen: In den Ordner", ordner_ / "nurlesen");
 }
 
 class BeschaedigteQuelle : public Befehle
