@@ -22,7 +22,7 @@ void serverVerb(World&, const Step& step)
     if (server == nullptr)
         throw Skipped("there is no PostgreSQL server that may be stopped");
     const std::map<std::string, std::function<void()>, std::less<>> verbs{
-        {"stop", [&] { server->stop(); }},   {"kill", [&] { server->kill(); }},     {"start", [&] { server->start(); }},
+        {"stop", [&] { server->stop(); }},  {"kill", [&] { server->kill(); }},     {"start", [&] { server->start(); }},
         {"hang", [&] { server->pause(); }}, {"resume", [&] { server->resume(); }},
     };
     const auto verb = verbs.find(step.word(1));
