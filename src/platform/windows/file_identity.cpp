@@ -23,9 +23,9 @@ std::optional<FileIdentity> findFileIdentity(const std::filesystem::path& path, 
     const DWORD reason = told ? NO_ERROR : GetLastError();
     if (file != INVALID_HANDLE_VALUE)
         CloseHandle(file);
+    // The time of creation is not asked for: file servers that keep none tell that of the last change instead.
     if (told)
-        return FileIdentity{about.dwVolumeSerialNumber, joined(about.nFileIndexHigh, about.nFileIndexLow),
-                            joined(about.ftCreationTime.dwHighDateTime, about.ftCreationTime.dwLowDateTime)};
+        return FileIdentity{about.dwVolumeSerialNumber, joined(about.nFileIndexHigh, about.nFileIndexLow), 0};
     if (reason != ERROR_FILE_NOT_FOUND && reason != ERROR_PATH_NOT_FOUND)
         error.assign(static_cast<int>(reason), std::system_category());
     return std::nullopt;
