@@ -45,6 +45,7 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext)
 {
     if (nothingChosen(kontext))
         return showAllRows(kontext);
+    kontext.stepsWithoutRows.clear();
     if (!laufe(kontext))
         return;
     GefilterteTabelle& tabelle = kontext.tabelle();
@@ -57,6 +58,7 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext)
     kontext.zustand().gezeigteWerte = kontext.FilterWerteTabelle;
     tabelle.filterListeGefuellt = !kontext.FilterWerteTabelle.empty();
     kontext.tabellen.filterGewechselt(kontext.tab);
+    reportStepsWithoutRows(kontext);
 }
 
 } // namespace quelvarn

@@ -36,6 +36,8 @@ bool ApplyHauptwertFilter(Filterkontext& kontext);
 bool ApplyBenutzDefFilter(Filterkontext& kontext);
 // Tells that this step, counted from 1, leaves no rows.
 void ReportNoRecords(Filterkontext& kontext, int schritt);
+// The same for each such step of the run before, once.
+void reportStepsWithoutRows(Filterkontext& kontext);
 // Forgets the filter of a type and hands out the status condition, which stays.
 std::string vergissFilter(FilterState& filter, int tab);
 // Every loaded table goes back to its status filter.

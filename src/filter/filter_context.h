@@ -21,6 +21,9 @@ struct Filterkontext
     Filterbereich bereich = Filterbereich::Eigenschaften;
     std::vector<Filterwert> FilterWerteTabelle;
     std::function<void()> geaendert;
+    // Steps of the run that left no rows, in the order they were tried. They are told once the grid shows the rows that
+    // are left: a box lets the window draw.
+    std::vector<int> stepsWithoutRows = {};
 
     Filterzustand& zustand() { return filter.typen[static_cast<std::size_t>(tab)]; }
     const Filterzustand& zustand() const { return filter.typen[static_cast<std::size_t>(tab)]; }

@@ -51,6 +51,7 @@ bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, c
 {
     Filterzustand& zustand = kontext.zustand();
     const Recordset& zeilen = kontext.tabelle().tabelle;
+    kontext.stepsWithoutRows.clear();
     auto schritt = static_cast<int>(kette.size());
     for (;; --schritt) {
         const Kettenglied& glied = kette[static_cast<std::size_t>(schritt - 1)];
@@ -61,7 +62,7 @@ bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, c
         // A single step may leave an empty table.
         if (kette.size() == 1 || zeilen.RecordCount() > 0)
             return true;
-        ReportNoRecords(kontext, schritt);
+        kontext.stepsWithoutRows.push_back(schritt);
         if (schritt == 1)
             return true;
     }

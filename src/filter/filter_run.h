@@ -28,8 +28,8 @@ using Fragmentbildner = std::function<Schrittfragment(const FilterSchritt& schri
 std::string mitUnd(std::string_view links, std::string_view rechts);
 // The steps up to FilterAnzahl, each joined with those before it.
 std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment);
-// Runs the last link; one that leaves no rows is told and the one before it runs. The status condition stands before
-// each of them. False when it was given up.
+// Runs the last link; where it leaves no rows, which the context keeps to be told, the one before it runs. The status
+// condition stands before each of them. False when it was given up.
 bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const Statusbedingung& status);
 // Assigns a filter to the table. False when it was given up; the table is then as it was.
 bool setzeFilter(Filterkontext& kontext, RowFilter filter);

@@ -3,6 +3,7 @@
 #include "platform/meldungen.h"
 
 #include <fmt/format.h>
+#include <utility>
 
 namespace quelvarn {
 
@@ -20,6 +21,12 @@ void ReportNoRecords(Filterkontext& kontext, int schritt)
     kontext.ports.meldungen.warnung("Filtervorgaben",
                                     text + zeilen({"Mögliche Ursache:", "- Sie haben keine Zugriffsberechtigung.",
                                                    "- Es ist ein <Neuaufbau> erforderlich."}));
+}
+
+void reportStepsWithoutRows(Filterkontext& kontext)
+{
+    for (const int schritt : std::exchange(kontext.stepsWithoutRows, {}))
+        ReportNoRecords(kontext, schritt);
 }
 
 } // namespace quelvarn

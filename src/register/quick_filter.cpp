@@ -75,15 +75,7 @@ void Schnellfilter::filtereText()
                         {}});
     std::vector<Filterwert> werte;
     std::transform(schritte.begin(), schritte.end(), std::back_inserter(werte), zeileFuerText);
-    if (!wendeAn(schritte, std::move(werte), Run::OneByOne))
-        return;
-    schritte_ = std::move(schritte);
-    schritte_.resize(stepsLeft());
-}
-
-std::size_t Schnellfilter::stepsLeft() const
-{
-    return static_cast<std::size_t>(filter_.typen[static_cast<std::size_t>(tab_)].FilterAnzahl);
+    wendeAn(std::move(schritte), std::move(werte), Run::OneByOne);
 }
 
 bool Schnellfilter::laeuft() const
@@ -135,7 +127,7 @@ bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
     std::vector<Filterwert> werte;
     for (const FilterSchritt& schritt : schritte)
         werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});
-    return wendeAn(schritte, std::move(werte), Run::Together);
+    return wendeAn(std::move(schritte), std::move(werte), Run::Together);
 }
 
 void Schnellfilter::setzeDatumsfeld(int OpErstAend)
@@ -156,7 +148,7 @@ void Schnellfilter::setzeTage(int SliderTage)
     melde();
 }
 
-bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vector<Filterwert> werte, Run run)
+bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run)
 {
     Filterkontext kontext{session_, ports_, filter_, seite_, seite_.tab()};
     GefilterteTabelle& tabelle = kontext.tabelle();
@@ -164,15 +156,18 @@ bool Schnellfilter::wendeAn(const std::vector<FilterSchritt>& schritte, std::vec
         return false;
     tabelle.zustand = Gefiltert;
     tabelle.FilterErgebnis = Recordset();
+    const auto left = static_cast<std::size_t>(kontext.zustand().FilterAnzahl);
+    werte.resize(left);
+    schritte.resize(run == Run::OneByOne ? left : 0);
+    schritte_ = std::move(schritte);
+    zeitraum_.clear();
     tab_ = kontext.tab;
-    werte.resize(stepsLeft());
     tabelle.filterListeGefuellt = true;
     tabelle.filterBeschreibung = beschreibung(werte);
     kontext.zustand().gezeigteWerte = std::move(werte);
     filterText_ = tabelle.tabelle.filterText();
-    schritte_.clear();
-    zeitraum_.clear();
     seite_.filterGewechselt(kontext.tab);
+    reportStepsWithoutRows(kontext);
     return true;
 }
 

@@ -4,7 +4,6 @@
 #include "filter/filter_state.h"
 #include "platform/ports.h"
 
-#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -55,9 +54,8 @@ private:
     // One by one: a step that leaves nothing is told and left out. Together: they are one condition.
     enum class Run { OneByOne, Together };
 
-    bool wendeAn(const std::vector<FilterSchritt>& schritte, std::vector<Filterwert> werte, Run run);
+    bool wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run);
     bool laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte, Run run);
-    std::size_t stepsLeft() const; // Of the filter that was run last.
     void filtereText();
     void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const;
     void zeigeAb(const Zeitpunkt& tag, std::string_view seit);

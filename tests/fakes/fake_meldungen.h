@@ -3,6 +3,7 @@
 #include "platform/meldungen.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
@@ -35,6 +36,8 @@ public:
     Antwort zeige(const Meldung& meldung) override
     {
         gezeigt.push_back(meldung);
+        if (during)
+            during();
         if (angekuendigt_.empty()) {
             if (!hinweiseErlaubt_ || meldung.knoepfe != Knoepfe::Ok)
                 ADD_FAILURE() << "unexpected box: " << meldung.titel << "\n" << meldung.text;
@@ -51,6 +54,7 @@ public:
     const Meldung& letzte() const { return gezeigt.at(gezeigt.size() - 1); }
 
     std::vector<Meldung> gezeigt;
+    std::function<void()> during; // While a box is shown, the window behind it is drawn.
 
 private:
     struct Ankuendigung

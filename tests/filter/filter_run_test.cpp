@@ -85,7 +85,7 @@ TEST_F(FilterRunTest, StepsThatLeaveNothingAreTakenBackOneByOne)
     erwarteLeer("Filter 3:\nEs gibt keine Datensätze mit diesen Filtervorgaben!\n"
                 "Es wird das Ergebnis bis Filter 2 angezeigt.\n");
     schritte({MEIER, WELLE, NIEMAND, MEIER});
-    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    FilterEigenMerkBenutzDef(kontext_);
     EXPECT_EQ(gezeigt(), "A B");
     EXPECT_EQ(zustand().FilterAnzahl, 2);
     EXPECT_EQ(zustand().FilterString, "Autor Like 'meier' AND Titel Like 'Welle*'");
@@ -98,7 +98,7 @@ TEST_F(FilterRunTest, TheFirstOfSeveralStepsStaysThoughItLeavesNothing)
                 "Status-Werte!\nEs wird das Ergebnis bis Filter 1 angezeigt.\n");
     erwarteLeer("Es gibt keine Datensätze mit diesen Filtervorgaben!\nunter Berücksichtigung der Status-Werte!\n\n");
     schritte({NIEMAND, WELLE});
-    EXPECT_TRUE(ApplyPropertyFilter(kontext_));
+    FilterEigenMerkBenutzDef(kontext_);
     EXPECT_EQ(gezeigt(), "");
     EXPECT_EQ(zustand().FilterAnzahl, 1);
 }

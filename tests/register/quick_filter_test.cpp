@@ -160,7 +160,14 @@ TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
         SCOPED_TRACE(text);
         filterText("FA", 0, TextAmAnfang);
         welt_.meldungen.erwarte("Filtervorgaben", NOTHING_LEFT);
+        unsigned drawn = 0;
+        welt_.meldungen.during = [&] {
+            EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ") << "behind the box";
+            drawn = page_.aktuelleSeite().fassung;
+        };
         filterText(text, 1, TextAmAnfang);
+        welt_.meldungen.during = nullptr;
+        EXPECT_EQ(page_.aktuelleSeite().fassung, drawn) << "the grid knew of these rows already";
         EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
         EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
         EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
