@@ -5,6 +5,7 @@
 #include "platform/meldungen.h"
 #include "register/document_page.h"
 #include "session/error_report.h"
+#include "session/ini_reader/ini_rows.h"
 
 #include <algorithm>
 #include <cassert>

@@ -36,7 +36,6 @@ enum class Suchbeginn { Oben, AktuelleZeile };
 bool SuchenImRecordset(Recordset& zeilen, std::string_view text, std::string_view feld, int art, Suchbeginn beginn,
                        Meldungen& meldungen);
 
-constexpr std::size_t ANZAHL_SUCHTEXTE = 8;
 // Keeps a text among the last eight.
 void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text);
 

@@ -9,7 +9,6 @@
 #include "session/tree_switches.h"
 
 #include <algorithm>
-#include <fmt/format.h>
 
 namespace quelvarn {
 
@@ -35,7 +34,8 @@ bool stehtSoInDerTabelle(Recordset& zeilen, const std::vector<std::string>& text
 {
     std::size_t anzahl = 0;
     for (; !zeilen.Eof(); zeilen.MoveNext(), ++anzahl)
-        if (anzahl >= texte.size() || textOderLeer(zeilen, "Feld4") != texte[anzahl])
+        if (anzahl >= texte.size() || searchTextKey(textOderLeer(zeilen, "Feld3")) != anzahl ||
+            textOderLeer(zeilen, "Feld4") != texte[anzahl])
             return false;
     return anzahl == texte.size();
 }
@@ -54,7 +54,7 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
     zeilen = ini.suchtexte(session.Anwender);
     ini.loesche(zeilen);
     for (std::size_t index = 0; index < texte.size(); ++index)
-        ini.fuegeAn({session.Anwender, "Suchen/Filtern", fmt::format("Text{}", index), texte[index]});
+        ini.fuegeAn({session.Anwender, "Suchen/Filtern", searchTextName(index), texte[index]});
 }
 
 } // namespace

@@ -169,6 +169,11 @@ const std::vector<Fall> ANWENDER{
      "mueller|Suchen/Filtern|Text3|d|~;mueller|Suchen/Filtern|Text4|e|~;mueller|Suchen/Filtern|Text5|f|~;"
      "mueller|Suchen/Filtern|Text6|g|~;mueller|Suchen/Filtern|Text7|h|~;mueller|Suchen/Filtern|Text8|i|~", "=",
      "Suchtexte", "a+b+c+d+e+f+g+h"},
+    {"search texts of their keys alone, in the order of the keys", "Feld2 = 'Suchen/Filtern'",
+     "mueller|Suchen/Filtern|Text10|zehn|~;mueller|Suchen/Filtern|TEXT7 |h|~;mueller|Suchen/Filtern|Text1|b|~;"
+     "mueller|Suchen/Filtern|Text|~|~;mueller|Suchen/Filtern|Alt|alt|~;mueller|Suchen/Filtern|Text0|a|~;"
+     "mueller|Suchen/Filtern|Text1|c|~", "=",
+     "Suchtexte", "a+b+h"},
     {"rights that are no numbers", "Feld2 = 'Berechtigung'",
      "mueller|Berechtigung|0_STATUS|1|6;mueller|Berechtigung|1_Status|ja|~;mueller|Berechtigung|9_Status|1|1", "=",
      "Rechte", " WHERE (Status = 0)60"},

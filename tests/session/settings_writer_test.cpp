@@ -49,6 +49,12 @@ TEST_F(SettingsWriter, DocumentPageLeavesSearchTextsTableAndOrderOptions)
     EXPECT_THAT(iniZeilen("Feld2 = 'Starttabelle'"), ElementsAre("mueller|Starttabelle|Zeichnungen|~|~"));
     EXPECT_THAT(iniZeilen("Feld2 = 'OfflineDaten'"), ElementsAre("mueller|OfflineDaten|Leer|(2)|BOM"));
 
+    fuegeEin({"mueller|Suchen/Filtern|Text10|fremd|~"}); // Of no key: it goes with the next writing.
+    session.Suchtexte = {"Flansch"};
+    schreibeDokumentseite(session, 3);
+    EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'Suchen/Filtern'"),
+                ElementsAre("mueller|Suchen/Filtern|Text0|Flansch|~"));
+
     session.Suchtexte.clear();
     schreibeDokumentseite(session, 5); // A special table is no start table.
     EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'Suchen/Filtern'"), IsEmpty());

@@ -1,5 +1,6 @@
 #include "session/ini_reader/ini_rows.h"
 
+#include "base/collation.h"
 #include "base/runtime_error.h"
 #include "database/sql/conditions.h"
 
@@ -135,6 +136,19 @@ std::optional<int> findNumber(const Recordset& zeile, std::string_view feld)
     using Limits = std::numeric_limits<std::int16_t>;
     const auto zahl = wholeNumber(zeile.Feld(feld), Limits::min(), Limits::max());
     return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
+}
+
+std::string searchTextName(std::size_t number)
+{
+    return fmt::format("Text{}", number);
+}
+
+std::optional<std::size_t> searchTextKey(std::string_view name)
+{
+    for (std::size_t number = 0; number < ANZAHL_SUCHTEXTE; ++number)
+        if (equalText(name, searchTextName(number)))
+            return number;
+    return std::nullopt;
 }
 
 int zahlOderNull(const Recordset& zeile, std::string_view feld)

@@ -3,6 +3,7 @@
 #include "database/connection.h"
 #include "database/recordset.h"
 
+#include <cstddef>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -31,7 +32,7 @@ public:
                            std::string_view gruppe, std::string_view schluessel = {});
     // The row that holds the switch for events of the CAD program.
     Recordset activeQuelvarn(std::string_view user);
-    // The user's search texts, the oldest first.
+    // The rows of the user's search texts by their keys, the oldest first; also rows of no key.
     Recordset suchtexte(std::string_view anwender);
     // Any SELECT.
     Recordset lese(sql::Select select);
@@ -64,6 +65,10 @@ private:
 std::string pflichttext(const Recordset& zeile, std::string_view feld);
 // "" for Null.
 std::string textOderLeer(const Recordset& zeile, std::string_view feld);
+inline constexpr std::size_t ANZAHL_SUCHTEXTE = 8;
+// The key of a search text by its number, "Text0" to "Text7", and the number of a key; nothing for any other text.
+std::string searchTextName(std::size_t number);
+std::optional<std::size_t> searchTextKey(std::string_view name);
 // Numbers of settings are small ones, of 16 bits; others count as no number. Nothing, or 0, for what is none.
 std::optional<int> findNumber(const Recordset& zeile, std::string_view feld);
 int zahlOderNull(const Recordset& zeile, std::string_view feld);

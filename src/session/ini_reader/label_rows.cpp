@@ -3,14 +3,14 @@
 #include "platform/meldungen.h"
 #include "session/ini_reader/start_run.h"
 
+#include <array>
 #include <fmt/format.h>
 #include <map>
+#include <optional>
 
 namespace quelvarn {
 
 namespace {
-
-constexpr std::size_t ANZAHL_SUCHTEXTE = 8;
 
 using Namen = std::map<std::string, std::string, std::less<>>;
 
@@ -76,9 +76,16 @@ void leseSuchtexte(Startlauf& lauf)
 {
     auto& suchtexte = lauf.session.Suchtexte;
     suchtexte.clear();
-    Recordset zeilen = lauf.ini.suchtexte(lauf.session.Anwender);
-    for (; !zeilen.Eof() && suchtexte.size() < ANZAHL_SUCHTEXTE; zeilen.MoveNext())
-        suchtexte.push_back(pflichttext(zeilen, "Feld4"));
+    // One text a key, in the order of the keys: rows of other keys are none, and of twins the first counts.
+    std::array<std::optional<std::string>, ANZAHL_SUCHTEXTE> byKey;
+    for (Recordset zeilen = lauf.ini.suchtexte(lauf.session.Anwender); !zeilen.Eof(); zeilen.MoveNext()) {
+        const auto key = searchTextKey(textOderLeer(zeilen, "Feld3"));
+        if (key && !byKey[*key])
+            byKey[*key] = pflichttext(zeilen, "Feld4");
+    }
+    for (auto& text : byKey)
+        if (text)
+            suchtexte.push_back(std::move(*text));
 }
 
 } // namespace quelvarn
