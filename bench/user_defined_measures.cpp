@@ -107,8 +107,9 @@ void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
     const auto system = systemPorts(std::filesystem::temp_directory_path() / "quelvarn-bench-laufwerke");
     Ports ports = system->mit(meldungen, zwischenablage, anzeige);
     FilterState filter;
+    filter.typen[0].bereich = Filterbereich::BenutzDef;
     Tabellen tabellen;
-    Filterkontext kontext{session, ports, filter, tabellen, 0, Filterbereich::BenutzDef, {}, {}};
+    Filterkontext kontext{session, ports, filter, tabellen};
     for (const Fall& fall : FAELLE)
         messeFall(reihe, kontext, sqlite, fall);
 

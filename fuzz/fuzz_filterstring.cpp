@@ -14,13 +14,12 @@ std::string gespeichert(const GespeicherterFilter& filter)
     Filterzustand zustand;
     zustand.FilterSchritte = filter.FilterSchritte;
     zustand.FilterAnzahl = filter.FilterAnzahl;
-    zustand.BenutzDefAnzahl = filter.BenutzDefAnzahl;
     zustand.ZusBenutzDef = filter.ZusBenutzDef;
     if (filter.ChFilterStat)
         zustand.ChFilterStat = *filter.ChFilterStat;
-    if (!speicherbar(zustand, filter.FilterWerteTabelle))
+    if (!speicherbar(zustand))
         std::abort(); // What was read holds no character that parts the entries.
-    return alsFilterstring(zustand, filter.FilterWerteTabelle);
+    return alsFilterstring(zustand);
 }
 
 } // namespace

@@ -234,7 +234,7 @@ private:
     {
         FilterState state;
         Tables tables(session);
-        Filterkontext context{session, world.ports, state, tables, 0, Filterbereich::Eigenschaften, {}, {}};
+        Filterkontext context{session, world.ports, state, tables};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
         FilterEigenMerkBenutzDef(context);

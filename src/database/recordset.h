@@ -124,7 +124,7 @@ public:
     std::optional<std::vector<Bookmark>> waehle(std::string_view bedingung, const Fortschritt& fortschritt = {});
     std::optional<std::vector<Bookmark>> waehle(const RowFilter& filter, const Fortschritt& fortschritt = {});
     // The distinct texts of a column in these rows, sorted; no Null, and only those that `gilt` accepts. Of texts that
-    // differ in case or trailing blanks alone, the spelling stored first.
+    // differ in case or trailing blanks alone, the spelling stored first, without such blanks where there is one.
     std::vector<std::string> verschiedeneTexte(std::string_view feld, std::span<const Bookmark> zeilen,
                                                const std::function<bool(std::string_view)>& gilt = {});
     // The same for a column of numbers.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 
 namespace quelvarn {
 
@@ -16,6 +17,7 @@ constexpr Zeilennummer KEINE = std::numeric_limits<Zeilennummer>::max();
 struct Fund
 {
     std::string schluessel; // sortKey of the text
+    bool blanks = false;    // behind the text
     Zeilenschluessel zeile = 0;
     Textcode code = 0;
 };
@@ -62,11 +64,11 @@ std::vector<std::string> Recordset::verschiedeneTexte(std::string_view name, std
     for (Textcode code = 1; code < erste.size(); ++code) {
         const std::string_view text = spalte->texte().text(code);
         if (erste[code] != KEINE && (!gilt || gilt(text)))
-            funde.push_back({sortKey(text), kern_->zeilen.reihenfolge(erste[code]), code});
+            funde.push_back({sortKey(text), text.ends_with(' '), kern_->zeilen.reihenfolge(erste[code]), code});
     }
     std::sort(funde.begin(), funde.end(), [](const Fund& links, const Fund& rechts) {
         const int ordnung = links.schluessel.compare(rechts.schluessel);
-        return ordnung != 0 ? ordnung < 0 : links.zeile < rechts.zeile;
+        return ordnung != 0 ? ordnung < 0 : std::tie(links.blanks, links.zeile) < std::tie(rechts.blanks, rechts.zeile);
     });
     std::vector<std::string> texte;
     for (std::size_t i = 0; i < funde.size(); ++i)

@@ -1,6 +1,8 @@
 #include "filter/execution.h"
 #include "filter/filter_run.h"
 
+#include <utility>
+
 namespace quelvarn {
 namespace {
 
@@ -8,14 +10,13 @@ namespace {
 bool nothingChosen(const Filterkontext& kontext)
 {
     const Filterzustand& zustand = kontext.zustand();
-    return zustand.FilterAnzahl == 0 && zustand.BenutzDefAnzahl == 0 && !zustand.HauptwertAktiv &&
-           (kontext.bereich != Filterbereich::Eigenschaften || kontext.filter.status.StatusFilter.empty());
+    return zustand.FilterAnzahl == 0 && zustand.BenutzDefAnzahl() == 0 && !zustand.HauptwertAktiv &&
+           (kontext.bereich() != Filterbereich::Eigenschaften || kontext.filter.status.StatusFilter.empty());
 }
 
 void showAllRows(Filterkontext& kontext)
 {
     vergissFilter(kontext.filter, kontext.tab);
-    kontext.FilterWerteTabelle.clear();
     kontext.tabellen.filterAufheben(kontext.tab);
 }
 
@@ -28,7 +29,7 @@ bool laufeStruktur(Filterkontext& kontext)
 
 bool laufe(Filterkontext& kontext)
 {
-    switch (kontext.bereich) {
+    switch (kontext.bereich()) {
     case Filterbereich::Eigenschaften:
         return ApplyPropertyFilter(kontext);
     case Filterbereich::Struktur:
@@ -46,17 +47,19 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext)
     if (nothingChosen(kontext))
         return showAllRows(kontext);
     kontext.stepsWithoutRows.clear();
+    std::vector<Filterwert> rows = kontext.FilterWerteTabelle(); // Also those of steps that leave nothing.
     if (!laufe(kontext))
         return;
     GefilterteTabelle& tabelle = kontext.tabelle();
-    const bool eigenesErgebnis = kontext.bereich == Filterbereich::BenutzDef;
+    const bool eigenesErgebnis = kontext.bereich() == Filterbereich::BenutzDef;
     if (!eigenesErgebnis)
         tabelle.FilterErgebnis = Recordset();
     tabelle.zustand = eigenesErgebnis ? Filterergebnis : Gefiltert;
     tabelle.filterBeschreibung.clear();
     kontext.zustand().Schnellfilter.clear();
-    kontext.zustand().gezeigteWerte = kontext.FilterWerteTabelle;
-    tabelle.filterListeGefuellt = !kontext.FilterWerteTabelle.empty();
+    tabelle.gezeigteWerte = std::move(rows);
+    // Structure features and user-defined properties know no limit of the statuses.
+    tabelle.statusLimit = kontext.bereich() == Filterbereich::Eigenschaften ? kontext.filter.status : StatusLimit{};
     kontext.tabellen.filterGewechselt(kontext.tab);
     reportStepsWithoutRows(kontext);
 }

@@ -8,16 +8,15 @@
 namespace quelvarn {
 
 // --- steps ---
-// Appends a step; the code follows from the field and the operator (0 ">= ", 1 "= ", 2 "<= "). A step too many shows
-// its box and leaves FilterAnzahl at ALLE_GEFUELLT.
-void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator);
-// The display row of a step just added, where the counter allows it.
-void zeigeFilterwert(Filterkontext& kontext, const Filterwert& zeile);
+// Appends a step with its row; the code follows from the field and the operator (0 ">= ", 1 "= ", 2 "<= "). A step too
+// many shows its box and leaves FilterAnzahl at ALLE_GEFUELLT.
+void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator,
+                   RowName row = {});
 void ClearFilterSteps(Filterzustand& zustand);
 void ClearHauptwertBereich(Filterzustand& zustand);
 void SaveFilterState(Filterzustand& zustand);
 void RestoreFilterState(Filterzustand& zustand);
-// Everything of one type, with its FilterWerteTabelle; the ticked statuses stay.
+// Everything that was collected for one type; the ticked statuses stay, and what its table shows.
 void leereFilter(Filterzustand& zustand);
 
 // The status condition of the ticked boxes; ticks those between the limits.
@@ -39,7 +38,7 @@ void ReportNoRecords(Filterkontext& kontext, int schritt);
 // The same for each such step of the run before, once.
 void reportStepsWithoutRows(Filterkontext& kontext);
 // Forgets the filter of a type and hands out the status condition, which stays.
-std::string vergissFilter(FilterState& filter, int tab);
+Statusbedingung vergissFilter(FilterState& filter, int tab);
 // Every loaded table goes back to its status filter.
 void ResetAllFilters(Filterkontext& kontext);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/filter_state.h"
+#include "filter/filter_rows.h"
 #include "filter/filtered_table.h"
 #include "platform/ports.h"
 #include "session/session_state.h"
@@ -10,7 +10,7 @@
 
 namespace quelvarn {
 
-// What the parts of the filter page share. FilterWerteTabelle is the working copy; a run copies it to the type.
+// What the parts of the filter page share.
 struct Filterkontext
 {
     SessionState& session;
@@ -18,9 +18,7 @@ struct Filterkontext
     FilterState& filter;
     Tabellenherr& tabellen;
     int tab = 0; // Of the type the page is open for.
-    Filterbereich bereich = Filterbereich::Eigenschaften;
-    std::vector<Filterwert> FilterWerteTabelle;
-    std::function<void()> geaendert;
+    std::function<void()> geaendert = {};
     // Steps of the run that left no rows, in the order they were tried. They are told once the grid shows the rows that
     // are left: a box lets the window draw.
     std::vector<int> stepsWithoutRows = {};
@@ -28,6 +26,8 @@ struct Filterkontext
     Filterzustand& zustand() { return filter.typen[static_cast<std::size_t>(tab)]; }
     const Filterzustand& zustand() const { return filter.typen[static_cast<std::size_t>(tab)]; }
     GefilterteTabelle& tabelle() { return tabellen.filterTabelle(tab); }
+    Filterbereich bereich() const { return zustand().bereich; }
+    std::vector<Filterwert> FilterWerteTabelle() const { return filterRows(zustand()); }
     void melde() const
     {
         if (geaendert)

@@ -14,8 +14,7 @@
 namespace quelvarn {
 
 FilterPage::FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen)
-    : kontext_{session, ports, filter, tabellen, 0, Filterbereich::Eigenschaften, {}, {}}, eigenschaften_(kontext_),
-      struktur_(kontext_), benutzDef_(kontext_)
+    : kontext_{session, ports, filter, tabellen}, eigenschaften_(kontext_), struktur_(kontext_), benutzDef_(kontext_)
 {
     kontext_.geaendert = [this] {
         if (geaendert)
@@ -41,27 +40,16 @@ void FilterPage::OpenFilterPage()
 {
     bediene("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
         geladen_ = kontext_.session.FormSEFilternGeladen = true;
-        zeigeTyp(kontext_.tabellen.filterTab());
+        kontext_.tab = kontext_.tabellen.filterTab();
         // The steps of a quick filter do not belong here.
         if (!kontext_.tabelle().filterBeschreibung.empty())
             ResetAllFilters(kontext_);
         benutzDefVorhanden_ = benutzDef_.vorhanden();
-        if (!bereichVorhanden(kontext_.bereich))
+        if (!bereichVorhanden(kontext_.bereich()))
             leere();
-        schneideWerteZu();
-        sichereStand();
+        SaveFilterState(kontext_.zustand());
         fuelleBereich();
     });
-}
-
-// The rows collected for the type shown so far stay with it.
-void FilterPage::zeigeTyp(int tab)
-{
-    staende_[static_cast<std::size_t>(kontext_.tab)] = {kontext_.FilterWerteTabelle, kontext_.bereich};
-    const Arbeitsstand& stand = staende_[static_cast<std::size_t>(tab)];
-    kontext_.tab = tab;
-    kontext_.FilterWerteTabelle = stand.FilterWerteTabelle;
-    kontext_.bereich = stand.bereich;
 }
 
 void FilterPage::CloseFilterPage()
@@ -91,11 +79,7 @@ void FilterPage::datenbankWechselt()
 {
     entladen();
     kontext_.filter = {};
-    kontext_.FilterWerteTabelle.clear();
-    kontext_.bereich = Filterbereich::Eigenschaften;
     kontext_.tab = 0;
-    staende_ = {};
-    gesichert_ = {};
     kontext_.melde();
 }
 
@@ -104,47 +88,27 @@ void FilterPage::datenbankWechselt()
 void FilterPage::leere()
 {
     leereFilter(kontext_.zustand());
-    kontext_.FilterWerteTabelle.clear();
-}
-
-// A run that went back forgot its last steps, and the document page forgets all of them: their rows go as well.
-void FilterPage::schneideWerteZu()
-{
-    const Filterzustand& zustand = kontext_.zustand();
-    const int schritte = zustand.FilterAnzahl + zustand.BenutzDefAnzahl;
-    auto& werte = kontext_.FilterWerteTabelle;
-    if (std::ssize(werte) > schritte)
-        werte.resize(static_cast<std::size_t>(schritte));
-}
-
-void FilterPage::sichereStand()
-{
-    SaveFilterState(kontext_.zustand());
-    gesichert_ = {kontext_.FilterWerteTabelle, kontext_.bereich};
 }
 
 // A marker that all steps are filled does not come back: what was collected can be run.
 void FilterPage::stelleStandWiederHer()
 {
-    if (gesichert_.bereich != kontext_.bereich)
-        return leere(); // It was made on another part of the page; the parts do not mix.
     Filterzustand& zustand = kontext_.zustand();
+    if (zustand.GesicherterFilter.bereich != zustand.bereich)
+        return leere(); // It was made on another part of the page; the parts do not mix.
     RestoreFilterState(zustand);
-    kontext_.FilterWerteTabelle = gesichert_.FilterWerteTabelle;
-    if (zustand.FilterAnzahl == ALLE_GEFUELLT)
-        zustand.FilterAnzahl = static_cast<int>(
-            std::ranges::count_if(zustand.FilterSchritte, [](const auto& schritt) { return !schritt.Wert.empty(); }));
+    zustand.FilterAnzahl = static_cast<int>(filledSteps(zustand).size());
 }
 
 // --- the part of the page in front -----------------------------------------------------------------------------
 
 void FilterPage::bereichGewaehlt(Filterbereich bereich)
 {
-    if (bereich == kontext_.bereich || !bereichVorhanden(bereich))
+    if (bereich == kontext_.bereich() || !bereichVorhanden(bereich))
         return;
     bediene("Wechsel der Filterbereiche", "Fehler beim Wechsel der Filterbereiche!", [&] {
         leere();
-        kontext_.bereich = bereich;
+        kontext_.zustand().bereich = bereich;
         fuelleBereich();
     });
 }
@@ -152,7 +116,7 @@ void FilterPage::bereichGewaehlt(Filterbereich bereich)
 void FilterPage::fuelleBereich()
 {
     ++listenfassung_;
-    switch (kontext_.bereich) {
+    switch (kontext_.bereich()) {
     case Filterbereich::Eigenschaften:
         return eigenschaften_.FilterListenSchmal(kontext_.zustand().FilterString);
     case Filterbereich::Struktur:
@@ -160,7 +124,7 @@ void FilterPage::fuelleBereich()
     case Filterbereich::BenutzDef:
         benutzDef_.entsperre();
         benutzDef_.fuelleListen();
-        if (kontext_.zustand().BenutzDefAnzahl > 0)
+        if (kontext_.zustand().BenutzDefAnzahl() > 0)
             benutzDef_.sperre();
     }
 }
@@ -169,26 +133,15 @@ void FilterPage::fuelleBereich()
 void FilterPage::fuelleStruktur()
 {
     struktur_.zuruecksetzen();
-    std::vector<std::string> pfad;
-    std::string material, firma;
-    for (const FilterSchritt& schritt : kontext_.zustand().FilterSchritte) {
-        if (schritt.Feldname.starts_with("Hauptmerkmal_"))
-            pfad.push_back(schritt.Wert);
-        else if (schritt.Feldname == "Material")
-            material = schritt.Wert;
-        else if (schritt.Feldname == "Firma")
-            firma = schritt.Wert;
-    }
-    if (!pfad.empty() || !material.empty() || !firma.empty())
-        struktur_.stelleWiederHer(pfad, material, firma);
+    if (const auto steps = filledSteps(kontext_.zustand()); !steps.empty())
+        struktur_.stelleWiederHer(steps);
 }
 
 void FilterPage::filtern()
 {
     bediene("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
         FilterEigenMerkBenutzDef(kontext_);
-        schneideWerteZu();
-        if (kontext_.bereich == Filterbereich::Eigenschaften)
+        if (kontext_.bereich() == Filterbereich::Eigenschaften)
             fuelleBereich();
     });
 }
@@ -196,7 +149,7 @@ void FilterPage::filtern()
 void FilterPage::zurueck()
 {
     bediene("Zurücksetzen der Filterwerte", "Fehler beim Zurücksetzen der Filterwerte!", [&] {
-        if (kontext_.bereich == Filterbereich::Eigenschaften)
+        if (kontext_.bereich() == Filterbereich::Eigenschaften)
             stelleStandWiederHer();
         else
             leere();
@@ -269,7 +222,7 @@ void FilterPage::filterVerwenden(std::string_view CbFilterSave)
         if (!text)
             return;
         UseSavedFilter(kontext_, *text);
-        if (!bereichVorhanden(kontext_.bereich))
+        if (!bereichVorhanden(kontext_.bereich()))
             return leere();
         fuelleBereich();
     });
@@ -278,27 +231,40 @@ void FilterPage::filterVerwenden(std::string_view CbFilterSave)
 void FilterPage::nutzeGespeicherten(std::string_view Filtername)
 {
     bediene("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
-        zeigeTyp(kontext_.tabellen.filterTab());
+        kontext_.tab = kontext_.tabellen.filterTab();
         const std::string text = SavedFilterString(kontext_.session, kontext_.tab, Filtername);
         if (text.empty())
             return;
         UseSavedFilter(kontext_, text);
         FilterEigenMerkBenutzDef(kontext_);
-        schneideWerteZu();
     });
 }
 
 void FilterPage::wertGeaendert(std::size_t zeile, std::string_view wert)
 {
-    if (zeile < kontext_.FilterWerteTabelle.size())
-        kontext_.FilterWerteTabelle[zeile].Wert = wert;
-    kontext_.melde();
+    bediene("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
+        if (zeile >= kontext_.FilterWerteTabelle().size())
+            return; // The row is gone.
+        if (setRowValue(kontext_.zustand(), zeile, wert))
+            return followRows();
+        kontext_.ports.meldungen.warnung("Filterwerte", trim(wert).empty() ? "Es muss ein Filterwert angegeben werden!"
+                                                                           : fmt::format("'{}' ist kein Datum!", wert));
+    });
 }
 
 void FilterPage::sterneErgaenzen()
 {
-    ergaenzeSterne(kontext_);
-    kontext_.melde();
+    bediene("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
+        ergaenzeSterne(kontext_);
+        followRows();
+    });
+}
+
+// The lists of the structure features are those of the branch as it reads now.
+void FilterPage::followRows()
+{
+    if (kontext_.bereich() == Filterbereich::Struktur)
+        fuelleStruktur();
 }
 
 // --- for the projection ----------------------------------------------------------------------------------------
@@ -314,8 +280,8 @@ std::string FilterPage::titel() const
 
 std::string FilterPage::kopfFilterwerte() const
 {
-    return kontext_.bereich == Filterbereich::BenutzDef ? "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)"
-                                                        : "      Filterwerte";
+    return kontext_.bereich() == Filterbereich::BenutzDef ? "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)"
+                                                          : "      Filterwerte";
 }
 
 std::string FilterPage::zugriffText() const

@@ -6,7 +6,6 @@
 #include "filter/user_defined_area.h"
 #include "session/main_window.h"
 
-#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -65,21 +64,12 @@ public:
     std::function<bool(const std::string& filename)> viewer;
 
 private:
-    // What is collected for a type while the page shows another one.
-    struct Arbeitsstand
-    {
-        std::vector<Filterwert> FilterWerteTabelle;
-        Filterbereich bereich = Filterbereich::Eigenschaften;
-    };
-
     void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
-    void zeigeTyp(int tab);
-    void sichereStand();
     void stelleStandWiederHer();
     void leere();
     void fuelleBereich();
     void fuelleStruktur();
-    void schneideWerteZu();
+    void followRows();
     void schliesseVorlage();
     void oeffneVorlage();
 
@@ -87,8 +77,6 @@ private:
     Eigenschaftsbereich eigenschaften_;
     Strukturbereich struktur_;
     BenutzDefBereich benutzDef_;
-    std::array<Arbeitsstand, ANZAHL_DOKUTYPEN> staende_;
-    Arbeitsstand gesichert_; // Goes with GesicherterFilter.
     bool geladen_ = false;
     bool benutzDefVorhanden_ = false;
     bool zeigtVorlage_ = false;

@@ -4,7 +4,9 @@
 #include "database/document_types.h"
 
 #include <array>
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quelvarn {
@@ -14,6 +16,10 @@ inline constexpr int ANZAHL_HAUPTWERTE = 7;
 inline constexpr int ANZAHL_ZUSBENUTZDEF = 4;
 // FilterAnzahl when a step was refused because all were filled; a run then applies nothing until a reset.
 inline constexpr int ALLE_GEFUELLT = 8;
+
+// The columns of the additional values on the page of user-defined properties, in the order of their combos.
+inline constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUSATZSPALTEN{"Autor", "Bearbeiter", "Material",
+                                                                                 "Projekt"};
 
 // The parts of the filter page; they do not mix.
 enum class Filterbereich : int { Eigenschaften = 0, Struktur = 1, BenutzDef = 2 };
@@ -29,16 +35,34 @@ enum FilterCode : int {
     CodeDateiWennGefuellt = 60,
 };
 
+// How the row of a step calls it.
+struct RowName
+{
+    std::string field;     // "Kalender", "StrukturMerkMaterial" ...; "" where it is the column of the step.
+    std::string Benennung; // "" where it is the same as the field.
+    bool operator==(const RowName&) const = default;
+};
+
 struct FilterSchritt
 {
     std::string Feldname; // Column of the document table; empty for a user-defined property.
     std::string Wert;     // The text to compare; for a user-defined property its Name.
     int code = CodeText;
     std::string Muster; // Only of a user-defined property: the pattern of its Wert.
+    RowName row = {};
     bool operator==(const FilterSchritt&) const = default;
 };
 
-// A row of FilterWerteTabelle: a step as it is shown.
+// An additional value on the page of user-defined properties.
+struct AdditionalValue
+{
+    std::size_t column = 0; // Of ZUSATZSPALTEN.
+    std::string Wert;
+    std::string Benennung;
+    bool operator==(const AdditionalValue&) const = default;
+};
+
+// A row of FilterWerteTabelle: a step or an additional value as it is shown (filter_rows.h).
 struct Filterwert
 {
     std::string Feldname;
@@ -60,32 +84,42 @@ struct Hauptwertgrenzen
 struct Filterzustand
 {
     std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
-    int FilterAnzahl = 0;      // Filled steps, or ALLE_GEFUELLT.
-    int BenutzDefAnzahl = 0;   // Filled entries of ZusBenutzDef.
-    std::string FilterString;  // The filter for SQL (month first), "" for none.
+    int FilterAnzahl = 0;                                 // Filled steps, or ALLE_GEFUELLT.
+    Filterbereich bereich = Filterbereich::Eigenschaften; // The part of the page on which the steps were made.
+    std::string FilterString;                             // The filter for SQL (month first), "" for none.
     std::string Schnellfilter; // The same of a filter by text or date that the document page made.
     std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> HauptwertBereich;
     bool HauptwertAktiv = false;
-    std::array<std::string, ANZAHL_ZUSBENUTZDEF> ZusBenutzDef; // Autor, Bearbeiter, Material, Projekt
-    std::vector<Filterwert> gezeigteWerte;                     // FilterWerteTabelle of the document page.
-    std::array<bool, ANZAHL_STATUS> ChFilterStat{};            // The ticked status boxes.
+    std::vector<AdditionalValue> ZusBenutzDef;      // In the order of their choice, one a column at most.
+    std::array<bool, ANZAHL_STATUS> ChFilterStat{}; // The ticked status boxes.
+
+    int BenutzDefAnzahl() const { return static_cast<int>(ZusBenutzDef.size()); }
 
     struct
     {
         std::string FilterString;
         int FilterAnzahl = 0;
         std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
+        Filterbereich bereich = Filterbereich::Eigenschaften;
     } GesicherterFilter; // As it was when the filter page was opened.
 };
 
+// A limit of the statuses as it is told; both empty for none.
+struct StatusLimit
+{
+    std::string legende; // "             Status >= 1 und <= 3"
+    std::string kurz;    // " >= 1 und <= 3"
+
+    bool isSet() const { return !kurz.empty(); }
+    Filterwert row() const { return {"", "Status", kurz}; }
+};
+
 // The status condition, common to all types: it follows the boxes changed last. All empty for no condition.
-struct Statusbedingung
+struct Statusbedingung : StatusLimit
 {
     std::string StatusFilter;      // " ( Status >= 1  AND Status <= 3)"
     std::string StatusFilterWhere; // " WHERE ( ..."
     std::string StatusFilterAnd;   // " AND ( ..."
-    std::string legende;           // "             Status >= 1 und <= 3"
-    std::string kurz;              // " >= 1 und <= 3"
 };
 
 // What the running filters are. Lives as long as the program.

@@ -1,11 +1,12 @@
 #include "filter/filter_string.h"
 
 #include "base/text.h"
-#include "filter/user_defined_match.h"
+#include "filter/filter_rows.h"
 
 #include <algorithm>
 #include <charconv>
 #include <fmt/format.h>
+#include <span>
 #include <system_error>
 
 namespace quelvarn {
@@ -20,7 +21,6 @@ constexpr std::string_view ZUSBENUTZDEF = "ZusBenutzDef";
 constexpr std::string_view STRUKTURMERK = "StrukturMerk";
 constexpr std::string_view HAUPTMERKMAL = "Hauptmerkmal_";
 constexpr char ERSTE_EBENE = 'C'; // Features A and B belong to the properties.
-constexpr std::array<std::string_view, 3> OPERATOREN{">= ", "= ", "<= "};
 
 // How a row of the display table names the column of its step, where its Feldname is not the column.
 struct Feldweg
@@ -35,31 +35,28 @@ constexpr std::array<Feldweg, 3> TEXTFELDER{{
     {"DokubezDateiFile", "Pfad-u. Dateiname", "filename"},
 }};
 
-// The row of the statuses mirrors no step.
-bool istStatuszeile(const Filterwert& zeile)
+// What an entry holds beside its row: the code of the step, or the pattern of a user-defined property once more.
+std::string thirdPart(const FilterSchritt& step)
 {
-    return zeile.Feldname.empty() && zeile.Benennung == STATUS_ENTRY;
+    return step.Feldname.empty() ? step.Muster : std::to_string(step.code);
 }
 
-std::string drittesFeld(const FilterSchritt& schritt, const Filterwert& zeile)
+struct Entry
 {
-    if (zeile.Feldname == BENUTZDEF || zeile.Feldname.starts_with(ZUSBENUTZDEF))
-        return schritt.Muster;
-    return std::to_string(schritt.code);
-}
+    Filterwert row;
+    std::string third;
+};
 
-// The rows that are stored, each with its step.
-template <class Tat>
-void fuerJedeZeile(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle, Tat tat)
+// The entries that are stored.
+std::vector<Entry> entries(const Filterzustand& zustand)
 {
-    std::size_t schritt = 0;
-    for (const Filterwert& zeile : FilterWerteTabelle) {
-        if (istStatuszeile(zeile))
-            continue;
-        if (schritt == GESPEICHERTE_SCHRITTE)
-            return;
-        tat(zustand.FilterSchritte[schritt++], zeile);
-    }
+    std::vector<Filterwert> rows = filterRows(zustand);
+    rows.resize(std::min(rows.size(), GESPEICHERTE_SCHRITTE));
+    const std::span<const FilterSchritt> steps = filledSteps(zustand);
+    std::vector<Entry> stored;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        stored.push_back({std::move(rows[i]), i < steps.size() ? thirdPart(steps[i]) : std::string()});
+    return stored;
 }
 
 // Takes the entries of a stored text one by one.
@@ -75,15 +72,14 @@ public:
         if (teile[0].empty() && teile[2].empty() && teile[3] == STATUS_ENTRY)
             return nimmStatus(teile[1]);
         const Filterwert zeile{teile[0], teile[3], teile[1]};
-        if (filter_.FilterWerteTabelle.size() == GESPEICHERTE_SCHRITTE || !passt(zeile) || !nimmZeile(zeile, teile[2]))
-            return false;
-        filter_.FilterWerteTabelle.push_back(zeile);
-        return true;
+        return taken() < GESPEICHERTE_SCHRITTE && passt(zeile) && nimmZeile(zeile, teile[2]);
     }
 
     GespeicherterFilter ergebnis() && { return std::move(filter_); }
 
 private:
+    std::size_t taken() const { return static_cast<std::size_t>(filter_.FilterAnzahl) + filter_.ZusBenutzDef.size(); }
+
     bool nimmStatus(std::string_view ziffern)
     {
         const auto istZiffer = [](char zeichen) { return zeichen == '0' || zeichen == '1'; };
@@ -107,7 +103,7 @@ private:
     bool passt(const Filterwert& zeile)
     {
         const Filterbereich bereich = bereichVon(zeile);
-        if (filter_.FilterWerteTabelle.empty())
+        if (taken() == 0)
             filter_.bereich = bereich;
         return filter_.bereich == bereich && !zeile.Feldname.empty();
     }
@@ -115,15 +111,15 @@ private:
     bool nimmZeile(const Filterwert& zeile, std::string_view drittes)
     {
         if (zeile.Feldname == BENUTZDEF)
-            return schritt({"", zeile.Benennung, CodeText, zeile.Wert});
+            return append({"", zeile.Benennung, CodeText, zeile.Wert});
         if (zeile.Feldname.starts_with(ZUSBENUTZDEF))
             return zusatz(zeile);
         if (zeile.Feldname.starts_with(HAUPTMERKMAL))
             return (filter_.bereich != Filterbereich::Struktur || istNaechsteEbene(zeile.Feldname)) &&
-                   schritt({zeile.Feldname, zeile.Wert, CodeText, ""});
+                   step(zeile, zeile.Feldname, zeile.Wert, CodeText);
         if (zeile.Feldname.starts_with(STRUKTURMERK)) {
             const std::string spalte = zeile.Feldname.substr(STRUKTURMERK.size());
-            return (spalte == "Material" || spalte == "Firma") && schritt({spalte, zeile.Wert, CodeText, ""});
+            return (spalte == "Material" || spalte == "Firma") && step(zeile, spalte, zeile.Wert, CodeText);
         }
         return eigenschaft(zeile, drittes);
     }
@@ -132,10 +128,15 @@ private:
     bool istNaechsteEbene(std::string_view Feldname) const
     {
         return Feldname.substr(HAUPTMERKMAL.size()) ==
-               std::string(1, static_cast<char>(ERSTE_EBENE + filter_.strukturpfad().size()));
+               std::string(1, static_cast<char>(ERSTE_EBENE + filter_.FilterAnzahl));
     }
 
-    bool schritt(FilterSchritt neuer)
+    bool step(const Filterwert& row, std::string_view column, std::string_view value, int code)
+    {
+        return append({std::string(column), std::string(value), code, "", {row.Feldname, row.Benennung}});
+    }
+
+    bool append(FilterSchritt neuer)
     {
         filter_.FilterSchritte[static_cast<std::size_t>(filter_.FilterAnzahl++)] = std::move(neuer);
         return true;
@@ -146,8 +147,8 @@ private:
         const auto stelle = std::ranges::find(ZUSATZSPALTEN, zeile.Feldname.substr(ZUSBENUTZDEF.size()));
         if (stelle == ZUSATZSPALTEN.end())
             return false;
-        filter_.ZusBenutzDef[static_cast<std::size_t>(stelle - ZUSATZSPALTEN.begin())] = zeile.Wert;
-        ++filter_.BenutzDefAnzahl;
+        setAdditionalValue(filter_.ZusBenutzDef,
+                           {static_cast<std::size_t>(stelle - ZUSATZSPALTEN.begin()), zeile.Wert, zeile.Benennung});
         return true;
     }
 
@@ -166,7 +167,7 @@ private:
         const std::string spalte = textfeld != TEXTFELDER.end() ? std::string(textfeld->spalte)
                                    : quickfilter                ? zeile.Benennung
                                                                 : zeile.Feldname;
-        return zeile.Feldname != "Kalender" && schritt({spalte, zeile.Wert, code, ""});
+        return zeile.Feldname != "Kalender" && step(zeile, spalte, zeile.Wert, code);
     }
 
     // "" when the row is no date.
@@ -184,17 +185,10 @@ private:
     // The operator in front of the date counts more than that of the code.
     bool datum(const Filterwert& zeile, std::string_view spalte, int code)
     {
-        int op = code % 10;
-        std::string_view tag = zeile.Wert;
-        for (std::size_t i = 0; i < OPERATOREN.size(); ++i)
-            if (zeile.Wert.starts_with(OPERATOREN[i])) {
-                op = static_cast<int>(i);
-                tag = std::string_view(zeile.Wert).substr(OPERATOREN[i].size());
-                break;
-            }
+        const auto [written, tag] = splitOperator(zeile.Wert);
+        const int op = written.value_or(code % 10);
         const int stamm = spalte == "Erstellt" ? CodeErstellt : CodeGeaendert;
-        return op < static_cast<int>(OPERATOREN.size()) &&
-               schritt({std::string(spalte), std::string(tag), stamm + op, ""});
+        return op < static_cast<int>(OPERATORS.size()) && step(zeile, spalte, trim(tag), stamm + op);
     }
 
     GespeicherterFilter filter_;
@@ -202,31 +196,11 @@ private:
 
 } // namespace
 
-std::vector<std::string> GespeicherterFilter::strukturpfad() const
-{
-    std::vector<std::string> pfad;
-    for (const FilterSchritt& schritt : FilterSchritte)
-        if (bereich == Filterbereich::Struktur && schritt.Feldname.starts_with(HAUPTMERKMAL))
-            pfad.push_back(schritt.Wert);
-    return pfad;
-}
-
-std::string GespeicherterFilter::wertVon(std::string_view Feldname) const
-{
-    if (bereich == Filterbereich::Struktur)
-        for (const FilterSchritt& schritt : FilterSchritte)
-            if (schritt.Feldname == Feldname)
-                return schritt.Wert;
-    return "";
-}
-
-std::string alsFilterstring(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle)
+std::string alsFilterstring(const Filterzustand& zustand)
 {
     std::string text;
-    fuerJedeZeile(zustand, FilterWerteTabelle, [&](const FilterSchritt& schritt, const Filterwert& zeile) {
-        text +=
-            fmt::format("{}\\{}\\{}\\{}|", zeile.Feldname, zeile.Wert, drittesFeld(schritt, zeile), zeile.Benennung);
-    });
+    for (const auto& [row, third] : entries(zustand))
+        text += fmt::format("{}\\{}\\{}\\{}|", row.Feldname, row.Wert, third, row.Benennung);
     const auto& haken = zustand.ChFilterStat;
     if (std::ranges::find(haken, true) == haken.end())
         return text;
@@ -249,18 +223,12 @@ GespeicherterFilter leseFilterstring(std::string_view Filterstring)
     return std::move(leser).ergebnis();
 }
 
-bool speicherbar(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle)
+bool speicherbar(const Filterzustand& zustand)
 {
-    bool ohneTrenner = true;
-    const auto pruefe = [&](std::string_view text) {
-        ohneTrenner = ohneTrenner && text.find_first_of("\\|") == std::string_view::npos;
-    };
-    fuerJedeZeile(zustand, FilterWerteTabelle, [&](const FilterSchritt& schritt, const Filterwert& zeile) {
-        for (const std::string_view text : {zeile.Feldname, zeile.Wert, zeile.Benennung})
-            pruefe(text);
-        pruefe(drittesFeld(schritt, zeile));
+    const auto whole = [](std::string_view text) { return text.find_first_of("\\|") == std::string_view::npos; };
+    return std::ranges::all_of(entries(zustand), [&](const Entry& entry) {
+        return whole(entry.row.Feldname) && whole(entry.row.Wert) && whole(entry.row.Benennung) && whole(entry.third);
     });
-    return ohneTrenner;
 }
 
 } // namespace quelvarn

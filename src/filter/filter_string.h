@@ -17,27 +17,17 @@ struct GespeicherterFilter
 {
     std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
     int FilterAnzahl = 0;
-    int BenutzDefAnzahl = 0;
-    std::array<std::string, ANZAHL_ZUSBENUTZDEF> ZusBenutzDef;
-    std::vector<Filterwert> FilterWerteTabelle;
+    std::vector<AdditionalValue> ZusBenutzDef;
     std::optional<std::array<bool, ANZAHL_STATUS>> ChFilterStat; // None when no status entry was read.
     Filterbereich bereich = Filterbereich::Eigenschaften;        // The kind of the entries.
-
-    // The choices of the structure page; empty where there was none.
-    std::vector<std::string> strukturpfad() const; // From level C down.
-    std::string strukturMaterial() const { return wertVon("Material"); }
-    std::string strukturFirma() const { return wertVon("Firma"); }
-
-private:
-    std::string wertVon(std::string_view Feldname) const;
 };
 
 // Entries "Feldname\Wert\FilterCode\Benennung|", and last "\110010\\Status|" when a status box is ticked.
 // For a user-defined property the pattern stands in place of the code.
-std::string alsFilterstring(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle);
+std::string alsFilterstring(const Filterzustand& zustand);
 // A damaged entry ends the reading; what stood before it counts.
 GespeicherterFilter leseFilterstring(std::string_view Filterstring);
 // False when a value holds one of the characters that part the entries.
-bool speicherbar(const Filterzustand& zustand, const std::vector<Filterwert>& FilterWerteTabelle);
+bool speicherbar(const Filterzustand& zustand);
 
 } // namespace quelvarn

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "database/recordset.h"
+#include "filter/filter_state.h"
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace quelvarn {
 
@@ -28,8 +30,10 @@ struct GefilterteTabelle
     // Rises with each change of the rows shown (opened anew, filtered, the other recordset bound): a grid
     // then asks for everything again; otherwise only the current row has moved.
     unsigned fassung = 0;
-    bool filterListeGefuellt = false; // The page's list of filter values has rows.
-    std::string filterBeschreibung;   // Text of a quick filter, "" for none.
+    // What the rows were narrowed by: the values of the run, as the page lists them, and the limit of the statuses.
+    std::vector<Filterwert> gezeigteWerte;
+    StatusLimit statusLimit;
+    std::string filterBeschreibung; // Text of a quick filter, "" for none.
 
     bool geoeffnet() const { return tabelle.offen(); }
     bool gefiltert() const { return zustand == Gefiltert || zustand == Filterergebnis; }

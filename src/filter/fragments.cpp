@@ -7,6 +7,7 @@
 #include "database/sql/conditions.h"
 #include "database/sql/parser.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fmt/format.h>
 
@@ -65,7 +66,7 @@ std::string doubled(std::string_view Wert)
 // The text of a comparison with a pattern, and its condition; nothing for "".
 Schrittfragment textFragment(const std::string& text, std::string_view column, std::string_view pattern)
 {
-    return text.empty() ? Schrittfragment{} : Schrittfragment{text, text, sql::like(column, pattern, Wildcards::Star)};
+    return text.empty() ? Schrittfragment{} : Schrittfragment{text, text, valueCondition(column, pattern)};
 }
 
 Schrittfragment zahlfragment(const FilterSchritt& schritt)
@@ -193,9 +194,34 @@ Schrittfragment strukturfragment(const FilterSchritt& schritt)
     return textFragment(LikeFragment(schritt.Feldname, schritt.Wert), schritt.Feldname, schritt.Wert);
 }
 
+sql::AusdruckZeiger valueCondition(std::string_view column, std::string_view value)
+{
+    if (value.find('*') == std::string_view::npos)
+        return sql::equal(column, value);
+    auto pattern = sql::like(column, value, Wildcards::Star);
+    if (value.ends_with('*'))
+        return pattern;
+    std::vector<sql::AusdruckZeiger> either; // A star of the stored value is one, too.
+    either.push_back(sql::equal(column, value));
+    either.push_back(std::move(pattern));
+    return sql::any(std::move(either));
+}
+
 sql::AusdruckZeiger filterCondition(std::string_view FilterString)
 {
-    return sql::parseBedingung(FilterString, Datumsfolge::MonatZuerst, Wildcards::Star);
+    sql::AusdruckZeiger condition = sql::parseBedingung(FilterString, Datumsfolge::MonatZuerst, Wildcards::Star);
+    const auto asMeant = [](sql::AusdruckZeiger& part) {
+        const auto* comparison = std::get_if<sql::Bedingung>(&part->inhalt);
+        if (comparison && comparison->vergleich == sql::Vergleich::Like)
+            part = valueCondition(comparison->spalte, alsText(comparison->wert));
+    };
+    if (!condition)
+        return nullptr;
+    if (auto* all = std::get_if<sql::Und>(&condition->inhalt))
+        std::ranges::for_each(all->teile, asMeant);
+    else
+        asMeant(condition);
+    return condition;
 }
 
 } // namespace quelvarn

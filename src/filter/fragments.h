@@ -30,6 +30,10 @@ std::string HauptwertFragmente(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWE
 // The same as conditions. A stored number counts as it reads with four places.
 std::vector<sql::AusdruckZeiger> mainValueConditions(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& bounds);
 
+// What a value means: each spelling that the lists count as this one (case, blanks behind it), and with stars in it
+// what they leave open as well.
+sql::AusdruckZeiger valueCondition(std::string_view column, std::string_view value);
+
 // A step as a condition. Both texts empty and no condition: it applies nothing.
 struct Schrittfragment
 {
@@ -43,7 +47,7 @@ Schrittfragment schrittfragment(const FilterSchritt& schritt, int nummer);
 // The same for the structure features, which know texts alone.
 Schrittfragment strukturfragment(const FilterSchritt& schritt);
 // What a FilterString means, for a query or a list; null for "". Only this way do its values mean in a statement what
-// they mean in the filter of a recordset.
+// they mean in the run of a filter.
 sql::AusdruckZeiger filterCondition(std::string_view FilterString);
 
 } // namespace quelvarn

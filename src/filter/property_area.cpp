@@ -37,8 +37,6 @@ constexpr std::array<Eigenschaft, ANZAHL_EIGENSCHAFTEN> EIGENSCHAFTEN{{
     {"Stichwoerter", false},
 }};
 
-constexpr std::array<std::string_view, 3> BEGRENZUNGEN{">= ", "= ", "<= "};
-
 // Those columns of the lists that the table has; one that it lacks is a fault of its own list.
 std::vector<std::string> spaltenDerListen(const Recordset& tabelle)
 {
@@ -66,8 +64,7 @@ void Eigenschaftsbereich::wertGewaehlt(int index, std::string_view wert)
     if (wert.empty())
         return;
     const std::string_view feld = EIGENSCHAFTEN[static_cast<std::size_t>(index - 1)].feld;
-    AddFilterStep(kontext_, wert, feld, 0);
-    zeigeFilterwert(kontext_, {std::string(feld), bezeichnung(index), std::string(wert)});
+    AddFilterStep(kontext_, wert, feld, 0, {"", bezeichnung(index)});
     kontext_.melde();
 }
 
@@ -75,10 +72,7 @@ void Eigenschaftsbereich::datumGewaehlt(const Zeitpunkt& tag)
 {
     const std::string feld = OpDat_ == 1 ? "Geaendert" : "Erstellt";
     const int Operator = OpDatBegr_ == 0 || OpDatBegr_ == 1 ? OpDatBegr_ : 2;
-    const std::string datum = formatDatum(tag);
-    AddFilterStep(kontext_, datum, feld, Operator);
-    zeigeFilterwert(kontext_,
-                    {"Kalender", feld, std::string(BEGRENZUNGEN[static_cast<std::size_t>(Operator)]) + datum});
+    AddFilterStep(kontext_, formatDatum(tag), feld, Operator, {"Kalender", feld});
     kontext_.melde();
 }
 

@@ -2,10 +2,10 @@
 
 namespace quelvarn {
 
-std::string vergissFilter(FilterState& filter, int tab)
+Statusbedingung vergissFilter(FilterState& filter, int tab)
 {
     leereFilter(filter.typen[static_cast<std::size_t>(tab)]);
-    return filter.status.StatusFilter;
+    return filter.status;
 }
 
 void ResetAllFilters(Filterkontext& kontext)
@@ -14,7 +14,6 @@ void ResetAllFilters(Filterkontext& kontext)
         vergissFilter(kontext.filter, tab);
         kontext.tabellen.filterAufheben(tab);
     }
-    kontext.FilterWerteTabelle.clear();
 }
 
 } // namespace quelvarn

@@ -2,6 +2,8 @@
 
 #include "base/utf8.h"
 #include "filter/execution.h"
+#include "filter/filter_rows.h"
+#include "filter/filter_string.h"
 #include "session/error_report.h"
 #include "session/ini_reader/ini_rows.h"
 
@@ -13,7 +15,6 @@ namespace quelvarn {
 namespace {
 
 constexpr std::string_view TITEL = "Filterwerte";
-constexpr std::string_view TITEL_FAVORITEN = "Gespeicherte Filter";
 constexpr std::string_view GRUPPE = "Filterwerte"; // Feld2 of the rows.
 constexpr std::size_t LAENGSTER_NAME = 50;
 
@@ -51,7 +52,7 @@ Recordset* findeListe(Filterkontext& kontext)
 }
 
 // What is wrong with the name or the filter; "" when they can be saved.
-std::string einwand(const Filterzustand& zustand, const std::vector<Filterwert>& werte, std::string_view name)
+std::string einwand(const Filterzustand& zustand, std::string_view name)
 {
     if (name.empty())
         return "Es muss ein Name für den Filter angegeben werden!";
@@ -60,7 +61,7 @@ std::string einwand(const Filterzustand& zustand, const std::vector<Filterwert>&
     const bool status = std::ranges::find(zustand.ChFilterStat, true) != zustand.ChFilterStat.end();
     if (zustand.FilterSchritte[0].Wert.empty() && !status)
         return "Es sind keine Filterwerte eingetragen!";
-    if (!speicherbar(zustand, werte))
+    if (!speicherbar(zustand))
         return "Filterwerte mit den Zeichen \\ oder | können nicht gespeichert werden!";
     return "";
 }
@@ -86,16 +87,6 @@ std::optional<std::string> mitStern(std::string_view wert)
     if (wert.ends_with(' '))
         wert.remove_suffix(1);
     return std::string(wert) + '*';
-}
-
-void setzeWert(Filterzustand& zustand, const Filterwert& zeile)
-{
-    const bool benutzDef = zeile.Feldname == "BenutzDef";
-    const auto schritt = std::ranges::find_if(zustand.FilterSchritte, [&](const FilterSchritt& kandidat) {
-        return benutzDef ? kandidat.Wert == zeile.Benennung : kandidat.Feldname == zeile.Feldname;
-    });
-    if (schritt != zustand.FilterSchritte.end())
-        (benutzDef ? schritt->Muster : schritt->Wert) = zeile.Wert;
 }
 
 } // namespace
@@ -143,7 +134,7 @@ void speichereFilterlisten(SessionState& session, Meldungen& meldungen)
 
 bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave)
 {
-    const std::string grund = einwand(kontext.zustand(), kontext.FilterWerteTabelle, TxtFilterSave);
+    const std::string grund = einwand(kontext.zustand(), TxtFilterSave);
     if (!grund.empty()) {
         kontext.ports.meldungen.warnung(TITEL, grund);
         return false;
@@ -158,7 +149,7 @@ bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave)
     }
     filter->AddNew();
     filter->setzeFeld("Filtername", std::string(TxtFilterSave));
-    filter->setzeFeld("Filterstring", alsFilterstring(kontext.zustand(), kontext.FilterWerteTabelle));
+    filter->setzeFeld("Filterstring", alsFilterstring(kontext.zustand()));
     filter->Update();
     return true;
 }
@@ -182,36 +173,32 @@ std::optional<std::string> gewaehlterFilter(Filterkontext& kontext, std::string_
     return SavedFilterString(kontext.session, kontext.tab, CbFilterSave);
 }
 
-GespeicherterFilter UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring)
+void UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring)
 {
-    GespeicherterFilter filter = leseFilterstring(Filterstring);
+    const GespeicherterFilter filter = leseFilterstring(Filterstring);
     Filterzustand& zustand = kontext.zustand();
     leereFilter(zustand);
     zustand.FilterSchritte = filter.FilterSchritte;
     zustand.FilterAnzahl = filter.FilterAnzahl;
-    zustand.BenutzDefAnzahl = filter.BenutzDefAnzahl;
     zustand.ZusBenutzDef = filter.ZusBenutzDef;
     zustand.ChFilterStat = filter.ChFilterStat.value_or(std::array<bool, ANZAHL_STATUS>{});
     BuildStatusFilter(kontext.filter, kontext.tab);
-    kontext.FilterWerteTabelle = filter.FilterWerteTabelle;
-    kontext.bereich = filter.bereich;
-    return filter;
+    zustand.bereich = filter.bereich;
 }
 
 void ergaenzeSterne(Filterkontext& kontext)
 {
-    for (Filterwert& zeile : kontext.FilterWerteTabelle)
-        if (const auto wert = mitStern(zeile.Wert)) {
-            zeile.Wert = *wert;
-            setzeWert(kontext.zustand(), zeile);
-        }
+    const std::vector<Filterwert> rows = kontext.FilterWerteTabelle();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (const auto wert = mitStern(rows[i].Wert))
+            setRowValue(kontext.zustand(), i, *wert);
 }
 
 Filterfavoriten favoritenliste(const SessionState& session, int tab)
 {
     Filterfavoriten favoriten{gespeicherteNamen(session, tab), std::nullopt};
     const auto warnung = [](std::string text) {
-        return Meldung{std::string(TITEL_FAVORITEN), std::move(text), Symbol::Warnung};
+        return Meldung{std::string(TITEL_FAVORITENMENUE), std::move(text), Symbol::Warnung};
     };
     if (favoriten.namen.empty())
         favoriten.meldung =

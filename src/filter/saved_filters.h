@@ -1,7 +1,6 @@
 #pragma once
 
 #include "filter/filter_context.h"
-#include "filter/filter_string.h"
 #include "platform/meldungen.h"
 
 #include <optional>
@@ -28,13 +27,15 @@ bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave);
 void loescheFilter(Filterkontext& kontext, std::string_view CbFilterSave);
 // CmFilterUse: the stored text of this name; nothing, after a box, when no name is chosen.
 std::optional<std::string> gewaehlterFilter(Filterkontext& kontext, std::string_view CbFilterSave);
-// Restores steps, rows, ticked statuses and the part of the page. The tree, the locks and the run are up to the page.
-GespeicherterFilter UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring);
-// CmChangeStar: ends the edited values with a star and hands them to their steps.
+// Restores steps, ticked statuses and the part of the page. The tree, the locks and the run are up to the page.
+void UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring);
+// CmChangeStar: ends the values that begin with a star with one as well.
 void ergaenzeSterne(Filterkontext& kontext);
 
 // --- the document page's menu "Filtern Favo." ---
 inline constexpr std::size_t MAX_FILTERFAVORITEN = 25;
+inline constexpr std::string_view TITEL_FAVORITENMENUE = "Gespeicherte Filter";
+inline constexpr std::string_view FEHLER_FAVORITENMENUE = "Fehler beim Eintrag der gespeicherten Filter!";
 inline constexpr std::string_view TITEL_FILTERFAVORITEN = "Liste mit Filterfavoriten";
 inline constexpr std::string_view FEHLER_FILTERFAVORITEN = "Fehler beim Erstellen der Liste mit Filterfavoriten!";
 

@@ -14,8 +14,10 @@ std::ptrdiff_t obergrenze(std::ptrdiff_t von, std::ptrdiff_t bis)
 
 Statusbedingung statusbedingung(const std::string& inhalt, const std::string& kurz)
 {
-    return {fmt::format(" ({})", inhalt), fmt::format(" WHERE ({})", inhalt), fmt::format(" AND ({})", inhalt),
-            "             Status" + kurz, kurz};
+    return {{"             Status" + kurz, kurz},
+            fmt::format(" ({})", inhalt),
+            fmt::format(" WHERE ({})", inhalt),
+            fmt::format(" AND ({})", inhalt)};
 }
 
 } // namespace

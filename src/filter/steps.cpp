@@ -1,6 +1,8 @@
 #include "filter/execution.h"
 #include "platform/meldungen.h"
 
+#include <utility>
+
 namespace quelvarn {
 namespace {
 
@@ -19,26 +21,23 @@ int codeVon(std::string_view Feldname, int Operator)
 
 } // namespace
 
-void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator)
+void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator, RowName row)
 {
     Filterzustand& zustand = kontext.zustand();
     const int nummer = zustand.FilterAnzahl;
-    const bool frei = nummer < 5 || (nummer == 5 && kontext.bereich == Filterbereich::Struktur) || nummer == 6;
+    const bool frei = nummer < 5 || (nummer == 5 && kontext.bereich() == Filterbereich::Struktur) || nummer == 6;
     if (!frei) {
         kontext.ports.meldungen.warnung("Anzahl Filter", "Alle Filter sind gefüllt!");
         zustand.FilterAnzahl = ALLE_GEFUELLT;
         return;
     }
-    zustand.FilterSchritte[static_cast<std::size_t>(nummer)] = {
-        std::string(Feldname), std::string(Wert), nummer < OHNE_CODE_AB ? codeVon(Feldname, Operator) : CodeText, {}};
+    zustand.FilterSchritte[static_cast<std::size_t>(nummer)] = {std::string(Feldname),
+                                                                std::string(Wert),
+                                                                nummer < OHNE_CODE_AB ? codeVon(Feldname, Operator)
+                                                                                      : CodeText,
+                                                                {},
+                                                                std::move(row)};
     zustand.FilterAnzahl = nummer + 1;
-}
-
-void zeigeFilterwert(Filterkontext& kontext, const Filterwert& zeile)
-{
-    const int grenze = kontext.bereich == Filterbereich::Struktur ? 8 : 6;
-    if (kontext.zustand().FilterAnzahl < grenze)
-        kontext.FilterWerteTabelle.push_back(zeile);
 }
 
 void ClearFilterSteps(Filterzustand& zustand)
@@ -53,7 +52,7 @@ void ClearHauptwertBereich(Filterzustand& zustand)
 
 void SaveFilterState(Filterzustand& zustand)
 {
-    zustand.GesicherterFilter = {zustand.FilterString, zustand.FilterAnzahl, zustand.FilterSchritte};
+    zustand.GesicherterFilter = {zustand.FilterString, zustand.FilterAnzahl, zustand.FilterSchritte, zustand.bereich};
 }
 
 void RestoreFilterState(Filterzustand& zustand)
@@ -61,6 +60,7 @@ void RestoreFilterState(Filterzustand& zustand)
     zustand.FilterString = zustand.GesicherterFilter.FilterString;
     zustand.FilterAnzahl = zustand.GesicherterFilter.FilterAnzahl;
     zustand.FilterSchritte = zustand.GesicherterFilter.FilterSchritte;
+    zustand.bereich = zustand.GesicherterFilter.bereich;
 }
 
 void leereFilter(Filterzustand& zustand)
@@ -68,12 +68,10 @@ void leereFilter(Filterzustand& zustand)
     zustand.FilterString.clear();
     zustand.Schnellfilter.clear();
     zustand.FilterAnzahl = 0;
-    zustand.BenutzDefAnzahl = 0;
     ClearFilterSteps(zustand);
     ClearHauptwertBereich(zustand);
     zustand.HauptwertAktiv = false;
-    zustand.ZusBenutzDef.fill({});
-    zustand.gezeigteWerte.clear();
+    zustand.ZusBenutzDef.clear();
 }
 
 } // namespace quelvarn

@@ -1,5 +1,7 @@
 #include "filter/structure_area.h"
 
+#include "base/collation.h"
+#include "base/like_pattern.h"
 #include "base/text.h"
 #include "database/sql/conditions.h"
 #include "filter/execution.h"
@@ -22,8 +24,11 @@ std::string merkmal(std::size_t ebene)
     return fmt::format("Hauptmerkmal_{}", EBENEN[ebene]);
 }
 
+// A value that was edited may be a pattern.
 std::string gleich(std::string_view feld, std::string_view wert)
 {
+    if (wert.find('*') != std::string_view::npos)
+        return fmt::format("{} Like {}", feld, sql::quoted(asSqlPattern(wert, Wildcards::Star)));
     return fmt::format("{} = {}", feld, sql::quoted(wert));
 }
 
@@ -112,8 +117,7 @@ void Strukturbereich::knotenGewaehlt(const Strukturpfad& pfad)
         if (!zweig)
             return;
         const std::string feld = merkmal(pfad.size() - 1);
-        AddFilterStep(kontext_, pfad.back(), feld, 0);
-        zeigeFilterwert(kontext_, {feld, replaceAll(feld, "_", " "), pfad.back()});
+        AddFilterStep(kontext_, pfad.back(), feld, 0, {"", replaceAll(feld, "_", " ")});
         uebernimmZweig(pfad, std::move(*zweig));
     });
     if (gelaufen && StrukturLetzterPfad_ == pfad)
@@ -140,9 +144,8 @@ void Strukturbereich::waehleImZweig(std::string_view Feldname, std::string_view 
                                   anzeigename(kontext_.session, "Material"), anzeigename(kontext_.session, "Firma")));
         return;
     }
-    AddFilterStep(kontext_, wert, Feldname, 0);
-    zeigeFilterwert(kontext_, {fmt::format("StrukturMerk{}", Feldname), anzeigename(kontext_.session, Feldname),
-                               std::string(wert)});
+    AddFilterStep(kontext_, wert, Feldname, 0,
+                  {fmt::format("StrukturMerk{}", Feldname), anzeigename(kontext_.session, Feldname)});
     SperreBaum_ = false;
     StrukturBedingung_ = erweitert(StrukturBedingung_, Feldname, wert);
     fuelleHauptwerte();
@@ -196,7 +199,8 @@ Strukturknoten* Strukturbereich::findeKnoten(const Strukturpfad& pfad)
 {
     Strukturknoten* knoten = &wurzel_;
     for (const std::string& wert : pfad) {
-        const auto kind = std::ranges::find(knoten->kinder, wert, &Strukturknoten::wert);
+        const auto kind = std::ranges::find_if(
+            knoten->kinder, [&](const Strukturknoten& kandidat) { return equalText(kandidat.wert, wert); });
         if (kind == knoten->kinder.end())
             return nullptr;
         knoten = &*kind;
@@ -241,19 +245,22 @@ void Strukturbereich::zuruecksetzen()
     fuelleHauptwerte();
 }
 
-void Strukturbereich::stelleWiederHer(const Strukturpfad& pfad, std::string_view material, std::string_view firma)
+void Strukturbereich::stelleWiederHer(std::span<const FilterSchritt> steps)
 {
-    for (std::size_t ebenen = 1; ebenen <= pfad.size(); ++ebenen) {
-        const Strukturpfad bisHier(pfad.begin(), pfad.begin() + static_cast<std::ptrdiff_t>(ebenen));
-        auto zweig = leseZweig(bisHier);
+    Strukturpfad pfad;
+    for (const FilterSchritt& step : steps) {
+        if (!step.Feldname.starts_with("Hauptmerkmal_"))
+            continue;
+        pfad.push_back(step.Wert);
+        auto zweig = leseZweig(pfad);
         if (!zweig)
             return;
-        uebernimmZweig(bisHier, std::move(*zweig));
+        uebernimmZweig(pfad, std::move(*zweig));
     }
-    for (const auto& [feld, wert] : {std::pair("Material", material), std::pair("Firma", firma)}) {
-        if (wert.empty())
+    for (const FilterSchritt& step : steps) {
+        if (step.Feldname.starts_with("Hauptmerkmal_"))
             continue;
-        StrukturBedingung_ = erweitert(StrukturBedingung_, feld, wert);
+        StrukturBedingung_ = erweitert(StrukturBedingung_, step.Feldname, step.Wert);
         SperreBaum_ = false;
     }
     fuelleHauptwerte();

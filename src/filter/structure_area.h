@@ -4,6 +4,7 @@
 #include "filter/value_list.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,8 +46,8 @@ public:
     // "Zurück", another part or another type; the filter itself is the page's business, and to be emptied before.
     void zuruecksetzen();
     void leereHauptwerte(); // Button "Werte": bounds only; the locks stay.
-    // After `zuruecksetzen`: the branch and the locks as these choices would have left them.
-    void stelleWiederHer(const Strukturpfad& pfad, std::string_view material, std::string_view firma);
+    // After `zuruecksetzen`: the branch and the locks as the choice of these steps would have left them.
+    void stelleWiederHer(std::span<const FilterSchritt> steps);
 
     // --- state ---
     const Strukturknoten& wurzel() const { return wurzel_; }

@@ -140,7 +140,6 @@ void BenutzDefBereich::nimmSchritt(std::string_view wert)
                                     : kennungen_[static_cast<std::size_t>(stelle - werte_.werte.begin())];
     Filterzustand& zustand = kontext_.zustand();
     zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {"", name_, CodeText, kennung};
-    kontext_.FilterWerteTabelle.push_back({"BenutzDef", name_, kennung});
     name_.clear();
     kontext_.melde();
 }
@@ -149,18 +148,17 @@ void BenutzDefBereich::zusatzGewaehlt(int index, std::string_view wert)
 {
     if (wert.empty())
         return;
-    Filterzustand& zustand = kontext_.zustand();
-    if (zustand.BenutzDefAnzahl >= HOECHSTENS_ZUSAETZE)
+    auto& values = kontext_.zustand().ZusBenutzDef;
+    const auto column = static_cast<std::size_t>(index);
+    const bool again = std::ranges::find(values, column, &AdditionalValue::column) != values.end();
+    if (!again && kontext_.zustand().BenutzDefAnzahl() >= HOECHSTENS_ZUSAETZE)
         return kontext_.ports.meldungen.warnung(
             "SE-Filtern: Anzahl Filterwerte",
             zeilen({"Von den Eigenschaften",
                     fmt::format("{} / {} / {} / {}", bezeichnung(PROJEKT), bezeichnung(AUTOR), bezeichnung(BEARBEITER),
                                 bezeichnung(MATERIAL)),
                     "können maximal 2 Filterwerte ausgewählt werden."}));
-    zustand.ZusBenutzDef[static_cast<std::size_t>(index)] = wert;
-    ++zustand.BenutzDefAnzahl;
-    kontext_.FilterWerteTabelle.push_back({"ZusBenutzDef" + std::string(ZUSATZSPALTEN[static_cast<std::size_t>(index)]),
-                                           bezeichnung(index), std::string(wert)});
+    setAdditionalValue(values, {column, std::string(wert), bezeichnung(index)});
     sperre();
     kontext_.melde();
 }

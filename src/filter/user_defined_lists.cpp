@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <fmt/format.h>
 #include <functional>
+#include <memory>
+#include <tuple>
 #include <unordered_set>
 
 namespace quelvarn {
@@ -37,7 +39,8 @@ public:
             texte_.emplace(text);
     }
 
-    // In order, one of those that differ in case or trailing blanks alone; blank ones are left out.
+    // In order, one of those that differ in case or trailing blanks alone, without blanks where there is such a one;
+    // blank ones are left out.
     std::vector<std::string> werte() const
     {
         std::vector<std::string> werte;
@@ -45,7 +48,9 @@ public:
                              [](const std::string& text) { return !trimRightBlanks(text).empty(); });
         std::ranges::sort(werte, [](const std::string& links, const std::string& rechts) {
             const int vergleich = compareText(links, rechts);
-            return vergleich != 0 ? vergleich < 0 : links < rechts;
+            return vergleich != 0 ? vergleich < 0
+                                  : std::tuple(links.ends_with(' '), std::string_view(links)) <
+                                        std::tuple(rechts.ends_with(' '), std::string_view(rechts));
         });
         werte.erase(std::unique(werte.begin(), werte.end(), equalText), werte.end());
         return werte;
@@ -56,6 +61,24 @@ private:
     std::string letzter_;
 };
 
+std::unique_ptr<Zeilenleser> firstName(Connection& verbindung, std::string_view tabelle, sql::AusdruckZeiger condition)
+{
+    sql::Select select = sql::Query(tabelle).columns({"Name"}).where(std::move(condition)).sortedBy("Name");
+    return verbindung.engine().lese(select, MitSchluessel::Nein, 1);
+}
+
+// The same name without blanks behind it, where some row has it so. Few names have such blanks at all.
+std::string withoutBlanks(Connection& verbindung, std::string_view tabelle, std::string name,
+                          const std::string& WhereStatus)
+{
+    if (!name.ends_with(' '))
+        return name;
+    const auto row = firstName(verbindung, tabelle,
+                               sql::all(sql::equal("Name", name), sql::compare("Name", sql::Vergleich::NotLike, "% "),
+                                        sql::statusScope(WhereStatus)));
+    return row->next() ? std::string(row->text(0)) : name;
+}
+
 } // namespace
 
 // From one name to the next through the index: few names stand in many rows.
@@ -63,18 +86,13 @@ std::vector<std::string> leseNamen(Connection& verbindung, std::string_view tabe
 {
     std::vector<std::string> namen;
     for (;;) {
-        sql::Select select;
-        select.tabelle = tabelle;
-        select.spalten = {"Name"};
-        select.orderBy = {{"Name", false}};
-        select.where = sql::statusScope(WhereStatus);
-        if (!namen.empty())
-            select.where =
-                sql::all(sql::compare("Name", sql::Vergleich::Groesser, namen.back()), std::move(select.where));
-        const auto zeile = verbindung.engine().lese(select, MitSchluessel::Nein, 1);
+        const auto zeile =
+            firstName(verbindung, tabelle,
+                      sql::all(namen.empty() ? nullptr : sql::compare("Name", sql::Vergleich::Groesser, namen.back()),
+                               sql::statusScope(WhereStatus)));
         if (!zeile->next())
             return namen;
-        namen.emplace_back(zeile->text(0));
+        namen.push_back(withoutBlanks(verbindung, tabelle, std::string(zeile->text(0)), WhereStatus));
     }
 }
 

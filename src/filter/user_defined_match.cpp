@@ -1,6 +1,7 @@
 #include "filter/user_defined_match.h"
 
 #include "base/collation.h"
+#include "base/text.h"
 #include "base/utf8.h"
 #include "database/sql/conditions.h"
 
@@ -15,8 +16,8 @@ constexpr std::string_view VERSAND = "*Versand";
 } // namespace
 
 BenutzDefSchritte::Schritt::Schritt(const std::string& Name, const std::string& Wert)
-    : name(Name), wert(Wert), nameKlein(toLower(Name)), wertKlein(toLower(Wert)), muster(Wert, Wildcards::Star),
-      musterBeiKurzen(Wert.ends_with('*')), versand(Wert.starts_with(VERSAND))
+    : name(Name), wert(Wert), muster(trimRightBlanks(Wert), Wildcards::Star), musterBeiKurzen(Wert.ends_with('*')),
+      versand(Wert.starts_with(VERSAND))
 {}
 
 bool BenutzDefSchritte::Schritt::jederWert() const
@@ -24,13 +25,19 @@ bool BenutzDefSchritte::Schritt::jederWert() const
     return wert == "*" || versand;
 }
 
-bool BenutzDefSchritte::Schritt::passt(std::string_view text, std::string_view klein, bool lang) const
+bool BenutzDefSchritte::Schritt::fitsPattern(std::string_view text) const
 {
-    if (wert == "*" || wertKlein == klein)
+    const std::string_view trimmed = trimRightBlanks(text);
+    return muster.matches(text) || (trimmed.size() < text.size() && muster.matches(trimmed));
+}
+
+bool BenutzDefSchritte::Schritt::passt(std::string_view text, bool lang) const
+{
+    if (wert == "*" || equalText(text, wert))
         return true;
     if (lang && versand)
         return true; // The pattern is then the file name of the row itself.
-    return (lang || musterBeiKurzen) && muster.matches(text);
+    return (lang || musterBeiKurzen) && fitsPattern(text);
 }
 
 sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
@@ -39,7 +46,7 @@ sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
         return nullptr;
     if (wert.find('*') == std::string::npos)
         return sql::equal("Wert", wert);
-    return sql::like("Wert", wert, Wildcards::Star);
+    return sql::like("Wert", std::string(trimRightBlanks(wert)) + (wert.ends_with('*') ? "" : "*"), Wildcards::Star);
 }
 
 BenutzDefSchritte::BenutzDefSchritte(const Filterzustand& zustand)
@@ -62,12 +69,9 @@ bool BenutzDefSchritte::trifft(std::string_view Name, std::string_view Wert) con
 
 bool BenutzDefSchritte::passt(std::string_view Name, std::string_view Wert) const
 {
-    const std::string name = toLower(Name);
-    const std::string klein = toLower(Wert);
     const bool lang = countCharacters(Wert) >= AB_PFAD;
-    return std::ranges::any_of(schritte_, [&](const Schritt& schritt) {
-        return schritt.nameKlein == name && schritt.passt(Wert, klein, lang);
-    });
+    return std::ranges::any_of(
+        schritte_, [&](const Schritt& schritt) { return equalText(schritt.name, Name) && schritt.passt(Wert, lang); });
 }
 
 std::vector<sql::AusdruckZeiger> BenutzDefSchritte::vorauswahl() const

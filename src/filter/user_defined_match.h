@@ -4,7 +4,6 @@
 #include "database/sql/ast.h"
 #include "filter/filter_state.h"
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -14,9 +13,6 @@
 namespace quelvarn {
 
 inline constexpr std::size_t AB_PFAD = 32; // A Wert of so many characters is taken for a path.
-// The columns of the additional values, in the order of ZusBenutzDef.
-inline constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUSATZSPALTEN{"Autor", "Bearbeiter", "Material",
-                                                                                 "Projekt"};
 
 // The steps for user-defined properties: which rows (Name, Wert) meet one of them.
 class BenutzDefSchritte
@@ -34,14 +30,13 @@ private:
     struct Schritt
     {
         Schritt(const std::string& Name, const std::string& Wert);
-        bool passt(std::string_view wert, std::string_view klein, bool lang) const;
+        bool passt(std::string_view text, bool lang) const;
+        bool fitsPattern(std::string_view text) const;
         bool jederWert() const;
         sql::AusdruckZeiger bedingung() const; // Of the Wert; nothing where each may fit.
 
         std::string name;
         std::string wert;
-        std::string nameKlein;
-        std::string wertKlein;
         LikePattern muster;
         bool musterBeiKurzen; // The step's value ends with a star.
         bool versand;

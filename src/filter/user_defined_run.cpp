@@ -2,6 +2,7 @@
 #include "database/sql/conditions.h"
 #include "filter/document_counter.h"
 #include "filter/execution.h"
+#include "filter/fragments.h"
 #include "filter/user_defined_match.h"
 #include "platform/fortschritt.h"
 #include "session/error_report.h"
@@ -78,29 +79,16 @@ private:
         select.tabelle = typ_.tabelleBenutzDef;
         select.spalten = {"DokuBez", "RevBez", "Name", "Wert"};
         select.where = sql::all(std::move(bedingung), sql::statusScope(kontext_.session.WhereStatus));
-        std::vector<std::size_t> zusaetze;
-        for (std::size_t i = 0; i < ZUSATZSPALTEN.size(); ++i)
-            if (!ZusBenutzDef_[i].empty()) {
-                zusaetze.push_back(i);
-                select.spalten.emplace_back(ZUSATZSPALTEN[i]);
-                select.where = sql::all(std::move(select.where), sql::equal(ZUSATZSPALTEN[i], ZusBenutzDef_[i]));
-            }
+        for (const AdditionalValue& value : ZusBenutzDef_)
+            select.where = sql::all(std::move(select.where), valueCondition(ZUSATZSPALTEN[value.column], value.Wert));
         const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Nein);
         while (zeilen->next()) {
             if (!weiter())
                 return false;
-            if (schritte_.trifft(zeilen->text(2), zeilen->text(3)) && hatZusaetze(*zeilen, zusaetze))
+            if (schritte_.trifft(zeilen->text(2), zeilen->text(3)))
                 dokumente_.zaehle(zeilen->text(0), zeilen->text(1));
         }
         return true;
-    }
-
-    bool hatZusaetze(const Zeilenleser& zeile, const std::vector<std::size_t>& zusaetze) const
-    {
-        std::size_t spalte = 4;
-        return std::ranges::all_of(zusaetze, [&](std::size_t zusatz) {
-            return toLower(zeile.text(spalte++)) == toLower(ZusBenutzDef_[zusatz]);
-        });
     }
 
     // --- rows of documents ---
@@ -262,7 +250,7 @@ private:
     LangeArbeit& arbeit_;
     const DokuTyp& typ_;
     BenutzDefSchritte schritte_;
-    const std::array<std::string, ANZAHL_ZUSBENUTZDEF>& ZusBenutzDef_;
+    const std::vector<AdditionalValue>& ZusBenutzDef_;
     std::vector<Fundort> fundorte_;
     Dokumentzaehler dokumente_;
     std::vector<Fund> funde_;

@@ -59,14 +59,22 @@ std::string DocumentPage::anzahlText() const
     std::string text =
         "  Solid Edge - Dokumente, " + session_.mehrzahl(tab_) + ", Anzahl: " + std::to_string(seite.anzahl);
     const bool quickfilter = !seite.filterBeschreibung.empty() && seite.tabelle.RecordCount() > 0;
-    if (seite.filterListeGefuellt || quickfilter)
+    if (!gezeigteWerte().empty() || quickfilter)
         text += "; Filteranzahl: " + std::to_string(seite.sichtbar().RecordCount());
     return text;
 }
 
 std::string DocumentPage::zugriffText() const
 {
-    return zugriffstext(session_);
+    return statusLimited() ? aktuelleSeite().statusLimit.legende : zugriffstext(session_);
+}
+
+std::vector<Filterwert> DocumentPage::gezeigteWerte() const
+{
+    std::vector<Filterwert> werte = aktuelleSeite().gezeigteWerte;
+    if (statusLimited())
+        werte.push_back(aktuelleSeite().statusLimit.row());
+    return werte;
 }
 
 std::string DocumentPage::infoKopf() const

@@ -13,6 +13,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quelvarn {
 
@@ -85,9 +86,11 @@ public:
     Tabellenseite& seite(int tab) { return seiten_[tab]; }
     const Tabellenseite& aktuelleSeite() const { return seiten_[tab_]; }
     std::string anzahlText() const;  // LabelSEDoku
-    std::string zugriffText() const; // LblZugriffSEDoku
-    std::string infoKopf() const;    // LblInfo head: "  Eigenschaften Bauteil"
-    bool filterKnopf() const;        // Button 8 shows the filter image.
+    std::string zugriffText() const; // LblZugriffSEDoku: the limit of the statuses, or what the user may see
+    bool statusLimited() const { return aktuelleSeite().statusLimit.isSet(); }
+    std::vector<Filterwert> gezeigteWerte() const; // What filters the table shown, its status limit behind.
+    std::string infoKopf() const;                  // LblInfo head: "  Eigenschaften Bauteil"
+    bool filterKnopf() const;                      // Button 8 shows the filter image.
     std::string_view zurueckTooltip() const;
     const Statuskopf& statuskopf() const { return statuskopf_; }
     const std::string& dateinamePanel() const { return dateinamePanel_; } // panel 2 of StatusBarDatei
@@ -109,9 +112,9 @@ public:
     const std::array<std::string, 5>& aenderungspanele() const { return aenderungspanele_; }
 
     std::function<void()> geaendert;
-    // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status filter)
+    // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status condition)
     // stays on the table.
-    std::function<std::string(int tab)> filterVergessen;
+    std::function<Statusbedingung(int tab)> filterVergessen;
     // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
     std::function<void()> tabelleGewechselt;
     // Asked before a rebuild; false when another database was opened instead. Throws when there is none any more.
@@ -130,7 +133,7 @@ private:
     void zeigeTab(int tab);
     void wechsle(const Merkzeile* rueckkehr);
     void zeigeZeilen();
-    std::string leereFilter(int tab);
+    Statusbedingung leereFilter(int tab);
     void bindeOhneFilter(int tab);
     void vergissDatenbank();
     void baumAufbauen(int tab);

@@ -7,7 +7,7 @@
 namespace quelvarn {
 
 LinkeLeiste::LinkeLeiste(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite)
-    : session_(session), ports_(ports), zustand_(filter), seite_(seite), suche_(session, ports, seite),
+    : session_(session), ports_(ports), seite_(seite), suche_(session, ports, seite),
       filter_(session, ports, filter, seite, suche_)
 {
     suche_.geaendert = [this] { melde(); };
@@ -47,9 +47,12 @@ bool LinkeLeiste::zeigeFavoriten()
     return zeigtFavorit_;
 }
 
-std::vector<std::string> LinkeLeiste::favoritennamen() const
+std::vector<std::string> LinkeLeiste::favoritennamen()
 {
-    return favoritenliste(session_, seite_.tab()).namen;
+    std::vector<std::string> namen;
+    gesichert(ports_.meldungen, TITEL_FAVORITENMENUE, FEHLER_FAVORITENMENUE,
+              [&] { namen = favoritenliste(session_, seite_.tab()).namen; });
+    return namen;
 }
 
 void LinkeLeiste::waehleFavorit(std::string_view name)
@@ -86,11 +89,11 @@ std::string_view LinkeLeiste::knopfWerte() const
     return zeigtWerte_ ? "Ausblenden der Filterwerte <<" : "Anzeigen der Filterwerte >>";
 }
 
-const std::vector<Filterwert>& LinkeLeiste::gezeigteWerte() const
+std::vector<Filterwert> LinkeLeiste::gezeigteWerte() const
 {
     if (const std::vector<Filterwert>* gesucht = suche_.gesuchteWerte())
         return *gesucht;
-    return zustand_.typen[static_cast<std::size_t>(seite_.tab())].gezeigteWerte;
+    return seite_.gezeigteWerte();
 }
 
 void LinkeLeiste::melde() const

@@ -38,10 +38,10 @@ public:
     bool zeigtWerte() const { return zeigtWerte_; }
     std::string_view knopfWerte() const; // Caption of the button of the filter values.
     bool zeigtFavorit() const { return zeigtFavorit_; }
-    std::vector<std::string> favoritennamen() const;
+    std::vector<std::string> favoritennamen(); // For the menu; a fault has its box.
     const std::string& LblFilter() const { return LblFilter_; }
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
-    const std::vector<Filterwert>& gezeigteWerte() const;
+    std::vector<Filterwert> gezeigteWerte() const;
 
     std::function<void()> geaendert;
     // Restores and runs a saved filter of the table shown.
@@ -52,7 +52,6 @@ private:
 
     SessionState& session_;
     Ports& ports_;
-    FilterState& zustand_;
     DocumentPage& seite_;
     Schnellsuche suche_;
     Schnellfilter filter_;

@@ -162,9 +162,9 @@ bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<Fil
     schritte_ = std::move(schritte);
     zeitraum_.clear();
     tab_ = kontext.tab;
-    tabelle.filterListeGefuellt = true;
+    tabelle.statusLimit = filter_.status;
     tabelle.filterBeschreibung = beschreibung(werte);
-    kontext.zustand().gezeigteWerte = std::move(werte);
+    tabelle.gezeigteWerte = std::move(werte);
     filterText_ = tabelle.tabelle.filterText();
     seite_.filterGewechselt(kontext.tab);
     reportStepsWithoutRows(kontext);

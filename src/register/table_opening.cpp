@@ -30,6 +30,8 @@ void DocumentPage::TabelleNeuLaden(int tab)
     if (seite.gefiltert() || (dateityp && seite.zustand == NeuereDaten))
         leereFilter(tab);
     seite.filterBeschreibung.clear();
+    seite.gezeigteWerte.clear();
+    seite.statusLimit = {};
 
     seite.tabelle = std::move(neue);
     seite.anzahl = seite.tabelle.RecordCount();
@@ -41,22 +43,24 @@ void DocumentPage::TabelleNeuLaden(int tab)
     zeilenGeaendert(tab);
 }
 
-std::string DocumentPage::leereFilter(int tab)
+Statusbedingung DocumentPage::leereFilter(int tab)
 {
     Tabellenseite& seite = seiten_[tab];
     seite.zustand = seite.anzahl > 0 ? Offen : Leer;
     seite.FilterErgebnis = Recordset();
-    seite.filterListeGefuellt = false;
+    seite.gezeigteWerte.clear();
+    seite.statusLimit = {};
     seite.filterBeschreibung.clear();
-    return filterVergessen ? filterVergessen(tab) : std::string();
+    return filterVergessen ? filterVergessen(tab) : Statusbedingung{};
 }
 
 void DocumentPage::bindeOhneFilter(int tab)
 {
-    const std::string bleibt = leereFilter(tab);
+    const Statusbedingung bleibt = leereFilter(tab);
     Recordset& tabelle = seiten_[tab].tabelle;
-    if (tabelle.filterText() != bleibt)
-        tabelle.Filter(bleibt);
+    if (tabelle.filterText() != bleibt.StatusFilter)
+        tabelle.Filter(bleibt.StatusFilter);
+    seiten_[tab].statusLimit = bleibt;
     zeilenGeaendert(tab);
 }
 

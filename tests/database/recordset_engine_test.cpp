@@ -126,13 +126,17 @@ TEST_P(RecordsetOnEngine, TellsWhatOccursAmongTheRowsOfACondition)
     const std::string vorher = abbild(rs);
     for (int i = 0; i < 60; ++i) {
         const referenz::Bedingung bedingung = zufall_.bedingung(2);
-        std::map<std::string, std::string> texte; // By sortKey; the spelling stored first stays.
+        std::map<std::string, std::string>
+            texte; // By sortKey; the spelling stored first stays, but for blanks behind it.
         std::set<double> zahlen;
         for (const referenz::Zeile& zeile : zeilen_) {
             if (bedingung.trifft(zeile) != referenz::Urteil(true))
                 continue;
-            if (!istNull(zeile[1]) && alsText(zeile[1]) != "a")
-                texte.emplace(sortKey(alsText(zeile[1])), alsText(zeile[1]));
+            if (const std::string text = alsText(zeile[1]); !istNull(zeile[1]) && text != "a") {
+                std::string& shown = texte.try_emplace(sortKey(text), text).first->second;
+                if (shown.ends_with(' ') && !text.ends_with(' '))
+                    shown = text;
+            }
             if (!istNull(zeile[3]))
                 zahlen.insert(alsZahl(zeile[3]));
         }

@@ -64,7 +64,8 @@ private:
 class FilterTest : public TestRegister
 {
 protected:
-    FilterTest()
+    // With the address of an empty PostgreSQL database the register lies there.
+    explicit FilterTest(const std::string& postgres = "") : TestRegister(postgres)
     {
         for (Filterzustand& typ : filter_.typen)
             typ.ChFilterStat.fill(true);
@@ -99,7 +100,7 @@ protected:
 
     FilterState filter_;
     TestTabellen tabellen_{session_};
-    Filterkontext kontext_{session_, ports_, filter_, tabellen_, 0, Filterbereich::Eigenschaften, {}, {}};
+    Filterkontext kontext_{session_, ports_, filter_, tabellen_};
 };
 
 } // namespace quelvarn

@@ -1,5 +1,6 @@
 #include "filter/execution.h"
 #include "filter/filter_fixture.h"
+#include "filter/filter_string.h"
 #include "filter/saved_filters.h"
 
 #include <gmock/gmock.h>
@@ -28,8 +29,8 @@ std::string gelesen(const GespeicherterFilter& filter)
         text += " [" + schritt.Feldname + "," + schritt.Wert + "," + std::to_string(schritt.code) + "," +
                 schritt.Muster + "]";
     }
-    for (const std::string& zusatz : filter.ZusBenutzDef)
-        text += zusatz.empty() ? "" : " +" + zusatz;
+    for (const AdditionalValue& value : filter.ZusBenutzDef)
+        text += " +" + std::to_string(value.column) + value.Wert;
     return text + (filter.ChFilterStat ? " " + stati(*filter.ChFilterStat) : "");
 }
 
@@ -64,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
                              "StrukturMerkMaterial\\C45\\0\\Material|StrukturMerkFirma\\Alt\\0\\Firma|",
                              "1 [Hauptmerkmal_C,Welle,0,] [Hauptmerkmal_D,lang,0,] [Material,C45,0,] [Firma,Alt,0,]"},
                     Textfall{"BenutzDef\\*Stahl*\\*Stahl*\\Werkstoff|ZusBenutzDefProjekt\\A1\\\\Projekt|",
-                             "2 [,Werkstoff,0,*Stahl*] +A1"}));
+                             "2 [,Werkstoff,0,*Stahl*] +3A1"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Damaged, GespeicherteTexte,
@@ -80,15 +81,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Textfall{"\\110012\\\\Status|", "0"},
                     Textfall{"P\\1\\0\\P|P\\2\\0\\P|P\\3\\0\\P|P\\4\\0\\P|P\\5\\0\\P|P\\6\\0\\P|",
                              "0 [P,1,0,] [P,2,0,] [P,3,0,] [P,4,0,] [P,5,0,]"}));
-
-TEST(StrukturAusText, NamesTheBranchWithMaterialAndFirma)
-{
-    const auto filter = leseFilterstring("Hauptmerkmal_C\\Welle\\0\\C|Hauptmerkmal_D\\lang\\0\\D|"
-                                         "StrukturMerkMaterial\\C45\\0\\Material|");
-    EXPECT_THAT(filter.strukturpfad(), ElementsAre("Welle", "lang"));
-    EXPECT_EQ(filter.strukturMaterial(), "C45");
-    EXPECT_EQ(filter.strukturFirma(), "");
-}
 
 class GespeicherteFilterTest : public FilterTest
 {
@@ -107,7 +99,6 @@ protected:
     {
         Filterzustand& zustand = kontext_.zustand();
         zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {Feldname, Wert, code, ""};
-        kontext_.FilterWerteTabelle.push_back({Feldname, Feldname, Wert});
     }
     std::string gespeichert(const std::string& name) { return SavedFilterString(session_, kontext_.tab, name); }
 };
@@ -130,12 +121,12 @@ TEST_F(GespeicherteFilterTest, ARefusedNameSaysWhyAndSavesNothing)
     schritt("Projekt", "A1");
     ASSERT_TRUE(speichereFilter(kontext_, "Alt"));
     for (const auto& fall : faelle) {
-        kontext_.zustand().FilterSchritte[0].Wert = kontext_.FilterWerteTabelle[0].Wert = fall.wert;
+        kontext_.zustand().FilterSchritte[0].Wert = fall.wert;
         welt_.meldungen.erwarte("Filterwerte", fall.text);
         EXPECT_FALSE(speichereFilter(kontext_, fall.name));
     }
     EXPECT_THAT(gespeicherteNamen(session_, 0), ElementsAre("Alt"));
-    kontext_.zustand().FilterSchritte[0].Wert = kontext_.FilterWerteTabelle[0].Wert = "A100";
+    kontext_.zustand().FilterSchritte[0].Wert = "A100";
     EXPECT_TRUE(speichereFilter(kontext_, fuenfzig));
     EXPECT_TRUE(speichereFilter(kontext_, "alt")); // Names are compared exactly.
     EXPECT_THAT(gespeicherteNamen(session_, 1), IsEmpty());
@@ -167,17 +158,17 @@ TEST_F(GespeicherteFilterTest, AFilterInUseReplacesTheOneBefore)
     const Filterzustand& zustand = kontext_.zustand();
     EXPECT_EQ(zustand.FilterAnzahl, 1);
     EXPECT_EQ(zustand.FilterSchritte[0], (FilterSchritt{"", "Farbe", CodeText, "*rot*"}));
-    EXPECT_EQ(zustand.ZusBenutzDef[0], "Meier");
-    EXPECT_EQ(zustand.BenutzDefAnzahl, 1);
+    EXPECT_EQ(additionalValue(zustand, 0), "Meier");
+    EXPECT_EQ(zustand.BenutzDefAnzahl(), 1);
     EXPECT_FALSE(zustand.HauptwertAktiv);
-    EXPECT_EQ(kontext_.bereich, Filterbereich::BenutzDef);
+    EXPECT_EQ(kontext_.bereich(), Filterbereich::BenutzDef);
     EXPECT_EQ(filter_.status.StatusFilter, " ( Status >= 1  AND Status <= 3)");
     EXPECT_EQ(stati(zustand.ChFilterStat), "011100"); // The gap is closed.
     ASSERT_TRUE(speichereFilter(kontext_, "Wieder"));
     EXPECT_EQ(gespeichert("Wieder"), text.substr(0, text.rfind("\\01")) + "\\011100\\\\Status|");
 
     UseSavedFilter(kontext_, "Projekt\\A\\0\\Projekt|");
-    EXPECT_EQ(zustand.ZusBenutzDef[0] + filter_.status.StatusFilter + stati(zustand.ChFilterStat), "000000");
+    EXPECT_EQ(additionalValue(zustand, 0) + filter_.status.StatusFilter + stati(zustand.ChFilterStat), "000000");
 }
 
 TEST_F(GespeicherteFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer)
@@ -212,22 +203,17 @@ TEST_F(GespeicherteFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer
 
 TEST_F(GespeicherteFilterTest, StarsAreAddedWhereAValueBeginsWithOne)
 {
-    struct
-    {
-        const char* wert;
-        const char* danach; // Of the row and of the step.
-        const char* schritt;
-    } const faelle[]{{"*rot", "*rot*", "*rot*"}, {"*rot ", "*rot*", "*rot*"}, {"*rot*", "*rot*", "*rot*"},
-                     {"rot*", "rot*", "rot*"},   {"rot", "rot", "alt"},       {"*", "*", "*"}};
-    for (const auto& fall : faelle) {
+    for (const auto& [wert, danach] :
+         {std::array{"*rot", "*rot*"}, std::array{"*rot ", "*rot*"}, std::array{"*rot*", "*rot*"},
+          std::array{"rot*", "rot*"}, std::array{"rot", "rot"}, std::array{"*", "*"}}) {
         leereFilter(kontext_.zustand());
-        kontext_.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, "alt"};
-        kontext_.zustand().FilterSchritte[1] = {"Titel", "alt", CodeText, ""};
-        kontext_.FilterWerteTabelle = {{"BenutzDef", "Farbe", fall.wert}, {"Titel", "Titel", fall.wert}};
+        for (const char* name : {"Farbe", "Farbe"})
+            kontext_.zustand().FilterSchritte[static_cast<std::size_t>(kontext_.zustand().FilterAnzahl++)] = {
+                "", name, CodeText, wert};
+        schritt("Titel", wert);
         ergaenzeSterne(kontext_);
-        EXPECT_EQ(kontext_.FilterWerteTabelle[0].Wert, fall.danach);
-        EXPECT_EQ(kontext_.zustand().FilterSchritte[0].Muster, fall.schritt);
-        EXPECT_EQ(kontext_.zustand().FilterSchritte[1].Wert, fall.schritt);
+        for (const Filterwert& zeile : kontext_.FilterWerteTabelle())
+            EXPECT_EQ(zeile.Wert, danach);
     }
 }
 

@@ -15,7 +15,7 @@ class Strukturmerkmale : public FilterTest
 protected:
     Strukturmerkmale()
     {
-        kontext_.bereich = Filterbereich::Struktur;
+        kontext_.zustand().bereich = Filterbereich::Struktur;
         session_.Bezeichnungen = {{"material", "Werkstoff"}, {"firma", "Kunde"}};
         teil("1", {"Welle", "lang", "glatt", "hart", "neu"}, "C45", "Meier", 10);
         teil("2", {"Welle", "lang", "glatt", "weich", ""}, "St 37", "Meier", 2.5);
@@ -89,13 +89,13 @@ TEST_F(Strukturmerkmale, TreeIsWalkedDownwardsAndEachStepNarrows)
               "AND Hauptmerkmal_F = 'hart' AND Hauptmerkmal_G = 'neu'");
     EXPECT_EQ(schritte(), "Hauptmerkmal_C=Welle Hauptmerkmal_D=lang Hauptmerkmal_E=glatt Hauptmerkmal_F=hart "
                           "Hauptmerkmal_G=neu ");
-    EXPECT_EQ(kontext_.FilterWerteTabelle[3], (Filterwert{"Hauptmerkmal_F", "Hauptmerkmal F", "hart"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle()[3], (Filterwert{"Hauptmerkmal_F", "Hauptmerkmal F", "hart"}));
     EXPECT_EQ(alsText(bereich_.material()), "C45 (1)");
 
     bereich_.materialGewaehlt("C45");
     bereich_.firmaGewaehlt("Meier");
     EXPECT_EQ(kontext_.zustand().FilterAnzahl, 7);
-    EXPECT_EQ(kontext_.FilterWerteTabelle.back(), (Filterwert{"StrukturMerkFirma", "Kunde", "Meier"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"StrukturMerkFirma", "Kunde", "Meier"}));
 }
 
 TEST_F(Strukturmerkmale, LeavingThePathIsRefused)
@@ -208,7 +208,8 @@ TEST_F(Strukturmerkmale, BoxesDecideWhatIsCounted)
 
 TEST_F(Strukturmerkmale, SavedChoicesComeBackWithTheirLocks)
 {
-    bereich_.stelleWiederHer({"Welle", "lang"}, "C45", "");
+    bereich_.stelleWiederHer(
+        std::vector<FilterSchritt>{{"Hauptmerkmal_C", "Welle"}, {"Hauptmerkmal_D", "lang"}, {"Material", "C45"}});
     EXPECT_EQ(baum(), "Bob's\nRohr\nWelle\n  kurz\n  lang\n    glatt\n");
     EXPECT_EQ(bereich_.StrukturBedingung(),
               "Hauptmerkmal_C = 'Welle' AND Hauptmerkmal_D = 'lang' AND Material = 'C45'");

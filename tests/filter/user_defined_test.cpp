@@ -44,7 +44,7 @@ protected:
     }
     std::string laeuft()
     {
-        kontext_.bereich = Filterbereich::BenutzDef;
+        kontext_.zustand().bereich = Filterbereich::BenutzDef;
         FilterEigenMerkBenutzDef(kontext_);
         EXPECT_EQ(kontext_.tabelle().zustand, Filterergebnis);
         return gezeigt();
@@ -72,7 +72,9 @@ TEST_F(BenutzDefTest, AValueMeetsItsPattern)
         {std::string("*matt"), "*matt", true},
         {std::string("Rot*"), "Rot*", true},
         {std::string("Rot matt"), "R*matt", false},
-        {std::string("Größe"), "GRÖSSE", false}, // Compared in lower case, where "ß" is a letter of its own.
+        {std::string("Größe"), "GRÖSSE", true}, // One value in the lists.
+        {std::string("Rot matt  "), "rot matt", true},
+        {std::string("Größe"), "GRÖSSE*", false}, // In a pattern "ß" is a letter of its own.
         {std::string("50% [a_b]"), "*% [a_b]*", true},
         {std::string("50x yayby"), "*% [a_b]*", false},
         {std::string("O'Neill"), "O'Neill", true},
@@ -127,11 +129,11 @@ TEST_F(BenutzDefTest, AdditionalValuesLeaveRowsOut)
     eigenschaft("B", "Farbe", "rot", {{"Autor", "Huber"}, {"Material", "C45"}});
     setze({{"Farbe", "rot"}});
     EXPECT_EQ(laeuft(), "A B");
-    kontext_.zustand().ZusBenutzDef = {"Meier", "", "", ""};
+    kontext_.zustand().ZusBenutzDef = {{0, "Meier", ""}};
     EXPECT_EQ(laeuft(), "A");
-    kontext_.zustand().ZusBenutzDef = {"", "", "C45", ""};
+    kontext_.zustand().ZusBenutzDef = {{2, "C45", ""}};
     EXPECT_EQ(laeuft(), "B");
-    kontext_.zustand().ZusBenutzDef = {"Meier", "", "C45", ""};
+    kontext_.zustand().ZusBenutzDef = {{2, "C45", ""}, {0, "Meier", ""}};
     EXPECT_EQ(laeuft(), "");
 }
 
@@ -271,7 +273,7 @@ TEST_F(BenutzDefBereichTest, ReceiversStandInPlaceOfTheirCodesAndFilterByThem)
     bereich_.setzeEmpfaenger(true);
     EXPECT_THAT(bereich_.werte().werte, ElementsAre("*", "Alt AG", "K2"));
     bereich_.wertGewaehlt("Alt AG");
-    EXPECT_EQ(kontext_.FilterWerteTabelle.back(), (Filterwert{"BenutzDef", "Kunde", "K1"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"BenutzDef", "Kunde", "K1"}));
     EXPECT_EQ(laeuft(), "A");
 }
 
@@ -296,8 +298,9 @@ TEST_F(BenutzDefBereichTest, FivePairsAndTwoAdditionalValuesAreTaken)
                             "können maximal 2 Filterwerte ausgewählt werden.");
     for (const int index : {3, 0, 2})
         bereich_.zusatzGewaehlt(index, "x");
-    EXPECT_THAT(kontext_.zustand().ZusBenutzDef, ElementsAre("x", "", "", "x"));
-    EXPECT_EQ(kontext_.FilterWerteTabelle.back(), (Filterwert{"ZusBenutzDefAutor", "Verfasser", "x"}));
+    EXPECT_THAT(kontext_.zustand().ZusBenutzDef,
+                ElementsAre(AdditionalValue{3, "x", "Projekt"}, AdditionalValue{0, "x", "Verfasser"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"ZusBenutzDefAutor", "Verfasser", "x"}));
 
     welt_.meldungen.erwarte("SE-Filter: Strukturmerkmale",
                             "Nach Auswahl\nVerfasser / Änderer / Stoff\n\n"

@@ -1,4 +1,5 @@
 #include "filter/execution.h"
+#include "filter/filter_page.h"
 #include "register_fixture.h"
 
 namespace quelvarn {
@@ -20,11 +21,7 @@ protected:
         page_.tabGewaehlt(0);
     }
 
-    void waehle(const char* feld, const char* wert)
-    {
-        AddFilterStep(kontext_, wert, feld, 0);
-        zeigeFilterwert(kontext_, {feld, feld, wert});
-    }
+    void waehle(const char* feld, const char* wert) { AddFilterStep(kontext_, wert, feld, 0); }
     void status(std::initializer_list<std::size_t> stati)
     {
         auto& haken = kontext_.zustand().ChFilterStat;
@@ -36,7 +33,7 @@ protected:
     std::size_t gezeigt(int tab) { return page_.seite(tab).sichtbar().RecordCount(); }
 
     FilterState filter_;
-    Filterkontext kontext_{session_, ports_, filter_, page_, 0, Filterbereich::Eigenschaften, {}, {}};
+    Filterkontext kontext_{session_, ports_, filter_, page_};
 };
 
 TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
@@ -52,7 +49,8 @@ TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
     EXPECT_EQ(session_.AktDoku.DokuBez, "Pa1");
     EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
-    EXPECT_EQ(kontext_.zustand().gezeigteWerte.size(), 3U) << "rows of forgotten steps stay until the page renews them";
+    EXPECT_EQ(page_.aktuelleSeite().gezeigteWerte.size(), 3U)
+        << "rows of forgotten steps stay until the page renews them";
     status({});
     page_.zurueck();
     EXPECT_EQ(gezeigt(0), 4U);
@@ -63,13 +61,13 @@ TEST_F(PageFilterTest, ARunWithNothingChosenLiftsTheFilterThatWasThere)
 {
     for (const auto bereich : {Filterbereich::Eigenschaften, Filterbereich::Struktur, Filterbereich::BenutzDef}) {
         for (const bool filtered : {false, true}) {
-            kontext_.bereich = Filterbereich::Eigenschaften;
+            kontext_.zustand().bereich = Filterbereich::Eigenschaften;
             if (filtered) {
                 waehle("DokuBez", "Pa1");
                 FilterEigenMerkBenutzDef(kontext_);
                 ASSERT_EQ(gezeigt(0), 1U);
             }
-            kontext_.bereich = bereich;
+            kontext_.zustand().bereich = bereich;
             leereFilter(kontext_.zustand());
             FilterEigenMerkBenutzDef(kontext_);
             EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
@@ -87,7 +85,7 @@ TEST_F(PageFilterTest, ARunWithNothingChosenLiftsTheFilterThatWasThere)
 
 TEST_F(PageFilterTest, MainValuesOfTheStructureCountThoughNoStepWasChosen)
 {
-    kontext_.bereich = Filterbereich::Struktur;
+    kontext_.zustand().bereich = Filterbereich::Struktur;
     kontext_.zustand().HauptwertBereich[0] = {Decimal::ofUnits(10000), Decimal::ofUnits(20000)};
     kontext_.zustand().HauptwertAktiv = true;
     FilterEigenMerkBenutzDef(kontext_);
@@ -112,15 +110,72 @@ TEST_F(PageFilterTest, TheResetBringsEveryOpenTableBackToItsStatusCondition)
     for (int i = 0; const int tab : {0, 1, 6}) {
         EXPECT_EQ(gezeigt(tab), anzahl[i++]) << tab;
         EXPECT_EQ(page_.seite(tab).zustand, Offen) << tab;
-        EXPECT_FALSE(page_.seite(tab).filterListeGefuellt) << tab;
+        EXPECT_TRUE(page_.seite(tab).gezeigteWerte.empty()) << tab;
         EXPECT_EQ(filter_.typen[static_cast<std::size_t>(tab)].FilterString, "") << tab;
     }
     EXPECT_FALSE(page_.seite(3).geoeffnet());
-    EXPECT_TRUE(kontext_.FilterWerteTabelle.empty());
+    EXPECT_TRUE(kontext_.FilterWerteTabelle().empty());
     status({});
     ResetAllFilters(kontext_);
     EXPECT_EQ(gezeigt(0), 4U);
     EXPECT_EQ(gezeigt(6), 5U);
+}
+
+TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
+{
+    const std::string alle = "Zugriffsberechtigung:             Alle Stati von 0 bis 5";
+    const std::string kopf = "  Solid Edge - Dokumente, Bauteile, Anzahl: 4";
+    const auto zeigt = [&](const std::string& zugriff, const std::string& anzahl, std::size_t zeilen) {
+        EXPECT_EQ(page_.zugriffText(), zugriff);
+        EXPECT_EQ(page_.statusLimited(), zugriff != alle);
+        EXPECT_EQ(page_.anzahlText(), kopf + anzahl);
+        ASSERT_EQ(page_.gezeigteWerte().size(), zeilen);
+        if (zugriff != alle)
+            EXPECT_EQ(page_.gezeigteWerte().back(), (Filterwert{"", "Status", " >= 2 und <= 3"}));
+    };
+    const std::string limit = "             Status >= 2 und <= 3";
+    status({2, 3});
+    zeigt(alle, "", 0); // Until a run.
+    FilterEigenMerkBenutzDef(kontext_);
+    zeigt(limit, "; Filteranzahl: 2", 1);
+    waehle("DokuBez", "Pa3");
+    FilterEigenMerkBenutzDef(kontext_);
+    zeigt(limit, "; Filteranzahl: 1", 2);
+    page_.zurueck();
+    EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
+    zeigt(limit, "; Filteranzahl: 2", 1); // It stays.
+    page_.tabGewaehlt(1);
+    EXPECT_EQ(page_.zugriffText(), alle) << "this table is not narrowed";
+    page_.tabGewaehlt(0);
+    zeigt(limit, "; Filteranzahl: 2", 1);
+
+    kontext_.zustand().bereich = Filterbereich::Struktur;
+    waehle("DokuBez", "Pa1"); // Structure features heed no status.
+    FilterEigenMerkBenutzDef(kontext_);
+    zeigt(alle, "; Filteranzahl: 1", 1);
+    status({});
+    page_.neuaufbauen();
+    zeigt(alle, "", 0);
+}
+
+TEST_F(PageFilterTest, TheValuesStayListedWhileTheyNarrowTheTable)
+{
+    FilterPage seite{session_, ports_, filter_, page_};
+    seite.OpenFilterPage();
+    kontext_.zustand().ChFilterStat.fill(false);
+    AddFilterStep(kontext_, "Pa1", "DokuBez", 0);
+    seite.filtern();
+    ASSERT_EQ(gezeigt(0), 1U);
+    const std::vector<Filterwert> werte = page_.gezeigteWerte();
+    ASSERT_EQ(werte.size(), 1U);
+    seite.bereichGewaehlt(Filterbereich::Struktur);
+    EXPECT_EQ(page_.gezeigteWerte(), werte);
+    seite.zurueck();
+    EXPECT_EQ(page_.gezeigteWerte(), werte);
+    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 1");
+    seite.filtern(); // Nothing is chosen on this part: all rows again.
+    EXPECT_EQ(gezeigt(0), 4U);
+    EXPECT_TRUE(page_.gezeigteWerte().empty());
 }
 
 TEST_F(PageFilterTest, AResultOfItsOwnIsGivenUpByTheNextRunAndByTheReset)

@@ -42,6 +42,20 @@ protected:
     const std::string& expression() const { return page_.aktuelleSeite().tabelle.filterText(); }
 };
 
+TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
+{
+    session_.GespeicherteFilter[0].FeldAnhaengen("Name", FeldTyp::Text); // As of another version.
+    session_.GespeicherteFilter[0].Open();
+    session_.GespeicherteFilter[0].AddNew();
+    session_.GespeicherteFilter[0].Update();
+    welt_.meldungen.erwarte("Liste mit Filterfavoriten", "Fehler beim Erstellen der Liste mit Filterfavoriten!");
+    welt_.meldungen.antworte();
+    EXPECT_FALSE(bar_.zeigeFavoriten());
+    welt_.meldungen.erwarte("Gespeicherte Filter", "Fehler beim Eintrag der gespeicherten Filter!");
+    welt_.meldungen.antworte();
+    EXPECT_TRUE(bar_.favoritennamen().empty());
+}
+
 TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
 {
     filterText("", 0, TextAmAnfang);

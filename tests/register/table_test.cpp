@@ -176,7 +176,7 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
     const auto filtere = [&] {
         seite.tabelle.Filter("DokuBez Like 'B'");
         seite.zustand = Gefiltert;
-        seite.filterListeGefuellt = true;
+        seite.gezeigteWerte = {{"DokuBez", "Dokumentname", "B"}};
         page_.zeileGewechselt();
     };
     filtere();
@@ -184,7 +184,7 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
     int vergessen = -1;
     page_.filterVergessen = [&](int tab) {
         vergessen = tab;
-        return std::string("DokuBez >= 'B'"); // as a status filter would stay
+        return Statusbedingung{{}, "DokuBez >= 'B'", {}, {}}; // as a status filter would stay
     };
     page_.zurueck();
     EXPECT_EQ(vergessen, 0);

@@ -51,7 +51,7 @@ void clickNode(const std::string& tree, const std::vector<std::string>& path)
     clickIndex(view, node, false);
 }
 
-void editCell(const std::string& grid, int row, int column, const std::string& text)
+void editCell(const std::string& grid, int row, int column, const std::string& text, bool finish)
 {
     auto& view = usableView(grid);
     const auto cell = view.model()->index(row - 1, column - 1);
@@ -65,7 +65,8 @@ void editCell(const std::string& grid, int row, int column, const std::string& t
         throw Difference(fmt::format("cell {}, {} of {} does not open", row, column, grid));
     editor->selectAll();
     typeKeys(*editor, qt(text));
-    QTest::keyClick(editor, Qt::Key_Return);
+    if (finish)
+        QTest::keyClick(editor, Qt::Key_Return);
 }
 
 void clickDay(const std::string& calendar, const std::string& day)

@@ -75,9 +75,10 @@ void addGestureVerbs(Verbs& verbs)
         step.word(2);
         clickNode(step.word(1), {step.words.begin() + 2, step.words.end()});
     };
-    verbs["edit"] = [](World&, const Step& step) {
-        editCell(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), step.word(4));
-    };
+    for (const bool finish : {true, false})
+        verbs[finish ? "edit" : "write"] = [finish](World&, const Step& step) {
+            editCell(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), step.word(4), finish);
+        };
     verbs["day"] = [](World&, const Step& step) { clickDay(step.word(1), step.word(2)); };
     verbs["unfold"] = [](World&, const Step& step) { expand(step.word(1), step.word(2), true); };
     verbs["fold"] = [](World&, const Step& step) { expand(step.word(1), step.word(2), false); };

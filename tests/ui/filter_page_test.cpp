@@ -45,7 +45,7 @@ protected:
     template <typename Art> Art& finde(const char* name) { return *seite_.findChild<Art*>(QLatin1String(name)); }
     std::string letzterWert() const
     {
-        const auto& werte = modell_.kontext().FilterWerteTabelle;
+        const auto& werte = modell_.kontext().FilterWerteTabelle();
         return werte.empty() ? "" : werte.back().Benennung + " " + werte.back().Wert;
     }
 
@@ -85,7 +85,7 @@ TEST_F(FormSEFilternTest, ADayIsPickedByOneClickOrByEnter)
     const QModelIndex sechzehnter = tage.model()->index(4, 0);
     QTest::mouseClick(tage.viewport(), Qt::LeftButton, {}, tage.visualRect(sechzehnter).center());
     EXPECT_EQ(letzterWert(), "Geaendert <= 16.11.26");
-    EXPECT_EQ(modell_.kontext().FilterWerteTabelle.size(), 2U);
+    EXPECT_EQ(modell_.kontext().FilterWerteTabelle().size(), 2U);
 }
 
 TEST_F(FormSEFilternTest, KeysRunTheFilterAndLeave)

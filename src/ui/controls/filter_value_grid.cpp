@@ -6,6 +6,8 @@
 
 #include <QResizeEvent>
 
+#include <utility>
+
 namespace quelvarn {
 
 namespace {
@@ -78,9 +80,18 @@ bool Wertmodell::setData(const QModelIndex& stelle, const QVariant& wert, int ro
 {
     if (rolle != Qt::EditRole || !bearbeitet || wert == data(stelle, rolle))
         return false;
-    const auto zeile = static_cast<std::size_t>(stelle.row());
-    Waechter::aktuell().fuehreAus([&] { bearbeitet(zeile, ausQt(wert.toString())); });
+    entered_ = Entered{static_cast<std::size_t>(stelle.row()), ausQt(wert.toString())};
+    werte_[entered_->row].Wert = entered_->value;
+    Q_EMIT dataChanged(stelle, stelle);
+    // The editor is closed by then: what is told may raise a box.
+    QMetaObject::invokeMethod(this, &Wertmodell::tellEntered, Qt::QueuedConnection);
     return true;
+}
+
+void Wertmodell::tellEntered()
+{
+    if (const auto entered = std::exchange(entered_, std::nullopt))
+        Waechter::aktuell().fuehreAus([&] { bearbeitet(entered->row, entered->value); });
 }
 
 Werttabelle::Werttabelle(const char* name) : modell_(new Wertmodell(this))
@@ -90,6 +101,15 @@ Werttabelle::Werttabelle(const char* name) : modell_(new Wertmodell(this))
     setModel(modell_);
     stelleGitterEin(*this);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+}
+
+void Werttabelle::takeInput()
+{
+    if (QWidget* editor = indexWidget(currentIndex())) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+    modell_->tellEntered();
 }
 
 void Werttabelle::resizeEvent(QResizeEvent* ereignis)

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,8 +24,11 @@ public:
 
     void zeige(const std::vector<Filterwert>& werte);
     void setzeKopf(std::string_view text); // Of the column Wert.
-    // Set: a Wert may be edited, and this is told of it. The grid keeps the old text until it is shown the new one.
+    // Set: a Wert may be edited, and this is told of it when the editor is closed. The grid shows the new text until it
+    // is shown another one.
     std::function<void(std::size_t zeile, const std::string& wert)> bearbeitet;
+
+    void tellEntered(); // At once instead.
 
     int rowCount(const QModelIndex& eltern = {}) const override;
     int columnCount(const QModelIndex& eltern = {}) const override;
@@ -34,7 +38,14 @@ public:
     bool setData(const QModelIndex& stelle, const QVariant& wert, int rolle) override;
 
 private:
+    struct Entered
+    {
+        std::size_t row;
+        std::string value;
+    };
+
     std::vector<Filterwert> werte_;
+    std::optional<Entered> entered_; // Not told yet.
     std::string kopf_ = "Filterwerte";
 };
 
@@ -47,6 +58,8 @@ public:
     explicit Werttabelle(const char* name);
 
     Wertmodell& zeilen() { return *modell_; }
+    // What is being written counts: closes an open editor and tells its text.
+    void takeInput();
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
 
 namespace quelvarn {
 
@@ -37,6 +38,16 @@ void setzeRolle(QLabel& label, Rolle rolle)
     case Rolle::Klein:
         return void(label.setProperty("rolle", QStringLiteral("klein")));
     }
+}
+
+void showNote(QLabel& label, bool note)
+{
+    if (label.property("hinweis").toBool() == note)
+        return;
+    label.setProperty("hinweis", note);
+    label.style()->unpolish(&label);
+    label.style()->polish(&label);
+    label.update();
 }
 
 QFrame* trennlinie()

@@ -27,6 +27,8 @@ private:
 enum class Rolle { Titel, Kopf, Beschriftung, Klein };
 QLabel* beschriftung(const QString& text, Rolle rolle, const QString& name = {});
 void setzeRolle(QLabel& label, Rolle rolle);
+// What the label says now is out of the ordinary: it stands on the ground of notes.
+void showNote(QLabel& label, bool note);
 QFrame* trennlinie();
 
 } // namespace quelvarn

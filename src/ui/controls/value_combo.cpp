@@ -61,7 +61,7 @@ void Wertekombo::zeigeGewaehlt(const std::string& wert)
         return;
     const QSignalBlocker still(this);
     setCurrentIndex(wert.empty() ? -1 : findText(zuQt(wert)));
-    setEditText(itemText(currentIndex()));
+    setEditText(zuQt(wert)); // Also a pattern that is in no list.
 }
 
 void Wertekombo::melde(int index)

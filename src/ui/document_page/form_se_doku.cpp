@@ -171,6 +171,7 @@ void FormSEDoku::zeigen()
 {
     LabelSEDoku_->setText(zuQt(modell_.anzahlText()));
     LblZugriffSEDoku_->setText(zuQt(modell_.zugriffText()));
+    showNote(*LblZugriffSEDoku_, modell_.statusLimited());
     zeigeReiter();
     zeigeLinks();
     zeigeOben();

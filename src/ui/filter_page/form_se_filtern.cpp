@@ -106,7 +106,10 @@ QWidget* FormSEFiltern::neueLeiste()
             }));
     connect(werte, &QAction::triggered, this, bewacht([this] { modell_.werte(); }));
     connect(vorlage, &QAction::triggered, this, bewacht([this](bool gedrueckt) { modell_.vorlage(gedrueckt); }));
-    connect(verlassen, &QAction::triggered, this, bewacht([this] { modell_.verlassen(); }));
+    connect(verlassen, &QAction::triggered, this, bewacht([this] {
+                filter_->takeInput();
+                modell_.verlassen();
+            }));
     zeile->reihe().addWidget(ToolbarSEFilter_);
     return zeile;
 }
@@ -117,6 +120,7 @@ QWidget* FormSEFiltern::neuerInhalt()
     auto* FrmFilterSmart = new QWidget;
     FrmFilterSmart->setObjectName(QStringLiteral("FrmFilterSmart"));
     filter_->filtern = [this] { Waechter::aktuell().fuehreAus([this] { filtern(); }); };
+    gespeicherte_->beforeSaving = [this] { filter_->takeInput(); };
     filter_->setFixedHeight(HOEHE_FILTER);
     gespeicherte_->setFixedWidth(BREITE_GESPEICHERTE);
     auto* unten = new QHBoxLayout;
@@ -184,6 +188,7 @@ void FormSEFiltern::baueTasten()
 
 void FormSEFiltern::filtern()
 {
+    filter_->takeInput();
     const Sanduhr warten;
     modell_.filtern();
 }
@@ -215,13 +220,13 @@ void FormSEFiltern::zeigeLeiste()
     const bool vorlage = modell_.zeigtVorlage();
     for (const char* knopf : {"Filtern", "Zurück"})
         knopfVon(*ToolbarSEFilter_, knopf).setEnabled(!vorlage);
-    knopfVon(*ToolbarSEFilter_, "Werte").setEnabled(!vorlage && modell_.kontext().bereich == Filterbereich::Struktur);
+    knopfVon(*ToolbarSEFilter_, "Werte").setEnabled(!vorlage && modell_.kontext().bereich() == Filterbereich::Struktur);
     knopfVon(*ToolbarSEFilter_, "Vorlage").setChecked(vorlage);
 }
 
 void FormSEFiltern::zeigeReiter()
 {
-    const Filterbereich bereich = modell_.kontext().bereich;
+    const Filterbereich bereich = modell_.kontext().bereich();
     const QSignalBlocker still(SSTabDGFilter_);
     constexpr int BENUTZDEF = static_cast<int>(Filterbereich::BenutzDef);
     SSTabDGFilter_->setTabVisible(BENUTZDEF, modell_.bereichVorhanden(Filterbereich::BenutzDef));

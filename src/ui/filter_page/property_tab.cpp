@@ -151,6 +151,7 @@ void Eigenschaftsreiter::zeigeStati()
     }
     const Statusbedingung& bedingung = modell_.kontext().filter.status;
     legende_->setText(bedingung.kurz.empty() ? QStringLiteral("Alle Stati") : zuQt("Status" + bedingung.kurz));
+    showNote(*legende_, bedingung.isSet());
 }
 
 // --- dates -----------------------------------------------------------------------------------------------------

@@ -57,7 +57,10 @@ QWidget* LaufenderFilter::neuerKopf()
     CmChangeStar_->setObjectName(QStringLiteral("CmChangeStar"));
     CmChangeStar_->setToolTip(QStringLiteral("Geänderte Werte mit * am Ende in den Filter übernehmen"));
     CmChangeStar_->setProperty("flach", true);
-    connect(CmChangeStar_, &QPushButton::clicked, this, bewacht([this] { modell_.sterneErgaenzen(); }));
+    connect(CmChangeStar_, &QPushButton::clicked, this, bewacht([this] {
+                takeInput();
+                modell_.sterneErgaenzen();
+            }));
     kopf->reihe().addWidget(LblKopfFilterWerte_, 1);
     kopf->reihe().addWidget(CmChangeStar_);
     return kopf;
@@ -110,15 +113,20 @@ bool LaufenderFilter::eventFilter(QObject* empfaenger, QEvent* ereignis)
     return QWidget::eventFilter(empfaenger, ereignis);
 }
 
+void LaufenderFilter::takeInput()
+{
+    DataGridFilterEigenMerk_->takeInput();
+}
+
 void LaufenderFilter::zeigen()
 {
     const Filterkontext& kontext = modell_.kontext();
     LblKopfFilterWerte_->setText(zuQt(modell_.kopfFilterwerte()));
-    CmChangeStar_->setEnabled(!kontext.FilterWerteTabelle.empty());
-    DataGridFilterEigenMerk_->zeilen().zeige(kontext.FilterWerteTabelle);
+    CmChangeStar_->setEnabled(!kontext.FilterWerteTabelle().empty());
+    DataGridFilterEigenMerk_->zeilen().zeige(kontext.FilterWerteTabelle());
     zeigeStatus();
     hauptwerte_->zeige(kontext.zustand().HauptwertBereich);
-    DGFilternWerte_->setVisible(kontext.bereich == Filterbereich::Struktur);
+    DGFilternWerte_->setVisible(kontext.bereich() == Filterbereich::Struktur);
 }
 
 void LaufenderFilter::zeigeStatus()

@@ -23,6 +23,7 @@ public:
     explicit LaufenderFilter(FilterPage& modell);
 
     void zeigen();
+    void takeInput();              // A value that is being written counts.
     std::function<void()> filtern; // Enter on a step.
 
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;

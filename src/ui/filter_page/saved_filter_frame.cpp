@@ -70,6 +70,8 @@ QWidget* GespeicherteFilterRahmen::neuesSpeichern()
     TxtFilterSave_->setAccessibleName(QStringLiteral("Name des Filters"));
     auto* speichern = neuesFeld<QPushButton>("CmFilterSave", QStringLiteral("&Speichern"));
     connect(speichern, &QPushButton::clicked, this, bewacht([this] {
+                if (beforeSaving)
+                    beforeSaving();
                 if (modell_.filterSpeichern(ausQt(TxtFilterSave_->text())))
                     TxtFilterSave_->clear();
             }));

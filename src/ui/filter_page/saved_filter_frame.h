@@ -19,6 +19,7 @@ public:
     explicit GespeicherteFilterRahmen(FilterPage& modell);
 
     void zeigen();
+    std::function<void()> beforeSaving;
 
 private:
     QWidget* neueAuswahl();

@@ -33,11 +33,12 @@ QLabel* neueAnzahl(const char* name)
     return anzahl;
 }
 
-// The value of a display row, "" when there is none.
+// The value of the step of a column, "" when there is none.
 std::string wertVon(const Filterkontext& kontext, std::string_view Feldname)
 {
-    const auto zeile = std::ranges::find(kontext.FilterWerteTabelle, Feldname, &Filterwert::Feldname);
-    return zeile != kontext.FilterWerteTabelle.end() ? zeile->Wert : std::string();
+    const auto steps = filledSteps(kontext.zustand());
+    const auto step = std::ranges::find(steps, Feldname, &FilterSchritt::Feldname);
+    return step != steps.end() ? step->Wert : std::string();
 }
 
 } // namespace
@@ -173,8 +174,8 @@ void Strukturreiter::zeigeMaterialFirma()
     LblFirmaMW_->setText(zuQt(modell_.eigenschaften().bezeichnung(EIGENSCHAFT_FIRMA)));
     CbMaterialMW_->zeige(struktur_.material().werte);
     CbFirmaMW_->zeige(struktur_.firma().werte);
-    CbMaterialMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "StrukturMerkMaterial"));
-    CbFirmaMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "StrukturMerkFirma"));
+    CbMaterialMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "Material"));
+    CbFirmaMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "Firma"));
     LblAnzMaterialMW_->setText(zuQt(struktur_.material().anzahl));
     LblAnzFirmaMW_->setText(zuQt(struktur_.firma().anzahl));
 }

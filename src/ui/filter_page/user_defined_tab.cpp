@@ -154,7 +154,7 @@ void BenutzDefReiter::zeigeZusaetze()
         LblEigenZus_[stelle]->setText(text);
         CbEigenBenutzDef_[stelle]->setAccessibleName(text);
         CbEigenBenutzDef_[stelle]->zeige(benutzDef_.zusatz(i).werte);
-        CbEigenBenutzDef_[stelle]->zeigeGewaehlt(modell_.kontext().zustand().ZusBenutzDef[stelle]);
+        CbEigenBenutzDef_[stelle]->zeigeGewaehlt(additionalValue(modell_.kontext().zustand(), stelle));
         LblAnzZus_[stelle]->setText(zuQt(benutzDef_.zusatz(i).anzahl));
     }
 }
