@@ -106,10 +106,11 @@ void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
     StilleAnzeige anzeige;
     const auto system = systemPorts(std::filesystem::temp_directory_path() / "quelvarn-bench-laufwerke");
     Ports ports = system->mit(meldungen, zwischenablage, anzeige);
+    Operations operations(ports);
     FilterState filter;
     filter.typen[0].bereich = Filterbereich::BenutzDef;
     Tabellen tabellen;
-    Filterkontext kontext{session, ports, filter, tabellen};
+    Filterkontext kontext{session, operations, filter, tabellen};
     for (const Fall& fall : FAELLE)
         messeFall(reihe, kontext, sqlite, fall);
 

@@ -232,9 +232,10 @@ private:
     // Whatever he looks for, he sees released and frozen documents alone.
     static void filter(SessionState& session, World& world, const Input& input)
     {
+        Operations operations(world.ports);
         FilterState state;
         Tables tables(session);
-        Filterkontext context{session, world.ports, state, tables};
+        Filterkontext context{session, operations, state, tables};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
         FilterEigenMerkBenutzDef(context);

@@ -2,10 +2,9 @@
 
 #include "filter/filter_rows.h"
 #include "filter/filtered_table.h"
-#include "platform/ports.h"
+#include "session/operations.h"
 #include "session/session_state.h"
 
-#include <functional>
 #include <vector>
 
 namespace quelvarn {
@@ -14,11 +13,10 @@ namespace quelvarn {
 struct Filterkontext
 {
     SessionState& session;
-    Ports& ports;
+    Operations& operations;
     FilterState& filter;
     Tabellenherr& tabellen;
     int tab = 0; // Of the type the page is open for.
-    std::function<void()> geaendert = {};
     // Steps of the run that left no rows, in the order they were tried. They are told once the grid shows the rows that
     // are left: a box lets the window draw.
     std::vector<int> stepsWithoutRows = {};
@@ -28,11 +26,7 @@ struct Filterkontext
     GefilterteTabelle& tabelle() { return tabellen.filterTabelle(tab); }
     Filterbereich bereich() const { return zustand().bereich; }
     std::vector<Filterwert> FilterWerteTabelle() const { return filterRows(zustand()); }
-    void melde() const
-    {
-        if (geaendert)
-            geaendert();
-    }
+    Ports& ports() const { return operations.ports(); }
 };
 
 } // namespace quelvarn

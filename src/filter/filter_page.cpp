@@ -13,19 +13,14 @@
 
 namespace quelvarn {
 
-FilterPage::FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen)
-    : kontext_{session, ports, filter, tabellen}, eigenschaften_(kontext_), struktur_(kontext_), benutzDef_(kontext_)
-{
-    kontext_.geaendert = [this] {
-        if (geaendert)
-            geaendert();
-    };
-}
+FilterPage::FilterPage(SessionState& session, Operations& operations, FilterState& filter, Tabellenherr& tabellen)
+    : kontext_{session, operations, filter, tabellen}, eigenschaften_(kontext_), struktur_(kontext_),
+      benutzDef_(kontext_)
+{}
 
-void FilterPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
+void FilterPage::perform(std::string_view title, std::string_view text, const std::function<void()>& operation)
 {
-    gesichert(kontext_.ports.meldungen, titel, text, operation);
-    kontext_.melde();
+    kontext_.operations.perform(Part::FilterPage, title, text, operation);
 }
 
 // --- opening and closing ---------------------------------------------------------------------------------------
@@ -38,7 +33,7 @@ void FilterPage::seiteGezeigt(Seite seite)
 
 void FilterPage::OpenFilterPage()
 {
-    bediene("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
+    perform("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
         geladen_ = kontext_.session.FormSEFilternGeladen = true;
         kontext_.tab = kontext_.tabellen.filterTab();
         // The steps of a quick filter do not belong here.
@@ -56,14 +51,14 @@ void FilterPage::CloseFilterPage()
 {
     if (!geladen_)
         return;
-    speichereFilterlisten(kontext_.session, kontext_.ports.meldungen);
+    speichereFilterlisten(kontext_.session, kontext_.ports().meldungen);
     schliesseVorlage();
 }
 
 void FilterPage::verlassen()
 {
     CloseFilterPage();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
     if (zurDokumentseite)
         zurDokumentseite();
 }
@@ -80,7 +75,7 @@ void FilterPage::datenbankWechselt()
     entladen();
     kontext_.filter = {};
     kontext_.tab = 0;
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 // --- the state of a type ---------------------------------------------------------------------------------------
@@ -106,7 +101,7 @@ void FilterPage::bereichGewaehlt(Filterbereich bereich)
 {
     if (bereich == kontext_.bereich() || !bereichVorhanden(bereich))
         return;
-    bediene("Wechsel der Filterbereiche", "Fehler beim Wechsel der Filterbereiche!", [&] {
+    perform("Wechsel der Filterbereiche", "Fehler beim Wechsel der Filterbereiche!", [&] {
         leere();
         kontext_.zustand().bereich = bereich;
         fuelleBereich();
@@ -139,7 +134,7 @@ void FilterPage::fuelleStruktur()
 
 void FilterPage::filtern()
 {
-    bediene("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
+    perform("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
         FilterEigenMerkBenutzDef(kontext_);
         if (kontext_.bereich() == Filterbereich::Eigenschaften)
             fuelleBereich();
@@ -148,7 +143,7 @@ void FilterPage::filtern()
 
 void FilterPage::zurueck()
 {
-    bediene("Zurücksetzen der Filterwerte", "Fehler beim Zurücksetzen der Filterwerte!", [&] {
+    perform("Zurücksetzen der Filterwerte", "Fehler beim Zurücksetzen der Filterwerte!", [&] {
         if (kontext_.bereich() == Filterbereich::Eigenschaften)
             stelleStandWiederHer();
         else
@@ -159,7 +154,7 @@ void FilterPage::zurueck()
 
 void FilterPage::werte()
 {
-    bediene("Zurücksetzen der Hauptwerte", "Fehler beim Zurücksetzen der Hauptwerte!",
+    perform("Zurücksetzen der Hauptwerte", "Fehler beim Zurücksetzen der Hauptwerte!",
             [&] { struktur_.leereHauptwerte(); });
 }
 
@@ -171,7 +166,7 @@ void FilterPage::vorlage(bool gedrueckt)
         oeffneVorlage();
     else
         schliesseVorlage();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void FilterPage::oeffneVorlage()
@@ -180,17 +175,17 @@ void FilterPage::oeffneVorlage()
     zeigtVorlage_ = Dateiendung(pfad) == "dft" && viewer && viewer(pfad);
     if (zeigtVorlage_)
         return;
-    kontext_.ports.meldungen.warnung("Anzeigen im Viewer", zeilen({
-                                                               "Die Datei:",
-                                                               "",
-                                                               pfad,
-                                                               "",
-                                                               "konnte nicht geöffnet werden!",
-                                                               "",
-                                                               "Mögliche Ursache:",
-                                                               "- Kein Zugriffsrecht.",
-                                                               "- Falscher Pfad- und/oder Dateiname.",
-                                                           }));
+    kontext_.ports().meldungen.warnung("Anzeigen im Viewer", zeilen({
+                                                                 "Die Datei:",
+                                                                 "",
+                                                                 pfad,
+                                                                 "",
+                                                                 "konnte nicht geöffnet werden!",
+                                                                 "",
+                                                                 "Mögliche Ursache:",
+                                                                 "- Kein Zugriffsrecht.",
+                                                                 "- Falscher Pfad- und/oder Dateiname.",
+                                                             }));
 }
 
 void FilterPage::schliesseVorlage()
@@ -205,19 +200,19 @@ void FilterPage::schliesseVorlage()
 bool FilterPage::filterSpeichern(std::string_view TxtFilterSave)
 {
     bool gespeichert = false;
-    bediene("Filterwerte", "Fehler beim Speichern der Filterwerte!",
+    perform("Filterwerte", "Fehler beim Speichern der Filterwerte!",
             [&] { gespeichert = speichereFilter(kontext_, TxtFilterSave); });
     return gespeichert;
 }
 
 void FilterPage::filterLoeschen(std::string_view CbFilterSave)
 {
-    bediene("Filterwerte", "Fehler beim Löschen der Filterwerte!", [&] { loescheFilter(kontext_, CbFilterSave); });
+    perform("Filterwerte", "Fehler beim Löschen der Filterwerte!", [&] { loescheFilter(kontext_, CbFilterSave); });
 }
 
 void FilterPage::filterVerwenden(std::string_view CbFilterSave)
 {
-    bediene("Filterwerte", "Fehler beim Verwenden der Filterwerte!", [&] {
+    perform("Filterwerte", "Fehler beim Verwenden der Filterwerte!", [&] {
         const auto text = gewaehlterFilter(kontext_, CbFilterSave);
         if (!text)
             return;
@@ -230,7 +225,7 @@ void FilterPage::filterVerwenden(std::string_view CbFilterSave)
 
 void FilterPage::nutzeGespeicherten(std::string_view Filtername)
 {
-    bediene("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
+    perform("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
         kontext_.tab = kontext_.tabellen.filterTab();
         const std::string text = SavedFilterString(kontext_.session, kontext_.tab, Filtername);
         if (text.empty())
@@ -242,19 +237,20 @@ void FilterPage::nutzeGespeicherten(std::string_view Filtername)
 
 void FilterPage::wertGeaendert(std::size_t zeile, std::string_view wert)
 {
-    bediene("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
+    perform("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
         if (zeile >= kontext_.FilterWerteTabelle().size())
             return; // The row is gone.
         if (setRowValue(kontext_.zustand(), zeile, wert))
             return followRows();
-        kontext_.ports.meldungen.warnung("Filterwerte", trim(wert).empty() ? "Es muss ein Filterwert angegeben werden!"
-                                                                           : fmt::format("'{}' ist kein Datum!", wert));
+        kontext_.ports().meldungen.warnung("Filterwerte", trim(wert).empty()
+                                                              ? "Es muss ein Filterwert angegeben werden!"
+                                                              : fmt::format("'{}' ist kein Datum!", wert));
     });
 }
 
 void FilterPage::sterneErgaenzen()
 {
-    bediene("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
+    perform("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
         ergaenzeSterne(kontext_);
         followRows();
     });
@@ -313,7 +309,7 @@ std::string FilterPage::vorlagePfad() const
 
 Zeitpunkt FilterPage::heute() const
 {
-    return kontext_.ports.uhr.jetzt();
+    return kontext_.ports().uhr.jetzt();
 }
 
 } // namespace quelvarn

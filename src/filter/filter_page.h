@@ -17,9 +17,9 @@ namespace quelvarn {
 class FilterPage : public Rahmenteilnehmer
 {
 public:
-    FilterPage(SessionState& session, Ports& ports, FilterState& filter, Tabellenherr& tabellen);
+    FilterPage(SessionState& session, Operations& operations, FilterState& filter, Tabellenherr& tabellen);
 
-    // --- operations, one for each thing a person can do; each calls `geaendert` at its end ---
+    // --- operations, one for each thing a person can do ---
     void OpenFilterPage(); // For the table that the document page shows.
     void CloseFilterPage();
     void bereichGewaehlt(Filterbereich bereich);                  // SSTabDGFilter
@@ -58,13 +58,12 @@ public:
     unsigned listenfassung() const { return listenfassung_; }
     Zeitpunkt heute() const; // Where the calendar opens.
 
-    std::function<void()> geaendert;
     std::function<void()> zurDokumentseite; // The page is left.
     // Shows the template in the viewer, "" for nothing; false when it could not.
     std::function<bool(const std::string& filename)> viewer;
 
 private:
-    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
+    void perform(std::string_view title, std::string_view text, const std::function<void()>& operation);
     void stelleStandWiederHer();
     void leere();
     void fuelleBereich();

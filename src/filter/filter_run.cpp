@@ -42,7 +42,7 @@ RowFilter Kettenglied::behind(const Statusbedingung& status) const
 
 bool setzeFilter(Filterkontext& kontext, RowFilter filter)
 {
-    LangeArbeit arbeit(kontext.ports.fortschritt, "Die Tabelle wird gefiltert ...");
+    LangeArbeit arbeit(kontext.ports().fortschritt, "Die Tabelle wird gefiltert ...");
     kontext.tabelle().tabelle.Filter(std::move(filter), std::ref(arbeit));
     return !arbeit.aufgegeben();
 }

@@ -46,29 +46,29 @@ void Strukturbereich::hauptwertGewaehlt(int hauptwert)
 {
     hauptwert_ = hauptwert;
     fuelleHauptwerte();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Strukturbereich::setzeAnzahlWerteZeigen(bool gesetzt)
 {
     ChShowAnzWerte_ = gesetzt;
     fuelleHauptwerte();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Strukturbereich::setzeAnzahlAliasZeigen(bool gesetzt)
 {
     ChShowAnzAlias_ = gesetzt;
     fuelleHauptwerte();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 // Each list by itself: one that cannot be filled stays empty.
 void Strukturbereich::fuelleHauptwerte()
 {
     werte_ = alias_ = {};
-    Meldungen& meldungen = kontext_.ports.meldungen;
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Hauptwerte werden gelesen ...");
+    Meldungen& meldungen = kontext_.ports().meldungen;
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Hauptwerte werden gelesen ...");
     const std::string wert = fmt::format("Hauptwert_{}", buchstabe(hauptwert_));
     const std::string alias = fmt::format("Alias_{}", buchstabe(hauptwert_));
     std::optional<std::vector<Bookmark>> zeilen;
@@ -98,21 +98,21 @@ void Strukturbereich::hauptwertUebernehmen(std::string_view CbHW, std::string_vi
     const auto MinWert = wert && band ? wert->minus(*band) : std::nullopt;
     const auto MaxWert = wert && band ? wert->plus(*band) : std::nullopt;
     if (!MinWert || !MaxWert) {
-        kontext_.ports.meldungen.warnung("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", wert ? TextBB : CbHW));
+        kontext_.ports().meldungen.warnung("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", wert ? TextBB : CbHW));
         return;
     }
     Filterzustand& zustand = kontext_.zustand();
     zustand.HauptwertBereich[static_cast<std::size_t>(hauptwert_)] = {*MinWert, *MaxWert};
     zustand.HauptwertAktiv = true;
     SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Strukturbereich::leereHauptwerte()
 {
     ClearHauptwertBereich(kontext_.zustand());
     kontext_.zustand().HauptwertAktiv = false;
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 std::string Strukturbereich::hauptwertName(int hauptwert) const

@@ -18,9 +18,9 @@ void ReportNoRecords(Filterkontext& kontext, int schritt)
     else
         text = fmt::format("Es gibt keine Datensätze mit diesen Filtervorgaben!{}\n\n",
                            mitStatus ? "\nunter Berücksichtigung der Status-Werte!" : "");
-    kontext.ports.meldungen.warnung("Filtervorgaben",
-                                    text + zeilen({"Mögliche Ursache:", "- Sie haben keine Zugriffsberechtigung.",
-                                                   "- Es ist ein <Neuaufbau> erforderlich."}));
+    kontext.ports().meldungen.warnung("Filtervorgaben",
+                                      text + zeilen({"Mögliche Ursache:", "- Sie haben keine Zugriffsberechtigung.",
+                                                     "- Es ist ein <Neuaufbau> erforderlich."}));
 }
 
 void reportStepsWithoutRows(Filterkontext& kontext)

@@ -65,7 +65,7 @@ void Eigenschaftsbereich::wertGewaehlt(int index, std::string_view wert)
         return;
     const std::string_view feld = EIGENSCHAFTEN[static_cast<std::size_t>(index - 1)].feld;
     AddFilterStep(kontext_, wert, feld, 0, {"", bezeichnung(index)});
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Eigenschaftsbereich::datumGewaehlt(const Zeitpunkt& tag)
@@ -73,14 +73,14 @@ void Eigenschaftsbereich::datumGewaehlt(const Zeitpunkt& tag)
     const std::string feld = OpDat_ == 1 ? "Geaendert" : "Erstellt";
     const int Operator = OpDatBegr_ == 0 || OpDatBegr_ == 1 ? OpDatBegr_ : 2;
     AddFilterStep(kontext_, formatDatum(tag), feld, Operator, {"Kalender", feld});
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Eigenschaftsbereich::statusGewaehlt(int status, bool gesetzt)
 {
     kontext_.zustand().ChFilterStat[static_cast<std::size_t>(status)] = gesetzt;
     BuildStatusFilter(kontext_.filter, kontext_.tab);
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Eigenschaftsbereich::leere()
@@ -93,7 +93,7 @@ void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
 {
     leere();
     Recordset& tabelle = kontext_.tabelle().tabelle;
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Filterlisten werden gefüllt ...");
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Filterlisten werden gefüllt ...");
     if (!tabelle.ladeSpalten(spaltenDerListen(tabelle), std::ref(arbeit)))
         return;
     RowFilter filter;

@@ -19,7 +19,7 @@ bool ApplyPropertyFilter(Filterkontext& kontext)
         return false; // An empty filter changes no rows.
     return laufeOderWieVorher(kontext, [&] {
         std::vector<Kettenglied> kette;
-        if (!gesichert(kontext.ports.meldungen, "Erstellen Filterstring", "Fehler beim Erstellen Filterstring!",
+        if (!gesichert(kontext.ports().meldungen, "Erstellen Filterstring", "Fehler beim Erstellen Filterstring!",
                        [&] { kette = bildeKette(zustand, schrittfragment); }))
             return false;
         if (!kette.empty())

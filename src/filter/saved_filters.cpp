@@ -47,7 +47,7 @@ Recordset* findeListe(Filterkontext& kontext)
     Recordset& liste = kontext.session.GespeicherteFilter[static_cast<std::size_t>(kontext.tab)];
     if (liste.offen())
         return &liste;
-    kontext.ports.meldungen.warnung(TITEL, "Es konnte keine Tabelle zugeordnet werden!");
+    kontext.ports().meldungen.warnung(TITEL, "Es konnte keine Tabelle zugeordnet werden!");
     return nullptr;
 }
 
@@ -136,15 +136,15 @@ bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave)
 {
     const std::string grund = einwand(kontext.zustand(), TxtFilterSave);
     if (!grund.empty()) {
-        kontext.ports.meldungen.warnung(TITEL, grund);
+        kontext.ports().meldungen.warnung(TITEL, grund);
         return false;
     }
     Recordset* filter = findeListe(kontext);
     if (!filter)
         return false;
     if (findeZeile(*filter, TxtFilterSave)) {
-        kontext.ports.meldungen.warnung(TITEL,
-                                        fmt::format("Der Filtername '{}' ist bereits vorhanden!", TxtFilterSave));
+        kontext.ports().meldungen.warnung(TITEL,
+                                          fmt::format("Der Filtername '{}' ist bereits vorhanden!", TxtFilterSave));
         return false;
     }
     filter->AddNew();
@@ -167,7 +167,7 @@ void loescheFilter(Filterkontext& kontext, std::string_view CbFilterSave)
 std::optional<std::string> gewaehlterFilter(Filterkontext& kontext, std::string_view CbFilterSave)
 {
     if (CbFilterSave.empty()) {
-        kontext.ports.meldungen.warnung(TITEL, "Es ist kein Filterwert ausgewählt!");
+        kontext.ports().meldungen.warnung(TITEL, "Es ist kein Filterwert ausgewählt!");
         return std::nullopt;
     }
     return SavedFilterString(kontext.session, kontext.tab, CbFilterSave);

@@ -27,7 +27,7 @@ void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_vi
     const int nummer = zustand.FilterAnzahl;
     const bool frei = nummer < 5 || (nummer == 5 && kontext.bereich() == Filterbereich::Struktur) || nummer == 6;
     if (!frei) {
-        kontext.ports.meldungen.warnung("Anzahl Filter", "Alle Filter sind gefüllt!");
+        kontext.ports().meldungen.warnung("Anzahl Filter", "Alle Filter sind gefüllt!");
         zustand.FilterAnzahl = ALLE_GEFUELLT;
         return;
     }

@@ -106,13 +106,13 @@ void Strukturbereich::knotenGewaehlt(const Strukturpfad& pfad)
         return;
     }
     if (!std::equal(pfad.begin(), pfad.end() - 1, StrukturLetzterPfad_.begin(), StrukturLetzterPfad_.end())) {
-        kontext_.ports.meldungen.warnung("SE-Doku: Auswahl Pfad",
-                                         "Pfad wurde nicht eingehalten!\n\n"
-                                         "Gehen Sie über <Zurück> zum Anfang des Strukturbaumes.");
+        kontext_.ports().meldungen.warnung("SE-Doku: Auswahl Pfad",
+                                           "Pfad wurde nicht eingehalten!\n\n"
+                                           "Gehen Sie über <Zurück> zum Anfang des Strukturbaumes.");
         return;
     }
     const auto [titel, text] = fehlertexte(pfad.size());
-    const bool gelaufen = gesichert(kontext_.ports.meldungen, titel, text, [&] {
+    const bool gelaufen = kontext_.operations.perform(Part::FilterPage, titel, text, [&] {
         auto zweig = leseZweig(pfad);
         if (!zweig)
             return;
@@ -122,7 +122,7 @@ void Strukturbereich::knotenGewaehlt(const Strukturpfad& pfad)
     });
     if (gelaufen && StrukturLetzterPfad_ == pfad)
         fuelleHauptwerte();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Strukturbereich::materialGewaehlt(std::string_view wert)
@@ -149,14 +149,14 @@ void Strukturbereich::waehleImZweig(std::string_view Feldname, std::string_view 
     SperreBaum_ = false;
     StrukturBedingung_ = erweitert(StrukturBedingung_, Feldname, wert);
     fuelleHauptwerte();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void Strukturbereich::meldeGesperrt(std::string_view text)
 {
-    kontext_.ports.meldungen.warnung(GESPERRT, fmt::format("{}\n\nDie Auswahl ist wieder entsperrt, wenn\n"
-                                                           "alle Filterwerte zurückgesetzt werden.",
-                                                           text));
+    kontext_.ports().meldungen.warnung(GESPERRT, fmt::format("{}\n\nDie Auswahl ist wieder entsperrt, wenn\n"
+                                                             "alle Filterwerte zurückgesetzt werden.",
+                                                             text));
 }
 
 // --- the branch ---
@@ -167,7 +167,7 @@ std::optional<Strukturbereich::Zweig> Strukturbereich::leseZweig(const Strukturp
     std::vector<std::string> spalten{"Material", "Firma"};
     for (std::size_t ebene = 0; ebene < EBENEN.size(); ++ebene)
         spalten.push_back(merkmal(ebene));
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Strukturmerkmale werden gelesen ...");
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Strukturmerkmale werden gelesen ...");
     if (!tabelle().ladeSpalten(spalten, std::ref(arbeit)))
         return std::nullopt;
     const auto zeilen = tabelle().waehle(bedingungVon(pfad));
@@ -210,7 +210,7 @@ Strukturknoten* Strukturbereich::findeKnoten(const Strukturpfad& pfad)
 
 void Strukturbereich::BaumAufbauen()
 {
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Strukturmerkmale werden gelesen ...");
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Strukturmerkmale werden gelesen ...");
     if (!tabelle().ladeSpalte(merkmal(0), std::ref(arbeit)))
         return;
     const auto zeilen = tabelle().waehle("");
@@ -221,7 +221,7 @@ void Strukturbereich::BaumAufbauen()
 
 void Strukturbereich::FilterEigenMWMitFi(std::string_view bedingung)
 {
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Filterlisten werden gefüllt ...");
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Filterlisten werden gefüllt ...");
     const std::vector<std::string> spalten{"Material", "Firma"};
     if (!tabelle().ladeSpalten(spalten, std::ref(arbeit)))
         return;

@@ -66,7 +66,7 @@ void BenutzDefBereich::fuelleListen()
     zusatz_ = {};
     namen_ = alsListe(leseNamen(verbindung, tabelleVon(kontext_), kontext_.session.WhereStatus));
     const std::size_t zeilen = kontext_.tabelle().anzahl * ZEILEN_JE_DOKUMENT; // Opening it has a progress of its own.
-    LangeArbeit arbeit(kontext_.ports.fortschritt, "Listen werden gefüllt ...");
+    LangeArbeit arbeit(kontext_.ports().fortschritt, "Listen werden gefüllt ...");
     auto zusaetze = leseZusaetze(verbindung, tabelleVon(kontext_), zeilen, arbeit);
     std::ranges::transform(zusaetze, zusatz_.begin(), [](auto& werte) { return alsListe(std::move(werte)); });
 }
@@ -88,29 +88,29 @@ void BenutzDefBereich::fuelleWerte()
     werte_ = {};
     kennungen_.clear();
     if (name_.empty())
-        return kontext_.melde();
-    gesichert(kontext_.ports.meldungen, "SE-Filtern: Werte der Eigenschaft", "Fehler beim Füllen der Werteliste!", [&] {
-        Connection& verbindung = kontext_.session.Verbindung;
-        LangeArbeit arbeit(kontext_.ports.fortschritt, "Werte werden gelesen ...");
-        const std::vector<std::string> werte = leseWerte(verbindung, tabelleVon(kontext_), name_);
-        std::vector<std::string> gezeigte{std::string(JEDER_WERT)};
-        kennungen_ = gezeigte;
-        for (std::size_t i = 0; i < werte.size() && arbeit(i, werte.size()); ++i) {
-            const std::string gezeigt = gezeigterWert(werte[i]);
-            const std::string empfaenger = ChReceiver_ ? quelvarn::empfaenger(verbindung, werte[i]) : gezeigt;
-            if (empfaenger.empty())
-                continue;
-            gezeigte.push_back(empfaenger);
-            kennungen_.push_back(gezeigt);
-        }
-        werte_ = alsListe(std::move(gezeigte));
-    });
-    kontext_.melde();
+        return kontext_.operations.changed(Part::FilterPage);
+    kontext_.operations.perform(
+        Part::FilterPage, "SE-Filtern: Werte der Eigenschaft", "Fehler beim Füllen der Werteliste!", [&] {
+            Connection& verbindung = kontext_.session.Verbindung;
+            LangeArbeit arbeit(kontext_.ports().fortschritt, "Werte werden gelesen ...");
+            const std::vector<std::string> werte = leseWerte(verbindung, tabelleVon(kontext_), name_);
+            std::vector<std::string> gezeigte{std::string(JEDER_WERT)};
+            kennungen_ = gezeigte;
+            for (std::size_t i = 0; i < werte.size() && arbeit(i, werte.size()); ++i) {
+                const std::string gezeigt = gezeigterWert(werte[i]);
+                const std::string empfaenger = ChReceiver_ ? quelvarn::empfaenger(verbindung, werte[i]) : gezeigt;
+                if (empfaenger.empty())
+                    continue;
+                gezeigte.push_back(empfaenger);
+                kennungen_.push_back(gezeigt);
+            }
+            werte_ = alsListe(std::move(gezeigte));
+        });
 }
 
 void BenutzDefBereich::wertGewaehlt(std::string_view wert)
 {
-    Meldungen& meldungen = kontext_.ports.meldungen;
+    Meldungen& meldungen = kontext_.ports().meldungen;
     if (!SperreBenutzDef_)
         meldungen.warnung(
             "SE-Filter: Strukturmerkmale",
@@ -141,7 +141,7 @@ void BenutzDefBereich::nimmSchritt(std::string_view wert)
     Filterzustand& zustand = kontext_.zustand();
     zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {"", name_, CodeText, kennung};
     name_.clear();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 void BenutzDefBereich::zusatzGewaehlt(int index, std::string_view wert)
@@ -152,7 +152,7 @@ void BenutzDefBereich::zusatzGewaehlt(int index, std::string_view wert)
     const auto column = static_cast<std::size_t>(index);
     const bool again = std::ranges::find(values, column, &AdditionalValue::column) != values.end();
     if (!again && kontext_.zustand().BenutzDefAnzahl() >= HOECHSTENS_ZUSAETZE)
-        return kontext_.ports.meldungen.warnung(
+        return kontext_.ports().meldungen.warnung(
             "SE-Filtern: Anzahl Filterwerte",
             zeilen({"Von den Eigenschaften",
                     fmt::format("{} / {} / {} / {}", bezeichnung(PROJEKT), bezeichnung(AUTOR), bezeichnung(BEARBEITER),
@@ -160,7 +160,7 @@ void BenutzDefBereich::zusatzGewaehlt(int index, std::string_view wert)
                     "können maximal 2 Filterwerte ausgewählt werden."}));
     setAdditionalValue(values, {column, std::string(wert), bezeichnung(index)});
     sperre();
-    kontext_.melde();
+    kontext_.operations.changed(Part::FilterPage);
 }
 
 } // namespace quelvarn

@@ -141,7 +141,7 @@ private:
 
     bool gesichertKopiert(const std::function<void()>& tat)
     {
-        return gesichert(kontext_.ports.meldungen, "SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
+        return gesichert(kontext_.ports().meldungen, "SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
                          "Fehler beim Erstellen der Filtertabelle BenutzDef", tat);
     }
 
@@ -265,7 +265,7 @@ private:
 bool ApplyBenutzDefFilter(Filterkontext& kontext)
 {
     GefilterteTabelle& tabelle = kontext.tabelle(); // Opening it may take long as well.
-    LangeArbeit arbeit(kontext.ports.fortschritt, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
+    LangeArbeit arbeit(kontext.ports().fortschritt, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
     auto ergebnis = BenutzDefLauf(kontext, arbeit).fuehreAus();
     if (!ergebnis)
         return false;

@@ -41,7 +41,7 @@ std::filesystem::path Detailseiten::systempfad(std::string_view pfad) const
 
 void Detailseiten::oeffneAuftrag()
 {
-    bediene("Versendet an", "Fehler beim Öffnen der Datei!", [&] {
+    operations_.perform(Part::Document, "Versendet an", "Fehler beim Öffnen der Datei!", [&] {
         const std::string pfad = feldDerZeile(InfoSeite::SendTo, "Orderfilename");
         if (pfad.empty())
             return;
@@ -64,7 +64,7 @@ void Detailseiten::oeffneAuftrag()
 
 void Detailseiten::oeffneZusDoku()
 {
-    bediene("Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
+    operations_.perform(Part::Document, "Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
         const std::string pfad = feldDerZeile(InfoSeite::ZusDoku, "ZusDokufilename");
         if (!pfad.empty() && vorhandenOderBox(pfad))
             oeffne("Zusätzl. Dokumente", pfad);
@@ -100,8 +100,7 @@ void Detailseiten::bildNichtGeladen(InfoSeite seite)
                                                 "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
                                                 "Kontrollkästchen 'Graphik anzeigen'.",
                                             }));
-    if (geaendert)
-        geaendert();
+    operations_.changed(Part::Document);
 }
 
 } // namespace quelvarn

@@ -89,7 +89,7 @@ void Detailseiten::fuelleHauptmerkmale()
 
 void Detailseiten::setzeRevErstBearb(RevErstBearb ansicht)
 {
-    bediene("Revision", "Fehler beim Lesen der Revisionen!", [&] {
+    operations_.perform(Part::Document, "Revision", "Fehler beim Lesen der Revisionen!", [&] {
         if (typ_ == nullptr)
             return;
         revErstBearb_ = ansicht;
@@ -101,7 +101,7 @@ void Detailseiten::setzeRevErstBearb(RevErstBearb ansicht)
 
 void Detailseiten::zeileGewaehlt(InfoSeite seite, std::size_t position)
 {
-    bediene("Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
+    operations_.perform(Part::Document, "Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
         const auto liste = listen_.find(seite);
         if (liste == listen_.end() || position >= liste->second.RecordCount())
             return;
@@ -113,7 +113,7 @@ void Detailseiten::zeileGewaehlt(InfoSeite seite, std::size_t position)
 
 void Detailseiten::setzeViewGrafikZusDoku(bool an)
 {
-    bediene("Graphik anzeigen", "Fehler beim Anzeigen der Datei!", [&] {
+    operations_.perform(Part::Document, "Graphik anzeigen", "Fehler beim Anzeigen der Datei!", [&] {
         viewGrafik_ = an;
         zeigeZusDoku();
     });
@@ -146,13 +146,6 @@ void Detailseiten::zeigeTiff()
         pfad = mitEndung(record_.filename, "tif"); // It was there when the tree was built.
     if (vorhandenOderBox(pfad))
         tiff_ = pfad;
-}
-
-void Detailseiten::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
-{
-    gesichert(ports_.meldungen, titel, text, operation);
-    if (geaendert)
-        geaendert();
 }
 
 const Recordset* Detailseiten::liste(InfoSeite seite) const

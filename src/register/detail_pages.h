@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/ports.h"
 #include "register/detail_lists.h"
 #include "register/document_record.h"
 #include "register/info_pages.h"
+#include "session/operations.h"
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -31,7 +30,9 @@ struct Dateibild
 class Detailseiten
 {
 public:
-    Detailseiten(SessionState& session, Ports& ports) : session_(session), ports_(ports) {}
+    Detailseiten(SessionState& session, Operations& operations)
+        : session_(session), operations_(operations), ports_(operations.ports())
+    {}
 
     // For a document of this type; does nothing for a page of another kind. Faults pass through.
     void fuelle(InfoSeite seite, const DokuTyp& typ, const DokuRecord& record);
@@ -57,10 +58,7 @@ public:
     const std::string& tiff() const { return tiff_; } // "" when none is shown
     std::filesystem::path systempfad(std::string_view pfad) const;
 
-    std::function<void()> geaendert;
-
 private:
-    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
     void fuelleHauptmerkmale();
     void zeigeTiff();
     void zeigeZusDoku();
@@ -70,6 +68,7 @@ private:
     std::string feldDerZeile(InfoSeite seite, std::string_view feld) const;
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     const DokuTyp* typ_ = nullptr;
     DokuRecord record_;

@@ -1,54 +1,17 @@
 #include "register/document_page.h"
 
-#include "session/error_report.h"
-
 namespace quelvarn {
 
-DocumentPage::DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt)
-    : session_(session), ports_(ports), gezeigt_(gezeigt), details_(session, ports),
-      verwendung_(session, ports, gezeigt, *this)
-{
-    details_.geaendert = [this] { melde(); };
-}
-
-void DocumentPage::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation)
-{
-    gesichert(ports_.meldungen, titel, text, [&] {
-        try {
-            operation();
-        } catch (...) {
-            melde(); // The box lets the window repaint: it must not show rows that are gone by now.
-            throw;
-        }
-    });
-    melde();
-}
-
-void DocumentPage::bedieneZeile(const std::function<void()>& operation)
-{
-    berichte(operation);
-    melde();
-}
-
-void DocumentPage::berichte(const std::function<void()>& operation)
-{
-    try {
-        operation();
-    } catch (const Laufzeitfehler& fehler) {
-        Fehlermeldung(ports_.meldungen, fehler);
-    }
-}
-
-void DocumentPage::melde()
-{
-    if (geaendert)
-        geaendert();
-}
+DocumentPage::DocumentPage(SessionState& session, Operations& operations, GezeigteDateien& gezeigt)
+    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt),
+      details_(session, operations), verwendung_(session, operations, gezeigt, *this)
+{}
 
 void DocumentPage::zeilenGeaendert(int tab)
 {
     ++seiten_[tab].fassung;
-    melde();
+    operations_.changed(Part::Rows);
+    operations_.changed(Part::Document);
 }
 
 std::string DocumentPage::anzahlText() const

@@ -7,6 +7,7 @@
 #include "register/table_page.h"
 #include "register/usage_page.h"
 #include "session/main_window.h"
+#include "session/operations.h"
 #include "session/session_state.h"
 
 #include <array>
@@ -25,9 +26,9 @@ struct Merkzeile;
 class DocumentPage : public Rahmenteilnehmer, public Tabellenherr
 {
 public:
-    DocumentPage(SessionState& session, Ports& ports, GezeigteDateien& gezeigt);
+    DocumentPage(SessionState& session, Operations& operations, GezeigteDateien& gezeigt);
 
-    // --- operations, one for each thing a person can do; each calls `geaendert` at its end ---
+    // --- operations, one for each thing a person can do ---
     // Runs when the page is shown; does its work once per database.
     void StartTabelleZeigen();
     void tabGewaehlt(int tab);
@@ -111,7 +112,6 @@ public:
     std::string& aenderungspanel(int tab);
     const std::array<std::string, 5>& aenderungspanele() const { return aenderungspanele_; }
 
-    std::function<void()> geaendert;
     // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status condition)
     // stays on the table.
     std::function<Statusbedingung(int tab)> filterVergessen;
@@ -123,12 +123,6 @@ public:
     std::function<void()> bearbeiten;
 
 private:
-    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation);
-    // Row changes have no box of their own: faults go to the common report.
-    void bedieneZeile(const std::function<void()>& operation);
-    void berichte(const std::function<void()>& operation);
-    void melde();
-    // At once, since a later step may show a box and the window repaints behind it.
     void zeilenGeaendert(int tab);
     void zeigeTab(int tab);
     void wechsle(const Merkzeile* rueckkehr);
@@ -151,6 +145,7 @@ private:
     void setzeAttribut(bool gesetzt, void (Dateien::*setzer)(std::string_view, bool), bool Dateiattribute::*merkmal);
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     GezeigteDateien& gezeigt_;
     std::array<Tabellenseite, ANZAHL_DOKUTYPEN> seiten_;

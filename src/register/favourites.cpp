@@ -52,8 +52,8 @@ std::vector<Favorit> alle(const Recordset& zeilen)
 
 } // namespace
 
-Favoriten::Favoriten(SessionState& session, Ports& ports, DocumentPage& seite)
-    : session_(session), ports_(ports), seite_(seite)
+Favoriten::Favoriten(SessionState& session, Operations& operations, DocumentPage& seite)
+    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite)
 {}
 
 Favoriten::Liste& Favoriten::geladen(const DokuTyp& typ)
@@ -103,12 +103,12 @@ void Favoriten::FavoritHinzufuegen(const std::string& DokuBez, const std::string
     schreibeFavorit(session_, *dokuTyp, favorit);
     fuegeAn(liste.zeilen, favorit, filename);
     ++fassung_;
-    melde();
+    operations_.changed(Part::TopBar);
 }
 
 void Favoriten::zuFavoriten()
 {
-    bediene("Fehler beim Hinzufügen zu den Favoriten!", [&] {
+    perform("Fehler beim Hinzufügen zu den Favoriten!", [&] {
         const Tabellenseite& seite = seite_.aktuelleSeite();
         if (seite.hatZeilen())
             FavoritHinzufuegen(seite.record.DokuBez, seite.record.RevBez, typ().schluessel, seite.record.filename);
@@ -119,7 +119,7 @@ void Favoriten::FavoritenZeigen(bool an)
 {
     zeigtFavoriten_ = false;
     verwaltung_ = false;
-    bediene("Fehler beim Anzeigen der Favoriten!", [&] {
+    perform("Fehler beim Anzeigen der Favoriten!", [&] {
         if (!an)
             return;
         geladen(typ());
@@ -129,7 +129,7 @@ void Favoriten::FavoritenZeigen(bool an)
 
 void Favoriten::FavoritAuswaehlen(std::size_t position)
 {
-    bediene("Fehler beim Suchen des Favoriten!", [&] {
+    perform("Fehler beim Suchen des Favoriten!", [&] {
         if (stelleAuf(position))
             wechsleZuFavorit();
     });
@@ -140,7 +140,7 @@ void Favoriten::zeileGewechselt(std::size_t position)
     if (!verwaltung_)
         return FavoritAuswaehlen(position);
     stelleAuf(position);
-    melde();
+    operations_.changed(Part::TopBar);
 }
 
 bool Favoriten::stelleAuf(std::size_t position)
@@ -174,18 +174,18 @@ void Favoriten::wechsleZuFavorit()
 void Favoriten::oeffneVerwaltung()
 {
     verwaltung_ = zeigtFavoriten_;
-    melde();
+    operations_.changed(Part::TopBar);
 }
 
 void Favoriten::verlasseVerwaltung()
 {
     verwaltung_ = false;
-    melde();
+    operations_.changed(Part::TopBar);
 }
 
 void Favoriten::FavoritLoeschen()
 {
-    bediene("Fehler beim Löschen des Favoriten!", [&] {
+    perform("Fehler beim Löschen des Favoriten!", [&] {
         Recordset& zeilen = aktuelle().zeilen;
         if (!zeilen.offen() || zeilen.Eof() || zeilen.Bof())
             return;
@@ -200,7 +200,7 @@ void Favoriten::FavoritLoeschen()
 
 void Favoriten::AlleFavoritenLoeschen()
 {
-    bediene("Fehler beim Löschen der Favoriten!", [&] {
+    perform("Fehler beim Löschen der Favoriten!", [&] {
         Recordset& zeilen = aktuelle().zeilen;
         if (!zeilen.offen())
             return;
@@ -221,7 +221,7 @@ void Favoriten::datenbankWechselt()
     listen_ = {};
     ++fassung_;
     tabelleGewechselt();
-    melde();
+    operations_.changed(Part::TopBar);
 }
 
 const Recordset* Favoriten::liste() const
@@ -230,16 +230,9 @@ const Recordset* Favoriten::liste() const
     return zeilen.offen() ? &zeilen : nullptr;
 }
 
-void Favoriten::bediene(std::string_view text, const std::function<void()>& operation)
+void Favoriten::perform(std::string_view text, const std::function<void()>& operation)
 {
-    gesichert(ports_.meldungen, TITEL, text, operation);
-    melde();
-}
-
-void Favoriten::melde() const
-{
-    if (geaendert)
-        geaendert();
+    operations_.perform(Part::TopBar, TITEL, text, operation);
 }
 
 } // namespace quelvarn

@@ -2,8 +2,8 @@
 
 #include "database/document_types.h"
 #include "database/recordset.h"
-#include "platform/ports.h"
 #include "session/main_window.h"
+#include "session/operations.h"
 
 #include <array>
 #include <cstddef>
@@ -21,7 +21,7 @@ struct SessionState;
 class Favoriten : public Rahmenteilnehmer
 {
 public:
-    Favoriten(SessionState& session, Ports& ports, DocumentPage& seite);
+    Favoriten(SessionState& session, Operations& operations, DocumentPage& seite);
 
     // --- operations, one for each thing a person can do ---
     void FavoritenZeigen(bool an);
@@ -53,8 +53,6 @@ public:
     bool hatZeilen() const { return liste() && liste()->RecordCount() > 0; }
     unsigned fassung() const { return fassung_; } // Rises with every change of the rows.
 
-    std::function<void()> geaendert;
-
 private:
     struct Liste
     {
@@ -68,10 +66,10 @@ private:
     const DokuTyp& typ() const;
     bool stelleAuf(std::size_t position);
     void wechsleZuFavorit();
-    void bediene(std::string_view text, const std::function<void()>& operation);
-    void melde() const;
+    void perform(std::string_view text, const std::function<void()>& operation);
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     DocumentPage& seite_;
     std::array<Liste, ANZAHL_DOKUTYPEN> listen_;

@@ -54,7 +54,7 @@ void DocumentPage::setzeAttribut(bool gesetzt, void (Dateien::*setzer)(std::stri
             (ports_.dateien.*setzer)(pfad, gesetzt);
     });
     leseDatei();
-    melde();
+    operations_.changed(Part::Document);
 }
 
 void DocumentPage::setzeSchreibschutz(bool gesetzt)

@@ -6,44 +6,40 @@
 
 namespace quelvarn {
 
-LinkeLeiste::LinkeLeiste(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite)
-    : session_(session), ports_(ports), seite_(seite), suche_(session, ports, seite),
-      filter_(session, ports, filter, seite, suche_)
-{
-    suche_.geaendert = [this] { melde(); };
-    filter_.geaendert = [this] { melde(); };
-}
+LinkeLeiste::LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite)
+    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite),
+      suche_(session, operations, seite), filter_(session, operations, filter, seite, suche_)
+{}
 
 void LinkeLeiste::zeigeSuchen(bool FrmSuchenFiltern)
 {
     zeigtSuchen_ = FrmSuchenFiltern;
     zeigtWerte_ = zeigtWerte_ && !FrmSuchenFiltern;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void LinkeLeiste::zeigeDatum(bool FrmFilternDatum)
 {
     zeigtDatum_ = FrmFilternDatum;
     zeigtWerte_ = zeigtWerte_ && !FrmFilternDatum;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void LinkeLeiste::zeigeWerte(bool FrmInfoFilter)
 {
     zeigtWerte_ = FrmInfoFilter;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 bool LinkeLeiste::zeigeFavoriten()
 {
-    Filterfavoriten liste;
-    gesichert(ports_.meldungen, TITEL_FILTERFAVORITEN, FEHLER_FILTERFAVORITEN, [&] {
-        liste = favoritenliste(session_, seite_.tab());
+    zeigtFavorit_ = false;
+    operations_.perform(Part::LeftBar, TITEL_FILTERFAVORITEN, FEHLER_FILTERFAVORITEN, [&] {
+        const Filterfavoriten liste = favoritenliste(session_, seite_.tab());
         if (liste.meldung)
             ports_.meldungen.zeige(*liste.meldung);
+        zeigtFavorit_ = !liste.namen.empty();
     });
-    zeigtFavorit_ = !liste.namen.empty();
-    melde();
     return zeigtFavorit_;
 }
 
@@ -59,13 +55,13 @@ void LinkeLeiste::waehleFavorit(std::string_view name)
 {
     LblFilter_ = name;
     zeigtFavorit_ = true;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void LinkeLeiste::schliesseFavoriten()
 {
     zeigtFavorit_ = false;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void LinkeLeiste::nutzeFavorit()
@@ -73,7 +69,7 @@ void LinkeLeiste::nutzeFavorit()
     const std::string name = LblFilter_; // The run may show another tab.
     if (gewaehlterFavorit(session_, ports_.meldungen, seite_.tab(), name) && nutzeGespeicherten)
         nutzeGespeicherten(name);
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void LinkeLeiste::tabelleGewechselt()
@@ -94,12 +90,6 @@ std::vector<Filterwert> LinkeLeiste::gezeigteWerte() const
     if (const std::vector<Filterwert>* gesucht = suche_.gesuchteWerte())
         return *gesucht;
     return seite_.gezeigteWerte();
-}
-
-void LinkeLeiste::melde() const
-{
-    if (geaendert)
-        geaendert();
 }
 
 } // namespace quelvarn

@@ -15,7 +15,7 @@ namespace quelvarn {
 class LinkeLeiste
 {
 public:
-    LinkeLeiste(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite);
+    LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite);
 
     // --- operations ---
     void zeigeSuchen(bool FrmSuchenFiltern);
@@ -43,14 +43,12 @@ public:
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
     std::vector<Filterwert> gezeigteWerte() const;
 
-    std::function<void()> geaendert;
     // Restores and runs a saved filter of the table shown.
     std::function<void(std::string_view Filtername)> nutzeGespeicherten;
 
 private:
-    void melde() const;
-
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     DocumentPage& seite_;
     Schnellsuche suche_;

@@ -13,13 +13,13 @@ void DocumentPage::schliessen()
     });
     session_.FormSEDokuGeladen = false;
     vergissDatenbank();
-    melde();
+    operations_.changed(Part::Document);
 }
 
 void DocumentPage::datenbankWechselt()
 {
     vergissDatenbank();
-    melde();
+    operations_.changed(Part::Document);
 }
 
 void DocumentPage::vergissDatenbank()
@@ -46,7 +46,7 @@ void DocumentPage::seiteGezeigt(Seite seite)
 void DocumentPage::baumschalterGeaendert()
 {
     if (aktuelleSeite().hatZeilen())
-        bedieneZeile([&] { ZeileAktualisieren(tab_); });
+        operations_.report(Part::Document, [&] { ZeileAktualisieren(tab_); });
 }
 
 } // namespace quelvarn

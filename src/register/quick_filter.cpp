@@ -47,9 +47,10 @@ std::string beschreibung(const std::vector<Filterwert>& werte)
 
 } // namespace
 
-Schnellfilter::Schnellfilter(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite,
+Schnellfilter::Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite,
                              const Schnellsuche& suche)
-    : session_(session), ports_(ports), filter_(filter), seite_(seite), suche_(suche)
+    : session_(session), operations_(operations), ports_(operations.ports()), filter_(filter), seite_(seite),
+      suche_(suche)
 {}
 
 void Schnellfilter::textFiltern()
@@ -57,7 +58,8 @@ void Schnellfilter::textFiltern()
     if (suche_.CombSuchStr().empty())
         return;
     SuchTextMerken(session_.Suchtexte, suche_.CombSuchStr());
-    bediene("Filterung Text", "Fehler bei der Filterung nach Text!", [this] { filtereText(); });
+    operations_.perform(Part::LeftBar, "Filterung Text", "Fehler bei der Filterung nach Text!",
+                        [this] { filtereText(); });
 }
 
 void Schnellfilter::filtereText()
@@ -112,7 +114,7 @@ void Schnellfilter::letzteTage()
 
 void Schnellfilter::zeigeAb(const Zeitpunkt& tag, std::string_view seit)
 {
-    bediene("Filterung Datum", "Fehler bei der Filterung nach Datum!", [&] {
+    operations_.perform(Part::LeftBar, "Filterung Datum", "Fehler bei der Filterung nach Datum!", [&] {
         if (DatumFiltern(tag))
             zeitraum_ = fmt::format("{} {}", seit, formatDatum(tag));
     });
@@ -133,24 +135,24 @@ bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
 void Schnellfilter::setzeDatumsfeld(int OpErstAend)
 {
     OpErstAend_ = OpErstAend;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void Schnellfilter::setzeNurEigene(bool ChAnwender)
 {
     ChAnwender_ = ChAnwender;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void Schnellfilter::setzeTage(int SliderTage)
 {
     SliderTage_ = std::clamp(SliderTage, 1, MAX_TAGE);
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run)
 {
-    Filterkontext kontext{session_, ports_, filter_, seite_, seite_.tab()};
+    Filterkontext kontext{session_, operations_, filter_, seite_, seite_.tab()};
     GefilterteTabelle& tabelle = kontext.tabelle();
     if (tabelle.anzahl == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
         return false;
@@ -185,18 +187,6 @@ bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchrit
     }
     zustand.Schnellfilter = kette.back().sqlform;
     return setzeFilter(kontext, kette.back().behind(filter_.status));
-}
-
-void Schnellfilter::bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const
-{
-    gesichert(ports_.meldungen, titel, text, operation);
-    melde();
-}
-
-void Schnellfilter::melde() const
-{
-    if (geaendert)
-        geaendert();
 }
 
 } // namespace quelvarn

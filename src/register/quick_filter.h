@@ -2,7 +2,7 @@
 
 #include "base/date_time.h"
 #include "filter/filter_state.h"
-#include "platform/ports.h"
+#include "session/operations.h"
 
 #include <functional>
 #include <string>
@@ -21,7 +21,7 @@ struct SessionState;
 class Schnellfilter
 {
 public:
-    Schnellfilter(SessionState& session, Ports& ports, FilterState& filter, DocumentPage& seite,
+    Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite,
                   const Schnellsuche& suche);
 
     // --- operations ---
@@ -48,8 +48,6 @@ public:
     int SliderTage() const { return SliderTage_; }
     std::string_view LblZeitRaum() const; // "" when no filter by date runs.
 
-    std::function<void()> geaendert;
-
 private:
     // One by one: a step that leaves nothing is told and left out. Together: they are one condition.
     enum class Run { OneByOne, Together };
@@ -57,12 +55,11 @@ private:
     bool wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run);
     bool laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte, Run run);
     void filtereText();
-    void bediene(std::string_view titel, std::string_view text, const std::function<void()>& operation) const;
     void zeigeAb(const Zeitpunkt& tag, std::string_view seit);
     bool laeuft() const;
-    void melde() const;
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     FilterState& filter_;
     DocumentPage& seite_;

@@ -37,8 +37,8 @@ void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text)
     suchtexte.emplace_back(text);
 }
 
-Schnellsuche::Schnellsuche(SessionState& session, Ports& ports, DocumentPage& seite)
-    : session_(session), ports_(ports), seite_(seite)
+Schnellsuche::Schnellsuche(SessionState& session, Operations& operations, DocumentPage& seite)
+    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite)
 {}
 
 void Schnellsuche::sucheText(std::string_view CombSuchStr)
@@ -75,12 +75,12 @@ void Schnellsuche::setzeBeimTippen(bool ChDynSuchen)
     ChDynSuchen_ = ChDynSuchen;
     if (!ChDynSuchen) {
         CombSuchStr_ = TextDocuBez_;
-        return melde();
+        return operations_.changed(Part::LeftBar);
     }
     TextDocuBez_ = CombSuchStr_;
     if (sucheImBlatt() == Ausgang::Aufgegeben) // Without its column in memory each key would wait again.
         ChDynSuchen_ = false;
-    melde();
+    operations_.changed(Part::LeftBar);
 }
 
 void Schnellsuche::setzeFeld(std::size_t suchfeld)
@@ -88,8 +88,8 @@ void Schnellsuche::setzeFeld(std::size_t suchfeld)
     assert(suchfeld < SUCHFELDER.size());
     suchfeld_ = suchfeld;
     if (ChDynSuchen_)
-        berichte([this] { spalteBereit(); });
-    melde();
+        operations_.report([this] { spalteBereit(); });
+    operations_.changed(Part::LeftBar);
 }
 
 const std::vector<std::string>& Schnellsuche::suchtexte() const
@@ -116,7 +116,7 @@ Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
     tabDerWerte_ = seite_.tab();
     fassungDerWerte_ = seite_.aktuelleSeite().fassung;
     Ausgang ausgang = Ausgang::NichtGesucht;
-    berichte([&] {
+    operations_.report([&] {
         if (!seite_.aktuelleSeite().hatZeilen())
             return;
         if (!spalteBereit()) {
@@ -129,7 +129,7 @@ Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
     });
     if (ausgang == Ausgang::Gesucht)
         seite_.zeileGewechselt();
-    melde();
+    operations_.changed(Part::LeftBar);
     return ausgang;
 }
 
@@ -149,19 +149,4 @@ bool Schnellsuche::spalteBereit()
 }
 
 // A pattern that cannot be read, or a fault of the connection: the common report alone.
-void Schnellsuche::berichte(const std::function<void()>& operation) const
-{
-    try {
-        operation();
-    } catch (const Laufzeitfehler& fehler) {
-        Fehlermeldung(ports_.meldungen, fehler);
-    }
-}
-
-void Schnellsuche::melde() const
-{
-    if (geaendert)
-        geaendert();
-}
-
 } // namespace quelvarn

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/filter_state.h"
-#include "platform/ports.h"
+#include "session/operations.h"
 
 #include <array>
 #include <functional>
@@ -43,7 +43,7 @@ void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text);
 class Schnellsuche
 {
 public:
-    Schnellsuche(SessionState& session, Ports& ports, DocumentPage& seite);
+    Schnellsuche(SessionState& session, Operations& operations, DocumentPage& seite);
 
     // --- operations ---
     void setzeSuchtext(std::string_view CombSuchStr) { CombSuchStr_ = CombSuchStr; } // Typed; searches nothing.
@@ -66,8 +66,6 @@ public:
     // What the last search looked for, while the same rows are shown; else nullptr.
     const std::vector<Filterwert>* gesuchteWerte() const;
 
-    std::function<void()> geaendert;
-
 private:
     enum class Ausgang { Gesucht, NichtGesucht, Aufgegeben };
 
@@ -75,10 +73,9 @@ private:
     Ausgang sucheImBlatt();
     Recordset& zeilen();
     bool spalteBereit();
-    void berichte(const std::function<void()>& operation) const;
-    void melde() const;
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     DocumentPage& seite_;
     std::string CombSuchStr_;

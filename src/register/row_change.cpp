@@ -7,7 +7,7 @@ namespace quelvarn {
 
 void DocumentPage::zeileGewaehlt(std::size_t position)
 {
-    bedieneZeile([&] {
+    operations_.report(Part::Document, [&] {
         Recordset& zeilen = seiten_[tab_].sichtbar();
         if (!zeilen.offen() || position >= zeilen.RecordCount())
             return;
@@ -18,7 +18,7 @@ void DocumentPage::zeileGewaehlt(std::size_t position)
 
 void DocumentPage::zeileVor()
 {
-    bedieneZeile([&] {
+    operations_.report(Part::Document, [&] {
         Recordset& zeilen = seiten_[tab_].sichtbar();
         if (zeilen.offen() && !zeilen.Eof())
             zeilen.MoveNext();
@@ -28,7 +28,7 @@ void DocumentPage::zeileVor()
 
 void DocumentPage::zeileGewechselt()
 {
-    bedieneZeile([&] { ZeileAktualisieren(tab_); });
+    operations_.report(Part::Document, [&] { ZeileAktualisieren(tab_); });
 }
 
 void DocumentPage::ZeileAktualisieren(int tab)
@@ -52,7 +52,7 @@ void DocumentPage::baumAufbauen(int tab)
 
     seite.record = leseDokuRecord(seite.sichtbar(), typ);
     session_.AktDoku = seite.record.alsAktDoku(typ.typNachZeile);
-    berichte([&] { // A fault leaves the tree as far as it was built; the document shows all the same.
+    operations_.report([&] { // A fault leaves the tree as far as it was built; the document shows all the same.
         BaumBauer bauer(seite, typ, session_, ports_);
         bauer.eigenschaften();
         if (session_.Tree.Knoten) {

@@ -76,7 +76,7 @@ void DocumentPage::filterGewechselt(int tab)
     zeilenGeaendert(tab);
     if (tab == tab_)
         zeigeZeilen();
-    melde();
+    operations_.changed(Part::Document);
 }
 
 void DocumentPage::filterAufheben(int tab)
@@ -88,7 +88,7 @@ void DocumentPage::filterAufheben(int tab)
     bindeOhneFilter(tab);
     if (tab == tab_)
         zeigeZeilen();
-    melde();
+    operations_.changed(Part::Document);
 }
 
 // Once per database: lazily opened tables of another one must not be left over.
@@ -96,7 +96,7 @@ void DocumentPage::StartTabelleZeigen()
 {
     if (session_.DatenbankPfad == gemerkterPfad_)
         return;
-    bediene("Starttabelle", "Fehler beim Anzeigen der Starttabelle!", [&] {
+    operations_.perform(Part::Document, "Starttabelle", "Fehler beim Anzeigen der Starttabelle!", [&] {
         vergissDatenbank();
         gemerkterPfad_ = session_.DatenbankPfad;
         session_.FormSEDokuGeladen = true;

@@ -9,7 +9,8 @@ void DocumentPage::tabGewaehlt(int tab)
 {
     if (tab < 0 || tab >= ANZAHL_DOKUTYPEN)
         return;
-    bediene("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!", [&] { waehleTab(tab); });
+    operations_.perform(Part::Document, "Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!",
+                        [&] { waehleTab(tab); });
 }
 
 void DocumentPage::waehleTab(int tab)
@@ -76,7 +77,7 @@ void DocumentPage::zeigeZeilen()
 
 void DocumentPage::neuaufbauen()
 {
-    bediene("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
+    operations_.perform(Part::Document, "Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
         if (!databaseStillOpen || databaseStillOpen())
             baueNeuAuf(tab_);
     });
@@ -109,7 +110,7 @@ void DocumentPage::baueNeuAuf(int tab)
 
 void DocumentPage::zurueck()
 {
-    bediene("Filterung aufheben", "Fehler beim Aufheben der Filterung!", [&] {
+    operations_.perform(Part::Document, "Filterung aufheben", "Fehler beim Aufheben der Filterung!", [&] {
         Tabellenseite& seite = seiten_[tab_];
         if (seite.gefiltert() || seite.zustand == NeuereDaten)
             return filterAufheben(tab_);

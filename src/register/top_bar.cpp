@@ -104,7 +104,7 @@ void ObereLeiste::pfadAusZwSp(bool /*an*/)
     std::string pfad = ports_.zwischenablage.text();
     if (pfad.empty())
         return ports_.meldungen.information("SE-Doku: Zwischenspeicher", "Der Zwischenspeicher ist leer!");
-    gesichert(ports_.meldungen, "SE-Doku: Zwischenspeicher", "Fehler beim Suchen des Dokuments!", [&] {
+    operations_.perform(Part::TopBar, "SE-Doku: Zwischenspeicher", "Fehler beim Suchen des Dokuments!", [&] {
         pfad = ohneZeilenende(std::move(pfad));
         UniversalNachLaufwerk(pfad, ports_);
         if (!ports_.dateien.dateiVorhanden(pfad))

@@ -16,8 +16,9 @@ struct SessionState;
 class ObereLeiste
 {
 public:
-    ObereLeiste(SessionState& session, Ports& ports, DocumentPage& seite)
-        : session_(session), ports_(ports), seite_(seite), favoriten_(session, ports, seite)
+    ObereLeiste(SessionState& session, Operations& operations, DocumentPage& seite)
+        : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite),
+          favoriten_(session, operations, seite)
     {}
 
     // A button was clicked, told apart by its key; a key without work does nothing. `an` counts for toggles.
@@ -46,6 +47,7 @@ private:
     void wechsleZu(const std::string& pfad);
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     DocumentPage& seite_;
     Favoriten favoriten_;

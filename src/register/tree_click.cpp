@@ -57,7 +57,7 @@ void DocumentPage::knotenGewaehlt(std::string_view text)
 {
     if (!aktuelleSeite().baum.finde(text))
         return;
-    bediene("Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
+    operations_.perform(Part::Document, "Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
         seiten_[tab_].baum.gewaehlt = text;
         if (text == knoten::EIGENSCHAFTEN)
             return zeigeEigenschaften();
@@ -80,7 +80,7 @@ void DocumentPage::knotenGewaehlt(std::string_view text)
 
 void DocumentPage::knotenAufgeklappt()
 {
-    bedieneZeile([&] {
+    operations_.report(Part::Document, [&] {
         Tabellenseite& seite = seiten_[tab_];
         if (seite.baum.wurzeln.empty())
             return;
@@ -94,7 +94,7 @@ void DocumentPage::knotenZugeklappt()
     Tabellenseite& seite = seiten_[tab_];
     if (!seite.baum.wurzeln.empty())
         seite.baum.wurzeln.front().offen = false;
-    melde();
+    operations_.changed(Part::Document);
 }
 
 void DocumentPage::merkeSeite(InfoSeite seite)

@@ -70,17 +70,16 @@ void meldeSondertabelle(Meldungen& meldungen)
 
 } // namespace
 
-Verwendungsseite::Verwendungsseite(SessionState& session, Ports& ports, GezeigteDateien& gezeigt, DocumentPage& seite)
-    : session_(session), ports_(ports), gezeigt_(gezeigt), seite_(seite)
+Verwendungsseite::Verwendungsseite(SessionState& session, Operations& operations, GezeigteDateien& gezeigt,
+                                   DocumentPage& seite)
+    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), seite_(seite)
 {}
 
 void Verwendungsseite::bediene(const std::function<void()>& operation)
 {
     if (!hatZeilen())
         return;
-    gesichert(ports_.meldungen, art_->knoten, "Fehler beim Anzeigen der Verwendung!", operation);
-    if (seite_.geaendert)
-        seite_.geaendert();
+    operations_.perform(Part::Document, art_->knoten, "Fehler beim Anzeigen der Verwendung!", operation);
 }
 
 // --- filling ---------------------------------------------------------------------------------------------------

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "database/recordset.h"
-#include "platform/ports.h"
 #include "register/usage_rows.h"
+#include "session/operations.h"
 
 #include <functional>
 #include <string>
@@ -20,9 +20,9 @@ struct Verwendungsart;
 class Verwendungsseite
 {
 public:
-    Verwendungsseite(SessionState& session, Ports& ports, GezeigteDateien& gezeigt, DocumentPage& seite);
+    Verwendungsseite(SessionState& session, Operations& operations, GezeigteDateien& gezeigt, DocumentPage& seite);
 
-    // --- operations; each calls `geaendert` of the document page at its end ---
+    // --- operations ---
     void zeileGewaehlt(std::size_t position);
     void geoeffnet(); // Double click: to the document's table, and into the CAD program.
     void setzeGrafik(bool ChViewGrafik);
@@ -66,6 +66,7 @@ private:
     bool springe();
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     GezeigteDateien& gezeigt_;
     DocumentPage& seite_;

@@ -44,7 +44,7 @@ void DocumentPage::verlasseViewer()
 
 void DocumentPage::zeigeVorlage()
 {
-    bediene("Anzeigen im Viewer", "Fehler beim Anzeigen der Vorlage!", [&] {
+    operations_.perform(Part::Document, "Anzeigen im Viewer", "Fehler beim Anzeigen der Vorlage!", [&] {
         if (!details_.LblPfadDateiVorlage().empty())
             zeigeImViewer(details_.LblPfadDateiVorlage());
     });
@@ -52,7 +52,7 @@ void DocumentPage::zeigeVorlage()
 
 void DocumentPage::anschauen(bool an)
 {
-    bediene("Anzeigen im Viewer", "Fehler beim Anzeigen des Dokuments!", [&] {
+    operations_.perform(Part::Document, "Anzeigen im Viewer", "Fehler beim Anzeigen des Dokuments!", [&] {
         if (!an)
             verlasseViewer();
         else if (!aktuelleSeite().record.filename.empty())

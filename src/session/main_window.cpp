@@ -43,8 +43,9 @@ std::string benachrichtigungstext(const SessionState& session)
     return "Zeitintervall = 0. Es erfogt keine Benachrichtigung.";
 }
 
-MainWindow::MainWindow(SessionState& session, Ports& ports, SolidEdgeInfo solidEdge)
-    : session_(session), ports_(ports), solidEdge_(std::move(solidEdge)), knoepfe_(KNOEPFE)
+MainWindow::MainWindow(SessionState& session, Operations& operations, SolidEdgeInfo solidEdge)
+    : session_(session), operations_(operations), ports_(operations.ports()), solidEdge_(std::move(solidEdge)),
+      knoepfe_(KNOEPFE)
 {}
 
 void MainWindow::setzeAktion(Werkzeug knopf, std::function<void()> aktion)
@@ -77,7 +78,7 @@ bool MainWindow::laden()
         "Das Programm wird beendet.",
     });
     bool weiter = true;
-    const bool geladen = gesichert(ports_.meldungen, "Fehler beim Laden der 'MDI-Form'!", text, [&] {
+    const bool geladen = operations_.perform(Part::Frame, "Fehler beim Laden der 'MDI-Form'!", text, [&] {
         stelleWerkzeugeEin();
         RefreshStatusBar();
         oeffneErsteSeite();
@@ -114,7 +115,7 @@ void MainWindow::zeigeSeite(Seite ziel)
 {
     seite_ = ziel;
     melde([ziel](Rahmenteilnehmer& teilnehmer) { teilnehmer.seiteGezeigt(ziel); });
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 bool MainWindow::forwardAn(std::string_view titel, std::string_view ersteZeile)
@@ -136,7 +137,7 @@ bool MainWindow::forwardAn(std::string_view titel, std::string_view ersteZeile)
 
 void MainWindow::werkzeugGewaehlt(Werkzeug knopf)
 {
-    gesichert(ports_.meldungen, "Toolbar MDI-Form", "Fehler bei Toolbar MDI-Form!", [&] {
+    operations_.perform(Part::Frame, "Toolbar MDI-Form", "Fehler bei Toolbar MDI-Form!", [&] {
         if (knopf == Werkzeug::Beenden)
             return entladen();
         if (knopf == Werkzeug::Weiterleiten &&
@@ -154,7 +155,7 @@ void MainWindow::tickDBUpdate()
 {
     if (watchDatabase && !session_.DatenbankPfad.empty())
         watchDatabase();
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 // The settings of the session belong into the file that the next start opens.
@@ -186,7 +187,7 @@ void MainWindow::setzeTitel(std::string_view datenbankPfad)
 {
     titel_ = std::string(datenbankPfad) + versionstext();
     ports_.programme.eigenerTitel(titel_);
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 void MainWindow::RefreshStatusBar()
@@ -198,7 +199,7 @@ void MainWindow::RefreshStatusBar()
         statuspanel_.emplace_back(DOKUTYPEN[tab].einzahl);
         statuspanel_.emplace_back();
     }
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 void MainWindow::stelleWerkzeugeEin()
@@ -218,7 +219,7 @@ void MainWindow::stelleWerkzeugeEin()
             session_.ActiveQuelvarn ? "Bearbeiten mit SE, Ereignisse sind aktiv!" : "Bearbeiten mit SE";
     for (const Werkzeug knopf : {Werkzeug::Extras, Werkzeug::Weiterleiten, Werkzeug::Nachrichten})
         zeige(knopf, session_.ForwardOn);
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 void MainWindow::stelleZeitgeberEin()
@@ -228,19 +229,13 @@ void MainWindow::stelleZeitgeberEin()
     timerDBUpdate_ = zeitgeber(intervall > 0);
     timerCheckInOut_ = zeitgeber(intervall > 0 && session_.CheckInOutOn);
     timerWorkflow_ = zeitgeber(intervall > 0 && session_.ForwardOn);
-    meldeGeaendert();
+    operations_.changed(Part::Frame);
 }
 
 void MainWindow::melde(const std::function<void(Rahmenteilnehmer&)>& ereignis)
 {
     for (Rahmenteilnehmer* teilnehmer : teilnehmer_)
         ereignis(*teilnehmer);
-}
-
-void MainWindow::meldeGeaendert() const
-{
-    if (geaendert)
-        geaendert();
 }
 
 } // namespace quelvarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ports.h"
+#include "session/operations.h"
 #include "session/session_state.h"
 #include "session/solid_edge_info.h"
 
@@ -66,7 +66,7 @@ std::string benachrichtigungstext(const SessionState& session);
 class MainWindow
 {
 public:
-    MainWindow(SessionState& session, Ports& ports, SolidEdgeInfo solidEdge);
+    MainWindow(SessionState& session, Operations& operations, SolidEdgeInfo solidEdge);
     void meldeAn(Rahmenteilnehmer& teilnehmer) { teilnehmer_.push_back(&teilnehmer); }
     // What a button does when the frame has nothing against it.
     void setzeAktion(Werkzeug knopf, std::function<void()> aktion);
@@ -103,16 +103,15 @@ public:
     const SolidEdgeInfo& solidEdge() const { return solidEdge_; }
 
     std::function<void()> watchDatabase; // Looks after the file of the open database, at each tick.
-    std::function<void()> geaendert;     // Called after each operation that changed something to show.
     std::function<void()> beendet;       // The window goes, the program ends.
 
 private:
     void oeffneErsteSeite();
     void reachReplacedFile();
     bool forwardAn(std::string_view titel, std::string_view ersteZeile);
-    void meldeGeaendert() const;
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     SolidEdgeInfo solidEdge_;
     std::vector<Rahmenteilnehmer*> teilnehmer_;

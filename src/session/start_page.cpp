@@ -24,8 +24,9 @@ std::string datenbankzeile(std::string_view pfad)
 
 } // namespace
 
-StartPage::StartPage(SessionState& session, Ports& ports, MainWindow& rahmen)
-    : session_(session), ports_(ports), rahmen_(rahmen), auswahl_(ports, ".mdb")
+StartPage::StartPage(SessionState& session, Operations& operations, MainWindow& rahmen)
+    : session_(session), operations_(operations), ports_(operations.ports()), rahmen_(rahmen),
+      auswahl_(operations.ports(), ".mdb")
 {
     rahmen_.meldeAn(*this);
 }
@@ -42,12 +43,12 @@ void StartPage::seiteGezeigt(Seite seite)
         fuelleStatusBar(session_.DatenbankPfad);
         dateinamePanel_ = datenbankzeile(session_.DatenbankPfad);
     }
-    meldeGeaendert();
+    operations_.changed(Part::StartPage);
 }
 
 void StartPage::laden()
 {
-    gesichert(ports_.meldungen, "Laden der Start-Form", "Fehler beim Laden der Start-Form!", [&] {
+    operations_.perform(Part::StartPage, "Laden der Start-Form", "Fehler beim Laden der Start-Form!", [&] {
         session_.FormDBGeladen = true;
         zeigeDatenbankImWaehler();
         gewaehlterPfad_ = session_.DatenbankPfad;
@@ -89,10 +90,11 @@ void StartPage::zeigeDatenbankImWaehler()
 
 void StartPage::fuelleStatusBar(std::string_view pfad)
 {
-    gesichert(ports_.meldungen, "Einrichten der Statusbar", "Fehler beim Einrichten der Statusbar 'Start'!", [&] {
-        dateinamePanel_ = DateiName(pfad);
-        pfadnamePanel_ = Ordnername(pfad);
-    });
+    operations_.perform(Part::StartPage, "Einrichten der Statusbar", "Fehler beim Einrichten der Statusbar 'Start'!",
+                        [&] {
+                            dateinamePanel_ = DateiName(pfad);
+                            pfadnamePanel_ = Ordnername(pfad);
+                        });
 }
 
 void StartPage::zeigeSolidEdge()
@@ -119,26 +121,24 @@ void StartPage::laufwerkGewaehlt(std::string_view eintrag)
         ports_.meldungen.warnung("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
                                                                 "es ist wahrscheinlich kein Datenträger im Laufwerk!");
     }
-    meldeGeaendert();
+    operations_.changed(Part::StartPage);
 }
 
 void StartPage::ordnerGewaehlt(std::string_view ordner)
 {
-    gesichert(ports_.meldungen, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
-              [&] { auswahl_.setzeOrdner(ordner); });
-    meldeGeaendert();
+    operations_.perform(Part::StartPage, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
+                        [&] { auswahl_.setzeOrdner(ordner); });
 }
 
 void StartPage::nachOben()
 {
-    gesichert(ports_.meldungen, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
-              [&] { auswahl_.nachOben(); });
-    meldeGeaendert();
+    operations_.perform(Part::StartPage, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
+                        [&] { auswahl_.nachOben(); });
 }
 
 void StartPage::dateiGewaehlt(std::string_view name)
 {
-    gesichert(ports_.meldungen, "Auswahl der Datenbank", "Fehler bei Auswahl der Datenbank!", [&] {
+    operations_.perform(Part::StartPage, "Auswahl der Datenbank", "Fehler bei Auswahl der Datenbank!", [&] {
         if (CheckSiblingsRunning(ports_))
             return;
         session_.DatenbankOk = false;
@@ -151,7 +151,6 @@ void StartPage::dateiGewaehlt(std::string_view name)
         rahmen_.setzeTitel(neuerPfad);
         labelDB_ = datenbankzeile(neuerPfad);
     });
-    meldeGeaendert();
 }
 
 bool StartPage::bestaetigtWechsel(std::string_view neuerPfad)
@@ -171,7 +170,7 @@ bool StartPage::bestaetigtWechsel(std::string_view neuerPfad)
 
 void StartPage::oeffnen()
 {
-    gesichert(ports_.meldungen, "Öffnen der Datenbank", "Fehler beim Öffnen der Datenbank!", [&] {
+    operations_.perform(Part::StartPage, "Öffnen der Datenbank", "Fehler beim Öffnen der Datenbank!", [&] {
         rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
         if (labelDB_.empty()) {
             ports_.meldungen.warnung("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
@@ -185,7 +184,6 @@ void StartPage::oeffnen()
         else
             datenbankVerloren();
     });
-    meldeGeaendert();
 }
 
 void StartPage::openAgain()
@@ -199,7 +197,7 @@ void StartPage::openAgain()
         rahmen_.zeigeSeite(Seite::Start);
         rahmen_.setzeTitel(session_.DatenbankPfad);
     }
-    meldeGeaendert();
+    operations_.changed(Part::StartPage);
 }
 
 void StartPage::datenbankVerloren()
@@ -242,7 +240,7 @@ void StartPage::setzeActiveSE(bool an)
 {
     session_.ActiveQuelvarn = an && activeSESichtbar_ && activeSEBereit_;
     rahmen_.stelleWerkzeugeEin();
-    meldeGeaendert();
+    operations_.changed(Part::StartPage);
 }
 
 std::string_view StartPage::LblActiveSE() const
@@ -253,11 +251,10 @@ std::string_view StartPage::LblActiveSE() const
 void StartPage::setzeSchalter(std::size_t zeile, bool an)
 {
     assert(zeile < BAUMSCHALTER.size());
-    gesichert(ports_.meldungen, "Einstellungen TREEVIEW", "Fehler bei den Einstellungen TREEVIEW!", [&] {
+    operations_.perform(Part::StartPage, "Einstellungen TREEVIEW", "Fehler bei den Einstellungen TREEVIEW!", [&] {
         session_.Tree.*BAUMSCHALTER[zeile].feld = an;
         rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.baumschalterGeaendert(); });
     });
-    meldeGeaendert();
 }
 
 void StartPage::setzeInfoPrio1(int index, bool an)
@@ -284,7 +281,7 @@ void StartPage::offlineToolGewaehlt(int index)
 {
     session_.OfflineTool = OFFLINE_TOOLS[static_cast<std::size_t>(index)];
     rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.offlineToolGeaendert(); });
-    meldeGeaendert();
+    operations_.changed(Part::StartPage);
 }
 
 int StartPage::offlineTool() const
@@ -295,13 +292,7 @@ int StartPage::offlineTool() const
 void StartPage::setzeLokaleAuftraege(bool an)
 {
     session_.AuftraegeLokal = an;
-    meldeGeaendert();
-}
-
-void StartPage::meldeGeaendert() const
-{
-    if (geaendert)
-        geaendert();
+    operations_.changed(Part::StartPage);
 }
 
 } // namespace quelvarn

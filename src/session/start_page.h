@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/ports.h"
 #include "session/file_chooser.h"
 #include "session/main_window.h"
+#include "session/operations.h"
 #include "session/session_state.h"
 
 #include <array>
@@ -20,7 +20,7 @@ class StartPage : public Rahmenteilnehmer
 {
 public:
     // Follows the frame by itself.
-    StartPage(SessionState& session, Ports& ports, MainWindow& rahmen);
+    StartPage(SessionState& session, Operations& operations, MainWindow& rahmen);
 
     // --- operations, one for each thing a person can do ---
     void laufwerkGewaehlt(std::string_view eintrag); // DriveDB
@@ -53,8 +53,6 @@ public:
     int offlineTool() const; // Index in OFFLINE_TOOLS
     bool lokaleAuftraege() const { return session_.AuftraegeLokal; }
 
-    std::function<void()> geaendert; // Called after each operation that changed something to show.
-
     // --- what the frame tells ---
     void seiteGezeigt(Seite seite) override;
     void entladen() override;
@@ -68,9 +66,9 @@ private:
     void datenbankVerloren();
     void datenbankUebernehmen();
     void setzeSchalter(std::size_t zeile, bool an);
-    void meldeGeaendert() const;
 
     SessionState& session_;
+    Operations& operations_;
     Ports& ports_;
     MainWindow& rahmen_;
     Dateiauswahl auswahl_;

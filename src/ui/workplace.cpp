@@ -17,11 +17,11 @@ namespace quelvarn {
 Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& darstellung,
                            std::function<void()> programmEnde)
     : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
-      waechter_(ports.meldungen, [this] { programmEnde_(); }), rahmen_(session, ports, {}),
-      startseite_(session, ports, rahmen_), watch_(session, ports, [this] { openDatabaseAgain(); }),
-      viewer_(ports.dateien), gezeigt_(viewer_, nutzung_), dokumentseite_(session, ports, gezeigt_),
-      linkeLeiste_(session, ports, filter_, dokumentseite_), obereLeiste_(session, ports, dokumentseite_),
-      filterseite_(session, ports, filter_, dokumentseite_),
+      waechter_(ports.meldungen, [this] { programmEnde_(); }), operations_(ports), rahmen_(session, operations_, {}),
+      startseite_(session, operations_, rahmen_), watch_(session, operations_.ports(), [this] { openDatabaseAgain(); }),
+      viewer_(ports.dateien), gezeigt_(viewer_, nutzung_), dokumentseite_(session, operations_, gezeigt_),
+      linkeLeiste_(session, operations_, filter_, dokumentseite_), obereLeiste_(session, operations_, dokumentseite_),
+      filterseite_(session, operations_, filter_, dokumentseite_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -44,9 +44,8 @@ Arbeitsplatz::~Arbeitsplatz() = default;
 void Arbeitsplatz::verbinde()
 {
     rahmen_.meldeAn(dokumentseite_);
-    rahmen_.geaendert = [this] { fenster_->zeigen(); };
+    operations_.show = [this](const Parts& parts) { refresh(parts); };
     rahmen_.beendet = [this] { programmEnde_(); };
-    startseite_.geaendert = [this] { formDB_->zeigen(); };
     dokumentseite_.bearbeiten = [this] {
         if (rahmen_.knopf(Werkzeug::Bearbeiten).sichtbar && rahmen_.hatAktion(Werkzeug::Bearbeiten))
             rahmen_.werkzeugGewaehlt(Werkzeug::Bearbeiten);
@@ -58,18 +57,12 @@ void Arbeitsplatz::verbinde()
         linkeLeiste_.tabelleGewechselt();
         obereLeiste_.favoriten().tabelleGewechselt();
     };
-    linkeLeiste_.geaendert = [this] { formSEDoku_->zeigeLinks(); };
-    dokumentseite_.geaendert = [this] {
-        formSEDoku_->zeigen();
-        fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());
-    };
 }
 
 void Arbeitsplatz::verbindeObereLeiste()
 {
     Favoriten& favoriten = obereLeiste_.favoriten();
     rahmen_.meldeAn(favoriten);
-    favoriten.geaendert = [this] { formSEDoku_->zeigeOben(); };
     dokumentseite_.verwendung().favoritHinzufuegen = [&favoriten](const std::string& DokuBez, const std::string& RevBez,
                                                                   std::string_view typ, const std::string& filename) {
         favoriten.FavoritHinzufuegen(DokuBez, RevBez, typ, filename);
@@ -80,7 +73,6 @@ void Arbeitsplatz::verbindeObereLeiste()
 void Arbeitsplatz::verbindeFilterseite()
 {
     rahmen_.meldeAn(filterseite_); // Behind the document page, whose table it opens for.
-    filterseite_.geaendert = [this] { formSEFiltern_->zeigen(); };
     linkeLeiste_.nutzeGespeicherten = [this](std::string_view Filtername) {
         const Sanduhr warten;
         filterseite_.nutzeGespeicherten(Filtername);
@@ -92,6 +84,28 @@ void Arbeitsplatz::verbindeFilterseite()
         gezeigt_.leere(Ansicht::Filtervorlage);
         return true;
     };
+}
+
+void Arbeitsplatz::refresh(const Parts& parts)
+{
+    const auto of = [&](Part part) { return contains(parts, part); };
+    if (of(Part::Frame))
+        fenster_->zeigen();
+    if (of(Part::StartPage))
+        formDB_->zeigen();
+    if (of(Part::FilterPage))
+        formSEFiltern_->zeigen();
+    if (of(Part::Document)) {
+        formSEDoku_->zeigen();
+        fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());
+        return; // With its bars and tables.
+    }
+    if (of(Part::Rows))
+        formSEDoku_->refreshRows();
+    if (of(Part::LeftBar))
+        formSEDoku_->zeigeLinks();
+    if (of(Part::TopBar))
+        formSEDoku_->zeigeOben();
 }
 
 // The table in front stays in front.

@@ -8,6 +8,7 @@
 #include "register/top_bar.h"
 #include "session/database_watch.h"
 #include "session/main_window.h"
+#include "session/operations.h"
 #include "session/start_page.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/guard.h"
@@ -40,6 +41,7 @@ public:
 
 private:
     void verbinde();
+    void refresh(const Parts& parts);
     void verbindeObereLeiste();
     void verbindeFilterseite();
     void openDatabaseAgain();
@@ -47,6 +49,7 @@ private:
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
     Waechter waechter_;
+    Operations operations_;
     MainWindow rahmen_;
     StartPage startseite_;
     DatabaseWatch watch_;

@@ -100,7 +100,7 @@ protected:
 
     FilterState filter_;
     TestTabellen tabellen_{session_};
-    Filterkontext kontext_{session_, ports_, filter_, tabellen_};
+    Filterkontext kontext_{session_, operations_, filter_, tabellen_};
 };
 
 } // namespace quelvarn

@@ -49,7 +49,7 @@ protected:
 
     void erwarteAlleGefuellt() { welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!"); }
 
-    FilterPage seite_{session_, ports_, filter_, tabellen_};
+    FilterPage seite_{session_, operations_, filter_, tabellen_};
     int verlassen_ = 0;
 };
 

@@ -64,7 +64,7 @@ protected:
         return gezeigt();
     }
 
-    FilterPage page_{session_, ports_, filter_, tabellen_};
+    FilterPage page_{session_, operations_, filter_, tabellen_};
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, FilterRows, testing::Values("SQLite", "PostgreSQL"),

@@ -43,7 +43,7 @@ protected:
         zeile("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
     }
 
-    Favoriten favourites_{session_, ports_, page_};
+    Favoriten favourites_{session_, operations_, page_};
 };
 
 } // namespace quelvarn

@@ -33,7 +33,7 @@ protected:
     std::size_t gezeigt(int tab) { return page_.seite(tab).sichtbar().RecordCount(); }
 
     FilterState filter_;
-    Filterkontext kontext_{session_, ports_, filter_, page_};
+    Filterkontext kontext_{session_, operations_, filter_, page_};
 };
 
 TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
@@ -160,7 +160,7 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
 
 TEST_F(PageFilterTest, TheValuesStayListedWhileTheyNarrowTheTable)
 {
-    FilterPage seite{session_, ports_, filter_, page_};
+    FilterPage seite{session_, operations_, filter_, page_};
     seite.OpenFilterPage();
     kontext_.zustand().ChFilterStat.fill(false);
     AddFilterStep(kontext_, "Pa1", "DokuBez", 0);

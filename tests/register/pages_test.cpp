@@ -183,7 +183,8 @@ TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
     dokument(0, "A");
     dateien.legeAn(pfad("A_0.par"));
     Ports ports = welt_.portsMit(dateien);
-    DocumentPage page(session_, ports, bildschirm_.gezeigt);
+    Operations operations(ports);
+    DocumentPage page(session_, operations, bildschirm_.gezeigt);
     page.tabGewaehlt(0);
     welt_.meldungen.erwarte("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
                                                   "Datei ist nicht vorhanden.");

@@ -27,7 +27,7 @@ protected:
     std::string rows() const { return rows(bar_.gezeigteWerte()); }
 
     FilterState filter_;
-    LinkeLeiste bar_{session_, ports_, filter_, page_};
+    LinkeLeiste bar_{session_, operations_, filter_, page_};
     Schnellsuche& search_ = bar_.suche();
     Schnellfilter& quick_ = bar_.filter();
 };

@@ -83,7 +83,7 @@ protected:
     std::string baum() const { return alsText(page_.aktuelleSeite().baum.wurzeln); }
 
     FakeBildschirm bildschirm_;
-    DocumentPage page_{session_, ports_, bildschirm_.gezeigt};
+    DocumentPage page_{session_, operations_, bildschirm_.gezeigt};
 };
 
 } // namespace quelvarn

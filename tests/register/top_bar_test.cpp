@@ -23,7 +23,7 @@ protected:
         bar_.klick("Pfad aus ZwSp");
     }
 
-    ObereLeiste bar_{session_, ports_, page_};
+    ObereLeiste bar_{session_, operations_, page_};
 };
 
 std::string notFound(const std::string& path, const char* more = "")

@@ -32,8 +32,8 @@ TEST_F(LockedRegister, GivingUpAtTheStartLeavesNoDatabase)
 
 TEST_F(LockedRegister, TheProgramEndsAllTheSameAndTellsThatItsSettingsAreLost)
 {
-    MainWindow frame(session, ports, {});
-    StartPage start(session, ports, frame);
+    MainWindow frame(session, operations, {});
+    StartPage start(session, operations, frame);
     bool ended = false;
     frame.beendet = [&] { ended = true; };
     meldeAn();

@@ -63,8 +63,8 @@ protected:
         start.dateiGewaehlt(name);
     }
 
-    MainWindow rahmen{session, ports, {}};
-    StartPage start{session, ports, rahmen};
+    MainWindow rahmen{session, operations, {}};
+    StartPage start{session, operations, rahmen};
     Beobachter beobachter;
     bool beendet = false;
 };
@@ -134,7 +134,7 @@ TEST_F(Frame, ToolBarFollowsRightsEventsAndForwarding)
         session.Sichtbar = fall.sichtbar;
         session.ActiveQuelvarn = fall.aktiv;
         session.ForwardOn = fall.forward;
-        MainWindow fenster(session, ports, {"16", fall.viewer});
+        MainWindow fenster(session, operations, {"16", fall.viewer});
         fenster.stelleWerkzeugeEin();
         std::string text;
         for (int i = 0; i < ANZAHL_WERKZEUGE; ++i)
@@ -286,8 +286,8 @@ TEST_F(Frame, StartPageNamesTheInstalledSolidEdge)
     };
     for (const auto& fall : faelle) {
         SessionState andere;
-        MainWindow fenster(andere, ports, fall.info);
-        StartPage seite(andere, ports, fenster);
+        MainWindow fenster(andere, operations, fall.info);
+        StartPage seite(andere, operations, fenster);
         fenster.zeigeSeite(Seite::Start);
         EXPECT_EQ(seite.LblSolidEdgeVersion(), fall.version);
         EXPECT_EQ(seite.LblSolidEdgePfad(), fall.pfad);

@@ -7,6 +7,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/statements.h"
 #include "fakes/temp_folder.h"
+#include "session/operations.h"
 #include "session/program.h"
 #include "session/session_state.h"
 
@@ -90,6 +91,7 @@ protected:
     Connection db;
     FakePorts world;
     Ports ports = world.ports();
+    Operations operations{ports};
     SessionState session;
 };
 

@@ -28,7 +28,9 @@ protected:
                               {"Projekt", "P1"},
                               {"Geaendert", Zeitpunkt::aus({2026, 11, 2})}});
         dokumente_.StartTabelleZeigen();
-        modell_.geaendert = [this] {
+        operations_.show = [this](const Parts& parts) {
+            if (!contains(parts, Part::FilterPage))
+                return;
             ++operationen_;
             seite_.zeigen();
         };
@@ -52,8 +54,8 @@ protected:
     FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
     FakeBildschirm bildschirm_;
-    DocumentPage dokumente_{session_, ports_, bildschirm_.gezeigt};
-    FilterPage modell_{session_, ports_, filter_, dokumente_};
+    DocumentPage dokumente_{session_, operations_, bildschirm_.gezeigt};
+    FilterPage modell_{session_, operations_, filter_, dokumente_};
     FormSEFiltern seite_{modell_, *new QWidget};
     int operationen_ = 0;
     int verlassen_ = 0;

@@ -32,10 +32,11 @@ protected:
     TempFolder ordner_;
     FakePorts welt_;
     Ports ports_ = welt_.ports();
+    Operations operations_{ports_};
     SessionState session_;
     Waechter waechter_{welt_.meldungen, [] {}};
     Darstellung darstellung_{QString::fromStdString((ordner_ / "Darstellung.ini").string())};
-    MainWindow modell_{session_, ports_, {}};
+    MainWindow modell_{session_, operations_, {}};
     MDIForm1 fenster_{modell_, session_, darstellung_};
 };
 

@@ -48,15 +48,15 @@ template <typename Art> Art& finde(QWidget& seite, const char* name)
 
 TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
-    DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
-    LinkeLeiste links(session_, ports_, filter_, modell);
-    ObereLeiste oben(session_, ports_, modell);
+    DocumentPage modell(session_, operations_, bildschirm_.gezeigt);
+    LinkeLeiste links(session_, operations_, filter_, modell);
+    ObereLeiste oben(session_, operations_, modell);
     FormSEDoku seite(modell, links, oben, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();
     int operationen = 0;
-    modell.geaendert = [&] { ++operationen; };
+    operations_.show = [&](const Parts&) { ++operationen; };
     seite.zeigen();
     seite.zeigen();
     EXPECT_EQ(operationen, 0);
@@ -74,15 +74,17 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 
 TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
-    DocumentPage modell(session_, ports_, bildschirm_.gezeigt);
-    LinkeLeiste links(session_, ports_, filter_, modell);
-    ObereLeiste oben(session_, ports_, modell);
+    DocumentPage modell(session_, operations_, bildschirm_.gezeigt);
+    LinkeLeiste links(session_, operations_, filter_, modell);
+    ObereLeiste oben(session_, operations_, modell);
     FormSEDoku seite(modell, links, oben, session_, viewer_);
     seite.resize(939, 600);
     seite.show();
     modell.StartTabelleZeigen();
     int operationen = 0;
-    modell.geaendert = [&] {
+    operations_.show = [&](const Parts& parts) {
+        if (!contains(parts, Part::Document))
+            return seite.refreshRows();
         ++operationen;
         seite.zeigen();
     };

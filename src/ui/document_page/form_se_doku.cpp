@@ -175,8 +175,7 @@ void FormSEDoku::zeigen()
     zeigeReiter();
     zeigeLinks();
     zeigeOben();
-    for (auto* tabelle : tabellen_)
-        tabelle->zeigen();
+    refreshRows();
     info_->zeigen();
     zeigeViewerseite();
     status_->zeigen(modell_);
@@ -200,6 +199,12 @@ void FormSEDoku::zeigeViewerseite()
 {
     FrmDokuSmartView_Doku_->setVisible(!modell_.imViewer());
     FrmDokuSmartView_SmartView_->setVisible(modell_.imViewer());
+}
+
+void FormSEDoku::refreshRows()
+{
+    for (auto* tabelle : tabellen_)
+        tabelle->zeigen();
 }
 
 void FormSEDoku::zeigeLinks()

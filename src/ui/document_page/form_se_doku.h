@@ -31,6 +31,7 @@ public:
                QtViewer& viewer);
 
     void zeigen();
+    void refreshRows(); // The tables with their trees alone.
     // The bar at the left with its panels alone.
     void zeigeLinks();
     // The bar over the tables with the list of favourites alone.

@@ -56,8 +56,8 @@ protected:
         return FaultKind::Other;
     }
 
-    MainWindow frame{session, ports, {}};
-    StartPage start{session, ports, frame};
+    MainWindow frame{session, operations, {}};
+    StartPage start{session, operations, frame};
     DatabaseWatch watch{session, ports, [this] { start.openAgain(); }};
 };
 
