@@ -5,7 +5,7 @@
 #include "database/connection.h"
 #include "database/create.h"
 #include "database/recordset.h"
-#include "register/document_record.h"
+#include "documents/document_record.h"
 #include "register/usage_kinds.h"
 #include "register/usage_rows.h"
 

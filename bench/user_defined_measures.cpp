@@ -34,17 +34,6 @@ class KeineZwischenablage final : public Zwischenablage
     void setzeText(std::string_view) override {}
 };
 
-class Tabellen final : public Tabellenherr
-{
-public:
-    int filterTab() const override { return 0; }
-    GefilterteTabelle& filterTabelle(int) override { return tabelle; }
-    void filterGewechselt(int) override {}
-    void filterAufheben(int) override {}
-
-    GefilterteTabelle tabelle;
-};
-
 struct Fall
 {
     const char* name;
@@ -85,11 +74,12 @@ void messeFall(Messreihe& reihe, Filterkontext& kontext, BareSqlite& sqlite, con
                                          "ON d.DokuBez = b.DokuBez AND d.RevBez = b.RevBez",
                                          TABELLE, fall.bedingung, fall.schritte.size());
     std::int64_t gezaehlt = 0;
-    const Arbeit unsere{[&] { ApplyBenutzDefFilter(kontext); }, [] {}, LAEUFE};
+    std::optional<Recordset> result;
+    const Arbeit unsere{[&] { result = ApplyBenutzDefFilter(kontext); }, [] {}, LAEUFE};
     reihe.begrenze(fall.name, fall.grenzeMs, unsere);
     reihe.vergleiche(fall.name, std::nullopt, unsere, "GROUP BY ... HAVING",
                      {[&] { gezaehlt = sqlite.zahl(peer); }, [] {}, 1});
-    const auto gefunden = static_cast<std::int64_t>(kontext.tabelle().FilterErgebnis.RecordCount());
+    const auto gefunden = static_cast<std::int64_t>(result ? result->RecordCount() : 0);
     if (gefunden != gezaehlt || gefunden == 0)
         throw std::runtime_error("the user-defined filter and the peer find different documents");
 }
@@ -109,8 +99,8 @@ void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
     Operations operations(ports);
     FilterState filter;
     filter.typen[0].bereich = Filterbereich::BenutzDef;
-    Tabellen tabellen;
-    Filterkontext kontext{session, operations, filter, tabellen};
+    DocumentTables tables(session, operations);
+    Filterkontext kontext{session, operations, filter, tables};
     for (const Fall& fall : FAELLE)
         messeFall(reihe, kontext, sqlite, fall);
 

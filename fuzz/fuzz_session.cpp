@@ -5,6 +5,7 @@
 #include "base/utf8.h"
 #include "database/create.h"
 #include "database/sql/conditions.h"
+#include "documents/document_record.h"
 #include "fakes/fake_dateien.h"
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
@@ -14,10 +15,9 @@
 #include "filter/template_lookup.h"
 #include "platform/meldungen.h"
 #include "register/detail_lists.h"
-#include "register/document_record.h"
+#include "register/document_questions.h"
 #include "register/favourite_rows.h"
 #include "register/quick_search.h"
-#include "register/relations.h"
 #include "register/usage_rows.h"
 #include "session/ini_reader/start_run.h"
 #include "session/settings_writer.h"
@@ -64,29 +64,6 @@ struct World
     FakeStandardanwendung application;
     FakeFortschritt progress;
     Ports ports{boxes, clock, environment, files, drives, printers, programs, clipboard, application, progress};
-};
-
-class Tables final : public Tabellenherr
-{
-public:
-    explicit Tables(SessionState& session) : session_(session) {}
-    int filterTab() const override { return 0; }
-    GefilterteTabelle& filterTabelle(int) override
-    {
-        if (!parts_.geoeffnet()) {
-            parts_.tabelle.Open(sql::Query("PartTabelle").where(sql::statusScope(session_.WhereStatus)),
-                                session_.Verbindung);
-            parts_.anzahl = parts_.tabelle.RecordCount();
-            parts_.zustand = Offen;
-        }
-        return parts_;
-    }
-    void filterGewechselt(int) override {}
-    void filterAufheben(int) override {}
-
-private:
-    SessionState& session_;
-    GefilterteTabelle parts_;
 };
 
 // What a line of the input says.
@@ -234,20 +211,19 @@ private:
     {
         Operations operations(world.ports);
         FilterState state;
-        Tables tables(session);
+        DocumentTables tables(session, operations);
         Filterkontext context{session, operations, state, tables};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
         FilterEigenMerkBenutzDef(context);
-        requireOwnStatuses(context.tabelle().sichtbar());
+        requireOwnStatuses(context.table().visible());
         leereFilter(context.zustand());
         context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
         context.zustand().FilterAnzahl = 1;
-        if (ApplyBenutzDefFilter(context))
-            requireOwnStatuses(context.tabelle().FilterErgebnis);
-        context.tabelle().tabelle.Filter("");
-        SuchenImRecordset(context.tabelle().tabelle, input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben,
-                          world.boxes);
+        if (const auto result = ApplyBenutzDefFilter(context))
+            requireOwnStatuses(*result);
+        context.table().rows().Filter("");
+        SuchenImRecordset(context.table().rows(), input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben, world.boxes);
     }
 
     static void requireOwnStatuses(const Recordset& rows)

@@ -11,15 +11,16 @@ MAY_INCLUDE = {
     "platform": {"base"},
     "database": {"base", "platform"},
     "session": {"base", "platform", "database"},
-    "filter": {"base", "platform", "database", "session"},
-    "register": {"base", "platform", "database", "session", "filter", "use"},
+    "documents": {"base", "platform", "database", "session"},
+    "filter": {"base", "platform", "database", "session", "documents"},
+    "register": {"base", "platform", "database", "session", "documents", "filter", "use"},
     "use": {"base", "platform", "database", "session"},
     "cad": {"base", "platform", "database", "session", "use"},
-    "orders": {"base", "platform", "database", "session", "filter"},
+    "orders": {"base", "platform", "database", "session", "documents", "filter"},
     "tools": {"base", "platform", "database", "session"},
-    "ui": {"base", "platform", "database", "session", "filter", "register", "use", "cad", "orders"},
-    "scenario": {"base", "platform", "database", "session", "filter", "register", "use", "cad", "orders", "ui"},
-    "app": {"base", "platform", "database", "session", "filter", "register", "use", "cad", "orders", "ui"},
+    "ui": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders"},
+    "scenario": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders", "ui"},
+    "app": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders", "ui"},
 }
 WITH_QT = {"ui", "app", "scenario"}
 # Headers of a driver stay inside their own folder, and out of our headers.

@@ -14,12 +14,6 @@ bool nothingChosen(const Filterkontext& kontext)
            (kontext.bereich() != Filterbereich::Eigenschaften || kontext.filter.status.StatusFilter.empty());
 }
 
-void showAllRows(Filterkontext& kontext)
-{
-    vergissFilter(kontext.filter, kontext.tab);
-    kontext.tabellen.filterAufheben(kontext.tab);
-}
-
 bool laufeStruktur(Filterkontext& kontext)
 {
     return laufeOderWieVorher(kontext, [&] {
@@ -27,17 +21,30 @@ bool laufeStruktur(Filterkontext& kontext)
     });
 }
 
-bool laufe(Filterkontext& kontext)
+// False when nothing was applied.
+bool run(Filterkontext& kontext)
 {
+    Narrowing narrowing{kontext.FilterWerteTabelle(), {}, {}}; // Also the values of steps that leave nothing.
     switch (kontext.bereich()) {
     case Filterbereich::Eigenschaften:
-        return ApplyPropertyFilter(kontext);
+        if (!ApplyPropertyFilter(kontext))
+            return false;
+        narrowing.statusLimit = kontext.filter.status; // The other parts know no limit of the statuses.
+        break;
     case Filterbereich::Struktur:
-        return laufeStruktur(kontext);
-    case Filterbereich::BenutzDef:
-        return kontext.zustand().FilterAnzahl > 0 && ApplyBenutzDefFilter(kontext);
+        if (!laufeStruktur(kontext))
+            return false;
+        break;
+    case Filterbereich::BenutzDef: {
+        auto result = kontext.zustand().FilterAnzahl > 0 ? ApplyBenutzDefFilter(kontext) : std::nullopt;
+        if (!result)
+            return false;
+        kontext.table().showResult(std::move(*result), std::move(narrowing));
+        return true;
     }
-    return false;
+    }
+    kontext.table().showFiltered(std::move(narrowing));
+    return true;
 }
 
 } // namespace
@@ -45,22 +52,12 @@ bool laufe(Filterkontext& kontext)
 void FilterEigenMerkBenutzDef(Filterkontext& kontext)
 {
     if (nothingChosen(kontext))
-        return showAllRows(kontext);
+        return liftFilter(kontext.filter, kontext.tables, kontext.tab);
     kontext.stepsWithoutRows.clear();
-    std::vector<Filterwert> rows = kontext.FilterWerteTabelle(); // Also those of steps that leave nothing.
-    if (!laufe(kontext))
+    if (!run(kontext))
         return;
-    GefilterteTabelle& tabelle = kontext.tabelle();
-    const bool eigenesErgebnis = kontext.bereich() == Filterbereich::BenutzDef;
-    if (!eigenesErgebnis)
-        tabelle.FilterErgebnis = Recordset();
-    tabelle.zustand = eigenesErgebnis ? Filterergebnis : Gefiltert;
-    tabelle.filterBeschreibung.clear();
     kontext.zustand().Schnellfilter.clear();
-    tabelle.gezeigteWerte = std::move(rows);
-    // Structure features and user-defined properties know no limit of the statuses.
-    tabelle.statusLimit = kontext.bereich() == Filterbereich::Eigenschaften ? kontext.filter.status : StatusLimit{};
-    kontext.tabellen.filterGewechselt(kontext.tab);
+    kontext.tables.announce(kontext.tab);
     reportStepsWithoutRows(kontext);
 }
 

@@ -2,6 +2,7 @@
 
 #include "filter/filter_context.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,14 +32,17 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext);
 bool ApplyPropertyFilter(Filterkontext& kontext);
 bool ApplyStructureFilter(Filterkontext& kontext);
 bool ApplyHauptwertFilter(Filterkontext& kontext);
-// The user-defined filter: fills FilterErgebnis of the table. False when it was given up; nothing changed then.
-bool ApplyBenutzDefFilter(Filterkontext& kontext);
+// The rows of the user-defined filter; nothing when it was given up.
+std::optional<Recordset> ApplyBenutzDefFilter(Filterkontext& kontext);
 // Tells that this step, counted from 1, leaves no rows.
 void ReportNoRecords(Filterkontext& kontext, int schritt);
 // The same for each such step of the run before, once.
 void reportStepsWithoutRows(Filterkontext& kontext);
 // Forgets the filter of a type and hands out the status condition, which stays.
-Statusbedingung vergissFilter(FilterState& filter, int tab);
+StatusCondition forgetFilter(FilterState& filter, int tab);
+// Forgets it and shows all rows of its table again, as far as the status condition leaves them. A table that is not
+// open stays so.
+void liftFilter(FilterState& filter, DocumentTables& tables, int tab);
 // Every loaded table goes back to its status filter.
 void ResetAllFilters(Filterkontext& kontext);
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "documents/document_tables.h"
 #include "filter/filter_rows.h"
-#include "filter/filtered_table.h"
 #include "session/operations.h"
 #include "session/session_state.h"
 
@@ -15,7 +15,7 @@ struct Filterkontext
     SessionState& session;
     Operations& operations;
     FilterState& filter;
-    Tabellenherr& tabellen;
+    DocumentTables& tables;
     int tab = 0; // Of the type the page is open for.
     // Steps of the run that left no rows, in the order they were tried. They are told once the grid shows the rows that
     // are left: a box lets the window draw.
@@ -23,9 +23,9 @@ struct Filterkontext
 
     Filterzustand& zustand() { return filter.typen[static_cast<std::size_t>(tab)]; }
     const Filterzustand& zustand() const { return filter.typen[static_cast<std::size_t>(tab)]; }
-    GefilterteTabelle& tabelle() { return tabellen.filterTabelle(tab); }
+    DocumentTable& table() { return tables.opened(tab); }
     Filterbereich bereich() const { return zustand().bereich; }
-    std::vector<Filterwert> FilterWerteTabelle() const { return filterRows(zustand()); }
+    std::vector<FilterRow> FilterWerteTabelle() const { return filterRows(zustand()); }
     Ports& ports() const { return operations.ports(); }
 };
 

@@ -13,9 +13,8 @@
 
 namespace quelvarn {
 
-FilterPage::FilterPage(SessionState& session, Operations& operations, FilterState& filter, Tabellenherr& tabellen)
-    : kontext_{session, operations, filter, tabellen}, eigenschaften_(kontext_), struktur_(kontext_),
-      benutzDef_(kontext_)
+FilterPage::FilterPage(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables)
+    : kontext_{session, operations, filter, tables}, eigenschaften_(kontext_), struktur_(kontext_), benutzDef_(kontext_)
 {}
 
 void FilterPage::perform(std::string_view title, std::string_view text, const std::function<void()>& operation)
@@ -35,9 +34,9 @@ void FilterPage::OpenFilterPage()
 {
     perform("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
         geladen_ = kontext_.session.FormSEFilternGeladen = true;
-        kontext_.tab = kontext_.tabellen.filterTab();
+        kontext_.tab = kontext_.tables.tab();
         // The steps of a quick filter do not belong here.
-        if (!kontext_.tabelle().filterBeschreibung.empty())
+        if (!kontext_.table().narrowing().quickFilter.empty())
             ResetAllFilters(kontext_);
         benutzDefVorhanden_ = benutzDef_.vorhanden();
         if (!bereichVorhanden(kontext_.bereich()))
@@ -226,7 +225,7 @@ void FilterPage::filterVerwenden(std::string_view CbFilterSave)
 void FilterPage::nutzeGespeicherten(std::string_view Filtername)
 {
     perform("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
-        kontext_.tab = kontext_.tabellen.filterTab();
+        kontext_.tab = kontext_.tables.tab();
         const std::string text = SavedFilterString(kontext_.session, kontext_.tab, Filtername);
         if (text.empty())
             return;

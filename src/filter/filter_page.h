@@ -17,7 +17,7 @@ namespace quelvarn {
 class FilterPage : public Rahmenteilnehmer
 {
 public:
-    FilterPage(SessionState& session, Operations& operations, FilterState& filter, Tabellenherr& tabellen);
+    FilterPage(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables);
 
     // --- operations, one for each thing a person can do ---
     void OpenFilterPage(); // For the table that the document page shows.

@@ -19,18 +19,18 @@ std::string shownDate(const FilterSchritt& step)
     return (number < OPERATORS.size() ? std::string(OPERATORS[number]) : std::string()) + step.Wert;
 }
 
-Filterwert rowOf(const FilterSchritt& step)
+FilterRow rowOf(const FilterSchritt& step)
 {
     if (step.Feldname.empty())
         return {"BenutzDef", step.Wert, step.Muster};
-    Filterwert row{step.row.field.empty() ? step.Feldname : step.row.field, step.row.Benennung,
-                   isDate(step) ? shownDate(step) : step.Wert};
+    FilterRow row{step.row.field.empty() ? step.Feldname : step.row.field, step.row.Benennung,
+                  isDate(step) ? shownDate(step) : step.Wert};
     if (row.Benennung.empty())
         row.Benennung = row.Feldname;
     return row;
 }
 
-Filterwert rowOf(const AdditionalValue& value)
+FilterRow rowOf(const AdditionalValue& value)
 {
     return {"ZusBenutzDef" + std::string(ZUSATZSPALTEN[value.column]), value.Benennung, value.Wert};
 }
@@ -74,9 +74,9 @@ std::span<const FilterSchritt> filledSteps(const Filterzustand& zustand)
     return {steps.begin(), end};
 }
 
-std::vector<Filterwert> filterRows(const Filterzustand& zustand)
+std::vector<FilterRow> filterRows(const Filterzustand& zustand)
 {
-    std::vector<Filterwert> rows;
+    std::vector<FilterRow> rows;
     for (const FilterSchritt& step : filledSteps(zustand))
         rows.push_back(rowOf(step));
     for (const AdditionalValue& value : zustand.ZusBenutzDef)

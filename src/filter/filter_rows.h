@@ -16,7 +16,7 @@ namespace quelvarn {
 std::span<const FilterSchritt> filledSteps(const Filterzustand& zustand);
 // FilterWerteTabelle: a row for each filled step, then one for each additional value. A row is only a view: what is
 // shown is what filters.
-std::vector<Filterwert> filterRows(const Filterzustand& zustand);
+std::vector<FilterRow> filterRows(const Filterzustand& zustand);
 // Takes an edited value of a row into its step. False, and nothing changes, where it is no value for this step: an
 // empty text, or one that is no date where a date stands.
 bool setRowValue(Filterzustand& zustand, std::size_t row, std::string_view text);

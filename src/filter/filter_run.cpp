@@ -31,7 +31,7 @@ std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragment
     return kette;
 }
 
-RowFilter Kettenglied::behind(const Statusbedingung& status) const
+RowFilter Kettenglied::behind(const StatusCondition& status) const
 {
     RowFilter filter{mitUnd(status.StatusFilter, filterform)};
     if (SharedCondition scope = sql::statusScope(status.StatusFilterWhere))
@@ -43,14 +43,14 @@ RowFilter Kettenglied::behind(const Statusbedingung& status) const
 bool setzeFilter(Filterkontext& kontext, RowFilter filter)
 {
     LangeArbeit arbeit(kontext.ports().fortschritt, "Die Tabelle wird gefiltert ...");
-    kontext.tabelle().tabelle.Filter(std::move(filter), std::ref(arbeit));
+    kontext.table().rows().Filter(std::move(filter), std::ref(arbeit));
     return !arbeit.aufgegeben();
 }
 
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const Statusbedingung& status)
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const StatusCondition& status)
 {
     Filterzustand& zustand = kontext.zustand();
-    const Recordset& zeilen = kontext.tabelle().tabelle;
+    const Recordset& zeilen = kontext.table().rows();
     kontext.stepsWithoutRows.clear();
     auto schritt = static_cast<int>(kette.size());
     for (;; --schritt) {
@@ -71,7 +71,7 @@ bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, c
 bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lauf)
 {
     const Filterzustand vorher = kontext.zustand();
-    Recordset& tabelle = kontext.tabelle().tabelle;
+    Recordset& tabelle = kontext.table().rows();
     const RowFilter filter = tabelle.filter();
     const auto zeile = tabelle.Bof() || tabelle.Eof() ? std::nullopt : std::optional(tabelle.bookmark());
     const auto stelleZurueck = [&] {

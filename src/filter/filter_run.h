@@ -18,7 +18,7 @@ struct Kettenglied
     std::vector<SharedCondition> conditions = {};
 
     // As a filter of the table, behind the status condition.
-    RowFilter behind(const Statusbedingung& status) const;
+    RowFilter behind(const StatusCondition& status) const;
 };
 
 // What a step makes of its cells.
@@ -30,7 +30,7 @@ std::string mitUnd(std::string_view links, std::string_view rechts);
 std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment);
 // Runs the last link; where it leaves no rows, which the context keeps to be told, the one before it runs. The status
 // condition stands before each of them. False when it was given up.
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const Statusbedingung& status);
+bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const StatusCondition& status);
 // Assigns a filter to the table. False when it was given up; the table is then as it was.
 bool setzeFilter(Filterkontext& kontext, RowFilter filter);
 // Runs `lauf`. When it is false or a fault ends it, the rows shown and the state of the filter are as before.

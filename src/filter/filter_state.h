@@ -2,6 +2,7 @@
 
 #include "base/decimal.h"
 #include "database/document_types.h"
+#include "documents/narrowing.h"
 
 #include <array>
 #include <cstddef>
@@ -62,15 +63,6 @@ struct AdditionalValue
     bool operator==(const AdditionalValue&) const = default;
 };
 
-// A row of FilterWerteTabelle: a step or an additional value as it is shown (filter_rows.h).
-struct Filterwert
-{
-    std::string Feldname;
-    std::string Benennung;
-    std::string Wert;
-    bool operator==(const Filterwert&) const = default;
-};
-
 // Bounds of one main value; 0 in both: not filtered.
 struct Hauptwertgrenzen
 {
@@ -104,29 +96,11 @@ struct Filterzustand
     } GesicherterFilter; // As it was when the filter page was opened.
 };
 
-// A limit of the statuses as it is told; both empty for none.
-struct StatusLimit
-{
-    std::string legende; // "             Status >= 1 und <= 3"
-    std::string kurz;    // " >= 1 und <= 3"
-
-    bool isSet() const { return !kurz.empty(); }
-    Filterwert row() const { return {"", "Status", kurz}; }
-};
-
-// The status condition, common to all types: it follows the boxes changed last. All empty for no condition.
-struct Statusbedingung : StatusLimit
-{
-    std::string StatusFilter;      // " ( Status >= 1  AND Status <= 3)"
-    std::string StatusFilterWhere; // " WHERE ( ..."
-    std::string StatusFilterAnd;   // " AND ( ..."
-};
-
 // What the running filters are. Lives as long as the program.
 struct FilterState
 {
     std::array<Filterzustand, ANZAHL_DOKUTYPEN> typen; // By tab; FilterDokuTyp minus 1.
-    Statusbedingung status;
+    StatusCondition status;
 };
 
 } // namespace quelvarn

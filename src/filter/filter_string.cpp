@@ -43,14 +43,14 @@ std::string thirdPart(const FilterSchritt& step)
 
 struct Entry
 {
-    Filterwert row;
+    FilterRow row;
     std::string third;
 };
 
 // The entries that are stored.
 std::vector<Entry> entries(const Filterzustand& zustand)
 {
-    std::vector<Filterwert> rows = filterRows(zustand);
+    std::vector<FilterRow> rows = filterRows(zustand);
     rows.resize(std::min(rows.size(), GESPEICHERTE_SCHRITTE));
     const std::span<const FilterSchritt> steps = filledSteps(zustand);
     std::vector<Entry> stored;
@@ -71,7 +71,7 @@ public:
             return false;
         if (teile[0].empty() && teile[2].empty() && teile[3] == STATUS_ENTRY)
             return nimmStatus(teile[1]);
-        const Filterwert zeile{teile[0], teile[3], teile[1]};
+        const FilterRow zeile{teile[0], teile[3], teile[1]};
         return taken() < GESPEICHERTE_SCHRITTE && passt(zeile) && nimmZeile(zeile, teile[2]);
     }
 
@@ -90,7 +90,7 @@ private:
         return true;
     }
 
-    static Filterbereich bereichVon(const Filterwert& zeile)
+    static Filterbereich bereichVon(const FilterRow& zeile)
     {
         if (zeile.Feldname == BENUTZDEF || zeile.Feldname.starts_with(ZUSBENUTZDEF))
             return Filterbereich::BenutzDef;
@@ -100,7 +100,7 @@ private:
     }
 
     // The parts of the page do not mix.
-    bool passt(const Filterwert& zeile)
+    bool passt(const FilterRow& zeile)
     {
         const Filterbereich bereich = bereichVon(zeile);
         if (taken() == 0)
@@ -108,7 +108,7 @@ private:
         return filter_.bereich == bereich && !zeile.Feldname.empty();
     }
 
-    bool nimmZeile(const Filterwert& zeile, std::string_view drittes)
+    bool nimmZeile(const FilterRow& zeile, std::string_view drittes)
     {
         if (zeile.Feldname == BENUTZDEF)
             return append({"", zeile.Benennung, CodeText, zeile.Wert});
@@ -131,7 +131,7 @@ private:
                std::string(1, static_cast<char>(ERSTE_EBENE + filter_.FilterAnzahl));
     }
 
-    bool step(const Filterwert& row, std::string_view column, std::string_view value, int code)
+    bool step(const FilterRow& row, std::string_view column, std::string_view value, int code)
     {
         return append({std::string(column), std::string(value), code, "", {row.Feldname, row.Benennung}});
     }
@@ -142,7 +142,7 @@ private:
         return true;
     }
 
-    bool zusatz(const Filterwert& zeile)
+    bool zusatz(const FilterRow& zeile)
     {
         const auto stelle = std::ranges::find(ZUSATZSPALTEN, zeile.Feldname.substr(ZUSBENUTZDEF.size()));
         if (stelle == ZUSATZSPALTEN.end())
@@ -152,7 +152,7 @@ private:
         return true;
     }
 
-    bool eigenschaft(const Filterwert& zeile, std::string_view drittes)
+    bool eigenschaft(const FilterRow& zeile, std::string_view drittes)
     {
         int code = 0;
         const auto gelesen = std::from_chars(drittes.data(), drittes.data() + drittes.size(), code);
@@ -171,7 +171,7 @@ private:
     }
 
     // "" when the row is no date.
-    static std::string_view datumsspalte(const Filterwert& zeile, int code)
+    static std::string_view datumsspalte(const FilterRow& zeile, int code)
     {
         const bool datumszeile = zeile.Feldname == "Kalender" || zeile.Feldname == "FilternDatum";
         for (const std::string_view spalte : {"Erstellt", "Geaendert"})
@@ -183,7 +183,7 @@ private:
     }
 
     // The operator in front of the date counts more than that of the code.
-    bool datum(const Filterwert& zeile, std::string_view spalte, int code)
+    bool datum(const FilterRow& zeile, std::string_view spalte, int code)
     {
         const auto [written, tag] = splitOperator(zeile.Wert);
         const int op = written.value_or(code % 10);

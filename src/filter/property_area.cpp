@@ -92,7 +92,7 @@ void Eigenschaftsbereich::leere()
 void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
 {
     leere();
-    Recordset& tabelle = kontext_.tabelle().tabelle;
+    Recordset& tabelle = kontext_.table().rows();
     LangeArbeit arbeit(kontext_.ports().fortschritt, "Filterlisten werden gefüllt ...");
     if (!tabelle.ladeSpalten(spaltenDerListen(tabelle), std::ref(arbeit)))
         return;

@@ -12,7 +12,7 @@ constexpr int SCHRITTE_OHNE_STRUKTUR = 5;
 bool ApplyPropertyFilter(Filterkontext& kontext)
 {
     Filterzustand& zustand = kontext.zustand();
-    const Statusbedingung& status = kontext.filter.status;
+    const StatusCondition& status = kontext.filter.status;
     if (zustand.FilterAnzahl > SCHRITTE_OHNE_STRUKTUR)
         return false;
     if (zustand.FilterSchritte[0].Wert.empty() && status.StatusFilter.empty())

@@ -188,7 +188,7 @@ void UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring)
 
 void ergaenzeSterne(Filterkontext& kontext)
 {
-    const std::vector<Filterwert> rows = kontext.FilterWerteTabelle();
+    const std::vector<FilterRow> rows = kontext.FilterWerteTabelle();
     for (std::size_t i = 0; i < rows.size(); ++i)
         if (const auto wert = mitStern(rows[i].Wert))
             setRowValue(kontext.zustand(), i, *wert);

@@ -12,7 +12,7 @@ std::ptrdiff_t obergrenze(std::ptrdiff_t von, std::ptrdiff_t bis)
     return von == 3 && bis == 5 ? 3 : bis;
 }
 
-Statusbedingung statusbedingung(const std::string& inhalt, const std::string& kurz)
+StatusCondition statusbedingung(const std::string& inhalt, const std::string& kurz)
 {
     return {{"             Status" + kurz, kurz},
             fmt::format(" ({})", inhalt),

@@ -77,7 +77,7 @@ private:
     void waehleImZweig(std::string_view Feldname, std::string_view wert, bool erlaubt);
     void fuelleHauptwerte();
     void meldeGesperrt(std::string_view text);
-    Recordset& tabelle() { return kontext_.tabelle().tabelle; }
+    Recordset& tabelle() { return kontext_.table().rows(); }
 
     Filterkontext& kontext_;
     Strukturknoten wurzel_;

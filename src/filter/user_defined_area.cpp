@@ -65,7 +65,7 @@ void BenutzDefBereich::fuelleListen()
     kennungen_.clear();
     zusatz_ = {};
     namen_ = alsListe(leseNamen(verbindung, tabelleVon(kontext_), kontext_.session.WhereStatus));
-    const std::size_t zeilen = kontext_.tabelle().anzahl * ZEILEN_JE_DOKUMENT; // Opening it has a progress of its own.
+    const std::size_t zeilen = kontext_.table().count() * ZEILEN_JE_DOKUMENT; // Opening it has a progress of its own.
     LangeArbeit arbeit(kontext_.ports().fortschritt, "Listen werden gefüllt ...");
     auto zusaetze = leseZusaetze(verbindung, tabelleVon(kontext_), zeilen, arbeit);
     std::ranges::transform(zusaetze, zusatz_.begin(), [](auto& werte) { return alsListe(std::move(werte)); });

@@ -36,7 +36,7 @@ public:
     BenutzDefLauf(Filterkontext& kontext, LangeArbeit& arbeit)
         : kontext_(kontext), arbeit_(arbeit), typ_(DOKUTYPEN[static_cast<std::size_t>(kontext.tab)]),
           schritte_(kontext.zustand()), ZusBenutzDef_(kontext.zustand().ZusBenutzDef),
-          gesamt_(kontext.tabelle().anzahl * (schritte_.anzahl() + 1) + SCHRITTWEITE)
+          gesamt_(kontext.table().count() * (schritte_.anzahl() + 1) + SCHRITTWEITE)
     {
         // A special table's documents are looked up among the parts first.
         const bool sonder = typ_.sondertabelle > 0;
@@ -262,15 +262,11 @@ private:
 
 } // namespace
 
-bool ApplyBenutzDefFilter(Filterkontext& kontext)
+std::optional<Recordset> ApplyBenutzDefFilter(Filterkontext& kontext)
 {
-    GefilterteTabelle& tabelle = kontext.tabelle(); // Opening it may take long as well.
+    kontext.table(); // Opening it has a progress of its own.
     LangeArbeit arbeit(kontext.ports().fortschritt, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
-    auto ergebnis = BenutzDefLauf(kontext, arbeit).fuehreAus();
-    if (!ergebnis)
-        return false;
-    tabelle.FilterErgebnis = std::move(*ergebnis);
-    return true;
+    return BenutzDefLauf(kontext, arbeit).fuehreAus();
 }
 
 } // namespace quelvarn

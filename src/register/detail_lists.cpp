@@ -3,8 +3,8 @@
 #include "base/date_time.h"
 #include "base/number_format.h"
 #include "database/sql/conditions.h"
+#include "documents/document_record.h"
 #include "platform/dateien.h"
-#include "register/document_record.h"
 #include "register/text_list.h"
 #include "session/session_state.h"
 

@@ -5,7 +5,7 @@
 #include "database/document_types.h"
 #include "filter/template_lookup.h"
 #include "platform/dateien.h"
-#include "register/relations.h"
+#include "register/document_questions.h"
 #include "session/error_report.h"
 #include "session/session_state.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "documents/document_record.h"
 #include "register/detail_lists.h"
-#include "register/document_record.h"
 #include "register/info_pages.h"
 #include "session/operations.h"
 

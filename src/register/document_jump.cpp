@@ -2,9 +2,9 @@
 
 #include "base/text.h"
 #include "database/document_types.h"
+#include "documents/row_memory.h"
 #include "platform/meldungen.h"
 #include "register/document_page.h"
-#include "register/row_memory.h"
 #include "register/usage_rows.h"
 #include "session/local_settings.h"
 
@@ -26,11 +26,9 @@ bool Dokumentsprung::ZeichnungZeigen(const std::string& filename)
 
 void Dokumentsprung::bereiteVor(const DokuTyp& typ, std::string_view hinweis)
 {
-    const Tabellenseite& tabelle = seite_.seite(typ.tab);
-    if (tabelle.zustand == NichtOffen)
-        seite_.TabelleNeuLaden(typ.tab);
+    const DocumentTable& table = seite_.tables().opened(typ.tab);
     // Intended: of a special table only the plain filter is asked about.
-    if (tabelle.zustand == Gefiltert || (tabelle.zustand == Filterergebnis && typ.sondertabelle == 0))
+    if (table.state() == TableState::Filtered || (table.state() == TableState::FilterResult && typ.sondertabelle == 0))
         frageNachFilter(typ, hinweis);
 }
 
@@ -43,7 +41,7 @@ void Dokumentsprung::frageNachFilter(const DokuTyp& typ, std::string_view hinwei
         return;
     if (seite_.tab() != typ.tab)
         seite_.waehleTab(typ.tab);
-    seite_.filterAufheben(typ.tab);
+    seite_.liftFilter(typ.tab);
 }
 
 // Harvel may have met the file by the letter of a drive or by the share behind it.
@@ -61,7 +59,7 @@ bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
 
 bool Dokumentsprung::moveTo(const DokuTyp& typ, const std::string& filename)
 {
-    Recordset& rows = seite_.seite(typ.tab).sichtbar();
+    Recordset& rows = seite_.tables()[typ.tab].visible();
     return std::ranges::any_of(documentsWithPath(session_.Verbindung, typ, filename), [&](const Dokumentname& name) {
         return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
     });

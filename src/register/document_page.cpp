@@ -2,64 +2,56 @@
 
 namespace quelvarn {
 
-DocumentPage::DocumentPage(SessionState& session, Operations& operations, GezeigteDateien& gezeigt)
-    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt),
-      details_(session, operations), verwendung_(session, operations, gezeigt, *this)
-{}
-
-void DocumentPage::zeilenGeaendert(int tab)
+DocumentPage::DocumentPage(SessionState& session, Operations& operations, DocumentTables& tables, FilterState& filter,
+                           GezeigteDateien& gezeigt)
+    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), tables_(tables),
+      filter_(filter), details_(session, operations), verwendung_(session, operations, gezeigt, *this)
 {
-    ++seiten_[tab].fassung;
-    operations_.changed(Part::Rows);
-    operations_.changed(Part::Document);
+    tables_.rowsReplaced = [this](int tab) {
+        if (tab == tables_.tab())
+            zeigeZeilen();
+        operations_.changed(Part::Document);
+    };
 }
 
 std::string DocumentPage::anzahlText() const
 {
-    const Tabellenseite& seite = aktuelleSeite();
-    if (!seite.geoeffnet())
+    if (!table().isOpen())
         return {};
     std::string text =
-        "  Solid Edge - Dokumente, " + session_.mehrzahl(tab_) + ", Anzahl: " + std::to_string(seite.anzahl);
-    const bool quickfilter = !seite.filterBeschreibung.empty() && seite.tabelle.RecordCount() > 0;
+        "  Solid Edge - Dokumente, " + session_.mehrzahl(tab()) + ", Anzahl: " + std::to_string(table().count());
+    const bool quickfilter = !table().narrowing().quickFilter.empty() && table().rows().RecordCount() > 0;
     if (!gezeigteWerte().empty() || quickfilter)
-        text += "; Filteranzahl: " + std::to_string(seite.sichtbar().RecordCount());
+        text += "; Filteranzahl: " + std::to_string(table().visible().RecordCount());
     return text;
 }
 
 std::string DocumentPage::zugriffText() const
 {
-    return statusLimited() ? aktuelleSeite().statusLimit.legende : zugriffstext(session_);
+    return statusLimited() ? table().narrowing().statusLimit.legende : zugriffstext(session_);
 }
 
-std::vector<Filterwert> DocumentPage::gezeigteWerte() const
+std::vector<FilterRow> DocumentPage::gezeigteWerte() const
 {
-    std::vector<Filterwert> werte = aktuelleSeite().gezeigteWerte;
+    std::vector<FilterRow> werte = table().narrowing().values;
     if (statusLimited())
-        werte.push_back(aktuelleSeite().statusLimit.row());
+        werte.push_back(table().narrowing().statusLimit.row());
     return werte;
 }
 
 std::string DocumentPage::infoKopf() const
 {
-    return "  Eigenschaften " + session_.einzahl(tab_);
+    return "  Eigenschaften " + session_.einzahl(tab());
 }
 
 bool DocumentPage::filterKnopf() const
 {
-    const int zustand = aktuelleSeite().zustand;
-    return zustand == Gefiltert || zustand == NeuereDaten;
+    return table().state() == TableState::Filtered || table().state() == TableState::NewerData;
 }
 
 std::string_view DocumentPage::zurueckTooltip() const
 {
     return filterKnopf() ? "Filterung aufheben, alle Dokumente anzeigen" : "Zum Anfang der Tabelle";
-}
-
-// Text and indicator panels take turns behind the head of the bar: the indicators are 3, 5, 7, 9 and 11.
-std::string& DocumentPage::aenderungspanel(int tab)
-{
-    return aenderungspanele_[static_cast<std::size_t>((DOKUTYPEN[tab].aenderungspanel - 3) / 2)];
 }
 
 } // namespace quelvarn

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "database/document_types.h"
+#include "documents/document_tables.h"
+#include "filter/filter_state.h"
 #include "platform/ports.h"
 #include "register/detail_pages.h"
+#include "register/document_facts.h"
 #include "register/info_pages.h"
-#include "register/table_page.h"
+#include "register/property_tree.h"
 #include "register/usage_page.h"
 #include "session/main_window.h"
 #include "session/operations.h"
@@ -20,13 +23,13 @@ namespace quelvarn {
 
 class GezeigteDateien;
 enum class Ansicht : int;
-struct Merkzeile;
 
 // State and operations of the document page (FormSEDoku). Follows the frame once it is registered there.
-class DocumentPage : public Rahmenteilnehmer, public Tabellenherr
+class DocumentPage : public Rahmenteilnehmer
 {
 public:
-    DocumentPage(SessionState& session, Operations& operations, GezeigteDateien& gezeigt);
+    DocumentPage(SessionState& session, Operations& operations, DocumentTables& tables, FilterState& filter,
+                 GezeigteDateien& gezeigt);
 
     // --- operations, one for each thing a person can do ---
     // Runs when the page is shown; does its work once per database.
@@ -74,24 +77,23 @@ public:
     bool zeigeImViewer(const std::string& filename);
     void verlasseViewer();
 
-    // --- what the filters ask ---
-    int filterTab() const override { return tab_; }
-    GefilterteTabelle& filterTabelle(int tab) override;
-    void filterGewechselt(int tab) override;
-    // Back to all rows, state 2. A table with newer data in the database is opened anew.
-    void filterAufheben(int tab) override;
+    // All rows of this table again.
+    void liftFilter(int tab);
 
     // --- state, for the projection ---
-    int tab() const { return tab_; }
-    const Tabellenseite& seite(int tab) const { return seiten_[tab]; }
-    Tabellenseite& seite(int tab) { return seiten_[tab]; }
-    const Tabellenseite& aktuelleSeite() const { return seiten_[tab_]; }
+    int tab() const { return tables_.tab(); }
+    DocumentTables& tables() { return tables_; }
+    // The table in front.
+    DocumentTable& table() { return tables_.current(); }
+    const DocumentTable& table() const { return tables_.current(); }
+    const Eigenschaftsbaum& tree(int tab) const { return trees_[static_cast<std::size_t>(tab)]; }
+    const Eigenschaftsbaum& tree() const { return tree(tab()); }
     std::string anzahlText() const;  // LabelSEDoku
     std::string zugriffText() const; // LblZugriffSEDoku: the limit of the statuses, or what the user may see
-    bool statusLimited() const { return aktuelleSeite().statusLimit.isSet(); }
-    std::vector<Filterwert> gezeigteWerte() const; // What filters the table shown, its status limit behind.
-    std::string infoKopf() const;                  // LblInfo head: "  Eigenschaften Bauteil"
-    bool filterKnopf() const;                      // Button 8 shows the filter image.
+    bool statusLimited() const { return table().narrowing().statusLimit.isSet(); }
+    std::vector<FilterRow> gezeigteWerte() const; // What filters the table shown, its status limit behind.
+    std::string infoKopf() const;                 // LblInfo head: "  Eigenschaften Bauteil"
+    bool filterKnopf() const;                     // Button 8 shows the filter image.
     std::string_view zurueckTooltip() const;
     const Statuskopf& statuskopf() const { return statuskopf_; }
     const std::string& dateinamePanel() const { return dateinamePanel_; } // panel 2 of StatusBarDatei
@@ -108,13 +110,7 @@ public:
     Verwendungsseite& verwendung() { return verwendung_; }
     // 1 the right-hand side shows the general page, 2 the viewer.
     int SeitenModus() const { return seitenModus_; }
-    // The indicator panels of StatusBarUpdate: part, sheet metal, assembly, drawing, weldment.
-    std::string& aenderungspanel(int tab);
-    const std::array<std::string, 5>& aenderungspanele() const { return aenderungspanele_; }
 
-    // Lifting a filter asks the filter engine to forget its steps for this tab; what it returns (its status condition)
-    // stays on the table.
-    std::function<Statusbedingung(int tab)> filterVergessen;
     // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
     std::function<void()> tabelleGewechselt;
     // Asked before a rebuild; false when another database was opened instead. Throws when there is none any more.
@@ -123,14 +119,13 @@ public:
     std::function<void()> bearbeiten;
 
 private:
-    void zeilenGeaendert(int tab);
     void zeigeTab(int tab);
-    void wechsle(const Merkzeile* rueckkehr);
     void zeigeZeilen();
-    Statusbedingung leereFilter(int tab);
-    void bindeOhneFilter(int tab);
+    void rememberCurrent();
     void vergissDatenbank();
-    void baumAufbauen(int tab);
+    void BaumAufbauen(int tab);
+    void KinderAufbauen();
+    Eigenschaftsbaum& treeInFront() { return trees_[static_cast<std::size_t>(tab())]; }
     void leereDokument(int tab);
     void zeigeNachModus();
     void zeigeAllgemein();
@@ -148,8 +143,10 @@ private:
     Operations& operations_;
     Ports& ports_;
     GezeigteDateien& gezeigt_;
-    std::array<Tabellenseite, ANZAHL_DOKUTYPEN> seiten_;
-    int tab_ = 0;
+    DocumentTables& tables_;
+    FilterState& filter_;
+    std::array<Eigenschaftsbaum, ANZAHL_DOKUTYPEN> trees_;
+    DocumentFacts facts_; // Of the document shown.
     std::string gemerkterPfad_;
     int seitenModus_ = 1;
     std::array<int, 6> seitenMerker_{};
@@ -163,7 +160,6 @@ private:
     Detailseiten details_;
     bool imViewer_ = false;
     Verwendungsseite verwendung_;
-    std::array<std::string, 5> aenderungspanele_;
 };
 
 } // namespace quelvarn

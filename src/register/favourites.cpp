@@ -2,11 +2,11 @@
 
 #include "base/text.h"
 #include "base/windows_path.h"
+#include "documents/row_memory.h"
 #include "platform/meldungen.h"
 #include "register/document_jump.h"
 #include "register/document_page.h"
 #include "register/favourite_rows.h"
-#include "register/row_memory.h"
 #include "session/error_report.h"
 
 #include <algorithm>
@@ -109,9 +109,10 @@ void Favoriten::FavoritHinzufuegen(const std::string& DokuBez, const std::string
 void Favoriten::zuFavoriten()
 {
     perform("Fehler beim Hinzufügen zu den Favoriten!", [&] {
-        const Tabellenseite& seite = seite_.aktuelleSeite();
-        if (seite.hatZeilen())
-            FavoritHinzufuegen(seite.record.DokuBez, seite.record.RevBez, typ().schluessel, seite.record.filename);
+        const DocumentTable& table = seite_.table();
+        if (table.hasRows())
+            FavoritHinzufuegen(table.record().DokuBez, table.record().RevBez, typ().schluessel,
+                               table.record().filename);
     });
 }
 
@@ -157,9 +158,9 @@ void Favoriten::wechsleZuFavorit()
     const Recordset& zeile = aktuelle().zeilen;
     const Favorit favorit = favoritVon(zeile);
     const Merkzeile gesucht{favorit.DokuBez, favorit.RevBez, zeile.Text("filenameFavoriten")};
-    if (seite_.aktuelleSeite().gefiltert())
+    if (seite_.table().isFiltered())
         Dokumentsprung(session_, ports_, seite_).frageNachFilter(typ(), HINWEIS_DOKUMENT);
-    if (stelleAufDokument(seite_.seite(seite_.tab()).sichtbar(), gesucht))
+    if (stelleAufDokument(seite_.table().visible(), gesucht))
         return seite_.zeileGewechselt();
     ports_.meldungen.warnung(TITEL, zeilen({
                                         "Datei ist in der Tabelle nicht vorhanden!",

@@ -40,7 +40,7 @@ bool mitDateiBox(Meldungen& meldungen, const std::function<void()>& operation)
 void DocumentPage::leseDatei()
 {
     session_.Dateiinfo = {};
-    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(aktuelleSeite().record.filename, ports_); });
+    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(table().record().filename, ports_); });
     datei_ = dateiSeite(session_.Dateiinfo);
 }
 

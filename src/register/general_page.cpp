@@ -1,6 +1,7 @@
 #include "base/collation.h"
 #include "database/document_types.h"
-#include "register/document_record.h"
+#include "documents/document_record.h"
+#include "register/document_facts.h"
 #include "register/info_pages.h"
 
 #include <fmt/format.h>
@@ -18,14 +19,21 @@ std::string datumOderLeer(Zeitpunkt datum)
     return datum == Zeitpunkt{} ? std::string() : formatDatum(datum);
 }
 
-void fuelleVerwendung(AllgemeineSeite& seite, const DokuRecord& record, const DokuTyp& typ)
+std::string yesNo(const DocumentFacts& facts, InfoSeite relation)
+{
+    if (!facts.relationsAsked)
+        return {};
+    return facts.has(relation) ? "Ja" : "Nein";
+}
+
+void fuelleVerwendung(AllgemeineSeite& seite, const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& typ)
 {
     const bool zeichnung = typ.schluessel == "Draft";
     seite.kopf39 = zeichnung ? "Modell:" : "Zeichnung:";
-    seite.wert40 = record.inZeichnung;
+    seite.wert40 = yesNo(facts, zeichnung ? InfoSeite::Enthaelt : InfoSeite::InZeichnung);
     if (!zeichnung) {
         seite.kopf8 = "Eingebaut:";
-        seite.wert9 = record.inBaugruppe;
+        seite.wert9 = yesNo(facts, InfoSeite::InBaugruppe);
     } else if (!record.F_05_leer.empty()) {
         seite.kopf8 = "Format:";
         seite.wert9 = record.F_05_leer;
@@ -34,7 +42,8 @@ void fuelleVerwendung(AllgemeineSeite& seite, const DokuRecord& record, const Do
 
 } // namespace
 
-AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DokuTyp& typ, bool verwendung, bool dateiVorhanden)
+AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& typ,
+                                bool verwendung, bool dateiVorhanden)
 {
     AllgemeineSeite seite;
     seite.leer = false;
@@ -59,9 +68,9 @@ AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DokuTyp& typ, bo
     seite.Erstellt = datumOderLeer(record.Erstellt);
     seite.Autor = record.Autor;
     if (verwendung)
-        fuelleVerwendung(seite, record, typ);
+        fuelleVerwendung(seite, record, facts, typ);
     seite.nichtVorhanden = !dateiVorhanden;
-    seite.neuereRevision = record.neuereRevision;
+    seite.neuereRevision = facts.newerRevision;
     return seite;
 }
 

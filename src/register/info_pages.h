@@ -5,6 +5,7 @@
 namespace quelvarn {
 
 struct DateiInfo;
+struct DocumentFacts;
 struct DokuRecord;
 struct DokuTyp;
 
@@ -69,7 +70,8 @@ struct StichKommSeite
 };
 
 // `verwendung`: the switch of the same name, without which the where-used lines stay hidden.
-AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DokuTyp& typ, bool verwendung, bool dateiVorhanden);
+AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& typ,
+                                bool verwendung, bool dateiVorhanden);
 DateiSeite dateiSeite(const DateiInfo& info);
 // A status outside 0 to 5 keeps the colour that was there.
 Statuskopf statuskopf(const DokuRecord& record, const std::string& anwender, unsigned bisherigeFarbe);

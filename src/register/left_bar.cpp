@@ -85,9 +85,9 @@ std::string_view LinkeLeiste::knopfWerte() const
     return zeigtWerte_ ? "Ausblenden der Filterwerte <<" : "Anzeigen der Filterwerte >>";
 }
 
-std::vector<Filterwert> LinkeLeiste::gezeigteWerte() const
+std::vector<FilterRow> LinkeLeiste::gezeigteWerte() const
 {
-    if (const std::vector<Filterwert>* gesucht = suche_.gesuchteWerte())
+    if (const std::vector<FilterRow>* gesucht = suche_.gesuchteWerte())
         return *gesucht;
     return seite_.gezeigteWerte();
 }

@@ -41,7 +41,7 @@ public:
     std::vector<std::string> favoritennamen(); // For the menu; a fault has its box.
     const std::string& LblFilter() const { return LblFilter_; }
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
-    std::vector<Filterwert> gezeigteWerte() const;
+    std::vector<FilterRow> gezeigteWerte() const;
 
     // Restores and runs a saved filter of the table shown.
     std::function<void(std::string_view Filtername)> nutzeGespeicherten;

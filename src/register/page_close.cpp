@@ -1,3 +1,4 @@
+#include "filter/execution.h"
 #include "register/document_page.h"
 #include "session/settings_writer.h"
 
@@ -9,7 +10,7 @@ void DocumentPage::schliessen()
         return;
     saveSettings(ports_, "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
         if (session_.Verbindung.offen())
-            schreibeDokumentseite(session_, tab_);
+            schreibeDokumentseite(session_, tab());
     });
     session_.FormSEDokuGeladen = false;
     vergissDatenbank();
@@ -24,16 +25,12 @@ void DocumentPage::datenbankWechselt()
 
 void DocumentPage::vergissDatenbank()
 {
-    leereDokument(tab_);
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        const unsigned fassung = seiten_[tab].fassung;
-        seiten_[tab] = {};
-        seiten_[tab].fassung = fassung + 1; // A grid must see that its rows are gone.
-        if (filterVergessen)
-            filterVergessen(tab);
-    }
+    leereDokument(tab());
+    tables_.closeAll(); // A grid sees that its rows are gone.
+    trees_ = {};
+    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab)
+        forgetFilter(filter_, tab);
     seitenMerker_.fill(0);
-    aenderungspanele_ = {};
     gemerkterPfad_.clear();
 }
 
@@ -45,8 +42,8 @@ void DocumentPage::seiteGezeigt(Seite seite)
 
 void DocumentPage::baumschalterGeaendert()
 {
-    if (aktuelleSeite().hatZeilen())
-        operations_.report(Part::Document, [&] { ZeileAktualisieren(tab_); });
+    if (table().hasRows())
+        operations_.report(Part::Document, [&] { ZeileAktualisieren(tab()); });
 }
 
 } // namespace quelvarn

@@ -30,17 +30,17 @@ constexpr std::array<Datumsfeld, 2> DATUMSFELDER{{
     {"Geaendert", "Bearbeiter", CodeGeaendert},
 }};
 
-Filterwert zeileFuerText(const FilterSchritt& schritt)
+FilterRow zeileFuerText(const FilterSchritt& schritt)
 {
     const auto feld = std::find_if(SUCHFELDER.begin(), SUCHFELDER.end(),
                                    [&](const Suchfeld& kandidat) { return kandidat.feld == schritt.Feldname; });
     return {"DokubezDateiFile", std::string(feld->benennung), schritt.Wert};
 }
 
-std::string beschreibung(const std::vector<Filterwert>& werte)
+std::string beschreibung(const std::vector<FilterRow>& werte)
 {
     std::string text;
-    for (const Filterwert& wert : werte)
+    for (const FilterRow& wert : werte)
         text += (text.empty() ? "" : "; ") + wert.Benennung + " " + wert.Wert;
     return text;
 }
@@ -75,15 +75,15 @@ void Schnellfilter::filtereText()
                         fmt::format("{}{}*", davor, suche_.CombSuchStr()),
                         bisher == 0 ? CodeDatei : CodeText,
                         {}});
-    std::vector<Filterwert> werte;
+    std::vector<FilterRow> werte;
     std::transform(schritte.begin(), schritte.end(), std::back_inserter(werte), zeileFuerText);
     wendeAn(std::move(schritte), std::move(werte), Run::OneByOne);
 }
 
 bool Schnellfilter::laeuft() const
 {
-    return seite_.tab() == tab_ && seite_.aktuelleSeite().zustand == Gefiltert &&
-           seite_.aktuelleSeite().tabelle.filterText() == filterText_;
+    return seite_.tab() == tab_ && seite_.table().state() == TableState::Filtered &&
+           seite_.table().rows().filterText() == filterText_;
 }
 
 int Schnellfilter::schritt() const
@@ -126,7 +126,7 @@ bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
     std::vector<FilterSchritt> schritte{{std::string(feld.feld), formatDatum(tag), feld.code, {}}};
     if (ChAnwender_)
         schritte.push_back({std::string(feld.person), session_.Anwender, CodeText, {}});
-    std::vector<Filterwert> werte;
+    std::vector<FilterRow> werte;
     for (const FilterSchritt& schritt : schritte)
         werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});
     return wendeAn(std::move(schritte), std::move(werte), Run::Together);
@@ -150,25 +150,22 @@ void Schnellfilter::setzeTage(int SliderTage)
     operations_.changed(Part::LeftBar);
 }
 
-bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run)
+bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<FilterRow> werte, Run run)
 {
-    Filterkontext kontext{session_, operations_, filter_, seite_, seite_.tab()};
-    GefilterteTabelle& tabelle = kontext.tabelle();
-    if (tabelle.anzahl == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
+    Filterkontext kontext{session_, operations_, filter_, seite_.tables(), seite_.tab()};
+    DocumentTable& table = kontext.table();
+    if (table.count() == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
         return false;
-    tabelle.zustand = Gefiltert;
-    tabelle.FilterErgebnis = Recordset();
     const auto left = static_cast<std::size_t>(kontext.zustand().FilterAnzahl);
     werte.resize(left);
     schritte.resize(run == Run::OneByOne ? left : 0);
     schritte_ = std::move(schritte);
     zeitraum_.clear();
     tab_ = kontext.tab;
-    tabelle.statusLimit = filter_.status;
-    tabelle.filterBeschreibung = beschreibung(werte);
-    tabelle.gezeigteWerte = std::move(werte);
-    filterText_ = tabelle.tabelle.filterText();
-    seite_.filterGewechselt(kontext.tab);
+    filterText_ = table.rows().filterText();
+    std::string told = beschreibung(werte);
+    table.showFiltered({std::move(werte), filter_.status, std::move(told)});
+    kontext.tables.announce(kontext.tab);
     reportStepsWithoutRows(kontext);
     return true;
 }

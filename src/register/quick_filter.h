@@ -52,7 +52,7 @@ private:
     // One by one: a step that leaves nothing is told and left out. Together: they are one condition.
     enum class Run { OneByOne, Together };
 
-    bool wendeAn(std::vector<FilterSchritt> schritte, std::vector<Filterwert> werte, Run run);
+    bool wendeAn(std::vector<FilterSchritt> schritte, std::vector<FilterRow> werte, Run run);
     bool laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte, Run run);
     void filtereText();
     void zeigeAb(const Zeitpunkt& tag, std::string_view seit);

@@ -97,9 +97,9 @@ const std::vector<std::string>& Schnellsuche::suchtexte() const
     return session_.Suchtexte;
 }
 
-const std::vector<Filterwert>* Schnellsuche::gesuchteWerte() const
+const std::vector<FilterRow>* Schnellsuche::gesuchteWerte() const
 {
-    const bool dieselben = tabDerWerte_ == seite_.tab() && fassungDerWerte_ == seite_.aktuelleSeite().fassung;
+    const bool dieselben = tabDerWerte_ == seite_.tab() && fassungDerWerte_ == seite_.table().generation();
     return dieselben && !werte_.empty() ? &werte_ : nullptr;
 }
 
@@ -114,10 +114,10 @@ const std::string& Schnellsuche::nimmText()
 Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
 {
     tabDerWerte_ = seite_.tab();
-    fassungDerWerte_ = seite_.aktuelleSeite().fassung;
+    fassungDerWerte_ = seite_.table().generation();
     Ausgang ausgang = Ausgang::NichtGesucht;
     operations_.report([&] {
-        if (!seite_.aktuelleSeite().hatZeilen())
+        if (!seite_.table().hasRows())
             return;
         if (!spalteBereit()) {
             ausgang = Ausgang::Aufgegeben;
@@ -135,7 +135,7 @@ Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
 
 Recordset& Schnellsuche::zeilen()
 {
-    return seite_.seite(seite_.tab()).sichtbar();
+    return seite_.table().visible();
 }
 
 // The first search of a column reads it, which takes its time in a large table. False: given up.

@@ -64,7 +64,7 @@ public:
     const Suchfeld& feld() const { return SUCHFELDER[suchfeld_]; }
     Suchverfahren verfahren() const { return OptSuchPos_; }
     // What the last search looked for, while the same rows are shown; else nullptr.
-    const std::vector<Filterwert>* gesuchteWerte() const;
+    const std::vector<FilterRow>* gesuchteWerte() const;
 
 private:
     enum class Ausgang { Gesucht, NichtGesucht, Aufgegeben };
@@ -84,7 +84,7 @@ private:
     std::size_t suchfeld_ = 0;
     Suchverfahren OptSuchPos_ = TextAmAnfang;
     Suchbeginn beginn_ = Suchbeginn::Oben;
-    std::vector<Filterwert> werte_;
+    std::vector<FilterRow> werte_;
     int tabDerWerte_ = 0;
     unsigned fassungDerWerte_ = 0;
 };

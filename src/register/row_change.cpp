@@ -8,63 +8,62 @@ namespace quelvarn {
 void DocumentPage::zeileGewaehlt(std::size_t position)
 {
     operations_.report(Part::Document, [&] {
-        Recordset& zeilen = seiten_[tab_].sichtbar();
+        Recordset& zeilen = table().visible();
         if (!zeilen.offen() || position >= zeilen.RecordCount())
             return;
         zeilen.setzeAbsolutePosition(position);
-        ZeileAktualisieren(tab_);
+        ZeileAktualisieren(tab());
     });
 }
 
 void DocumentPage::zeileVor()
 {
     operations_.report(Part::Document, [&] {
-        Recordset& zeilen = seiten_[tab_].sichtbar();
+        Recordset& zeilen = table().visible();
         if (zeilen.offen() && !zeilen.Eof())
             zeilen.MoveNext();
-        ZeileAktualisieren(tab_);
+        ZeileAktualisieren(tab());
     });
 }
 
 void DocumentPage::zeileGewechselt()
 {
-    operations_.report(Part::Document, [&] { ZeileAktualisieren(tab_); });
+    operations_.report(Part::Document, [&] { ZeileAktualisieren(tab()); });
 }
 
 void DocumentPage::ZeileAktualisieren(int tab)
 {
-    Recordset& zeilen = seiten_[tab].sichtbar();
+    Recordset& zeilen = tables_[tab].visible();
     if (zeilen.offen() && !zeilen.leer() && (zeilen.Eof() || zeilen.Bof()))
         zeilen.MoveFirst();
-    baumAufbauen(tab);
+    BaumAufbauen(tab);
 }
 
-void DocumentPage::baumAufbauen(int tab)
+void DocumentPage::BaumAufbauen(int tab)
 {
-    const DokuTyp& typ = DOKUTYPEN[tab];
-    Tabellenseite& seite = seiten_[tab];
+    DocumentTable& shown = tables_[tab];
     verlasseViewer();
-    seite.baum.leere();
-    if (seite.zustand <= NichtOffen)
+    trees_[static_cast<std::size_t>(tab)].leere();
+    facts_ = {};
+    if (!shown.isOpen())
         return;
-    if (!seite.hatZeilen())
+    if (!shown.hasRows())
         return leereDokument(tab);
 
-    seite.record = leseDokuRecord(seite.sichtbar(), typ);
-    session_.AktDoku = seite.record.alsAktDoku(typ.typNachZeile);
-    operations_.report([&] { // A fault leaves the tree as far as it was built; the document shows all the same.
-        BaumBauer bauer(seite, typ, session_, ports_);
-        bauer.eigenschaften();
+    const DokuRecord& record = shown.readRecord();
+    session_.AktDoku = record.alsAktDoku(shown.type().typNachZeile);
+    operations_.report([&] { // After a fault the document shows with what was found.
         if (session_.Tree.Knoten) {
             leseDatei();
-            bauer.KinderAufbauen();
+            findPropertyFacts(facts_, record, shown.type(), session_);
         }
-        bauer.obersteEbene();
+        findFacts(facts_, record, shown.type(), session_, ports_);
     });
-    stichKomm_ = {seite.record.Stichwoerter, seite.record.Kommentar};
-    dateinamePanel_ = seite.record.Dateiname;
-    ordnerPanel_ = Ordnername(seite.record.filename);
-    statuskopf_ = quelvarn::statuskopf(seite.record, session_.Anwender, statuskopf_.farbe);
+    trees_[static_cast<std::size_t>(tab)] = treeOf(record, facts_, shown.type(), session_.Tree);
+    stichKomm_ = {record.Stichwoerter, record.Kommentar};
+    dateinamePanel_ = record.Dateiname;
+    ordnerPanel_ = Ordnername(record.filename);
+    statuskopf_ = quelvarn::statuskopf(record, session_.Anwender, statuskopf_.farbe);
     zeigeNachModus();
 }
 
@@ -77,8 +76,9 @@ void DocumentPage::zeigeDateiUnten(const std::string& filename)
 
 void DocumentPage::leereDokument(int tab)
 {
-    seiten_[tab].baum.leere();
-    seiten_[tab].record = {};
+    trees_[static_cast<std::size_t>(tab)].leere();
+    facts_ = {};
+    tables_[tab].forgetRecord();
     session_.AktDoku = {};
     session_.Dateiinfo = {};
     seitenModus_ = 1;

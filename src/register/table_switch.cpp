@@ -1,7 +1,6 @@
+#include "documents/row_memory.h"
+#include "filter/execution.h"
 #include "register/document_page.h"
-#include "register/row_memory.h"
-
-#include <utility>
 
 namespace quelvarn {
 
@@ -21,7 +20,7 @@ void DocumentPage::waehleTab(int tab)
 
 void DocumentPage::zeigeTab(int tab)
 {
-    tab_ = tab;
+    tables_.bringToFront(tab);
     dateinamePanel_.clear();
     ordnerPanel_.clear();
     statuskopf_.text.clear();
@@ -29,95 +28,69 @@ void DocumentPage::zeigeTab(int tab)
 
 void DocumentPage::TabelleWechseln()
 {
-    wechsle(nullptr);
-}
-
-void DocumentPage::wechsle(const Merkzeile* rueckkehr)
-{
     if (tabelleGewechselt)
         tabelleGewechselt();
     seitenMerker_.fill(0);
-    Tabellenseite& seite = seiten_[tab_];
-    switch (seite.zustand) {
-    case NichtOffen:
-        leereDokument(tab_);
-        TabelleNeuLaden(tab_);
-        zeigeZeilen();
+    switch (table().state()) {
+    case TableState::NotOpen:
+        leereDokument(tab());
+        tables_.reload(tab());
         break;
-    case Leer:
-        leereDokument(tab_);
-        break;
-    case Offen:
-    case Gefiltert:
-    case NeuereDaten:
-    case Filterergebnis:
-        ZeileAktualisieren(tab_);
-        break;
-    case Neuaufbau:
-        TabelleNeuLaden(tab_);
-        bindeOhneFilter(tab_);
-        if (rueckkehr && seite.hatZeilen())
-            stelleAuf(seite.tabelle, *rueckkehr);
-        zeigeZeilen();
+    case TableState::Rebuild:
+        tables_.reload(tab());
+        tables_.showAll(tab(), forgetFilter(filter_, tab()));
         break;
     default:
         break;
     }
-    if (seite.hatZeilen())
-        session_.AktDoku = seite.record.alsAktDoku(DOKUTYPEN[tab_].typNachTabwechsel);
+    zeigeZeilen();
+    rememberCurrent();
+}
+
+void DocumentPage::rememberCurrent()
+{
+    if (table().hasRows())
+        session_.AktDoku = table().record().alsAktDoku(table().type().typNachTabwechsel);
 }
 
 void DocumentPage::zeigeZeilen()
 {
-    if (seiten_[tab_].zustand < Offen)
-        leereDokument(tab_);
+    if (table().state() < TableState::Open)
+        leereDokument(tab());
     else
-        ZeileAktualisieren(tab_);
+        ZeileAktualisieren(tab());
 }
 
 void DocumentPage::neuaufbauen()
 {
     operations_.perform(Part::Document, "Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!", [&] {
         if (!databaseStillOpen || databaseStillOpen())
-            baueNeuAuf(tab_);
+            baueNeuAuf(tab());
     });
 }
 
+// When the rows cannot be had, everything stays as it was.
 void DocumentPage::baueNeuAuf(int tab)
 {
-    Tabellenseite& seite = seiten_[tab];
-    const Merkzeile zeile = merkeZeile(seite);
-    const int vorher = std::exchange(seite.zustand, Neuaufbau);
-    const std::string dateiname = dateinamePanel_;
-    const std::string ordner = ordnerPanel_;
-    const std::string kopf = statuskopf_.text;
-    const int vorherigerTab = tab_;
-    try {
-        zeigeTab(tab);
-        wechsle(&zeile);
-    } catch (...) {
-        if (seite.zustand == Neuaufbau) { // The rows could not be had: those shown stay, with their filter.
-            seite.zustand = vorher;
-            tab_ = vorherigerTab;
-            dateinamePanel_ = dateiname;
-            ordnerPanel_ = ordner;
-            statuskopf_.text = kopf;
-        }
-        throw;
-    }
-    aenderungspanel(tab).clear();
+    DocumentTable& rebuilt = tables_[tab];
+    const Merkzeile row = merkeZeile(rebuilt);
+    tables_.reload(tab);
+    tables_.showAll(tab, forgetFilter(filter_, tab));
+    if (rebuilt.hasRows())
+        stelleAuf(rebuilt.rows(), row);
+    tables_.indicator(tab).clear();
+    waehleTab(tab);
 }
 
 void DocumentPage::zurueck()
 {
     operations_.perform(Part::Document, "Filterung aufheben", "Fehler beim Aufheben der Filterung!", [&] {
-        Tabellenseite& seite = seiten_[tab_];
-        if (seite.gefiltert() || seite.zustand == NeuereDaten)
-            return filterAufheben(tab_);
-        if (!seite.hatZeilen())
+        if (table().hidesRows())
+            return liftFilter(tab());
+        if (!table().hasRows())
             return;
-        seite.tabelle.MoveFirst();
-        ZeileAktualisieren(tab_);
+        table().rows().MoveFirst();
+        ZeileAktualisieren(tab());
     });
 }
 

@@ -75,7 +75,7 @@ bool ObereLeiste::bedienbar(std::string_view schluessel) const
     if (schluessel == "In Benutzung..")
         return !session_.CheckInOutOn;
     const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
-    return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || seite_.aktuelleSeite().hatZeilen());
+    return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || seite_.table().hasRows());
 }
 
 bool ObereLeiste::gedrueckt(std::string_view schluessel) const

@@ -1,101 +1,88 @@
 #include "register/tree_builder.h"
 
 #include "database/document_types.h"
-#include "register/relations.h"
+#include "documents/document_record.h"
+#include "register/document_facts.h"
 #include "register/usage_kinds.h"
-#include "register/usage_rows.h"
-#include "session/local_settings.h"
-#include "session/session_state.h"
+#include "session/tree_switches.h"
+
+#include <numeric>
 
 namespace quelvarn {
 namespace {
 
-std::string jaNein(bool ja)
+Knoten node(std::string_view key, std::string_view text)
 {
-    return ja ? "Ja" : "Nein";
+    return {std::string(key), std::string(text), false, false, {}};
 }
+
+// Values that cancel to zero count as none, and only the first three features count.
+bool hasMainFeatures(const DokuRecord& record)
+{
+    const double sum = std::accumulate(record.Hauptwert.begin(), record.Hauptwert.end(), 0.0);
+    return sum != 0 || !record.Hauptmerkmal[0].empty() || !record.Hauptmerkmal[1].empty() ||
+           !record.Hauptmerkmal[2].empty();
+}
+
+Knoten propertiesNode(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
+                      const Baumschalter& switches)
+{
+    Knoten properties = node("KeyEigen", knoten::EIGENSCHAFTEN);
+    const auto child = [&](bool there, std::string_view text) {
+        if (there)
+            properties.kinder.push_back(node("", text));
+    };
+    child(true, knoten::DATEI);
+    if (!facts.properties)
+        return properties;
+    const bool ofFiles = type.sondertabelle == 0;
+    child(switches.HauptMerk && hasMainFeatures(record), knoten::HAUPTMERKMALE);
+    child(switches.BenutzDef && facts.properties->userDefined, knoten::BENUTZDEF);
+    child(switches.Versendet && ofFiles && facts.properties->sent, knoten::VERSENDET);
+    child(switches.StichKomm && !(record.Stichwoerter.empty() && record.Kommentar.empty()), knoten::STICHKOMM);
+    child(facts.properties->additionalDocuments, knoten::ZUSDOKU);
+    return properties;
+}
+
+// The keys of the nodes of composition and where-used, in their order.
+struct RelationNode
+{
+    InfoSeite page;
+    std::string_view key;
+};
+constexpr std::array RELATION_NODES{
+    RelationNode{InfoSeite::Enthaelt, knoten::ENTHAELT},
+    RelationNode{InfoSeite::InBaugruppe, "EnthaltenInAssemb"},
+    RelationNode{InfoSeite::InZeichnung, "EnthaltenInDraft"},
+    RelationNode{InfoSeite::InSchweissteil, "EnthaltenInWeld"},
+    RelationNode{InfoSeite::EnthaeltBaugruppe, "EnthaeltAssemb"},
+};
 
 } // namespace
 
-BaumBauer::BaumBauer(Tabellenseite& seite, const DokuTyp& typ, SessionState& session, const Ports& ports)
-    : seite_(seite), typ_(typ), session_(session), ports_(ports), pfad_(seite.record.filename)
+Eigenschaftsbaum treeOf(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
+                        const Baumschalter& switches)
 {
-    UniversalNachLaufwerk(pfad_, ports);
-}
-
-void BaumBauer::fuegeAn(std::string_view schluessel, std::string_view text)
-{
-    seite_.baum.wurzeln.push_back({std::string(schluessel), std::string(text), false, false, {}});
-}
-
-void BaumBauer::fuegeKindAn(std::string_view text)
-{
-    seite_.baum.wurzeln.front().kinder.push_back({"", std::string(text), false, false, {}});
-}
-
-void BaumBauer::eigenschaften()
-{
-    fuegeAn("KeyEigen", knoten::EIGENSCHAFTEN);
-    seite_.baum.wurzeln.front().offen = session_.Tree.Knoten;
-    fuegeKindAn(knoten::DATEI);
-}
-
-void BaumBauer::obersteEbene()
-{
-    revision();
-    fuegeAn("KeySmartView", knoten::SMARTVIEWER);
-    if (typ_.schluessel == "Draft")
-        zeichnung();
-    else if (session_.Tree.Verwendung)
-        verwendung();
-}
-
-void BaumBauer::revision()
-{
-    DokuRecord& record = seite_.record;
-    const Revisionsstand stand = revisionsstand(session_.Verbindung, typ_.tabelle, record.DokuBez);
-    record.neuereRevision = neuereRevision(stand, record);
-    if (typ_.sondertabelle != 0 || !session_.Tree.Revision)
-        return;
-    if (record.RevBez == "0" && !stand.mehrere)
-        return;
-    fuegeAn(knoten::REVISION, knoten::REVISION);
-    seite_.baum.wurzeln.back().rot = record.neuereRevision;
-}
-
-// Adds the node when the link tables know of something.
-bool BaumBauer::fuegeVerwendungAn(InfoSeite seite, std::string_view schluessel)
-{
-    const Verwendungsart& art = verwendungsartVon(seite);
-    if (!gibtEsVerwendung(session_.Verbindung, art, seite_.record, pfad_))
-        return false;
-    fuegeAn(schluessel, art.knoten);
-    return true;
-}
-
-void BaumBauer::verwendung()
-{
-    DokuRecord& record = seite_.record;
-    record.inBaugruppe = jaNein(fuegeVerwendungAn(InfoSeite::InBaugruppe, "EnthaltenInAssemb"));
-    record.inZeichnung = jaNein(fuegeVerwendungAn(InfoSeite::InZeichnung, "EnthaltenInDraft"));
-    if (typ_.schluessel == "Assemb") {
-        fuegeVerwendungAn(InfoSeite::InSchweissteil, "EnthaltenInWeld");
-        fuegeAn(knoten::BESTEHT_AUS, knoten::BESTEHT_AUS);
+    Eigenschaftsbaum tree;
+    tree.BaumAufgebaut = facts.properties.has_value();
+    const auto add = [&](std::string_view key, std::string_view text) { tree.wurzeln.push_back(node(key, text)); };
+    tree.wurzeln.push_back(propertiesNode(record, facts, type, switches));
+    tree.wurzeln.front().offen = switches.Knoten;
+    if (type.sondertabelle == 0 && switches.Revision && (record.RevBez != "0" || facts.severalRevisions)) {
+        add(knoten::REVISION, knoten::REVISION);
+        tree.wurzeln.back().rot = facts.newerRevision;
     }
-    if (typ_.schluessel == "Weld")
-        fuegeVerwendungAn(InfoSeite::EnthaeltBaugruppe, "EnthaeltAssemb");
-}
-
-void BaumBauer::zeichnung()
-{
-    DokuRecord& record = seite_.record;
-    if (session_.Tree.TIFFDoku && !findTiff(session_.Verbindung, ports_.dateien, record).empty())
-        fuegeAn(knoten::TIFF, knoten::TIFF);
-    if (session_.Tree.PDFDoku && !findPdf(ports_.dateien, record).empty())
-        fuegeAn(knoten::PDF, knoten::PDF);
-    if (!session_.Tree.Verwendung)
-        return;
-    record.inZeichnung = jaNein(fuegeVerwendungAn(InfoSeite::Enthaelt, knoten::ENTHAELT));
+    add("KeySmartView", knoten::SMARTVIEWER);
+    if (facts.tiff)
+        add(knoten::TIFF, knoten::TIFF);
+    if (facts.pdf)
+        add(knoten::PDF, knoten::PDF);
+    for (const auto& [page, key] : RELATION_NODES)
+        if (facts.has(page))
+            add(key, verwendungsartVon(page).knoten);
+    if (switches.Verwendung && type.schluessel == "Assemb")
+        add(knoten::BESTEHT_AUS, knoten::BESTEHT_AUS);
+    return tree;
 }
 
 } // namespace quelvarn

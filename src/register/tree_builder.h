@@ -1,43 +1,16 @@
 #pragma once
 
-#include "platform/ports.h"
-#include "register/info_pages.h"
-#include "register/table_page.h"
-
-#include <string>
-#include <string_view>
+#include "register/property_tree.h"
 
 namespace quelvarn {
 
+struct Baumschalter;
+struct DocumentFacts;
+struct DokuRecord;
 struct DokuTyp;
-struct SessionState;
 
-// Builds the tree of a page's record, node by node: a fault leaves it as far as it was built.
-class BaumBauer
-{
-public:
-    BaumBauer(Tabellenseite& seite, const DokuTyp& typ, SessionState& session, const Ports& ports);
-
-    // "Eigenschaften" with its first child.
-    void eigenschaften();
-    // All other nodes of the top level. Writes what they found into the record as well.
-    void obersteEbene();
-    // The further children of "Eigenschaften"; does nothing when they are there already.
-    void KinderAufbauen();
-
-private:
-    void revision();
-    void verwendung();
-    bool fuegeVerwendungAn(InfoSeite seite, std::string_view schluessel);
-    void zeichnung();
-    void fuegeAn(std::string_view schluessel, std::string_view text);
-    void fuegeKindAn(std::string_view text);
-
-    Tabellenseite& seite_;
-    const DokuTyp& typ_;
-    SessionState& session_;
-    const Ports& ports_;
-    std::string pfad_; // Of the document, on a drive.
-};
+// The property tree of a document. The children of its first node are complete once the facts tell of properties.
+Eigenschaftsbaum treeOf(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
+                        const Baumschalter& switches);
 
 } // namespace quelvarn

@@ -4,8 +4,8 @@
 #include "platform/meldungen.h"
 #include "platform/zwischenablage.h"
 #include "register/document_page.h"
+#include "register/document_questions.h"
 #include "register/file_boxes.h"
-#include "register/relations.h"
 #include "register/tree_builder.h"
 #include "register/usage_kinds.h"
 #include "use/shown_files.h"
@@ -55,10 +55,10 @@ int merkwert(int tab, InfoSeite seite)
 
 void DocumentPage::knotenGewaehlt(std::string_view text)
 {
-    if (!aktuelleSeite().baum.finde(text))
+    if (!tree().finde(text))
         return;
     operations_.perform(Part::Document, "Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
-        seiten_[tab_].baum.gewaehlt = text;
+        treeInFront().gewaehlt = text;
         if (text == knoten::EIGENSCHAFTEN)
             return zeigeEigenschaften();
         if (text == knoten::SMARTVIEWER) {
@@ -80,20 +80,26 @@ void DocumentPage::knotenGewaehlt(std::string_view text)
 
 void DocumentPage::knotenAufgeklappt()
 {
-    operations_.report(Part::Document, [&] {
-        Tabellenseite& seite = seiten_[tab_];
-        if (seite.baum.wurzeln.empty())
-            return;
-        seite.baum.wurzeln.front().offen = true;
-        BaumBauer(seite, DOKUTYPEN[tab_], session_, ports_).KinderAufbauen();
-    });
+    operations_.report(Part::Document, [&] { KinderAufbauen(); });
+}
+
+void DocumentPage::KinderAufbauen()
+{
+    Eigenschaftsbaum& tree = treeInFront();
+    if (tree.wurzeln.empty())
+        return;
+    const DokuRecord& record = table().record();
+    operations_.report([&] { findPropertyFacts(facts_, record, table().type(), session_); });
+    std::string chosen = std::move(tree.gewaehlt);
+    tree = treeOf(record, facts_, table().type(), session_.Tree);
+    tree.gewaehlt = std::move(chosen);
+    tree.wurzeln.front().offen = true;
 }
 
 void DocumentPage::knotenZugeklappt()
 {
-    Tabellenseite& seite = seiten_[tab_];
-    if (!seite.baum.wurzeln.empty())
-        seite.baum.wurzeln.front().offen = false;
+    if (!tree().wurzeln.empty())
+        treeInFront().wurzeln.front().offen = false;
     operations_.changed(Part::Document);
 }
 
@@ -103,7 +109,7 @@ void DocumentPage::merkeSeite(InfoSeite seite)
     if (!session_.Tree.Knoten || merker == MERKSEITEN.end())
         return;
     seitenMerker_.fill(0);
-    seitenMerker_[static_cast<std::size_t>(merker - MERKSEITEN.begin())] = merkwert(tab_, seite);
+    seitenMerker_[static_cast<std::size_t>(merker - MERKSEITEN.begin())] = merkwert(tab(), seite);
 }
 
 void DocumentPage::zeigeEigenschaften()
@@ -115,10 +121,10 @@ void DocumentPage::zeigeEigenschaften()
 
 void DocumentPage::zeigeAllgemein()
 {
-    const Tabellenseite& seite = aktuelleSeite();
+    const DokuRecord& record = table().record();
     const bool vorhanden =
-        session_.Tree.Knoten ? session_.Dateiinfo.vorhanden : ports_.dateien.dateiVorhanden(seite.record.filename);
-    allgemein_ = allgemeineSeite(seite.record, DOKUTYPEN[tab_], session_.Tree.Verwendung, vorhanden);
+        session_.Tree.Knoten ? session_.Dateiinfo.vorhanden : ports_.dateien.dateiVorhanden(record.filename);
+    allgemein_ = allgemeineSeite(record, facts_, table().type(), session_.Tree.Verwendung, vorhanden);
     const auto merker = std::ranges::find(seitenMerker_, BLEIBT);
     const bool bleibt = session_.Tree.Knoten && merker != seitenMerker_.end();
     zeigeSeite(bleibt ? MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())] : InfoSeite::Allgemein);
@@ -134,12 +140,12 @@ void DocumentPage::zeigeSeite(InfoSeite seite)
     infoSeite_ = seite;
     if (const Verwendungsart* art = findVerwendungsart(seite))
         verwendung_.fuelle(*art);
-    details_.fuelle(seite, DOKUTYPEN[tab_], aktuelleSeite().record);
+    details_.fuelle(seite, table().type(), table().record());
 }
 
 bool DocumentPage::zeigeViewer()
 {
-    if (!zeigeOderBox(Ansicht::Eigenschaften, aktuelleSeite().record.filename))
+    if (!zeigeOderBox(Ansicht::Eigenschaften, table().record().filename))
         return false;
     seitenModus_ = 2;
     zeigeSeite(InfoSeite::Viewer);
@@ -148,7 +154,7 @@ bool DocumentPage::zeigeViewer()
 
 void DocumentPage::oeffnePdf()
 {
-    const DokuRecord& record = aktuelleSeite().record;
+    const DokuRecord& record = table().record();
     const std::string pfad = mitEndung(record.filename, "pdf");
     if (findPdf(ports_.dateien, record).empty())
         meldeDateiFehlt(ports_.meldungen, pfad);

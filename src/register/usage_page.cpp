@@ -88,7 +88,7 @@ void Verwendungsseite::fuelle(const Verwendungsart& art)
 {
     leere();
     art_ = &art;
-    const DokuRecord& record = seite_.aktuelleSeite().record;
+    const DokuRecord& record = seite_.table().record();
     std::string pfad = record.filename;
     UniversalNachLaufwerk(pfad, ports_);
     zeilen_ = verwendungszeilen(session_.Verbindung, art, record, pfad);

@@ -5,8 +5,9 @@
 #include "database/connection.h"
 #include "database/document_types.h"
 #include "database/sql/conditions.h"
-#include "register/document_record.h"
-#include "register/relations.h"
+#include "documents/document_record.h"
+#include "register/document_facts.h"
+#include "register/document_questions.h"
 #include "register/usage_kinds.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ bool lese(Connection& verbindung, const DokuTyp& typ, sql::AusdruckZeiger beding
     zeile.Open(sql::Query(typ.tabelle).where(std::move(bedingung)), verbindung);
     if (zeile.leer())
         return false;
-    details = allgemeineSeite(leseDokuRecord(zeile, typ), typ, false, true);
+    details = allgemeineSeite(leseDokuRecord(zeile, typ), {}, typ, false, true);
     return true;
 }
 

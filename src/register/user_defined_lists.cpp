@@ -2,9 +2,9 @@
 #include "base/windows_path.h"
 #include "database/connection.h"
 #include "database/sql/conditions.h"
+#include "documents/document_record.h"
 #include "register/detail_lists.h"
-#include "register/document_record.h"
-#include "register/relations.h"
+#include "register/document_questions.h"
 #include "register/text_list.h"
 
 #include <algorithm>

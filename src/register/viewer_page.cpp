@@ -38,8 +38,8 @@ void DocumentPage::verlasseViewer()
         return;
     gezeigt_.leere(Ansicht::Dokument);
     imViewer_ = false;
-    dateinamePanel_ = aktuelleSeite().record.Dateiname;
-    ordnerPanel_ = Ordnername(aktuelleSeite().record.filename);
+    dateinamePanel_ = table().record().Dateiname;
+    ordnerPanel_ = Ordnername(table().record().filename);
 }
 
 void DocumentPage::zeigeVorlage()
@@ -55,8 +55,8 @@ void DocumentPage::anschauen(bool an)
     operations_.perform(Part::Document, "Anzeigen im Viewer", "Fehler beim Anzeigen des Dokuments!", [&] {
         if (!an)
             verlasseViewer();
-        else if (!aktuelleSeite().record.filename.empty())
-            zeigeImViewer(aktuelleSeite().record.filename);
+        else if (!table().record().filename.empty())
+            zeigeImViewer(table().record().filename);
     });
 }
 

@@ -19,9 +19,10 @@ Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& dar
     : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
       waechter_(ports.meldungen, [this] { programmEnde_(); }), operations_(ports), rahmen_(session, operations_, {}),
       startseite_(session, operations_, rahmen_), watch_(session, operations_.ports(), [this] { openDatabaseAgain(); }),
-      viewer_(ports.dateien), gezeigt_(viewer_, nutzung_), dokumentseite_(session, operations_, gezeigt_),
+      viewer_(ports.dateien), gezeigt_(viewer_, nutzung_), tables_(session, operations_),
+      dokumentseite_(session, operations_, tables_, filter_, gezeigt_),
       linkeLeiste_(session, operations_, filter_, dokumentseite_), obereLeiste_(session, operations_, dokumentseite_),
-      filterseite_(session, operations_, filter_, dokumentseite_),
+      filterseite_(session, operations_, filter_, tables_),
       fenster_(std::make_unique<MDIForm1>(rahmen_, session, darstellung))
 {
     auto* aussehen = new Darstellungsrahmen(darstellung);
@@ -52,7 +53,6 @@ void Arbeitsplatz::verbinde()
     };
     rahmen_.watchDatabase = [this] { watch_.tick(); };
     dokumentseite_.databaseStillOpen = [this] { return watch_.stillOpen(); };
-    dokumentseite_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
     dokumentseite_.tabelleGewechselt = [this] {
         linkeLeiste_.tabelleGewechselt();
         obereLeiste_.favoriten().tabelleGewechselt();
@@ -97,7 +97,7 @@ void Arbeitsplatz::refresh(const Parts& parts)
         formSEFiltern_->zeigen();
     if (of(Part::Document)) {
         formSEDoku_->zeigen();
-        fenster_->zeigeAenderungen(dokumentseite_.aenderungspanele());
+        fenster_->zeigeAenderungen(tables_.indicators());
         return; // With its bars and tables.
     }
     if (of(Part::Rows))

@@ -57,6 +57,7 @@ private:
     KeinNutzungsregister nutzung_;
     QtViewer viewer_;
     GezeigteDateien gezeigt_;
+    DocumentTables tables_;
     DocumentPage dokumentseite_;
     LinkeLeiste linkeLeiste_;
     ObereLeiste obereLeiste_;

@@ -10,56 +10,6 @@
 
 namespace quelvarn {
 
-// Opens the tables of a register as the document page does, and keeps what the filters told it.
-class TestTabellen final : public Tabellenherr
-{
-public:
-    explicit TestTabellen(SessionState& session) : session_(session) {}
-
-    int filterTab() const override { return tab; }
-    GefilterteTabelle& filterTabelle(int nummer) override
-    {
-        GefilterteTabelle& tabelle = tabellen_[static_cast<std::size_t>(nummer)];
-        if (!tabelle.geoeffnet())
-            oeffne(nummer);
-        return tabelle;
-    }
-    void filterGewechselt(int nummer) override { gewechselt.push_back(nummer); }
-    void filterAufheben(int nummer) override
-    {
-        GefilterteTabelle& tabelle = tabellen_[static_cast<std::size_t>(nummer)];
-        if (!tabelle.geoeffnet())
-            return;
-        if (tabelle.zustand == NeuereDaten)
-            oeffne(nummer);
-        tabelle.tabelle.Filter("");
-        tabelle.zustand = tabelle.anzahl > 0 ? Offen : Leer;
-    }
-
-    void oeffne(int nummer)
-    {
-        const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(nummer)];
-        GefilterteTabelle& tabelle = tabellen_[static_cast<std::size_t>(nummer)];
-        tabelle.tabelle.setzeGanzGrenze(ganzGrenze);
-        tabelle.tabelle.Open(sql::Query(typ.tabelle)
-                                 .where(sql::statusScope(typ.statusbereich ? session_.WhereStatus : ""))
-                                 .sortedBy("DokuBez")
-                                 .sortedDownBy("RevBez"),
-                             session_.Verbindung);
-        tabelle.anzahl = tabelle.tabelle.RecordCount();
-        tabelle.zustand = tabelle.anzahl > 0 ? Offen : Leer;
-        ++tabelle.fassung;
-    }
-
-    int tab = 0;
-    std::size_t ganzGrenze = 1; // Tests read columns when they are wanted, as large tables do.
-    std::vector<int> gewechselt;
-
-private:
-    SessionState& session_;
-    std::array<GefilterteTabelle, ANZAHL_DOKUTYPEN> tabellen_;
-};
-
 // A register, its tables, and the filters over them.
 class FilterTest : public TestRegister
 {
@@ -69,6 +19,7 @@ protected:
     {
         for (Filterzustand& typ : filter_.typen)
             typ.ChFilterStat.fill(true);
+        tables_.setWholeLimit(1); // Columns are read when they are wanted, as those of large tables are.
     }
 
     // A document of the type that the page is open for. Status 3 unless told.
@@ -85,13 +36,13 @@ protected:
         engine_->fuegeEin(DOKUTYPEN[static_cast<std::size_t>(kontext_.tab)].tabelle, zuweisungen);
     }
 
-    void neuOeffnen() { tabellen_.oeffne(kontext_.tab); }
-    Recordset& tabelle() { return kontext_.tabelle().tabelle; }
+    void neuOeffnen() { tables_.reload(kontext_.tab); }
+    Recordset& tabelle() { return kontext_.table().rows(); }
 
     // The documents that the table shows, from the top, "A B C".
     std::string gezeigt()
     {
-        const Recordset& zeilen = kontext_.tabelle().sichtbar();
+        const Recordset& zeilen = kontext_.table().visible();
         std::string text;
         for (std::size_t i = 0; zeilen.offen() && i < zeilen.RecordCount(); ++i)
             text += (i > 0 ? " " : "") + alsText(zeilen.Zelle(i, "DokuBez"));
@@ -99,8 +50,8 @@ protected:
     }
 
     FilterState filter_;
-    TestTabellen tabellen_{session_};
-    Filterkontext kontext_{session_, operations_, filter_, tabellen_};
+    DocumentTables tables_{session_, operations_};
+    Filterkontext kontext_{session_, operations_, filter_, tables_};
 };
 
 } // namespace quelvarn

@@ -33,7 +33,7 @@ protected:
     std::string werte() const
     {
         std::string text;
-        for (const Filterwert& zeile : seite_.kontext().FilterWerteTabelle())
+        for (const FilterRow& zeile : seite_.kontext().FilterWerteTabelle())
             text += (text.empty() ? "" : "|") + zeile.Wert;
         return text;
     }
@@ -49,7 +49,7 @@ protected:
 
     void erwarteAlleGefuellt() { welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!"); }
 
-    FilterPage seite_{session_, operations_, filter_, tabellen_};
+    FilterPage seite_{session_, operations_, filter_, tables_};
     int verlassen_ = 0;
 };
 
@@ -60,7 +60,7 @@ TEST_F(FilterPageTest, NamesTheTypeAndTheRights)
                                                           "Sondertabelle2", "Sondertabelle3"};
     session_.SondertabelleName[0] = "Normteile";
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        tabellen_.tab = tab;
+        tables_.bringToFront(tab);
         seite_.OpenFilterPage();
         EXPECT_EQ(seite_.titel(),
                   std::string("    Solid Edge - Filterwerte für ") + namen[static_cast<std::size_t>(tab)]);
@@ -92,26 +92,25 @@ TEST_F(FilterPageTest, AFilterStaysWithItsTypeAndIsNarrowedFurther)
     EXPECT_EQ(verlassen_, 1);
     EXPECT_EQ(gezeigt(), "A B") << "the table stays filtered";
 
-    tabellen_.tab = 3;
+    tables_.bringToFront(3);
     seite_.OpenFilterPage();
     EXPECT_EQ(werte(), "");
-    tabellen_.tab = 0;
+    tables_.bringToFront(0);
     seite_.OpenFilterPage();
     EXPECT_EQ(werte(), "P1");
     waehle(AUTOR, "Schulz");
     seite_.filtern();
     EXPECT_EQ(gezeigt(), "B");
 
-    vergissFilter(filter_, 0); // The document page lifted it.
+    forgetFilter(filter_, 0); // The document page lifted it.
     seite_.OpenFilterPage();
     EXPECT_EQ(werte(), "");
 }
 
 TEST_F(FilterPageTest, AQuickFilterOfTheTableIsLifted)
 {
-    tabellen_.filterTabelle(0).filterBeschreibung = "Dokumentname A*";
-    tabellen_.filterTabelle(0).tabelle.Filter("DokuBez Like 'A*'");
-    tabellen_.filterTabelle(0).zustand = Gefiltert;
+    tables_.opened(0).rows().Filter("DokuBez Like 'A*'");
+    tables_[0].showFiltered({{}, {}, "Dokumentname A*"});
     seite_.OpenFilterPage();
     EXPECT_EQ(gezeigt(), "A B C");
 }
@@ -198,7 +197,7 @@ TEST_F(FilterPageTest, SavedFiltersAreUsedAndWrittenOnLeaving)
     ASSERT_EQ(zeilen.RecordCount(), 1U);
     EXPECT_EQ(zeilen.Text("Feld3") + " " + zeilen.Text("Feld4"), "Part Projekt 1");
 
-    vergissFilter(filter_, 0);
+    forgetFilter(filter_, 0);
     seite_.OpenFilterPage();
     seite_.bereichGewaehlt(Filterbereich::Struktur);
     seite_.filterVerwenden("Projekt 1");

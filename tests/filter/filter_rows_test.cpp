@@ -54,7 +54,7 @@ protected:
     std::vector<std::string> rows() const
     {
         std::vector<std::string> texts;
-        for (const Filterwert& row : page_.kontext().FilterWerteTabelle())
+        for (const FilterRow& row : page_.kontext().FilterWerteTabelle())
             texts.push_back(row.Benennung + ": " + row.Wert);
         return texts;
     }
@@ -64,7 +64,7 @@ protected:
         return gezeigt();
     }
 
-    FilterPage page_{session_, operations_, filter_, tabellen_};
+    FilterPage page_{session_, operations_, filter_, tables_};
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, FilterRows, testing::Values("SQLite", "PostgreSQL"),

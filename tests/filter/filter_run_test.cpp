@@ -131,7 +131,7 @@ TEST_F(FilterRunTest, ARefusedStepLocksTheRunUntilTheReset)
     EXPECT_FALSE(ApplyStructureFilter(kontext_));
     EXPECT_EQ(gezeigt(), "A B C D");
     EXPECT_EQ(zustand().FilterString, "Autor Like 'meier'");
-    EXPECT_EQ(vergissFilter(filter_, 0).StatusFilter, "");
+    EXPECT_EQ(forgetFilter(filter_, 0).StatusFilter, "");
     EXPECT_EQ(zustand().FilterAnzahl, 0);
 }
 

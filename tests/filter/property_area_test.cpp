@@ -104,7 +104,7 @@ TEST_F(Eigenschaften, ChoicesBecomeSteps)
     {
         std::function<void(Eigenschaftsbereich&)> wahl;
         FilterSchritt schritt;
-        Filterwert zeile;
+        FilterRow zeile;
     };
     session_.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
     const Zeitpunkt tag = Zeitpunkt::aus({2026, 11, 5});

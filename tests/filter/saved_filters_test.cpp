@@ -212,7 +212,7 @@ TEST_F(GespeicherteFilterTest, StarsAreAddedWhereAValueBeginsWithOne)
                 "", name, CodeText, wert};
         schritt("Titel", wert);
         ergaenzeSterne(kontext_);
-        for (const Filterwert& zeile : kontext_.FilterWerteTabelle())
+        for (const FilterRow& zeile : kontext_.FilterWerteTabelle())
             EXPECT_EQ(zeile.Wert, danach);
     }
 }

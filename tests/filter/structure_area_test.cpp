@@ -89,13 +89,13 @@ TEST_F(Strukturmerkmale, TreeIsWalkedDownwardsAndEachStepNarrows)
               "AND Hauptmerkmal_F = 'hart' AND Hauptmerkmal_G = 'neu'");
     EXPECT_EQ(schritte(), "Hauptmerkmal_C=Welle Hauptmerkmal_D=lang Hauptmerkmal_E=glatt Hauptmerkmal_F=hart "
                           "Hauptmerkmal_G=neu ");
-    EXPECT_EQ(kontext_.FilterWerteTabelle()[3], (Filterwert{"Hauptmerkmal_F", "Hauptmerkmal F", "hart"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle()[3], (FilterRow{"Hauptmerkmal_F", "Hauptmerkmal F", "hart"}));
     EXPECT_EQ(alsText(bereich_.material()), "C45 (1)");
 
     bereich_.materialGewaehlt("C45");
     bereich_.firmaGewaehlt("Meier");
     EXPECT_EQ(kontext_.zustand().FilterAnzahl, 7);
-    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"StrukturMerkFirma", "Kunde", "Meier"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (FilterRow{"StrukturMerkFirma", "Kunde", "Meier"}));
 }
 
 TEST_F(Strukturmerkmale, LeavingThePathIsRefused)

@@ -46,7 +46,7 @@ protected:
     {
         kontext_.zustand().bereich = Filterbereich::BenutzDef;
         FilterEigenMerkBenutzDef(kontext_);
-        EXPECT_EQ(kontext_.tabelle().zustand, Filterergebnis);
+        EXPECT_EQ(kontext_.table().state(), TableState::FilterResult);
         return gezeigt();
     }
 };
@@ -152,7 +152,7 @@ TEST_F(BenutzDefTest, TheResultIsInOrderAndHoldsTheDocumentsColumns)
             }
         engine_->schliesseAb();
         findet({{"Art", art}});
-        const Recordset& zeilen = kontext_.tabelle().sichtbar();
+        const Recordset& zeilen = kontext_.table().visible();
         ASSERT_EQ(zeilen.RecordCount(), static_cast<std::size_t>(2 * anzahl));
         for (int i = 0; i < 2 * anzahl; ++i) {
             const auto stelle = static_cast<std::size_t>(i);
@@ -160,7 +160,7 @@ TEST_F(BenutzDefTest, TheResultIsInOrderAndHoldsTheDocumentsColumns)
             ASSERT_EQ(alsText(zeilen.Zelle(stelle, "Titel")), titel);
             ASSERT_EQ(alsZahl(zeilen.Zelle(stelle, "Hauptwert_c")), 0.5 * (i / 2 + 1));
         }
-        kontext_.tabelle().FilterErgebnis.Filter("Titel Like '*-100020'");
+        kontext_.table().visible().Filter("Titel Like '*-100020'");
         EXPECT_EQ(zeilen.RecordCount(), 1u);
     }
 }
@@ -193,7 +193,7 @@ TEST_F(BenutzDefTest, ASpecialTablesDocumentsAreLookedUpAmongThePartsFirst)
         for (const char* name : fall.dokumente)
             eigenschaft(name, "Farbe", "rot");
         findet({{"Farbe", "rot"}});
-        const Recordset& zeilen = kontext_.tabelle().sichtbar();
+        const Recordset& zeilen = kontext_.table().visible();
         std::string titel;
         for (std::size_t i = 0; i < zeilen.RecordCount(); ++i)
             titel += alsText(zeilen.Zelle(i, "Titel")) + " ";
@@ -273,7 +273,7 @@ TEST_F(BenutzDefBereichTest, ReceiversStandInPlaceOfTheirCodesAndFilterByThem)
     bereich_.setzeEmpfaenger(true);
     EXPECT_THAT(bereich_.werte().werte, ElementsAre("*", "Alt AG", "K2"));
     bereich_.wertGewaehlt("Alt AG");
-    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"BenutzDef", "Kunde", "K1"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (FilterRow{"BenutzDef", "Kunde", "K1"}));
     EXPECT_EQ(laeuft(), "A");
 }
 
@@ -300,7 +300,7 @@ TEST_F(BenutzDefBereichTest, FivePairsAndTwoAdditionalValuesAreTaken)
         bereich_.zusatzGewaehlt(index, "x");
     EXPECT_THAT(kontext_.zustand().ZusBenutzDef,
                 ElementsAre(AdditionalValue{3, "x", "Projekt"}, AdditionalValue{0, "x", "Verfasser"}));
-    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (Filterwert{"ZusBenutzDefAutor", "Verfasser", "x"}));
+    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (FilterRow{"ZusBenutzDefAutor", "Verfasser", "x"}));
 
     welt_.meldungen.erwarte("SE-Filter: Strukturmerkmale",
                             "Nach Auswahl\nVerfasser / Änderer / Stoff\n\n"

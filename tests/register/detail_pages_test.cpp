@@ -1,4 +1,4 @@
-#include "register/relations.h"
+#include "register/document_questions.h"
 #include "register_fixture.h"
 
 #include <map>

@@ -17,7 +17,7 @@ TEST_F(FavouritesTest, EachTabKeepsItsOwnAndRefusesDoubles)
         favourites_.zuFavoriten();
         favourites_.zuFavoriten();
         const std::string name = "D'" + std::to_string(tab);
-        const std::string file = page_.aktuelleSeite().record.Dateiname;
+        const std::string file = page_.table().record().Dateiname;
         EXPECT_EQ(grid(), name + "|0|" + file + "|" + pfad(file) + "|\n");
     }
     EXPECT_EQ(stored(), "Mueller|Assemb|D'2|0\nMueller|Draft|D'3|0\nMueller|Part|D'0|0\nMueller|SheetM|D'1|0\n"
@@ -162,14 +162,14 @@ TEST_F(FavouritesTest, AFilterIsLiftedWhenTheUserAgrees)
         page_.tabGewaehlt(0);
         page_.neuaufbauen();
         filtere(0, "DokuBez = 'B'");
-        page_.filterGewechselt(0);
+        tables_.announce(0);
         favourites_.FavoritenZeigen(true);
         erwarteFilterfrage(0, c.answer);
         if (c.box)
             welt_.meldungen.erwarte("Favoriten", GONE);
         favourites_.FavoritAuswaehlen(c.favourite[0] == 'A' ? 0 : 1);
         EXPECT_EQ(session_.AktDoku.DokuBez, c.shown);
-        EXPECT_EQ(page_.aktuelleSeite().sichtbar().RecordCount(), c.rows);
+        EXPECT_EQ(page_.table().visible().RecordCount(), c.rows);
         EXPECT_TRUE(favourites_.zeigtFavoriten()); // Lifting a filter does not close the list.
     }
 }

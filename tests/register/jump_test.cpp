@@ -85,7 +85,7 @@ TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
         filtere(tab, "DokuBez = 'B'");
         erwarteFilterfrage(tab, Antwort::Nein);
         EXPECT_TRUE(springe(tab, dateiVon(tab, "B")));
-        EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
+        EXPECT_EQ(page_.table().state(), TableState::Filtered);
 
         page_.tabGewaehlt(0);
         erwarteFilterfrage(tab, Antwort::Nein); // Kept, and it hides the document.

@@ -11,7 +11,6 @@ class PageFilterTest : public RegisterTest
 protected:
     PageFilterTest()
     {
-        page_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
         for (int tab : {0, 1, 6}) {
             for (int status = 0; status < 4; ++status)
                 dokument(tab, std::string(DOKUTYPEN[tab].schluessel.substr(0, 2)) + std::to_string(status), "0",
@@ -30,10 +29,9 @@ protected:
             haken[stat] = true;
         BuildStatusFilter(filter_, kontext_.tab);
     }
-    std::size_t gezeigt(int tab) { return page_.seite(tab).sichtbar().RecordCount(); }
+    std::size_t gezeigt(int tab) { return tables_[tab].visible().RecordCount(); }
 
-    FilterState filter_;
-    Filterkontext kontext_{session_, operations_, filter_, page_};
+    Filterkontext kontext_{session_, operations_, filter_, tables_};
 };
 
 TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
@@ -47,10 +45,9 @@ TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Filtervorgaben");
     EXPECT_EQ(liste(), "Pa1/0 Pa2/0 ");
     EXPECT_EQ(session_.AktDoku.DokuBez, "Pa1");
-    EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
+    EXPECT_EQ(page_.table().state(), TableState::Filtered);
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
-    EXPECT_EQ(page_.aktuelleSeite().gezeigteWerte.size(), 3U)
-        << "rows of forgotten steps stay until the page renews them";
+    EXPECT_EQ(page_.table().narrowing().values.size(), 3U) << "rows of forgotten steps stay until the page renews them";
     status({});
     page_.zurueck();
     EXPECT_EQ(gezeigt(0), 4U);
@@ -70,7 +67,7 @@ TEST_F(PageFilterTest, ARunWithNothingChosenLiftsTheFilterThatWasThere)
             kontext_.zustand().bereich = bereich;
             leereFilter(kontext_.zustand());
             FilterEigenMerkBenutzDef(kontext_);
-            EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
+            EXPECT_EQ(page_.table().state(), TableState::Open);
             EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4");
             EXPECT_EQ(gezeigt(0), 4U);
         }
@@ -89,7 +86,7 @@ TEST_F(PageFilterTest, MainValuesOfTheStructureCountThoughNoStepWasChosen)
     kontext_.zustand().HauptwertBereich[0] = {Decimal::ofUnits(10000), Decimal::ofUnits(20000)};
     kontext_.zustand().HauptwertAktiv = true;
     FilterEigenMerkBenutzDef(kontext_);
-    EXPECT_EQ(page_.aktuelleSeite().zustand, Gefiltert);
+    EXPECT_EQ(page_.table().state(), TableState::Filtered);
     EXPECT_EQ(gezeigt(0), 0U);
 }
 
@@ -103,17 +100,17 @@ TEST_F(PageFilterTest, TheResetBringsEveryOpenTableBackToItsStatusCondition)
     kontext_.tab = 0;
     status({2, 3});
     dokument(6, "STbl neu");
-    page_.seite(6).zustand = NeuereDaten;
+    tables_[6].markNewer();
 
     ResetAllFilters(kontext_);
     const std::size_t anzahl[]{2, 2, 3};
     for (int i = 0; const int tab : {0, 1, 6}) {
         EXPECT_EQ(gezeigt(tab), anzahl[i++]) << tab;
-        EXPECT_EQ(page_.seite(tab).zustand, Offen) << tab;
-        EXPECT_TRUE(page_.seite(tab).gezeigteWerte.empty()) << tab;
+        EXPECT_EQ(tables_[tab].state(), TableState::Open) << tab;
+        EXPECT_TRUE(tables_[tab].narrowing().values.empty()) << tab;
         EXPECT_EQ(filter_.typen[static_cast<std::size_t>(tab)].FilterString, "") << tab;
     }
-    EXPECT_FALSE(page_.seite(3).geoeffnet());
+    EXPECT_FALSE(tables_[3].isOpen());
     EXPECT_TRUE(kontext_.FilterWerteTabelle().empty());
     status({});
     ResetAllFilters(kontext_);
@@ -131,7 +128,7 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
         EXPECT_EQ(page_.anzahlText(), kopf + anzahl);
         ASSERT_EQ(page_.gezeigteWerte().size(), zeilen);
         if (zugriff != alle)
-            EXPECT_EQ(page_.gezeigteWerte().back(), (Filterwert{"", "Status", " >= 2 und <= 3"}));
+            EXPECT_EQ(page_.gezeigteWerte().back(), (FilterRow{"", "Status", " >= 2 und <= 3"}));
     };
     const std::string limit = "             Status >= 2 und <= 3";
     status({2, 3});
@@ -142,7 +139,7 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
     FilterEigenMerkBenutzDef(kontext_);
     zeigt(limit, "; Filteranzahl: 1", 2);
     page_.zurueck();
-    EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
+    EXPECT_EQ(page_.table().state(), TableState::Open);
     zeigt(limit, "; Filteranzahl: 2", 1); // It stays.
     page_.tabGewaehlt(1);
     EXPECT_EQ(page_.zugriffText(), alle) << "this table is not narrowed";
@@ -160,13 +157,13 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
 
 TEST_F(PageFilterTest, TheValuesStayListedWhileTheyNarrowTheTable)
 {
-    FilterPage seite{session_, operations_, filter_, page_};
+    FilterPage seite{session_, operations_, filter_, tables_};
     seite.OpenFilterPage();
     kontext_.zustand().ChFilterStat.fill(false);
     AddFilterStep(kontext_, "Pa1", "DokuBez", 0);
     seite.filtern();
     ASSERT_EQ(gezeigt(0), 1U);
-    const std::vector<Filterwert> werte = page_.gezeigteWerte();
+    const std::vector<FilterRow> werte = page_.gezeigteWerte();
     ASSERT_EQ(werte.size(), 1U);
     seite.bereichGewaehlt(Filterbereich::Struktur);
     EXPECT_EQ(page_.gezeigteWerte(), werte);
@@ -180,17 +177,16 @@ TEST_F(PageFilterTest, TheValuesStayListedWhileTheyNarrowTheTable)
 
 TEST_F(PageFilterTest, AResultOfItsOwnIsGivenUpByTheNextRunAndByTheReset)
 {
-    Tabellenseite& seite = page_.seite(0);
     for (const bool reset : {false, true}) {
-        seite.FilterErgebnis.FeldAnhaengen("DokuBez", FeldTyp::Text);
-        seite.FilterErgebnis.Open();
-        seite.zustand = Filterergebnis;
+        Recordset none;
+        none.FeldAnhaengen("DokuBez", FeldTyp::Text);
+        none.Open();
+        tables_[0].showResult(std::move(none), {});
         waehle("DokuBez", "Pa2");
         if (reset)
             ResetAllFilters(kontext_);
         else
             FilterEigenMerkBenutzDef(kontext_);
-        EXPECT_FALSE(seite.FilterErgebnis.offen());
         EXPECT_EQ(liste(), reset ? "Pa0/0 Pa1/0 Pa2/0 Pa3/0 " : "Pa2/0 ");
     }
 }

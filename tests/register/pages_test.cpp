@@ -107,7 +107,7 @@ TEST_F(PagesTest, OnlyOnePageOfATableStaysFromRowToRow)
             SCOPED_TRACE(text);
             page_.knotenGewaehlt(text);
             EXPECT_EQ(page_.infoSeite(), seite);
-            EXPECT_EQ(page_.aktuelleSeite().baum.gewaehlt, text);
+            EXPECT_EQ(page_.tree().gewaehlt, text);
             page_.zeileVor();
             // A click on a top node leaves what was kept before; none was by then.
             EXPECT_EQ(page_.infoSeite(), seite == bleibend ? seite : InfoSeite::Allgemein);
@@ -184,7 +184,8 @@ TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
     dateien.legeAn(pfad("A_0.par"));
     Ports ports = welt_.portsMit(dateien);
     Operations operations(ports);
-    DocumentPage page(session_, operations, bildschirm_.gezeigt);
+    DocumentTables tables(session_, operations);
+    DocumentPage page(session_, operations, tables, filter_, bildschirm_.gezeigt);
     page.tabGewaehlt(0);
     welt_.meldungen.erwarte("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
                                                   "Datei ist nicht vorhanden.");
@@ -221,7 +222,7 @@ TEST_F(PagesTest, ClosingRemembersTheTabOfFileTypesOnly)
         EXPECT_EQ(starttabelle(), erwartet);
     }
     page_.schliessen(); // Closed already: nothing is written.
-    EXPECT_EQ(page_.seite(4).zustand, NichtOffen);
+    EXPECT_EQ(tables_[4].state(), TableState::NotOpen);
 }
 
 } // namespace

@@ -39,7 +39,7 @@ protected:
         quick_.textFiltern();
     }
 
-    const std::string& expression() const { return page_.aktuelleSeite().tabelle.filterText(); }
+    const std::string& expression() const { return page_.table().rows().filterText(); }
 };
 
 TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
@@ -59,7 +59,7 @@ TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
 TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
 {
     filterText("", 0, TextAmAnfang);
-    EXPECT_EQ(page_.seite(0).zustand, Offen);
+    EXPECT_EQ(tables_[0].state(), TableState::Open);
 
     filterText("fa", 0, TextAmAnfang);
     EXPECT_EQ(expression(), "DokuBez Like 'fa*'");
@@ -82,7 +82,7 @@ TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
     EXPECT_EQ(session_.Suchtexte, (std::vector<std::string>{"fa", "LL", "W"}));
 
     page_.zurueck();
-    EXPECT_EQ(page_.seite(0).zustand, Offen);
+    EXPECT_EQ(tables_[0].state(), TableState::Open);
     EXPECT_EQ(quick_.schritt(), 0);
     EXPECT_EQ(rows(), "");
     EXPECT_EQ(filter_.typen[0].Schnellfilter, "");
@@ -177,11 +177,11 @@ TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
         unsigned drawn = 0;
         welt_.meldungen.during = [&] {
             EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ") << "behind the box";
-            drawn = page_.aktuelleSeite().fassung;
+            drawn = page_.table().generation();
         };
         filterText(text, 1, TextAmAnfang);
         welt_.meldungen.during = nullptr;
-        EXPECT_EQ(page_.aktuelleSeite().fassung, drawn) << "the grid knew of these rows already";
+        EXPECT_EQ(page_.table().generation(), drawn) << "the grid knew of these rows already";
         EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
         EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
         EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");

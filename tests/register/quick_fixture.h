@@ -12,21 +12,19 @@ class QuickTest : public RegisterTest
 protected:
     QuickTest()
     {
-        page_.filterVergessen = [this](int tab) { return vergissFilter(filter_, tab); };
         page_.tabelleGewechselt = [this] { bar_.tabelleGewechselt(); };
     }
 
     std::string current() const { return session_.AktDoku.DokuBez + "/" + session_.AktDoku.RevBez; }
-    static std::string rows(const std::vector<Filterwert>& values)
+    static std::string rows(const std::vector<FilterRow>& values)
     {
         std::string text;
-        for (const Filterwert& value : values)
+        for (const FilterRow& value : values)
             text += value.Feldname + "|" + value.Benennung + "|" + value.Wert + "\n";
         return text;
     }
     std::string rows() const { return rows(bar_.gezeigteWerte()); }
 
-    FilterState filter_;
     LinkeLeiste bar_{session_, operations_, filter_, page_};
     Schnellsuche& search_ = bar_.suche();
     Schnellfilter& quick_ = bar_.filter();

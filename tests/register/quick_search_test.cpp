@@ -55,7 +55,7 @@ TEST_F(QuickSearchTest, FindsFromTheTopOrOnFromTheRowShown)
 
 TEST_F(QuickSearchTest, RefusesWhatIsNoKindOfSearchAndTakesTheTextAsAText)
 {
-    Recordset& parts = page_.seite(0).tabelle;
+    Recordset& parts = tables_[0].rows();
     welt_.meldungen.erwarte("Suchverfahren", "Falsches Suchverfahren!");
     EXPECT_FALSE(SuchenImRecordset(parts, "B", "DokuBez", 2, Suchbeginn::Oben, welt_.meldungen));
     EXPECT_FALSE(SuchenImRecordset(parts, "", "DokuBez", 7, Suchbeginn::Oben, welt_.meldungen));
@@ -108,7 +108,7 @@ TEST_F(QuickSearchTest, EachKeySearchesWhileTyping)
     search_.setzeBeimTippen(false);
     EXPECT_EQ(search_.CombSuchStr(), "B");
     search_.tippe("x");
-    EXPECT_TRUE(page_.seite(1).zustand == NichtOffen) << "no other table was touched";
+    EXPECT_TRUE(tables_[1].state() == TableState::NotOpen) << "no other table was touched";
 }
 
 TEST_F(QuickSearchTest, RemembersTheLastEightTexts)

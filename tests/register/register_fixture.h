@@ -30,7 +30,7 @@ protected:
     {
         page_.tabGewaehlt(tab);
         page_.neuaufbauen(); // It may have been written just now.
-        const Recordset& zeilen = page_.seite(tab).tabelle;
+        const Recordset& zeilen = tables_[tab].rows();
         std::size_t i = 0;
         while (i < zeilen.RecordCount() &&
                alsText(zeilen.Zelle(i, "DokuBez")) + alsText(zeilen.Zelle(i, "RevBez")) != DokuBez + RevBez)
@@ -57,14 +57,14 @@ protected:
     // As a filter run leaves the table.
     void filtere(int tab, const std::string& filter)
     {
-        page_.filterTabelle(tab).tabelle.Filter(filter);
-        page_.seite(tab).zustand = Gefiltert;
+        tables_.opened(tab).rows().Filter(filter);
+        tables_[tab].showFiltered({});
     }
 
     // The grid's first two columns, from the top.
     std::string liste() const
     {
-        const Recordset& zeilen = page_.aktuelleSeite().sichtbar();
+        const Recordset& zeilen = page_.table().visible();
         std::string text;
         for (std::size_t i = 0; zeilen.offen() && i < zeilen.RecordCount(); ++i)
             text += alsText(zeilen.Zelle(i, "DokuBez")) + "/" + alsText(zeilen.Zelle(i, "RevBez")) + " ";
@@ -80,10 +80,12 @@ protected:
         return text;
     }
     static std::string alsText(const Value& wert) { return quelvarn::alsText(wert); }
-    std::string baum() const { return alsText(page_.aktuelleSeite().baum.wurzeln); }
+    std::string baum() const { return alsText(page_.tree().wurzeln); }
 
     FakeBildschirm bildschirm_;
-    DocumentPage page_{session_, operations_, bildschirm_.gezeigt};
+    FilterState filter_;
+    DocumentTables tables_{session_, operations_};
+    DocumentPage page_{session_, operations_, tables_, filter_, bildschirm_.gezeigt};
 };
 
 } // namespace quelvarn

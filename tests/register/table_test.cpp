@@ -1,5 +1,7 @@
 #include "register_fixture.h"
 
+#include <functional>
+
 namespace quelvarn {
 namespace {
 
@@ -14,7 +16,7 @@ TEST_F(TableTest, OpensTheStartTableOncePerDatabase)
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Zeichnungen, Anzahl: 1");
     EXPECT_EQ(page_.infoKopf(), "  Eigenschaften Zeichnung");
     for (const int tab : {0, 1, 2, 4, 5, 6, 7})
-        EXPECT_EQ(page_.seite(tab).zustand, NichtOffen);
+        EXPECT_EQ(tables_[tab].state(), TableState::NotOpen);
 
     page_.tabGewaehlt(0);
     page_.StartTabelleZeigen();
@@ -26,7 +28,7 @@ TEST_F(TableTest, OpensTheStartTableOncePerDatabase)
     session_.Starttabelle = "Normteile"; // No table to start with: the tab stays, nothing is opened.
     page_.StartTabelleZeigen();
     EXPECT_EQ(page_.tab(), 0);
-    EXPECT_EQ(page_.seite(0).zustand, NichtOffen);
+    EXPECT_EQ(tables_[0].state(), TableState::NotOpen);
     EXPECT_EQ(page_.anzahlText(), "");
 }
 
@@ -53,7 +55,7 @@ TEST_F(TableTest, ATableWithOnlyHiddenDocumentsIsEmpty)
     siehtStati("3");
     page_.tabGewaehlt(1);
     page_.tabGewaehlt(0);
-    EXPECT_EQ(page_.seite(0).zustand, Leer);
+    EXPECT_EQ(tables_[0].state(), TableState::Empty);
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 0");
     EXPECT_EQ(baum(), "");
     EXPECT_EQ(page_.infoSeite(), InfoSeite::Keine);
@@ -62,7 +64,7 @@ TEST_F(TableTest, ATableWithOnlyHiddenDocumentsIsEmpty)
     page_.neuaufbauen();
     page_.zeileVor();
     page_.zurueck();
-    EXPECT_EQ(page_.seite(0).zustand, Leer);
+    EXPECT_EQ(tables_[0].state(), TableState::Empty);
 }
 
 TEST_F(TableTest, TypeCodeOfAktDokuDependsOnWhoLoadedTheRow)
@@ -76,47 +78,50 @@ TEST_F(TableTest, TypeCodeOfAktDokuDependsOnWhoLoadedTheRow)
         EXPECT_EQ(session_.AktDoku.Typ, nachTab[typ.tab]);
         page_.zeileGewaehlt(0);
         EXPECT_EQ(session_.AktDoku.Typ, nachZeile[typ.tab]);
-        EXPECT_EQ(page_.seite(typ.tab).record.DokuArt, typ.tab == 4 ? 6 : nachZeile[typ.tab]);
+        EXPECT_EQ(tables_[typ.tab].record().DokuArt, typ.tab == 4 ? 6 : nachZeile[typ.tab]);
     }
 }
 
 TEST_F(TableTest, ATabSwitchActsOnTheState)
 {
-    struct Fall
+    struct Case
     {
-        int zustand;
-        int danach;
-        const char* zeigt; // DokuBez of the document then shown, "" for none
-        bool neuGeoeffnet;
+        std::function<void(DocumentTable&)> before;
+        TableState after;
+        const char* shows; // DokuBez of the document then shown
+        bool openedAnew;
         bool filterKnopf;
     };
-    const Fall faelle[] = {
-        {NichtOffen, Offen, "A", true, false},
-        {Leer, Leer, "", false, false},
-        {Offen, Offen, "B", false, false},
-        {Gefiltert, Gefiltert, "B", false, true},
-        {NeuereDaten, NeuereDaten, "B", false, true},
-        {Neuaufbau, Offen, "A", true, false},
-        {Filterergebnis, Filterergebnis, "F", false, false},
+    const auto result = [&](DocumentTable& table) {
+        Recordset rows;
+        rows.Open("SELECT * FROM SheetMTabelle", session_.Verbindung);
+        table.showResult(std::move(rows), {});
+    };
+    const Case cases[] = {
+        {[](DocumentTable& table) { table.close(); }, TableState::Open, "A", true, false},
+        {[](DocumentTable&) {}, TableState::Open, "B", false, false},
+        {[](DocumentTable& table) { table.showFiltered({}); }, TableState::Filtered, "B", false, true},
+        {&DocumentTable::markNewer, TableState::NewerData, "B", false, true},
+        {&DocumentTable::rebuildLater, TableState::Open, "A", true, false},
+        {result, TableState::FilterResult, "F", false, false},
     };
     dokument(0, "A");
     dokument(0, "B");
     dokument(1, "F");
     dokument(2, "anderes");
-    for (const Fall& fall : faelle) {
-        SCOPED_TRACE(fall.zustand);
+    for (const Case& fall : cases) {
         page_.datenbankWechselt();
         page_.tabGewaehlt(0);
         page_.zeileGewaehlt(1);
         page_.tabGewaehlt(2);
-        Tabellenseite& seite = page_.seite(0);
-        seite.zustand = fall.zustand;
-        seite.FilterErgebnis.Open("SELECT * FROM SheetMTabelle", session_.Verbindung);
-        const unsigned fassung = seite.fassung;
+        DocumentTable& table = tables_[0];
+        fall.before(table);
+        SCOPED_TRACE(static_cast<int>(table.state()));
+        const unsigned generation = table.generation();
         page_.tabGewaehlt(0);
-        EXPECT_EQ(seite.zustand, fall.danach);
-        EXPECT_EQ(session_.AktDoku.DokuBez, fall.zeigt);
-        EXPECT_EQ(seite.fassung != fassung, fall.neuGeoeffnet);
+        EXPECT_EQ(table.state(), fall.after);
+        EXPECT_EQ(session_.AktDoku.DokuBez, fall.shows);
+        EXPECT_EQ(table.generation() != generation, fall.openedAnew);
         EXPECT_EQ(page_.filterKnopf(), fall.filterKnopf);
         EXPECT_EQ(page_.zurueckTooltip(),
                   fall.filterKnopf ? "Filterung aufheben, alle Dokumente anzeigen" : "Zum Anfang der Tabelle");
@@ -132,7 +137,7 @@ TEST_F(TableTest, BehindTheLastRowComesTheFirst)
         page_.zeileVor();
         EXPECT_EQ(session_.AktDoku.DokuBez, erwartet);
     }
-    page_.seite(0).tabelle.Find("DokuBez LIKE 'Q%'", 0, Suchrichtung::Vorwaerts, true);
+    tables_[0].rows().Find("DokuBez LIKE 'Q%'", 0, Suchrichtung::Vorwaerts, true);
     page_.zeileGewechselt();
     EXPECT_EQ(session_.AktDoku.DokuBez, "A");
     page_.zeileGewaehlt(1);
@@ -147,24 +152,24 @@ TEST_F(TableTest, NeuaufbauReadsTheTableAnewAndStaysOnTheDocument)
     const Zeilenschluessel letztes = dokument(0, "E'1", "a");
     page_.tabGewaehlt(0);
     page_.zeileGewaehlt(2);
-    page_.aenderungspanel(0) = "10:15";
+    tables_.indicator(0) = "10:15";
     dokument(0, "A");
     dokument(0, "B");
     page_.neuaufbauen();
     EXPECT_EQ(liste(), "A/0 B/0 C/a E'1/b E'1/a "); // The higher revision first.
     EXPECT_EQ(session_.AktDoku.filename, pfad("E'1_a.par"));
-    EXPECT_EQ(page_.seite(0).tabelle.AbsolutePosition(), 4u);
-    EXPECT_EQ(page_.aenderungspanele()[0], "");
+    EXPECT_EQ(tables_[0].rows().AbsolutePosition(), 4u);
+    EXPECT_EQ(tables_.indicators()[0], "");
 
     engine_->loesche("PartTabelle", letztes);
     page_.neuaufbauen(); // The document is gone: the last place that there is.
     EXPECT_EQ(session_.AktDoku.filename, pfad("E'1_b.par"));
 
-    page_.aenderungspanel(4) = "10:20";
+    tables_.indicator(4) = "10:20";
     page_.tabGewaehlt(6);
-    EXPECT_EQ(page_.aenderungspanele()[4], "10:20");
+    EXPECT_EQ(tables_.indicators()[4], "10:20");
     page_.neuaufbauen(); // The special tables share the panel of the weldments.
-    EXPECT_EQ(page_.aenderungspanele()[4], "");
+    EXPECT_EQ(tables_.indicators()[4], "");
 }
 
 TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
@@ -172,27 +177,22 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
     for (const char* name : {"A", "B", "C"})
         dokument(0, name);
     page_.tabGewaehlt(0);
-    Tabellenseite& seite = page_.seite(0);
     const auto filtere = [&] {
-        seite.tabelle.Filter("DokuBez Like 'B'");
-        seite.zustand = Gefiltert;
-        seite.gezeigteWerte = {{"DokuBez", "Dokumentname", "B"}};
+        tables_[0].rows().Filter("DokuBez Like 'B'");
+        tables_[0].showFiltered({{{"DokuBez", "Dokumentname", "B"}}, {}, ""});
         page_.zeileGewechselt();
     };
     filtere();
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3; Filteranzahl: 1");
-    int vergessen = -1;
-    page_.filterVergessen = [&](int tab) {
-        vergessen = tab;
-        return Statusbedingung{{}, "DokuBez >= 'B'", {}, {}}; // as a status filter would stay
-    };
+    filter_.typen[0].FilterAnzahl = 1;
+    filter_.status.StatusFilter = "DokuBez >= 'B'"; // As a status filter would stay.
     page_.zurueck();
-    EXPECT_EQ(vergessen, 0);
+    EXPECT_EQ(filter_.typen[0].FilterAnzahl, 0);
     EXPECT_EQ(liste(), "B/0 C/0 ");
-    EXPECT_EQ(seite.zustand, Offen);
+    EXPECT_EQ(tables_[0].state(), TableState::Open);
     EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3");
 
-    page_.filterVergessen = {};
+    filter_.status = {};
     filtere();
     dokument(0, "D");
     page_.neuaufbauen();
@@ -200,10 +200,13 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
     EXPECT_EQ(session_.AktDoku.DokuBez, "B");
 
     filtere();
-    seite.zustand = NeuereDaten;
+    tables_[0].markNewer();
     dokument(0, "E");
+    int drawn = 0;
+    operations_.show = [&](const Parts& parts) { drawn += contains(parts, Part::Document) ? 1 : 0; };
     page_.zurueck(); // The database has newer rows: they are read.
     EXPECT_EQ(liste(), "A/0 B/0 C/0 D/0 E/0 ");
+    EXPECT_EQ(drawn, 1) << "one gesture, one drawing";
 }
 
 TEST_F(TableTest, ARowThatVanishedShowsAsFarAsItIsKnown)
@@ -234,7 +237,7 @@ TEST_F(TableTest, AFailedOpeningIsReportedAndLeavesNothingShown)
         page_.tabGewaehlt(0);
         EXPECT_EQ(welt_.meldungen.letzte().titel, "Fehlermeldung");
         EXPECT_EQ(page_.tab(), 0);
-        EXPECT_EQ(page_.seite(0).zustand, NichtOffen);
+        EXPECT_EQ(tables_[0].state(), TableState::NotOpen);
         EXPECT_EQ(session_.AktDoku, AktuellesDokument{});
     }
 }

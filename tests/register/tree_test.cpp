@@ -120,7 +120,7 @@ TEST_F(TreeTest, WithoutOpenNodesTheChildrenComeOnceOnTheFirstExpand)
     zeigeDokument(0, "D", "b");
     const std::string oben = "Revision!\nSmartViewer\n" + ENTHALTEN;
     EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\n" + oben);
-    EXPECT_FALSE(page_.aktuelleSeite().baum.wurzeln.front().offen);
+    EXPECT_FALSE(page_.tree().wurzeln.front().offen);
     for (int mal = 0; mal < 2; ++mal) {
         page_.knotenAufgeklappt();
         EXPECT_EQ(baum(), KINDER + ENTHALTEN);
@@ -157,7 +157,7 @@ TEST_F(TreeTest, MainFeaturesCountByTheirSumAndTheFirstThree)
     zeile("PartTabelle", {{"Hauptwert_g", 0.5}});
     page_.tabGewaehlt(0);
     for (const bool erwartet : {false, true, false, true}) {
-        EXPECT_EQ(page_.aktuelleSeite().baum.finde(knoten::HAUPTMERKMALE) != nullptr, erwartet);
+        EXPECT_EQ(page_.tree().finde(knoten::HAUPTMERKMALE) != nullptr, erwartet);
         page_.zeileVor();
     }
 }
@@ -171,7 +171,7 @@ TEST_F(TreeTest, FindsRegisteredAndNeighbouringTiffs)
     dokument(3, "C");
     page_.tabGewaehlt(3);
     for (const bool erwartet : {true, true, false}) {
-        EXPECT_EQ(page_.aktuelleSeite().baum.finde(knoten::TIFF) != nullptr, erwartet) << session_.AktDoku.DokuBez;
+        EXPECT_EQ(page_.tree().finde(knoten::TIFF) != nullptr, erwartet) << session_.AktDoku.DokuBez;
         page_.zeileVor();
     }
 }
@@ -182,11 +182,11 @@ TEST_F(TreeTest, WhereUsedIsAskedByTheDrivePathOfANetworkPath)
     zeile("PartTabelle", {{"DokuBez", "O"}, {"filename", "\\\\fremd\\weg\\O.par"}});
     zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", "W:\\N.par"}});
     page_.tabGewaehlt(0);
-    EXPECT_NE(page_.aktuelleSeite().baum.finde(knoten::IN_BAUGRUPPE), nullptr);
+    EXPECT_NE(page_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
     welt_.meldungen.antworte(); // The share has no drive: told once for the row.
     page_.zeileVor();
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Universalname nach Laufwerksnamen");
-    EXPECT_EQ(page_.aktuelleSeite().baum.finde(knoten::IN_BAUGRUPPE), nullptr);
+    EXPECT_EQ(page_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
 }
 
 TEST_F(TreeTest, AnApostropheInANameIsAValueLikeAnyOther)

@@ -54,8 +54,9 @@ protected:
     FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
     FakeBildschirm bildschirm_;
-    DocumentPage dokumente_{session_, operations_, bildschirm_.gezeigt};
-    FilterPage modell_{session_, operations_, filter_, dokumente_};
+    DocumentTables tables_{session_, operations_};
+    DocumentPage dokumente_{session_, operations_, tables_, filter_, bildschirm_.gezeigt};
+    FilterPage modell_{session_, operations_, filter_, tables_};
     FormSEFiltern seite_{modell_, *new QWidget};
     int operationen_ = 0;
     int verlassen_ = 0;
@@ -99,7 +100,7 @@ TEST_F(FormSEFilternTest, KeysRunTheFilterAndLeave)
     EXPECT_EQ(letzterWert(), "Projekt P1");
     EXPECT_EQ(kombo.currentText(), u"P1");
     QTest::keyClick(&seite_, Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_EQ(dokumente_.seite(0).zustand, Gefiltert);
+    EXPECT_EQ(tables_[0].state(), TableState::Filtered);
     EXPECT_EQ(kombo.currentText(), u"") << "the lists were read anew";
 
     QTest::keyClicks(&kombo, QStringLiteral("x"));

@@ -48,7 +48,8 @@ template <typename Art> Art& finde(QWidget& seite, const char* name)
 
 TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
-    DocumentPage modell(session_, operations_, bildschirm_.gezeigt);
+    DocumentTables tables(session_, operations_);
+    DocumentPage modell(session_, operations_, tables, filter_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, operations_, filter_, modell);
     ObereLeiste oben(session_, operations_, modell);
     FormSEDoku seite(modell, links, oben, session_, viewer_);
@@ -74,7 +75,8 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 
 TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
-    DocumentPage modell(session_, operations_, bildschirm_.gezeigt);
+    DocumentTables tables(session_, operations_);
+    DocumentPage modell(session_, operations_, tables, filter_, bildschirm_.gezeigt);
     LinkeLeiste links(session_, operations_, filter_, modell);
     ObereLeiste oben(session_, operations_, modell);
     FormSEDoku seite(modell, links, oben, session_, viewer_);
@@ -98,7 +100,7 @@ TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
     const QModelIndex eigenschaften = baum.model()->index(0, 0);
     baum.setExpanded(eigenschaften, false);
     EXPECT_EQ(operationen, 2);
-    EXPECT_FALSE(modell.aktuelleSeite().baum.wurzeln.at(0).offen);
+    EXPECT_FALSE(modell.tree().wurzeln.at(0).offen);
     finde<QTabWidget>(seite, "SSTabDGDoku").setCurrentIndex(3);
     EXPECT_EQ(session_.AktDoku.DokuBez, "Z-100");
     seite.activateWindow();

@@ -17,7 +17,7 @@ constexpr int ANTEIL_BENENNUNG = 40; // Percent of the width.
 
 } // namespace
 
-void Wertmodell::zeige(const std::vector<Filterwert>& werte)
+void Wertmodell::zeige(const std::vector<FilterRow>& werte)
 {
     if (werte == werte_)
         return;
@@ -53,7 +53,7 @@ QVariant Wertmodell::data(const QModelIndex& stelle, int rolle) const
 {
     if ((rolle != Qt::DisplayRole && rolle != Qt::EditRole) || !checkIndex(stelle, CheckIndexOption::IndexIsValid))
         return {};
-    const Filterwert& zeile = werte_[static_cast<std::size_t>(stelle.row())];
+    const FilterRow& zeile = werte_[static_cast<std::size_t>(stelle.row())];
     return zuQt(stelle.column() == Benennung ? zeile.Benennung : zeile.Wert);
 }
 

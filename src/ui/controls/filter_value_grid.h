@@ -22,7 +22,7 @@ class Wertmodell : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void zeige(const std::vector<Filterwert>& werte);
+    void zeige(const std::vector<FilterRow>& werte);
     void setzeKopf(std::string_view text); // Of the column Wert.
     // Set: a Wert may be edited, and this is told of it when the editor is closed. The grid shows the new text until it
     // is shown another one.
@@ -44,7 +44,7 @@ private:
         std::string value;
     };
 
-    std::vector<Filterwert> werte_;
+    std::vector<FilterRow> werte_;
     std::optional<Entered> entered_; // Not told yet.
     std::string kopf_ = "Filterwerte";
 };

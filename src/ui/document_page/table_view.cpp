@@ -69,14 +69,14 @@ void Tabellenansicht::baueBaum()
 
 void Tabellenansicht::zeigen()
 {
-    const Tabellenseite& seite = modell_.seite(tab_);
-    gitter_->zeige(seite.sichtbar().offen() ? &seite.sichtbar() : nullptr, seite.fassung);
+    const DocumentTable& table = modell_.tables()[tab_];
+    gitter_->zeige(table.visible().offen() ? &table.visible() : nullptr, table.generation());
     zeigeBaum();
 }
 
 void Tabellenansicht::zeigeBaum()
 {
-    const Eigenschaftsbaum& baum = modell_.seite(tab_).baum;
+    const Eigenschaftsbaum& baum = modell_.tree(tab_);
     const QSignalBlocker ohneAufklappen(baum_);
     baum_->still([&] { knoten_->zeige(baum.wurzeln); });
     for (int i = 0; i < knoten_->rowCount(); ++i) {

@@ -149,7 +149,7 @@ void Eigenschaftsreiter::zeigeStati()
         kasten.setEnabled(modell_.eigenschaften().statusVorhanden(static_cast<int>(status)));
         zeigeGesetzt(kasten, haken[status]);
     }
-    const Statusbedingung& bedingung = modell_.kontext().filter.status;
+    const StatusCondition& bedingung = modell_.kontext().filter.status;
     legende_->setText(bedingung.kurz.empty() ? QStringLiteral("Alle Stati") : zuQt("Status" + bedingung.kurz));
     showNote(*legende_, bedingung.isSet());
 }

@@ -132,8 +132,8 @@ void LaufenderFilter::zeigen()
 void LaufenderFilter::zeigeStatus()
 {
     const std::string& kurz = modell_.kontext().filter.status.kurz;
-    DataGridStatus_->zeilen().zeige(kurz.empty() ? std::vector<Filterwert>{}
-                                                 : std::vector<Filterwert>{{"", "Status", kurz}});
+    DataGridStatus_->zeilen().zeige(kurz.empty() ? std::vector<FilterRow>{}
+                                                 : std::vector<FilterRow>{{"", "Status", kurz}});
 }
 
 } // namespace quelvarn

@@ -45,10 +45,10 @@ protected:
     // All that a person sees of the table.
     std::string shown() const
     {
-        const Tabellenseite& seite = page_.aktuelleSeite();
-        return liste() + "|" + std::to_string(seite.zustand) + "|" + std::to_string(seite.anzahl) + "|" +
-               session_.AktDoku.DokuBez + "|" + page_.dateinamePanel() + "|" + page_.ordnerPanel() + "|" +
-               page_.statuskopf().text + "|" + seite.filterBeschreibung + "|" + baum();
+        const DocumentTable& table = page_.table();
+        return liste() + "|" + std::to_string(static_cast<int>(table.state())) + "|" + std::to_string(table.count()) +
+               "|" + session_.AktDoku.DokuBez + "|" + page_.dateinamePanel() + "|" + page_.ordnerPanel() + "|" +
+               page_.statuskopf().text + "|" + table.narrowing().quickFilter + "|" + baum();
     }
 
     test::PostgresCluster* cluster_ = nullptr;
@@ -60,13 +60,14 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
     const auto asItIs = [] {};
     const auto filtered = [&] {
         filtere(0, "DokuBez = 'B'");
-        page_.seite(0).filterBeschreibung = "Text";
+        tables_[0].showFiltered({{}, {}, "Text"});
     };
     const auto result = [&] {
-        page_.seite(0).FilterErgebnis.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.Verbindung);
-        page_.seite(0).zustand = Filterergebnis;
+        Recordset rows;
+        rows.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.Verbindung);
+        tables_[0].showResult(std::move(rows), {});
     };
-    const auto newer = [&] { page_.seite(0).zustand = NeuereDaten; };
+    const auto newer = [&] { tables_[0].markNewer(); };
     const std::pair<std::function<void()>, std::string> cases[]{
         {asItIs, "A/0 B/0 C/0 "}, {filtered, "B/0 "}, {result, "B/0 "}, {newer, "A/0 B/0 C/0 "}};
     int added = 0;
@@ -85,7 +86,7 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
         dokument(0, name);
         page_.neuaufbauen();
         EXPECT_EQ(liste(), all += name + "/0 ");
-        EXPECT_EQ(page_.aktuelleSeite().zustand, Offen);
+        EXPECT_EQ(page_.table().state(), TableState::Open);
         EXPECT_EQ(session_.AktDoku.DokuBez, "B");
     }
 }

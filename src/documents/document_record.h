@@ -25,11 +25,6 @@ struct DokuRecord
     std::array<std::string, 7> Alias;        // a to g
     std::string F_05_leer;                   // Drawings only: the format.
 
-    // What the tree builder found out about the row.
-    std::string inBaugruppe; // "Ja" or "Nein", "" when not asked
-    std::string inZeichnung; // The same; of a drawing: whether it holds a model.
-    bool neuereRevision = false;
-
     // `typ` is the type code, which depends on who asks.
     AktuellesDokument alsAktDoku(int typ) const;
 };

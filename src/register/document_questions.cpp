@@ -1,11 +1,11 @@
-#include "register/relations.h"
+#include "register/document_questions.h"
 
 #include "base/collation.h"
 #include "base/windows_path.h"
 #include "database/connection.h"
 #include "database/sql/conditions.h"
+#include "documents/document_record.h"
 #include "platform/dateien.h"
-#include "register/document_record.h"
 
 #include <set>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "register/document_record.h"
+#include "documents/document_record.h"
 
 #include "database/document_types.h"
 #include "database/recordset.h"

@@ -6,7 +6,7 @@
 namespace quelvarn {
 
 class Recordset;
-struct Tabellenseite;
+class DocumentTable;
 
 // The document to come back to when its table has been opened anew.
 struct Merkzeile
@@ -15,7 +15,7 @@ struct Merkzeile
     std::size_t position = 0; // Taken when the document is gone.
 };
 
-Merkzeile merkeZeile(const Tabellenseite& seite);
+Merkzeile merkeZeile(const DocumentTable& table);
 // Moves to the document, else to the place where it stood. The table must have rows.
 void stelleAuf(Recordset& tabelle, const Merkzeile& zeile);
 // Moves to the row with this path; without one the table stays where it is.

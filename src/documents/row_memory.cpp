@@ -1,8 +1,8 @@
-#include "register/row_memory.h"
+#include "documents/row_memory.h"
 
 #include "base/collation.h"
 #include "database/sql/conditions.h"
-#include "register/table_page.h"
+#include "documents/document_table.h"
 
 #include <algorithm>
 #include <optional>
@@ -52,11 +52,13 @@ bool stelleAufFund(Recordset& tabelle, const Merkzeile& zeile, bool nurDieserPfa
 
 } // namespace
 
-Merkzeile merkeZeile(const Tabellenseite& seite)
+Merkzeile merkeZeile(const DocumentTable& table)
 {
-    Merkzeile zeile{seite.record.DokuBez, seite.record.RevBez, seite.record.filename, 0};
-    if (!seite.gefiltert() && seite.hatZeilen() && !seite.tabelle.Eof() && !seite.tabelle.Bof())
-        zeile.position = seite.tabelle.AbsolutePosition();
+    const DokuRecord& record = table.record();
+    Merkzeile zeile{record.DokuBez, record.RevBez, record.filename, 0};
+    const Recordset& rows = table.rows();
+    if (!table.isFiltered() && table.hasRows() && !rows.Eof() && !rows.Bof())
+        zeile.position = rows.AbsolutePosition();
     return zeile;
 }
 

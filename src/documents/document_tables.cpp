@@ -1,0 +1,84 @@
+#include "documents/document_tables.h"
+
+#include "database/sql/conditions.h"
+#include "platform/uhr.h"
+#include "session/operations.h"
+#include "session/session_state.h"
+
+#include <string_view>
+
+namespace quelvarn {
+namespace {
+
+constexpr std::int64_t SECONDS_UNTIL_CHECK = 60;
+
+} // namespace
+
+DocumentTables::DocumentTables(SessionState& session, Operations& operations)
+    : session_(session), ports_(operations.ports())
+{
+    for (const DokuTyp& type : DOKUTYPEN)
+        tables_.emplace_back(type, operations);
+}
+
+// On its first row. A revision that sorts higher stands before the older ones of its document.
+Recordset DocumentTables::OpenDokuTabelle(const DokuTyp& type) const
+{
+    const std::string_view scope = type.statusbereich ? std::string_view(session_.WhereStatus) : std::string_view();
+    Recordset rows;
+    if (wholeLimit_)
+        rows.setzeGanzGrenze(*wholeLimit_);
+    rows.Open(sql::Query(type.tabelle).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
+              session_.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
+    if (!rows.leer())
+        rows.MoveFirst();
+    return rows;
+}
+
+DocumentTable& DocumentTables::opened(int tab)
+{
+    if (!(*this)[tab].isOpen())
+        reload(tab);
+    return (*this)[tab];
+}
+
+void DocumentTables::reload(int tab)
+{
+    DocumentTable& table = (*this)[tab];
+    Recordset rows = OpenDokuTabelle(table.type());
+    const bool ofFiles = table.type().sondertabelle == 0;
+    if (ofFiles)
+        indicator(tab).clear();
+    table.open(std::move(rows), ofFiles ? ports_.uhr.jetzt().plusSekunden(SECONDS_UNTIL_CHECK) : table.nextCheck());
+}
+
+void DocumentTables::showAll(int tab, const StatusCondition& stays)
+{
+    DocumentTable& table = (*this)[tab];
+    if (!table.isOpen())
+        return;
+    if (table.state() == TableState::NewerData)
+        reload(tab);
+    table.showAll(stays);
+}
+
+void DocumentTables::closeAll()
+{
+    for (DocumentTable& table : tables_)
+        table.close();
+    indicators_ = {};
+}
+
+// Text and indicator panels take turns behind the head of the bar: the indicators are 3, 5, 7, 9 and 11.
+std::string& DocumentTables::indicator(int tab)
+{
+    return indicators_[static_cast<std::size_t>((DOKUTYPEN[static_cast<std::size_t>(tab)].aenderungspanel - 3) / 2)];
+}
+
+void DocumentTables::announce(int tab) const
+{
+    if (rowsReplaced)
+        rowsReplaced(tab);
+}
+
+} // namespace quelvarn
