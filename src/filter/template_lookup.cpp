@@ -34,7 +34,11 @@ std::string VorlageSuchen(Connection& verbindung, std::span<const std::string> b
         return {};
     for (std::size_t levels = MERKMALE.size(); levels >= branch.size(); --levels) {
         Recordset vorlagen;
-        vorlagen.Open(sql::Query("DraftTabelle").columns({"filename"}).distinct().where(templateOf(branch, levels)),
+        vorlagen.Open(sql::Query("DraftTabelle")
+                          .columns({"filename"})
+                          .distinct()
+                          .where(templateOf(branch, levels))
+                          .sortedBy("filename"),
                       verbindung);
         if (!vorlagen.leer())
             return vorlagen.Text("filename");

@@ -128,7 +128,10 @@ private:
     Eigenschaftsbaum& treeInFront() { return trees_[static_cast<std::size_t>(tab())]; }
     void leereDokument(int tab);
     void zeigeNachModus();
+    void fillGeneralPage();
     void zeigeAllgemein();
+    // The status bar tells of the current document.
+    void tellOwnDocument();
     void zeigeEigenschaften();
     void zeigeSeite(InfoSeite seite);
     bool zeigeViewer();

@@ -61,10 +61,16 @@ void DocumentPage::BaumAufbauen(int tab)
     });
     trees_[static_cast<std::size_t>(tab)] = treeOf(record, facts_, shown.type(), session_.Tree);
     stichKomm_ = {record.Stichwoerter, record.Kommentar};
+    tellOwnDocument();
+    zeigeNachModus();
+}
+
+void DocumentPage::tellOwnDocument()
+{
+    const DokuRecord& record = table().record();
     dateinamePanel_ = record.Dateiname;
     ordnerPanel_ = Ordnername(record.filename);
     statuskopf_ = quelvarn::statuskopf(record, session_.Anwender, statuskopf_.farbe);
-    zeigeNachModus();
 }
 
 void DocumentPage::zeigeDateiUnten(const std::string& filename)
@@ -76,6 +82,7 @@ void DocumentPage::zeigeDateiUnten(const std::string& filename)
 
 void DocumentPage::leereDokument(int tab)
 {
+    verlasseViewer();
     trees_[static_cast<std::size_t>(tab)].leere();
     facts_ = {};
     tables_[tab].forgetRecord();
@@ -94,8 +101,11 @@ void DocumentPage::leereDokument(int tab)
 
 void DocumentPage::zeigeNachModus()
 {
-    if (seitenModus_ == 2 && zeigeViewer())
+    fillGeneralPage(); // Also beside the viewer: its warnings stand over every page.
+    if (seitenModus_ == 2 && zeigeViewer()) {
+        treeInFront().gewaehlt = knoten::SMARTVIEWER;
         return;
+    }
     seitenModus_ = 1;
     zeigeAllgemein();
 }

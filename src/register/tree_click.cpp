@@ -119,15 +119,23 @@ void DocumentPage::zeigeEigenschaften()
     zeigeAllgemein();
 }
 
-void DocumentPage::zeigeAllgemein()
+void DocumentPage::fillGeneralPage()
 {
     const DokuRecord& record = table().record();
     const bool vorhanden =
         session_.Tree.Knoten ? session_.Dateiinfo.vorhanden : ports_.dateien.dateiVorhanden(record.filename);
     allgemein_ = allgemeineSeite(record, facts_, table().type(), session_.Tree.Verwendung, vorhanden);
+}
+
+void DocumentPage::zeigeAllgemein()
+{
     const auto merker = std::ranges::find(seitenMerker_, BLEIBT);
     const bool bleibt = session_.Tree.Knoten && merker != seitenMerker_.end();
-    zeigeSeite(bleibt ? MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())] : InfoSeite::Allgemein);
+    if (!bleibt)
+        return zeigeSeite(InfoSeite::Allgemein);
+    const InfoSeite kept = MERKSEITEN[static_cast<std::size_t>(merker - seitenMerker_.begin())];
+    treeInFront().gewaehlt = std::ranges::find(KNOTENSEITEN, kept, &Knotenseite::seite)->text;
+    zeigeSeite(kept);
 }
 
 // A viewer behind another page would hold its file for nothing.
@@ -135,8 +143,10 @@ void DocumentPage::zeigeSeite(InfoSeite seite)
 {
     if (infoSeite_ == InfoSeite::Viewer && seite != InfoSeite::Viewer)
         gezeigt_.leere(Ansicht::Eigenschaften);
-    if (verwendung_.art())
+    if (verwendung_.art()) { // Below stands the document of its current row.
         verwendung_.leere();
+        tellOwnDocument();
+    }
     infoSeite_ = seite;
     if (const Verwendungsart* art = findVerwendungsart(seite))
         verwendung_.fuelle(*art);

@@ -44,7 +44,12 @@ std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabell
 Recordset benutzDefListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
 {
     Textliste liste{"Name", "Wert"};
-    for (const auto& [name, wert] : leseZeilen(verbindung, tabelleBenutzDef, record, false))
+    std::vector<Wertpaar> rows = leseZeilen(verbindung, tabelleBenutzDef, record, false);
+    std::ranges::stable_sort(rows, [](const Wertpaar& left, const Wertpaar& right) {
+        const int names = compareText(left.first, right.first);
+        return names != 0 ? names < 0 : compareText(left.second, right.second) < 0;
+    });
+    for (const auto& [name, wert] : rows)
         liste.zeile({{"Name", name}, {"Wert", wert}});
     return liste.fertig();
 }

@@ -38,8 +38,7 @@ void DocumentPage::verlasseViewer()
         return;
     gezeigt_.leere(Ansicht::Dokument);
     imViewer_ = false;
-    dateinamePanel_ = table().record().Dateiname;
-    ordnerPanel_ = Ordnername(table().record().filename);
+    tellOwnDocument();
 }
 
 void DocumentPage::zeigeVorlage()
@@ -55,8 +54,8 @@ void DocumentPage::anschauen(bool an)
     operations_.perform(Part::Document, "Anzeigen im Viewer", "Fehler beim Anzeigen des Dokuments!", [&] {
         if (!an)
             verlasseViewer();
-        else if (!table().record().filename.empty())
-            zeigeImViewer(table().record().filename);
+        else if (!table().record().filename.empty() && zeigeImViewer(table().record().filename))
+            statuskopf_.text = std::to_string(table().record().Status) + " Status ";
     });
 }
 

@@ -248,7 +248,8 @@ TEST_F(Strukturmerkmale, TheMostExactTemplateIsFoundFirst)
         engine_->fuegeEin("DraftTabelle", werte);
     };
     vorlage("g.dft", {{"Hauptmerkmal_C", "Welle"}, {"Hauptmerkmal_G", "x"}});
-    vorlage("c.dft", {{"Hauptmerkmal_C", "Welle"}});
+    vorlage("c2.dft", {{"Hauptmerkmal_C", "Welle"}});
+    vorlage("c.dft", {{"Hauptmerkmal_C", "Welle"}}); // Of several on one branch the first by path.
     vorlage("d.dft", {{"Hauptmerkmal_C", "Welle"}, {"Hauptmerkmal_D", "lang"}, {"Hauptmerkmal_F", "x"}});
     vorlage("r.dft", {{"Hauptmerkmal_C", "Rohr"}, {"Hauptmerkmal_D", "kurz"}});
     zeile("DraftTabelle", {{"filename", "keine.dft"}, {"Kategorie", "Plan"}, {"Hauptmerkmal_C", "Bob's"}});

@@ -60,6 +60,22 @@ TEST_F(DetailPagesTest, RevisionsComeInTheTwoViewsWithoutThoseThatChangedNothing
     EXPECT_EQ(zeilenVon(InfoSeite::Revisionen), erstellt);
 }
 
+TEST_F(DetailPagesTest, UserDefinedPropertiesStandByTheirNames)
+{
+    dokument(0, "A");
+    for (const auto& [name, wert] : std::vector<std::pair<std::string, std::string>>{{"Ölstand", "x"},
+                                                                                     {"werkstoff", "S235"},
+                                                                                     {"Farbe", "rot"},
+                                                                                     {"Farbe", "blau"},
+                                                                                     {"Zahl", "7"},
+                                                                                     {"abmaß", "1"}})
+        zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", name}, {"Wert", wert}});
+    page_.tabGewaehlt(0);
+    page_.knotenGewaehlt(knoten::BENUTZDEF);
+    const Zeilen sorted{"abmaß|1", "Farbe|blau", "Farbe|rot", "Ölstand|x", "werkstoff|S235", "Zahl|7"};
+    EXPECT_EQ(zeilenVon(InfoSeite::BenutzDef), sorted);
+}
+
 TEST_F(DetailPagesTest, ARowNamedLikeAnAddressStandsOnTheSentToPageOnly)
 {
     dokument(0, "A");

@@ -20,7 +20,9 @@ template <class Node> AusdruckZeiger expression(Node node)
 
 template <class Node> AusdruckZeiger joined(std::vector<AusdruckZeiger> parts)
 {
-    return parts.size() == 1 ? std::move(parts.front()) : expression(Node{std::move(parts)});
+    if (parts.size() == 1)
+        return std::move(parts.front());
+    return expression(Node{std::move(parts)});
 }
 
 } // namespace

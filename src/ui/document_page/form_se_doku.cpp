@@ -17,6 +17,7 @@
 #include "ui/document_page/top_bar_view.h"
 #include "ui/text.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QShortcut>
 #include <QSplitter>
@@ -91,6 +92,7 @@ QWidget* FormSEDoku::neueMitte()
     FrmDokuSmartView_SmartView_->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
     auto* viewerplatz = new QVBoxLayout(FrmDokuSmartView_SmartView_);
     viewerplatz->addWidget(&viewer_.platz(Ansicht::Dokument));
+    FrmDokuSmartView_SmartView_->setFocusPolicy(Qt::ClickFocus);
     FrmDokuSmartView_SmartView_->hide();
     auto* mitte = new QWidget;
     auto* reihe = new QHBoxLayout(mitte);
@@ -143,6 +145,8 @@ QTabWidget* FormSEDoku::neueReiter()
     connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) {
                 const Sanduhr warten;
                 modell_.tabGewaehlt(tab);
+                if (!SSTabDGDoku_->tabBar()->hasFocus()) // There the arrow keys go on from tab to tab.
+                    setFocus();
             }));
     return reiter;
 }
@@ -197,8 +201,15 @@ void FormSEDoku::zeigeReiter()
 
 void FormSEDoku::zeigeViewerseite()
 {
-    FrmDokuSmartView_Doku_->setVisible(!modell_.imViewer());
-    FrmDokuSmartView_SmartView_->setVisible(modell_.imViewer());
+    QWidget& behind = modell_.imViewer() ? *FrmDokuSmartView_Doku_ : *FrmDokuSmartView_SmartView_;
+    QWidget& front = modell_.imViewer() ? *FrmDokuSmartView_SmartView_ : *FrmDokuSmartView_Doku_;
+    if (!front.isHidden())
+        return;
+    const bool hadFocus = behind.isAncestorOf(QApplication::focusWidget());
+    front.show();
+    if (hadFocus) // Else it would go to the next control of the window, and keys with it.
+        modell_.imViewer() ? front.setFocus() : setFocus();
+    behind.hide();
 }
 
 void FormSEDoku::refreshRows()
