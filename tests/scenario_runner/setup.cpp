@@ -112,7 +112,10 @@ void addSetupVerbs(Verbs& verbs)
     verbs["last-database"] = lastDatabase;
     verbs["file"] = makeFile;
     verbs["remove"] = [](World& world, const Step& step) { world.files().loesche(step.word(1)); };
-    verbs["sql"] = [](World& world, const Step& step) { world.connect().Execute(test::statement(step.word(1))); };
+    verbs["sql"] = [](World& world, const Step& step) {
+        const std::string more = step.text.empty() ? "" : "\n" + step.joinedText();
+        world.connect().Execute(test::statement(step.word(1) + more));
+    };
     verbs["printer"] = [](World& world, const Step& step) {
         world.setPrinter(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), std::stoi(step.word(4)));
     };

@@ -4,7 +4,8 @@
 
 namespace quelvarn {
 
-// A label of one line that shortens a text it has no room for; the tool tip then has the whole one.
+// A label of one line, also for a text of several, that shortens a text it has no room for; the tool tip then has the
+// whole one.
 class KurzLabel : public QLabel
 {
     Q_OBJECT
@@ -12,9 +13,12 @@ class KurzLabel : public QLabel
 public:
     explicit KurzLabel(QWidget* eltern = nullptr, Qt::TextElideMode auslassung = Qt::ElideRight);
 
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
+    // As much of the text as there is room for.
+    QString shownText() const;
     void paintEvent(QPaintEvent* ereignis) override;
     bool event(QEvent* ereignis) override;
 

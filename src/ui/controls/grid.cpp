@@ -1,8 +1,11 @@
 #include "ui/controls/grid.h"
 
 #include "database/recordset.h"
+#include "ui/controls/column_widths.h"
+#include "ui/controls/grid_head.h"
 #include "ui/text.h"
 #include "ui/theme/style.h"
+#include "ui/value_text.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -23,13 +26,18 @@ class Zellenzeichner : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    QString displayText(const QVariant& wert, const QLocale& sprache) const override
+    {
+        return oneLine(QStyledItemDelegate::displayText(wert, sprache));
+    }
+
     bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* ansicht, const QStyleOptionViewItem& option,
                    const QModelIndex& stelle) override
     {
         if (ereignis->type() != QEvent::ToolTip)
             return QStyledItemDelegate::helpEvent(ereignis, ansicht, option, stelle);
         const bool gekuerzt = sizeHint(option, stelle).width() > ansicht->visualRect(stelle).width();
-        QToolTip::showText(ereignis->globalPos(), gekuerzt ? stelle.data().toString() : QString(), ansicht);
+        QToolTip::showText(ereignis->globalPos(), gekuerzt ? asTip(stelle.data().toString()) : QString(), ansicht);
         return true;
     }
 
@@ -80,21 +88,6 @@ private:
     }
 };
 
-// Shortens the captions that have no room: under a style sheet the header itself cuts them off.
-class Gitterkopf : public QHeaderView
-{
-public:
-    using QHeaderView::QHeaderView;
-
-protected:
-    void initStyleOptionForIndex(QStyleOptionHeader* option, int abschnitt) const override
-    {
-        constexpr int RAENDER = 12;
-        QHeaderView::initStyleOptionForIndex(option, abschnitt);
-        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, sectionSize(abschnitt) - RAENDER);
-    }
-};
-
 } // namespace
 
 Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile)
@@ -113,7 +106,7 @@ Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::ve
 void stelleGitterEin(QTableView& gitter)
 {
     gitter.setItemDelegate(new Zellenzeichner(&gitter));
-    gitter.setHorizontalHeader(new Gitterkopf(Qt::Horizontal, &gitter));
+    gitter.setHorizontalHeader(new GridHead(&gitter));
     gitter.setSelectionBehavior(QTableView::SelectRows);
     gitter.setSelectionMode(QTableView::SingleSelection);
     gitter.setEditTriggers(QTableView::NoEditTriggers);
@@ -126,15 +119,6 @@ void stelleGitterEin(QTableView& gitter)
     gitter.verticalHeader()->hide();
     gitter.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     gitter.verticalHeader()->setDefaultSectionSize(gitter.fontMetrics().height() + 5);
-    QHeaderView& kopf = *gitter.horizontalHeader();
-    QFont fett = kopf.font(); // As the style sheet draws it: a caption is shortened by this font.
-    fett.setBold(true);
-    fett.setPointSizeF(8.25);
-    kopf.setFont(fett);
-    kopf.setStretchLastSection(true);
-    kopf.setHighlightSections(false);
-    kopf.setSectionsClickable(false);
-    kopf.setMinimumSectionSize(40);
 }
 
 void Gitter::zeige(const Recordset* zeilen, unsigned fassung)
@@ -157,13 +141,14 @@ void Gitter::resizeEvent(QResizeEvent* ereignis)
 void Gitter::verteileBreiten()
 {
     verteilt_ = true;
-    int rest = viewport()->width();
-    for (std::size_t i = 0; i + 1 < anteile_.size(); ++i) {
-        setColumnWidth(static_cast<int>(i), viewport()->width() * anteile_[i] / 100);
-        rest -= columnWidth(static_cast<int>(i));
-    }
-    // The head stretches it too, but not as long as the columns before were too wide.
-    setColumnWidth(static_cast<int>(anteile_.size()) - 1, rest);
+    const auto& kopf = static_cast<const GridHead&>(*horizontalHeader());
+    std::vector<int> least;
+    for (int i = 0; i < modell_->columnCount(); ++i)
+        least.push_back(kopf.leastWidth(i));
+    const std::vector<int> breiten = columnWidths(viewport()->width(), anteile_, least);
+    // The head stretches the last one too, but not as long as the columns before were too wide.
+    for (std::size_t i = 0; i < breiten.size(); ++i)
+        setColumnWidth(static_cast<int>(i), breiten[i]);
     verteilt_ = false;
 }
 

@@ -31,7 +31,7 @@ void Statustext::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter painter(this);
     painter.setPen(statusText(rgb_));
-    painter.drawText(contentsRect(), static_cast<int>(alignment()), text());
+    painter.drawText(contentsRect(), static_cast<int>(alignment()), shownText());
 }
 
 } // namespace quelvarn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLabel>
+#include "ui/controls/elided_label.h"
 
 namespace quelvarn {
 
@@ -23,12 +23,12 @@ private:
 };
 
 // A text in the colour of a document's status, as readable as the appearance of the moment needs it.
-class Statustext : public QLabel
+class Statustext : public KurzLabel
 {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    using KurzLabel::KurzLabel;
 
     void setzeFarbe(unsigned rgb);
 

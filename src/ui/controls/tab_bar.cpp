@@ -37,7 +37,8 @@ QSize Reiterleiste::minimumSizeHint() const
 
 int Reiterleiste::wunschbreite(int index) const
 {
-    return fontMetrics().horizontalAdvance(tabText(index)) + RAND;
+    const QString shown = tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return fontMetrics().horizontalAdvance(shown) + RAND;
 }
 
 QSize Reiterleiste::tabSizeHint(int index) const

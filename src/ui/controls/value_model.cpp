@@ -1,6 +1,7 @@
 #include "ui/controls/value_model.h"
 
 #include "ui/text.h"
+#include "ui/value_text.h"
 
 #include <algorithm>
 
@@ -31,7 +32,9 @@ QVariant Wertemodell::data(const QModelIndex& stelle, int rolle) const
 {
     if (!stelle.isValid() || stelle.row() >= rowCount()) // Combos ask for no entry, too.
         return {};
-    const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole || rolle == Qt::ToolTipRole;
+    if (rolle == Qt::ToolTipRole)
+        return asTip(zuQt(wert(stelle.row())));
+    const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole;
     return text ? QVariant(zuQt(wert(stelle.row()))) : QVariant();
 }
 

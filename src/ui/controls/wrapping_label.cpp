@@ -1,5 +1,7 @@
 #include "ui/controls/wrapping_label.h"
 
+#include "ui/value_text.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -35,7 +37,7 @@ qreal brichUm(QTextLayout& satz, int breite)
 
 } // namespace
 
-Umbruchlabel::Umbruchlabel(QWidget* eltern) : QLabel(eltern)
+Umbruchlabel::Umbruchlabel(qsizetype letters) : letters_(letters)
 {
     setTextFormat(Qt::PlainText);
     QSizePolicy regel(QSizePolicy::Preferred, QSizePolicy::Preferred);
@@ -44,9 +46,14 @@ Umbruchlabel::Umbruchlabel(QWidget* eltern) : QLabel(eltern)
     setContentsMargins(UEBERHANG, 0, 0, 0);
 }
 
+QString Umbruchlabel::shownText() const
+{
+    return mitBruchstellen(asLines(beginning(text(), letters_)));
+}
+
 int Umbruchlabel::heightForWidth(int breite) const
 {
-    QTextLayout satz(mitBruchstellen(text()), font());
+    QTextLayout satz(shownText(), font());
     const int platz = breite - contentsMargins().left() - contentsMargins().right();
     return std::max(static_cast<int>(std::ceil(brichUm(satz, platz))), fontMetrics().height());
 }
@@ -65,7 +72,7 @@ void Umbruchlabel::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
-    QTextLayout satz(mitBruchstellen(text()), font(), this);
+    QTextLayout satz(shownText(), font(), this);
     brichUm(satz, contentsRect().width());
     satz.draw(&painter, contentsRect().topLeft());
 }

@@ -7,13 +7,15 @@ namespace quelvarn {
 // Room at the left of a value for letters that reach beyond their place, such as J.
 constexpr int UEBERHANG = 2;
 
-// A label that wraps its text at words, and anywhere within a word that is longer than the line, such as a path.
+// A label that wraps its text at words, and anywhere within a word that is longer than the line, such as a path. Of a
+// text that is very long it shows the beginning, and how much is left.
 class Umbruchlabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit Umbruchlabel(QWidget* eltern = nullptr);
+    // Letters: shown at most.
+    explicit Umbruchlabel(qsizetype letters = 4000);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int breite) const override;
@@ -22,6 +24,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
+
+private:
+    QString shownText() const;
+
+    qsizetype letters_;
 };
 
 } // namespace quelvarn

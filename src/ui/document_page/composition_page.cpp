@@ -3,6 +3,7 @@
 #include "register/usage_kinds.h"
 #include "register/usage_page.h"
 #include "ui/busy_pointer.h"
+#include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/status_marks.h"
 #include "ui/controls/strip.h"
@@ -189,7 +190,7 @@ void Verwendungsansicht::baueStatus(QGridLayout& gitter, int zeile)
     punkt_ = new Statuspunkt;
     statusName_ = new Statustext;
     statusName_->setObjectName(zuQt(namen_.felder) + QStringLiteral("Status"));
-    auto* nummer = new QLabel;
+    auto* nummer = new KurzLabel;
     nummer->setObjectName(QStringLiteral("%1(%2)").arg(zuQt(namen_.felder)).arg(zeile));
     werte_.push_back({nummer, &AllgemeineSeite::Status});
     auto* reihe = new QHBoxLayout;

@@ -1,12 +1,12 @@
 #include "ui/document_page/file_picture.h"
 
 #include "register/detail_pages.h"
+#include "ui/controls/long_text.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/tiff_view.h"
 #include "ui/text.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 namespace quelvarn {
@@ -21,11 +21,8 @@ QString systempfad(const Detailseiten& details, const std::string& pfad)
 } // namespace
 
 Dateibildansicht::Dateibildansicht(Detailseiten& details)
-    : details_(details), PicZusDoku_(new TiffAnsicht("PicZusDoku")), OLEAppZusDoku_(new QPlainTextEdit)
+    : details_(details), PicZusDoku_(new TiffAnsicht("PicZusDoku")), OLEAppZusDoku_(new LongText("OLEAppZusDoku"))
 {
-    OLEAppZusDoku_->setObjectName(QStringLiteral("OLEAppZusDoku"));
-    OLEAppZusDoku_->setReadOnly(true);
-    OLEAppZusDoku_->setTabChangesFocus(true);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins({});
     aufbau->addWidget(PicZusDoku_);
@@ -39,8 +36,7 @@ void Dateibildansicht::zeigen()
     const Dateibild& bild = details_.grafikZusDoku();
     PicZusDoku_->zeige(systempfad(details_, bild.datei));
     PicZusDoku_->setVisible(bild.art == Dateibild::Art::Bild);
-    if (OLEAppZusDoku_->toPlainText() != zuQt(bild.text))
-        OLEAppZusDoku_->setPlainText(zuQt(bild.text));
+    OLEAppZusDoku_->showValue(zuQt(bild.text));
     OLEAppZusDoku_->setVisible(bild.art == Dateibild::Art::Text);
     setVisible(bild.art != Dateibild::Art::Keins);
 }

@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-class QPlainTextEdit;
 
 namespace quelvarn {
 
 class Detailseiten;
+class LongText;
 class TiffAnsicht;
 
 // An additional document shown on its page: a picture (PicZusDoku), or a text or hint (OLEAppZusDoku).
@@ -22,7 +22,7 @@ public:
 private:
     Detailseiten& details_;
     TiffAnsicht* PicZusDoku_;
-    QPlainTextEdit* OLEAppZusDoku_;
+    LongText* OLEAppZusDoku_;
 };
 
 // The page of a drawing's TIFF.

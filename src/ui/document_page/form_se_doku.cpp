@@ -16,6 +16,7 @@
 #include "ui/document_page/tool_bars.h"
 #include "ui/document_page/top_bar_view.h"
 #include "ui/text.h"
+#include "ui/value_text.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -189,11 +190,12 @@ void FormSEDoku::zeigeReiter()
 {
     const QSignalBlocker still(SSTabDGDoku_);
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        const QString text = zuQt(session_.mehrzahl(tab));
+        const QString name = zuQt(session_.mehrzahl(tab));
+        const QString text = asCaption(name);
         if (SSTabDGDoku_->tabText(tab) == text)
             continue;
         SSTabDGDoku_->setTabText(tab, text);
-        SSTabDGDoku_->setTabToolTip(tab, text);
+        SSTabDGDoku_->setTabToolTip(tab, asTip(name));
     }
     SSTabDGDoku_->setCurrentIndex(modell_.tab());
     setFocusProxy(&tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter());

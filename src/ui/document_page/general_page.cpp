@@ -1,6 +1,7 @@
 #include "ui/document_page/general_page.h"
 
 #include "register/info_pages.h"
+#include "ui/controls/elided_label.h"
 #include "ui/controls/status_marks.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/wrapping_label.h"
@@ -9,6 +10,8 @@
 
 #include <QGridLayout>
 #include <QLabel>
+
+#include <utility>
 
 namespace quelvarn {
 
@@ -35,10 +38,15 @@ QString name(int index)
     return QStringLiteral("LblInfo(%1)").arg(index);
 }
 
-void trenne(QGridLayout& gitter, int zeile)
+// With its distances, so that it can go without leaving them.
+QWidget* trenne(QGridLayout& gitter, int zeile)
 {
-    gitter.setRowMinimumHeight(zeile, 13);
-    gitter.addWidget(trennlinie(), zeile, 0, 1, 2, Qt::AlignVCenter);
+    auto* platz = new QWidget;
+    auto* aufbau = new QVBoxLayout(platz);
+    aufbau->setContentsMargins(0, 6, 0, 6);
+    aufbau->addWidget(trennlinie());
+    gitter.addWidget(platz, zeile, 0, 1, 2);
+    return platz;
 }
 
 } // namespace
@@ -69,9 +77,8 @@ Allgemeinansicht::Allgemeinansicht() : punkt_(new Statuspunkt), inhalt_(new QWid
                   &AllgemeineSeite::Bearbeiter);
     baueAenderung(*gitter, zeile++, 27, QStringLiteral("Erstellt"), &AllgemeineSeite::Erstellt,
                   &AllgemeineSeite::Autor);
-    trenne(*gitter, zeile++);
     baueVerwendung(*gitter, zeile);
-    zeile += 2;
+    zeile += 3;
     trenne(*gitter, zeile++);
     for (const Zeile& teil : DATEI)
         baueZeile(*gitter, zeile++, teil.index, QString::fromUtf8(teil.kopf), teil.feld);
@@ -88,8 +95,7 @@ QLabel* Allgemeinansicht::neuerKopf(int index, const QString& text)
 
 QLabel* Allgemeinansicht::neuerWert(int index, std::string AllgemeineSeite::*feld, bool umbrechen)
 {
-    QLabel* wert = umbrechen ? new Umbruchlabel : new QLabel;
-    wert->setTextFormat(Qt::PlainText);
+    QLabel* wert = umbrechen ? static_cast<QLabel*>(new Umbruchlabel) : new KurzLabel;
     wert->setObjectName(name(index));
     if (!umbrechen)
         wert->setContentsMargins(UEBERHANG, 0, 0, 0);
@@ -123,9 +129,8 @@ void Allgemeinansicht::baueAenderung(QGridLayout& gitter, int zeile, int index, 
 {
     auto* reihe = new QHBoxLayout;
     reihe->setSpacing(12);
-    reihe->addWidget(neuerWert(index + 1, datum));
-    reihe->addWidget(neuerWert(index + 2, wer));
-    reihe->addStretch(1);
+    reihe->addWidget(neuerWert(index + 1, datum), 0, Qt::AlignTop);
+    reihe->addWidget(neuerWert(index + 2, wer, true), 1);
     gitter.addWidget(neuerKopf(index, kopf), zeile, 0);
     gitter.addLayout(reihe, zeile, 1);
 }
@@ -133,22 +138,33 @@ void Allgemeinansicht::baueAenderung(QGridLayout& gitter, int zeile, int index, 
 // What stands there, and whether anything does, depends on the kind of document.
 void Allgemeinansicht::baueVerwendung(QGridLayout& gitter, int zeile)
 {
-    const auto kopf = [this](int index, std::string AllgemeineSeite::*feld) {
-        auto* label = neuerWert(index, feld);
+    const auto zeige = [&, this](int index, std::string AllgemeineSeite::*kopf, std::string AllgemeineSeite::*wert) {
+        auto* label = neuerWert(index, kopf);
         label->setContentsMargins({});
         setzeRolle(*label, Rolle::Beschriftung);
-        return label;
+        gitter.addWidget(label, zeile, 0, Qt::AlignTop);
+        gitter.addWidget(neuerWert(index + 1, wert, true), zeile++, 1);
     };
-    gitter.addWidget(kopf(8, &AllgemeineSeite::kopf8), zeile, 0);
-    gitter.addWidget(neuerWert(9, &AllgemeineSeite::wert9), zeile, 1);
-    gitter.addWidget(kopf(39, &AllgemeineSeite::kopf39), zeile + 1, 0);
-    gitter.addWidget(neuerWert(40, &AllgemeineSeite::wert40), zeile + 1, 1);
+    verwendung_ = trenne(gitter, zeile++);
+    zeige(8, &AllgemeineSeite::kopf8, &AllgemeineSeite::wert9);
+    zeige(39, &AllgemeineSeite::kopf39, &AllgemeineSeite::wert40);
+}
+
+// A line without a caption takes no room.
+void Allgemeinansicht::zeigeVerwendung(const AllgemeineSeite& seite)
+{
+    const std::pair<int, bool> zeilen[]{{8, !seite.kopf8.empty()}, {39, !seite.kopf39.empty()}};
+    for (const auto& [index, da] : zeilen)
+        for (const int stelle : {index, index + 1})
+            inhalt_->findChild<QLabel*>(name(stelle))->setVisible(da);
+    verwendung_->setVisible(zeilen[0].second || zeilen[1].second);
 }
 
 void Allgemeinansicht::zeigen(const AllgemeineSeite& seite)
 {
     for (const Wert& wert : werte_)
         wert.label->setText(zuQt(seite.*wert.feld));
+    zeigeVerwendung(seite);
     punkt_->setVisible(!seite.leer);
     punkt_->setzeFarbe(seite.statusfarbe);
     statusName_->setText(zuQt(seite.StatusName));

@@ -35,6 +35,7 @@ private:
     void baueAenderung(QGridLayout& gitter, int zeile, int index, const QString& kopf,
                        std::string AllgemeineSeite::*datum, std::string AllgemeineSeite::*name);
     void baueVerwendung(QGridLayout& gitter, int zeile);
+    void zeigeVerwendung(const AllgemeineSeite& seite);
     QLabel* neuerKopf(int index, const QString& text);
     QLabel* neuerWert(int index, std::string AllgemeineSeite::*feld, bool umbrechen = false);
 
@@ -42,6 +43,7 @@ private:
     Statuspunkt* punkt_;
     Statustext* statusName_;
     QWidget* inhalt_;
+    QWidget* verwendung_ = nullptr; // The line over where-used.
 };
 
 } // namespace quelvarn

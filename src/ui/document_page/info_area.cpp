@@ -4,6 +4,7 @@
 #include "register/usage_kinds.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/controls/elided_label.h"
+#include "ui/controls/long_text.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/composition_page.h"
 #include "ui/document_page/file_page.h"
@@ -15,7 +16,6 @@
 #include "ui/theme/colours.h"
 
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 #include <QStackedWidget>
 
 namespace quelvarn {
@@ -30,15 +30,6 @@ QString rahmenname(InfoSeite seite)
     if (seite == InfoSeite::Tiff)
         return QStringLiteral("FrmTiff");
     return QStringLiteral("FrmInfoDoku(%1)").arg(static_cast<int>(seite));
-}
-
-QPlainTextEdit* neuesTextfeld(const char* name)
-{
-    auto* feld = new QPlainTextEdit;
-    feld->setObjectName(QLatin1String(name));
-    feld->setReadOnly(true);
-    feld->setTabChangesFocus(true);
-    return feld;
 }
 
 QLabel* neueWarnung(const char* name, const QString& text)
@@ -56,8 +47,8 @@ Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
       LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei fehlt"))),
       LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
       leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
-      tiff_(new Tiffseite(modell.details())), TextKeywords_(neuesTextfeld("TextKeywords")),
-      TextComments_(neuesTextfeld("TextComments"))
+      tiff_(new Tiffseite(modell.details())), TextKeywords_(new LongText("TextKeywords")),
+      TextComments_(new LongText("TextComments"))
 {
     baueSeiten(viewer);
     auto* aufbau = new QVBoxLayout(this);
@@ -75,8 +66,11 @@ QWidget* Infobereich::neuerKopf()
     kopf->setMinimumHeight(30); // As high as the tabs beside it.
     kopf->reihe().setContentsMargins(4, 0, 12, 0);
     kopf->reihe().addWidget(kopf_, 1);
-    kopf->reihe().addWidget(LblNichtVorhanden_);
-    kopf->reihe().addWidget(LblAchtungRev_);
+    auto* warnings = new QVBoxLayout; // One above the other: the head beside them stays whole.
+    warnings->setSpacing(0);
+    for (QLabel* warning : {LblNichtVorhanden_, LblAchtungRev_})
+        warnings->addWidget(warning, 0, Qt::AlignRight);
+    kopf->reihe().addLayout(warnings);
     return kopf;
 }
 
@@ -137,12 +131,8 @@ void Infobereich::zeigen()
     datei_->zeigen();
     for (auto* ansicht : verwendung_)
         ansicht->zeigen();
-    const auto setze = [](QPlainTextEdit& feld, const std::string& text) {
-        if (feld.toPlainText() != zuQt(text))
-            feld.setPlainText(zuQt(text));
-    };
-    setze(*TextKeywords_, modell_.stichKomm().TextKeywords);
-    setze(*TextComments_, modell_.stichKomm().TextComments);
+    TextKeywords_->showValue(zuQt(modell_.stichKomm().TextKeywords));
+    TextComments_->showValue(zuQt(modell_.stichKomm().TextComments));
     for (Listenseite* liste : listen_)
         liste->zeigen();
     tiff_->zeigen();

@@ -7,7 +7,6 @@
 #include <vector>
 
 class QLabel;
-class QPlainTextEdit;
 class QStackedWidget;
 
 namespace quelvarn {
@@ -17,6 +16,7 @@ class Dateiansicht;
 class DocumentPage;
 class KurzLabel;
 class Listenseite;
+class LongText;
 class QtViewer;
 class Tiffseite;
 class Verwendungsansicht;
@@ -53,8 +53,8 @@ private:
     Tiffseite* tiff_;
     std::vector<Listenseite*> listen_;
     std::vector<Verwendungsansicht*> verwendung_;
-    QPlainTextEdit* TextKeywords_;
-    QPlainTextEdit* TextComments_;
+    LongText* TextKeywords_;
+    LongText* TextComments_;
 };
 
 } // namespace quelvarn

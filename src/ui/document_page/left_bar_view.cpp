@@ -12,6 +12,7 @@
 #include "ui/guard.h"
 #include "ui/text.h"
 #include "ui/theme/icons.h"
+#include "ui/value_text.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -139,7 +140,7 @@ void LinkeLeistenansicht::fuelleFavoriten()
 {
     favoriten_->clear();
     for (const std::string& name : modell_.favoritennamen()) {
-        QAction* eintrag = favoriten_->addAction(zuQt(name).replace(u'&', QStringLiteral("&&")));
+        QAction* eintrag = favoriten_->addAction(asCaption(zuQt(name)));
         connect(eintrag, &QAction::triggered, this, bewacht([this, name] {
                     favoriten_->close();
                     modell_.waehleFavorit(name);
@@ -157,7 +158,7 @@ void LinkeLeistenansicht::zeigen()
         FrmSuchenFiltern_->zeigen();
     if (modell_.zeigtDatum())
         FrmFilternDatum_->zeigen();
-    LblFilter_->setText(zuQt(modell_.LblFilter()));
+    LblFilter_->setText(asCaption(zuQt(modell_.LblFilter())));
     DataGridFilterEigenMerk_->zeilen().zeige(modell_.gezeigteWerte());
     zeigeKnoepfe();
     zeigeZurueck();

@@ -11,6 +11,12 @@
 
 namespace quelvarn {
 
+namespace {
+
+constexpr qsizetype WHOLE_CELL_LETTERS = 600; // The grid above needs room, too.
+
+} // namespace
+
 Listenseite::Listenseite(DocumentPage& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
                          std::vector<Gitterspalte> spalten, std::vector<int> anteile)
     : modell_(modell), seite_(seite), gitter_(new Gitter(gitter, std::move(spalten), std::move(anteile))),
@@ -39,7 +45,7 @@ QHBoxLayout& Listenseite::neueReihe()
 
 void Listenseite::zeigeGanz(std::string_view feld)
 {
-    auto* ganz = new Umbruchlabel;
+    auto* ganz = new Umbruchlabel(WHOLE_CELL_LETTERS);
     auto* reihe = new QHBoxLayout;
     reihe->setContentsMargins(10, 6, 12, 4);
     reihe->addWidget(ganz);

@@ -9,6 +9,12 @@
 
 namespace quelvarn {
 
+namespace {
+
+constexpr int STATUS_LETTERS = 50; // A user's name and a status; a longer one is shortened.
+
+} // namespace
+
 StatusBarDatei::StatusBarDatei()
     : Streifen(Art::Statuszeile, "StatusBarDatei"), dateiname_(new KurzLabel),
       pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)), LblKopfStatus_(new Statustext)
@@ -16,6 +22,8 @@ StatusBarDatei::StatusBarDatei()
     dateiname_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
     LblKopfStatus_->setObjectName(QStringLiteral("LblKopfStatus"));
     setzeRolle(*LblKopfStatus_, Rolle::Kopf);
+    LblKopfStatus_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // The path gives way first.
+    LblKopfStatus_->setMaximumWidth(LblKopfStatus_->fontMetrics().averageCharWidth() * STATUS_LETTERS);
     pfadname_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
     reihe().addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDatei(1)")));
     reihe().addWidget(dateiname_);

@@ -2,6 +2,7 @@
 
 #include "filter/structure_area.h"
 #include "ui/text.h"
+#include "ui/value_text.h"
 
 #include <algorithm>
 
@@ -112,7 +113,7 @@ QVariant Merkmalbaum::data(const QModelIndex& stelle, int rolle) const
     if (rolle == Qt::DisplayRole)
         return knoten == &wurzel_ ? QStringLiteral("Root") : zuQt(knoten->wert);
     if (rolle == Qt::ToolTipRole && !knoten->statuszeile.empty())
-        return zuQt(knoten->statuszeile);
+        return asTip(zuQt(knoten->statuszeile));
     return {};
 }
 

@@ -9,6 +9,7 @@
 #include "ui/controls/value_model.h"
 #include "ui/guard.h"
 #include "ui/text.h"
+#include "ui/value_text.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -40,9 +41,9 @@ void zeigeName(QRadioButton& knopf, const QString& name)
         return;
     knopf.setProperty("vollerText", name);
     const QFontMetrics mass = knopf.fontMetrics();
-    const QString kurz = mass.elidedText(name, Qt::ElideRight, mass.averageCharWidth() * NAMENSLAENGE);
-    knopf.setText(QString(kurz).replace(u'&', QStringLiteral("&&")));
-    knopf.setToolTip(kurz == name ? QString() : name);
+    const QString kurz = mass.elidedText(oneLine(name), Qt::ElideRight, mass.averageCharWidth() * NAMENSLAENGE);
+    knopf.setText(asCaption(kurz));
+    knopf.setToolTip(kurz == name ? QString() : asTip(name));
     knopf.setAccessibleName(name);
 }
 

@@ -4,6 +4,7 @@
 #include "ui/guard.h"
 #include "ui/text.h"
 #include "ui/theme/icons.h"
+#include "ui/value_text.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -31,7 +32,7 @@ QTreeWidgetItem* neuerOrdner(const QString& name, const QString& pfad, const cha
     auto* eintrag = new QTreeWidgetItem({name});
     eintrag->setData(0, ROLLE_PFAD, pfad);
     eintrag->setIcon(0, symbol(bild, QPalette::PlaceholderText));
-    eintrag->setToolTip(0, pfad);
+    eintrag->setToolTip(0, asTip(pfad));
     return eintrag;
 }
 

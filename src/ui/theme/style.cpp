@@ -2,8 +2,10 @@
 
 #include "ui/theme/colours.h"
 #include "ui/theme/icons.h"
+#include "ui/value_text.h"
 
 #include <QAbstractItemView>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -11,6 +13,18 @@
 #include <algorithm>
 
 namespace quelvarn {
+
+namespace {
+
+// Every entry of a list, tree or combo has one line, whatever its value has.
+QStyleOptionViewItem ofOneLine(const QStyleOptionViewItem& entry)
+{
+    QStyleOptionViewItem changed = entry;
+    changed.text = oneLine(entry.text);
+    return changed;
+}
+
+} // namespace
 
 Programmstil::Programmstil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
@@ -45,9 +59,12 @@ int Programmstil::pixelMetric(PixelMetric mass, const QStyleOption* option, cons
 QSize Programmstil::sizeFromContents(ContentsType art, const QStyleOption* option, const QSize& inhalt,
                                      const QWidget* widget) const
 {
-    QSize groesse = QProxyStyle::sizeFromContents(art, option, inhalt, widget);
-    if (art == CT_ItemViewItem)
-        groesse.setHeight(std::max(groesse.height(), option->fontMetrics.height() + 3));
+    const auto* eintrag = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (art != CT_ItemViewItem || eintrag == nullptr)
+        return QProxyStyle::sizeFromContents(art, option, inhalt, widget);
+    const QStyleOptionViewItem einzeilig = ofOneLine(*eintrag);
+    QSize groesse = QProxyStyle::sizeFromContents(art, &einzeilig, inhalt, widget);
+    groesse.setHeight(std::max(groesse.height(), option->fontMetrics.height() + 3));
     return groesse;
 }
 
@@ -157,6 +174,26 @@ void zeichneAuswahlfeld(QPainter& painter, const QStyleOptionComboBox& option, c
 void zeichneFokusmarke(QPainter& painter, const QRect& eintrag)
 {
     painter.fillRect(QRect(0, eintrag.top(), 3, eintrag.height()), farbsatz().akzent);
+}
+
+// A value with signs of a markup language is shown as it is, on every label and in every tool tip, which is a label
+// of the toolkit.
+void Programmstil::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && label->textFormat() == Qt::AutoText)
+        label->setTextFormat(Qt::PlainText);
+}
+
+void Programmstil::drawControl(ControlElement teil, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (const auto* entry = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+        teil == CE_ItemViewItem && entry != nullptr) {
+        const QStyleOptionViewItem changed = ofOneLine(*entry);
+        return QProxyStyle::drawControl(teil, &changed, painter, widget);
+    }
+    QProxyStyle::drawControl(teil, option, painter, widget);
 }
 
 void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,

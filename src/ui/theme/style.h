@@ -15,6 +15,10 @@ public:
                            const QWidget* widget) const override;
     int styleHint(StyleHint frage, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* antwort) const override;
+    void polish(QWidget* widget) override;
+    using QProxyStyle::polish;
+    void drawControl(ControlElement teil, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl art, const QStyleOptionComplex* option, QPainter* painter,
