@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-
 namespace quelvarn {
 
 class Detailseiten;
