@@ -338,9 +338,10 @@ protected:
     FakeBildschirm screen_;
     QtViewer viewer_{welt_.dateien};
     Waechter guard_{welt_.meldungen, [] {}};
-    DocumentPage model_{session_, ports_, screen_.gezeigt};
-    LinkeLeiste left_{session_, ports_, filter_, model_};
-    ObereLeiste top_{session_, ports_, model_};
+    DocumentTables tables_{session_, operations_};
+    DocumentPage model_{session_, operations_, tables_, filter_, screen_.gezeigt};
+    LinkeLeiste left_{session_, operations_, filter_, model_};
+    ObereLeiste top_{session_, operations_, model_};
     FormSEDoku page_{model_, left_, top_, session_, viewer_};
 };
 
