@@ -24,7 +24,7 @@ namespace {
 
 constexpr const char* AUFRUF =
     "quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]\n"
-    "               [--access FILE] [--without-program] [--without-qt-peer] [--qt-peer-runs N]";
+    "               [--access FILE] [--without-program | --only-program] [--without-qt-peer] [--qt-peer-runs N]";
 
 // A smaller register is for trying things out: its figures are only shown beside those of the peers.
 constexpr std::size_t DOKUMENTE_DER_GRENZEN = 500'000;
@@ -35,6 +35,7 @@ struct Auftrag
     int laeufe = 7;
     int qtLaeufe = 1; // 0 leaves the peer out.
     bool programm = true;
+    bool core = true;
     std::filesystem::path json;
     std::filesystem::path datenbank;
     std::filesystem::path access; // Nothing is imported where it is missing.
@@ -65,6 +66,8 @@ Auftrag leseAuftrag(int anzahl, char** argumente)
         const std::string name = argumente[i];
         if (name == "--without-program")
             auftrag.programm = false;
+        else if (name == "--only-program")
+            auftrag.core = false;
         else if (name == "--without-qt-peer")
             auftrag.qtLaeufe = 0;
         else if (i + 1 < anzahl)
@@ -78,7 +81,7 @@ Auftrag leseAuftrag(int anzahl, char** argumente)
     return auftrag;
 }
 
-void messe(Messreihe& reihe, const Auftrag& auftrag)
+void measureCore(Messreihe& reihe, const Auftrag& auftrag)
 {
 #ifdef QUELVARN_BENCH_ACCESS
     const auto access =
@@ -91,6 +94,12 @@ void messe(Messreihe& reihe, const Auftrag& auftrag)
     messeBenutzDef(reihe, auftrag.datenbank);
     messeVerwendung(reihe, auftrag.datenbank);
     messeListen(reihe, auftrag.datenbank);
+}
+
+void messe(Messreihe& reihe, const Auftrag& auftrag)
+{
+    if (auftrag.core)
+        measureCore(reihe, auftrag);
 #ifdef QUELVARN_BENCH_UI
     if (auftrag.programm)
         messeFenster(reihe, auftrag.datenbank, auftrag.qtLaeufe);
