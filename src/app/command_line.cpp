@@ -2,72 +2,81 @@
 
 #include "session/program.h"
 
-#include <QCoreApplication>
-#include <QString>
+#include <QCommandLineParser>
 
-#include <cstdio>
-#include <cstdlib>
+#include <array>
 #include <fmt/format.h>
-#include <string_view>
 
 namespace quelvarn {
+
 namespace {
 
-constexpr int WRONG_USE = 2;
+constexpr int WRONG_CALL = 2;
+constexpr std::string_view CALL = "Aufruf: quelvarn [--help] [--version]\n";
+constexpr std::string_view HELP = R"(
+Quelvarn ist das Register der Solid-Edge-Dokumente. Das Programm öffnet sein
+Fenster mit der Datenbank, die zuletzt geöffnet war.
 
-constexpr std::string_view HELP = R"(Aufruf: quelvarn [--help | --version]
+  --help       zeigt diese Hilfe
+  --version    zeigt die Version
 
-Register der Solid-Edge-Dokumente. Das Programm öffnet die zuletzt benutzte Datenbank.
-
-  --help, -h      diese Hilfe
-  --version, -v   die Version
+Optionen von Qt (-platform, -style, -display, ...) gelten wie bei anderen
+Programmen.
 )";
 
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text)
+struct QtOption
 {
-    if (type != QtFatalMsg)
-        return;
-    fmt::print(stderr, "Quelvarn kann kein Fenster öffnen: Es gibt hier keine Anzeige.\n\n{}\n", text.toStdString());
-    std::_Exit(EXIT_FAILURE);
-}
+    const char* name;
+    bool hasValue = true;
+};
 
-QtMessageHandler handlerBefore = nullptr;
+// Of the toolkit itself, which takes them out of the call later on.
+constexpr std::array<QtOption, 22> QT_OPTIONS{{
+    {"platform"},      {"platformpluginpath"},
+    {"platformtheme"}, {"plugin"},
+    {"geometry"},      {"qwindowgeometry"},
+    {"icon"},          {"qwindowicon"},
+    {"title"},         {"qwindowtitle"},
+    {"display"},       {"name"},
+    {"session"},       {"style"},
+    {"stylesheet"},    {"fontengine"},
+    {"qmljsdebugger"}, {"reverse", false},
+    {"nograb", false}, {"dograb", false},
+    {"sync", false},   {"widgetcount", false},
+}};
+
+Answer refusal(std::string_view what, const QString& word)
+{
+    return {fmt::format("quelvarn: {}: {}\n{}Mehr mit: quelvarn --help\n", what, word.toStdString(), CALL), WRONG_CALL};
+}
 
 } // namespace
 
-std::optional<int> answerWithoutWindow(int argc, char** argv)
+std::optional<Answer> answerTo(int argc, char** argv)
 {
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--help" || argument == "-h") {
-            fmt::print("{}", HELP);
-            return EXIT_SUCCESS;
-        }
-        if (argument == "--version" || argument == "-v") {
-            fmt::print("Quelvarn {}.{}.{}\n", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION);
-            return EXIT_SUCCESS;
-        }
-    }
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words << QString::fromLocal8Bit(argv[i]);
+
+    QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const QCommandLineOption help(QStringList{QStringLiteral("help"), QStringLiteral("h")});
+    const QCommandLineOption version(QStringList{QStringLiteral("version"), QStringLiteral("v")});
+    parser.addOptions({help, version});
+    for (const QtOption& option : QT_OPTIONS)
+        parser.addOption(QCommandLineOption(QLatin1String(option.name), QString(),
+                                            option.hasValue ? QStringLiteral("x") : QString()));
+
+    parser.parse(words);
+    if (parser.isSet(help))
+        return Answer{fmt::format("{}{}", CALL, HELP)};
+    if (parser.isSet(version))
+        return Answer{fmt::format("Quelvarn {}.{}.{}\n", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION)};
+    if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
+        return refusal("unbekannte Option", unknown.front());
+    if (const QStringList others = parser.positionalArguments(); !others.isEmpty())
+        return refusal("unbekanntes Argument", others.front());
     return std::nullopt;
-}
-
-DisplayCheck::DisplayCheck()
-{
-    handlerBefore = qInstallMessageHandler(endWithoutDisplay);
-}
-
-DisplayCheck::~DisplayCheck()
-{
-    qInstallMessageHandler(handlerBefore);
-}
-
-std::optional<int> refuseUnknownArguments()
-{
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() < 2)
-        return std::nullopt;
-    fmt::print(stderr, "Unbekannte Angabe: {}\n\n{}", arguments[1].toStdString(), HELP);
-    return WRONG_USE;
 }
 
 } // namespace quelvarn

@@ -1,24 +1,22 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 namespace quelvarn {
 
-// What can be answered without a window, and without a display: --help and --version. The exit code then.
-std::optional<int> answerWithoutWindow(int argc, char** argv);
-
-// As long as it lives, no window system to be found ends the program with exit code 1 and a German sentence instead of
-// a crash.
-class DisplayCheck
+// What a call is answered with instead of a window.
+struct Answer
 {
-public:
-    DisplayCheck();
-    ~DisplayCheck();
-    DisplayCheck(const DisplayCheck&) = delete;
-    DisplayCheck& operator=(const DisplayCheck&) = delete;
+    std::string text;
+    int exitCode = 0;
 };
 
-// What the window system has taken none of is told; the exit code then.
-std::optional<int> refuseUnknownArguments();
+// Reads the call before there is a screen. Empty when the program is to start; options of Qt are left to Qt.
+std::optional<Answer> answerTo(int argc, char** argv);
+
+// To whoever called the program: on the terminal, faults on its error output. On Windows in a box when there is no
+// terminal.
+void tellCaller(const Answer& answer);
 
 } // namespace quelvarn

@@ -1,6 +1,7 @@
 #include "app/application.h"
 #include "app/command_line.h"
-#include "app/end_request.h"
+#include "app/end_signals.h"
+#include "app/screen_watch.h"
 #include "platform/system_ports.h"
 #include "session/program.h"
 #include "ui/adapters/clipboard_qt.h"
@@ -10,12 +11,13 @@
 #include "ui/busy_pointer.h"
 #include "ui/guard.h"
 #include "ui/main_window/mdi_form1.h"
+#include "ui/program_end.h"
 #include "ui/theme/appearance.h"
 #include "ui/workplace.h"
 
 #include <cstdlib>
-#include <memory>
 #include <optional>
+#include <utility>
 
 using namespace quelvarn;
 
@@ -25,26 +27,6 @@ namespace {
 [[noreturn]] void beendeSofort()
 {
     std::_Exit(EXIT_SUCCESS);
-}
-
-// Nobody is there to answer, or to wait: as if the window had been closed. False while a wait or long work is being
-// given up.
-bool endUnattended(QtMeldungen& boxes, QtPatience& patience, QtFortschritt& progress, Arbeitsplatz* workplace)
-{
-    boxes.answerAlone();
-    patience.waitAlone();
-    if (!workplace)
-        beendeSofort(); // Nothing has been done yet.
-    if (QtPatience::isAsking()) {
-        patience.giveUp();
-        return false;
-    }
-    if (progress.atWork()) {
-        progress.giveUp();
-        return false;
-    }
-    workplace->fenster().close();
-    return true;
 }
 
 int openWindow(Anwendung& anwendung)
@@ -62,26 +44,27 @@ int openWindow(Anwendung& anwendung)
     session.Verbindung.setPatience(&patience);
 
     Waechter waechter(meldungen, beendeSofort);
-    std::unique_ptr<Arbeitsplatz> arbeitsplatz;
-    const EndRequest endRequest([&] { return endUnattended(meldungen, patience, fortschritt, arbeitsplatz.get()); });
+    ProgramEnd programEnd(meldungen, patience, fortschritt);
+    const EndSignals signals([&programEnd] { programEnd.request(); });
     waechter.fuehreAus([&] {
         const Sanduhr warten;
         Main(session, ports);
     });
-    arbeitsplatz = std::make_unique<Arbeitsplatz>(session, ports, darstellung, beendeSofort);
-    return arbeitsplatz->starte() ? Anwendung::exec() : EXIT_SUCCESS;
+    Arbeitsplatz arbeitsplatz(session, ports, darstellung, beendeSofort);
+    programEnd.setWindow(arbeitsplatz.fenster(), [&arbeitsplatz] { arbeitsplatz.beende(); });
+    return arbeitsplatz.starte() ? Anwendung::exec() : EXIT_SUCCESS;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (const std::optional<int> answered = answerWithoutWindow(argc, argv))
-        return *answered;
-    std::optional<DisplayCheck> displayCheck(std::in_place);
+    if (const std::optional<Answer> answer = answerTo(argc, argv)) {
+        tellCaller(*answer);
+        return answer->exitCode;
+    }
+    std::optional<ScreenWatch> screen(std::in_place);
     Anwendung anwendung(argc, argv);
-    displayCheck.reset();
-    if (const std::optional<int> refused = refuseUnknownArguments())
-        return *refused;
+    screen.reset();
     return openWindow(anwendung);
 }

@@ -131,4 +131,9 @@ bool Arbeitsplatz::starte()
     return weiter;
 }
 
+void Arbeitsplatz::beende()
+{
+    waechter_.fuehreAus([this] { rahmen_.entladen(); });
+}
+
 } // namespace quelvarn

@@ -37,6 +37,8 @@ public:
 
     // Puts the window on the screen and runs its load. False when the program ends.
     bool starte();
+    // As if a person had closed the window.
+    void beende();
     MDIForm1& fenster() { return *fenster_; }
 
 private:

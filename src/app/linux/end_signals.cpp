@@ -1,69 +1,62 @@
-#include "app/end_request.h"
+#include "app/end_signals.h"
+
+#include "ui/guard.h"
 
 #include <QSocketNotifier>
 
 #include <array>
-#include <cerrno>
 #include <csignal>
-#include <fcntl.h>
-#include <system_error>
+#include <sys/socket.h>
 #include <unistd.h>
 #include <utility>
 
 namespace quelvarn {
+
 namespace {
 
-constexpr std::array<int, 3> SIGNALS{SIGTERM, SIGINT, SIGHUP};
+constexpr std::array SIGNALS{SIGTERM, SIGINT, SIGHUP};
+std::array<int, 2> ends{-1, -1}; // A signal is written into the first and read from the second.
 
-// A signal handler may do next to nothing: it writes into a pipe that the event loop reads.
-std::array<int, 2> signalPipe{-1, -1};
-
-void tellPipe(int)
+// Nothing but a write is allowed in here.
+void tell(int)
 {
-    const int before = errno;
-    const char byte = 0;
-    [[maybe_unused]] const ssize_t written = write(signalPipe[1], &byte, 1);
-    errno = before;
+    const char one = 1;
+    [[maybe_unused]] const ssize_t written = write(ends[0], &one, sizeof one);
 }
 
-void handleSignals(void (*handler)(int))
+void handle(int signal)
 {
+    struct sigaction before = {};
+    sigaction(signal, nullptr, &before);
+    if (before.sa_handler == SIG_IGN) // Whoever started the program wants it so (nohup).
+        return;
     struct sigaction action = {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    for (const int signal : SIGNALS)
-        sigaction(signal, &action, nullptr);
+    action.sa_handler = tell;
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    sigaction(signal, &action, nullptr);
 }
-
-class SignalWatch final : public QObject
-{
-public:
-    explicit SignalWatch(std::function<void()> wanted)
-    {
-        if (pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
-            throw std::system_error(errno, std::generic_category());
-        auto* notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
-        connect(notifier, &QSocketNotifier::activated, this, [wanted = std::move(wanted)] {
-            char bytes[16];
-            while (read(signalPipe[0], bytes, sizeof bytes) > 0) {
-            }
-            wanted();
-        });
-        handleSignals(tellPipe);
-    }
-    ~SignalWatch() override
-    {
-        handleSignals(SIG_DFL);
-        for (const int end : signalPipe)
-            close(end);
-    }
-};
 
 } // namespace
 
-std::unique_ptr<QObject> watchEndSignals(std::function<void()> wanted)
+EndSignals::EndSignals(std::function<void()> asked) : asked_(std::move(asked))
 {
-    return std::make_unique<SignalWatch>(std::move(wanted));
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+        return; // The signals then end the process as they always do.
+    auto* notifier = new QSocketNotifier(ends[1], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, bewacht([this, notifier] {
+                notifier->setEnabled(false);
+                asked_();
+            }));
+    for (const int signal : SIGNALS)
+        handle(signal);
+}
+
+EndSignals::~EndSignals()
+{
+    for (const int signal : SIGNALS)
+        std::signal(signal, SIG_DFL);
+    close(ends[0]);
+    close(ends[1]);
 }
 
 } // namespace quelvarn

@@ -1,11 +1,11 @@
-#include "app/end_request.h"
+#include "app/end_signals.h"
+
+#include <utility>
 
 namespace quelvarn {
 
-// Windows sends no signals to a program with windows: a logout comes through Qt's session manager.
-std::unique_ptr<QObject> watchEndSignals(std::function<void()>)
-{
-    return nullptr;
-}
+EndSignals::EndSignals(std::function<void()> asked) : asked_(std::move(asked)) {}
+
+EndSignals::~EndSignals() = default;
 
 } // namespace quelvarn

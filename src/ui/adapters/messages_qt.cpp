@@ -100,6 +100,8 @@ Antwort QtMeldungen::zeige(const Meldung& meldung)
     if (beschaeftigt)
         QApplication::restoreOverrideCursor();
 
+    if (alone_) // It was closed, and not by a person.
+        return answerWithoutPerson(meldung);
     for (std::size_t i = 0; i < angebot.size(); ++i)
         if (box.clickedButton() == knoepfe[i])
             return angebot[i].antwort;
