@@ -84,7 +84,7 @@ bool Wertmodell::setData(const QModelIndex& stelle, const QVariant& wert, int ro
     werte_[entered_->row].Wert = entered_->value;
     Q_EMIT dataChanged(stelle, stelle);
     // The editor is closed by then: what is told may raise a box.
-    QMetaObject::invokeMethod(this, &Wertmodell::tellEntered, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, &Wertmodell::tellEntered);
     return true;
 }
 

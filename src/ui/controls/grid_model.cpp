@@ -73,7 +73,7 @@ QString Gittermodell::zelle(const QModelIndex& stelle) const
         return {};
     try {
         const auto& spalte = spalten_[static_cast<std::size_t>(stelle.column())];
-        const QString text = zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
+        QString text = zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
         told_.clear();
         return text;
     } catch (const Laufzeitfehler& fehler) {
