@@ -5,6 +5,7 @@
 #include "ui/text.h"
 
 #include <QResizeEvent>
+#include <QTimer>
 
 #include <utility>
 
