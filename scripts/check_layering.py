@@ -17,10 +17,11 @@ MAY_INCLUDE = {
     "use": {"base", "platform", "database", "session"},
     "cad": {"base", "platform", "database", "session", "use"},
     "orders": {"base", "platform", "database", "session", "documents", "filter"},
+    "program": {"base", "platform", "database", "session", "documents", "filter", "use", "register"},
     "tools": {"base", "platform", "database", "session"},
-    "ui": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders"},
-    "scenario": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders", "ui"},
-    "app": {"base", "platform", "database", "session", "documents", "filter", "register", "use", "cad", "orders", "ui"},
+    "ui": {"base", "platform", "database", "session", "documents", "filter", "register", "program", "use", "cad", "orders"},
+    "scenario": {"base", "platform", "database", "session", "documents", "filter", "register", "program", "use", "cad", "orders", "ui"},
+    "app": {"base", "platform", "database", "session", "documents", "filter", "register", "program", "use", "cad", "orders", "ui"},
 }
 WITH_QT = {"ui", "app", "scenario"}
 # Headers of a driver stay inside their own folder, and out of our headers.

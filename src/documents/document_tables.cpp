@@ -75,10 +75,16 @@ std::string& DocumentTables::indicator(int tab)
     return indicators_[static_cast<std::size_t>((DOKUTYPEN[static_cast<std::size_t>(tab)].aenderungspanel - 3) / 2)];
 }
 
-void DocumentTables::announce(int tab) const
+void DocumentTables::announceTab() const
 {
-    if (rowsReplaced)
-        rowsReplaced(tab);
+    for (TableFollower* follower : followers_)
+        follower->tabChanged();
+}
+
+void DocumentTables::announceRows(int tab) const
+{
+    for (TableFollower* follower : followers_)
+        follower->rowsReplaced(tab);
 }
 
 } // namespace quelvarn

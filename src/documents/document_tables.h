@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +12,17 @@ namespace quelvarn {
 
 struct Ports;
 struct SessionState;
+
+// Follows what is shown of the tables.
+class TableFollower
+{
+public:
+    virtual ~TableFollower() = default;
+    // A tab was chosen or its table built anew: what stood over the table before is no longer about it.
+    virtual void tabChanged() {}
+    // Other rows of this table are shown now, by a filter that ran or was lifted.
+    virtual void rowsReplaced(int) {}
+};
 
 // The eight tables, and which of them is in front. Faults pass through.
 class DocumentTables
@@ -40,9 +50,9 @@ public:
     const std::array<std::string, 5>& indicators() const { return indicators_; }
     std::string& indicator(int tab);
 
-    // Other rows of this table are shown now, by a filter that ran or was lifted.
-    void announce(int tab) const;
-    std::function<void(int tab)> rowsReplaced;
+    void follow(TableFollower& follower) { followers_.push_back(&follower); }
+    void announceTab() const;
+    void announceRows(int tab) const;
 
     // Up to so many rows a table is read whole; else its columns are read when they are wanted.
     void setWholeLimit(std::size_t rows) { wholeLimit_ = rows; }
@@ -53,6 +63,7 @@ private:
     SessionState& session_;
     Ports& ports_;
     std::vector<DocumentTable> tables_;
+    std::vector<TableFollower*> followers_;
     std::array<std::string, 5> indicators_;
     int tab_ = 0;
     std::optional<std::size_t> wholeLimit_;

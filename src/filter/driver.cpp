@@ -57,7 +57,7 @@ void FilterEigenMerkBenutzDef(Filterkontext& kontext)
     if (!run(kontext))
         return;
     kontext.zustand().Schnellfilter.clear();
-    kontext.tables.announce(kontext.tab);
+    kontext.tables.announceRows(kontext.tab);
     reportStepsWithoutRows(kontext);
 }
 

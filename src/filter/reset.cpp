@@ -14,7 +14,7 @@ void liftFilter(FilterState& filter, DocumentTables& tables, int tab)
     if (!tables[tab].isOpen())
         return;
     tables.showAll(tab, stays);
-    tables.announce(tab);
+    tables.announceRows(tab);
 }
 
 void ResetAllFilters(Filterkontext& kontext)

@@ -4,7 +4,7 @@
 #include "database/document_types.h"
 #include "documents/row_memory.h"
 #include "platform/meldungen.h"
-#include "register/document_page.h"
+#include "register/table_tabs.h"
 #include "register/usage_rows.h"
 #include "session/local_settings.h"
 
@@ -26,7 +26,7 @@ bool Dokumentsprung::ZeichnungZeigen(const std::string& filename)
 
 void Dokumentsprung::bereiteVor(const DokuTyp& typ, std::string_view hinweis)
 {
-    const DocumentTable& table = seite_.tables().opened(typ.tab);
+    const DocumentTable& table = tables_.opened(typ.tab);
     // Intended: of a special table only the plain filter is asked about.
     if (table.state() == TableState::Filtered || (table.state() == TableState::FilterResult && typ.sondertabelle == 0))
         frageNachFilter(typ, hinweis);
@@ -39,9 +39,9 @@ void Dokumentsprung::frageNachFilter(const DokuTyp& typ, std::string_view hinwei
             "Filterung der Tabelle '" + name + "' aufheben?",
             zeilen({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", hinweis, "Soll der Filter aufgehoben werden?"})))
         return;
-    if (seite_.tab() != typ.tab)
-        seite_.waehleTab(typ.tab);
-    seite_.liftFilter(typ.tab);
+    if (tables_.tab() != typ.tab)
+        tabs_.goTo(typ.tab);
+    tabs_.liftFilter(typ.tab);
 }
 
 // Harvel may have met the file by the letter of a drive or by the share behind it.
@@ -59,7 +59,7 @@ bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
 
 bool Dokumentsprung::moveTo(const DokuTyp& typ, const std::string& filename)
 {
-    Recordset& rows = seite_.tables()[typ.tab].visible();
+    Recordset& rows = tables_[typ.tab].visible();
     return std::ranges::any_of(documentsWithPath(session_.Verbindung, typ, filename), [&](const Dokumentname& name) {
         return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
     });
@@ -69,7 +69,7 @@ bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, co
 {
     bereiteVor(typ, fragen.hinweis);
     if (sucheDatei(typ, filename)) {
-        seite_.waehleTab(typ.tab);
+        tabs_.goTo(typ.tab);
         return true;
     }
     const Antwort antwort = ports_.meldungen.zeige(
@@ -78,15 +78,15 @@ bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, co
     if (antwort == Antwort::Ja)
         return nachNeuaufbau(typ, filename);
     if (antwort == Antwort::Nein)
-        seite_.waehleTab(typ.tab);
+        tabs_.goTo(typ.tab);
     return false;
 }
 
 bool Dokumentsprung::nachNeuaufbau(const DokuTyp& typ, const std::string& filename)
 {
-    seite_.baueNeuAuf(typ.tab);
+    tabs_.reopen(typ.tab);
     if (sucheDatei(typ, filename)) {
-        seite_.ZeileAktualisieren(typ.tab);
+        tabs_.ZeileAktualisieren(typ.tab);
         return true;
     }
     ports_.meldungen.warnung("Suchergebnis", zeilen({

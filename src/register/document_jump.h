@@ -1,13 +1,14 @@
 #pragma once
 
-#include "platform/ports.h"
+#include "session/operations.h"
 
 #include <string>
 #include <string_view>
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentTables;
+class TableTabs;
 struct DokuTyp;
 struct SessionState;
 
@@ -19,8 +20,8 @@ inline constexpr std::string_view HINWEIS_DOKUMENT = "Das zugehörige Dokument k
 class Dokumentsprung
 {
 public:
-    Dokumentsprung(SessionState& session, Ports& ports, DocumentPage& seite)
-        : session_(session), ports_(ports), seite_(seite)
+    Dokumentsprung(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
+        : session_(session), ports_(operations.ports()), tables_(tables), tabs_(tabs)
     {}
 
     // True when the document was found; it is the current row of the table shown then.
@@ -51,7 +52,8 @@ private:
 
     SessionState& session_;
     Ports& ports_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
+    TableTabs& tabs_;
 };
 
 } // namespace quelvarn

@@ -1,57 +1,38 @@
 #include "register/document_page.h"
 
+#include "documents/document_tables.h"
+#include "register/table_tabs.h"
+#include "session/session_state.h"
+#include "session/settings_writer.h"
+
 namespace quelvarn {
 
-DocumentPage::DocumentPage(SessionState& session, Operations& operations, DocumentTables& tables, FilterState& filter,
-                           GezeigteDateien& gezeigt)
-    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), tables_(tables),
-      filter_(filter), details_(session, operations), verwendung_(session, operations, gezeigt, *this)
+void DocumentPage::seiteGezeigt(Seite page)
 {
-    tables_.rowsReplaced = [this](int tab) {
-        if (tab == tables_.tab())
-            zeigeZeilen();
-        operations_.changed(Part::Document);
-    };
+    if (page == Seite::Dokumente || page == Seite::Filter) // The filter page is about the table shown here.
+        tabs_.StartTabelleZeigen();
 }
 
-std::string DocumentPage::anzahlText() const
+void DocumentPage::datenbankWechselt()
 {
-    if (!table().isOpen())
-        return {};
-    std::string text =
-        "  Solid Edge - Dokumente, " + session_.mehrzahl(tab()) + ", Anzahl: " + std::to_string(table().count());
-    const bool quickfilter = !table().narrowing().quickFilter.empty() && table().rows().RecordCount() > 0;
-    if (!gezeigteWerte().empty() || quickfilter)
-        text += "; Filteranzahl: " + std::to_string(table().visible().RecordCount());
-    return text;
+    tabs_.forgetDatabase();
 }
 
-std::string DocumentPage::zugriffText() const
+void DocumentPage::baumschalterGeaendert()
 {
-    return statusLimited() ? table().narrowing().statusLimit.legende : zugriffstext(session_);
+    tabs_.switchesChanged();
 }
 
-std::vector<FilterRow> DocumentPage::gezeigteWerte() const
+void DocumentPage::entladen()
 {
-    std::vector<FilterRow> werte = table().narrowing().values;
-    if (statusLimited())
-        werte.push_back(table().narrowing().statusLimit.row());
-    return werte;
-}
-
-std::string DocumentPage::infoKopf() const
-{
-    return "  Eigenschaften " + session_.einzahl(tab());
-}
-
-bool DocumentPage::filterKnopf() const
-{
-    return table().state() == TableState::Filtered || table().state() == TableState::NewerData;
-}
-
-std::string_view DocumentPage::zurueckTooltip() const
-{
-    return filterKnopf() ? "Filterung aufheben, alle Dokumente anzeigen" : "Zum Anfang der Tabelle";
+    if (!session_.FormSEDokuGeladen)
+        return;
+    saveSettings(operations_.ports(), "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
+        if (session_.Verbindung.offen())
+            schreibeDokumentseite(session_, tables_.tab());
+    });
+    session_.FormSEDokuGeladen = false;
+    tabs_.forgetDatabase();
 }
 
 } // namespace quelvarn

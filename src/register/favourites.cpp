@@ -5,8 +5,8 @@
 #include "documents/row_memory.h"
 #include "platform/meldungen.h"
 #include "register/document_jump.h"
-#include "register/document_page.h"
 #include "register/favourite_rows.h"
+#include "register/table_tabs.h"
 #include "session/error_report.h"
 
 #include <algorithm>
@@ -52,9 +52,12 @@ std::vector<Favorit> alle(const Recordset& zeilen)
 
 } // namespace
 
-Favoriten::Favoriten(SessionState& session, Operations& operations, DocumentPage& seite)
-    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite)
-{}
+Favoriten::Favoriten(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
+                     Dokumentsprung& jump)
+    : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs), jump_(jump)
+{
+    tables_.follow(*this);
+}
 
 Favoriten::Liste& Favoriten::geladen(const DokuTyp& typ)
 {
@@ -66,12 +69,12 @@ Favoriten::Liste& Favoriten::geladen(const DokuTyp& typ)
 
 const DokuTyp& Favoriten::typ() const
 {
-    return DOKUTYPEN[static_cast<std::size_t>(seite_.tab())];
+    return DOKUTYPEN[static_cast<std::size_t>(tables_.tab())];
 }
 
 Favoriten::Liste& Favoriten::aktuelle()
 {
-    return listen_[static_cast<std::size_t>(seite_.tab())];
+    return listen_[static_cast<std::size_t>(tables_.tab())];
 }
 
 // Without their files the favourites stand all the same, and are read again next time.
@@ -109,7 +112,7 @@ void Favoriten::FavoritHinzufuegen(const std::string& DokuBez, const std::string
 void Favoriten::zuFavoriten()
 {
     perform("Fehler beim Hinzufügen zu den Favoriten!", [&] {
-        const DocumentTable& table = seite_.table();
+        const DocumentTable& table = tables_.current();
         if (table.hasRows())
             FavoritHinzufuegen(table.record().DokuBez, table.record().RevBez, typ().schluessel,
                                table.record().filename);
@@ -158,10 +161,10 @@ void Favoriten::wechsleZuFavorit()
     const Recordset& zeile = aktuelle().zeilen;
     const Favorit favorit = favoritVon(zeile);
     const Merkzeile gesucht{favorit.DokuBez, favorit.RevBez, zeile.Text("filenameFavoriten")};
-    if (seite_.table().isFiltered())
-        Dokumentsprung(session_, ports_, seite_).frageNachFilter(typ(), HINWEIS_DOKUMENT);
-    if (stelleAufDokument(seite_.table().visible(), gesucht))
-        return seite_.zeileGewechselt();
+    if (tables_.current().isFiltered())
+        jump_.frageNachFilter(typ(), HINWEIS_DOKUMENT);
+    if (stelleAufDokument(tables_.current().visible(), gesucht))
+        return tabs_.followRow();
     ports_.meldungen.warnung(TITEL, zeilen({
                                         "Datei ist in der Tabelle nicht vorhanden!",
                                         "es ist ein <Neuaufbau> erforderlich.",
@@ -211,7 +214,7 @@ void Favoriten::AlleFavoritenLoeschen()
     });
 }
 
-void Favoriten::tabelleGewechselt()
+void Favoriten::tabChanged()
 {
     zeigtFavoriten_ = false;
     verwaltung_ = false;
@@ -221,13 +224,13 @@ void Favoriten::datenbankWechselt()
 {
     listen_ = {};
     ++fassung_;
-    tabelleGewechselt();
+    tabChanged();
     operations_.changed(Part::TopBar);
 }
 
 const Recordset* Favoriten::liste() const
 {
-    const Recordset& zeilen = listen_[static_cast<std::size_t>(seite_.tab())].zeilen;
+    const Recordset& zeilen = listen_[static_cast<std::size_t>(tables_.tab())].zeilen;
     return zeilen.offen() ? &zeilen : nullptr;
 }
 

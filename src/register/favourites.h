@@ -2,6 +2,7 @@
 
 #include "database/document_types.h"
 #include "database/recordset.h"
+#include "documents/document_tables.h"
 #include "session/main_window.h"
 #include "session/operations.h"
 
@@ -13,15 +14,18 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentTables;
+class Dokumentsprung;
+class TableTabs;
 struct SessionState;
 
 // The user's favourite documents of each type, and their list over the tables (FrmFavoriten). Follows the frame once it
 // is registered there.
-class Favoriten : public Rahmenteilnehmer
+class Favoriten : public Rahmenteilnehmer, public TableFollower
 {
 public:
-    Favoriten(SessionState& session, Operations& operations, DocumentPage& seite);
+    Favoriten(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
+              Dokumentsprung& jump);
 
     // --- operations, one for each thing a person can do ---
     void FavoritenZeigen(bool an);
@@ -39,8 +43,7 @@ public:
     // silence.
     void FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view schluessel,
                             const std::string& filename);
-    // Another tab is in front, or its table was built anew.
-    void tabelleGewechselt();
+    void tabChanged() override;
 
     // --- what the frame tells ---
     void datenbankWechselt() override;
@@ -71,7 +74,9 @@ private:
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
+    TableTabs& tabs_;
+    Dokumentsprung& jump_;
     std::array<Liste, ANZAHL_DOKUTYPEN> listen_;
     bool zeigtFavoriten_ = false;
     bool verwaltung_ = false;

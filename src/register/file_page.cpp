@@ -1,6 +1,8 @@
+#include "register/file_page.h"
+
 #include "base/number_format.h"
 #include "base/text.h"
-#include "register/document_page.h"
+#include "platform/dateien.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
 
@@ -37,34 +39,38 @@ bool mitDateiBox(Meldungen& meldungen, const std::function<void()>& operation)
 
 } // namespace
 
-void DocumentPage::leseDatei()
+void FilePage::read(const std::string& filename)
 {
     session_.Dateiinfo = {};
-    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(table().record().filename, ports_); });
-    datei_ = dateiSeite(session_.Dateiinfo);
+    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(filename, ports_); });
+    shown_ = dateiSeite(session_.Dateiinfo);
 }
 
-void DocumentPage::setzeAttribut(bool gesetzt, void (Dateien::*setzer)(std::string_view, bool),
-                                 bool Dateiattribute::*merkmal)
+void FilePage::setAttribute(bool on, void (Dateien::*set)(std::string_view, bool), bool Dateiattribute::*attribute)
 {
+    const std::string filename = session_.AktDoku.filename;
     mitDateiBox(ports_.meldungen, [&] {
-        const std::string& pfad = session_.AktDoku.filename;
-        const auto attribute = ports_.dateien.attribute(pfad);
-        if (attribute && (*attribute).*merkmal != gesetzt)
-            (ports_.dateien.*setzer)(pfad, gesetzt);
+        const auto attributes = ports_.dateien.attribute(filename);
+        if (attributes && (*attributes).*attribute != on)
+            (ports_.dateien.*set)(filename, on);
     });
-    leseDatei();
-    operations_.changed(Part::Document);
+    read(filename);
 }
 
-void DocumentPage::setzeSchreibschutz(bool gesetzt)
+void FilePage::setReadOnly(bool on)
 {
-    setzeAttribut(gesetzt, &Dateien::setzeSchreibschutz, &Dateiattribute::schreibgeschuetzt);
+    setAttribute(on, &Dateien::setzeSchreibschutz, &Dateiattribute::schreibgeschuetzt);
 }
 
-void DocumentPage::setzeArchiv(bool gesetzt)
+void FilePage::setArchive(bool on)
 {
-    setzeAttribut(gesetzt, &Dateien::setzeArchiv, &Dateiattribute::archiv);
+    setAttribute(on, &Dateien::setzeArchiv, &Dateiattribute::archiv);
+}
+
+void FilePage::clear()
+{
+    session_.Dateiinfo = {};
+    shown_ = {};
 }
 
 } // namespace quelvarn

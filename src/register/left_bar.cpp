@@ -1,15 +1,19 @@
 #include "register/left_bar.h"
 
+#include "filter/filter_page.h"
 #include "filter/saved_filters.h"
-#include "register/document_page.h"
+#include "register/table_heading.h"
 #include "session/error_report.h"
 
 namespace quelvarn {
 
-LinkeLeiste::LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite)
-    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite),
-      suche_(session, operations, seite), filter_(session, operations, filter, seite, suche_)
-{}
+LinkeLeiste::LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
+                         TableTabs& tabs, FilterPage& filterPage)
+    : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), filterPage_(filterPage),
+      suche_(session, operations, tables, tabs), filter_(session, operations, filter, tables, suche_)
+{
+    tables_.follow(*this);
+}
 
 void LinkeLeiste::zeigeSuchen(bool FrmSuchenFiltern)
 {
@@ -35,7 +39,7 @@ bool LinkeLeiste::zeigeFavoriten()
 {
     zeigtFavorit_ = false;
     operations_.perform(Part::LeftBar, TITEL_FILTERFAVORITEN, FEHLER_FILTERFAVORITEN, [&] {
-        const Filterfavoriten liste = favoritenliste(session_, seite_.tab());
+        const Filterfavoriten liste = favoritenliste(session_, tables_.tab());
         if (liste.meldung)
             ports_.meldungen.zeige(*liste.meldung);
         zeigtFavorit_ = !liste.namen.empty();
@@ -47,7 +51,7 @@ std::vector<std::string> LinkeLeiste::favoritennamen()
 {
     std::vector<std::string> namen;
     gesichert(ports_.meldungen, TITEL_FAVORITENMENUE, FEHLER_FAVORITENMENUE,
-              [&] { namen = favoritenliste(session_, seite_.tab()).namen; });
+              [&] { namen = favoritenliste(session_, tables_.tab()).namen; });
     return namen;
 }
 
@@ -67,12 +71,12 @@ void LinkeLeiste::schliesseFavoriten()
 void LinkeLeiste::nutzeFavorit()
 {
     const std::string name = LblFilter_; // The run may show another tab.
-    if (gewaehlterFavorit(session_, ports_.meldungen, seite_.tab(), name) && nutzeGespeicherten)
-        nutzeGespeicherten(name);
+    if (gewaehlterFavorit(session_, ports_.meldungen, tables_.tab(), name))
+        filterPage_.nutzeGespeicherten(name);
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::tabelleGewechselt()
+void LinkeLeiste::tabChanged()
 {
     filter_.vergissSchritt();
     zeigtWerte_ = false;
@@ -89,7 +93,7 @@ std::vector<FilterRow> LinkeLeiste::gezeigteWerte() const
 {
     if (const std::vector<FilterRow>* gesucht = suche_.gesuchteWerte())
         return *gesucht;
-    return seite_.gezeigteWerte();
+    return TableHeading(session_, tables_).filterRows();
 }
 
 } // namespace quelvarn

@@ -1,21 +1,24 @@
 #pragma once
 
+#include "documents/document_tables.h"
 #include "register/quick_filter.h"
 #include "register/quick_search.h"
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quelvarn {
 
+class FilterPage;
+
 // What the buttons at the left of the tables bring up (ToolbarSEDok2): quick search, quick filters, the values of the
 // running filter, saved filters.
-class LinkeLeiste
+class LinkeLeiste : public TableFollower
 {
 public:
-    LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite);
+    LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
+                TableTabs& tabs, FilterPage& filterPage);
 
     // --- operations ---
     void zeigeSuchen(bool FrmSuchenFiltern);
@@ -26,8 +29,6 @@ public:
     void waehleFavorit(std::string_view name);
     void schliesseFavoriten();
     void nutzeFavorit(); // A click on LblFilter.
-    // Another tab is in front, or its table was built anew.
-    void tabelleGewechselt();
 
     Schnellsuche& suche() { return suche_; }
     Schnellfilter& filter() { return filter_; }
@@ -43,14 +44,14 @@ public:
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
     std::vector<FilterRow> gezeigteWerte() const;
 
-    // Restores and runs a saved filter of the table shown.
-    std::function<void(std::string_view Filtername)> nutzeGespeicherten;
+    void tabChanged() override;
 
 private:
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
+    FilterPage& filterPage_;
     Schnellsuche suche_;
     Schnellfilter filter_;
     bool zeigtSuchen_ = false;

@@ -1,10 +1,10 @@
 #include "register/quick_filter.h"
 
+#include "documents/document_tables.h"
 #include "filter/execution.h"
 #include "filter/filter_run.h"
 #include "platform/meldungen.h"
 #include "platform/uhr.h"
-#include "register/document_page.h"
 #include "register/quick_search.h"
 #include "session/error_report.h"
 
@@ -47,9 +47,9 @@ std::string beschreibung(const std::vector<FilterRow>& werte)
 
 } // namespace
 
-Schnellfilter::Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite,
+Schnellfilter::Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
                              const Schnellsuche& suche)
-    : session_(session), operations_(operations), ports_(operations.ports()), filter_(filter), seite_(seite),
+    : session_(session), operations_(operations), ports_(operations.ports()), filter_(filter), tables_(tables),
       suche_(suche)
 {}
 
@@ -82,8 +82,8 @@ void Schnellfilter::filtereText()
 
 bool Schnellfilter::laeuft() const
 {
-    return seite_.tab() == tab_ && seite_.table().state() == TableState::Filtered &&
-           seite_.table().rows().filterText() == filterText_;
+    return tables_.tab() == tab_ && tables_.current().state() == TableState::Filtered &&
+           tables_.current().rows().filterText() == filterText_;
 }
 
 int Schnellfilter::schritt() const
@@ -152,7 +152,7 @@ void Schnellfilter::setzeTage(int SliderTage)
 
 bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<FilterRow> werte, Run run)
 {
-    Filterkontext kontext{session_, operations_, filter_, seite_.tables(), seite_.tab()};
+    Filterkontext kontext{session_, operations_, filter_, tables_, tables_.tab()};
     DocumentTable& table = kontext.table();
     if (table.count() == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
         return false;
@@ -165,7 +165,7 @@ bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<Fil
     filterText_ = table.rows().filterText();
     std::string told = beschreibung(werte);
     table.showFiltered({std::move(werte), filter_.status, std::move(told)});
-    kontext.tables.announce(kontext.tab);
+    kontext.tables.announceRows(kontext.tab);
     reportStepsWithoutRows(kontext);
     return true;
 }

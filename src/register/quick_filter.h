@@ -11,7 +11,7 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentTables;
 class Schnellsuche;
 struct Filterkontext;
 struct SessionState;
@@ -21,7 +21,7 @@ struct SessionState;
 class Schnellfilter
 {
 public:
-    Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentPage& seite,
+    Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
                   const Schnellsuche& suche);
 
     // --- operations ---
@@ -62,7 +62,7 @@ private:
     Operations& operations_;
     Ports& ports_;
     FilterState& filter_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
     const Schnellsuche& suche_;
     // The quick filter that was run last: its tab, and what it put on the table.
     int tab_ = 0;

@@ -3,9 +3,10 @@
 #include "database/sql/conditions.h"
 #include "platform/fortschritt.h"
 #include "platform/meldungen.h"
-#include "register/document_page.h"
+#include "register/table_tabs.h"
 #include "session/error_report.h"
 #include "session/ini_reader/ini_rows.h"
+#include "session/session_state.h"
 
 #include <algorithm>
 #include <cassert>
@@ -37,8 +38,8 @@ void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text)
     suchtexte.emplace_back(text);
 }
 
-Schnellsuche::Schnellsuche(SessionState& session, Operations& operations, DocumentPage& seite)
-    : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite)
+Schnellsuche::Schnellsuche(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
+    : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs)
 {}
 
 void Schnellsuche::sucheText(std::string_view CombSuchStr)
@@ -99,7 +100,7 @@ const std::vector<std::string>& Schnellsuche::suchtexte() const
 
 const std::vector<FilterRow>* Schnellsuche::gesuchteWerte() const
 {
-    const bool dieselben = tabDerWerte_ == seite_.tab() && fassungDerWerte_ == seite_.table().generation();
+    const bool dieselben = tabDerWerte_ == tables_.tab() && fassungDerWerte_ == tables_.current().generation();
     return dieselben && !werte_.empty() ? &werte_ : nullptr;
 }
 
@@ -113,11 +114,11 @@ const std::string& Schnellsuche::nimmText()
 
 Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
 {
-    tabDerWerte_ = seite_.tab();
-    fassungDerWerte_ = seite_.table().generation();
+    tabDerWerte_ = tables_.tab();
+    fassungDerWerte_ = tables_.current().generation();
     Ausgang ausgang = Ausgang::NichtGesucht;
     operations_.report([&] {
-        if (!seite_.table().hasRows())
+        if (!tables_.current().hasRows())
             return;
         if (!spalteBereit()) {
             ausgang = Ausgang::Aufgegeben;
@@ -128,14 +129,14 @@ Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
         ausgang = text.empty() ? Ausgang::NichtGesucht : Ausgang::Gesucht;
     });
     if (ausgang == Ausgang::Gesucht)
-        seite_.zeileGewechselt();
+        tabs_.followRow();
     operations_.changed(Part::LeftBar);
     return ausgang;
 }
 
 Recordset& Schnellsuche::zeilen()
 {
-    return seite_.table().visible();
+    return tables_.current().visible();
 }
 
 // The first search of a column reads it, which takes its time in a large table. False: given up.

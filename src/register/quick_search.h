@@ -11,7 +11,8 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentTables;
+class TableTabs;
 class Recordset;
 struct SessionState;
 
@@ -43,7 +44,7 @@ void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text);
 class Schnellsuche
 {
 public:
-    Schnellsuche(SessionState& session, Operations& operations, DocumentPage& seite);
+    Schnellsuche(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs);
 
     // --- operations ---
     void setzeSuchtext(std::string_view CombSuchStr) { CombSuchStr_ = CombSuchStr; } // Typed; searches nothing.
@@ -77,7 +78,8 @@ private:
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
+    TableTabs& tabs_;
     std::string CombSuchStr_;
     std::string TextDocuBez_;
     bool ChDynSuchen_ = false;

@@ -6,8 +6,9 @@
 #include "platform/meldungen.h"
 #include "platform/zwischenablage.h"
 #include "register/document_jump.h"
-#include "register/document_page.h"
 #include "register/file_boxes.h"
+#include "register/table_tabs.h"
+#include "register/viewer_area.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
 
@@ -69,29 +70,29 @@ void ObereLeiste::klick(std::string_view schluessel, bool an)
 
 bool ObereLeiste::bedienbar(std::string_view schluessel) const
 {
-    if (seite_.imViewer())
+    if (viewer_.isInFront())
         return schluessel == "Anschauen";
     // Where use is not registered its box tells what to do; the list of users has no page yet.
     if (schluessel == "In Benutzung..")
         return !session_.CheckInOutOn;
     const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
-    return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || seite_.table().hasRows());
+    return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || tables_.current().hasRows());
 }
 
 bool ObereLeiste::gedrueckt(std::string_view schluessel) const
 {
-    return (schluessel == "Anschauen" && seite_.imViewer()) ||
+    return (schluessel == "Anschauen" && viewer_.isInFront()) ||
            (schluessel == "Favoriten...." && favoriten_.zeigtFavoriten());
 }
 
 void ObereLeiste::neuaufbau(bool /*an*/)
 {
-    seite_.neuaufbauen();
+    tabs_.rebuild();
 }
 
 void ObereLeiste::anschauen(bool an)
 {
-    seite_.anschauen(an);
+    viewer_.showDocument(an);
 }
 
 void ObereLeiste::pfadInZwSp(bool /*an*/)
@@ -117,10 +118,9 @@ void ObereLeiste::pfadAusZwSp(bool /*an*/)
 void ObereLeiste::wechsleZu(const std::string& pfad)
 {
     const DokuTyp& typ = *std::ranges::find(DOKUTYPEN, Dateiendung(pfad), &DokuTyp::endung);
-    Dokumentsprung sprung(session_, ports_, seite_);
-    sprung.bereiteVor(typ, HINWEIS_DOKUMENT);
-    const bool gefunden = sprung.sucheDatei(typ, pfad);
-    seite_.tabGewaehlt(typ.tab);
+    jump_.bereiteVor(typ, HINWEIS_DOKUMENT);
+    const bool gefunden = jump_.sucheDatei(typ, pfad);
+    tabs_.chooseTab(typ.tab);
     if (!gefunden)
         ports_.meldungen.warnung("Suchergebnis", nichtGefunden(pfad, typ));
 }

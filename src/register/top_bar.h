@@ -9,16 +9,20 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentTables;
+class Dokumentsprung;
+class TableTabs;
+class ViewerArea;
 struct SessionState;
 
 // What the buttons over the tables do with the document shown (ToolbarSEDokTop).
 class ObereLeiste
 {
 public:
-    ObereLeiste(SessionState& session, Operations& operations, DocumentPage& seite)
-        : session_(session), operations_(operations), ports_(operations.ports()), seite_(seite),
-          favoriten_(session, operations, seite)
+    ObereLeiste(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
+                ViewerArea& viewer, Dokumentsprung& jump)
+        : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs),
+          viewer_(viewer), jump_(jump), favoriten_(session, operations, tables, tabs, jump)
     {}
 
     // A button was clicked, told apart by its key; a key without work does nothing. `an` counts for toggles.
@@ -49,7 +53,10 @@ private:
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    DocumentPage& seite_;
+    DocumentTables& tables_;
+    TableTabs& tabs_;
+    ViewerArea& viewer_;
+    Dokumentsprung& jump_;
     Favoriten favoriten_;
 };
 

@@ -3,12 +3,11 @@
 #include "base/text.h"
 #include "base/windows_path.h"
 #include "database/document_types.h"
+#include "documents/document_tables.h"
 #include "platform/dateien.h"
 #include "platform/meldungen.h"
 #include "platform/zwischenablage.h"
-#include "register/document_jump.h"
-#include "register/document_page.h"
-#include "register/file_boxes.h"
+#include "register/document_panels.h"
 #include "register/usage_kinds.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
@@ -45,37 +44,15 @@ void meldeKeineVorschau(Meldungen& meldungen, const std::string& filename)
                                             }));
 }
 
-void meldeKeinenFavoriten(Meldungen& meldungen)
-{
-    meldungen.warnung("Favoriten", zeilen({
-                                       "Der Eintrag bei Favoriten konnte",
-                                       "nicht erfolgreich durchgeführt werden!",
-                                       "Mögliche Ursache:",
-                                       "- Datei ist in der Tabelle nicht vorhanden.",
-                                       "- Es ist ein <Neuaufbau> erforderlich.",
-                                       "- Falscher Pfad-/Dateiname.",
-                                   }));
-}
-
-void meldeSondertabelle(Meldungen& meldungen)
-{
-    meldungen.warnung(
-        "Bearbeiten der Dokumente in den Sondertabellen",
-        zeilen({
-            "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!",
-            "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.",
-            "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
-        }));
-}
-
 } // namespace
 
-Verwendungsseite::Verwendungsseite(SessionState& session, Operations& operations, GezeigteDateien& gezeigt,
-                                   DocumentPage& seite)
-    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), seite_(seite)
+Verwendungsseite::Verwendungsseite(SessionState& session, Operations& operations, const DocumentTables& tables,
+                                   DocumentPanels& panels, GezeigteDateien& gezeigt)
+    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), tables_(tables),
+      panels_(panels)
 {}
 
-void Verwendungsseite::bediene(const std::function<void()>& operation)
+void Verwendungsseite::perform(const std::function<void()>& operation)
 {
     if (!hatZeilen())
         return;
@@ -88,7 +65,7 @@ void Verwendungsseite::fuelle(const Verwendungsart& art)
 {
     leere();
     art_ = &art;
-    const DokuRecord& record = seite_.table().record();
+    const DokuRecord& record = tables_.current().record();
     std::string pfad = record.filename;
     UniversalNachLaufwerk(pfad, ports_);
     zeilen_ = verwendungszeilen(session_.Verbindung, art, record, pfad);
@@ -120,7 +97,7 @@ void Verwendungsseite::leseZeile()
 
 void Verwendungsseite::zeileGewaehlt(std::size_t position)
 {
-    bediene([&] {
+    perform([&] {
         if (position >= zeilen_.RecordCount())
             return;
         zeilen_.setzeAbsolutePosition(position);
@@ -130,7 +107,7 @@ void Verwendungsseite::zeileGewaehlt(std::size_t position)
             pruefeBestandteil();
         if (grafik_ && (art_->seite == InfoSeite::BestehtAus || hatZugriff()))
             ladeVorschau();
-        seite_.zeigeDateiUnten(filename_);
+        panels_.showFile(filename_);
     });
 }
 
@@ -181,22 +158,22 @@ bool Verwendungsseite::zeigtVorschau() const
 void Verwendungsseite::setzeGrafik(bool ChViewGrafik)
 {
     grafik_ = ChViewGrafik;
-    bediene([&] {
+    perform([&] {
         if (!ChViewGrafik)
             leereVorschau();
         else if (art_->seite == InfoSeite::BestehtAus || hatZugriff())
             ladeVorschau();
-        seite_.zeigeDateiUnten(filename_);
+        panels_.showFile(filename_);
     });
 }
 
 void Verwendungsseite::anschauen()
 {
-    bediene([&] {
+    perform([&] {
         if (!bedienbar() || !hatZugriff() || !ladeVorschau())
             return;
         grafik_ = true;
-        seite_.zeigeDateiUnten(filename_);
+        panels_.showFile(filename_);
     });
 }
 
@@ -204,62 +181,10 @@ void Verwendungsseite::anschauen()
 
 void Verwendungsseite::pfadInZwSp()
 {
-    bediene([&] {
+    perform([&] {
         if (bedienbar())
             ports_.zwischenablage.setzeText(filename_);
     });
-}
-
-void Verwendungsseite::zuFavoriten()
-{
-    bediene([&] {
-        if (!bedienbar())
-            return;
-        if (const auto eintrag = findDokument(session_.Verbindung, *dokument_.typ, filename_)) {
-            if (favoritHinzufuegen)
-                favoritHinzufuegen(eintrag->DokuBez, eintrag->RevBez, dokument_.typ->schluessel, filename_);
-            return;
-        }
-        meldeKeinenFavoriten(ports_.meldungen);
-    });
-}
-
-void Verwendungsseite::wechselnZu()
-{
-    bediene([&] {
-        if (bedienbar() && !dateiFehlt())
-            springe();
-    });
-}
-
-void Verwendungsseite::geoeffnet()
-{
-    bediene([&] {
-        if (dateiFehlt())
-            return;
-        if (art_->seite == InfoSeite::BestehtAus && dokument_.SondertabelleNr != 0)
-            return meldeSondertabelle(ports_.meldungen);
-        if (bedienbar() && springe() && seite_.bearbeiten)
-            seite_.bearbeiten();
-    });
-}
-
-bool Verwendungsseite::dateiFehlt()
-{
-    if (ports_.dateien.dateiVorhanden(filename_))
-        return false;
-    meldeDateiFehlt(ports_.meldungen, filename_);
-    return true;
-}
-
-// The page is emptied on the way.
-bool Verwendungsseite::springe()
-{
-    Dokumentsprung sprung(session_, ports_, seite_);
-    const std::string filename = filename_;
-    if (art_->seite == InfoSeite::InZeichnung)
-        return sprung.ZeichnungZeigen(filename);
-    return sprung.ZuDokumentWechseln(*dokument_.typ, filename);
 }
 
 } // namespace quelvarn

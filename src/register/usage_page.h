@@ -10,7 +10,8 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentPanels;
+class DocumentTables;
 class GezeigteDateien;
 struct SessionState;
 struct Verwendungsart;
@@ -20,16 +21,19 @@ struct Verwendungsart;
 class Verwendungsseite
 {
 public:
-    Verwendungsseite(SessionState& session, Operations& operations, GezeigteDateien& gezeigt, DocumentPage& seite);
+    Verwendungsseite(SessionState& session, Operations& operations, const DocumentTables& tables,
+                     DocumentPanels& panels, GezeigteDateien& gezeigt);
 
     // --- operations ---
     void zeileGewaehlt(std::size_t position);
-    void geoeffnet(); // Double click: to the document's table, and into the CAD program.
     void setzeGrafik(bool ChViewGrafik);
     void anschauen();
     void pfadInZwSp();
-    void zuFavoriten();
-    void wechselnZu();
+
+    // --- for what leads away from the page (relation_actions.h) ---
+    // Runs where there are rows, with the box of this page.
+    void perform(const std::function<void()>& operation);
+    const DokuTyp* type() const { return dokument_.typ; } // Of the current row's document; nullptr for none.
 
     // --- for the document page; faults pass through ---
     void fuelle(const Verwendungsart& art);
@@ -49,27 +53,20 @@ public:
     bool ChViewGrafik() const { return grafik_; }
     bool zeigtVorschau() const; // In place of the details.
 
-    // Set by who keeps the favourites.
-    std::function<void(const std::string& DokuBez, const std::string& RevBez, std::string_view typ,
-                       const std::string& filename)>
-        favoritHinzufuegen;
-
 private:
-    void bediene(const std::function<void()>& operation);
     void leseZeile();
     bool liegtImStatusbereich() const;
     void pruefeBestandteil();
     bool hatZugriff();
     bool ladeVorschau();
     void leereVorschau();
-    bool dateiFehlt();
-    bool springe();
 
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
     GezeigteDateien& gezeigt_;
-    DocumentPage& seite_;
+    const DocumentTables& tables_;
+    DocumentPanels& panels_;
     const Verwendungsart* art_ = nullptr;
     Recordset zeilen_;
     unsigned fassung_ = 0;

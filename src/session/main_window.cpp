@@ -151,6 +151,12 @@ void MainWindow::werkzeugGewaehlt(Werkzeug knopf)
     });
 }
 
+void MainWindow::edit()
+{
+    if (knopf(Werkzeug::Bearbeiten).sichtbar && hatAktion(Werkzeug::Bearbeiten))
+        werkzeugGewaehlt(Werkzeug::Bearbeiten);
+}
+
 void MainWindow::tickDBUpdate()
 {
     if (watchDatabase && !session_.DatenbankPfad.empty())

@@ -76,6 +76,7 @@ public:
     bool laden();
     void zuSeite(Seite ziel);
     void werkzeugGewaehlt(Werkzeug knopf);
+    void edit(); // A document was double-clicked: what "Bearbeiten" does, where there is such a button.
     // The time of TimerDBUpdate has come.
     void tickDBUpdate();
     // The pages write their rows, the connection goes, `beendet` is called. Only the first call counts.

@@ -1,20 +1,10 @@
 #pragma once
 
-#include "filter/filter_page.h"
-#include "filter/filter_state.h"
 #include "platform/ports.h"
-#include "register/document_page.h"
-#include "register/left_bar.h"
-#include "register/top_bar.h"
-#include "session/database_watch.h"
-#include "session/main_window.h"
-#include "session/operations.h"
-#include "session/start_page.h"
+#include "program/program.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/guard.h"
 #include "ui/theme/appearance.h"
-#include "use/shown_files.h"
-#include "use/use_registry.h"
 
 #include <functional>
 #include <memory>
@@ -42,28 +32,13 @@ public:
     MDIForm1& fenster() { return *fenster_; }
 
 private:
-    void verbinde();
     void refresh(const Parts& parts);
-    void verbindeObereLeiste();
-    void verbindeFilterseite();
-    void openDatabaseAgain();
 
     Darstellung& darstellung_;
     std::function<void()> programmEnde_;
     Waechter waechter_;
-    Operations operations_;
-    MainWindow rahmen_;
-    StartPage startseite_;
-    DatabaseWatch watch_;
-    FilterState filter_;
-    KeinNutzungsregister nutzung_;
     QtViewer viewer_;
-    GezeigteDateien gezeigt_;
-    DocumentTables tables_;
-    DocumentPage dokumentseite_;
-    LinkeLeiste linkeLeiste_;
-    ObereLeiste obereLeiste_;
-    FilterPage filterseite_;
+    Program program_;
     std::unique_ptr<MDIForm1> fenster_;
     FormDB* formDB_ = nullptr;
     FormSEDoku* formSEDoku_ = nullptr;

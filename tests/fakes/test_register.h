@@ -4,7 +4,6 @@
 #include "database/engine.h"
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
-#include "session/operations.h"
 #include "session/rights.h"
 #include "session/session_state.h"
 
@@ -59,7 +58,6 @@ protected:
     std::shared_ptr<Engine> engine_; // Of its own: rows come as from another program.
     FakePorts welt_;
     Ports ports_ = welt_.ports();
-    Operations operations_{ports_};
     SessionState session_;
 };
 

@@ -49,6 +49,7 @@ protected:
         return text;
     }
 
+    Operations operations_{ports_};
     FilterState filter_;
     DocumentTables tables_{session_, operations_};
     Filterkontext kontext_{session_, operations_, filter_, tables_};

@@ -14,7 +14,7 @@ protected:
     std::vector<std::string> zeilenVon(InfoSeite seite)
     {
         std::vector<std::string> zeilen;
-        const Recordset* liste = page_.details().liste(seite);
+        const Recordset* liste = info_.details().liste(seite);
         for (std::size_t i = 0; liste != nullptr && i < liste->RecordCount(); ++i) {
             std::string zeile;
             for (const Spalte& spalte : liste->Felder())
@@ -28,7 +28,7 @@ protected:
         zeile("VerbindungPartZusDoku",
               {{"Dokufilename", pfad("A_0.par")}, {"ZusDokuDateiname", name}, {"ZusDokufilename", ablage}});
     }
-    Detailseiten& details_ = page_.details();
+    Detailseiten& details_ = info_.details();
     using Zeilen = std::vector<std::string>;
 };
 
@@ -49,13 +49,13 @@ TEST_F(DetailPagesTest, RevisionsComeInTheTwoViewsWithoutThoseThatChangedNothing
     revision("0", "", "Meier");
     revision("C", Value(), "Meier");
     zeigeDokument(1, "O'Neil", "A");
-    page_.knotenGewaehlt(knoten::REVISION);
+    info_.chooseNode(knoten::REVISION);
     const Zeilen erstellt{"A|09.02.04|Meier|Werkstoff", "B|09.02.04||Maß korrigiert"};
     EXPECT_EQ(zeilenVon(InfoSeite::Revisionen), erstellt);
     details_.setzeRevErstBearb(RevErstBearb::Bearbeitet);
     const Zeilen bearbeitet{"A|24.12.11|Weber|Werkstoff", "B|24.12.11|Weber|Maß korrigiert"};
     EXPECT_EQ(zeilenVon(InfoSeite::Revisionen), bearbeitet);
-    page_.knotenGewaehlt(knoten::REVISION); // Begins with the first view again.
+    info_.chooseNode(knoten::REVISION); // Begins with the first view again.
     EXPECT_EQ(details_.OpRevErstBearb(), RevErstBearb::Erstellt);
     EXPECT_EQ(zeilenVon(InfoSeite::Revisionen), erstellt);
 }
@@ -70,8 +70,8 @@ TEST_F(DetailPagesTest, UserDefinedPropertiesStandByTheirNames)
                                                                                      {"Zahl", "7"},
                                                                                      {"abmaß", "1"}})
         zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", name}, {"Wert", wert}});
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::BENUTZDEF);
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::BENUTZDEF);
     const Zeilen sorted{"abmaß|1", "Farbe|blau", "Farbe|rot", "Ölstand|x", "werkstoff|S235", "Zahl|7"};
     EXPECT_EQ(zeilenVon(InfoSeite::BenutzDef), sorted);
 }
@@ -85,10 +85,10 @@ TEST_F(DetailPagesTest, ARowNamedLikeAnAddressStandsOnTheSentToPageOnly)
     zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "1"}, {"Name", "andere"}, {"Wert", "Revision"}});
     for (const char* kennung : {"Dreherei", "Härterei", "Dreherei"})
         zeile("Adresstabelle", {{"Kennung", kennung}, {"Name", "Ort"}});
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::BENUTZDEF);
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::BENUTZDEF);
     EXPECT_EQ(zeilenVon(InfoSeite::BenutzDef), Zeilen{"Oberfläche|verzinkt"});
-    page_.knotenGewaehlt(knoten::VERSENDET);
+    info_.chooseNode(knoten::VERSENDET);
     const Zeilen versendet{"|Härterei|kurz|kurz",
                            "14.02.11  10:30|dreherei|VersandM110214103059.txt|W:\\Auftraege\\VersandM110214103059.txt"};
     EXPECT_EQ(zeilenVon(InfoSeite::SendTo), versendet);
@@ -102,8 +102,8 @@ TEST_F(DetailPagesTest, AnOrderIsLookedForInItsFolderAndThenInTheArchive)
     dokument(0, "A");
     zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", "K"}, {"Wert", auftrag}});
     zeile("Adresstabelle", {{"Kennung", "K"}});
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::VERSENDET);
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::VERSENDET);
     auto& geoeffnet = welt_.standardanwendung.geoeffnet;
 
     welt_.meldungen.antworte(Antwort::Nein);
@@ -156,7 +156,7 @@ TEST_F(DetailPagesTest, MainFeaturesStandInTheirOrderWithTheTemplate)
                            {"Hauptmerkmal_C", "Wellen"},
                            {"Hauptmerkmal_D", "lang"}});
     zeigeDokument(0, "M", "");
-    page_.knotenGewaehlt(knoten::HAUPTMERKMALE);
+    info_.chooseNode(knoten::HAUPTMERKMALE);
     const std::string trenner = "#######|############################|##########################";
     const Zeilen erwartet{
         "      A|a1|",    "      B||Normreihe", trenner,          "      C|Wellen|", "      D|lang|Vorlage",
@@ -166,7 +166,7 @@ TEST_F(DetailPagesTest, MainFeaturesStandInTheirOrderWithTheTemplate)
     EXPECT_EQ(zeilenVon(InfoSeite::Hauptmerkmale), erwartet);
     EXPECT_EQ(details_.LblPfadDateiVorlage(), "W:\\V.dft");
     zeigeDokument(0, "N", "");
-    page_.knotenGewaehlt(knoten::HAUPTMERKMALE);
+    info_.chooseNode(knoten::HAUPTMERKMALE);
     EXPECT_EQ(details_.LblPfadDateiVorlage(), "");
     EXPECT_EQ(zeilenVon(InfoSeite::Hauptmerkmale)[4], "      D|kurz|");
 }
@@ -180,8 +180,8 @@ TEST_F(DetailPagesTest, AdditionalDocumentsAreShownAndOpened)
     zusDoku("Text2.txt", "W:\\Zus\\Text2.txt");
     welt_.dateien.legeAn("W:\\Zus\\Blatt.tif", std::string(12345, 'x'));
     welt_.dateien.legeAn("W:\\Zus\\Text2.txt", "Ma\xDF");
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::ZUSDOKU);
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::ZUSDOKU);
     const Zeilen zeilen = zeilenVon(InfoSeite::ZusDoku);
     ASSERT_EQ(zeilen.size(), 4U);
     const std::string stand = formatDatumUhrzeit(welt_.uhr.jetzt());
@@ -211,16 +211,16 @@ TEST_F(DetailPagesTest, TheTiffIsTheRegisteredOneOrTheOneBesideTheDrawing)
 {
     dokument(3, "Z");
     welt_.dateien.legeAn(pfad("Z_0.tif"));
-    page_.tabGewaehlt(3);
-    page_.knotenGewaehlt(knoten::TIFF);
+    tabs_.chooseTab(3);
+    info_.chooseNode(knoten::TIFF);
     EXPECT_EQ(details_.tiff(), pfad("Z_0.tif"));
     zeile("TIFFTabelle", {{"Dateiname", "Z_0.tif"}, {"filename", "W:\\TIFF\\Z_0.tif"}});
     welt_.meldungen.antworte();
-    page_.knotenGewaehlt(knoten::TIFF); // Registered, but not there.
+    info_.chooseNode(knoten::TIFF); // Registered, but not there.
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Im Verzeichnis nicht vorhanden");
     EXPECT_EQ(details_.tiff(), "");
     welt_.dateien.legeAn("W:\\TIFF\\Z_0.tif");
-    page_.knotenGewaehlt(knoten::TIFF);
+    info_.chooseNode(knoten::TIFF);
     EXPECT_EQ(details_.tiff(), "W:\\TIFF\\Z_0.tif");
     welt_.meldungen.antworte();
     details_.bildNichtGeladen(InfoSeite::Tiff);
@@ -235,17 +235,17 @@ TEST_F(DetailPagesTest, AFaultLeavesTheTreeAndAnEmptyPage)
 {
     dokument(0, "A");
     zusDoku("Blatt.tif", "W:\\Zus\\Blatt.tif");
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::ZUSDOKU);
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::ZUSDOKU);
     ASSERT_EQ(zeilenVon(InfoSeite::ZusDoku).size(), 1U);
     const std::string vorher = baum();
     session_.Verbindung.Close();
     welt_.meldungen.antworte();
     welt_.meldungen.antworte();
-    page_.knotenGewaehlt(knoten::ZUSDOKU);
+    info_.chooseNode(knoten::ZUSDOKU);
     EXPECT_EQ(baum(), vorher);
     EXPECT_EQ(details_.liste(InfoSeite::ZusDoku), nullptr);
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::ZusDoku);
+    EXPECT_EQ(info_.page(), InfoSeite::ZusDoku);
 }
 
 } // namespace

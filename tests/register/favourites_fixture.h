@@ -9,11 +9,6 @@ namespace quelvarn {
 class FavouritesTest : public RegisterTest
 {
 protected:
-    FavouritesTest()
-    {
-        page_.tabelleGewechselt = [this] { favourites_.tabelleGewechselt(); };
-    }
-
     // The grid, one row a line.
     std::string grid() const
     {
@@ -43,7 +38,7 @@ protected:
         zeile("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
     }
 
-    Favoriten favourites_{session_, operations_, page_};
+    Favoriten& favourites_ = program_.topBar.favoriten();
 };
 
 } // namespace quelvarn

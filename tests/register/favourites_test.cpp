@@ -13,11 +13,11 @@ TEST_F(FavouritesTest, EachTabKeepsItsOwnAndRefusesDoubles)
                  {4, "Weld"}, {5, "STbl1"},  {6, "STbl2"},  {7, "STbl3"}};
     for (const auto& [tab, key] : cases) {
         dokument(tab, "D'" + std::to_string(tab));
-        page_.tabGewaehlt(tab);
+        tabs_.chooseTab(tab);
         favourites_.zuFavoriten();
         favourites_.zuFavoriten();
         const std::string name = "D'" + std::to_string(tab);
-        const std::string file = page_.table().record().Dateiname;
+        const std::string file = tables_.current().record().Dateiname;
         EXPECT_EQ(grid(), name + "|0|" + file + "|" + pfad(file) + "|\n");
     }
     EXPECT_EQ(stored(), "Mueller|Assemb|D'2|0\nMueller|Draft|D'3|0\nMueller|Part|D'0|0\nMueller|SheetM|D'1|0\n"
@@ -26,7 +26,7 @@ TEST_F(FavouritesTest, EachTabKeepsItsOwnAndRefusesDoubles)
 
 TEST_F(FavouritesTest, AnEmptyTableHasNothingToKeep)
 {
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     favourites_.zuFavoriten();
     EXPECT_EQ(stored(), "");
 }
@@ -42,7 +42,7 @@ TEST_F(FavouritesTest, TheListIsReadWithTheFilesOfTheTable)
     store("Mueller", "Part", "Weg", "0");
     store("Meier", "Part", "B", "1");
     store("Mueller", "Draft", "B", "1");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     favourites_.FavoritenZeigen(true);
     EXPECT_EQ(grid(), "b|2|B_2.par|W:\\Teile\\B_2.par|\nn||n.par|W:\\Teile\\n.par|\nWeg|0|||\n");
 
@@ -55,7 +55,7 @@ TEST_F(FavouritesTest, AFaultOfTheLookupLeavesTheNamesAndIsTriedAgain)
 {
     dokument(0, "A");
     store("Mueller", "Part", "A", "0");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     const auto table = engine_->findTabelle("PartTabelle");
     engine_->entferneTabelle("PartTabelle");
     welt_.meldungen.erwarte("Modul: Ermitteln filename für DokuBez und RevBez",
@@ -75,11 +75,11 @@ TEST_F(FavouritesTest, TheListGoesWithItsTabAndItsDatabase)
 {
     dokument(0, "A");
     store("Mueller", "Part", "A", "0");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     const std::pair<const char*, std::function<void()>> leaves[] = {
         {"button", [&] { favourites_.FavoritenZeigen(false); }},
-        {"tab", [&] { page_.tabGewaehlt(1), page_.tabGewaehlt(0); }},
-        {"rebuild", [&] { page_.neuaufbauen(); }},
+        {"tab", [&] { tabs_.chooseTab(1), tabs_.chooseTab(0); }},
+        {"rebuild", [&] { tabs_.rebuild(); }},
         {"database", [&] { favourites_.datenbankWechselt(); }},
     };
     for (const auto& [how, leave] : leaves) {
@@ -97,7 +97,7 @@ TEST_F(FavouritesTest, RowsAreDeletedInTheListAndInTheTable)
     for (const char* name : {"A", "B", "C"})
         store("Mueller", "Part", name, name[0] == 'B' ? Value{} : Value("0"));
     store("Meier", "Part", "A", "0");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     favourites_.FavoritenZeigen(true);
     favourites_.FavoritLoeschen();
     EXPECT_EQ(grid(), "B||||\nC|0|||\n");
@@ -120,7 +120,7 @@ TEST_F(FavouritesTest, AChosenRowMovesTheTable)
     dokument(0, "A");
     store("Mueller", "Part", "b'B", "1");
     store("Mueller", "Part", "Weg", "0");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     favourites_.FavoritenZeigen(true);
     EXPECT_EQ(session_.AktDoku.DokuBez, "A"); // Showing the list chooses nothing.
     favourites_.zeileGewechselt(0);
@@ -132,7 +132,7 @@ TEST_F(FavouritesTest, AChosenRowMovesTheTable)
     EXPECT_EQ(session_.AktDoku.DokuBez, "B'b");
 
     favourites_.oeffneVerwaltung();
-    page_.zeileGewaehlt(0);
+    tabs_.chooseRow(0);
     favourites_.zeileGewechselt(0); // The keyboard only goes through the rows,
     EXPECT_EQ(session_.AktDoku.DokuBez, "A");
     favourites_.FavoritAuswaehlen(0); // the mouse chooses.
@@ -159,17 +159,17 @@ TEST_F(FavouritesTest, AFilterIsLiftedWhenTheUserAgrees)
     store("Mueller", "Part", "A", "0");
     store("Mueller", "Part", "B", "0");
     for (const auto& c : cases) {
-        page_.tabGewaehlt(0);
-        page_.neuaufbauen();
+        tabs_.chooseTab(0);
+        tabs_.rebuild();
         filtere(0, "DokuBez = 'B'");
-        tables_.announce(0);
+        tables_.announceRows(0);
         favourites_.FavoritenZeigen(true);
         erwarteFilterfrage(0, c.answer);
         if (c.box)
             welt_.meldungen.erwarte("Favoriten", GONE);
         favourites_.FavoritAuswaehlen(c.favourite[0] == 'A' ? 0 : 1);
         EXPECT_EQ(session_.AktDoku.DokuBez, c.shown);
-        EXPECT_EQ(page_.table().visible().RecordCount(), c.rows);
+        EXPECT_EQ(tables_.current().visible().RecordCount(), c.rows);
         EXPECT_TRUE(favourites_.zeigtFavoriten()); // Lifting a filter does not close the list.
     }
 }

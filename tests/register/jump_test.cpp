@@ -14,7 +14,7 @@ protected:
         for (const int tab : {0, 2, 3, 6})
             for (const char* name : {"A", "B", "C"})
                 dokument(tab, name);
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
     }
 
     bool springe(int tab, const std::string& datei)
@@ -33,9 +33,9 @@ protected:
                                     " ist in der Tabelle nicht vorhanden!\nSoll ein 'Neuaufbau' durchgeführt werden?",
                                 antwort);
     }
-    std::string ort() { return std::to_string(page_.tab()) + session_.AktDoku.DokuBez; }
+    std::string ort() { return std::to_string(tables_.tab()) + session_.AktDoku.DokuBez; }
 
-    Dokumentsprung sprung_{session_, ports_, page_};
+    Dokumentsprung& sprung_ = program_.jump;
 };
 
 TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
@@ -46,7 +46,7 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
     }
     dokument(0, "A1", "0");
     session_.Verbindung.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
-    page_.neuaufbauen();
+    tabs_.rebuild();
     EXPECT_TRUE(springe(0, "B_0.par")); // Not the longer path in the row before.
     EXPECT_EQ(ort(), "0B");
 }
@@ -56,25 +56,25 @@ TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
     Connection& database = session_.Verbindung;
     database.Execute(
         "UPDATE PartTabelle SET filename = '\\\\server\\konstruktion\\Teile\\B_0.par' WHERE DokuBez = 'B'");
-    page_.neuaufbauen();
+    tabs_.rebuild();
     EXPECT_TRUE(springe(0, "B_0.par")); // Stored by the share that W: stands for.
     EXPECT_EQ(ort(), "0B");
     EXPECT_TRUE(sprung_.ZuDokumentWechseln(DOKUTYPEN[2], "\\\\server\\konstruktion\\Teile\\C_0.asm"));
     EXPECT_EQ(ort(), "2C"); // Stored by the letter.
 
     database.Execute("UPDATE DraftTabelle SET DokuBez = Null, RevBez = Null WHERE DokuBez = 'B'");
-    page_.tabGewaehlt(3);
-    page_.neuaufbauen();
-    page_.zeileGewaehlt(2);
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(3);
+    tabs_.rebuild();
+    tabs_.chooseRow(2);
+    tabs_.chooseTab(0);
     EXPECT_TRUE(springe(3, "B_0.dft"));
     EXPECT_EQ(session_.AktDoku.filename, pfad("B_0.dft"));
 
     zeile("PartTabelle", {{"DokuBez", "A9"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 0}});
     zeile("PartTabelle", {{"DokuBez", "D"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 3}});
     siehtStati("3");
-    page_.tabGewaehlt(0);
-    page_.neuaufbauen();
+    tabs_.chooseTab(0);
+    tabs_.rebuild();
     EXPECT_TRUE(springe(0, "twice.par")); // The one that may be seen.
     EXPECT_EQ(ort(), "0D");
 }
@@ -85,9 +85,9 @@ TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
         filtere(tab, "DokuBez = 'B'");
         erwarteFilterfrage(tab, Antwort::Nein);
         EXPECT_TRUE(springe(tab, dateiVon(tab, "B")));
-        EXPECT_EQ(page_.table().state(), TableState::Filtered);
+        EXPECT_EQ(tables_.current().state(), TableState::Filtered);
 
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
         erwarteFilterfrage(tab, Antwort::Nein); // Kept, and it hides the document.
         fragtNeuaufbau(tab, Antwort::Nein);
         EXPECT_FALSE(springe(tab, dateiVon(tab, "C")));
@@ -103,9 +103,9 @@ TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
 TEST_F(JumpTest, ADocumentThatIsNewerThanItsTableNeedsARebuild)
 {
     for (const int tab : {2, 3, 6}) {
-        page_.tabGewaehlt(tab);
-        page_.zeileGewaehlt(1);
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(tab);
+        tabs_.chooseRow(1);
+        tabs_.chooseTab(0);
         dokument(tab, "D");
         const std::string neu = dateiVon(tab, "D");
         if (tab == 3) {
@@ -127,9 +127,9 @@ TEST_F(JumpTest, ADocumentThatMayNotBeSeenStaysHidden)
 {
     dokument(2, "G", "0", 0);
     siehtStati("3");
-    page_.tabGewaehlt(2);
-    page_.zeileGewaehlt(2);
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(2);
+    tabs_.chooseRow(2);
+    tabs_.chooseTab(0);
     fragtNeuaufbau(2, Antwort::Ja);
     welt_.meldungen.erwarte("Suchergebnis", "Datei ist in der Tabelle nicht vorhanden!\n"
                                             "es ist ein <Neuaufbau> erforderlich.\noder\n"
@@ -141,15 +141,15 @@ TEST_F(JumpTest, ADocumentThatMayNotBeSeenStaysHidden)
 TEST_F(JumpTest, ADoubleClickOpensTheDocumentWhenItWasFound)
 {
     int bearbeitet = 0;
-    page_.bearbeiten = [&] { ++bearbeitet; };
+    program_.frame.setzeAktion(Werkzeug::Bearbeiten, [&] { ++bearbeitet; });
     for (const char* teil : {"A_0.par", "S_0.par"})
         zeile("ZusBauPart", {{"AssembDokuBez", "A"}, {"AssembRevBez", "0"}, {"Part", pfad(teil)}});
     dokument(6, "S");
-    Verwendungsseite& usage = page_.verwendung();
+    Verwendungsseite& usage = info_.relation();
     zeigeDokument(2, "A");
-    page_.knotenGewaehlt("Besteht aus");
+    info_.chooseNode("Besteht aus");
     welt_.meldungen.erwarte("Im Verzeichnis nicht vorhanden", dateiFehlt(pfad("A_0.par")));
-    usage.geoeffnet();
+    actions_.open();
     welt_.dateien.legeAn(pfad("A_0.par"));
     welt_.dateien.legeAn(pfad("S_0.par"));
     usage.zeileGewaehlt(1);
@@ -158,18 +158,18 @@ TEST_F(JumpTest, ADoubleClickOpensTheDocumentWhenItWasFound)
         "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!\n"
         "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.\n"
         "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.");
-    usage.geoeffnet();
+    actions_.open();
     EXPECT_EQ(bearbeitet, 0);
-    EXPECT_EQ(page_.tab(), 2);
+    EXPECT_EQ(tables_.tab(), 2);
     usage.zeileGewaehlt(0);
-    usage.geoeffnet();
+    actions_.open();
     EXPECT_EQ(bearbeitet, 1);
     EXPECT_EQ(ort(), "0A");
 
     zeigeDokument(2, "A");
-    page_.knotenGewaehlt("Besteht aus");
+    info_.chooseNode("Besteht aus");
     usage.zeileGewaehlt(1);
-    usage.wechselnZu();
+    actions_.goToTable();
     EXPECT_EQ(ort(), "6S");
     EXPECT_EQ(bearbeitet, 1);
 }

@@ -15,9 +15,9 @@ protected:
             for (int status = 0; status < 4; ++status)
                 dokument(tab, std::string(DOKUTYPEN[tab].schluessel.substr(0, 2)) + std::to_string(status), "0",
                          status);
-            page_.tabGewaehlt(tab);
+            tabs_.chooseTab(tab);
         }
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
     }
 
     void waehle(const char* feld, const char* wert) { AddFilterStep(kontext_, wert, feld, 0); }
@@ -45,11 +45,12 @@ TEST_F(PageFilterTest, ARunShowsWhatIsLeftAndWhatWasChosen)
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Filtervorgaben");
     EXPECT_EQ(liste(), "Pa1/0 Pa2/0 ");
     EXPECT_EQ(session_.AktDoku.DokuBez, "Pa1");
-    EXPECT_EQ(page_.table().state(), TableState::Filtered);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
-    EXPECT_EQ(page_.table().narrowing().values.size(), 3U) << "rows of forgotten steps stay until the page renews them";
+    EXPECT_EQ(tables_.current().state(), TableState::Filtered);
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
+    EXPECT_EQ(tables_.current().narrowing().values.size(), 3U)
+        << "rows of forgotten steps stay until the page renews them";
     status({});
-    page_.zurueck();
+    tabs_.back();
     EXPECT_EQ(gezeigt(0), 4U);
     EXPECT_EQ(kontext_.zustand().FilterAnzahl, 0);
 }
@@ -67,8 +68,8 @@ TEST_F(PageFilterTest, ARunWithNothingChosenLiftsTheFilterThatWasThere)
             kontext_.zustand().bereich = bereich;
             leereFilter(kontext_.zustand());
             FilterEigenMerkBenutzDef(kontext_);
-            EXPECT_EQ(page_.table().state(), TableState::Open);
-            EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4");
+            EXPECT_EQ(tables_.current().state(), TableState::Open);
+            EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4");
             EXPECT_EQ(gezeigt(0), 4U);
         }
     }
@@ -86,7 +87,7 @@ TEST_F(PageFilterTest, MainValuesOfTheStructureCountThoughNoStepWasChosen)
     kontext_.zustand().HauptwertBereich[0] = {Decimal::ofUnits(10000), Decimal::ofUnits(20000)};
     kontext_.zustand().HauptwertAktiv = true;
     FilterEigenMerkBenutzDef(kontext_);
-    EXPECT_EQ(page_.table().state(), TableState::Filtered);
+    EXPECT_EQ(tables_.current().state(), TableState::Filtered);
     EXPECT_EQ(gezeigt(0), 0U);
 }
 
@@ -123,12 +124,12 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
     const std::string alle = "Zugriffsberechtigung:             Alle Stati von 0 bis 5";
     const std::string kopf = "  Solid Edge - Dokumente, Bauteile, Anzahl: 4";
     const auto zeigt = [&](const std::string& zugriff, const std::string& anzahl, std::size_t zeilen) {
-        EXPECT_EQ(page_.zugriffText(), zugriff);
-        EXPECT_EQ(page_.statusLimited(), zugriff != alle);
-        EXPECT_EQ(page_.anzahlText(), kopf + anzahl);
-        ASSERT_EQ(page_.gezeigteWerte().size(), zeilen);
+        EXPECT_EQ(heading_.accessText(), zugriff);
+        EXPECT_EQ(heading_.isStatusLimited(), zugriff != alle);
+        EXPECT_EQ(heading_.countText(), kopf + anzahl);
+        ASSERT_EQ(heading_.filterRows().size(), zeilen);
         if (zugriff != alle)
-            EXPECT_EQ(page_.gezeigteWerte().back(), (FilterRow{"", "Status", " >= 2 und <= 3"}));
+            EXPECT_EQ(heading_.filterRows().back(), (FilterRow{"", "Status", " >= 2 und <= 3"}));
     };
     const std::string limit = "             Status >= 2 und <= 3";
     status({2, 3});
@@ -138,12 +139,12 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
     waehle("DokuBez", "Pa3");
     FilterEigenMerkBenutzDef(kontext_);
     zeigt(limit, "; Filteranzahl: 1", 2);
-    page_.zurueck();
-    EXPECT_EQ(page_.table().state(), TableState::Open);
+    tabs_.back();
+    EXPECT_EQ(tables_.current().state(), TableState::Open);
     zeigt(limit, "; Filteranzahl: 2", 1); // It stays.
-    page_.tabGewaehlt(1);
-    EXPECT_EQ(page_.zugriffText(), alle) << "this table is not narrowed";
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(1);
+    EXPECT_EQ(heading_.accessText(), alle) << "this table is not narrowed";
+    tabs_.chooseTab(0);
     zeigt(limit, "; Filteranzahl: 2", 1);
 
     kontext_.zustand().bereich = Filterbereich::Struktur;
@@ -151,28 +152,28 @@ TEST_F(PageFilterTest, ALimitOfTheStatusesIsToldAsLongAsItNarrowsTheRows)
     FilterEigenMerkBenutzDef(kontext_);
     zeigt(alle, "; Filteranzahl: 1", 1);
     status({});
-    page_.neuaufbauen();
+    tabs_.rebuild();
     zeigt(alle, "", 0);
 }
 
 TEST_F(PageFilterTest, TheValuesStayListedWhileTheyNarrowTheTable)
 {
-    FilterPage seite{session_, operations_, filter_, tables_};
+    FilterPage& seite = program_.filterPage;
     seite.OpenFilterPage();
     kontext_.zustand().ChFilterStat.fill(false);
     AddFilterStep(kontext_, "Pa1", "DokuBez", 0);
     seite.filtern();
     ASSERT_EQ(gezeigt(0), 1U);
-    const std::vector<FilterRow> werte = page_.gezeigteWerte();
+    const std::vector<FilterRow> werte = heading_.filterRows();
     ASSERT_EQ(werte.size(), 1U);
     seite.bereichGewaehlt(Filterbereich::Struktur);
-    EXPECT_EQ(page_.gezeigteWerte(), werte);
+    EXPECT_EQ(heading_.filterRows(), werte);
     seite.zurueck();
-    EXPECT_EQ(page_.gezeigteWerte(), werte);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 1");
+    EXPECT_EQ(heading_.filterRows(), werte);
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 1");
     seite.filtern(); // Nothing is chosen on this part: all rows again.
     EXPECT_EQ(gezeigt(0), 4U);
-    EXPECT_TRUE(page_.gezeigteWerte().empty());
+    EXPECT_TRUE(heading_.filterRows().empty());
 }
 
 TEST_F(PageFilterTest, AResultOfItsOwnIsGivenUpByTheNextRunAndByTheReset)

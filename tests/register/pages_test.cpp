@@ -28,13 +28,13 @@ TEST_F(PagesTest, StatusHeadNamesWhoWorksOnIt)
     for (const Fall& fall : faelle)
         zeile("PartTabelle",
               {{"DokuBez", "S-" + std::to_string(nummer++)}, {"Status", fall.status}, {"Bearbeiter", fall.bearbeiter}});
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     for (const Fall& fall : faelle) {
         SCOPED_TRACE(fall.text);
-        EXPECT_EQ(page_.statuskopf().text, fall.text);
-        EXPECT_EQ(page_.statuskopf().farbe, fall.farbe);
-        EXPECT_EQ(page_.statuskopf().breit, fall.breit);
-        page_.zeileVor();
+        EXPECT_EQ(panels_.status().text, fall.text);
+        EXPECT_EQ(panels_.status().farbe, fall.farbe);
+        EXPECT_EQ(panels_.status().breit, fall.breit);
+        tabs_.nextRow();
     }
 }
 
@@ -44,16 +44,16 @@ TEST_F(PagesTest, GeneralPageShowsTheRow)
                           {"filename", "W:\\Teile\\P-1.par"},
                           {"Status", 4},
                           {"Erstellt", Zeitpunkt::aus({2004, 2, 9, 7, 5, 0})}});
-    page_.tabGewaehlt(0);
-    const AllgemeineSeite& seite = page_.allgemein();
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
+    tabs_.chooseTab(0);
+    const AllgemeineSeite& seite = info_.general();
+    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
     EXPECT_EQ(seite.Status + seite.StatusName, "4(Festgeschr.)");
     EXPECT_EQ(seite.Erstellt, "09.02.04");
     EXPECT_EQ(seite.Geaendert, ""); // Null: no date is better than a wrong one.
-    EXPECT_EQ(page_.ordnerPanel(), "W:\\Teile");
+    EXPECT_EQ(panels_.folder(), "W:\\Teile");
     EXPECT_TRUE(seite.nichtVorhanden);
     welt_.dateien.legeAn("W:\\Teile\\P-1.par");
-    page_.zeileGewaehlt(0);
+    tabs_.chooseRow(0);
     EXPECT_FALSE(seite.nichtVorhanden);
 }
 
@@ -78,7 +78,7 @@ TEST_F(PagesTest, GeneralPageTellsWhereTheDocumentIsUsed)
     for (const auto& [tab, name, verwendung, text] : faelle) {
         session_.Tree.Verwendung = verwendung;
         zeigeDokument(tab, name);
-        const AllgemeineSeite& seite = page_.allgemein();
+        const AllgemeineSeite& seite = info_.general();
         EXPECT_EQ(seite.kopf8 + seite.wert9 + " " + seite.kopf39 + seite.wert40, text) << tab << name;
     }
 }
@@ -101,25 +101,25 @@ TEST_F(PagesTest, OnlyOnePageOfATableStaysFromRowToRow)
             zeile(typ.tabelleBenutzDef, {{"DokuBez", "M"}, {"RevBez", revision}, {"Name", "n"}});
         }
         zeile("VerbindungPartZusDoku", {{"Dokufilename", "W:\\m"}});
-        page_.tabGewaehlt(tab);
+        tabs_.chooseTab(tab);
         const InfoSeite bleibend = tab == 0 ? InfoSeite::StichKomm : InfoSeite::Datei;
         for (const auto& [text, seite] : klicks) {
             SCOPED_TRACE(text);
-            page_.knotenGewaehlt(text);
-            EXPECT_EQ(page_.infoSeite(), seite);
-            EXPECT_EQ(page_.tree().gewaehlt, text);
-            page_.zeileVor();
+            info_.chooseNode(text);
+            EXPECT_EQ(info_.page(), seite);
+            EXPECT_EQ(tree_.tree().gewaehlt, text);
+            tabs_.nextRow();
             // A click on a top node leaves what was kept before; none was by then.
-            EXPECT_EQ(page_.infoSeite(), seite == bleibend ? seite : InfoSeite::Allgemein);
-            EXPECT_EQ(page_.stichKomm().TextKeywords, session_.AktDoku.RevBez);
+            EXPECT_EQ(info_.page(), seite == bleibend ? seite : InfoSeite::Allgemein);
+            EXPECT_EQ(info_.keywords().TextKeywords, session_.AktDoku.RevBez);
         }
-        page_.knotenGewaehlt(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
-        page_.knotenGewaehlt(knoten::EIGENSCHAFTEN);
-        page_.zeileVor();
-        EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
-        page_.knotenGewaehlt(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
-        page_.tabGewaehlt(tab); // forgets it
-        EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
+        info_.chooseNode(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
+        info_.chooseNode(knoten::EIGENSCHAFTEN);
+        tabs_.nextRow();
+        EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+        info_.chooseNode(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
+        tabs_.chooseTab(tab); // forgets it
+        EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
     }
 }
 
@@ -128,21 +128,21 @@ TEST_F(PagesTest, TheViewerFollowsTheRowsUntilItCannotShowOne)
     dokument(0, "A");
     dokument(0, "B");
     dokument(0, "C");
-    page_.tabGewaehlt(0);
-    bildschirm_.viewer.kaputt = {pfad("C_0.par")};
-    page_.knotenGewaehlt(knoten::SMARTVIEWER);
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Viewer);
-    page_.zeileVor();
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Viewer);
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::Eigenschaften), pfad("B_0.par"));
+    tabs_.chooseTab(0);
+    viewers_.kaputt = {pfad("C_0.par")};
+    info_.chooseNode(knoten::SMARTVIEWER);
+    EXPECT_EQ(info_.page(), InfoSeite::Viewer);
+    tabs_.nextRow();
+    EXPECT_EQ(info_.page(), InfoSeite::Viewer);
+    EXPECT_EQ(viewers_.steht(Ansicht::Eigenschaften), pfad("B_0.par"));
     welt_.meldungen.erwarte("Anzeigen im Viewer", "Die Datei:\n" + pfad("C_0.par") +
                                                       "\nkonnte nicht geöffnet werden!\n\nMögliche Ursache:\n"
                                                       "- Falscher Pfad- und/oder Dateiname.\n- Kein Zugriffsrecht.");
-    page_.zeileVor();
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
-    EXPECT_EQ(page_.allgemein().DokuBez, "C");
-    page_.zeileGewaehlt(0);
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Allgemein);
+    tabs_.nextRow();
+    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+    EXPECT_EQ(info_.general().DokuBez, "C");
+    tabs_.chooseRow(0);
+    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
 }
 
 TEST_F(PagesTest, FilePageShowsAndSetsAttributes)
@@ -150,27 +150,27 @@ TEST_F(PagesTest, FilePageShowsAndSetsAttributes)
     dokument(0, "A");
     dokument(0, "B");
     welt_.dateien.legeAn(pfad("A_0.par"), std::string(12345, 'x'));
-    page_.tabGewaehlt(0);
-    page_.knotenGewaehlt(knoten::DATEI);
-    const DateiSeite& datei = page_.datei();
+    tabs_.chooseTab(0);
+    info_.chooseNode(knoten::DATEI);
+    const DateiSeite& datei = info_.file();
     EXPECT_TRUE(datei.vorhanden);
     EXPECT_EQ(datei.Name, "A_0.par");
     EXPECT_EQ(datei.Ordner, "W:\\Teile");
     EXPECT_EQ(datei.Groesse, "12.345 Bytes");
     EXPECT_EQ(datei.Erstellt, "01.03.2004 08:30:00");
 
-    page_.setzeSchreibschutz(true);
-    page_.setzeArchiv(true);
+    info_.setReadOnly(true);
+    info_.setArchive(true);
     EXPECT_TRUE(datei.schreibgeschuetzt && datei.archiv);
     EXPECT_TRUE(welt_.dateien.attribute(pfad("A_0.par"))->schreibgeschuetzt);
-    page_.setzeSchreibschutz(false);
+    info_.setReadOnly(false);
     EXPECT_FALSE(datei.schreibgeschuetzt);
 
-    page_.zeileVor();
-    page_.knotenGewaehlt(knoten::DATEI);
+    tabs_.nextRow();
+    info_.chooseNode(knoten::DATEI);
     EXPECT_FALSE(datei.vorhanden);
     EXPECT_EQ(datei.Name + datei.Groesse + datei.Erstellt, "");
-    page_.setzeSchreibschutz(true); // No file: nothing happens.
+    info_.setReadOnly(true); // No file: nothing happens.
 }
 
 TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
@@ -183,27 +183,25 @@ TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
     dokument(0, "A");
     dateien.legeAn(pfad("A_0.par"));
     Ports ports = welt_.portsMit(dateien);
-    Operations operations(ports);
-    DocumentTables tables(session_, operations);
-    DocumentPage page(session_, operations, tables, filter_, bildschirm_.gezeigt);
-    page.tabGewaehlt(0);
+    Program program(session_, ports, viewers_);
+    program.tabs.chooseTab(0);
     welt_.meldungen.erwarte("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
                                                   "Datei ist nicht vorhanden.");
     welt_.meldungen.antworte();
-    page.setzeArchiv(true);
-    EXPECT_FALSE(page.datei().archiv); // The box goes back to what the file says.
+    program.info.setArchive(true);
+    EXPECT_FALSE(program.info.file().archiv); // The box goes back to what the file says.
 }
 
 TEST_F(PagesTest, PdfOpensInItsApplication)
 {
     dokument(3, "Z");
     welt_.dateien.legeAn(pfad("Z_0.pdf"));
-    page_.tabGewaehlt(3);
-    page_.knotenGewaehlt(knoten::PDF);
+    tabs_.chooseTab(3);
+    info_.chooseNode(knoten::PDF);
     EXPECT_EQ(welt_.standardanwendung.geoeffnet, std::vector<std::string>{pfad("Z_0.pdf")});
     welt_.dateien.loesche(pfad("Z_0.pdf"));
     welt_.meldungen.antworte();
-    page_.knotenGewaehlt(knoten::PDF);
+    info_.chooseNode(knoten::PDF);
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Im Verzeichnis nicht vorhanden");
 }
 
@@ -216,12 +214,12 @@ TEST_F(PagesTest, ClosingRemembersTheTabOfFileTypesOnly)
     };
     zeile("Ini", {{"Feld1", "Mueller"}, {"Feld2", "Starttabelle"}, {"Feld3", "Bauteile"}});
     for (const auto& [tab, erwartet] : {std::pair{2, "Baugruppen"}, std::pair{6, "Baugruppen"}, {4, "Schweißteile"}}) {
-        page_.StartTabelleZeigen();
-        page_.tabGewaehlt(tab);
-        page_.schliessen();
+        tabs_.StartTabelleZeigen();
+        tabs_.chooseTab(tab);
+        page_.entladen();
         EXPECT_EQ(starttabelle(), erwartet);
     }
-    page_.schliessen(); // Closed already: nothing is written.
+    page_.entladen(); // Closed already: nothing is written.
     EXPECT_EQ(tables_[4].state(), TableState::NotOpen);
 }
 

@@ -12,7 +12,7 @@ protected:
         document("FA-200", "welle.par", 3, {2004, 2, 27, 12, 0, 0}, "Kern", "Mueller");
         document("FB-100", "bolzen.par", 3, {2004, 2, 20, 0, 0, 0}, "Mueller", "Mueller");
         document("FB-200", "welle.par", 5, {2003, 3, 1, 0, 0, 0}, "Kern", "Kern");
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
     }
 
     // Changed a year after it was made.
@@ -39,7 +39,7 @@ protected:
         quick_.textFiltern();
     }
 
-    const std::string& expression() const { return page_.table().rows().filterText(); }
+    const std::string& expression() const { return tables_.current().rows().filterText(); }
 };
 
 TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
@@ -64,9 +64,9 @@ TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
     filterText("fa", 0, TextAmAnfang);
     EXPECT_EQ(expression(), "DokuBez Like 'fa*'");
     EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
     EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
-    EXPECT_TRUE(page_.filterKnopf());
+    EXPECT_TRUE(heading_.showsFilterButton());
 
     filterText("LL", 1, TextBeliebig);
     EXPECT_EQ(expression(), "DokuBez Like 'fa*' AND Dateiname Like '*LL*'");
@@ -81,28 +81,28 @@ TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
     EXPECT_EQ(quick_.schritt(), 2);
     EXPECT_EQ(session_.Suchtexte, (std::vector<std::string>{"fa", "LL", "W"}));
 
-    page_.zurueck();
+    tabs_.back();
     EXPECT_EQ(tables_[0].state(), TableState::Open);
     EXPECT_EQ(quick_.schritt(), 0);
     EXPECT_EQ(rows(), "");
     EXPECT_EQ(filter_.typen[0].Schnellfilter, "");
     filterText("gibt es nicht", 0, TextBeliebig);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 0");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 0");
 }
 
 TEST_F(QuickFilterTest, ATabKeepsItsFilterButNotTheRunningStep)
 {
     dokument(1, "Blech");
     filterText("FA", 0, TextAmAnfang);
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     EXPECT_EQ(quick_.LblFilterStep1(), "");
     EXPECT_EQ(rows(), "");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
     EXPECT_EQ(quick_.schritt(), 0);
     filterText("FB", 0, TextAmAnfang); // A first step again.
     EXPECT_EQ(liste(), "FB-100/0 FB-200/0 ");
-    page_.neuaufbauen();
+    tabs_.rebuild();
     EXPECT_EQ(quick_.schritt(), 0);
     filterText("FA", 0, TextAmAnfang);
     EXPECT_EQ(expression(), "DokuBez Like 'FA*'");
@@ -142,7 +142,7 @@ TEST_F(QuickFilterTest, DateFiltersTakeTheDayTheFieldAndThePerson)
         EXPECT_EQ(filter_.typen[0].Schnellfilter, c.sql);
     }
     EXPECT_EQ(rows(), "FilternDatum|Geaendert|31.01.04\nFilternDatum|Bearbeiter|Mueller\n");
-    page_.zurueck();
+    tabs_.back();
     EXPECT_EQ(quick_.LblZeitRaum(), "");
 }
 
@@ -158,7 +158,7 @@ TEST_F(QuickFilterTest, TheStatusConditionStaysAndFiltersTakeTurns)
     filterText("FB", 0, TextAmAnfang);
     EXPECT_EQ(liste(), "FB-100/0 ");
     EXPECT_EQ(quick_.LblZeitRaum(), "");
-    page_.zurueck();
+    tabs_.back();
     EXPECT_EQ(liste(), "FA-100/0 FA-200/0 FB-100/0 ");
 }
 
@@ -177,11 +177,11 @@ TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
         unsigned drawn = 0;
         welt_.meldungen.during = [&] {
             EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ") << "behind the box";
-            drawn = page_.table().generation();
+            drawn = tables_.current().generation();
         };
         filterText(text, 1, TextAmAnfang);
         welt_.meldungen.during = nullptr;
-        EXPECT_EQ(page_.table().generation(), drawn) << "the grid knew of these rows already";
+        EXPECT_EQ(tables_.current().generation(), drawn) << "the grid knew of these rows already";
         EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
         EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
         EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
@@ -189,7 +189,7 @@ TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
         filterText("w", 1, TextAmAnfang);
         EXPECT_EQ(quick_.schritt(), 2);
         EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
-        page_.zurueck();
+        tabs_.back();
     }
 }
 
@@ -201,7 +201,7 @@ TEST_F(QuickFilterTest, PanelsAndFavouritesOfTheBar)
     EXPECT_FALSE(bar_.zeigtWerte());
     EXPECT_EQ(bar_.knopfWerte(), "Anzeigen der Filterwerte >>");
     bar_.zeigeWerte(true);
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     EXPECT_FALSE(bar_.zeigtWerte());
     EXPECT_TRUE(bar_.zeigtSuchen());
 
@@ -210,14 +210,10 @@ TEST_F(QuickFilterTest, PanelsAndFavouritesOfTheBar)
     welt_.meldungen.erwarte("Filterfavoriten", "Es ist kein Filtername eingetragen!");
     bar_.nutzeFavorit();
 
-    std::string used;
-    bar_.nutzeGespeicherten = [&](std::string_view name) {
-        page_.tabGewaehlt(0);
-        used = name;
-    };
-    bar_.waehleFavorit("Neue Bleche");
+    bar_.waehleFavorit("Neue Bleche"); // Gone by now: nothing runs.
     bar_.nutzeFavorit();
-    EXPECT_EQ(used, "Neue Bleche");
+    EXPECT_EQ(tables_.current().state(), TableState::Empty);
+    tabs_.chooseTab(0);
     EXPECT_EQ(bar_.LblFilter(), "");
 }
 

@@ -10,11 +10,6 @@ namespace quelvarn {
 class QuickTest : public RegisterTest
 {
 protected:
-    QuickTest()
-    {
-        page_.tabelleGewechselt = [this] { bar_.tabelleGewechselt(); };
-    }
-
     std::string current() const { return session_.AktDoku.DokuBez + "/" + session_.AktDoku.RevBez; }
     static std::string rows(const std::vector<FilterRow>& values)
     {
@@ -25,7 +20,7 @@ protected:
     }
     std::string rows() const { return rows(bar_.gezeigteWerte()); }
 
-    LinkeLeiste bar_{session_, operations_, filter_, page_};
+    LinkeLeiste& bar_ = program_.leftBar;
     Schnellsuche& search_ = bar_.suche();
     Schnellfilter& quick_ = bar_.filter();
 };

@@ -11,7 +11,7 @@ protected:
         for (const char* name : {"Achse", "Blech", "Bolzen", "Halter", "O'Neill", "Winkel"})
             dokument(0, name);
         dokument(1, "Bolzenblech");
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
     }
 };
 
@@ -38,7 +38,7 @@ TEST_F(QuickSearchTest, FindsFromTheTopOrOnFromTheRowShown)
         SCOPED_TRACE(c.text);
         search_.setzeFeld(c.field);
         search_.setzeVerfahren(c.place);
-        page_.zeileGewaehlt(3);
+        tabs_.chooseRow(3);
         search_.sucheText(c.text);
         EXPECT_EQ(current(), c.first);
         EXPECT_EQ(rows(), std::string(SUCHFELDER[c.field].feld) + "|" + std::string(SUCHFELDER[c.field].benennung) +
@@ -46,8 +46,8 @@ TEST_F(QuickSearchTest, FindsFromTheTopOrOnFromTheRowShown)
         search_.suche();
         EXPECT_EQ(current(), c.next);
     }
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 6") << "a search is no filter";
-    page_.tabGewaehlt(1);
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 6") << "a search is no filter";
+    tabs_.chooseTab(1);
     EXPECT_EQ(rows(), "");
     search_.sucheText("Bolz");
     EXPECT_EQ(current(), "Bolzenblech/0");
@@ -63,7 +63,7 @@ TEST_F(QuickSearchTest, RefusesWhatIsNoKindOfSearchAndTakesTheTextAsAText)
     EXPECT_FALSE(SuchenImRecordset(parts, "Zahnrad", "DokuBez", 0, Suchbeginn::Oben, welt_.meldungen));
     EXPECT_TRUE(parts.Eof());
 
-    page_.zeileGewaehlt(2);
+    tabs_.chooseRow(2);
     for (const char* text : {"x' OR DokuBez LIKE 'Wink", "x' AND Status = ", "'", "''", "O''N"}) {
         search_.sucheText(text);
         EXPECT_EQ(current(), "Achse/0") << text << ": nothing found leads back to the first row";
@@ -76,7 +76,7 @@ TEST_F(QuickSearchTest, KnowsThePercentSignAsItsOnlyWildcard)
 {
     for (const char* name : {"TEST0", "TEST[01]", "TESTX01", "TEST_01", "TEST*01"})
         dokument(0, name);
-    page_.neuaufbauen();
+    tabs_.rebuild();
     for (const char* text : {"TEST[01]", "TEST_0", "TEST*"}) {
         search_.sucheText(text);
         EXPECT_TRUE(current().starts_with(text)) << text << " / " << current();
@@ -128,7 +128,7 @@ TEST_F(QuickSearchTest, ReadingAColumnCanBeGivenUp)
     for (int i = 0; i < 3000; ++i)
         dokument(2, "B-" + std::to_string(10000 + i));
     engine_->schliesseAb();
-    page_.tabGewaehlt(2);
+    tabs_.chooseTab(2);
     welt_.fortschritt = {};
     welt_.fortschritt.geduld = false;
     search_.setzeFeld(2);

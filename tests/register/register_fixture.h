@@ -2,7 +2,7 @@
 
 #include "fakes/fake_viewer.h"
 #include "fakes/test_register.h"
-#include "register/document_page.h"
+#include "program/program.h"
 
 #include <string>
 
@@ -28,14 +28,14 @@ protected:
 
     void zeigeDokument(int tab, const std::string& DokuBez, const std::string& RevBez = "0")
     {
-        page_.tabGewaehlt(tab);
-        page_.neuaufbauen(); // It may have been written just now.
+        tabs_.chooseTab(tab);
+        tabs_.rebuild(); // It may have been written just now.
         const Recordset& zeilen = tables_[tab].rows();
         std::size_t i = 0;
         while (i < zeilen.RecordCount() &&
                alsText(zeilen.Zelle(i, "DokuBez")) + alsText(zeilen.Zelle(i, "RevBez")) != DokuBez + RevBez)
             ++i;
-        page_.zeileGewaehlt(i);
+        tabs_.chooseRow(i);
         ASSERT_EQ(session_.AktDoku.DokuBez, DokuBez);
     }
 
@@ -64,7 +64,7 @@ protected:
     // The grid's first two columns, from the top.
     std::string liste() const
     {
-        const Recordset& zeilen = page_.table().visible();
+        const Recordset& zeilen = tables_.current().visible();
         std::string text;
         for (std::size_t i = 0; zeilen.offen() && i < zeilen.RecordCount(); ++i)
             text += alsText(zeilen.Zelle(i, "DokuBez")) + "/" + alsText(zeilen.Zelle(i, "RevBez")) + " ";
@@ -80,12 +80,21 @@ protected:
         return text;
     }
     static std::string alsText(const Value& wert) { return quelvarn::alsText(wert); }
-    std::string baum() const { return alsText(page_.tree().wurzeln); }
+    std::string baum() const { return alsText(tree_.tree().wurzeln); }
 
-    FakeBildschirm bildschirm_;
-    FilterState filter_;
-    DocumentTables tables_{session_, operations_};
-    DocumentPage page_{session_, operations_, tables_, filter_, bildschirm_.gezeigt};
+    FakeViewer viewers_;
+    Program program_{session_, ports_, viewers_};
+    Operations& operations_ = program_.operations;
+    FilterState& filter_ = program_.filter;
+    DocumentTables& tables_ = program_.tables;
+    TableTabs& tabs_ = program_.tabs;
+    TreePanel& tree_ = program_.tree;
+    InfoPanel& info_ = program_.info;
+    ViewerArea& viewer_ = program_.viewer;
+    DocumentPanels& panels_ = program_.panels;
+    TableHeading& heading_ = program_.heading;
+    DocumentPage& page_ = program_.documentPage;
+    RelationActions& actions_ = program_.relationActions;
 };
 
 } // namespace quelvarn

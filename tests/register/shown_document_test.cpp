@@ -15,60 +15,60 @@ protected:
         dokument(0, "A", "b", 3);
         dokument(0, "B", "0", 2);
         dokument(1, "S", "0", 5);
-        page_.tabGewaehlt(0); // A b, A a, B 0
+        tabs_.chooseTab(0); // A b, A a, B 0
     }
-    std::string below() const { return page_.dateinamePanel() + "|" + page_.statuskopf().text; }
-    bool shown(Ansicht place) { return !bildschirm_.viewer.steht(place).empty(); }
+    std::string below() const { return panels_.fileName() + "|" + panels_.status().text; }
+    bool shown(Ansicht place) { return !viewers_.steht(place).empty(); }
 };
 
 TEST_F(ShownDocumentTest, BesideTheViewerTheWarningsAreThoseOfTheRow)
 {
-    page_.knotenGewaehlt(knoten::SMARTVIEWER);
+    info_.chooseNode(knoten::SMARTVIEWER);
     for (const bool newer : {true, false, false}) {
-        page_.zeileVor();
-        ASSERT_EQ(page_.infoSeite(), InfoSeite::Viewer);
-        EXPECT_EQ(page_.allgemein().neuereRevision, newer) << session_.AktDoku.RevBez;
-        EXPECT_EQ(page_.tree().gewaehlt, knoten::SMARTVIEWER);
+        tabs_.nextRow();
+        ASSERT_EQ(info_.page(), InfoSeite::Viewer);
+        EXPECT_EQ(info_.general().neuereRevision, newer) << session_.AktDoku.RevBez;
+        EXPECT_EQ(tree_.tree().gewaehlt, knoten::SMARTVIEWER);
     }
 }
 
 TEST_F(ShownDocumentTest, APageThatIsKeptHasItsNodeSelected)
 {
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     dokument(1, "T");
-    page_.neuaufbauen();
-    page_.knotenGewaehlt(knoten::DATEI);
-    page_.zeileVor();
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Datei);
-    EXPECT_EQ(page_.tree().gewaehlt, knoten::DATEI);
+    tabs_.rebuild();
+    info_.chooseNode(knoten::DATEI);
+    tabs_.nextRow();
+    EXPECT_EQ(info_.page(), InfoSeite::Datei);
+    EXPECT_EQ(tree_.tree().gewaehlt, knoten::DATEI);
 }
 
 TEST_F(ShownDocumentTest, TheViewerInPlaceOfTheTablesGoesWithItsDocument)
 {
     const auto leaves = [&](const auto& what) {
-        page_.tabGewaehlt(0);
-        page_.anschauen(true);
-        EXPECT_TRUE(page_.imViewer() && shown(Ansicht::Dokument));
+        tabs_.chooseTab(0);
+        viewer_.showDocument(true);
+        EXPECT_TRUE(viewer_.isInFront() && shown(Ansicht::Dokument));
         EXPECT_EQ(below(), "A_b.par|3 Status ");
         what();
-        EXPECT_FALSE(page_.imViewer() || shown(Ansicht::Dokument));
+        EXPECT_FALSE(viewer_.isInFront() || shown(Ansicht::Dokument));
     };
-    leaves([&] { page_.anschauen(false); });
-    leaves([&] { page_.zeileVor(); });
-    page_.zeileGewaehlt(0);
-    leaves([&] { page_.tabGewaehlt(1); });
-    leaves([&] { page_.tabGewaehlt(5); }); // A table without rows, opened for it...
-    leaves([&] { page_.tabGewaehlt(5); }); // ... and once more.
+    leaves([&] { viewer_.showDocument(false); });
+    leaves([&] { tabs_.nextRow(); });
+    tabs_.chooseRow(0);
+    leaves([&] { tabs_.chooseTab(1); });
+    leaves([&] { tabs_.chooseTab(5); }); // A table without rows, opened for it...
+    leaves([&] { tabs_.chooseTab(5); }); // ... and once more.
     leaves([&] { page_.datenbankWechselt(); });
 }
 
 TEST_F(ShownDocumentTest, AnschauenTellsTheStatusAlsoOfADocumentInWork)
 {
-    page_.zeileGewaehlt(1);
+    tabs_.chooseRow(1);
     EXPECT_EQ(below(), "A_a.par|<> 'In Arbeit'");
-    page_.anschauen(true);
+    viewer_.showDocument(true);
     EXPECT_EQ(below(), "A_a.par|1 Status ");
-    page_.anschauen(false);
+    viewer_.showDocument(false);
     EXPECT_EQ(below(), "A_a.par|<> 'In Arbeit'");
 }
 
@@ -81,10 +81,10 @@ TEST_F(ShownDocumentTest, BehindAPageOfComponentsTheStatusBarTellsOfTheDocumentA
                          {"Part", pfad("B_0.par")}});
     zeigeDokument(0, "B");
     for (const std::string_view next : {knoten::EIGENSCHAFTEN, knoten::DATEI, knoten::SMARTVIEWER}) {
-        page_.knotenGewaehlt(knoten::IN_BAUGRUPPE);
-        page_.verwendung().zeileGewaehlt(0);
+        info_.chooseNode(knoten::IN_BAUGRUPPE);
+        info_.relation().zeileGewaehlt(0);
         ASSERT_EQ(below(), "G_0.asm|");
-        page_.knotenGewaehlt(next);
+        info_.chooseNode(next);
         EXPECT_EQ(below(), "B_0.par|2 Status ") << next;
     }
 }

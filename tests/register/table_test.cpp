@@ -11,25 +11,25 @@ TEST_F(TableTest, OpensTheStartTableOncePerDatabase)
 {
     dokument(3, "Z-1");
     session_.Starttabelle = "Zeichnungen";
-    page_.StartTabelleZeigen();
-    EXPECT_EQ(page_.tab(), 3);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Zeichnungen, Anzahl: 1");
-    EXPECT_EQ(page_.infoKopf(), "  Eigenschaften Zeichnung");
+    tabs_.StartTabelleZeigen();
+    EXPECT_EQ(tables_.tab(), 3);
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Zeichnungen, Anzahl: 1");
+    EXPECT_EQ(info_.heading(), "  Eigenschaften Zeichnung");
     for (const int tab : {0, 1, 2, 4, 5, 6, 7})
         EXPECT_EQ(tables_[tab].state(), TableState::NotOpen);
 
-    page_.tabGewaehlt(0);
-    page_.StartTabelleZeigen();
-    EXPECT_EQ(page_.tab(), 0);
+    tabs_.chooseTab(0);
+    tabs_.StartTabelleZeigen();
+    EXPECT_EQ(tables_.tab(), 0);
 
     page_.datenbankWechselt();
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Keine);
+    EXPECT_EQ(info_.page(), InfoSeite::Keine);
     EXPECT_EQ(session_.AktDoku, AktuellesDokument{});
     session_.Starttabelle = "Normteile"; // No table to start with: the tab stays, nothing is opened.
-    page_.StartTabelleZeigen();
-    EXPECT_EQ(page_.tab(), 0);
+    tabs_.StartTabelleZeigen();
+    EXPECT_EQ(tables_.tab(), 0);
     EXPECT_EQ(tables_[0].state(), TableState::NotOpen);
-    EXPECT_EQ(page_.anzahlText(), "");
+    EXPECT_EQ(heading_.countText(), "");
 }
 
 TEST_F(TableTest, StatusScopeLimitsFileTypesButNotSpecialTables)
@@ -39,13 +39,13 @@ TEST_F(TableTest, StatusScopeLimitsFileTypesButNotSpecialTables)
             dokument(tab, std::to_string(status), "0", status);
     }
     siehtStati("345");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     EXPECT_EQ(liste(), "3/0 4/0 5/0 ");
     session_.SondertabelleName[0] = "Normteile";
-    page_.tabGewaehlt(5);
+    tabs_.chooseTab(5);
     EXPECT_EQ(liste(), "1/0 3/0 4/0 5/0 ");
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Normteile, Anzahl: 4");
-    EXPECT_EQ(page_.infoKopf(), "  Eigenschaften Normteile");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Normteile, Anzahl: 4");
+    EXPECT_EQ(info_.heading(), "  Eigenschaften Normteile");
 }
 
 TEST_F(TableTest, ATableWithOnlyHiddenDocumentsIsEmpty)
@@ -53,17 +53,17 @@ TEST_F(TableTest, ATableWithOnlyHiddenDocumentsIsEmpty)
     dokument(0, "A", "0", 1);
     dokument(1, "B");
     siehtStati("3");
-    page_.tabGewaehlt(1);
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(1);
+    tabs_.chooseTab(0);
     EXPECT_EQ(tables_[0].state(), TableState::Empty);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 0");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 0");
     EXPECT_EQ(baum(), "");
-    EXPECT_EQ(page_.infoSeite(), InfoSeite::Keine);
+    EXPECT_EQ(info_.page(), InfoSeite::Keine);
     EXPECT_EQ(session_.AktDoku, AktuellesDokument{});
-    EXPECT_EQ(page_.dateinamePanel() + page_.ordnerPanel() + page_.statuskopf().text, "");
-    page_.neuaufbauen();
-    page_.zeileVor();
-    page_.zurueck();
+    EXPECT_EQ(panels_.fileName() + panels_.folder() + panels_.status().text, "");
+    tabs_.rebuild();
+    tabs_.nextRow();
+    tabs_.back();
     EXPECT_EQ(tables_[0].state(), TableState::Empty);
 }
 
@@ -74,9 +74,9 @@ TEST_F(TableTest, TypeCodeOfAktDokuDependsOnWhoLoadedTheRow)
     for (const DokuTyp& typ : DOKUTYPEN) {
         SCOPED_TRACE(typ.tabelle);
         dokument(typ.tab, "X");
-        page_.tabGewaehlt(typ.tab);
+        tabs_.chooseTab(typ.tab);
         EXPECT_EQ(session_.AktDoku.Typ, nachTab[typ.tab]);
-        page_.zeileGewaehlt(0);
+        tabs_.chooseRow(0);
         EXPECT_EQ(session_.AktDoku.Typ, nachZeile[typ.tab]);
         EXPECT_EQ(tables_[typ.tab].record().DokuArt, typ.tab == 4 ? 6 : nachZeile[typ.tab]);
     }
@@ -111,19 +111,19 @@ TEST_F(TableTest, ATabSwitchActsOnTheState)
     dokument(2, "anderes");
     for (const Case& fall : cases) {
         page_.datenbankWechselt();
-        page_.tabGewaehlt(0);
-        page_.zeileGewaehlt(1);
-        page_.tabGewaehlt(2);
+        tabs_.chooseTab(0);
+        tabs_.chooseRow(1);
+        tabs_.chooseTab(2);
         DocumentTable& table = tables_[0];
         fall.before(table);
         SCOPED_TRACE(static_cast<int>(table.state()));
         const unsigned generation = table.generation();
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
         EXPECT_EQ(table.state(), fall.after);
         EXPECT_EQ(session_.AktDoku.DokuBez, fall.shows);
         EXPECT_EQ(table.generation() != generation, fall.openedAnew);
-        EXPECT_EQ(page_.filterKnopf(), fall.filterKnopf);
-        EXPECT_EQ(page_.zurueckTooltip(),
+        EXPECT_EQ(heading_.showsFilterButton(), fall.filterKnopf);
+        EXPECT_EQ(heading_.backTip(),
                   fall.filterKnopf ? "Filterung aufheben, alle Dokumente anzeigen" : "Zum Anfang der Tabelle");
     }
 }
@@ -132,16 +132,16 @@ TEST_F(TableTest, BehindTheLastRowComesTheFirst)
 {
     dokument(0, "A");
     dokument(0, "B");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     for (const char* erwartet : {"B", "A", "B"}) {
-        page_.zeileVor();
+        tabs_.nextRow();
         EXPECT_EQ(session_.AktDoku.DokuBez, erwartet);
     }
     tables_[0].rows().Find("DokuBez LIKE 'Q%'", 0, Suchrichtung::Vorwaerts, true);
-    page_.zeileGewechselt();
+    tabs_.followRow();
     EXPECT_EQ(session_.AktDoku.DokuBez, "A");
-    page_.zeileGewaehlt(1);
-    page_.zurueck();
+    tabs_.chooseRow(1);
+    tabs_.back();
     EXPECT_EQ(session_.AktDoku.DokuBez, "A");
 }
 
@@ -150,25 +150,25 @@ TEST_F(TableTest, NeuaufbauReadsTheTableAnewAndStaysOnTheDocument)
     dokument(0, "C", "a");
     dokument(0, "E'1", "b");
     const Zeilenschluessel letztes = dokument(0, "E'1", "a");
-    page_.tabGewaehlt(0);
-    page_.zeileGewaehlt(2);
+    tabs_.chooseTab(0);
+    tabs_.chooseRow(2);
     tables_.indicator(0) = "10:15";
     dokument(0, "A");
     dokument(0, "B");
-    page_.neuaufbauen();
+    tabs_.rebuild();
     EXPECT_EQ(liste(), "A/0 B/0 C/a E'1/b E'1/a "); // The higher revision first.
     EXPECT_EQ(session_.AktDoku.filename, pfad("E'1_a.par"));
     EXPECT_EQ(tables_[0].rows().AbsolutePosition(), 4u);
     EXPECT_EQ(tables_.indicators()[0], "");
 
     engine_->loesche("PartTabelle", letztes);
-    page_.neuaufbauen(); // The document is gone: the last place that there is.
+    tabs_.rebuild(); // The document is gone: the last place that there is.
     EXPECT_EQ(session_.AktDoku.filename, pfad("E'1_b.par"));
 
     tables_.indicator(4) = "10:20";
-    page_.tabGewaehlt(6);
+    tabs_.chooseTab(6);
     EXPECT_EQ(tables_.indicators()[4], "10:20");
-    page_.neuaufbauen(); // The special tables share the panel of the weldments.
+    tabs_.rebuild(); // The special tables share the panel of the weldments.
     EXPECT_EQ(tables_.indicators()[4], "");
 }
 
@@ -176,26 +176,26 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
 {
     for (const char* name : {"A", "B", "C"})
         dokument(0, name);
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     const auto filtere = [&] {
         tables_[0].rows().Filter("DokuBez Like 'B'");
         tables_[0].showFiltered({{{"DokuBez", "Dokumentname", "B"}}, {}, ""});
-        page_.zeileGewechselt();
+        tabs_.followRow();
     };
     filtere();
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3; Filteranzahl: 1");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3; Filteranzahl: 1");
     filter_.typen[0].FilterAnzahl = 1;
     filter_.status.StatusFilter = "DokuBez >= 'B'"; // As a status filter would stay.
-    page_.zurueck();
+    tabs_.back();
     EXPECT_EQ(filter_.typen[0].FilterAnzahl, 0);
     EXPECT_EQ(liste(), "B/0 C/0 ");
     EXPECT_EQ(tables_[0].state(), TableState::Open);
-    EXPECT_EQ(page_.anzahlText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3");
+    EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 3");
 
     filter_.status = {};
     filtere();
     dokument(0, "D");
-    page_.neuaufbauen();
+    tabs_.rebuild();
     EXPECT_EQ(liste(), "A/0 B/0 C/0 D/0 ");
     EXPECT_EQ(session_.AktDoku.DokuBez, "B");
 
@@ -204,7 +204,7 @@ TEST_F(TableTest, LiftingAFilterBringsBackAllRows)
     dokument(0, "E");
     int drawn = 0;
     operations_.show = [&](const Parts& parts) { drawn += contains(parts, Part::Document) ? 1 : 0; };
-    page_.zurueck(); // The database has newer rows: they are read.
+    tabs_.back(); // The database has newer rows: they are read.
     EXPECT_EQ(liste(), "A/0 B/0 C/0 D/0 E/0 ");
     EXPECT_EQ(drawn, 1) << "one gesture, one drawing";
 }
@@ -216,27 +216,27 @@ TEST_F(TableTest, ARowThatVanishedShowsAsFarAsItIsKnown)
     for (int nummer = 1; nummer <= 2500; ++nummer) // Small tables are read whole and do not notice.
         weg = dokument(0, std::to_string(100000 + nummer));
     engine_->schliesseAb();
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     engine_->loesche("PartTabelle", weg);
-    page_.zeileGewaehlt(2499);
+    tabs_.chooseRow(2499);
     EXPECT_EQ(session_.AktDoku.DokuBez, "102500");
     EXPECT_EQ(session_.AktDoku.filename, "");
-    EXPECT_TRUE(page_.allgemein().nichtVorhanden);
-    page_.zeileVor();
+    EXPECT_TRUE(info_.general().nichtVorhanden);
+    tabs_.nextRow();
     EXPECT_EQ(session_.AktDoku.filename, pfad("100001_0.par"));
 }
 
 TEST_F(TableTest, AFailedOpeningIsReportedAndLeavesNothingShown)
 {
     dokument(1, "B");
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     siehtStati(""); // No visible status: no statement can be made of it.
     for (int mal = 0; mal < 2; ++mal) {
         welt_.meldungen.erwarte("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!");
         welt_.meldungen.antworte();
-        page_.tabGewaehlt(0);
+        tabs_.chooseTab(0);
         EXPECT_EQ(welt_.meldungen.letzte().titel, "Fehlermeldung");
-        EXPECT_EQ(page_.tab(), 0);
+        EXPECT_EQ(tables_.tab(), 0);
         EXPECT_EQ(tables_[0].state(), TableState::NotOpen);
         EXPECT_EQ(session_.AktDoku, AktuellesDokument{});
     }

@@ -6,11 +6,6 @@ namespace quelvarn {
 class TopBarTest : public RegisterTest
 {
 protected:
-    TopBarTest()
-    {
-        page_.tabelleGewechselt = [this] { bar_.favoriten().tabelleGewechselt(); };
-    }
-
     // A document whose file is there.
     void present(int tab, const std::string& DokuBez)
     {
@@ -23,7 +18,7 @@ protected:
         bar_.klick("Pfad aus ZwSp");
     }
 
-    ObereLeiste bar_{session_, operations_, page_};
+    ObereLeiste& bar_ = program_.topBar;
 };
 
 std::string notFound(const std::string& path, const char* more = "")
@@ -39,10 +34,10 @@ TEST_F(TopBarTest, APathFromTheClipboardLeadsToItsTable)
     for (int tab = 0; tab < 5; ++tab) {
         present(tab, "A");
         present(tab, "B");
-        page_.tabGewaehlt(5);
+        tabs_.chooseTab(5);
         const std::string path = pfad("B_0." + std::string(DOKUTYPEN[tab].endung));
         paste(path + (tab % 2 == 0 ? "\r\n" : "\n"));
-        EXPECT_EQ(page_.tab(), tab);
+        EXPECT_EQ(tables_.tab(), tab);
         EXPECT_EQ(session_.AktDoku.filename, path);
         bar_.klick("Pfad in ZwSp");
         EXPECT_EQ(welt_.zwischenablage.inhalt, path);
@@ -69,10 +64,10 @@ TEST_F(TopBarTest, WhatIsNoDocumentOfATableGetsItsBox)
         {pfad("neu.dft"), "Suchergebnis", notFound(pfad("neu.dft")), 3},
     };
     for (const auto& c : cases) {
-        page_.tabGewaehlt(1);
+        tabs_.chooseTab(1);
         welt_.meldungen.erwarte(c.title, c.box);
         paste(c.text);
-        EXPECT_EQ(page_.tab(), c.tab) << c.text;
+        EXPECT_EQ(tables_.tab(), c.tab) << c.text;
     }
 }
 
@@ -82,7 +77,7 @@ TEST_F(TopBarTest, AFilteredTableIsAskedAbout)
     present(0, "B");
     for (const Antwort answer : {Antwort::Nein, Antwort::Ja}) {
         filtere(0, "DokuBez = 'A'");
-        page_.tabGewaehlt(1);
+        tabs_.chooseTab(1);
         erwarteFilterfrage(0, answer);
         if (answer == Antwort::Nein)
             welt_.meldungen.antworte();
@@ -100,19 +95,19 @@ TEST_F(TopBarTest, ButtonsFollowTheDocumentAndTheViewer)
             text += bar_.bedienbar(key) ? "x" : "-";
         return text;
     };
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     EXPECT_EQ(enabled(), "x--x-xx");
     present(1, "A");
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     EXPECT_EQ(enabled(), "xxxxxxx");
     session_.CheckInOutOn = true;
     EXPECT_EQ(enabled(), "xxxxxx-");
     bar_.klick("Anschauen", true);
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::Dokument), pfad("A_0.psm"));
+    EXPECT_EQ(viewers_.steht(Ansicht::Dokument), pfad("A_0.psm"));
     EXPECT_TRUE(bar_.gedrueckt("Anschauen"));
     EXPECT_EQ(enabled(), "-x-----");
     bar_.klick("Anschauen", false);
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::Dokument), "");
+    EXPECT_EQ(viewers_.steht(Ansicht::Dokument), "");
     EXPECT_EQ(enabled(), "xxxxxx-");
 }
 
@@ -130,8 +125,8 @@ TEST_F(TopBarTest, TheOtherKeys)
                             "Spalte 'Feld4' = '1'\n\nNach Änderung muss Quelvarn neu gestartet werden.");
     bar_.klick("In Benutzung..");
     present(0, "A");
-    page_.tabGewaehlt(0);
-    page_.neuaufbauen();
+    tabs_.chooseTab(0);
+    tabs_.rebuild();
     bar_.klick("Zu Favoriten");
     bar_.klick("Favoriten....", true);
     EXPECT_TRUE(bar_.gedrueckt("Favoriten...."));

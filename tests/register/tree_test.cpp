@@ -79,7 +79,7 @@ TEST_F(TreeTest, ShowsNoNodeWithoutItsRelation)
     for (const DokuTyp& typ : DOKUTYPEN) {
         SCOPED_TRACE(typ.tabelle);
         dokument(typ.tab, "E");
-        page_.tabGewaehlt(typ.tab);
+        tabs_.chooseTab(typ.tab);
         EXPECT_EQ(baum(), typ.schluessel == "Assemb" ? NICHTS + "Besteht aus\n" : NICHTS);
     }
 }
@@ -120,13 +120,13 @@ TEST_F(TreeTest, WithoutOpenNodesTheChildrenComeOnceOnTheFirstExpand)
     zeigeDokument(0, "D", "b");
     const std::string oben = "Revision!\nSmartViewer\n" + ENTHALTEN;
     EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\n" + oben);
-    EXPECT_FALSE(page_.tree().wurzeln.front().offen);
+    EXPECT_FALSE(tree_.tree().wurzeln.front().offen);
     for (int mal = 0; mal < 2; ++mal) {
-        page_.knotenAufgeklappt();
+        tree_.unfold();
         EXPECT_EQ(baum(), KINDER + ENTHALTEN);
     }
-    page_.zeileGewaehlt(0);
-    page_.knotenAufgeklappt();
+    tabs_.chooseRow(0);
+    tree_.unfold();
     EXPECT_EQ(session_.AktDoku.RevBez, "c");
     EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\n");
 }
@@ -145,7 +145,7 @@ TEST_F(TreeTest, RevisionNodeTellsOfFurtherRevisions)
         zeigeDokument(1, DokuBez, gezeigt);
         EXPECT_EQ(baum(),
                   "Eigenschaften\n  Dateieigenschaften\n" + knoten + (knoten.empty() ? "" : "\n") + "SmartViewer\n");
-        EXPECT_EQ(page_.allgemein().neuereRevision, knoten.ends_with('!'));
+        EXPECT_EQ(info_.general().neuereRevision, knoten.ends_with('!'));
     }
 }
 
@@ -155,10 +155,10 @@ TEST_F(TreeTest, MainFeaturesCountByTheirSumAndTheFirstThree)
     zeile("PartTabelle", {{"Hauptmerkmal_C", "Bolzen"}});
     zeile("PartTabelle", {{"Hauptwert_a", 2.5}, {"Hauptwert_g", -2.5}});
     zeile("PartTabelle", {{"Hauptwert_g", 0.5}});
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     for (const bool erwartet : {false, true, false, true}) {
-        EXPECT_EQ(page_.tree().finde(knoten::HAUPTMERKMALE) != nullptr, erwartet);
-        page_.zeileVor();
+        EXPECT_EQ(tree_.tree().finde(knoten::HAUPTMERKMALE) != nullptr, erwartet);
+        tabs_.nextRow();
     }
 }
 
@@ -169,10 +169,10 @@ TEST_F(TreeTest, FindsRegisteredAndNeighbouringTiffs)
     dokument(3, "B"); // beside the drawing
     welt_.dateien.legeAn(pfad("B_0.tif"));
     dokument(3, "C");
-    page_.tabGewaehlt(3);
+    tabs_.chooseTab(3);
     for (const bool erwartet : {true, true, false}) {
-        EXPECT_EQ(page_.tree().finde(knoten::TIFF) != nullptr, erwartet) << session_.AktDoku.DokuBez;
-        page_.zeileVor();
+        EXPECT_EQ(tree_.tree().finde(knoten::TIFF) != nullptr, erwartet) << session_.AktDoku.DokuBez;
+        tabs_.nextRow();
     }
 }
 
@@ -181,19 +181,19 @@ TEST_F(TreeTest, WhereUsedIsAskedByTheDrivePathOfANetworkPath)
     zeile("PartTabelle", {{"DokuBez", "N"}, {"filename", "\\\\server\\konstruktion\\N.par"}});
     zeile("PartTabelle", {{"DokuBez", "O"}, {"filename", "\\\\fremd\\weg\\O.par"}});
     zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", "W:\\N.par"}});
-    page_.tabGewaehlt(0);
-    EXPECT_NE(page_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
+    tabs_.chooseTab(0);
+    EXPECT_NE(tree_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
     welt_.meldungen.antworte(); // The share has no drive: told once for the row.
-    page_.zeileVor();
+    tabs_.nextRow();
     EXPECT_EQ(welt_.meldungen.letzte().titel, "Universalname nach Laufwerksnamen");
-    EXPECT_EQ(page_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
+    EXPECT_EQ(tree_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
 }
 
 TEST_F(TreeTest, AnApostropheInANameIsAValueLikeAnyOther)
 {
     dokument(0, "O'Neill", "a'");
     zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", pfad("O'Neill_a'.par")}});
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\nEnthalten in Baugruppe\n");
 }
 

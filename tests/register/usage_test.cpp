@@ -1,3 +1,4 @@
+#include "database/sql/conditions.h"
 #include "register/property_tree.h"
 #include "register/usage_kinds.h"
 #include "register/usage_page.h"
@@ -50,7 +51,7 @@ protected:
     void oeffneSeite(int tab, const std::string& DokuBez, std::string_view knoten)
     {
         zeigeDokument(tab, DokuBez);
-        page_.knotenGewaehlt(knoten);
+        info_.chooseNode(knoten);
     }
 
     std::string dateien()
@@ -69,7 +70,7 @@ protected:
         usage_.zeileGewaehlt(i);
     }
 
-    Verwendungsseite& usage_ = page_.verwendung();
+    Verwendungsseite& usage_ = info_.relation();
 };
 
 TEST_F(UsageTest, EachPageListsItsDocumentsOnceAndTellsOfTheFirst)
@@ -92,7 +93,7 @@ TEST_F(UsageTest, EachPageListsItsDocumentsOnceAndTellsOfTheFirst)
         oeffneSeite(fall.tab, fall.dokument, fall.knoten);
         EXPECT_EQ(dateien(), fall.dateien) << fall.knoten;
         EXPECT_EQ(usage_.details().DokuBez, fall.erstes) << fall.knoten;
-        page_.zeileGewaehlt(0);
+        tabs_.chooseRow(0);
         EXPECT_EQ(usage_.art(), nullptr) << "a page is that of one row";
     }
 }
@@ -108,8 +109,7 @@ TEST_F(UsageTest, AComponentIsFoundInItsTableOrInASpecialOne)
     waehle("P1_0.par");
     EXPECT_EQ(usage_.SondertabelleNr(), 0);
     EXPECT_EQ(usage_.details().StatusName, "(In Arbeit)");
-    EXPECT_EQ(page_.dateinamePanel() + "|" + page_.ordnerPanel() + "|" + page_.statuskopf().text,
-              "P1_0.par|W:\\Teile|");
+    EXPECT_EQ(panels_.fileName() + "|" + panels_.folder() + "|" + panels_.status().text, "P1_0.par|W:\\Teile|");
 }
 
 TEST_F(UsageTest, OutsideTheStatusScopeAComponentIsTolerantlyShownAndOthersAreNot)
@@ -122,10 +122,10 @@ TEST_F(UsageTest, OutsideTheStatusScopeAComponentIsTolerantlyShownAndOthersAreNo
     welt_.meldungen.erwarte("Status der Baugruppe", status);
     waehle("P1_0.par");
     usage_.setzeGrafik(true);
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::BestehtAus), pfad("P1_0.par"));
+    EXPECT_EQ(viewers_.steht(Ansicht::BestehtAus), pfad("P1_0.par"));
     EXPECT_TRUE(usage_.zeigtVorschau());
     usage_.setzeGrafik(false);
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::BestehtAus), "");
+    EXPECT_EQ(viewers_.steht(Ansicht::BestehtAus), "");
     const auto kein = [](const std::string& auf) {
         return "ACHTUNG!\nSie haben " + auf + " keine Zugriffsberechtigung.";
     };
@@ -154,35 +154,36 @@ TEST_F(UsageTest, AnUnreadableFileLeavesTheDetails)
     welt_.meldungen.antworte(); // The next row has no file.
     usage_.zeileGewaehlt(1);
     EXPECT_FALSE(usage_.zeigtVorschau());
-    EXPECT_EQ(bildschirm_.viewer.steht(Ansicht::InBaugruppe), "");
+    EXPECT_EQ(viewers_.steht(Ansicht::InBaugruppe), "");
 }
 
 TEST_F(UsageTest, TheToolBarActsOnTheRow)
 {
-    std::string favorit;
-    usage_.favoritHinzufuegen = [&](const std::string& DokuBez, const std::string& RevBez, std::string_view typ,
-                                    const std::string& filename) {
-        favorit = DokuBez + "/" + RevBez + "/" + std::string(typ) + "/" + filename;
+    const auto favourites = [&](const char* type) {
+        Recordset rows;
+        rows.Open(sql::Query("Ini").where(sql::all(sql::equal("Feld2", "Favoriten"), sql::equal("Feld3", type))),
+                  session_.Verbindung);
+        return rows.leer() ? std::string() : rows.Text("Feld4") + "/" + rows.Text("Feld5");
     };
     oeffneSeite(2, "G", knoten::BESTEHT_AUS);
     usage_.pfadInZwSp(); // "fehlt.stp" belongs to no table: nothing happens.
-    usage_.wechselnZu();
+    actions_.goToTable();
     EXPECT_EQ(welt_.zwischenablage.text(), "");
     waehle("P2_0.par");
     usage_.pfadInZwSp();
     EXPECT_EQ(welt_.zwischenablage.text(), pfad("P2_0.par"));
-    usage_.zuFavoriten();
-    EXPECT_EQ(favorit, "P2/0/Part/" + pfad("P2_0.par"));
+    actions_.addToFavourites();
+    EXPECT_EQ(favourites("Part"), "P2/0");
     waehle("N_0.par");
-    usage_.zuFavoriten();
-    EXPECT_EQ(favorit, "N/0/STbl2/" + pfad("N_0.par"));
+    actions_.addToFavourites();
+    EXPECT_EQ(favourites("STbl2"), "N/0");
 
     session_.Verbindung.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
     waehle("U_0.asm");
     welt_.meldungen.erwarte("Favoriten", "Der Eintrag bei Favoriten konnte\nnicht erfolgreich durchgeführt werden!\n"
                                          "Mögliche Ursache:\n- Datei ist in der Tabelle nicht vorhanden.\n"
                                          "- Es ist ein <Neuaufbau> erforderlich.\n- Falscher Pfad-/Dateiname.");
-    usage_.zuFavoriten();
+    actions_.addToFavourites();
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "fakes/fake_viewer.h"
 #include "fakes/test_register.h"
 #include "filter/filter_page.h"
-#include "register/document_page.h"
+#include "program/program.h"
 #include "ui/controls/calendar.h"
 #include "ui/filter_page/form_se_filtern.h"
 #include "ui/guard.h"
@@ -27,8 +27,8 @@ protected:
                               {"Status", 3},
                               {"Projekt", "P1"},
                               {"Geaendert", Zeitpunkt::aus({2026, 11, 2})}});
-        dokumente_.StartTabelleZeigen();
-        operations_.show = [this](const Parts& parts) {
+        program_.tabs.StartTabelleZeigen();
+        program_.operations.show = [this](const Parts& parts) {
             if (!contains(parts, Part::FilterPage))
                 return;
             ++operationen_;
@@ -51,12 +51,10 @@ protected:
         return werte.empty() ? "" : werte.back().Benennung + " " + werte.back().Wert;
     }
 
-    FilterState filter_;
     Waechter waechter_{welt_.meldungen, [] {}};
-    FakeBildschirm bildschirm_;
-    DocumentTables tables_{session_, operations_};
-    DocumentPage dokumente_{session_, operations_, tables_, filter_, bildschirm_.gezeigt};
-    FilterPage modell_{session_, operations_, filter_, tables_};
+    FakeViewer viewers_;
+    Program program_{session_, ports_, viewers_};
+    FilterPage& modell_ = program_.filterPage;
     FormSEFiltern seite_{modell_, *new QWidget};
     int operationen_ = 0;
     int verlassen_ = 0;
@@ -100,7 +98,7 @@ TEST_F(FormSEFilternTest, KeysRunTheFilterAndLeave)
     EXPECT_EQ(letzterWert(), "Projekt P1");
     EXPECT_EQ(kombo.currentText(), u"P1");
     QTest::keyClick(&seite_, Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_EQ(tables_[0].state(), TableState::Filtered);
+    EXPECT_EQ(program_.tables[0].state(), TableState::Filtered);
     EXPECT_EQ(kombo.currentText(), u"") << "the lists were read anew";
 
     QTest::keyClicks(&kombo, QStringLiteral("x"));

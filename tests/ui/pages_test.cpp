@@ -1,8 +1,5 @@
-#include "fakes/fake_viewer.h"
 #include "fakes/test_register.h"
-#include "register/document_page.h"
-#include "register/left_bar.h"
-#include "register/top_bar.h"
+#include "program/program.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/document_page/form_se_doku.h"
 #include "ui/guard.h"
@@ -35,9 +32,8 @@ protected:
                             {"Geaendert", Zeitpunkt::aus({2011, 2, 14})}});
     }
 
-    FilterState filter_;
-    FakeBildschirm bildschirm_;
     QtViewer viewer_{welt_.dateien};
+    Program program_{session_, ports_, viewer_};
     Waechter waechter_{welt_.meldungen, [] {}};
 };
 
@@ -48,23 +44,19 @@ template <typename Art> Art& finde(QWidget& seite, const char* name)
 
 TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
-    DocumentTables tables(session_, operations_);
-    DocumentPage modell(session_, operations_, tables, filter_, bildschirm_.gezeigt);
-    LinkeLeiste links(session_, operations_, filter_, modell);
-    ObereLeiste oben(session_, operations_, modell);
-    FormSEDoku seite(modell, links, oben, session_, viewer_);
+    FormSEDoku seite(program_, viewer_);
     seite.resize(939, 600);
     seite.show();
-    modell.StartTabelleZeigen();
+    program_.tabs.StartTabelleZeigen();
     int operationen = 0;
-    operations_.show = [&](const Parts&) { ++operationen; };
+    program_.operations.show = [&](const Parts&) { ++operationen; };
     seite.zeigen();
     seite.zeigen();
     EXPECT_EQ(operationen, 0);
     EXPECT_EQ(finde<QTableView>(seite, "PartDataGrid").model()->rowCount(), 2);
 
-    modell.zeileGewaehlt(1);
-    modell.tabGewaehlt(3);
+    program_.tabs.chooseRow(1);
+    program_.tabs.chooseTab(3);
     operationen = 0;
     seite.zeigen();
     EXPECT_EQ(operationen, 0);
@@ -75,16 +67,12 @@ TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 
 TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
 {
-    DocumentTables tables(session_, operations_);
-    DocumentPage modell(session_, operations_, tables, filter_, bildschirm_.gezeigt);
-    LinkeLeiste links(session_, operations_, filter_, modell);
-    ObereLeiste oben(session_, operations_, modell);
-    FormSEDoku seite(modell, links, oben, session_, viewer_);
+    FormSEDoku seite(program_, viewer_);
     seite.resize(939, 600);
     seite.show();
-    modell.StartTabelleZeigen();
+    program_.tabs.StartTabelleZeigen();
     int operationen = 0;
-    operations_.show = [&](const Parts& parts) {
+    program_.operations.show = [&](const Parts& parts) {
         if (!contains(parts, Part::Document))
             return seite.refreshRows();
         ++operationen;
@@ -100,13 +88,13 @@ TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
     const QModelIndex eigenschaften = baum.model()->index(0, 0);
     baum.setExpanded(eigenschaften, false);
     EXPECT_EQ(operationen, 2);
-    EXPECT_FALSE(modell.tree().wurzeln.at(0).offen);
+    EXPECT_FALSE(program_.tree.tree().wurzeln.at(0).offen);
     finde<QTabWidget>(seite, "SSTabDGDoku").setCurrentIndex(3);
     EXPECT_EQ(session_.AktDoku.DokuBez, "Z-100");
     seite.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&seite));
     QTest::keyClick(&seite, Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(modell.tab(), 0);
+    EXPECT_EQ(program_.tables.tab(), 0);
     EXPECT_TRUE(gitter.hasFocus());
 }
 

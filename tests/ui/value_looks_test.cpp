@@ -2,10 +2,7 @@
 #include "fakes/fake_viewer.h"
 #include "fakes/temp_folder.h"
 #include "fakes/test_register.h"
-#include "register/document_page.h"
-#include "register/info_pages.h"
-#include "register/left_bar.h"
-#include "register/top_bar.h"
+#include "program/program.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
@@ -325,24 +322,19 @@ protected:
                                   {"Status", 3}});
         page_.resize(939, 600);
         page_.show();
-        model_.StartTabelleZeigen();
-        model_.tabGewaehlt(4);
-        model_.zeileGewaehlt(1);
+        program_.tabs.StartTabelleZeigen();
+        program_.tabs.chooseTab(4);
+        program_.tabs.chooseRow(1);
         page_.zeigen();
         QCoreApplication::processEvents();
     }
 
     template <typename Kind> Kind& find(const char* name) { return *page_.findChild<Kind*>(QLatin1String(name)); }
 
-    FilterState filter_;
-    FakeBildschirm screen_;
     QtViewer viewer_{welt_.dateien};
     Waechter guard_{welt_.meldungen, [] {}};
-    DocumentTables tables_{session_, operations_};
-    DocumentPage model_{session_, operations_, tables_, filter_, screen_.gezeigt};
-    LinkeLeiste left_{session_, operations_, filter_, model_};
-    ObereLeiste top_{session_, operations_, model_};
-    FormSEDoku page_{model_, left_, top_, session_, viewer_};
+    Program program_{session_, ports_, viewer_};
+    FormSEDoku page_{program_, viewer_};
 };
 
 TEST_F(ValuesOnThePageTest, HeadsAreWhole)

@@ -1,7 +1,7 @@
 #include "ui/document_page/composition_page.h"
 
+#include "register/relation_actions.h"
 #include "register/usage_kinds.h"
-#include "register/usage_page.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
@@ -79,8 +79,9 @@ const std::array<Verwendungsnamen, 6> VERWENDUNGSNAMEN{{
      "LblInfoWeldEnthaelt", 5},
 }};
 
-Verwendungsansicht::Verwendungsansicht(Verwendungsseite& modell, const Verwendungsnamen& namen, QWidget& vorschau)
-    : modell_(modell), namen_(namen), art_(verwendungsartVon(namen.seite)),
+Verwendungsansicht::Verwendungsansicht(Verwendungsseite& modell, RelationActions& actions,
+                                       const Verwendungsnamen& namen, QWidget& vorschau)
+    : modell_(modell), actions_(actions), namen_(namen), art_(verwendungsartVon(namen.seite)),
       gitter_(new Gitter(namen.gitter, spalten(art_), anteile(art_))),
       leiste_(quelvarn::neueLeiste(namen.leiste, Knopfart::NurText)),
       ChViewGrafik_(new QCheckBox(QStringLiteral("Graphik anzeigen"))), leer_(new QLabel), vorschau_(&vorschau)
@@ -113,27 +114,25 @@ void Verwendungsansicht::baueGitter()
     gitter_->gewaehlt = [this](const QModelIndex& stelle) {
         modell_.zeileGewaehlt(static_cast<std::size_t>(stelle.row()));
     };
-    gitter_->geoeffnet = [this](const QModelIndex&) { bediene([this] { modell_.geoeffnet(); }); };
-    gitter_->eingegeben = [this](const QModelIndex&) { bediene([this] { modell_.wechselnZu(); }); };
+    gitter_->geoeffnet = [this](const QModelIndex&) { bediene([this] { actions_.open(); }); };
+    gitter_->eingegeben = [this](const QModelIndex&) { bediene([this] { actions_.goToTable(); }); };
 }
 
 QAction* Verwendungsansicht::fuegeKnopf(std::string_view schluessel, std::string_view beschriftung,
-                                        std::string_view tipp, void (Verwendungsseite::*operation)())
+                                        std::string_view tipp, const std::function<void()>& operation)
 {
     auto* knopf = fuegeKnopfHinzu(*leiste_, {schluessel, beschriftung, tipp, ""});
-    connect(knopf, &QAction::triggered, this, bewacht([this, &modell = modell_, operation] {
-                bediene([&modell, operation] { (modell.*operation)(); });
-            }));
+    connect(knopf, &QAction::triggered, this, bewacht([this, operation] { bediene(operation); }));
     return knopf;
 }
 
 QWidget* Verwendungsansicht::neueLeiste()
 {
-    anschauen_ = fuegeKnopf("Anschauen", "Anschauen", namen_.tippAnschauen, &Verwendungsseite::anschauen);
+    anschauen_ = fuegeKnopf("Anschauen", "Anschauen", namen_.tippAnschauen, [this] { modell_.anschauen(); });
     fuegeKnopf("Pfad in ZwSp", "   Pfad in ZwSp", "Pfad-/Dateiname in Zwischenspeicher.",
-               &Verwendungsseite::pfadInZwSp);
-    fuegeKnopf("Zu Favoriten", "Zu Favoriten", "Zu Favoriten hinzufügen.", &Verwendungsseite::zuFavoriten);
-    fuegeKnopf("Wechseln zu", "Wechseln zu", namen_.tippWechseln, &Verwendungsseite::wechselnZu);
+               [this] { modell_.pfadInZwSp(); });
+    fuegeKnopf("Zu Favoriten", "Zu Favoriten", "Zu Favoriten hinzufügen.", [this] { actions_.addToFavourites(); });
+    fuegeKnopf("Wechseln zu", "Wechseln zu", namen_.tippWechseln, [this] { actions_.goToTable(); });
     leiste_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     leiste_->setProperty("schmal", true);
     ChViewGrafik_->setObjectName(QStringLiteral("ChViewGrafik(%1)").arg(namen_.grafik));

@@ -18,6 +18,7 @@ class QToolBar;
 namespace quelvarn {
 
 class Gitter;
+class RelationActions;
 class Statuspunkt;
 class Statustext;
 class Verwendungsseite;
@@ -46,7 +47,8 @@ class Verwendungsansicht : public QWidget
 
 public:
     // `vorschau` is the place of the page's viewer.
-    Verwendungsansicht(Verwendungsseite& modell, const Verwendungsnamen& namen, QWidget& vorschau);
+    Verwendungsansicht(Verwendungsseite& modell, RelationActions& actions, const Verwendungsnamen& namen,
+                       QWidget& vorschau);
 
     void zeigen();
     // The page has led to another document.
@@ -64,12 +66,13 @@ private:
     QWidget* neueFelder();
     void baueStatus(QGridLayout& gitter, int zeile);
     QAction* fuegeKnopf(std::string_view schluessel, std::string_view beschriftung, std::string_view tipp,
-                        void (Verwendungsseite::*operation)());
+                        const std::function<void()>& operation);
     void bediene(const std::function<void()>& operation);
     void zeigeDetails();
     bool istVorn() const;
 
     Verwendungsseite& modell_;
+    RelationActions& actions_;
     const Verwendungsnamen& namen_;
     const Verwendungsart& art_;
     Gitter* gitter_;

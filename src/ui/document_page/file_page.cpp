@@ -1,6 +1,6 @@
 #include "ui/document_page/file_page.h"
 
-#include "register/document_page.h"
+#include "register/info_panel.h"
 #include "ui/controls/fields.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/wrapping_label.h"
@@ -33,10 +33,10 @@ constexpr std::array<Zeile, 6> ZEILEN{{
 
 } // namespace
 
-Dateiansicht::Dateiansicht(DocumentPage& modell)
-    : modell_(modell), ChDatReadOnly_(neuerKasten("ChDatReadOnly", QStringLiteral("Schreibgeschützt"),
-                                                  &DocumentPage::setzeSchreibschutz)),
-      ChDatArchiv_(neuerKasten("ChDatArchiv", QStringLiteral("Archiv"), &DocumentPage::setzeArchiv))
+Dateiansicht::Dateiansicht(InfoPanel& modell)
+    : modell_(modell),
+      ChDatReadOnly_(neuerKasten("ChDatReadOnly", QStringLiteral("Schreibgeschützt"), &InfoPanel::setReadOnly)),
+      ChDatArchiv_(neuerKasten("ChDatArchiv", QStringLiteral("Archiv"), &InfoPanel::setArchive))
 {
     auto* gitter = new QGridLayout(this);
     gitter->setContentsMargins(12, 8, 12, 8);
@@ -62,7 +62,7 @@ Dateiansicht::Dateiansicht(DocumentPage& modell)
     gitter->setRowStretch(reihe, 1);
 }
 
-QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void (DocumentPage::*setze)(bool))
+QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void (InfoPanel::*setze)(bool))
 {
     auto* kasten = neuesFeld<QCheckBox>(name, text);
     connect(kasten, &QCheckBox::clicked, this, bewacht([&modell = modell_, setze](bool an) { (modell.*setze)(an); }));
@@ -71,7 +71,7 @@ QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void
 
 void Dateiansicht::zeigen()
 {
-    const DateiSeite& seite = modell_.datei();
+    const DateiSeite& seite = modell_.file();
     for (std::size_t i = 0; i < ZEILEN.size(); ++i)
         werte_[i]->setText(zuQt(seite.*ZEILEN[i].feld));
     for (const auto& [kasten, an] :

@@ -9,7 +9,7 @@ class QLabel;
 
 namespace quelvarn {
 
-class DocumentPage;
+class InfoPanel;
 
 // The file properties page (FrmInfoDoku 10). Its labels are the array LblDat.
 class Dateiansicht : public QWidget
@@ -17,14 +17,14 @@ class Dateiansicht : public QWidget
     Q_OBJECT
 
 public:
-    explicit Dateiansicht(DocumentPage& modell);
+    explicit Dateiansicht(InfoPanel& modell);
 
     void zeigen();
 
 private:
-    QCheckBox* neuerKasten(const char* name, const QString& text, void (DocumentPage::*setze)(bool));
+    QCheckBox* neuerKasten(const char* name, const QString& text, void (InfoPanel::*setze)(bool));
 
-    DocumentPage& modell_;
+    InfoPanel& modell_;
     std::array<QLabel*, 6> werte_{};
     QCheckBox* ChDatReadOnly_;
     QCheckBox* ChDatArchiv_;

@@ -1,6 +1,6 @@
 #include "ui/document_page/form_se_doku.h"
 
-#include "register/document_page.h"
+#include "program/program.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
@@ -33,12 +33,11 @@ constexpr int ERSTE_SONDERTABELLE = 5;
 
 } // namespace
 
-FormSEDoku::FormSEDoku(DocumentPage& modell, LinkeLeiste& links, ObereLeiste& oben, const SessionState& session,
-                       QtViewer& viewer)
-    : modell_(modell), session_(session), viewer_(viewer), LabelSEDoku_(new KurzLabel),
-      LblZugriffSEDoku_(new KurzLabel), oben_(new ObereLeistenansicht(oben, this)),
-      links_(new LinkeLeistenansicht(links, modell)), info_(new Infobereich(modell, viewer)),
-      status_(new StatusBarDatei)
+FormSEDoku::FormSEDoku(Program& program, QtViewer& viewer)
+    : program_(program), viewer_(viewer), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
+      oben_(new ObereLeistenansicht(program.topBar, this)),
+      links_(new LinkeLeistenansicht(program.leftBar, program.tabs, program.heading)),
+      info_(new Infobereich(program.info, program.relationActions, viewer)), status_(new StatusBarDatei)
 {
     setObjectName(QStringLiteral("FormSEDoku"));
     SSTabDGDoku_ = neueReiter();
@@ -135,17 +134,14 @@ QTabWidget* FormSEDoku::neueReiter()
     reiter->tabBar()->setUsesScrollButtons(false);
     reiter->tabBar()->setExpanding(false);
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        auto* tabelle = new Tabellenansicht(modell_, tab);
-        tabelle->geoeffnet = [this] {
-            if (modell_.bearbeiten)
-                modell_.bearbeiten();
-        };
+        auto* tabelle = new Tabellenansicht(program_, tab);
+        tabelle->geoeffnet = [this] { program_.frame.edit(); };
         tabellen_.push_back(tabelle);
         reiter->addTab(tabelle, {});
     }
     connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) {
                 const Sanduhr warten;
-                modell_.tabGewaehlt(tab);
+                program_.tabs.chooseTab(tab);
                 if (!SSTabDGDoku_->tabBar()->hasFocus()) // There the arrow keys go on from tab to tab.
                     setFocus();
             }));
@@ -158,7 +154,7 @@ void FormSEDoku::baueTasten()
         auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
         connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
                     const Sanduhr warten;
-                    modell_.tabGewaehlt(tab);
+                    program_.tabs.chooseTab(tab);
                     setFocus();
                 }));
     }
@@ -166,7 +162,7 @@ void FormSEDoku::baueTasten()
     auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     const auto zurTabelle = [this] {
         oben_->schliesse();
-        tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter().setFocus();
+        tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter().setFocus();
     };
     connect(zurueck, &QShortcut::activated, this, bewacht(zurTabelle));
     info_->zurTabelle = zurTabelle;
@@ -174,43 +170,43 @@ void FormSEDoku::baueTasten()
 
 void FormSEDoku::zeigen()
 {
-    LabelSEDoku_->setText(zuQt(modell_.anzahlText()));
-    LblZugriffSEDoku_->setText(zuQt(modell_.zugriffText()));
-    showNote(*LblZugriffSEDoku_, modell_.statusLimited());
+    LabelSEDoku_->setText(zuQt(program_.heading.countText()));
+    LblZugriffSEDoku_->setText(zuQt(program_.heading.accessText()));
+    showNote(*LblZugriffSEDoku_, program_.heading.isStatusLimited());
     zeigeReiter();
     zeigeLinks();
     zeigeOben();
     refreshRows();
     info_->zeigen();
     zeigeViewerseite();
-    status_->zeigen(modell_);
+    status_->zeigen(program_.panels);
 }
 
 void FormSEDoku::zeigeReiter()
 {
     const QSignalBlocker still(SSTabDGDoku_);
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        const QString name = zuQt(session_.mehrzahl(tab));
+        const QString name = zuQt(program_.session.mehrzahl(tab));
         const QString text = asCaption(name);
         if (SSTabDGDoku_->tabText(tab) == text)
             continue;
         SSTabDGDoku_->setTabText(tab, text);
         SSTabDGDoku_->setTabToolTip(tab, asTip(name));
     }
-    SSTabDGDoku_->setCurrentIndex(modell_.tab());
-    setFocusProxy(&tabellen_[static_cast<std::size_t>(modell_.tab())]->gitter());
+    SSTabDGDoku_->setCurrentIndex(program_.tables.tab());
+    setFocusProxy(&tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter());
 }
 
 void FormSEDoku::zeigeViewerseite()
 {
-    QWidget& behind = modell_.imViewer() ? *FrmDokuSmartView_Doku_ : *FrmDokuSmartView_SmartView_;
-    QWidget& front = modell_.imViewer() ? *FrmDokuSmartView_SmartView_ : *FrmDokuSmartView_Doku_;
+    QWidget& behind = program_.viewer.isInFront() ? *FrmDokuSmartView_Doku_ : *FrmDokuSmartView_SmartView_;
+    QWidget& front = program_.viewer.isInFront() ? *FrmDokuSmartView_SmartView_ : *FrmDokuSmartView_Doku_;
     if (!front.isHidden())
         return;
     const bool hadFocus = behind.isAncestorOf(QApplication::focusWidget());
     front.show();
     if (hadFocus) // Else it would go to the next control of the window, and keys with it.
-        modell_.imViewer() ? front.setFocus() : setFocus();
+        program_.viewer.isInFront() ? front.setFocus() : setFocus();
     behind.hide();
 }
 

@@ -9,17 +9,14 @@ class QTabWidget;
 
 namespace quelvarn {
 
-class DocumentPage;
 class Infobereich;
 class KurzLabel;
-class LinkeLeiste;
 class LinkeLeistenansicht;
-class ObereLeiste;
 class ObereLeistenansicht;
 class QtViewer;
 class StatusBarDatei;
 class Tabellenansicht;
-struct SessionState;
+struct Program;
 
 // The document page: tables with their property trees on the left, one information page on the right.
 class FormSEDoku : public QWidget
@@ -27,8 +24,7 @@ class FormSEDoku : public QWidget
     Q_OBJECT
 
 public:
-    FormSEDoku(DocumentPage& modell, LinkeLeiste& links, ObereLeiste& oben, const SessionState& session,
-               QtViewer& viewer);
+    FormSEDoku(Program& program, QtViewer& viewer);
 
     void zeigen();
     void refreshRows(); // The tables with their trees alone.
@@ -47,8 +43,7 @@ private:
     void zeigeReiter();
     void zeigeViewerseite();
 
-    DocumentPage& modell_;
-    const SessionState& session_;
+    Program& program_;
     QtViewer& viewer_;
     QWidget* FrmDokuSmartView_Doku_ = nullptr;
     QWidget* FrmDokuSmartView_SmartView_ = nullptr;

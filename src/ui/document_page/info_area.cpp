@@ -1,6 +1,6 @@
 #include "ui/document_page/info_area.h"
 
-#include "register/document_page.h"
+#include "register/info_panel.h"
 #include "register/usage_kinds.h"
 #include "ui/adapters/viewer_qt.h"
 #include "ui/controls/elided_label.h"
@@ -42,7 +42,7 @@ QLabel* neueWarnung(const char* name, const QString& text)
 
 } // namespace
 
-Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
+Infobereich::Infobereich(InfoPanel& modell, RelationActions& relationActions, QtViewer& viewer)
     : modell_(modell), kopf_(new KurzLabel),
       LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei fehlt"))),
       LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
@@ -50,7 +50,7 @@ Infobereich::Infobereich(DocumentPage& modell, QtViewer& viewer)
       tiff_(new Tiffseite(modell.details())), TextKeywords_(new LongText("TextKeywords")),
       TextComments_(new LongText("TextComments"))
 {
-    baueSeiten(viewer);
+    baueSeiten(relationActions, viewer);
     auto* aufbau = new QVBoxLayout(this);
     aufbau->setContentsMargins({});
     aufbau->setSpacing(0);
@@ -74,7 +74,7 @@ QWidget* Infobereich::neuerKopf()
     return kopf;
 }
 
-void Infobereich::baueSeiten(QtViewer& viewer)
+void Infobereich::baueSeiten(RelationActions& relationActions, QtViewer& viewer)
 {
     seiten_->addWidget(leer_);
     fuegeSeiteHinzu(InfoSeite::Allgemein, allgemein_);
@@ -89,7 +89,7 @@ void Infobereich::baueSeiten(QtViewer& viewer)
     fuegeSeiteHinzu(InfoSeite::Viewer, &viewer.platz(Ansicht::Eigenschaften));
     for (const Verwendungsnamen& namen : VERWENDUNGSNAMEN) {
         QWidget& vorschau = viewer.platz(verwendungsartVon(namen.seite).ansicht);
-        auto* ansicht = new Verwendungsansicht(modell_.verwendung(), namen, vorschau);
+        auto* ansicht = new Verwendungsansicht(modell_.relation(), relationActions, namen, vorschau);
         ansicht->verlassen = [this] {
             if (zurTabelle)
                 zurTabelle();
@@ -127,25 +127,25 @@ QWidget* Infobereich::neueStichKommSeite()
 void Infobereich::zeigen()
 {
     zeigeKopf();
-    allgemein_->zeigen(modell_.allgemein());
+    allgemein_->zeigen(modell_.general());
     datei_->zeigen();
     for (auto* ansicht : verwendung_)
         ansicht->zeigen();
-    TextKeywords_->showValue(zuQt(modell_.stichKomm().TextKeywords));
-    TextComments_->showValue(zuQt(modell_.stichKomm().TextComments));
+    TextKeywords_->showValue(zuQt(modell_.keywords().TextKeywords));
+    TextComments_->showValue(zuQt(modell_.keywords().TextComments));
     for (Listenseite* liste : listen_)
         liste->zeigen();
     tiff_->zeigen();
-    const auto seite = seite_.find(modell_.infoSeite());
+    const auto seite = seite_.find(modell_.page());
     seiten_->setCurrentWidget(seite != seite_.end() ? seite->second : leer_);
 }
 
 void Infobereich::zeigeKopf()
 {
-    kopf_->setText(zuQt(modell_.infoKopf()));
-    const bool datei = modell_.infoSeite() == InfoSeite::Datei;
-    LblNichtVorhanden_->setVisible(datei ? !modell_.datei().vorhanden : modell_.allgemein().nichtVorhanden);
-    LblAchtungRev_->setVisible(modell_.allgemein().neuereRevision);
+    kopf_->setText(zuQt(modell_.heading()));
+    const bool datei = modell_.page() == InfoSeite::Datei;
+    LblNichtVorhanden_->setVisible(datei ? !modell_.file().vorhanden : modell_.general().nichtVorhanden);
+    LblAchtungRev_->setVisible(modell_.general().neuereRevision);
 }
 
 } // namespace quelvarn

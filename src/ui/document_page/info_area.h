@@ -13,7 +13,8 @@ namespace quelvarn {
 
 class Allgemeinansicht;
 class Dateiansicht;
-class DocumentPage;
+class InfoPanel;
+class RelationActions;
 class KurzLabel;
 class Listenseite;
 class LongText;
@@ -28,7 +29,7 @@ class Infobereich : public QWidget
     Q_OBJECT
 
 public:
-    Infobereich(DocumentPage& modell, QtViewer& viewer);
+    Infobereich(InfoPanel& modell, RelationActions& relationActions, QtViewer& viewer);
 
     void zeigen();
     // A page has led to a document of a table: the keyboard goes there.
@@ -37,11 +38,11 @@ public:
 private:
     QWidget* neuerKopf();
     QWidget* neueStichKommSeite();
-    void baueSeiten(QtViewer& viewer);
+    void baueSeiten(RelationActions& relationActions, QtViewer& viewer);
     void fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt);
     void zeigeKopf();
 
-    DocumentPage& modell_;
+    InfoPanel& modell_;
     KurzLabel* kopf_;
     QLabel* LblNichtVorhanden_;
     QLabel* LblAchtungRev_;

@@ -1,7 +1,8 @@
 #include "ui/document_page/left_bar_view.h"
 
-#include "register/document_page.h"
 #include "register/left_bar.h"
+#include "register/table_heading.h"
+#include "register/table_tabs.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/filter_value_grid.h"
 #include "ui/controls/strip.h"
@@ -30,11 +31,12 @@ constexpr int HOEHE_WERTE = 120;
 
 } // namespace
 
-LinkeLeistenansicht::LinkeLeistenansicht(LinkeLeiste& modell, DocumentPage& seite)
-    : modell_(modell), seite_(seite), ToolbarSEDok2_(neueToolbarSEDok2()), FrmSuchenFiltern_(new Suchpanel(modell)),
-      FrmFilternDatum_(new Datumspanel(modell)), favoriten_(new QMenu(this)), LblFilter_(new QToolButton),
-      FrmFilterFavo_(neuesFrmFilterFavo()), DataGridFilterEigenMerk_(new Werttabelle("DataGridFilterEigenMerk")),
-      FrmInfoFilter_(neuesFrmInfoFilter()), oben_(neuesOben())
+LinkeLeistenansicht::LinkeLeistenansicht(LinkeLeiste& modell, TableTabs& tabs, const TableHeading& heading)
+    : modell_(modell), tabs_(tabs), heading_(heading), ToolbarSEDok2_(neueToolbarSEDok2()),
+      FrmSuchenFiltern_(new Suchpanel(modell)), FrmFilternDatum_(new Datumspanel(modell)), favoriten_(new QMenu(this)),
+      LblFilter_(new QToolButton), FrmFilterFavo_(neuesFrmFilterFavo()),
+      DataGridFilterEigenMerk_(new Werttabelle("DataGridFilterEigenMerk")), FrmInfoFilter_(neuesFrmInfoFilter()),
+      oben_(neuesOben())
 {
     setObjectName(QStringLiteral("RandSEDoku"));
     auto* aufbau = new QVBoxLayout(this);
@@ -108,7 +110,7 @@ void LinkeLeistenansicht::verbindeKnoepfe()
     beiKnopf("Filterwerte", [this](bool gedrueckt) { modell_.zeigeWerte(gedrueckt); });
     beiKnopf("Zurück", [this](bool) {
         const Sanduhr warten;
-        seite_.zurueck();
+        tabs_.back();
     });
 }
 
@@ -180,12 +182,12 @@ void LinkeLeistenansicht::zeigeKnoepfe()
 
 void LinkeLeistenansicht::zeigeZurueck()
 {
-    if (filterKnopf_ == seite_.filterKnopf()) // A new icon makes the whole page lay itself out again.
+    if (filterKnopf_ == heading_.showsFilterButton()) // A new icon makes the whole page lay itself out again.
         return;
-    filterKnopf_ = seite_.filterKnopf();
+    filterKnopf_ = heading_.showsFilterButton();
     QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
-    knopf.setToolTip(zuQt(seite_.zurueckTooltip()));
-    knopf.setIcon(symbol(seite_.filterKnopf() ? "filter-aufheben" : "anfang"));
+    knopf.setToolTip(zuQt(heading_.backTip()));
+    knopf.setIcon(symbol(heading_.showsFilterButton() ? "filter-aufheben" : "anfang"));
 }
 
 } // namespace quelvarn

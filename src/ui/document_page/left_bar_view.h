@@ -13,8 +13,9 @@ class QToolButton;
 namespace quelvarn {
 
 class Datumspanel;
-class DocumentPage;
 class LinkeLeiste;
+class TableHeading;
+class TableTabs;
 class Suchpanel;
 class Werttabelle;
 
@@ -24,7 +25,7 @@ class LinkeLeistenansicht : public QFrame
     Q_OBJECT
 
 public:
-    LinkeLeistenansicht(LinkeLeiste& modell, DocumentPage& seite);
+    LinkeLeistenansicht(LinkeLeiste& modell, TableTabs& tabs, const TableHeading& heading);
 
     void zeigen();
     QWidget* ueberTabellen() { return oben_; }
@@ -43,7 +44,8 @@ private:
     void zeigeZurueck();
 
     LinkeLeiste& modell_;
-    DocumentPage& seite_;
+    TableTabs& tabs_;
+    const TableHeading& heading_;
     QToolBar* ToolbarSEDok2_;
     Suchpanel* FrmSuchenFiltern_;
     Datumspanel* FrmFilternDatum_;

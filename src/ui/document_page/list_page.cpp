@@ -1,6 +1,6 @@
 #include "ui/document_page/list_page.h"
 
-#include "register/document_page.h"
+#include "register/info_panel.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
 #include "ui/controls/wrapping_label.h"
@@ -17,7 +17,7 @@ constexpr qsizetype WHOLE_CELL_LETTERS = 600; // The grid above needs room, too.
 
 } // namespace
 
-Listenseite::Listenseite(DocumentPage& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
+Listenseite::Listenseite(InfoPanel& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
                          std::vector<Gitterspalte> spalten, std::vector<int> anteile)
     : modell_(modell), seite_(seite), gitter_(new Gitter(gitter, std::move(spalten), std::move(anteile))),
       aufbau_(new QVBoxLayout(this))

@@ -13,7 +13,7 @@ class QVBoxLayout;
 
 namespace quelvarn {
 
-class DocumentPage;
+class InfoPanel;
 class Gitter;
 enum class InfoSeite : int;
 
@@ -24,7 +24,7 @@ class Listenseite : public QWidget
 
 public:
     // The grid: its name, columns and their shares of the width.
-    Listenseite(DocumentPage& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
+    Listenseite(InfoPanel& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
                 std::vector<Gitterspalte> spalten, std::vector<int> anteile);
 
     InfoSeite seite() const { return seite_; }
@@ -39,7 +39,7 @@ public:
     void zeigen();
 
 private:
-    DocumentPage& modell_;
+    InfoPanel& modell_;
     InfoSeite seite_;
     Gitter* gitter_;
     QVBoxLayout* aufbau_;

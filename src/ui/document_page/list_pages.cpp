@@ -1,6 +1,6 @@
 #include "ui/document_page/list_pages.h"
 
-#include "register/document_page.h"
+#include "register/info_panel.h"
 #include "ui/busy_pointer.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/fields.h"
@@ -40,7 +40,7 @@ bool hatZeilen(const Detailseiten& details, InfoSeite seite)
 
 } // namespace
 
-Listenseite* neueRevisionsseite(DocumentPage& modell)
+Listenseite* neueRevisionsseite(InfoPanel& modell)
 {
     auto* seite = new Listenseite(
         modell, InfoSeite::Revisionen, QStringLiteral("Revision"), "DataGridRevision",
@@ -62,7 +62,7 @@ Listenseite* neueRevisionsseite(DocumentPage& modell)
     return seite;
 }
 
-Listenseite* neueBenutzDefSeite(DocumentPage& modell)
+Listenseite* neueBenutzDefSeite(InfoPanel& modell)
 {
     auto* seite = new Listenseite(modell, InfoSeite::BenutzDef, QStringLiteral("Benutzerdef. Eigenschaften"),
                                   "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
@@ -70,14 +70,14 @@ Listenseite* neueBenutzDefSeite(DocumentPage& modell)
     return seite;
 }
 
-Listenseite* neueHauptmerkmalseite(DocumentPage& modell)
+Listenseite* neueHauptmerkmalseite(InfoPanel& modell)
 {
     auto* seite =
         new Listenseite(modell, InfoSeite::Hauptmerkmale, QStringLiteral("Hauptmerkmale / -werte"), "DataGridMerkWert",
                         {{"Bezeichn.", "Bezeichn"}, {"Inhalt", "Inhalt"}, {"Benennung", "Benennung"}}, {22, 42, 36});
     auto* vorlage = new KurzLabel(nullptr, Qt::ElideMiddle);
     vorlage->setObjectName(QStringLiteral("LblPfadDateiVorlage"));
-    auto* anschauen = neueTaste("CmViewVorlage", QStringLiteral("Anschauen"), [&modell] { modell.zeigeVorlage(); });
+    auto* anschauen = neueTaste("CmViewVorlage", QStringLiteral("Anschauen"), [&modell] { modell.showTemplate(); });
     QHBoxLayout& reihe = seite->neueReihe();
     reihe.addWidget(beschriftung(QStringLiteral("Vorlage"), Rolle::Beschriftung));
     reihe.addWidget(vorlage, 1);
@@ -90,7 +90,7 @@ Listenseite* neueHauptmerkmalseite(DocumentPage& modell)
     return seite;
 }
 
-Listenseite* neueZusDokuSeite(DocumentPage& modell)
+Listenseite* neueZusDokuSeite(InfoPanel& modell)
 {
     auto* seite = new Listenseite(modell, InfoSeite::ZusDoku, QStringLiteral("Zusätzl. Dokumente"), "DataGridZusDoku",
                                   {{"Datum/Uhrzeit", "ZusDokuDatum"},
@@ -125,7 +125,7 @@ Listenseite* neueZusDokuSeite(DocumentPage& modell)
     return seite;
 }
 
-Listenseite* neueSendToSeite(DocumentPage& modell)
+Listenseite* neueSendToSeite(InfoPanel& modell)
 {
     auto* seite = new Listenseite(modell, InfoSeite::SendTo, QStringLiteral("Versendet an"), "DataGridSendTo",
                                   {{"Datum/Uhrzeit", "SendToDatum"},

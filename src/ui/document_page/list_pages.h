@@ -4,13 +4,13 @@ class QWidget;
 
 namespace quelvarn {
 
-class DocumentPage;
+class InfoPanel;
 class Listenseite;
 
-Listenseite* neueRevisionsseite(DocumentPage& modell);    // FrmInfoDoku 0
-Listenseite* neueBenutzDefSeite(DocumentPage& modell);    // FrmInfoDoku 2
-Listenseite* neueHauptmerkmalseite(DocumentPage& modell); // FrmInfoDoku 3
-Listenseite* neueZusDokuSeite(DocumentPage& modell);      // FrmInfoDoku 4
-Listenseite* neueSendToSeite(DocumentPage& modell);       // FrmSendTo
+Listenseite* neueRevisionsseite(InfoPanel& modell);    // FrmInfoDoku 0
+Listenseite* neueBenutzDefSeite(InfoPanel& modell);    // FrmInfoDoku 2
+Listenseite* neueHauptmerkmalseite(InfoPanel& modell); // FrmInfoDoku 3
+Listenseite* neueZusDokuSeite(InfoPanel& modell);      // FrmInfoDoku 4
+Listenseite* neueSendToSeite(InfoPanel& modell);       // FrmSendTo
 
 } // namespace quelvarn

@@ -1,6 +1,6 @@
 #include "ui/document_page/status_bar_datei.h"
 
-#include "register/document_page.h"
+#include "register/document_panels.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/status_marks.h"
 #include "ui/text.h"
@@ -33,12 +33,12 @@ StatusBarDatei::StatusBarDatei()
     reihe().addWidget(LblKopfStatus_);
 }
 
-void StatusBarDatei::zeigen(const DocumentPage& modell)
+void StatusBarDatei::zeigen(const DocumentPanels& modell)
 {
-    dateiname_->setText(zuQt(modell.dateinamePanel()));
-    pfadname_->setText(zuQt(modell.ordnerPanel()));
-    LblKopfStatus_->setText(zuQt(modell.statuskopf().text));
-    LblKopfStatus_->setzeFarbe(modell.statuskopf().farbe);
+    dateiname_->setText(zuQt(modell.fileName()));
+    pfadname_->setText(zuQt(modell.folder()));
+    LblKopfStatus_->setText(zuQt(modell.status().text));
+    LblKopfStatus_->setzeFarbe(modell.status().farbe);
 }
 
 } // namespace quelvarn

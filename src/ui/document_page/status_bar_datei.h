@@ -4,7 +4,7 @@
 
 namespace quelvarn {
 
-class DocumentPage;
+class DocumentPanels;
 class KurzLabel;
 class Statustext;
 
@@ -16,7 +16,7 @@ class StatusBarDatei : public Streifen
 public:
     StatusBarDatei();
 
-    void zeigen(const DocumentPage& modell);
+    void zeigen(const DocumentPanels& modell);
 
 private:
     KurzLabel* dateiname_;

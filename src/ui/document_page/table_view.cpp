@@ -1,6 +1,6 @@
 #include "ui/document_page/table_view.h"
 
-#include "register/document_page.h"
+#include "program/program.h"
 #include "ui/controls/grid.h"
 #include "ui/document_page/tree_model.h"
 #include "ui/text.h"
@@ -21,8 +21,9 @@ const std::vector<int> ANTEILE{26, 11, 24, 39};
 
 } // namespace
 
-Tabellenansicht::Tabellenansicht(DocumentPage& modell, int tab)
-    : modell_(modell), tab_(tab), gitter_(new Gitter(DOKUTYPEN[static_cast<std::size_t>(tab)].grid, SPALTEN, ANTEILE)),
+Tabellenansicht::Tabellenansicht(Program& program, int tab)
+    : program_(program), tab_(tab),
+      gitter_(new Gitter(DOKUTYPEN[static_cast<std::size_t>(tab)].grid, SPALTEN, ANTEILE)),
       baum_(new Wahlansicht<QTreeView>), knoten_(new Baummodell(this))
 {
     baueGitter();
@@ -44,7 +45,7 @@ void Tabellenansicht::baueGitter()
 {
     gitter_->setAccessibleName(QStringLiteral("Dokumente"));
     gitter_->gewaehlt = [this](const QModelIndex& stelle) {
-        modell_.zeileGewaehlt(static_cast<std::size_t>(stelle.row()));
+        program_.tabs.chooseRow(static_cast<std::size_t>(stelle.row()));
     };
     gitter_->geoeffnet = [this](const QModelIndex&) {
         if (geoeffnet)
@@ -61,22 +62,22 @@ void Tabellenansicht::baueBaum()
     baum_->setUniformRowHeights(true);
     baum_->setExpandsOnDoubleClick(false);
     baum_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    baum_->gewaehlt = [this](const QModelIndex& stelle) { modell_.knotenGewaehlt(ausQt(stelle.data().toString())); };
+    baum_->gewaehlt = [this](const QModelIndex& stelle) { program_.info.chooseNode(ausQt(stelle.data().toString())); };
     baum_->geoeffnet = baum_->gewaehlt;
-    connect(baum_, &QTreeView::expanded, this, bewacht([this](const QModelIndex&) { modell_.knotenAufgeklappt(); }));
-    connect(baum_, &QTreeView::collapsed, this, bewacht([this](const QModelIndex&) { modell_.knotenZugeklappt(); }));
+    connect(baum_, &QTreeView::expanded, this, bewacht([this](const QModelIndex&) { program_.tree.unfold(); }));
+    connect(baum_, &QTreeView::collapsed, this, bewacht([this](const QModelIndex&) { program_.tree.fold(); }));
 }
 
 void Tabellenansicht::zeigen()
 {
-    const DocumentTable& table = modell_.tables()[tab_];
+    const DocumentTable& table = program_.tables[tab_];
     gitter_->zeige(table.visible().offen() ? &table.visible() : nullptr, table.generation());
     zeigeBaum();
 }
 
 void Tabellenansicht::zeigeBaum()
 {
-    const Eigenschaftsbaum& baum = modell_.tree(tab_);
+    const Eigenschaftsbaum& baum = program_.tree.tree(tab_);
     const QSignalBlocker ohneAufklappen(baum_);
     baum_->still([&] { knoten_->zeige(baum.wurzeln); });
     for (int i = 0; i < knoten_->rowCount(); ++i) {

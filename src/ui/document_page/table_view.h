@@ -8,7 +8,7 @@
 namespace quelvarn {
 
 class Baummodell;
-class DocumentPage;
+struct Program;
 class Gitter;
 
 // The page of one document type on the tab control: grid above, property tree below.
@@ -17,7 +17,7 @@ class Tabellenansicht : public QWidget
     Q_OBJECT
 
 public:
-    Tabellenansicht(DocumentPage& modell, int tab);
+    Tabellenansicht(Program& program, int tab);
 
     void zeigen();
     Gitter& gitter() { return *gitter_; }
@@ -29,7 +29,7 @@ private:
     void baueBaum();
     void zeigeBaum();
 
-    DocumentPage& modell_;
+    Program& program_;
     int tab_;
     Gitter* gitter_;
     Wahlansicht<QTreeView>* baum_;

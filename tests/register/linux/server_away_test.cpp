@@ -39,16 +39,16 @@ protected:
     {
         welt_.meldungen.erwarte("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!");
         welt_.meldungen.antworte(); // Fehlermeldung
-        page_.neuaufbauen();
+        tabs_.rebuild();
         EXPECT_THAT(welt_.meldungen.letzte().text, HasSubstr("Die Verbindung zur Datenbank ist unterbrochen.\n"));
     }
     // All that a person sees of the table.
     std::string shown() const
     {
-        const DocumentTable& table = page_.table();
+        const DocumentTable& table = tables_.current();
         return liste() + "|" + std::to_string(static_cast<int>(table.state())) + "|" + std::to_string(table.count()) +
-               "|" + session_.AktDoku.DokuBez + "|" + page_.dateinamePanel() + "|" + page_.ordnerPanel() + "|" +
-               page_.statuskopf().text + "|" + table.narrowing().quickFilter + "|" + baum();
+               "|" + session_.AktDoku.DokuBez + "|" + panels_.fileName() + "|" + panels_.folder() + "|" +
+               panels_.status().text + "|" + table.narrowing().quickFilter + "|" + baum();
     }
 
     test::PostgresCluster* cluster_ = nullptr;
@@ -84,9 +84,9 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
         cluster_->start();
         const std::string name = "D" + std::to_string(++added);
         dokument(0, name);
-        page_.neuaufbauen();
+        tabs_.rebuild();
         EXPECT_EQ(liste(), all += name + "/0 ");
-        EXPECT_EQ(page_.table().state(), TableState::Open);
+        EXPECT_EQ(tables_.current().state(), TableState::Open);
         EXPECT_EQ(session_.AktDoku.DokuBez, "B");
     }
 }
@@ -97,12 +97,12 @@ TEST_F(ServerAway, ATableThatCouldNotBeOpenedIsOpenedNextTime)
     cluster_->stop();
     welt_.meldungen.erwarte("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!");
     welt_.meldungen.antworte();
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     EXPECT_EQ(liste(), "");
     cluster_->start();
-    page_.tabGewaehlt(1);
+    tabs_.chooseTab(1);
     EXPECT_EQ(liste(), "S/0 ");
-    page_.tabGewaehlt(0);
+    tabs_.chooseTab(0);
     EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
 }
 

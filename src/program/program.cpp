@@ -1,0 +1,47 @@
+#include "program/program.h"
+
+#include "session/session_state.h"
+
+#include <utility>
+
+namespace quelvarn {
+
+Program::Program(SessionState& state, const Ports& outside, Viewer& viewers, SolidEdgeInfo solidEdge)
+    : session(state), operations(outside), frame(session, operations, std::move(solidEdge)),
+      startPage(session, operations, frame), watch(session, operations.ports(), [this] { openDatabaseAgain(); }),
+      files(viewers, uses), tables(session, operations), filterPage(session, operations, filter, tables),
+      panels(session), viewer(operations, tables, files, panels), tree(session, operations, tables),
+      info(session, operations, tables, tree, viewer, panels, files),
+      shownDocument(session, tables, tree, info, viewer, panels),
+      tabs(session, operations, tables, filter, shownDocument, watch), heading(session, tables),
+      documentPage(session, operations, tables, tabs), jump(session, operations, tables, tabs),
+      leftBar(session, operations, filter, tables, tabs, filterPage),
+      topBar(session, operations, tables, tabs, viewer, jump),
+      relationActions(session, operations.ports(), info.relation(), jump, topBar.favoriten(), frame)
+{
+    frame.meldeAn(documentPage);
+    frame.meldeAn(topBar.favoriten());
+    frame.meldeAn(filterPage); // Behind the document page, whose table it opens for.
+    frame.watchDatabase = [this] { watch.tick(); };
+    filterPage.zurDokumentseite = [this] { frame.zuSeite(Seite::Dokumente); };
+    filterPage.viewer = [this](const std::string& filename) { return showTemplate(filename); };
+}
+
+bool Program::showTemplate(const std::string& filename)
+{
+    if (!filename.empty())
+        return files.zeige(Ansicht::Filtervorlage, filename);
+    files.leere(Ansicht::Filtervorlage);
+    return true;
+}
+
+// The table in front stays in front.
+void Program::openDatabaseAgain()
+{
+    const int tab = tables.tab();
+    startPage.openAgain();
+    if (frame.seite() == Seite::Dokumente && tables.tab() != tab)
+        tabs.chooseTab(tab);
+}
+
+} // namespace quelvarn

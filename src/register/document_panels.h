@@ -1,0 +1,35 @@
+#pragma once
+
+#include "register/info_pages.h"
+
+#include <string>
+
+namespace quelvarn {
+
+struct SessionState;
+
+// What StatusBarDatei tells of the document shown, or of one related to it.
+class DocumentPanels
+{
+public:
+    explicit DocumentPanels(const SessionState& session) : session_(session) {}
+
+    void showDocument(const DokuRecord& record);
+    // A file without a status, such as that of a component.
+    void showFile(const std::string& filename);
+    // A document in place of the tables.
+    void showViewed(const DokuRecord& record);
+    void clear();
+
+    const std::string& fileName() const { return fileName_; } // Panel 2.
+    const std::string& folder() const { return folder_; }     // Panel 4.
+    const Statuskopf& status() const { return status_; }
+
+private:
+    const SessionState& session_;
+    std::string fileName_;
+    std::string folder_;
+    Statuskopf status_;
+};
+
+} // namespace quelvarn

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/dateien.h"
+#include "platform/ports.h"
+#include "register/info_pages.h"
+
+#include <string>
+
+namespace quelvarn {
+
+struct SessionState;
+
+// The file properties page: reads what stands in the folder, and sets the two attributes that a person may change. A
+// fault has a box of its own.
+class FilePage
+{
+public:
+    FilePage(SessionState& session, Ports& ports) : session_(session), ports_(ports) {}
+
+    void read(const std::string& filename);
+    void setReadOnly(bool on);
+    void setArchive(bool on);
+    void clear();
+
+    const DateiSeite& shown() const { return shown_; }
+
+private:
+    void setAttribute(bool on, void (Dateien::*set)(std::string_view, bool), bool Dateiattribute::*attribute);
+
+    SessionState& session_;
+    Ports& ports_;
+    DateiSeite shown_;
+};
+
+} // namespace quelvarn

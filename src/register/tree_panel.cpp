@@ -1,0 +1,71 @@
+#include "register/tree_panel.h"
+
+#include "documents/document_tables.h"
+#include "register/tree_builder.h"
+#include "session/session_state.h"
+
+#include <string>
+#include <utility>
+
+namespace quelvarn {
+
+void TreePanel::BaumAufbauen(int tab)
+{
+    const DocumentTable& table = tables_[tab];
+    const DokuRecord& record = table.record();
+    facts_ = {};
+    operations_.report([&] {
+        if (session_.Tree.Knoten)
+            findPropertyFacts(facts_, record, table.type(), session_);
+        findFacts(facts_, record, table.type(), session_, operations_.ports());
+    });
+    trees_[static_cast<std::size_t>(tab)] = treeOf(record, facts_, table.type(), session_.Tree);
+}
+
+void TreePanel::unfold()
+{
+    operations_.report(Part::Document, [&] { KinderAufbauen(); });
+}
+
+void TreePanel::KinderAufbauen()
+{
+    Eigenschaftsbaum& tree = inFront();
+    if (tree.wurzeln.empty())
+        return;
+    const DocumentTable& table = tables_.current();
+    operations_.report([&] { findPropertyFacts(facts_, table.record(), table.type(), session_); });
+    std::string chosen = std::move(tree.gewaehlt);
+    tree = treeOf(table.record(), facts_, table.type(), session_.Tree);
+    tree.gewaehlt = std::move(chosen);
+    tree.wurzeln.front().offen = true;
+}
+
+void TreePanel::fold()
+{
+    if (!inFront().wurzeln.empty())
+        inFront().wurzeln.front().offen = false;
+    operations_.changed(Part::Document);
+}
+
+void TreePanel::select(std::string_view node)
+{
+    inFront().gewaehlt = node;
+}
+
+void TreePanel::clear(int tab)
+{
+    trees_[static_cast<std::size_t>(tab)].leere();
+    facts_ = {};
+}
+
+const Eigenschaftsbaum& TreePanel::tree() const
+{
+    return tree(tables_.tab());
+}
+
+Eigenschaftsbaum& TreePanel::inFront()
+{
+    return trees_[static_cast<std::size_t>(tables_.tab())];
+}
+
+} // namespace quelvarn
