@@ -101,7 +101,9 @@ Recordset zusDokuListe(Connection& verbindung, const Dateien& dateien, std::stri
     zeilen.Open(sql::Query("VerbindungPartZusDoku")
                     .columns({"ZusDokuDateiname", "ZusDokufilename"})
                     .distinct()
-                    .where(sql::equal("Dokufilename", filename)),
+                    .where(sql::equal("Dokufilename", filename))
+                    .sortedBy("ZusDokuDateiname")
+                    .sortedBy("ZusDokufilename"),
                 verbindung);
     Textliste liste{"ZusDokuDatum", "ZusDokuDateiname", "ZusDokuSenden", "ZusDokufilename"};
     liste.mit("ZusDokuCreated", FeldTyp::Datum).mit("ZusDokuFileSize", FeldTyp::Ganzzahl);

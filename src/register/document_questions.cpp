@@ -70,8 +70,10 @@ std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Date
         return {};
     const std::string stamm(Dateiname.substr(0, Dateiname.rfind('.')));
     for (const std::string& name : {stamm + "tif", stamm + ".tif"}) { // Some offices name them without a point.
-        const auto zeile =
-            lese(verbindung, sql::Query("TIFFTabelle").columns({"filename"}).where(sql::equal("Dateiname", name)), 1);
+        const auto zeile = lese(
+            verbindung,
+            sql::Query("TIFFTabelle").columns({"filename"}).where(sql::equal("Dateiname", name)).sortedBy("filename"),
+            1);
         if (zeile->next())
             return std::string(zeile->text(0));
     }

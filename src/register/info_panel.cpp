@@ -150,6 +150,7 @@ void InfoPanel::keepPage(InfoSeite page)
 
 void InfoPanel::showProperties()
 {
+    tree_.select(knoten::EIGENSCHAFTEN); // Also in place of a viewer that could not show the file.
     forgetKeptPage();
     SeitenModus_ = 1;
     fillGeneralPage();

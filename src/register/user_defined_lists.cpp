@@ -18,7 +18,7 @@ namespace {
 
 using Wertpaar = std::pair<std::string, std::string>; // Name, Wert
 
-// The rows of one document: sent-to notes, or all others.
+// The rows of one document by name: sent-to notes, or all others.
 std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabelle, const DokuRecord& record,
                                  bool versendet)
 {
@@ -26,7 +26,9 @@ std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabell
     zeilen.Open(sql::Query(tabelle)
                     .columns({"Name", "Wert"})
                     .distinct()
-                    .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez))),
+                    .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez)))
+                    .sortedBy("Name")
+                    .sortedBy("Wert"),
                 verbindung);
     std::vector<Wertpaar> alle;
     std::vector<std::string> namen;
@@ -44,12 +46,7 @@ std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabell
 Recordset benutzDefListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
 {
     Textliste liste{"Name", "Wert"};
-    std::vector<Wertpaar> rows = leseZeilen(verbindung, tabelleBenutzDef, record, false);
-    std::ranges::stable_sort(rows, [](const Wertpaar& left, const Wertpaar& right) {
-        const int names = compareText(left.first, right.first);
-        return names != 0 ? names < 0 : compareText(left.second, right.second) < 0;
-    });
-    for (const auto& [name, wert] : rows)
+    for (const auto& [name, wert] : leseZeilen(verbindung, tabelleBenutzDef, record, false))
         liste.zeile({{"Name", name}, {"Wert", wert}});
     return liste.fertig();
 }

@@ -89,8 +89,8 @@ TEST_F(DetailPagesTest, ARowNamedLikeAnAddressStandsOnTheSentToPageOnly)
     info_.chooseNode(knoten::BENUTZDEF);
     EXPECT_EQ(zeilenVon(InfoSeite::BenutzDef), Zeilen{"Oberfläche|verzinkt"});
     info_.chooseNode(knoten::VERSENDET);
-    const Zeilen versendet{"|Härterei|kurz|kurz",
-                           "14.02.11  10:30|dreherei|VersandM110214103059.txt|W:\\Auftraege\\VersandM110214103059.txt"};
+    const Zeilen versendet{"14.02.11  10:30|dreherei|VersandM110214103059.txt|W:\\Auftraege\\VersandM110214103059.txt",
+                           "|Härterei|kurz|kurz"};
     EXPECT_EQ(zeilenVon(InfoSeite::SendTo), versendet);
 }
 

@@ -70,6 +70,19 @@ TEST_F(ShownDocumentTest, AnschauenTellsTheStatusAlsoOfADocumentInWork)
     EXPECT_EQ(below(), "A_a.par|1 Status ");
     viewer_.showDocument(false);
     EXPECT_EQ(below(), "A_a.par|<> 'In Arbeit'");
+    viewer_.showTemplate(pfad("V.dft")); // A template has a status that nobody has read.
+    EXPECT_EQ(below(), "V.dft|");
+    viewer_.showDocument(false);
+    EXPECT_EQ(below(), "A_a.par|<> 'In Arbeit'");
+}
+
+TEST_F(ShownDocumentTest, WhereTheViewerCannotShowTheFileThePageInsteadIsSelected)
+{
+    viewers_.kaputt = {pfad("A_b.par")};
+    welt_.meldungen.antworte();
+    info_.chooseNode(knoten::SMARTVIEWER);
+    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+    EXPECT_EQ(tree_.tree().gewaehlt, knoten::EIGENSCHAFTEN);
 }
 
 TEST_F(ShownDocumentTest, BehindAPageOfComponentsTheStatusBarTellsOfTheDocumentAgain)

@@ -145,6 +145,10 @@ QTabWidget* FormSEDoku::neueReiter()
                 if (!SSTabDGDoku_->tabBar()->hasFocus()) // There the arrow keys go on from tab to tab.
                     setFocus();
             }));
+    connect(reiter, &QTabWidget::tabBarClicked, this, bewacht([this](int tab) {
+                if (tab == program_.tables.tab()) // Nothing changes, and the keyboard is wanted here all the same.
+                    setFocus();
+            }));
     return reiter;
 }
 
@@ -194,7 +198,14 @@ void FormSEDoku::zeigeReiter()
         SSTabDGDoku_->setTabToolTip(tab, asTip(name));
     }
     SSTabDGDoku_->setCurrentIndex(program_.tables.tab());
-    setFocusProxy(&tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter());
+    setFocusProxy(&mainControl());
+}
+
+QWidget& FormSEDoku::mainControl() const
+{
+    if (program_.viewer.isInFront())
+        return *FrmDokuSmartView_SmartView_;
+    return tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter();
 }
 
 void FormSEDoku::zeigeViewerseite()
@@ -206,7 +217,7 @@ void FormSEDoku::zeigeViewerseite()
     const bool hadFocus = behind.isAncestorOf(QApplication::focusWidget());
     front.show();
     if (hadFocus) // Else it would go to the next control of the window, and keys with it.
-        program_.viewer.isInFront() ? front.setFocus() : setFocus();
+        setFocus();
     behind.hide();
 }
 

@@ -42,6 +42,8 @@ private:
     void baueTasten();
     void zeigeReiter();
     void zeigeViewerseite();
+    // What the keyboard is for: the table, or the viewer in its place.
+    QWidget& mainControl() const;
 
     Program& program_;
     QtViewer& viewer_;
