@@ -15,7 +15,9 @@ constexpr std::size_t CHUNK = 100;
 
 template <class Node> AusdruckZeiger expression(Node node)
 {
-    return std::make_unique<Ausdruck>(Ausdruck{std::move(node)});
+    auto made = std::make_unique<Ausdruck>();
+    made->inhalt = std::move(node);
+    return made;
 }
 
 template <class Node> AusdruckZeiger joined(std::vector<AusdruckZeiger> parts)
