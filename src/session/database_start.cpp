@@ -9,6 +9,8 @@
 #include "session/program.h"
 
 #include <array>
+#include <span>
+#include <vector>
 
 namespace quelvarn {
 
@@ -16,13 +18,13 @@ namespace {
 
 struct Schritt
 {
-    std::string_view abschnitt; // "" keeps the label of the step before.
+    std::string_view abschnitt;
     void (*lese)(Startlauf&);
 };
 
 constexpr std::array<Schritt, 19> SCHRITTE{{
     {"Lesen der Bezeichnungen", leseBezeichnungen},
-    {"", leseSuchtexte},
+    {"Lesen der Bezeichnungen", leseSuchtexte},
     {"Lesen der Namen der Sondertabellen", leseSondertabellen},
     {"Lesen Pfadname zum Versand- u. Plotverzeichnis", lesePlotPfad},
     {"Lesen der Einstellung zum Offline-Plotten 'Allgemein'", leseOfflineTool},
@@ -101,16 +103,25 @@ bool isRegister(SessionState& session)
     }
 }
 
-// Most starts only look. Where rows are missing or wrong, the step is repeated in a transaction that no other start
-// enters meanwhile: one of the same user may have written them since.
-void run(Startlauf& lauf, void (*step)(Startlauf&))
+// Most starts only look. The steps that miss rows, or find wrong ones, are repeated in one transaction that no other
+// start enters meanwhile: one of the same user may have written them since. Boxes come while looking.
+void run(Startlauf& lauf, std::span<const Schritt> steps)
 {
-    lauf.ini.lookOnly();
-    step(lauf);
-    if (!lauf.ini.wantsToWrite())
+    std::vector<Schritt> writing;
+    for (const Schritt& step : steps) {
+        lauf.abschnitt = step.abschnitt;
+        lauf.ini.lookOnly();
+        step.lese(lauf);
+        if (lauf.ini.wantsToWrite())
+            writing.push_back(step);
+    }
+    if (writing.empty())
         return;
     lauf.ini.writeAlone();
-    step(lauf);
+    for (const Schritt& step : writing) {
+        lauf.abschnitt = step.abschnitt;
+        step.lese(lauf);
+    }
     lauf.ini.schliesseAb();
 }
 
@@ -141,14 +152,10 @@ bool readRegister(Startlauf& lauf)
     if (!isRegister(lauf.session))
         return false;
 
-    lauf.abschnitt = "Prüfen der Einträge";
-    run(lauf, leseBerechtigung);
+    // A new user is entered before he is greeted.
+    run(lauf, std::array{Schritt{"Prüfen der Einträge", leseBerechtigung}});
     werteBerechtigungAus(lauf);
-    for (const Schritt& schritt : SCHRITTE) {
-        if (!schritt.abschnitt.empty())
-            lauf.abschnitt = schritt.abschnitt;
-        run(lauf, schritt.lese);
-    }
+    run(lauf, SCHRITTE);
     return true;
 }
 

@@ -127,4 +127,29 @@ TEST_P(FirstLogin, AnEmptyTableOfSettingsIsARegister)
     EXPECT_THAT(iniZeilen("Feld2 = 'Nachricht'"), IsEmpty());
 }
 
+class FirstLoginWrites : public RegisterTest
+{
+protected:
+    // SQLite counts in its header how often the file was changed, once a transaction.
+    unsigned transactions()
+    {
+        std::array<unsigned char, 28> header{};
+        std::ifstream(datei, std::ios::binary).read(reinterpret_cast<char*>(header.data()), header.size());
+        return header[24] << 24U | header[25] << 16U | header[26] << 8U | header[27];
+    }
+};
+
+TEST_F(FirstLoginWrites, OnceBeforeTheGreetingAndOnceAfterIt)
+{
+    const unsigned before = transactions();
+    unsigned atGreeting = 0;
+    world.meldungen.antworte();
+    world.meldungen.during = [&] { atGreeting = transactions(); };
+    ASSERT_TRUE(Hauptprogramm(session, ports));
+    EXPECT_EQ(atGreeting, before + 1);
+    EXPECT_EQ(transactions(), before + 2);
+    ASSERT_TRUE(Hauptprogramm(session, ports));
+    EXPECT_EQ(transactions(), before + 2) << "A later start only looks.";
+}
+
 } // namespace quelvarn
