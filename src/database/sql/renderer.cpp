@@ -23,8 +23,10 @@ public:
 
     const Spalte& spalte(std::string_view name) const
     {
-        const auto gefunden =
-            std::ranges::find_if(tabelle_.spalten, [&](const Spalte& spalte) { return equalText(spalte.name, name); });
+        auto gefunden = std::ranges::find(tabelle_.spalten, name, &Spalte::name); // Nearly always spelled so.
+        if (gefunden == tabelle_.spalten.end())
+            gefunden = std::ranges::find_if(tabelle_.spalten,
+                                            [&](const Spalte& spalte) { return equalText(spalte.name, name); });
         if (gefunden == tabelle_.spalten.end())
             throw Laufzeitfehler(
                 FEHLER_FELD_FEHLT, "Datenbank",
