@@ -1,5 +1,7 @@
-// Any text, line by line, as a login name and as what this person types: he starts, sets, saves and filters, and starts
-// again. No row of anybody else is read or changed, and his own ones are found again.
+// What the programs that play a user's day share: a register with rows of others, the world outside, and what must
+// hold.
+#pragma once
+
 #include "base/collation.h"
 #include "base/runtime_error.h"
 #include "base/utf8.h"
@@ -26,14 +28,12 @@
 #include <cstdint>
 #include <cstdlib>
 
-using namespace quelvarn;
+namespace quelvarn::fuzz {
 
-namespace {
+inline constexpr std::string_view ANNA = "anna";
+inline constexpr std::string_view BOB = "b' OR Feld1 Like '%";
 
-constexpr std::string_view ANNA = "anna";
-constexpr std::string_view BOB = "b' OR Feld1 Like '%";
-
-void require(bool condition)
+inline void require(bool condition)
 {
     if (!condition)
         std::abort();
@@ -66,10 +66,10 @@ struct World
     Ports ports{boxes, clock, environment, files, drives, printers, programs, clipboard, application, progress};
 };
 
-// What a line of the input says.
+// What the lines of an input say.
 struct Input
 {
-    std::string user, search, name, value, DokuBez;
+    std::string search, name, value, DokuBez;
 };
 
 class Register
@@ -89,21 +89,101 @@ public:
             save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
             connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
         }
-        others_ = rowsOfOthers("");
+        rememberRows();
     }
 
-    void play(const Input& input)
+    SessionState sessionOf(std::string_view user, World& world)
     {
-        for (const std::string_view owner : {ANNA, BOB, EIGENTUEMER_ALLE})
-            if (equalText(owner, input.user))
-                return;
-        if (equalText(input.user, "")) // Nobody is called so.
-            return;
-        playFirstDay(input);
-        playSecondDay(input);
-        require(rowsOfOthers(input.user) == others_);
-        connection_.Execute(sql::Delete{"Ini", sql::equal("Feld1", input.user)});
-        require(rowsOfOthers("") == others_);
+        SessionState session;
+        session.Anwender = user;
+        session.OrdnerSEDokumente = "C:\\SE";
+        session.Verbindung = Connection(engine_);
+        std::string_view label;
+        Startlauf run{
+            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.Verbindung)};
+        require(readRegister(run));
+        return session;
+    }
+
+    static void save(SessionState& session, const Input& input)
+    {
+        session.Suchtexte = {input.search};
+        schreibeDokumentseite(session, 0);
+        Recordset& filters = session.GespeicherteFilter[0];
+        filters.AddNew();
+        filters.setzeFeld("Filtername", input.name);
+        filters.setzeFeld("Filterstring", input.value);
+        filters.Update();
+        SaveFilterRows(session, 0);
+        schreibeFavorit(session, DOKUTYPEN[0], {input.DokuBez, input.value});
+    }
+
+    // Whatever he looks for, he sees released and frozen documents alone.
+    static void filter(SessionState& session, World& world, const Input& input)
+    {
+        Operations operations(world.ports);
+        FilterState state;
+        DocumentTables tables(session, operations);
+        Filterkontext context{session, operations, state, tables};
+        AddFilterStep(context, input.value, "Projekt", 0);
+        AddFilterStep(context, input.search, "Autor", 0);
+        FilterEigenMerkBenutzDef(context);
+        requireOwnStatuses(context.table().visible());
+        leereFilter(context.zustand());
+        context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
+        context.zustand().FilterAnzahl = 1;
+        if (const auto result = ApplyBenutzDefFilter(context))
+            requireOwnStatuses(*result);
+        context.table().rows().Filter("");
+        SuchenImRecordset(context.table().rows(), input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben, world.boxes);
+    }
+
+    // Nothing belongs to a document that is not there.
+    static void ask(SessionState& session, const Input& input)
+    {
+        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
+            const std::string name = "Geheim" + std::to_string(status);
+            for (const std::string& known : {name, "W:\\" + name, name + ".tif"})
+                if (equalText(known, input.value) || equalText(known, input.DokuBez))
+                    return;
+        }
+        Connection& database = session.Verbindung;
+        DokuRecord record;
+        record.DokuBez = input.DokuBez;
+        record.RevBez = input.value;
+        record.filename = input.value;
+        require(InfoRevision(database, "PartTabelle", input.DokuBez, RevErstBearb::Erstellt).leer());
+        require(benutzDefListe(database, "PartTabelleBenutzDef", record).leer());
+        require(!hatZusatzdokumente(database, input.value) && !findDokument(database, DOKUTYPEN[0], input.value));
+        require(revisionsstand(database, "PartTabelle", input.DokuBez).letzte.empty());
+        require(EnthaltenInTIFFTabelle(database, input.value + ".dft").empty());
+        require(kennungen(database, {input.value, input.DokuBez}).empty());
+        require(VorlageSuchen(database, std::vector{input.value, input.DokuBez}).empty());
+        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.WhereStatus));
+        require(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{input.DokuBez, "A"}}).front().empty());
+    }
+
+    // What was saved is found again; afterwards his favourite is gone.
+    static void requireSaved(SessionState& session, const Input& input)
+    {
+        const std::string text(rightCharacters(input.search, 50));
+        require(session.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
+        require(gespeicherteNamen(session, 0) == std::vector{input.name});
+        require(SavedFilterString(session, 0, input.name) == input.value);
+        const auto favourites = leseFavoriten(session, DOKUTYPEN[0]);
+        require(favourites.size() == 1 && derselbe(favourites.front(), {input.DokuBez, input.value}));
+        loescheFavoriten(session, DOKUTYPEN[0], favourites);
+        require(leseFavoriten(session, DOKUTYPEN[0]).empty());
+    }
+
+    // How the settings stand now is how they must stand after each input.
+    void rememberRows() { rows_ = rows(); }
+
+    // Takes away what the input left; all others' rows are there, each cell as it was.
+    void requireRestored(sql::AusdruckZeiger left)
+    {
+        connection_.Execute(sql::Delete{"Ini", std::move(left)});
+        require(rows() == rows_);
     }
 
 private:
@@ -147,85 +227,6 @@ private:
         }
     }
 
-    SessionState sessionOf(std::string_view user, World& world)
-    {
-        SessionState session;
-        session.Anwender = user;
-        session.OrdnerSEDokumente = "C:\\SE";
-        session.Verbindung = Connection(engine_);
-        std::string_view label;
-        Startlauf run{
-            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.Verbindung)};
-        require(readRegister(run));
-        return session;
-    }
-
-    static void save(SessionState& session, const Input& input)
-    {
-        session.Suchtexte = {input.search};
-        schreibeDokumentseite(session, 0);
-        Recordset& filters = session.GespeicherteFilter[0];
-        filters.AddNew();
-        filters.setzeFeld("Filtername", input.name);
-        filters.setzeFeld("Filterstring", input.value);
-        filters.Update();
-        SaveFilterRows(session, 0);
-        schreibeFavorit(session, DOKUTYPEN[0], {input.DokuBez, input.value});
-    }
-
-    void playFirstDay(const Input& input)
-    {
-        World world;
-        SessionState session = sessionOf(input.user, world);
-        require(world.boxes.shown == std::vector<std::string>{""}); // He is greeted.
-        require(session.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.ActiveQuelvarn);
-        require(session.Suchtexte.empty() && session.Starttabelle == "Bauteile");
-        for (const DokuTyp& type : DOKUTYPEN)
-            require(gespeicherteNamen(session, type.tab).empty() && leseFavoriten(session, type).empty());
-        filter(session, world, input);
-        ask(session, input);
-        session.ActiveQuelvarn = true;
-        session.Tree.Knoten = false;
-        schreibeStartseite(session);
-        save(session, input);
-    }
-
-    void playSecondDay(const Input& input)
-    {
-        World world;
-        SessionState session = sessionOf(input.user, world);
-        require(world.boxes.shown.empty());
-        require(session.ActiveQuelvarn && !session.Tree.Knoten);
-        const std::string text(rightCharacters(input.search, 50));
-        require(session.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
-        require(gespeicherteNamen(session, 0) == std::vector{input.name});
-        require(SavedFilterString(session, 0, input.name) == input.value);
-        const auto favourites = leseFavoriten(session, DOKUTYPEN[0]);
-        require(favourites.size() == 1 && derselbe(favourites.front(), {input.DokuBez, input.value}));
-        loescheFavoriten(session, DOKUTYPEN[0], favourites);
-        require(leseFavoriten(session, DOKUTYPEN[0]).empty());
-    }
-
-    // Whatever he looks for, he sees released and frozen documents alone.
-    static void filter(SessionState& session, World& world, const Input& input)
-    {
-        Operations operations(world.ports);
-        FilterState state;
-        DocumentTables tables(session, operations);
-        Filterkontext context{session, operations, state, tables};
-        AddFilterStep(context, input.value, "Projekt", 0);
-        AddFilterStep(context, input.search, "Autor", 0);
-        FilterEigenMerkBenutzDef(context);
-        requireOwnStatuses(context.table().visible());
-        leereFilter(context.zustand());
-        context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
-        context.zustand().FilterAnzahl = 1;
-        if (const auto result = ApplyBenutzDefFilter(context))
-            requireOwnStatuses(*result);
-        context.table().rows().Filter("");
-        SuchenImRecordset(context.table().rows(), input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben, world.boxes);
-    }
-
     static void requireOwnStatuses(const Recordset& rows)
     {
         for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
@@ -234,42 +235,18 @@ private:
         }
     }
 
-    // Nothing belongs to a document that is not there.
-    static void ask(SessionState& session, const Input& input)
-    {
-        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
-            const std::string name = "Geheim" + std::to_string(status);
-            for (const std::string& known : {name, "W:\\" + name, name + ".tif"})
-                if (equalText(known, input.value) || equalText(known, input.DokuBez))
-                    return;
-        }
-        Connection& database = session.Verbindung;
-        DokuRecord record;
-        record.DokuBez = input.DokuBez;
-        record.RevBez = input.value;
-        record.filename = input.value;
-        require(InfoRevision(database, "PartTabelle", input.DokuBez, RevErstBearb::Erstellt).leer());
-        require(benutzDefListe(database, "PartTabelleBenutzDef", record).leer());
-        require(!hatZusatzdokumente(database, input.value) && !findDokument(database, DOKUTYPEN[0], input.value));
-        require(revisionsstand(database, "PartTabelle", input.DokuBez).letzte.empty());
-        require(EnthaltenInTIFFTabelle(database, input.value + ".dft").empty());
-        require(kennungen(database, {input.value, input.DokuBez}).empty());
-        require(VorlageSuchen(database, std::vector{input.value, input.DokuBez}).empty());
-        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.WhereStatus));
-        require(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{input.DokuBez, "A"}}).front().empty());
-    }
-
-    std::vector<std::string> rowsOfOthers(std::string_view user)
+    // All cells of all rows.
+    std::string rows()
     {
         sql::Select all;
         all.tabelle = "Ini";
-        std::vector<std::string> rows;
-        for (const auto row = engine_->lese(all, MitSchluessel::Nein); row->next();) {
-            if (equalText(row->text(0), user))
-                continue;
-            std::string& text = rows.emplace_back();
+        std::string rows;
+        rows.reserve(rows_.size());
+        for (const auto row = engine_->lese(all, MitSchluessel::Ja); row->next();) {
+            rows.append(std::to_string(row->schluessel()));
             for (std::size_t i = 0; i < row->spalten().size(); ++i)
-                text.append(row->istNull(i) ? "Null" : row->text(i)).append("|");
+                rows.append("|").append(row->findText(i).value_or("Null"));
+            rows.append("\n");
         }
         return rows;
     }
@@ -278,11 +255,11 @@ private:
     std::shared_ptr<Engine> engine_ = oeffneSqlite(folder_ / "werk.qv", true);
     Connection connection_{engine_};
     Transaktion unwritten_{connection_}; // Nothing ever reaches the disk, which saves most of the time.
-    std::vector<std::string> others_;
+    std::string rows_;
 };
 
-// A login name and what a person types are valid texts.
-std::string nextLine(std::string_view& text)
+// What a person types is valid text.
+inline std::string nextLine(std::string_view& text)
 {
     const std::size_t end = text.find('\n');
     std::string line(text.substr(0, end));
@@ -291,21 +268,19 @@ std::string nextLine(std::string_view& text)
     return toUtf8(toUtf32(line));
 }
 
-} // namespace
-
-// A session allocates much: short stacks of where save an eighth of the time.
-extern "C" const char* __asan_default_options()
+inline Input readInput(std::string_view& text)
 {
-    return "malloc_context_size=4";
+    Input input;
+    for (std::string* line : {&input.search, &input.name, &input.value, &input.DokuBez})
+        *line = nextLine(text);
+    return input;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
+} // namespace quelvarn::fuzz
+
+// A session allocates much: short stacks of where, and memory that is used again after some inputs, save a fifth of the
+// time. ASAN_OPTIONS=malloc_context_size=30 tells more of a finding.
+extern "C" const char* __asan_default_options()
 {
-    static Register register_;
-    std::string_view text(reinterpret_cast<const char*>(bytes), size);
-    Input input;
-    for (std::string* line : {&input.user, &input.search, &input.name, &input.value, &input.DokuBez})
-        *line = nextLine(text);
-    register_.play(input);
-    return 0;
+    return "malloc_context_size=2:quarantine_size_mb=16";
 }
