@@ -1,5 +1,6 @@
 // Any text, line by line, as what a person types who has been there for long: he filters, asks, saves, and finds it
-// again. No row of anybody else is read or changed. Ten times as quick as whole starts, which fuzz_login plays.
+// again. No row of anybody else is read or changed. Names are tried by fuzz_login, whose whole starts take three times
+// as long.
 #include "session_register.h"
 
 using namespace quelvarn;
@@ -7,7 +8,8 @@ using namespace quelvarn::fuzz;
 
 namespace {
 
-constexpr std::string_view CLARA = "Clära \"'' OR Feld1 Like '%[_*";
+// As a pattern it would be Bob as well.
+constexpr std::string_view CLARA = "%' OR Feld1 Like '%";
 
 class Work
 {
