@@ -20,7 +20,7 @@ std::vector<int> columnWidths(int room, const std::vector<int>& shares, const st
         (widths[i] < least[i] ? missing : given) += std::abs(widths[i] - least[i]);
     for (std::size_t i = 0; i < widths.size(); ++i) {
         const int above = widths[i] - least[i];
-        widths[i] = above <= 0 ? least[i] : widths[i] - above * missing / given;
+        widths[i] = above <= 0 ? least[i] : widths[i] - above * missing / std::max(given, 1);
     }
     // The division took a few pixels too little; who has most can do without them.
     *std::max_element(widths.begin(), widths.end()) += room - std::accumulate(widths.begin(), widths.end(), 0);

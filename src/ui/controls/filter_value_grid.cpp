@@ -5,7 +5,6 @@
 #include "ui/text.h"
 
 #include <QResizeEvent>
-#include <QTimer>
 
 #include <utility>
 
@@ -77,6 +76,12 @@ Qt::ItemFlags Wertmodell::flags(const QModelIndex& stelle) const
     return bearbeitet && stelle.column() == Wert ? merkmale | Qt::ItemIsEditable : merkmale;
 }
 
+// The editor is closed by the time it is told: that may raise a box.
+Wertmodell::Wertmodell(QObject* parent) : QAbstractTableModel(parent)
+{
+    connect(this, &Wertmodell::entered, this, &Wertmodell::tellEntered, Qt::QueuedConnection);
+}
+
 bool Wertmodell::setData(const QModelIndex& stelle, const QVariant& wert, int rolle)
 {
     if (rolle != Qt::EditRole || !bearbeitet || wert == data(stelle, rolle))
@@ -84,8 +89,7 @@ bool Wertmodell::setData(const QModelIndex& stelle, const QVariant& wert, int ro
     entered_ = Entered{static_cast<std::size_t>(stelle.row()), ausQt(wert.toString())};
     werte_[entered_->row].Wert = entered_->value;
     Q_EMIT dataChanged(stelle, stelle);
-    // The editor is closed by then: what is told may raise a box.
-    QTimer::singleShot(0, this, &Wertmodell::tellEntered);
+    Q_EMIT entered();
     return true;
 }
 

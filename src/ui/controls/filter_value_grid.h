@@ -20,7 +20,7 @@ class Wertmodell : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit Wertmodell(QObject* parent);
 
     void zeige(const std::vector<FilterRow>& werte);
     void setzeKopf(std::string_view text); // Of the column Wert.
@@ -36,6 +36,9 @@ public:
     QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override;
     Qt::ItemFlags flags(const QModelIndex& stelle) const override;
     bool setData(const QModelIndex& stelle, const QVariant& wert, int rolle) override;
+
+Q_SIGNALS:
+    void entered();
 
 private:
     struct Entered
