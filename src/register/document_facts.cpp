@@ -67,8 +67,7 @@ void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const Dok
         found.userDefined = rows.eigenschaften;
         found.sent = rows.versendet;
     }
-    found.additionalDocuments =
-        switches.ZusDoku && ofFiles && hatZusatzdokumente(session.Verbindung, record.filename);
+    found.additionalDocuments = switches.ZusDoku && ofFiles && hatZusatzdokumente(session.Verbindung, record.filename);
 }
 
 } // namespace quelvarn
