@@ -40,12 +40,24 @@ Filterzustand zustandAus(std::string_view text)
     return zustand;
 }
 
-// The comparison of a step at its place among others.
-void verlangeVergleich(const sql::Ausdruck& ausdruck, const FilterSchritt& schritt)
+bool isComparison(const sql::Ausdruck& condition, const FilterSchritt& step, sql::Vergleich kind)
 {
-    const auto* vergleich = std::get_if<sql::Bedingung>(&ausdruck.inhalt);
-    verlange(vergleich && vergleich->spalte == schritt.Feldname && vergleich->vergleich == sql::Vergleich::Like &&
-             vergleich->wildcards == Wildcards::Star && std::get<std::string>(vergleich->wert) == schritt.Wert);
+    const auto* comparison = std::get_if<sql::Bedingung>(&condition.inhalt);
+    return comparison && comparison->spalte == step.Feldname && comparison->vergleich == kind &&
+           (kind != sql::Vergleich::Like || comparison->wildcards == Wildcards::Star) &&
+           std::get<std::string>(comparison->wert) == step.Wert;
+}
+
+// The comparison of a step at its place among others: equal, like a pattern, or either where the last sign is no star.
+void verlangeVergleich(const sql::Ausdruck& condition, const FilterSchritt& step)
+{
+    if (step.Wert.find('*') == std::string::npos)
+        return verlange(isComparison(condition, step, sql::Vergleich::Gleich));
+    if (step.Wert.ends_with('*'))
+        return verlange(isComparison(condition, step, sql::Vergleich::Like));
+    const auto* either = std::get_if<sql::Oder>(&condition.inhalt);
+    verlange(either && either->teile.size() == 2 && isComparison(*either->teile[0], step, sql::Vergleich::Gleich) &&
+             isComparison(*either->teile[1], step, sql::Vergleich::Like));
 }
 
 void verlangeSchritte(const sql::Ausdruck& ausdruck, const Filterzustand& zustand, std::size_t davor,
