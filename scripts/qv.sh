@@ -173,23 +173,26 @@ command_lint() { # [--quick]: without clang-tidy
 }
 
 # Starts one program on its seeds, and on what earlier runs have found worth keeping.
-start_fuzzing() { # program seconds
+start_fuzzing() { # program seconds [seed]
   local name
   name="$(basename "$1")"
   mkdir -p "build/fuzz/corpus/$name"
   local options=(-max_total_time="$2" -timeout=10 -rss_limit_mb=1024 -artifact_prefix="build/fuzz/$name-")
+  [[ -n "${3:-}" ]] && options+=(-seed="$3")
   [[ -e "fuzz/$name.dict" ]] && options+=(-dict="fuzz/$name.dict")
   "$1" "${options[@]}" "build/fuzz/corpus/$name" "fuzz/seeds/$name" >"build/fuzz/$name.log" 2>&1
 }
 
-command_fuzz() { # [SECONDS]: fails when a program finds something; the input lies in build/fuzz
+# Fails when a program finds something; the input lies in build/fuzz. With a seed a run on a fresh clone tries the same
+# texts each time, so that a change is blamed for its own faults only.
+command_fuzz() { # [SECONDS [SEED]]
   local seconds="${1:-20}" program status=0
   need "${BUILD_PACKAGES[@]}" "${FUZZ_PACKAGES[@]}"
   configure fuzz
   build fuzz
   local -A running=()
   for program in build/fuzz/bin/fuzz_*; do
-    start_fuzzing "$program" "$seconds" &
+    start_fuzzing "$program" "$seconds" "${2:-}" &
     running[$program]=$!
   done
   for program in "${!running[@]}"; do
@@ -234,7 +237,7 @@ usage() {
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, clang-format, clang-tidy
-./qv fuzz [SECONDS]          random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
+./qv fuzz [SECONDS [SEED]]   random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)
 TEXT

@@ -167,7 +167,7 @@ private:
         const std::string spalte = textfeld != TEXTFELDER.end() ? std::string(textfeld->spalte)
                                    : quickfilter                ? zeile.Benennung
                                                                 : zeile.Feldname;
-        return zeile.Feldname != "Kalender" && step(zeile, spalte, zeile.Wert, code);
+        return !spalte.empty() && zeile.Feldname != "Kalender" && step(zeile, spalte, zeile.Wert, code);
     }
 
     // "" when the row is no date.

@@ -77,8 +77,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Textfall{"Projekt\\A\\0\\Projekt|BenutzDef\\*\\*\\Werkstoff|", "0 [Projekt,A,0,]"},
                     Textfall{"ZusBenutzDefFirma\\A1\\\\Firma|", "2"}, Textfall{"StrukturMerkAutor\\A1\\0\\Autor|", "1"},
                     Textfall{"Hauptmerkmal_C\\Welle\\0\\C|Hauptmerkmal_E\\lang\\0\\E|", "1 [Hauptmerkmal_C,Welle,0,]"},
-                    Textfall{"Kalender\\>= 15.11.26\\0\\Wann|", "0"}, Textfall{"\\11001\\\\Status|", "0"},
-                    Textfall{"\\110012\\\\Status|", "0"},
+                    Textfall{"Kalender\\>= 15.11.26\\0\\Wann|", "0"}, Textfall{"FilternDatum\\Meier\\0\\|", "0"},
+                    Textfall{"\\11001\\\\Status|", "0"}, Textfall{"\\110012\\\\Status|", "0"},
                     Textfall{"P\\1\\0\\P|P\\2\\0\\P|P\\3\\0\\P|P\\4\\0\\P|P\\5\\0\\P|P\\6\\0\\P|",
                              "0 [P,1,0,] [P,2,0,] [P,3,0,] [P,4,0,] [P,5,0,]"}));
 
