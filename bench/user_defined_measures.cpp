@@ -89,7 +89,7 @@ void messeFall(Messreihe& reihe, Filterkontext& kontext, BareSqlite& sqlite, con
 void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
 {
     SessionState session;
-    session.Verbindung.Open(datei);
+    session.database.Verbindung.Open(datei);
     BareSqlite sqlite(datei);
     KeineMeldungen meldungen;
     KeineZwischenablage zwischenablage;
@@ -105,11 +105,12 @@ void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
         messeFall(reihe, kontext, sqlite, fall);
 
     LangeArbeit arbeit(anzeige, "");
-    reihe.begrenze("user-defined names", 300, {[&] { leseNamen(session.Verbindung, TABELLE, ""); }, [] {}, LAEUFE});
+    reihe.begrenze("user-defined names", 300,
+                   {[&] { leseNamen(session.database.Verbindung, TABELLE, ""); }, [] {}, LAEUFE});
     reihe.begrenze("user-defined values of a name", 300,
-                   {[&] { leseWerte(session.Verbindung, TABELLE, "Gewicht"); }, [] {}, LAEUFE});
+                   {[&] { leseWerte(session.database.Verbindung, TABELLE, "Gewicht"); }, [] {}, LAEUFE});
     reihe.begrenze("user-defined, four additional lists", 5000,
-                   {[&] { leseZusaetze(session.Verbindung, TABELLE, 0, arbeit); }, [] {}, LAEUFE});
+                   {[&] { leseZusaetze(session.database.Verbindung, TABELLE, 0, arbeit); }, [] {}, LAEUFE});
 }
 
 } // namespace quelvarn::bench

@@ -12,13 +12,13 @@ void playFirstDay(Register& office, std::string_view user, const Input& input)
     World world;
     SessionState session = office.sessionOf(user, world);
     require(world.boxes.shown == std::vector<std::string>{""}); // He is greeted.
-    require(session.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.ActiveQuelvarn);
-    require(session.Suchtexte.empty() && session.Starttabelle == "Bauteile");
+    require(session.rights.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.pages.ActiveQuelvarn);
+    require(session.pages.Suchtexte.empty() && session.pages.Starttabelle == "Bauteile");
     for (const DokuTyp& type : DOKUTYPEN)
         require(gespeicherteNamen(session, type.tab).empty() && leseFavoriten(session, type).empty());
     Register::filter(session, world, input);
     Register::ask(session, input);
-    session.ActiveQuelvarn = true;
+    session.pages.ActiveQuelvarn = true;
     session.Tree.Knoten = false;
     schreibeStartseite(session);
     Register::save(session, input);
@@ -29,7 +29,7 @@ void playSecondDay(Register& office, std::string_view user, const Input& input)
     World world;
     SessionState session = office.sessionOf(user, world);
     require(world.boxes.shown.empty());
-    require(session.ActiveQuelvarn && !session.Tree.Knoten);
+    require(session.pages.ActiveQuelvarn && !session.Tree.Knoten);
     Register::requireSaved(session, input);
 }
 

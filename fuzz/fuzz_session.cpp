@@ -22,7 +22,7 @@ public:
     void play(const Input& input)
     {
         readAgain();
-        require(session_.Suchtexte.empty() && gespeicherteNamen(session_, 0).empty());
+        require(session_.pages.Suchtexte.empty() && gespeicherteNamen(session_, 0).empty());
         world_.boxes.shown.clear();
         Register::filter(session_, world_, input);
         Register::ask(session_, input);
@@ -40,7 +40,7 @@ private:
     {
         std::string_view label;
         Startlauf run{
-            .session = session_, .ports = world_.ports, .abschnitt = label, .ini = IniZeilen(session_.Verbindung)};
+            .session = session_, .ports = world_.ports, .abschnitt = label, .ini = IniZeilen(session_.database.Verbindung)};
         leseSuchtexte(run);
         leseGespeicherteFilter(run);
     }

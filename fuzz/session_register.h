@@ -83,8 +83,8 @@ public:
         for (const std::string_view user : {ANNA, BOB}) {
             World world;
             SessionState session = sessionOf(user, world);
-            session.Starttabelle = "Zeichnungen";
-            session.ActiveQuelvarn = true;
+            session.pages.Starttabelle = "Zeichnungen";
+            session.pages.ActiveQuelvarn = true;
             schreibeStartseite(session);
             save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
             connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
@@ -95,21 +95,21 @@ public:
     SessionState sessionOf(std::string_view user, World& world)
     {
         SessionState session;
-        session.Anwender = user;
-        session.OrdnerSEDokumente = "C:\\SE";
-        session.Verbindung = Connection(engine_);
+        session.user.Anwender = user;
+        session.folders.OrdnerSEDokumente = "C:\\SE";
+        session.database.Verbindung = Connection(engine_);
         std::string_view label;
         Startlauf run{
-            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.Verbindung)};
+            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.database.Verbindung)};
         require(readRegister(run));
         return session;
     }
 
     static void save(SessionState& session, const Input& input)
     {
-        session.Suchtexte = {input.search};
+        session.pages.Suchtexte = {input.search};
         schreibeDokumentseite(session, 0);
-        Recordset& filters = session.GespeicherteFilter[0];
+        Recordset& filters = session.pages.GespeicherteFilter[0];
         filters.AddNew();
         filters.setzeFeld("Filtername", input.name);
         filters.setzeFeld("Filterstring", input.value);
@@ -147,7 +147,7 @@ public:
                 if (equalText(known, input.value) || equalText(known, input.DokuBez))
                     return;
         }
-        Connection& database = session.Verbindung;
+        Connection& database = session.database.Verbindung;
         DokuRecord record;
         record.DokuBez = input.DokuBez;
         record.RevBez = input.value;
@@ -159,7 +159,7 @@ public:
         require(EnthaltenInTIFFTabelle(database, input.value + ".dft").empty());
         require(kennungen(database, {input.value, input.DokuBez}).empty());
         require(VorlageSuchen(database, std::vector{input.value, input.DokuBez}).empty());
-        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.WhereStatus));
+        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.rights.WhereStatus));
         require(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{input.DokuBez, "A"}}).front().empty());
     }
 
@@ -167,7 +167,7 @@ public:
     static void requireSaved(SessionState& session, const Input& input)
     {
         const std::string text(rightCharacters(input.search, 50));
-        require(session.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
+        require(session.pages.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
         require(gespeicherteNamen(session, 0) == std::vector{input.name});
         require(SavedFilterString(session, 0, input.name) == input.value);
         const auto favourites = leseFavoriten(session, DOKUTYPEN[0]);

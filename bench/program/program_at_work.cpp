@@ -50,11 +50,12 @@ LaufendesProgramm::LaufendesProgramm(const fs::path& datenbank)
 {
     darstellung_.setzeModus(Modus::Hell);
     darstellung_.wendeAn(*qApp);
-    session_.Anwender = ANWENDER;
-    session_.Rechner = "Messplatz";
-    session_.OrdnerBasis = "C:\\Quelvarnis";
-    session_.OrdnerSEDokumente = session_.OrdnerDatenbankPfad = session_.OrdnerOfflineVersand = session_.OrdnerBasis;
-    session_.DatenbankPfad = "W:\\" + datenbank.filename().string();
+    session_.user.Anwender = ANWENDER;
+    session_.user.Rechner = "Messplatz";
+    session_.folders.OrdnerBasis = "C:\\Quelvarnis";
+    session_.folders.OrdnerSEDokumente = session_.folders.OrdnerDatenbankPfad = session_.folders.OrdnerOfflineVersand =
+        session_.folders.OrdnerBasis;
+    session_.database.DatenbankPfad = "W:\\" + datenbank.filename().string();
     if (!Hauptprogramm(session_, ports_))
         throw std::runtime_error("the register of the bench does not open");
     meldungen_.erlaubt = false;
@@ -65,14 +66,14 @@ LaufendesProgramm::~LaufendesProgramm() = default;
 void LaufendesProgramm::zeigeStartseite()
 {
     // Where no database stands open the program begins on its start page and forgets the path.
-    const std::string pfad = session_.DatenbankPfad;
-    session_.DatenbankOk = false;
+    const std::string pfad = session_.database.DatenbankPfad;
+    session_.database.DatenbankOk = false;
     arbeitsplatz_.reset();
     arbeitsplatz_ = std::make_unique<Arbeitsplatz>(session_, ports_, darstellung_, [] { std::exit(2); });
     if (!arbeitsplatz_->starte())
         throw std::runtime_error("the window of the program does not open");
-    session_.DatenbankOk = true;
-    session_.DatenbankPfad = pfad;
+    session_.database.DatenbankOk = true;
+    session_.database.DatenbankPfad = pfad;
     QCoreApplication::processEvents();
 }
 

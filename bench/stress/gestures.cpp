@@ -22,10 +22,10 @@ std::string favouriteOf(long turn, int number)
 
 void countUp(SessionState& session)
 {
-    IniZeilen ini(session.Verbindung);
-    Recordset row = ini.zeilen(session.Anwender, COUNTER_GROUP);
+    IniZeilen ini(session.database.Verbindung);
+    Recordset row = ini.zeilen(session.user.Anwender, COUNTER_GROUP);
     if (row.leer())
-        ini.fuegeAn({session.Anwender, COUNTER_GROUP, "", "1"});
+        ini.fuegeAn({session.user.Anwender, COUNTER_GROUP, "", "1"});
     else
         ini.aendere(row, "Feld4", std::to_string(std::stoll(row.Text("Feld4")) + 1));
     ini.schliesseAb();
@@ -35,9 +35,9 @@ Recordset openUses(SessionState& session, long turn)
 {
     Recordset rows;
     rows.Open(sql::Query("CheckInOut")
-                  .where(sql::all(sql::equal("ADNutzer", 1), sql::equal("AnwenderNutzer", session.Anwender),
-                                  sql::equal("filenameNutzer", fileOf(session.Anwender, turn)))),
-              session.Verbindung, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
+                  .where(sql::all(sql::equal("ADNutzer", 1), sql::equal("AnwenderNutzer", session.user.Anwender),
+                                  sql::equal("filenameNutzer", fileOf(session.user.Anwender, turn)))),
+              session.database.Verbindung, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
     return rows;
 }
 
@@ -46,9 +46,9 @@ void checkOut(SessionState& session, long turn)
     Recordset rows = openUses(session, turn);
     rows.AddNew();
     rows.setzeFeld("ADNutzer", std::int64_t{1});
-    rows.setzeFeld("AnwenderNutzer", session.Anwender);
-    rows.setzeFeld("RechnerNutzer", session.Anwender);
-    rows.setzeFeld("filenameNutzer", fileOf(session.Anwender, turn));
+    rows.setzeFeld("AnwenderNutzer", session.user.Anwender);
+    rows.setzeFeld("RechnerNutzer", session.user.Anwender);
+    rows.setzeFeld("filenameNutzer", fileOf(session.user.Anwender, turn));
     rows.setzeFeld("DokuBezNutzer", documentOf(turn));
     rows.Update();
 }
@@ -59,27 +59,27 @@ void checkIn(SessionState& session, long turn)
     Recordset rows = openUses(session, turn);
     if (rows.RecordCount() > 1)
         throw Laufzeitfehler(1, "stress",
-                             fmt::format("{} rows of {}", rows.RecordCount(), fileOf(session.Anwender, turn)));
+                             fmt::format("{} rows of {}", rows.RecordCount(), fileOf(session.user.Anwender, turn)));
     if (!rows.leer())
         rows.Delete();
 }
 
 void saveTexts(SessionState& session, long turn)
 {
-    IniZeilen ini(session.Verbindung);
-    Recordset old = ini.zeilen(session.Anwender, TEXT_GROUP);
+    IniZeilen ini(session.database.Verbindung);
+    Recordset old = ini.zeilen(session.user.Anwender, TEXT_GROUP);
     ini.loesche(old);
     for (int i = 0; i < TEXTS; ++i)
-        ini.fuegeAn({session.Anwender, TEXT_GROUP, fmt::format("Text{}", i), std::to_string(turn)});
+        ini.fuegeAn({session.user.Anwender, TEXT_GROUP, fmt::format("Text{}", i), std::to_string(turn)});
     ini.schliesseAb();
 }
 
 void saveSwitches(SessionState& session, long turn)
 {
-    IniZeilen ini(session.Verbindung);
-    Recordset rows = ini.zeilen(session.Anwender, SWITCH_GROUP);
+    IniZeilen ini(session.database.Verbindung);
+    Recordset rows = ini.zeilen(session.user.Anwender, SWITCH_GROUP);
     for (int i = 0; rows.leer() && i < SWITCHES; ++i)
-        ini.fuegeAn({session.Anwender, SWITCH_GROUP, fmt::format("Schalter{}", i), std::to_string(turn)});
+        ini.fuegeAn({session.user.Anwender, SWITCH_GROUP, fmt::format("Schalter{}", i), std::to_string(turn)});
     for (; !rows.Eof(); rows.MoveNext())
         ini.aendere(rows, "Feld4", std::to_string(turn));
     ini.schliesseAb();
@@ -87,7 +87,7 @@ void saveSwitches(SessionState& session, long turn)
 
 void addFavourites(SessionState& session, long turn)
 {
-    Transaktion transaction(session.Verbindung);
+    Transaktion transaction(session.database.Verbindung);
     for (int i = 0; i < FAVOURITES; ++i)
         schreibeFavorit(session, DOKUTYPEN[0], {favouriteOf(turn, i), "0"});
     transaction.schliesseAb();

@@ -41,7 +41,7 @@ int openWindow(Anwendung& anwendung)
     const auto system = systemPorts(standardLaufwerkeOrdner());
     Ports ports = system->mit(meldungen, zwischenablage, fortschritt);
     SessionState session;
-    session.Verbindung.setPatience(&patience);
+    session.database.Verbindung.setPatience(&patience);
 
     Waechter waechter(meldungen, beendeSofort);
     ProgramEnd programEnd(meldungen, patience, fortschritt);

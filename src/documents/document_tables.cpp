@@ -24,12 +24,13 @@ DocumentTables::DocumentTables(SessionState& session, Operations& operations)
 // On its first row. A revision that sorts higher stands before the older ones of its document.
 Recordset DocumentTables::OpenDokuTabelle(const DokuTyp& type) const
 {
-    const std::string_view scope = type.statusbereich ? std::string_view(session_.WhereStatus) : std::string_view();
+    const std::string_view scope =
+        type.statusbereich ? std::string_view(session_.rights.WhereStatus) : std::string_view();
     Recordset rows;
     if (wholeLimit_)
         rows.setzeGanzGrenze(*wholeLimit_);
     rows.Open(sql::Query(type.tabelle).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
-              session_.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
+              session_.database.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
     if (!rows.leer())
         rows.MoveFirst();
     return rows;

@@ -33,7 +33,7 @@ void FilterPage::seiteGezeigt(Seite seite)
 void FilterPage::OpenFilterPage()
 {
     perform("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
-        geladen_ = kontext_.session.FormSEFilternGeladen = true;
+        geladen_ = kontext_.session.pages.FormSEFilternGeladen = true;
         kontext_.tab = kontext_.tables.tab();
         // The steps of a quick filter do not belong here.
         if (!kontext_.table().narrowing().quickFilter.empty())
@@ -65,7 +65,7 @@ void FilterPage::verlassen()
 void FilterPage::entladen()
 {
     CloseFilterPage();
-    geladen_ = kontext_.session.FormSEFilternGeladen = false;
+    geladen_ = kontext_.session.pages.FormSEFilternGeladen = false;
 }
 
 // Saved filters go to the database that they are from, which is still open.
@@ -282,11 +282,11 @@ std::string FilterPage::kopfFilterwerte() const
 std::string FilterPage::zugriffText() const
 {
     const SessionState& session = kontext_.session;
-    if (session.siehtAlleStati())
+    if (session.rights.siehtAlleStati())
         return zugriffstext(session);
     std::string text = "Berechtigung:"; // No short form for a single status, unlike the document page.
     for (std::size_t status = 0; status < STATUS.size(); ++status)
-        if (session.Sichtbar[status] == 1)
+        if (session.rights.Sichtbar[status] == 1)
             text += STATUS[status].kurz;
     return text;
 }

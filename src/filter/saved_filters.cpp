@@ -20,7 +20,7 @@ constexpr std::size_t LAENGSTER_NAME = 50;
 
 const Recordset& liste(const SessionState& session, int tab)
 {
-    return session.GespeicherteFilter[static_cast<std::size_t>(tab)];
+    return session.pages.GespeicherteFilter[static_cast<std::size_t>(tab)];
 }
 
 std::size_t anzahl(const Recordset& liste)
@@ -44,7 +44,7 @@ std::optional<std::size_t> findeZeile(const Recordset& liste, std::string_view F
 // The list of the kontext's type; nullptr, after a box, when no database has filled it.
 Recordset* findeListe(Filterkontext& kontext)
 {
-    Recordset& liste = kontext.session.GespeicherteFilter[static_cast<std::size_t>(kontext.tab)];
+    Recordset& liste = kontext.session.pages.GespeicherteFilter[static_cast<std::size_t>(kontext.tab)];
     if (liste.offen())
         return &liste;
     kontext.ports().meldungen.warnung(TITEL, "Es konnte keine Tabelle zugeordnet werden!");
@@ -111,16 +111,16 @@ void SaveFilterRows(SessionState& session, int tab)
     if (!filter.offen())
         return;
     const std::string_view schluessel = DOKUTYPEN[static_cast<std::size_t>(tab)].schluessel;
-    IniZeilen ini(session.Verbindung);
-    Recordset zeilen = ini.zeilen(session.Anwender, GRUPPE, schluessel);
+    IniZeilen ini(session.database.Verbindung);
+    Recordset zeilen = ini.zeilen(session.user.Anwender, GRUPPE, schluessel);
     if (stehtSoInDerTabelle(zeilen, filter))
         return;
     ini.writeAlone();
-    zeilen = ini.zeilen(session.Anwender, GRUPPE, schluessel);
+    zeilen = ini.zeilen(session.user.Anwender, GRUPPE, schluessel);
     ini.loesche(zeilen);
     for (std::size_t i = 0; i < filter.RecordCount(); ++i)
-        ini.fuegeAn(
-            {session.Anwender, GRUPPE, schluessel, text(filter, i, "Filtername"), text(filter, i, "Filterstring")});
+        ini.fuegeAn({session.user.Anwender, GRUPPE, schluessel, text(filter, i, "Filtername"),
+                     text(filter, i, "Filterstring")});
     ini.schliesseAb();
 }
 

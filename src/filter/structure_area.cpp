@@ -176,7 +176,7 @@ std::optional<Strukturbereich::Zweig> Strukturbereich::leseZweig(const Strukturp
         zweig.kinder = knotenVon(tabelle().verschiedeneTexte(merkmal(pfad.size()), *zeilen, nichtLeer));
     zweig.material = werteliste(tabelle().verschiedeneTexte("Material", *zeilen, nichtNurBlanks));
     zweig.firma = werteliste(tabelle().verschiedeneTexte("Firma", *zeilen, nichtNurBlanks));
-    zweig.vorlage = VorlageSuchen(kontext_.session.Verbindung, pfad);
+    zweig.vorlage = VorlageSuchen(kontext_.session.database.Verbindung, pfad);
     return zweig;
 }
 

@@ -36,14 +36,14 @@ std::string_view tabelleVon(const Filterkontext& kontext)
 std::string BenutzDefBereich::bezeichnung(int zusatz) const
 {
     const std::string_view spalte = ZUSATZSPALTEN[static_cast<std::size_t>(zusatz)];
-    const auto& namen = kontext_.session.Bezeichnungen;
+    const auto& namen = kontext_.session.labels.Bezeichnungen;
     const auto name = namen.find(toLower(spalte));
     return name == namen.end() ? std::string(spalte) : name->second;
 }
 
 bool BenutzDefBereich::vorhanden() const
 {
-    const Connection& verbindung = kontext_.session.Verbindung;
+    const Connection& verbindung = kontext_.session.database.Verbindung;
     return verbindung.offen() && verbindung.engine().findTabelle(tabelleVon(kontext_)).has_value();
 }
 
@@ -59,12 +59,12 @@ void BenutzDefBereich::sperre()
 
 void BenutzDefBereich::fuelleListen()
 {
-    Connection& verbindung = kontext_.session.Verbindung;
+    Connection& verbindung = kontext_.session.database.Verbindung;
     name_.clear();
     werte_ = {};
     kennungen_.clear();
     zusatz_ = {};
-    namen_ = alsListe(leseNamen(verbindung, tabelleVon(kontext_), kontext_.session.WhereStatus));
+    namen_ = alsListe(leseNamen(verbindung, tabelleVon(kontext_), kontext_.session.rights.WhereStatus));
     const std::size_t zeilen = kontext_.table().count() * ZEILEN_JE_DOKUMENT; // Opening it has a progress of its own.
     LangeArbeit arbeit(kontext_.ports().fortschritt, "Listen werden gefüllt ...");
     auto zusaetze = leseZusaetze(verbindung, tabelleVon(kontext_), zeilen, arbeit);
@@ -91,7 +91,7 @@ void BenutzDefBereich::fuelleWerte()
         return kontext_.operations.changed(Part::FilterPage);
     kontext_.operations.perform(
         Part::FilterPage, "SE-Filtern: Werte der Eigenschaft", "Fehler beim Füllen der Werteliste!", [&] {
-            Connection& verbindung = kontext_.session.Verbindung;
+            Connection& verbindung = kontext_.session.database.Verbindung;
             LangeArbeit arbeit(kontext_.ports().fortschritt, "Werte werden gelesen ...");
             const std::vector<std::string> werte = leseWerte(verbindung, tabelleVon(kontext_), name_);
             std::vector<std::string> gezeigte{std::string(JEDER_WERT)};

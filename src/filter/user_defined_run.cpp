@@ -40,7 +40,7 @@ public:
     {
         // A special table's documents are looked up among the parts first.
         const bool sonder = typ_.sondertabelle > 0;
-        const std::string& WhereStatus = kontext.session.WhereStatus;
+        const std::string& WhereStatus = kontext.session.rights.WhereStatus;
         fundorte_.push_back({sonder ? DOKUTYPEN[0].tabelle : typ_.tabelle, WhereStatus});
         if (sonder)
             fundorte_.push_back({typ_.tabelle, ""});
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    Connection& verbindung() const { return kontext_.session.Verbindung; }
+    Connection& verbindung() const { return kontext_.session.database.Verbindung; }
 
     bool weiter()
     {
@@ -78,7 +78,7 @@ private:
         sql::Select select;
         select.tabelle = typ_.tabelleBenutzDef;
         select.spalten = {"DokuBez", "RevBez", "Name", "Wert"};
-        select.where = sql::all(std::move(bedingung), sql::statusScope(kontext_.session.WhereStatus));
+        select.where = sql::all(std::move(bedingung), sql::statusScope(kontext_.session.rights.WhereStatus));
         for (const AdditionalValue& value : ZusBenutzDef_)
             select.where = sql::all(std::move(select.where), valueCondition(ZUSATZSPALTEN[value.column], value.Wert));
         const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Nein);

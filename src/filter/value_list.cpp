@@ -19,8 +19,8 @@ std::string anzeigename(const SessionState& session, std::string_view Feldname)
         schluessel = "stichwörter";
     else if (Feldname == "Geaendert")
         schluessel = "geändert";
-    const auto name = session.Bezeichnungen.find(schluessel);
-    return name == session.Bezeichnungen.end() ? std::string(Feldname) : name->second;
+    const auto name = session.labels.Bezeichnungen.find(schluessel);
+    return name == session.labels.Bezeichnungen.end() ? std::string(Feldname) : name->second;
 }
 
 } // namespace quelvarn

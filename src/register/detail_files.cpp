@@ -13,8 +13,8 @@ namespace {
 // Where the finished orders of this session go in the end.
 std::string archivordner(const SessionState& session)
 {
-    const bool lokal = session.AuftraegeLokal || session.PlotPfad.empty();
-    return (lokal ? session.OrdnerOfflineVersand : session.PlotPfad) + "\\Auftragsarchiv";
+    const bool lokal = session.orders.AuftraegeLokal || session.orders.PlotPfad.empty();
+    return (lokal ? session.folders.OrdnerOfflineVersand : session.orders.PlotPfad) + "\\Auftragsarchiv";
 }
 
 bool sollImArchivSuchen(Meldungen& meldungen, const std::string& pfad)

@@ -32,8 +32,8 @@ std::string datumOderLeer(const Value& datum)
 
 std::string merkmalname(const SessionState& session, std::size_t nummer)
 {
-    const auto name = session.Bezeichnungen.find(fmt::format("hauptmerkmal {}", buchstabe('a', nummer)));
-    return name == session.Bezeichnungen.end() ? std::string() : name->second;
+    const auto name = session.labels.Bezeichnungen.find(fmt::format("hauptmerkmal {}", buchstabe('a', nummer)));
+    return name == session.labels.Bezeichnungen.end() ? std::string() : name->second;
 }
 
 void trenne(Textliste& liste)

@@ -38,7 +38,7 @@ void Detailseiten::fuelle(InfoSeite seite, const DokuTyp& typ, const DokuRecord&
     ++fassung_;
     tiff_.clear(); // A picture behind another page would only cost memory.
     grafik_ = {};
-    Connection& verbindung = session_.Verbindung;
+    Connection& verbindung = session_.database.Verbindung;
     switch (seite) {
     case InfoSeite::Revisionen:
         revErstBearb_ = RevErstBearb::Erstellt;
@@ -83,7 +83,7 @@ void Detailseiten::leere()
 void Detailseiten::fuelleHauptmerkmale()
 {
     LblPfadDateiVorlage_.clear();
-    LblPfadDateiVorlage_ = VorlageSuchen(session_.Verbindung, templateBranch(record_));
+    LblPfadDateiVorlage_ = VorlageSuchen(session_.database.Verbindung, templateBranch(record_));
     listen_[InfoSeite::Hauptmerkmale] = hauptmerkmalListe(record_, session_, !LblPfadDateiVorlage_.empty());
 }
 
@@ -95,7 +95,8 @@ void Detailseiten::setzeRevErstBearb(RevErstBearb ansicht)
         revErstBearb_ = ansicht;
         listen_.erase(InfoSeite::Revisionen);
         ++fassung_;
-        listen_[InfoSeite::Revisionen] = InfoRevision(session_.Verbindung, typ_->tabelle, record_.DokuBez, ansicht);
+        listen_[InfoSeite::Revisionen] =
+            InfoRevision(session_.database.Verbindung, typ_->tabelle, record_.DokuBez, ansicht);
     });
 }
 
@@ -141,7 +142,7 @@ Dateibild Detailseiten::bildVon(const std::string& pfad) const
 
 void Detailseiten::zeigeTiff()
 {
-    std::string pfad = findTiff(session_.Verbindung, ports_.dateien, record_);
+    std::string pfad = findTiff(session_.database.Verbindung, ports_.dateien, record_);
     if (pfad.empty())
         pfad = mitEndung(record_.filename, "tif"); // It was there when the tree was built.
     if (vorhandenOderBox(pfad))

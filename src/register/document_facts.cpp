@@ -38,11 +38,11 @@ bool DocumentFacts::has(InfoSeite relation) const
 void findFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& type, SessionState& session,
                const Ports& ports)
 {
-    const Revisionsstand stand = revisionsstand(session.Verbindung, type.tabelle, record.DokuBez);
+    const Revisionsstand stand = revisionsstand(session.database.Verbindung, type.tabelle, record.DokuBez);
     facts.severalRevisions = stand.mehrere;
     facts.newerRevision = neuereRevision(stand, record);
     if (type.schluessel == "Draft") {
-        facts.tiff = session.Tree.TIFFDoku && !findTiff(session.Verbindung, ports.dateien, record).empty();
+        facts.tiff = session.Tree.TIFFDoku && !findTiff(session.database.Verbindung, ports.dateien, record).empty();
         facts.pdf = session.Tree.PDFDoku && !findPdf(ports.dateien, record).empty();
     }
     if (!session.Tree.Verwendung)
@@ -50,7 +50,7 @@ void findFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& ty
     std::string path = record.filename;
     UniversalNachLaufwerk(path, ports);
     for (const InfoSeite relation : relationsOf(type))
-        if (gibtEsVerwendung(session.Verbindung, verwendungsartVon(relation), record, path))
+        if (gibtEsVerwendung(session.database.Verbindung, verwendungsartVon(relation), record, path))
             facts.relations.push_back(relation);
     facts.relationsAsked = true;
 }
@@ -63,11 +63,12 @@ void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const Dok
     const Baumschalter& switches = session.Tree;
     const bool ofFiles = type.sondertabelle == 0;
     if (switches.BenutzDef || (switches.Versendet && ofFiles)) {
-        const Benutzerzeilen rows = benutzerzeilen(session.Verbindung, type.tabelleBenutzDef, record);
+        const Benutzerzeilen rows = benutzerzeilen(session.database.Verbindung, type.tabelleBenutzDef, record);
         found.userDefined = rows.eigenschaften;
         found.sent = rows.versendet;
     }
-    found.additionalDocuments = switches.ZusDoku && ofFiles && hatZusatzdokumente(session.Verbindung, record.filename);
+    found.additionalDocuments =
+        switches.ZusDoku && ofFiles && hatZusatzdokumente(session.database.Verbindung, record.filename);
 }
 
 } // namespace quelvarn

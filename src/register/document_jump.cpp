@@ -60,9 +60,10 @@ bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
 bool Dokumentsprung::moveTo(const DokuTyp& typ, const std::string& filename)
 {
     Recordset& rows = tables_[typ.tab].visible();
-    return std::ranges::any_of(documentsWithPath(session_.Verbindung, typ, filename), [&](const Dokumentname& name) {
-        return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
-    });
+    return std::ranges::any_of(documentsWithPath(session_.database.Verbindung, typ, filename),
+                               [&](const Dokumentname& name) {
+                                   return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
+                               });
 }
 
 bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen)

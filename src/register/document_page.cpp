@@ -25,13 +25,13 @@ void DocumentPage::baumschalterGeaendert()
 
 void DocumentPage::entladen()
 {
-    if (!session_.FormSEDokuGeladen)
+    if (!session_.pages.FormSEDokuGeladen)
         return;
     saveSettings(operations_.ports(), "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
-        if (session_.Verbindung.offen())
+        if (session_.database.Verbindung.offen())
             schreibeDokumentseite(session_, tables_.tab());
     });
-    session_.FormSEDokuGeladen = false;
+    session_.pages.FormSEDokuGeladen = false;
     tabs_.forgetDatabase();
 }
 

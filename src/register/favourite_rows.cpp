@@ -46,10 +46,10 @@ bool derselbe(const Favorit& links, const Favorit& rechts)
 
 std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
 {
-    IniZeilen ini(session.Verbindung);
+    IniZeilen ini(session.database.Verbindung);
     std::vector<Favorit> favoriten;
     for (Recordset zeilen = ini.lese(sql::Query("Ini")
-                                         .where(iniRows(session.Anwender, GRUPPE, typ.schluessel))
+                                         .where(iniRows(session.user.Anwender, GRUPPE, typ.schluessel))
                                          .sortedBy("Feld4")
                                          .sortedBy("Feld5"));
          !zeilen.Eof(); zeilen.MoveNext())
@@ -60,14 +60,14 @@ std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
 
 void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit)
 {
-    IniZeilen ini(session.Verbindung);
+    IniZeilen ini(session.database.Verbindung);
     ini.writeAlone();
     for (Recordset zeilen = ini.lese(sql::Query("Ini").where(
-             sql::all(iniRows(session.Anwender, GRUPPE, typ.schluessel), sql::equal("Feld4", favorit.DokuBez))));
+             sql::all(iniRows(session.user.Anwender, GRUPPE, typ.schluessel), sql::equal("Feld4", favorit.DokuBez))));
          !zeilen.Eof(); zeilen.MoveNext())
         if (derselbe(favoritVon(zeilen), favorit))
             return;
-    ini.fuegeAn({session.Anwender, GRUPPE, typ.schluessel, favorit.DokuBez, favorit.RevBez});
+    ini.fuegeAn({session.user.Anwender, GRUPPE, typ.schluessel, favorit.DokuBez, favorit.RevBez});
     ini.schliesseAb();
 }
 
@@ -78,9 +78,9 @@ void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const
         gemeint.push_back(schluessel(favorit.DokuBez, favorit.RevBez));
     std::ranges::sort(gemeint);
 
-    IniZeilen ini(session.Verbindung);
-    Recordset zeilen = ini.zeilen(session.Anwender, GRUPPE, typ.schluessel);
-    Transaktion transaktion(session.Verbindung);
+    IniZeilen ini(session.database.Verbindung);
+    Recordset zeilen = ini.zeilen(session.user.Anwender, GRUPPE, typ.schluessel);
+    Transaktion transaktion(session.database.Verbindung);
     while (!zeilen.Eof()) {
         const Favorit favorit = favoritVon(zeilen);
         if (std::ranges::binary_search(gemeint, schluessel(favorit.DokuBez, favorit.RevBez)))

@@ -84,7 +84,7 @@ void Favoriten::FavoritLaden(const DokuTyp& typ, Liste& liste)
     std::vector<std::string> dateien(favoriten.size());
     liste.FavoritenGeladen = gesichert(ports_.meldungen, "Modul: Ermitteln filename für DokuBez und RevBez",
                                        "Fehler beim Ermitteln filename für DokuBez und RevBez!",
-                                       [&] { dateien = dateienVon(session_.Verbindung, typ, favoriten); });
+                                       [&] { dateien = dateienVon(session_.database.Verbindung, typ, favoriten); });
     liste.zeilen = neueListe();
     for (std::size_t i = 0; i < favoriten.size(); ++i)
         fuegeAn(liste.zeilen, favoriten[i], dateien[i]);

@@ -57,7 +57,7 @@ void Schnellfilter::textFiltern()
 {
     if (suche_.CombSuchStr().empty())
         return;
-    SuchTextMerken(session_.Suchtexte, suche_.CombSuchStr());
+    SuchTextMerken(session_.pages.Suchtexte, suche_.CombSuchStr());
     operations_.perform(Part::LeftBar, "Filterung Text", "Fehler bei der Filterung nach Text!",
                         [this] { filtereText(); });
 }
@@ -125,7 +125,7 @@ bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
     const Datumsfeld& feld = DATUMSFELDER[static_cast<std::size_t>(OpErstAend_)];
     std::vector<FilterSchritt> schritte{{std::string(feld.feld), formatDatum(tag), feld.code, {}}};
     if (ChAnwender_)
-        schritte.push_back({std::string(feld.person), session_.Anwender, CodeText, {}});
+        schritte.push_back({std::string(feld.person), session_.user.Anwender, CodeText, {}});
     std::vector<FilterRow> werte;
     for (const FilterSchritt& schritt : schritte)
         werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});

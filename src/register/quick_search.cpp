@@ -95,7 +95,7 @@ void Schnellsuche::setzeFeld(std::size_t suchfeld)
 
 const std::vector<std::string>& Schnellsuche::suchtexte() const
 {
-    return session_.Suchtexte;
+    return session_.pages.Suchtexte;
 }
 
 const std::vector<FilterRow>* Schnellsuche::gesuchteWerte() const
@@ -108,7 +108,7 @@ const std::string& Schnellsuche::nimmText()
 {
     if (ChDynSuchen_)
         return TextDocuBez_;
-    SuchTextMerken(session_.Suchtexte, CombSuchStr_);
+    SuchTextMerken(session_.pages.Suchtexte, CombSuchStr_);
     return CombSuchStr_;
 }
 

@@ -43,7 +43,7 @@ void RelationActions::addToFavourites()
     page_.perform([&] {
         if (!page_.bedienbar())
             return;
-        const auto document = findDokument(session_.Verbindung, *page_.type(), page_.filename());
+        const auto document = findDokument(session_.database.Verbindung, *page_.type(), page_.filename());
         if (!document)
             return meldeKeinenFavoriten(ports_.meldungen);
         favourites_.FavoritHinzufuegen(document->DokuBez, document->RevBez, page_.type()->schluessel, page_.filename());

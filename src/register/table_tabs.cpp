@@ -18,14 +18,14 @@ TableTabs::TableTabs(SessionState& session, Operations& operations, DocumentTabl
 // Once per database: lazily opened tables of another one must not be left over.
 void TableTabs::StartTabelleZeigen()
 {
-    if (session_.DatenbankPfad == shownDatabase_)
+    if (session_.database.DatenbankPfad == shownDatabase_)
         return;
     operations_.perform(Part::Document, "Starttabelle", "Fehler beim Anzeigen der Starttabelle!", [&] {
         forgetDatabase();
-        shownDatabase_ = session_.DatenbankPfad;
-        session_.FormSEDokuGeladen = true;
+        shownDatabase_ = session_.database.DatenbankPfad;
+        session_.pages.FormSEDokuGeladen = true;
         for (const DokuTyp& type : DOKUTYPEN) {
-            if (type.sondertabelle == 0 && type.mehrzahl == session_.Starttabelle)
+            if (type.sondertabelle == 0 && type.mehrzahl == session_.pages.Starttabelle)
                 goTo(type.tab);
         }
     });

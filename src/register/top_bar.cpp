@@ -74,7 +74,7 @@ bool ObereLeiste::bedienbar(std::string_view schluessel) const
         return schluessel == "Anschauen";
     // Where use is not registered its box tells what to do; the list of users has no page yet.
     if (schluessel == "In Benutzung..")
-        return !session_.CheckInOutOn;
+        return !session_.use.CheckInOutOn;
     const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
     return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || tables_.current().hasRows());
 }
@@ -138,7 +138,7 @@ void ObereLeiste::zeigeFavoriten(bool an)
 // The list of users behind the button is there only when uses are registered.
 void ObereLeiste::inBenutzung(bool /*an*/)
 {
-    if (!session_.CheckInOutOn)
+    if (!session_.use.CheckInOutOn)
         ports_.meldungen.warnung("CheckInOut der Benutzung",
                                  zeilen({
                                      "Die Benutzung wird nicht registriert, da 'CheckInOut' in der",

@@ -68,7 +68,7 @@ void Verwendungsseite::fuelle(const Verwendungsart& art)
     const DokuRecord& record = tables_.current().record();
     std::string pfad = record.filename;
     UniversalNachLaufwerk(pfad, ports_);
-    zeilen_ = verwendungszeilen(session_.Verbindung, art, record, pfad);
+    zeilen_ = verwendungszeilen(session_.database.Verbindung, art, record, pfad);
     leseZeile();
 }
 
@@ -90,7 +90,7 @@ void Verwendungsseite::leseZeile()
     if (!hatZeilen())
         return;
     filename_ = zeilen_.Text(art_->felder.filename);
-    dokument_ = dokumentZu(session_.Verbindung, *art_, zeilen_);
+    dokument_ = dokumentZu(session_.database.Verbindung, *art_, zeilen_);
 }
 
 // --- the current row -------------------------------------------------------------------------------------------
@@ -115,7 +115,7 @@ void Verwendungsseite::zeileGewaehlt(std::size_t position)
 bool Verwendungsseite::liegtImStatusbereich() const
 {
     return !dokument_.typ || dokument_.SondertabelleNr != 0 ||
-           istSichtbar(session_.Verbindung, *dokument_.typ, filename_, session_.WhereStatus);
+           istSichtbar(session_.database.Verbindung, *dokument_.typ, filename_, session_.rights.WhereStatus);
 }
 
 // Tells that a component lies outside the statuses of the user, and lets him see it all the same.

@@ -72,18 +72,18 @@ std::string fehlertext(std::string_view pfad, std::string_view abschnitt)
 // Lets go of everything that stood on the connection, and of the connection.
 void trenne(SessionState& session)
 {
-    session.CheckInOut = Recordset();
-    session.Verbindung.Close();
+    session.use.CheckInOut = Recordset();
+    session.database.Verbindung.Close();
 }
 
 // False when what lies there is no database at all.
 bool verbinde(SessionState& session, const Dateien& dateien)
 {
     trenne(session);
-    const std::filesystem::path pfad = dateien.systempfad(session.DatenbankPfad);
+    const std::filesystem::path pfad = dateien.systempfad(session.database.DatenbankPfad);
     if (erkenneDatenbank(pfad) == DatenbankArt::Unbekannt)
         return false;
-    session.Verbindung.Open(pfad);
+    session.database.Verbindung.Open(pfad);
     return true;
 }
 
@@ -92,7 +92,8 @@ bool isRegister(SessionState& session)
 {
     try {
         Recordset zeilen;
-        zeilen.Open(sql::Query("Ini").distinct().where(iniRows(session.Anwender, "Berechtigung")), session.Verbindung);
+        zeilen.Open(sql::Query("Ini").distinct().where(iniRows(session.user.Anwender, "Berechtigung")),
+                    session.database.Verbindung);
         return true;
     } catch (const DatabaseFault& fehler) {
         if (fehler.kind() != FaultKind::Other) // It tells nothing of what lies there.
@@ -131,7 +132,8 @@ bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschni
     abschnitt = "Verbindung zur Datenbank";
     if (!verbinde(session, ports.dateien))
         return false;
-    Startlauf lauf{.session = session, .ports = ports, .abschnitt = abschnitt, .ini = IniZeilen(session.Verbindung)};
+    Startlauf lauf{
+        .session = session, .ports = ports, .abschnitt = abschnitt, .ini = IniZeilen(session.database.Verbindung)};
     return readRegister(lauf);
 }
 
@@ -139,8 +141,8 @@ bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschni
 void verwirf(SessionState& session)
 {
     trenne(session);
-    session.DatenbankPfad.clear();
-    session.CheckInOutOn = session.ForwardOn = session.ActiveQuelvarn = false;
+    session.database.DatenbankPfad.clear();
+    session.use.CheckInOutOn = session.use.ForwardOn = session.pages.ActiveQuelvarn = false;
     setzeZeitintervall(session, 0);
 }
 
@@ -161,7 +163,7 @@ bool readRegister(Startlauf& lauf)
 
 bool Hauptprogramm(SessionState& session, Ports& ports)
 {
-    const std::string pfad = session.DatenbankPfad;
+    const std::string pfad = session.database.DatenbankPfad;
     std::string_view abschnitt;
     bool istRegister = false;
     const bool gelesen = gesichert(

@@ -25,13 +25,13 @@ DatabaseWatch::DatabaseWatch(SessionState& session, Ports& ports, std::function<
 
 void DatabaseWatch::tick()
 {
-    const FileState now = session_.Verbindung.fileState();
+    const FileState now = session_.database.Verbindung.fileState();
     if (now == FileState::Replaced)
         return tickReplaced();
     if (now == FileState::Gone && told_ != now)
         ports_.meldungen.warnung(TITLE, zeilen({
                                             "Die Datenbank ist nicht mehr vorhanden.",
-                                            session_.DatenbankPfad,
+                                            session_.database.DatenbankPfad,
                                             "",
                                             "Angezeigt wird, was schon gelesen ist.",
                                             "Sobald die Datei wieder da ist, geht es ohne Neustart weiter.",
@@ -47,7 +47,7 @@ void DatabaseWatch::tickReplaced()
         requireRegister();
     } catch (const Laufzeitfehler& fault) {
         if (std::exchange(told_, FileState::Replaced) != FileState::Replaced)
-            ports_.meldungen.warnung(TITLE, zeilen({REPLACED, session_.DatenbankPfad, "",
+            ports_.meldungen.warnung(TITLE, zeilen({REPLACED, session_.database.DatenbankPfad, "",
                                                     "Sie lässt sich nicht öffnen:", fault.beschreibung(), "",
                                                     "Angezeigt wird, was aus der vorigen gelesen ist."}));
         return;
@@ -57,8 +57,8 @@ void DatabaseWatch::tickReplaced()
 
 bool DatabaseWatch::stillOpen()
 {
-    if (session_.Verbindung.fileState() != FileState::Replaced) {
-        session_.Verbindung.checkFile();
+    if (session_.database.Verbindung.fileState() != FileState::Replaced) {
+        session_.database.Verbindung.checkFile();
         return true;
     }
     requireRegister();
@@ -69,15 +69,15 @@ bool DatabaseWatch::stillOpen()
 void DatabaseWatch::requireRegister() const
 {
     Connection other;
-    other.setPatience(session_.Verbindung.patience());
-    other.Open(ports_.dateien.systempfad(session_.DatenbankPfad));
+    other.setPatience(session_.database.Verbindung.patience());
+    other.Open(ports_.dateien.systempfad(session_.database.DatenbankPfad));
     Recordset().Open("SELECT * FROM Ini WHERE Feld1 = ''", other);
 }
 
 void DatabaseWatch::openReplacement()
 {
     told_ = FileState::Same;
-    ports_.meldungen.hinweis(TITLE, zeilen({REPLACED, session_.DatenbankPfad, "", "Sie wird neu geöffnet."}));
+    ports_.meldungen.hinweis(TITLE, zeilen({REPLACED, session_.database.DatenbankPfad, "", "Sie wird neu geöffnet."}));
     openAgain_();
 }
 

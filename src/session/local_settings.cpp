@@ -18,7 +18,7 @@ namespace {
 
 std::string einstellungsdatei(const SessionState& session)
 {
-    return session.OrdnerDatenbankPfad + "\\Quelvarnis.ini";
+    return session.folders.OrdnerDatenbankPfad + "\\Quelvarnis.ini";
 }
 
 std::string letzteZeile(std::string_view text)

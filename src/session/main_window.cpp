@@ -38,8 +38,8 @@ std::string sekundentext(int millisekunden)
 
 std::string benachrichtigungstext(const SessionState& session)
 {
-    if (session.Zeitintervall > 0 && session.ForwardOn)
-        return "Innerhalb " + sekundentext(session.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
+    if (session.use.Zeitintervall > 0 && session.use.ForwardOn)
+        return "Innerhalb " + sekundentext(session.use.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
     return "Zeitintervall = 0. Es erfogt keine Benachrichtigung.";
 }
 
@@ -58,7 +58,7 @@ bool MainWindow::hatAktion(Werkzeug knopf) const
     if (knopf == Werkzeug::Beenden)
         return true;
     // The box that forwarding is off is an answer as well.
-    if (!session_.ForwardOn && (knopf == Werkzeug::Weiterleiten || knopf == Werkzeug::Nachrichten))
+    if (!session_.use.ForwardOn && (knopf == Werkzeug::Weiterleiten || knopf == Werkzeug::Nachrichten))
         return true;
     return static_cast<bool>(aktionen_[static_cast<std::size_t>(knopf)]);
 }
@@ -82,7 +82,7 @@ bool MainWindow::laden()
         stelleWerkzeugeEin();
         RefreshStatusBar();
         oeffneErsteSeite();
-        setzeTitel(session_.DatenbankPfad);
+        setzeTitel(session_.database.DatenbankPfad);
         stelleZeitgeberEin();
         weiter = CheckAlreadyRunning(ports_);
     });
@@ -93,14 +93,14 @@ bool MainWindow::laden()
 
 void MainWindow::oeffneErsteSeite()
 {
-    if (!session_.DatenbankOk)
-        session_.DatenbankPfad.clear();
-    zeigeSeite(session_.DatenbankOk ? Seite::Dokumente : Seite::Start);
+    if (!session_.database.DatenbankOk)
+        session_.database.DatenbankPfad.clear();
+    zeigeSeite(session_.database.DatenbankOk ? Seite::Dokumente : Seite::Start);
 }
 
 void MainWindow::zuSeite(Seite ziel)
 {
-    if (ziel != Seite::Start && session_.DatenbankPfad.empty()) {
+    if (ziel != Seite::Start && session_.database.DatenbankPfad.empty()) {
         ports_.meldungen.warnung("Auswahl Datenbank", "Es ist keine Datenbank ausgewählt!");
         return;
     }
@@ -120,7 +120,7 @@ void MainWindow::zeigeSeite(Seite ziel)
 
 bool MainWindow::forwardAn(std::string_view titel, std::string_view ersteZeile)
 {
-    if (session_.ForwardOn)
+    if (session_.use.ForwardOn)
         return true;
     ports_.meldungen.warnung(titel, zeilen({
                                         ersteZeile,
@@ -159,7 +159,7 @@ void MainWindow::edit()
 
 void MainWindow::tickDBUpdate()
 {
-    if (watchDatabase && !session_.DatenbankPfad.empty())
+    if (watchDatabase && !session_.database.DatenbankPfad.empty())
         watchDatabase();
     operations_.changed(Part::Frame);
 }
@@ -167,10 +167,10 @@ void MainWindow::tickDBUpdate()
 // The settings of the session belong into the file that the next start opens.
 void MainWindow::reachReplacedFile()
 {
-    if (session_.Verbindung.fileState() != FileState::Replaced)
+    if (session_.database.Verbindung.fileState() != FileState::Replaced)
         return;
     try {
-        session_.Verbindung.Open(ports_.dateien.systempfad(session_.DatenbankPfad));
+        session_.database.Verbindung.Open(ports_.dateien.systempfad(session_.database.DatenbankPfad));
     } catch (const Laufzeitfehler&) {
         return; // The pages tell that they cannot write.
     }
@@ -183,8 +183,8 @@ void MainWindow::entladen()
     timerDBUpdate_ = timerCheckInOut_ = timerWorkflow_ = {};
     reachReplacedFile();
     melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.entladen(); });
-    session_.CheckInOut = Recordset();
-    session_.Verbindung.Close();
+    session_.use.CheckInOut = Recordset();
+    session_.database.Verbindung.Close();
     if (beendet)
         beendet();
 }
@@ -198,10 +198,10 @@ void MainWindow::setzeTitel(std::string_view datenbankPfad)
 
 void MainWindow::RefreshStatusBar()
 {
-    statuspanel_ = {"Änderung DB (" + sekundentext(session_.Zeitintervall) + " Sek-Takt):"};
-    if (session_.Zeitintervall <= 0)
+    statuspanel_ = {"Änderung DB (" + sekundentext(session_.use.Zeitintervall) + " Sek-Takt):"};
+    if (session_.use.Zeitintervall <= 0)
         statuspanel_.emplace_back("Keine laufende Überprüfung der Datenbank (siehe Ini-Tabelle 'Timeinterval').");
-    for (std::size_t tab = 0; session_.Zeitintervall > 0 && tab < ANZAHL_DATEITYPEN; ++tab) {
+    for (std::size_t tab = 0; session_.use.Zeitintervall > 0 && tab < ANZAHL_DATEITYPEN; ++tab) {
         statuspanel_.emplace_back(DOKUTYPEN[tab].einzahl);
         statuspanel_.emplace_back();
     }
@@ -210,31 +210,31 @@ void MainWindow::RefreshStatusBar()
 
 void MainWindow::stelleWerkzeugeEin()
 {
-    if (solidEdge_.nurViewer() || !session_.darfBearbeiten())
-        session_.ActiveQuelvarn = false;
-    const bool bearbeiten = !solidEdge_.nurViewer() && session_.darfBearbeiten();
+    if (solidEdge_.nurViewer() || !session_.rights.darfBearbeiten())
+        session_.pages.ActiveQuelvarn = false;
+    const bool bearbeiten = !solidEdge_.nurViewer() && session_.rights.darfBearbeiten();
 
     const auto zeige = [this](Werkzeug knopf, bool sichtbar) {
         knoepfe_[static_cast<std::size_t>(knopf)].sichtbar = sichtbar;
     };
     zeige(Werkzeug::Bearbeiten, bearbeiten);
-    zeige(Werkzeug::EinfuegenBaugr, bearbeiten && session_.ActiveQuelvarn);
-    zeige(Werkzeug::PlazierenZchn, bearbeiten && session_.ActiveQuelvarn);
+    zeige(Werkzeug::EinfuegenBaugr, bearbeiten && session_.pages.ActiveQuelvarn);
+    zeige(Werkzeug::PlazierenZchn, bearbeiten && session_.pages.ActiveQuelvarn);
     if (bearbeiten)
         knoepfe_[static_cast<std::size_t>(Werkzeug::Bearbeiten)].tooltip =
-            session_.ActiveQuelvarn ? "Bearbeiten mit SE, Ereignisse sind aktiv!" : "Bearbeiten mit SE";
+            session_.pages.ActiveQuelvarn ? "Bearbeiten mit SE, Ereignisse sind aktiv!" : "Bearbeiten mit SE";
     for (const Werkzeug knopf : {Werkzeug::Extras, Werkzeug::Weiterleiten, Werkzeug::Nachrichten})
-        zeige(knopf, session_.ForwardOn);
+        zeige(knopf, session_.use.ForwardOn);
     operations_.changed(Part::Frame);
 }
 
 void MainWindow::stelleZeitgeberEin()
 {
-    const int intervall = session_.Zeitintervall;
+    const int intervall = session_.use.Zeitintervall;
     const auto zeitgeber = [intervall](bool an) { return an ? Zeitgeber{true, intervall} : Zeitgeber{}; };
     timerDBUpdate_ = zeitgeber(intervall > 0);
-    timerCheckInOut_ = zeitgeber(intervall > 0 && session_.CheckInOutOn);
-    timerWorkflow_ = zeitgeber(intervall > 0 && session_.ForwardOn);
+    timerCheckInOut_ = zeitgeber(intervall > 0 && session_.use.CheckInOutOn);
+    timerWorkflow_ = zeitgeber(intervall > 0 && session_.use.ForwardOn);
     operations_.changed(Part::Frame);
 }
 

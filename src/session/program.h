@@ -21,8 +21,8 @@ std::string fenstertitel(const SessionState& session);
 // After a fault that was reported, and that the user goes on from, no database is open.
 void Main(SessionState& session, Ports& ports);
 
-// Opens session.DatenbankPfad, tests that it is a register, reads and repairs the Ini rows and fills the session.
-// On false the user has been told why, and nothing of the register is left in the session.
+// Opens session.database.DatenbankPfad, tests that it is a register, reads and repairs the Ini rows and fills the
+// session. On false the user has been told why, and nothing of the register is left in the session.
 bool Hauptprogramm(SessionState& session, Ports& ports);
 
 // How many windows with this program's caption run on this computer.

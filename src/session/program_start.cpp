@@ -18,24 +18,25 @@ constexpr int HOEHE_VERSION_5_1 = 10150;
 void leseUmgebung(SessionState& session, const Umgebung& umgebung)
 {
     const Systemversion version = umgebung.systemversion();
-    session.OsVersionMajor = version.major;
-    session.OsVersionMinor = version.minor;
-    session.OsPlatform = version.plattform;
+    session.user.OsVersionMajor = version.major;
+    session.user.OsVersionMinor = version.minor;
+    session.user.OsPlatform = version.plattform;
     const bool version51 = version.major == "5" && version.minor == "1" && version.plattform == 2;
-    session.FensterHoehe = version51 ? HOEHE_VERSION_5_1 : HOEHE_STANDARD;
-    session.Rechner = leftCharacters(umgebung.rechnername(), NAMENSLAENGE);
-    session.Anwender = leftCharacters(umgebung.anwendername(), NAMENSLAENGE);
+    session.user.FensterHoehe = version51 ? HOEHE_VERSION_5_1 : HOEHE_STANDARD;
+    session.user.Rechner = leftCharacters(umgebung.rechnername(), NAMENSLAENGE);
+    session.user.Anwender = leftCharacters(umgebung.anwendername(), NAMENSLAENGE);
 }
 
 void legeOrdnerAn(SessionState& session, const Umgebung& umgebung, Dateien& dateien)
 {
-    session.OrdnerBasis = umgebung.systemlaufwerk() + "\\Dokumente und Einstellungen Quelvarnis";
-    session.OrdnerSEDokumente = session.OrdnerBasis + "\\SolidEdge_Dokumente";
-    session.OrdnerProtokollPrio = session.OrdnerBasis + "\\Protokoll_Prio";
-    session.OrdnerDatenbankPfad = session.OrdnerBasis + "\\Datenbank_Pfad";
-    session.OrdnerOfflineVersand = session.OrdnerBasis + "\\Offline_Versand";
-    for (const std::string& ordner : {session.OrdnerBasis, session.OrdnerSEDokumente, session.OrdnerProtokollPrio,
-                                      session.OrdnerDatenbankPfad, session.OrdnerOfflineVersand})
+    session.folders.OrdnerBasis = umgebung.systemlaufwerk() + "\\Dokumente und Einstellungen Quelvarnis";
+    session.folders.OrdnerSEDokumente = session.folders.OrdnerBasis + "\\SolidEdge_Dokumente";
+    session.folders.OrdnerProtokollPrio = session.folders.OrdnerBasis + "\\Protokoll_Prio";
+    session.folders.OrdnerDatenbankPfad = session.folders.OrdnerBasis + "\\Datenbank_Pfad";
+    session.folders.OrdnerOfflineVersand = session.folders.OrdnerBasis + "\\Offline_Versand";
+    for (const std::string& ordner :
+         {session.folders.OrdnerBasis, session.folders.OrdnerSEDokumente, session.folders.OrdnerProtokollPrio,
+          session.folders.OrdnerDatenbankPfad, session.folders.OrdnerOfflineVersand})
         if (!dateien.ordnerVorhanden(ordner))
             dateien.ordnerAnlegen(ordner);
 }
@@ -44,8 +45,8 @@ void legeOrdnerAn(SessionState& session, const Umgebung& umgebung, Dateien& date
 
 void Main(SessionState& session, Ports& ports)
 {
-    session.DatenbankOk = false;
-    session.DatenbankPfad.clear();
+    session.database.DatenbankOk = false;
+    session.database.DatenbankPfad.clear();
     const std::string text = zeilen({
         "Fehler beim Aufruf Hauptprogramm!",
         "Mögliche Ursache:",
@@ -54,11 +55,11 @@ void Main(SessionState& session, Ports& ports)
     const bool good = gesichert(ports.meldungen, "Aufruf Hauptprogramm", text, [&] {
         leseUmgebung(session, ports.umgebung);
         legeOrdnerAn(session, ports.umgebung, ports.dateien);
-        session.DatenbankPfad = LeseDatenbankPfad(session, ports);
-        session.DatenbankOk = !session.DatenbankPfad.empty() && Hauptprogramm(session, ports);
+        session.database.DatenbankPfad = LeseDatenbankPfad(session, ports);
+        session.database.DatenbankOk = !session.database.DatenbankPfad.empty() && Hauptprogramm(session, ports);
     });
     if (!good)
-        session.DatenbankPfad.clear();
+        session.database.DatenbankPfad.clear();
 }
 
 } // namespace quelvarn

@@ -38,31 +38,31 @@ void verweigere(Meldungen& meldungen, int status, bool besitzer, std::string_vie
 
 void bildeStatusbereich(SessionState& session)
 {
-    session.WhereStatus.clear();
-    session.AndStatus.clear();
+    session.rights.WhereStatus.clear();
+    session.rights.AndStatus.clear();
     // The sum decides, not the six values.
-    if (std::accumulate(session.Sichtbar.begin(), session.Sichtbar.end(), 0) == ANZAHL_STATUS)
+    if (std::accumulate(session.rights.Sichtbar.begin(), session.rights.Sichtbar.end(), 0) == ANZAHL_STATUS)
         return;
 
     std::string bedingungen;
     for (int status = 0; status < ANZAHL_STATUS; ++status) {
-        if (session.Sichtbar[static_cast<std::size_t>(status)] != 1)
+        if (session.rights.Sichtbar[static_cast<std::size_t>(status)] != 1)
             continue;
         if (bedingungen.empty() && status > 0)
             bedingungen = fmt::format(" Status = {}", status);
         else
             bedingungen += fmt::format("{}Status = {}", bedingungen.empty() ? "" : " OR ", status);
     }
-    session.WhereStatus = " WHERE (" + bedingungen + ")";
+    session.rights.WhereStatus = " WHERE (" + bedingungen + ")";
     // Only behind AND does a first status 0 have a blank before it.
-    session.AndStatus = fmt::format(" AND ({}{})", session.Sichtbar[0] == 1 ? " " : "", bedingungen);
+    session.rights.AndStatus = fmt::format(" AND ({}{})", session.rights.Sichtbar[0] == 1 ? " " : "", bedingungen);
 }
 
 bool PruefeLoeschenDB(const SessionState& session, Meldungen& meldungen, int Status, int CodeA, int CodeB)
 {
     if (!bekannterStatus(Status))
         return true;
-    const int recht = session.LoeschRecht[static_cast<std::size_t>(Status)];
+    const int recht = session.rights.LoeschRecht[static_cast<std::size_t>(Status)];
     if (recht == CodeA || recht == CodeB || recht == CODE_ALLES)
         return true;
     verweigere(meldungen, Status, CodeA == CODE_EIGENE_ZEILE, "aus der Datenbank");
@@ -71,7 +71,7 @@ bool PruefeLoeschenDB(const SessionState& session, Meldungen& meldungen, int Sta
 
 bool PruefeLoeschenDatei(const SessionState& session, Meldungen& meldungen, int Status, int Mindestcode)
 {
-    if (!bekannterStatus(Status) || session.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
+    if (!bekannterStatus(Status) || session.rights.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
         return true;
     verweigere(meldungen, Status, Mindestcode == CODE_EIGENE_DATEI, "aus dem Verzeichnis");
     return false;

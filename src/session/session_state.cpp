@@ -8,7 +8,7 @@ std::string name(const SessionState& session, int tab, std::string_view DokuTyp:
 {
     const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
     if (typ.sondertabelle > 0)
-        return session.SondertabelleName[static_cast<std::size_t>(typ.sondertabelle - 1)];
+        return session.labels.SondertabelleName[static_cast<std::size_t>(typ.sondertabelle - 1)];
     return std::string(typ.*text);
 }
 

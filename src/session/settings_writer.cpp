@@ -19,7 +19,7 @@ constexpr std::string_view LEER = "Leer"; // The next start replaces it by the d
 
 void schreibeBaumschalter(IniZeilen& ini, const SessionState& session)
 {
-    Recordset zeilen = ini.zeilen(session.Anwender, "Treeview");
+    Recordset zeilen = ini.zeilen(session.user.Anwender, "Treeview");
     for (; !zeilen.Eof(); zeilen.MoveNext()) {
         const std::string schluessel = textOderLeer(zeilen, "Feld3");
         const auto schalter =
@@ -43,18 +43,18 @@ bool stehtSoInDerTabelle(Recordset& zeilen, const std::vector<std::string>& text
 void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
 {
     std::vector<std::string> texte;
-    for (const std::string& text : session.Suchtexte)
+    for (const std::string& text : session.pages.Suchtexte)
         if (!text.empty())
             texte.emplace_back(rightCharacters(text, LAENGSTER_SUCHTEXT));
 
-    Recordset zeilen = ini.suchtexte(session.Anwender);
+    Recordset zeilen = ini.suchtexte(session.user.Anwender);
     if (stehtSoInDerTabelle(zeilen, texte))
         return;
     ini.writeAlone();
-    zeilen = ini.suchtexte(session.Anwender);
+    zeilen = ini.suchtexte(session.user.Anwender);
     ini.loesche(zeilen);
     for (std::size_t index = 0; index < texte.size(); ++index)
-        ini.fuegeAn({session.Anwender, "Suchen/Filtern", searchTextName(index), texte[index]});
+        ini.fuegeAn({session.user.Anwender, "Suchen/Filtern", searchTextName(index), texte[index]});
 }
 
 } // namespace
@@ -77,12 +77,12 @@ void saveSettings(const Ports& ports, std::string_view title, std::string_view t
 // All rows of a setting say the same afterwards: where older versions left twins, no start knows which it reads first.
 void schreibeStartseite(SessionState& session)
 {
-    IniZeilen ini(session.Verbindung);
-    Recordset aktiv = ini.activeQuelvarn(session.Anwender);
-    ini.aendereAlle(aktiv, "Feld3", session.ActiveQuelvarn ? "1" : "0");
+    IniZeilen ini(session.database.Verbindung);
+    Recordset aktiv = ini.activeQuelvarn(session.user.Anwender);
+    ini.aendereAlle(aktiv, "Feld3", session.pages.ActiveQuelvarn ? "1" : "0");
 
     Recordset offline = ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
-    ini.aendereAlle(offline, "Feld4", session.OfflineTool);
+    ini.aendereAlle(offline, "Feld4", session.orders.OfflineTool);
 
     schreibeBaumschalter(ini, session);
     ini.schliesseAb();
@@ -90,19 +90,19 @@ void schreibeStartseite(SessionState& session)
 
 void schreibeDokumentseite(SessionState& session, int tab)
 {
-    IniZeilen ini(session.Verbindung);
+    IniZeilen ini(session.database.Verbindung);
     schreibeSuchtexte(ini, session);
 
     const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
-    Recordset start = ini.zeilen(session.Anwender, "Starttabelle");
+    Recordset start = ini.zeilen(session.user.Anwender, "Starttabelle");
     if (typ.sondertabelle == 0)
         ini.aendereAlle(start, "Feld3", typ.mehrzahl);
 
-    Recordset offline = ini.zeilen(session.Anwender, "OfflineDaten");
+    Recordset offline = ini.zeilen(session.user.Anwender, "OfflineDaten");
     for (; !offline.Eof(); offline.MoveNext()) {
-        ini.aendere(offline, "Feld3", session.OfflineArt.empty() ? LEER : session.OfflineArt);
-        ini.aendere(offline, "Feld4", session.OfflineNummer);
-        ini.aendere(offline, "Feld5", session.OfflineExportArt.empty() ? LEER : session.OfflineExportArt);
+        ini.aendere(offline, "Feld3", session.orders.OfflineArt.empty() ? LEER : session.orders.OfflineArt);
+        ini.aendere(offline, "Feld4", session.orders.OfflineNummer);
+        ini.aendere(offline, "Feld5", session.orders.OfflineExportArt.empty() ? LEER : session.orders.OfflineExportArt);
     }
     ini.schliesseAb();
 }

@@ -29,7 +29,7 @@ std::string versionstext()
 
 std::string fenstertitel(const SessionState& session)
 {
-    return session.DatenbankPfad + versionstext();
+    return session.database.DatenbankPfad + versionstext();
 }
 
 int laufendeKopien(const Ports& ports)

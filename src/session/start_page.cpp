@@ -37,11 +37,11 @@ void StartPage::seiteGezeigt(Seite seite)
 {
     if (seite != Seite::Start)
         return;
-    if (!session_.FormDBGeladen)
+    if (!session_.pages.FormDBGeladen)
         laden();
-    if (!session_.DatenbankPfad.empty()) {
-        fuelleStatusBar(session_.DatenbankPfad);
-        dateinamePanel_ = datenbankzeile(session_.DatenbankPfad);
+    if (!session_.database.DatenbankPfad.empty()) {
+        fuelleStatusBar(session_.database.DatenbankPfad);
+        dateinamePanel_ = datenbankzeile(session_.database.DatenbankPfad);
     }
     operations_.changed(Part::StartPage);
 }
@@ -49,9 +49,9 @@ void StartPage::seiteGezeigt(Seite seite)
 void StartPage::laden()
 {
     operations_.perform(Part::StartPage, "Laden der Start-Form", "Fehler beim Laden der Start-Form!", [&] {
-        session_.FormDBGeladen = true;
+        session_.pages.FormDBGeladen = true;
         zeigeDatenbankImWaehler();
-        gewaehlterPfad_ = session_.DatenbankPfad;
+        gewaehlterPfad_ = session_.database.DatenbankPfad;
         labelDB_ = gewaehlterPfad_.empty() ? "" : datenbankzeile(gewaehlterPfad_);
         fuelleStatusBar(gewaehlterPfad_);
         zeigeSolidEdge();
@@ -62,10 +62,10 @@ void StartPage::laden()
 void StartPage::entladen()
 {
     saveSettings(ports_, "Schließen der Startseite", "Fehler beim Schließen der Startseite!", [&] {
-        if (session_.FormDBGeladen && session_.DatenbankOk)
+        if (session_.pages.FormDBGeladen && session_.database.DatenbankOk)
             schreibeStartseite(session_);
     });
-    session_.FormDBGeladen = false;
+    session_.pages.FormDBGeladen = false;
 }
 
 void StartPage::zeigeDatenbankImWaehler()
@@ -79,7 +79,8 @@ void StartPage::zeigeDatenbankImWaehler()
         }
     };
     auswahl_.liesLaufwerke();
-    if (!session_.DatenbankPfad.empty() && gelingt([&] { auswahl_.zeigeDatei(session_.DatenbankPfad); }))
+    if (!session_.database.DatenbankPfad.empty() &&
+        gelingt([&] { auswahl_.zeigeDatei(session_.database.DatenbankPfad); }))
         return;
     if (gelingt([&] { auswahl_.setzeLaufwerk(ports_.umgebung.systemlaufwerk()); }))
         return;
@@ -106,9 +107,9 @@ void StartPage::zeigeSolidEdge()
     lblPfad_ = solidEdge.pfad.empty() ? "Pfadname zu Solid Edge???" : solidEdge.pfad;
 
     activeSESichtbar_ = !nurViewer;
-    activeSEBereit_ = session_.darfBearbeiten();
+    activeSEBereit_ = session_.rights.darfBearbeiten();
     if (nurViewer || !activeSEBereit_)
-        session_.ActiveQuelvarn = false;
+        session_.pages.ActiveQuelvarn = false;
 }
 
 // --- choosing a file -------------------------------------------------------------------------------------------
@@ -141,7 +142,7 @@ void StartPage::dateiGewaehlt(std::string_view name)
     operations_.perform(Part::StartPage, "Auswahl der Datenbank", "Fehler bei Auswahl der Datenbank!", [&] {
         if (CheckSiblingsRunning(ports_))
             return;
-        session_.DatenbankOk = false;
+        session_.database.DatenbankOk = false;
         const std::string neuerPfad = auswahl_.pfad(name);
         if (!bestaetigtWechsel(neuerPfad))
             return;
@@ -159,7 +160,7 @@ bool StartPage::bestaetigtWechsel(std::string_view neuerPfad)
                                   zeilen({
                                       "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank",
                                       "",
-                                      "von:    " + session_.DatenbankPfad,
+                                      "von:    " + session_.database.DatenbankPfad,
                                       "nach:  " + std::string(neuerPfad),
                                       "",
                                       "Möchten Sie fortfahren?",
@@ -176,7 +177,7 @@ void StartPage::oeffnen()
             ports_.meldungen.warnung("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
             return;
         }
-        session_.DatenbankPfad = gewaehlterPfad_;
+        session_.database.DatenbankPfad = gewaehlterPfad_;
         SchreibeDatenbankPfad(session_, ports_, gewaehlterPfad_);
         rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankWechselt(); });
         if (Hauptprogramm(session_, ports_))
@@ -195,14 +196,14 @@ void StartPage::openAgain()
     } else {
         datenbankVerloren();
         rahmen_.zeigeSeite(Seite::Start);
-        rahmen_.setzeTitel(session_.DatenbankPfad);
+        rahmen_.setzeTitel(session_.database.DatenbankPfad);
     }
     operations_.changed(Part::StartPage);
 }
 
 void StartPage::datenbankVerloren()
 {
-    session_.DatenbankOk = false;
+    session_.database.DatenbankOk = false;
     activeSESichtbar_ = false;
     rahmen_.stelleWerkzeugeEin();
     rahmen_.RefreshStatusBar();
@@ -211,11 +212,11 @@ void StartPage::datenbankVerloren()
 
 void StartPage::datenbankUebernehmen()
 {
-    session_.DatenbankOk = true;
+    session_.database.DatenbankOk = true;
     zeigeSolidEdge();
     rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankGewechselt(); });
     rahmen_.zeigeSeite(Seite::Dokumente);
-    rahmen_.setzeTitel(session_.DatenbankPfad);
+    rahmen_.setzeTitel(session_.database.DatenbankPfad);
     rahmen_.RefreshStatusBar();
     rahmen_.stelleZeitgeberEin();
     rahmen_.stelleWerkzeugeEin();
@@ -223,7 +224,7 @@ void StartPage::datenbankUebernehmen()
 
 void StartPage::verlassen()
 {
-    if (!session_.DatenbankPfad.empty())
+    if (!session_.database.DatenbankPfad.empty())
         return rahmen_.zeigeSeite(Seite::Dokumente);
     if (ports_.meldungen.frage("Auswahl Datenbank", zeilen({
                                                         "Es wurde keine Datenbank ausgewählt!",
@@ -238,14 +239,14 @@ void StartPage::verlassen()
 
 void StartPage::setzeActiveSE(bool an)
 {
-    session_.ActiveQuelvarn = an && activeSESichtbar_ && activeSEBereit_;
+    session_.pages.ActiveQuelvarn = an && activeSESichtbar_ && activeSEBereit_;
     rahmen_.stelleWerkzeugeEin();
     operations_.changed(Part::StartPage);
 }
 
 std::string_view StartPage::LblActiveSE() const
 {
-    return session_.ActiveQuelvarn ? "Ereignis wird ausgewertet." : "Ereignis wird NICHT ausgewertet.";
+    return session_.pages.ActiveQuelvarn ? "Ereignis wird ausgewertet." : "Ereignis wird NICHT ausgewertet.";
 }
 
 void StartPage::setzeSchalter(std::size_t zeile, bool an)
@@ -279,19 +280,19 @@ bool StartPage::infoPrio2(int index) const
 
 void StartPage::offlineToolGewaehlt(int index)
 {
-    session_.OfflineTool = OFFLINE_TOOLS[static_cast<std::size_t>(index)];
+    session_.orders.OfflineTool = OFFLINE_TOOLS[static_cast<std::size_t>(index)];
     rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.offlineToolGeaendert(); });
     operations_.changed(Part::StartPage);
 }
 
 int StartPage::offlineTool() const
 {
-    return session_.OfflineTool == OFFLINE_TOOLS[0] ? 0 : 1;
+    return session_.orders.OfflineTool == OFFLINE_TOOLS[0] ? 0 : 1;
 }
 
 void StartPage::setzeLokaleAuftraege(bool an)
 {
-    session_.AuftraegeLokal = an;
+    session_.orders.AuftraegeLokal = an;
     operations_.changed(Part::StartPage);
 }
 

@@ -46,12 +46,12 @@ public:
     const std::string& LblSolidEdgePfad() const { return lblPfad_; }
     bool activeSESichtbar() const { return activeSESichtbar_; } // FrmActiveSE
     bool activeSEBereit() const { return activeSEBereit_; }
-    bool activeSE() const { return session_.ActiveQuelvarn; }
+    bool activeSE() const { return session_.pages.ActiveQuelvarn; }
     std::string_view LblActiveSE() const;
     bool infoPrio1(int index) const;
     bool infoPrio2(int index) const;
     int offlineTool() const; // Index in OFFLINE_TOOLS
-    bool lokaleAuftraege() const { return session_.AuftraegeLokal; }
+    bool lokaleAuftraege() const { return session_.orders.AuftraegeLokal; }
 
     // --- what the frame tells ---
     void seiteGezeigt(Seite seite) override;

@@ -1,11 +1,24 @@
 #pragma once
 
-#include "session/session_state.h"
-
 #include <array>
 #include <string_view>
 
 namespace quelvarn {
+
+// The switches of the property tree. Valid for this session; a row of the table may say otherwise.
+struct Baumschalter
+{
+    bool Knoten = true;
+    bool Verwendung = true;
+    bool TIFFDoku = true;
+    bool PDFDoku = true;
+    bool Revision = true;
+    bool HauptMerk = true;
+    bool BenutzDef = true;
+    bool StichKomm = true;
+    bool ZusDoku = true;
+    bool Versendet = true;
+};
 
 // One switch of the property tree: its row in Ini and its box on the start page.
 struct Baumschalterzeile

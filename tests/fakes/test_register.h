@@ -29,18 +29,18 @@ protected:
         if (!postgres.empty())
             std::ofstream(ordner_ / "Werk.mdb") << postgres << "\n";
         legeRegisterAn(*engine_);
-        session_.Verbindung.Open(ordner_ / "Werk.mdb");
-        session_.DatenbankPfad = "W:\\Werk.mdb";
-        session_.DatenbankOk = true;
-        session_.Anwender = "Mueller";
+        session_.database.Verbindung.Open(ordner_ / "Werk.mdb");
+        session_.database.DatenbankPfad = "W:\\Werk.mdb";
+        session_.database.DatenbankOk = true;
+        session_.user.Anwender = "Mueller";
         siehtStati("012345");
     }
 
     void siehtStati(std::string_view stati)
     {
-        session_.Sichtbar = {};
+        session_.rights.Sichtbar = {};
         for (const char status : stati)
-            session_.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
+            session_.rights.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
         bildeStatusbereich(session_);
     }
 

@@ -13,7 +13,7 @@ protected:
     {
         for (Filterzustand& typ : filter_.typen)
             typ.ChFilterStat.fill(false);
-        for (Recordset& liste : session_.GespeicherteFilter) {
+        for (Recordset& liste : session_.pages.GespeicherteFilter) {
             liste.FeldAnhaengen("Filtername", FeldTyp::Text);
             liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
             liste.Open();
@@ -58,7 +58,7 @@ TEST_F(FilterPageTest, NamesTheTypeAndTheRights)
     const std::array<const char*, ANZAHL_DOKUTYPEN> namen{"Bauteile",       "Blechteile",    "Baugruppe",
                                                           "Zeichnung",      "Schweißteile",  "Normteile",
                                                           "Sondertabelle2", "Sondertabelle3"};
-    session_.SondertabelleName[0] = "Normteile";
+    session_.labels.SondertabelleName[0] = "Normteile";
     for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
         tables_.bringToFront(tab);
         seite_.OpenFilterPage();
@@ -193,7 +193,8 @@ TEST_F(FilterPageTest, SavedFiltersAreUsedAndWrittenOnLeaving)
     EXPECT_TRUE(seite_.filterSpeichern("Projekt 1"));
     seite_.verlassen();
     Recordset zeilen;
-    zeilen.Open("SELECT Feld3, Feld4 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Filterwerte'", session_.Verbindung);
+    zeilen.Open("SELECT Feld3, Feld4 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Filterwerte'",
+                session_.database.Verbindung);
     ASSERT_EQ(zeilen.RecordCount(), 1U);
     EXPECT_EQ(zeilen.Text("Feld3") + " " + zeilen.Text("Feld4"), "Part Projekt 1");
 
@@ -291,7 +292,7 @@ TEST_F(FilterPageTest, AnotherDatabaseForgetsEverything)
     EXPECT_EQ(anzahl(), 0);
     EXPECT_EQ(werte(), "");
     EXPECT_EQ(filter_.status.StatusFilter, "");
-    EXPECT_FALSE(session_.FormSEFilternGeladen);
+    EXPECT_FALSE(session_.pages.FormSEFilternGeladen);
     seite_.entladen(); // Not loaded since: writes nothing to the new database.
 }
 

@@ -18,7 +18,7 @@ protected:
     {
         for (Filterzustand& type : filter_.typen)
             type.ChFilterStat.fill(false);
-        session_.Bezeichnungen = {{"material", "Werkstoff"}, {"firma", "Hersteller"}, {"autor", "Konstrukteur"}};
+        session_.labels.Bezeichnungen = {{"material", "Werkstoff"}, {"firma", "Hersteller"}, {"autor", "Konstrukteur"}};
     }
     void SetUp() override
     {

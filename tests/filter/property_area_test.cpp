@@ -106,7 +106,7 @@ TEST_F(Eigenschaften, ChoicesBecomeSteps)
         FilterSchritt schritt;
         FilterRow zeile;
     };
-    session_.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
+    session_.labels.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
     const Zeitpunkt tag = Zeitpunkt::aus({2026, 11, 5});
     const Fall faelle[]{
         {[](auto& b) { b.wertGewaehlt(1, "A100"); }, {"Projekt", "A100", 0, ""}, {"Projekt", "Vorhaben", "A100"}},

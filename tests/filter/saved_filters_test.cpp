@@ -87,7 +87,7 @@ class GespeicherteFilterTest : public FilterTest
 protected:
     GespeicherteFilterTest()
     {
-        for (Recordset& liste : session_.GespeicherteFilter) {
+        for (Recordset& liste : session_.pages.GespeicherteFilter) {
             liste.FeldAnhaengen("Filtername", FeldTyp::Text);
             liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
             liste.Open();
@@ -184,7 +184,7 @@ TEST_F(GespeicherteFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer
     speichereFilterlisten(session_, welt_.meldungen);
     const auto stand = [&] {
         Recordset zeilen;
-        zeilen.Open("SELECT * FROM Ini WHERE Feld2 = 'Filterwerte' ORDER BY Feld1", session_.Verbindung);
+        zeilen.Open("SELECT * FROM Ini WHERE Feld2 = 'Filterwerte' ORDER BY Feld1", session_.database.Verbindung);
         std::string text;
         for (; !zeilen.Eof(); zeilen.MoveNext())
             text += zeilen.Text("Feld1") + "/" + zeilen.Text("Feld3") + "/" + zeilen.Text("Feld4") + "/" +
@@ -221,7 +221,7 @@ TEST_F(GespeicherteFilterTest, TheFavouritesMenuTakesTwentyFive)
 {
     EXPECT_EQ(favoritenliste(session_, 4).meldung->text,
               "Es sind keine gespeicherten Filter für Schweißteile vorhanden!");
-    session_.SondertabelleName[1] = "Normteile";
+    session_.labels.SondertabelleName[1] = "Normteile";
     EXPECT_EQ(favoritenliste(session_, 6).meldung->text, "Es sind keine gespeicherten Filter für Normteile vorhanden!");
     schritt("Projekt", "A1");
     for (int i = 1; i <= 26; ++i) {

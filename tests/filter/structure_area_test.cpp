@@ -16,7 +16,7 @@ protected:
     Strukturmerkmale()
     {
         kontext_.zustand().bereich = Filterbereich::Struktur;
-        session_.Bezeichnungen = {{"material", "Werkstoff"}, {"firma", "Kunde"}};
+        session_.labels.Bezeichnungen = {{"material", "Werkstoff"}, {"firma", "Kunde"}};
         teil("1", {"Welle", "lang", "glatt", "hart", "neu"}, "C45", "Meier", 10);
         teil("2", {"Welle", "lang", "glatt", "weich", ""}, "St 37", "Meier", 2.5);
         teil("3", {"Welle", "kurz", "", "", ""}, "C45", "Ober", 0);
@@ -265,7 +265,7 @@ TEST_F(Strukturmerkmale, TheMostExactTemplateIsFoundFirst)
         {{"Welle", "", "", "", "", ""}, ""},
     };
     for (const auto& [zweig, gefunden] : faelle)
-        EXPECT_EQ(VorlageSuchen(session_.Verbindung, zweig), gefunden) << join(zweig, "/");
+        EXPECT_EQ(VorlageSuchen(session_.database.Verbindung, zweig), gefunden) << join(zweig, "/");
 
     bereich_.knotenGewaehlt({"Welle"});
     EXPECT_EQ(bereich_.vorlage(), "c.dft");

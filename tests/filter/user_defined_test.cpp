@@ -234,7 +234,7 @@ class BenutzDefBereichTest : public BenutzDefTest
 protected:
     BenutzDefBereichTest()
     {
-        session_.Bezeichnungen = {{"autor", "Verfasser"}, {"bearbeiter", "Änderer"}, {"material", "Stoff"}};
+        session_.labels.Bezeichnungen = {{"autor", "Verfasser"}, {"bearbeiter", "Änderer"}, {"material", "Stoff"}};
     }
     BenutzDefBereich bereich_{kontext_};
 };

@@ -98,7 +98,7 @@ TEST_F(DetailPagesTest, AnOrderIsLookedForInItsFolderAndThenInTheArchive)
 {
     const std::string auftrag = "W:\\Auftraege\\Meier\\PlotQVP110214103059.txt";
     const std::string archiviert = "W:\\Auftraege\\Auftragsarchiv\\PlotQVP110214103059.txt";
-    session_.PlotPfad = "W:\\Auftraege";
+    session_.orders.PlotPfad = "W:\\Auftraege";
     dokument(0, "A");
     zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", "K"}, {"Wert", auftrag}});
     zeile("Adresstabelle", {{"Kennung", "K"}});
@@ -140,7 +140,7 @@ TEST_F(DetailPagesTest, TheTemplateBranchEndsAtTheFirstEmptyFeature)
 
 TEST_F(DetailPagesTest, MainFeaturesStandInTheirOrderWithTheTemplate)
 {
-    session_.Bezeichnungen["hauptmerkmal b"] = "Normreihe";
+    session_.labels.Bezeichnungen["hauptmerkmal b"] = "Normreihe";
     zeile("PartTabelle", {{"DokuBez", "M"},
                           {"Hauptmerkmal_A", "a1"},
                           {"Hauptmerkmal_C", "Wellen"},
@@ -228,7 +228,7 @@ TEST_F(DetailPagesTest, TheTiffIsTheRegisteredOneOrTheOneBesideTheDrawing)
 
     zeile("TIFFTabelle",
           {{"Dateiname", "HB-101-20tif"}, {"filename", "W:\\TIFF\\HB-101-20.tif"}}); // As Harvel wrote some.
-    EXPECT_EQ(EnthaltenInTIFFTabelle(session_.Verbindung, "HB-101-20.dft"), "W:\\TIFF\\HB-101-20.tif");
+    EXPECT_EQ(EnthaltenInTIFFTabelle(session_.database.Verbindung, "HB-101-20.dft"), "W:\\TIFF\\HB-101-20.tif");
 }
 
 TEST_F(DetailPagesTest, AFaultLeavesTheTreeAndAnEmptyPage)
@@ -239,7 +239,7 @@ TEST_F(DetailPagesTest, AFaultLeavesTheTreeAndAnEmptyPage)
     info_.chooseNode(knoten::ZUSDOKU);
     ASSERT_EQ(zeilenVon(InfoSeite::ZusDoku).size(), 1U);
     const std::string vorher = baum();
-    session_.Verbindung.Close();
+    session_.database.Verbindung.Close();
     welt_.meldungen.antworte();
     welt_.meldungen.antworte();
     info_.chooseNode(knoten::ZUSDOKU);

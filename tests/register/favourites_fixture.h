@@ -26,7 +26,7 @@ protected:
     {
         Recordset rows;
         rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Favoriten' ORDER BY Feld1, Feld3, Feld4, Feld5",
-                  session_.Verbindung);
+                  session_.database.Verbindung);
         std::string text;
         for (; !rows.Eof(); rows.MoveNext())
             text += rows.Text("Feld1") + "|" + rows.Text("Feld3") + "|" + rows.Text("Feld4") + "|" +

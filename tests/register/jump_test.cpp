@@ -45,7 +45,7 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
         EXPECT_EQ(ort(), std::to_string(tab) + "B");
     }
     dokument(0, "A1", "0");
-    session_.Verbindung.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
+    session_.database.Verbindung.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
     tabs_.rebuild();
     EXPECT_TRUE(springe(0, "B_0.par")); // Not the longer path in the row before.
     EXPECT_EQ(ort(), "0B");
@@ -53,7 +53,7 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
 
 TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
 {
-    Connection& database = session_.Verbindung;
+    Connection& database = session_.database.Verbindung;
     database.Execute(
         "UPDATE PartTabelle SET filename = '\\\\server\\konstruktion\\Teile\\B_0.par' WHERE DokuBez = 'B'");
     tabs_.rebuild();

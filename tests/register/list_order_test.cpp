@@ -32,7 +32,7 @@ protected:
         return texts;
     }
 
-    Connection& database_ = session_.Verbindung;
+    Connection& database_ = session_.database.Verbindung;
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, ListOrder, ::testing::Values("SQLite", "PostgreSQL"),

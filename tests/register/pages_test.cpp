@@ -209,7 +209,8 @@ TEST_F(PagesTest, ClosingRemembersTheTabOfFileTypesOnly)
 {
     const auto starttabelle = [&] {
         Recordset zeilen;
-        zeilen.Open("SELECT Feld3 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Starttabelle'", session_.Verbindung);
+        zeilen.Open("SELECT Feld3 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Starttabelle'",
+                    session_.database.Verbindung);
         return zeilen.Text("Feld3");
     };
     zeile("Ini", {{"Feld1", "Mueller"}, {"Feld2", "Starttabelle"}, {"Feld3", "Bauteile"}});

@@ -44,10 +44,10 @@ protected:
 
 TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
 {
-    session_.GespeicherteFilter[0].FeldAnhaengen("Name", FeldTyp::Text); // As of another version.
-    session_.GespeicherteFilter[0].Open();
-    session_.GespeicherteFilter[0].AddNew();
-    session_.GespeicherteFilter[0].Update();
+    session_.pages.GespeicherteFilter[0].FeldAnhaengen("Name", FeldTyp::Text); // As of another version.
+    session_.pages.GespeicherteFilter[0].Open();
+    session_.pages.GespeicherteFilter[0].AddNew();
+    session_.pages.GespeicherteFilter[0].Update();
     welt_.meldungen.erwarte("Liste mit Filterfavoriten", "Fehler beim Erstellen der Liste mit Filterfavoriten!");
     welt_.meldungen.antworte();
     EXPECT_FALSE(bar_.zeigeFavoriten());
@@ -79,7 +79,7 @@ TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
     filterText("W", 2, TextAmAnfang);
     EXPECT_EQ(expression(), before);
     EXPECT_EQ(quick_.schritt(), 2);
-    EXPECT_EQ(session_.Suchtexte, (std::vector<std::string>{"fa", "LL", "W"}));
+    EXPECT_EQ(session_.pages.Suchtexte, (std::vector<std::string>{"fa", "LL", "W"}));
 
     tabs_.back();
     EXPECT_EQ(tables_[0].state(), TableState::Open);

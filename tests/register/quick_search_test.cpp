@@ -103,7 +103,7 @@ TEST_F(QuickSearchTest, EachKeySearchesWhileTyping)
     EXPECT_EQ(current(), "Achse/0");
     search_.sucheText("Winkel");
     EXPECT_EQ(current(), "Achse/0") << "the list is out of use";
-    EXPECT_TRUE(session_.Suchtexte.empty());
+    EXPECT_TRUE(session_.pages.Suchtexte.empty());
 
     search_.setzeBeimTippen(false);
     EXPECT_EQ(search_.CombSuchStr(), "B");
@@ -114,8 +114,8 @@ TEST_F(QuickSearchTest, EachKeySearchesWhileTyping)
 TEST_F(QuickSearchTest, RemembersTheLastEightTexts)
 {
     for (const char* text : {"1", "2", "", "3", "4", "5", "2", "6", "7", "8"})
-        SuchTextMerken(session_.Suchtexte, text);
-    EXPECT_EQ(session_.Suchtexte, (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7", "8"}));
+        SuchTextMerken(session_.pages.Suchtexte, text);
+    EXPECT_EQ(session_.pages.Suchtexte, (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7", "8"}));
     search_.sucheText("9");
     EXPECT_EQ(search_.suchtexte(), (std::vector<std::string>{"2", "3", "4", "5", "6", "7", "8", "9"}));
     EXPECT_EQ(search_.CombSuchStr(), "9");

@@ -99,8 +99,8 @@ protected:
 
     void start(SessionState& session, std::string_view user)
     {
-        session.Anwender = user;
-        session.DatenbankPfad = "W:\\Werk.mdb";
+        session.user.Anwender = user;
+        session.database.DatenbankPfad = "W:\\Werk.mdb";
         welt_.dateien.verbinde("W:\\Werk.mdb", ordner_ / "Werk.mdb");
         welt_.meldungen.gezeigt.clear();
         ASSERT_TRUE(Hauptprogramm(session, ports_)) << user;
@@ -108,12 +108,12 @@ protected:
 
     static void save(SessionState& session, const std::string& text)
     {
-        session.ActiveQuelvarn = true;
+        session.pages.ActiveQuelvarn = true;
         session.Tree.Knoten = false;
-        session.Suchtexte = {text};
+        session.pages.Suchtexte = {text};
         schreibeStartseite(session);
         schreibeDokumentseite(session, 3);
-        Recordset& filters = session.GespeicherteFilter[0];
+        Recordset& filters = session.pages.GespeicherteFilter[0];
         filters.AddNew();
         filters.setzeFeld("Filtername", text);
         filters.setzeFeld("Filterstring", text);
@@ -185,8 +185,8 @@ TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
         EXPECT_EQ(welt_.meldungen.gezeigt.front().titel, "") << user << ": he is greeted";
         if (others.empty()) // The first of all writes the rows of the installation.
             others = rowsOfOthers(user);
-        EXPECT_FALSE(first.ActiveQuelvarn) << user;
-        EXPECT_THAT(first.Suchtexte, IsEmpty()) << user;
+        EXPECT_FALSE(first.pages.ActiveQuelvarn) << user;
+        EXPECT_THAT(first.pages.Suchtexte, IsEmpty()) << user;
         EXPECT_THAT(gespeicherteNamen(first, 0), IsEmpty()) << user;
         EXPECT_THAT(leseFavoriten(first, DOKUTYPEN[0]), IsEmpty()) << user;
         save(first, user);
@@ -196,9 +196,9 @@ TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
         start(second, user);
         for (const Meldung& box : welt_.meldungen.gezeigt)
             EXPECT_NE(box.titel, "") << user << ": he is no longer new";
-        EXPECT_TRUE(second.ActiveQuelvarn && !second.Tree.Knoten) << user;
-        EXPECT_EQ(second.Starttabelle, "Zeichnungen") << user;
-        EXPECT_EQ(second.Suchtexte.size(), 1U) << user;
+        EXPECT_TRUE(second.pages.ActiveQuelvarn && !second.Tree.Knoten) << user;
+        EXPECT_EQ(second.pages.Starttabelle, "Zeichnungen") << user;
+        EXPECT_EQ(second.pages.Suchtexte.size(), 1U) << user;
         EXPECT_THAT(gespeicherteNamen(second, 0), ElementsAre(user));
         EXPECT_EQ(SavedFilterString(second, 0, user), user);
         const auto favourites = leseFavoriten(second, DOKUTYPEN[0]);
@@ -214,7 +214,7 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
 {
     insertDocuments();
     const auto texts = strangeTexts();
-    Connection& database = session_.Verbindung;
+    Connection& database = session_.database.Verbindung;
     siehtStati("3");
     Recordset parts;
     parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC", database);
@@ -234,7 +234,7 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
         EXPECT_TRUE(hatZusatzdokumente(database, record.filename));
         EXPECT_EQ(VorlageSuchen(database, templateBranch(record)), record.filename);
         EXPECT_EQ(findDokument(database, DOKUTYPEN[0], record.filename)->DokuBez, text);
-        EXPECT_TRUE(istSichtbar(database, DOKUTYPEN[0], record.filename, session_.WhereStatus));
+        EXPECT_TRUE(istSichtbar(database, DOKUTYPEN[0], record.filename, session_.rights.WhereStatus));
         EXPECT_FALSE(istSichtbar(database, DOKUTYPEN[0], record.filename, " WHERE ( Status = 1)"));
         EXPECT_THAT(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{text, text}}),
                     ElementsAre(record.filename));
@@ -252,10 +252,10 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhereTheyAreUsed)
         for (const Verwendungsart& kind : VERWENDUNGSARTEN) {
             SCOPED_TRACE(text + std::string(kind.knoten));
             const DokuRecord record = recordOf(text);
-            EXPECT_TRUE(gibtEsVerwendung(session_.Verbindung, kind, record, record.filename));
-            Recordset rows = verwendungszeilen(session_.Verbindung, kind, record, record.filename);
+            EXPECT_TRUE(gibtEsVerwendung(session_.database.Verbindung, kind, record, record.filename));
+            Recordset rows = verwendungszeilen(session_.database.Verbindung, kind, record, record.filename);
             ASSERT_EQ(rows.RecordCount(), kind.quellwahl == Quellwahl::Alle ? 2U : 1U);
-            const Verwendungsdokument document = dokumentZu(session_.Verbindung, kind, rows);
+            const Verwendungsdokument document = dokumentZu(session_.database.Verbindung, kind, rows);
             EXPECT_FALSE(document.details.leer);
             EXPECT_EQ(rows.Text(kind.bestandteile() ? kind.felder.filename : kind.felder.DokuBez),
                       kind.bestandteile() ? record.filename : text);
@@ -267,7 +267,7 @@ TEST_P(StrangeTexts, AsSearchTextsFindNothingElse)
 {
     insertDocuments();
     Recordset parts;
-    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.Verbindung);
+    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.database.Verbindung);
     for (const std::string& text : strangeTexts()) {
         if (text.find_first_of("%_[") != std::string::npos)
             continue;

@@ -10,7 +10,7 @@ using TableTest = RegisterTest;
 TEST_F(TableTest, OpensTheStartTableOncePerDatabase)
 {
     dokument(3, "Z-1");
-    session_.Starttabelle = "Zeichnungen";
+    session_.pages.Starttabelle = "Zeichnungen";
     tabs_.StartTabelleZeigen();
     EXPECT_EQ(tables_.tab(), 3);
     EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Zeichnungen, Anzahl: 1");
@@ -25,7 +25,7 @@ TEST_F(TableTest, OpensTheStartTableOncePerDatabase)
     page_.datenbankWechselt();
     EXPECT_EQ(info_.page(), InfoSeite::Keine);
     EXPECT_EQ(session_.AktDoku, AktuellesDokument{});
-    session_.Starttabelle = "Normteile"; // No table to start with: the tab stays, nothing is opened.
+    session_.pages.Starttabelle = "Normteile"; // No table to start with: the tab stays, nothing is opened.
     tabs_.StartTabelleZeigen();
     EXPECT_EQ(tables_.tab(), 0);
     EXPECT_EQ(tables_[0].state(), TableState::NotOpen);
@@ -41,7 +41,7 @@ TEST_F(TableTest, StatusScopeLimitsFileTypesButNotSpecialTables)
     siehtStati("345");
     tabs_.chooseTab(0);
     EXPECT_EQ(liste(), "3/0 4/0 5/0 ");
-    session_.SondertabelleName[0] = "Normteile";
+    session_.labels.SondertabelleName[0] = "Normteile";
     tabs_.chooseTab(5);
     EXPECT_EQ(liste(), "1/0 3/0 4/0 5/0 ");
     EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Normteile, Anzahl: 4");
@@ -94,7 +94,7 @@ TEST_F(TableTest, ATabSwitchActsOnTheState)
     };
     const auto result = [&](DocumentTable& table) {
         Recordset rows;
-        rows.Open("SELECT * FROM SheetMTabelle", session_.Verbindung);
+        rows.Open("SELECT * FROM SheetMTabelle", session_.database.Verbindung);
         table.showResult(std::move(rows), {});
     };
     const Case cases[] = {

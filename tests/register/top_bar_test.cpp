@@ -100,7 +100,7 @@ TEST_F(TopBarTest, ButtonsFollowTheDocumentAndTheViewer)
     present(1, "A");
     tabs_.chooseTab(1);
     EXPECT_EQ(enabled(), "xxxxxxx");
-    session_.CheckInOutOn = true;
+    session_.use.CheckInOutOn = true;
     EXPECT_EQ(enabled(), "xxxxxx-");
     bar_.klick("Anschauen", true);
     EXPECT_EQ(viewers_.steht(Ansicht::Dokument), pfad("A_0.psm"));

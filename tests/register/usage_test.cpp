@@ -162,7 +162,7 @@ TEST_F(UsageTest, TheToolBarActsOnTheRow)
     const auto favourites = [&](const char* type) {
         Recordset rows;
         rows.Open(sql::Query("Ini").where(sql::all(sql::equal("Feld2", "Favoriten"), sql::equal("Feld3", type))),
-                  session_.Verbindung);
+                  session_.database.Verbindung);
         return rows.leer() ? std::string() : rows.Text("Feld4") + "/" + rows.Text("Feld5");
     };
     oeffneSeite(2, "G", knoten::BESTEHT_AUS);
@@ -178,7 +178,7 @@ TEST_F(UsageTest, TheToolBarActsOnTheRow)
     actions_.addToFavourites();
     EXPECT_EQ(favourites("STbl2"), "N/0");
 
-    session_.Verbindung.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
+    session_.database.Verbindung.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
     waehle("U_0.asm");
     welt_.meldungen.erwarte("Favoriten", "Der Eintrag bei Favoriten konnte\nnicht erfolgreich durchgeführt werden!\n"
                                          "Mögliche Ursache:\n- Datei ist in der Tabelle nicht vorhanden.\n"

@@ -149,7 +149,7 @@ void World::start()
     parts_->ended = false;
     parts_->appearance->wendeAn(*qApp);
     parts_->session = std::make_unique<SessionState>();
-    parts_->session->Verbindung.setPatience(&waits);
+    parts_->session->database.Verbindung.setPatience(&waits);
     {
         Waechter guard(boxes, [this] { parts_->ended = true; });
         guard.fuehreAus([this] { Main(*parts_->session, *parts_->ports); });

@@ -29,9 +29,9 @@ protected:
     void scheitert()
     {
         EXPECT_FALSE(Hauptprogramm(session, ports));
-        EXPECT_EQ(session.DatenbankPfad, "");
-        EXPECT_FALSE(session.Verbindung.offen());
-        EXPECT_FALSE(session.CheckInOut.offen());
+        EXPECT_EQ(session.database.DatenbankPfad, "");
+        EXPECT_FALSE(session.database.Verbindung.offen());
+        EXPECT_FALSE(session.use.CheckInOut.offen());
     }
     void erwarteKeinRegister()
     {
@@ -57,7 +57,7 @@ TEST_F(FaultsAtTheStart, FilesThatAreNoRegisterAreRefused)
     nurMit({"Anderes", {{"Feld1", FeldTyp::Text}}, {}});
     scheitert();
 
-    session.DatenbankPfad = REGISTERPFAD;
+    session.database.DatenbankPfad = REGISTERPFAD;
     erwarteKeinRegister();
     schreibe("text.mdb", "Nur ein Text.");
     scheitert();
@@ -65,11 +65,11 @@ TEST_F(FaultsAtTheStart, FilesThatAreNoRegisterAreRefused)
 
 TEST_F(FaultsAtTheStart, AMissingFileAndAnAccessFileFailAtTheConnection)
 {
-    session.DatenbankPfad = "W:\\weg.mdb";
+    session.database.DatenbankPfad = "W:\\weg.mdb";
     erwarteFehler("W:\\weg.mdb", "Verbindung zur Datenbank");
     scheitert();
 
-    session.DatenbankPfad = REGISTERPFAD;
+    session.database.DatenbankPfad = REGISTERPFAD;
     erwarteFehler(REGISTERPFAD, "Verbindung zur Datenbank");
     schreibe("access.mdb", std::string("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24) + std::string(4096, '\0'));
     scheitert();
@@ -102,7 +102,7 @@ TEST_F(FaultsAtTheStart, ANullWhereATextMustStandFailsInItsStep)
         const auto vorher = iniZeilen(fall.gruppe);
         loesche(fall.gruppe);
         fuegeEin({fall.zeile});
-        session.DatenbankPfad = REGISTERPFAD;
+        session.database.DatenbankPfad = REGISTERPFAD;
         erwarteFehler(REGISTERPFAD, fall.abschnitt);
         scheitert();
         loesche(fall.gruppe);
@@ -112,7 +112,7 @@ TEST_F(FaultsAtTheStart, ANullWhereATextMustStandFailsInItsStep)
 
 TEST_F(FaultsAtTheStart, CancelEndsTheProgram)
 {
-    session.DatenbankPfad = "W:\\weg.mdb";
+    session.database.DatenbankPfad = "W:\\weg.mdb";
     world.meldungen.antworte();
     world.meldungen.antworte(Antwort::Abbrechen);
     EXPECT_THROW(Hauptprogramm(session, ports), ProgrammEnde);

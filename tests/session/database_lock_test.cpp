@@ -14,7 +14,7 @@ using ::testing::HasSubstr;
 class LockedRegister : public RegisterTest
 {
 protected:
-    LockedRegister() { session.Verbindung.setPatience(&patience); }
+    LockedRegister() { session.database.Verbindung.setPatience(&patience); }
 
     FakePatience patience{0};
 };
@@ -27,7 +27,7 @@ TEST_F(LockedRegister, GivingUpAtTheStartLeavesNoDatabase)
     EXPECT_FALSE(Hauptprogramm(session, ports));
     EXPECT_EQ(world.meldungen.gezeigt.at(0).titel, "Fehler beim Öffnen der Datenbank");
     EXPECT_THAT(world.meldungen.letzte().text, HasSubstr("Das Warten auf die Datenbank wurde abgebrochen."));
-    EXPECT_EQ(session.DatenbankPfad, "");
+    EXPECT_EQ(session.database.DatenbankPfad, "");
 }
 
 TEST_F(LockedRegister, TheProgramEndsAllTheSameAndTellsThatItsSettingsAreLost)

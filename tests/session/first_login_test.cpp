@@ -76,19 +76,20 @@ TEST_P(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
     meldeAn();
     const auto vorher = iniZeilen("Feld2 Like '%'");
     const auto pruefe = [this] {
-        EXPECT_EQ(session.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
-        EXPECT_EQ(session.Bezeichnungen.at("projekt"), "Auftrag");
-        EXPECT_EQ(session.Bezeichnungen.at("stichwörter"), "Stichwörter");
+        EXPECT_EQ(session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
+        EXPECT_EQ(session.labels.Bezeichnungen.at("projekt"), "Auftrag");
+        EXPECT_EQ(session.labels.Bezeichnungen.at("stichwörter"), "Stichwörter");
         EXPECT_EQ(session.mehrzahl(6) + session.einzahl(5), "NormteileSondertabelle1");
-        EXPECT_EQ(session.PlotPfad, "W:\\Plot");
-        EXPECT_TRUE(session.CheckInOutOn && session.ForwardOn && session.MeldenWeiterleiten && session.MeldenWorkflow);
-        EXPECT_TRUE(session.CheckInOut.offen());
-        EXPECT_EQ(session.Zeitintervall, 30000);
-        EXPECT_EQ(session.ZeitintervallText, " (Zeitintervall = 30,0 Sek.)");
-        EXPECT_EQ(session.PlotVorgabe.Printer, "Buero");
-        EXPECT_EQ(session.PdfVorgabe.ColorMode, "In Farbe");
-        EXPECT_EQ(session.PdfVorgabe.Pfad, "C:\\SE");
-        EXPECT_FALSE(session.PlotDruckerKomplett);
+        EXPECT_EQ(session.orders.PlotPfad, "W:\\Plot");
+        EXPECT_TRUE(session.use.CheckInOutOn && session.use.ForwardOn && session.use.MeldenWeiterleiten &&
+                    session.use.MeldenWorkflow);
+        EXPECT_TRUE(session.use.CheckInOut.offen());
+        EXPECT_EQ(session.use.Zeitintervall, 30000);
+        EXPECT_EQ(session.use.ZeitintervallText, " (Zeitintervall = 30,0 Sek.)");
+        EXPECT_EQ(session.orders.PlotVorgabe.Printer, "Buero");
+        EXPECT_EQ(session.orders.PdfVorgabe.ColorMode, "In Farbe");
+        EXPECT_EQ(session.orders.PdfVorgabe.Pfad, "C:\\SE");
+        EXPECT_FALSE(session.orders.PlotDruckerKomplett);
         EXPECT_TRUE(session.Tree.Versendet);
     };
     pruefe();
@@ -101,8 +102,8 @@ TEST_P(FirstLogin, WithoutAPrinterNoPrintRowsAreWrittenUntilThereIsOne)
 {
     world.drucker.standarddrucker.reset();
     meldeAn();
-    EXPECT_EQ(session.PlotVorgabe.Printer, "");
-    EXPECT_EQ(session.PlotVorgabe.PaperSize, "Wie in Solid Edge");
+    EXPECT_EQ(session.orders.PlotVorgabe.Printer, "");
+    EXPECT_EQ(session.orders.PlotVorgabe.PaperSize, "Wie in Solid Edge");
     EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND (Feld2 = 'Plot' OR Feld2 = 'PDF')"), IsEmpty());
 
     world.drucker.standarddrucker = Standarddrucker{"Neu"};
@@ -122,8 +123,8 @@ TEST_P(FirstLogin, AnEmptyTableOfSettingsIsARegister)
                 ElementsAre("", "Modul: Falscher Eintrag Ini-Tabelle", "Modul: Falscher Eintrag Ini-Tabelle",
                             "Modul: Falscher Eintrag Ini-Tabelle", "Modul: Falscher oder fehlender Eintrag Ini-Tabelle",
                             "Modul: Falscher oder fehlender Eintrag Ini-Tabelle"));
-    EXPECT_FALSE(session.CheckInOutOn || session.ForwardOn);
-    EXPECT_EQ(session.ZeitintervallText, " (Zeitintervall = 0,0 Sek.)");
+    EXPECT_FALSE(session.use.CheckInOutOn || session.use.ForwardOn);
+    EXPECT_EQ(session.use.ZeitintervallText, " (Zeitintervall = 0,0 Sek.)");
     EXPECT_THAT(iniZeilen("Feld2 = 'Nachricht'"), IsEmpty());
 }
 

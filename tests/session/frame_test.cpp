@@ -37,7 +37,7 @@ protected:
     }
     void ohneDatenbank()
     {
-        session.DatenbankPfad.clear();
+        session.database.DatenbankPfad.clear();
         ASSERT_TRUE(rahmen.laden());
     }
     void mitDatenbank()
@@ -131,9 +131,9 @@ TEST_F(Frame, ToolBarFollowsRightsEventsAndForwarding)
         {{1, 1, 1, 1, 1, 1}, true, true, "C:\\SmartView", "SmExWeNaBe/Bearbeiten mit Solid Edge"},
     };
     for (const auto& fall : faelle) {
-        session.Sichtbar = fall.sichtbar;
-        session.ActiveQuelvarn = fall.aktiv;
-        session.ForwardOn = fall.forward;
+        session.rights.Sichtbar = fall.sichtbar;
+        session.pages.ActiveQuelvarn = fall.aktiv;
+        session.use.ForwardOn = fall.forward;
         MainWindow fenster(session, operations, {"16", fall.viewer});
         fenster.stelleWerkzeugeEin();
         std::string text;
@@ -141,7 +141,7 @@ TEST_F(Frame, ToolBarFollowsRightsEventsAndForwarding)
             if (fenster.knopf(static_cast<Werkzeug>(i)).sichtbar)
                 text += fenster.knopf(static_cast<Werkzeug>(i)).beschriftung.substr(0, 2);
         EXPECT_EQ(text + "/" + std::string(fenster.knopf(Werkzeug::Bearbeiten).tooltip), fall.werkzeuge);
-        EXPECT_EQ(session.ActiveQuelvarn, fall.werkzeuge.starts_with("BeEi"));
+        EXPECT_EQ(session.pages.ActiveQuelvarn, fall.werkzeuge.starts_with("BeEi"));
     }
 }
 
@@ -160,7 +160,7 @@ TEST_F(Frame, ForwardingThatIsOffAnswersWithABox)
     rahmen.werkzeugGewaehlt(Werkzeug::Nachrichten);
     EXPECT_EQ(aktionen, 0);
 
-    session.ForwardOn = true;
+    session.use.ForwardOn = true;
     rahmen.werkzeugGewaehlt(Werkzeug::Weiterleiten);
     EXPECT_EQ(aktionen, 1);
     rahmen.setzeAktion(Werkzeug::SmartViewer, [] { throw Laufzeitfehler(5, "x", "y"); });
@@ -172,7 +172,7 @@ TEST_F(Frame, ForwardingThatIsOffAnswersWithABox)
 TEST_F(Frame, ASecondCopyThatIsNotWantedEndsAtOnce)
 {
     world.programme.andere = {"    Quelvarn Version 2.0.0"};
-    session.DatenbankPfad.clear();
+    session.database.DatenbankPfad.clear();
     world.meldungen.antworte(Antwort::Nein);
     EXPECT_FALSE(rahmen.laden());
     EXPECT_TRUE(beendet);
@@ -195,11 +195,11 @@ TEST_F(Frame, ChoosingAndOpeningChangesTheDatabase)
     EXPECT_EQ(start.LabelDB(), "  Datenbank:  werk.mdb");
     EXPECT_EQ(start.dateinamePanel() + "+" + start.pfadnamePanel(), "werk.mdb+W:\\Daten");
     EXPECT_EQ(rahmen.titel(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
-    EXPECT_FALSE(session.Verbindung.offen());
+    EXPECT_FALSE(session.database.Verbindung.offen());
 
     world.meldungen.antworte(); // The welcome.
     start.oeffnen();
-    EXPECT_TRUE(session.DatenbankOk);
+    EXPECT_TRUE(session.database.DatenbankOk);
     EXPECT_THAT(beobachter.ereignisse, ElementsAre("wechselt", "gewechselt", "Seite 3"));
     EXPECT_EQ(world.dateien.lese("C:\\Quelvarnis.ini"), "W:\\Daten\\werk.mdb\r\n");
     EXPECT_FALSE(start.activeSEBereit()); // A new user does not see statuses 0 to 2.
@@ -217,7 +217,7 @@ TEST_F(Frame, ARefusedChoiceKeepsTheDatabaseButNotTheRowsOfTheUnload)
     EXPECT_EQ(start.auswahl().ordner(), "W:\\");
     waehle("neu.mdb", Antwort::Nein, REGISTERPFAD, "W:\\neu.mdb");
     EXPECT_EQ(rahmen.titel(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
-    EXPECT_TRUE(session.Verbindung.offen());
+    EXPECT_TRUE(session.database.Verbindung.offen());
     start.offlineToolGewaehlt(0);
     rahmen.entladen();
     EXPECT_THAT(iniZeilen("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Talvik|~"));
@@ -233,15 +233,15 @@ TEST_F(Frame, AWrongFileStaysOnTheStartPage)
     world.meldungen.antworte();
     start.oeffnen();
     EXPECT_EQ(rahmen.seite(), Seite::Start);
-    EXPECT_FALSE(session.DatenbankOk || session.ForwardOn || start.activeSESichtbar());
-    EXPECT_EQ(session.DatenbankPfad, "");
+    EXPECT_FALSE(session.database.DatenbankOk || session.use.ForwardOn || start.activeSESichtbar());
+    EXPECT_EQ(session.database.DatenbankPfad, "");
     EXPECT_FALSE(rahmen.TimerDBUpdate().an);
 }
 
 TEST_F(Frame, SettingsOfTheStartPageAreWrittenWhenItUnloads)
 {
     meldeAn();
-    session.Sichtbar.fill(1);
+    session.rights.Sichtbar.fill(1);
     ASSERT_TRUE(rahmen.laden());
     rahmen.zuSeite(Seite::Start);
     beobachter.ereignisse.clear();
@@ -254,7 +254,7 @@ TEST_F(Frame, SettingsOfTheStartPageAreWrittenWhenItUnloads)
     EXPECT_FALSE(session.Tree.Verwendung || session.Tree.Versendet);
     rahmen.werkzeugGewaehlt(Werkzeug::Beenden);
     EXPECT_TRUE(beendet);
-    EXPECT_FALSE(session.Verbindung.offen());
+    EXPECT_FALSE(session.database.Verbindung.offen());
     EXPECT_THAT(beobachter.ereignisse, ElementsAre("Baum", "Baum", "Offline", "entladen"));
     EXPECT_THAT(iniZeilen("Feld2 = 'Treeview' AND Feld4 = '0'"),
                 UnorderedElementsAre("mueller|Treeview|Verwendung|0|Verwendung anzeigen",

@@ -36,25 +36,27 @@ std::string vorgabe(const Druckvorgabe& v)
 // What a start left in the session, by names of its fields.
 std::map<std::string, std::string> felder(const SessionState& s)
 {
-    const Recordset& filter = s.GespeicherteFilter[3];
+    const Recordset& filter = s.pages.GespeicherteFilter[3];
     return {
-        {"Namen", s.Bezeichnungen.at("autor") + s.Bezeichnungen.at("titel") + s.Bezeichnungen.at("geändert") +
-                      s.Bezeichnungen.at("projekt") + s.SondertabelleName[1]},
-        {"PlotPfad", s.PlotPfad},
-        {"OfflineTool", s.OfflineTool},
-        {"PlotDrucker", s.PlotDrucker[0] + s.PlotDrucker[9] + jaNein(s.PlotDruckerKomplett)},
-        {"PdfDrucker", s.PdfDrucker},
-        {"OnOff", jaNein(s.CheckInOutOn) + jaNein(s.ForwardOn) + jaNein(s.CheckInOut.offen())},
-        {"Melden", jaNein(s.MeldenWorkflow) + jaNein(s.MeldenWeiterleiten)},
-        {"Intervall", std::to_string(s.Zeitintervall) + s.ZeitintervallText},
-        {"Starttabelle", s.Starttabelle},
+        {"Namen", s.labels.Bezeichnungen.at("autor") + s.labels.Bezeichnungen.at("titel") +
+                      s.labels.Bezeichnungen.at("geändert") + s.labels.Bezeichnungen.at("projekt") +
+                      s.labels.SondertabelleName[1]},
+        {"PlotPfad", s.orders.PlotPfad},
+        {"OfflineTool", s.orders.OfflineTool},
+        {"PlotDrucker", s.orders.PlotDrucker[0] + s.orders.PlotDrucker[9] + jaNein(s.orders.PlotDruckerKomplett)},
+        {"PdfDrucker", s.orders.PdfDrucker},
+        {"OnOff", jaNein(s.use.CheckInOutOn) + jaNein(s.use.ForwardOn) + jaNein(s.use.CheckInOut.offen())},
+        {"Melden", jaNein(s.use.MeldenWorkflow) + jaNein(s.use.MeldenWeiterleiten)},
+        {"Intervall", std::to_string(s.use.Zeitintervall) + s.use.ZeitintervallText},
+        {"Starttabelle", s.pages.Starttabelle},
         {"Tree", jaNein(s.Tree.TIFFDoku) + jaNein(s.Tree.Knoten) + jaNein(s.Tree.Revision)},
-        {"Offline", s.OfflineArt + s.OfflineNummer + s.OfflineExportArt},
-        {"Zip", std::to_string(s.ZipStufe) + s.ZipPasswort},
-        {"Plot", vorgabe(s.PlotVorgabe)},
-        {"PDF", vorgabe(s.PdfVorgabe)},
-        {"Suchtexte", join(s.Suchtexte, "+")},
-        {"Rechte", s.WhereStatus + std::to_string(s.LoeschRecht[0]) + std::to_string(s.LoeschRecht[1])},
+        {"Offline", s.orders.OfflineArt + s.orders.OfflineNummer + s.orders.OfflineExportArt},
+        {"Zip", std::to_string(s.orders.ZipStufe) + s.orders.ZipPasswort},
+        {"Plot", vorgabe(s.orders.PlotVorgabe)},
+        {"PDF", vorgabe(s.orders.PdfVorgabe)},
+        {"Suchtexte", join(s.pages.Suchtexte, "+")},
+        {"Rechte",
+         s.rights.WhereStatus + std::to_string(s.rights.LoeschRecht[0]) + std::to_string(s.rights.LoeschRecht[1])},
         {"Filter", filter.leer() ? "" : filter.Text("Filtername") + "=" + filter.Text("Filterstring")},
     };
 }

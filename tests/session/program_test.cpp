@@ -21,16 +21,16 @@ TEST_F(Program, StartKnowsWhoAndWhereAndMakesItsFolders)
     world.umgebung.anwender = "ein-viel-zu-langer-anwendername";
     world.umgebung.laufwerk = "W:";
     Main(session, ports);
-    EXPECT_EQ(session.Anwender, "ein-viel-zu-langer-anwend");
-    EXPECT_EQ(session.FensterHoehe, 10090);
-    EXPECT_FALSE(session.DatenbankOk);
-    EXPECT_EQ(session.OrdnerOfflineVersand, "W:\\Dokumente und Einstellungen Quelvarnis\\Offline_Versand");
+    EXPECT_EQ(session.user.Anwender, "ein-viel-zu-langer-anwend");
+    EXPECT_EQ(session.user.FensterHoehe, 10090);
+    EXPECT_FALSE(session.database.DatenbankOk);
+    EXPECT_EQ(session.folders.OrdnerOfflineVersand, "W:\\Dokumente und Einstellungen Quelvarnis\\Offline_Versand");
     for (const char* name : {"SolidEdge_Dokumente", "Protokoll_Prio", "Datenbank_Pfad", "Offline_Versand"})
-        EXPECT_TRUE(world.dateien.ordnerVorhanden(session.OrdnerBasis + "\\" + name)) << name;
+        EXPECT_TRUE(world.dateien.ordnerVorhanden(session.folders.OrdnerBasis + "\\" + name)) << name;
 
     world.umgebung.version = {"5", "1", 2};
     Main(session, ports); // The folders are there already.
-    EXPECT_EQ(session.FensterHoehe, 10150);
+    EXPECT_EQ(session.user.FensterHoehe, 10150);
 }
 
 TEST_F(Program, AFolderThatCannotBeMadeIsReported)
@@ -41,8 +41,8 @@ TEST_F(Program, AFolderThatCannotBeMadeIsReported)
                             "- Keine Schreibberechtigung auf die Verzeichnisse von Quelvarnis.");
     world.meldungen.antworte(Antwort::Ok);
     Main(session, ports);
-    EXPECT_FALSE(session.DatenbankOk);
-    EXPECT_EQ(session.DatenbankPfad, "");
+    EXPECT_FALSE(session.database.DatenbankOk);
+    EXPECT_EQ(session.database.DatenbankPfad, "");
 }
 
 TEST_F(Program, ErrorReportEndsTheProgramOnCancel)
@@ -87,7 +87,7 @@ TEST_F(Program, FindsCopiesAndSiblingsByTheirCaptions)
 
 TEST_F(Program, LastDatabaseIsTheLastLineOfTheLocalFile)
 {
-    session.OrdnerDatenbankPfad = "C:";
+    session.folders.OrdnerDatenbankPfad = "C:";
     world.dateien.legeAn("W:\\Übersicht\\werk.mdb");
     world.dateien.legeAn("W:\\Übersicht\\GROSS.MDB");
     const struct

@@ -29,10 +29,10 @@ protected:
     // With the address of an empty PostgreSQL database the register lies there, and the file names it.
     explicit RegisterTest(const std::string& postgres = "")
     {
-        session.Anwender = "mueller";
-        session.Rechner = "CAD-PC-7";
-        session.OrdnerSEDokumente = "C:\\SE";
-        session.OrdnerDatenbankPfad = "C:";
+        session.user.Anwender = "mueller";
+        session.user.Rechner = "CAD-PC-7";
+        session.folders.OrdnerSEDokumente = "C:\\SE";
+        session.folders.OrdnerDatenbankPfad = "C:";
         legeRegisterAn(postgres.empty() ? *oeffneSqlite(datei, true) : *oeffnePostgres(postgres));
         if (!postgres.empty())
             std::ofstream(datei) << postgres << "\n";
@@ -40,7 +40,7 @@ protected:
         world.dateien.verbinde(REGISTERPFAD, datei);
         world.dateien.legeAn("W:\\Plot\\x.txt");
         world.dateien.legeAn("W:\\Anderes\\notiz.txt");
-        session.DatenbankPfad = REGISTERPFAD;
+        session.database.DatenbankPfad = REGISTERPFAD;
         // What a well kept installation has.
         fuegeEin({"!QV_Ini|Bezeichnung|Projekt|Auftrag|~", "!QV_Ini|Tabelle|Sondertabelle2|Normteile|~",
                   "!QV_Ini|Plot|Pfadname|~|W:\\Plot", "!QV_Ini|OnOff|CheckInOut|1|~", "!QV_Ini|OnOff|Forward|1|~",
@@ -82,7 +82,7 @@ protected:
     {
         world.meldungen.antworte();
         ASSERT_TRUE(Hauptprogramm(session, ports));
-        session.DatenbankOk = true;
+        session.database.DatenbankOk = true;
         world.meldungen.gezeigt.clear();
     }
 

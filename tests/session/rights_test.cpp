@@ -45,10 +45,10 @@ TEST(Rights, StatusScopeAndAccessLineFollowTheVisibleStatuses)
     };
     for (const auto& fall : faelle) {
         SessionState session;
-        session.Sichtbar = fall.sichtbar;
+        session.rights.Sichtbar = fall.sichtbar;
         bildeStatusbereich(session);
-        EXPECT_EQ(session.WhereStatus, fall.where);
-        EXPECT_EQ(session.AndStatus, fall.und);
+        EXPECT_EQ(session.rights.WhereStatus, fall.where);
+        EXPECT_EQ(session.rights.AndStatus, fall.und);
         EXPECT_EQ(zugriffstext(session), fall.zeile);
     }
 }
@@ -63,7 +63,7 @@ TEST(Rights, DeletionCodesDecideForOwnAndForeignRowsAndFiles)
     };
     for (int code = 0; code <= 6; ++code) {
         SessionState session;
-        session.LoeschRecht.fill(code);
+        session.rights.LoeschRecht.fill(code);
         FakeMeldungen meldungen;
         meldungen.erlaubeHinweise();
         EXPECT_EQ(PruefeLoeschenDB(session, meldungen, 3, 1, 5), erlaubt[code][0]) << code;

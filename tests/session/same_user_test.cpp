@@ -46,9 +46,9 @@ protected:
             start.world.dateien.verbinde(REGISTERPFAD, datei);
             start.world.dateien.legeAn("W:\\Plot\\x.txt");
             start.world.meldungen.erlaubeHinweise();
-            start.session.Anwender = "mueller";
-            start.session.OrdnerSEDokumente = "C:\\SE";
-            start.session.DatenbankPfad = REGISTERPFAD;
+            start.session.user.Anwender = "mueller";
+            start.session.folders.OrdnerSEDokumente = "C:\\SE";
+            start.session.database.DatenbankPfad = REGISTERPFAD;
         }
         atOnce([](Start& start) {
             Ports ports = start.world.ports();
@@ -74,8 +74,8 @@ TEST_P(SameUser, IsNewOnceHoweverManyStartsThereAre)
     std::size_t greetings = 0;
     for (const Start& start : starts_) {
         EXPECT_TRUE(start.good);
-        EXPECT_EQ(start.session.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
-        EXPECT_EQ(start.session.PdfVorgabe.Pfad, "C:\\SE");
+        EXPECT_EQ(start.session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
+        EXPECT_EQ(start.session.orders.PdfVorgabe.Pfad, "C:\\SE");
         greetings += start.world.meldungen.gezeigt.size();
     }
     EXPECT_EQ(greetings, 1U);
@@ -88,7 +88,7 @@ TEST_P(SameUser, ClosedAtOnceLeavesTheSearchTextsOfOne)
     startAll();
     char letter = 'a';
     for (Start& start : starts_) {
-        start.session.Suchtexte = {std::string(1, letter), std::string(2, letter)};
+        start.session.pages.Suchtexte = {std::string(1, letter), std::string(2, letter)};
         ++letter;
     }
     atOnce([](Start& start) { schreibeDokumentseite(start.session, 0); });
@@ -107,17 +107,17 @@ TEST_P(SameUser, WithTwinsOfHisRowsKeepsHisSettings)
     meldeAn();
     fuegeEin(iniZeilen("Feld1 = 'mueller'"));
     for (const bool on : {true, false}) {
-        session.ActiveQuelvarn = on;
+        session.pages.ActiveQuelvarn = on;
         session.Tree.Knoten = on;
-        session.OfflineNummer = on ? "(2)" : "(1)";
+        session.orders.OfflineNummer = on ? "(2)" : "(1)";
         schreibeStartseite(session);
         schreibeDokumentseite(session, on ? 3 : 0);
         ASSERT_TRUE(Hauptprogramm(session, ports));
-        EXPECT_EQ(session.ActiveQuelvarn, on);
+        EXPECT_EQ(session.pages.ActiveQuelvarn, on);
         EXPECT_EQ(session.Tree.Knoten, on);
-        EXPECT_EQ(session.OfflineNummer, on ? "(2)" : "(1)");
-        EXPECT_EQ(session.Starttabelle, on ? "Zeichnungen" : "Bauteile");
-        EXPECT_EQ(session.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
+        EXPECT_EQ(session.orders.OfflineNummer, on ? "(2)" : "(1)");
+        EXPECT_EQ(session.pages.Starttabelle, on ? "Zeichnungen" : "Bauteile");
+        EXPECT_EQ(session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
     }
     EXPECT_EQ(iniZeilen("Feld1 = 'mueller'").size(), 2 * 37U);
 }

@@ -18,8 +18,8 @@ protected:
 TEST_F(SettingsWriter, StartPageLeavesItsSwitches)
 {
     loesche("Feld1 = 'mueller' AND Feld3 = 'ZusDoku'");
-    session.ActiveQuelvarn = true;
-    session.OfflineTool = "Druvik";
+    session.pages.ActiveQuelvarn = true;
+    session.orders.OfflineTool = "Druvik";
     session.Tree.Knoten = false;
     session.Tree.ZusDoku = false;
     schreibeStartseite(session);
@@ -30,18 +30,18 @@ TEST_F(SettingsWriter, StartPageLeavesItsSwitches)
     EXPECT_THAT(iniZeilen("Feld3 = 'ZusDoku'"), IsEmpty()); // Only rows that exist.
 
     ASSERT_TRUE(Hauptprogramm(session, ports)); // The missing row is there again, switched on.
-    EXPECT_TRUE(session.ActiveQuelvarn && session.Tree.ZusDoku && !session.Tree.Knoten);
-    EXPECT_EQ(session.OfflineTool, "Druvik");
+    EXPECT_TRUE(session.pages.ActiveQuelvarn && session.Tree.ZusDoku && !session.Tree.Knoten);
+    EXPECT_EQ(session.orders.OfflineTool, "Druvik");
 }
 
 TEST_F(SettingsWriter, DocumentPageLeavesSearchTextsTableAndOrderOptions)
 {
     fuegeEin({"meier|Suchen/Filtern|Text0|seins|~", "mueller|Suchen/Filtern|Text0|alt|~"});
     const std::string lang(60, 'x');
-    session.Suchtexte = {"Flansch", "", "ü" + lang};
-    session.OfflineArt.clear();
-    session.OfflineNummer = "(2)";
-    session.OfflineExportArt = "BOM";
+    session.pages.Suchtexte = {"Flansch", "", "ü" + lang};
+    session.orders.OfflineArt.clear();
+    session.orders.OfflineNummer = "(2)";
+    session.orders.OfflineExportArt = "BOM";
     schreibeDokumentseite(session, 3);
     EXPECT_THAT(iniZeilen("Feld2 = 'Suchen/Filtern'"),
                 ElementsAre("meier|Suchen/Filtern|Text0|seins|~", "mueller|Suchen/Filtern|Text0|Flansch|~",
@@ -50,12 +50,12 @@ TEST_F(SettingsWriter, DocumentPageLeavesSearchTextsTableAndOrderOptions)
     EXPECT_THAT(iniZeilen("Feld2 = 'OfflineDaten'"), ElementsAre("mueller|OfflineDaten|Leer|(2)|BOM"));
 
     fuegeEin({"mueller|Suchen/Filtern|Text10|fremd|~"}); // Of no key: it goes with the next writing.
-    session.Suchtexte = {"Flansch"};
+    session.pages.Suchtexte = {"Flansch"};
     schreibeDokumentseite(session, 3);
     EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'Suchen/Filtern'"),
                 ElementsAre("mueller|Suchen/Filtern|Text0|Flansch|~"));
 
-    session.Suchtexte.clear();
+    session.pages.Suchtexte.clear();
     schreibeDokumentseite(session, 5); // A special table is no start table.
     EXPECT_THAT(iniZeilen("Feld1 = 'mueller' AND Feld2 = 'Suchen/Filtern'"), IsEmpty());
     EXPECT_THAT(iniZeilen("Feld2 = 'Starttabelle'"), ElementsAre("mueller|Starttabelle|Zeichnungen|~|~"));

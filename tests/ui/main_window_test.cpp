@@ -45,7 +45,7 @@ TEST_F(MDIForm1Test, HasAFixedSizeInTwips)
     // 1440 twips an inch, 96 dots an inch.
     EXPECT_EQ(fenster_.minimumSize(), QSize(939, 673));
     EXPECT_EQ(fenster_.maximumSize(), QSize(939, 673));
-    session_.FensterHoehe = 10150;
+    session_.user.FensterHoehe = 10150;
     fenster_.stelleGroesseEin();
     EXPECT_EQ(fenster_.size(), QSize(939, 677));
 
@@ -65,8 +65,8 @@ TEST_F(MDIForm1Test, ShowsTheButtonsThatTheUserMayUse)
     for (const auto& [sichtbar, erwartet] :
          {std::pair(1, "Bearbeiten|Einfügen Baugr.|Plazieren Zchn.|SmartViewer|Beenden|"),
           {0, "SmartViewer|Beenden|"}}) {
-        session_.Sichtbar = {sichtbar, sichtbar, sichtbar, 1 - sichtbar, 0, 0};
-        session_.ActiveQuelvarn = true;
+        session_.rights.Sichtbar = {sichtbar, sichtbar, sichtbar, 1 - sichtbar, 0, 0};
+        session_.pages.ActiveQuelvarn = true;
         modell_.stelleWerkzeugeEin();
         fenster_.zeigen();
         EXPECT_EQ(knoepfe(), erwartet);
@@ -76,7 +76,7 @@ TEST_F(MDIForm1Test, ShowsTheButtonsThatTheUserMayUse)
 TEST_F(MDIForm1Test, RunsItsTimersAsTold)
 {
     const auto* timer = fenster_.findChild<QTimer*>(QStringLiteral("TimerDBUpdate"));
-    session_.Zeitintervall = 30000;
+    session_.use.Zeitintervall = 30000;
     modell_.stelleZeitgeberEin();
     modell_.RefreshStatusBar();
     fenster_.zeigen();
@@ -87,7 +87,7 @@ TEST_F(MDIForm1Test, RunsItsTimersAsTold)
     fenster_.zeigeAenderungen({"", "", "14.02.11", "", ""});
     EXPECT_EQ(fenster_.findChild<QLabel*>(QStringLiteral("StatusBarUpdate(7)"))->text(), u"14.02.11");
 
-    session_.Zeitintervall = 0;
+    session_.use.Zeitintervall = 0;
     modell_.stelleZeitgeberEin();
     fenster_.zeigen();
     EXPECT_FALSE(timer->isActive());

@@ -375,7 +375,7 @@ TEST_F(ValuesOnThePageTest, NoLetterOfATabsNameIsAShortcut)
 {
     auto& tabs = find<QTabWidget>("SSTabDGDoku");
     const QString plain = tabs.tabText(5);
-    session_.SondertabelleName[0] = "Roste & <Gitter>";
+    session_.labels.SondertabelleName[0] = "Roste & <Gitter>";
     page_.zeigen();
     EXPECT_NE(tabs.tabText(5), plain);
     EXPECT_TRUE(QKeySequence::mnemonic(tabs.tabText(5)).isEmpty());

@@ -61,24 +61,24 @@ Namen leseNamen(Startlauf& lauf, std::string_view gruppe, Namen namen)
 
 void leseBezeichnungen(Startlauf& lauf)
 {
-    lauf.session.Bezeichnungen = leseNamen(lauf, "Bezeichnung", BEZEICHNUNGEN);
+    lauf.session.labels.Bezeichnungen = leseNamen(lauf, "Bezeichnung", BEZEICHNUNGEN);
 }
 
 void leseSondertabellen(Startlauf& lauf)
 {
     const Namen namen = leseNamen(lauf, "Tabelle", SONDERTABELLEN);
-    auto ziel = lauf.session.SondertabelleName.begin();
+    auto ziel = lauf.session.labels.SondertabelleName.begin();
     for (const auto& [schluessel, name] : namen)
         *ziel++ = name;
 }
 
 void leseSuchtexte(Startlauf& lauf)
 {
-    auto& suchtexte = lauf.session.Suchtexte;
+    auto& suchtexte = lauf.session.pages.Suchtexte;
     suchtexte.clear();
     // One text a key, in the order of the keys: rows of other keys are none, and of twins the first counts.
     std::array<std::optional<std::string>, ANZAHL_SUCHTEXTE> byKey;
-    for (Recordset zeilen = lauf.ini.suchtexte(lauf.session.Anwender); !zeilen.Eof(); zeilen.MoveNext()) {
+    for (Recordset zeilen = lauf.ini.suchtexte(lauf.session.user.Anwender); !zeilen.Eof(); zeilen.MoveNext()) {
         const auto key = searchTextKey(textOderLeer(zeilen, "Feld3"));
         if (key && !byKey[*key])
             byKey[*key] = pflichttext(zeilen, "Feld4");

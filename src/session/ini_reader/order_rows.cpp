@@ -31,34 +31,34 @@ std::string geheilt(Startlauf& lauf, Recordset& zeile, std::string_view feld, bo
 void leseOfflineDaten(Startlauf& lauf)
 {
     SessionState& session = lauf.session;
-    Recordset zeile = lauf.ini.zeilen(session.Anwender, "OfflineDaten");
+    Recordset zeile = lauf.ini.zeilen(session.user.Anwender, "OfflineDaten");
     if (zeile.leer()) {
-        session.OfflineArt = "Plot";
-        session.OfflineNummer = "(1)";
-        session.OfflineExportArt = "Export";
-        return lauf.ini.fuegeAn({session.Anwender, "OfflineDaten", "Plot", "(1)", "Export"});
+        session.orders.OfflineArt = "Plot";
+        session.orders.OfflineNummer = "(1)";
+        session.orders.OfflineExportArt = "Export";
+        return lauf.ini.fuegeAn({session.user.Anwender, "OfflineDaten", "Plot", "(1)", "Export"});
     }
     const bool artGut =
         istEinesVon(toUpper(pflichttext(zeile, "Feld3")), {"PLOT", "PDF", "TIFF", "EXPORT", "DIRECTMAIL"});
     const bool nummerGut = istEinesVon(pflichttext(zeile, "Feld4"), {"(1)", "(2)"});
     const bool exportGut = istEinesVon(toUpper(pflichttext(zeile, "Feld5")), {"EXPORT", "BOM"});
-    session.OfflineArt = geheilt(lauf, zeile, "Feld3", artGut, "Plot");
-    session.OfflineNummer = geheilt(lauf, zeile, "Feld4", nummerGut, "(1)");
-    session.OfflineExportArt = geheilt(lauf, zeile, "Feld5", exportGut, "Export");
+    session.orders.OfflineArt = geheilt(lauf, zeile, "Feld3", artGut, "Plot");
+    session.orders.OfflineNummer = geheilt(lauf, zeile, "Feld4", nummerGut, "(1)");
+    session.orders.OfflineExportArt = geheilt(lauf, zeile, "Feld5", exportGut, "Export");
 }
 
 void leseZipDaten(Startlauf& lauf)
 {
     SessionState& session = lauf.session;
-    session.ZipStufe = 0;
-    session.ZipPasswort = ZIP_PASSWORT;
-    Recordset zeile = lauf.ini.zeilen(session.Anwender, "ZipDaten");
+    session.orders.ZipStufe = 0;
+    session.orders.ZipPasswort = ZIP_PASSWORT;
+    Recordset zeile = lauf.ini.zeilen(session.user.Anwender, "ZipDaten");
     if (zeile.leer())
-        return lauf.ini.fuegeAn({session.Anwender, "ZipDaten", ZIP_STUFEN[0], ZIP_PASSWORT});
+        return lauf.ini.fuegeAn({session.user.Anwender, "ZipDaten", ZIP_STUFEN[0], ZIP_PASSWORT});
 
     const auto stufe = std::find(ZIP_STUFEN.begin(), ZIP_STUFEN.end(), pflichttext(zeile, "Feld3"));
     if (stufe != ZIP_STUFEN.end())
-        session.ZipStufe = static_cast<int>(stufe - ZIP_STUFEN.begin());
+        session.orders.ZipStufe = static_cast<int>(stufe - ZIP_STUFEN.begin());
     else
         lauf.ini.aendere(zeile, "Feld3", ZIP_STUFEN[0]);
 
@@ -67,7 +67,7 @@ void leseZipDaten(Startlauf& lauf)
     if (passwort.empty())
         lauf.ini.aendere(zeile, "Feld4", ZIP_PASSWORT);
     else if (countCharacters(passwort) <= LAENGSTES_PASSWORT)
-        session.ZipPasswort = passwort;
+        session.orders.ZipPasswort = passwort;
 }
 
 } // namespace quelvarn

@@ -31,12 +31,12 @@ void uebernimmDrucker(SessionState& session, Recordset& zeilen)
 {
     for (; !zeilen.Eof(); zeilen.MoveNext()) {
         const std::string schluessel = pflichttext(zeilen, "Feld4");
-        for (std::size_t index = 0; index < session.PlotDrucker.size(); ++index)
+        for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index)
             if (schluessel == blattschluessel(index))
-                session.PlotDrucker[index] = pflichttext(zeilen, "Feld5");
+                session.orders.PlotDrucker[index] = pflichttext(zeilen, "Feld5");
     }
-    session.PlotDruckerKomplett =
-        std::none_of(session.PlotDrucker.begin(), session.PlotDrucker.end(),
+    session.orders.PlotDruckerKomplett =
+        std::none_of(session.orders.PlotDrucker.begin(), session.orders.PlotDrucker.end(),
                      [](const std::string& drucker) { return toUpper(drucker) == toUpper(KEINE_ANGABE); });
 }
 
@@ -44,7 +44,7 @@ void uebernimmDrucker(SessionState& session, Recordset& zeilen)
 
 void lesePlotPfad(Startlauf& lauf)
 {
-    lauf.session.PlotPfad.clear();
+    lauf.session.orders.PlotPfad.clear();
     Recordset zeilen = lauf.ini.verschiedene({"Feld5"}, EIGENTUEMER_ALLE, "Plot", "Pfadname");
     if (zeilen.leer()) {
         lauf.ports.meldungen.warnung("Modul: Falscher Eintrag Ini-Tabelle",
@@ -53,13 +53,13 @@ void lesePlotPfad(Startlauf& lauf)
     }
     const std::string pfad = textOderLeer(zeilen, "Feld5");
     if (!pfad.empty() && lauf.ports.dateien.ordnerVorhanden(pfad))
-        lauf.session.PlotPfad = pfad;
+        lauf.session.orders.PlotPfad = pfad;
 }
 
 void leseOfflineTool(Startlauf& lauf)
 {
     constexpr std::string_view VORGABE = "Talvik";
-    std::string& tool = lauf.session.OfflineTool;
+    std::string& tool = lauf.session.orders.OfflineTool;
     tool = VORGABE;
     Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
     if (zeilen.leer())
@@ -73,32 +73,32 @@ void leseOfflineTool(Startlauf& lauf)
 void lesePlotDrucker(Startlauf& lauf)
 {
     SessionState& session = lauf.session;
-    session.PlotDrucker.fill("");
-    session.PlotDruckerKomplett = false;
+    session.orders.PlotDrucker.fill("");
+    session.orders.PlotDruckerKomplett = false;
     Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Printer");
-    if (zeilen.RecordCount() == session.PlotDrucker.size())
+    if (zeilen.RecordCount() == session.orders.PlotDrucker.size())
         return uebernimmDrucker(session, zeilen);
     if (!zeilen.leer())
         return warneDruckertabelle(lauf.ports.meldungen, "Printer");
 
-    for (std::size_t index = 0; index < session.PlotDrucker.size(); ++index) {
+    for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index) {
         lauf.ini.fuegeAn({EIGENTUEMER_ALLE, "Plot", "Printer", blattschluessel(index), KEINE_ANGABE});
-        session.PlotDrucker[index] = KEINE_ANGABE;
+        session.orders.PlotDrucker[index] = KEINE_ANGABE;
     }
 }
 
 void lesePdfDrucker(Startlauf& lauf)
 {
-    lauf.session.PdfDrucker.clear();
+    lauf.session.orders.PdfDrucker.clear();
     Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "PDF");
     if (zeilen.RecordCount() > 1)
         return warneDruckertabelle(lauf.ports.meldungen, "PDF");
     if (!zeilen.leer()) {
-        lauf.session.PdfDrucker = pflichttext(zeilen, "Feld5");
+        lauf.session.orders.PdfDrucker = pflichttext(zeilen, "Feld5");
         return;
     }
     lauf.ini.fuegeAn({EIGENTUEMER_ALLE, "Plot", "PDF", PDF_SCHLUESSEL, KEINE_ANGABE});
-    lauf.session.PdfDrucker = KEINE_ANGABE;
+    lauf.session.orders.PdfDrucker = KEINE_ANGABE;
 }
 
 } // namespace quelvarn

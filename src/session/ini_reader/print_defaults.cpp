@@ -19,7 +19,7 @@ class Vorgabeleser
 public:
     Vorgabeleser(Startlauf& lauf, bool pdf)
         : lauf_(lauf), pdf_(pdf), gruppe_(pdf ? "PDF" : "Plot"),
-          vorgabe_(pdf ? lauf.session.PdfVorgabe : lauf.session.PlotVorgabe)
+          vorgabe_(pdf ? lauf.session.orders.PdfVorgabe : lauf.session.orders.PlotVorgabe)
     {}
 
     void lies();
@@ -46,7 +46,7 @@ private:
 void Vorgabeleser::lies()
 {
     vorgabe_ = {};
-    Recordset zeilen = lauf_.ini.zeilen(lauf_.session.Anwender, gruppe_);
+    Recordset zeilen = lauf_.ini.zeilen(lauf_.session.user.Anwender, gruppe_);
     const bool neu = zeilen.leer();
     for (; !zeilen.Eof(); zeilen.MoveNext())
         uebernimm(zeilen);
@@ -84,7 +84,7 @@ void Vorgabeleser::uebernimmPfad(const Recordset& zeile)
     const int art = zahlOderNull(zeile, "Feld4");
     vorgabe_.PfadArt = art >= 1 && art <= 3 ? art : 1;
     const std::string pfad = textOderLeer(zeile, "Feld5");
-    vorgabe_.Pfad = pfad.empty() ? lauf_.session.OrdnerSEDokumente : pfad;
+    vorgabe_.Pfad = pfad.empty() ? lauf_.session.folders.OrdnerSEDokumente : pfad;
 }
 
 std::string Vorgabeleser::papier(const std::string& wert)
@@ -146,15 +146,15 @@ void Vorgabeleser::ergaenzePfad()
     if (!vorgabe_.Pfad.empty())
         return;
     vorgabe_.PfadArt = 1;
-    vorgabe_.Pfad = lauf_.session.OrdnerSEDokumente;
+    vorgabe_.Pfad = lauf_.session.folders.OrdnerSEDokumente;
     if (schreibt_)
-        lauf_.ini.fuegeAn({lauf_.session.Anwender, gruppe_, "Pfadname", "1", vorgabe_.Pfad});
+        lauf_.ini.fuegeAn({lauf_.session.user.Anwender, gruppe_, "Pfadname", "1", vorgabe_.Pfad});
 }
 
 void Vorgabeleser::fuegeAn(std::string_view schluessel, std::string_view wert)
 {
     if (schreibt_)
-        lauf_.ini.fuegeAn({lauf_.session.Anwender, gruppe_, schluessel, wert});
+        lauf_.ini.fuegeAn({lauf_.session.user.Anwender, gruppe_, schluessel, wert});
 }
 
 bool Vorgabeleser::druckerVorhanden()

@@ -46,33 +46,33 @@ void lies(SessionState& session, Recordset& zeilen)
 {
     for (zeilen.MoveFirst(); !zeilen.Eof(); zeilen.MoveNext()) {
         const std::string schluessel = toLower(textOderLeer(zeilen, "Feld3"));
-        for (std::size_t status = 0; status < session.Sichtbar.size(); ++status) {
+        for (std::size_t status = 0; status < session.rights.Sichtbar.size(); ++status) {
             if (schluessel != fmt::format("{}_status", status))
                 continue;
-            session.Sichtbar[status] = zahlOderNull(zeilen, "Feld4");
-            session.LoeschRecht[status] = zahlOderNull(zeilen, "Feld5");
+            session.rights.Sichtbar[status] = zahlOderNull(zeilen, "Feld4");
+            session.rights.LoeschRecht[status] = zahlOderNull(zeilen, "Feld5");
         }
     }
 }
 
 void trageEin(Startlauf& lauf)
 {
-    const std::string& anwender = lauf.session.Anwender;
+    const std::string& anwender = lauf.session.user.Anwender;
     for (std::size_t status = 0; status < SICHTBAR_FUER_NEUE.size(); ++status)
         lauf.ini.fuegeAn(
             {anwender, "Berechtigung", fmt::format("{}_Status", status), SICHTBAR_FUER_NEUE[status] ? "1" : "0", "0"});
     lauf.ini.fuegeAn({anwender, "Sicherung", "BearbeitenVon"});
     lauf.ini.fuegeAn({anwender, "Sicherung", "SpeichernIn"});
-    lauf.session.Sichtbar = SICHTBAR_FUER_NEUE;
+    lauf.session.rights.Sichtbar = SICHTBAR_FUER_NEUE;
 }
 
 } // namespace
 
 void leseBerechtigung(Startlauf& lauf)
 {
-    lauf.session.Sichtbar.fill(0);
-    lauf.session.LoeschRecht.fill(0);
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Berechtigung");
+    lauf.session.rights.Sichtbar.fill(0);
+    lauf.session.rights.LoeschRecht.fill(0);
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Berechtigung");
     lauf.newUser = zeilen.leer();
     lauf.abschnitt = lauf.newUser ? "Berechtigung eintragen" : "Berechtigung lesen";
     if (lauf.newUser)
@@ -84,7 +84,7 @@ void leseBerechtigung(Startlauf& lauf)
 void werteBerechtigungAus(Startlauf& lauf)
 {
     if (lauf.newUser)
-        lauf.ports.meldungen.hinweis("", willkommen(lauf.session.Anwender));
+        lauf.ports.meldungen.hinweis("", willkommen(lauf.session.user.Anwender));
     lauf.abschnitt = "Berechtigung auswerten";
     bildeStatusbereich(lauf.session);
 }

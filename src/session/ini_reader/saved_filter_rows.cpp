@@ -21,11 +21,12 @@ Recordset leereFilterliste()
 
 void leseGespeicherteFilter(Startlauf& lauf)
 {
-    auto& listen = lauf.session.GespeicherteFilter;
+    auto& listen = lauf.session.pages.GespeicherteFilter;
     std::generate(listen.begin(), listen.end(), leereFilterliste);
 
-    Recordset zeilen = lauf.ini.lese(
-        sql::Query("Ini").columns({"Feld3", "Feld4", "Feld5"}).where(iniRows(lauf.session.Anwender, "Filterwerte")));
+    Recordset zeilen = lauf.ini.lese(sql::Query("Ini")
+                                         .columns({"Feld3", "Feld4", "Feld5"})
+                                         .where(iniRows(lauf.session.user.Anwender, "Filterwerte")));
     for (; !zeilen.Eof(); zeilen.MoveNext()) {
         const std::string schluessel = textOderLeer(zeilen, "Feld3");
         const auto typ = std::find_if(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& kandidat) {

@@ -46,8 +46,8 @@ bool leseSchalter(Startlauf& lauf, std::string_view schluessel, std::string_view
 bool oeffneNutzungsregister(SessionState& session)
 {
     try {
-        session.CheckInOut.Open("Select * From CheckInOut", session.Verbindung, CursorTyp::Dynamisch,
-                                SperrTyp::Optimistisch);
+        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.Verbindung, CursorTyp::Dynamisch,
+                                    SperrTyp::Optimistisch);
         return true;
     } catch (const DatabaseFault& fault) {
         if (fault.kind() != FaultKind::Other)
@@ -61,9 +61,9 @@ bool oeffneNutzungsregister(SessionState& session)
 // True when this program tells the user at once, and not the other one does already.
 bool meldetSofort(Startlauf& lauf, std::string_view schluessel)
 {
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Nachricht", schluessel);
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Nachricht", schluessel);
     if (zeilen.leer()) {
-        lauf.ini.fuegeAn({lauf.session.Anwender, "Nachricht", schluessel, DIESES_PROGRAMM, "1"});
+        lauf.ini.fuegeAn({lauf.session.user.Anwender, "Nachricht", schluessel, DIESES_PROGRAMM, "1"});
         return true;
     }
     int eigener = 0;
@@ -79,7 +79,7 @@ bool meldetSofort(Startlauf& lauf, std::string_view schluessel)
 
 void leseCheckInOut(Startlauf& lauf)
 {
-    lauf.session.CheckInOutOn =
+    lauf.session.use.CheckInOutOn =
         leseSchalter(lauf, "CheckInOut", "- Beendigung 'In Arbeit'", "- Beendigung 'In Durchsicht'") &&
         oeffneNutzungsregister(lauf.session);
 }
@@ -87,31 +87,31 @@ void leseCheckInOut(Startlauf& lauf)
 void leseForward(Startlauf& lauf)
 {
     // Forwarding lives in the table of the use registry, whether or not that is kept itself.
-    lauf.session.ForwardOn = leseSchalter(lauf, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
-                             (lauf.session.CheckInOutOn || oeffneNutzungsregister(lauf.session));
+    lauf.session.use.ForwardOn = leseSchalter(lauf, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
+                                 (lauf.session.use.CheckInOutOn || oeffneNutzungsregister(lauf.session));
 }
 
 void leseNachricht(Startlauf& lauf)
 {
-    if (!lauf.session.ForwardOn)
+    if (!lauf.session.use.ForwardOn)
         return;
-    lauf.session.MeldenWeiterleiten = meldetSofort(lauf, "Weiterleiten");
-    lauf.session.MeldenWorkflow = meldetSofort(lauf, "Workflow");
+    lauf.session.use.MeldenWeiterleiten = meldetSofort(lauf, "Weiterleiten");
+    lauf.session.use.MeldenWorkflow = meldetSofort(lauf, "Workflow");
 }
 
 void leseActiveQuelvarn(Startlauf& lauf)
 {
-    const std::string& anwender = lauf.session.Anwender;
+    const std::string& anwender = lauf.session.user.Anwender;
     Recordset zeilen = lauf.ini.activeQuelvarn(anwender);
-    lauf.session.ActiveQuelvarn = !zeilen.leer() && pflichttext(zeilen, "Feld3") == "1";
+    lauf.session.pages.ActiveQuelvarn = !zeilen.leer() && pflichttext(zeilen, "Feld3") == "1";
     if (zeilen.leer())
         lauf.ini.fuegeAn({anwender, "ActiveQuelvarn", "0"});
 }
 
 void setzeZeitintervall(SessionState& session, int millisekunden)
 {
-    session.Zeitintervall = millisekunden;
-    session.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(millisekunden / 1000.0));
+    session.use.Zeitintervall = millisekunden;
+    session.use.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(millisekunden / 1000.0));
 }
 
 void leseZeitintervall(Startlauf& lauf)
@@ -119,7 +119,7 @@ void leseZeitintervall(Startlauf& lauf)
     Recordset zeilen;
     zeilen.Open("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
                 "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')",
-                lauf.session.Verbindung);
+                lauf.session.database.Verbindung);
     std::int64_t wert = 0;
     if (!zeilen.leer())
         wert = wholeNumber(zeilen.Feld("Feld4"), 0, std::numeric_limits<std::int32_t>::max()).value_or(0);
@@ -132,11 +132,11 @@ void leseZeitintervall(Startlauf& lauf)
 
 void leseStarttabelle(Startlauf& lauf)
 {
-    std::string& tabelle = lauf.session.Starttabelle;
+    std::string& tabelle = lauf.session.pages.Starttabelle;
     tabelle = DOKUTYPEN.front().mehrzahl;
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Starttabelle");
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Starttabelle");
     if (zeilen.leer())
-        return lauf.ini.fuegeAn({lauf.session.Anwender, "Starttabelle", tabelle});
+        return lauf.ini.fuegeAn({lauf.session.user.Anwender, "Starttabelle", tabelle});
 
     const std::string wunsch = pflichttext(zeilen, "Feld3");
     const bool bekannt = std::any_of(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& typ) {
@@ -148,7 +148,7 @@ void leseStarttabelle(Startlauf& lauf)
 
 void leseTreeview(Startlauf& lauf)
 {
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.Anwender, "Treeview");
+    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Treeview");
     lauf.session.Tree = {};
     for (const Baumschalterzeile& schalter : BAUMSCHALTER) {
         if (!zeilen.leer())
@@ -156,7 +156,7 @@ void leseTreeview(Startlauf& lauf)
         while (!zeilen.Eof() && !equalText(textOderLeer(zeilen, "Feld3"), schalter.schluessel))
             zeilen.MoveNext();
         if (zeilen.Eof()) {
-            lauf.ini.fuegeAn({lauf.session.Anwender, "Treeview", schalter.schluessel, "1", schalter.notiz});
+            lauf.ini.fuegeAn({lauf.session.user.Anwender, "Treeview", schalter.schluessel, "1", schalter.notiz});
             continue;
         }
         // A wrong value is mended in the table, yet the switch stays on for this session.

@@ -102,7 +102,7 @@ void MDIForm1::setzeSeiten(QWidget& start, QWidget& filter, QWidget& dokumente)
 
 void MDIForm1::stelleGroesseEin()
 {
-    const QSize groesse = ausTwips(FENSTERBREITE, session_.FensterHoehe, *screen());
+    const QSize groesse = ausTwips(FENSTERBREITE, session_.user.FensterHoehe, *screen());
     const bool frei = darstellung_.fensterFrei();
     setWindowFlag(Qt::WindowMaximizeButtonHint, frei);
     setMinimumSize(frei ? groesse * 0.8 : groesse);

@@ -19,7 +19,7 @@ protected:
         address_ = cluster_->neueDatenbank();
         engine_ = oeffnePostgres(address_);
         legeRegisterAn(*engine_);
-        session_.Verbindung = Connection(oeffnePostgres(address_));
+        session_.database.Verbindung = Connection(oeffnePostgres(address_));
         for (const char* name : {"A", "B", "C"})
             dokument(0, name);
         zeigeDokument(0, "B");
@@ -31,7 +31,7 @@ protected:
         cluster_->start();
         engine_.reset();
         page_.datenbankWechselt();
-        session_.Verbindung.Close();
+        session_.database.Verbindung.Close();
         cluster_->gibFrei(address_);
     }
 
@@ -64,7 +64,7 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
     };
     const auto result = [&] {
         Recordset rows;
-        rows.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.Verbindung);
+        rows.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.database.Verbindung);
         tables_[0].showResult(std::move(rows), {});
     };
     const auto newer = [&] { tables_[0].markNewer(); };

@@ -70,7 +70,7 @@ TEST_F(DatabaseWatching, AFileThatIsGoneIsToldOnceUntilItIsBack)
         frame.tickDBUpdate();
         frame.tickDBUpdate();
         EXPECT_EQ(faultBeforeRebuild(), FaultKind::FileGone);
-        EXPECT_TRUE(session.Verbindung.offen());
+        EXPECT_TRUE(session.database.Verbindung.offen());
         fs::rename(ordner / "weg", datei);
         frame.tickDBUpdate();
         EXPECT_TRUE(watch.stillOpen());
@@ -82,15 +82,15 @@ TEST_F(DatabaseWatching, AnotherRegisterIsOpenedByItself)
     replace("Update Ini Set Feld4 = '12000' Where Feld3 = 'Zeitinterval'");
     expectReplaced();
     frame.tickDBUpdate();
-    EXPECT_EQ(session.Zeitintervall, 12000);
+    EXPECT_EQ(session.use.Zeitintervall, 12000);
     EXPECT_EQ(frame.TimerDBUpdate().intervall, 12000);
-    EXPECT_TRUE(session.DatenbankOk);
+    EXPECT_TRUE(session.database.DatenbankOk);
     frame.tickDBUpdate();
 
     replace("Update Ini Set Feld4 = '13000' Where Feld3 = 'Zeitinterval'");
     expectReplaced();
     EXPECT_FALSE(watch.stillOpen()) << "what was to be rebuilt is new by now";
-    EXPECT_EQ(session.Zeitintervall, 13000);
+    EXPECT_EQ(session.use.Zeitintervall, 13000);
     EXPECT_TRUE(watch.stillOpen());
 }
 
@@ -103,11 +103,11 @@ TEST_F(DatabaseWatching, AFileThatIsNoRegisterIsToldOnceAndTriedAgain)
     EXPECT_THAT(world.meldungen.letzte().text, HasSubstr("Sie lässt sich nicht öffnen:"));
     frame.tickDBUpdate();
     EXPECT_THROW(watch.stillOpen(), Laufzeitfehler);
-    EXPECT_TRUE(session.Verbindung.offen());
+    EXPECT_TRUE(session.database.Verbindung.offen());
     fs::copy_file(ordner / "gut", datei, fs::copy_options::overwrite_existing);
     expectReplaced();
     frame.tickDBUpdate();
-    EXPECT_TRUE(session.DatenbankOk);
+    EXPECT_TRUE(session.database.DatenbankOk);
 }
 
 TEST_F(DatabaseWatching, SettingsGoIntoTheRegisterThatTheNextStartOpens)
