@@ -3,11 +3,11 @@
 #include "bench/bare_sqlite.h"
 #include "bench/sample_document.h"
 #include "database/connection.h"
-#include "database/create.h"
+#include "database/new_database.h"
 #include "database/recordset.h"
 #include "documents/document_record.h"
-#include "register/usage_kinds.h"
-#include "register/usage_rows.h"
+#include "register/relation_kinds.h"
+#include "register/relation_rows.h"
 
 #include <fmt/format.h>
 #include <functional>

@@ -3,10 +3,10 @@
 #include "bench/bare_sqlite.h"
 #include "filter/execution.h"
 #include "filter/user_defined_lists.h"
-#include "platform/fortschritt.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/clipboard.h"
+#include "platform/progress.h"
 #include "platform/system_ports.h"
-#include "platform/zwischenablage.h"
 
 #include <array>
 #include <fmt/format.h>

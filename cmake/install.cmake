@@ -28,6 +28,6 @@ endif()
 
 if(UNIX AND QUELVARN_UI)
   install(FILES src/app/linux/quelvarn.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-  install(FILES src/ui/resources/icons/programm.svg RENAME quelvarn.svg
+  install(FILES src/ui/resources/icons/program.svg RENAME quelvarn.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 endif()

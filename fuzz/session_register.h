@@ -5,22 +5,22 @@
 #include "base/collation.h"
 #include "base/runtime_error.h"
 #include "base/utf8.h"
-#include "database/create.h"
+#include "database/new_database.h"
 #include "database/sql/conditions.h"
 #include "documents/document_record.h"
-#include "fakes/fake_dateien.h"
+#include "fakes/fake_files.h"
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
 #include "filter/execution.h"
 #include "filter/filter_context.h"
 #include "filter/saved_filters.h"
 #include "filter/template_lookup.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "register/detail_lists.h"
 #include "register/document_questions.h"
 #include "register/favourite_rows.h"
 #include "register/quick_search.h"
-#include "register/usage_rows.h"
+#include "register/relation_rows.h"
 #include "session/ini_reader/start_run.h"
 #include "session/settings_writer.h"
 
@@ -99,8 +99,10 @@ public:
         session.folders.OrdnerSEDokumente = "C:\\SE";
         session.database.Verbindung = Connection(engine_);
         std::string_view label;
-        Startlauf run{
-            .session = session, .ports = world.ports, .abschnitt = label, .ini = IniZeilen(session.database.Verbindung)};
+        Startlauf run{.session = session,
+                      .ports = world.ports,
+                      .abschnitt = label,
+                      .ini = IniZeilen(session.database.Verbindung)};
         require(readRegister(run));
         return session;
     }

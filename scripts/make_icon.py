@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Draws the program's icon for Windows from its picture (needs rsvg-convert, of librsvg2-bin).
 
-    scripts/make_icon.py src/ui/resources/icons/programm.svg src/app/windows/quelvarn.ico
+    scripts/make_icon.py src/ui/resources/icons/program.svg src/app/windows/quelvarn.ico
 """
 
 import struct

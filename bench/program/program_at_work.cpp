@@ -2,11 +2,11 @@
 
 #include "bench/register_data.h"
 #include "database/document_types.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "session/program.h"
-#include "ui/main_window/mdi_form1.h"
+#include "ui/main_view.h"
+#include "ui/main_window/main_window_view.h"
 #include "ui/text.h"
-#include "ui/workplace.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

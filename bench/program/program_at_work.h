@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/fortschritt.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/clipboard.h"
 #include "platform/ports.h"
+#include "platform/progress.h"
 #include "platform/system_ports.h"
-#include "platform/zwischenablage.h"
 #include "session/session_state.h"
 #include "ui/theme/appearance.h"
 

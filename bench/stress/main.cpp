@@ -1,6 +1,6 @@
 #include "base/collation.h"
 #include "database/connection.h"
-#include "database/create.h"
+#include "database/new_database.h"
 #include "stress/accounting.h"
 #include "stress/gestures.h"
 #include "stress/processes.h"

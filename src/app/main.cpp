@@ -4,16 +4,16 @@
 #include "app/screen_watch.h"
 #include "platform/system_ports.h"
 #include "session/program.h"
+#include "ui/adapters/boxes_qt.h"
 #include "ui/adapters/clipboard_qt.h"
-#include "ui/adapters/messages_qt.h"
 #include "ui/adapters/patience_qt.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/busy_pointer.h"
 #include "ui/guard.h"
-#include "ui/main_window/mdi_form1.h"
+#include "ui/main_view.h"
+#include "ui/main_window/main_window_view.h"
 #include "ui/program_end.h"
 #include "ui/theme/appearance.h"
-#include "ui/workplace.h"
 
 #include <cstdlib>
 #include <optional>

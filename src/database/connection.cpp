@@ -4,7 +4,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/catalog.h"
-#include "database/create.h"
+#include "database/new_database.h"
 #include "database/sql/parser.h"
 
 #include <array>

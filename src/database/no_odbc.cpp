@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/catalog.h"
-#include "database/create.h"
+#include "database/new_database.h"
 
 // In place of odbc/ where ODBC was not there when the program was built.
 namespace quelvarn {

@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/catalog.h"
-#include "database/create.h"
+#include "database/new_database.h"
 
 // In place of postgresql/ where its library was not there when the program was built.
 namespace quelvarn {

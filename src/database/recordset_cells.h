@@ -1,7 +1,7 @@
 #pragma once
 
-#include "database/recordset_rows.h"
-#include "database/recordset_view.h"
+#include "database/row_store.h"
+#include "database/row_view.h"
 
 #include <array>
 #include <optional>

@@ -4,9 +4,9 @@
 #include "database/filter_evaluator.h"
 #include "database/recordset.h"
 #include "database/recordset_cells.h"
-#include "database/recordset_rows.h"
 #include "database/recordset_sort.h"
-#include "database/recordset_view.h"
+#include "database/row_store.h"
+#include "database/row_view.h"
 #include "database/sql/ast.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 #include "documents/document_tables.h"
 
 #include "database/sql/conditions.h"
-#include "platform/uhr.h"
+#include "platform/clock.h"
 #include "session/operations.h"
 #include "session/session_state.h"
 

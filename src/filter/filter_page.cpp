@@ -4,7 +4,7 @@
 #include "base/windows_path.h"
 #include "filter/execution.h"
 #include "filter/saved_filters.h"
-#include "platform/uhr.h"
+#include "platform/clock.h"
 #include "session/error_report.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "filter/filter_context.h"
-#include "filter/property_area.h"
-#include "filter/structure_area.h"
-#include "filter/user_defined_area.h"
-#include "session/main_window.h"
+#include "filter/property_section.h"
+#include "filter/structure_section.h"
+#include "filter/user_defined_section.h"
+#include "session/session_listener.h"
 
 #include <functional>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "database/sql/conditions.h"
 #include "filter/execution.h"
-#include "platform/fortschritt.h"
+#include "platform/progress.h"
 
 #include <functional>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "base/number_format.h"
 #include "base/text.h"
 #include "filter/execution.h"
-#include "filter/structure_area.h"
-#include "platform/fortschritt.h"
+#include "filter/structure_section.h"
+#include "platform/progress.h"
 #include "session/error_report.h"
 
 #include <algorithm>

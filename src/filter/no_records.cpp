@@ -1,6 +1,6 @@
 #include "base/text.h"
 #include "filter/execution.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 #include <fmt/format.h>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filter/filter_context.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 #include <optional>
 #include <string>

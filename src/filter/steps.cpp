@@ -1,5 +1,5 @@
 #include "filter/execution.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 #include <utility>
 

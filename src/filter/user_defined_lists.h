@@ -2,7 +2,7 @@
 
 #include "database/connection.h"
 #include "filter/filter_state.h"
-#include "platform/fortschritt.h"
+#include "platform/progress.h"
 
 #include <array>
 #include <string>

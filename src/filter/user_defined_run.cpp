@@ -4,7 +4,7 @@
 #include "filter/execution.h"
 #include "filter/fragments.h"
 #include "filter/user_defined_match.h"
-#include "platform/fortschritt.h"
+#include "platform/progress.h"
 #include "session/error_report.h"
 
 #include <algorithm>

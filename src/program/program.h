@@ -3,6 +3,8 @@
 #include "documents/document_tables.h"
 #include "filter/filter_page.h"
 #include "filter/filter_state.h"
+#include "frame/main_window.h"
+#include "frame/start_page.h"
 #include "register/document_jump.h"
 #include "register/document_page.h"
 #include "register/document_panels.h"
@@ -16,11 +18,9 @@
 #include "register/tree_panel.h"
 #include "register/viewer_area.h"
 #include "session/database_watch.h"
-#include "session/main_window.h"
 #include "session/operations.h"
-#include "session/start_page.h"
-#include "use/shown_files.h"
-#include "use/use_registry.h"
+#include "viewing/shown_files.h"
+#include "viewing/use_registry.h"
 
 namespace quelvarn {
 

@@ -4,7 +4,7 @@
 #include "base/number_format.h"
 #include "database/sql/conditions.h"
 #include "documents/document_record.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "register/text_list.h"
 #include "session/session_state.h"
 

@@ -4,7 +4,7 @@
 #include "base/windows_path.h"
 #include "database/document_types.h"
 #include "filter/template_lookup.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "register/document_questions.h"
 #include "session/error_report.h"
 #include "session/session_state.h"

@@ -3,8 +3,8 @@
 #include "database/document_types.h"
 #include "documents/document_record.h"
 #include "register/document_questions.h"
-#include "register/usage_kinds.h"
-#include "register/usage_rows.h"
+#include "register/relation_kinds.h"
+#include "register/relation_rows.h"
 #include "session/local_settings.h"
 #include "session/session_state.h"
 

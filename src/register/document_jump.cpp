@@ -3,9 +3,9 @@
 #include "base/text.h"
 #include "database/document_types.h"
 #include "documents/row_memory.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "register/relation_rows.h"
 #include "register/table_tabs.h"
-#include "register/usage_rows.h"
 #include "session/local_settings.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "session/main_window.h"
 #include "session/operations.h"
+#include "session/session_listener.h"
 
 namespace quelvarn {
 

@@ -5,7 +5,7 @@
 #include "database/connection.h"
 #include "database/sql/conditions.h"
 #include "documents/document_record.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 
 #include <set>
 #include <utility>

@@ -3,11 +3,12 @@
 #include "base/text.h"
 #include "base/windows_path.h"
 #include "documents/row_memory.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "register/document_jump.h"
 #include "register/favourite_rows.h"
 #include "register/table_tabs.h"
 #include "session/error_report.h"
+#include "session/session_state.h"
 
 #include <algorithm>
 #include <cassert>

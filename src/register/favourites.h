@@ -3,8 +3,8 @@
 #include "database/document_types.h"
 #include "database/recordset.h"
 #include "documents/document_tables.h"
-#include "session/main_window.h"
 #include "session/operations.h"
+#include "session/session_listener.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "register/file_boxes.h"
 
 #include "base/text.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 namespace quelvarn {
 

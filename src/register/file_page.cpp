@@ -2,7 +2,7 @@
 
 #include "base/number_format.h"
 #include "base/text.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
 

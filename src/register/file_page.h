@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "platform/ports.h"
 #include "register/info_pages.h"
 

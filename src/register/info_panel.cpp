@@ -3,17 +3,17 @@
 #include "base/text.h"
 #include "base/windows_path.h"
 #include "documents/document_tables.h"
-#include "platform/dateien.h"
-#include "platform/meldungen.h"
-#include "platform/zwischenablage.h"
+#include "platform/boxes.h"
+#include "platform/clipboard.h"
+#include "platform/files.h"
 #include "register/document_panels.h"
 #include "register/document_questions.h"
 #include "register/file_boxes.h"
+#include "register/relation_kinds.h"
 #include "register/tree_panel.h"
-#include "register/usage_kinds.h"
 #include "register/viewer_area.h"
 #include "session/session_state.h"
-#include "use/shown_files.h"
+#include "viewing/shown_files.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "register/detail_pages.h"
 #include "register/file_page.h"
 #include "register/info_pages.h"
-#include "register/usage_page.h"
+#include "register/relation_page.h"
 #include "session/operations.h"
 
 #include <array>

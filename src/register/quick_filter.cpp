@@ -3,8 +3,8 @@
 #include "documents/document_tables.h"
 #include "filter/execution.h"
 #include "filter/filter_run.h"
-#include "platform/meldungen.h"
-#include "platform/uhr.h"
+#include "platform/boxes.h"
+#include "platform/clock.h"
 #include "register/quick_search.h"
 #include "session/error_report.h"
 

@@ -1,8 +1,8 @@
 #include "register/quick_search.h"
 
 #include "database/sql/conditions.h"
-#include "platform/fortschritt.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/progress.h"
 #include "register/table_tabs.h"
 #include "session/error_report.h"
 #include "session/ini_reader/ini_rows.h"

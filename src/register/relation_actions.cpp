@@ -1,13 +1,13 @@
 #include "register/relation_actions.h"
 
 #include "base/text.h"
-#include "platform/dateien.h"
-#include "platform/meldungen.h"
+#include "frame/main_window.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
 #include "register/document_jump.h"
 #include "register/favourites.h"
 #include "register/file_boxes.h"
-#include "register/usage_kinds.h"
-#include "session/main_window.h"
+#include "register/relation_kinds.h"
 #include "session/session_state.h"
 
 namespace quelvarn {

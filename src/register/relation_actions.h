@@ -1,6 +1,6 @@
 #pragma once
 
-#include "register/usage_page.h"
+#include "register/relation_page.h"
 
 #include <string>
 

@@ -2,9 +2,9 @@
 
 #include "base/text.h"
 #include "base/windows_path.h"
-#include "platform/dateien.h"
-#include "platform/meldungen.h"
-#include "platform/zwischenablage.h"
+#include "platform/boxes.h"
+#include "platform/clipboard.h"
+#include "platform/files.h"
 #include "register/document_jump.h"
 #include "register/file_boxes.h"
 #include "register/table_tabs.h"

@@ -3,7 +3,7 @@
 #include "database/document_types.h"
 #include "documents/document_record.h"
 #include "register/document_facts.h"
-#include "register/usage_kinds.h"
+#include "register/relation_kinds.h"
 #include "session/tree_switches.h"
 
 #include <numeric>

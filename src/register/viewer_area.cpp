@@ -2,9 +2,9 @@
 
 #include "base/text.h"
 #include "documents/document_tables.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "register/document_panels.h"
-#include "use/shown_files.h"
+#include "viewing/shown_files.h"
 
 namespace quelvarn {
 

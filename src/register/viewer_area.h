@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/viewer.h"
 #include "session/operations.h"
+#include "viewing/viewer.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/date_time.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 
 #include <string>
 

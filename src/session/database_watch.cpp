@@ -4,8 +4,8 @@
 #include "base/text.h"
 #include "database/connection.h"
 #include "database/recordset.h"
-#include "platform/dateien.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
 #include "session/session_state.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/runtime_error.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 #include <functional>
 #include <string>

@@ -5,9 +5,9 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "base/windows_path.h"
-#include "platform/dateien.h"
-#include "platform/laufwerke.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/drives.h"
+#include "platform/files.h"
 #include "session/error_report.h"
 
 #include <algorithm>

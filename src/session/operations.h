@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/fortschritt.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "platform/ports.h"
+#include "platform/progress.h"
 
 #include <bitset>
 #include <cstddef>

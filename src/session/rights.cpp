@@ -1,7 +1,7 @@
 #include "session/rights.h"
 
 #include "base/text.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 
 #include <fmt/format.h>
 #include <numeric>

@@ -1,6 +1,6 @@
-#include "tools/befehle.h"
-#include "tools/grundzeilen.h"
-#include "tools/neues_register.h"
+#include "database/base_rows.h"
+#include "tools/commands.h"
+#include "tools/new_register.h"
 
 #include <array>
 

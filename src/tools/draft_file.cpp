@@ -4,9 +4,9 @@
 #include "database/connection.h"
 #include "database/exclusive_file.h"
 #include "database/faults.h"
-#include "tools/argumente.h"
-#include "tools/konsole.h"
-#include "tools/prozess.h"
+#include "tools/arguments.h"
+#include "tools/console.h"
+#include "tools/process.h"
 
 #include <fmt/format.h>
 #include <limits>

@@ -1,5 +1,5 @@
-#include "tools/befehle.h"
-#include "tools/prozess.h"
+#include "tools/commands.h"
+#include "tools/process.h"
 
 #include <iostream>
 #include <string>

@@ -1,7 +1,7 @@
 #include "database/connection.h"
 #include "database/sql/parser.h"
-#include "tools/abfrage.h"
-#include "tools/befehle.h"
+#include "tools/commands.h"
+#include "tools/query_result.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #include "tools/result_buffer.h"
 
-#include "tools/konsole.h"
+#include "tools/console.h"
 
 #include <cerrno>
 #include <fmt/format.h>

@@ -5,7 +5,7 @@
 #include "database/document_types.h"
 #include "database/engine.h"
 #include "database/sql/conditions.h"
-#include "tools/befehle.h"
+#include "tools/commands.h"
 
 #include <algorithm>
 #include <array>

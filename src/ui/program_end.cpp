@@ -1,6 +1,6 @@
 #include "ui/program_end.h"
 
-#include "ui/adapters/messages_qt.h"
+#include "ui/adapters/boxes_qt.h"
 #include "ui/adapters/patience_qt.h"
 #include "ui/adapters/progress_qt.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "database/create.h"
 #include "database/engine.h"
+#include "database/new_database.h"
 #include "database/odbc_drivers.h"
 #include "database/postgres_cluster.h"
 #include "database/sql/parser.h"

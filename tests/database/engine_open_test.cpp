@@ -1,8 +1,8 @@
 #include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/connection.h"
-#include "database/create.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 #include "fakes/temp_folder.h"
 
 #include <atomic>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "database/create.h"
 #include "database/driver_path.h"
 #include "database/engine.h"
+#include "database/new_database.h"
 
 #ifndef QUELVARN_NO_ODBC
 #include "database/odbc/api.h"

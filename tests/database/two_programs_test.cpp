@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
-#include "database/create.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 
 #include <chrono>
 #include <cstdlib>

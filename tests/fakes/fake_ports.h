@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fakes/fake_dateien.h"
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
+#include "fakes/fake_files.h"
 #include "fakes/fake_world.h"
 #include "platform/ports.h"
 

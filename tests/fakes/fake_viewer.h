@@ -1,6 +1,6 @@
 #pragma once
 
-#include "use/shown_files.h"
+#include "viewing/shown_files.h"
 
 #include <array>
 #include <set>

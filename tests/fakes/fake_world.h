@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/drucker.h"
-#include "platform/fortschritt.h"
-#include "platform/laufende_programme.h"
-#include "platform/laufwerke.h"
-#include "platform/uhr.h"
-#include "platform/umgebung.h"
-#include "platform/zwischenablage.h"
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/drives.h"
+#include "platform/environment.h"
+#include "platform/printers.h"
+#include "platform/progress.h"
+#include "platform/running_programs.h"
 
 #include <optional>
 #include <string>

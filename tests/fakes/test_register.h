@@ -1,7 +1,7 @@
 #pragma once
 
-#include "database/create.h"
 #include "database/engine.h"
+#include "database/new_database.h"
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
 #include "session/rights.h"

@@ -1,6 +1,6 @@
 #include "filter/execution.h"
 #include "filter/filter_fixture.h"
-#include "filter/user_defined_area.h"
+#include "filter/user_defined_section.h"
 
 #include <gmock/gmock.h>
 

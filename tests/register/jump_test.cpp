@@ -1,5 +1,5 @@
 #include "register/document_jump.h"
-#include "register/usage_page.h"
+#include "register/relation_page.h"
 #include "register_fixture.h"
 
 namespace quelvarn {

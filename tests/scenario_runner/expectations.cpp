@@ -1,6 +1,6 @@
 #include "database/recordset.h"
 #include "fakes/statements.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/entries.h"
 #include "scenario_runner/steps.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "scenario_runner/script.h"
 
 #include <deque>

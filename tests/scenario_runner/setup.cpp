@@ -1,7 +1,7 @@
 #include "base/windows_path.h"
 #include "database/postgres_cluster.h"
 #include "fakes/statements.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/steps.h"
 #include "scenario_runner/world.h"

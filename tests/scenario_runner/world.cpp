@@ -3,18 +3,18 @@
 #include "base/runtime_error.h"
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
-#include "platform/dateien.h"
+#include "platform/environment.h"
+#include "platform/files.h"
 #include "platform/system_ports.h"
-#include "platform/umgebung.h"
 #include "scenario_runner/controls.h"
 #include "scenario_runner/disk.h"
 #include "scenario_runner/lock_holder.h"
 #include "session/program.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/guard.h"
-#include "ui/main_window/mdi_form1.h"
+#include "ui/main_view.h"
+#include "ui/main_window/main_window_view.h"
 #include "ui/theme/appearance.h"
-#include "ui/workplace.h"
 
 #include <QApplication>
 #include <QTest>

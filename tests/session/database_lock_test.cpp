@@ -1,8 +1,8 @@
 #include "fakes/fake_patience.h"
-#include "session/main_window.h"
+#include "frame/main_window.h"
+#include "frame/start_page.h"
 #include "session/program.h"
 #include "session/register_fixture.h"
-#include "session/start_page.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
-#include "session/main_window.h"
+#include "frame/main_window.h"
+#include "frame/start_page.h"
 #include "session/register_fixture.h"
-#include "session/start_page.h"
 
 #include <gmock/gmock.h>
 

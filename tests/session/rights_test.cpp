@@ -1,4 +1,4 @@
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
 #include "session/rights.h"
 
 #include <gtest/gtest.h>

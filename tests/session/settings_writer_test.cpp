@@ -1,6 +1,6 @@
+#include "documents/table_stamps.h"
 #include "session/register_fixture.h"
 #include "session/settings_writer.h"
-#include "session/stamps.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // What check says of databases that are damaged.
 
-#include "tools/befehle_fixture.h"
+#include "tools/commands_fixture.h"
 #include "tools/import_fixture.h"
 
 #include <functional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "database/create.h"
+#include "database/new_database.h"
 #include "fakes/temp_folder.h"
-#include "tools/aufruf.h"
+#include "tools/command_call.h"
 
 #include <algorithm>
 #include <fstream>

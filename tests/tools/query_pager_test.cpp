@@ -1,5 +1,5 @@
-#include "database/create.h"
-#include "tools/befehle_fixture.h"
+#include "database/new_database.h"
+#include "tools/commands_fixture.h"
 #include "tools/result_buffer.h"
 
 #include <chrono>

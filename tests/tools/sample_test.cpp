@@ -1,6 +1,6 @@
 #include "database/document_types.h"
 #include "fakes/temp_folder.h"
-#include "tools/aufruf.h"
+#include "tools/command_call.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

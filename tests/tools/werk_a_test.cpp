@@ -2,12 +2,12 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/connection.h"
-#include "database/create.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 #include "database/recordset.h"
 #include "fakes/sha256.h"
 #include "fakes/statements.h"
-#include "tools/aufruf.h"
+#include "tools/command_call.h"
 
 #include <cstdlib>
 #include <fmt/format.h>

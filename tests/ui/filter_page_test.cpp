@@ -3,7 +3,7 @@
 #include "filter/filter_page.h"
 #include "program/program.h"
 #include "ui/controls/calendar.h"
-#include "ui/filter_page/form_se_filtern.h"
+#include "ui/filter_page/filter_view.h"
 #include "ui/guard.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,5 @@
-#include "fakes/fake_meldungen.h"
-#include "filter/structure_area.h"
+#include "fakes/fake_boxes.h"
+#include "filter/structure_section.h"
 #include "ui/controls/value_list.h"
 #include "ui/filter_page/feature_tree.h"
 #include "ui/guard.h"

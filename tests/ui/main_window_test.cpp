@@ -1,9 +1,9 @@
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
-#include "session/main_window.h"
+#include "frame/main_window.h"
 #include "session/rights.h"
 #include "ui/guard.h"
-#include "ui/main_window/mdi_form1.h"
+#include "ui/main_window/main_window_view.h"
 #include "ui/theme/appearance.h"
 
 #include <QAction>

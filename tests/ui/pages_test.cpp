@@ -1,7 +1,7 @@
 #include "fakes/test_register.h"
 #include "program/program.h"
 #include "ui/adapters/viewer_qt.h"
-#include "ui/document_page/form_se_doku.h"
+#include "ui/document_page/document_view.h"
 #include "ui/guard.h"
 
 #include <QLabel>

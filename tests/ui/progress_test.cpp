@@ -1,4 +1,4 @@
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/controls/progress_field.h"
 #include "ui/guard.h"

@@ -1,6 +1,6 @@
 #include "database/document_types.h"
 #include "fakes/temp_folder.h"
-#include "ui/adapters/messages_qt.h"
+#include "ui/adapters/boxes_qt.h"
 #include "ui/theme/appearance.h"
 #include "ui/theme/colours.h"
 #include "ui/theme/icons.h"

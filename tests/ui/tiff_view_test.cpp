@@ -1,4 +1,4 @@
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
 #include "fakes/temp_folder.h"
 #include "ui/controls/picture_area.h"
 #include "ui/controls/picture_levels.h"

@@ -1,4 +1,4 @@
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
 #include "ui/controls/value_combo.h"
 #include "ui/guard.h"
 

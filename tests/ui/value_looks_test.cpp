@@ -11,7 +11,7 @@
 #include "ui/controls/status_marks.h"
 #include "ui/controls/value_list.h"
 #include "ui/controls/wrapping_label.h"
-#include "ui/document_page/form_se_doku.h"
+#include "ui/document_page/document_view.h"
 #include "ui/document_page/general_page.h"
 #include "ui/document_page/tree_model.h"
 #include "ui/guard.h"

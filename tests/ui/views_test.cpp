@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/recordset.h"
-#include "fakes/fake_meldungen.h"
+#include "fakes/fake_boxes.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/grid.h"
 #include "ui/guard.h"

@@ -1,7 +1,7 @@
 #include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/catalog.h"
-#include "database/create.h"
+#include "database/new_database.h"
 #include "database/odbc/engine.h"
 
 #include <algorithm>

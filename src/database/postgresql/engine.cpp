@@ -1,9 +1,9 @@
 #include "database/postgresql/engine.h"
 
 #include "base/runtime_error.h"
-#include "database/create.h"
 #include "database/distinct_reader.h"
 #include "database/faults.h"
+#include "database/new_database.h"
 #include "database/postgresql/bulk_writer.h"
 #include "database/postgresql/ddl.h"
 #include "database/postgresql/functions.h"

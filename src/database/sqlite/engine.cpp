@@ -1,6 +1,6 @@
 #include "database/sqlite/engine.h"
 
-#include "database/create.h"
+#include "database/new_database.h"
 #include "database/sql/renderer.h"
 #include "database/sqlite/bulk_writer.h"
 #include "database/sqlite/ddl.h"

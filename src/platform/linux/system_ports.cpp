@@ -1,9 +1,9 @@
 #include "platform/system_ports.h"
 
-#include "platform/linux/linux_dateien.h"
-#include "platform/linux/linux_drucker.h"
-#include "platform/linux/linux_laufende_programme.h"
-#include "platform/linux/linux_world.h"
+#include "platform/linux/files.h"
+#include "platform/linux/printers.h"
+#include "platform/linux/running_programs.h"
+#include "platform/linux/world.h"
 
 #include <cstdlib>
 #include <pwd.h>

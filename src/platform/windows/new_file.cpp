@@ -1,8 +1,8 @@
 #include "platform/windows/new_file.h"
 
 #include "platform/file_error.h"
+#include "platform/windows/error.h"
 #include "platform/windows/open_file.h"
-#include "platform/windows/windows_error.h"
 
 #include <atomic>
 #include <system_error>

@@ -1,7 +1,7 @@
 #include "platform/windows/open_file.h"
 
 #include "platform/file_error.h"
-#include "platform/windows/windows_error.h"
+#include "platform/windows/error.h"
 
 #include <algorithm>
 #include <system_error>

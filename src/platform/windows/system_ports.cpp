@@ -1,9 +1,9 @@
 #include "platform/system_ports.h"
 
-#include "platform/windows/windows_dateien.h"
-#include "platform/windows/windows_drucker.h"
-#include "platform/windows/windows_laufende_programme.h"
-#include "platform/windows/windows_world.h"
+#include "platform/windows/files.h"
+#include "platform/windows/printers.h"
+#include "platform/windows/running_programs.h"
+#include "platform/windows/world.h"
 
 #include <windows.h>
 

@@ -1,6 +1,6 @@
 #include "base/collation.h"
-#include "platform/dateien.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
+#include "platform/files.h"
 #include "session/ini_reader/start_run.h"
 
 #include <algorithm>

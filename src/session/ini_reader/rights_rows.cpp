@@ -1,6 +1,6 @@
 #include "base/collation.h"
 #include "base/text.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "session/ini_reader/start_run.h"
 #include "session/rights.h"
 

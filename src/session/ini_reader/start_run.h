@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/drucker.h"
 #include "platform/ports.h"
+#include "platform/printers.h"
 #include "session/ini_reader/ini_rows.h"
 #include "session/session_state.h"
 

@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "database/document_types.h"
 #include "database/faults.h"
-#include "platform/meldungen.h"
+#include "platform/boxes.h"
 #include "session/ini_reader/start_run.h"
 #include "session/tree_switches.h"
 

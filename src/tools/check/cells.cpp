@@ -1,5 +1,5 @@
 #include "base/utf8.h"
-#include "tools/check/pruefungen.h"
+#include "tools/check/checks.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,6 +1,6 @@
 #include "database/connection.h"
-#include "tools/befehle.h"
-#include "tools/check/pruefungen.h"
+#include "tools/check/checks.h"
+#include "tools/commands.h"
 
 #include <array>
 #include <fmt/format.h>

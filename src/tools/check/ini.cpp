@@ -1,8 +1,8 @@
 #include "base/collation.h"
 #include "base/number_format.h"
+#include "database/base_rows.h"
 #include "database/document_types.h"
-#include "tools/check/pruefungen.h"
-#include "tools/grundzeilen.h"
+#include "tools/check/checks.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,5 +1,5 @@
 #include "base/number_format.h"
-#include "tools/check/pruefungen.h"
+#include "tools/check/checks.h"
 
 #include <fmt/format.h>
 #include <map>

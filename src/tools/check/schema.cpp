@@ -1,5 +1,5 @@
 #include "base/collation.h"
-#include "tools/check/pruefungen.h"
+#include "tools/check/checks.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,10 +1,10 @@
 #include "base/collation.h"
 #include "base/file_path.h"
 #include "base/number_format.h"
-#include "tools/befehle.h"
-#include "tools/import/abbildung.h"
-#include "tools/import/access_quelle.h"
-#include "tools/neues_register.h"
+#include "tools/commands.h"
+#include "tools/import/access_source.h"
+#include "tools/import/table_mapping.h"
+#include "tools/new_register.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "tools/temporary_file.h"
 
-#include "tools/konsole.h"
+#include "tools/console.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 #include "tools/temporary_file.h"
 
 #include "base/file_path.h"
-#include "tools/konsole.h"
-#include "tools/prozess.h"
+#include "tools/console.h"
+#include "tools/process.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/zwischenablage.h"
+#include "platform/clipboard.h"
 
 namespace quelvarn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/fortschritt.h"
+#include "platform/progress.h"
 
 #include <QElapsedTimer>
 #include <QObject>

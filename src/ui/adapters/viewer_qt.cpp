@@ -1,7 +1,7 @@
 #include "ui/adapters/viewer_qt.h"
 
 #include "base/windows_path.h"
-#include "platform/dateien.h"
+#include "platform/files.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/strip.h"
 #include "ui/text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/viewer.h"
+#include "viewing/viewer.h"
 
 #include <QPointer>
 #include <QWidget>

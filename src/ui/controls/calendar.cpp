@@ -50,8 +50,8 @@ void Kalender::faerbe()
     const auto pfeil = [this](const char* knopf, const char* bild) {
         findChild<QToolButton*>(QLatin1String(knopf))->setIcon(symbol(bild));
     };
-    pfeil("qt_calendar_prevmonth", "links");
-    pfeil("qt_calendar_nextmonth", "rechts");
+    pfeil("qt_calendar_prevmonth", "left");
+    pfeil("qt_calendar_nextmonth", "right");
 }
 
 void Kalender::changeEvent(QEvent* ereignis)

@@ -65,13 +65,13 @@ QToolBar* TiffAnsicht::neueKnoepfe(const char* name)
     };
     knopf({"Vergrößern", "Vergrößern", "Vergrößern (+)", "plus"}, [this] { flaeche_->zoome(SCHRITT); });
     knopf({"Verkleinern", "Verkleinern", "Verkleinern (-)", "minus"}, [this] { flaeche_->zoome(1 / SCHRITT); });
-    knopf({"Einpassen", "Einpassen", "Ganze Seite (0)", "einpassen"}, [this] { flaeche_->passeEin(); });
+    knopf({"Einpassen", "Einpassen", "Ganze Seite (0)", "fit"}, [this] { flaeche_->passeEin(); });
     fuegeDehnerHinzu(*leiste);
-    zurueck_ = knopf({"Seite zurück", "Seite zurück", "Vorige Seite (Bild auf)", "links"}, [this] { blaettere(-1); });
+    zurueck_ = knopf({"Seite zurück", "Seite zurück", "Vorige Seite (Bild auf)", "left"}, [this] { blaettere(-1); });
     LblSeite_->setObjectName(QStringLiteral("LblSeite") + QLatin1String(name));
     setzeRolle(*LblSeite_, Rolle::Klein);
     seitenfeld_ = leiste->addWidget(LblSeite_);
-    vor_ = knopf({"Seite vor", "Seite vor", "Nächste Seite (Bild ab)", "rechts"}, [this] { blaettere(1); });
+    vor_ = knopf({"Seite vor", "Seite vor", "Nächste Seite (Bild ab)", "right"}, [this] { blaettere(1); });
     return leiste;
 }
 

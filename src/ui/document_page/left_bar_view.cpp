@@ -187,7 +187,7 @@ void LinkeLeistenansicht::zeigeZurueck()
     filterKnopf_ = heading_.showsFilterButton();
     QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
     knopf.setToolTip(zuQt(heading_.backTip()));
-    knopf.setIcon(symbol(heading_.showsFilterButton() ? "filter-aufheben" : "anfang"));
+    knopf.setIcon(symbol(heading_.showsFilterButton() ? "filter-lift" : "first"));
 }
 
 } // namespace quelvarn

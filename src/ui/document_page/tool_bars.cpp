@@ -12,26 +12,26 @@ namespace quelvarn {
 namespace {
 
 constexpr std::array<Leistenknopf, 7> OBEN{{
-    {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "neuaufbau"},
+    {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "rebuild"},
     {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "", true},
     {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
     {"Pfad aus ZwSp", "Pfad aus ZwSp.", "Pfad- u. Dateiname SE-Dokument aus Zw-Speicher", ""},
-    {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favorit-neu"},
+    {"Zu Favoriten", "Zu Favoriten", "Aktuelles SE-Dokument zu Favoriten hinzufügen", "favourite-new"},
     {"Favoriten....", "Favoriten....", "Favoriten anzeigen", "", true},
     {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "", true},
 }};
 
 constexpr std::array<Leistenknopf, 5> LINKS{{
-    {"Suche/Filtern", "Suche/Filtern", "Nach Zeichenfolge suchen / filtern in Spalte...", "suche", true},
-    {"Filtern Datum", "Filtern Datum", "Filtern Heute / Filter zurückliegende Tage...", "datum", true},
-    {"Filtern Favo.", "Filtern Favo.", "Liste der gespeicherte Filterfavoriten anzeigen.", "lesezeichen", true},
-    {"Filterwerte", "Anzeigen der Filterwerte >>", "Anzeigen der Filterwerte >>", "werte", true},
-    {"Zurück", "Zurück", "Zum Anfang der Tabelle", "anfang"},
+    {"Suche/Filtern", "Suche/Filtern", "Nach Zeichenfolge suchen / filtern in Spalte...", "search", true},
+    {"Filtern Datum", "Filtern Datum", "Filtern Heute / Filter zurückliegende Tage...", "date", true},
+    {"Filtern Favo.", "Filtern Favo.", "Liste der gespeicherte Filterfavoriten anzeigen.", "bookmark", true},
+    {"Filterwerte", "Anzeigen der Filterwerte >>", "Anzeigen der Filterwerte >>", "values", true},
+    {"Zurück", "Zurück", "Zum Anfang der Tabelle", "first"},
 }};
 
 constexpr std::array<Leistenknopf, 2> AUFTRAG{{
     {"Zu Auftragslst", "Zu Auftragslst", "Aktuelles Dokument zur Auftragsliste hinzufügen", "plus"},
-    {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "liste", true},
+    {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "list", true},
 }};
 
 QToolBar* neueAuftragsleiste(std::string_view name)

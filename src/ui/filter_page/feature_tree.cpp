@@ -1,6 +1,6 @@
 #include "ui/filter_page/feature_tree.h"
 
-#include "filter/structure_area.h"
+#include "filter/structure_section.h"
 #include "ui/text.h"
 #include "ui/value_text.h"
 

@@ -1,6 +1,6 @@
 #include "ui/filter_page/main_value_frame.h"
 
-#include "filter/structure_area.h"
+#include "filter/structure_section.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/fields.h"
 #include "ui/controls/lock_look.h"

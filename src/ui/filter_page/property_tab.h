@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filter/property_area.h"
+#include "filter/property_section.h"
 
 #include <QWidget>
 

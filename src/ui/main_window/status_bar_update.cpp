@@ -1,7 +1,7 @@
 #include "ui/main_window/status_bar_update.h"
 
 #include "database/document_types.h"
-#include "session/main_window.h"
+#include "frame/main_window.h"
 #include "ui/text.h"
 
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "ui/start_page/file_chooser_view.h"
 
-#include "session/start_page.h"
+#include "frame/start_page.h"
 #include "ui/guard.h"
 #include "ui/text.h"
 #include "ui/theme/icons.h"
@@ -46,7 +46,7 @@ Dateiwaehler::Dateiwaehler(StartPage& modell)
     DriveDB_->setAccessibleName(QStringLiteral("Laufwerk"));
     TbUpDB_->setObjectName(QStringLiteral("TbUpDB"));
     TbUpDB_->setText(QStringLiteral("Nach oben"));
-    TbUpDB_->setIcon(symbol("nach-oben"));
+    TbUpDB_->setIcon(symbol("folder-up"));
     TbUpDB_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     DirDB_->setObjectName(QStringLiteral("DirDB"));
     DirDB_->setAccessibleName(QStringLiteral("Ordner"));
@@ -109,7 +109,7 @@ void Dateiwaehler::zeigeLaufwerke()
         laufwerke_ = auswahl.laufwerke();
         DriveDB_->clear();
         for (const auto& eintrag : laufwerke_)
-            DriveDB_->addItem(symbol("laufwerk", QPalette::PlaceholderText), zuQt(eintrag));
+            DriveDB_->addItem(symbol("drive", QPalette::PlaceholderText), zuQt(eintrag));
     }
     DriveDB_->setCurrentIndex(DriveDB_->findText(zuQt(auswahl.laufwerk())));
 }
@@ -129,7 +129,7 @@ void Dateiwaehler::zeigeOrdner()
     const auto teile = zuQt(ordner_).split(u'\\', Qt::SkipEmptyParts);
     for (const QString& teil : teile) {
         pfad = pfad.isEmpty() ? teil + u'\\' : verbunden(pfad, teil);
-        auto* eintrag = neuerOrdner(offen == nullptr ? pfad : teil, pfad, "ordner-offen");
+        auto* eintrag = neuerOrdner(offen == nullptr ? pfad : teil, pfad, "folder-open");
         if (offen == nullptr)
             DirDB_->addTopLevelItem(eintrag);
         else
@@ -139,7 +139,7 @@ void Dateiwaehler::zeigeOrdner()
     if (offen == nullptr)
         return;
     for (const auto& name : unterordner_)
-        offen->addChild(neuerOrdner(zuQt(name), verbunden(pfad, zuQt(name)), "ordner"));
+        offen->addChild(neuerOrdner(zuQt(name), verbunden(pfad, zuQt(name)), "folder"));
     DirDB_->expandAll();
     DirDB_->setCurrentItem(offen);
     DirDB_->scrollToItem(offen, QAbstractItemView::PositionAtTop);
@@ -153,7 +153,7 @@ void Dateiwaehler::zeigeDateien()
         dateien_ = auswahl.dateien();
         FileDB_->clear();
         for (const auto& name : dateien_)
-            new QListWidgetItem(symbol("datenbank", QPalette::PlaceholderText), zuQt(name), FileDB_);
+            new QListWidgetItem(symbol("database", QPalette::PlaceholderText), zuQt(name), FileDB_);
     }
     const auto gewaehlt = std::find(dateien_.begin(), dateien_.end(), auswahl.datei());
     FileDB_->setCurrentRow(gewaehlt == dateien_.end() ? -1 : static_cast<int>(gewaehlt - dateien_.begin()));

@@ -1,6 +1,6 @@
 #include "ui/start_page/settings_view.h"
 
-#include "session/start_page.h"
+#include "frame/start_page.h"
 #include "session/tree_switches.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/fields.h"

@@ -8,17 +8,17 @@ std::string_view dokumentzeichen(std::string_view filename)
 {
     switch (dateiTypCode(filename)) {
     case 1:
-        return "bauteil";
+        return "part";
     case 2:
-        return "zeichnung";
+        return "drawing";
     case 3:
-        return "baugruppe";
+        return "assembly";
     case 4:
-        return "blechteil";
+        return "sheet-metal";
     case 6:
-        return "schweissteil";
+        return "weldment";
     default:
-        return "datei";
+        return "file";
     }
 }
 

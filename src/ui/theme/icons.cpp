@@ -99,7 +99,7 @@ QIcon programmsymbol()
 {
     QIcon ergebnis;
     for (const int seite : {16, 24, 32, 48, 64})
-        ergebnis.addPixmap(gezeichnet(QStringLiteral("programm"), QSize(seite, seite), Qt::white));
+        ergebnis.addPixmap(gezeichnet(QStringLiteral("program"), QSize(seite, seite), Qt::white));
     return ergebnis;
 }
 

@@ -245,11 +245,11 @@ QIcon Programmstil::standardIcon(StandardPixmap bild, const QStyleOption* option
     case SP_MessageBoxInformation:
         return symbol("information");
     case SP_MessageBoxWarning:
-        return symbol("warnung");
+        return symbol("warning");
     case SP_MessageBoxCritical:
-        return symbol("kritisch");
+        return symbol("critical");
     case SP_MessageBoxQuestion:
-        return symbol("frage");
+        return symbol("question");
     default:
         return QProxyStyle::standardIcon(bild, option, widget);
     }

@@ -1,8 +1,8 @@
 #include "base/file_path.h"
 #include "database/catalog.h"
 #include "database/connection.h"
-#include "database/create.h"
 #include "database/faults.h"
+#include "database/new_database.h"
 #include "database/recordset.h"
 #include "fakes/temp_folder.h"
 

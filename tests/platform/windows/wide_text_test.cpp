@@ -1,5 +1,5 @@
+#include "platform/windows/error.h"
 #include "platform/windows/wide_text.h"
-#include "platform/windows/windows_error.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -1,9 +1,9 @@
 #include "database/faults.h"
+#include "frame/main_window.h"
+#include "frame/start_page.h"
 #include "session/database_watch.h"
-#include "session/main_window.h"
 #include "session/program.h"
 #include "session/register_fixture.h"
-#include "session/start_page.h"
 
 #include <fstream>
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "base/runtime_error.h"
 #include "fakes/fake_ports.h"
-#include "platform/windows/windows_dateien.h"
-#include "platform/windows/windows_world.h"
+#include "platform/windows/files.h"
+#include "platform/windows/world.h"
 #include "session/local_settings.h"
 
 #include <algorithm>

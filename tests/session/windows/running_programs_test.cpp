@@ -1,6 +1,6 @@
 #include "fakes/fake_ports.h"
+#include "platform/windows/running_programs.h"
 #include "platform/windows/wide_text.h"
-#include "platform/windows/windows_laufende_programme.h"
 #include "session/program.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "base/text.h"
-#include "tools/befehle_fixture.h"
+#include "tools/commands_fixture.h"
 #include "tools/import_fixture.h"
 
 #include <sys/fsuid.h>

@@ -1,9 +1,9 @@
 // What becomes of a register when the one that is to replace it is stopped in between.
 
-#include "database/create.h"
 #include "database/engine.h"
 #include "database/exclusive_file.h"
 #include "database/faults.h"
+#include "database/new_database.h"
 #include "tools/import_fixture.h"
 
 #include <csignal>

@@ -63,11 +63,11 @@ void Favoritenpanel::baueGitter()
 void Favoritenpanel::baueLeisten()
 {
     fuegeKnopfHinzu(*TBarFavVerlassen_,
-                    {"Verwalten.....", "Verwalten.....", "Verwaltung der Favoriten öffnen", "verwalten"});
-    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Alle löschen", "Alle löschen", "Alle Favoriten löschen", "loeschen"});
+                    {"Verwalten.....", "Verwalten.....", "Verwaltung der Favoriten öffnen", "manage"});
+    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Alle löschen", "Alle löschen", "Alle Favoriten löschen", "delete"});
     fuegeKnopfHinzu(*TBarFavVerwalten_,
-                    {"Zeile löschen", "Zeile löschen", "Ausgewählten Favoriten löschen", "zeile-loeschen"});
-    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Verlassen", "Verlassen", "Verwaltung der Favoriten verlassen", "zurueck"});
+                    {"Zeile löschen", "Zeile löschen", "Ausgewählten Favoriten löschen", "row-delete"});
+    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Verlassen", "Verlassen", "Verwaltung der Favoriten verlassen", "back"});
     connect(&knopfVon(*TBarFavVerlassen_, "Verwalten....."), &QAction::triggered, this,
             bewacht([this] { oeffneVerwaltung(); }));
     beiKnopf(*TBarFavVerwalten_, "Alle löschen", &Favoriten::AlleFavoritenLoeschen);

@@ -14,10 +14,10 @@ namespace quelvarn {
 
 namespace {
 
-constexpr Leistenknopf VERWALTEN{"Verwalten.....", "Verwalten.....", "", "verwalten"};
-constexpr Leistenknopf ALLE_LOESCHEN{"Alle löschen", "Alle löschen", "", "loeschen"};
-constexpr Leistenknopf ZEILE_LOESCHEN{"Zeile löschen", "Zeile löschen", "", "zeile-loeschen"};
-constexpr Leistenknopf VERLASSEN{"Verlassen", "Verlassen", "", "zurueck"};
+constexpr Leistenknopf VERWALTEN{"Verwalten.....", "Verwalten.....", "", "manage"};
+constexpr Leistenknopf ALLE_LOESCHEN{"Alle löschen", "Alle löschen", "", "delete"};
+constexpr Leistenknopf ZEILE_LOESCHEN{"Zeile löschen", "Zeile löschen", "", "row-delete"};
+constexpr Leistenknopf VERLASSEN{"Verlassen", "Verlassen", "", "back"};
 
 QVBoxLayout* neuerAufbau(QWidget* panel)
 {
@@ -61,7 +61,7 @@ QWidget* neuesFrmNutzer()
     fuss->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblMyDocuOpenBy")), 1);
     aufbau->addWidget(ruhendeLeiste(
         "TbarNutzVerwalten",
-        {{"Geöffnet", "Geöffnet", "", "bearbeiten"}, {"In Durchsicht", "In Durchsicht", "", "auge"}, VERWALTEN}));
+        {{"Geöffnet", "Geöffnet", "", "edit"}, {"In Durchsicht", "In Durchsicht", "", "eye"}, VERWALTEN}));
     aufbau->addWidget(ruhendeLeiste("TbarNutzVerlassen", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
     return panel;
 }
@@ -89,7 +89,7 @@ QWidget* neuesFrmForwardMessage()
     TxtMessageKomm->setReadOnly(true);
     aufbau->addWidget(TxtMessageKomm, 1);
     aufbau->addWidget(
-        ruhendeLeiste("TbarForwardVerl", {VERWALTEN, VERLASSEN, {"Wechseln zu", "Wechseln zu", "", "wechseln"}}));
+        ruhendeLeiste("TbarForwardVerl", {VERWALTEN, VERLASSEN, {"Wechseln zu", "Wechseln zu", "", "switch"}}));
     aufbau->addWidget(ruhendeLeiste("TbarForwardVerw", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
     return panel;
 }

@@ -94,10 +94,10 @@ QWidget* neueAuftragsliste()
                                  {"Ausrichtung", "Orientation"},
                                  {"Skalierung", "Plotscale"}},
                                 {17, 8, 15, 7, 15, 10, 8, 6, 8, 6}));
-    liste->addWidget(ruhendeLeiste("TlbPlotauftrag", {{"Übernehmen", "Übernehmen", "", "haken"},
-                                                      {"Zeile löschen", "Zeile löschen", "", "zeile-loeschen"},
-                                                      {"Liste löschen", "Liste löschen", "", "loeschen"},
-                                                      {"Verwalten.....", "Verwalten.....", "", "verwalten"}}));
+    liste->addWidget(ruhendeLeiste("TlbPlotauftrag", {{"Übernehmen", "Übernehmen", "", "tick"},
+                                                      {"Zeile löschen", "Zeile löschen", "", "row-delete"},
+                                                      {"Liste löschen", "Liste löschen", "", "delete"},
+                                                      {"Verwalten.....", "Verwalten.....", "", "manage"}}));
     liste->addLayout(neueReduktionen());
 
     auto* gitter = new QGridLayout(panel);

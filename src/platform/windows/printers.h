@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/printers.h"
+
+namespace quelvarn {
+
+// The printers of the print spooler. Only the spooler is asked, never a driver, whose own code could show boxes.
+class WindowsDrucker : public Drucker
+{
+public:
+    std::vector<std::string> namen() const override;
+    // A printer that keeps silent is told by its name alone.
+    std::optional<Standarddrucker> standard() const override;
+};
+
+} // namespace quelvarn
