@@ -11,118 +11,118 @@ namespace quelvarn::bench {
 
 namespace {
 
-using NamenUndAusdruecke = std::vector<std::pair<std::string, std::string>>;
+using NamesAndExpressions = std::vector<std::pair<std::string, std::string>>;
 
-constexpr const char* LISTE = "SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC";
+constexpr const char* LIST = "SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC";
 
-void verlange(bool bedingung, const char* sonst)
+void require(bool condition, const char* otherwise)
 {
-    if (!bedingung)
-        throw std::runtime_error(sonst);
+    if (!condition)
+        throw std::runtime_error(otherwise);
 }
 
 // The peer walks the same rows in the same order.
-std::size_t messeOeffnen(Messreihe& reihe, const std::string& name, const std::string& bereich, Connection& verbindung,
-                         BareSqlite& sqlite)
+std::size_t measureOpen(Measurements& layoutRow, const std::string& name, const std::string& section,
+                        Connection& connection, BareSqlite& sqlite)
 {
-    const std::string rest = " FROM PartTabelle" + bereich + " ORDER BY DokuBez, RevBez DESC";
-    const std::string nackt = "SELECT rowid, DokuBez, RevBez" + rest;
-    verlange(sqlite.plan(nackt).find("TEMP B-TREE") == std::string::npos, "no index serves the peer's listing");
+    const std::string rest = " FROM PartTabelle" + section + " ORDER BY DokuBez, RevBez DESC";
+    const std::string bare = "SELECT rowid, DokuBez, RevBez" + rest;
+    require(sqlite.plan(bare).find("TEMP B-TREE") == std::string::npos, "no index serves the peer's listing");
     Recordset rs;
-    std::size_t gelistet = 0;
-    reihe.vergleiche(name, reihe.beiVielen(1.5),
-                     {[&] { rs.Open(std::get<sql::Select>(sql::parseAnweisung("SELECT *" + rest)), verbindung); },
-                      [&] { rs.Close(); }},
-                     "sqlite3_step, same order", {[&] { gelistet = sqlite.listeAuf(nackt); }});
-    verlange(rs.RecordCount() == gelistet, "the recordset and the peer list different rows");
-    return rs.speicherbedarf() / rs.RecordCount();
+    std::size_t listed = 0;
+    layoutRow.compare(name, layoutRow.atMany(1.5),
+                      {[&] { rs.Open(std::get<sql::Select>(sql::parseStatement("SELECT *" + rest)), connection); },
+                       [&] { rs.Close(); }},
+                      "sqlite3_step, same order", {[&] { listed = sqlite.listAll(bare); }});
+    require(rs.RecordCount() == listed, "the recordset and the peer list different rows");
+    return rs.memoryNeed() / rs.RecordCount();
 }
 
-void messeErstenFilter(Messreihe& reihe, Connection& verbindung, BareSqlite& sqlite, const std::string& spalte,
-                       const std::string& text)
+void measureFirstFilter(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite, const std::string& column,
+                        const std::string& text)
 {
     Recordset rs;
-    std::int64_t gezaehlt = 0;
-    const std::string zaehlen = "SELECT COUNT(*) FROM PartTabelle WHERE " + spalte + " LIKE '%" + text + "%'";
-    reihe.vergleiche("filter on a column not yet read, " + spalte, reihe.beiVielen(2.0),
-                     {[&] { rs.Filter(spalte + " Like '*" + text + "*'"); }, [&] { rs.Open(LISTE, verbindung); }},
-                     "SELECT COUNT(*) ... LIKE", {[&] { gezaehlt = sqlite.zahl(zaehlen); }});
-    verlange(static_cast<std::int64_t>(rs.RecordCount()) == gezaehlt, "filter and peer count different rows");
+    std::int64_t counted = 0;
+    const std::string count = "SELECT COUNT(*) FROM PartTabelle WHERE " + column + " LIKE '%" + text + "%'";
+    layoutRow.compare("filter on a column not yet read, " + column, layoutRow.atMany(2.0),
+                      {[&] { rs.Filter(column + " Like '*" + text + "*'"); }, [&] { rs.Open(LIST, connection); }},
+                      "SELECT COUNT(*) ... LIKE", {[&] { counted = sqlite.number(count); }});
+    require(static_cast<std::int64_t>(rs.RecordCount()) == counted, "filter and peer count different rows");
 }
 
-void messeFilter(Messreihe& reihe, Recordset& rs)
+void measureFilter(Measurements& layoutRow, Recordset& rs)
 {
-    const NamenUndAusdruecke filter{
+    const NamesAndExpressions filter{
         {"filter once read, one text", "Titel Like 'Welle lang 3'"},
         {"filter once read, text anywhere", "Titel Like '*gefräst*'"},
         {"filter once read, three conditions",
          "Status >= 2 AND Material = 's235jr' AND Erstellt >= #01/02/15 00:00:00#"},
         {"filter once read, all texts different", "filename Like '*0012*'"},
     };
-    for (const auto& [name, ausdruck] : filter) {
-        rs.Filter(ausdruck);
-        verlange(rs.RecordCount() > 0, "a filter of the bench finds nothing");
-        reihe.begrenze(name, 10, {[&rs, &ausdruck = ausdruck] { rs.Filter(ausdruck); }});
+    for (const auto& [name, expression] : filter) {
+        rs.Filter(expression);
+        require(rs.RecordCount() > 0, "a filter of the bench finds nothing");
+        layoutRow.limit(name, 10, {[&rs, &expression = expression] { rs.Filter(expression); }});
     }
     rs.Filter("");
 }
 
-void messeSuche(Messreihe& reihe, Recordset& rs)
+void measureSearch(Measurements& layoutRow, Recordset& rs)
 {
     rs.MoveLast();
-    const std::string letztes = rs.Text("DokuBez");
-    const NamenUndAusdruecke suchen{
+    const std::string last = rs.Text("DokuBez");
+    const NamesAndExpressions search{
         {"search step, start of text, first row", "DokuBez LIKE '1%'"},
-        {"search step, start of text, last row", "DokuBez LIKE '" + letztes + "%'"},
+        {"search step, start of text, last row", "DokuBez LIKE '" + last + "%'"},
         {"search step, start of text, not there", "DokuBez LIKE 'xyz%'"},
-        {"search step, anywhere, last row", "DokuBez LIKE '%" + letztes.substr(1) + "%'"},
+        {"search step, anywhere, last row", "DokuBez LIKE '%" + last.substr(1) + "%'"},
         {"search step, anywhere, not there", "DokuBez LIKE '%9-9-9%'"},
     };
-    for (const auto& [name, kriterium] : suchen)
-        reihe.begrenze(name, 16,
-                       {[&rs, &kriterium = kriterium] { rs.Find(kriterium, 0, Suchrichtung::Vorwaerts, true); }});
+    for (const auto& [name, criterion] : search)
+        layoutRow.limit(name, 16,
+                        {[&rs, &criterion = criterion] { rs.Find(criterion, 0, SearchDirection::Forward, true); }});
 }
 
 // The first step over a column has more to do than those that follow.
-void messeErsteSuche(Messreihe& reihe, Connection& verbindung)
+void measureFirstSearch(Measurements& layoutRow, Connection& connection)
 {
     Recordset rs;
-    reihe.begrenze("search step, anywhere, first one of all", 16,
-                   {[&] { rs.Find("DokuBez LIKE '%9-9-9%'", 0, Suchrichtung::Vorwaerts, true); },
-                    [&] { rs.Open(LISTE, verbindung); }});
+    layoutRow.limit("search step, anywhere, first one of all", 16,
+                    {[&] { rs.Find("DokuBez LIKE '%9-9-9%'", 0, SearchDirection::Forward, true); },
+                     [&] { rs.Open(LIST, connection); }});
 }
 
-void messeZeilenwechsel(Messreihe& reihe, Recordset& rs)
+void measureRowChange(Measurements& layoutRow, Recordset& rs)
 {
     std::size_t position = 0;
-    std::size_t laenge = 0;
-    reihe.begrenze("row change: move and read all fields", 5, {[&] {
-                       position = (position + 314'159) % rs.RecordCount();
-                       rs.setzeAbsolutePosition(position);
-                       for (const Spalte& feld : rs.Felder())
-                           laenge += rs.Text(feld.name).size();
-                   }});
-    verlange(laenge > 0, "the rows are empty");
+    std::size_t length = 0;
+    layoutRow.limit("row change: move and read all fields", 5, {[&] {
+                        position = (position + 314'159) % rs.RecordCount();
+                        rs.setAbsolutePosition(position);
+                        for (const ColumnInfo& field : rs.fields())
+                            length += rs.Text(field.name).size();
+                    }});
+    require(length > 0, "the rows are empty");
 }
 
 } // namespace
 
-void messeDatenbank(Messreihe& reihe, const std::filesystem::path& datei)
+void measureDatabase(Measurements& layoutRow, const std::filesystem::path& file)
 {
-    Connection verbindung;
-    verbindung.Open(datei);
-    BareSqlite sqlite(datei);
-    const std::size_t bytes = messeOeffnen(reihe, "open a table", "", verbindung, sqlite);
-    reihe.begrenzeGroesse("memory a document after opening", "bytes", 150, static_cast<double>(bytes));
-    messeOeffnen(reihe, "open a table, two statuses", " WHERE ( Status = 3 OR Status = 4)", verbindung, sqlite);
-    messeErstenFilter(reihe, verbindung, sqlite, "Titel", "Welle");
-    messeErstenFilter(reihe, verbindung, sqlite, "Dateiname", "0012");
-    messeErsteSuche(reihe, verbindung);
+    Connection connection;
+    connection.Open(file);
+    BareSqlite sqlite(file);
+    const std::size_t bytes = measureOpen(layoutRow, "open a table", "", connection, sqlite);
+    layoutRow.limitSize("memory a document after opening", "bytes", 150, static_cast<double>(bytes));
+    measureOpen(layoutRow, "open a table, two statuses", " WHERE ( Status = 3 OR Status = 4)", connection, sqlite);
+    measureFirstFilter(layoutRow, connection, sqlite, "Titel", "Welle");
+    measureFirstFilter(layoutRow, connection, sqlite, "Dateiname", "0012");
+    measureFirstSearch(layoutRow, connection);
     Recordset rs;
-    rs.Open(LISTE, verbindung);
-    messeZeilenwechsel(reihe, rs);
-    messeSuche(reihe, rs);
-    messeFilter(reihe, rs);
+    rs.Open(LIST, connection);
+    measureRowChange(layoutRow, rs);
+    measureSearch(layoutRow, rs);
+    measureFilter(layoutRow, rs);
 }
 
 } // namespace quelvarn::bench

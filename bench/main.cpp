@@ -22,108 +22,106 @@ using namespace quelvarn::bench;
 
 namespace {
 
-constexpr const char* AUFRUF =
+constexpr const char* CALL =
     "quelvarn-bench [--documents N] [--runs N] [--database FILE] [--json FILE]\n"
     "               [--access FILE] [--without-program | --only-program] [--without-qt-peer] [--qt-peer-runs N]";
 
 // A smaller register is for trying things out: its figures are only shown beside those of the peers.
-constexpr std::size_t DOKUMENTE_DER_GRENZEN = 500'000;
+constexpr std::size_t DOCUMENTS_OF_BOUNDS = 500'000;
 
-struct Auftrag
+struct Order
 {
-    std::size_t dokumente = 1'000'000;
-    int laeufe = 7;
-    int qtLaeufe = 1; // 0 leaves the peer out.
-    bool programm = true;
+    std::size_t documents = 1'000'000;
+    int runs = 7;
+    int qtRuns = 1; // 0 leaves the peer out.
+    bool program = true;
     bool core = true;
     std::filesystem::path json;
-    std::filesystem::path datenbank;
+    std::filesystem::path database;
     std::filesystem::path access; // Nothing is imported where it is missing.
 };
 
-void nimmWert(Auftrag& auftrag, const std::string& name, const std::string& wert)
+void takeValue(Order& order, const std::string& name, const std::string& value)
 {
     if (name == "--documents")
-        auftrag.dokumente = std::stoull(wert);
+        order.documents = std::stoull(value);
     else if (name == "--runs")
-        auftrag.laeufe = std::max(std::stoi(wert), 1);
+        order.runs = std::max(std::stoi(value), 1);
     else if (name == "--qt-peer-runs")
-        auftrag.qtLaeufe = std::max(std::stoi(wert), 1);
+        order.qtRuns = std::max(std::stoi(value), 1);
     else if (name == "--json")
-        auftrag.json = wert;
+        order.json = value;
     else if (name == "--access")
-        auftrag.access = wert;
+        order.access = value;
     else if (name == "--database")
-        auftrag.datenbank = wert;
+        order.database = value;
     else
-        throw std::invalid_argument(AUFRUF);
+        throw std::invalid_argument(CALL);
 }
 
-Auftrag leseAuftrag(int anzahl, char** argumente)
+Order readOrder(int count, char** arguments)
 {
-    Auftrag auftrag;
-    for (int i = 1; i < anzahl; ++i) {
-        const std::string name = argumente[i];
+    Order order;
+    for (int i = 1; i < count; ++i) {
+        const std::string name = arguments[i];
         if (name == "--without-program")
-            auftrag.programm = false;
+            order.program = false;
         else if (name == "--only-program")
-            auftrag.core = false;
+            order.core = false;
         else if (name == "--without-qt-peer")
-            auftrag.qtLaeufe = 0;
-        else if (i + 1 < anzahl)
-            nimmWert(auftrag, name, argumente[++i]);
+            order.qtRuns = 0;
+        else if (i + 1 < count)
+            takeValue(order, name, arguments[++i]);
         else
-            throw std::invalid_argument(AUFRUF);
+            throw std::invalid_argument(CALL);
     }
-    if (auftrag.datenbank.empty())
-        auftrag.datenbank =
-            std::filesystem::temp_directory_path() / fmt::format("quelvarn-bench-{}.qv", auftrag.dokumente);
-    return auftrag;
+    if (order.database.empty())
+        order.database = std::filesystem::temp_directory_path() / fmt::format("quelvarn-bench-{}.qv", order.documents);
+    return order;
 }
 
-void measureCore(Messreihe& reihe, const Auftrag& auftrag)
+void measureCore(Measurements& layoutRow, const Order& order)
 {
 #ifdef QUELVARN_BENCH_ACCESS
-    const auto access =
-        auftrag.access.empty() ? std::filesystem::path(QUELVARN_TEST_DATA) / "werk-a.mdb" : auftrag.access;
+    const auto access = order.access.empty() ? std::filesystem::path(QUELVARN_TEST_DATA) / "werk-a.mdb" : order.access;
     if (std::filesystem::exists(access))
-        messeImport(reihe, access);
+        measureImport(layoutRow, access);
 #endif
-    messeDatenbank(reihe, auftrag.datenbank);
-    messeFilterseite(reihe, auftrag.datenbank);
-    messeBenutzDef(reihe, auftrag.datenbank);
-    messeVerwendung(reihe, auftrag.datenbank);
-    messeListen(reihe, auftrag.datenbank);
+    measureDatabase(layoutRow, order.database);
+    measureFilterPage(layoutRow, order.database);
+    measureUserDef(layoutRow, order.database);
+    measureRelation(layoutRow, order.database);
+    measureLists(layoutRow, order.database);
 }
 
-void messe(Messreihe& reihe, const Auftrag& auftrag)
+void measure(Measurements& layoutRow, const Order& order)
 {
-    if (auftrag.core)
-        measureCore(reihe, auftrag);
+    if (order.core)
+        measureCore(layoutRow, order);
 #ifdef QUELVARN_BENCH_UI
-    if (auftrag.programm)
-        messeFenster(reihe, auftrag.datenbank, auftrag.qtLaeufe);
+    if (order.program)
+        measureWindow(layoutRow, order.database, order.qtRuns);
 #endif
 }
 
 } // namespace
 
 // Ends with 1 when a bound is exceeded.
-int main(int anzahl, char** argumente)
+int main(int count, char** arguments)
 {
     try {
-        const Auftrag auftrag = leseAuftrag(anzahl, argumente);
-        legeRegisterBereit(auftrag.datenbank, auftrag.dokumente);
-        Messreihe reihe(auftrag.laeufe, auftrag.dokumente >= DOKUMENTE_DER_GRENZEN);
-        messe(reihe, auftrag);
-        zeigeTabelle(reihe.messungen());
-        if (!auftrag.json.empty())
-            schreibeJson(auftrag.json, reihe.messungen());
-        const bool gehalten = std::all_of(reihe.messungen().begin(), reihe.messungen().end(),
-                                          [](const Messung& messung) { return messung.gehalten(); });
-        return gehalten ? 0 : 1;
-    } catch (const std::exception& fehler) {
-        fmt::print(stderr, "{}\n", fehler.what());
+        const Order order = readOrder(count, arguments);
+        prepareRegister(order.database, order.documents);
+        Measurements layoutRow(order.runs, order.documents >= DOCUMENTS_OF_BOUNDS);
+        measure(layoutRow, order);
+        showTable(layoutRow.measurements());
+        if (!order.json.empty())
+            writeJson(order.json, layoutRow.measurements());
+        const bool held = std::all_of(layoutRow.measurements().begin(), layoutRow.measurements().end(),
+                                      [](const Measurement& measurement) { return measurement.held(); });
+        return held ? 0 : 1;
+    } catch (const std::exception& fault) {
+        fmt::print(stderr, "{}\n", fault.what());
         return 2;
     }
 }

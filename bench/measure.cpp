@@ -7,65 +7,64 @@ namespace quelvarn::bench {
 
 namespace {
 
-double dauer(const Arbeit& arbeit)
+double duration(const Work& work)
 {
-    arbeit.vorher();
-    const auto beginn = std::chrono::steady_clock::now();
-    arbeit.tat();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - beginn).count();
+    work.before();
+    const auto begin = std::chrono::steady_clock::now();
+    work.action();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
 }
 
-double median(std::vector<double> zeiten)
+double median(std::vector<double> times)
 {
-    const auto mitte = zeiten.begin() + static_cast<std::ptrdiff_t>(zeiten.size() / 2);
-    std::nth_element(zeiten.begin(), mitte, zeiten.end());
-    return *mitte;
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
 }
 
 } // namespace
 
-void Messreihe::vergleiche(std::string name, std::optional<double> grenze, const Arbeit& unsere, std::string peer,
-                           const Arbeit& andere)
+void Measurements::compare(std::string name, std::optional<double> limit, const Work& ours, std::string peer,
+                           const Work& other)
 {
     // One run of each beforehand, so that both find the file in the memory of the system.
-    if (!andere.laeufe)
-        dauer(andere);
-    if (!unsere.laeufe)
-        dauer(unsere);
-    std::vector<double> unsereZeiten;
-    std::vector<double> andereZeiten;
-    const int unsereLaeufe = unsere.laeufe.value_or(laeufe_);
-    const int andereLaeufe = andere.laeufe.value_or(laeufe_);
-    for (int lauf = 0; lauf < std::max(unsereLaeufe, andereLaeufe); ++lauf) {
-        if (lauf < unsereLaeufe)
-            unsereZeiten.push_back(dauer(unsere));
-        if (lauf < andereLaeufe)
-            andereZeiten.push_back(dauer(andere));
+    if (!other.runs)
+        duration(other);
+    if (!ours.runs)
+        duration(ours);
+    std::vector<double> oursTimes;
+    std::vector<double> otherTimes;
+    const int oursRuns = ours.runs.value_or(runs_);
+    const int otherRuns = other.runs.value_or(runs_);
+    for (int run = 0; run < std::max(oursRuns, otherRuns); ++run) {
+        if (run < oursRuns)
+            oursTimes.push_back(duration(ours));
+        if (run < otherRuns)
+            otherTimes.push_back(duration(other));
     }
-    const double hier = median(unsereZeiten);
-    const double dort = median(andereZeiten);
-    messungen_.push_back({std::move(name), "ms", hier, std::move(peer), dort, hier / dort, grenze});
+    const double here = median(oursTimes);
+    const double there = median(otherTimes);
+    measurements_.push_back({std::move(name), "ms", here, std::move(peer), there, here / there, limit});
 }
 
-void Messreihe::begrenze(std::string name, double grenzeMs, const Arbeit& unsere)
+void Measurements::limit(std::string name, double limitMs, const Work& ours)
 {
-    std::vector<double> zeiten;
-    for (int lauf = 0; lauf < unsere.laeufe.value_or(laeufe_); ++lauf)
-        zeiten.push_back(dauer(unsere));
-    const double hier = median(zeiten);
-    messungen_.push_back({std::move(name), "ms", hier, {}, {}, hier / grenzeMs, grenzeMs});
+    std::vector<double> times;
+    for (int run = 0; run < ours.runs.value_or(runs_); ++run)
+        times.push_back(duration(ours));
+    const double here = median(times);
+    measurements_.push_back({std::move(name), "ms", here, {}, {}, here / limitMs, limitMs});
 }
 
-void Messreihe::begrenzeGroesse(std::string name, std::string einheit, double grenze, double wert)
+void Measurements::limitSize(std::string name, std::string unit, double limit, double value)
 {
-    messungen_.push_back({std::move(name), std::move(einheit), wert, {}, {}, wert / grenze, grenze});
+    measurements_.push_back({std::move(name), std::move(unit), value, {}, {}, value / limit, limit});
 }
 
-void Messreihe::vergleicheGroesse(std::string name, std::string einheit, double wert, std::string peer,
-                                  double andererWert)
+void Measurements::compareSize(std::string name, std::string unit, double value, std::string peer, double otherValue)
 {
-    messungen_.push_back(
-        {std::move(name), std::move(einheit), wert, std::move(peer), andererWert, wert / andererWert, {}});
+    measurements_.push_back(
+        {std::move(name), std::move(unit), value, std::move(peer), otherValue, value / otherValue, {}});
 }
 
 } // namespace quelvarn::bench

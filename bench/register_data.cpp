@@ -21,168 +21,167 @@ namespace {
 constexpr std::size_t PART = 0;
 constexpr std::size_t ASSEMB = 2;
 constexpr std::size_t DRAFT = 3;
-constexpr std::size_t EIGENSCHAFTEN = 5;       // User-defined, of each part.
-constexpr std::size_t DOKUMENTE_SONST = 2'000; // In each of the seven other tables.
+constexpr std::size_t PROPERTIES = 5;              // User-defined, of each part.
+constexpr std::size_t DOCUMENTS_OTHERWISE = 2'000; // In each of the seven other tables.
 
-using Zellenquelle = std::function<Value(std::size_t zeile, const Spalte& spalte)>;
+using CellSource = std::function<Value(std::size_t row, const ColumnInfo& column)>;
 
-void schreibe(Engine& engine, const Tabellenschema& tabelle, std::size_t zeilen, const Zellenquelle& zelle)
+void write(Engine& engine, const TableSchema& table, std::size_t rows, const CellSource& cell)
 {
-    engine.legeTabelleAn(tabelle);
-    const auto schreiber = engine.massenschreiber(tabelle.name, tabelle.spalten);
-    std::vector<Value> werte(tabelle.spalten.size());
-    for (std::size_t zeile = 0; zeile < zeilen; ++zeile) {
-        for (std::size_t spalte = 0; spalte < werte.size(); ++spalte)
-            werte[spalte] = zelle(zeile, tabelle.spalten[spalte]);
-        schreiber->zeile(werte);
+    engine.createTable(table);
+    const auto writer = engine.bulkWriter(table.name, table.columns);
+    std::vector<Value> values(table.columns.size());
+    for (std::size_t row = 0; row < rows; ++row) {
+        for (std::size_t column = 0; column < values.size(); ++column)
+            values[column] = cell(row, table.columns[column]);
+        writer->row(values);
     }
-    schreiber->beende();
-    engine.legeIndexeAn(tabelle);
+    writer->end();
+    engine.createIndexes(table);
 }
 
 // What stands in a table that relates a document to a part, by the name of the column.
-Value beziehung(const Musterdokument& dokument, const Musterdokument& teil, const std::string& spalte)
+Value relation(const SampleDocument& document, const SampleDocument& part, const std::string& column)
 {
-    if (spalte == "DokuBez" || spalte.ends_with("DokuBez") || spalte.starts_with("DokuBez"))
-        return dokument.bezeichnung();
-    if (spalte.ends_with("RevBez") || spalte.starts_with("RevBez"))
-        return dokument.revision();
-    if (spalte == "Part" || spalte == "PfadAssembPart" || spalte == "Dokufilename")
-        return teil.pfad();
-    if (spalte == "DateinameAssembPart")
-        return teil.dateiname();
-    if (spalte.find("filename") != std::string::npos)
-        return dokument.pfad();
-    return dokument.dateiname();
+    if (column == "DokuBez" || column.ends_with("DokuBez") || column.starts_with("DokuBez"))
+        return document.label();
+    if (column.ends_with("RevBez") || column.starts_with("RevBez"))
+        return document.revision();
+    if (column == "Part" || column == "PfadAssembPart" || column == "Dokufilename")
+        return part.path();
+    if (column == "DateinameAssembPart")
+        return part.fileName();
+    if (column.find("filename") != std::string::npos)
+        return document.path();
+    return document.fileName();
 }
 
 // The k-th user-defined property of a document: a few values, many, and the path of a file.
-Value eigenschaftswert(std::size_t k, std::size_t nummer, const std::string& spalte)
+Value propertyValue(std::size_t k, std::size_t number, const std::string& column)
 {
-    constexpr std::array<std::string_view, EIGENSCHAFTEN> NAMEN{"Werkstoff", "Oberfläche", "Gewicht", "Kunde", "Notiz"};
-    if (spalte == "Name")
-        return std::string(NAMEN[k]);
-    const std::array<std::string, EIGENSCHAFTEN> werte{
-        fmt::format("Stahl {}", nummer % 10), fmt::format("verzinkt {}", nummer % 7),
-        fmt::format("{},5 kg", nummer % 5000), fmt::format("Kunde {}", nummer % 300),
-        fmt::format("W:\\Konstruktion\\Ablage\\Notizen\\Notiz {}.txt", nummer % 1000)};
-    return werte[k];
+    constexpr std::array<std::string_view, PROPERTIES> NAMES{"Werkstoff", "Oberfläche", "Gewicht", "Kunde", "Notiz"};
+    if (column == "Name")
+        return std::string(NAMES[k]);
+    const std::array<std::string, PROPERTIES> values{
+        fmt::format("Stahl {}", number % 10), fmt::format("verzinkt {}", number % 7),
+        fmt::format("{},5 kg", number % 5000), fmt::format("Kunde {}", number % 300),
+        fmt::format("W:\\Konstruktion\\Ablage\\Notizen\\Notiz {}.txt", number % 1000)};
+    return values[k];
 }
 
-Value eigenschaft(const Musterdokument& teil, std::size_t k, std::size_t nummer, const Spalte& spalte)
+Value property(const SampleDocument& part, std::size_t k, std::size_t number, const ColumnInfo& column)
 {
-    if (spalte.typ != FeldTyp::Text)
-        return static_cast<std::int64_t>(nummer % ANZAHL_STATUS);
-    if (spalte.name == "DokuBez")
-        return teil.bezeichnung();
-    if (spalte.name == "RevBez")
-        return teil.revision();
-    if (spalte.name == "Name" || spalte.name == "Wert")
-        return eigenschaftswert(k, nummer, spalte.name);
-    return fmt::format("{} {}", spalte.name, nummer % 50);
+    if (column.type != FieldType::Text)
+        return static_cast<std::int64_t>(number % STATUS_COUNT);
+    if (column.name == "DokuBez")
+        return part.label();
+    if (column.name == "RevBez")
+        return part.revision();
+    if (column.name == "Name" || column.name == "Wert")
+        return propertyValue(k, number, column.name);
+    return fmt::format("{} {}", column.name, number % 50);
 }
 
-class Registerbau
+class RegisterBuilding
 {
 public:
-    Registerbau(Engine& engine, std::size_t dokumente) : engine_(engine), dokumente_(dokumente) {}
+    RegisterBuilding(Engine& engine, std::size_t documents) : engine_(engine), documents_(documents) {}
 
     // The settings come last: where they are the register is whole.
-    void baue()
+    void build()
     {
-        for (const DokuTyp& typ : DOKUTYPEN)
-            dokumente(typ, typ.tab == PART ? dokumente_ : DOKUMENTE_SONST);
-        eigenschaften();
-        beziehungen("ZusBauPart", ASSEMB, 4);
-        beziehungen("VerbindungDraftPart", DRAFT, 5);
-        beziehungen("VerbindungPartZusDoku", DRAFT, 10);
-        for (const Tabellenschema& tabelle : registerschema())
-            if (!engine_.findTabelle(tabelle.name) && tabelle.name != "Ini")
-                schreibe(engine_, tabelle, 0, {});
-        einstellungen();
+        for (const DocumentType& type : DOCUMENT_TYPES)
+            documents(type, type.tab == PART ? documents_ : DOCUMENTS_OTHERWISE);
+        properties();
+        relations("ZusBauPart", ASSEMB, 4);
+        relations("VerbindungDraftPart", DRAFT, 5);
+        relations("VerbindungPartZusDoku", DRAFT, 10);
+        for (const TableSchema& table : registerSchema())
+            if (!engine_.findTable(table.name) && table.name != "Ini")
+                write(engine_, table, 0, {});
+        settings();
     }
 
 private:
     // Rows lie in the file in another order than that of their names, as scanning leaves them.
-    static std::size_t nummer(std::size_t zeile, std::size_t anzahl)
+    static std::size_t number(std::size_t row, std::size_t count)
     {
         std::size_t sprung = 7'368'787;
-        while (std::gcd(sprung, anzahl) != 1)
+        while (std::gcd(sprung, count) != 1)
             ++sprung;
-        return zeile * sprung % anzahl;
+        return row * sprung % count;
     }
 
-    void dokumente(const DokuTyp& typ, std::size_t anzahl)
+    void documents(const DocumentType& type, std::size_t count)
     {
-        schreibe(engine_, *findTabelle(typ.tabelle), anzahl, [&](std::size_t zeile, const Spalte& spalte) {
-            return Musterdokument(typ, nummer(zeile, anzahl)).wert(spalte, quelle_);
+        write(engine_, *findTable(type.table), count, [&](std::size_t row, const ColumnInfo& column) {
+            return SampleDocument(type, number(row, count)).value(column, source_);
         });
     }
 
-    void eigenschaften()
+    void properties()
     {
-        schreibe(engine_, *findTabelle(DOKUTYPEN[PART].tabelleBenutzDef), dokumente_ * EIGENSCHAFTEN,
-                 [this](std::size_t zeile, const Spalte& spalte) {
-                     const std::size_t teil = nummer(zeile / EIGENSCHAFTEN, dokumente_);
-                     return eigenschaft(Musterdokument(DOKUTYPEN[PART], teil), zeile % EIGENSCHAFTEN, teil, spalte);
-                 });
+        write(engine_, *findTable(DOCUMENT_TYPES[PART].tableUserDef), documents_ * PROPERTIES,
+              [this](std::size_t row, const ColumnInfo& column) {
+                  const std::size_t part = number(row / PROPERTIES, documents_);
+                  return property(SampleDocument(DOCUMENT_TYPES[PART], part), row % PROPERTIES, part, column);
+              });
     }
 
     // A document of this type for every n-th part.
-    void beziehungen(std::string_view tabelle, std::size_t typ, std::size_t jedes)
+    void relations(std::string_view table, std::size_t type, std::size_t each)
     {
-        schreibe(engine_, *findTabelle(tabelle), dokumente_ / jedes, [&](std::size_t zeile, const Spalte& spalte) {
-            return beziehung(Musterdokument(DOKUTYPEN[typ], zeile % DOKUMENTE_SONST),
-                             Musterdokument(DOKUTYPEN[PART], zeile * jedes), spalte.name);
+        write(engine_, *findTable(table), documents_ / each, [&](std::size_t row, const ColumnInfo& column) {
+            return relation(SampleDocument(DOCUMENT_TYPES[type], row % DOCUMENTS_OTHERWISE),
+                            SampleDocument(DOCUMENT_TYPES[PART], row * each), column.name);
         });
     }
 
-    void einstellungen()
+    void settings()
     {
-        schreibe(engine_, *findTabelle("Ini"), ANZAHL_STATUS, [](std::size_t zeile, const Spalte& spalte) -> Value {
-            const std::string werte[]{std::string(ANWENDER), "Berechtigung", fmt::format("{}_Status", zeile), "1", "0"};
-            return werte[spalte.name.back() - '1'];
+        write(engine_, *findTable("Ini"), STATUS_COUNT, [](std::size_t row, const ColumnInfo& column) -> Value {
+            const std::string values[]{std::string(USER), "Berechtigung", fmt::format("{}_Status", row), "1", "0"};
+            return values[column.name.back() - '1'];
         });
     }
 
     Engine& engine_;
-    std::size_t dokumente_;
-    std::mt19937 quelle_{1};
+    std::size_t documents_;
+    std::mt19937 source_{1};
 };
 
-std::int64_t zaehle(Connection& verbindung, std::string_view tabelle)
+std::int64_t count(Connection& connection, std::string_view table)
 {
-    if (!verbindung.engine().findTabelle(tabelle))
+    if (!connection.engine().findTable(table))
         return 0;
-    Recordset anzahl;
-    sql::Select count = sql::Query(tabelle);
-    count.anzahl = true;
-    anzahl.Open(std::move(count), verbindung);
-    return alsGanzzahl(anzahl.Zelle(0, anzahl.Felder().front().name));
+    Recordset answer;
+    sql::Select count = sql::Query(table);
+    count.count = true;
+    answer.Open(std::move(count), connection);
+    return asInteger(answer.cell(0, answer.fields().front().name));
 }
 
-bool istBereit(const std::filesystem::path& datei, std::size_t dokumente)
+bool isReady(const std::filesystem::path& file, std::size_t documents)
 {
-    if (!std::filesystem::exists(datei))
+    if (!std::filesystem::exists(file))
         return false;
-    Connection verbindung;
-    verbindung.Open(datei);
-    return zaehle(verbindung, DOKUTYPEN[PART].tabelle) == static_cast<std::int64_t>(dokumente) &&
-           zaehle(verbindung, DOKUTYPEN[PART].tabelleBenutzDef) ==
-               static_cast<std::int64_t>(dokumente * EIGENSCHAFTEN) &&
-           zaehle(verbindung, "Ini") > 0;
+    Connection connection;
+    connection.Open(file);
+    return count(connection, DOCUMENT_TYPES[PART].table) == static_cast<std::int64_t>(documents) &&
+           count(connection, DOCUMENT_TYPES[PART].tableUserDef) == static_cast<std::int64_t>(documents * PROPERTIES) &&
+           count(connection, "Ini") > 0;
 }
 
 } // namespace
 
-void legeRegisterBereit(const std::filesystem::path& datei, std::size_t dokumente)
+void prepareRegister(const std::filesystem::path& file, std::size_t documents)
 {
-    if (istBereit(datei, dokumente))
+    if (isReady(file, documents))
         return;
-    fmt::print("making a register of {} documents in {}\n", dokumente, datei.string());
-    std::filesystem::remove(datei);
-    const auto engine = oeffneSqlite(datei, true);
-    Registerbau(*engine, dokumente).baue();
+    fmt::print("making a register of {} documents in {}\n", documents, file.string());
+    std::filesystem::remove(file);
+    const auto engine = openSqlite(file, true);
+    RegisterBuilding(*engine, documents).build();
 }
 
 } // namespace quelvarn::bench

@@ -19,116 +19,111 @@ namespace quelvarn::bench {
 
 namespace {
 
-constexpr std::size_t LINKS_JE_TEIL = 5;
-constexpr std::size_t TEILE_JE_BAUGRUPPE = 50;
-constexpr std::size_t GROSSE_BAUGRUPPE = 2'000;
-constexpr const char* GROSS = "Große Baugruppe";
-constexpr int LAEUFE = 200;
+constexpr std::size_t LINKS_PER_PART = 5;
+constexpr std::size_t PARTS_PER_ASSEMBLY = 50;
+constexpr std::size_t LARGE_ASSEMBLY = 2'000;
+constexpr const char* LARGE = "Große Baugruppe";
+constexpr int RUNS = 200;
 
 // A part in one of the assemblies that hold it.
-std::vector<Value> zeile(std::size_t teil, const std::string& baugruppe)
+std::vector<Value> row(std::size_t part, const std::string& assembly)
 {
-    return {baugruppe, std::string("A"), baugruppe + ".asm", "W:\\Konstruktion\\Baugruppen\\" + baugruppe + ".asm",
-            Musterdokument(DOKUTYPEN[0], teil).pfad()};
+    return {assembly, std::string("A"), assembly + ".asm", "W:\\Konstruktion\\Baugruppen\\" + assembly + ".asm",
+            SampleDocument(DOCUMENT_TYPES[0], part).path()};
 }
 
 // Link tables as they are for so many parts, in a file of their own beside the register.
-void legeVerbindungenAn(const std::filesystem::path& datei, std::size_t teile)
+void createLinks(const std::filesystem::path& file, std::size_t parts)
 {
-    const auto engine = oeffneSqlite(datei, true);
-    legeRegisterAn(*engine);
-    const auto spalten = findTabelle("ZusBauPart")->spalten;
-    const auto schreiber = engine->massenschreiber("ZusBauPart", spalten);
-    for (std::size_t i = 0; i < teile * LINKS_JE_TEIL; ++i)
-        schreiber->zeile(zeile(i * 7'368'787 % teile, fmt::format("BG-{:07}", i / TEILE_JE_BAUGRUPPE)));
-    for (std::size_t i = 0; i < GROSSE_BAUGRUPPE; ++i)
-        schreiber->zeile(zeile(i * 97 % teile, GROSS));
-    schreiber->beende();
+    const auto engine = openSqlite(file, true);
+    createRegister(*engine);
+    const auto columns = findTable("ZusBauPart")->columns;
+    const auto writer = engine->bulkWriter("ZusBauPart", columns);
+    for (std::size_t i = 0; i < parts * LINKS_PER_PART; ++i)
+        writer->row(row(i * 7'368'787 % parts, fmt::format("BG-{:07}", i / PARTS_PER_ASSEMBLY)));
+    for (std::size_t i = 0; i < LARGE_ASSEMBLY; ++i)
+        writer->row(row(i * 97 % parts, LARGE));
+    writer->end();
 }
 
-std::size_t anzahlTeile(BareSqlite& sqlite)
+std::size_t partCount(BareSqlite& sqlite)
 {
-    return static_cast<std::size_t>(sqlite.zahl("SELECT count(*) FROM PartTabelle"));
+    return static_cast<std::size_t>(sqlite.number("SELECT count(*) FROM PartTabelle"));
 }
 
-std::filesystem::path verbindungenBereit(const std::filesystem::path& datei, std::size_t teile)
+std::filesystem::path linksReady(const std::filesystem::path& file, std::size_t parts)
 {
-    std::filesystem::path verbindungen = datei;
-    verbindungen += ".links";
-    const auto soll = static_cast<std::int64_t>(teile * LINKS_JE_TEIL + GROSSE_BAUGRUPPE);
-    if (!std::filesystem::exists(verbindungen) ||
-        BareSqlite(verbindungen).zahl("SELECT count(*) FROM ZusBauPart") != soll) {
-        std::filesystem::remove(verbindungen);
-        legeVerbindungenAn(verbindungen, teile);
+    std::filesystem::path links = file;
+    links += ".links";
+    const auto should = static_cast<std::int64_t>(parts * LINKS_PER_PART + LARGE_ASSEMBLY);
+    if (!std::filesystem::exists(links) || BareSqlite(links).number("SELECT count(*) FROM ZusBauPart") != should) {
+        std::filesystem::remove(links);
+        createLinks(links, parts);
     }
-    return verbindungen;
+    return links;
 }
 
 // All that the tree of a part asks of the link tables.
-void frageBaum(Connection& verbindung, const std::string& pfad)
+void askTree(Connection& connection, const std::string& path)
 {
-    DokuRecord teil;
-    teil.DokuArt = 1;
-    for (const InfoSeite seite : {InfoSeite::InBaugruppe, InfoSeite::InZeichnung})
-        gibtEsVerwendung(verbindung, verwendungsartVon(seite), teil, pfad);
+    DokuRecord part;
+    part.DokuArt = 1;
+    for (const InfoPageId page : {InfoPageId::InAssembly, InfoPageId::InDrawing})
+        hasRelation(connection, relationKindOf(page), part, path);
 }
 
-void messeListe(Messreihe& reihe, const char* name, double grenzeMs, const std::function<std::size_t()>& unsere,
-                BareSqlite& sqlite, const std::function<std::string()>& sql)
+void measureList(Measurements& layoutRow, const char* name, double limitMs, const std::function<std::size_t()>& ours,
+                 BareSqlite& sqlite, const std::function<std::string()>& sql)
 {
-    if (unsere() != sqlite.listeAuf(sql()))
+    if (ours() != sqlite.listAll(sql()))
         throw std::runtime_error(std::string("another number of rows: ") + name);
-    const Arbeit liste{[&] { unsere(); }, [] {}, LAEUFE};
-    reihe.begrenze(name, grenzeMs, liste);
-    reihe.vergleiche(name, std::nullopt, liste, "the same SELECT", {[&] { sqlite.listeAuf(sql()); }, [] {}, LAEUFE});
+    const Work list{[&] { ours(); }, [] {}, RUNS};
+    layoutRow.limit(name, limitMs, list);
+    layoutRow.compare(name, std::nullopt, list, "the same SELECT", {[&] { sqlite.listAll(sql()); }, [] {}, RUNS});
 }
 
 } // namespace
 
-void messeVerwendung(Messreihe& reihe, const std::filesystem::path& datei)
+void measureRelation(Measurements& layoutRow, const std::filesystem::path& file)
 {
-    BareSqlite register_(datei);
-    const std::size_t teile = anzahlTeile(register_);
-    const std::filesystem::path links = verbindungenBereit(datei, teile);
-    Connection verbindung;
-    verbindung.Open(links);
-    BareSqlite sqlite(legeSchlichteKopieBereit(
-        links, "ZusBauPart",
+    BareSqlite register_(file);
+    const std::size_t parts = partCount(register_);
+    const std::filesystem::path left = linksReady(file, parts);
+    Connection connection;
+    connection.Open(left);
+    BareSqlite sqlite(preparePlainCopy(
+        left, "ZusBauPart",
         "CREATE INDEX Teile ON ZusBauPart(Part); CREATE INDEX Baugruppen ON ZusBauPart(AssembDokuBez, AssembRevBez);"));
-    std::size_t nummer = 0;
-    const auto naechsterPfad = [&] {
-        nummer = (nummer + 314'159) % teile;
-        return Musterdokument(DOKUTYPEN[0], nummer).pfad();
+    std::size_t number = 0;
+    const auto nextPath = [&] {
+        number = (number + 314'159) % parts;
+        return SampleDocument(DOCUMENT_TYPES[0], number).path();
     };
-    reihe.begrenze("link tables: questions of a row's tree", 2,
-                   {[&] { frageBaum(verbindung, naechsterPfad()); }, [] {}, LAEUFE});
+    layoutRow.limit("link tables: questions of a row's tree", 2,
+                    {[&] { askTree(connection, nextPath()); }, [] {}, RUNS});
 
-    DokuRecord teil;
-    teil.DokuArt = 1;
-    const std::string pfad = naechsterPfad();
-    messeListe(
-        reihe, "link tables: a part in assemblies, listed", 5,
-        [&] {
-            return verwendungszeilen(verbindung, verwendungsartVon(InfoSeite::InBaugruppe), teil, pfad).RecordCount();
-        },
+    DokuRecord part;
+    part.DokuArt = 1;
+    const std::string path = nextPath();
+    measureList(
+        layoutRow, "link tables: a part in assemblies, listed", 5,
+        [&] { return relationRows(connection, relationKindOf(InfoPageId::InAssembly), part, path).RecordCount(); },
         sqlite,
         [&] {
             return "SELECT DISTINCT AssembDokuBez, AssembRevBez, AssembDateiname, Assembfilename FROM ZusBauPart "
                    "WHERE Part = '" +
-                   pfad + "'";
+                   path + "'";
         });
-    DokuRecord baugruppe;
-    baugruppe.DokuBez = GROSS;
-    baugruppe.RevBez = "A";
-    messeListe(
-        reihe, "link tables: 2,000 components, listed", 50,
-        [&] {
-            return verwendungszeilen(verbindung, verwendungsartVon(InfoSeite::BestehtAus), baugruppe, "").RecordCount();
-        },
+    DokuRecord assembly;
+    assembly.DokuBez = LARGE;
+    assembly.RevBez = "A";
+    measureList(
+        layoutRow, "link tables: 2,000 components, listed", 50,
+        [&] { return relationRows(connection, relationKindOf(InfoPageId::ConsistsOf), assembly, "").RecordCount(); },
         sqlite,
         [] {
             return fmt::format(
-                "SELECT DISTINCT 1, Part FROM ZusBauPart WHERE AssembDokuBez = '{}' AND AssembRevBez = 'A'", GROSS);
+                "SELECT DISTINCT 1, Part FROM ZusBauPart WHERE AssembDokuBez = '{}' AND AssembRevBez = 'A'", LARGE);
         });
 }
 

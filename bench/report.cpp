@@ -8,53 +8,54 @@ namespace quelvarn::bench {
 
 namespace {
 
-std::string zahl(const std::optional<double>& wert)
+std::string number(const std::optional<double>& value)
 {
-    return wert ? fmt::format("{:.4f}", *wert) : "null";
+    return value ? fmt::format("{:.4f}", *value) : "null";
 }
 
 // The names are those of this program: they hold no character that JSON would want marked.
-std::string text(const std::optional<std::string>& wert)
+std::string text(const std::optional<std::string>& value)
 {
-    return wert ? '"' + *wert + '"' : "null";
+    return value ? '"' + *value + '"' : "null";
 }
 
-std::string_view urteil(const Messung& messung, std::string_view gehalten, std::string_view gerissen,
-                        std::string_view ohneGrenze)
+std::string_view verdict(const Measurement& measurement, std::string_view held, std::string_view torn,
+                         std::string_view withoutLimit)
 {
-    if (!messung.grenze)
-        return ohneGrenze;
-    return messung.gehalten() ? gehalten : gerissen;
+    if (!measurement.limit)
+        return withoutLimit;
+    return measurement.held() ? held : torn;
 }
 
 } // namespace
 
-void zeigeTabelle(const std::vector<Messung>& messungen)
+void showTable(const std::vector<Measurement>& measurements)
 {
-    constexpr auto ZEILE = "{:<44} {:>14}  {:<28} {:>10} {:>7} {:>7}  {}\n";
-    fmt::print(ZEILE, "measure", "median", "peer", "median", "ratio", "bound", "");
-    for (const Messung& messung : messungen)
-        fmt::print(ZEILE, messung.name, fmt::format("{:.3f} {}", messung.median, messung.einheit),
-                   messung.peer.value_or("-"), messung.peerMedian ? fmt::format("{:.3f}", *messung.peerMedian) : "-",
-                   fmt::format("{:.2f}", messung.verhaeltnis),
-                   messung.grenze ? fmt::format("{:g}{}", *messung.grenze, messung.peer ? "x" : "") : "-",
-                   urteil(messung, "holds", "EXCEEDED", ""));
+    constexpr auto ROW = "{:<44} {:>14}  {:<28} {:>10} {:>7} {:>7}  {}\n";
+    fmt::print(ROW, "measure", "median", "peer", "median", "ratio", "bound", "");
+    for (const Measurement& measurement : measurements)
+        fmt::print(ROW, measurement.name, fmt::format("{:.3f} {}", measurement.median, measurement.unit),
+                   measurement.peer.value_or("-"),
+                   measurement.peerMedian ? fmt::format("{:.3f}", *measurement.peerMedian) : "-",
+                   fmt::format("{:.2f}", measurement.ratio),
+                   measurement.limit ? fmt::format("{:g}{}", *measurement.limit, measurement.peer ? "x" : "") : "-",
+                   verdict(measurement, "holds", "EXCEEDED", ""));
 }
 
-void schreibeJson(const std::filesystem::path& datei, const std::vector<Messung>& messungen)
+void writeJson(const std::filesystem::path& file, const std::vector<Measurement>& measurements)
 {
-    std::ofstream ziel(datei);
-    ziel.exceptions(std::ios::failbit | std::ios::badbit);
-    ziel << "[\n";
-    for (std::size_t i = 0; i < messungen.size(); ++i) {
-        const Messung& messung = messungen[i];
-        ziel << fmt::format("  {{\"name\": \"{}\", \"unit\": \"{}\", \"median_ms\": {:.4f}, \"peer\": {}, "
-                            "\"peer_median_ms\": {}, \"ratio\": {:.4f}, \"bound\": {}, \"holds\": {}}}{}\n",
-                            messung.name, messung.einheit, messung.median, text(messung.peer), zahl(messung.peerMedian),
-                            messung.verhaeltnis, zahl(messung.grenze), urteil(messung, "true", "false", "null"),
-                            i + 1 < messungen.size() ? "," : "");
+    std::ofstream target(file);
+    target.exceptions(std::ios::failbit | std::ios::badbit);
+    target << "[\n";
+    for (std::size_t i = 0; i < measurements.size(); ++i) {
+        const Measurement& measurement = measurements[i];
+        target << fmt::format("  {{\"name\": \"{}\", \"unit\": \"{}\", \"median_ms\": {:.4f}, \"peer\": {}, "
+                              "\"peer_median_ms\": {}, \"ratio\": {:.4f}, \"bound\": {}, \"holds\": {}}}{}\n",
+                              measurement.name, measurement.unit, measurement.median, text(measurement.peer),
+                              number(measurement.peerMedian), measurement.ratio, number(measurement.limit),
+                              verdict(measurement, "true", "false", "null"), i + 1 < measurements.size() ? "," : "");
     }
-    ziel << "]\n";
+    target << "]\n";
 }
 
 } // namespace quelvarn::bench

@@ -6,7 +6,7 @@
 
 namespace quelvarn::bench {
 
-void zeigeTabelle(const std::vector<Messung>& messungen);
-void schreibeJson(const std::filesystem::path& datei, const std::vector<Messung>& messungen);
+void showTable(const std::vector<Measurement>& measurements);
+void writeJson(const std::filesystem::path& file, const std::vector<Measurement>& measurements);
 
 } // namespace quelvarn::bench

@@ -7,92 +7,92 @@ namespace quelvarn::bench {
 
 namespace {
 
-using Worte = std::vector<std::string>;
+using Words = std::vector<std::string>;
 
-const Worte TEILE{"Welle",   "Achse",    "Flansch", "Gehäuse",  "Deckel",  "Bolzen",  "Hebel",   "Träger", "Platte",
+const Words PARTS{"Welle",   "Achse",    "Flansch", "Gehäuse",  "Deckel",  "Bolzen",  "Hebel",   "Träger", "Platte",
                   "Lager",   "Zahnrad",  "Ritzel",  "Kupplung", "Führung", "Stütze",  "Halter",  "Buchse", "Ring",
                   "Scheibe", "Schraube", "Bügel",   "Konsole",  "Rahmen",  "Schiene", "Antrieb", "Rolle",  "Förderer"};
-const Worte ZUSAETZE{"links", "rechts", "oben", "unten", "kurz", "lang", "geschweißt", "gefräst", "verzinkt", "roh"};
-const Worte MATERIAL{"S235JR", "S355J2", "C45", "42CrMo4", "1.4301", "1.4571", "AlMgSi1", "EN-GJL-250", "POM", "PA6 G"};
-const Worte NAMEN{"Meier",   "Müller", "Schulze", "Krüger", "Jäger", "Weiß",
+const Words ADDITIONS{"links", "rechts", "oben", "unten", "kurz", "lang", "geschweißt", "gefräst", "verzinkt", "roh"};
+const Words MATERIAL{"S235JR", "S355J2", "C45", "42CrMo4", "1.4301", "1.4571", "AlMgSi1", "EN-GJL-250", "POM", "PA6 G"};
+const Words NAMES{"Meier",   "Müller", "Schulze", "Krüger", "Jäger", "Weiß",
                   "Lehmann", "Böhm",   "Vogt",    "Sommer", "Franke"};
-const Worte FIRMEN{"Fördertechnik Nord GmbH", "Getriebebau Köhler", "Werk A", "Werk B", "Stahlbau Süd"};
-const Worte KATEGORIEN{"Fertigungsteil", "Kaufteil", "Normteil", "Rohteil", "QV_Vorlage"};
-constexpr std::size_t JE_PROJEKT = 250;
+const Words COMPANIES{"Fördertechnik Nord GmbH", "Getriebebau Köhler", "Werk A", "Werk B", "Stahlbau Süd"};
+const Words CATEGORIES{"Fertigungsteil", "Kaufteil", "Normteil", "Rohteil", "QV_Vorlage"};
+constexpr std::size_t PER_PROJECT = 250;
 
-const std::string& aus(const Worte& worte, std::mt19937& quelle)
+const std::string& out(const Words& words, std::mt19937& source)
 {
-    return worte[quelle() % worte.size()];
+    return words[source() % words.size()];
 }
 
 } // namespace
 
-std::string Musterdokument::bezeichnung() const
+std::string SampleDocument::label() const
 {
-    const std::size_t haupt = nummer_ / 2;
-    return fmt::format("{:03}-{:06}-{}", 100 + haupt * 7919 % 800, haupt, TEILE[haupt % TEILE.size()].front());
+    const std::size_t main = number_ / 2;
+    return fmt::format("{:03}-{:06}-{}", 100 + main * 7919 % 800, main, PARTS[main % PARTS.size()].front());
 }
 
-std::string Musterdokument::dateiname() const
+std::string SampleDocument::fileName() const
 {
-    const std::string_view endung = typ_.endung.empty() ? "par" : typ_.endung;
-    return fmt::format("{}_{}.{}", bezeichnung(), revision(), endung);
+    const std::string_view extension = type_.extension.empty() ? "par" : type_.extension;
+    return fmt::format("{}_{}.{}", label(), revision(), extension);
 }
 
-std::string Musterdokument::projekt() const
+std::string SampleDocument::project() const
 {
-    return fmt::format("{:04}", nummer_ / JE_PROJEKT);
+    return fmt::format("{:04}", number_ / PER_PROJECT);
 }
 
-std::string Musterdokument::pfad() const
+std::string SampleDocument::path() const
 {
-    return fmt::format("W:\\Konstruktion\\Projekt {}\\{}\\{}", projekt(), typ_.schluessel, dateiname());
+    return fmt::format("W:\\Konstruktion\\Projekt {}\\{}\\{}", project(), type_.key, fileName());
 }
 
-Value Musterdokument::wert(const Spalte& spalte, std::mt19937& quelle) const
+Value SampleDocument::value(const ColumnInfo& column, std::mt19937& source) const
 {
-    switch (spalte.typ) {
-    case FeldTyp::Ganzzahl:
-        return static_cast<std::int64_t>(quelle() % 6);
-    case FeldTyp::Gleitkomma:
-        return quelle() % 3 == 0 ? Value{} : Value{static_cast<double>(quelle() % 20000) / 4};
-    case FeldTyp::Datum:
-        return Zeitpunkt::aus({2004, 1, 1}).plusSekunden(static_cast<std::int64_t>(quelle() % 600'000'000));
-    case FeldTyp::Text:
+    switch (column.type) {
+    case FieldType::Integer:
+        return static_cast<std::int64_t>(source() % 6);
+    case FieldType::FloatingPoint:
+        return source() % 3 == 0 ? Value{} : Value{static_cast<double>(source() % 20000) / 4};
+    case FieldType::Date:
+        return DateTime::out({2004, 1, 1}).plusSeconds(static_cast<std::int64_t>(source() % 600'000'000));
+    case FieldType::Text:
         break;
     }
-    return text(spalte.name, quelle);
+    return text(column.name, source);
 }
 
-Value Musterdokument::text(const std::string& spalte, std::mt19937& quelle) const
+Value SampleDocument::text(const std::string& column, std::mt19937& source) const
 {
-    if (spalte == "DokuBez")
-        return bezeichnung();
-    if (spalte == "RevBez")
+    if (column == "DokuBez")
+        return label();
+    if (column == "RevBez")
         return revision();
-    if (spalte == "Dateiname")
-        return dateiname();
-    if (spalte == "filename")
-        return pfad();
-    if (spalte == "Projekt")
-        return "P" + projekt();
-    if (spalte == "Material")
-        return aus(MATERIAL, quelle);
-    if (spalte == "Autor" || spalte == "Bearbeiter" || spalte == "Manager")
-        return aus(NAMEN, quelle);
-    if (spalte == "Firma")
-        return aus(FIRMEN, quelle);
-    if (spalte == "Kategorie")
-        return aus(KATEGORIEN, quelle);
-    if (spalte == "Vorlage")
-        return fmt::format("Vorlage_{}.par", quelle() % 12);
-    if (spalte == "Aenderung" || spalte == "Kommentar" || spalte == "Stichwoerter")
-        return quelle() % 3 == 0
+    if (column == "Dateiname")
+        return fileName();
+    if (column == "filename")
+        return path();
+    if (column == "Projekt")
+        return "P" + project();
+    if (column == "Material")
+        return out(MATERIAL, source);
+    if (column == "Autor" || column == "Bearbeiter" || column == "Manager")
+        return out(NAMES, source);
+    if (column == "Firma")
+        return out(COMPANIES, source);
+    if (column == "Kategorie")
+        return out(CATEGORIES, source);
+    if (column == "Vorlage")
+        return fmt::format("Vorlage_{}.par", source() % 12);
+    if (column == "Aenderung" || column == "Kommentar" || column == "Stichwoerter")
+        return source() % 3 == 0
                    ? Value{}
-                   : Value{fmt::format("{} {} {}", aus(TEILE, quelle), aus(ZUSAETZE, quelle), quelle() % 40)};
-    if (spalte.starts_with("Hauptmerkmal") || spalte.starts_with("Alias"))
-        return quelle() % 2 == 0 ? Value{std::string()} : Value{fmt::format("{} {}", aus(TEILE, quelle), quelle() % 9)};
-    return fmt::format("{} {} {}", aus(TEILE, quelle), aus(ZUSAETZE, quelle), quelle() % 12);
+                   : Value{fmt::format("{} {} {}", out(PARTS, source), out(ADDITIONS, source), source() % 40)};
+    if (column.starts_with("Hauptmerkmal") || column.starts_with("Alias"))
+        return source() % 2 == 0 ? Value{std::string()} : Value{fmt::format("{} {}", out(PARTS, source), source() % 9)};
+    return fmt::format("{} {} {}", out(PARTS, source), out(ADDITIONS, source), source() % 12);
 }
 
 } // namespace quelvarn::bench

@@ -11,25 +11,25 @@
 namespace quelvarn::bench {
 
 // The row of one document. Two neighbouring documents are revisions of one another.
-class Musterdokument
+class SampleDocument
 {
 public:
-    Musterdokument(const DokuTyp& typ, std::size_t nummer) : typ_(typ), nummer_(nummer) {}
+    SampleDocument(const DocumentType& type, std::size_t number) : type_(type), number_(number) {}
 
     // What its number does not settle comes from the source.
-    Value wert(const Spalte& spalte, std::mt19937& quelle) const;
+    Value value(const ColumnInfo& column, std::mt19937& source) const;
 
-    std::string bezeichnung() const;
-    std::string revision() const { return std::string(1, nummer_ % 2 ? 'B' : 'A'); }
-    std::string dateiname() const;
-    std::string pfad() const;
+    std::string label() const;
+    std::string revision() const { return std::string(1, number_ % 2 ? 'B' : 'A'); }
+    std::string fileName() const;
+    std::string path() const;
 
 private:
-    Value text(const std::string& spalte, std::mt19937& quelle) const;
-    std::string projekt() const;
+    Value text(const std::string& column, std::mt19937& source) const;
+    std::string project() const;
 
-    const DokuTyp& typ_;
-    std::size_t nummer_;
+    const DocumentType& type_;
+    std::size_t number_;
 };
 
 } // namespace quelvarn::bench

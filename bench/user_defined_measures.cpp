@@ -19,30 +19,30 @@ namespace quelvarn::bench {
 
 namespace {
 
-constexpr int LAEUFE = 3;
-constexpr const char* TABELLE = "PartTabelleBenutzDef";
+constexpr int RUNS = 3;
+constexpr const char* TABLE = "PartTabelleBenutzDef";
 
 // A box would mean that something went wrong.
-class KeineMeldungen final : public Meldungen
+class NoBoxes final : public Boxes
 {
-    Antwort zeige(const Meldung& meldung) override { throw std::runtime_error(meldung.text); }
+    Answer show(const Box& box) override { throw std::runtime_error(box.text); }
 };
 
-class KeineZwischenablage final : public Zwischenablage
+class NoClipboard final : public Clipboard
 {
     std::string text() const override { return {}; }
-    void setzeText(std::string_view) override {}
+    void setText(std::string_view) override {}
 };
 
-struct Fall
+struct TestCase
 {
     const char* name;
-    std::vector<std::pair<const char*, const char*>> schritte; // Name and Wert
-    double grenzeMs;
-    const char* bedingung; // The same in the words of the peer.
+    std::vector<std::pair<const char*, const char*>> steps; // Name and Wert
+    double limitMs;
+    const char* condition; // The same in the words of the peer.
 };
 
-const std::vector<Fall> FAELLE{
+const std::vector<TestCase> CASES{
     {"user-defined filter, every tenth document",
      {{"Werkstoff", "Stahl 3"}, {"Oberfläche", "*"}},
      2000,
@@ -57,60 +57,60 @@ const std::vector<Fall> FAELLE{
      "1"},
 };
 
-void setze(Filterzustand& zustand, const Fall& fall)
+void set(TypeFilter& state, const TestCase& testCase)
 {
-    leereFilter(zustand);
-    for (const auto& [name, wert] : fall.schritte) {
-        const auto stelle = static_cast<std::size_t>(zustand.FilterAnzahl++);
-        zustand.FilterSchritte[stelle] = {"", name, CodeText, wert};
+    clearFilter(state);
+    for (const auto& [name, value] : testCase.steps) {
+        const auto position = static_cast<std::size_t>(state.FilterAnzahl++);
+        state.FilterSchritte[position] = {"", name, CodeText, value};
     }
 }
 
-void messeFall(Messreihe& reihe, Filterkontext& kontext, BareSqlite& sqlite, const Fall& fall)
+void measureCase(Measurements& layoutRow, FilterContext& context, BareSqlite& sqlite, const TestCase& testCase)
 {
-    setze(kontext.zustand(), fall);
+    set(context.state(), testCase);
     const std::string peer = fmt::format("SELECT COUNT(*) FROM PartTabelle AS d JOIN (SELECT DokuBez, RevBez FROM {} "
                                          "WHERE {} GROUP BY DokuBez, RevBez HAVING COUNT(*) >= {}) AS b "
                                          "ON d.DokuBez = b.DokuBez AND d.RevBez = b.RevBez",
-                                         TABELLE, fall.bedingung, fall.schritte.size());
-    std::int64_t gezaehlt = 0;
+                                         TABLE, testCase.condition, testCase.steps.size());
+    std::int64_t counted = 0;
     std::optional<Recordset> result;
-    const Arbeit unsere{[&] { result = ApplyBenutzDefFilter(kontext); }, [] {}, LAEUFE};
-    reihe.begrenze(fall.name, fall.grenzeMs, unsere);
-    reihe.vergleiche(fall.name, std::nullopt, unsere, "GROUP BY ... HAVING",
-                     {[&] { gezaehlt = sqlite.zahl(peer); }, [] {}, 1});
-    const auto gefunden = static_cast<std::int64_t>(result ? result->RecordCount() : 0);
-    if (gefunden != gezaehlt || gefunden == 0)
+    const Work ours{[&] { result = ApplyBenutzDefFilter(context); }, [] {}, RUNS};
+    layoutRow.limit(testCase.name, testCase.limitMs, ours);
+    layoutRow.compare(testCase.name, std::nullopt, ours, "GROUP BY ... HAVING",
+                      {[&] { counted = sqlite.number(peer); }, [] {}, 1});
+    const auto found = static_cast<std::int64_t>(result ? result->RecordCount() : 0);
+    if (found != counted || found == 0)
         throw std::runtime_error("the user-defined filter and the peer find different documents");
 }
 
 } // namespace
 
-void messeBenutzDef(Messreihe& reihe, const std::filesystem::path& datei)
+void measureUserDef(Measurements& layoutRow, const std::filesystem::path& file)
 {
     SessionState session;
-    session.database.Verbindung.Open(datei);
-    BareSqlite sqlite(datei);
-    KeineMeldungen meldungen;
-    KeineZwischenablage zwischenablage;
-    StilleAnzeige anzeige;
+    session.database.connection.Open(file);
+    BareSqlite sqlite(file);
+    NoBoxes boxes;
+    NoClipboard clipboard;
+    SilentDisplay display;
     const auto system = systemPorts(std::filesystem::temp_directory_path() / "quelvarn-bench-laufwerke");
-    Ports ports = system->mit(meldungen, zwischenablage, anzeige);
+    Ports ports = system->with(boxes, clipboard, display);
     Operations operations(ports);
     FilterState filter;
-    filter.typen[0].bereich = Filterbereich::BenutzDef;
+    filter.types[0].section = FilterSection::UserDefined;
     DocumentTables tables(session, operations);
-    Filterkontext kontext{session, operations, filter, tables};
-    for (const Fall& fall : FAELLE)
-        messeFall(reihe, kontext, sqlite, fall);
+    FilterContext context{session, operations, filter, tables};
+    for (const TestCase& testCase : CASES)
+        measureCase(layoutRow, context, sqlite, testCase);
 
-    LangeArbeit arbeit(anzeige, "");
-    reihe.begrenze("user-defined names", 300,
-                   {[&] { leseNamen(session.database.Verbindung, TABELLE, ""); }, [] {}, LAEUFE});
-    reihe.begrenze("user-defined values of a name", 300,
-                   {[&] { leseWerte(session.database.Verbindung, TABELLE, "Gewicht"); }, [] {}, LAEUFE});
-    reihe.begrenze("user-defined, four additional lists", 5000,
-                   {[&] { leseZusaetze(session.database.Verbindung, TABELLE, 0, arbeit); }, [] {}, LAEUFE});
+    LongWork work(display, "");
+    layoutRow.limit("user-defined names", 300,
+                    {[&] { readNames(session.database.connection, TABLE, ""); }, [] {}, RUNS});
+    layoutRow.limit("user-defined values of a name", 300,
+                    {[&] { readValues(session.database.connection, TABLE, "Gewicht"); }, [] {}, RUNS});
+    layoutRow.limit("user-defined, four additional lists", 5000,
+                    {[&] { readAdditions(session.database.connection, TABLE, 0, work); }, [] {}, RUNS});
 }
 
 } // namespace quelvarn::bench

@@ -11,91 +11,90 @@ namespace quelvarn::bench {
 
 namespace {
 
-constexpr int LAEUFE_UNGELESEN = 3;
-constexpr const char* LISTE = "SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC";
-const std::vector<std::string> SPALTEN{"Projekt",    "Titel",        "Thema",          "Firma",
+constexpr int RUNS_UNREAD = 3;
+constexpr const char* LIST = "SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC";
+const std::vector<std::string> COLUMNS{"Projekt",    "Titel",        "Thema",          "Firma",
                                        "Kategorie",  "Material",     "Autor",          "Manager",
                                        "Bearbeiter", "Stichwoerter", "Hauptmerkmal_A", "Hauptmerkmal_B"};
 
-void verlange(bool bedingung, const char* sonst)
+void require(bool condition, const char* otherwise)
 {
-    if (!bedingung)
-        throw std::runtime_error(sonst);
+    if (!condition)
+        throw std::runtime_error(otherwise);
 }
 
-std::size_t zaehleListen(Recordset& rs, const std::string& bedingung)
+std::size_t countLists(Recordset& rs, const std::string& condition)
 {
-    rs.ladeSpalten(SPALTEN);
-    const auto zeilen = rs.waehle(bedingung);
-    std::size_t werte = 0;
-    for (const std::string& spalte : SPALTEN)
-        werte += rs.verschiedeneTexte(spalte, *zeilen, [](std::string_view text) { return !text.empty(); }).size();
-    return werte;
+    rs.loadColumns(COLUMNS);
+    const auto rows = rs.choose(condition);
+    std::size_t values = 0;
+    for (const std::string& column : COLUMNS)
+        values += rs.distinctTexts(column, *rows, [](std::string_view text) { return !text.empty(); }).size();
+    return values;
 }
 
-std::size_t zaehleVerschiedene(BareSqlite& sqlite, const std::string& spalte, const std::string& bedingung)
+std::size_t countDistinct(BareSqlite& sqlite, const std::string& column, const std::string& condition)
 {
-    return static_cast<std::size_t>(sqlite.zahl(fmt::format(
-        "SELECT COUNT(*) FROM (SELECT DISTINCT {0} FROM PartTabelle WHERE {1}{0} NOT LIKE '')", spalte, bedingung)));
+    return static_cast<std::size_t>(sqlite.number(fmt::format(
+        "SELECT COUNT(*) FROM (SELECT DISTINCT {0} FROM PartTabelle WHERE {1}{0} NOT LIKE '')", column, condition)));
 }
 
-std::size_t zaehleListen(BareSqlite& sqlite)
+std::size_t countLists(BareSqlite& sqlite)
 {
-    std::size_t werte = 0;
-    for (const std::string& spalte : SPALTEN)
-        werte += zaehleVerschiedene(sqlite, spalte, "");
-    return werte;
+    std::size_t values = 0;
+    for (const std::string& column : COLUMNS)
+        values += countDistinct(sqlite, column, "");
+    return values;
 }
 
-void messeZwoelfListen(Messreihe& reihe, Connection& verbindung, BareSqlite& sqlite)
+void measureTwelveLists(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
 {
     Recordset rs;
-    std::size_t unsere = 0;
-    std::size_t andere = 0;
-    const Arbeit peer{[&] { andere = zaehleListen(sqlite); }, [] {}, LAEUFE_UNGELESEN};
-    const Arbeit ungelesen{[&] { unsere = zaehleListen(rs, ""); }, [&] { rs.Open(LISTE, verbindung); },
-                           LAEUFE_UNGELESEN};
-    reihe.begrenze("twelve lists, no column read", 2000, ungelesen);
-    reihe.vergleiche("twelve lists, no column read", std::nullopt, ungelesen, "12 SELECT DISTINCT", peer);
-    verlange(unsere > 0 && unsere == andere, "the lists and the peer hold different values");
-    reihe.begrenze("twelve lists, columns read", 100, {[&] { zaehleListen(rs, ""); }});
-    reihe.begrenze("twelve lists, columns read, under a filter", 100,
-                   {[&] { zaehleListen(rs, "Titel LIKE 'Welle%' AND ( Status >= 1  AND Status <= 3)"); }});
+    std::size_t ours = 0;
+    std::size_t other = 0;
+    const Work peer{[&] { other = countLists(sqlite); }, [] {}, RUNS_UNREAD};
+    const Work unread{[&] { ours = countLists(rs, ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD};
+    layoutRow.limit("twelve lists, no column read", 2000, unread);
+    layoutRow.compare("twelve lists, no column read", std::nullopt, unread, "12 SELECT DISTINCT", peer);
+    require(ours > 0 && ours == other, "the lists and the peer hold different values");
+    layoutRow.limit("twelve lists, columns read", 100, {[&] { countLists(rs, ""); }});
+    layoutRow.limit("twelve lists, columns read, under a filter", 100,
+                    {[&] { countLists(rs, "Titel LIKE 'Welle%' AND ( Status >= 1  AND Status <= 3)"); }});
 }
 
-void messeBaum(Messreihe& reihe, Connection& verbindung, BareSqlite& sqlite)
+void measureTree(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
 {
-    const std::string zweig = "Hauptmerkmal_C = 'Welle 1'";
-    const std::vector<std::string> merkmale{"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F",
+    const std::string branch = "Hauptmerkmal_C = 'Welle 1'";
+    const std::vector<std::string> features{"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F",
                                             "Hauptmerkmal_G", "Material",       "Firma"};
     Recordset rs;
-    std::size_t unsere = 0;
-    std::size_t andere = 0;
-    const auto ebene = [&](const std::string& spalte, const std::string& bedingung) {
-        const auto zeilen = rs.waehle(bedingung);
-        unsere = rs.verschiedeneTexte(spalte, *zeilen, [](std::string_view text) { return !text.empty(); }).size();
+    std::size_t ours = 0;
+    std::size_t other = 0;
+    const auto level = [&](const std::string& column, const std::string& condition) {
+        const auto rows = rs.choose(condition);
+        ours = rs.distinctTexts(column, *rows, [](std::string_view text) { return !text.empty(); }).size();
     };
-    reihe.begrenze("first level of the tree, no column read", 1000,
-                   {[&] { ebene("Hauptmerkmal_C", ""); }, [&] { rs.Open(LISTE, verbindung); }, LAEUFE_UNGELESEN});
-    reihe.begrenze("reading the columns of the tree", 1500,
-                   {[&] { rs.ladeSpalten(merkmale); }, [&] { rs.Open(LISTE, verbindung); }, LAEUFE_UNGELESEN});
-    reihe.begrenze("first level of the tree", 30, {[&] { ebene("Hauptmerkmal_C", ""); }});
-    reihe.vergleiche("second level of the tree", std::nullopt, {[&] { ebene("Hauptmerkmal_D", zweig); }},
-                     "SELECT DISTINCT, by the index",
-                     {[&] { andere = zaehleVerschiedene(sqlite, "Hauptmerkmal_D", zweig + " AND "); }});
-    verlange(unsere > 0 && unsere == andere, "the level and the peer hold different values");
-    reihe.begrenze("second level of the tree", 30, {[&] { ebene("Hauptmerkmal_D", zweig); }});
+    layoutRow.limit("first level of the tree, no column read", 1000,
+                    {[&] { level("Hauptmerkmal_C", ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
+    layoutRow.limit("reading the columns of the tree", 1500,
+                    {[&] { rs.loadColumns(features); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
+    layoutRow.limit("first level of the tree", 30, {[&] { level("Hauptmerkmal_C", ""); }});
+    layoutRow.compare("second level of the tree", std::nullopt, {[&] { level("Hauptmerkmal_D", branch); }},
+                      "SELECT DISTINCT, by the index",
+                      {[&] { other = countDistinct(sqlite, "Hauptmerkmal_D", branch + " AND "); }});
+    require(ours > 0 && ours == other, "the level and the peer hold different values");
+    layoutRow.limit("second level of the tree", 30, {[&] { level("Hauptmerkmal_D", branch); }});
 }
 
 // Where every text differs, and nothing is found: the worst a key press can meet.
-void messeTastendruck(Messreihe& reihe, Connection& verbindung, BareSqlite& sqlite)
+void measureKeyPress(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
 {
     Recordset rs;
-    rs.Open(LISTE, verbindung);
-    const auto suche = [&](const std::string& kriterium) {
-        return [&rs, kriterium] { rs.Find(kriterium, 0, Suchrichtung::Vorwaerts, true); };
+    rs.Open(LIST, connection);
+    const auto search = [&](const std::string& criterion) {
+        return [&rs, criterion] { rs.Find(criterion, 0, SearchDirection::Forward, true); };
     };
-    const std::pair<const char*, std::string> suchen[]{
+    const std::pair<const char*, std::string> searches[]{
         {"key press, Titel, start, not there", "Titel LIKE 'xyz%'"},
         {"key press, Titel, anywhere, not there", "Titel LIKE '%xyz%'"},
         {"key press, filename, start, there", "filename LIKE 'W:%'"},
@@ -104,31 +103,31 @@ void messeTastendruck(Messreihe& reihe, Connection& verbindung, BareSqlite& sqli
         {"key press, filename, anywhere, not there", "filename LIKE '%9-9-9%'"},
         {"key press, filename, other pattern, not there", "filename LIKE '%9-_-9%'"},
     };
-    for (const auto& [name, kriterium] : suchen) {
-        rs.Find(kriterium);
-        reihe.begrenze(name, 16, {suche(kriterium)});
+    for (const auto& [name, criterion] : searches) {
+        rs.Find(criterion);
+        layoutRow.limit(name, 16, {search(criterion)});
     }
-    verlange(rs.Eof(), "what is not there was found");
-    reihe.vergleiche("key press, filename, anywhere, not there", std::nullopt, {suche("filename LIKE '%9-9-9%'")},
-                     "SELECT ... LIKE",
-                     {[&] {
-                          verlange(sqlite.listeAuf("SELECT rowid FROM PartTabelle WHERE filename LIKE '%9-9-9%'") == 0,
+    require(rs.Eof(), "what is not there was found");
+    layoutRow.compare("key press, filename, anywhere, not there", std::nullopt, {search("filename LIKE '%9-9-9%'")},
+                      "SELECT ... LIKE",
+                      {[&] {
+                           require(sqlite.listAll("SELECT rowid FROM PartTabelle WHERE filename LIKE '%9-9-9%'") == 0,
                                    "the peer finds what is not there");
-                      },
-                      [] {}, LAEUFE_UNGELESEN});
+                       },
+                       [] {}, RUNS_UNREAD});
 }
 
 } // namespace
 
-void messeListen(Messreihe& reihe, const std::filesystem::path& datei)
+void measureLists(Measurements& layoutRow, const std::filesystem::path& file)
 {
-    Connection verbindung;
-    verbindung.Open(datei);
-    BareSqlite sqlite(datei);
-    messeZwoelfListen(reihe, verbindung, sqlite);
-    BareSqlite schlicht(legeSchlichteKopieBereit(datei));
-    messeBaum(reihe, verbindung, schlicht);
-    messeTastendruck(reihe, verbindung, sqlite);
+    Connection connection;
+    connection.Open(file);
+    BareSqlite sqlite(file);
+    measureTwelveLists(layoutRow, connection, sqlite);
+    BareSqlite plain(preparePlainCopy(file));
+    measureTree(layoutRow, connection, plain);
+    measureKeyPress(layoutRow, connection, sqlite);
 }
 
 } // namespace quelvarn::bench

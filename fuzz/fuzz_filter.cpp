@@ -18,85 +18,84 @@ using namespace quelvarn;
 
 namespace {
 
-constexpr std::array SPALTEN{"Projekt", "Autor", "Titel", "Hauptmerkmal_A", "Stichwoerter"};
+constexpr std::array COLUMNS{"Projekt", "Autor", "Titel", "Hauptmerkmal_A", "Stichwoerter"};
 
-void verlange(bool bedingung)
+void require(bool condition)
 {
-    if (!bedingung)
+    if (!condition)
         std::abort();
 }
 
-Filterzustand zustandAus(std::string_view text)
+TypeFilter stateFrom(std::string_view text)
 {
-    Filterzustand zustand;
-    for (const char* spalte : SPALTEN) {
-        const std::size_t ende = text.find('\n');
-        if (const std::string wert(text.substr(0, ende)); !wert.empty())
-            zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {spalte, wert, CodeText, {}};
-        if (ende == text.npos)
+    TypeFilter state;
+    for (const char* column : COLUMNS) {
+        const std::size_t end = text.find('\n');
+        if (const std::string value(text.substr(0, end)); !value.empty())
+            state.FilterSchritte[static_cast<std::size_t>(state.FilterAnzahl++)] = {column, value, CodeText, {}};
+        if (end == text.npos)
             break;
-        text.remove_prefix(ende + 1);
+        text.remove_prefix(end + 1);
     }
-    return zustand;
+    return state;
 }
 
-bool isComparison(const sql::Ausdruck& condition, const FilterSchritt& step, sql::Vergleich kind)
+bool isComparison(const sql::Expression& condition, const FilterStep& step, sql::Comparison kind)
 {
-    const auto* comparison = std::get_if<sql::Bedingung>(&condition.inhalt);
-    return comparison && comparison->spalte == step.Feldname && comparison->vergleich == kind &&
-           (kind != sql::Vergleich::Like || comparison->wildcards == Wildcards::Star) &&
-           std::get<std::string>(comparison->wert) == step.Wert;
+    const auto* comparison = std::get_if<sql::Condition>(&condition.content);
+    return comparison && comparison->column == step.Feldname && comparison->comparison == kind &&
+           (kind != sql::Comparison::Like || comparison->wildcards == Wildcards::Star) &&
+           std::get<std::string>(comparison->value) == step.value;
 }
 
 // The comparison of a step at its place among others: equal, like a pattern, or either where the last sign is no star.
-void verlangeVergleich(const sql::Ausdruck& condition, const FilterSchritt& step)
+void requireComparison(const sql::Expression& condition, const FilterStep& step)
 {
-    if (step.Wert.find('*') == std::string::npos)
-        return verlange(isComparison(condition, step, sql::Vergleich::Gleich));
-    if (step.Wert.ends_with('*'))
-        return verlange(isComparison(condition, step, sql::Vergleich::Like));
-    const auto* either = std::get_if<sql::Oder>(&condition.inhalt);
-    verlange(either && either->teile.size() == 2 && isComparison(*either->teile[0], step, sql::Vergleich::Gleich) &&
-             isComparison(*either->teile[1], step, sql::Vergleich::Like));
+    if (step.value.find('*') == std::string::npos)
+        return require(isComparison(condition, step, sql::Comparison::Equal));
+    if (step.value.ends_with('*'))
+        return require(isComparison(condition, step, sql::Comparison::Like));
+    const auto* either = std::get_if<sql::Or>(&condition.content);
+    require(either && either->parts.size() == 2 && isComparison(*either->parts[0], step, sql::Comparison::Equal) &&
+            isComparison(*either->parts[1], step, sql::Comparison::Like));
 }
 
-void verlangeSchritte(const sql::Ausdruck& ausdruck, const Filterzustand& zustand, std::size_t davor,
-                      std::size_t dahinter)
+void requireSteps(const sql::Expression& expression, const TypeFilter& state, std::size_t before, std::size_t behind)
 {
-    const auto anzahl = static_cast<std::size_t>(zustand.FilterAnzahl);
-    if (davor + anzahl + dahinter == 1)
-        return verlangeVergleich(ausdruck, zustand.FilterSchritte[0]);
-    const auto* und = std::get_if<sql::Und>(&ausdruck.inhalt);
-    verlange(und && und->teile.size() == davor + anzahl + dahinter);
-    for (std::size_t i = 0; i < anzahl; ++i)
-        verlangeVergleich(*und->teile[davor + i], zustand.FilterSchritte[i]);
+    const auto count = static_cast<std::size_t>(state.FilterAnzahl);
+    if (before + count + behind == 1)
+        return requireComparison(expression, state.FilterSchritte[0]);
+    const auto* both = std::get_if<sql::And>(&expression.content);
+    require(both && both->parts.size() == before + count + behind);
+    for (std::size_t i = 0; i < count; ++i)
+        requireComparison(*both->parts[before + i], state.FilterSchritte[i]);
 }
 
-void laufeSchritte(std::string_view text)
+void runSteps(std::string_view text)
 {
-    const Filterzustand zustand = zustandAus(text);
-    if (zustand.FilterAnzahl == 0)
+    const TypeFilter state = stateFrom(text);
+    if (state.FilterAnzahl == 0)
         return;
-    const auto kette = bildeKette(zustand, schrittfragment);
-    const std::string& filter = kette.back().sqlform;
-    verlangeSchritte(*filterCondition(filter), zustand, 0, 0);
-    verlangeSchritte(*filterCondition(" ( Status >= 1  AND Status <= 3) AND " + filter), zustand, 1, 0);
-    verlangeSchritte(*filterCondition("Firma NOT LIKE '' AND Firma NOT LIKE ' ' And " + filter +
-                                      " AND ( Status >= 1  AND Status <= 3)"),
-                     zustand, 2, 1);
-    const auto& conditions = kette.back().conditions;
-    verlange(conditions.size() == static_cast<std::size_t>(zustand.FilterAnzahl));
+    const auto chain = formChain(state, stepFragment);
+    const std::string& filter = chain.back().sqlForm;
+    requireSteps(*filterCondition(filter), state, 0, 0);
+    requireSteps(*filterCondition(" ( Status >= 1  AND Status <= 3) AND " + filter), state, 1, 0);
+    requireSteps(*filterCondition("Firma NOT LIKE '' AND Firma NOT LIKE ' ' And " + filter +
+                                  " AND ( Status >= 1  AND Status <= 3)"),
+                 state, 2, 1);
+    const auto& conditions = chain.back().conditions;
+    require(conditions.size() == static_cast<std::size_t>(state.FilterAnzahl));
     for (std::size_t i = 0; i < conditions.size(); ++i)
-        verlangeVergleich(*conditions[i], zustand.FilterSchritte[i]);
+        requireComparison(*conditions[i], state.FilterSchritte[i]);
 }
 
-void liesAlsFilter(std::string_view text)
+void readAsFilter(std::string_view text)
 {
-    const sql::AusdruckZeiger filter = sql::parseBedingung(text);
+    const sql::ExpressionPointer filter = sql::parseCondition(text);
     if (!filter)
         return;
-    const std::string geschrieben = sql::alsAccessText(*filter);
-    verlange(sql::alsAccessText(*sql::parseBedingung(geschrieben, sql::Datumsfolge::MonatZuerst)) == geschrieben);
+    const std::string written = sql::asAccessText(*filter);
+    require(sql::asAccessText(*sql::parseCondition(written, sql::DateOrder::MonthFirst)) == written);
 }
 
 } // namespace
@@ -104,10 +103,10 @@ void liesAlsFilter(std::string_view text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     const std::string_view text(reinterpret_cast<const char*>(bytes), size);
-    for (const auto versuch : {liesAlsFilter, laufeSchritte}) {
+    for (const auto attempt : {readAsFilter, runSteps}) {
         try {
-            versuch(text);
-        } catch (const Laufzeitfehler&) {
+            attempt(text);
+        } catch (const RuntimeError&) {
             // Refused.
         }
     }

@@ -9,25 +9,25 @@ using namespace quelvarn;
 
 namespace {
 
-std::string gespeichert(const GespeicherterFilter& filter)
+std::string saved(const SavedFilter& filter)
 {
-    Filterzustand zustand;
-    zustand.FilterSchritte = filter.FilterSchritte;
-    zustand.FilterAnzahl = filter.FilterAnzahl;
-    zustand.ZusBenutzDef = filter.ZusBenutzDef;
+    TypeFilter state;
+    state.FilterSchritte = filter.FilterSchritte;
+    state.FilterAnzahl = filter.FilterAnzahl;
+    state.ZusBenutzDef = filter.ZusBenutzDef;
     if (filter.ChFilterStat)
-        zustand.ChFilterStat = *filter.ChFilterStat;
-    if (!speicherbar(zustand))
+        state.ChFilterStat = *filter.ChFilterStat;
+    if (!storable(state))
         std::abort(); // What was read holds no character that parts the entries.
-    return alsFilterstring(zustand);
+    return asFilterString(state);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    const std::string text = gespeichert(leseFilterstring({reinterpret_cast<const char*>(bytes), size}));
-    if (gespeichert(leseFilterstring(text)) != text)
+    const std::string text = saved(readFilterString({reinterpret_cast<const char*>(bytes), size}));
+    if (saved(readFilterString(text)) != text)
         std::abort();
     return 0;
 }

@@ -13,14 +13,14 @@ void playFirstDay(Register& office, std::string_view user, const Input& input)
     SessionState session = office.sessionOf(user, world);
     require(world.boxes.shown == std::vector<std::string>{""}); // He is greeted.
     require(session.rights.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.pages.ActiveQuelvarn);
-    require(session.pages.Suchtexte.empty() && session.pages.Starttabelle == "Bauteile");
-    for (const DokuTyp& type : DOKUTYPEN)
-        require(gespeicherteNamen(session, type.tab).empty() && leseFavoriten(session, type).empty());
+    require(session.pages.SearchTexts.empty() && session.pages.Starttabelle == "Bauteile");
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        require(savedNames(session, type.tab).empty() && readFavourites(session, type).empty());
     Register::filter(session, world, input);
     Register::ask(session, input);
     session.pages.ActiveQuelvarn = true;
-    session.Tree.Knoten = false;
-    schreibeStartseite(session);
+    session.Tree.Node = false;
+    writeStartPage(session);
     Register::save(session, input);
 }
 
@@ -29,14 +29,14 @@ void playSecondDay(Register& office, std::string_view user, const Input& input)
     World world;
     SessionState session = office.sessionOf(user, world);
     require(world.boxes.shown.empty());
-    require(session.pages.ActiveQuelvarn && !session.Tree.Knoten);
+    require(session.pages.ActiveQuelvarn && !session.Tree.Node);
     Register::requireSaved(session, input);
 }
 
 // There is somebody of that name, or nobody can be called so.
 bool taken(std::string_view user)
 {
-    for (const std::string_view owner : {std::string_view(), ANNA, BOB, EIGENTUEMER_ALLE})
+    for (const std::string_view owner : {std::string_view(), ANNA, BOB, OWNER_ALL})
         if (equalText(owner, user))
             return true;
     return false;

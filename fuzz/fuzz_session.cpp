@@ -22,14 +22,14 @@ public:
     void play(const Input& input)
     {
         readAgain();
-        require(session_.pages.Suchtexte.empty() && gespeicherteNamen(session_, 0).empty());
+        require(session_.pages.SearchTexts.empty() && savedNames(session_, 0).empty());
         world_.boxes.shown.clear();
         Register::filter(session_, world_, input);
         Register::ask(session_, input);
         Register::save(session_, input);
         readAgain();
         Register::requireSaved(session_, input);
-        std::vector<sql::AusdruckZeiger> saved;
+        std::vector<sql::ExpressionPointer> saved;
         saved.push_back(sql::equal("Feld2", "Suchen/Filtern"));
         saved.push_back(sql::equal("Feld2", "Filterwerte"));
         office_.requireRestored(sql::all(sql::equal("Feld1", CLARA), sql::any(std::move(saved))));
@@ -39,10 +39,10 @@ private:
     void readAgain()
     {
         std::string_view label;
-        Startlauf run{
-            .session = session_, .ports = world_.ports, .abschnitt = label, .ini = IniZeilen(session_.database.Verbindung)};
-        leseSuchtexte(run);
-        leseGespeicherteFilter(run);
+        StartRun run{
+            .session = session_, .ports = world_.ports, .section = label, .ini = IniRows(session_.database.connection)};
+        readSearchTexts(run);
+        readSavedFilters(run);
     }
 
     Register office_;

@@ -14,16 +14,16 @@ using namespace quelvarn;
 
 namespace {
 
-void render(const sql::Anweisung& anweisung)
+void render(const sql::Statement& statement)
 {
-    const Tabellenschema* tabelle = findTabelle(std::visit([](const auto& a) { return a.tabelle; }, anweisung));
-    if (!tabelle)
+    const TableSchema* table = findTable(std::visit([](const auto& a) { return a.table; }, statement));
+    if (!table)
         return;
-    for (const sql::Dialekt* dialekt : {&sql::sqliteDialekt(), &sql::postgresDialekt()}) {
-        if (const auto* select = std::get_if<sql::Select>(&anweisung))
-            dialekt->select(*select, *tabelle, MitSchluessel::Nein, 1);
+    for (const sql::Dialect* dialect : {&sql::sqliteDialect(), &sql::postgresDialect()}) {
+        if (const auto* select = std::get_if<sql::Select>(&statement))
+            dialect->select(*select, *table, WithKey::No, 1);
         else
-            dialekt->aenderung(anweisung, *tabelle);
+            dialect->change(statement, *table);
     }
 }
 
@@ -32,12 +32,12 @@ void render(const sql::Anweisung& anweisung)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
     try {
-        const sql::Anweisung anweisung = sql::parseAnweisung({reinterpret_cast<const char*>(bytes), size});
-        const std::string text = sql::alsAccessText(anweisung);
-        if (sql::alsAccessText(sql::parseAnweisung(text)) != text)
+        const sql::Statement statement = sql::parseStatement({reinterpret_cast<const char*>(bytes), size});
+        const std::string text = sql::asAccessText(statement);
+        if (sql::asAccessText(sql::parseStatement(text)) != text)
             std::abort();
-        render(anweisung);
-    } catch (const Laufzeitfehler&) {
+        render(statement);
+    } catch (const RuntimeError&) {
         // Refused.
     }
     return 0;

@@ -39,13 +39,13 @@ inline void require(bool condition)
         std::abort();
 }
 
-class Boxes final : public Meldungen
+class Boxes final : public Boxes
 {
 public:
-    Antwort zeige(const Meldung& box) override
+    Answer show(const Box& box) override
     {
-        shown.push_back(box.titel);
-        return Antwort::Ok;
+        shown.push_back(box.title);
+        return Answer::Ok;
     }
     std::vector<std::string> shown;
 };
@@ -54,15 +54,15 @@ public:
 struct World
 {
     Boxes boxes;
-    FakeUhr clock;
-    FakeUmgebung environment;
-    FakeDateien files{clock};
-    FakeLaufwerke drives;
-    FakeDrucker printers;
-    FakeProgramme programs;
-    FakeZwischenablage clipboard;
-    FakeStandardanwendung application;
-    FakeFortschritt progress;
+    FakeClock clock;
+    FakeEnvironment environment;
+    FakeFiles files{clock};
+    FakeDrives drives;
+    FakePrinters printers;
+    FakePrograms programs;
+    FakeClipboard clipboard;
+    FakeDefaultApplication application;
+    FakeProgress progress;
     Ports ports{boxes, clock, environment, files, drives, printers, programs, clipboard, application, progress};
 };
 
@@ -77,7 +77,7 @@ class Register
 public:
     Register()
     {
-        legeRegisterAn(*engine_);
+        createRegister(*engine_);
         insertInstallation();
         insertDocuments();
         for (const std::string_view user : {ANNA, BOB}) {
@@ -85,7 +85,7 @@ public:
             SessionState session = sessionOf(user, world);
             session.pages.Starttabelle = "Zeichnungen";
             session.pages.ActiveQuelvarn = true;
-            schreibeStartseite(session);
+            writeStartPage(session);
             save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
             connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
         }
@@ -97,27 +97,25 @@ public:
         SessionState session;
         session.user.Anwender = user;
         session.folders.OrdnerSEDokumente = "C:\\SE";
-        session.database.Verbindung = Connection(engine_);
+        session.database.connection = Connection(engine_);
         std::string_view label;
-        Startlauf run{.session = session,
-                      .ports = world.ports,
-                      .abschnitt = label,
-                      .ini = IniZeilen(session.database.Verbindung)};
+        StartRun run{
+            .session = session, .ports = world.ports, .section = label, .ini = IniRows(session.database.connection)};
         require(readRegister(run));
         return session;
     }
 
     static void save(SessionState& session, const Input& input)
     {
-        session.pages.Suchtexte = {input.search};
-        schreibeDokumentseite(session, 0);
+        session.pages.SearchTexts = {input.search};
+        writeDocumentPage(session, 0);
         Recordset& filters = session.pages.GespeicherteFilter[0];
         filters.AddNew();
-        filters.setzeFeld("Filtername", input.name);
-        filters.setzeFeld("Filterstring", input.value);
+        filters.setField("Filtername", input.name);
+        filters.setField("Filterstring", input.value);
         filters.Update();
         SaveFilterRows(session, 0);
-        schreibeFavorit(session, DOKUTYPEN[0], {input.DokuBez, input.value});
+        writeFavourite(session, DOCUMENT_TYPES[0], {input.DokuBez, input.value});
     }
 
     // Whatever he looks for, he sees released and frozen documents alone.
@@ -126,70 +124,71 @@ public:
         Operations operations(world.ports);
         FilterState state;
         DocumentTables tables(session, operations);
-        Filterkontext context{session, operations, state, tables};
+        FilterContext context{session, operations, state, tables};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
         FilterEigenMerkBenutzDef(context);
         requireOwnStatuses(context.table().visible());
-        leereFilter(context.zustand());
-        context.zustand().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
-        context.zustand().FilterAnzahl = 1;
+        clearFilter(context.state());
+        context.state().FilterSchritte[0] = {"", "Farbe", CodeText, input.value};
+        context.state().FilterAnzahl = 1;
         if (const auto result = ApplyBenutzDefFilter(context))
             requireOwnStatuses(*result);
         context.table().rows().Filter("");
-        SuchenImRecordset(context.table().rows(), input.search, "DokuBez", TextBeliebig, Suchbeginn::Oben, world.boxes);
+        SuchenImRecordset(context.table().rows(), input.search, "DokuBez", TextAny, SearchStart::Above, world.boxes);
     }
 
     // Nothing belongs to a document that is not there.
     static void ask(SessionState& session, const Input& input)
     {
-        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
+        for (std::int64_t status = 0; status < STATUS_COUNT; ++status) {
             const std::string name = "Geheim" + std::to_string(status);
             for (const std::string& known : {name, "W:\\" + name, name + ".tif"})
                 if (equalText(known, input.value) || equalText(known, input.DokuBez))
                     return;
         }
-        Connection& database = session.database.Verbindung;
+        Connection& database = session.database.connection;
         DokuRecord record;
         record.DokuBez = input.DokuBez;
         record.RevBez = input.value;
         record.filename = input.value;
-        require(InfoRevision(database, "PartTabelle", input.DokuBez, RevErstBearb::Erstellt).leer());
-        require(benutzDefListe(database, "PartTabelleBenutzDef", record).leer());
-        require(!hatZusatzdokumente(database, input.value) && !findDokument(database, DOKUTYPEN[0], input.value));
-        require(revisionsstand(database, "PartTabelle", input.DokuBez).letzte.empty());
+        require(InfoRevision(database, "PartTabelle", input.DokuBez, revisionFilter::Erstellt).empty());
+        require(userDefinedList(database, "PartTabelleBenutzDef", record).empty());
+        require(!hasAdditionalDocuments(database, input.value) &&
+                !findDocument(database, DOCUMENT_TYPES[0], input.value));
+        require(revisionState(database, "PartTabelle", input.DokuBez).last.empty());
         require(EnthaltenInTIFFTabelle(database, input.value + ".dft").empty());
-        require(kennungen(database, {input.value, input.DokuBez}).empty());
+        require(addressCodes(database, {input.value, input.DokuBez}).empty());
         require(VorlageSuchen(database, std::vector{input.value, input.DokuBez}).empty());
-        require(!istSichtbar(database, DOKUTYPEN[0], input.value, session.rights.WhereStatus));
-        require(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{input.DokuBez, "A"}}).front().empty());
+        require(!isVisible(database, DOCUMENT_TYPES[0], input.value, session.rights.WhereStatus));
+        require(filesOf(database, DOCUMENT_TYPES[0], std::vector<Favourite>{{input.DokuBez, "A"}}).front().empty());
     }
 
     // What was saved is found again; afterwards his favourite is gone.
     static void requireSaved(SessionState& session, const Input& input)
     {
         const std::string text(rightCharacters(input.search, 50));
-        require(session.pages.Suchtexte == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
-        require(gespeicherteNamen(session, 0) == std::vector{input.name});
+        require(session.pages.SearchTexts == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
+        require(savedNames(session, 0) == std::vector{input.name});
         require(SavedFilterString(session, 0, input.name) == input.value);
-        const auto favourites = leseFavoriten(session, DOKUTYPEN[0]);
-        require(favourites.size() == 1 && derselbe(favourites.front(), {input.DokuBez, input.value}));
-        loescheFavoriten(session, DOKUTYPEN[0], favourites);
-        require(leseFavoriten(session, DOKUTYPEN[0]).empty());
+        const auto favourites = readFavourites(session, DOCUMENT_TYPES[0]);
+        require(favourites.size() == 1 && same(favourites.front(), {input.DokuBez, input.value}));
+        removeFavourites(session, DOCUMENT_TYPES[0], favourites);
+        require(readFavourites(session, DOCUMENT_TYPES[0]).empty());
     }
 
     // How the settings stand now is how they must stand after each input.
     void rememberRows() { rows_ = rows(); }
 
     // Takes away what the input left; all others' rows are there, each cell as it was.
-    void requireRestored(sql::AusdruckZeiger left)
+    void requireRestored(sql::ExpressionPointer left)
     {
         connection_.Execute(sql::Delete{"Ini", std::move(left)});
         require(rows() == rows_);
     }
 
 private:
-    void insert(std::string_view table, std::vector<sql::Zuweisung> values) { engine_->fuegeEin(table, values); }
+    void insert(std::string_view table, std::vector<sql::Assignment> values) { engine_->insert(table, values); }
 
     void insertInstallation()
     {
@@ -201,7 +200,7 @@ private:
                                                               {"OnOff", "Forward", "1", ""},
                                                               {"WriteDB", "Zeitinterval", "0", ""}}};
         for (const auto& [group, key, value, second] : rows)
-            insert("Ini", {{"Feld1", std::string(EIGENTUEMER_ALLE)},
+            insert("Ini", {{"Feld1", std::string(OWNER_ALL)},
                            {"Feld2", group},
                            {"Feld3", key},
                            {"Feld4", value},
@@ -210,7 +209,7 @@ private:
 
     void insertDocuments()
     {
-        for (std::int64_t status = 0; status < ANZAHL_STATUS; ++status) {
+        for (std::int64_t status = 0; status < STATUS_COUNT; ++status) {
             const std::string name = "Geheim" + std::to_string(status);
             for (const char* table : {"PartTabelle", "DraftTabelle"})
                 insert(table, {{"DokuBez", name},
@@ -232,7 +231,7 @@ private:
     static void requireOwnStatuses(const Recordset& rows)
     {
         for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
-            const std::int64_t status = alsGanzzahl(rows.Zelle(i, "Status"));
+            const std::int64_t status = asInteger(rows.cell(i, "Status"));
             require(status == 3 || status == 4);
         }
     }
@@ -241,12 +240,12 @@ private:
     std::string rows()
     {
         sql::Select all;
-        all.tabelle = "Ini";
+        all.table = "Ini";
         std::string rows;
         rows.reserve(rows_.size());
-        for (const auto row = engine_->lese(all, MitSchluessel::Ja); row->next();) {
-            rows.append(std::to_string(row->schluessel()));
-            for (std::size_t i = 0; i < row->spalten().size(); ++i)
+        for (const auto row = engine_->read(all, WithKey::Yes); row->next();) {
+            rows.append(std::to_string(row->key()));
+            for (std::size_t i = 0; i < row->columns().size(); ++i)
                 rows.append("|").append(row->findText(i).value_or("Null"));
             rows.append("\n");
         }
@@ -254,9 +253,9 @@ private:
     }
 
     TempFolder folder_;
-    std::shared_ptr<Engine> engine_ = oeffneSqlite(folder_ / "werk.qv", true);
+    std::shared_ptr<Engine> engine_ = openSqlite(folder_ / "werk.qv", true);
     Connection connection_{engine_};
-    Transaktion unwritten_{connection_}; // Nothing ever reaches the disk, which saves most of the time.
+    Transaction unwritten_{connection_}; // Nothing ever reaches the disk, which saves most of the time.
     std::string rows_;
 };
 

@@ -18,93 +18,93 @@ namespace {
 namespace fs = std::filesystem;
 
 // A folder for what is imported; goes with all that lies in it.
-class Messordner
+class MeasureFolder
 {
 public:
-    Messordner()
+    MeasureFolder()
     {
-        std::string muster = (fs::temp_directory_path() / "quelvarn-bench-XXXXXX").string();
-        if (mkdtemp(muster.data()) == nullptr)
+        std::string pattern = (fs::temp_directory_path() / "quelvarn-bench-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("no temporary folder");
-        pfad_ = muster;
+        path_ = pattern;
     }
-    ~Messordner()
+    ~MeasureFolder()
     {
-        std::error_code egal;
-        fs::remove_all(pfad_, egal);
+        std::error_code either;
+        fs::remove_all(path_, either);
     }
-    Messordner(const Messordner&) = delete;
-    Messordner& operator=(const Messordner&) = delete;
+    MeasureFolder(const MeasureFolder&) = delete;
+    MeasureFolder& operator=(const MeasureFolder&) = delete;
 
-    fs::path operator/(const char* name) const { return pfad_ / name; }
+    fs::path operator/(const char* name) const { return path_ / name; }
 
 private:
-    fs::path pfad_;
+    fs::path path_;
 };
 
-void importiere(const fs::path& quelle, const fs::path& ziel)
+void importFile(const fs::path& source, const fs::path& target)
 {
-    const std::string befehl =
-        fmt::format("'{}' import '{}' '{}' --ersetzen >/dev/null", QVADMIN, quelle.string(), ziel.string());
-    if (std::system(befehl.c_str()) != 0)
-        throw std::runtime_error("qvadmin does not import " + quelle.string());
+    const std::string command =
+        fmt::format("'{}' import '{}' '{}' --ersetzen >/dev/null", QVADMIN, source.string(), target.string());
+    if (std::system(command.c_str()) != 0)
+        throw std::runtime_error("qvadmin does not import " + source.string());
 }
 
-struct Tabelle
+struct Table
 {
-    Tabellenschema schema;
-    std::vector<std::vector<Value>> zeilen;
+    TableSchema schema;
+    std::vector<std::vector<Value>> rows;
 };
 
-std::vector<Tabelle> liesRegister(const fs::path& datei)
+std::vector<Table> liesRegister(const fs::path& file)
 {
-    Connection verbindung;
-    verbindung.Open(datei);
-    std::vector<Tabelle> tabellen;
-    for (const std::string& name : verbindung.engine().tabellen()) {
-        Tabelle tabelle{*verbindung.engine().findTabelle(name), {}};
-        Recordset zeilen;
-        zeilen.Open(sql::Query(name), verbindung);
-        for (; !zeilen.Eof(); zeilen.MoveNext()) {
-            std::vector<Value>& werte = tabelle.zeilen.emplace_back();
-            for (const Spalte& spalte : tabelle.schema.spalten)
-                werte.push_back(zeilen.Feld(spalte.name));
+    Connection connection;
+    connection.Open(file);
+    std::vector<Table> tables;
+    for (const std::string& name : connection.engine().tables()) {
+        Table table{*connection.engine().findTable(name), {}};
+        Recordset rows;
+        rows.Open(sql::Query(name), connection);
+        for (; !rows.Eof(); rows.MoveNext()) {
+            std::vector<Value>& values = table.rows.emplace_back();
+            for (const ColumnInfo& column : table.schema.columns)
+                values.push_back(rows.field(column.name));
         }
-        tabellen.push_back(std::move(tabelle));
+        tables.push_back(std::move(table));
     }
-    return tabellen;
+    return tables;
 }
 
 // Without indexes: the rows alone.
-void schreibe(const std::vector<Tabelle>& tabellen, const fs::path& datei)
+void write(const std::vector<Table>& tables, const fs::path& file)
 {
-    fs::remove(datei);
-    const auto engine = oeffneSqlite(datei, true);
-    engine->beginne();
-    for (const Tabelle& tabelle : tabellen) {
-        engine->legeTabelleAn(tabelle.schema);
-        const auto schreiber = engine->massenschreiber(tabelle.schema.name, tabelle.schema.spalten);
-        for (const auto& zeile : tabelle.zeilen)
-            schreiber->zeile(zeile);
-        schreiber->beende();
+    fs::remove(file);
+    const auto engine = openSqlite(file, true);
+    engine->begin();
+    for (const Table& table : tables) {
+        engine->createTable(table.schema);
+        const auto writer = engine->bulkWriter(table.schema.name, table.schema.columns);
+        for (const auto& row : table.rows)
+            writer->row(row);
+        writer->end();
     }
-    engine->schliesseAb();
+    engine->commit();
 }
 
 } // namespace
 
-void messeImport(Messreihe& reihe, const fs::path& accessDatei)
+void measureImport(Measurements& layoutRow, const fs::path& accessFile)
 {
-    const Messordner ordner;
-    const fs::path ziel = ordner / "import.qv";
-    importiere(accessDatei, ziel);
-    const std::vector<Tabelle> tabellen = liesRegister(ziel);
+    const MeasureFolder folder;
+    const fs::path target = folder / "import.qv";
+    importFile(accessFile, target);
+    const std::vector<Table> tables = liesRegister(target);
     std::size_t bytes = 0;
-    reihe.vergleiche("qvadmin import", 3.0, {[&] { importiere(accessDatei, ziel); }}, "libmdb read + bulk insert",
-                     {[&] {
-                         bytes += liesAlleZellen(accessDatei);
-                         schreibe(tabellen, ordner / "peer.qv");
-                     }});
+    layoutRow.compare("qvadmin import", 3.0, {[&] { importFile(accessFile, target); }}, "libmdb read + bulk insert",
+                      {[&] {
+                          bytes += readAllCells(accessFile);
+                          write(tables, folder / "peer.qv");
+                      }});
     if (bytes == 0)
         throw std::runtime_error("libmdb reads nothing");
 }

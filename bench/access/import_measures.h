@@ -7,6 +7,6 @@
 namespace quelvarn::bench {
 
 // The import of an Access file beside what it cannot do without: reading the cells, and writing the rows.
-void messeImport(Messreihe& reihe, const std::filesystem::path& accessDatei);
+void measureImport(Measurements& layoutRow, const std::filesystem::path& accessFile);
 
 } // namespace quelvarn::bench

@@ -13,113 +13,111 @@ namespace quelvarn::bench {
 
 namespace {
 
-constexpr const char* TABELLE = "QSqlTableModel, all rows";
-constexpr const char* AUSWAHL = "QSortFilterProxyModel";
-constexpr int ZEILENWECHSEL = 100;
+constexpr const char* TABLE = "QSqlTableModel, all rows";
+constexpr const char* SELECTION = "QSortFilterProxyModel";
+constexpr int ROW_CHANGE = 100;
 constexpr int SPRUNG = 314'159;
 
-double belegt() // MB
+double taken() // MB
 {
-    const struct mallinfo2 speicher = mallinfo2();
-    return static_cast<double>(speicher.uordblks + speicher.hblkhd) / 1e6;
+    const struct mallinfo2 memory = mallinfo2();
+    return static_cast<double>(memory.uordblks + memory.hblkhd) / 1e6;
 }
 
 // Takes both lists through the same work.
-class Listenvergleich
+class ListComparison
 {
 public:
-    Listenvergleich(Messreihe& reihe, const std::filesystem::path& datei, const std::filesystem::path& kopie,
-                    int qtLaeufe)
-        : reihe_(reihe), unsere_(datei), andere_(kopie), qtLaeufe_(qtLaeufe)
+    ListComparison(Measurements& layoutRow, const std::filesystem::path& file, const std::filesystem::path& copy,
+                   int qtRuns)
+        : layoutRow_(layoutRow), ours_(file), other_(copy), qtRuns_(qtRuns)
     {}
 
-    void messe()
+    void measure()
     {
-        speicher();
-        vergleiche(
-            "list: open, rows painted", TABELLE, [](Listenfenster& liste) { liste.oeffne(); },
-            [](Listenfenster& liste) { liste.schliesse(); });
-        zeilenwechsel();
-        filter("list: first filter on a column, painted", "Titel", "gefräst", [](Listenfenster& liste) {
-            liste.schliesse();
-            liste.oeffne();
+        memory();
+        compare(
+            "list: open, rows painted", TABLE, [](ListWindow& list) { list.open(); },
+            [](ListWindow& list) { list.close(); });
+        rowChange();
+        filter("list: first filter on a column, painted", "Titel", "gefräst", [](ListWindow& list) {
+            list.close();
+            list.open();
         });
         filter("list: filter once read, painted", "Titel", "gefräst", {});
         filter("list: filter, all texts different, painted", "filename", "0012", {});
-        vergleiche(
-            "list: sort by another column, painted", AUSWAHL, [](Listenfenster& liste) { liste.sortiere("Titel"); },
-            [](Listenfenster& liste) { liste.sortiere(""); });
+        compare(
+            "list: sort by another column, painted", SELECTION, [](ListWindow& list) { list.sort("Titel"); },
+            [](ListWindow& list) { list.sort(""); });
     }
 
 private:
-    using Schritt = std::function<void(Listenfenster&)>;
+    using Step = std::function<void(ListWindow&)>;
 
-    void vergleiche(const std::string& name, const char* peer, const Schritt& tat, const Schritt& vorher)
+    void compare(const std::string& name, const char* peer, const Step& action, const Step& before)
     {
-        vergleiche(name, peer, tat, vorher, vorher);
+        compare(name, peer, action, before, before);
     }
-    void vergleiche(const std::string& name, const char* peer, const Schritt& tat, const Schritt& vorher,
-                    const Schritt& vorUnserer)
+    void compare(const std::string& name, const char* peer, const Step& action, const Step& before,
+                 const Step& beforeOurs)
     {
-        reihe_.vergleiche(name, {}, {[&] { tat(unsere_); }, [&] { vorUnserer(unsere_); }}, peer,
-                          {[&] { tat(andere_); }, [&] { vorher(andere_); }, qtLaeufe_});
-        if (unsere_.anzahl() != andere_.anzahl())
-            throw std::runtime_error(
-                fmt::format("{}: {} rows, of the peer {}", name, unsere_.anzahl(), andere_.anzahl()));
-    }
-
-    void speicher()
-    {
-        const double leer = belegt();
-        unsere_.oeffne();
-        const double mitUnserer = belegt();
-        andere_.oeffne();
-        reihe_.vergleicheGroesse("list: memory when open", "MB", mitUnserer - leer, TABELLE, belegt() - mitUnserer);
+        layoutRow_.compare(name, {}, {[&] { action(ours_); }, [&] { beforeOurs(ours_); }}, peer,
+                           {[&] { action(other_); }, [&] { before(other_); }, qtRuns_});
+        if (ours_.count() != other_.count())
+            throw std::runtime_error(fmt::format("{}: {} rows, of the peer {}", name, ours_.count(), other_.count()));
     }
 
-    void zeilenwechsel()
+    void memory()
     {
-        int zeile = 0;
-        const auto weiter = [&] { zeile = (zeile + SPRUNG) % unsere_.anzahl(); };
-        reihe_.vergleiche("list: row anywhere, all fields read, painted", {},
-                          {[&] { unsere_.zeigeZeile(zeile); }, weiter, ZEILENWECHSEL}, TABELLE,
-                          {[&] { andere_.zeigeZeile(zeile); }, weiter, ZEILENWECHSEL});
+        const double empty = taken();
+        ours_.open();
+        const double withOurs = taken();
+        other_.open();
+        layoutRow_.compareSize("list: memory when open", "MB", withOurs - empty, TABLE, taken() - withOurs);
+    }
+
+    void rowChange()
+    {
+        int row = 0;
+        const auto further = [&] { row = (row + SPRUNG) % ours_.count(); };
+        layoutRow_.compare("list: row anywhere, all fields read, painted", {},
+                           {[&] { ours_.showRow(row); }, further, ROW_CHANGE}, TABLE,
+                           {[&] { other_.showRow(row); }, further, ROW_CHANGE});
     }
 
     // The peer holds all columns once it is open, so that its first filter is like any other.
-    void filter(const std::string& name, const std::string& spalte, const std::string& text,
-                const Schritt& unsereZuerst)
+    void filter(const std::string& name, const std::string& column, const std::string& text, const Step& oursFirst)
     {
-        const Schritt ohneFilter = [&](Listenfenster& liste) { liste.filtere(spalte, ""); };
-        const Schritt tat = [&](Listenfenster& liste) { liste.filtere(spalte, text); };
-        vergleiche(name, AUSWAHL, tat, ohneFilter, unsereZuerst ? unsereZuerst : ohneFilter);
-        ohneFilter(unsere_);
-        ohneFilter(andere_);
+        const Step withoutFilter = [&](ListWindow& list) { list.filter(column, ""); };
+        const Step action = [&](ListWindow& list) { list.filter(column, text); };
+        compare(name, SELECTION, action, withoutFilter, oursFirst ? oursFirst : withoutFilter);
+        withoutFilter(ours_);
+        withoutFilter(other_);
     }
 
-    Messreihe& reihe_;
-    EigeneListe unsere_;
-    QtListe andere_;
-    int qtLaeufe_;
+    Measurements& layoutRow_;
+    OwnList ours_;
+    QtList other_;
+    int qtRuns_;
 };
 
 // The peer holds each cell as an object of its own.
-bool reichtDerSpeicher(std::int64_t dokumente)
+bool memorySuffices(std::int64_t documents)
 {
-    constexpr std::int64_t JE_DOKUMENT = 5'000;
-    const std::int64_t frei = static_cast<std::int64_t>(sysconf(_SC_AVPHYS_PAGES)) * sysconf(_SC_PAGESIZE);
-    return dokumente * JE_DOKUMENT < frei;
+    constexpr std::int64_t PER_DOCUMENT = 5'000;
+    const std::int64_t free = static_cast<std::int64_t>(sysconf(_SC_AVPHYS_PAGES)) * sysconf(_SC_PAGESIZE);
+    return documents * PER_DOCUMENT < free;
 }
 
 } // namespace
 
-void messeListen(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe)
+void measureLists(Measurements& layoutRow, const std::filesystem::path& file, int qtRuns)
 {
-    if (!QtListe::gibtEs() || !reichtDerSpeicher(BareSqlite(datei).zahl("SELECT COUNT(*) FROM PartTabelle"))) {
+    if (!QtList::existsIn() || !memorySuffices(BareSqlite(file).number("SELECT COUNT(*) FROM PartTabelle"))) {
         fmt::print("without the peer of ready-made parts: its driver or memory for it is missing\n");
         return;
     }
-    Listenvergleich(reihe, datei, legeSchlichteKopieBereit(datei), qtLaeufe).messe();
+    ListComparison(layoutRow, file, preparePlainCopy(file), qtRuns).measure();
 }
 
 } // namespace quelvarn::bench

@@ -5,21 +5,21 @@
 namespace quelvarn::bench {
 
 // A window with the list of PartTabelle. Each operation ends when the list is painted.
-class Listenfenster
+class ListWindow
 {
 public:
-    virtual ~Listenfenster() = default;
+    virtual ~ListWindow() = default;
 
     // All rows, in the order of the list.
-    virtual void oeffne() = 0;
-    virtual void schliesse() = 0;
+    virtual void open() = 0;
+    virtual void close() = 0;
     // Rows whose column has this text anywhere, in any case; "" for all of them.
-    virtual void filtere(const std::string& spalte, const std::string& text) = 0;
+    virtual void filter(const std::string& column, const std::string& text) = 0;
     // "" for the order of opening.
-    virtual void sortiere(const std::string& spalte) = 0;
+    virtual void sort(const std::string& column) = 0;
     // Reads all fields of the row and makes it current.
-    virtual void zeigeZeile(int zeile) = 0;
-    virtual int anzahl() const = 0;
+    virtual void showRow(int row) = 0;
+    virtual int count() const = 0;
 };
 
 } // namespace quelvarn::bench

@@ -4,59 +4,59 @@
 
 namespace quelvarn::bench {
 
-EigeneListe::EigeneListe(const std::filesystem::path& datei)
-    : gitter_("Liste",
-              {{"Dokumentname", "DokuBez"},
-               {"Revision", "RevBez"},
-               {"Dateiname", "Dateiname"},
-               {"Pfad- und Dateiname", "filename"}},
-              {26, 11, 24, 39})
+OwnList::OwnList(const std::filesystem::path& file)
+    : grid_("Liste",
+            {{"Dokumentname", "DokuBez"},
+             {"Revision", "RevBez"},
+             {"Dateiname", "Dateiname"},
+             {"Pfad- und Dateiname", "filename"}},
+            {26, 11, 24, 39})
 {
-    verbindung_.Open(datei);
-    gitter_.resize(FENSTER);
-    gitter_.show();
+    connection_.Open(file);
+    grid_.resize(WINDOW);
+    grid_.show();
 }
 
-void EigeneListe::oeffne()
+void OwnList::open()
 {
-    zeilen_.Open("SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC", verbindung_);
-    zeige();
+    rows_.Open("SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC", connection_);
+    display();
 }
 
-void EigeneListe::schliesse()
+void OwnList::close()
 {
-    gitter_.zeige(nullptr, ++fassung_);
-    zeilen_.Close();
+    grid_.display(nullptr, ++generation_);
+    rows_.Close();
 }
 
-void EigeneListe::filtere(const std::string& spalte, const std::string& text)
+void OwnList::filter(const std::string& column, const std::string& text)
 {
-    zeilen_.Filter(text.empty() ? text : spalte + " Like '*" + text + "*'");
-    zeige();
+    rows_.Filter(text.empty() ? text : column + " Like '*" + text + "*'");
+    display();
 }
 
-void EigeneListe::sortiere(const std::string& spalte)
+void OwnList::sort(const std::string& column)
 {
-    zeilen_.Sort(spalte);
-    zeige();
+    rows_.Sort(column);
+    display();
 }
 
-void EigeneListe::zeigeZeile(int zeile)
+void OwnList::showRow(int row)
 {
-    zeilen_.setzeAbsolutePosition(static_cast<std::size_t>(zeile));
-    std::size_t laenge = 0;
-    for (const Spalte& feld : zeilen_.Felder())
-        laenge += zeilen_.Text(feld.name).size();
-    if (laenge == 0)
+    rows_.setAbsolutePosition(static_cast<std::size_t>(row));
+    std::size_t length = 0;
+    for (const ColumnInfo& field : rows_.fields())
+        length += rows_.Text(field.name).size();
+    if (length == 0)
         throw std::runtime_error("the rows are empty");
-    gitter_.zeige(&zeilen_, fassung_);
-    maler_.warte();
+    grid_.display(&rows_, generation_);
+    painter_.wait();
 }
 
-void EigeneListe::zeige()
+void OwnList::display()
 {
-    gitter_.zeige(&zeilen_, ++fassung_);
-    maler_.warte();
+    grid_.display(&rows_, ++generation_);
+    painter_.wait();
 }
 
 } // namespace quelvarn::bench

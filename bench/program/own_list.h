@@ -11,26 +11,26 @@
 namespace quelvarn::bench {
 
 // The grid of the program over a recordset, without the rest of its window.
-class EigeneListe : public Listenfenster
+class OwnList : public ListWindow
 {
 public:
-    explicit EigeneListe(const std::filesystem::path& datei);
+    explicit OwnList(const std::filesystem::path& file);
 
-    void oeffne() override;
-    void schliesse() override;
-    void filtere(const std::string& spalte, const std::string& text) override;
-    void sortiere(const std::string& spalte) override;
-    void zeigeZeile(int zeile) override;
-    int anzahl() const override { return static_cast<int>(zeilen_.RecordCount()); }
+    void open() override;
+    void close() override;
+    void filter(const std::string& column, const std::string& text) override;
+    void sort(const std::string& column) override;
+    void showRow(int row) override;
+    int count() const override { return static_cast<int>(rows_.RecordCount()); }
 
 private:
-    void zeige();
+    void display();
 
-    Connection verbindung_;
-    Recordset zeilen_;
-    Gitter gitter_;
-    Malwaechter maler_{gitter_};
-    unsigned fassung_ = 0;
+    Connection connection_;
+    Recordset rows_;
+    Grid grid_;
+    PaintWatch painter_{grid_};
+    unsigned generation_ = 0;
 };
 
 } // namespace quelvarn::bench

@@ -9,30 +9,30 @@
 
 namespace quelvarn::bench {
 
-Malwaechter::Malwaechter(QAbstractItemView& ansicht) : ansicht_(ansicht)
+PaintWatch::PaintWatch(QAbstractItemView& view) : view_(view)
 {
-    ansicht.viewport()->installEventFilter(this);
+    view.viewport()->installEventFilter(this);
 }
 
-void Malwaechter::warte()
+void PaintWatch::wait()
 {
-    constexpr qint64 FRIST = 300'000; // ms
-    QElapsedTimer zeit;
-    zeit.start();
-    gemalt_ = false;
-    while (!gemalt_) {
+    constexpr qint64 DEADLINE = 300'000; // ms
+    QElapsedTimer time;
+    time.start();
+    painted_ = false;
+    while (!painted_) {
         QCoreApplication::processEvents();
-        if (zeit.hasExpired(FRIST))
+        if (time.hasExpired(DEADLINE))
             throw std::runtime_error("the grid is not painted");
     }
     QCoreApplication::processEvents();
 }
 
-bool Malwaechter::eventFilter(QObject* empfaenger, QEvent* ereignis)
+bool PaintWatch::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (ereignis->type() == QEvent::Paint && ansicht_.model() != nullptr && ansicht_.model()->rowCount() > 0)
-        gemalt_ = true;
-    return QObject::eventFilter(empfaenger, ereignis);
+    if (event->type() == QEvent::Paint && view_.model() != nullptr && view_.model()->rowCount() > 0)
+        painted_ = true;
+    return QObject::eventFilter(receiver, event);
 }
 
 } // namespace quelvarn::bench

@@ -8,24 +8,24 @@ class QAbstractItemView;
 namespace quelvarn::bench {
 
 // Of the lists that are compared: that of the grid in the program's own window.
-inline constexpr QSize FENSTER{560, 320};
+inline constexpr QSize WINDOW{560, 320};
 
 // Tells when a view has drawn what a gesture has changed.
-class Malwaechter : public QObject
+class PaintWatch : public QObject
 {
 public:
-    explicit Malwaechter(QAbstractItemView& ansicht);
+    explicit PaintWatch(QAbstractItemView& view);
 
     // Runs the event loop until the view has been painted with rows in it and nothing is left to do. Throws when that
     // does not happen.
-    void warte();
+    void wait();
 
 protected:
-    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    QAbstractItemView& ansicht_;
-    bool gemalt_ = false;
+    QAbstractItemView& view_;
+    bool painted_ = false;
 };
 
 } // namespace quelvarn::bench

@@ -23,89 +23,88 @@ namespace {
 namespace fs = std::filesystem;
 
 // Drive W is a link to the folder of the register, drive C belongs to the program.
-fs::path legeLaufwerkeAn(const fs::path& ordner, const fs::path& datenbank)
+fs::path createDrives(const fs::path& folder, const fs::path& database)
 {
-    fs::create_directories(ordner / "c");
-    fs::create_directories(ordner / "w");
-    fs::create_symlink(fs::absolute(datenbank), ordner / "w" / datenbank.filename());
-    return ordner;
+    fs::create_directories(folder / "c");
+    fs::create_directories(folder / "w");
+    fs::create_symlink(fs::absolute(database), folder / "w" / database.filename());
+    return folder;
 }
 
 } // namespace
 
-Antwort LaufendesProgramm::KeineMeldungen::zeige(const Meldung& meldung)
+Answer RunningProgram::NoBoxes::show(const Box& box)
 {
-    if (meldung.symbol == Symbol::Frage)
-        return Antwort::Ja;
-    if (erlaubt)
-        return Antwort::Ok;
-    fmt::print(stderr, "unexpected box: {}\n{}\n", meldung.titel, meldung.text);
+    if (box.icon == Icon::Question)
+        return Answer::Yes;
+    if (allowed)
+        return Answer::Ok;
+    fmt::print(stderr, "unexpected box: {}\n{}\n", box.title, box.text);
     std::exit(2);
 }
 
-LaufendesProgramm::LaufendesProgramm(const fs::path& datenbank)
-    : system_(systemPorts(legeLaufwerkeAn(ausQt(ordner_.path()), datenbank))),
-      ports_(system_->mit(meldungen_, zwischenablage_, fortschritt_)),
-      darstellung_(ordner_.filePath(QStringLiteral("look.ini")))
+RunningProgram::RunningProgram(const fs::path& database)
+    : system_(systemPorts(createDrives(fromQt(folder_.path()), database))),
+      ports_(system_->with(boxes_, clipboard_, progress_)), appearance_(folder_.filePath(QStringLiteral("look.ini")))
 {
-    darstellung_.setzeModus(Modus::Hell);
-    darstellung_.wendeAn(*qApp);
-    session_.user.Anwender = ANWENDER;
+    appearance_.setMode(Mode::Light);
+    appearance_.apply(*qApp);
+    session_.user.Anwender = USER;
     session_.user.Rechner = "Messplatz";
     session_.folders.OrdnerBasis = "C:\\Quelvarnis";
     session_.folders.OrdnerSEDokumente = session_.folders.OrdnerDatenbankPfad = session_.folders.OrdnerOfflineVersand =
         session_.folders.OrdnerBasis;
-    session_.database.DatenbankPfad = "W:\\" + datenbank.filename().string();
+    session_.database.DatenbankPfad = "W:\\" + database.filename().string();
     if (!Hauptprogramm(session_, ports_))
         throw std::runtime_error("the register of the bench does not open");
-    meldungen_.erlaubt = false;
+    boxes_.allowed = false;
 }
 
-LaufendesProgramm::~LaufendesProgramm() = default;
+RunningProgram::~RunningProgram() = default;
 
-void LaufendesProgramm::zeigeStartseite()
+void RunningProgram::showStartPage()
 {
     // Where no database stands open the program begins on its start page and forgets the path.
-    const std::string pfad = session_.database.DatenbankPfad;
+    const std::string path = session_.database.DatenbankPfad;
     session_.database.DatenbankOk = false;
-    arbeitsplatz_.reset();
-    arbeitsplatz_ = std::make_unique<Arbeitsplatz>(session_, ports_, darstellung_, [] { std::exit(2); });
-    if (!arbeitsplatz_->starte())
+    workplace_.reset();
+    workplace_ = std::make_unique<Workplace>(session_, ports_, appearance_, [] { std::exit(2); });
+    if (!workplace_->start())
         throw std::runtime_error("the window of the program does not open");
     session_.database.DatenbankOk = true;
-    session_.database.DatenbankPfad = pfad;
+    session_.database.DatenbankPfad = path;
     QCoreApplication::processEvents();
 }
 
-void LaufendesProgramm::klicke(const char* knopf)
+void RunningProgram::click(const char* button)
 {
-    QTest::mouseClick(&widgetOf(QLatin1String(knopf)), Qt::LeftButton);
+    QTest::mouseClick(&widgetOf(QLatin1String(button)), Qt::LeftButton);
 }
 
-void LaufendesProgramm::druecke(int taste, Qt::KeyboardModifiers zusatz)
+void RunningProgram::press(int key, Qt::KeyboardModifiers addition)
 {
-    QWidget* ziel = QApplication::focusWidget();
-    QTest::keyClick(ziel != nullptr ? ziel : &arbeitsplatz_->fenster(), static_cast<Qt::Key>(taste), zusatz);
+    QWidget* target = QApplication::focusWidget();
+    QTest::keyClick(target != nullptr ? target : &workplace_->window(), static_cast<Qt::Key>(key), addition);
 }
 
-QAbstractItemView& LaufendesProgramm::gitter(int tab)
+QAbstractItemView& RunningProgram::grid(int tab)
 {
-    return dynamic_cast<QAbstractItemView&>(widgetOf(zuQt(DOKUTYPEN[static_cast<std::size_t>(tab)].grid)));
+    return dynamic_cast<QAbstractItemView&>(widgetOf(toQt(DOCUMENT_TYPES[static_cast<std::size_t>(tab)].grid)));
 }
 
-QWidget& LaufendesProgramm::widgetOf(const QString& name)
+QWidget& RunningProgram::widgetOf(const QString& name)
 {
-    auto* widget = arbeitsplatz_->fenster().findChild<QWidget*>(name);
+    auto* widget = workplace_->window().findChild<QWidget*>(name);
     if (widget == nullptr)
-        throw std::runtime_error("the window has no " + ausQt(name));
+        throw std::runtime_error("the window has no " + fromQt(name));
     return *widget;
 }
 
-void LaufendesProgramm::legeDateiAn(const std::string& pfad)
+void RunningProgram::createFile(const std::string& path)
 {
-    const fs::path datei = system_->dateien().systempfad(pfad);
-    fs::create_directories(datei.parent_path());
-    std::ofstream(datei).flush();
+    const fs::path file = system_->files().systemPath(path);
+    fs::create_directories(file.parent_path());
+    std::ofstream(file).flush();
 }
 
 } // namespace quelvarn::bench

@@ -19,57 +19,57 @@ class QWidget;
 
 namespace quelvarn {
 
-class Arbeitsplatz;
+class Workplace;
 
 } // namespace quelvarn
 
 namespace quelvarn::bench {
 
 // The whole program with its windows on a register, but for boxes: one that comes up ends the measuring.
-class LaufendesProgramm
+class RunningProgram
 {
 public:
     // The register becomes W:\<name> of a folder of drives of its own.
-    explicit LaufendesProgramm(const std::filesystem::path& datenbank);
-    ~LaufendesProgramm();
+    explicit RunningProgram(const std::filesystem::path& database);
+    ~RunningProgram();
 
     // A new window, on its start page. The database is connected.
-    void zeigeStartseite();
+    void showStartPage();
     // What a click on the button of this name does.
-    void klicke(const char* knopf);
+    void click(const char* button);
     // Keys go to the widget that has the focus.
-    void druecke(int taste, Qt::KeyboardModifiers zusatz = Qt::NoModifier);
-    QAbstractItemView& gitter(int tab);
+    void press(int key, Qt::KeyboardModifiers addition = Qt::NoModifier);
+    QAbstractItemView& grid(int tab);
     SessionState& session() { return session_; }
     // Puts an empty file where a document says that its own is.
-    void legeDateiAn(const std::string& pfad);
+    void createFile(const std::string& path);
 
 private:
     // No one is there to answer. The first start on a register tells what it adds to it; later no box may come.
-    class KeineMeldungen : public Meldungen
+    class NoBoxes : public Boxes
     {
     public:
-        Antwort zeige(const Meldung& meldung) override;
-        bool erlaubt = true;
+        Answer show(const Box& box) override;
+        bool allowed = true;
     };
-    class KeineZwischenablage : public Zwischenablage
+    class NoClipboard : public Clipboard
     {
     public:
         std::string text() const override { return {}; }
-        void setzeText(std::string_view) override {}
+        void setText(std::string_view) override {}
     };
 
     QWidget& widgetOf(const QString& name);
 
-    QTemporaryDir ordner_;
-    KeineMeldungen meldungen_;
-    KeineZwischenablage zwischenablage_;
-    StilleAnzeige fortschritt_;
+    QTemporaryDir folder_;
+    NoBoxes boxes_;
+    NoClipboard clipboard_;
+    SilentDisplay progress_;
     std::unique_ptr<SystemPorts> system_;
     Ports ports_;
-    Darstellung darstellung_;
+    Appearance appearance_;
     SessionState session_;
-    std::unique_ptr<Arbeitsplatz> arbeitsplatz_;
+    std::unique_ptr<Workplace> workplace_;
 };
 
 } // namespace quelvarn::bench

@@ -15,104 +15,103 @@ namespace quelvarn::bench {
 
 namespace {
 
-constexpr int BAUTEILE = 0;
-constexpr int ZEILENWECHSEL = 200;
-constexpr int TABWECHSEL = 20;
+constexpr int PARTS = 0;
+constexpr int ROW_CHANGE = 200;
+constexpr int TAB_CHANGE = 20;
 
 // The rows that the measures visit, with their files in place: a person looks at documents that exist.
-class Zeilenweg
+class RowWay
 {
 public:
-    Zeilenweg(LaufendesProgramm& programm, const std::filesystem::path& datei) : programm_(programm)
+    RowWay(RunningProgram& program, const std::filesystem::path& file) : program_(program)
     {
-        verbindung_.Open(datei);
-        liste_.Open("SELECT filename FROM PartTabelle ORDER BY DokuBez, RevBez DESC", verbindung_);
+        connection_.Open(file);
+        list_.Open("SELECT filename FROM PartTabelle ORDER BY DokuBez, RevBez DESC", connection_);
     }
 
-    std::size_t naechste() { return bereite((stelle_ + 1) % liste_.RecordCount()); }
-    std::size_t irgendeine() { return bereite((stelle_ + 314'159) % liste_.RecordCount()); }
+    std::size_t next() { return prepare((position_ + 1) % list_.RecordCount()); }
+    std::size_t any() { return prepare((position_ + 314'159) % list_.RecordCount()); }
 
 private:
-    std::size_t bereite(std::size_t stelle)
+    std::size_t prepare(std::size_t position)
     {
-        stelle_ = stelle;
-        liste_.setzeAbsolutePosition(stelle);
-        programm_.legeDateiAn(liste_.Text("filename"));
-        return stelle;
+        position_ = position;
+        list_.setAbsolutePosition(position);
+        program_.createFile(list_.Text("filename"));
+        return position;
     }
 
-    LaufendesProgramm& programm_;
-    Connection verbindung_;
-    Recordset liste_;
-    std::size_t stelle_ = 0;
+    RunningProgram& program_;
+    Connection connection_;
+    Recordset list_;
+    std::size_t position_ = 0;
 };
 
-void messeOeffnen(Messreihe& reihe, LaufendesProgramm& programm, const std::filesystem::path& datei)
+void measureOpen(Measurements& layoutRow, RunningProgram& program, const std::filesystem::path& file)
 {
-    BareSqlite sqlite(datei);
-    reihe.vergleiche(
-        "program: open a table, rows painted", reihe.beiVielen(1.5),
+    BareSqlite sqlite(file);
+    layoutRow.compare(
+        "program: open a table, rows painted", layoutRow.atMany(1.5),
         {[&] {
-             programm.klicke("ImgSEDoku");
-             Malwaechter(programm.gitter(BAUTEILE)).warte();
+             program.click("ImgSEDoku");
+             PaintWatch(program.grid(PARTS)).wait();
          },
-         [&] { programm.zeigeStartseite(); }},
+         [&] { program.showStartPage(); }},
         "sqlite3_step, same order",
-        {[&] { sqlite.listeAuf("SELECT rowid, DokuBez, RevBez FROM PartTabelle ORDER BY DokuBez, RevBez DESC"); }});
+        {[&] { sqlite.listAll("SELECT rowid, DokuBez, RevBez FROM PartTabelle ORDER BY DokuBez, RevBez DESC"); }});
 }
 
-void messeTabwechsel(Messreihe& reihe, LaufendesProgramm& programm)
+void measureTabChange(Measurements& layoutRow, RunningProgram& program)
 {
-    const auto zeigeTab = [&](int tab) {
-        programm.druecke(Qt::Key_1 + tab, Qt::ControlModifier);
-        Malwaechter(programm.gitter(tab)).warte();
+    const auto showTab = [&](int tab) {
+        program.press(Qt::Key_1 + tab, Qt::ControlModifier);
+        PaintWatch(program.grid(tab)).wait();
     };
-    reihe.begrenze("program: tab switch back, painted", 20,
-                   {[&] { zeigeTab(BAUTEILE); }, [&] { zeigeTab(BAUTEILE + 1); }, TABWECHSEL});
+    layoutRow.limit("program: tab switch back, painted", 20,
+                    {[&] { showTab(PARTS); }, [&] { showTab(PARTS + 1); }, TAB_CHANGE});
 }
 
-void messeZeilenwechsel(Messreihe& reihe, LaufendesProgramm& programm, Zeilenweg& weg, bool knoten)
+void measureRowChange(Measurements& layoutRow, RunningProgram& program, RowWay& route, bool node)
 {
-    const std::string bei = knoten ? "Knoten on" : "Knoten off";
-    programm.session().Tree.Knoten = knoten;
-    QAbstractItemView& gitter = programm.gitter(BAUTEILE);
-    Malwaechter waechter(gitter);
-    std::size_t ziel = 0;
-    const auto pruefe = [&] {
-        if (gitter.currentIndex().row() != static_cast<int>(ziel))
-            throw std::runtime_error(fmt::format("the grid is not on row {}", ziel));
+    const std::string at = node ? "Knoten on" : "Knoten off";
+    program.session().Tree.Node = node;
+    QAbstractItemView& grid = program.grid(PARTS);
+    PaintWatch slotGuard(grid);
+    std::size_t target = 0;
+    const auto check = [&] {
+        if (grid.currentIndex().row() != static_cast<int>(target))
+            throw std::runtime_error(fmt::format("the grid is not on row {}", target));
     };
-    const auto zuZeile = [&] {
-        gitter.setCurrentIndex(gitter.model()->index(static_cast<int>(ziel), 0));
-        waechter.warte();
+    const auto toRow = [&] {
+        grid.setCurrentIndex(grid.model()->index(static_cast<int>(target), 0));
+        slotGuard.wait();
     };
-    ziel = weg.irgendeine();
-    zuZeile();
-    reihe.begrenze("program: next row by key, painted, " + bei, 5,
-                   {[&] {
-                        programm.druecke(Qt::Key_Down);
-                        waechter.warte();
-                    },
-                    [&] {
-                        pruefe();
-                        ziel = weg.naechste();
-                    },
-                    ZEILENWECHSEL});
-    pruefe();
-    reihe.begrenze("program: row anywhere, painted, " + bei, 5,
-                   {zuZeile, [&] { ziel = weg.irgendeine(); }, ZEILENWECHSEL});
+    target = route.any();
+    toRow();
+    layoutRow.limit("program: next row by key, painted, " + at, 5,
+                    {[&] {
+                         program.press(Qt::Key_Down);
+                         slotGuard.wait();
+                     },
+                     [&] {
+                         check();
+                         target = route.next();
+                     },
+                     ROW_CHANGE});
+    check();
+    layoutRow.limit("program: row anywhere, painted, " + at, 5, {toRow, [&] { target = route.any(); }, ROW_CHANGE});
 }
 
 } // namespace
 
-void messeProgramm(Messreihe& reihe, const std::filesystem::path& datei)
+void measureProgram(Measurements& layoutRow, const std::filesystem::path& file)
 {
-    LaufendesProgramm programm(datei);
-    messeOeffnen(reihe, programm, datei);
-    messeTabwechsel(reihe, programm);
-    Zeilenweg weg(programm, datei);
-    for (const bool knoten : {true, false})
-        messeZeilenwechsel(reihe, programm, weg, knoten);
+    RunningProgram program(file);
+    measureOpen(layoutRow, program, file);
+    measureTabChange(layoutRow, program);
+    RowWay route(program, file);
+    for (const bool node : {true, false})
+        measureRowChange(layoutRow, program, route, node);
 }
 
 } // namespace quelvarn::bench

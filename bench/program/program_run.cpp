@@ -8,17 +8,17 @@
 
 namespace quelvarn::bench {
 
-void messeFenster(Messreihe& reihe, const std::filesystem::path& datei, int qtLaeufe)
+void measureWindow(Measurements& layoutRow, const std::filesystem::path& file, int qtRuns)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     char name[] = "quelvarn-bench";
-    char* argumente[] = {name, nullptr};
-    int anzahl = 1;
-    const QApplication anwendung(anzahl, argumente);
-    messeProgramm(reihe, datei);
-    if (qtLaeufe > 0)
-        messeListen(reihe, datei, qtLaeufe);
+    char* arguments[] = {name, nullptr};
+    int count = 1;
+    const QApplication application(count, arguments);
+    measureProgram(layoutRow, file);
+    if (qtRuns > 0)
+        measureLists(layoutRow, file, qtRuns);
 }
 
 } // namespace quelvarn::bench

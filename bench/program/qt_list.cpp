@@ -11,11 +11,11 @@ namespace quelvarn::bench {
 
 namespace {
 
-const QString TREIBER = QStringLiteral("QSQLITE");
-const QString VERBINDUNG = QStringLiteral("bench");
+const QString DRIVER = QStringLiteral("QSQLITE");
+const QString CONNECTION = QStringLiteral("bench");
 
 // The model itself orders by one column only.
-class Listenmodell : public QSqlTableModel
+class ListModel : public QSqlTableModel
 {
 public:
     using QSqlTableModel::QSqlTableModel;
@@ -26,83 +26,83 @@ protected:
 
 } // namespace
 
-QtListe::QtListe(const std::filesystem::path& kopie) : datenbank_(QSqlDatabase::addDatabase(TREIBER, VERBINDUNG))
+QtList::QtList(const std::filesystem::path& copy) : database_(QSqlDatabase::addDatabase(DRIVER, CONNECTION))
 {
-    datenbank_.setDatabaseName(QString::fromStdString(kopie.string()));
-    if (!datenbank_.open())
-        throw std::runtime_error("Qt cannot open " + kopie.string());
-    ansicht_.resize(FENSTER);
-    ansicht_.setWordWrap(false);
-    ansicht_.setSelectionBehavior(QAbstractItemView::SelectRows);
-    ansicht_.show();
+    database_.setDatabaseName(QString::fromStdString(copy.string()));
+    if (!database_.open())
+        throw std::runtime_error("Qt cannot open " + copy.string());
+    view_.resize(WINDOW);
+    view_.setWordWrap(false);
+    view_.setSelectionBehavior(QAbstractItemView::SelectRows);
+    view_.show();
 }
 
-QtListe::~QtListe()
+QtList::~QtList()
 {
-    schliesse();
-    datenbank_ = {};
-    QSqlDatabase::removeDatabase(VERBINDUNG);
+    close();
+    database_ = {};
+    QSqlDatabase::removeDatabase(CONNECTION);
 }
 
-bool QtListe::gibtEs()
+bool QtList::existsIn()
 {
-    return QSqlDatabase::isDriverAvailable(TREIBER);
+    return QSqlDatabase::isDriverAvailable(DRIVER);
 }
 
-void QtListe::oeffne()
+void QtList::open()
 {
-    tabelle_ = std::make_unique<Listenmodell>(nullptr, datenbank_);
-    tabelle_->setTable(QStringLiteral("PartTabelle"));
-    if (!tabelle_->select())
-        throw std::runtime_error(tabelle_->lastError().text().toStdString());
-    while (tabelle_->canFetchMore())
-        tabelle_->fetchMore();
-    waehleAus({}, 0);
+    table_ = std::make_unique<ListModel>(nullptr, database_);
+    table_->setTable(QStringLiteral("PartTabelle"));
+    if (!table_->select())
+        throw std::runtime_error(table_->lastError().text().toStdString());
+    while (table_->canFetchMore())
+        table_->fetchMore();
+    choose({}, 0);
 }
 
-void QtListe::schliesse()
+void QtList::close()
 {
-    ansicht_.setModel(nullptr);
-    auswahl_.reset();
-    tabelle_.reset();
+    view_.setModel(nullptr);
+    selection_.reset();
+    table_.reset();
 }
 
-void QtListe::filtere(const std::string& spalte, const std::string& text)
+void QtList::filter(const std::string& column, const std::string& text)
 {
-    waehleAus(QString::fromStdString(text), tabelle_->fieldIndex(QString::fromStdString(spalte)));
+    choose(QString::fromStdString(text), table_->fieldIndex(QString::fromStdString(column)));
 }
 
-void QtListe::sortiere(const std::string& spalte)
+void QtList::sort(const std::string& column)
 {
-    if (spalte.empty())
-        return waehleAus({}, 0);
-    auswahl_->sort(tabelle_->fieldIndex(QString::fromStdString(spalte)));
-    maler_.warte();
+    if (column.empty())
+        return choose({}, 0);
+    selection_->sort(table_->fieldIndex(QString::fromStdString(column)));
+    painter_.wait();
 }
 
-void QtListe::waehleAus(const QString& text, int spalte)
+void QtList::choose(const QString& text, int column)
 {
-    auto auswahl = std::make_unique<QSortFilterProxyModel>();
-    auswahl->setFilterKeyColumn(spalte);
-    auswahl->setFilterRegularExpression(
+    auto selection = std::make_unique<QSortFilterProxyModel>();
+    selection->setFilterKeyColumn(column);
+    selection->setFilterRegularExpression(
         QRegularExpression(QRegularExpression::escape(text), QRegularExpression::CaseInsensitiveOption));
-    auswahl->setSourceModel(tabelle_.get());
-    ansicht_.setModel(auswahl.get());
-    auswahl_ = std::move(auswahl);
-    maler_.warte();
+    selection->setSourceModel(table_.get());
+    view_.setModel(selection.get());
+    selection_ = std::move(selection);
+    painter_.wait();
 }
 
-void QtListe::zeigeZeile(int zeile)
+void QtList::showRow(int row)
 {
-    const QModelIndex stelle = auswahl_->index(zeile, 0);
-    const QSqlRecord felder = tabelle_->record(auswahl_->mapToSource(stelle).row());
-    qsizetype laenge = 0;
-    for (int feld = 0; feld < felder.count(); ++feld)
-        laenge += felder.value(feld).toString().size();
-    if (laenge == 0)
+    const QModelIndex position = selection_->index(row, 0);
+    const QSqlRecord fields = table_->record(selection_->mapToSource(position).row());
+    qsizetype length = 0;
+    for (int field = 0; field < fields.count(); ++field)
+        length += fields.value(field).toString().size();
+    if (length == 0)
         throw std::runtime_error("Qt reads empty rows");
-    ansicht_.setCurrentIndex(stelle);
-    maler_.warte();
+    view_.setCurrentIndex(position);
+    painter_.wait();
 }
 
 } // namespace quelvarn::bench

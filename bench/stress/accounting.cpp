@@ -21,18 +21,18 @@ using Column = std::pair<const char*, std::string>;
 Rows read(Engine& engine, const char* table, std::vector<std::string> columns, const std::vector<Column>& where)
 {
     sql::Select select;
-    select.tabelle = table;
-    select.spalten = std::move(columns);
-    sql::Und all;
+    select.table = table;
+    select.columns = std::move(columns);
+    sql::And all;
     for (const Column& column : where)
-        all.teile.push_back(sql::equal(column.first, column.second));
-    select.where = std::make_unique<sql::Ausdruck>(sql::Ausdruck{std::move(all)});
+        all.parts.push_back(sql::equal(column.first, column.second));
+    select.where = std::make_unique<sql::Expression>(sql::Expression{std::move(all)});
     Rows rows;
-    const auto reader = engine.lese(select, MitSchluessel::Nein);
+    const auto reader = engine.read(select, WithKey::No);
     while (reader->next()) {
         Row& row = rows.emplace_back();
-        for (std::size_t i = 0; i < reader->spalten().size(); ++i)
-            row.push_back(alsText(reader->wert(i)));
+        for (std::size_t i = 0; i < reader->columns().size(); ++i)
+            row.push_back(asText(reader->value(i)));
     }
     return rows;
 }

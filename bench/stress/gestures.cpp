@@ -22,13 +22,13 @@ std::string favouriteOf(long turn, int number)
 
 void countUp(SessionState& session)
 {
-    IniZeilen ini(session.database.Verbindung);
-    Recordset row = ini.zeilen(session.user.Anwender, COUNTER_GROUP);
-    if (row.leer())
-        ini.fuegeAn({session.user.Anwender, COUNTER_GROUP, "", "1"});
+    IniRows ini(session.database.connection);
+    Recordset row = ini.rows(session.user.Anwender, COUNTER_GROUP);
+    if (row.empty())
+        ini.append({session.user.Anwender, COUNTER_GROUP, "", "1"});
     else
-        ini.aendere(row, "Feld4", std::to_string(std::stoll(row.Text("Feld4")) + 1));
-    ini.schliesseAb();
+        ini.update(row, "Feld4", std::to_string(std::stoll(row.Text("Feld4")) + 1));
+    ini.commit();
 }
 
 Recordset openUses(SessionState& session, long turn)
@@ -37,7 +37,7 @@ Recordset openUses(SessionState& session, long turn)
     rows.Open(sql::Query("CheckInOut")
                   .where(sql::all(sql::equal("ADNutzer", 1), sql::equal("AnwenderNutzer", session.user.Anwender),
                                   sql::equal("filenameNutzer", fileOf(session.user.Anwender, turn)))),
-              session.database.Verbindung, CursorTyp::Schluesselmenge, SperrTyp::Optimistisch);
+              session.database.connection, CursorType::KeySet, LockType::Optimistic);
     return rows;
 }
 
@@ -45,11 +45,11 @@ void checkOut(SessionState& session, long turn)
 {
     Recordset rows = openUses(session, turn);
     rows.AddNew();
-    rows.setzeFeld("ADNutzer", std::int64_t{1});
-    rows.setzeFeld("AnwenderNutzer", session.user.Anwender);
-    rows.setzeFeld("RechnerNutzer", session.user.Anwender);
-    rows.setzeFeld("filenameNutzer", fileOf(session.user.Anwender, turn));
-    rows.setzeFeld("DokuBezNutzer", documentOf(turn));
+    rows.setField("ADNutzer", std::int64_t{1});
+    rows.setField("AnwenderNutzer", session.user.Anwender);
+    rows.setField("RechnerNutzer", session.user.Anwender);
+    rows.setField("filenameNutzer", fileOf(session.user.Anwender, turn));
+    rows.setField("DokuBezNutzer", documentOf(turn));
     rows.Update();
 }
 
@@ -58,47 +58,47 @@ void checkIn(SessionState& session, long turn)
 {
     Recordset rows = openUses(session, turn);
     if (rows.RecordCount() > 1)
-        throw Laufzeitfehler(1, "stress",
-                             fmt::format("{} rows of {}", rows.RecordCount(), fileOf(session.user.Anwender, turn)));
-    if (!rows.leer())
+        throw RuntimeError(1, "stress",
+                           fmt::format("{} rows of {}", rows.RecordCount(), fileOf(session.user.Anwender, turn)));
+    if (!rows.empty())
         rows.Delete();
 }
 
 void saveTexts(SessionState& session, long turn)
 {
-    IniZeilen ini(session.database.Verbindung);
-    Recordset old = ini.zeilen(session.user.Anwender, TEXT_GROUP);
-    ini.loesche(old);
+    IniRows ini(session.database.connection);
+    Recordset old = ini.rows(session.user.Anwender, TEXT_GROUP);
+    ini.remove(old);
     for (int i = 0; i < TEXTS; ++i)
-        ini.fuegeAn({session.user.Anwender, TEXT_GROUP, fmt::format("Text{}", i), std::to_string(turn)});
-    ini.schliesseAb();
+        ini.append({session.user.Anwender, TEXT_GROUP, fmt::format("Text{}", i), std::to_string(turn)});
+    ini.commit();
 }
 
 void saveSwitches(SessionState& session, long turn)
 {
-    IniZeilen ini(session.database.Verbindung);
-    Recordset rows = ini.zeilen(session.user.Anwender, SWITCH_GROUP);
-    for (int i = 0; rows.leer() && i < SWITCHES; ++i)
-        ini.fuegeAn({session.user.Anwender, SWITCH_GROUP, fmt::format("Schalter{}", i), std::to_string(turn)});
+    IniRows ini(session.database.connection);
+    Recordset rows = ini.rows(session.user.Anwender, SWITCH_GROUP);
+    for (int i = 0; rows.empty() && i < SWITCHES; ++i)
+        ini.append({session.user.Anwender, SWITCH_GROUP, fmt::format("Schalter{}", i), std::to_string(turn)});
     for (; !rows.Eof(); rows.MoveNext())
-        ini.aendere(rows, "Feld4", std::to_string(turn));
-    ini.schliesseAb();
+        ini.update(rows, "Feld4", std::to_string(turn));
+    ini.commit();
 }
 
 void addFavourites(SessionState& session, long turn)
 {
-    Transaktion transaction(session.database.Verbindung);
+    Transaction transaction(session.database.connection);
     for (int i = 0; i < FAVOURITES; ++i)
-        schreibeFavorit(session, DOKUTYPEN[0], {favouriteOf(turn, i), "0"});
-    transaction.schliesseAb();
+        writeFavourite(session, DOCUMENT_TYPES[0], {favouriteOf(turn, i), "0"});
+    transaction.commit();
 }
 
 void removeFavourites(SessionState& session, long turn)
 {
-    std::vector<Favorit> favourites;
+    std::vector<Favourite> favourites;
     for (int i = 0; i < FAVOURITES; ++i)
         favourites.push_back({favouriteOf(turn, i), "0"});
-    loescheFavoriten(session, DOKUTYPEN[0], favourites);
+    removeFavourites(session, DOCUMENT_TYPES[0], favourites);
 }
 
 } // namespace

@@ -59,7 +59,7 @@ std::optional<Options> readOptions(int argc, char** argv)
 Connection open(const Options& options)
 {
     Connection connection;
-    connection.OpenAdresse(options.target);
+    connection.openAddress(options.target);
     return connection;
 }
 
@@ -69,13 +69,13 @@ bool makeWhereMissing(const Options& options)
     if (options.target.find("://") == std::string::npos) {
         if (std::filesystem::exists(options.target))
             return false;
-        legeRegisterAn(*oeffneSqlite(options.target, true));
+        createRegister(*openSqlite(options.target, true));
         return true;
     }
     const Connection connection = open(options);
-    if (connection.engine().findTabelle("Ini"))
+    if (connection.engine().findTable("Ini"))
         return false;
-    legeRegisterAn(connection.engine());
+    createRegister(connection.engine());
     return true;
 }
 
@@ -86,8 +86,8 @@ void removeMade(const Options& options)
         return;
     }
     const Connection connection = open(options);
-    for (const Tabellenschema& table : registerschema())
-        connection.engine().entferneTabelle(table.name);
+    for (const TableSchema& table : registerSchema())
+        connection.engine().removeTable(table.name);
 }
 
 void removeTraces(const Options& options)

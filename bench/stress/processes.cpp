@@ -32,13 +32,13 @@ void takeTurns(const Options& options, int process, const std::filesystem::path&
     Ledger ledger(file);
     SessionState session;
     session.user.Anwender = userOf(process);
-    session.database.Verbindung.OpenAdresse(options.target);
+    session.database.connection.openAddress(options.target);
     const std::string neighbour = userOf((process + 1) % options.processes);
     for (; Clock::now() < end; ++turn) {
         ledger.begin(turn);
         const auto begin = Clock::now();
         perform(session, turn);
-        if (!isWhole(session.database.Verbindung.engine(), neighbour))
+        if (!isWhole(session.database.connection.engine(), neighbour))
             throw std::runtime_error("half of what " + neighbour + " wrote is to be seen");
         ledger.done(turn, std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - begin));
     }

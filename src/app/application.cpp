@@ -7,35 +7,35 @@
 
 namespace quelvarn {
 
-Anwendung::Anwendung(int& argc, char** argv) : QApplication(argc, argv)
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("Quelvarn"));
     setDesktopFileName(QStringLiteral("quelvarn"));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    ladeQtTexte();
+    loadQtTexts();
 }
 
 // A packed program carries the texts of all of Qt's libraries in one file, under another name.
-void Anwendung::ladeQtTexte()
+void Application::loadQtTexts()
 {
-    const QString ordner[] = {QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+    const QString folder[] = {QLibraryInfo::path(QLibraryInfo::TranslationsPath),
                               applicationDirPath() + QStringLiteral("/translations")};
     for (const QString& name : {QStringLiteral("qtbase_de"), QStringLiteral("qt_de")}) {
-        if (qtTexte_.load(name, ordner[0]) || qtTexte_.load(name, ordner[1])) {
-            installTranslator(&qtTexte_);
+        if (qtTexts_.load(name, folder[0]) || qtTexts_.load(name, folder[1])) {
+            installTranslator(&qtTexts_);
             return;
         }
     }
 }
 
 // Slots are guarded one by one; this is the net under what is not a slot, such as drawing.
-bool Anwendung::notify(QObject* empfaenger, QEvent* ereignis)
+bool Application::notify(QObject* receiver, QEvent* event)
 {
-    bool angenommen = false;
-    if (!Waechter::gibtEs())
-        return QApplication::notify(empfaenger, ereignis);
-    Waechter::aktuell().fuehreAus([&] { angenommen = QApplication::notify(empfaenger, ereignis); });
-    return angenommen;
+    bool accepted = false;
+    if (!SlotGuard::existsIn())
+        return QApplication::notify(receiver, event);
+    SlotGuard::current().execute([&] { accepted = QApplication::notify(receiver, event); });
+    return accepted;
 }
 
 } // namespace quelvarn

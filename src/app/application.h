@@ -6,19 +6,19 @@
 namespace quelvarn {
 
 // The desktop application: German texts in Qt's own dialogs, and no exception that reaches the event loop.
-class Anwendung : public QApplication
+class Application : public QApplication
 {
     Q_OBJECT
 
 public:
-    Anwendung(int& argc, char** argv);
+    Application(int& argc, char** argv);
 
-    bool notify(QObject* empfaenger, QEvent* ereignis) override;
+    bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    void ladeQtTexte();
+    void loadQtTexts();
 
-    QTranslator qtTexte_;
+    QTranslator qtTexts_;
 };
 
 } // namespace quelvarn

@@ -45,14 +45,14 @@ constexpr std::array<QtOption, 22> QT_OPTIONS{{
     {"sync", false},   {"widgetcount", false},
 }};
 
-Answer refusal(std::string_view what, const QString& word)
+Reply refusal(std::string_view what, const QString& word)
 {
     return {fmt::format("quelvarn: {}: {}\n{}Mehr mit: quelvarn --help\n", what, word.toStdString(), CALL), WRONG_CALL};
 }
 
 } // namespace
 
-std::optional<Answer> answerTo(int argc, char** argv)
+std::optional<Reply> answerTo(int argc, char** argv)
 {
     QStringList words;
     for (int i = 0; i < argc; ++i)
@@ -69,9 +69,9 @@ std::optional<Answer> answerTo(int argc, char** argv)
 
     parser.parse(words);
     if (parser.isSet(help))
-        return Answer{fmt::format("{}{}", CALL, HELP)};
+        return Reply{fmt::format("{}{}", CALL, HELP)};
     if (parser.isSet(version))
-        return Answer{fmt::format("Quelvarn {}.{}.{}\n", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION)};
+        return Reply{fmt::format("Quelvarn {}.{}.{}\n", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION)};
     if (const QStringList unknown = parser.unknownOptionNames(); !unknown.isEmpty())
         return refusal("unbekannte Option", unknown.front());
     if (const QStringList others = parser.positionalArguments(); !others.isEmpty())

@@ -6,17 +6,17 @@
 namespace quelvarn {
 
 // What a call is answered with instead of a window.
-struct Answer
+struct Reply
 {
     std::string text;
     int exitCode = 0;
 };
 
 // Reads the call before there is a screen. Empty when the program is to start; options of Qt are left to Qt.
-std::optional<Answer> answerTo(int argc, char** argv);
+std::optional<Reply> answerTo(int argc, char** argv);
 
 // To whoever called the program: on the terminal, faults on its error output. On Windows in a box when there is no
 // terminal.
-void tellCaller(const Answer& answer);
+void tellCaller(const Reply& reply);
 
 } // namespace quelvarn

@@ -24,47 +24,47 @@ using namespace quelvarn;
 namespace {
 
 // The order of a program's end is settled before this; what is still in memory goes with the process.
-[[noreturn]] void beendeSofort()
+[[noreturn]] void endAtOnce()
 {
     std::_Exit(EXIT_SUCCESS);
 }
 
-int openWindow(Anwendung& anwendung)
+int openWindow(Application& application)
 {
-    Darstellung darstellung;
-    darstellung.wendeAn(anwendung);
+    Appearance appearance;
+    appearance.apply(application);
 
-    QtMeldungen meldungen;
-    QtZwischenablage zwischenablage;
-    QtFortschritt fortschritt;
+    QtBoxes boxes;
+    QtClipboard clipboard;
+    QtProgress progress;
     QtPatience patience;
-    const auto system = systemPorts(standardLaufwerkeOrdner());
-    Ports ports = system->mit(meldungen, zwischenablage, fortschritt);
+    const auto system = systemPorts(standardDrivesFolder());
+    Ports ports = system->with(boxes, clipboard, progress);
     SessionState session;
-    session.database.Verbindung.setPatience(&patience);
+    session.database.connection.setPatience(&patience);
 
-    Waechter waechter(meldungen, beendeSofort);
-    ProgramEnd programEnd(meldungen, patience, fortschritt);
+    SlotGuard slotGuard(boxes, endAtOnce);
+    ProgramEnd programEnd(boxes, patience, progress);
     const EndSignals signals([&programEnd] { programEnd.request(); });
-    waechter.fuehreAus([&] {
-        const Sanduhr warten;
+    slotGuard.execute([&] {
+        const BusyCursor wait;
         Main(session, ports);
     });
-    Arbeitsplatz arbeitsplatz(session, ports, darstellung, beendeSofort);
-    programEnd.setWindow(arbeitsplatz.fenster(), [&arbeitsplatz] { arbeitsplatz.beende(); });
-    return arbeitsplatz.starte() ? Anwendung::exec() : EXIT_SUCCESS;
+    Workplace workplace(session, ports, appearance, endAtOnce);
+    programEnd.setWindow(workplace.window(), [&workplace] { workplace.end(); });
+    return workplace.start() ? Application::exec() : EXIT_SUCCESS;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (const std::optional<Answer> answer = answerTo(argc, argv)) {
-        tellCaller(*answer);
-        return answer->exitCode;
+    if (const std::optional<Reply> reply = answerTo(argc, argv)) {
+        tellCaller(*reply);
+        return reply->exitCode;
     }
     std::optional<ScreenWatch> screen(std::in_place);
-    Anwendung anwendung(argc, argv);
+    Application application(argc, argv);
     screen.reset();
-    return openWindow(anwendung);
+    return openWindow(application);
 }

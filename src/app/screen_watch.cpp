@@ -16,7 +16,7 @@ namespace {
 std::string reasons;
 QtMessageHandler usual = nullptr;
 
-void listen(QtMsgType type, const QMessageLogContext& context, const QString& text)
+void lists(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtDebugMsg)
         return usual(type, context, text);
@@ -34,7 +34,7 @@ void listen(QtMsgType type, const QMessageLogContext& context, const QString& te
 
 ScreenWatch::ScreenWatch()
 {
-    usual = qInstallMessageHandler(listen);
+    usual = qInstallMessageHandler(lists);
 }
 
 // Warnings that were not about the screen are told late, but told.

@@ -84,10 +84,10 @@ private:
             secondS_ = true;
             return {U's', 0};
         }
-        const Kollationszeichen* row = findKollationszeichen(character);
+        const CollationCharacter* row = findCollationCharacter(character);
         if (!row)
             return {character, 0};
-        return {row->basis < 0x80 ? asciiWeights[row->basis] : row->basis, row->akzent};
+        return {row->basis < 0x80 ? asciiWeights[row->basis] : row->basis, row->accent};
     }
 
     std::string_view text_;
@@ -141,10 +141,10 @@ std::string mapCharacters(std::string_view utf8, AsciiCase asciiCase, OtherCase 
 }
 
 // One column of the table; a character without a row stands for itself.
-auto column(char32_t Kollationszeichen::*member)
+auto column(char32_t CollationCharacter::*member)
 {
     return [member](char32_t character) {
-        const Kollationszeichen* row = findKollationszeichen(character);
+        const CollationCharacter* row = findCollationCharacter(character);
         return row ? row->*member : character;
     };
 }
@@ -197,24 +197,24 @@ bool equalText(std::string_view left, std::string_view right)
 
 std::string foldCase(std::string_view utf8)
 {
-    return mapCharacters(utf8, smallAscii, column(&Kollationszeichen::fold));
+    return mapCharacters(utf8, smallAscii, column(&CollationCharacter::fold));
 }
 
 char32_t foldCase(char32_t character)
 {
     if (character < 0x80)
         return static_cast<char32_t>(smallAscii(static_cast<char>(character)));
-    return column(&Kollationszeichen::fold)(character);
+    return column(&CollationCharacter::fold)(character);
 }
 
 std::string toUpper(std::string_view utf8)
 {
-    return mapCharacters(utf8, capitalAscii, column(&Kollationszeichen::gross));
+    return mapCharacters(utf8, capitalAscii, column(&CollationCharacter::large));
 }
 
 std::string toLower(std::string_view utf8)
 {
-    return mapCharacters(utf8, smallAscii, column(&Kollationszeichen::klein));
+    return mapCharacters(utf8, smallAscii, column(&CollationCharacter::small));
 }
 
 } // namespace quelvarn

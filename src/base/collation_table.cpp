@@ -8,7 +8,7 @@ namespace quelvarn {
 namespace {
 
 // clang-format off
-constexpr Kollationszeichen zeichen[] = {
+constexpr CollationCharacter characters[] = {
     {0xB5, 0x3BC, 0x39C, 0xB5, 0x3BC, 0}, {0xC0, 0xE0, 0xC0, 0xE0, 0x61, 1}, {0xC1, 0xE1, 0xC1, 0xE1, 0x61, 3}, {0xC2, 0xE2, 0xC2, 0xE2, 0x61, 6},
     {0xC3, 0xE3, 0xC3, 0xE3, 0x61, 11}, {0xC4, 0xE4, 0xC4, 0xE4, 0x61, 26}, {0xC5, 0xE5, 0xC5, 0xE5, 0x61, 33}, {0xC6, 0xE6, 0xC6, 0xE6, 0xE6, 0},
     {0xC7, 0xE7, 0xC7, 0xE7, 0x63, 70}, {0xC8, 0xE8, 0xC8, 0xE8, 0x65, 1}, {0xC9, 0xE9, 0xC9, 0xE9, 0x65, 3}, {0xCA, 0xEA, 0xCA, 0xEA, 0x65, 6},
@@ -411,25 +411,25 @@ constexpr Kollationszeichen zeichen[] = {
 // clang-format on
 
 // For each character its place in the table plus 1.
-constexpr auto stellen = [] {
+constexpr auto positions = [] {
     std::array<std::uint16_t, 0xA800> result{};
-    for (std::size_t i = 0; i < std::size(zeichen); ++i)
-        result[zeichen[i].zeichen] = static_cast<std::uint16_t>(i + 1);
+    for (std::size_t i = 0; i < std::size(characters); ++i)
+        result[characters[i].character] = static_cast<std::uint16_t>(i + 1);
     return result;
 }();
 
 } // namespace
 
-std::span<const Kollationszeichen> kollationszeichen()
+std::span<const CollationCharacter> collationCharacters()
 {
-    return zeichen;
+    return characters;
 }
 
-const Kollationszeichen* findKollationszeichen(char32_t character)
+const CollationCharacter* findCollationCharacter(char32_t character)
 {
-    if (character >= stellen.size() || stellen[character] == 0)
+    if (character >= positions.size() || positions[character] == 0)
         return nullptr;
-    return &zeichen[stellen[character] - 1];
+    return &characters[positions[character] - 1];
 }
 
 } // namespace quelvarn

@@ -13,18 +13,18 @@ namespace {
 constexpr std::int64_t secondsADay = 86400;
 constexpr std::chrono::sys_days firstDay = std::chrono::year{1899} / 12 / 30;
 
-constexpr std::int64_t dayNumber(int jahr, unsigned monat, unsigned tag)
+constexpr std::int64_t dayNumber(int year, unsigned month, unsigned dayOfMonth)
 {
-    const std::chrono::sys_days day = std::chrono::year{jahr} / static_cast<int>(monat) / static_cast<int>(tag);
+    const std::chrono::sys_days day = std::chrono::year{year} / static_cast<int>(month) / static_cast<int>(dayOfMonth);
     return (day - firstDay).count();
 }
 
 constexpr auto smallestDay = static_cast<double>(dayNumber(100, 1, 1));
 constexpr auto largestDay = static_cast<double>(dayNumber(9999, 12, 31));
 
-std::int64_t dayOf(std::int64_t sekunden)
+std::int64_t dayOf(std::int64_t seconds)
 {
-    return sekunden / secondsADay - (sekunden % secondsADay < 0 ? 1 : 0);
+    return seconds / secondsADay - (seconds % secondsADay < 0 ? 1 : 0);
 }
 
 // Reads a text from left to right.
@@ -76,21 +76,21 @@ private:
 };
 
 // hh:mm or hh:mm:ss
-bool readTime(Reader& reader, Kalenderzeit& zeit)
+bool readTime(Reader& reader, CalendarTime& time)
 {
-    const auto stunde = reader.number(1, 2);
-    if (!stunde || !reader.take(':'))
+    const auto hour = reader.number(1, 2);
+    if (!hour || !reader.take(':'))
         return false;
     const auto minute = reader.number(2, 2);
     if (!minute)
         return false;
-    zeit.stunde = *stunde;
-    zeit.minute = *minute;
+    time.hour = *hour;
+    time.minute = *minute;
     if (!reader.take(':'))
         return true;
-    const auto sekunde = reader.number(2, 2);
-    zeit.sekunde = sekunde.value_or(0);
-    return sekunde.has_value();
+    const auto second = reader.number(2, 2);
+    time.second = second.value_or(0);
+    return second.has_value();
 }
 
 // Half a second and more counts as a whole one. False when something else than digits follows the point.
@@ -103,35 +103,35 @@ bool readFraction(Reader& reader, bool& roundUp)
     return !digits.empty() && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-std::optional<Zeitpunkt> whenValid(const Kalenderzeit& zeit)
+std::optional<DateTime> whenValid(const CalendarTime& time)
 {
-    return istGueltig(zeit) ? std::optional(Zeitpunkt::aus(zeit)) : std::nullopt;
+    return isValid(time) ? std::optional(DateTime::out(time)) : std::nullopt;
 }
 
 } // namespace
 
-Zeitpunkt Zeitpunkt::aus(const Kalenderzeit& zeit)
+DateTime DateTime::out(const CalendarTime& time)
 {
-    const std::int64_t day = dayNumber(zeit.jahr, static_cast<unsigned>(zeit.monat), static_cast<unsigned>(zeit.tag));
-    const int timeOfDay = zeit.stunde * 3600 + zeit.minute * 60 + zeit.sekunde;
+    const std::int64_t day = dayNumber(time.year, static_cast<unsigned>(time.month), static_cast<unsigned>(time.day));
+    const int timeOfDay = time.hour * 3600 + time.minute * 60 + time.second;
     return {day * secondsADay + timeOfDay};
 }
 
-Zeitpunkt Zeitpunkt::ausTagen(double tage)
+DateTime DateTime::fromDays(double days)
 {
-    if (!(tage >= smallestDay - 1))
-        tage = std::isnan(tage) ? 0 : smallestDay;
-    if (tage >= largestDay + 1)
+    if (!(days >= smallestDay - 1))
+        days = std::isnan(days) ? 0 : smallestDay;
+    if (days >= largestDay + 1)
         return {static_cast<std::int64_t>(largestDay + 1) * secondsADay - 1};
     double day = 0;
-    const double timeOfDay = std::fabs(std::modf(tage, &day));
+    const double timeOfDay = std::fabs(std::modf(days, &day));
     return {static_cast<std::int64_t>(day) * secondsADay + std::llround(timeOfDay * secondsADay)};
 }
 
-Kalenderzeit Zeitpunkt::kalender() const
+CalendarTime DateTime::calendar() const
 {
-    const std::int64_t day = dayOf(sekunden);
-    const auto rest = static_cast<int>(sekunden - day * secondsADay);
+    const std::int64_t day = dayOf(seconds);
+    const auto rest = static_cast<int>(seconds - day * secondsADay);
     const std::chrono::year_month_day date{firstDay + std::chrono::days{day}};
     return {static_cast<int>(date.year()),
             static_cast<int>(static_cast<unsigned>(date.month())),
@@ -141,118 +141,118 @@ Kalenderzeit Zeitpunkt::kalender() const
             rest % 60};
 }
 
-double Zeitpunkt::alsTage() const
+double DateTime::asDays() const
 {
-    const std::int64_t day = dayOf(sekunden);
-    const double timeOfDay = static_cast<double>(sekunden - day * secondsADay) / secondsADay;
+    const std::int64_t day = dayOf(seconds);
+    const double timeOfDay = static_cast<double>(seconds - day * secondsADay) / secondsADay;
     return static_cast<double>(day) + (day < 0 ? -timeOfDay : timeOfDay);
 }
 
-Zeitpunkt Zeitpunkt::tagesbeginn() const
+DateTime DateTime::startOfDay() const
 {
-    return {dayOf(sekunden) * secondsADay};
+    return {dayOf(seconds) * secondsADay};
 }
 
-bool istGueltig(const Kalenderzeit& zeit)
+bool isValid(const CalendarTime& time)
 {
-    if (zeit.jahr < 100 || zeit.jahr > 9999 || zeit.monat < 1 || zeit.tag < 1)
+    if (time.year < 100 || time.year > 9999 || time.month < 1 || time.day < 1)
         return false;
-    const bool day = (std::chrono::year{zeit.jahr} / zeit.monat / zeit.tag).ok();
-    return day && zeit.stunde >= 0 && zeit.stunde < 24 && zeit.minute >= 0 && zeit.minute < 60 && zeit.sekunde >= 0 &&
-           zeit.sekunde < 60;
+    const bool day = (std::chrono::year{time.year} / time.month / time.day).ok();
+    return day && time.hour >= 0 && time.hour < 24 && time.minute >= 0 && time.minute < 60 && time.second >= 0 &&
+           time.second < 60;
 }
 
-std::string formatDatum(Zeitpunkt zeit)
+std::string formatDate(DateTime time)
 {
-    const Kalenderzeit k = zeit.kalender();
-    return fmt::format("{:02}.{:02}.{:02}", k.tag, k.monat, k.jahr % 100);
+    const CalendarTime k = time.calendar();
+    return fmt::format("{:02}.{:02}.{:02}", k.day, k.month, k.year % 100);
 }
 
-std::string formatDatumLang(Zeitpunkt zeit)
+std::string formatLongDate(DateTime time)
 {
-    const Kalenderzeit k = zeit.kalender();
-    return fmt::format("{:02}.{:02}.{:04}", k.tag, k.monat, k.jahr);
+    const CalendarTime k = time.calendar();
+    return fmt::format("{:02}.{:02}.{:04}", k.day, k.month, k.year);
 }
 
-std::string formatDatumUhrzeit(Zeitpunkt zeit)
+std::string formatDateTimeOfDay(DateTime time)
 {
-    const Kalenderzeit k = zeit.kalender();
-    return fmt::format("{} {:02}:{:02}", formatDatum(zeit), k.stunde, k.minute);
+    const CalendarTime k = time.calendar();
+    return fmt::format("{} {:02}:{:02}", formatDate(time), k.hour, k.minute);
 }
 
-std::string formatDatumSekunden(Zeitpunkt zeit)
+std::string formatDateSeconds(DateTime time)
 {
-    return fmt::format("{}:{:02}", formatDatumUhrzeit(zeit), zeit.kalender().sekunde);
+    return fmt::format("{}:{:02}", formatDateTimeOfDay(time), time.calendar().second);
 }
 
-std::string alsText(Zeitpunkt zeit)
+std::string asText(DateTime time)
 {
-    if (zeit == zeit.tagesbeginn())
-        return formatDatumLang(zeit);
-    const Kalenderzeit k = zeit.kalender();
-    return fmt::format("{} {:02}:{:02}:{:02}", formatDatumLang(zeit), k.stunde, k.minute, k.sekunde);
+    if (time == time.startOfDay())
+        return formatLongDate(time);
+    const CalendarTime k = time.calendar();
+    return fmt::format("{} {:02}:{:02}:{:02}", formatLongDate(time), k.hour, k.minute, k.second);
 }
 
-std::string formatIso(Zeitpunkt zeit)
+std::string formatIso(DateTime time)
 {
-    const Kalenderzeit k = zeit.kalender();
-    return fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}", k.jahr, k.monat, k.tag, k.stunde, k.minute, k.sekunde);
+    const CalendarTime k = time.calendar();
+    return fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}", k.year, k.month, k.day, k.hour, k.minute, k.second);
 }
 
-std::optional<Zeitpunkt> parseDatum(std::string_view text)
+std::optional<DateTime> parseDate(std::string_view text)
 {
     Reader reader(trim(text));
-    Kalenderzeit zeit;
-    const auto tag = reader.number(1, 2);
+    CalendarTime time;
+    const auto day = reader.number(1, 2);
     const char separator = reader.takeOneOf("./-");
-    const auto monat = reader.number(1, 2);
-    if (!tag || !separator || !monat || !reader.take(separator))
+    const auto month = reader.number(1, 2);
+    if (!day || !separator || !month || !reader.take(separator))
         return std::nullopt;
-    const auto jahr = reader.number(2, 4);
-    if (!jahr || reader.digitsOfNumber() == 3)
+    const auto year = reader.number(2, 4);
+    if (!year || reader.digitsOfNumber() == 3)
         return std::nullopt;
-    zeit.tag = *tag;
-    zeit.monat = *monat;
-    zeit.jahr = reader.digitsOfNumber() == 2 ? vierstelligesJahr(*jahr) : *jahr;
+    time.day = *day;
+    time.month = *month;
+    time.year = reader.digitsOfNumber() == 2 ? fourDigitYear(*year) : *year;
     if (reader.take(' ')) {
         while (reader.take(' ')) {
         }
-        if (!readTime(reader, zeit))
+        if (!readTime(reader, time))
             return std::nullopt;
     }
-    return reader.atEnd() ? whenValid(zeit) : std::nullopt;
+    return reader.atEnd() ? whenValid(time) : std::nullopt;
 }
 
-std::optional<Zeitpunkt> parseIso(std::string_view text)
+std::optional<DateTime> parseIso(std::string_view text)
 {
     Reader reader(trim(text));
-    Kalenderzeit zeit;
-    const auto jahr = reader.number(4, 4);
+    CalendarTime time;
+    const auto year = reader.number(4, 4);
     const bool firstDash = reader.take('-');
-    const auto monat = reader.number(2, 2);
+    const auto month = reader.number(2, 2);
     const bool secondDash = reader.take('-');
-    const auto tag = reader.number(2, 2);
-    if (!jahr || !firstDash || !monat || !secondDash || !tag)
+    const auto day = reader.number(2, 2);
+    if (!year || !firstDash || !month || !secondDash || !day)
         return std::nullopt;
-    zeit.jahr = *jahr;
-    zeit.monat = *monat;
-    zeit.tag = *tag;
+    time.year = *year;
+    time.month = *month;
+    time.day = *day;
     if (reader.atEnd())
-        return whenValid(zeit);
+        return whenValid(time);
     bool roundUp = false;
-    if (!reader.takeOneOf(" T") || !readTime(reader, zeit))
+    if (!reader.takeOneOf(" T") || !readTime(reader, time))
         return std::nullopt;
     if (!reader.atEnd() && !(reader.rest().front() == '.' && readFraction(reader, roundUp)))
         return std::nullopt;
-    const auto result = whenValid(zeit);
-    return result && roundUp ? result->plusSekunden(1) : result;
+    const auto result = whenValid(time);
+    return result && roundUp ? result->plusSeconds(1) : result;
 }
 
-int vierstelligesJahr(int jahr)
+int fourDigitYear(int year)
 {
-    if (jahr < 0 || jahr > 99)
-        return jahr;
-    return jahr < 30 ? 2000 + jahr : 1900 + jahr;
+    if (year < 0 || year > 99)
+        return year;
+    return year < 30 ? 2000 + year : 1900 + year;
 }
 
 } // namespace quelvarn

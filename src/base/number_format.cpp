@@ -23,20 +23,20 @@ std::string withThousands(std::string digits)
 }
 
 // Rounds as on paper: a five goes up, also where the binary number lies a hair below it (2,675).
-double rounded(double zahl, int nachkommastellen)
+double rounded(double number, int decimals)
 {
-    const double scale = std::pow(10.0, nachkommastellen);
-    const double scaled = zahl * scale;
+    const double scale = std::pow(10.0, decimals);
+    const double scaled = number * scale;
     if (!(std::fabs(scaled) < 1e15))
-        return zahl;
+        return number;
     return std::round(scaled * (1 + 4 * std::numeric_limits<double>::epsilon())) / scale;
 }
 
 // A number that rounds to zero has no sign.
-std::string fixed(double zahl, int nachkommastellen)
+std::string fixed(double number, int decimals)
 {
-    zahl = rounded(zahl, nachkommastellen);
-    std::string text = fmt::format("{:.{}f}", zahl, nachkommastellen);
+    number = rounded(number, decimals);
+    std::string text = fmt::format("{:.{}f}", number, decimals);
     if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos)
         text.erase(0, 1);
     return text;
@@ -74,14 +74,14 @@ bool takeWholePart(std::string_view& text, std::string& target)
 
 } // namespace
 
-std::string formatGanzzahl(std::int64_t zahl)
+std::string formatInteger(std::int64_t number)
 {
-    return withThousands(fmt::format("{}", zahl));
+    return withThousands(fmt::format("{}", number));
 }
 
-std::string formatKomma(double zahl, int nachkommastellen)
+std::string formatComma(double number, int decimals)
 {
-    const std::string text = fixed(zahl, nachkommastellen);
+    const std::string text = fixed(number, decimals);
     const std::size_t point = text.find('.');
     std::string result = withThousands(text.substr(0, point));
     if (point != std::string::npos)
@@ -89,17 +89,17 @@ std::string formatKomma(double zahl, int nachkommastellen)
     return result;
 }
 
-std::string formatSekunden(double sekunden)
+std::string formatSeconds(double seconds)
 {
-    return replaceAll(fixed(sekunden, 1), ".", ",");
+    return replaceAll(fixed(seconds, 1), ".", ",");
 }
 
-std::string zahlAlsText(double zahl)
+std::string numberAsText(double number)
 {
-    return replaceAll(replaceAll(fmt::format("{}", zahl), ".", ","), "e", "E");
+    return replaceAll(replaceAll(fmt::format("{}", number), ".", ","), "e", "E");
 }
 
-std::optional<double> parseZahl(std::string_view text)
+std::optional<double> parseNumber(std::string_view text)
 {
     text = trim(text);
     std::string number;
@@ -133,9 +133,9 @@ std::optional<double> parseZahl(std::string_view text)
     return value;
 }
 
-bool istZahl(std::string_view text)
+bool isNumber(std::string_view text)
 {
-    return parseZahl(text).has_value();
+    return parseNumber(text).has_value();
 }
 
 } // namespace quelvarn

@@ -4,8 +4,8 @@
 
 namespace quelvarn {
 
-Laufzeitfehler::Laufzeitfehler(int nummer, std::string quelle, const std::string& beschreibung)
-    : std::runtime_error(beschreibung), nummer_(nummer), quelle_(std::move(quelle))
+RuntimeError::RuntimeError(int number, std::string source, const std::string& description)
+    : std::runtime_error(description), number_(number), source_(std::move(source))
 {}
 
 } // namespace quelvarn

@@ -6,22 +6,22 @@
 namespace quelvarn {
 
 // The one exception type for faults of the outside world: what went wrong, and where it came from.
-class Laufzeitfehler : public std::runtime_error
+class RuntimeError : public std::runtime_error
 {
 public:
-    Laufzeitfehler(int nummer, std::string quelle, const std::string& beschreibung);
+    RuntimeError(int number, std::string source, const std::string& description);
 
-    int nummer() const { return nummer_; }
-    const std::string& quelle() const { return quelle_; }
-    std::string beschreibung() const { return what(); }
+    int number() const { return number_; }
+    const std::string& source() const { return source_; }
+    std::string description() const { return what(); }
 
 private:
-    int nummer_;
-    std::string quelle_;
+    int number_;
+    std::string source_;
 };
 
 // Raised when a person chose to end the program in an error report; only the program's entry catches it.
-class ProgrammEnde
+class ProgramExit
 {};
 
 } // namespace quelvarn

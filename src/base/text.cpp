@@ -58,7 +58,7 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
     return fmt::format("{}", fmt::join(parts, separator));
 }
 
-std::string zeilen(std::initializer_list<std::string_view> lines)
+std::string lines(std::initializer_list<std::string_view> lines)
 {
     return fmt::format("{}", fmt::join(lines, "\n"));
 }
@@ -68,33 +68,33 @@ bool startsWithIgnoringCase(std::string_view text, std::string_view start)
     return foldCase(leftCharacters(text, countCharacters(start))) == foldCase(start);
 }
 
-void SortiereTexte(std::vector<std::string>& texte)
+void SortiereTexte(std::vector<std::string>& texts)
 {
     std::vector<std::pair<std::string, std::string>> sorted;
-    sorted.reserve(texte.size());
-    for (std::string& text : texte) {
+    sorted.reserve(texts.size());
+    for (std::string& text : texts) {
         std::string upper = toUpper(text);
         sorted.emplace_back(std::move(upper), std::move(text));
     }
     std::sort(sorted.begin(), sorted.end());
-    for (std::size_t i = 0; i < texte.size(); ++i)
-        texte[i] = std::move(sorted[i].second);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        texts[i] = std::move(sorted[i].second);
 }
 
-std::string FeldGleichWert(std::string_view feld, std::string_view wert)
+std::string FeldGleichWert(std::string_view field, std::string_view value)
 {
-    return fmt::format("{} = '{}'", feld, wert);
+    return fmt::format("{} = '{}'", field, value);
 }
 
-std::string NameLike(std::string_view feld, std::string_view text)
+std::string NameLike(std::string_view field, std::string_view text)
 {
-    const bool dateifeld = feld == "Dateiname" || feld == "filename";
-    return fmt::format("{} Like '{}'", dateifeld ? feld : "DokuBez", text);
+    const bool fileField = field == "Dateiname" || field == "filename";
+    return fmt::format("{} Like '{}'", fileField ? field : "DokuBez", text);
 }
 
-std::string NameLikeNichtLeer(std::string_view feld, std::string_view text)
+std::string NameLikeNichtLeer(std::string_view field, std::string_view text)
 {
-    return text.empty() ? std::string() : NameLike(feld, text);
+    return text.empty() ? std::string() : NameLike(field, text);
 }
 
 } // namespace quelvarn

@@ -12,17 +12,17 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 std::vector<std::string> split(std::string_view text, char separator);
 std::string join(const std::vector<std::string>& parts, std::string_view separator);
 // Lines of a message box, joined with a line feed.
-std::string zeilen(std::initializer_list<std::string_view> lines);
+std::string lines(std::initializer_list<std::string_view> lines);
 bool startsWithIgnoringCase(std::string_view text, std::string_view start);
 
 // Sorts by the upper-case forms.
-void SortiereTexte(std::vector<std::string>& texte);
+void SortiereTexte(std::vector<std::string>& texts);
 
 // "Feld = 'Wert'": the value stands as it is.
-std::string FeldGleichWert(std::string_view feld, std::string_view wert);
+std::string FeldGleichWert(std::string_view field, std::string_view value);
 // "Dateiname Like '...'", "filename Like '...'", for any other field "DokuBez Like '...'".
-std::string NameLike(std::string_view feld, std::string_view text);
+std::string NameLike(std::string_view field, std::string_view text);
 // The same, "" for an empty text.
-std::string NameLikeNichtLeer(std::string_view feld, std::string_view text);
+std::string NameLikeNichtLeer(std::string_view field, std::string_view text);
 
 } // namespace quelvarn

@@ -8,35 +8,35 @@
 
 namespace quelvarn {
 
-std::string DateiName(std::string_view pfad)
+std::string DateiName(std::string_view documentPath)
 {
-    return std::string(pfad.substr(pfad.rfind('\\') + 1));
+    return std::string(documentPath.substr(documentPath.rfind('\\') + 1));
 }
 
-std::string Ordnername(std::string_view pfad)
+std::string Ordnername(std::string_view documentPath)
 {
-    const std::size_t backslash = pfad.rfind('\\');
-    return backslash == std::string_view::npos ? std::string() : std::string(pfad.substr(0, backslash));
+    const std::size_t backslash = documentPath.rfind('\\');
+    return backslash == std::string_view::npos ? std::string() : std::string(documentPath.substr(0, backslash));
 }
 
-std::string Dateiendung(std::string_view pfad)
+std::string Extension(std::string_view documentPath)
 {
-    return countCharacters(pfad) < 3 ? std::string() : toLower(rightCharacters(pfad, 3));
+    return countCharacters(documentPath) < 3 ? std::string() : toLower(rightCharacters(documentPath, 3));
 }
 
-std::string mitEndung(std::string_view pfad, std::string_view endung)
+std::string withExtension(std::string_view documentPath, std::string_view extension)
 {
-    pfad.remove_suffix(rightCharacters(pfad, 3).size());
-    return std::string(pfad).append(endung);
+    documentPath.remove_suffix(rightCharacters(documentPath, 3).size());
+    return std::string(documentPath).append(extension);
 }
 
-int dateiTypCode(std::string_view pfad)
+int fileTypeCode(std::string_view documentPath)
 {
     constexpr std::array<std::pair<std::string_view, int>, 5> codes = {
         {{"par", 1}, {"dft", 2}, {"asm", 3}, {"psm", 4}, {"pwd", 6}}};
-    const std::string endung = Dateiendung(pfad);
-    for (const auto& [bekannt, code] : codes) {
-        if (endung == bekannt)
+    const std::string extension = Extension(documentPath);
+    for (const auto& [known, code] : codes) {
+        if (extension == known)
             return code;
     }
     return 0;

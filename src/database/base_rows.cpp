@@ -9,56 +9,56 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<std::string_view, 14> BEZEICHNUNGEN{
+constexpr std::array<std::string_view, 14> LABELS{
     "Autor",     "Bearbeiter", "Erstellt", "Firma",   "Geändert", "Hauptmerkmal A", "Hauptmerkmal B",
     "Kategorie", "Manager",    "Material", "Projekt", "Thema",    "Titel",          "Stichwörter"};
 
-constexpr std::array<std::string_view, 3> SONDERTABELLEN{"Normteile", "Zukaufteile", "Vorrichtungen"};
+constexpr std::array<std::string_view, 3> SPECIAL_TABLES{"Normteile", "Zukaufteile", "Vorrichtungen"};
 
 constexpr std::string_view ZEITINTERVALL = "30000"; // milliseconds
 
-class Sammler
+class Collector
 {
 public:
-    void fuegeAn(std::string_view gruppe, std::string_view schluessel, Value feld4 = {}, Value feld5 = {})
+    void append(std::string_view group, std::string_view key, Value field4 = {}, Value field5 = {})
     {
-        zeilen.push_back({std::string(INSTALLATION), std::string(gruppe), std::string(schluessel), std::move(feld4),
-                          std::move(feld5)});
+        rows.push_back(
+            {std::string(INSTALLATION), std::string(group), std::string(key), std::move(field4), std::move(field5)});
     }
-    std::vector<Inizeile> zeilen;
+    std::vector<IniRow> rows;
 };
 
 } // namespace
 
-std::vector<Inizeile> installationszeilen(const Installation& installation)
+std::vector<IniRow> installationRows(const Installation& installation)
 {
     using namespace std::string_literals;
-    Sammler ini;
-    for (const auto name : BEZEICHNUNGEN)
-        ini.fuegeAn("Bezeichnung", name, std::string(name));
-    for (std::size_t i = 0; i < SONDERTABELLEN.size(); ++i)
-        ini.fuegeAn("Tabelle", fmt::format("Sondertabelle{}", i + 1), std::string(SONDERTABELLEN[i]));
-    ini.fuegeAn("Plot", "Pfadname", {}, installation.auftragsordner);
-    ini.fuegeAn("Plot", "Offline", "Talvik"s);
-    for (const auto farbe : {"Color", "Mono"})
+    Collector ini;
+    for (const auto name : LABELS)
+        ini.append("Bezeichnung", name, std::string(name));
+    for (std::size_t i = 0; i < SPECIAL_TABLES.size(); ++i)
+        ini.append("Tabelle", fmt::format("Sondertabelle{}", i + 1), std::string(SPECIAL_TABLES[i]));
+    ini.append("Plot", "Pfadname", {}, installation.orderFolder);
+    ini.append("Plot", "Offline", "Talvik"s);
+    for (const auto colour : {"Color", "Mono"})
         for (int format = 0; format <= 4; ++format)
-            ini.fuegeAn("Plot", "Printer", fmt::format("A{}/{}", format, farbe), "Keine Angabe"s);
-    ini.fuegeAn("Plot", "PDF", "A0-A4/Color"s, "Keine Angabe"s);
-    ini.fuegeAn("OnOff", "CheckInOut", "1"s);
-    ini.fuegeAn("OnOff", "Forward", "1"s);
-    ini.fuegeAn("WriteDB", "Timeinterval", std::string(ZEITINTERVALL));
-    for (const DokuTyp& typ : DOKUTYPEN)
-        if (typ.stempelNummer != 0)
-            ini.fuegeAn("WriteDB", typ.stempel, alsText(installation.stand));
-    return ini.zeilen;
+            ini.append("Plot", "Printer", fmt::format("A{}/{}", format, colour), "Keine Angabe"s);
+    ini.append("Plot", "PDF", "A0-A4/Color"s, "Keine Angabe"s);
+    ini.append("OnOff", "CheckInOut", "1"s);
+    ini.append("OnOff", "Forward", "1"s);
+    ini.append("WriteDB", "Timeinterval", std::string(ZEITINTERVALL));
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        if (type.stampNumber != 0)
+            ini.append("WriteDB", type.stamp, asText(installation.state));
+    return ini.rows;
 }
 
-Zeitpunkt jetzt()
+DateTime now()
 {
-    const std::time_t zeit = std::time(nullptr);
-    const std::tm lokal = *std::localtime(&zeit);
-    return Zeitpunkt::aus(
-        {lokal.tm_year + 1900, lokal.tm_mon + 1, lokal.tm_mday, lokal.tm_hour, lokal.tm_min, lokal.tm_sec});
+    const std::time_t time = std::time(nullptr);
+    const std::tm local = *std::localtime(&time);
+    return DateTime::out(
+        {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec});
 }
 
 } // namespace quelvarn

@@ -9,20 +9,20 @@
 namespace quelvarn {
 
 // Feld1 to Feld5 of a row of the table Ini.
-using Inizeile = std::array<Value, 5>;
+using IniRow = std::array<Value, 5>;
 
 // Owner of the rows that hold for the whole installation.
 inline constexpr std::string_view INSTALLATION = "!QV_Ini";
 
 struct Installation
 {
-    Zeitpunkt stand;      // Put into the stamps of the five document types.
-    Value auftragsordner; // Null while the office has not chosen one.
+    DateTime state;    // Put into the stamps of the five document types.
+    Value orderFolder; // Null while the office has not chosen one.
 };
 
 // The rows that a register needs to start without a complaint.
-std::vector<Inizeile> installationszeilen(const Installation& installation);
+std::vector<IniRow> installationRows(const Installation& installation);
 
-Zeitpunkt jetzt();
+DateTime now();
 
 } // namespace quelvarn

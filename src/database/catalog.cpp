@@ -9,48 +9,48 @@
 
 namespace quelvarn {
 
-Tabellenkatalog::Tabellenkatalog(Leser leser) : leser_(std::move(leser)) {}
+TableCatalog::TableCatalog(Reader reader) : reader_(std::move(reader)) {}
 
-const Tabellenschema* Tabellenkatalog::find(std::string_view name)
+const TableSchema* TableCatalog::find(std::string_view name)
 {
-    std::string schluessel = foldCase(name);
-    if (const auto treffer = tabellen_.find(schluessel); treffer != tabellen_.end())
-        return &treffer->second;
-    auto tabelle = leser_(name);
-    return tabelle ? &tabellen_.emplace(std::move(schluessel), std::move(*tabelle)).first->second : nullptr;
+    std::string key = foldCase(name);
+    if (const auto hits = tables_.find(key); hits != tables_.end())
+        return &hits->second;
+    auto table = reader_(name);
+    return table ? &tables_.emplace(std::move(key), std::move(*table)).first->second : nullptr;
 }
 
-const Tabellenschema& Tabellenkatalog::tabelleOf(std::string_view name, std::string_view engine)
+const TableSchema& TableCatalog::tableOf(std::string_view name, std::string_view engine)
 {
-    if (const Tabellenschema* tabelle = find(name))
-        return *tabelle;
-    throw Laufzeitfehler(FEHLER_TABELLE_FEHLT, std::string(engine),
-                         fmt::format("Die Tabelle '{}' wurde nicht gefunden.", name));
+    if (const TableSchema* table = find(name))
+        return *table;
+    throw RuntimeError(FAULT_MISSING_TABLE, std::string(engine),
+                       fmt::format("Die Tabelle '{}' wurde nicht gefunden.", name));
 }
 
-void Tabellenkatalog::vergiss()
+void TableCatalog::forget()
 {
-    tabellen_.clear();
+    tables_.clear();
 }
 
-std::vector<Spalte> spaltenOf(const Tabellenschema& tabelle, std::span<const Spalte> gesuchte)
+std::vector<ColumnInfo> columnsOf(const TableSchema& table, std::span<const ColumnInfo> wanted)
 {
-    std::vector<Spalte> spalten;
-    for (const Spalte& gesucht : gesuchte) {
-        const auto treffer = std::ranges::find_if(
-            tabelle.spalten, [&](const Spalte& spalte) { return equalText(spalte.name, gesucht.name); });
-        if (treffer == tabelle.spalten.end())
-            throw Laufzeitfehler(
-                sql::FEHLER_FELD_FEHLT, "Datenbank",
-                fmt::format("Feld '{}' ist in der Tabelle '{}' nicht vorhanden.", gesucht.name, tabelle.name));
-        spalten.push_back(*treffer);
+    std::vector<ColumnInfo> columns;
+    for (const ColumnInfo& sought : wanted) {
+        const auto hits = std::ranges::find_if(
+            table.columns, [&](const ColumnInfo& column) { return equalText(column.name, sought.name); });
+        if (hits == table.columns.end())
+            throw RuntimeError(
+                sql::FAULT_MISSING_FIELD, "Datenbank",
+                fmt::format("Feld '{}' ist in der Tabelle '{}' nicht vorhanden.", sought.name, table.name));
+        columns.push_back(*hits);
     }
-    return spalten;
+    return columns;
 }
 
-const std::string& zieltabelle(const sql::Anweisung& anweisung)
+const std::string& targetTable(const sql::Statement& statement)
 {
-    return std::visit([](const auto& art) -> const std::string& { return art.tabelle; }, anweisung);
+    return std::visit([](const auto& kind) -> const std::string& { return kind.table; }, statement);
 }
 
 } // namespace quelvarn

@@ -14,32 +14,32 @@
 namespace quelvarn {
 
 // Numbers of faults, as programs of the office know them.
-constexpr int FEHLER_ALLGEMEIN = -2147467259;
-constexpr int FEHLER_TABELLE_FEHLT = -2147217865;
-constexpr int FEHLER_ANWEISUNG = -2147217900;
+constexpr int FAULT_GENERAL = -2147467259;
+constexpr int FAULT_MISSING_TABLE = -2147217865;
+constexpr int FAULT_STATEMENT = -2147217900;
 
 // The tables of one connection, each read from the database when first asked for.
-class Tabellenkatalog
+class TableCatalog
 {
 public:
-    using Leser = std::function<std::optional<Tabellenschema>(std::string_view)>;
+    using Reader = std::function<std::optional<TableSchema>(std::string_view)>;
 
-    explicit Tabellenkatalog(Leser leser);
+    explicit TableCatalog(Reader reader);
 
-    // Valid until vergiss(). A missing table is asked for anew each time: another program may have made it.
-    const Tabellenschema* find(std::string_view name);
-    // Throws Laufzeitfehler when there is no such table.
-    const Tabellenschema& tabelleOf(std::string_view name, std::string_view engine);
-    void vergiss();
+    // Valid until forget(). A missing table is asked for anew each time: another program may have made it.
+    const TableSchema* find(std::string_view name);
+    // Throws RuntimeError when there is no such table.
+    const TableSchema& tableOf(std::string_view name, std::string_view engine);
+    void forget();
 
 private:
-    Leser leser_;
-    std::unordered_map<std::string, Tabellenschema> tabellen_; // By the folded name.
+    Reader reader_;
+    std::unordered_map<std::string, TableSchema> tables_; // By the folded name.
 };
 
-// The stored columns of these names. Throws Laufzeitfehler when the table lacks one.
-std::vector<Spalte> spaltenOf(const Tabellenschema& tabelle, std::span<const Spalte> gesuchte);
+// The stored columns of these names. Throws RuntimeError when the table lacks one.
+std::vector<ColumnInfo> columnsOf(const TableSchema& table, std::span<const ColumnInfo> sought);
 // Where an INSERT, UPDATE or DELETE writes.
-const std::string& zieltabelle(const sql::Anweisung& anweisung);
+const std::string& targetTable(const sql::Statement& statement);
 
 } // namespace quelvarn

@@ -9,172 +9,172 @@
 
 namespace quelvarn {
 
-Value TextColumn::wert(Zeilennummer zeile) const
+Value TextColumn::value(RowNumber row) const
 {
-    const Textcode code = codes_[zeile];
-    return code == 0 ? Value{} : Value{std::string(texte_.text(code))};
+    const TextCode code = codes_[row];
+    return code == 0 ? Value{} : Value{std::string(texts_.text(code))};
 }
 
-Textcode TextColumn::codeVon(const Value& wert)
+TextCode TextColumn::codeOf(const Value& value)
 {
-    if (quelvarn::istNull(wert))
+    if (quelvarn::isNull(value))
         return 0;
-    const auto* text = std::get_if<std::string>(&wert);
-    return texte_.codeVon(text ? *text : alsText(wert));
+    const auto* text = std::get_if<std::string>(&value);
+    return texts_.codeOf(text ? *text : asText(value));
 }
 
-void TextColumn::setze(Zeilennummer zeile, const Value& wert)
+void TextColumn::set(RowNumber row, const Value& value)
 {
-    codes_[zeile] = codeVon(wert);
+    codes_[row] = codeOf(value);
 }
 
-void TextColumn::haengeAn(const Value& wert)
+void TextColumn::append(const Value& value)
 {
-    codes_.push_back(codeVon(wert));
+    codes_.push_back(codeOf(value));
 }
 
-void TextColumn::schliesseAb()
+void TextColumn::commit()
 {
-    texte_.schliesseAb();
+    texts_.commit();
     codes_.shrink_to_fit();
 }
 
-std::vector<std::int64_t> TextColumn::ordnungswerte() const
+std::vector<std::int64_t> TextColumn::rankValues() const
 {
-    std::vector<std::string> schluessel(texte_.anzahl());
-    for (Textcode code = 1; code < schluessel.size(); ++code)
-        schluessel[code] = sortKey(texte_.text(code));
-    std::vector<Textcode> reihe(texte_.anzahl());
-    std::iota(reihe.begin(), reihe.end(), Textcode{0});
-    std::sort(reihe.begin() + 1, reihe.end(),
-              [&](Textcode links, Textcode rechts) { return schluessel[links] < schluessel[rechts]; });
-    std::vector<std::int64_t> rang(reihe.size(), 0);
-    for (std::size_t i = 1; i < reihe.size(); ++i) {
-        const bool gleich = i > 1 && schluessel[reihe[i]] == schluessel[reihe[i - 1]];
-        rang[reihe[i]] = gleich ? rang[reihe[i - 1]] : static_cast<std::int64_t>(i);
+    std::vector<std::string> key(texts_.count());
+    for (TextCode code = 1; code < key.size(); ++code)
+        key[code] = sortKey(texts_.text(code));
+    std::vector<TextCode> layoutRow(texts_.count());
+    std::iota(layoutRow.begin(), layoutRow.end(), TextCode{0});
+    std::sort(layoutRow.begin() + 1, layoutRow.end(),
+              [&](TextCode left, TextCode right) { return key[left] < key[right]; });
+    std::vector<std::int64_t> rank(layoutRow.size(), 0);
+    for (std::size_t i = 1; i < layoutRow.size(); ++i) {
+        const bool equal = i > 1 && key[layoutRow[i]] == key[layoutRow[i - 1]];
+        rank[layoutRow[i]] = equal ? rank[layoutRow[i - 1]] : static_cast<std::int64_t>(i);
     }
-    std::vector<std::int64_t> werte(codes_.size());
-    std::transform(codes_.begin(), codes_.end(), werte.begin(), [&](Textcode code) { return rang[code]; });
-    return werte;
+    std::vector<std::int64_t> values(codes_.size());
+    std::transform(codes_.begin(), codes_.end(), values.begin(), [&](TextCode code) { return rank[code]; });
+    return values;
 }
 
-std::size_t TextColumn::speicher() const
+std::size_t TextColumn::memory() const
 {
-    return codes_.capacity() * sizeof(Textcode) + texte_.speicher();
+    return codes_.capacity() * sizeof(TextCode) + texts_.memory();
 }
 
 namespace {
 
 // The cell as the column keeps it; nothing when it is of another kind.
-std::optional<std::int64_t> alsZelle(const Value& wert, FeldTyp typ, std::int64_t)
+std::optional<std::int64_t> asCell(const Value& value, FieldType type, std::int64_t)
 {
-    if (typ == FeldTyp::Datum) {
-        const auto* zeit = std::get_if<Zeitpunkt>(&wert);
-        return zeit ? std::optional(zeit->sekunden) : std::nullopt;
+    if (type == FieldType::Date) {
+        const auto* time = std::get_if<DateTime>(&value);
+        return time ? std::optional(time->seconds) : std::nullopt;
     }
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return *ganz;
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return *whole;
     return std::nullopt;
 }
 
-std::optional<double> alsZelle(const Value& wert, FeldTyp, double)
+std::optional<double> asCell(const Value& value, FieldType, double)
 {
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return *zahl;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return static_cast<double>(*ganz);
+    if (const auto* number = std::get_if<double>(&value))
+        return *number;
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return static_cast<double>(*whole);
     return std::nullopt;
 }
 
-std::int64_t ordnungswertVon(std::int64_t zahl)
+std::int64_t rankOf(std::int64_t number)
 {
-    return zahl;
+    return number;
 }
 
 // The bits of doubles, taken as whole numbers, are in order once those of negative ones are turned round.
-std::int64_t ordnungswertVon(double zahl)
+std::int64_t rankOf(double number)
 {
-    if (zahl == 0)
+    if (number == 0)
         return 0;
-    const auto bits = std::bit_cast<std::int64_t>(zahl);
+    const auto bits = std::bit_cast<std::int64_t>(number);
     return bits >= 0 ? bits : std::numeric_limits<std::int64_t>::min() - bits;
 }
 
 } // namespace
 
-template <class Zahl> bool NumberColumn<Zahl>::istNull(Zeilennummer zeile) const
+template <class Number> bool NumberColumn<Number>::isNull(RowNumber row) const
 {
-    return istLeer(zahlen_[zeile]) && !fremde_.contains(zeile);
+    return isEmpty(numbers_[row]) && !foreign_.contains(row);
 }
 
-template <class Zahl> Value NumberColumn<Zahl>::wert(Zeilennummer zeile) const
+template <class Number> Value NumberColumn<Number>::value(RowNumber row) const
 {
-    const Zahl zahl = zahlen_[zeile];
-    if (istLeer(zahl)) {
-        const auto fremder = fremde_.find(zeile);
-        return fremder == fremde_.end() ? Value{} : fremder->second;
+    const Number number = numbers_[row];
+    if (isEmpty(number)) {
+        const auto foreign = foreign_.find(row);
+        return foreign == foreign_.end() ? Value{} : foreign->second;
     }
-    if constexpr (std::is_same_v<Zahl, std::int64_t>) {
-        if (typ() == FeldTyp::Datum)
-            return Zeitpunkt{zahl};
+    if constexpr (std::is_same_v<Number, std::int64_t>) {
+        if (type() == FieldType::Date)
+            return DateTime{number};
     }
-    return zahl;
+    return number;
 }
 
-template <class Zahl> void NumberColumn<Zahl>::setze(Zeilennummer zeile, const Value& wert)
+template <class Number> void NumberColumn<Number>::set(RowNumber row, const Value& value)
 {
-    const auto zelle = alsZelle(wert, typ(), Zahl{});
-    zahlen_[zeile] = zelle.value_or(LEER);
-    if (!zelle && !quelvarn::istNull(wert))
-        fremde_[zeile] = wert;
-    else if (!fremde_.empty())
-        fremde_.erase(zeile);
+    const auto cell = asCell(value, type(), Number{});
+    numbers_[row] = cell.value_or(EMPTY);
+    if (!cell && !quelvarn::isNull(value))
+        foreign_[row] = value;
+    else if (!foreign_.empty())
+        foreign_.erase(row);
 }
 
-template <class Zahl> void NumberColumn<Zahl>::haengeAn(const Value& wert)
+template <class Number> void NumberColumn<Number>::append(const Value& value)
 {
-    zahlen_.push_back(LEER);
-    setze(static_cast<Zeilennummer>(zahlen_.size() - 1), wert);
+    numbers_.push_back(EMPTY);
+    set(static_cast<RowNumber>(numbers_.size() - 1), value);
 }
 
-template <class Zahl> std::vector<std::int64_t> NumberColumn<Zahl>::ordnungswerte() const
+template <class Number> std::vector<std::int64_t> NumberColumn<Number>::rankValues() const
 {
-    std::vector<std::int64_t> werte(zahlen_.size());
-    std::transform(zahlen_.begin(), zahlen_.end(), werte.begin(), [](Zahl zahl) {
-        return istLeer(zahl) ? std::numeric_limits<std::int64_t>::min() : ordnungswertVon(zahl);
+    std::vector<std::int64_t> values(numbers_.size());
+    std::transform(numbers_.begin(), numbers_.end(), values.begin(), [](Number number) {
+        return isEmpty(number) ? std::numeric_limits<std::int64_t>::min() : rankOf(number);
     });
-    for (const auto& [zeile, wert] : fremde_)
-        werte[zeile] = std::numeric_limits<std::int64_t>::max();
-    return werte;
+    for (const auto& [row, value] : foreign_)
+        values[row] = std::numeric_limits<std::int64_t>::max();
+    return values;
 }
 
-template <class Zahl> std::size_t NumberColumn<Zahl>::speicher() const
+template <class Number> std::size_t NumberColumn<Number>::memory() const
 {
-    return zahlen_.capacity() * sizeof(Zahl) + fremde_.size() * (sizeof(Value) + 32);
+    return numbers_.capacity() * sizeof(Number) + foreign_.size() * (sizeof(Value) + 32);
 }
 
 template class NumberColumn<std::int64_t>;
 template class NumberColumn<double>;
 
-std::unique_ptr<Column> neueSpalte(FeldTyp typ)
+std::unique_ptr<Column> newColumn(FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Text:
+    switch (type) {
+    case FieldType::Text:
         return std::make_unique<TextColumn>();
-    case FeldTyp::Gleitkomma:
-        return std::make_unique<NumberColumn<double>>(typ);
-    case FeldTyp::Ganzzahl:
-    case FeldTyp::Datum:
+    case FieldType::FloatingPoint:
+        return std::make_unique<NumberColumn<double>>(type);
+    case FieldType::Integer:
+    case FieldType::Date:
         break;
     }
-    return std::make_unique<NumberColumn<std::int64_t>>(typ);
+    return std::make_unique<NumberColumn<std::int64_t>>(type);
 }
 
-std::unique_ptr<Column> neueSortierteSpalte(FeldTyp typ)
+std::unique_ptr<Column> newSortedColumn(FieldType type)
 {
-    if (typ == FeldTyp::Text)
-        return std::make_unique<TextColumn>(Textvorrat::Suche::Nachbar);
-    return neueSpalte(typ);
+    if (type == FieldType::Text)
+        return std::make_unique<TextColumn>(TextPool::Search::Neighbour);
+    return newColumn(type);
 }
 
 } // namespace quelvarn

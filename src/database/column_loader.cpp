@@ -9,121 +9,121 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t FORTSCHRITT_ZEILEN = 8192;
+constexpr std::size_t PROGRESS_ROWS = 8192;
 
 // The columns to be filled. Texts are taken over without a Value.
-template <class Spalte> struct Ziel
+template <class ColumnInfo> struct Target
 {
-    std::size_t nummer; // of the reader's column
-    Spalte* spalte;
+    std::size_t number; // of the reader's column
+    ColumnInfo* column;
 };
 
-struct Ziele
+struct Targets
 {
-    std::vector<Ziel<TextColumn>> texte;
-    std::vector<Ziel<Column>> andere;
+    std::vector<Target<TextColumn>> texts;
+    std::vector<Target<Column>> other;
 
-    explicit Ziele(const Spaltenliste& spalten)
+    explicit Targets(const ColumnList& columns)
     {
-        for (std::size_t nummer = 0; nummer < spalten.size(); ++nummer) {
-            if (spalten[nummer]->typ() == FeldTyp::Text)
-                texte.push_back({nummer, static_cast<TextColumn*>(spalten[nummer].get())});
+        for (std::size_t number = 0; number < columns.size(); ++number) {
+            if (columns[number]->type() == FieldType::Text)
+                texts.push_back({number, static_cast<TextColumn*>(columns[number].get())});
             else
-                andere.push_back({nummer, spalten[nummer].get()});
+                other.push_back({number, columns[number].get()});
         }
     }
 };
 
 // Cells on their way to rows all over the columns. To put each where it belongs while the engine works between
 // them costs a wait for memory every time; many in a row do not.
-class Zellenblock
+class CellBlock
 {
 public:
-    explicit Zellenblock(const Ziele& ziele) : ziele_(ziele), codes_(ziele.texte.size()), werte_(ziele.andere.size()) {}
+    explicit CellBlock(const Targets& targets)
+        : targets_(targets), codes_(targets.texts.size()), values_(targets.other.size())
+    {}
 
-    void nimm(const Zeilenleser& leser, Zeilennummer zeile)
+    void take(const RowReader& reader, RowNumber row)
     {
-        zeilen_.push_back(zeile);
-        for (std::size_t i = 0; i < ziele_.texte.size(); ++i) {
-            const auto text = leser.findText(ziele_.texte[i].nummer);
-            codes_[i].push_back(text ? ziele_.texte[i].spalte->neuerCode(*text) : 0);
+        rows_.push_back(row);
+        for (std::size_t i = 0; i < targets_.texts.size(); ++i) {
+            const auto text = reader.findText(targets_.texts[i].number);
+            codes_[i].push_back(text ? targets_.texts[i].column->newCode(*text) : 0);
         }
-        for (std::size_t i = 0; i < ziele_.andere.size(); ++i)
-            werte_[i].push_back(leser.wert(ziele_.andere[i].nummer));
-        if (zeilen_.size() == BLOCKZEILEN)
-            verteile();
+        for (std::size_t i = 0; i < targets_.other.size(); ++i)
+            values_[i].push_back(reader.value(targets_.other[i].number));
+        if (rows_.size() == BLOCK_ROWS)
+            distribute();
     }
 
-    void verteile()
+    void distribute()
     {
-        for (std::size_t i = 0; i < ziele_.texte.size(); ++i) {
-            for (std::size_t k = 0; k < zeilen_.size(); ++k)
-                ziele_.texte[i].spalte->setzeCode(zeilen_[k], codes_[i][k]);
+        for (std::size_t i = 0; i < targets_.texts.size(); ++i) {
+            for (std::size_t k = 0; k < rows_.size(); ++k)
+                targets_.texts[i].column->setCode(rows_[k], codes_[i][k]);
             codes_[i].clear();
         }
-        for (std::size_t i = 0; i < ziele_.andere.size(); ++i) {
-            for (std::size_t k = 0; k < zeilen_.size(); ++k)
-                ziele_.andere[i].spalte->setze(zeilen_[k], werte_[i][k]);
-            werte_[i].clear();
+        for (std::size_t i = 0; i < targets_.other.size(); ++i) {
+            for (std::size_t k = 0; k < rows_.size(); ++k)
+                targets_.other[i].column->set(rows_[k], values_[i][k]);
+            values_[i].clear();
         }
-        zeilen_.clear();
+        rows_.clear();
     }
 
 private:
-    static constexpr std::size_t BLOCKZEILEN = 2048;
+    static constexpr std::size_t BLOCK_ROWS = 2048;
 
-    const Ziele& ziele_;
-    std::vector<Zeilennummer> zeilen_;
-    std::vector<std::vector<Textcode>> codes_;
-    std::vector<std::vector<Value>> werte_;
+    const Targets& targets_;
+    std::vector<RowNumber> rows_;
+    std::vector<std::vector<TextCode>> codes_;
+    std::vector<std::vector<Value>> values_;
 };
 
 } // namespace
 
-bool Doppelsuche::istNeu(const Zeilenleser& zeile)
+bool DuplicateSearch::isNew(const RowReader& row)
 {
-    std::string schluessel;
-    for (std::size_t nummer = 0; nummer < zeile.spalten().size(); ++nummer) {
-        const Value wert = zeile.wert(nummer);
-        schluessel += static_cast<char>('0' + wert.index());
-        schluessel += sortKey(alsText(wert));
-        schluessel += '\0';
+    std::string key;
+    for (std::size_t number = 0; number < row.columns().size(); ++number) {
+        const Value value = row.value(number);
+        key += static_cast<char>('0' + value.index());
+        key += sortKey(asText(value));
+        key += '\0';
     }
-    return gesehen_.insert(std::move(schluessel)).second;
+    return seen_.insert(std::move(key)).second;
 }
 
-void haengeZeilenAn(Zeilenleser& leser, Spaltenliste& spalten, std::vector<Zeilenschluessel>* schluessel,
-                    Doppelsuche* doppelte)
+void appendRows(RowReader& reader, ColumnList& columns, std::vector<RowKey>* key, DuplicateSearch* duplicates)
 {
-    const Ziele ziele(spalten);
-    while (leser.next()) {
-        if (doppelte && !doppelte->istNeu(leser))
+    const Targets targets(columns);
+    while (reader.next()) {
+        if (duplicates && !duplicates->isNew(reader))
             continue;
-        if (schluessel)
-            schluessel->push_back(leser.schluessel());
-        for (const auto& [nummer, spalte] : ziele.texte) {
-            if (const auto text = leser.findText(nummer))
-                spalte->haengeTextAn(*text);
+        if (key)
+            key->push_back(reader.key());
+        for (const auto& [number, column] : targets.texts) {
+            if (const auto text = reader.findText(number))
+                column->appendText(*text);
             else
-                spalte->haengeNullAn();
+                column->appendNull();
         }
-        for (const auto& [nummer, spalte] : ziele.andere)
-            spalte->haengeAn(leser.wert(nummer));
+        for (const auto& [number, column] : targets.other)
+            column->append(reader.value(number));
     }
 }
 
-bool setzeZellen(Zeilenleser& leser, Spaltenliste& spalten, Schluesselkarte& karte, const Fortschritt& fortschritt,
-                 std::size_t zeilen)
+bool setCells(RowReader& reader, ColumnList& columns, KeyMap& map, const Progress& progress, std::size_t rows)
 {
-    const Ziele ziele(spalten);
-    Zellenblock block(ziele);
-    for (std::size_t gelesen = 0; leser.next(); ++gelesen) {
-        if (const auto zeile = karte.findeZeile(leser.schluessel()))
-            block.nimm(leser, *zeile);
-        if (fortschritt && gelesen % FORTSCHRITT_ZEILEN == 0 && !fortschritt(std::min(gelesen, zeilen), zeilen))
+    const Targets targets(columns);
+    CellBlock block(targets);
+    for (std::size_t read = 0; reader.next(); ++read) {
+        if (const auto row = map.findRow(reader.key()))
+            block.take(reader, *row);
+        if (progress && read % PROGRESS_ROWS == 0 && !progress(std::min(read, rows), rows))
             return false;
     }
-    block.verteile();
+    block.distribute();
     return true;
 }
 

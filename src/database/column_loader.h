@@ -10,28 +10,27 @@
 
 namespace quelvarn {
 
-class Schluesselkarte;
+class KeyMap;
 
-using Spaltenliste = std::vector<std::unique_ptr<Column>>;
+using ColumnList = std::vector<std::unique_ptr<Column>>;
 
 // Of rows that are equal in all columns, blind to case and to trailing blanks, only the first is new.
-class Doppelsuche
+class DuplicateSearch
 {
 public:
-    bool istNeu(const Zeilenleser& zeile);
+    bool isNew(const RowReader& row);
 
 private:
-    std::unordered_set<std::string> gesehen_;
+    std::unordered_set<std::string> seen_;
 };
 
 // Appends the rows of the reader to these columns, one for each of its columns, and their keys when wanted. With
-// `doppelte` it passes over rows that came before.
-void haengeZeilenAn(Zeilenleser& leser, Spaltenliste& spalten, std::vector<Zeilenschluessel>* schluessel,
-                    Doppelsuche* doppelte = nullptr);
+// `duplicates` it passes over rows that came before.
+void appendRows(RowReader& reader, ColumnList& columns, std::vector<RowKey>* key,
+                DuplicateSearch* duplicates = nullptr);
 
 // Puts the cells of the reader into the rows that their keys name; rows without a known key are passed over.
 // False when the progress was given up.
-bool setzeZellen(Zeilenleser& leser, Spaltenliste& spalten, Schluesselkarte& karte, const Fortschritt& fortschritt,
-                 std::size_t zeilen);
+bool setCells(RowReader& reader, ColumnList& columns, KeyMap& map, const Progress& progress, std::size_t rows);
 
 } // namespace quelvarn

@@ -11,242 +11,243 @@ namespace quelvarn {
 
 namespace {
 
-constexpr unsigned BLOCKBITS = 12;            // 4,096 texts are judged at once.
-constexpr std::size_t BLOECKE_FUER_ZWEI = 16; // From this many blocks on two threads judge them.
-constexpr std::size_t FENSTER = 128;
+constexpr unsigned BLOCKBITS = 12;         // 4,096 texts are judged at once.
+constexpr std::size_t BLOCKS_FOR_TWO = 16; // From this many blocks on two threads judge them.
+constexpr std::size_t WINDOW = 128;
 constexpr std::size_t LONGEST_SOUGHT = 64; // bytes; a longer text is looked for in each text by itself
 
 // Marks the places of a window where a text may begin, going by three of its bytes. False when there is none. The
 // fixed length lets the compiler use vector instructions.
-bool merkeAnfaenge(const char* fenster, std::string_view gesucht, std::uint8_t* __restrict anfaenge)
+bool rememberBeginnings(const char* window, std::string_view sought, std::uint8_t* __restrict beginnings)
 {
-    const std::size_t letzte = gesucht.size() - 1;
-    const std::size_t mittlere = gesucht.size() / 2;
-    const char a = gesucht.front();
-    const char b = gesucht[mittlere];
-    const char c = gesucht.back();
-    std::uint8_t einer = 0;
-    for (std::size_t i = 0; i < FENSTER; ++i) {
-        anfaenge[i] = static_cast<std::uint8_t>(fenster[i] == a) &
-                      static_cast<std::uint8_t>(fenster[i + mittlere] == b) &
-                      static_cast<std::uint8_t>(fenster[i + letzte] == c);
-        einer |= anfaenge[i];
+    const std::size_t last = sought.size() - 1;
+    const std::size_t middle = sought.size() / 2;
+    const char a = sought.front();
+    const char b = sought[middle];
+    const char c = sought.back();
+    std::uint8_t one = 0;
+    for (std::size_t i = 0; i < WINDOW; ++i) {
+        beginnings[i] = static_cast<std::uint8_t>(window[i] == a) & static_cast<std::uint8_t>(window[i + middle] == b) &
+                        static_cast<std::uint8_t>(window[i + last] == c);
+        one |= beginnings[i];
     }
-    return einer != 0;
+    return one != 0;
 }
 
-std::uint8_t* naechster(std::uint8_t* von, std::uint8_t* bis)
+std::uint8_t* next(std::uint8_t* from, std::uint8_t* until)
 {
-    void* gefunden = std::memchr(von, 1, static_cast<std::size_t>(bis - von));
-    return gefunden ? static_cast<std::uint8_t*>(gefunden) : bis;
+    void* found = std::memchr(from, 1, static_cast<std::size_t>(until - from));
+    return found ? static_cast<std::uint8_t*>(found) : until;
 }
 
 // LIKE over the folded texts of a column: the plain shapes by comparing bytes, the others by the pattern where the
 // text can match at all.
-class LikeTreffer : public Texttreffer
+class LikeHits : public TextHits
 {
 public:
-    LikeTreffer(const TextColumn& spalte, LikePattern muster, bool verneint)
-        : Texttreffer(spalte, verneint), muster_(std::move(muster))
+    LikeHits(const TextColumn& column, LikePattern pattern, bool negated)
+        : TextHits(column, negated), pattern_(std::move(pattern))
     {}
 
 protected:
-    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    void evaluate(TextCode from, TextCode until, std::vector<std::uint8_t>& verdict) override
     {
-        const auto& gefaltet = texte().gefaltet();
-        const bool vorn = muster_.shape() == LikePattern::Shape::Exact || muster_.shape() == LikePattern::Shape::Prefix;
-        const std::string& required = muster_.required();
-        if (!vorn && !required.empty() && required.size() <= LONGEST_SOUGHT)
-            bewerteFundstellen(von, bis, urteil);
+        const auto& folded = texts().folded();
+        const bool front =
+            pattern_.shape() == LikePattern::Shape::Exact || pattern_.shape() == LikePattern::Shape::Prefix;
+        const std::string& required = pattern_.required();
+        if (!front && !required.empty() && required.size() <= LONGEST_SOUGHT)
+            evaluateHits(from, until, verdict);
         else
-            for (Textcode code = von; code < bis; ++code)
-                urteil[code] = trifft(texte().gefalteterText(code));
-        const auto& andere = gefaltet.andereLaenge;
-        for (auto code = std::lower_bound(andere.begin(), andere.end(), von); code != andere.end() && *code < bis;
+            for (TextCode code = from; code < until; ++code)
+                verdict[code] = meets(texts().foldedText(code));
+        const auto& other = folded.otherLength;
+        for (auto code = std::lower_bound(other.begin(), other.end(), from); code != other.end() && *code < until;
              ++code)
-            urteil[*code] = muster_.matches(texte().text(*code));
+            verdict[*code] = pattern_.matches(texts().text(*code));
     }
 
 private:
-    bool trifft(std::string_view gefaltet) const
+    bool meets(std::string_view folded) const
     {
-        switch (muster_.shape()) {
+        switch (pattern_.shape()) {
         case LikePattern::Shape::Exact:
-            return gefaltet == muster_.literal();
+            return folded == pattern_.literal();
         case LikePattern::Shape::Prefix: {
-            const std::string& text = muster_.literal();
-            return gefaltet.size() >= text.size() && std::memcmp(gefaltet.data(), text.data(), text.size()) == 0;
+            const std::string& text = pattern_.literal();
+            return folded.size() >= text.size() && std::memcmp(folded.data(), text.data(), text.size()) == 0;
         }
         case LikePattern::Shape::Contains:
         case LikePattern::Shape::Other:
             break;
         }
-        return muster_.matchesFolded(gefaltet);
+        return pattern_.matchesFolded(folded);
     }
 
     // Looks only at the texts that hold what every match must hold.
-    void bewerteFundstellen(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil)
+    void evaluateHits(TextCode from, TextCode until, std::vector<std::uint8_t>& verdict)
     {
-        const auto& anfaenge = texte().anfaenge();
-        const std::string_view bytes = std::string_view(texte().gefaltet().bytes).substr(0, anfaenge[bis]);
-        const std::string& text = muster_.required();
-        Textcode code = von;
-        for (std::size_t stelle = anfaenge[von];;) {
-            stelle = findeBytes(bytes, text, stelle);
-            if (stelle == std::string_view::npos)
+        const auto& beginnings = texts().beginnings();
+        const std::string_view bytes = std::string_view(texts().folded().bytes).substr(0, beginnings[until]);
+        const std::string& text = pattern_.required();
+        TextCode code = from;
+        for (std::size_t position = beginnings[from];;) {
+            position = findBytes(bytes, text, position);
+            if (position == std::string_view::npos)
                 return;
-            while (anfaenge[code + 1] <= stelle)
+            while (beginnings[code + 1] <= position)
                 ++code;
             // What runs over the end of the text does so from each later place as well.
-            if (stelle + text.size() <= anfaenge[code + 1])
-                urteil[code] = muster_.shape() == LikePattern::Shape::Contains ||
-                               muster_.matchesFolded(texte().gefalteterText(code));
-            stelle = anfaenge[code + 1];
+            if (position + text.size() <= beginnings[code + 1])
+                verdict[code] = pattern_.shape() == LikePattern::Shape::Contains ||
+                                pattern_.matchesFolded(texts().foldedText(code));
+            position = beginnings[code + 1];
         }
     }
 
-    LikePattern muster_;
+    LikePattern pattern_;
 };
 
 // Most texts differ from the wanted one by a plain letter or digit, which their bytes tell; the collation decides
 // about the others.
-class GleichTreffer : public Texttreffer
+class EqualHits : public TextHits
 {
 public:
-    GleichTreffer(const TextColumn& spalte, std::string_view text, bool verneint)
-        : Texttreffer(spalte, verneint), text_(text), gefaltet_(foldCase(trimRightBlanks(text)))
+    EqualHits(const TextColumn& column, std::string_view text, bool negated)
+        : TextHits(column, negated), text_(text), folded_(foldCase(trimRightBlanks(text)))
     {}
 
 protected:
-    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    void evaluate(TextCode from, TextCode until, std::vector<std::uint8_t>& verdict) override
     {
-        texte().gefaltet();
-        for (Textcode code = von; code < bis; ++code)
-            urteil[code] = kannGleichSein(texte().gefalteterText(code)) && equalText(texte().text(code), text_);
+        texts().folded();
+        for (TextCode code = from; code < until; ++code)
+            verdict[code] = canEqualBe(texts().foldedText(code)) && equalText(texts().text(code), text_);
     }
 
 private:
-    bool kannGleichSein(std::string_view gefaltet) const
+    bool canEqualBe(std::string_view folded) const
     {
-        const auto [hier, dort] = std::mismatch(gefaltet.begin(), gefaltet.end(), gefaltet_.begin(), gefaltet_.end());
-        const bool hierEinfach = hier == gefaltet.end() || istEinfach(*hier);
-        const bool dortEinfach = dort == gefaltet_.end() || istEinfach(*dort);
-        const bool beideZuEnde = hier == gefaltet.end() && dort == gefaltet_.end();
-        return beideZuEnde || !hierEinfach || !dortEinfach;
+        const auto [here, there] = std::mismatch(folded.begin(), folded.end(), folded_.begin(), folded_.end());
+        const bool herePlain = here == folded.end() || isPlain(*here);
+        const bool plainThere = there == folded_.end() || isPlain(*there);
+        const bool bothAtEnd = here == folded.end() && there == folded_.end();
+        return bothAtEnd || !herePlain || !plainThere;
     }
 
-    static bool istEinfach(char zeichen)
+    static bool isPlain(char character)
     {
-        return (zeichen >= 'a' && zeichen <= 'z') || (zeichen >= '0' && zeichen <= '9');
+        return (character >= 'a' && character <= 'z') || (character >= '0' && character <= '9');
     }
 
     std::string text_;
-    std::string gefaltet_;
+    std::string folded_;
 };
 
-class PruefTreffer : public Texttreffer
+class CheckHits : public TextHits
 {
 public:
-    PruefTreffer(const TextColumn& spalte, std::function<bool(std::string_view)> pruefung)
-        : Texttreffer(spalte, false), pruefung_(std::move(pruefung))
+    CheckHits(const TextColumn& column, std::function<bool(std::string_view)> check)
+        : TextHits(column, false), check_(std::move(check))
     {}
 
 protected:
-    void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) override
+    void evaluate(TextCode from, TextCode until, std::vector<std::uint8_t>& verdict) override
     {
-        for (Textcode code = von; code < bis; ++code)
-            urteil[code] = pruefung_(texte().text(code));
+        for (TextCode code = from; code < until; ++code)
+            verdict[code] = check_(texts().text(code));
     }
 
 private:
-    std::function<bool(std::string_view)> pruefung_;
+    std::function<bool(std::string_view)> check_;
 };
 
 } // namespace
 
-std::size_t findeBytes(std::string_view bytes, std::string_view gesucht, std::size_t ab)
+std::size_t findBytes(std::string_view bytes, std::string_view sought, std::size_t from)
 {
-    std::uint8_t anfaenge[FENSTER];
-    std::uint8_t* const ende = anfaenge + FENSTER;
-    for (; ab + FENSTER + gesucht.size() <= bytes.size(); ab += FENSTER) {
-        if (!merkeAnfaenge(bytes.data() + ab, gesucht, anfaenge))
+    std::uint8_t beginnings[WINDOW];
+    std::uint8_t* const end = beginnings + WINDOW;
+    for (; from + WINDOW + sought.size() <= bytes.size(); from += WINDOW) {
+        if (!rememberBeginnings(bytes.data() + from, sought, beginnings))
             continue;
-        for (std::uint8_t* stelle = naechster(anfaenge, ende); stelle != ende; stelle = naechster(stelle + 1, ende)) {
-            const std::size_t treffer = ab + static_cast<std::size_t>(stelle - anfaenge);
-            if (bytes.compare(treffer, gesucht.size(), gesucht) == 0)
-                return treffer;
+        for (std::uint8_t* position = next(beginnings, end); position != end; position = next(position + 1, end)) {
+            const std::size_t hits = from + static_cast<std::size_t>(position - beginnings);
+            if (bytes.compare(hits, sought.size(), sought) == 0)
+                return hits;
         }
     }
-    return bytes.find(gesucht, ab);
+    return bytes.find(sought, from);
 }
 
-Texttreffer::Texttreffer(const TextColumn& spalte, bool verneint)
-    : spalte_(spalte), verneint_(verneint), urteil_(spalte.texte().anzahl()),
-      bewertet_((urteil_.size() >> BLOCKBITS) + 1)
+TextHits::TextHits(const TextColumn& column, bool negated)
+    : column_(column), negated_(negated), verdict_(column.texts().count()),
+      evaluated_((verdict_.size() >> BLOCKBITS) + 1)
 {}
 
-void Texttreffer::behalte(std::vector<Zeilennummer>& zeilen)
+void TextHits::keep(std::vector<RowNumber>& rows)
 {
-    const Textcode* codes = spalte_.codes().data();
-    std::size_t bleiben = 0;
-    for (const Zeilennummer zeile : zeilen) {
-        const Textcode code = codes[zeile];
-        if (!bewertet_[code >> BLOCKBITS])
-            bewerteBlock(code >> BLOCKBITS);
-        zeilen[bleiben] = zeile;
-        bleiben += urteil_[code];
+    const TextCode* codes = column_.codes().data();
+    std::size_t stay = 0;
+    for (const RowNumber row : rows) {
+        const TextCode code = codes[row];
+        if (!evaluated_[code >> BLOCKBITS])
+            evaluateBlock(code >> BLOCKBITS);
+        rows[stay] = row;
+        stay += verdict_[code];
     }
-    zeilen.resize(bleiben);
+    rows.resize(stay);
 }
 
-bool Texttreffer::nirgends()
+bool TextHits::nowhere()
 {
-    const std::size_t bloecke = bewertet_.size();
-    if (bloecke < BLOECKE_FUER_ZWEI) {
-        bewerteBloecke(0, bloecke);
+    const std::size_t blocks = evaluated_.size();
+    if (blocks < BLOCKS_FOR_TWO) {
+        evaluateBlocks(0, blocks);
     } else {
-        spalte_.texte().gefaltet(); // Made when first asked for, which only one may do.
-        std::future<void> haelfte = std::async(std::launch::async, [&] { bewerteBloecke(bloecke / 2, bloecke); });
-        bewerteBloecke(0, bloecke / 2);
-        haelfte.get();
+        column_.texts().folded(); // Made when first asked for, which only one may do.
+        std::future<void> half = std::async(std::launch::async, [&] { evaluateBlocks(blocks / 2, blocks); });
+        evaluateBlocks(0, blocks / 2);
+        half.get();
     }
-    return std::memchr(urteil_.data(), 1, urteil_.size()) == nullptr;
+    return std::memchr(verdict_.data(), 1, verdict_.size()) == nullptr;
 }
 
-void Texttreffer::bewerteBloecke(std::size_t von, std::size_t bis)
+void TextHits::evaluateBlocks(std::size_t from, std::size_t until)
 {
-    for (std::size_t block = von; block < bis; ++block)
-        if (!bewertet_[block])
-            bewerteBlock(block);
+    for (std::size_t block = from; block < until; ++block)
+        if (!evaluated_[block])
+            evaluateBlock(block);
 }
 
-void Texttreffer::bewerteBlock(std::size_t block)
+void TextHits::evaluateBlock(std::size_t block)
 {
-    bewertet_[block] = 1;
-    const auto von = static_cast<Textcode>(block << BLOCKBITS);
-    const auto bis = static_cast<Textcode>(std::min<std::size_t>(von + (std::size_t{1} << BLOCKBITS), urteil_.size()));
-    bewerte(von, bis, urteil_);
-    if (verneint_)
-        for (Textcode code = von; code < bis; ++code)
-            urteil_[code] ^= 1;
-    if (von == 0)
-        urteil_[0] = 0;
+    evaluated_[block] = 1;
+    const auto from = static_cast<TextCode>(block << BLOCKBITS);
+    const auto until =
+        static_cast<TextCode>(std::min<std::size_t>(from + (std::size_t{1} << BLOCKBITS), verdict_.size()));
+    evaluate(from, until, verdict_);
+    if (negated_)
+        for (TextCode code = from; code < until; ++code)
+            verdict_[code] ^= 1;
+    if (from == 0)
+        verdict_[0] = 0;
 }
 
-std::unique_ptr<Texttreffer> likeTreffer(const TextColumn& spalte, std::string_view muster, Wildcards platzhalter,
-                                         bool verneint)
+std::unique_ptr<TextHits> likeHits(const TextColumn& column, std::string_view pattern, Wildcards placeholder,
+                                   bool negated)
 {
-    return std::make_unique<LikeTreffer>(spalte, LikePattern(muster, platzhalter), verneint);
+    return std::make_unique<LikeHits>(column, LikePattern(pattern, placeholder), negated);
 }
 
-std::unique_ptr<Texttreffer> gleichTreffer(const TextColumn& spalte, std::string_view text, bool verneint)
+std::unique_ptr<TextHits> equalHits(const TextColumn& column, std::string_view text, bool negated)
 {
-    return std::make_unique<GleichTreffer>(spalte, text, verneint);
+    return std::make_unique<EqualHits>(column, text, negated);
 }
 
-std::unique_ptr<Texttreffer> pruefTreffer(const TextColumn& spalte, std::function<bool(std::string_view)> pruefung)
+std::unique_ptr<TextHits> checkHits(const TextColumn& column, std::function<bool(std::string_view)> check)
 {
-    return std::make_unique<PruefTreffer>(spalte, std::move(pruefung));
+    return std::make_unique<CheckHits>(column, std::move(check));
 }
 
 } // namespace quelvarn

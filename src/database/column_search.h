@@ -10,42 +10,42 @@
 
 namespace quelvarn {
 
-// The first place of `gesucht` in `bytes` at or behind `ab`; std::string_view::npos when there is none.
-std::size_t findeBytes(std::string_view bytes, std::string_view gesucht, std::size_t ab);
+// The first place of `sought` in `bytes` at or behind `ab`; std::string_view::npos when there is none.
+std::size_t findBytes(std::string_view bytes, std::string_view sought, std::size_t from);
 
 // Tells for each text of a column whether it meets a condition, and by that which rows do. Each text is judged
 // once, in blocks, when a row with a text of that block is first asked for.
-class Texttreffer
+class TextHits
 {
 public:
-    virtual ~Texttreffer() = default;
+    virtual ~TextHits() = default;
     // Removes the rows that do not meet the condition; the others stay in their order. Null never meets one.
-    void behalte(std::vector<Zeilennummer>& zeilen);
+    void keep(std::vector<RowNumber>& rows);
     // True when no text of the column meets the condition. Judges all of them, on two processors when they are many.
-    bool nirgends();
+    bool nowhere();
 
 protected:
-    Texttreffer(const TextColumn& spalte, bool verneint);
-    // Sets urteil[code] to 1 for the codes from `von` up to, not including, `bis` that meet the condition; all
+    TextHits(const TextColumn& column, bool negated);
+    // Sets verdict[code] to 1 for the codes from `from` up to, not including, `bis` that meet the condition; all
     // are 0 before. May run for different codes at the same time.
-    virtual void bewerte(Textcode von, Textcode bis, std::vector<std::uint8_t>& urteil) = 0;
-    const Textvorrat& texte() const { return spalte_.texte(); }
+    virtual void evaluate(TextCode from, TextCode until, std::vector<std::uint8_t>& verdict) = 0;
+    const TextPool& texts() const { return column_.texts(); }
 
 private:
-    void bewerteBlock(std::size_t block);
-    void bewerteBloecke(std::size_t von, std::size_t bis);
+    void evaluateBlock(std::size_t block);
+    void evaluateBlocks(std::size_t from, std::size_t until);
 
-    const TextColumn& spalte_;
-    bool verneint_;
-    std::vector<std::uint8_t> urteil_;
-    std::vector<std::uint8_t> bewertet_; // by block
+    const TextColumn& column_;
+    bool negated_;
+    std::vector<std::uint8_t> verdict_;
+    std::vector<std::uint8_t> evaluated_; // by block
 };
 
-std::unique_ptr<Texttreffer> likeTreffer(const TextColumn& spalte, std::string_view muster, Wildcards platzhalter,
-                                         bool verneint);
+std::unique_ptr<TextHits> likeHits(const TextColumn& column, std::string_view pattern, Wildcards placeholder,
+                                   bool negated);
 // Texts equal to this one, blind to case and to trailing blanks.
-std::unique_ptr<Texttreffer> gleichTreffer(const TextColumn& spalte, std::string_view text, bool verneint);
+std::unique_ptr<TextHits> equalHits(const TextColumn& column, std::string_view text, bool negated);
 // Texts of which the test is true.
-std::unique_ptr<Texttreffer> pruefTreffer(const TextColumn& spalte, std::function<bool(std::string_view)> pruefung);
+std::unique_ptr<TextHits> checkHits(const TextColumn& column, std::function<bool(std::string_view)> check);
 
 } // namespace quelvarn

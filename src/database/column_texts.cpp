@@ -9,167 +9,167 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t ERSTE_PLAETZE = 16;
+constexpr std::size_t FIRST_PLACES = 16;
 // From this many distinct texts on the search must pay for itself.
 constexpr std::size_t PROBE = 1 << 16;
 
-std::uint32_t streuwertVon(std::string_view text)
+std::uint32_t scatterValueOf(std::string_view text)
 {
-    constexpr std::uint64_t FAKTOR = 0x9E3779B97F4A7C15ull;
-    std::uint64_t wert = text.size() * FAKTOR;
-    const char* stelle = text.data();
+    constexpr std::uint64_t FACTOR = 0x9E3779B97F4A7C15ull;
+    std::uint64_t value = text.size() * FACTOR;
+    const char* position = text.data();
     std::size_t rest = text.size();
-    for (; rest >= 8; rest -= 8, stelle += 8) {
-        std::uint64_t wort;
-        std::memcpy(&wort, stelle, 8);
-        wert = (wert ^ wort) * FAKTOR;
-        wert ^= wert >> 32;
+    for (; rest >= 8; rest -= 8, position += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, position, 8);
+        value = (value ^ word) * FACTOR;
+        value ^= value >> 32;
     }
-    std::uint64_t wort = 0;
+    std::uint64_t word = 0;
     if (rest > 0)
-        std::memcpy(&wort, stelle, rest);
-    wert = (wert ^ wort) * FAKTOR;
-    return static_cast<std::uint32_t>(wert >> 32);
+        std::memcpy(&word, position, rest);
+    value = (value ^ word) * FACTOR;
+    return static_cast<std::uint32_t>(value >> 32);
 }
 
 constexpr std::size_t BLOCK = 64;
 
 // Lower-cases ASCII letters only. True when the block holds anything beyond ASCII. The fixed length lets the
 // compiler use vector instructions.
-bool falteBlock(const char* __restrict quelle, char* __restrict ziel)
+bool foldBlock(const char* __restrict source, char* __restrict target)
 {
-    unsigned char hoch = 0;
+    unsigned char high = 0;
     for (std::size_t i = 0; i < BLOCK; ++i) {
-        const auto zeichen = static_cast<unsigned char>(quelle[i]);
-        const auto abstand = static_cast<unsigned char>(zeichen - 'A');
-        ziel[i] = static_cast<char>(zeichen | (abstand < 26 ? 0x20 : 0));
-        hoch |= zeichen;
+        const auto character = static_cast<unsigned char>(source[i]);
+        const auto distance = static_cast<unsigned char>(character - 'A');
+        target[i] = static_cast<char>(character | (distance < 26 ? 0x20 : 0));
+        high |= character;
     }
-    return (hoch & 0x80) != 0;
+    return (high & 0x80) != 0;
 }
 
 // The first place from `ab` on that holds a byte beyond ASCII; bytes.size() when there is none.
-std::size_t naechstesHohe(const std::string& bytes, std::size_t ab)
+std::size_t nextHigh(const std::string& bytes, std::size_t from)
 {
-    while (ab + 8 <= bytes.size()) {
-        std::uint64_t wort;
-        std::memcpy(&wort, bytes.data() + ab, 8);
-        if (wort & 0x8080808080808080ull)
+    while (from + 8 <= bytes.size()) {
+        std::uint64_t word;
+        std::memcpy(&word, bytes.data() + from, 8);
+        if (word & 0x8080808080808080ull)
             break;
-        ab += 8;
+        from += 8;
     }
-    while (ab < bytes.size() && (bytes[ab] & 0x80) == 0)
-        ++ab;
-    return ab;
+    while (from < bytes.size() && (bytes[from] & 0x80) == 0)
+        ++from;
+    return from;
 }
 
 } // namespace
 
-Textcode Textvorrat::codeVon(std::string_view neu)
+TextCode TextPool::codeOf(std::string_view fresh)
 {
-    if (letzter_ != 0 && text(letzter_) == neu)
-        return letzter_;
-    if (!sucht_)
-        return letzter_ = haengeAn(neu);
-    if (anzahl() * 2 >= plaetze_.size())
-        vergroessere();
-    const std::uint32_t streuwert = streuwertVon(neu);
-    const std::size_t maske = plaetze_.size() - 1;
-    std::size_t platz = streuwert & maske;
-    for (; plaetze_[platz].code != 0; platz = (platz + 1) & maske) {
-        if (plaetze_[platz].streuwert == streuwert && text(plaetze_[platz].code) == neu) {
-            ++gefunden_;
-            return letzter_ = plaetze_[platz].code;
+    if (last_ != 0 && text(last_) == fresh)
+        return last_;
+    if (!searches_)
+        return last_ = append(fresh);
+    if (count() * 2 >= places_.size())
+        enlarge();
+    const std::uint32_t scatterValue = scatterValueOf(fresh);
+    const std::size_t mask = places_.size() - 1;
+    std::size_t place = scatterValue & mask;
+    for (; places_[place].code != 0; place = (place + 1) & mask) {
+        if (places_[place].scatterValue == scatterValue && text(places_[place].code) == fresh) {
+            ++found_;
+            return last_ = places_[place].code;
         }
     }
-    letzter_ = haengeAn(neu);
-    plaetze_[platz] = {streuwert, letzter_};
-    if (letzter_ % PROBE == 0 && !lohntSuche()) {
-        sucht_ = false;
-        plaetze_ = {};
+    last_ = append(fresh);
+    places_[place] = {scatterValue, last_};
+    if (last_ % PROBE == 0 && !paysSearch()) {
+        searches_ = false;
+        places_ = {};
     }
-    return letzter_;
+    return last_;
 }
 
-Textcode Textvorrat::haengeAn(std::string_view neu)
+TextCode TextPool::append(std::string_view fresh)
 {
-    bytes_.append(neu);
-    anfaenge_.push_back(bytes_.size());
-    return static_cast<Textcode>(anfaenge_.size() - 2);
+    bytes_.append(fresh);
+    beginnings_.push_back(bytes_.size());
+    return static_cast<TextCode>(beginnings_.size() - 2);
 }
 
-bool Textvorrat::lohntSuche() const
+bool TextPool::paysSearch() const
 {
-    return gefunden_ * 4 >= anzahl();
+    return found_ * 4 >= count();
 }
 
-void Textvorrat::vergroessere()
+void TextPool::enlarge()
 {
-    std::vector<Platz> alte(std::max(ERSTE_PLAETZE, plaetze_.size() * 2));
-    alte.swap(plaetze_);
-    const std::size_t maske = plaetze_.size() - 1;
-    for (const Platz& alter : alte) {
+    std::vector<Place> old(std::max(FIRST_PLACES, places_.size() * 2));
+    old.swap(places_);
+    const std::size_t mask = places_.size() - 1;
+    for (const Place& alter : old) {
         if (alter.code == 0)
             continue;
-        std::size_t platz = alter.streuwert & maske;
-        while (plaetze_[platz].code != 0)
-            platz = (platz + 1) & maske;
-        plaetze_[platz] = alter;
+        std::size_t place = alter.scatterValue & mask;
+        while (places_[place].code != 0)
+            place = (place + 1) & mask;
+        places_[place] = alter;
     }
 }
 
-void Textvorrat::schliesseAb()
+void TextPool::commit()
 {
-    sucht_ = false;
-    plaetze_ = {};
+    searches_ = false;
+    places_ = {};
     bytes_.shrink_to_fit();
-    anfaenge_.shrink_to_fit();
+    beginnings_.shrink_to_fit();
 }
 
-std::size_t Textvorrat::speicher() const
+std::size_t TextPool::memory() const
 {
-    return bytes_.capacity() + anfaenge_.capacity() * sizeof(anfaenge_[0]) + plaetze_.capacity() * sizeof(Platz) +
-           gefaltet_.bytes.capacity() + gefaltet_.andereLaenge.capacity() * sizeof(Textcode);
+    return bytes_.capacity() + beginnings_.capacity() * sizeof(beginnings_[0]) + places_.capacity() * sizeof(Place) +
+           folded_.bytes.capacity() + folded_.otherLength.capacity() * sizeof(TextCode);
 }
 
-const Textvorrat::Gefaltet& Textvorrat::gefaltet() const
+const TextPool::Folded& TextPool::folded() const
 {
-    if (gefaltet_.bis == anzahl())
-        return gefaltet_;
-    const std::size_t erstes = gefaltet_.bytes.size();
-    if (falteAscii(erstes))
-        falteAndere(erstes);
-    gefaltet_.bis = static_cast<Textcode>(anzahl());
-    return gefaltet_;
+    if (folded_.until == count())
+        return folded_;
+    const std::size_t first = folded_.bytes.size();
+    if (foldAscii(first))
+        foldOther(first);
+    folded_.until = static_cast<TextCode>(count());
+    return folded_;
 }
 
 // True when there is more than ASCII from this place on.
-bool Textvorrat::falteAscii(std::size_t stelle) const
+bool TextPool::foldAscii(std::size_t position) const
 {
-    gefaltet_.bytes.resize(bytes_.size());
-    bool andere = false;
-    for (; stelle + BLOCK <= bytes_.size(); stelle += BLOCK)
-        andere |= falteBlock(bytes_.data() + stelle, gefaltet_.bytes.data() + stelle);
-    char quelle[BLOCK] = {};
-    char ziel[BLOCK];
-    const std::size_t rest = bytes_.size() - stelle;
-    bytes_.copy(quelle, rest, stelle);
-    andere |= falteBlock(quelle, ziel);
-    std::copy_n(ziel, rest, gefaltet_.bytes.data() + stelle);
-    return andere;
+    folded_.bytes.resize(bytes_.size());
+    bool other = false;
+    for (; position + BLOCK <= bytes_.size(); position += BLOCK)
+        other |= foldBlock(bytes_.data() + position, folded_.bytes.data() + position);
+    char source[BLOCK] = {};
+    char target[BLOCK];
+    const std::size_t rest = bytes_.size() - position;
+    bytes_.copy(source, rest, position);
+    other |= foldBlock(source, target);
+    std::copy_n(target, rest, folded_.bytes.data() + position);
+    return other;
 }
 
-void Textvorrat::falteAndere(std::size_t stelle) const
+void TextPool::foldOther(std::size_t position) const
 {
-    for (stelle = naechstesHohe(bytes_, stelle); stelle < bytes_.size();) {
-        const auto naechster = std::upper_bound(anfaenge_.begin() + gefaltet_.bis, anfaenge_.end(), stelle);
-        const auto code = static_cast<Textcode>(naechster - anfaenge_.begin() - 1);
-        const std::string gefaltet = foldCase(text(code));
-        if (gefaltet.size() == text(code).size())
-            gefaltet.copy(gefaltet_.bytes.data() + anfaenge_[code], gefaltet.size());
+    for (position = nextHigh(bytes_, position); position < bytes_.size();) {
+        const auto next = std::upper_bound(beginnings_.begin() + folded_.until, beginnings_.end(), position);
+        const auto code = static_cast<TextCode>(next - beginnings_.begin() - 1);
+        const std::string folded = foldCase(text(code));
+        if (folded.size() == text(code).size())
+            folded.copy(folded_.bytes.data() + beginnings_[code], folded.size());
         else
-            gefaltet_.andereLaenge.push_back(code);
-        stelle = naechstesHohe(bytes_, *naechster);
+            folded_.otherLength.push_back(code);
+        position = nextHigh(bytes_, *next);
     }
 }
 

@@ -16,100 +16,101 @@ namespace quelvarn {
 namespace {
 
 // The first bytes of a file; enough for a postgresql:// address.
-std::string leseAnfang(const std::filesystem::path& pfad)
+std::string readBegin(const std::filesystem::path& documentPath)
 {
-    constexpr std::streamsize laenge = 4096;
-    std::error_code fehler;
-    if (!std::filesystem::exists(pfad, fehler))
-        throw Laufzeitfehler(53, "Datenbank", fmt::format("Die Datei '{}' wurde nicht gefunden.", utf8FromPath(pfad)));
-    std::ifstream datei(pfad, std::ios::binary);
-    std::string anfang(laenge, '\0');
-    datei.read(anfang.data(), laenge);
-    if (!datei.is_open() || datei.bad() || std::filesystem::is_directory(pfad, fehler))
-        throw Laufzeitfehler(75, "Datenbank",
-                             fmt::format("Die Datei '{}' kann nicht gelesen werden.", utf8FromPath(pfad)));
-    anfang.resize(static_cast<std::size_t>(datei.gcount()));
-    return anfang;
+    constexpr std::streamsize length = 4096;
+    std::error_code fault;
+    if (!std::filesystem::exists(documentPath, fault))
+        throw RuntimeError(53, "Datenbank",
+                           fmt::format("Die Datei '{}' wurde nicht gefunden.", utf8FromPath(documentPath)));
+    std::ifstream file(documentPath, std::ios::binary);
+    std::string begin(length, '\0');
+    file.read(begin.data(), length);
+    if (!file.is_open() || file.bad() || std::filesystem::is_directory(documentPath, fault))
+        throw RuntimeError(75, "Datenbank",
+                           fmt::format("Die Datei '{}' kann nicht gelesen werden.", utf8FromPath(documentPath)));
+    begin.resize(static_cast<std::size_t>(file.gcount()));
+    return begin;
 }
 
-std::string_view ersteZeile(std::string_view anfang)
+std::string_view firstRow(std::string_view begin)
 {
-    constexpr std::string_view utf8Marke = "\xEF\xBB\xBF";
-    if (anfang.starts_with(utf8Marke))
-        anfang.remove_prefix(utf8Marke.size());
-    return trim(anfang.substr(0, anfang.find_first_of("\r\n")));
+    constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+    if (begin.starts_with(utf8Mark))
+        begin.remove_prefix(utf8Mark.size());
+    return trim(begin.substr(0, begin.find_first_of("\r\n")));
 }
 
-bool istPostgresAdresse(std::string_view text)
+bool isPostgresAddress(std::string_view text)
 {
     return startsWithIgnoringCase(text, "postgresql://") || startsWithIgnoringCase(text, "postgres://");
 }
 
-DatenbankArt artAusAnfang(std::string_view anfang)
+DatabaseKind kindFromStart(std::string_view begin)
 {
     using namespace std::string_view_literals;
-    if (anfang.starts_with("SQLite format 3\0"sv))
-        return DatenbankArt::SQLite;
-    if (anfang.starts_with("\0\1\0\0Standard Jet DB\0"sv) || anfang.starts_with("\0\1\0\0Standard ACE DB\0"sv))
-        return DatenbankArt::Access;
-    if (istPostgresAdresse(ersteZeile(anfang)))
-        return DatenbankArt::PostgreSQL;
-    return DatenbankArt::Unbekannt;
+    if (begin.starts_with("SQLite format 3\0"sv))
+        return DatabaseKind::SQLite;
+    if (begin.starts_with("\0\1\0\0Standard Jet DB\0"sv) || begin.starts_with("\0\1\0\0Standard ACE DB\0"sv))
+        return DatabaseKind::Access;
+    if (isPostgresAddress(firstRow(begin)))
+        return DatabaseKind::PostgreSQL;
+    return DatabaseKind::Unknown;
 }
 
 #ifdef _WIN32
-constexpr std::string_view ACCESS_FEHLT = "Dieses System hat keinen 64-Bit-Treiber für Access.\n"
-                                          "Er wird mit dem 64-Bit-Access oder dessen Datenbankmodul installiert.";
+constexpr std::string_view ACCESS_MISSING = "Dieses System hat keinen 64-Bit-Treiber für Access.\n"
+                                            "Er wird mit dem 64-Bit-Access oder dessen Datenbankmodul installiert.";
 #else
-constexpr std::string_view ACCESS_FEHLT = "Dieses System hat keinen Treiber für Access.\n"
-                                          "Der Administrator übernimmt die Datei einmalig mit \"qvadmin import\".";
+constexpr std::string_view ACCESS_MISSING = "Dieses System hat keinen Treiber für Access.\n"
+                                            "Der Administrator übernimmt die Datei einmalig mit \"qvadmin import\".";
 #endif
 
-[[noreturn]] void meldeAccess(const std::filesystem::path& pfad)
+[[noreturn]] void tellAccess(const std::filesystem::path& documentPath)
 {
-    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
-                         fmt::format("'{}' ist eine Access-Datenbank.\n{}", utf8FromPath(pfad), ACCESS_FEHLT));
+    throw RuntimeError(FAULT_GENERAL, "Datenbank",
+                       fmt::format("'{}' ist eine Access-Datenbank.\n{}", utf8FromPath(documentPath), ACCESS_MISSING));
 }
 
 } // namespace
 
-DatenbankArt erkenneDatenbank(const std::filesystem::path& pfad)
+DatabaseKind recognizeDatabase(const std::filesystem::path& documentPath)
 {
-    return artAusAnfang(leseAnfang(pfad));
+    return kindFromStart(readBegin(documentPath));
 }
 
 Connection::~Connection() = default;
 Connection::Connection(Connection&&) noexcept = default;
 Connection& Connection::operator=(Connection&&) noexcept = default;
 
-void Connection::Open(const std::filesystem::path& pfad)
+void Connection::Open(const std::filesystem::path& documentPath)
 {
-    const std::string anfang = leseAnfang(pfad);
-    switch (artAusAnfang(anfang)) {
-    case DatenbankArt::SQLite:
-        use(oeffneSqlite(pfad, false, patience_));
+    const std::string begin = readBegin(documentPath);
+    switch (kindFromStart(begin)) {
+    case DatabaseKind::SQLite:
+        use(openSqlite(documentPath, false, patience_));
         return;
-    case DatenbankArt::PostgreSQL:
-        use(oeffnePostgres(ersteZeile(anfang), patience_));
+    case DatabaseKind::PostgreSQL:
+        use(openPostgres(firstRow(begin), patience_));
         return;
-    case DatenbankArt::Access:
-        use(oeffneAccess(pfad));
+    case DatabaseKind::Access:
+        use(openAccess(documentPath));
         if (!engine_)
-            meldeAccess(pfad);
+            tellAccess(documentPath);
         return;
-    case DatenbankArt::Unbekannt:
+    case DatabaseKind::Unknown:
         break;
     }
-    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Datenbank",
-                         fmt::format("'{}' ist keine Datenbank dieses Programms.", utf8FromPath(pfad)));
+    throw RuntimeError(FAULT_GENERAL, "Datenbank",
+                       fmt::format("'{}' ist keine Datenbank dieses Programms.", utf8FromPath(documentPath)));
 }
 
-void Connection::OpenAdresse(std::string_view pfadOderAdresse)
+void Connection::openAddress(std::string_view pathOrAddress)
 {
-    if (istPostgresAdresse(pfadOderAdresse))
-        use(oeffnePostgres(pfadOderAdresse, patience_));
+    if (isPostgresAddress(pathOrAddress))
+        use(openPostgres(pathOrAddress, patience_));
     else
-        Open(pathFromUtf8(pfadOderAdresse));
+        Open(pathFromUtf8(pathOrAddress));
 }
 
 void Connection::setPatience(Patience* patience)
@@ -130,16 +131,16 @@ void Connection::Close()
     engine_.reset();
 }
 
-std::int64_t Connection::Execute(sql::FixedText anweisung)
+std::int64_t Connection::Execute(sql::FixedText statement)
 {
-    return Execute(sql::parseAnweisung(anweisung.text()));
+    return Execute(sql::parseStatement(statement.text()));
 }
 
-std::int64_t Connection::Execute(const sql::Anweisung& anweisung)
+std::int64_t Connection::Execute(const sql::Statement& statement)
 {
-    if (std::holds_alternative<sql::Select>(anweisung))
-        throw Laufzeitfehler(FEHLER_ANWEISUNG, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");
-    return engine().fuehreAus(anweisung);
+    if (std::holds_alternative<sql::Select>(statement))
+        throw RuntimeError(FAULT_STATEMENT, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");
+    return engine().execute(statement);
 }
 
 FileState Connection::fileState() const
@@ -156,7 +157,7 @@ void Connection::checkFile() const
 Engine& Connection::engine() const
 {
     if (!engine_)
-        throw Laufzeitfehler(3709, "Datenbank", "Die Verbindung zur Datenbank ist nicht geöffnet.");
+        throw RuntimeError(3709, "Datenbank", "Die Verbindung zur Datenbank ist nicht geöffnet.");
     return *engine_;
 }
 

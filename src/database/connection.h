@@ -10,10 +10,10 @@
 
 namespace quelvarn {
 
-enum class DatenbankArt { Unbekannt, SQLite, PostgreSQL, Access };
+enum class DatabaseKind { Unknown, SQLite, PostgreSQL, Access };
 
-// By the first bytes of what lies there, not by the ending. Throws Laufzeitfehler when it cannot be read.
-DatenbankArt erkenneDatenbank(const std::filesystem::path& pfad);
+// By the first bytes of what lies there, not by the ending. Throws RuntimeError when it cannot be read.
+DatabaseKind recognizeDatabase(const std::filesystem::path& documentPath);
 
 // The one connection of a session; shared by its recordsets.
 class Connection
@@ -26,12 +26,12 @@ public:
     Connection& operator=(Connection&&) noexcept;
 
     // A SQLite file, an Access file where a driver for it is installed, or a text file whose first line is a
-    // postgresql:// address. Anything else throws Laufzeitfehler with a German description.
-    void Open(const std::filesystem::path& pfad);
+    // postgresql:// address. Anything else throws RuntimeError with a German description.
+    void Open(const std::filesystem::path& documentPath);
     // A path, or a postgresql:// address itself.
-    void OpenAdresse(std::string_view pfadOderAdresse);
+    void openAddress(std::string_view pathOrAddress);
     void Close();
-    bool offen() const { return engine_ != nullptr; }
+    bool open() const { return engine_ != nullptr; }
 
     // Asked while a database lets wait, also one that is opened later; null for nobody. Outlives the connection.
     void setPatience(Patience* patience);
@@ -44,8 +44,8 @@ public:
 
     // One INSERT, UPDATE or DELETE: a tree, or text of the program's dialect without a value from outside. Rows
     // affected.
-    std::int64_t Execute(const sql::Anweisung& anweisung);
-    std::int64_t Execute(sql::FixedText anweisung);
+    std::int64_t Execute(const sql::Statement& statement);
+    std::int64_t Execute(sql::FixedText statement);
 
     Engine& engine() const;
 
@@ -55,21 +55,21 @@ private:
     std::shared_ptr<Engine> engine_;
     Patience* patience_ = nullptr;
     friend class Recordset;
-    friend class Transaktion;
+    friend class Transaction;
 };
 
-// Several row changes that belong together: all or none, where the engine can. Taken back unless schliesseAb was
+// Several row changes that belong together: all or none, where the engine can. Taken back unless commit was
 // called.
-class Transaktion
+class Transaction
 {
 public:
-    explicit Transaktion(const Connection& verbindung) : engine_(verbindung.engine_), transaktion_(verbindung.engine())
+    explicit Transaction(const Connection& connection) : engine_(connection.engine_), transaction_(connection.engine())
     {}
-    void schliesseAb() { transaktion_.schliesseAb(); }
+    void commit() { transaction_.commit(); }
 
 private:
     std::shared_ptr<Engine> engine_; // Outlives a connection that is closed meanwhile.
-    Enginetransaktion transaktion_;
+    EngineTransaction transaction_;
 };
 
 } // namespace quelvarn

@@ -8,69 +8,69 @@
 namespace quelvarn {
 namespace {
 
-int vergleiche(const Value& links, const Value& rechts)
+int compare(const Value& left, const Value& right)
 {
-    const auto* linkerText = std::get_if<std::string>(&links);
-    const auto* rechterText = std::get_if<std::string>(&rechts);
-    if (linkerText && rechterText)
-        return compareText(*linkerText, *rechterText);
-    return links < rechts ? -1 : (rechts < links ? 1 : 0); // Null stands before everything.
+    const auto* linkerText = std::get_if<std::string>(&left);
+    const auto* rightText = std::get_if<std::string>(&right);
+    if (linkerText && rightText)
+        return compareText(*linkerText, *rightText);
+    return left < right ? -1 : (right < left ? 1 : 0); // Null stands before everything.
 }
 
 // Equal for rows that are equal to the program. Each cell ends with a NUL, which no key holds.
-std::string vergleichsschluessel(const Zeilenleser& zeile)
+std::string comparisonKey(const RowReader& row)
 {
-    std::string schluessel;
-    for (std::size_t i = 0; i < zeile.spalten().size(); ++i) {
-        schluessel += zeile.istNull(i) ? 'N' : 'W';
-        schluessel += sortKey(zeile.text(i));
-        schluessel += '\0';
+    std::string key;
+    for (std::size_t i = 0; i < row.columns().size(); ++i) {
+        key += row.isNull(i) ? 'N' : 'W';
+        key += sortKey(row.text(i));
+        key += '\0';
     }
-    return schluessel;
+    return key;
 }
 
 } // namespace
 
-DistinctLeser::DistinctLeser(Zeilenleser& server, const std::vector<sql::Sortierung>& ordnung, std::size_t grenze)
-    : spalten_(server.spalten())
+DistinctReader::DistinctReader(RowReader& server, const std::vector<sql::Sort>& rowOrder, std::size_t limit)
+    : columns_(server.columns())
 {
     lies(server);
-    sortiere(ordnung);
-    if (grenze > 0 && zeilen_.size() > grenze)
-        zeilen_.resize(grenze);
+    sort(rowOrder);
+    if (limit > 0 && rows_.size() > limit)
+        rows_.resize(limit);
 }
 
-void DistinctLeser::lies(Zeilenleser& server)
+void DistinctReader::lies(RowReader& server)
 {
-    std::unordered_set<std::string> bekannt;
+    std::unordered_set<std::string> known;
     while (server.next()) {
-        if (!bekannt.insert(vergleichsschluessel(server)).second)
+        if (!known.insert(comparisonKey(server)).second)
             continue;
-        Zeile& zeile = zeilen_.emplace_back();
-        for (std::size_t i = 0; i < spalten_.size(); ++i)
-            zeile.push_back(server.wert(i));
+        Row& row = rows_.emplace_back();
+        for (std::size_t i = 0; i < columns_.size(); ++i)
+            row.push_back(server.value(i));
     }
 }
 
-void DistinctLeser::sortiere(const std::vector<sql::Sortierung>& ordnung)
+void DistinctReader::sort(const std::vector<sql::Sort>& rowOrder)
 {
-    std::vector<std::pair<std::size_t, bool>> stellen;
-    for (const sql::Sortierung& teil : ordnung) {
-        const auto spalte =
-            std::ranges::find_if(spalten_, [&](const Spalte& s) { return equalText(s.name, teil.spalte); });
-        stellen.emplace_back(spalte - spalten_.begin(), teil.absteigend); // The renderer has checked the name.
+    std::vector<std::pair<std::size_t, bool>> positions;
+    for (const sql::Sort& part : rowOrder) {
+        const auto column =
+            std::ranges::find_if(columns_, [&](const ColumnInfo& s) { return equalText(s.name, part.column); });
+        positions.emplace_back(column - columns_.begin(), part.descending); // The renderer has checked the name.
     }
-    std::ranges::stable_sort(zeilen_, [&](const Zeile& links, const Zeile& rechts) {
-        for (const auto& [stelle, absteigend] : stellen)
-            if (const int unterschied = vergleiche(links[stelle], rechts[stelle]))
-                return (unterschied < 0) != absteigend;
+    std::ranges::stable_sort(rows_, [&](const Row& left, const Row& right) {
+        for (const auto& [position, descending] : positions)
+            if (const int difference = compare(left[position], right[position]))
+                return (difference < 0) != descending;
         return false;
     });
 }
 
-std::string_view DistinctLeser::text(std::size_t spalte) const
+std::string_view DistinctReader::text(std::size_t column) const
 {
-    text_ = alsText(zelle(spalte));
+    text_ = asText(cell(column));
     return text_;
 }
 

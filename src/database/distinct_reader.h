@@ -6,31 +6,31 @@ namespace quelvarn {
 
 // The rows of a DISTINCT, which a server tells apart by case and trailing blanks: one of each set of equal rows,
 // in the order and number asked for.
-class DistinctLeser final : public Zeilenleser
+class DistinctReader final : public RowReader
 {
 public:
-    DistinctLeser(Zeilenleser& server, const std::vector<sql::Sortierung>& ordnung, std::size_t grenze);
+    DistinctReader(RowReader& server, const std::vector<sql::Sort>& rowOrder, std::size_t limit);
 
-    const std::vector<Spalte>& spalten() const override { return spalten_; }
-    bool next() override { return ++naechste_ <= zeilen_.size(); }
-    Zeilenschluessel schluessel() const override { return 0; }
-    bool istNull(std::size_t spalte) const override { return quelvarn::istNull(zelle(spalte)); }
-    std::string_view text(std::size_t spalte) const override;
-    std::int64_t ganzzahl(std::size_t spalte) const override { return alsGanzzahl(zelle(spalte)); }
-    double gleitkomma(std::size_t spalte) const override { return alsZahl(zelle(spalte)); }
-    Zeitpunkt datum(std::size_t spalte) const override { return alsDatum(zelle(spalte)); }
-    Value wert(std::size_t spalte) const override { return zelle(spalte); }
+    const std::vector<ColumnInfo>& columns() const override { return columns_; }
+    bool next() override { return ++next_ <= rows_.size(); }
+    RowKey key() const override { return 0; }
+    bool isNull(std::size_t column) const override { return quelvarn::isNull(cell(column)); }
+    std::string_view text(std::size_t column) const override;
+    std::int64_t integer(std::size_t column) const override { return asInteger(cell(column)); }
+    double floatingPoint(std::size_t column) const override { return asNumber(cell(column)); }
+    DateTime date(std::size_t column) const override { return asDate(cell(column)); }
+    Value value(std::size_t column) const override { return cell(column); }
 
 private:
-    using Zeile = std::vector<Value>;
+    using Row = std::vector<Value>;
 
-    void lies(Zeilenleser& server);
-    void sortiere(const std::vector<sql::Sortierung>& ordnung);
-    const Value& zelle(std::size_t spalte) const { return zeilen_[naechste_ - 1][spalte]; }
+    void lies(RowReader& server);
+    void sort(const std::vector<sql::Sort>& rowOrder);
+    const Value& cell(std::size_t column) const { return rows_[next_ - 1][column]; }
 
-    std::vector<Spalte> spalten_;
-    std::vector<Zeile> zeilen_;
-    std::size_t naechste_ = 0;
+    std::vector<ColumnInfo> columns_;
+    std::vector<Row> rows_;
+    std::size_t next_ = 0;
     mutable std::string text_;
 };
 

@@ -6,31 +6,31 @@
 
 namespace quelvarn {
 
-constexpr int ANZAHL_DOKUTYPEN = 8;
+constexpr int DOCUMENT_TYPE_COUNT = 8;
 
-// What differs between the eight document types. The index in DOKUTYPEN is the tab.
-struct DokuTyp
+// What differs between the eight document types. The index in DOCUMENT_TYPES is the tab.
+struct DocumentType
 {
     int tab;
-    std::string_view schluessel; // In saved filters and favourites.
-    std::string_view tabelle;
-    std::string_view tabelleBenutzDef;
-    std::string_view endung;  // "" for the special tables.
-    int dokuArt;              // The type number of the CAD program, as a row load writes it.
-    int typNachTabwechsel;    // Differs from dokuArt for weldments; other parts of the office rely on both.
-    int typNachZeile;         // The same when the tree has loaded the row.
-    int stempelNummer;        // Number of its WriteDB stamp, 0 for none.
-    std::string_view stempel; // Key of its WriteDB stamp.
-    std::string_view einzahl; // "" where the configured name of the special table stands.
-    std::string_view mehrzahl;
+    std::string_view key; // In saved filters and favourites.
+    std::string_view table;
+    std::string_view tableUserDef;
+    std::string_view extension; // "" for the special tables.
+    int documentKind;           // The type number of the CAD program, as a row load writes it.
+    int typeAfterTabChange;     // Differs from documentKind for weldments; other parts of the office rely on both.
+    int typeAfterRow;           // The same when the tree has loaded the row.
+    int stampNumber;            // Number of its WriteDB stamp, 0 for none.
+    std::string_view stamp;     // Key of its WriteDB stamp.
+    std::string_view singular;  // "" where the configured name of the special table stands.
+    std::string_view plural;
     std::string_view grid;
-    std::string_view baum; // "Stbl2TreeView" is spelled so.
-    int aenderungspanel;   // Panel of StatusBarUpdate, counted from 1. The special tables share the last one.
-    bool statusbereich;    // Limited to the statuses that the user may see.
-    int sondertabelle;     // 1 to 3, else 0.
+    std::string_view tree; // "Stbl2TreeView" is spelled so.
+    int indicatorPanel;    // Panel of StatusBarUpdate, counted from 1. The special tables share the last one.
+    bool statusScope;      // Limited to the statuses that the user may see.
+    int specialTable;      // 1 to 3, else 0.
 };
 
-inline constexpr std::array<DokuTyp, ANZAHL_DOKUTYPEN> DOKUTYPEN{{
+inline constexpr std::array<DocumentType, DOCUMENT_TYPE_COUNT> DOCUMENT_TYPES{{
     {0, "Part", "PartTabelle", "PartTabelleBenutzDef", "par", 1, 1, 1, 1, "PART", "Bauteil", "Bauteile", "PartDataGrid",
      "PartTreeView", 3, true, 0},
     {1, "SheetM", "SheetMTabelle", "SheetMTabelleBenutzDef", "psm", 4, 4, 4, 4, "SHEETM", "Blechteil", "Blechteile",
@@ -49,17 +49,17 @@ inline constexpr std::array<DokuTyp, ANZAHL_DOKUTYPEN> DOKUTYPEN{{
      11, false, 3},
 }};
 
-constexpr int ANZAHL_STATUS = 6;
+constexpr int STATUS_COUNT = 6;
 
 struct StatusText
 {
     std::string_view name;      // "Verfügbar"
-    std::string_view kurz;      // " 0=Verfügbar;" of the access line
-    std::string_view inKlammer; // "(Verfügbar)" of the information pages
-    unsigned farbe;             // RGB of the standard colour
+    std::string_view shortText; // " 0=Verfügbar;" of the access line
+    std::string_view inBracket; // "(Verfügbar)" of the information pages
+    unsigned colour;            // RGB of the standard colour
 };
 
-inline constexpr std::array<StatusText, ANZAHL_STATUS> STATUS{{
+inline constexpr std::array<StatusText, STATUS_COUNT> STATUS{{
     {"Verfügbar", " 0=Verfügbar;", "(Verfügbar)", 0x000000},
     {"In Arbeit", " 1=In Arbeit;", "(In Arbeit)", 0xFF0000},
     {"Wird geprüft", " 2=Wird geprüft;", "(Wird geprüft)", 0xFF00FF},

@@ -4,26 +4,26 @@
 
 namespace quelvarn {
 
-Enginetransaktion::Enginetransaktion(Engine& engine) : engine_(engine)
+EngineTransaction::EngineTransaction(Engine& engine) : engine_(engine)
 {
-    engine_.beginne();
+    engine_.begin();
 }
 
-Enginetransaktion::~Enginetransaktion()
+EngineTransaction::~EngineTransaction()
 {
-    if (!offen_)
+    if (!open_)
         return;
     try {
-        engine_.nimmZurueck();
-    } catch (const Laufzeitfehler&) {
+        engine_.rollBack();
+    } catch (const RuntimeError&) {
         // The connection is gone, and the changes with it.
     }
 }
 
-void Enginetransaktion::schliesseAb()
+void EngineTransaction::commit()
 {
-    engine_.schliesseAb();
-    offen_ = false;
+    engine_.commit();
+    open_ = false;
 }
 
 } // namespace quelvarn

@@ -5,19 +5,19 @@
 namespace quelvarn {
 
 // A transaction of an engine that takes everything back at its end, unless it was closed before.
-class Enginetransaktion
+class EngineTransaction
 {
 public:
-    explicit Enginetransaktion(Engine& engine);
-    ~Enginetransaktion();
-    Enginetransaktion(const Enginetransaktion&) = delete;
-    Enginetransaktion& operator=(const Enginetransaktion&) = delete;
+    explicit EngineTransaction(Engine& engine);
+    ~EngineTransaction();
+    EngineTransaction(const EngineTransaction&) = delete;
+    EngineTransaction& operator=(const EngineTransaction&) = delete;
 
-    void schliesseAb();
+    void commit();
 
 private:
     Engine& engine_;
-    bool offen_ = true;
+    bool open_ = true;
 };
 
 } // namespace quelvarn

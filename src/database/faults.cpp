@@ -36,7 +36,7 @@ std::string_view sentenceOf(FaultKind kind)
     return "";
 }
 
-std::string description(FaultKind kind, std::string_view where, std::string_view engineWords)
+std::string describe(FaultKind kind, std::string_view where, std::string_view engineWords)
 {
     std::string text;
     for (const std::string_view line : {sentenceOf(kind), where, engineWords}) {
@@ -53,7 +53,7 @@ std::string description(FaultKind kind, std::string_view where, std::string_view
 
 DatabaseFault::DatabaseFault(FaultKind kind, int number, std::string source, std::string_view where,
                              std::string_view engineWords)
-    : Laufzeitfehler(number, std::move(source), description(kind, where, engineWords)), kind_(kind)
+    : RuntimeError(number, std::move(source), describe(kind, where, engineWords)), kind_(kind)
 {}
 
 } // namespace quelvarn

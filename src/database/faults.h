@@ -24,7 +24,7 @@ enum class FaultKind {
 };
 
 // A fault of the database, told in German, with the engine's own words below.
-class DatabaseFault : public Laufzeitfehler
+class DatabaseFault : public RuntimeError
 {
 public:
     // `where`: path or address of the database, without a password. `engineWords` may be empty.

@@ -10,192 +10,193 @@ namespace quelvarn {
 
 namespace {
 
-using sql::Vergleich;
+using sql::Comparison;
 
 // True when a value in this order to the literal (below 0, 0, above 0) meets the comparison.
-bool trifft(Vergleich vergleich, int ordnung)
+bool meets(Comparison comparison, int rowOrder)
 {
-    switch (vergleich) {
-    case Vergleich::Gleich:
-        return ordnung == 0;
-    case Vergleich::Ungleich:
-        return ordnung != 0;
-    case Vergleich::Kleiner:
-        return ordnung < 0;
-    case Vergleich::KleinerGleich:
-        return ordnung <= 0;
-    case Vergleich::Groesser:
-        return ordnung > 0;
-    case Vergleich::GroesserGleich:
-        return ordnung >= 0;
-    case Vergleich::Like:
-    case Vergleich::NotLike:
+    switch (comparison) {
+    case Comparison::Equal:
+        return rowOrder == 0;
+    case Comparison::Unequal:
+        return rowOrder != 0;
+    case Comparison::Less:
+        return rowOrder < 0;
+    case Comparison::LessEqual:
+        return rowOrder <= 0;
+    case Comparison::Greater:
+        return rowOrder > 0;
+    case Comparison::GreaterEqual:
+        return rowOrder >= 0;
+    case Comparison::Like:
+    case Comparison::NotLike:
         break;
     }
     return false;
 }
 
-class Textauswahl : public Auswahl
+class TextSelection : public Selection
 {
 public:
-    explicit Textauswahl(std::unique_ptr<Texttreffer> treffer) : treffer_(std::move(treffer)) {}
-    void behalte(std::vector<Zeilennummer>& zeilen) override { treffer_->behalte(zeilen); }
-    bool nirgends() override { return treffer_->nirgends(); }
+    explicit TextSelection(std::unique_ptr<TextHits> hits) : hits_(std::move(hits)) {}
+    void keep(std::vector<RowNumber>& rows) override { hits_->keep(rows); }
+    bool nowhere() override { return hits_->nowhere(); }
 
 private:
-    std::unique_ptr<Texttreffer> treffer_;
+    std::unique_ptr<TextHits> hits_;
 };
 
 // Rows whose cell passes a test.
-template <class Pruefung> class Zellauswahl : public Auswahl
+template <class Check> class CellSelection : public Selection
 {
 public:
-    explicit Zellauswahl(Pruefung pruefung) : pruefung_(std::move(pruefung)) {}
-    void behalte(std::vector<Zeilennummer>& zeilen) override
+    explicit CellSelection(Check check) : check_(std::move(check)) {}
+    void keep(std::vector<RowNumber>& rows) override
     {
-        std::size_t bleiben = 0;
-        for (const Zeilennummer zeile : zeilen) {
-            zeilen[bleiben] = zeile;
-            bleiben += pruefung_(zeile);
+        std::size_t stay = 0;
+        for (const RowNumber row : rows) {
+            rows[stay] = row;
+            stay += check_(row);
         }
-        zeilen.resize(bleiben);
+        rows.resize(stay);
     }
 
 private:
-    Pruefung pruefung_;
+    Check check_;
 };
 
-template <class Pruefung> std::unique_ptr<Auswahl> zellauswahl(Pruefung pruefung)
+template <class Check> std::unique_ptr<Selection> cellSelection(Check check)
 {
-    return std::make_unique<Zellauswahl<Pruefung>>(std::move(pruefung));
+    return std::make_unique<CellSelection<Check>>(std::move(check));
 }
 
 // Null is LEER in the row of numbers: the smallest whole number, or a double that is unequal to itself.
-template <class Zahl, class Literal>
-std::unique_ptr<Auswahl> zahlauswahl(const NumberColumn<Zahl>& spalte, Vergleich vergleich, Literal literal)
+template <class Number, class Literal>
+std::unique_ptr<Selection> numberSelection(const NumberColumn<Number>& column, Comparison comparison, Literal literal)
 {
-    const Zahl* zahlen = spalte.zahlen().data();
-    const auto belegt = [](Zahl zahl) { return !NumberColumn<Zahl>::istLeer(zahl); };
-    switch (vergleich) {
-    case Vergleich::Gleich:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] == literal); });
-    case Vergleich::Ungleich:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] != literal); });
-    case Vergleich::Kleiner:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] < literal); });
-    case Vergleich::KleinerGleich:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] <= literal); });
-    case Vergleich::Groesser:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] > literal); });
+    const Number* numbers = column.numbers().data();
+    const auto taken = [](Number number) { return !NumberColumn<Number>::isEmpty(number); };
+    switch (comparison) {
+    case Comparison::Equal:
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] == literal); });
+    case Comparison::Unequal:
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] != literal); });
+    case Comparison::Less:
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] < literal); });
+    case Comparison::LessEqual:
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] <= literal); });
+    case Comparison::Greater:
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] > literal); });
     default:
-        return zellauswahl([=](Zeilennummer zeile) { return belegt(zahlen[zeile]) & (zahlen[zeile] >= literal); });
+        return cellSelection([=](RowNumber row) { return taken(numbers[row]) & (numbers[row] >= literal); });
     }
 }
 
 // LIKE over numbers or dates looks at their text.
-std::unique_ptr<Auswahl> likeUeberText(const Column& spalte, LikePattern muster, bool verneint)
+std::unique_ptr<Selection> likeOverText(const Column& column, LikePattern pattern, bool negated)
 {
-    return zellauswahl([&spalte, muster = std::move(muster), verneint](Zeilennummer zeile) {
-        return !spalte.istNull(zeile) && muster.matches(alsText(spalte.wert(zeile))) != verneint;
+    return cellSelection([&column, pattern = std::move(pattern), negated](RowNumber row) {
+        return !column.isNull(row) && pattern.matches(asText(column.value(row))) != negated;
     });
 }
 
 // A column in which some cells are of another type than the column: cell by cell. A cell that cannot be compared
 // with the literal does not meet the comparison.
-std::unique_ptr<Auswahl> einzelauswahl(const Column& spalte, Vergleich vergleich, const Value& literal)
+std::unique_ptr<Selection> singleSelection(const Column& column, Comparison comparison, const Value& literal)
 {
-    return zellauswahl([&spalte, vergleich, literal](Zeilennummer zeile) {
-        const Value zelle = spalte.wert(zeile);
-        if (istNull(zelle) || zelle.index() == Value(std::string{}).index())
+    return cellSelection([&column, comparison, literal](RowNumber row) {
+        const Value cell = column.value(row);
+        if (isNull(cell) || cell.index() == Value(std::string{}).index())
             return false;
-        const double links = alsZahl(zelle);
-        const double rechts = alsZahl(literal);
-        return trifft(vergleich, links < rechts ? -1 : links > rechts ? 1 : 0);
+        const double left = asNumber(cell);
+        const double right = asNumber(literal);
+        return meets(comparison, left < right ? -1 : left > right ? 1 : 0);
     });
 }
 
-std::unique_ptr<Auswahl> textvergleich(const TextColumn& spalte, Vergleich vergleich, const std::string& text)
+std::unique_ptr<Selection> textComparison(const TextColumn& column, Comparison comparison, const std::string& text)
 {
-    if (vergleich == Vergleich::Gleich || vergleich == Vergleich::Ungleich)
-        return std::make_unique<Textauswahl>(gleichTreffer(spalte, text, vergleich == Vergleich::Ungleich));
-    return std::make_unique<Textauswahl>(pruefTreffer(
-        spalte, [vergleich, text](std::string_view zelle) { return trifft(vergleich, compareText(zelle, text)); }));
+    if (comparison == Comparison::Equal || comparison == Comparison::Unequal)
+        return std::make_unique<TextSelection>(equalHits(column, text, comparison == Comparison::Unequal));
+    return std::make_unique<TextSelection>(checkHits(
+        column, [comparison, text](std::string_view cell) { return meets(comparison, compareText(cell, text)); }));
 }
 
-std::unique_ptr<Auswahl> ganzzahlvergleich(const NumberColumn<std::int64_t>& spalte, Vergleich vergleich,
-                                           const Value& literal)
+std::unique_ptr<Selection> integerComparison(const NumberColumn<std::int64_t>& column, Comparison comparison,
+                                             const Value& literal)
 {
-    if (spalte.hatFremde())
-        return einzelauswahl(spalte, vergleich, literal);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&literal))
-        return zahlauswahl(spalte, vergleich, zeit->sekunden);
+    if (column.hasForeign())
+        return singleSelection(column, comparison, literal);
+    if (const auto* time = std::get_if<DateTime>(&literal))
+        return numberSelection(column, comparison, time->seconds);
     // A number keeps its fraction: nothing equals 1.5, and 1 is below it.
-    if (const auto* zahl = std::get_if<double>(&literal))
-        return zahlauswahl(spalte, vergleich, *zahl);
-    return zahlauswahl(spalte, vergleich, std::get<std::int64_t>(literal));
+    if (const auto* number = std::get_if<double>(&literal))
+        return numberSelection(column, comparison, *number);
+    return numberSelection(column, comparison, std::get<std::int64_t>(literal));
 }
 
-std::unique_ptr<Auswahl> kommazahlvergleich(const NumberColumn<double>& spalte, Vergleich vergleich,
-                                            const Value& literal)
+std::unique_ptr<Selection> floatingPointComparison(const NumberColumn<double>& column, Comparison comparison,
+                                                   const Value& literal)
 {
-    if (spalte.hatFremde())
-        return einzelauswahl(spalte, vergleich, literal);
-    return zahlauswahl(spalte, vergleich, alsZahl(literal));
+    if (column.hasForeign())
+        return singleSelection(column, comparison, literal);
+    return numberSelection(column, comparison, asNumber(literal));
 }
 
-std::unique_ptr<Auswahl> baueLike(const Column& spalte, const sql::Bedingung& bedingung)
+std::unique_ptr<Selection> buildLike(const Column& column, const sql::Condition& condition)
 {
-    const bool verneint = bedingung.vergleich == Vergleich::NotLike;
-    const std::string muster = alsText(bedingung.wert);
-    if (spalte.typ() == FeldTyp::Text)
-        return std::make_unique<Textauswahl>(
-            likeTreffer(static_cast<const TextColumn&>(spalte), muster, bedingung.wildcards, verneint));
-    return likeUeberText(spalte, LikePattern(muster, bedingung.wildcards), verneint);
+    const bool negated = condition.comparison == Comparison::NotLike;
+    const std::string pattern = asText(condition.value);
+    if (column.type() == FieldType::Text)
+        return std::make_unique<TextSelection>(
+            likeHits(static_cast<const TextColumn&>(column), pattern, condition.wildcards, negated));
+    return likeOverText(column, LikePattern(pattern, condition.wildcards), negated);
 }
 
 } // namespace
 
-std::unique_ptr<Auswahl> baueVergleich(const Column& spalte, const sql::Bedingung& bedingung)
+std::unique_ptr<Selection> buildComparison(const Column& column, const sql::Condition& condition)
 {
-    if (bedingung.vergleich == Vergleich::Like || bedingung.vergleich == Vergleich::NotLike)
-        return baueLike(spalte, bedingung);
-    const auto literal = istNull(bedingung.wert) ? std::nullopt : sql::vergleichswert(bedingung.wert, spalte.typ());
+    if (condition.comparison == Comparison::Like || condition.comparison == Comparison::NotLike)
+        return buildLike(column, condition);
+    const auto literal = isNull(condition.value) ? std::nullopt : sql::comparisonValue(condition.value, column.type());
     if (!literal)
-        return zellauswahl([](Zeilennummer) { return false; });
-    if (spalte.typ() == FeldTyp::Text)
-        return textvergleich(static_cast<const TextColumn&>(spalte), bedingung.vergleich,
-                             std::get<std::string>(*literal));
-    if (spalte.typ() == FeldTyp::Gleitkomma)
-        return kommazahlvergleich(static_cast<const NumberColumn<double>&>(spalte), bedingung.vergleich, *literal);
-    return ganzzahlvergleich(static_cast<const NumberColumn<std::int64_t>&>(spalte), bedingung.vergleich, *literal);
+        return cellSelection([](RowNumber) { return false; });
+    if (column.type() == FieldType::Text)
+        return textComparison(static_cast<const TextColumn&>(column), condition.comparison,
+                              std::get<std::string>(*literal));
+    if (column.type() == FieldType::FloatingPoint)
+        return floatingPointComparison(static_cast<const NumberColumn<double>&>(column), condition.comparison,
+                                       *literal);
+    return integerComparison(static_cast<const NumberColumn<std::int64_t>&>(column), condition.comparison, *literal);
 }
 
-std::unique_ptr<Auswahl> baueNullpruefung(const Column& spalte, bool verneint)
+std::unique_ptr<Selection> buildNullCheck(const Column& column, bool negated)
 {
-    return zellauswahl([&spalte, verneint](Zeilennummer zeile) { return spalte.istNull(zeile) != verneint; });
+    return cellSelection([&column, negated](RowNumber row) { return column.isNull(row) != negated; });
 }
 
-Vergleich gegenteil(Vergleich vergleich)
+Comparison opposite(Comparison comparison)
 {
-    switch (vergleich) {
-    case Vergleich::Gleich:
-        return Vergleich::Ungleich;
-    case Vergleich::Ungleich:
-        return Vergleich::Gleich;
-    case Vergleich::Kleiner:
-        return Vergleich::GroesserGleich;
-    case Vergleich::KleinerGleich:
-        return Vergleich::Groesser;
-    case Vergleich::Groesser:
-        return Vergleich::KleinerGleich;
-    case Vergleich::GroesserGleich:
-        return Vergleich::Kleiner;
-    case Vergleich::Like:
-        return Vergleich::NotLike;
-    case Vergleich::NotLike:
+    switch (comparison) {
+    case Comparison::Equal:
+        return Comparison::Unequal;
+    case Comparison::Unequal:
+        return Comparison::Equal;
+    case Comparison::Less:
+        return Comparison::GreaterEqual;
+    case Comparison::LessEqual:
+        return Comparison::Greater;
+    case Comparison::Greater:
+        return Comparison::LessEqual;
+    case Comparison::GreaterEqual:
+        return Comparison::Less;
+    case Comparison::Like:
+        return Comparison::NotLike;
+    case Comparison::NotLike:
         break;
     }
-    return Vergleich::Like;
+    return Comparison::Like;
 }
 
 } // namespace quelvarn

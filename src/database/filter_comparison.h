@@ -5,9 +5,9 @@
 namespace quelvarn {
 
 // `column op literal` over one column.
-std::unique_ptr<Auswahl> baueVergleich(const Column& spalte, const sql::Bedingung& bedingung);
-std::unique_ptr<Auswahl> baueNullpruefung(const Column& spalte, bool verneint);
+std::unique_ptr<Selection> buildComparison(const Column& column, const sql::Condition& condition);
+std::unique_ptr<Selection> buildNullCheck(const Column& column, bool negated);
 // The comparison that is met by the values, Null apart, which do not meet this one.
-sql::Vergleich gegenteil(sql::Vergleich vergleich);
+sql::Comparison opposite(sql::Comparison comparison);
 
 } // namespace quelvarn

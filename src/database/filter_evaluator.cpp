@@ -8,141 +8,144 @@ namespace quelvarn {
 
 namespace {
 
-using Teile = std::vector<std::unique_ptr<Auswahl>>;
+using Parts = std::vector<std::unique_ptr<Selection>>;
 
 // Every part narrows what the part before left.
-class Alle : public Auswahl
+class All : public Selection
 {
 public:
-    explicit Alle(Teile teile) : teile_(std::move(teile)) {}
-    void behalte(std::vector<Zeilennummer>& zeilen) override
+    explicit All(Parts parts) : parts_(std::move(parts)) {}
+    void keep(std::vector<RowNumber>& rows) override
     {
-        for (const auto& teil : teile_)
-            teil->behalte(zeilen);
+        for (const auto& part : parts_)
+            part->keep(rows);
     }
-    bool nirgends() override
+    bool nowhere() override
     {
-        return std::ranges::any_of(teile_, [](const auto& teil) { return teil->nirgends(); });
+        return std::ranges::any_of(parts_, [](const auto& part) { return part->nowhere(); });
     }
 
 private:
-    Teile teile_;
+    Parts parts_;
 };
 
-// `weniger` holds some of the rows of `zeilen` in the same order: leaves the others.
-void nimmWeg(std::vector<Zeilennummer>& zeilen, const std::vector<Zeilennummer>& weniger)
+// `less` holds some of the rows of `rows` in the same order: leaves the others.
+void takeAway(std::vector<RowNumber>& rows, const std::vector<RowNumber>& less)
 {
-    std::size_t bleiben = 0;
-    auto naechste = weniger.begin();
-    for (const Zeilennummer zeile : zeilen) {
-        if (naechste != weniger.end() && *naechste == zeile)
-            ++naechste;
+    std::size_t stay = 0;
+    auto next = less.begin();
+    for (const RowNumber row : rows) {
+        if (next != less.end() && *next == row)
+            ++next;
         else
-            zeilen[bleiben++] = zeile;
+            rows[stay++] = row;
     }
-    zeilen.resize(bleiben);
+    rows.resize(stay);
 }
 
 // Each part looks only at the rows that no part before has taken.
-class Eine : public Auswahl
+class One : public Selection
 {
 public:
-    explicit Eine(Teile teile) : teile_(std::move(teile)) {}
-    void behalte(std::vector<Zeilennummer>& zeilen) override
+    explicit One(Parts parts) : parts_(std::move(parts)) {}
+    void keep(std::vector<RowNumber>& rows) override
     {
-        std::vector<Zeilennummer> uebrig = zeilen;
-        for (const auto& teil : teile_) {
-            std::vector<Zeilennummer> treffer = uebrig;
-            teil->behalte(treffer);
-            nimmWeg(uebrig, treffer);
+        std::vector<RowNumber> left = rows;
+        for (const auto& part : parts_) {
+            std::vector<RowNumber> hits = left;
+            part->keep(hits);
+            takeAway(left, hits);
         }
-        nimmWeg(zeilen, uebrig);
+        takeAway(rows, left);
     }
-    bool nirgends() override
+    bool nowhere() override
     {
-        return std::ranges::all_of(teile_, [](const auto& teil) { return teil->nirgends(); });
+        return std::ranges::all_of(parts_, [](const auto& part) { return part->nowhere(); });
     }
 
 private:
-    Teile teile_;
+    Parts parts_;
 };
 
 // Builds the tree with every NOT carried down to the comparisons: there it only has to leave out Null.
-class Bau
+class Builder
 {
 public:
-    explicit Bau(const Spaltensuche& spalten) : spalten_(spalten) {}
+    explicit Builder(const ColumnSearch& columns) : columns_(columns) {}
 
-    std::unique_ptr<Auswahl> baue(const sql::Ausdruck& ausdruck, bool verneint) const
+    std::unique_ptr<Selection> build(const sql::Expression& expression, bool negated) const
     {
-        return std::visit([&](const auto& inhalt) { return baue(inhalt, verneint); }, ausdruck.inhalt);
+        return std::visit([&](const auto& content) { return build(content, negated); }, expression.content);
     }
 
 private:
-    std::unique_ptr<Auswahl> baue(const sql::Bedingung& bedingung, bool verneint) const
+    std::unique_ptr<Selection> build(const sql::Condition& condition, bool negated) const
     {
-        const sql::Vergleich vergleich = verneint ? gegenteil(bedingung.vergleich) : bedingung.vergleich;
-        return baueVergleich(spalten_(bedingung.spalte),
-                             {bedingung.spalte, vergleich, bedingung.wert, bedingung.wildcards});
+        const sql::Comparison comparison = negated ? opposite(condition.comparison) : condition.comparison;
+        return buildComparison(columns_(condition.column),
+                               {condition.column, comparison, condition.value, condition.wildcards});
     }
-    std::unique_ptr<Auswahl> baue(const sql::IstNull& pruefung, bool verneint) const
+    std::unique_ptr<Selection> build(const sql::IsNull& check, bool negated) const
     {
-        return baueNullpruefung(spalten_(pruefung.spalte), pruefung.verneint != verneint);
+        return buildNullCheck(columns_(check.column), check.negated != negated);
     }
-    std::unique_ptr<Auswahl> baue(const sql::Nicht& nicht, bool verneint) const { return baue(*nicht.teil, !verneint); }
-    std::unique_ptr<Auswahl> baue(const sql::Und& und, bool verneint) const
+    std::unique_ptr<Selection> build(const sql::Not& negate, bool negated) const
     {
-        return verbinde(und.teile, verneint, !verneint);
+        return build(*negate.part, !negated);
     }
-    std::unique_ptr<Auswahl> baue(const sql::Oder& oder, bool verneint) const
+    std::unique_ptr<Selection> build(const sql::And& both, bool negated) const
     {
-        return verbinde(oder.teile, verneint, verneint);
+        return connect(both.parts, negated, !negated);
     }
-
-    std::unique_ptr<Auswahl> verbinde(const std::vector<sql::AusdruckZeiger>& teile, bool verneint, bool alle) const
+    std::unique_ptr<Selection> build(const sql::Or& either, bool negated) const
     {
-        Teile gebaut;
-        for (const auto& teil : teile)
-            gebaut.push_back(baue(*teil, verneint));
-        if (alle)
-            return std::make_unique<Alle>(std::move(gebaut));
-        return std::make_unique<Eine>(std::move(gebaut));
+        return connect(either.parts, negated, negated);
     }
 
-    const Spaltensuche& spalten_;
+    std::unique_ptr<Selection> connect(const std::vector<sql::ExpressionPointer>& parts, bool negated, bool all) const
+    {
+        Parts built;
+        for (const auto& part : parts)
+            built.push_back(build(*part, negated));
+        if (all)
+            return std::make_unique<All>(std::move(built));
+        return std::make_unique<One>(std::move(built));
+    }
+
+    const ColumnSearch& columns_;
 };
 
-// Hands every column name of the condition to `nimm`.
-template <class Nehmer> void besuche(const sql::Ausdruck& ausdruck, const Nehmer& nimm)
+// Hands every column name of the condition to `take`.
+template <class Taker> void visits(const sql::Expression& expression, const Taker& take)
 {
-    const auto& inhalt = ausdruck.inhalt;
-    if (const auto* bedingung = std::get_if<sql::Bedingung>(&inhalt))
-        nimm(bedingung->spalte);
-    else if (const auto* pruefung = std::get_if<sql::IstNull>(&inhalt))
-        nimm(pruefung->spalte);
-    else if (const auto* nicht = std::get_if<sql::Nicht>(&inhalt))
-        besuche(*nicht->teil, nimm);
+    const auto& content = expression.content;
+    if (const auto* condition = std::get_if<sql::Condition>(&content))
+        take(condition->column);
+    else if (const auto* check = std::get_if<sql::IsNull>(&content))
+        take(check->column);
+    else if (const auto* negate = std::get_if<sql::Not>(&content))
+        visits(*negate->part, take);
     else
-        for (const auto& teil : std::holds_alternative<sql::Und>(inhalt) ? std::get<sql::Und>(inhalt).teile
-                                                                         : std::get<sql::Oder>(inhalt).teile)
-            besuche(*teil, nimm);
+        for (const auto& part : std::holds_alternative<sql::And>(content) ? std::get<sql::And>(content).parts
+                                                                          : std::get<sql::Or>(content).parts)
+            visits(*part, take);
 }
 
 } // namespace
 
-std::unique_ptr<Auswahl> baueAuswahl(const sql::Ausdruck& ausdruck, const Spaltensuche& spalten)
+std::unique_ptr<Selection> buildSelection(const sql::Expression& expression, const ColumnSearch& columns)
 {
-    return Bau(spalten).baue(ausdruck, false);
+    return Builder(columns).build(expression, false);
 }
 
-std::vector<std::string> genannteSpalten(const sql::Ausdruck& ausdruck)
+std::vector<std::string> namedColumns(const sql::Expression& expression)
 {
-    std::vector<std::string> namen;
-    besuche(ausdruck, [&](const std::string& name) {
-        if (std::find(namen.begin(), namen.end(), name) == namen.end())
-            namen.push_back(name);
+    std::vector<std::string> names;
+    visits(expression, [&](const std::string& name) {
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            names.push_back(name);
     });
-    return namen;
+    return names;
 }
 
 } // namespace quelvarn

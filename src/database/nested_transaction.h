@@ -7,29 +7,29 @@
 namespace quelvarn {
 
 // Statements that open and end a transaction; one inside another is a savepoint.
-class Transaktionsfolge
+class TransactionSequence
 {
 public:
-    explicit Transaktionsfolge(std::string beginn) : beginn_(std::move(beginn)) {}
+    explicit TransactionSequence(std::string begin) : begin_(std::move(begin)) {}
 
-    bool offen() const { return tiefe_ > 0; }
-    std::string beginn() const { return tiefe_ == 0 ? beginn_ : fmt::format("SAVEPOINT qv_{}", tiefe_); }
-    std::string abschluss() const { return tiefe_ == 1 ? "COMMIT" : fmt::format("RELEASE qv_{}", tiefe_ - 1); }
-    std::string ruecknahme() const
+    bool open() const { return depth_ > 0; }
+    std::string begin() const { return depth_ == 0 ? begin_ : fmt::format("SAVEPOINT qv_{}", depth_); }
+    std::string completion() const { return depth_ == 1 ? "COMMIT" : fmt::format("RELEASE qv_{}", depth_ - 1); }
+    std::string rollback() const
     {
-        return tiefe_ == 1 ? "ROLLBACK" : fmt::format("ROLLBACK TO qv_{0}; RELEASE qv_{0}", tiefe_ - 1);
+        return depth_ == 1 ? "ROLLBACK" : fmt::format("ROLLBACK TO qv_{0}; RELEASE qv_{0}", depth_ - 1);
     }
 
-    void begonnen() { ++tiefe_; }
-    void beendet()
+    void begun() { ++depth_; }
+    void ended()
     {
-        assert(tiefe_ > 0);
-        --tiefe_;
+        assert(depth_ > 0);
+        --depth_;
     }
 
 private:
-    std::string beginn_;
-    int tiefe_ = 0;
+    std::string begin_;
+    int depth_ = 0;
 };
 
 } // namespace quelvarn

@@ -4,17 +4,17 @@
 
 namespace quelvarn {
 
-void legeRegisterAn(Engine& engine)
+void createRegister(Engine& engine)
 {
-    engine.beginne();
+    engine.begin();
     try {
-        for (const Tabellenschema& tabelle : registerschema()) {
-            engine.legeTabelleAn(tabelle);
-            engine.legeIndexeAn(tabelle);
+        for (const TableSchema& table : registerSchema()) {
+            engine.createTable(table);
+            engine.createIndexes(table);
         }
-        engine.schliesseAb();
+        engine.commit();
     } catch (...) {
-        engine.nimmZurueck();
+        engine.rollBack();
         throw;
     }
 }

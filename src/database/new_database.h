@@ -9,16 +9,16 @@ namespace quelvarn {
 class Engine;
 class Patience;
 
-// Opens an engine on a SQLite file (made when `neu`) or on a postgresql:// address. `patience` is asked while another
+// Opens an engine on a SQLite file (made when `fresh`) or on a postgresql:// address. `patience` is asked while another
 // program or a server lets wait, also at the opening.
-std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu, Patience* patience = nullptr);
-std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience* patience = nullptr);
+std::shared_ptr<Engine> openSqlite(const std::filesystem::path& documentPath, bool fresh, Patience* patience = nullptr);
+std::shared_ptr<Engine> openPostgres(std::string_view address, Patience* patience = nullptr);
 // The Access file in place; null where no driver for Access is installed.
-std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad);
+std::shared_ptr<Engine> openAccess(const std::filesystem::path& documentPath);
 // By a connection text of ODBC: DRIVER={...};...
-std::shared_ptr<Engine> oeffneOdbc(std::string_view verbindungstext);
+std::shared_ptr<Engine> openOdbc(std::string_view connectionText);
 
 // All tables of the register with their indexes, empty.
-void legeRegisterAn(Engine& engine);
+void createRegister(Engine& engine);
 
 } // namespace quelvarn

@@ -5,12 +5,12 @@
 // In place of odbc/ where ODBC was not there when the program was built.
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffneOdbc(std::string_view)
+std::shared_ptr<Engine> openOdbc(std::string_view)
 {
-    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "ODBC", "Dieses Programm wurde ohne ODBC gebaut.");
+    throw RuntimeError(FAULT_GENERAL, "ODBC", "Dieses Programm wurde ohne ODBC gebaut.");
 }
 
-std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path&)
+std::shared_ptr<Engine> openAccess(const std::filesystem::path&)
 {
     return nullptr;
 }

@@ -5,9 +5,9 @@
 // In place of postgresql/ where its library was not there when the program was built.
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view, Patience*)
+std::shared_ptr<Engine> openPostgres(std::string_view, Patience*)
 {
-    throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "Dieses Programm wurde ohne PostgreSQL gebaut.");
+    throw RuntimeError(FAULT_GENERAL, "PostgreSQL", "Dieses Programm wurde ohne PostgreSQL gebaut.");
 }
 
 } // namespace quelvarn

@@ -8,240 +8,240 @@
 
 namespace quelvarn {
 
-Laufzeitfehler recordsetFehler(int nummer, const std::string& beschreibung)
+RuntimeError recordsetFault(int number, const std::string& description)
 {
-    return {nummer, "Recordset", beschreibung};
+    return {number, "Recordset", description};
 }
 
-Recordset::Recordset() : kern_(std::make_unique<Kern>()) {}
+Recordset::Recordset() : core_(std::make_unique<Core>()) {}
 Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 
-void Recordset::Open(sql::FixedText select, Connection& verbindung, CursorTyp cursor, SperrTyp sperre)
+void Recordset::Open(sql::FixedText select, Connection& connection, CursorType cursor, LockType lock)
 {
-    auto anweisung = sql::parseAnweisung(select.text());
-    auto* abfrage = std::get_if<sql::Select>(&anweisung);
-    if (!abfrage)
-        throw recordsetFehler(3001, "Ein Recordset kann nur mit einer Auswahlabfrage geöffnet werden.");
-    Open(std::move(*abfrage), verbindung, cursor, sperre);
+    auto statement = sql::parseStatement(select.text());
+    auto* query = std::get_if<sql::Select>(&statement);
+    if (!query)
+        throw recordsetFault(3001, "Ein Recordset kann nur mit einer Auswahlabfrage geöffnet werden.");
+    Open(std::move(*query), connection, cursor, lock);
 }
 
-void Recordset::Open(sql::Select select, Connection& verbindung, CursorTyp, SperrTyp sperre)
+void Recordset::Open(sql::Select select, Connection& connection, CursorType, LockType lock)
 {
-    auto neu = std::make_unique<Kern>();
-    neu->klein = kern_->klein;
-    neu->sperre = sperre;
-    if (!verbindung.offen())
-        throw recordsetFehler(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
-    neu->zeilen.oeffne(
-        verbindung.engine_, std::move(select),
-        {.schreibbar = sperre != SperrTyp::NurLesen, .ganzLesen = sperre == SperrTyp::Stapel, .klein = neu->klein});
-    neu->ansicht.zeigeAlle(neu->zeilen.anzahl());
-    neu->offen = true;
-    kern_ = std::move(neu);
+    auto fresh = std::make_unique<Core>();
+    fresh->small = core_->small;
+    fresh->lock = lock;
+    if (!connection.open())
+        throw recordsetFault(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
+    fresh->rows.open(
+        connection.engine_, std::move(select),
+        {.writable = lock != LockType::ReadOnly, .readWhole = lock == LockType::Batch, .small = fresh->small});
+    fresh->view.showAll(fresh->rows.count());
+    fresh->open = true;
+    core_ = std::move(fresh);
 }
 
-void Recordset::FeldAnhaengen(std::string_view name, FeldTyp typ)
+void Recordset::appendField(std::string_view name, FieldType type)
 {
-    if (kern_->offen)
-        throw recordsetFehler(3705, "Einem geöffneten Recordset kann kein Feld angehängt werden.");
-    kern_->zeilen.haengeFeldAn({std::string(name), typ});
+    if (core_->open)
+        throw recordsetFault(3705, "Einem geöffneten Recordset kann kein Feld angehängt werden.");
+    core_->rows.appendField({std::string(name), type});
 }
 
 void Recordset::Open()
 {
-    auto neu = std::make_unique<Kern>();
-    for (const Spalte& feld : kern_->zeilen.felder())
-        neu->zeilen.haengeFeldAn(feld);
-    neu->sperre = SperrTyp::Optimistisch;
-    neu->offen = true;
-    kern_ = std::move(neu);
+    auto fresh = std::make_unique<Core>();
+    for (const ColumnInfo& field : core_->rows.fields())
+        fresh->rows.appendField(field);
+    fresh->lock = LockType::Optimistic;
+    fresh->open = true;
+    core_ = std::move(fresh);
 }
 
 void Recordset::Close()
 {
-    auto neu = std::make_unique<Kern>();
-    if (!kern_->zeilen.engine())
-        for (const Spalte& feld : kern_->zeilen.felder())
-            neu->zeilen.haengeFeldAn(feld);
-    neu->klein = kern_->klein;
-    kern_ = std::move(neu);
+    auto fresh = std::make_unique<Core>();
+    if (!core_->rows.engine())
+        for (const ColumnInfo& field : core_->rows.fields())
+            fresh->rows.appendField(field);
+    fresh->small = core_->small;
+    core_ = std::move(fresh);
 }
 
-void Recordset::setzeGanzGrenze(std::size_t zeilen)
+void Recordset::setWholeLimit(std::size_t rows)
 {
-    kern_->klein = std::max<std::size_t>(zeilen, 1);
+    core_->small = std::max<std::size_t>(rows, 1);
 }
 
-bool Recordset::offen() const
+bool Recordset::open() const
 {
-    return kern_->offen;
+    return core_->open;
 }
 
-const std::vector<Spalte>& Recordset::Felder() const
+const std::vector<ColumnInfo>& Recordset::fields() const
 {
-    return kern_->zeilen.felder();
+    return core_->rows.fields();
 }
 
-bool Recordset::hatFeld(std::string_view name) const
+bool Recordset::hasField(std::string_view name) const
 {
-    return kern_->zeilen.findeFeld(name).has_value();
+    return core_->rows.findField(name).has_value();
 }
 
 bool Recordset::Bof() const
 {
-    const bool neueZeile = kern_->bearbeitung && kern_->bearbeitung->neu;
-    return !neueZeile && (kern_->position < 0 || kern_->ansicht.anzahl() == 0);
+    const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
+    return !newRow && (core_->position < 0 || core_->view.count() == 0);
 }
 
 bool Recordset::Eof() const
 {
-    const bool neueZeile = kern_->bearbeitung && kern_->bearbeitung->neu;
-    return !neueZeile && !kern_->aufZeile() && (kern_->position >= 0 || kern_->ansicht.anzahl() == 0);
+    const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
+    return !newRow && !core_->onRow() && (core_->position >= 0 || core_->view.count() == 0);
 }
 
 std::size_t Recordset::RecordCount() const
 {
-    return kern_->ansicht.anzahl();
+    return core_->view.count();
 }
 
 void Recordset::MoveFirst()
 {
-    kern_->beendeBearbeitung();
-    if (kern_->ansicht.anzahl() == 0)
-        throw recordsetFehler(3021, "Das Recordset ist leer.");
-    kern_->geheZu(0);
+    core_->endEdit();
+    if (core_->view.count() == 0)
+        throw recordsetFault(3021, "Das Recordset ist leer.");
+    core_->goTo(0);
 }
 
 void Recordset::MoveLast()
 {
-    kern_->beendeBearbeitung();
-    if (kern_->ansicht.anzahl() == 0)
-        throw recordsetFehler(3021, "Das Recordset ist leer.");
-    kern_->geheZu(static_cast<std::ptrdiff_t>(kern_->ansicht.anzahl()) - 1);
+    core_->endEdit();
+    if (core_->view.count() == 0)
+        throw recordsetFault(3021, "Das Recordset ist leer.");
+    core_->goTo(static_cast<std::ptrdiff_t>(core_->view.count()) - 1);
 }
 
 void Recordset::MoveNext()
 {
-    kern_->beendeBearbeitung();
+    core_->endEdit();
     if (Eof())
-        throw recordsetFehler(3021, "Hinter dem letzten Datensatz gibt es keinen weiteren.");
-    kern_->geheZu(kern_->position + 1);
+        throw recordsetFault(3021, "Hinter dem letzten Datensatz gibt es keinen weiteren.");
+    core_->goTo(core_->position + 1);
 }
 
 void Recordset::MovePrevious()
 {
-    kern_->beendeBearbeitung();
+    core_->endEdit();
     if (Bof())
-        throw recordsetFehler(3021, "Vor dem ersten Datensatz gibt es keinen weiteren.");
-    kern_->geheZu(kern_->position - 1);
+        throw recordsetFault(3021, "Vor dem ersten Datensatz gibt es keinen weiteren.");
+    core_->goTo(core_->position - 1);
 }
 
-Value Recordset::Feld(std::string_view name) const
+Value Recordset::field(std::string_view name) const
 {
-    kern_->verlangeOffen();
-    return kern_->feldwert(kern_->zeilen.feldVon(name));
+    core_->requireOpen();
+    return core_->fieldValue(core_->rows.fieldOf(name));
 }
 
 std::string Recordset::Text(std::string_view name) const
 {
-    return alsText(Feld(name));
+    return asText(field(name));
 }
 
 Bookmark Recordset::bookmark() const
 {
-    return kern_->aktuelleZeile();
+    return core_->currentRow();
 }
 
-bool Recordset::setzeBookmark(Bookmark zeile)
+bool Recordset::setBookmark(Bookmark row)
 {
-    kern_->beendeBearbeitung();
-    const auto position = kern_->ansicht.findePosition(zeile);
+    core_->endEdit();
+    const auto position = core_->view.findPosition(row);
     if (position)
-        kern_->geheZu(static_cast<std::ptrdiff_t>(*position));
+        core_->goTo(static_cast<std::ptrdiff_t>(*position));
     return position.has_value();
 }
 
 std::size_t Recordset::AbsolutePosition() const
 {
-    return kern_->aufZeile() ? static_cast<std::size_t>(kern_->position) : RecordCount();
+    return core_->onRow() ? static_cast<std::size_t>(core_->position) : RecordCount();
 }
 
-void Recordset::setzeAbsolutePosition(std::size_t position)
+void Recordset::setAbsolutePosition(std::size_t position)
 {
-    kern_->beendeBearbeitung();
+    core_->endEdit();
     if (position >= RecordCount())
-        throw recordsetFehler(3001, "So viele Datensätze hat das Recordset nicht.");
-    kern_->geheZu(static_cast<std::ptrdiff_t>(position));
+        throw recordsetFault(3001, "So viele Datensätze hat das Recordset nicht.");
+    core_->goTo(static_cast<std::ptrdiff_t>(position));
 }
 
-Value Recordset::Zelle(std::size_t position, std::string_view name) const
+Value Recordset::cell(std::size_t position, std::string_view name) const
 {
-    const std::size_t feld = kern_->zeilen.feldVon(name);
+    const std::size_t field = core_->rows.fieldOf(name);
     if (position >= RecordCount())
-        throw recordsetFehler(3021, "Diesen Datensatz gibt es nicht.");
-    if (kern_->zeilen.geladen(feld))
-        return kern_->zeilen.spalte(feld).wert(kern_->ansicht.zeile(position));
-    return kern_->puffer.zelle(kern_->zeilen, kern_->ansicht, position, feld);
+        throw recordsetFault(3021, "Diesen Datensatz gibt es nicht.");
+    if (core_->rows.loaded(field))
+        return core_->rows.column(field).value(core_->view.row(position));
+    return core_->buffer.cell(core_->rows, core_->view, position, field);
 }
 
-bool Recordset::ladeSpalten(std::span<const std::string> namen, const Fortschritt& fortschritt)
+bool Recordset::loadColumns(std::span<const std::string> names, const Progress& progress)
 {
-    kern_->verlangeOffen();
-    std::vector<std::size_t> felder;
-    for (const std::string& name : namen)
-        felder.push_back(kern_->zeilen.feldVon(name));
-    return kern_->zeilen.lade(felder, fortschritt);
+    core_->requireOpen();
+    std::vector<std::size_t> fields;
+    for (const std::string& name : names)
+        fields.push_back(core_->rows.fieldOf(name));
+    return core_->rows.load(fields, progress);
 }
 
-bool Recordset::ladeSpalte(std::string_view name, const Fortschritt& fortschritt)
+bool Recordset::loadColumn(std::string_view name, const Progress& progress)
 {
-    const std::string einer(name);
-    return ladeSpalten({&einer, 1}, fortschritt);
+    const std::string one(name);
+    return loadColumns({&one, 1}, progress);
 }
 
-bool Recordset::spalteGeladen(std::string_view name) const
+bool Recordset::columnLoaded(std::string_view name) const
 {
-    return kern_->zeilen.geladen(kern_->zeilen.feldVon(name));
+    return core_->rows.loaded(core_->rows.fieldOf(name));
 }
 
-std::size_t Recordset::speicherbedarf() const
+std::size_t Recordset::memoryNeed() const
 {
-    return sizeof(Kern) + kern_->zeilen.speicher() + kern_->ansicht.speicher() +
-           (kern_->ordnung.capacity() + kern_->geloescht.capacity()) * sizeof(Zeilennummer);
+    return sizeof(Core) + core_->rows.memory() + core_->view.memory() +
+           (core_->rowOrder.capacity() + core_->removed.capacity()) * sizeof(RowNumber);
 }
 
-void Recordset::Kern::verlangeOffen() const
+void Recordset::Core::requireOpen() const
 {
-    if (!offen)
-        throw recordsetFehler(3704, "Das Recordset ist nicht geöffnet.");
+    if (!open)
+        throw recordsetFault(3704, "Das Recordset ist nicht geöffnet.");
 }
 
-std::size_t Recordset::Kern::aktuellePosition() const
+std::size_t Recordset::Core::currentPosition() const
 {
-    verlangeOffen();
-    if (!aufZeile())
-        throw recordsetFehler(3021, "Es gibt keinen aktuellen Datensatz.");
+    requireOpen();
+    if (!onRow())
+        throw recordsetFault(3021, "Es gibt keinen aktuellen Datensatz.");
     return static_cast<std::size_t>(position);
 }
 
-Value Recordset::Kern::feldwert(std::size_t feld) const
+Value Recordset::Core::fieldValue(std::size_t field) const
 {
-    if (bearbeitung && bearbeitung->werte[feld])
-        return *bearbeitung->werte[feld];
-    if (bearbeitung && bearbeitung->neu)
+    if (pendingEdit && pendingEdit->values[field])
+        return *pendingEdit->values[field];
+    if (pendingEdit && pendingEdit->fresh)
         return {};
-    const std::size_t stelle = aktuellePosition();
-    if (zeilen.geladen(feld))
-        return zeilen.spalte(feld).wert(ansicht.zeile(stelle));
-    return puffer.zeilenwert(zeilen, ansicht, stelle, feld);
+    const std::size_t place = currentPosition();
+    if (rows.loaded(field))
+        return rows.column(field).value(view.row(place));
+    return buffer.rowValue(rows, view, place, field);
 }
 
-void Recordset::Kern::geheZu(std::ptrdiff_t neuePosition)
+void Recordset::Core::goTo(std::ptrdiff_t newPosition)
 {
-    verlangeOffen();
-    position = neuePosition;
+    requireOpen();
+    position = newPosition;
 }
 
 } // namespace quelvarn

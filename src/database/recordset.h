@@ -19,18 +19,18 @@ namespace quelvarn {
 
 class Connection;
 
-enum class CursorTyp { NurVorwaerts = 0, Schluesselmenge = 1, Dynamisch = 2, Statisch = 3 };
-enum class SperrTyp { NurLesen = 1, Pessimistisch = 2, Optimistisch = 3, Stapel = 4 };
-enum class Suchrichtung { Vorwaerts, Rueckwaerts };
+enum class CursorType { ForwardOnly = 0, KeySet = 1, Dynamisch = 2, Static = 3 };
+enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, Batch = 4 };
+enum class SearchDirection { Forward, Backwards };
 
 // A row of a recordset, whatever filter or order is on it. Valid until the recordset is closed.
 using Bookmark = std::uint32_t;
 
 // Long work of a recordset tells its progress here (done, total); false gives up, and the recordset stays as
 // it was.
-using Fortschritt = std::function<bool(std::size_t, std::size_t)>;
+using Progress = std::function<bool(std::size_t, std::size_t)>;
 
-using SharedCondition = std::shared_ptr<const sql::Ausdruck>;
+using SharedCondition = std::shared_ptr<const sql::Expression>;
 
 // What a recordset is narrowed to: rows that meet every condition. The text stands for it where it is shown or
 // compared.
@@ -44,7 +44,7 @@ struct RowFilter
 // sort order; every other column is read when first asked for. RecordCount is that of the opening; rows that
 // vanished since read as empty. Also a recordset in memory, with fields of its own.
 //
-// Where there is no current row (Bof or Eof), reading or writing a field throws Laufzeitfehler 3021.
+// Where there is no current row (Bof or Eof), reading or writing a field throws RuntimeError 3021.
 class Recordset
 {
 public:
@@ -54,24 +54,24 @@ public:
     Recordset& operator=(Recordset&&) noexcept;
 
     // Made of conditions (sql/conditions.h), or one SELECT of the program's dialect without a value from outside.
-    void Open(sql::Select select, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
-              SperrTyp sperre = SperrTyp::NurLesen);
-    void Open(sql::FixedText select, Connection& verbindung, CursorTyp cursor = CursorTyp::Statisch,
-              SperrTyp sperre = SperrTyp::NurLesen);
+    void Open(sql::Select select, Connection& connection, CursorType cursor = CursorType::Static,
+              LockType lock = LockType::ReadOnly);
+    void Open(sql::FixedText select, Connection& connection, CursorType cursor = CursorType::Static,
+              LockType lock = LockType::ReadOnly);
     // These rows of one table with all its columns, in this order, read as those of a query are; not to be changed.
-    void OpenZeilen(std::string_view tabelle, std::vector<std::int64_t> schluessel, Connection& verbindung);
+    void openRows(std::string_view table, std::vector<std::int64_t> key, Connection& connection);
     // In memory: append fields, then open.
-    void FeldAnhaengen(std::string_view name, FeldTyp typ);
+    void appendField(std::string_view name, FieldType type);
     void Open();
     void Close();
-    bool offen() const;
+    bool open() const;
 
-    const std::vector<Spalte>& Felder() const;
-    bool hatFeld(std::string_view name) const; // In any case.
+    const std::vector<ColumnInfo>& fields() const;
+    bool hasField(std::string_view name) const; // In any case.
 
     bool Bof() const;
     bool Eof() const;
-    bool leer() const { return Bof() && Eof(); }
+    bool empty() const { return Bof() && Eof(); }
     std::size_t RecordCount() const; // Rows that the filter leaves.
 
     void MoveFirst();
@@ -79,13 +79,13 @@ public:
     void MoveNext();
     void MovePrevious();
 
-    // Field of the current row; names in any case, an unknown one throws Laufzeitfehler 3265.
-    Value Feld(std::string_view name) const;
-    std::string Text(std::string_view name) const; // alsText(Feld(name))
-    void setzeFeld(std::string_view name, Value wert);
+    // Field of the current row; names in any case, an unknown one throws RuntimeError 3265.
+    Value field(std::string_view name) const;
+    std::string Text(std::string_view name) const; // asText(field(name))
+    void setField(std::string_view name, Value value);
 
     void AddNew();
-    // Writes the new or changed row, as every move of the cursor does; in Stapel mode it waits for UpdateBatch.
+    // Writes the new or changed row, as every move of the cursor does; in Batch mode it waits for UpdateBatch.
     // When writing fails the row is as it was before.
     void Update();
     void CancelUpdate();
@@ -93,55 +93,55 @@ public:
     void UpdateBatch(); // All waiting changes, in one transaction.
 
     // A recordset filter expression (day first, '*' as the only wildcard), "" for none. Moves to the first row left.
-    // A bad expression throws Laufzeitfehler and leaves the old filter.
-    void Filter(std::string_view ausdruck, const Fortschritt& fortschritt = {});
-    void Filter(RowFilter filter, const Fortschritt& fortschritt = {});
+    // A bad expression throws RuntimeError and leaves the old filter.
+    void Filter(std::string_view expression, const Progress& progress = {});
+    void Filter(RowFilter filter, const Progress& progress = {});
     const RowFilter& filter() const;
     const std::string& filterText() const { return filter().text; }
     // "Feld [ASC|DESC], ...", "" for the order of opening.
-    void Sort(std::string_view ausdruck);
-    // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `ueberspringe` rows behind the
-    // current one, or at the first row of all (going backwards: the last) when `vonAnfang`; at Eof (Bof going
+    void Sort(std::string_view expression);
+    // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `skip` rows behind the
+    // current one, or at the first row of all (going backwards: the last) when `fromStart`; at Eof (Bof going
     // backwards) when there is none. '%' is the only wildcard. False, and nothing moves, when reading a column for it
     // was given up.
-    bool Find(std::string_view kriterium, std::size_t ueberspringe = 0, Suchrichtung richtung = Suchrichtung::Vorwaerts,
-              bool vonAnfang = false, const Fortschritt& fortschritt = {});
+    bool Find(std::string_view criterion, std::size_t skip = 0, SearchDirection direction = SearchDirection::Forward,
+              bool fromStart = false, const Progress& progress = {});
 
     Bookmark bookmark() const; // Of the current row.
     // False, and nothing moves, when the row is not among those the filter leaves.
-    bool setzeBookmark(Bookmark zeile);
+    bool setBookmark(Bookmark row);
 
     // Position of the current row among the rows left, and the other way round; for grids. RecordCount() where
     // there is no current row.
     std::size_t AbsolutePosition() const;
-    void setzeAbsolutePosition(std::size_t position);
+    void setAbsolutePosition(std::size_t position);
     // A cell of any row left, without moving. Reads a block of neighbouring rows at once when the column is not
     // in memory.
-    Value Zelle(std::size_t position, std::string_view feld) const;
+    Value cell(std::size_t position, std::string_view field) const;
 
     // What occurs in the rows of the opening. Filter, order and place stay as they are.
     // The rows that meet a condition as it stands behind WHERE (month first), "" for all. Nothing when given up.
-    std::optional<std::vector<Bookmark>> waehle(std::string_view bedingung, const Fortschritt& fortschritt = {});
-    std::optional<std::vector<Bookmark>> waehle(const RowFilter& filter, const Fortschritt& fortschritt = {});
+    std::optional<std::vector<Bookmark>> choose(std::string_view text, const Progress& progress = {});
+    std::optional<std::vector<Bookmark>> choose(const RowFilter& filter, const Progress& progress = {});
     // The distinct texts of a column in these rows, sorted; no Null, and only those that `gilt` accepts. Of texts that
     // differ in case or trailing blanks alone, the spelling stored first, without such blanks where there is one.
-    std::vector<std::string> verschiedeneTexte(std::string_view feld, std::span<const Bookmark> zeilen,
-                                               const std::function<bool(std::string_view)>& gilt = {});
+    std::vector<std::string> distinctTexts(std::string_view field, std::span<const Bookmark> rows,
+                                           const std::function<bool(std::string_view)>& counts = {});
     // The same for a column of numbers.
-    std::vector<double> verschiedeneZahlen(std::string_view feld, std::span<const Bookmark> zeilen);
+    std::vector<double> distinctNumbers(std::string_view field, std::span<const Bookmark> rows);
 
     // Results up to this many rows are read whole at the opening; 2,048 unless told. Set it before.
-    void setzeGanzGrenze(std::size_t zeilen);
+    void setWholeLimit(std::size_t rows);
     // Reads whole columns into memory in one pass, which filters, searches and lists over them do by themselves.
     // False when it was given up: then none of them is there.
-    bool ladeSpalten(std::span<const std::string> felder, const Fortschritt& fortschritt = {});
-    bool ladeSpalte(std::string_view feld, const Fortschritt& fortschritt = {});
-    bool spalteGeladen(std::string_view feld) const;
-    std::size_t speicherbedarf() const; // bytes
+    bool loadColumns(std::span<const std::string> fields, const Progress& progress = {});
+    bool loadColumn(std::string_view field, const Progress& progress = {});
+    bool columnLoaded(std::string_view field) const;
+    std::size_t memoryNeed() const; // bytes
 
 private:
-    struct Kern;
-    std::unique_ptr<Kern> kern_;
+    struct Core;
+    std::unique_ptr<Core> core_;
 };
 
 } // namespace quelvarn

@@ -6,70 +6,68 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t BLOCKZEILEN = 128;
-constexpr std::size_t HOECHSTENS_VORAUS = 256;
+constexpr std::size_t BLOCK_ROWS = 128;
+constexpr std::size_t AHEAD_LIMIT = 256;
 
 } // namespace
 
-Value Zellenpuffer::zelle(const Zeilenspeicher& zeilen, const Ansicht& ansicht, std::size_t position, std::size_t feld)
+Value CellBuffer::cell(const RowStore& rows, const RowView& view, std::size_t position, std::size_t field)
 {
-    if (const Value* wert = finde(position, feld))
-        return *wert;
-    if (std::find(gefragt_.begin(), gefragt_.end(), feld) == gefragt_.end())
-        gefragt_.push_back(feld);
-    std::erase_if(gefragt_, [&](std::size_t gefragt) { return zeilen.geladen(gefragt); });
-    const std::size_t von = position - position % BLOCKZEILEN;
-    lese(zeilen, ansicht, von, von + BLOCKZEILEN, gefragt_);
-    return *finde(position, feld);
+    if (const Value* value = find(position, field))
+        return *value;
+    if (std::find(asked_.begin(), asked_.end(), field) == asked_.end())
+        asked_.push_back(field);
+    std::erase_if(asked_, [&](std::size_t asked) { return rows.loaded(asked); });
+    const std::size_t from = position - position % BLOCK_ROWS;
+    read(rows, view, from, from + BLOCK_ROWS, asked_);
+    return *find(position, field);
 }
 
-Value Zellenpuffer::zeilenwert(const Zeilenspeicher& zeilen, const Ansicht& ansicht, std::size_t position,
-                               std::size_t feld)
+Value CellBuffer::rowValue(const RowStore& rows, const RowView& view, std::size_t position, std::size_t field)
 {
-    if (const Value* wert = finde(position, feld))
-        return *wert;
-    schritt_ = position == naechste_ ? std::min(schritt_ * 4, HOECHSTENS_VORAUS) : 1;
-    std::vector<std::size_t> felder;
-    for (std::size_t nummer = 0; nummer < zeilen.felder().size(); ++nummer)
-        if (!zeilen.geladen(nummer))
-            felder.push_back(nummer);
-    lese(zeilen, ansicht, position, position + schritt_, std::move(felder));
-    naechste_ = position + schritt_;
-    return *finde(position, feld);
+    if (const Value* value = find(position, field))
+        return *value;
+    step_ = position == next_ ? std::min(step_ * 4, AHEAD_LIMIT) : 1;
+    std::vector<std::size_t> fields;
+    for (std::size_t number = 0; number < rows.fields().size(); ++number)
+        if (!rows.loaded(number))
+            fields.push_back(number);
+    read(rows, view, position, position + step_, std::move(fields));
+    next_ = position + step_;
+    return *find(position, field);
 }
 
-void Zellenpuffer::leere()
+void CellBuffer::clear()
 {
-    bloecke_ = {};
+    blocks_ = {};
 }
 
-const Value* Zellenpuffer::finde(std::size_t position, std::size_t feld)
+const Value* CellBuffer::find(std::size_t position, std::size_t field)
 {
-    for (Block& block : bloecke_) {
-        if (position < block.von || position >= block.bis)
+    for (Block& block : blocks_) {
+        if (position < block.from || position >= block.until)
             continue;
-        const auto stelle = std::find(block.felder.begin(), block.felder.end(), feld);
-        if (stelle == block.felder.end())
+        const auto place = std::find(block.fields.begin(), block.fields.end(), field);
+        if (place == block.fields.end())
             continue;
-        block.benutzt = ++uhr_;
-        return &block.werte[(position - block.von) * block.felder.size() +
-                            static_cast<std::size_t>(stelle - block.felder.begin())];
+        block.used = ++clock_;
+        return &block.values[(position - block.from) * block.fields.size() +
+                             static_cast<std::size_t>(place - block.fields.begin())];
     }
     return nullptr;
 }
 
-void Zellenpuffer::lese(const Zeilenspeicher& zeilen, const Ansicht& ansicht, std::size_t von, std::size_t bis,
-                        std::vector<std::size_t> felder)
+void CellBuffer::read(const RowStore& rows, const RowView& view, std::size_t from, std::size_t until,
+                      std::vector<std::size_t> fields)
 {
-    Block& block = *std::min_element(bloecke_.begin(), bloecke_.end(), [](const Block& links, const Block& rechts) {
-        return links.benutzt < rechts.benutzt;
-    });
+    Block& block = *std::min_element(blocks_.begin(), blocks_.end(),
+                                     [](const Block& left, const Block& right) { return left.used < right.used; });
     block = {};
-    bis = std::min(bis, ansicht.anzahl());
-    block.werte = zeilen.leseZellen(ansicht.ausschnitt(von, bis), felder);
-    block.felder = std::move(felder);
-    block.von = von;
-    block.bis = bis;
+    until = std::min(until, view.count());
+    block.values = rows.readCells(view.crop(from, until), fields);
+    block.fields = std::move(fields);
+    block.from = from;
+    block.until = until;
 }
 
 } // namespace quelvarn

@@ -16,77 +16,77 @@
 namespace quelvarn {
 
 // A row that is being changed, or a new one: the values set so far, by field.
-struct Bearbeitung
+struct PendingEdit
 {
-    bool neu = false;
-    std::vector<std::optional<Value>> werte;
+    bool fresh = false;
+    std::vector<std::optional<Value>> values;
 };
 
 // A change that waits for UpdateBatch.
-struct WartendeAenderung
+struct WaitingChange
 {
-    enum class Art { Neu, Geaendert, Geloescht } art;
-    Zeilennummer zeile;
-    std::vector<sql::Zuweisung> werte;
+    enum class Kind { Fresh, Geaendert, Removed } kind;
+    RowNumber row;
+    std::vector<sql::Assignment> values;
 };
 
 // What a recordset holds: its rows, the view of them, the place of the cursor and what is not yet written.
-struct Recordset::Kern
+struct Recordset::Core
 {
     // --- recordset.cpp ---
-    void verlangeOffen() const;
-    bool aufZeile() const { return position >= 0 && position < static_cast<std::ptrdiff_t>(ansicht.anzahl()); }
-    // Throws Laufzeitfehler 3021 where there is no current row.
-    std::size_t aktuellePosition() const;
-    Zeilennummer aktuelleZeile() const { return ansicht.zeile(aktuellePosition()); }
-    Value feldwert(std::size_t feld) const;
-    void geheZu(std::ptrdiff_t neuePosition);
+    void requireOpen() const;
+    bool onRow() const { return position >= 0 && position < static_cast<std::ptrdiff_t>(view.count()); }
+    // Throws RuntimeError 3021 where there is no current row.
+    std::size_t currentPosition() const;
+    RowNumber currentRow() const { return view.row(currentPosition()); }
+    Value fieldValue(std::size_t field) const;
+    void goTo(std::ptrdiff_t newPosition);
 
     // --- recordset_edit.cpp ---
-    void verlangeSchreibbar() const;
-    bool stapel() const { return zeilen.engine() && sperre == SperrTyp::Stapel; }
+    void requireWritable() const;
+    bool batch() const { return rows.engine() && lock == LockType::Batch; }
     // Writes what is being changed, as every move of the cursor does.
-    void beendeBearbeitung();
-    void schreibeNeue(const Bearbeitung& neue);
-    void schreibeGeaenderte(const Bearbeitung& geaenderte);
-    std::vector<sql::Zuweisung> zuweisungen(const Bearbeitung& quelle) const;
-    void uebernimm(Zeilennummer zeile, const Bearbeitung& quelle);
-    void fuehreAus(const WartendeAenderung& aenderung);
+    void endEdit();
+    void writeNew(const PendingEdit& fresh);
+    void writeChanged(const PendingEdit& changed);
+    std::vector<sql::Assignment> assignments(const PendingEdit& source) const;
+    void adopt(RowNumber row, const PendingEdit& source);
+    void execute(const WaitingChange& change);
 
     // --- recordset_find.cpp ---
     // All rows that were not deleted, in the present order.
-    std::vector<Zeilennummer> alleZeilen() const;
+    std::vector<RowNumber> allRows() const;
     // Puts them in the order of these fields, or of the opening, and hands them out.
-    std::vector<Zeilennummer> setzeOrdnung(const std::vector<Sortierfeld>& felder);
-    void zeigeAlle();
-    void zeige(std::vector<Zeilennummer> gefundene);
+    std::vector<RowNumber> setRowOrder(const std::vector<SortField>& fields);
+    void showAll();
+    void show(std::vector<RowNumber> found);
     // Over columns in memory.
-    std::unique_ptr<Auswahl> baueAuswahlVon(const sql::Ausdruck& ausdruck) const;
+    std::unique_ptr<Selection> buildSelectionOf(const sql::Expression& expression) const;
     // All rows that meet the filter, in the present order; nothing when the progress was given up.
-    std::optional<std::vector<Zeilennummer>> choose(const RowFilter& filter, const Fortschritt& fortschritt);
+    std::optional<std::vector<RowNumber>> choose(const RowFilter& filter, const Progress& progress);
     // False when the progress was given up.
-    bool ladeGenannte(std::span<const SharedCondition> conditions, const Fortschritt& fortschritt);
+    bool loadNamed(std::span<const SharedCondition> conditions, const Progress& progress);
     // The first row of the view, from `ab` on, that is chosen.
-    std::optional<std::ptrdiff_t> findePosition(Auswahl& auswahl, std::ptrdiff_t ab, bool vorwaerts) const;
+    std::optional<std::ptrdiff_t> findPosition(Selection& selection, std::ptrdiff_t start, bool forward) const;
 
-    bool offen = false;
-    SperrTyp sperre = SperrTyp::NurLesen;
-    Zeilenspeicher zeilen;
-    Ansicht ansicht;
+    bool open = false;
+    LockType lock = LockType::ReadOnly;
+    RowStore rows;
+    RowView view;
     std::ptrdiff_t position = 0; // -1: Bof; behind the last one: Eof
-    mutable Zellenpuffer puffer;
+    mutable CellBuffer buffer;
 
     RowFilter filter;
-    std::vector<Zeilennummer> geloescht; // ascending
-    bool sortiert = false;
-    std::vector<Zeilennummer> ordnung; // All rows not deleted, when sorted.
+    std::vector<RowNumber> removed; // ascending
+    bool sorted = false;
+    std::vector<RowNumber> rowOrder; // All rows not deleted, when sorted.
 
-    std::optional<Bearbeitung> bearbeitung;
-    std::vector<WartendeAenderung> wartende;
-    std::size_t klein = 2048; // Results up to this many rows are read whole.
+    std::optional<PendingEdit> pendingEdit;
+    std::vector<WaitingChange> waiting;
+    std::size_t small = 2048; // Results up to this many rows are read whole.
 };
 
 // A fault of a recordset, told in German.
-Laufzeitfehler recordsetFehler(int nummer, const std::string& beschreibung);
+RuntimeError recordsetFault(int number, const std::string& description);
 
 } // namespace quelvarn

@@ -9,167 +9,167 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int ZEILE_FEHLT = -2147217864;
+constexpr int ROW_MISSING = -2147217864;
 
 // The fault that led here is the one to tell, not that of taking back.
-void nimmZurueck(Engine& engine)
+void rollBack(Engine& engine)
 {
     try {
-        engine.nimmZurueck();
-    } catch (const Laufzeitfehler&) {
+        engine.rollBack();
+    } catch (const RuntimeError&) {
         return;
     }
 }
 
 } // namespace
 
-void Recordset::setzeFeld(std::string_view name, Value wert)
+void Recordset::setField(std::string_view name, Value value)
 {
-    kern_->verlangeSchreibbar();
-    const std::size_t feld = kern_->zeilen.feldVon(name);
-    wert = sql::speicherwert(wert, Felder()[feld].typ);
-    if (!kern_->bearbeitung) {
-        kern_->aktuellePosition();
-        kern_->bearbeitung = Bearbeitung{false, std::vector<std::optional<Value>>(Felder().size())};
+    core_->requireWritable();
+    const std::size_t field = core_->rows.fieldOf(name);
+    value = sql::storedValue(value, fields()[field].type);
+    if (!core_->pendingEdit) {
+        core_->currentPosition();
+        core_->pendingEdit = PendingEdit{false, std::vector<std::optional<Value>>(fields().size())};
     }
-    kern_->bearbeitung->werte[feld] = std::move(wert);
+    core_->pendingEdit->values[field] = std::move(value);
 }
 
 void Recordset::AddNew()
 {
-    kern_->verlangeSchreibbar();
-    kern_->beendeBearbeitung();
-    kern_->bearbeitung = Bearbeitung{true, std::vector<std::optional<Value>>(Felder().size())};
+    core_->requireWritable();
+    core_->endEdit();
+    core_->pendingEdit = PendingEdit{true, std::vector<std::optional<Value>>(fields().size())};
 }
 
 void Recordset::Update()
 {
-    kern_->beendeBearbeitung();
+    core_->endEdit();
 }
 
 void Recordset::CancelUpdate()
 {
-    kern_->bearbeitung.reset();
+    core_->pendingEdit.reset();
 }
 
 void Recordset::Delete()
 {
-    Kern& kern = *kern_;
-    kern.verlangeSchreibbar();
-    if (const auto bearbeitung = std::exchange(kern.bearbeitung, {}); bearbeitung && bearbeitung->neu)
+    Core& core = *core_;
+    core.requireWritable();
+    if (const auto pendingEdit = std::exchange(core.pendingEdit, {}); pendingEdit && pendingEdit->fresh)
         return;
-    const Zeilennummer zeile = kern.aktuelleZeile();
-    if (kern.stapel())
-        kern.wartende.push_back({WartendeAenderung::Art::Geloescht, zeile, {}});
-    else if (kern.zeilen.engine())
-        kern.zeilen.engine()->loesche(kern.zeilen.tabelle(), kern.zeilen.schluessel(zeile));
+    const RowNumber row = core.currentRow();
+    if (core.batch())
+        core.waiting.push_back({WaitingChange::Kind::Removed, row, {}});
+    else if (core.rows.engine())
+        core.rows.engine()->remove(core.rows.table(), core.rows.key(row));
 
-    kern.ansicht.entferne(static_cast<std::size_t>(kern.position));
-    std::erase(kern.ordnung, zeile);
-    kern.geloescht.insert(std::lower_bound(kern.geloescht.begin(), kern.geloescht.end(), zeile), zeile);
-    kern.puffer.leere();
+    core.view.remove(static_cast<std::size_t>(core.position));
+    std::erase(core.rowOrder, row);
+    core.removed.insert(std::lower_bound(core.removed.begin(), core.removed.end(), row), row);
+    core.buffer.clear();
 }
 
 void Recordset::UpdateBatch()
 {
-    Kern& kern = *kern_;
-    kern.verlangeSchreibbar();
-    kern.beendeBearbeitung();
-    if (kern.wartende.empty())
+    Core& core = *core_;
+    core.requireWritable();
+    core.endEdit();
+    if (core.waiting.empty())
         return;
-    Engine& engine = *kern.zeilen.engine();
-    engine.beginne();
+    Engine& engine = *core.rows.engine();
+    engine.begin();
     try {
-        for (const WartendeAenderung& aenderung : kern.wartende)
-            kern.fuehreAus(aenderung);
-        engine.schliesseAb();
-    } catch (const Laufzeitfehler&) {
-        nimmZurueck(engine);
+        for (const WaitingChange& change : core.waiting)
+            core.execute(change);
+        engine.commit();
+    } catch (const RuntimeError&) {
+        rollBack(engine);
         throw;
     }
-    kern.wartende.clear();
+    core.waiting.clear();
 }
 
-void Recordset::Kern::verlangeSchreibbar() const
+void Recordset::Core::requireWritable() const
 {
-    verlangeOffen();
-    if (sperre == SperrTyp::NurLesen || (zeilen.engine() && !zeilen.hatSchluessel()))
-        throw recordsetFehler(3251, "Das Recordset ist nur zum Lesen geöffnet.");
+    requireOpen();
+    if (lock == LockType::ReadOnly || (rows.engine() && !rows.hasKey()))
+        throw recordsetFault(3251, "Das Recordset ist nur zum Lesen geöffnet.");
 }
 
-void Recordset::Kern::beendeBearbeitung()
+void Recordset::Core::endEdit()
 {
-    verlangeOffen();
+    requireOpen();
     // A row that could not be written is as it was before.
-    const auto fertige = std::exchange(bearbeitung, {});
-    if (!fertige)
+    const auto finished = std::exchange(pendingEdit, {});
+    if (!finished)
         return;
-    if (fertige->neu)
-        schreibeNeue(*fertige);
+    if (finished->fresh)
+        writeNew(*finished);
     else
-        schreibeGeaenderte(*fertige);
-    puffer.leere();
+        writeChanged(*finished);
+    buffer.clear();
 }
 
-void Recordset::Kern::schreibeNeue(const Bearbeitung& neue)
+void Recordset::Core::writeNew(const PendingEdit& fresh)
 {
-    Zeilenschluessel schluessel = 0;
-    if (zeilen.engine() && !stapel())
-        schluessel = zeilen.engine()->fuegeEin(zeilen.tabelle(), zuweisungen(neue));
-    const Zeilennummer zeile = zeilen.haengeZeileAn();
-    if (zeilen.engine())
-        zeilen.setzeSchluessel(zeile, schluessel);
-    if (stapel())
-        wartende.push_back({WartendeAenderung::Art::Neu, zeile, zuweisungen(neue)});
-    uebernimm(zeile, neue);
-    ansicht.haengeAn(zeile);
-    if (sortiert)
-        ordnung.push_back(zeile);
-    position = static_cast<std::ptrdiff_t>(ansicht.anzahl()) - 1;
+    RowKey key = 0;
+    if (rows.engine() && !batch())
+        key = rows.engine()->insert(rows.table(), assignments(fresh));
+    const RowNumber row = rows.appendRow();
+    if (rows.engine())
+        rows.setKey(row, key);
+    if (batch())
+        waiting.push_back({WaitingChange::Kind::Fresh, row, assignments(fresh)});
+    adopt(row, fresh);
+    view.append(row);
+    if (sorted)
+        rowOrder.push_back(row);
+    position = static_cast<std::ptrdiff_t>(view.count()) - 1;
 }
 
-void Recordset::Kern::schreibeGeaenderte(const Bearbeitung& geaenderte)
+void Recordset::Core::writeChanged(const PendingEdit& changed)
 {
-    const Zeilennummer zeile = aktuelleZeile();
-    WartendeAenderung aenderung{WartendeAenderung::Art::Geaendert, zeile, zuweisungen(geaenderte)};
-    if (stapel())
-        wartende.push_back(std::move(aenderung));
-    else if (zeilen.engine())
-        fuehreAus(aenderung);
-    uebernimm(zeile, geaenderte);
+    const RowNumber row = currentRow();
+    WaitingChange change{WaitingChange::Kind::Geaendert, row, assignments(changed)};
+    if (batch())
+        waiting.push_back(std::move(change));
+    else if (rows.engine())
+        execute(change);
+    adopt(row, changed);
 }
 
-std::vector<sql::Zuweisung> Recordset::Kern::zuweisungen(const Bearbeitung& quelle) const
+std::vector<sql::Assignment> Recordset::Core::assignments(const PendingEdit& source) const
 {
-    std::vector<sql::Zuweisung> ergebnis;
-    for (std::size_t feld = 0; feld < quelle.werte.size(); ++feld)
-        if (quelle.werte[feld])
-            ergebnis.push_back({zeilen.felder()[feld].name, *quelle.werte[feld]});
-    return ergebnis;
+    std::vector<sql::Assignment> result;
+    for (std::size_t field = 0; field < source.values.size(); ++field)
+        if (source.values[field])
+            result.push_back({rows.fields()[field].name, *source.values[field]});
+    return result;
 }
 
-void Recordset::Kern::uebernimm(Zeilennummer zeile, const Bearbeitung& quelle)
+void Recordset::Core::adopt(RowNumber row, const PendingEdit& source)
 {
-    for (std::size_t feld = 0; feld < quelle.werte.size(); ++feld)
-        if (quelle.werte[feld])
-            zeilen.setze(zeile, feld, *quelle.werte[feld]);
+    for (std::size_t field = 0; field < source.values.size(); ++field)
+        if (source.values[field])
+            rows.set(row, field, *source.values[field]);
 }
 
-void Recordset::Kern::fuehreAus(const WartendeAenderung& aenderung)
+void Recordset::Core::execute(const WaitingChange& change)
 {
-    Engine& engine = *zeilen.engine();
-    const Zeilenschluessel schluessel = zeilen.schluessel(aenderung.zeile);
-    switch (aenderung.art) {
-    case WartendeAenderung::Art::Neu:
-        zeilen.setzeSchluessel(aenderung.zeile, engine.fuegeEin(zeilen.tabelle(), aenderung.werte));
+    Engine& engine = *rows.engine();
+    const RowKey key = rows.key(change.row);
+    switch (change.kind) {
+    case WaitingChange::Kind::Fresh:
+        rows.setKey(change.row, engine.insert(rows.table(), change.values));
         return;
-    case WartendeAenderung::Art::Geaendert:
-        if (!engine.aendere(zeilen.tabelle(), schluessel, aenderung.werte))
-            throw recordsetFehler(ZEILE_FEHLT,
-                                  "Der Datensatz wurde inzwischen von einem anderen Anwender geändert oder gelöscht.");
+    case WaitingChange::Kind::Geaendert:
+        if (!engine.update(rows.table(), key, change.values))
+            throw recordsetFault(ROW_MISSING,
+                                 "Der Datensatz wurde inzwischen von einem anderen Anwender geändert oder gelöscht.");
         return;
-    case WartendeAenderung::Art::Geloescht:
-        engine.loesche(zeilen.tabelle(), schluessel);
+    case WaitingChange::Kind::Removed:
+        engine.remove(rows.table(), key);
     }
 }
 

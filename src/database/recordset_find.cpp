@@ -11,172 +11,171 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t ERSTER_SCHRITT = 256;
-constexpr std::size_t GROESSTER_SCHRITT = 1 << 16;
+constexpr std::size_t FIRST_STEP = 256;
+constexpr std::size_t GREATEST_STEP = 1 << 16;
 // What is not near is often nowhere; the texts of a column tell that sooner than its rows.
-constexpr std::ptrdiff_t FRAGE_AB_SCHRITT = 16 * ERSTER_SCHRITT;
+constexpr std::ptrdiff_t QUESTION_FROM_STEP = 16 * FIRST_STEP;
 
 } // namespace
 
-void Recordset::Filter(std::string_view ausdruck, const Fortschritt& fortschritt)
+void Recordset::Filter(std::string_view expression, const Progress& progress)
 {
-    RowFilter filter{std::string(ausdruck), {}};
-    if (SharedCondition condition = sql::parseBedingung(ausdruck, sql::Datumsfolge::TagZuerst, Wildcards::Star))
+    RowFilter filter{std::string(expression), {}};
+    if (SharedCondition condition = sql::parseCondition(expression, sql::DateOrder::DayFirst, Wildcards::Star))
         filter.conditions.push_back(std::move(condition));
-    Filter(std::move(filter), fortschritt);
+    Filter(std::move(filter), progress);
 }
 
-void Recordset::Filter(RowFilter filter, const Fortschritt& fortschritt)
+void Recordset::Filter(RowFilter filter, const Progress& progress)
 {
-    Kern& kern = *kern_;
-    kern.beendeBearbeitung();
+    Core& core = *core_;
+    core.endEdit();
     if (filter.conditions.empty()) {
-        kern.zeigeAlle();
+        core.showAll();
     } else {
-        auto gefundene = kern.choose(filter, fortschritt);
-        if (!gefundene)
+        auto found = core.choose(filter, progress);
+        if (!found)
             return;
-        kern.zeige(std::move(*gefundene));
+        core.show(std::move(*found));
     }
-    kern.filter = std::move(filter);
+    core.filter = std::move(filter);
 }
 
 const RowFilter& Recordset::filter() const
 {
-    return kern_->filter;
+    return core_->filter;
 }
 
-void Recordset::Sort(std::string_view ausdruck)
+void Recordset::Sort(std::string_view expression)
 {
-    Kern& kern = *kern_;
-    kern.beendeBearbeitung();
-    const auto felder = leseSortierung(ausdruck, [&](std::string_view name) { return kern.zeilen.feldVon(name); });
-    std::vector<std::size_t> nummern(felder.size());
-    std::transform(felder.begin(), felder.end(), nummern.begin(), [](const Sortierfeld& feld) { return feld.feld; });
-    kern.zeilen.lade(nummern, {});
+    Core& core = *core_;
+    core.endEdit();
+    const auto fields = readSort(expression, [&](std::string_view name) { return core.rows.fieldOf(name); });
+    std::vector<std::size_t> numbers(fields.size());
+    std::transform(fields.begin(), fields.end(), numbers.begin(), [](const SortField& field) { return field.field; });
+    core.rows.load(numbers, {});
 
-    std::vector<bool> gezeigt(kern.zeilen.anzahl());
-    for (const Zeilennummer zeile : kern.ansicht.ausschnitt(0, kern.ansicht.anzahl()))
-        gezeigt[zeile] = true;
-    auto reihe = kern.setzeOrdnung(felder);
-    std::erase_if(reihe, [&](Zeilennummer zeile) { return !gezeigt[zeile]; });
-    if (reihe.size() == kern.zeilen.anzahl())
-        kern.zeigeAlle();
+    std::vector<bool> shown(core.rows.count());
+    for (const RowNumber row : core.view.crop(0, core.view.count()))
+        shown[row] = true;
+    auto layoutRow = core.setRowOrder(fields);
+    std::erase_if(layoutRow, [&](RowNumber row) { return !shown[row]; });
+    if (layoutRow.size() == core.rows.count())
+        core.showAll();
     else
-        kern.zeige(std::move(reihe));
+        core.show(std::move(layoutRow));
 }
 
-std::vector<Zeilennummer> Recordset::Kern::setzeOrdnung(const std::vector<Sortierfeld>& felder)
+std::vector<RowNumber> Recordset::Core::setRowOrder(const std::vector<SortField>& fields)
 {
-    sortiert = false;
-    ordnung = {};
-    auto reihe = alleZeilen();
-    if (!felder.empty()) {
-        sortiere(reihe, felder, [&](std::size_t feld) -> const Column& { return zeilen.spalte(feld); });
-        ordnung = reihe;
-        sortiert = true;
+    sorted = false;
+    rowOrder = {};
+    auto layoutRow = allRows();
+    if (!fields.empty()) {
+        sort(layoutRow, fields, [&](std::size_t field) -> const Column& { return rows.column(field); });
+        rowOrder = layoutRow;
+        sorted = true;
     }
-    return reihe;
+    return layoutRow;
 }
 
-bool Recordset::Find(std::string_view kriterium, std::size_t ueberspringe, Suchrichtung richtung, bool vonAnfang,
-                     const Fortschritt& fortschritt)
+bool Recordset::Find(std::string_view criterion, std::size_t skip, SearchDirection direction, bool fromStart,
+                     const Progress& progress)
 {
-    Kern& kern = *kern_;
-    kern.beendeBearbeitung();
-    const SharedCondition bedingung = sql::parseBedingung(kriterium, sql::Datumsfolge::TagZuerst, Wildcards::Percent);
-    if (!bedingung)
-        throw recordsetFehler(3001, "Das Suchkriterium ist leer.");
-    if (!kern.ladeGenannte({&bedingung, 1}, fortschritt))
+    Core& core = *core_;
+    core.endEdit();
+    const SharedCondition condition = sql::parseCondition(criterion, sql::DateOrder::DayFirst, Wildcards::Percent);
+    if (!condition)
+        throw recordsetFault(3001, "Das Suchkriterium ist leer.");
+    if (!core.loadNamed({&condition, 1}, progress))
         return false;
-    const auto auswahl = kern.baueAuswahlVon(*bedingung);
+    const auto selection = core.buildSelectionOf(*condition);
 
-    const bool vorwaerts = richtung == Suchrichtung::Vorwaerts;
-    const auto anzahl = static_cast<std::ptrdiff_t>(kern.ansicht.anzahl());
-    const std::ptrdiff_t anfang = vorwaerts ? 0 : anzahl - 1;
-    const std::ptrdiff_t start = vonAnfang ? anfang : kern.position;
-    const auto weiter = static_cast<std::ptrdiff_t>(std::min(ueberspringe, kern.ansicht.anzahl()));
-    const auto gefunden = kern.findePosition(*auswahl, vorwaerts ? start + weiter : start - weiter, vorwaerts);
-    kern.position = gefunden.value_or(vorwaerts ? anzahl : -1);
-    return gefunden.has_value();
+    const bool forward = direction == SearchDirection::Forward;
+    const auto count = static_cast<std::ptrdiff_t>(core.view.count());
+    const std::ptrdiff_t begin = forward ? 0 : count - 1;
+    const std::ptrdiff_t start = fromStart ? begin : core.position;
+    const auto further = static_cast<std::ptrdiff_t>(std::min(skip, core.view.count()));
+    const auto found = core.findPosition(*selection, forward ? start + further : start - further, forward);
+    core.position = found.value_or(forward ? count : -1);
+    return found.has_value();
 }
 
-std::optional<std::ptrdiff_t> Recordset::Kern::findePosition(Auswahl& auswahl, std::ptrdiff_t ab, bool vorwaerts) const
+std::optional<std::ptrdiff_t> Recordset::Core::findPosition(Selection& selection, std::ptrdiff_t start,
+                                                            bool forward) const
 {
-    const auto anzahl = static_cast<std::ptrdiff_t>(ansicht.anzahl());
-    ab = std::clamp<std::ptrdiff_t>(ab, vorwaerts ? 0 : -1, vorwaerts ? anzahl : anzahl - 1);
-    for (auto schritt = static_cast<std::ptrdiff_t>(ERSTER_SCHRITT); vorwaerts ? ab < anzahl : ab >= 0;
-         schritt = std::min<std::ptrdiff_t>(schritt * 4, GROESSTER_SCHRITT)) {
-        if (schritt == FRAGE_AB_SCHRITT && auswahl.nirgends())
+    const auto count = static_cast<std::ptrdiff_t>(view.count());
+    start = std::clamp<std::ptrdiff_t>(start, forward ? 0 : -1, forward ? count : count - 1);
+    for (auto step = static_cast<std::ptrdiff_t>(FIRST_STEP); forward ? start < count : start >= 0;
+         step = std::min<std::ptrdiff_t>(step * 4, GREATEST_STEP)) {
+        if (step == QUESTION_FROM_STEP && selection.nowhere())
             return std::nullopt;
-        const std::ptrdiff_t von = vorwaerts ? ab : std::max<std::ptrdiff_t>(ab + 1 - schritt, 0);
-        const std::ptrdiff_t bis = vorwaerts ? std::min(ab + schritt, anzahl) : ab + 1;
-        const auto alle = ansicht.ausschnitt(static_cast<std::size_t>(von), static_cast<std::size_t>(bis));
-        auto treffer = alle;
-        auswahl.behalte(treffer);
-        if (!treffer.empty()) {
-            const Zeilennummer gesucht = vorwaerts ? treffer.front() : treffer.back();
-            return von + (std::find(alle.begin(), alle.end(), gesucht) - alle.begin());
+        const std::ptrdiff_t from = forward ? start : std::max<std::ptrdiff_t>(start + 1 - step, 0);
+        const std::ptrdiff_t until = forward ? std::min(start + step, count) : start + 1;
+        const auto all = view.crop(static_cast<std::size_t>(from), static_cast<std::size_t>(until));
+        auto hits = all;
+        selection.keep(hits);
+        if (!hits.empty()) {
+            const RowNumber sought = forward ? hits.front() : hits.back();
+            return from + (std::find(all.begin(), all.end(), sought) - all.begin());
         }
-        ab = vorwaerts ? bis : von - 1;
+        start = forward ? until : from - 1;
     }
     return std::nullopt;
 }
 
-std::vector<Zeilennummer> Recordset::Kern::alleZeilen() const
+std::vector<RowNumber> Recordset::Core::allRows() const
 {
-    if (sortiert)
-        return ordnung;
-    std::vector<Zeilennummer> alle(zeilen.anzahl());
-    std::iota(alle.begin(), alle.end(), Zeilennummer{0});
-    if (!geloescht.empty())
-        std::erase_if(
-            alle, [&](Zeilennummer zeile) { return std::binary_search(geloescht.begin(), geloescht.end(), zeile); });
-    return alle;
+    if (sorted)
+        return rowOrder;
+    std::vector<RowNumber> all(rows.count());
+    std::iota(all.begin(), all.end(), RowNumber{0});
+    if (!removed.empty())
+        std::erase_if(all, [&](RowNumber row) { return std::binary_search(removed.begin(), removed.end(), row); });
+    return all;
 }
 
-void Recordset::Kern::zeigeAlle()
+void Recordset::Core::showAll()
 {
-    if (sortiert || !geloescht.empty())
-        zeige(alleZeilen());
+    if (sorted || !removed.empty())
+        show(allRows());
     else
-        ansicht.zeigeAlle(zeilen.anzahl());
+        view.showAll(rows.count());
     position = 0;
-    puffer.leere();
+    buffer.clear();
 }
 
-void Recordset::Kern::zeige(std::vector<Zeilennummer> gefundene)
+void Recordset::Core::show(std::vector<RowNumber> found)
 {
-    ansicht.zeige(std::move(gefundene), !sortiert);
+    view.show(std::move(found), !sorted);
     position = 0;
-    puffer.leere();
+    buffer.clear();
 }
 
-std::unique_ptr<Auswahl> Recordset::Kern::baueAuswahlVon(const sql::Ausdruck& ausdruck) const
+std::unique_ptr<Selection> Recordset::Core::buildSelectionOf(const sql::Expression& expression) const
 {
-    return baueAuswahl(ausdruck,
-                       [this](std::string_view name) -> const Column& { return zeilen.spalte(zeilen.feldVon(name)); });
+    return buildSelection(expression,
+                          [this](std::string_view name) -> const Column& { return rows.column(rows.fieldOf(name)); });
 }
 
-std::optional<std::vector<Zeilennummer>> Recordset::Kern::choose(const RowFilter& filter,
-                                                                 const Fortschritt& fortschritt)
+std::optional<std::vector<RowNumber>> Recordset::Core::choose(const RowFilter& filter, const Progress& progress)
 {
-    if (!ladeGenannte(filter.conditions, fortschritt))
+    if (!loadNamed(filter.conditions, progress))
         return std::nullopt;
-    std::vector<Zeilennummer> chosen = alleZeilen();
+    std::vector<RowNumber> chosen = allRows();
     for (const SharedCondition& condition : filter.conditions)
-        baueAuswahlVon(*condition)->behalte(chosen);
+        buildSelectionOf(*condition)->keep(chosen);
     return chosen;
 }
 
-bool Recordset::Kern::ladeGenannte(std::span<const SharedCondition> conditions, const Fortschritt& fortschritt)
+bool Recordset::Core::loadNamed(std::span<const SharedCondition> conditions, const Progress& progress)
 {
-    std::vector<std::size_t> felder;
+    std::vector<std::size_t> fields;
     for (const SharedCondition& condition : conditions)
-        for (const std::string& name : genannteSpalten(*condition))
-            if (const std::size_t feld = zeilen.feldVon(name); std::ranges::find(felder, feld) == felder.end())
-                felder.push_back(feld);
-    return zeilen.lade(felder, fortschritt);
+        for (const std::string& name : namedColumns(*condition))
+            if (const std::size_t field = rows.fieldOf(name); std::ranges::find(fields, field) == fields.end())
+                fields.push_back(field);
+    return rows.load(fields, progress);
 }
 
 } // namespace quelvarn

@@ -7,49 +7,48 @@ namespace quelvarn {
 
 namespace {
 
-constexpr Zeilennummer KEINE = std::numeric_limits<Zeilennummer>::max();
+constexpr RowNumber NONE = std::numeric_limits<RowNumber>::max();
 // An array may have so many places for each row.
-constexpr std::uint64_t PLAETZE_JE_ZEILE = 4;
+constexpr std::uint64_t PLACES_PER_ROW = 4;
 
 } // namespace
 
-Schluesselkarte::Schluesselkarte(std::span<const Zeilenschluessel> schluessel)
+KeyMap::KeyMap(std::span<const RowKey> key)
 {
-    if (schluessel.empty())
+    if (key.empty())
         return;
-    const auto [kleinster, groesster] = std::minmax_element(schluessel.begin(), schluessel.end());
-    kleinster_ = *kleinster;
-    const auto spanne = static_cast<std::uint64_t>(*groesster) - static_cast<std::uint64_t>(*kleinster);
-    if (spanne < schluessel.size() * PLAETZE_JE_ZEILE) {
-        dicht_.assign(spanne + 1, KEINE);
-        for (std::size_t zeile = 0; zeile < schluessel.size(); ++zeile)
-            dicht_[static_cast<std::size_t>(schluessel[zeile] - kleinster_)] = static_cast<Zeilennummer>(zeile);
+    const auto [smallest, greatest] = std::minmax_element(key.begin(), key.end());
+    smallest_ = *smallest;
+    const auto span = static_cast<std::uint64_t>(*greatest) - static_cast<std::uint64_t>(*smallest);
+    if (span < key.size() * PLACES_PER_ROW) {
+        dense_.assign(span + 1, NONE);
+        for (std::size_t row = 0; row < key.size(); ++row)
+            dense_[static_cast<std::size_t>(key[row] - smallest_)] = static_cast<RowNumber>(row);
         return;
     }
-    sortiert_.reserve(schluessel.size());
-    for (std::size_t zeile = 0; zeile < schluessel.size(); ++zeile)
-        sortiert_.push_back({schluessel[zeile], static_cast<Zeilennummer>(zeile)});
-    std::sort(sortiert_.begin(), sortiert_.end(),
-              [](const Eintrag& links, const Eintrag& rechts) { return links.schluessel < rechts.schluessel; });
+    sorted_.reserve(key.size());
+    for (std::size_t row = 0; row < key.size(); ++row)
+        sorted_.push_back({key[row], static_cast<RowNumber>(row)});
+    std::sort(sorted_.begin(), sorted_.end(),
+              [](const Entry& left, const Entry& right) { return left.key < right.key; });
 }
 
-std::optional<Zeilennummer> Schluesselkarte::findeZeile(Zeilenschluessel schluessel)
+std::optional<RowNumber> KeyMap::findRow(RowKey key)
 {
-    if (sortiert_.empty()) {
-        const auto platz = static_cast<std::uint64_t>(schluessel) - static_cast<std::uint64_t>(kleinster_);
-        if (platz >= dicht_.size() || dicht_[platz] == KEINE)
+    if (sorted_.empty()) {
+        const auto place = static_cast<std::uint64_t>(key) - static_cast<std::uint64_t>(smallest_);
+        if (place >= dense_.size() || dense_[place] == NONE)
             return std::nullopt;
-        return dicht_[platz];
+        return dense_[place];
     }
-    if (naechster_ == sortiert_.size() || sortiert_[naechster_].schluessel != schluessel) {
-        const auto stelle =
-            std::lower_bound(sortiert_.begin(), sortiert_.end(), schluessel,
-                             [](const Eintrag& eintrag, Zeilenschluessel wert) { return eintrag.schluessel < wert; });
-        naechster_ = static_cast<std::size_t>(stelle - sortiert_.begin());
-        if (stelle == sortiert_.end() || stelle->schluessel != schluessel)
+    if (next_ == sorted_.size() || sorted_[next_].key != key) {
+        const auto position = std::lower_bound(sorted_.begin(), sorted_.end(), key,
+                                               [](const Entry& entry, RowKey value) { return entry.key < value; });
+        next_ = static_cast<std::size_t>(position - sorted_.begin());
+        if (position == sorted_.end() || position->key != key)
             return std::nullopt;
     }
-    return sortiert_[naechster_++].zeile;
+    return sorted_[next_++].row;
 }
 
 } // namespace quelvarn

@@ -10,23 +10,23 @@
 namespace quelvarn {
 
 // Finds the row of a key. Keys that lie close together take an array, others a sorted list.
-class Schluesselkarte
+class KeyMap
 {
 public:
-    explicit Schluesselkarte(std::span<const Zeilenschluessel> schluessel);
+    explicit KeyMap(std::span<const RowKey> key);
     // Quick above all when keys are asked for in ascending order.
-    std::optional<Zeilennummer> findeZeile(Zeilenschluessel schluessel);
+    std::optional<RowNumber> findRow(RowKey key);
 
 private:
-    struct Eintrag
+    struct Entry
     {
-        Zeilenschluessel schluessel;
-        Zeilennummer zeile;
+        RowKey key;
+        RowNumber row;
     };
-    Zeilenschluessel kleinster_ = 0;
-    std::vector<Zeilennummer> dicht_;
-    std::vector<Eintrag> sortiert_;
-    std::size_t naechster_ = 0;
+    RowKey smallest_ = 0;
+    std::vector<RowNumber> dense_;
+    std::vector<Entry> sorted_;
+    std::size_t next_ = 0;
 };
 
 } // namespace quelvarn

@@ -12,96 +12,95 @@ namespace quelvarn {
 
 namespace {
 
-constexpr Zeilennummer KEINE = std::numeric_limits<Zeilennummer>::max();
+constexpr RowNumber NONE = std::numeric_limits<RowNumber>::max();
 
-struct Fund
+struct FoundText
 {
-    std::string schluessel; // sortKey of the text
-    bool blanks = false;    // behind the text
-    Zeilenschluessel zeile = 0;
-    Textcode code = 0;
+    std::string key;     // sortKey of the text
+    bool blanks = false; // behind the text
+    RowKey row = 0;
+    TextCode code = 0;
 };
 
-// For each code the row stored first among these, KEINE for a code that no row has.
-std::vector<Zeilennummer> ersteZeilen(const TextColumn& spalte, const Zeilenspeicher& speicher,
-                                      std::span<const Zeilennummer> zeilen)
+// For each code the row stored first among these, NONE for a code that no row has.
+std::vector<RowNumber> firstRows(const TextColumn& column, const RowStore& memory, std::span<const RowNumber> rows)
 {
-    std::vector<Zeilennummer> erste(spalte.texte().anzahl(), KEINE);
-    const std::vector<Textcode>& codes = spalte.codes();
-    for (const Zeilennummer zeile : zeilen) {
-        Zeilennummer& bisher = erste[codes[zeile]];
-        if (bisher == KEINE || speicher.reihenfolge(zeile) < speicher.reihenfolge(bisher))
-            bisher = zeile;
+    std::vector<RowNumber> first(column.texts().count(), NONE);
+    const std::vector<TextCode>& codes = column.codes();
+    for (const RowNumber row : rows) {
+        RowNumber& soFar = first[codes[row]];
+        if (soFar == NONE || memory.sequence(row) < memory.sequence(soFar))
+            soFar = row;
     }
-    return erste;
+    return first;
 }
 
 } // namespace
 
-std::optional<std::vector<Bookmark>> Recordset::waehle(std::string_view bedingung, const Fortschritt& fortschritt)
+std::optional<std::vector<Bookmark>> Recordset::choose(std::string_view text, const Progress& progress)
 {
     RowFilter filter;
-    if (SharedCondition condition = sql::parseBedingung(bedingung, sql::Datumsfolge::MonatZuerst))
+    if (SharedCondition condition = sql::parseCondition(text, sql::DateOrder::MonthFirst))
         filter.conditions.push_back(std::move(condition));
-    return waehle(filter, fortschritt);
+    return choose(filter, progress);
 }
 
-std::optional<std::vector<Bookmark>> Recordset::waehle(const RowFilter& filter, const Fortschritt& fortschritt)
+std::optional<std::vector<Bookmark>> Recordset::choose(const RowFilter& filter, const Progress& progress)
 {
-    kern_->verlangeOffen();
-    return kern_->choose(filter, fortschritt);
+    core_->requireOpen();
+    return core_->choose(filter, progress);
 }
 
-std::vector<std::string> Recordset::verschiedeneTexte(std::string_view name, std::span<const Bookmark> zeilen,
-                                                      const std::function<bool(std::string_view)>& gilt)
+std::vector<std::string> Recordset::distinctTexts(std::string_view name, std::span<const Bookmark> rows,
+                                                  const std::function<bool(std::string_view)>& counts)
 {
-    ladeSpalte(name);
-    const auto* spalte = dynamic_cast<const TextColumn*>(&kern_->zeilen.spalte(kern_->zeilen.feldVon(name)));
-    if (!spalte)
-        throw recordsetFehler(3421, "Das Feld '" + std::string(name) + "' enthält keine Texte.");
-    const std::vector<Zeilennummer> erste = ersteZeilen(*spalte, kern_->zeilen, zeilen);
-    std::vector<Fund> funde;
-    for (Textcode code = 1; code < erste.size(); ++code) {
-        const std::string_view text = spalte->texte().text(code);
-        if (erste[code] != KEINE && (!gilt || gilt(text)))
-            funde.push_back({sortKey(text), text.ends_with(' '), kern_->zeilen.reihenfolge(erste[code]), code});
+    loadColumn(name);
+    const auto* column = dynamic_cast<const TextColumn*>(&core_->rows.column(core_->rows.fieldOf(name)));
+    if (!column)
+        throw recordsetFault(3421, "Das Feld '" + std::string(name) + "' enthält keine Texte.");
+    const std::vector<RowNumber> first = firstRows(*column, core_->rows, rows);
+    std::vector<FoundText> foundTexts;
+    for (TextCode code = 1; code < first.size(); ++code) {
+        const std::string_view text = column->texts().text(code);
+        if (first[code] != NONE && (!counts || counts(text)))
+            foundTexts.push_back({sortKey(text), text.ends_with(' '), core_->rows.sequence(first[code]), code});
     }
-    std::sort(funde.begin(), funde.end(), [](const Fund& links, const Fund& rechts) {
-        const int ordnung = links.schluessel.compare(rechts.schluessel);
-        return ordnung != 0 ? ordnung < 0 : std::tie(links.blanks, links.zeile) < std::tie(rechts.blanks, rechts.zeile);
+    std::sort(foundTexts.begin(), foundTexts.end(), [](const FoundText& left, const FoundText& right) {
+        const int rowOrder = left.key.compare(right.key);
+        return rowOrder != 0 ? rowOrder < 0 : std::tie(left.blanks, left.row) < std::tie(right.blanks, right.row);
     });
-    std::vector<std::string> texte;
-    for (std::size_t i = 0; i < funde.size(); ++i)
-        if (i == 0 || funde[i].schluessel != funde[i - 1].schluessel)
-            texte.emplace_back(spalte->texte().text(funde[i].code));
-    return texte;
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < foundTexts.size(); ++i)
+        if (i == 0 || foundTexts[i].key != foundTexts[i - 1].key)
+            texts.emplace_back(column->texts().text(foundTexts[i].code));
+    return texts;
 }
 
-std::vector<double> Recordset::verschiedeneZahlen(std::string_view name, std::span<const Bookmark> zeilen)
+std::vector<double> Recordset::distinctNumbers(std::string_view name, std::span<const Bookmark> rows)
 {
-    ladeSpalte(name);
-    const Column& spalte = kern_->zeilen.spalte(kern_->zeilen.feldVon(name));
-    std::vector<double> zahlen;
-    const auto sammle = [&](const auto& spalteVonZahlen) {
-        for (const Zeilennummer zeile : zeilen) {
-            const auto zahl = spalteVonZahlen.zahlen()[zeile];
-            if (spalteVonZahlen.istLeer(zahl))
+    loadColumn(name);
+    const Column& column = core_->rows.column(core_->rows.fieldOf(name));
+    std::vector<double> numbers;
+    const auto collect = [&](const auto& columnOfNumbers) {
+        for (const RowNumber row : rows) {
+            const auto number = columnOfNumbers.numbers()[row];
+            if (columnOfNumbers.isEmpty(number))
                 continue;
             // Neighbours are often equal, and most columns hold few numbers.
-            const auto wert = static_cast<double>(zahl);
-            if (zahlen.empty() || zahlen.back() != wert)
-                zahlen.push_back(wert);
+            const auto value = static_cast<double>(number);
+            if (numbers.empty() || numbers.back() != value)
+                numbers.push_back(value);
         }
     };
-    if (const auto* ganze = dynamic_cast<const NumberColumn<std::int64_t>*>(&spalte))
-        sammle(*ganze);
-    else if (const auto* komma = dynamic_cast<const NumberColumn<double>*>(&spalte))
-        sammle(*komma);
+    if (const auto* whole = dynamic_cast<const NumberColumn<std::int64_t>*>(&column))
+        collect(*whole);
+    else if (const auto* comma = dynamic_cast<const NumberColumn<double>*>(&column))
+        collect(*comma);
     else
-        throw recordsetFehler(3421, "Das Feld '" + std::string(name) + "' enthält keine Zahlen.");
-    std::sort(zahlen.begin(), zahlen.end());
-    zahlen.erase(std::unique(zahlen.begin(), zahlen.end()), zahlen.end());
-    return zahlen;
+        throw recordsetFault(3421, "Das Feld '" + std::string(name) + "' enthält keine Zahlen.");
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    return numbers;
 }
 
 } // namespace quelvarn

@@ -7,45 +7,45 @@
 
 namespace quelvarn {
 
-void Recordset::OpenZeilen(std::string_view tabelle, std::vector<Zeilenschluessel> schluessel, Connection& verbindung)
+void Recordset::openRows(std::string_view table, std::vector<RowKey> key, Connection& connection)
 {
-    auto neu = std::make_unique<Kern>();
-    neu->klein = kern_->klein;
-    if (!verbindung.offen())
-        throw recordsetFehler(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
-    neu->zeilen.oeffneZeilen(verbindung.engine_, tabelle, std::move(schluessel), neu->klein);
-    neu->ansicht.zeigeAlle(neu->zeilen.anzahl());
-    neu->offen = true;
-    kern_ = std::move(neu);
+    auto fresh = std::make_unique<Core>();
+    fresh->small = core_->small;
+    if (!connection.open())
+        throw recordsetFault(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
+    fresh->rows.openRows(connection.engine_, table, std::move(key), fresh->small);
+    fresh->view.showAll(fresh->rows.count());
+    fresh->open = true;
+    core_ = std::move(fresh);
 }
 
-void Zeilenspeicher::oeffneZeilen(std::shared_ptr<Engine> engine, std::string_view tabelle,
-                                  std::vector<Zeilenschluessel> schluessel, std::size_t klein)
+void RowStore::openRows(std::shared_ptr<Engine> engine, std::string_view table, std::vector<RowKey> key,
+                        std::size_t small)
 {
-    const auto schema = engine->findTabelle(tabelle);
+    const auto schema = engine->findTable(table);
     if (!schema)
-        throw recordsetFehler(FEHLER_TABELLE_FEHLT, "Die Tabelle '" + std::string(tabelle) + "' gibt es nicht.");
+        throw recordsetFault(FAULT_MISSING_TABLE, "Die Tabelle '" + std::string(table) + "' gibt es nicht.");
     *this = {};
     engine_ = std::move(engine);
-    abfrage_.tabelle = schema->name;
-    felder_ = schema->spalten;
-    spalten_.resize(felder_.size());
-    hatSchluessel_ = true;
-    anzahl_ = schluessel.size();
-    schluessel_ = std::move(schluessel);
-    if (anzahl_ > klein)
+    query_.table = schema->name;
+    fields_ = schema->columns;
+    columns_.resize(fields_.size());
+    hasKey_ = true;
+    count_ = key.size();
+    key_ = std::move(key);
+    if (count_ > small)
         return;
 
-    std::vector<Zeilennummer> zeilen(anzahl_);
-    std::iota(zeilen.begin(), zeilen.end(), Zeilennummer{0});
-    std::vector<std::size_t> alle(felder_.size());
-    std::iota(alle.begin(), alle.end(), std::size_t{0});
-    const std::vector<Value> werte = leseZellen(zeilen, alle);
-    for (std::size_t feld = 0; feld < felder_.size(); ++feld) {
-        spalten_[feld] = neueSpalte(felder_[feld].typ);
-        for (std::size_t zeile = 0; zeile < anzahl_; ++zeile)
-            spalten_[feld]->haengeAn(werte[zeile * felder_.size() + feld]);
-        spalten_[feld]->schliesseAb();
+    std::vector<RowNumber> rows(count_);
+    std::iota(rows.begin(), rows.end(), RowNumber{0});
+    std::vector<std::size_t> all(fields_.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const std::vector<Value> values = readCells(rows, all);
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+        columns_[field] = newColumn(fields_[field].type);
+        for (std::size_t row = 0; row < count_; ++row)
+            columns_[field]->append(values[row * fields_.size() + field]);
+        columns_[field]->commit();
     }
 }
 

@@ -7,40 +7,40 @@
 
 namespace quelvarn {
 
-std::vector<Sortierfeld> leseSortierung(std::string_view ausdruck,
-                                        const std::function<std::size_t(std::string_view)>& feldVon)
+std::vector<SortField> readSort(std::string_view expression,
+                                const std::function<std::size_t(std::string_view)>& fieldOf)
 {
-    std::vector<Sortierfeld> felder;
-    if (trim(ausdruck).empty())
-        return felder;
-    for (const std::string& teil : split(ausdruck, ',')) {
-        std::string_view name = trim(teil);
-        bool absteigend = false;
-        if (const auto luecke = name.rfind(' '); luecke != std::string_view::npos) {
-            const std::string richtung = toLower(name.substr(luecke + 1));
-            absteigend = richtung == "desc";
-            if (absteigend || richtung == "asc")
-                name = trim(name.substr(0, luecke));
+    std::vector<SortField> fields;
+    if (trim(expression).empty())
+        return fields;
+    for (const std::string& part : split(expression, ',')) {
+        std::string_view name = trim(part);
+        bool descending = false;
+        if (const auto gap = name.rfind(' '); gap != std::string_view::npos) {
+            const std::string direction = toLower(name.substr(gap + 1));
+            descending = direction == "desc";
+            if (descending || direction == "asc")
+                name = trim(name.substr(0, gap));
         }
         if (name.size() > 2 && name.front() == '[' && name.back() == ']')
             name = name.substr(1, name.size() - 2);
-        felder.push_back({feldVon(name), absteigend});
+        fields.push_back({fieldOf(name), descending});
     }
-    return felder;
+    return fields;
 }
 
-void sortiere(std::vector<Zeilennummer>& zeilen, const std::vector<Sortierfeld>& felder,
-              const std::function<const Column&(std::size_t)>& spalte)
+void sort(std::vector<RowNumber>& rows, const std::vector<SortField>& fields,
+          const std::function<const Column&(std::size_t)>& column)
 {
     // The last field first: each pass keeps the order of the one before among equal values.
-    std::for_each(felder.rbegin(), felder.rend(), [&](const Sortierfeld& feld) {
-        const std::vector<std::int64_t> werte = spalte(feld.feld).ordnungswerte();
-        const auto frueher = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] < werte[rechts]; };
-        const auto spaeter = [&](Zeilennummer links, Zeilennummer rechts) { return werte[links] > werte[rechts]; };
-        if (feld.absteigend)
-            std::stable_sort(zeilen.begin(), zeilen.end(), spaeter);
+    std::for_each(fields.rbegin(), fields.rend(), [&](const SortField& field) {
+        const std::vector<std::int64_t> values = column(field.field).rankValues();
+        const auto earlier = [&](RowNumber left, RowNumber right) { return values[left] < values[right]; };
+        const auto later = [&](RowNumber left, RowNumber right) { return values[left] > values[right]; };
+        if (field.descending)
+            std::stable_sort(rows.begin(), rows.end(), later);
         else
-            std::stable_sort(zeilen.begin(), zeilen.end(), frueher);
+            std::stable_sort(rows.begin(), rows.end(), earlier);
     });
 }
 

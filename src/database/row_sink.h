@@ -8,13 +8,13 @@
 namespace quelvarn {
 
 // Takes rows, table by table.
-class Zeilensenke
+class RowSink
 {
 public:
-    virtual ~Zeilensenke() = default;
+    virtual ~RowSink() = default;
     // The rows that follow belong to this table, cells in the order of its columns.
-    virtual void tabelle(const Tabellenschema& tabelle) = 0;
-    virtual void zeile(std::span<const Value> werte) = 0;
+    virtual void table(const TableSchema& table) = 0;
+    virtual void row(std::span<const Value> values) = 0;
 };
 
 } // namespace quelvarn

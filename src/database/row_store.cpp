@@ -14,250 +14,246 @@ namespace quelvarn {
 
 namespace {
 
-bool gleicherName(std::string_view links, std::string_view rechts)
+bool sameName(std::string_view left, std::string_view right)
 {
-    return links.size() == rechts.size() && startsWithIgnoringCase(links, rechts);
+    return left.size() == right.size() && startsWithIgnoringCase(left, right);
 }
 
-Spaltenliste neueSpalten(const std::vector<Spalte>& felder)
+ColumnList newColumns(const std::vector<ColumnInfo>& fields)
 {
-    Spaltenliste spalten;
-    for (const Spalte& feld : felder)
-        spalten.push_back(neueSpalte(feld.typ));
-    return spalten;
+    ColumnList columns;
+    for (const ColumnInfo& field : fields)
+        columns.push_back(newColumn(field.type));
+    return columns;
 }
 
 } // namespace
 
-void Zeilenspeicher::haengeFeldAn(Spalte feld)
+void RowStore::appendField(ColumnInfo field)
 {
-    spalten_.push_back(neueSpalte(feld.typ));
-    felder_.push_back(std::move(feld));
+    columns_.push_back(newColumn(field.type));
+    fields_.push_back(std::move(field));
 }
 
-void Zeilenspeicher::leere()
+void RowStore::clear()
 {
-    spalten_ = neueSpalten(felder_);
-    anzahl_ = 0;
+    columns_ = newColumns(fields_);
+    count_ = 0;
 }
 
-void Zeilenspeicher::oeffne(std::shared_ptr<Engine> engine, sql::Select abfrage, const Oeffnung& oeffnung)
+void RowStore::open(std::shared_ptr<Engine> engine, sql::Select query, const Opening& opening)
 {
     *this = {};
     engine_ = std::move(engine);
-    abfrage_ = std::move(abfrage);
-    const EngineFaehigkeiten kann = engine_->faehigkeiten();
+    query_ = std::move(query);
+    const EngineCapabilities can = engine_->capabilities();
     // To write, a row of DISTINCT must be one certain row of the table: the first of its equals.
-    const bool ersteZeilen = abfrage_.distinct && oeffnung.schreibbar && kann.zeilenschluessel;
-    const bool nurNeue = ersteZeilen || (abfrage_.distinct && !kann.distinctBlind);
-    if (ersteZeilen)
-        abfrage_.distinct = false;
-    hatSchluessel_ = kann.zeilenschluessel && (kann.spaltenNachladen || oeffnung.schreibbar) && !abfrage_.anzahl &&
-                     !abfrage_.distinct;
+    const bool firstRows = query_.distinct && opening.writable && can.rowKey;
+    const bool onlyNew = firstRows || (query_.distinct && !can.distinctBlind);
+    if (firstRows)
+        query_.distinct = false;
+    hasKey_ = can.rowKey && (can.loadsColumnsLater || opening.writable) && !query_.count && !query_.distinct;
 
-    Doppelsuche doppelte;
-    const bool ganz = oeffnung.ganzLesen || nurNeue || !hatSchluessel_ || !kann.spaltenNachladen;
-    if (!leseGanz(ganz ? 0 : oeffnung.klein, nurNeue ? &doppelte : nullptr))
-        leseSchluessel();
-    if (abfrage_.distinct && !kann.distinctBlind)
-        ordneNeu();
-    for (const auto& spalte : spalten_)
-        if (spalte)
-            spalte->schliesseAb();
+    DuplicateSearch duplicates;
+    const bool whole = opening.readWhole || onlyNew || !hasKey_ || !can.loadsColumnsLater;
+    if (!readWhole(whole ? 0 : opening.small, onlyNew ? &duplicates : nullptr))
+        readKey();
+    if (query_.distinct && !can.distinctBlind)
+        rearrange();
+    for (const auto& column : columns_)
+        if (column)
+            column->commit();
 }
 
-// Reads all columns; false, and nothing is there, when there are more rows than `hoechstens` (0: no limit).
-bool Zeilenspeicher::leseGanz(std::size_t hoechstens, Doppelsuche* doppelte)
+// Reads all columns; false, and nothing is there, when there are more rows than `atMost` (0: no limit).
+bool RowStore::readWhole(std::size_t atMost, DuplicateSearch* duplicates)
 {
-    const auto leser = engine_->lese(abfrage_, hatSchluessel_ ? MitSchluessel::Ja : MitSchluessel::Nein,
-                                     hoechstens == 0 ? 0 : hoechstens + 1);
-    felder_ = leser->spalten();
-    spalten_ = neueSpalten(felder_);
-    haengeZeilenAn(*leser, spalten_, hatSchluessel_ ? &schluessel_ : nullptr, doppelte);
-    anzahl_ = felder_.empty() ? 0 : spalten_[0]->anzahl();
-    if (hoechstens == 0 || anzahl_ <= hoechstens)
+    const auto reader = engine_->read(query_, hasKey_ ? WithKey::Yes : WithKey::No, atMost == 0 ? 0 : atMost + 1);
+    fields_ = reader->columns();
+    columns_ = newColumns(fields_);
+    appendRows(*reader, columns_, hasKey_ ? &key_ : nullptr, duplicates);
+    count_ = fields_.empty() ? 0 : columns_[0]->count();
+    if (atMost == 0 || count_ <= atMost)
         return true;
-    spalten_.clear();
-    spalten_.resize(felder_.size());
-    schluessel_.clear();
+    columns_.clear();
+    columns_.resize(fields_.size());
+    key_.clear();
     return false;
 }
 
 // An engine whose DISTINCT heeds case does not sort it as the register does.
-void Zeilenspeicher::ordneNeu()
+void RowStore::rearrange()
 {
-    std::vector<Sortierfeld> felder;
-    for (const sql::Sortierung& sortierung : abfrage_.orderBy)
-        felder.push_back({feldVon(sortierung.spalte), sortierung.absteigend});
-    std::vector<Zeilennummer> reihe(anzahl_);
-    std::iota(reihe.begin(), reihe.end(), Zeilennummer{0});
-    sortiere(reihe, felder, [&](std::size_t feld) -> const Column& { return spalte(feld); });
-    for (auto& alte : spalten_) {
-        auto neue = neueSpalte(alte->typ());
-        for (const Zeilennummer zeile : reihe)
-            neue->haengeAn(alte->wert(zeile));
-        alte = std::move(neue);
+    std::vector<SortField> fields;
+    for (const sql::Sort& sort : query_.orderBy)
+        fields.push_back({fieldOf(sort.column), sort.descending});
+    std::vector<RowNumber> layoutRow(count_);
+    std::iota(layoutRow.begin(), layoutRow.end(), RowNumber{0});
+    sort(layoutRow, fields, [&](std::size_t field) -> const Column& { return column(field); });
+    for (auto& old : columns_) {
+        auto fresh = newColumn(old->type());
+        for (const RowNumber row : layoutRow)
+            fresh->append(old->value(row));
+        old = std::move(fresh);
     }
 }
 
 // Reads the keys and the columns of the sort order in one pass; without a sort order the first column.
-void Zeilenspeicher::leseSchluessel()
+void RowStore::readKey()
 {
-    std::vector<std::size_t> felder;
-    for (const sql::Sortierung& sortierung : abfrage_.orderBy) {
-        const auto feld = findeFeld(sortierung.spalte);
-        if (feld && std::find(felder.begin(), felder.end(), *feld) == felder.end())
-            felder.push_back(*feld);
+    std::vector<std::size_t> fields;
+    for (const sql::Sort& sort : query_.orderBy) {
+        const auto field = findField(sort.column);
+        if (field && std::find(fields.begin(), fields.end(), *field) == fields.end())
+            fields.push_back(*field);
     }
-    const bool ersteSortiert = !felder.empty() && findeFeld(abfrage_.orderBy.front().spalte) == felder.front();
-    if (felder.empty())
-        felder.push_back(0);
+    const bool firstSorted = !fields.empty() && findField(query_.orderBy.front().column) == fields.front();
+    if (fields.empty())
+        fields.push_back(0);
 
-    Spaltenliste gelesen;
-    for (const std::size_t feld : felder)
-        gelesen.push_back(gelesen.empty() && ersteSortiert ? neueSortierteSpalte(felder_[feld].typ)
-                                                           : neueSpalte(felder_[feld].typ));
-    std::vector<std::string> alle = std::exchange(abfrage_.spalten, namen(felder));
-    const auto leser = engine_->lese(abfrage_, MitSchluessel::Ja);
-    haengeZeilenAn(*leser, gelesen, &schluessel_);
-    abfrage_.spalten = std::move(alle);
-    anzahl_ = schluessel_.size();
-    schluessel_.shrink_to_fit();
-    for (std::size_t i = 0; i < felder.size(); ++i)
-        spalten_[felder[i]] = std::move(gelesen[i]);
+    ColumnList read;
+    for (const std::size_t field : fields)
+        read.push_back(read.empty() && firstSorted ? newSortedColumn(fields_[field].type)
+                                                   : newColumn(fields_[field].type));
+    std::vector<std::string> all = std::exchange(query_.columns, names(fields));
+    const auto reader = engine_->read(query_, WithKey::Yes);
+    appendRows(*reader, read, &key_);
+    query_.columns = std::move(all);
+    count_ = key_.size();
+    key_.shrink_to_fit();
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        columns_[fields[i]] = std::move(read[i]);
 }
 
-bool Zeilenspeicher::lade(std::span<const std::size_t> gewuenscht, const Fortschritt& fortschritt)
+bool RowStore::load(std::span<const std::size_t> wanted, const Progress& progress)
 {
-    std::vector<std::size_t> felder;
-    Spaltenliste gelesen;
-    for (const std::size_t feld : gewuenscht) {
-        if (geladen(feld) || std::find(felder.begin(), felder.end(), feld) != felder.end())
+    std::vector<std::size_t> fields;
+    ColumnList read;
+    for (const std::size_t field : wanted) {
+        if (loaded(field) || std::find(fields.begin(), fields.end(), field) != fields.end())
             continue;
-        felder.push_back(feld);
-        gelesen.push_back(neueSpalte(felder_[feld].typ));
-        gelesen.back()->setzeAnzahl(anzahl_);
+        fields.push_back(field);
+        read.push_back(newColumn(fields_[field].type));
+        read.back()->setCount(count_);
     }
-    if (felder.empty())
+    if (fields.empty())
         return true;
 
-    const auto leser = leseUnsortiert(felder);
-    Schluesselkarte karte(schluessel_);
-    if (!setzeZellen(*leser, gelesen, karte, fortschritt, anzahl_))
+    const auto reader = readUnsorted(fields);
+    KeyMap map(key_);
+    if (!setCells(*reader, read, map, progress, count_))
         return false;
 
-    setzeEigene(gelesen, felder);
-    for (std::size_t i = 0; i < felder.size(); ++i) {
-        gelesen[i]->schliesseAb();
-        spalten_[felder[i]] = std::move(gelesen[i]);
+    setOwn(read, fields);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        read[i]->commit();
+        columns_[fields[i]] = std::move(read[i]);
     }
     return true;
 }
 
 // The statement is whole again also when the engine fails: the recordset stays in use.
-std::unique_ptr<Zeilenleser> Zeilenspeicher::leseUnsortiert(std::span<const std::size_t> felder)
+std::unique_ptr<RowReader> RowStore::readUnsorted(std::span<const std::size_t> fields)
 {
-    struct Rueckgabe
+    struct Result
     {
-        ~Rueckgabe()
+        ~Result()
         {
-            abfrage.spalten = std::move(spalten);
-            abfrage.orderBy = std::move(ordnung);
+            query.columns = std::move(columns);
+            query.orderBy = std::move(rowOrder);
         }
-        sql::Select& abfrage;
-        std::vector<std::string> spalten;
-        std::vector<sql::Sortierung> ordnung;
+        sql::Select& query;
+        std::vector<std::string> columns;
+        std::vector<sql::Sort> rowOrder;
     };
-    const Rueckgabe rueckgabe{abfrage_, std::exchange(abfrage_.spalten, namen(felder)),
-                              std::exchange(abfrage_.orderBy, {})};
-    return engine_->lese(abfrage_, MitSchluessel::Ja);
+    const Result result{query_, std::exchange(query_.columns, names(fields)), std::exchange(query_.orderBy, {})};
+    return engine_->read(query_, WithKey::Yes);
 }
 
 // Rows changed or added here, by their keys: they may no longer meet the recordset's own condition.
-void Zeilenspeicher::setzeEigene(Spaltenliste& spalten, std::span<const std::size_t> felder)
+void RowStore::setOwn(ColumnList& columns, std::span<const std::size_t> fields)
 {
-    std::sort(eigene_.begin(), eigene_.end());
-    eigene_.erase(std::unique(eigene_.begin(), eigene_.end()), eigene_.end());
-    const std::vector<Value> werte = leseZellen(eigene_, felder);
-    for (std::size_t i = 0; i < werte.size(); ++i)
-        spalten[i % felder.size()]->setze(eigene_[i / felder.size()], werte[i]);
+    std::sort(own_.begin(), own_.end());
+    own_.erase(std::unique(own_.begin(), own_.end()), own_.end());
+    const std::vector<Value> values = readCells(own_, fields);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        columns[i % fields.size()]->set(own_[i / fields.size()], values[i]);
 }
 
-std::vector<Value> Zeilenspeicher::leseZellen(std::span<const Zeilennummer> zeilen,
-                                              std::span<const std::size_t> felder) const
+std::vector<Value> RowStore::readCells(std::span<const RowNumber> rows, std::span<const std::size_t> fields) const
 {
-    std::vector<Value> werte(zeilen.size() * felder.size());
-    if (werte.empty())
-        return werte;
-    std::vector<Zeilenschluessel> schluessel;
-    std::unordered_map<Zeilenschluessel, std::size_t> plaetze;
-    for (const Zeilennummer zeile : zeilen) {
-        plaetze.emplace(schluessel_[zeile], schluessel.size());
-        schluessel.push_back(schluessel_[zeile]);
+    std::vector<Value> values(rows.size() * fields.size());
+    if (values.empty())
+        return values;
+    std::vector<RowKey> key;
+    std::unordered_map<RowKey, std::size_t> places;
+    for (const RowNumber row : rows) {
+        places.emplace(key_[row], key.size());
+        key.push_back(key_[row]);
     }
-    const auto leser = engine_->leseZeilen(abfrage_.tabelle, namen(felder), schluessel);
-    while (leser->next()) {
-        const auto platz = plaetze.find(leser->schluessel());
-        if (platz == plaetze.end())
+    const auto reader = engine_->readRows(query_.table, names(fields), key);
+    while (reader->next()) {
+        const auto place = places.find(reader->key());
+        if (place == places.end())
             continue;
-        for (std::size_t i = 0; i < felder.size(); ++i)
-            werte[platz->second * felder.size() + i] = leser->wert(i);
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            values[place->second * fields.size() + i] = reader->value(i);
     }
-    return werte;
+    return values;
 }
 
-std::vector<std::string> Zeilenspeicher::namen(std::span<const std::size_t> felder) const
+std::vector<std::string> RowStore::names(std::span<const std::size_t> fields) const
 {
-    std::vector<std::string> namen;
-    for (const std::size_t feld : felder)
-        namen.push_back(felder_[feld].name);
-    return namen;
+    std::vector<std::string> names;
+    for (const std::size_t field : fields)
+        names.push_back(fields_[field].name);
+    return names;
 }
 
-std::optional<std::size_t> Zeilenspeicher::findeFeld(std::string_view name) const
+std::optional<std::size_t> RowStore::findField(std::string_view name) const
 {
-    for (std::size_t feld = 0; feld < felder_.size(); ++feld)
-        if (felder_[feld].name == name)
-            return feld;
-    for (std::size_t feld = 0; feld < felder_.size(); ++feld)
-        if (gleicherName(felder_[feld].name, name))
-            return feld;
+    for (std::size_t field = 0; field < fields_.size(); ++field)
+        if (fields_[field].name == name)
+            return field;
+    for (std::size_t field = 0; field < fields_.size(); ++field)
+        if (sameName(fields_[field].name, name))
+            return field;
     return std::nullopt;
 }
 
-std::size_t Zeilenspeicher::feldVon(std::string_view name) const
+std::size_t RowStore::fieldOf(std::string_view name) const
 {
-    if (const auto feld = findeFeld(name))
-        return *feld;
-    throw Laufzeitfehler(3265, "Recordset", "Das Feld '" + std::string(name) + "' gibt es in diesem Recordset nicht.");
+    if (const auto field = findField(name))
+        return *field;
+    throw RuntimeError(3265, "Recordset", "Das Feld '" + std::string(name) + "' gibt es in diesem Recordset nicht.");
 }
 
-Zeilennummer Zeilenspeicher::haengeZeileAn()
+RowNumber RowStore::appendRow()
 {
-    const auto zeile = static_cast<Zeilennummer>(anzahl_++);
-    for (const auto& spalte : spalten_)
-        if (spalte)
-            spalte->setzeAnzahl(anzahl_);
-    if (hatSchluessel_)
-        schluessel_.push_back(0);
+    const auto row = static_cast<RowNumber>(count_++);
+    for (const auto& column : columns_)
+        if (column)
+            column->setCount(count_);
+    if (hasKey_)
+        key_.push_back(0);
     if (engine_)
-        eigene_.push_back(zeile);
-    return zeile;
+        own_.push_back(row);
+    return row;
 }
 
-void Zeilenspeicher::setze(Zeilennummer zeile, std::size_t feld, const Value& wert)
+void RowStore::set(RowNumber row, std::size_t field, const Value& value)
 {
-    if (geladen(feld))
-        spalten_[feld]->setze(zeile, wert);
-    if (engine_ && (eigene_.empty() || eigene_.back() != zeile))
-        eigene_.push_back(zeile);
+    if (loaded(field))
+        columns_[field]->set(row, value);
+    if (engine_ && (own_.empty() || own_.back() != row))
+        own_.push_back(row);
 }
 
-std::size_t Zeilenspeicher::speicher() const
+std::size_t RowStore::memory() const
 {
-    std::size_t bytes = schluessel_.capacity() * sizeof(Zeilenschluessel);
-    for (const auto& spalte : spalten_)
-        bytes += spalte ? spalte->speicher() : 0;
+    std::size_t bytes = key_.capacity() * sizeof(RowKey);
+    for (const auto& column : columns_)
+        bytes += column ? column->memory() : 0;
     return bytes;
 }
 

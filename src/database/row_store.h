@@ -12,70 +12,69 @@
 namespace quelvarn {
 
 // How a recordset is opened.
-struct Oeffnung
+struct Opening
 {
-    bool schreibbar = false;
-    bool ganzLesen = false; // All columns at once, however many rows there are.
-    std::size_t klein = 0;  // So many rows are read whole.
+    bool writable = false;
+    bool readWhole = false; // All columns at once, however many rows there are.
+    std::size_t small = 0;  // So many rows are read whole.
 };
 
 // The rows of a recordset: their keys, the columns in memory, and the way to the others.
-class Zeilenspeicher
+class RowStore
 {
 public:
     // Of a recordset in memory; every column is there from the start.
-    void haengeFeldAn(Spalte feld);
-    void leere();
-    void oeffne(std::shared_ptr<Engine> engine, sql::Select abfrage, const Oeffnung& oeffnung);
+    void appendField(ColumnInfo field);
+    void clear();
+    void open(std::shared_ptr<Engine> engine, sql::Select query, const Opening& opening);
 
     // Rows of one table by their keys.
-    void oeffneZeilen(std::shared_ptr<Engine> engine, std::string_view tabelle,
-                      std::vector<Zeilenschluessel> schluessel, std::size_t klein);
+    void openRows(std::shared_ptr<Engine> engine, std::string_view table, std::vector<RowKey> key, std::size_t small);
 
-    const std::vector<Spalte>& felder() const { return felder_; }
-    std::optional<std::size_t> findeFeld(std::string_view name) const; // In any case.
-    // Throws Laufzeitfehler 3265 when there is none.
-    std::size_t feldVon(std::string_view name) const;
+    const std::vector<ColumnInfo>& fields() const { return fields_; }
+    std::optional<std::size_t> findField(std::string_view name) const; // In any case.
+    // Throws RuntimeError 3265 when there is none.
+    std::size_t fieldOf(std::string_view name) const;
 
-    std::size_t anzahl() const { return anzahl_; }
-    bool geladen(std::size_t feld) const { return spalten_[feld] != nullptr; }
-    const Column& spalte(std::size_t feld) const { return *spalten_[feld]; }
+    std::size_t count() const { return count_; }
+    bool loaded(std::size_t field) const { return columns_[field] != nullptr; }
+    const Column& column(std::size_t field) const { return *columns_[field]; }
     // Reads whole columns, all in one pass. False when the progress was given up; then none is there.
-    bool lade(std::span<const std::size_t> felder, const Fortschritt& fortschritt);
+    bool load(std::span<const std::size_t> fields, const Progress& progress);
     // Cells of columns that are not in memory: for each row the fields in their order, Null for a row that is gone.
-    std::vector<Value> leseZellen(std::span<const Zeilennummer> zeilen, std::span<const std::size_t> felder) const;
+    std::vector<Value> readCells(std::span<const RowNumber> rows, std::span<const std::size_t> fields) const;
 
     // nullptr for a recordset in memory.
     Engine* engine() const { return engine_.get(); }
-    const std::string& tabelle() const { return abfrage_.tabelle; }
-    bool hatSchluessel() const { return hatSchluessel_; }
-    Zeilenschluessel schluessel(Zeilennummer zeile) const { return schluessel_[zeile]; }
+    const std::string& table() const { return query_.table; }
+    bool hasKey() const { return hasKey_; }
+    RowKey key(RowNumber row) const { return key_[row]; }
     // Rows with smaller numbers were stored earlier.
-    Zeilenschluessel reihenfolge(Zeilennummer zeile) const { return hatSchluessel_ ? schluessel_[zeile] : zeile; }
-    void setzeSchluessel(Zeilennummer zeile, Zeilenschluessel schluessel) { schluessel_[zeile] = schluessel; }
+    RowKey sequence(RowNumber row) const { return hasKey_ ? key_[row] : row; }
+    void setKey(RowNumber row, RowKey key) { key_[row] = key; }
 
     // What the recordset itself changed. These touch only memory.
-    Zeilennummer haengeZeileAn();
-    void setze(Zeilennummer zeile, std::size_t feld, const Value& wert);
+    RowNumber appendRow();
+    void set(RowNumber row, std::size_t field, const Value& value);
 
-    std::size_t speicher() const;
+    std::size_t memory() const;
 
 private:
-    bool leseGanz(std::size_t hoechstens, Doppelsuche* doppelte);
-    void leseSchluessel();
-    void ordneNeu();
-    std::unique_ptr<Zeilenleser> leseUnsortiert(std::span<const std::size_t> felder);
-    void setzeEigene(Spaltenliste& spalten, std::span<const std::size_t> felder);
-    std::vector<std::string> namen(std::span<const std::size_t> felder) const;
+    bool readWhole(std::size_t atMost, DuplicateSearch* duplicates);
+    void readKey();
+    void rearrange();
+    std::unique_ptr<RowReader> readUnsorted(std::span<const std::size_t> fields);
+    void setOwn(ColumnList& columns, std::span<const std::size_t> fields);
+    std::vector<std::string> names(std::span<const std::size_t> fields) const;
 
     std::shared_ptr<Engine> engine_;
-    sql::Select abfrage_;
-    std::vector<Spalte> felder_;
-    Spaltenliste spalten_; // nullptr: not in memory
-    std::vector<Zeilenschluessel> schluessel_;
-    bool hatSchluessel_ = false;
-    std::size_t anzahl_ = 0;
-    std::vector<Zeilennummer> eigene_; // Rows changed or added here.
+    sql::Select query_;
+    std::vector<ColumnInfo> fields_;
+    ColumnList columns_; // nullptr: not in memory
+    std::vector<RowKey> key_;
+    bool hasKey_ = false;
+    std::size_t count_ = 0;
+    std::vector<RowNumber> own_; // Rows changed or added here.
 };
 
 } // namespace quelvarn

@@ -5,63 +5,63 @@
 
 namespace quelvarn {
 
-void Ansicht::zeigeAlle(std::size_t zeilen)
+void RowView::showAll(std::size_t rows)
 {
     *this = {};
-    anzahl_ = zeilen;
+    count_ = rows;
 }
 
-void Ansicht::zeige(std::vector<Zeilennummer> zeilen, bool aufsteigend)
+void RowView::show(std::vector<RowNumber> rows, bool ascending)
 {
-    alle_ = false;
-    aufsteigend_ = aufsteigend;
-    zeilen_ = std::move(zeilen);
+    all_ = false;
+    ascending_ = ascending;
+    rows_ = std::move(rows);
 }
 
-std::optional<std::size_t> Ansicht::findePosition(Zeilennummer zeile) const
+std::optional<std::size_t> RowView::findPosition(RowNumber row) const
 {
-    if (alle_)
-        return zeile < anzahl_ ? std::optional<std::size_t>(zeile) : std::nullopt;
-    const auto stelle = aufsteigend_ ? std::lower_bound(zeilen_.begin(), zeilen_.end(), zeile)
-                                     : std::find(zeilen_.begin(), zeilen_.end(), zeile);
-    if (stelle == zeilen_.end() || *stelle != zeile)
+    if (all_)
+        return row < count_ ? std::optional<std::size_t>(row) : std::nullopt;
+    const auto position =
+        ascending_ ? std::lower_bound(rows_.begin(), rows_.end(), row) : std::find(rows_.begin(), rows_.end(), row);
+    if (position == rows_.end() || *position != row)
         return std::nullopt;
-    return static_cast<std::size_t>(stelle - zeilen_.begin());
+    return static_cast<std::size_t>(position - rows_.begin());
 }
 
-std::vector<Zeilennummer> Ansicht::ausschnitt(std::size_t von, std::size_t bis) const
+std::vector<RowNumber> RowView::crop(std::size_t from, std::size_t until) const
 {
-    std::vector<Zeilennummer> zeilen(bis - von);
-    if (alle_)
-        std::iota(zeilen.begin(), zeilen.end(), static_cast<Zeilennummer>(von));
+    std::vector<RowNumber> rows(until - from);
+    if (all_)
+        std::iota(rows.begin(), rows.end(), static_cast<RowNumber>(from));
     else
-        std::copy_n(zeilen_.begin() + static_cast<std::ptrdiff_t>(von), bis - von, zeilen.begin());
-    return zeilen;
+        std::copy_n(rows_.begin() + static_cast<std::ptrdiff_t>(from), until - from, rows.begin());
+    return rows;
 }
 
-void Ansicht::haengeAn(Zeilennummer zeile)
+void RowView::append(RowNumber row)
 {
-    if (alle_ && zeile == anzahl_) {
-        ++anzahl_;
+    if (all_ && row == count_) {
+        ++count_;
         return;
     }
-    schreibeAus();
-    zeilen_.push_back(zeile);
+    writeOut();
+    rows_.push_back(row);
 }
 
-void Ansicht::entferne(std::size_t position)
+void RowView::remove(std::size_t position)
 {
-    schreibeAus();
-    zeilen_.erase(zeilen_.begin() + static_cast<std::ptrdiff_t>(position));
+    writeOut();
+    rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(position));
 }
 
-void Ansicht::schreibeAus()
+void RowView::writeOut()
 {
-    if (!alle_)
+    if (!all_)
         return;
-    zeilen_ = ausschnitt(0, anzahl_);
-    alle_ = false;
-    aufsteigend_ = true;
+    rows_ = crop(0, count_);
+    all_ = false;
+    ascending_ = true;
 }
 
 } // namespace quelvarn

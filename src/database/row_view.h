@@ -8,32 +8,29 @@
 namespace quelvarn {
 
 // Which rows a recordset shows, and in which order. All rows in the order of opening take no memory.
-class Ansicht
+class RowView
 {
 public:
-    void zeigeAlle(std::size_t zeilen);
-    // `aufsteigend`: the rows stand in the order of opening.
-    void zeige(std::vector<Zeilennummer> zeilen, bool aufsteigend);
+    void showAll(std::size_t rows);
+    // `ascending`: the rows stand in the order of opening.
+    void show(std::vector<RowNumber> rows, bool ascending);
 
-    std::size_t anzahl() const { return alle_ ? anzahl_ : zeilen_.size(); }
-    Zeilennummer zeile(std::size_t position) const
-    {
-        return alle_ ? static_cast<Zeilennummer>(position) : zeilen_[position];
-    }
-    std::optional<std::size_t> findePosition(Zeilennummer zeile) const;
-    std::vector<Zeilennummer> ausschnitt(std::size_t von, std::size_t bis) const;
+    std::size_t count() const { return all_ ? count_ : rows_.size(); }
+    RowNumber row(std::size_t position) const { return all_ ? static_cast<RowNumber>(position) : rows_[position]; }
+    std::optional<std::size_t> findPosition(RowNumber row) const;
+    std::vector<RowNumber> crop(std::size_t from, std::size_t until) const;
 
-    void haengeAn(Zeilennummer zeile);
-    void entferne(std::size_t position);
-    std::size_t speicher() const { return zeilen_.capacity() * sizeof(Zeilennummer); }
+    void append(RowNumber row);
+    void remove(std::size_t position);
+    std::size_t memory() const { return rows_.capacity() * sizeof(RowNumber); }
 
 private:
-    void schreibeAus();
+    void writeOut();
 
-    bool alle_ = true;
-    bool aufsteigend_ = true;
-    std::size_t anzahl_ = 0;
-    std::vector<Zeilennummer> zeilen_;
+    bool all_ = true;
+    bool ascending_ = true;
+    std::size_t count_ = 0;
+    std::vector<RowNumber> rows_;
 };
 
 } // namespace quelvarn

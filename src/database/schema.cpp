@@ -9,152 +9,149 @@
 namespace quelvarn {
 namespace {
 
-using Namen = std::initializer_list<std::string_view>;
-using Index = std::vector<IndexSpalte>;
+using Names = std::initializer_list<std::string_view>;
+using Index = std::vector<IndexColumn>;
 
-void fuegeSpaltenAn(std::vector<Spalte>& spalten, FeldTyp typ, Namen namen)
+void appendColumns(std::vector<ColumnInfo>& columns, FieldType type, Names names)
 {
-    for (const std::string_view name : namen)
-        spalten.push_back({std::string(name), typ});
+    for (const std::string_view name : names)
+        columns.push_back({std::string(name), type});
 }
 
 // One column for each letter: "Hauptmerkmal_" + "A".
-void fuegeReiheAn(std::vector<Spalte>& spalten, FeldTyp typ, std::string_view stamm, std::string_view buchstaben)
+void appendRow(std::vector<ColumnInfo>& columns, FieldType type, std::string_view stem, std::string_view letters)
 {
-    for (const char buchstabe : buchstaben)
-        spalten.push_back({std::string(stamm) + buchstabe, typ});
+    for (const char letter : letters)
+        columns.push_back({std::string(stem) + letter, type});
 }
 
-Index aufsteigend(Namen namen)
+Index ascending(Names names)
 {
     Index index;
-    for (const std::string_view name : namen)
+    for (const std::string_view name : names)
         index.push_back({std::string(name), false});
     return index;
 }
 
-Tabellenschema texttabelle(std::string_view name, Namen spalten, std::initializer_list<Namen> indexe)
+TableSchema textTable(std::string_view name, Names columns, std::initializer_list<Names> indexes)
 {
-    Tabellenschema tabelle{std::string(name), {}, {}};
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, spalten);
-    for (const Namen& index : indexe)
-        tabelle.indexe.push_back(aufsteigend(index));
-    return tabelle;
+    TableSchema table{std::string(name), {}, {}};
+    appendColumns(table.columns, FieldType::Text, columns);
+    for (const Names& index : indexes)
+        table.indexes.push_back(ascending(index));
+    return table;
 }
 
-std::vector<Spalte> dokumentspalten(const DokuTyp& typ)
+std::vector<ColumnInfo> documentColumns(const DocumentType& type)
 {
-    std::vector<Spalte> spalten;
-    fuegeSpaltenAn(spalten, FeldTyp::Text, {"DokuBez", "RevBez", "Dateiname", "filename"});
-    fuegeSpaltenAn(spalten, FeldTyp::Ganzzahl, {"Status"});
-    fuegeSpaltenAn(spalten, FeldTyp::Text, {"Projekt", "Material"});
-    fuegeSpaltenAn(spalten, FeldTyp::Datum, {"Erstellt"});
-    fuegeSpaltenAn(spalten, FeldTyp::Text, {"Autor"});
-    fuegeSpaltenAn(spalten, FeldTyp::Datum, {"Geaendert"});
-    fuegeSpaltenAn(spalten, FeldTyp::Text, {"Bearbeiter", "Aenderung"});
-    fuegeSpaltenAn(spalten, FeldTyp::Datum, {"Gespeichert"});
-    fuegeSpaltenAn(spalten, FeldTyp::Text,
-                   {"Titel", "Thema", "Manager", "Firma", "Kategorie", "Stichwoerter", "Kommentar", "Vorlage"});
-    fuegeReiheAn(spalten, FeldTyp::Text, "Hauptmerkmal_", "ABCDEFG");
-    fuegeReiheAn(spalten, FeldTyp::Gleitkomma, "Hauptwert_", "abcdefg");
-    fuegeReiheAn(spalten, FeldTyp::Text, "Alias_", "abcdefg");
-    if (typ.schluessel == "Draft")
-        fuegeSpaltenAn(spalten, FeldTyp::Text, {"F_05_leer"}); // Only drawings have a sheet format.
-    return spalten;
+    std::vector<ColumnInfo> columns;
+    appendColumns(columns, FieldType::Text, {"DokuBez", "RevBez", "Dateiname", "filename"});
+    appendColumns(columns, FieldType::Integer, {"Status"});
+    appendColumns(columns, FieldType::Text, {"Projekt", "Material"});
+    appendColumns(columns, FieldType::Date, {"Erstellt"});
+    appendColumns(columns, FieldType::Text, {"Autor"});
+    appendColumns(columns, FieldType::Date, {"Geaendert"});
+    appendColumns(columns, FieldType::Text, {"Bearbeiter", "Aenderung"});
+    appendColumns(columns, FieldType::Date, {"Gespeichert"});
+    appendColumns(columns, FieldType::Text,
+                  {"Titel", "Thema", "Manager", "Firma", "Kategorie", "Stichwoerter", "Kommentar", "Vorlage"});
+    appendRow(columns, FieldType::Text, "Hauptmerkmal_", "ABCDEFG");
+    appendRow(columns, FieldType::FloatingPoint, "Hauptwert_", "abcdefg");
+    appendRow(columns, FieldType::Text, "Alias_", "abcdefg");
+    if (type.key == "Draft")
+        appendColumns(columns, FieldType::Text, {"F_05_leer"}); // Only drawings have a sheet format.
+    return columns;
 }
 
-Tabellenschema dokumenttabelle(const DokuTyp& typ)
+TableSchema documentTable(const DocumentType& type)
 {
-    Tabellenschema tabelle{std::string(typ.tabelle), dokumentspalten(typ), {}};
+    TableSchema table{std::string(type.table), documentColumns(type), {}};
     // The order of the listing; with the status in it, counting and scoping need no look at the rows.
-    tabelle.indexe.push_back({{"DokuBez", false}, {"RevBez", true}, {"Status", false}});
-    tabelle.indexe.push_back(aufsteigend({"filename"}));
+    table.indexes.push_back({{"DokuBez", false}, {"RevBez", true}, {"Status", false}});
+    table.indexes.push_back(ascending({"filename"}));
     // The large levels of the structure tree are read from the index alone.
-    tabelle.indexe.push_back(aufsteigend({"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E"}));
-    if (typ.schluessel == "Draft")
-        tabelle.indexe.push_back(aufsteigend({"Kategorie", "Hauptmerkmal_C"})); // Templates.
-    return tabelle;
+    table.indexes.push_back(ascending({"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E"}));
+    if (type.key == "Draft")
+        table.indexes.push_back(ascending({"Kategorie", "Hauptmerkmal_C"})); // Templates.
+    return table;
 }
 
-Tabellenschema benutzerdefinierteTabelle(const DokuTyp& typ)
+TableSchema userDefinedTable(const DocumentType& type)
 {
-    Tabellenschema tabelle{std::string(typ.tabelleBenutzDef), {}, {}};
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, {"DokuBez", "RevBez", "Name", "Wert"});
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Ganzzahl, {"Status"});
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, {"Projekt", "Autor", "Bearbeiter", "Material"});
-    tabelle.indexe.push_back(aufsteigend({"DokuBez", "RevBez"}));
+    TableSchema table{std::string(type.tableUserDef), {}, {}};
+    appendColumns(table.columns, FieldType::Text, {"DokuBez", "RevBez", "Name", "Wert"});
+    appendColumns(table.columns, FieldType::Integer, {"Status"});
+    appendColumns(table.columns, FieldType::Text, {"Projekt", "Autor", "Bearbeiter", "Material"});
+    table.indexes.push_back(ascending({"DokuBez", "RevBez"}));
     // The filter over these properties takes the documents of a value from the index alone.
-    Index jeName{{"Name"}, {"Wert", false, true}};
-    for (const char* spalte : {"DokuBez", "RevBez", "Status"})
-        jeName.push_back({spalte, false, false, true});
-    tabelle.indexe.push_back(std::move(jeName));
-    return tabelle;
+    Index perName{{"Name"}, {"Wert", false, true}};
+    for (const char* column : {"DokuBez", "RevBez", "Status"})
+        perName.push_back({column, false, false, true});
+    table.indexes.push_back(std::move(perName));
+    return table;
 }
 
-Tabellenschema benutzungstabelle()
+TableSchema useTable()
 {
-    Tabellenschema tabelle{"CheckInOut", {}, {}};
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Ganzzahl, {"ADNutzer"});
-    fuegeSpaltenAn(
-        tabelle.spalten, FeldTyp::Text,
+    TableSchema table{"CheckInOut", {}, {}};
+    appendColumns(table.columns, FieldType::Integer, {"ADNutzer"});
+    appendColumns(
+        table.columns, FieldType::Text,
         {"AnwenderNutzer", "RechnerNutzer", "DateinameNutzer", "filenameNutzer", "DokuBezNutzer", "RevBezNutzer"});
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Datum, {"DateTimeNutzer"});
-    fuegeSpaltenAn(tabelle.spalten, FeldTyp::Text, {"KommentarNutzer"});
-    tabelle.indexe.push_back(aufsteigend({"filenameNutzer", "ADNutzer"}));
-    tabelle.indexe.push_back(aufsteigend({"ADNutzer", "RechnerNutzer"}));
-    return tabelle;
+    appendColumns(table.columns, FieldType::Date, {"DateTimeNutzer"});
+    appendColumns(table.columns, FieldType::Text, {"KommentarNutzer"});
+    table.indexes.push_back(ascending({"filenameNutzer", "ADNutzer"}));
+    table.indexes.push_back(ascending({"ADNutzer", "RechnerNutzer"}));
+    return table;
 }
 
-std::vector<Tabellenschema> verbindungstabellen()
+std::vector<TableSchema> linkTables()
 {
     return {
-        texttabelle("ZusBauPart", {"AssembDokuBez", "AssembRevBez", "AssembDateiname", "Assembfilename", "Part"},
-                    {{"Part"}, {"AssembDokuBez", "AssembRevBez"}}),
-        texttabelle("ZusBauSubAss",
-                    {"AssembDokuBez", "AssembRevBez", "AssembDateiname", "Assembfilename", "Subassembly"},
-                    {{"Subassembly"}, {"AssembDokuBez", "AssembRevBez"}}),
-        texttabelle(
+        textTable("ZusBauPart", {"AssembDokuBez", "AssembRevBez", "AssembDateiname", "Assembfilename", "Part"},
+                  {{"Part"}, {"AssembDokuBez", "AssembRevBez"}}),
+        textTable("ZusBauSubAss", {"AssembDokuBez", "AssembRevBez", "AssembDateiname", "Assembfilename", "Subassembly"},
+                  {{"Subassembly"}, {"AssembDokuBez", "AssembRevBez"}}),
+        textTable(
             "VerbindungDraftPart",
             {"DokuBezDraft", "RevBezDraft", "DateinameDraft", "filenameDraft", "DateinameAssembPart", "PfadAssembPart"},
             {{"PfadAssembPart"}, {"DokuBezDraft", "RevBezDraft"}}),
-        texttabelle("VerbindungWeldAssemb",
-                    {"DokuBezWeld", "RevBezWeld", "DateinameWeld", "filenameWeld", "DateinameAssemb", "PfadAssemb"},
-                    {{"PfadAssemb"}, {"DokuBezWeld", "RevBezWeld"}}),
-        texttabelle("VerbindungPartZusDoku", {"Dokufilename", "ZusDokuDateiname", "ZusDokufilename"},
-                    {{"Dokufilename"}}),
-        texttabelle("TIFFTabelle", {"Dateiname", "filename"}, {{"Dateiname"}}),
+        textTable("VerbindungWeldAssemb",
+                  {"DokuBezWeld", "RevBezWeld", "DateinameWeld", "filenameWeld", "DateinameAssemb", "PfadAssemb"},
+                  {{"PfadAssemb"}, {"DokuBezWeld", "RevBezWeld"}}),
+        textTable("VerbindungPartZusDoku", {"Dokufilename", "ZusDokuDateiname", "ZusDokufilename"}, {{"Dokufilename"}}),
+        textTable("TIFFTabelle", {"Dateiname", "filename"}, {{"Dateiname"}}),
     };
 }
 
-std::vector<Tabellenschema> erstelleSchema()
+std::vector<TableSchema> createSchema()
 {
-    std::vector<Tabellenschema> schema;
-    for (const DokuTyp& typ : DOKUTYPEN)
-        schema.push_back(dokumenttabelle(typ));
-    for (const DokuTyp& typ : DOKUTYPEN)
-        schema.push_back(benutzerdefinierteTabelle(typ));
-    for (Tabellenschema& tabelle : verbindungstabellen())
-        schema.push_back(std::move(tabelle));
-    schema.push_back(texttabelle("Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}, {{"Feld1", "Feld2", "Feld3"}}));
-    schema.push_back(benutzungstabelle());
-    schema.push_back(texttabelle("Adresstabelle", {"Kennung", "Name", "Wert"}, {{"Kennung"}}));
+    std::vector<TableSchema> schema;
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        schema.push_back(documentTable(type));
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        schema.push_back(userDefinedTable(type));
+    for (TableSchema& table : linkTables())
+        schema.push_back(std::move(table));
+    schema.push_back(textTable("Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}, {{"Feld1", "Feld2", "Feld3"}}));
+    schema.push_back(useTable());
+    schema.push_back(textTable("Adresstabelle", {"Kennung", "Name", "Wert"}, {{"Kennung"}}));
     return schema;
 }
 
 } // namespace
 
-std::span<const Tabellenschema> registerschema()
+std::span<const TableSchema> registerSchema()
 {
-    static const std::vector<Tabellenschema> schema = erstelleSchema();
+    static const std::vector<TableSchema> schema = createSchema();
     return schema;
 }
 
-const Tabellenschema* findTabelle(std::string_view name)
+const TableSchema* findTable(std::string_view name)
 {
-    const auto schema = registerschema();
-    const auto treffer =
-        std::ranges::find_if(schema, [&](const auto& tabelle) { return equalText(tabelle.name, name); });
-    return treffer == schema.end() ? nullptr : &*treffer;
+    const auto schema = registerSchema();
+    const auto hits = std::ranges::find_if(schema, [&](const auto& table) { return equalText(table.name, name); });
+    return hits == schema.end() ? nullptr : &*hits;
 }
 
 } // namespace quelvarn

@@ -10,33 +10,32 @@
 
 namespace quelvarn {
 
-struct Spalte
+struct ColumnInfo
 {
     std::string name;
-    FeldTyp typ = FeldTyp::Text;
-    bool operator==(const Spalte&) const = default;
+    FieldType type = FieldType::Text;
+    bool operator==(const ColumnInfo&) const = default;
 };
 
 // A column of an index; the order is that of sortKey for texts, Null before everything.
-struct IndexSpalte
+struct IndexColumn
 {
     std::string name;
-    bool absteigend = false;
-    bool lang = false; // May hold long texts: an engine whose index rows are limited in length leaves it out.
-    bool mitgefuehrt =
-        false; // Only there to be read from the index alone; an engine that reads rows anyway leaves it out.
+    bool descending = false;
+    bool longText = false; // May hold long texts: an engine whose index rows are limited in length leaves it out.
+    bool carried = false; // Only there to be read from the index alone; an engine that reads rows anyway leaves it out.
 };
 
-struct Tabellenschema
+struct TableSchema
 {
     std::string name;
-    std::vector<Spalte> spalten;
-    std::vector<std::vector<IndexSpalte>> indexe;
+    std::vector<ColumnInfo> columns;
+    std::vector<std::vector<IndexColumn>> indexes;
 };
 
 // Every table that the program knows, with its columns and the indexes that its queries want.
-std::span<const Tabellenschema> registerschema();
+std::span<const TableSchema> registerSchema();
 // The table of this name in any case; nullptr when the program knows none.
-const Tabellenschema* findTabelle(std::string_view name);
+const TableSchema* findTable(std::string_view name);
 
 } // namespace quelvarn

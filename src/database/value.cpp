@@ -9,92 +9,92 @@ namespace quelvarn {
 namespace {
 
 // Dates that the database can hold: the years 100 to 9999, in days.
-constexpr double ersterTag = -657434;
-constexpr double letzterTag = 2958466;
+constexpr double firstDay = -657434;
+constexpr double lastDay = 2958466;
 
-std::int64_t gerundet(double zahl)
+std::int64_t rounded(double number)
 {
-    constexpr double grenze = 9.2e18;
-    if (std::isnan(zahl))
+    constexpr double limit = 9.2e18;
+    if (std::isnan(number))
         return 0;
-    if (std::abs(zahl) > grenze)
-        return zahl < 0 ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
-    return std::llrint(zahl); // Halves go to the even neighbour.
+    if (std::abs(number) > limit)
+        return number < 0 ? std::numeric_limits<std::int64_t>::min() : std::numeric_limits<std::int64_t>::max();
+    return std::llrint(number); // Halves go to the even neighbour.
 }
 
-std::optional<Zeitpunkt> datumAusTagen(double tage)
+std::optional<DateTime> dateFromDays(double days)
 {
-    if (tage >= ersterTag && tage < letzterTag)
-        return Zeitpunkt::ausTagen(tage);
+    if (days >= firstDay && days < lastDay)
+        return DateTime::fromDays(days);
     return std::nullopt;
 }
 
-std::optional<Zeitpunkt> findDatum(const Value& wert)
+std::optional<DateTime> findDate(const Value& value)
 {
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return *zeit;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return datumAusTagen(static_cast<double>(*ganz));
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return datumAusTagen(*zahl);
-    if (const auto* text = std::get_if<std::string>(&wert)) {
-        const auto deutsch = parseDatum(*text);
-        return deutsch ? deutsch : parseIso(*text);
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return *time;
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return dateFromDays(static_cast<double>(*whole));
+    if (const auto* number = std::get_if<double>(&value))
+        return dateFromDays(*number);
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        const auto german = parseDate(*text);
+        return german ? german : parseIso(*text);
     }
     return std::nullopt;
 }
 
 } // namespace
 
-std::string alsText(const Value& wert)
+std::string asText(const Value& value)
 {
-    if (const auto* text = std::get_if<std::string>(&wert))
+    if (const auto* text = std::get_if<std::string>(&value))
         return *text;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return std::to_string(*ganz);
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return zahlAlsText(*zahl);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return alsText(*zeit);
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return std::to_string(*whole);
+    if (const auto* number = std::get_if<double>(&value))
+        return numberAsText(*number);
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return asText(*time);
     return {};
 }
 
-double alsZahl(const Value& wert)
+double asNumber(const Value& value)
 {
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return static_cast<double>(*ganz);
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return *zahl;
-    if (const auto* text = std::get_if<std::string>(&wert))
-        return parseZahl(*text).value_or(0);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return zeit->alsTage();
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return static_cast<double>(*whole);
+    if (const auto* number = std::get_if<double>(&value))
+        return *number;
+    if (const auto* text = std::get_if<std::string>(&value))
+        return parseNumber(*text).value_or(0);
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return time->asDays();
     return 0;
 }
 
-std::int64_t alsGanzzahl(const Value& wert)
+std::int64_t asInteger(const Value& value)
 {
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return *ganz;
-    return gerundet(alsZahl(wert));
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return *whole;
+    return rounded(asNumber(value));
 }
 
-std::optional<std::int64_t> wholeNumber(const Value& wert, std::int64_t lowest, std::int64_t highest)
+std::optional<std::int64_t> wholeNumber(const Value& value, std::int64_t lowest, std::int64_t highest)
 {
-    const std::int64_t zahl = alsGanzzahl(wert);
-    return istNumerisch(wert) && zahl >= lowest && zahl <= highest ? std::optional(zahl) : std::nullopt;
+    const std::int64_t number = asInteger(value);
+    return isNumeric(value) && number >= lowest && number <= highest ? std::optional(number) : std::nullopt;
 }
 
-bool istNumerisch(const Value& wert)
+bool isNumeric(const Value& value)
 {
-    if (const auto* text = std::get_if<std::string>(&wert))
-        return istZahl(*text);
-    return std::holds_alternative<std::int64_t>(wert) || std::holds_alternative<double>(wert);
+    if (const auto* text = std::get_if<std::string>(&value))
+        return isNumber(*text);
+    return std::holds_alternative<std::int64_t>(value) || std::holds_alternative<double>(value);
 }
 
-Zeitpunkt alsDatum(const Value& wert)
+DateTime asDate(const Value& value)
 {
-    return findDatum(wert).value_or(Zeitpunkt{});
+    return findDate(value).value_or(DateTime{});
 }
 
 } // namespace quelvarn

@@ -50,7 +50,7 @@ FileState WatchedFile::state() const
 void WatchedFile::check(const std::string& source) const
 {
     if (const FileState now = state(); now != FileState::Same)
-        throw DatabaseFault(kindOf(now), FEHLER_ALLGEMEIN, source, text(), "");
+        throw DatabaseFault(kindOf(now), FAULT_GENERAL, source, text(), "");
 }
 
 } // namespace quelvarn

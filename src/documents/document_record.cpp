@@ -10,63 +10,63 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view GROSSE_BUCHSTABEN = "ABCDEFG";
-constexpr std::string_view KLEINE_BUCHSTABEN = "abcdefg";
+constexpr std::string_view LARGE_LETTERS = "ABCDEFG";
+constexpr std::string_view SMALL_LETTERS = "abcdefg";
 
-std::string feldname(std::string_view stamm, char buchstabe)
+std::string fieldName(std::string_view stem, char letter)
 {
-    return std::string(stamm) + buchstabe;
+    return std::string(stem) + letter;
 }
 
-void leseTexte(const Recordset& zeile, DokuRecord& record)
+void readTexts(const Recordset& row, DokuRecord& record)
 {
-    record.DokuBez = zeile.Text("DokuBez");
-    record.RevBez = zeile.Text("RevBez");
-    record.Dateiname = zeile.Text("Dateiname");
-    record.filename = zeile.Text("filename");
-    record.Projekt = zeile.Text("Projekt");
-    record.Material = zeile.Text("Material");
-    record.Titel = zeile.Text("Titel");
-    record.Thema = zeile.Text("Thema");
-    record.Autor = zeile.Text("Autor");
-    record.Manager = zeile.Text("Manager");
-    record.Firma = zeile.Text("Firma");
-    record.Kategorie = zeile.Text("Kategorie");
-    record.Stichwoerter = zeile.Text("Stichwoerter");
-    record.Kommentar = zeile.Text("Kommentar");
-    record.Bearbeiter = zeile.Text("Bearbeiter");
-    record.Gespeichert = zeile.Text("Gespeichert");
+    record.DokuBez = row.Text("DokuBez");
+    record.RevBez = row.Text("RevBez");
+    record.Dateiname = row.Text("Dateiname");
+    record.filename = row.Text("filename");
+    record.Projekt = row.Text("Projekt");
+    record.Material = row.Text("Material");
+    record.Titel = row.Text("Titel");
+    record.Thema = row.Text("Thema");
+    record.Autor = row.Text("Autor");
+    record.Manager = row.Text("Manager");
+    record.Firma = row.Text("Firma");
+    record.Kategorie = row.Text("Kategorie");
+    record.Stichwoerter = row.Text("Stichwoerter");
+    record.Kommentar = row.Text("Kommentar");
+    record.Bearbeiter = row.Text("Bearbeiter");
+    record.Gespeichert = row.Text("Gespeichert");
 }
 
-void leseMerkmale(const Recordset& zeile, DokuRecord& record)
+void readFeatures(const Recordset& row, DokuRecord& record)
 {
-    for (std::size_t i = 0; i < record.Hauptmerkmal.size(); ++i) {
-        record.Hauptmerkmal[i] = zeile.Text(feldname("Hauptmerkmal_", GROSSE_BUCHSTABEN[i]));
-        record.Hauptwert[i] = alsZahl(zeile.Feld(feldname("Hauptwert_", KLEINE_BUCHSTABEN[i])));
-        record.Alias[i] = zeile.Text(feldname("Alias_", KLEINE_BUCHSTABEN[i]));
+    for (std::size_t i = 0; i < record.StructureFeature.size(); ++i) {
+        record.StructureFeature[i] = row.Text(fieldName("Hauptmerkmal_", LARGE_LETTERS[i]));
+        record.Hauptwert[i] = asNumber(row.field(fieldName("Hauptwert_", SMALL_LETTERS[i])));
+        record.Alias[i] = row.Text(fieldName("Alias_", SMALL_LETTERS[i]));
     }
 }
 
 } // namespace
 
-AktuellesDokument DokuRecord::alsAktDoku(int typ) const
+CurrentDocument DokuRecord::asAktDoku(int type) const
 {
-    return {typ, DokuBez, RevBez, Dateiname, Status, filename, Erstellt, Geaendert, Autor, Bearbeiter};
+    return {type, DokuBez, RevBez, Dateiname, Status, filename, Erstellt, Geaendert, Autor, Bearbeiter};
 }
 
-DokuRecord leseDokuRecord(const Recordset& zeile, const DokuTyp& typ)
+DokuRecord readDocumentRecord(const Recordset& row, const DocumentType& type)
 {
     DokuRecord record;
-    record.DokuArt = typ.dokuArt;
-    leseTexte(zeile, record);
+    record.DokuArt = type.documentKind;
+    readTexts(row, record);
     using Limits = std::numeric_limits<int>; // A number beyond them is no status either.
     record.Status =
-        static_cast<int>(std::clamp<std::int64_t>(alsGanzzahl(zeile.Feld("Status")), Limits::min(), Limits::max()));
-    record.Erstellt = alsDatum(zeile.Feld("Erstellt"));
-    record.Geaendert = alsDatum(zeile.Feld("Geaendert"));
-    leseMerkmale(zeile, record);
-    if (typ.schluessel == "Draft" && zeile.hatFeld("F_05_leer")) // Older databases lack the column.
-        record.F_05_leer = zeile.Text("F_05_leer");
+        static_cast<int>(std::clamp<std::int64_t>(asInteger(row.field("Status")), Limits::min(), Limits::max()));
+    record.Erstellt = asDate(row.field("Erstellt"));
+    record.Geaendert = asDate(row.field("Geaendert"));
+    readFeatures(row, record);
+    if (type.key == "Draft" && row.hasField("F_05_leer")) // Older databases lack the column.
+        record.F_05_leer = row.Text("F_05_leer");
     return record;
 }
 

@@ -8,8 +8,8 @@
 namespace quelvarn {
 
 class Recordset;
-struct AktuellesDokument;
-struct DokuTyp;
+struct CurrentDocument;
+struct DocumentType;
 
 // The page's copy of a table's current row. What is Null or missing is "", 0 or the zero date.
 struct DokuRecord
@@ -18,18 +18,18 @@ struct DokuRecord
     std::string DokuBez, RevBez, Dateiname, filename, Projekt, Material;
     int Status = 0;
     std::string Titel, Thema, Autor, Manager, Firma, Kategorie, Stichwoerter, Kommentar, Bearbeiter;
-    Zeitpunkt Erstellt, Geaendert;
-    std::string Gespeichert;                 // A date, or a text as it stands.
-    std::array<std::string, 7> Hauptmerkmal; // A to G
-    std::array<double, 7> Hauptwert{};       // a to g
-    std::array<std::string, 7> Alias;        // a to g
-    std::string F_05_leer;                   // Drawings only: the format.
+    DateTime Erstellt, Geaendert;
+    std::string Gespeichert;                     // A date, or a text as it stands.
+    std::array<std::string, 7> StructureFeature; // A to G
+    std::array<double, 7> Hauptwert{};           // a to g
+    std::array<std::string, 7> Alias;            // a to g
+    std::string F_05_leer;                       // Drawings only: the format.
 
     // `typ` is the type code, which depends on who asks.
-    AktuellesDokument alsAktDoku(int typ) const;
+    CurrentDocument asAktDoku(int type) const;
 };
 
 // Reads the current row.
-DokuRecord leseDokuRecord(const Recordset& zeile, const DokuTyp& typ);
+DokuRecord readDocumentRecord(const Recordset& row, const DocumentType& type);
 
 } // namespace quelvarn

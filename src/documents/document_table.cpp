@@ -6,12 +6,12 @@
 
 namespace quelvarn {
 
-void DocumentTable::open(Recordset rows, Zeitpunkt nextCheck)
+void DocumentTable::open(Recordset rows, DateTime nextCheck)
 {
     rows_ = std::move(rows);
     result_ = Recordset();
     count_ = rows_.RecordCount();
-    state_ = rows_.leer() ? TableState::Empty : TableState::Open;
+    state_ = rows_.empty() ? TableState::Empty : TableState::Open;
     narrowing_ = {};
     nextCheck_ = nextCheck;
     rowsChanged();
@@ -69,7 +69,7 @@ void DocumentTable::close()
 
 const DokuRecord& DocumentTable::readRecord()
 {
-    record_ = leseDokuRecord(visible(), *type_);
+    record_ = readDocumentRecord(visible(), *type_);
     return record_;
 }
 

@@ -28,21 +28,21 @@ enum class TableState : int {
 class DocumentTable
 {
 public:
-    DocumentTable(const DokuTyp& type, Operations& operations) : type_(&type), operations_(&operations) {}
+    DocumentTable(const DocumentType& type, Operations& operations) : type_(&type), operations_(&operations) {}
 
     // --- state ---
-    const DokuTyp& type() const { return *type_; }
+    const DocumentType& type() const { return *type_; }
     TableState state() const { return state_; }
-    bool isOpen() const { return rows_.offen(); }
+    bool isOpen() const { return rows_.open(); }
     bool isFiltered() const { return state_ == TableState::Filtered || state_ == TableState::FilterResult; }
     // All of them can be brought back.
     bool hidesRows() const { return isFiltered() || state_ == TableState::NewerData; }
-    bool hasRows() const { return visible().offen() && visible().RecordCount() > 0; }
+    bool hasRows() const { return visible().open() && visible().RecordCount() > 0; }
     std::size_t count() const { return count_; } // Rows at the opening.
     // Another number means other rows; with the same one only the current row has moved.
     unsigned generation() const { return generation_; }
     const Narrowing& narrowing() const { return narrowing_; }
-    Zeitpunkt nextCheck() const { return nextCheck_; } // Scans before it are old news.
+    DateTime nextCheck() const { return nextCheck_; } // Scans before it are old news.
     // What the grid shows: the rows of the filter for user-defined properties, or the table.
     Recordset& visible() { return state_ == TableState::FilterResult ? result_ : rows_; }
     const Recordset& visible() const { return state_ == TableState::FilterResult ? result_ : rows_; }
@@ -53,7 +53,7 @@ public:
     const DokuRecord& record() const { return record_; }
 
     // --- changes ---
-    void open(Recordset rows, Zeitpunkt nextCheck);
+    void open(Recordset rows, DateTime nextCheck);
     void showFiltered(Narrowing narrowing);
     void showResult(Recordset result, Narrowing narrowing);
     // All rows that the status condition leaves.
@@ -67,7 +67,7 @@ public:
 private:
     void rowsChanged();
 
-    const DokuTyp* type_;
+    const DocumentType* type_;
     Operations* operations_;
     Recordset rows_;
     Recordset result_;
@@ -75,7 +75,7 @@ private:
     std::size_t count_ = 0;
     unsigned generation_ = 0;
     Narrowing narrowing_;
-    Zeitpunkt nextCheck_;
+    DateTime nextCheck_;
     DokuRecord record_;
 };
 

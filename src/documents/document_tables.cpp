@@ -17,21 +17,21 @@ constexpr std::int64_t SECONDS_UNTIL_CHECK = 60;
 DocumentTables::DocumentTables(SessionState& session, Operations& operations)
     : session_(session), ports_(operations.ports())
 {
-    for (const DokuTyp& type : DOKUTYPEN)
+    for (const DocumentType& type : DOCUMENT_TYPES)
         tables_.emplace_back(type, operations);
 }
 
 // On its first row. A revision that sorts higher stands before the older ones of its document.
-Recordset DocumentTables::OpenDokuTabelle(const DokuTyp& type) const
+Recordset DocumentTables::OpenDokuTabelle(const DocumentType& type) const
 {
     const std::string_view scope =
-        type.statusbereich ? std::string_view(session_.rights.WhereStatus) : std::string_view();
+        type.statusScope ? std::string_view(session_.rights.WhereStatus) : std::string_view();
     Recordset rows;
     if (wholeLimit_)
-        rows.setzeGanzGrenze(*wholeLimit_);
-    rows.Open(sql::Query(type.tabelle).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
-              session_.database.Verbindung, CursorTyp::Dynamisch, SperrTyp::NurLesen);
-    if (!rows.leer())
+        rows.setWholeLimit(*wholeLimit_);
+    rows.Open(sql::Query(type.table).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
+              session_.database.connection, CursorType::Dynamisch, LockType::ReadOnly);
+    if (!rows.empty())
         rows.MoveFirst();
     return rows;
 }
@@ -47,10 +47,10 @@ void DocumentTables::reload(int tab)
 {
     DocumentTable& table = (*this)[tab];
     Recordset rows = OpenDokuTabelle(table.type());
-    const bool ofFiles = table.type().sondertabelle == 0;
+    const bool ofFiles = table.type().specialTable == 0;
     if (ofFiles)
         indicator(tab).clear();
-    table.open(std::move(rows), ofFiles ? ports_.uhr.jetzt().plusSekunden(SECONDS_UNTIL_CHECK) : table.nextCheck());
+    table.open(std::move(rows), ofFiles ? ports_.clock.now().plusSeconds(SECONDS_UNTIL_CHECK) : table.nextCheck());
 }
 
 void DocumentTables::showAll(int tab, const StatusCondition& stays)
@@ -73,7 +73,8 @@ void DocumentTables::closeAll()
 // Text and indicator panels take turns behind the head of the bar: the indicators are 3, 5, 7, 9 and 11.
 std::string& DocumentTables::indicator(int tab)
 {
-    return indicators_[static_cast<std::size_t>((DOKUTYPEN[static_cast<std::size_t>(tab)].aenderungspanel - 3) / 2)];
+    return indicators_[static_cast<std::size_t>((DOCUMENT_TYPES[static_cast<std::size_t>(tab)].indicatorPanel - 3) /
+                                                2)];
 }
 
 void DocumentTables::announceTab() const

@@ -58,7 +58,7 @@ public:
     void setWholeLimit(std::size_t rows) { wholeLimit_ = rows; }
 
 private:
-    Recordset OpenDokuTabelle(const DokuTyp& type) const;
+    Recordset OpenDokuTabelle(const DocumentType& type) const;
 
     SessionState& session_;
     Ports& ports_;

@@ -10,18 +10,18 @@ struct FilterRow
 {
     std::string Feldname;
     std::string Benennung;
-    std::string Wert;
+    std::string value;
     bool operator==(const FilterRow&) const = default;
 };
 
 // A limit of the statuses as it is told; both empty for none.
 struct StatusLimit
 {
-    std::string legende; // "             Status >= 1 und <= 3"
-    std::string kurz;    // " >= 1 und <= 3"
+    std::string legend;    // "             Status >= 1 und <= 3"
+    std::string shortText; // " >= 1 und <= 3"
 
-    bool isSet() const { return !kurz.empty(); }
-    FilterRow row() const { return {"", "Status", kurz}; }
+    bool isSet() const { return !shortText.empty(); }
+    FilterRow row() const { return {"", "Status", shortText}; }
 };
 
 // The status condition, common to all types: it follows the boxes changed last. All empty for no condition.

@@ -10,73 +10,73 @@
 namespace quelvarn {
 namespace {
 
-struct Fundstelle
+struct Hit
 {
     std::size_t position = 0;
-    bool derselbePfad = false;
+    bool samePath = false;
 };
 
 // Looks through the rows of one DokuBez, which stand together. Another path with the same revision is second best.
-std::optional<Fundstelle> findeDokument(Recordset& tabelle, const Merkzeile& zeile)
+std::optional<Hit> findDocument(Recordset& table, const RowMemory& row)
 {
-    std::optional<Fundstelle> zweitbeste;
-    if (zeile.DokuBez.empty()) // Null as well, which meets no condition. They stand before all others.
-        tabelle.MoveFirst();
+    std::optional<Hit> secondBest;
+    if (row.DokuBez.empty()) // Null as well, which meets no condition. They stand before all others.
+        table.MoveFirst();
     else
-        tabelle.Find("DokuBez = " + sql::quoted(zeile.DokuBez), 0, Suchrichtung::Vorwaerts, true);
-    for (; !tabelle.Eof() && equalText(tabelle.Text("DokuBez"), zeile.DokuBez); tabelle.MoveNext()) {
-        if (!equalText(tabelle.Text("RevBez"), zeile.RevBez))
+        table.Find("DokuBez = " + sql::quoted(row.DokuBez), 0, SearchDirection::Forward, true);
+    for (; !table.Eof() && equalText(table.Text("DokuBez"), row.DokuBez); table.MoveNext()) {
+        if (!equalText(table.Text("RevBez"), row.RevBez))
             continue;
-        if (equalText(tabelle.Text("filename"), zeile.filename))
-            return Fundstelle{tabelle.AbsolutePosition(), true};
-        if (!zweitbeste)
-            zweitbeste = Fundstelle{tabelle.AbsolutePosition()};
+        if (equalText(table.Text("filename"), row.filename))
+            return Hit{table.AbsolutePosition(), true};
+        if (!secondBest)
+            secondBest = Hit{table.AbsolutePosition()};
     }
-    return zweitbeste;
+    return secondBest;
 }
 
-bool stelleAufFund(Recordset& tabelle, const Merkzeile& zeile, bool nurDieserPfad)
+bool moveToHit(Recordset& table, const RowMemory& row, bool onlyThisPath)
 {
-    if (!tabelle.offen() || tabelle.leer())
+    if (!table.open() || table.empty())
         return false;
-    const std::size_t vorher = tabelle.AbsolutePosition();
-    const auto gefunden = findeDokument(tabelle, zeile);
-    if (gefunden && (gefunden->derselbePfad || !nurDieserPfad)) {
-        tabelle.setzeAbsolutePosition(gefunden->position);
+    const std::size_t before = table.AbsolutePosition();
+    const auto found = findDocument(table, row);
+    if (found && (found->samePath || !onlyThisPath)) {
+        table.setAbsolutePosition(found->position);
         return true;
     }
-    if (vorher < tabelle.RecordCount())
-        tabelle.setzeAbsolutePosition(vorher);
+    if (before < table.RecordCount())
+        table.setAbsolutePosition(before);
     return false;
 }
 
 } // namespace
 
-Merkzeile merkeZeile(const DocumentTable& table)
+RowMemory rememberRow(const DocumentTable& table)
 {
     const DokuRecord& record = table.record();
-    Merkzeile zeile{record.DokuBez, record.RevBez, record.filename, 0};
+    RowMemory row{record.DokuBez, record.RevBez, record.filename, 0};
     const Recordset& rows = table.rows();
     if (!table.isFiltered() && table.hasRows() && !rows.Eof() && !rows.Bof())
-        zeile.position = rows.AbsolutePosition();
-    return zeile;
+        row.position = rows.AbsolutePosition();
+    return row;
 }
 
-void stelleAuf(Recordset& tabelle, const Merkzeile& zeile)
+void moveTo(Recordset& table, const RowMemory& row)
 {
-    const std::size_t letzte = tabelle.RecordCount() - 1;
-    const auto gefunden = findeDokument(tabelle, zeile);
-    tabelle.setzeAbsolutePosition(gefunden ? gefunden->position : std::min(zeile.position, letzte));
+    const std::size_t last = table.RecordCount() - 1;
+    const auto found = findDocument(table, row);
+    table.setAbsolutePosition(found ? found->position : std::min(row.position, last));
 }
 
-bool stelleAufDatei(Recordset& tabelle, const Merkzeile& zeile)
+bool moveToFile(Recordset& table, const RowMemory& row)
 {
-    return stelleAufFund(tabelle, zeile, true);
+    return moveToHit(table, row, true);
 }
 
-bool stelleAufDokument(Recordset& tabelle, const Merkzeile& zeile)
+bool moveToDocument(Recordset& table, const RowMemory& row)
 {
-    return stelleAufFund(tabelle, zeile, false);
+    return moveToHit(table, row, false);
 }
 
 } // namespace quelvarn

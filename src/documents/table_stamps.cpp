@@ -8,38 +8,38 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t MINDESTZEILEN = 5;
-constexpr int VORLAUF_SEKUNDEN = 60;
+constexpr std::size_t MINIMUM_ROWS = 5;
+constexpr int LEAD_SECONDS = 60;
 
 // Stands on the stamp's row; false when there is none that counts.
-bool oeffneAufZeile(Recordset& zeilen, Connection& verbindung, std::string_view schluessel, SperrTyp sperre)
+bool openOnRow(Recordset& rows, Connection& connection, std::string_view key, LockType lock)
 {
-    zeilen.Open("SELECT Feld3, Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB'", verbindung,
-                CursorTyp::Statisch, sperre);
-    if (zeilen.RecordCount() < MINDESTZEILEN)
+    rows.Open("SELECT Feld3, Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB'", connection,
+              CursorType::Static, lock);
+    if (rows.RecordCount() < MINIMUM_ROWS)
         return false;
-    while (!zeilen.Eof() && toUpper(zeilen.Text("Feld3")) != schluessel)
-        zeilen.MoveNext();
-    return !zeilen.Eof();
+    while (!rows.Eof() && toUpper(rows.Text("Feld3")) != key)
+        rows.MoveNext();
+    return !rows.Eof();
 }
 
 } // namespace
 
-std::optional<Zeitpunkt> leseStempel(Connection& verbindung, std::string_view schluessel)
+std::optional<DateTime> readStamp(Connection& connection, std::string_view key)
 {
-    Recordset zeilen;
-    if (!oeffneAufZeile(zeilen, verbindung, schluessel, SperrTyp::NurLesen))
+    Recordset rows;
+    if (!openOnRow(rows, connection, key, LockType::ReadOnly))
         return std::nullopt;
-    return alsDatum(zeilen.Feld("Feld4"));
+    return asDate(rows.field("Feld4"));
 }
 
-void setzeStempel(Connection& verbindung, std::string_view schluessel, Zeitpunkt jetzt)
+void setStamp(Connection& connection, std::string_view key, DateTime now)
 {
-    Recordset zeilen;
-    if (schluessel.empty() || !oeffneAufZeile(zeilen, verbindung, schluessel, SperrTyp::Optimistisch))
+    Recordset rows;
+    if (key.empty() || !openOnRow(rows, connection, key, LockType::Optimistic))
         return;
-    zeilen.setzeFeld("Feld4", alsText(jetzt.plusSekunden(VORLAUF_SEKUNDEN)));
-    zeilen.Update();
+    rows.setField("Feld4", asText(now.plusSeconds(LEAD_SECONDS)));
+    rows.Update();
 }
 
 } // namespace quelvarn

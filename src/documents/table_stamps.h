@@ -10,11 +10,11 @@ namespace quelvarn {
 class Connection;
 
 // The WriteDB stamps by which other copies of the program learn that a table changed. The keys are those of
-// DokuTyp::stempel. An installation with fewer than five WriteDB rows (the interval row counts) keeps none.
+// DocumentType::stamp. An installation with fewer than five WriteDB rows (the interval row counts) keeps none.
 
 // Nothing when there is no such stamp; day 0 when the row holds no date.
-std::optional<Zeitpunkt> leseStempel(Connection& verbindung, std::string_view schluessel);
-// Sets the stamp to one minute after `jetzt`, as a table just read counts as younger by that much.
-void setzeStempel(Connection& verbindung, std::string_view schluessel, Zeitpunkt jetzt);
+std::optional<DateTime> readStamp(Connection& connection, std::string_view key);
+// Sets the stamp to one minute after `now`, as a table just read counts as younger by that much.
+void setStamp(Connection& connection, std::string_view key, DateTime now);
 
 } // namespace quelvarn

@@ -10,104 +10,105 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t ERSTE_PLAETZE = 1024;
+constexpr std::size_t FIRST_PLACES = 1024;
 
-constexpr unsigned char ASCII_ENDE = 0x80;
-constexpr unsigned char LEERZEICHEN = 0x02; // Its weight; alone it would be cut.
+constexpr unsigned char ASCII_END = 0x80;
+constexpr unsigned char BLANK = 0x02; // Its weight; alone it would be cut.
 
-std::array<unsigned char, ASCII_ENDE> asciiGewichte()
+std::array<unsigned char, ASCII_END> asciiWeights()
 {
-    std::array<unsigned char, ASCII_ENDE> gewichte{};
-    for (unsigned char zeichen = 0; zeichen < ASCII_ENDE; ++zeichen) {
-        const std::string schluessel = sortKey(std::string(1, static_cast<char>(zeichen)));
-        gewichte[zeichen] = schluessel.empty() ? LEERZEICHEN : static_cast<unsigned char>(schluessel[0]);
+    std::array<unsigned char, ASCII_END> weights{};
+    for (unsigned char character = 0; character < ASCII_END; ++character) {
+        const std::string key = sortKey(std::string(1, static_cast<char>(character)));
+        weights[character] = key.empty() ? BLANK : static_cast<unsigned char>(key[0]);
     }
-    return gewichte;
+    return weights;
 }
 
-std::uint32_t mische(std::uint32_t wert, char byte)
+std::uint32_t mix(std::uint32_t value, char byte)
 {
-    return (wert ^ static_cast<unsigned char>(byte)) * 16'777'619u;
+    return (value ^ static_cast<unsigned char>(byte)) * 16'777'619u;
 }
 
 // Equal texts give equal values: it is that of the sort key, which need not be built for plain texts.
-std::uint32_t streuwertVon(std::string_view text)
+std::uint32_t scatterValueOf(std::string_view text)
 {
-    static const auto GEWICHTE = asciiGewichte();
-    constexpr std::uint32_t ANFANG = 2'166'136'261u;
-    std::uint32_t wert = ANFANG;
-    for (const char zeichen : trimRightBlanks(text)) {
-        const auto byte = static_cast<unsigned char>(zeichen);
-        if (byte >= ASCII_ENDE) {
-            const std::string schluessel = sortKey(text);
-            return std::accumulate(schluessel.begin(), schluessel.end(), ANFANG, mische);
+    static const auto WEIGHTS = asciiWeights();
+    constexpr std::uint32_t BEGIN = 2'166'136'261u;
+    std::uint32_t value = BEGIN;
+    for (const char character : trimRightBlanks(text)) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= ASCII_END) {
+            const std::string key = sortKey(text);
+            return std::accumulate(key.begin(), key.end(), BEGIN, mix);
         }
-        wert = mische(wert, static_cast<char>(GEWICHTE[byte]));
+        value = mix(value, static_cast<char>(WEIGHTS[byte]));
     }
-    return wert;
+    return value;
 }
 
-std::uint32_t streuwertVon(std::string_view DokuBez, std::string_view RevBez)
+std::uint32_t scatterValueOf(std::string_view DokuBez, std::string_view RevBez)
 {
-    const std::uint32_t wert = streuwertVon(DokuBez) * 31 + streuwertVon(RevBez);
-    return wert ^ (wert >> 15);
+    const std::uint32_t value = scatterValueOf(DokuBez) * 31 + scatterValueOf(RevBez);
+    return value ^ (value >> 15);
 }
 
-bool gleich(std::string_view links, std::string_view rechts)
+bool equal(std::string_view left, std::string_view right)
 {
-    return links == rechts || equalText(links, rechts);
+    return left == right || equalText(left, right);
 }
 
 } // namespace
 
-std::size_t Dokumentzaehler::platzVon(std::string_view DokuBez, std::string_view RevBez, std::uint32_t streuwert) const
+std::size_t DocumentCounter::placeOf(std::string_view DokuBez, std::string_view RevBez,
+                                     std::uint32_t scatterValue) const
 {
-    std::size_t platz = streuwert % plaetze_.size();
-    while (plaetze_[platz].nummer != FREI) {
-        const Nummer nummer = plaetze_[platz].nummer;
-        if (plaetze_[platz].streuwert == streuwert && gleich(this->DokuBez(nummer), DokuBez) &&
-            gleich(this->RevBez(nummer), RevBez))
+    std::size_t place = scatterValue % places_.size();
+    while (places_[place].number != FREE) {
+        const Number number = places_[place].number;
+        if (places_[place].scatterValue == scatterValue && equal(this->DokuBez(number), DokuBez) &&
+            equal(this->RevBez(number), RevBez))
             break;
-        platz = (platz + 1) % plaetze_.size();
+        place = (place + 1) % places_.size();
     }
-    return platz;
+    return place;
 }
 
-void Dokumentzaehler::vergroessere()
+void DocumentCounter::enlarge()
 {
-    std::vector<Platz> alte(plaetze_.empty() ? ERSTE_PLAETZE : 2 * plaetze_.size());
-    alte.swap(plaetze_);
-    for (const Platz& alter : alte) {
-        if (alter.nummer == FREI)
+    std::vector<Place> old(places_.empty() ? FIRST_PLACES : 2 * places_.size());
+    old.swap(places_);
+    for (const Place& alter : old) {
+        if (alter.number == FREE)
             continue;
-        std::size_t platz = alter.streuwert % plaetze_.size();
-        while (plaetze_[platz].nummer != FREI)
-            platz = (platz + 1) % plaetze_.size();
-        plaetze_[platz] = alter;
+        std::size_t place = alter.scatterValue % places_.size();
+        while (places_[place].number != FREE)
+            place = (place + 1) % places_.size();
+        places_[place] = alter;
     }
 }
 
-void Dokumentzaehler::zaehle(std::string_view DokuBez, std::string_view RevBez)
+void DocumentCounter::count(std::string_view DokuBez, std::string_view RevBez)
 {
-    if (2 * anzahl() >= plaetze_.size())
-        vergroessere();
-    const std::uint32_t streuwert = streuwertVon(DokuBez, RevBez);
-    Platz& platz = plaetze_[platzVon(DokuBez, RevBez, streuwert)];
-    if (platz.nummer == FREI) {
-        platz = {streuwert, static_cast<Nummer>(anzahl())};
-        zaehler_.push_back(0);
-        enden_.push_back((texte_ += DokuBez).size());
-        enden_.push_back((texte_ += RevBez).size());
+    if (2 * count() >= places_.size())
+        enlarge();
+    const std::uint32_t scatterValue = scatterValueOf(DokuBez, RevBez);
+    Place& place = places_[placeOf(DokuBez, RevBez, scatterValue)];
+    if (place.number == FREE) {
+        place = {scatterValue, static_cast<Number>(count())};
+        counter_.push_back(0);
+        ends_.push_back((texts_ += DokuBez).size());
+        ends_.push_back((texts_ += RevBez).size());
     }
-    ++zaehler_[platz.nummer];
+    ++counter_[place.number];
 }
 
-std::optional<Dokumentzaehler::Nummer> Dokumentzaehler::finde(std::string_view DokuBez, std::string_view RevBez)
+std::optional<DocumentCounter::Number> DocumentCounter::find(std::string_view DokuBez, std::string_view RevBez)
 {
-    if (plaetze_.empty())
+    if (places_.empty())
         return std::nullopt;
-    const Platz& platz = plaetze_[platzVon(DokuBez, RevBez, streuwertVon(DokuBez, RevBez))];
-    return platz.nummer == FREI ? std::nullopt : std::optional(platz.nummer);
+    const Place& place = places_[placeOf(DokuBez, RevBez, scatterValueOf(DokuBez, RevBez))];
+    return place.number == FREE ? std::nullopt : std::optional(place.number);
 }
 
 } // namespace quelvarn

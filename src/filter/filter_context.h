@@ -10,7 +10,7 @@
 namespace quelvarn {
 
 // What the parts of the filter page share.
-struct Filterkontext
+struct FilterContext
 {
     SessionState& session;
     Operations& operations;
@@ -21,11 +21,11 @@ struct Filterkontext
     // are left: a box lets the window draw.
     std::vector<int> stepsWithoutRows = {};
 
-    Filterzustand& zustand() { return filter.typen[static_cast<std::size_t>(tab)]; }
-    const Filterzustand& zustand() const { return filter.typen[static_cast<std::size_t>(tab)]; }
+    TypeFilter& state() { return filter.types[static_cast<std::size_t>(tab)]; }
+    const TypeFilter& state() const { return filter.types[static_cast<std::size_t>(tab)]; }
     DocumentTable& table() { return tables.opened(tab); }
-    Filterbereich bereich() const { return zustand().bereich; }
-    std::vector<FilterRow> FilterWerteTabelle() const { return filterRows(zustand()); }
+    FilterSection section() const { return state().section; }
+    std::vector<FilterRow> FilterWerteTabelle() const { return filterRows(state()); }
     Ports& ports() const { return operations.ports(); }
 };
 

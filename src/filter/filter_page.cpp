@@ -14,243 +14,242 @@
 namespace quelvarn {
 
 FilterPage::FilterPage(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables)
-    : kontext_{session, operations, filter, tables}, eigenschaften_(kontext_), struktur_(kontext_), benutzDef_(kontext_)
+    : context_{session, operations, filter, tables}, properties_(context_), structure_(context_), userDefined_(context_)
 {}
 
 void FilterPage::perform(std::string_view title, std::string_view text, const std::function<void()>& operation)
 {
-    kontext_.operations.perform(Part::FilterPage, title, text, operation);
+    context_.operations.perform(Part::FilterPage, title, text, operation);
 }
 
 // --- opening and closing ---------------------------------------------------------------------------------------
 
-void FilterPage::seiteGezeigt(Seite seite)
+void FilterPage::pageShown(Page page)
 {
-    if (seite == Seite::Filter)
+    if (page == Page::Filter)
         OpenFilterPage();
 }
 
 void FilterPage::OpenFilterPage()
 {
     perform("Laden der Form 'SEFiltern'", "Fehler beim Laden der Form 'SEFiltern'!", [&] {
-        geladen_ = kontext_.session.pages.FormSEFilternGeladen = true;
-        kontext_.tab = kontext_.tables.tab();
+        loaded_ = context_.session.pages.FormSEFilternGeladen = true;
+        context_.tab = context_.tables.tab();
         // The steps of a quick filter do not belong here.
-        if (!kontext_.table().narrowing().quickFilter.empty())
-            ResetAllFilters(kontext_);
-        benutzDefVorhanden_ = benutzDef_.vorhanden();
-        if (!bereichVorhanden(kontext_.bereich()))
-            leere();
-        SaveFilterState(kontext_.zustand());
-        fuelleBereich();
+        if (!context_.table().narrowing().quickFilter.empty())
+            ResetAllFilters(context_);
+        userDefinedExists_ = userDefined_.exists();
+        if (!sectionExists(context_.section()))
+            clear();
+        SaveFilterState(context_.state());
+        fillSection();
     });
 }
 
 void FilterPage::CloseFilterPage()
 {
-    if (!geladen_)
+    if (!loaded_)
         return;
-    speichereFilterlisten(kontext_.session, kontext_.ports().meldungen);
-    schliesseVorlage();
+    saveFilterLists(context_.session, context_.ports().boxes);
+    closeTemplate();
 }
 
-void FilterPage::verlassen()
+void FilterPage::leave()
 {
     CloseFilterPage();
-    kontext_.operations.changed(Part::FilterPage);
-    if (zurDokumentseite)
-        zurDokumentseite();
+    context_.operations.changed(Part::FilterPage);
+    if (toDocumentPage)
+        toDocumentPage();
 }
 
-void FilterPage::entladen()
+void FilterPage::unload()
 {
     CloseFilterPage();
-    geladen_ = kontext_.session.pages.FormSEFilternGeladen = false;
+    loaded_ = context_.session.pages.FormSEFilternGeladen = false;
 }
 
 // Saved filters go to the database that they are from, which is still open.
-void FilterPage::datenbankWechselt()
+void FilterPage::databaseChanges()
 {
-    entladen();
-    kontext_.filter = {};
-    kontext_.tab = 0;
-    kontext_.operations.changed(Part::FilterPage);
+    unload();
+    context_.filter = {};
+    context_.tab = 0;
+    context_.operations.changed(Part::FilterPage);
 }
 
 // --- the state of a type ---------------------------------------------------------------------------------------
 
-void FilterPage::leere()
+void FilterPage::clear()
 {
-    leereFilter(kontext_.zustand());
+    clearFilter(context_.state());
 }
 
 // A marker that all steps are filled does not come back: what was collected can be run.
-void FilterPage::stelleStandWiederHer()
+void FilterPage::restoreState()
 {
-    Filterzustand& zustand = kontext_.zustand();
-    if (zustand.GesicherterFilter.bereich != zustand.bereich)
-        return leere(); // It was made on another part of the page; the parts do not mix.
-    RestoreFilterState(zustand);
-    zustand.FilterAnzahl = static_cast<int>(filledSteps(zustand).size());
+    TypeFilter& state = context_.state();
+    if (state.GesicherterFilter.section != state.section)
+        return clear(); // It was made on another part of the page; the parts do not mix.
+    RestoreFilterState(state);
+    state.FilterAnzahl = static_cast<int>(filledSteps(state).size());
 }
 
 // --- the part of the page in front -----------------------------------------------------------------------------
 
-void FilterPage::bereichGewaehlt(Filterbereich bereich)
+void FilterPage::sectionChosen(FilterSection section)
 {
-    if (bereich == kontext_.bereich() || !bereichVorhanden(bereich))
+    if (section == context_.section() || !sectionExists(section))
         return;
     perform("Wechsel der Filterbereiche", "Fehler beim Wechsel der Filterbereiche!", [&] {
-        leere();
-        kontext_.zustand().bereich = bereich;
-        fuelleBereich();
+        clear();
+        context_.state().section = section;
+        fillSection();
     });
 }
 
-void FilterPage::fuelleBereich()
+void FilterPage::fillSection()
 {
-    ++listenfassung_;
-    switch (kontext_.bereich()) {
-    case Filterbereich::Eigenschaften:
-        return eigenschaften_.FilterListenSchmal(kontext_.zustand().FilterString);
-    case Filterbereich::Struktur:
-        return fuelleStruktur();
-    case Filterbereich::BenutzDef:
-        benutzDef_.entsperre();
-        benutzDef_.fuelleListen();
-        if (kontext_.zustand().BenutzDefAnzahl() > 0)
-            benutzDef_.sperre();
+    ++listGeneration_;
+    switch (context_.section()) {
+    case FilterSection::Properties:
+        return properties_.FilterListenSchmal(context_.state().FilterString);
+    case FilterSection::Structure:
+        return fillStructure();
+    case FilterSection::UserDefined:
+        userDefined_.unlock();
+        userDefined_.fillLists();
+        if (context_.state().BenutzDefAnzahl() > 0)
+            userDefined_.lock();
     }
 }
 
 // The tree as the steps of the type have walked it.
-void FilterPage::fuelleStruktur()
+void FilterPage::fillStructure()
 {
-    struktur_.zuruecksetzen();
-    if (const auto steps = filledSteps(kontext_.zustand()); !steps.empty())
-        struktur_.stelleWiederHer(steps);
+    structure_.reset();
+    if (const auto steps = filledSteps(context_.state()); !steps.empty())
+        structure_.restore(steps);
 }
 
-void FilterPage::filtern()
+void FilterPage::filter()
 {
     perform("Fehler beim Filtern nach Standard", "Fehler beim Filtern nach Standard!", [&] {
-        FilterEigenMerkBenutzDef(kontext_);
-        if (kontext_.bereich() == Filterbereich::Eigenschaften)
-            fuelleBereich();
+        FilterEigenMerkBenutzDef(context_);
+        if (context_.section() == FilterSection::Properties)
+            fillSection();
     });
 }
 
-void FilterPage::zurueck()
+void FilterPage::back()
 {
     perform("Zurücksetzen der Filterwerte", "Fehler beim Zurücksetzen der Filterwerte!", [&] {
-        if (kontext_.bereich() == Filterbereich::Eigenschaften)
-            stelleStandWiederHer();
+        if (context_.section() == FilterSection::Properties)
+            restoreState();
         else
-            leere();
-        fuelleBereich();
+            clear();
+        fillSection();
     });
 }
 
-void FilterPage::werte()
+void FilterPage::values()
 {
     perform("Zurücksetzen der Hauptwerte", "Fehler beim Zurücksetzen der Hauptwerte!",
-            [&] { struktur_.leereHauptwerte(); });
+            [&] { structure_.clearMainValues(); });
 }
 
 // --- the template ----------------------------------------------------------------------------------------------
 
-void FilterPage::vorlage(bool gedrueckt)
+void FilterPage::drawingTemplate(bool pressed)
 {
-    if (gedrueckt)
-        oeffneVorlage();
+    if (pressed)
+        openTemplate();
     else
-        schliesseVorlage();
-    kontext_.operations.changed(Part::FilterPage);
+        closeTemplate();
+    context_.operations.changed(Part::FilterPage);
 }
 
-void FilterPage::oeffneVorlage()
+void FilterPage::openTemplate()
 {
-    const std::string pfad = vorlagePfad();
-    zeigtVorlage_ = Dateiendung(pfad) == "dft" && viewer && viewer(pfad);
-    if (zeigtVorlage_)
+    const std::string documentPath = templatePath();
+    showsTemplate_ = Extension(documentPath) == "dft" && viewer && viewer(documentPath);
+    if (showsTemplate_)
         return;
-    kontext_.ports().meldungen.warnung("Anzeigen im Viewer", zeilen({
-                                                                 "Die Datei:",
-                                                                 "",
-                                                                 pfad,
-                                                                 "",
-                                                                 "konnte nicht geöffnet werden!",
-                                                                 "",
-                                                                 "Mögliche Ursache:",
-                                                                 "- Kein Zugriffsrecht.",
-                                                                 "- Falscher Pfad- und/oder Dateiname.",
-                                                             }));
+    context_.ports().boxes.warn("Anzeigen im Viewer", lines({
+                                                          "Die Datei:",
+                                                          "",
+                                                          documentPath,
+                                                          "",
+                                                          "konnte nicht geöffnet werden!",
+                                                          "",
+                                                          "Mögliche Ursache:",
+                                                          "- Kein Zugriffsrecht.",
+                                                          "- Falscher Pfad- und/oder Dateiname.",
+                                                      }));
 }
 
-void FilterPage::schliesseVorlage()
+void FilterPage::closeTemplate()
 {
-    if (zeigtVorlage_ && viewer)
+    if (showsTemplate_ && viewer)
         viewer("");
-    zeigtVorlage_ = false;
+    showsTemplate_ = false;
 }
 
 // --- saved filters and edited values ---------------------------------------------------------------------------
 
-bool FilterPage::filterSpeichern(std::string_view TxtFilterSave)
+bool FilterPage::saveCurrentFilter(std::string_view TxtFilterSave)
 {
-    bool gespeichert = false;
+    bool saved = false;
     perform("Filterwerte", "Fehler beim Speichern der Filterwerte!",
-            [&] { gespeichert = speichereFilter(kontext_, TxtFilterSave); });
-    return gespeichert;
+            [&] { saved = saveFilter(context_, TxtFilterSave); });
+    return saved;
 }
 
-void FilterPage::filterLoeschen(std::string_view CbFilterSave)
+void FilterPage::deleteSavedFilter(std::string_view CbFilterSave)
 {
-    perform("Filterwerte", "Fehler beim Löschen der Filterwerte!", [&] { loescheFilter(kontext_, CbFilterSave); });
+    perform("Filterwerte", "Fehler beim Löschen der Filterwerte!", [&] { removeFilter(context_, CbFilterSave); });
 }
 
-void FilterPage::filterVerwenden(std::string_view CbFilterSave)
+void FilterPage::applySavedFilter(std::string_view CbFilterSave)
 {
     perform("Filterwerte", "Fehler beim Verwenden der Filterwerte!", [&] {
-        const auto text = gewaehlterFilter(kontext_, CbFilterSave);
+        const auto text = chosenFilter(context_, CbFilterSave);
         if (!text)
             return;
-        UseSavedFilter(kontext_, *text);
-        if (!bereichVorhanden(kontext_.bereich()))
-            return leere();
-        fuelleBereich();
+        UseSavedFilter(context_, *text);
+        if (!sectionExists(context_.section()))
+            return clear();
+        fillSection();
     });
 }
 
-void FilterPage::nutzeGespeicherten(std::string_view Filtername)
+void FilterPage::useSaved(std::string_view Filtername)
 {
     perform("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
-        kontext_.tab = kontext_.tables.tab();
-        const std::string text = SavedFilterString(kontext_.session, kontext_.tab, Filtername);
+        context_.tab = context_.tables.tab();
+        const std::string text = SavedFilterString(context_.session, context_.tab, Filtername);
         if (text.empty())
             return;
-        UseSavedFilter(kontext_, text);
-        FilterEigenMerkBenutzDef(kontext_);
+        UseSavedFilter(context_, text);
+        FilterEigenMerkBenutzDef(context_);
     });
 }
 
-void FilterPage::wertGeaendert(std::size_t zeile, std::string_view wert)
+void FilterPage::valueChanged(std::size_t row, std::string_view value)
 {
     perform("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
-        if (zeile >= kontext_.FilterWerteTabelle().size())
+        if (row >= context_.FilterWerteTabelle().size())
             return; // The row is gone.
-        if (setRowValue(kontext_.zustand(), zeile, wert))
+        if (setRowValue(context_.state(), row, value))
             return followRows();
-        kontext_.ports().meldungen.warnung("Filterwerte", trim(wert).empty()
-                                                              ? "Es muss ein Filterwert angegeben werden!"
-                                                              : fmt::format("'{}' ist kein Datum!", wert));
+        context_.ports().boxes.warn("Filterwerte", trim(value).empty() ? "Es muss ein Filterwert angegeben werden!"
+                                                                       : fmt::format("'{}' ist kein Datum!", value));
     });
 }
 
-void FilterPage::sterneErgaenzen()
+void FilterPage::starsComplete()
 {
     perform("Filterwerte", "Fehler beim Ändern der Filterwerte!", [&] {
-        ergaenzeSterne(kontext_);
+        completeStars(context_);
         followRows();
     });
 }
@@ -258,57 +257,58 @@ void FilterPage::sterneErgaenzen()
 // The lists of the structure features are those of the branch as it reads now.
 void FilterPage::followRows()
 {
-    if (kontext_.bereich() == Filterbereich::Struktur)
-        fuelleStruktur();
+    if (context_.section() == FilterSection::Structure)
+        fillStructure();
 }
 
 // --- for the projection ----------------------------------------------------------------------------------------
 
-std::string FilterPage::titel() const
+std::string FilterPage::title() const
 {
-    constexpr int BAUGRUPPE = 2, ZEICHNUNG = 3; // These two stand in the singular.
-    const int tab = kontext_.tab;
-    const bool einzahl = tab == BAUGRUPPE || tab == ZEICHNUNG;
+    constexpr int ASSEMBLY = 2, DRAWING = 3; // These two stand in the singular.
+    const int tab = context_.tab;
+    const bool singular = tab == ASSEMBLY || tab == DRAWING;
     return fmt::format("    Solid Edge - Filterwerte für {}",
-                       einzahl ? kontext_.session.einzahl(tab) : kontext_.session.mehrzahl(tab));
+                       singular ? context_.session.singular(tab) : context_.session.plural(tab));
 }
 
-std::string FilterPage::kopfFilterwerte() const
+std::string FilterPage::headingFilterValues() const
 {
-    return kontext_.bereich() == Filterbereich::BenutzDef ? "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)"
-                                                          : "      Filterwerte";
+    return context_.section() == FilterSection::UserDefined
+               ? "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)"
+               : "      Filterwerte";
 }
 
-std::string FilterPage::zugriffText() const
+std::string FilterPage::accessDateText() const
 {
-    const SessionState& session = kontext_.session;
-    if (session.rights.siehtAlleStati())
-        return zugriffstext(session);
+    const SessionState& session = context_.session;
+    if (session.rights.seesAllStatuses())
+        return accessLine(session);
     std::string text = "Berechtigung:"; // No short form for a single status, unlike the document page.
     for (std::size_t status = 0; status < STATUS.size(); ++status)
         if (session.rights.Sichtbar[status] == 1)
-            text += STATUS[status].kurz;
+            text += STATUS[status].shortText;
     return text;
 }
 
-std::vector<std::string> FilterPage::gespeicherteFilter() const
+std::vector<std::string> FilterPage::savedFilter() const
 {
-    return gespeicherteNamen(kontext_.session, kontext_.tab);
+    return savedNames(context_.session, context_.tab);
 }
 
-bool FilterPage::bereichVorhanden(Filterbereich bereich) const
+bool FilterPage::sectionExists(FilterSection section) const
 {
-    return bereich != Filterbereich::BenutzDef || benutzDefVorhanden_;
+    return section != FilterSection::UserDefined || userDefinedExists_;
 }
 
-std::string FilterPage::vorlagePfad() const
+std::string FilterPage::templatePath() const
 {
-    return struktur_.vorlage();
+    return structure_.drawingTemplate();
 }
 
-Zeitpunkt FilterPage::heute() const
+DateTime FilterPage::today() const
 {
-    return kontext_.ports().uhr.jetzt();
+    return context_.ports().clock.now();
 }
 
 } // namespace quelvarn

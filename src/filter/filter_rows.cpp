@@ -8,23 +8,23 @@
 namespace quelvarn {
 namespace {
 
-bool isDate(const FilterSchritt& step)
+bool isDate(const FilterStep& step)
 {
-    return step.code / 10 == CodeErstellt / 10 || step.code / 10 == CodeGeaendert / 10;
+    return step.code / 10 == CodeCreated / 10 || step.code / 10 == CodeChanged / 10;
 }
 
-std::string shownDate(const FilterSchritt& step)
+std::string shownDate(const FilterStep& step)
 {
     const auto number = static_cast<std::size_t>(step.code % 10);
-    return (number < OPERATORS.size() ? std::string(OPERATORS[number]) : std::string()) + step.Wert;
+    return (number < OPERATORS.size() ? std::string(OPERATORS[number]) : std::string()) + step.value;
 }
 
-FilterRow rowOf(const FilterSchritt& step)
+FilterRow rowOf(const FilterStep& step)
 {
     if (step.Feldname.empty())
-        return {"BenutzDef", step.Wert, step.Muster};
+        return {"BenutzDef", step.value, step.pattern};
     FilterRow row{step.row.field.empty() ? step.Feldname : step.row.field, step.row.Benennung,
-                  isDate(step) ? shownDate(step) : step.Wert};
+                  isDate(step) ? shownDate(step) : step.value};
     if (row.Benennung.empty())
         row.Benennung = row.Feldname;
     return row;
@@ -32,26 +32,26 @@ FilterRow rowOf(const FilterSchritt& step)
 
 FilterRow rowOf(const AdditionalValue& value)
 {
-    return {"ZusBenutzDef" + std::string(ZUSATZSPALTEN[value.column]), value.Benennung, value.Wert};
+    return {"ZusBenutzDef" + std::string(ADDITIONAL_COLUMNS[value.column]), value.Benennung, value.value};
 }
 
 // The operator stays when none is written.
-bool setDate(FilterSchritt& step, std::string_view text)
+bool setDate(FilterStep& step, std::string_view text)
 {
     const auto [op, day] = splitOperator(text);
-    const auto date = parseDatum(trim(day));
+    const auto date = parseDate(trim(day));
     if (!date)
         return false;
-    step.Wert = formatDatum(*date);
+    step.value = formatDate(*date);
     step.code = step.code / 10 * 10 + op.value_or(step.code % 10);
     return true;
 }
 
-bool setValue(FilterSchritt& step, std::string_view text)
+bool setValue(FilterStep& step, std::string_view text)
 {
     if (isDate(step))
         return setDate(step, text);
-    (step.Feldname.empty() ? step.Muster : step.Wert) = text;
+    (step.Feldname.empty() ? step.pattern : step.value) = text;
     return true;
 }
 
@@ -65,21 +65,21 @@ std::pair<std::optional<int>, std::string_view> splitOperator(std::string_view t
     return {std::nullopt, text};
 }
 
-std::span<const FilterSchritt> filledSteps(const Filterzustand& zustand)
+std::span<const FilterStep> filledSteps(const TypeFilter& state)
 {
-    const auto& steps = zustand.FilterSchritte;
-    const auto end = zustand.FilterAnzahl < ALLE_GEFUELLT
-                         ? steps.begin() + zustand.FilterAnzahl
-                         : std::ranges::find_if(steps, [](const FilterSchritt& step) { return step.Wert.empty(); });
+    const auto& steps = state.FilterSchritte;
+    const auto end = state.FilterAnzahl < ALL_FILLED
+                         ? steps.begin() + state.FilterAnzahl
+                         : std::ranges::find_if(steps, [](const FilterStep& step) { return step.value.empty(); });
     return {steps.begin(), end};
 }
 
-std::vector<FilterRow> filterRows(const Filterzustand& zustand)
+std::vector<FilterRow> filterRows(const TypeFilter& state)
 {
     std::vector<FilterRow> rows;
-    for (const FilterSchritt& step : filledSteps(zustand))
+    for (const FilterStep& step : filledSteps(state))
         rows.push_back(rowOf(step));
-    for (const AdditionalValue& value : zustand.ZusBenutzDef)
+    for (const AdditionalValue& value : state.ZusBenutzDef)
         rows.push_back(rowOf(value));
     return rows;
 }
@@ -93,20 +93,20 @@ void setAdditionalValue(std::vector<AdditionalValue>& values, AdditionalValue va
         values.push_back(std::move(value));
 }
 
-std::string additionalValue(const Filterzustand& zustand, std::size_t column)
+std::string additionalValue(const TypeFilter& state, std::size_t column)
 {
-    const auto value = std::ranges::find(zustand.ZusBenutzDef, column, &AdditionalValue::column);
-    return value != zustand.ZusBenutzDef.end() ? value->Wert : std::string();
+    const auto value = std::ranges::find(state.ZusBenutzDef, column, &AdditionalValue::column);
+    return value != state.ZusBenutzDef.end() ? value->value : std::string();
 }
 
-bool setRowValue(Filterzustand& zustand, std::size_t row, std::string_view text)
+bool setRowValue(TypeFilter& state, std::size_t row, std::string_view text)
 {
-    const std::size_t steps = filledSteps(zustand).size();
-    if (trim(text).empty() || row >= steps + zustand.ZusBenutzDef.size())
+    const std::size_t steps = filledSteps(state).size();
+    if (trim(text).empty() || row >= steps + state.ZusBenutzDef.size())
         return false;
     if (row < steps)
-        return setValue(zustand.FilterSchritte[row], text);
-    zustand.ZusBenutzDef[row - steps].Wert = text;
+        return setValue(state.FilterSchritte[row], text);
+    state.ZusBenutzDef[row - steps].value = text;
     return true;
 }
 

@@ -10,87 +10,87 @@
 
 namespace quelvarn {
 
-std::string mitUnd(std::string_view links, std::string_view rechts)
+std::string withAnd(std::string_view left, std::string_view right)
 {
-    const std::string_view dazwischen = links.empty() || rechts.empty() ? "" : " AND ";
-    return std::string(links).append(dazwischen).append(rechts);
+    const std::string_view between = left.empty() || right.empty() ? "" : " AND ";
+    return std::string(left).append(between).append(right);
 }
 
-std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment)
+std::vector<ChainLink> formChain(const TypeFilter& state, const FragmentMaker& fragment)
 {
-    std::vector<Kettenglied> kette;
-    Kettenglied bisher;
-    for (int nummer = 0; nummer < zustand.FilterAnzahl; ++nummer) {
-        const Schrittfragment neu = fragment(zustand.FilterSchritte[static_cast<std::size_t>(nummer)], nummer);
-        bisher.filterform = mitUnd(bisher.filterform, neu.filterform);
-        bisher.sqlform = mitUnd(bisher.sqlform, neu.sqlform);
-        if (neu.condition)
-            bisher.conditions.push_back(neu.condition);
-        kette.push_back(bisher);
+    std::vector<ChainLink> chain;
+    ChainLink soFar;
+    for (int number = 0; number < state.FilterAnzahl; ++number) {
+        const StepFragment fresh = fragment(state.FilterSchritte[static_cast<std::size_t>(number)], number);
+        soFar.filterForm = withAnd(soFar.filterForm, fresh.filterForm);
+        soFar.sqlForm = withAnd(soFar.sqlForm, fresh.sqlForm);
+        if (fresh.condition)
+            soFar.conditions.push_back(fresh.condition);
+        chain.push_back(soFar);
     }
-    return kette;
+    return chain;
 }
 
-RowFilter Kettenglied::behind(const StatusCondition& status) const
+RowFilter ChainLink::behind(const StatusCondition& status) const
 {
-    RowFilter filter{mitUnd(status.StatusFilter, filterform)};
+    RowFilter filter{withAnd(status.StatusFilter, filterForm)};
     if (SharedCondition scope = sql::statusScope(status.StatusFilterWhere))
         filter.conditions.push_back(std::move(scope));
     filter.conditions.insert(filter.conditions.end(), conditions.begin(), conditions.end());
     return filter;
 }
 
-bool setzeFilter(Filterkontext& kontext, RowFilter filter)
+bool setFilter(FilterContext& context, RowFilter filter)
 {
-    LangeArbeit arbeit(kontext.ports().fortschritt, "Die Tabelle wird gefiltert ...");
-    kontext.table().rows().Filter(std::move(filter), std::ref(arbeit));
-    return !arbeit.aufgegeben();
+    LongWork work(context.ports().progress, "Die Tabelle wird gefiltert ...");
+    context.table().rows().Filter(std::move(filter), std::ref(work));
+    return !work.abandoned();
 }
 
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const StatusCondition& status)
+bool runChain(FilterContext& context, const std::vector<ChainLink>& chain, const StatusCondition& status)
 {
-    Filterzustand& zustand = kontext.zustand();
-    const Recordset& zeilen = kontext.table().rows();
-    kontext.stepsWithoutRows.clear();
-    auto schritt = static_cast<int>(kette.size());
-    for (;; --schritt) {
-        const Kettenglied& glied = kette[static_cast<std::size_t>(schritt - 1)];
-        if (!setzeFilter(kontext, glied.behind(status)))
+    TypeFilter& state = context.state();
+    const Recordset& rows = context.table().rows();
+    context.stepsWithoutRows.clear();
+    auto step = static_cast<int>(chain.size());
+    for (;; --step) {
+        const ChainLink& link = chain[static_cast<std::size_t>(step - 1)];
+        if (!setFilter(context, link.behind(status)))
             return false;
-        zustand.FilterAnzahl = schritt;
-        zustand.FilterString = glied.sqlform;
+        state.FilterAnzahl = step;
+        state.FilterString = link.sqlForm;
         // A single step may leave an empty table.
-        if (kette.size() == 1 || zeilen.RecordCount() > 0)
+        if (chain.size() == 1 || rows.RecordCount() > 0)
             return true;
-        kontext.stepsWithoutRows.push_back(schritt);
-        if (schritt == 1)
+        context.stepsWithoutRows.push_back(step);
+        if (step == 1)
             return true;
     }
 }
 
-bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lauf)
+bool runOrKeep(FilterContext& context, const std::function<bool()>& run)
 {
-    const Filterzustand vorher = kontext.zustand();
-    Recordset& tabelle = kontext.table().rows();
-    const RowFilter filter = tabelle.filter();
-    const auto zeile = tabelle.Bof() || tabelle.Eof() ? std::nullopt : std::optional(tabelle.bookmark());
-    const auto stelleZurueck = [&] {
-        kontext.zustand() = vorher;
-        if (tabelle.filterText() != filter.text)
-            tabelle.Filter(filter);
-        if (zeile)
-            tabelle.setzeBookmark(*zeile);
+    const TypeFilter before = context.state();
+    Recordset& table = context.table().rows();
+    const RowFilter filter = table.filter();
+    const auto row = table.Bof() || table.Eof() ? std::nullopt : std::optional(table.bookmark());
+    const auto moveBack = [&] {
+        context.state() = before;
+        if (table.filterText() != filter.text)
+            table.Filter(filter);
+        if (row)
+            table.setBookmark(*row);
     };
-    bool gelaufen = false;
+    bool ran = false;
     try {
-        gelaufen = lauf();
+        ran = run();
     } catch (...) {
-        stelleZurueck();
+        moveBack();
         throw;
     }
-    if (!gelaufen)
-        stelleZurueck();
-    return gelaufen;
+    if (!ran)
+        moveBack();
+    return ran;
 }
 
 } // namespace quelvarn

@@ -11,10 +11,10 @@
 namespace quelvarn {
 
 // The conditions of a chain up to and with one step.
-struct Kettenglied
+struct ChainLink
 {
-    std::string filterform;
-    std::string sqlform;
+    std::string filterForm;
+    std::string sqlForm;
     std::vector<SharedCondition> conditions = {};
 
     // As a filter of the table, behind the status condition.
@@ -22,18 +22,18 @@ struct Kettenglied
 };
 
 // What a step makes of its cells.
-using Fragmentbildner = std::function<Schrittfragment(const FilterSchritt& schritt, int nummer)>;
+using FragmentMaker = std::function<StepFragment(const FilterStep& step, int number)>;
 
 // Both joined with " AND " where both have text.
-std::string mitUnd(std::string_view links, std::string_view rechts);
+std::string withAnd(std::string_view left, std::string_view right);
 // The steps up to FilterAnzahl, each joined with those before it.
-std::vector<Kettenglied> bildeKette(const Filterzustand& zustand, const Fragmentbildner& fragment);
+std::vector<ChainLink> formChain(const TypeFilter& state, const FragmentMaker& fragment);
 // Runs the last link; where it leaves no rows, which the context keeps to be told, the one before it runs. The status
 // condition stands before each of them. False when it was given up.
-bool laufeKette(Filterkontext& kontext, const std::vector<Kettenglied>& kette, const StatusCondition& status);
+bool runChain(FilterContext& context, const std::vector<ChainLink>& chain, const StatusCondition& status);
 // Assigns a filter to the table. False when it was given up; the table is then as it was.
-bool setzeFilter(Filterkontext& kontext, RowFilter filter);
-// Runs `lauf`. When it is false or a fault ends it, the rows shown and the state of the filter are as before.
-bool laufeOderWieVorher(Filterkontext& kontext, const std::function<bool()>& lauf);
+bool setFilter(FilterContext& context, RowFilter filter);
+// Runs `run`. When it is false or a fault ends it, the rows shown and the state of the filter are as before.
+bool runOrKeep(FilterContext& context, const std::function<bool()>& run);
 
 } // namespace quelvarn

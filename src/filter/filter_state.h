@@ -12,28 +12,28 @@
 
 namespace quelvarn {
 
-inline constexpr int ANZAHL_SCHRITTE = 7;
-inline constexpr int ANZAHL_HAUPTWERTE = 7;
-inline constexpr int ANZAHL_ZUSBENUTZDEF = 4;
+inline constexpr int STEP_COUNT = 7;
+inline constexpr int MAIN_VALUE_COUNT = 7;
+inline constexpr int ADDITIONAL_VALUE_COUNT = 4;
 // FilterAnzahl when a step was refused because all were filled; a run then applies nothing until a reset.
-inline constexpr int ALLE_GEFUELLT = 8;
+inline constexpr int ALL_FILLED = 8;
 
 // The columns of the additional values on the page of user-defined properties, in the order of their combos.
-inline constexpr std::array<std::string_view, ANZAHL_ZUSBENUTZDEF> ZUSATZSPALTEN{"Autor", "Bearbeiter", "Material",
-                                                                                 "Projekt"};
+inline constexpr std::array<std::string_view, ADDITIONAL_VALUE_COUNT> ADDITIONAL_COLUMNS{"Autor", "Bearbeiter",
+                                                                                         "Material", "Projekt"};
 
 // The parts of the filter page; they do not mix.
-enum class Filterbereich : int { Eigenschaften = 0, Struktur = 1, BenutzDef = 2 };
+enum class FilterSection : int { Properties = 0, Structure = 1, UserDefined = 2 };
 
 // What a step compares, and how.
 enum FilterCode : int {
     CodeText = 0,
-    CodeStatus = 10,    // plus the operator; applies nothing
-    CodeErstellt = 20,  // plus the operator: 0 ">= ", 1 "= ", 2 "<= "
-    CodeGeaendert = 30, // plus the operator
-    CodeZahl = 40,      // from stored filters alone
-    CodeDatei = 50,     // the same, first step only
-    CodeDateiWennGefuellt = 60,
+    CodeStatus = 10,  // plus the operator; applies nothing
+    CodeCreated = 20, // plus the operator: 0 ">= ", 1 "= ", 2 "<= "
+    CodeChanged = 30, // plus the operator
+    CodeNumber = 40,  // from stored filters alone
+    CodeFile = 50,    // the same, first step only
+    CodeFileIfFilled = 60,
 };
 
 // How the row of a step calls it.
@@ -44,46 +44,46 @@ struct RowName
     bool operator==(const RowName&) const = default;
 };
 
-struct FilterSchritt
+struct FilterStep
 {
     std::string Feldname; // Column of the document table; empty for a user-defined property.
-    std::string Wert;     // The text to compare; for a user-defined property its Name.
+    std::string value;    // The text to compare; for a user-defined property its Name.
     int code = CodeText;
-    std::string Muster; // Only of a user-defined property: the pattern of its Wert.
+    std::string pattern; // Only of a user-defined property: the pattern of its Wert.
     RowName row = {};
-    bool operator==(const FilterSchritt&) const = default;
+    bool operator==(const FilterStep&) const = default;
 };
 
 // An additional value on the page of user-defined properties.
 struct AdditionalValue
 {
-    std::size_t column = 0; // Of ZUSATZSPALTEN.
-    std::string Wert;
+    std::size_t column = 0; // Of ADDITIONAL_COLUMNS.
+    std::string value;
     std::string Benennung;
     bool operator==(const AdditionalValue&) const = default;
 };
 
 // Bounds of one main value; 0 in both: not filtered.
-struct Hauptwertgrenzen
+struct MainValueBand
 {
     Decimal MinWert;
     Decimal MaxWert;
-    bool gesetzt() const { return !MinWert.isZero() || !MaxWert.isZero(); }
-    bool operator==(const Hauptwertgrenzen&) const = default;
+    bool set() const { return !MinWert.isZero() || !MaxWert.isZero(); }
+    bool operator==(const MainValueBand&) const = default;
 };
 
 // The running filter of one document type.
-struct Filterzustand
+struct TypeFilter
 {
-    std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
-    int FilterAnzahl = 0;                                 // Filled steps, or ALLE_GEFUELLT.
-    Filterbereich bereich = Filterbereich::Eigenschaften; // The part of the page on which the steps were made.
-    std::string FilterString;                             // The filter for SQL (month first), "" for none.
-    std::string Schnellfilter; // The same of a filter by text or date that the document page made.
-    std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> HauptwertBereich;
+    std::array<FilterStep, STEP_COUNT> FilterSchritte;
+    int FilterAnzahl = 0;                              // Filled steps, or ALL_FILLED.
+    FilterSection section = FilterSection::Properties; // The part of the page on which the steps were made.
+    std::string FilterString;                          // The filter for SQL (month first), "" for none.
+    std::string QuickFilter; // The same of a filter by text or date that the document page made.
+    std::array<MainValueBand, MAIN_VALUE_COUNT> HauptwertBereich;
     bool HauptwertAktiv = false;
-    std::vector<AdditionalValue> ZusBenutzDef;      // In the order of their choice, one a column at most.
-    std::array<bool, ANZAHL_STATUS> ChFilterStat{}; // The ticked status boxes.
+    std::vector<AdditionalValue> ZusBenutzDef;     // In the order of their choice, one a column at most.
+    std::array<bool, STATUS_COUNT> ChFilterStat{}; // The ticked status boxes.
 
     int BenutzDefAnzahl() const { return static_cast<int>(ZusBenutzDef.size()); }
 
@@ -91,15 +91,15 @@ struct Filterzustand
     {
         std::string FilterString;
         int FilterAnzahl = 0;
-        std::array<FilterSchritt, ANZAHL_SCHRITTE> FilterSchritte;
-        Filterbereich bereich = Filterbereich::Eigenschaften;
+        std::array<FilterStep, STEP_COUNT> FilterSchritte;
+        FilterSection section = FilterSection::Properties;
     } GesicherterFilter; // As it was when the filter page was opened.
 };
 
 // What the running filters are. Lives as long as the program.
 struct FilterState
 {
-    std::array<Filterzustand, ANZAHL_DOKUTYPEN> typen; // By tab; FilterDokuTyp minus 1.
+    std::array<TypeFilter, DOCUMENT_TYPE_COUNT> types; // By tab; FilterDokuTyp minus 1.
     StatusCondition status;
 };
 

@@ -13,32 +13,32 @@ namespace quelvarn {
 
 namespace {
 
-constexpr char TRENNER = '\\';
-constexpr char ENDE = '|';
+constexpr char SEPARATOR = '\\';
+constexpr char END = '|';
 constexpr std::string_view STATUS_ENTRY = "Status";
-constexpr std::string_view BENUTZDEF = "BenutzDef";
+constexpr std::string_view USER_DEFINED = "BenutzDef";
 constexpr std::string_view ZUSBENUTZDEF = "ZusBenutzDef";
-constexpr std::string_view STRUKTURMERK = "StrukturMerk";
-constexpr std::string_view HAUPTMERKMAL = "Hauptmerkmal_";
-constexpr char ERSTE_EBENE = 'C'; // Features A and B belong to the properties.
+constexpr std::string_view STRUCTURE_COLUMN = "StrukturMerk";
+constexpr std::string_view STRUCTURE_FEATURE = "Hauptmerkmal_";
+constexpr char FIRST_LEVEL = 'C'; // Features A and B belong to the properties.
 
 // How a row of the display table names the column of its step, where its Feldname is not the column.
-struct Feldweg
+struct FieldPath
 {
     std::string_view Feldname;
     std::string_view Benennung;
-    std::string_view spalte;
+    std::string_view column;
 };
-constexpr std::array<Feldweg, 3> TEXTFELDER{{
+constexpr std::array<FieldPath, 3> TEXT_FIELDS{{
     {"DokubezDateiFile", "Dokumentname", "DokuBez"},
     {"DokubezDateiFile", "Dateiname", "Dateiname"},
     {"DokubezDateiFile", "Pfad-u. Dateiname", "filename"},
 }};
 
 // What an entry holds beside its row: the code of the step, or the pattern of a user-defined property once more.
-std::string thirdPart(const FilterSchritt& step)
+std::string thirdPart(const FilterStep& step)
 {
-    return step.Feldname.empty() ? step.Muster : std::to_string(step.code);
+    return step.Feldname.empty() ? step.pattern : std::to_string(step.code);
 }
 
 struct Entry
@@ -48,11 +48,11 @@ struct Entry
 };
 
 // The entries that are stored.
-std::vector<Entry> entries(const Filterzustand& zustand)
+std::vector<Entry> entries(const TypeFilter& state)
 {
-    std::vector<FilterRow> rows = filterRows(zustand);
-    rows.resize(std::min(rows.size(), GESPEICHERTE_SCHRITTE));
-    const std::span<const FilterSchritt> steps = filledSteps(zustand);
+    std::vector<FilterRow> rows = filterRows(state);
+    rows.resize(std::min(rows.size(), SAVED_STEPS));
+    const std::span<const FilterStep> steps = filledSteps(state);
     std::vector<Entry> stored;
     for (std::size_t i = 0; i < rows.size(); ++i)
         stored.push_back({std::move(rows[i]), i < steps.size() ? thirdPart(steps[i]) : std::string()});
@@ -60,75 +60,75 @@ std::vector<Entry> entries(const Filterzustand& zustand)
 }
 
 // Takes the entries of a stored text one by one.
-class Leser
+class EntryReader
 {
 public:
     // False for a damaged entry.
-    bool nimm(std::string_view eintrag)
+    bool take(std::string_view entry)
     {
-        const std::vector<std::string> teile = split(eintrag, TRENNER);
-        if (teile.size() != 4)
+        const std::vector<std::string> parts = split(entry, SEPARATOR);
+        if (parts.size() != 4)
             return false;
-        if (teile[0].empty() && teile[2].empty() && teile[3] == STATUS_ENTRY)
-            return nimmStatus(teile[1]);
-        const FilterRow zeile{teile[0], teile[3], teile[1]};
-        return taken() < GESPEICHERTE_SCHRITTE && passt(zeile) && nimmZeile(zeile, teile[2]);
+        if (parts[0].empty() && parts[2].empty() && parts[3] == STATUS_ENTRY)
+            return takeStatus(parts[1]);
+        const FilterRow row{parts[0], parts[3], parts[1]};
+        return taken() < SAVED_STEPS && fits(row) && takeRow(row, parts[2]);
     }
 
-    GespeicherterFilter ergebnis() && { return std::move(filter_); }
+    SavedFilter result() && { return std::move(filter_); }
 
 private:
     std::size_t taken() const { return static_cast<std::size_t>(filter_.FilterAnzahl) + filter_.ZusBenutzDef.size(); }
 
-    bool nimmStatus(std::string_view ziffern)
+    bool takeStatus(std::string_view digits)
     {
-        const auto istZiffer = [](char zeichen) { return zeichen == '0' || zeichen == '1'; };
-        if (ziffern.size() != ANZAHL_STATUS || !std::ranges::all_of(ziffern, istZiffer))
+        const auto isDigit = [](char character) { return character == '0' || character == '1'; };
+        if (digits.size() != STATUS_COUNT || !std::ranges::all_of(digits, isDigit))
             return false;
-        auto& haken = filter_.ChFilterStat.emplace();
-        std::ranges::transform(ziffern, haken.begin(), [](char zeichen) { return zeichen == '1'; });
+        auto& tick = filter_.ChFilterStat.emplace();
+        std::ranges::transform(digits, tick.begin(), [](char character) { return character == '1'; });
         return true;
     }
 
-    static Filterbereich bereichVon(const FilterRow& zeile)
+    static FilterSection sectionOf(const FilterRow& row)
     {
-        if (zeile.Feldname == BENUTZDEF || zeile.Feldname.starts_with(ZUSBENUTZDEF))
-            return Filterbereich::BenutzDef;
-        const bool merkmal = zeile.Feldname.starts_with(HAUPTMERKMAL) && zeile.Feldname.back() >= ERSTE_EBENE;
-        return merkmal || zeile.Feldname.starts_with(STRUKTURMERK) ? Filterbereich::Struktur
-                                                                   : Filterbereich::Eigenschaften;
+        if (row.Feldname == USER_DEFINED || row.Feldname.starts_with(ZUSBENUTZDEF))
+            return FilterSection::UserDefined;
+        const bool feature = row.Feldname.starts_with(STRUCTURE_FEATURE) && row.Feldname.back() >= FIRST_LEVEL;
+        return feature || row.Feldname.starts_with(STRUCTURE_COLUMN) ? FilterSection::Structure
+                                                                     : FilterSection::Properties;
     }
 
     // The parts of the page do not mix.
-    bool passt(const FilterRow& zeile)
+    bool fits(const FilterRow& row)
     {
-        const Filterbereich bereich = bereichVon(zeile);
+        const FilterSection section = sectionOf(row);
         if (taken() == 0)
-            filter_.bereich = bereich;
-        return filter_.bereich == bereich && !zeile.Feldname.empty();
+            filter_.section = section;
+        return filter_.section == section && !row.Feldname.empty();
     }
 
-    bool nimmZeile(const FilterRow& zeile, std::string_view drittes)
+    bool takeRow(const FilterRow& row, std::string_view third)
     {
-        if (zeile.Feldname == BENUTZDEF)
-            return append({"", zeile.Benennung, CodeText, zeile.Wert});
-        if (zeile.Feldname.starts_with(ZUSBENUTZDEF))
-            return zusatz(zeile);
-        if (zeile.Feldname.starts_with(HAUPTMERKMAL))
-            return (filter_.bereich != Filterbereich::Struktur || istNaechsteEbene(zeile.Feldname)) &&
-                   step(zeile, zeile.Feldname, zeile.Wert, CodeText);
-        if (zeile.Feldname.starts_with(STRUKTURMERK)) {
-            const std::string spalte = zeile.Feldname.substr(STRUKTURMERK.size());
-            return (spalte == "Material" || spalte == "Firma") && step(zeile, spalte, zeile.Wert, CodeText);
+        if (row.Feldname == USER_DEFINED)
+            return append({"", row.Benennung, CodeText, row.value});
+        if (row.Feldname.starts_with(ZUSBENUTZDEF))
+            return addition(row);
+        if (row.Feldname.starts_with(STRUCTURE_FEATURE))
+            return (filter_.section != FilterSection::Structure || isNextLevel(row.Feldname)) &&
+                   step(row, row.Feldname, row.value, CodeText);
+        if (row.Feldname.starts_with(STRUCTURE_COLUMN)) {
+            const std::string column = row.Feldname.substr(STRUCTURE_COLUMN.size());
+            return (column == "Material" || column == "Firma") && step(row, column, row.value, CodeText);
         }
-        return eigenschaft(zeile, drittes);
+        return property(row, third);
     }
 
     // The tree is walked from level C down.
-    bool istNaechsteEbene(std::string_view Feldname) const
+    bool isNextLevel(std::string_view Feldname) const
     {
-        return Feldname.substr(HAUPTMERKMAL.size()) ==
-               std::string(1, static_cast<char>(ERSTE_EBENE + filter_.FilterAnzahl));
+        return Feldname.substr(STRUCTURE_FEATURE.size()) ==
+               std::string(1, static_cast<char>(FIRST_LEVEL + filter_.FilterAnzahl));
     }
 
     bool step(const FilterRow& row, std::string_view column, std::string_view value, int code)
@@ -136,98 +136,98 @@ private:
         return append({std::string(column), std::string(value), code, "", {row.Feldname, row.Benennung}});
     }
 
-    bool append(FilterSchritt neuer)
+    bool append(FilterStep fresh)
     {
-        filter_.FilterSchritte[static_cast<std::size_t>(filter_.FilterAnzahl++)] = std::move(neuer);
+        filter_.FilterSchritte[static_cast<std::size_t>(filter_.FilterAnzahl++)] = std::move(fresh);
         return true;
     }
 
-    bool zusatz(const FilterRow& zeile)
+    bool addition(const FilterRow& row)
     {
-        const auto stelle = std::ranges::find(ZUSATZSPALTEN, zeile.Feldname.substr(ZUSBENUTZDEF.size()));
-        if (stelle == ZUSATZSPALTEN.end())
+        const auto position = std::ranges::find(ADDITIONAL_COLUMNS, row.Feldname.substr(ZUSBENUTZDEF.size()));
+        if (position == ADDITIONAL_COLUMNS.end())
             return false;
         setAdditionalValue(filter_.ZusBenutzDef,
-                           {static_cast<std::size_t>(stelle - ZUSATZSPALTEN.begin()), zeile.Wert, zeile.Benennung});
+                           {static_cast<std::size_t>(position - ADDITIONAL_COLUMNS.begin()), row.value, row.Benennung});
         return true;
     }
 
-    bool eigenschaft(const FilterRow& zeile, std::string_view drittes)
+    bool property(const FilterRow& row, std::string_view third)
     {
         int code = 0;
-        const auto gelesen = std::from_chars(drittes.data(), drittes.data() + drittes.size(), code);
-        if (gelesen.ec != std::errc() || gelesen.ptr != drittes.data() + drittes.size() || code < 0 || code > 99)
+        const auto read = std::from_chars(third.data(), third.data() + third.size(), code);
+        if (read.ec != std::errc() || read.ptr != third.data() + third.size() || code < 0 || code > 99)
             return false;
-        if (const std::string_view spalte = datumsspalte(zeile, code); !spalte.empty())
-            return datum(zeile, spalte, code);
-        const auto textfeld = std::ranges::find_if(TEXTFELDER, [&](const Feldweg& weg) {
-            return weg.Feldname == zeile.Feldname && weg.Benennung == zeile.Benennung;
+        if (const std::string_view column = dateColumn(row, code); !column.empty())
+            return date(row, column, code);
+        const auto textField = std::ranges::find_if(TEXT_FIELDS, [&](const FieldPath& route) {
+            return route.Feldname == row.Feldname && route.Benennung == row.Benennung;
         });
-        const bool quickfilter = zeile.Feldname == "FilternDatum"; // Its second row: Autor or Bearbeiter.
-        const std::string spalte = textfeld != TEXTFELDER.end() ? std::string(textfeld->spalte)
-                                   : quickfilter                ? zeile.Benennung
-                                                                : zeile.Feldname;
-        return !spalte.empty() && zeile.Feldname != "Kalender" && step(zeile, spalte, zeile.Wert, code);
+        const bool quickfilter = row.Feldname == "FilternDatum"; // Its second row: Autor or Bearbeiter.
+        const std::string column = textField != TEXT_FIELDS.end() ? std::string(textField->column)
+                                   : quickfilter                  ? row.Benennung
+                                                                  : row.Feldname;
+        return !column.empty() && row.Feldname != "Kalender" && step(row, column, row.value, code);
     }
 
     // "" when the row is no date.
-    static std::string_view datumsspalte(const FilterRow& zeile, int code)
+    static std::string_view dateColumn(const FilterRow& row, int code)
     {
-        const bool datumszeile = zeile.Feldname == "Kalender" || zeile.Feldname == "FilternDatum";
-        for (const std::string_view spalte : {"Erstellt", "Geaendert"})
-            if ((datumszeile ? zeile.Benennung : zeile.Feldname) == spalte)
-                return spalte;
-        if (code / 10 == CodeErstellt / 10)
+        const bool dateRow = row.Feldname == "Kalender" || row.Feldname == "FilternDatum";
+        for (const std::string_view column : {"Erstellt", "Geaendert"})
+            if ((dateRow ? row.Benennung : row.Feldname) == column)
+                return column;
+        if (code / 10 == CodeCreated / 10)
             return "Erstellt";
-        return code / 10 == CodeGeaendert / 10 ? "Geaendert" : "";
+        return code / 10 == CodeChanged / 10 ? "Geaendert" : "";
     }
 
     // The operator in front of the date counts more than that of the code.
-    bool datum(const FilterRow& zeile, std::string_view spalte, int code)
+    bool date(const FilterRow& row, std::string_view column, int code)
     {
-        const auto [written, tag] = splitOperator(zeile.Wert);
+        const auto [written, day] = splitOperator(row.value);
         const int op = written.value_or(code % 10);
-        const int stamm = spalte == "Erstellt" ? CodeErstellt : CodeGeaendert;
-        return op < static_cast<int>(OPERATORS.size()) && step(zeile, spalte, trim(tag), stamm + op);
+        const int stem = column == "Erstellt" ? CodeCreated : CodeChanged;
+        return op < static_cast<int>(OPERATORS.size()) && step(row, column, trim(day), stem + op);
     }
 
-    GespeicherterFilter filter_;
+    SavedFilter filter_;
 };
 
 } // namespace
 
-std::string alsFilterstring(const Filterzustand& zustand)
+std::string asFilterString(const TypeFilter& state)
 {
     std::string text;
-    for (const auto& [row, third] : entries(zustand))
-        text += fmt::format("{}\\{}\\{}\\{}|", row.Feldname, row.Wert, third, row.Benennung);
-    const auto& haken = zustand.ChFilterStat;
-    if (std::ranges::find(haken, true) == haken.end())
+    for (const auto& [row, third] : entries(state))
+        text += fmt::format("{}\\{}\\{}\\{}|", row.Feldname, row.value, third, row.Benennung);
+    const auto& tick = state.ChFilterStat;
+    if (std::ranges::find(tick, true) == tick.end())
         return text;
-    std::string ziffern;
-    for (const bool gesetzt : haken)
-        ziffern += gesetzt ? '1' : '0';
-    return text + "\\" + ziffern + "\\\\Status|";
+    std::string digits;
+    for (const bool set : tick)
+        digits += set ? '1' : '0';
+    return text + "\\" + digits + "\\\\Status|";
 }
 
-GespeicherterFilter leseFilterstring(std::string_view Filterstring)
+SavedFilter readFilterString(std::string_view Filterstring)
 {
-    Leser leser;
+    EntryReader reader;
     // An entry without its end was cut off.
-    for (std::size_t ende = Filterstring.find(ENDE); ende != std::string_view::npos && ende > 0;
-         ende = Filterstring.find(ENDE)) {
-        if (!leser.nimm(Filterstring.substr(0, ende)))
+    for (std::size_t end = Filterstring.find(END); end != std::string_view::npos && end > 0;
+         end = Filterstring.find(END)) {
+        if (!reader.take(Filterstring.substr(0, end)))
             break;
-        Filterstring.remove_prefix(ende + 1);
+        Filterstring.remove_prefix(end + 1);
     }
-    return std::move(leser).ergebnis();
+    return std::move(reader).result();
 }
 
-bool speicherbar(const Filterzustand& zustand)
+bool storable(const TypeFilter& state)
 {
     const auto whole = [](std::string_view text) { return text.find_first_of("\\|") == std::string_view::npos; };
-    return std::ranges::all_of(entries(zustand), [&](const Entry& entry) {
-        return whole(entry.row.Feldname) && whole(entry.row.Wert) && whole(entry.row.Benennung) && whole(entry.third);
+    return std::ranges::all_of(entries(state), [&](const Entry& entry) {
+        return whole(entry.row.Feldname) && whole(entry.row.value) && whole(entry.row.Benennung) && whole(entry.third);
     });
 }
 

@@ -14,43 +14,43 @@
 namespace quelvarn {
 namespace {
 
-using sql::Datumsfolge;
+using sql::DateOrder;
 
-constexpr int FEHLER_TYPEN = 13;
-constexpr double GROESSTE_GANZZAHL = 1e15;
+constexpr int FAULT_TYPES = 13;
+constexpr double GREATEST_INTEGER = 1e15;
 
-std::string Datumsfragment(std::string_view feld, std::string_view Datum, int code, Datumsfolge folge)
+std::string DateFragment(std::string_view field, std::string_view Date, int code, DateOrder sequence)
 {
-    const auto zeit = parseDatum(Datum);
-    if (!zeit)
-        throw Laufzeitfehler(FEHLER_TYPEN, "Filter", fmt::format("'{}' ist kein Datum.", Datum));
-    const std::string datum = formatDatum(*zeit);
-    const std::string tag = datum.substr(0, 2);
-    const std::string monat = datum.substr(3, 2);
-    const bool tagZuerst = folge == Datumsfolge::TagZuerst;
-    const std::string tagImJahr =
-        fmt::format("#{}/{}/{}", tagZuerst ? tag : monat, tagZuerst ? monat : tag, datum.substr(6, 2));
+    const auto time = parseDate(Date);
+    if (!time)
+        throw RuntimeError(FAULT_TYPES, "Filter", fmt::format("'{}' ist kein Datum.", Date));
+    const std::string date = formatDate(*time);
+    const std::string day = date.substr(0, 2);
+    const std::string month = date.substr(3, 2);
+    const bool dayFirst = sequence == DateOrder::DayFirst;
+    const std::string dayInYear =
+        fmt::format("#{}/{}/{}", dayFirst ? day : month, dayFirst ? month : day, date.substr(6, 2));
 
-    std::string ab = fmt::format("{} >= {} 00:00:00#", feld, tagImJahr);
-    std::string bis = fmt::format("{} <= {} 23:59:59#", feld, tagImJahr);
+    std::string from = fmt::format("{} >= {} 00:00:00#", field, dayInYear);
+    std::string until = fmt::format("{} <= {} 23:59:59#", field, dayInYear);
     switch (code % 10) {
     case 0:
-        return ab;
+        return from;
     case 1:
-        return ab + " AND " + bis;
+        return from + " AND " + until;
     case 2:
-        return bis;
+        return until;
     default:
         return {};
     }
 }
 
-std::int64_t ganzzahl(std::string_view Wert)
+std::int64_t integer(std::string_view value)
 {
-    const auto zahl = parseZahl(Wert);
-    if (!zahl || std::abs(*zahl) > GROESSTE_GANZZAHL)
-        throw Laufzeitfehler(FEHLER_TYPEN, "Filter", fmt::format("'{}' ist keine ganze Zahl.", Wert));
-    return static_cast<std::int64_t>(std::nearbyint(*zahl));
+    const auto number = parseNumber(value);
+    if (!number || std::abs(*number) > GREATEST_INTEGER)
+        throw RuntimeError(FAULT_TYPES, "Filter", fmt::format("'{}' ist keine ganze Zahl.", value));
+    return static_cast<std::int64_t>(std::nearbyint(*number));
 }
 
 std::string_view nameColumn(std::string_view Feldname)
@@ -58,31 +58,31 @@ std::string_view nameColumn(std::string_view Feldname)
     return Feldname == "Dateiname" || Feldname == "filename" ? Feldname : "DokuBez";
 }
 
-std::string doubled(std::string_view Wert)
+std::string doubled(std::string_view value)
 {
-    return replaceAll(Wert, "'", "''");
+    return replaceAll(value, "'", "''");
 }
 
 // The text of a comparison with a pattern, and its condition; nothing for "".
-Schrittfragment textFragment(const std::string& text, std::string_view column, std::string_view pattern)
+StepFragment textFragment(const std::string& text, std::string_view column, std::string_view pattern)
 {
-    return text.empty() ? Schrittfragment{} : Schrittfragment{text, text, valueCondition(column, pattern)};
+    return text.empty() ? StepFragment{} : StepFragment{text, text, valueCondition(column, pattern)};
 }
 
-Schrittfragment zahlfragment(const FilterSchritt& schritt)
+StepFragment numberFragment(const FilterStep& step)
 {
-    const std::string text = NumberFragment(schritt.Feldname, schritt.Wert);
-    return {text, text, sql::equal(schritt.Feldname, ganzzahl(schritt.Wert))};
+    const std::string text = NumberFragment(step.Feldname, step.value);
+    return {text, text, sql::equal(step.Feldname, integer(step.value))};
 }
 
-Schrittfragment datumsfragmente(const std::string& filterform, const std::string& sqlform)
+StepFragment dateFragments(const std::string& filterForm, const std::string& sqlForm)
 {
-    return {filterform, sqlform, sql::parseBedingung(filterform)};
+    return {filterForm, sqlForm, sql::parseCondition(filterForm)};
 }
 
-sql::AusdruckZeiger limit(const std::string& column, sql::Vergleich comparison, double value)
+sql::ExpressionPointer limit(const std::string& column, sql::Comparison comparison, double value)
 {
-    return std::make_unique<sql::Ausdruck>(sql::Ausdruck{sql::Bedingung{column, comparison, value}});
+    return std::make_unique<sql::Expression>(sql::Expression{sql::Condition{column, comparison, value}});
 }
 
 std::string mainValueColumn(std::size_t number)
@@ -92,133 +92,132 @@ std::string mainValueColumn(std::size_t number)
 
 } // namespace
 
-std::string LikeFragment(std::string_view Feldname, std::string_view Wert)
+std::string LikeFragment(std::string_view Feldname, std::string_view value)
 {
-    return fmt::format("{} Like '{}'", Feldname, doubled(Wert));
+    return fmt::format("{} Like '{}'", Feldname, doubled(value));
 }
 
-std::string NumberFragment(std::string_view Feldname, std::string_view Wert)
+std::string NumberFragment(std::string_view Feldname, std::string_view value)
 {
-    return fmt::format("{} = {}", Feldname, ganzzahl(Wert));
+    return fmt::format("{} = {}", Feldname, integer(value));
 }
 
-std::string DateiFragment(std::string_view Feldname, std::string_view Wert)
+std::string DateiFragment(std::string_view Feldname, std::string_view value)
 {
-    return NameLike(Feldname, doubled(Wert));
+    return NameLike(Feldname, doubled(value));
 }
 
-std::string DateiFragmentWennGefuellt(std::string_view Feldname, std::string_view Wert)
+std::string DateiFragmentWennGefuellt(std::string_view Feldname, std::string_view value)
 {
-    return NameLikeNichtLeer(Feldname, doubled(Wert));
+    return NameLikeNichtLeer(Feldname, doubled(value));
 }
 
-std::string ErstelltFilterFragment(std::string_view Datum, int code)
+std::string ErstelltFilterFragment(std::string_view Date, int code)
 {
-    return Datumsfragment("Erstellt", Datum, code, Datumsfolge::TagZuerst);
+    return DateFragment("Erstellt", Date, code, DateOrder::DayFirst);
 }
 
-std::string ErstelltSqlFragment(std::string_view Datum, int code)
+std::string ErstelltSqlFragment(std::string_view Date, int code)
 {
-    return Datumsfragment("Erstellt", Datum, code, Datumsfolge::MonatZuerst);
+    return DateFragment("Erstellt", Date, code, DateOrder::MonthFirst);
 }
 
-std::string GeaendertFilterFragment(std::string_view Datum, int code)
+std::string GeaendertFilterFragment(std::string_view Date, int code)
 {
-    return Datumsfragment("Geaendert", Datum, code, Datumsfolge::TagZuerst);
+    return DateFragment("Geaendert", Date, code, DateOrder::DayFirst);
 }
 
-std::string GeaendertSqlFragment(std::string_view Datum, int code)
+std::string GeaendertSqlFragment(std::string_view Date, int code)
 {
-    return Datumsfragment("Geaendert", Datum, code, Datumsfolge::MonatZuerst);
+    return DateFragment("Geaendert", Date, code, DateOrder::MonthFirst);
 }
 
-std::string HauptwertFragmente(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& grenzen, bool hinterFilter)
+std::string mainValueFragments(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds, bool hinterFilter)
 {
     const auto number = [](Decimal value) { return replaceAll(value.text(), ",", "."); };
     std::string text;
-    for (std::size_t i = 0; i < grenzen.size(); ++i) {
-        if (!grenzen[i].gesetzt())
+    for (std::size_t i = 0; i < bounds.size(); ++i) {
+        if (!bounds[i].set())
             continue;
         text += hinterFilter || !text.empty() ? " AND " : "";
-        text += fmt::format("{0} >= {1} AND {0} <= {2}", mainValueColumn(i), number(grenzen[i].MinWert),
-                            number(grenzen[i].MaxWert));
+        text += fmt::format("{0} >= {1} AND {0} <= {2}", mainValueColumn(i), number(bounds[i].MinWert),
+                            number(bounds[i].MaxWert));
     }
     return text;
 }
 
-std::vector<sql::AusdruckZeiger> mainValueConditions(const std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>& bounds)
+std::vector<sql::ExpressionPointer> mainValueConditions(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds)
 {
-    std::vector<sql::AusdruckZeiger> conditions;
+    std::vector<sql::ExpressionPointer> conditions;
     for (std::size_t i = 0; i < bounds.size(); ++i) {
-        if (!bounds[i].gesetzt())
+        if (!bounds[i].set())
             continue;
-        conditions.push_back(
-            limit(mainValueColumn(i), sql::Vergleich::GroesserGleich, bounds[i].MinWert.firstDouble()));
-        conditions.push_back(limit(mainValueColumn(i), sql::Vergleich::Kleiner, bounds[i].MaxWert.behindDoubles()));
+        conditions.push_back(limit(mainValueColumn(i), sql::Comparison::GreaterEqual, bounds[i].MinWert.firstDouble()));
+        conditions.push_back(limit(mainValueColumn(i), sql::Comparison::Less, bounds[i].MaxWert.behindDoubles()));
     }
     return conditions;
 }
 
-Schrittfragment schrittfragment(const FilterSchritt& schritt, int nummer)
+StepFragment stepFragment(const FilterStep& step, int number)
 {
-    const std::string& wert = schritt.Wert;
-    switch (schritt.code) {
+    const std::string& value = step.value;
+    switch (step.code) {
     case CodeText:
-        return strukturfragment(schritt);
-    case CodeErstellt:
-    case CodeErstellt + 1:
-    case CodeErstellt + 2:
-        return datumsfragmente(ErstelltFilterFragment(wert, schritt.code), ErstelltSqlFragment(wert, schritt.code));
-    case CodeGeaendert:
-    case CodeGeaendert + 1:
-    case CodeGeaendert + 2:
-        return datumsfragmente(GeaendertFilterFragment(wert, schritt.code), GeaendertSqlFragment(wert, schritt.code));
-    case CodeZahl:
-        return zahlfragment(schritt);
-    case CodeDatei:
-    case CodeDateiWennGefuellt:
-        if (nummer > 0)
+        return structureFragment(step);
+    case CodeCreated:
+    case CodeCreated + 1:
+    case CodeCreated + 2:
+        return dateFragments(ErstelltFilterFragment(value, step.code), ErstelltSqlFragment(value, step.code));
+    case CodeChanged:
+    case CodeChanged + 1:
+    case CodeChanged + 2:
+        return dateFragments(GeaendertFilterFragment(value, step.code), GeaendertSqlFragment(value, step.code));
+    case CodeNumber:
+        return numberFragment(step);
+    case CodeFile:
+    case CodeFileIfFilled:
+        if (number > 0)
             return {};
-        return textFragment(schritt.code == CodeDatei ? DateiFragment(schritt.Feldname, wert)
-                                                      : DateiFragmentWennGefuellt(schritt.Feldname, wert),
-                            nameColumn(schritt.Feldname), wert);
+        return textFragment(step.code == CodeFile ? DateiFragment(step.Feldname, value)
+                                                  : DateiFragmentWennGefuellt(step.Feldname, value),
+                            nameColumn(step.Feldname), value);
     default:
         return {};
     }
 }
 
-Schrittfragment strukturfragment(const FilterSchritt& schritt)
+StepFragment structureFragment(const FilterStep& step)
 {
-    if (schritt.Wert.empty())
+    if (step.value.empty())
         return {};
-    return textFragment(LikeFragment(schritt.Feldname, schritt.Wert), schritt.Feldname, schritt.Wert);
+    return textFragment(LikeFragment(step.Feldname, step.value), step.Feldname, step.value);
 }
 
-sql::AusdruckZeiger valueCondition(std::string_view column, std::string_view value)
+sql::ExpressionPointer valueCondition(std::string_view column, std::string_view value)
 {
     if (value.find('*') == std::string_view::npos)
         return sql::equal(column, value);
     auto pattern = sql::like(column, value, Wildcards::Star);
     if (value.ends_with('*'))
         return pattern;
-    std::vector<sql::AusdruckZeiger> either; // A star of the stored value is one, too.
+    std::vector<sql::ExpressionPointer> either; // A star of the stored value is one, too.
     either.push_back(sql::equal(column, value));
     either.push_back(std::move(pattern));
     return sql::any(std::move(either));
 }
 
-sql::AusdruckZeiger filterCondition(std::string_view FilterString)
+sql::ExpressionPointer filterCondition(std::string_view FilterString)
 {
-    sql::AusdruckZeiger condition = sql::parseBedingung(FilterString, Datumsfolge::MonatZuerst, Wildcards::Star);
-    const auto asMeant = [](sql::AusdruckZeiger& part) {
-        const auto* comparison = std::get_if<sql::Bedingung>(&part->inhalt);
-        if (comparison && comparison->vergleich == sql::Vergleich::Like)
-            part = valueCondition(comparison->spalte, alsText(comparison->wert));
+    sql::ExpressionPointer condition = sql::parseCondition(FilterString, DateOrder::MonthFirst, Wildcards::Star);
+    const auto asMeant = [](sql::ExpressionPointer& part) {
+        const auto* comparison = std::get_if<sql::Condition>(&part->content);
+        if (comparison && comparison->comparison == sql::Comparison::Like)
+            part = valueCondition(comparison->column, asText(comparison->value));
     };
     if (!condition)
         return nullptr;
-    if (auto* all = std::get_if<sql::Und>(&condition->inhalt))
-        std::ranges::for_each(all->teile, asMeant);
+    if (auto* all = std::get_if<sql::And>(&condition->content))
+        std::ranges::for_each(all->parts, asMeant);
     else
         asMeant(condition);
     return condition;

@@ -4,7 +4,7 @@ namespace quelvarn {
 
 StatusCondition forgetFilter(FilterState& filter, int tab)
 {
-    leereFilter(filter.typen[static_cast<std::size_t>(tab)]);
+    clearFilter(filter.types[static_cast<std::size_t>(tab)]);
     return filter.status;
 }
 
@@ -17,10 +17,10 @@ void liftFilter(FilterState& filter, DocumentTables& tables, int tab)
     tables.announceRows(tab);
 }
 
-void ResetAllFilters(Filterkontext& kontext)
+void ResetAllFilters(FilterContext& context)
 {
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab)
-        liftFilter(kontext.filter, kontext.tables, tab);
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab)
+        liftFilter(context.filter, context.tables, tab);
 }
 
 } // namespace quelvarn

@@ -12,122 +12,121 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view HAUPTWERTE = "abcdefg";
-constexpr const char* FEHLER_LISTEN = "Fehler beim Füllen der ComboBoxen für Hauptwerte a bis g!";
+constexpr std::string_view MAIN_VALUES = "abcdefg";
+constexpr const char* FAULT_LISTS = "Fehler beim Füllen der ComboBoxen für Hauptwerte a bis g!";
 
-char buchstabe(int hauptwert)
+char letter(int mainValue)
 {
-    return HAUPTWERTE[static_cast<std::size_t>(hauptwert)];
+    return MAIN_VALUES[static_cast<std::size_t>(mainValue)];
 }
 
 // Numbers that count as the same one stand there once.
-Werteliste zahlenliste(const std::vector<double>& zahlen)
+ValueList numberList(const std::vector<double>& numbers)
 {
     std::vector<Decimal> values;
-    for (const double zahl : zahlen) {
-        const auto value = Decimal::from(zahl);
+    for (const double number : numbers) {
+        const auto value = Decimal::from(number);
         if (value && !value->isZero() && (values.empty() || values.back() != *value))
             values.push_back(*value);
     }
-    std::vector<std::string> texte(values.size());
-    std::ranges::transform(values, texte.begin(), &Decimal::text);
-    return werteliste(std::move(texte));
+    std::vector<std::string> texts(values.size());
+    std::ranges::transform(values, texts.begin(), &Decimal::text);
+    return valueList(std::move(texts));
 }
 
 std::optional<Decimal> decimalFrom(std::string_view text)
 {
-    const auto number = parseZahl(text);
+    const auto number = parseNumber(text);
     return number ? Decimal::from(*number) : std::nullopt;
 }
 
 } // namespace
 
-void Strukturbereich::hauptwertGewaehlt(int hauptwert)
+void StructureSection::mainValueChosen(int mainValue)
 {
-    hauptwert_ = hauptwert;
-    fuelleHauptwerte();
-    kontext_.operations.changed(Part::FilterPage);
+    mainValue_ = mainValue;
+    fillMainValues();
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Strukturbereich::setzeAnzahlWerteZeigen(bool gesetzt)
+void StructureSection::showValueCount(bool set)
 {
-    ChShowAnzWerte_ = gesetzt;
-    fuelleHauptwerte();
-    kontext_.operations.changed(Part::FilterPage);
+    ChShowAnzWerte_ = set;
+    fillMainValues();
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Strukturbereich::setzeAnzahlAliasZeigen(bool gesetzt)
+void StructureSection::showAliasCount(bool set)
 {
-    ChShowAnzAlias_ = gesetzt;
-    fuelleHauptwerte();
-    kontext_.operations.changed(Part::FilterPage);
+    ChShowAnzAlias_ = set;
+    fillMainValues();
+    context_.operations.changed(Part::FilterPage);
 }
 
 // Each list by itself: one that cannot be filled stays empty.
-void Strukturbereich::fuelleHauptwerte()
+void StructureSection::fillMainValues()
 {
-    werte_ = alias_ = {};
-    Meldungen& meldungen = kontext_.ports().meldungen;
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Hauptwerte werden gelesen ...");
-    const std::string wert = fmt::format("Hauptwert_{}", buchstabe(hauptwert_));
-    const std::string alias = fmt::format("Alias_{}", buchstabe(hauptwert_));
-    std::optional<std::vector<Bookmark>> zeilen;
-    gesichert(meldungen, "SE-Filtern: ComboBoxen für Hauptwerte a bis g", FEHLER_LISTEN, [&] {
-        if (!tabelle().ladeSpalten(std::vector{wert, alias}, std::ref(arbeit)))
+    values_ = alias_ = {};
+    Boxes& boxes = context_.ports().boxes;
+    LongWork work(context_.ports().progress, "Hauptwerte werden gelesen ...");
+    const std::string value = fmt::format("Hauptwert_{}", letter(mainValue_));
+    const std::string alias = fmt::format("Alias_{}", letter(mainValue_));
+    std::optional<std::vector<Bookmark>> rows;
+    guarded(boxes, "SE-Filtern: ComboBoxen für Hauptwerte a bis g", FAULT_LISTS, [&] {
+        if (!table().loadColumns(std::vector{value, alias}, std::ref(work)))
             return;
-        zeilen = tabelle().waehle(StrukturBedingung_, std::ref(arbeit));
-        if (zeilen && ChShowAnzWerte_)
-            werte_ = zahlenliste(tabelle().verschiedeneZahlen(wert, *zeilen));
+        rows = table().choose(StrukturBedingung_, std::ref(work));
+        if (rows && ChShowAnzWerte_)
+            values_ = numberList(table().distinctNumbers(value, *rows));
     });
-    if (!zeilen)
+    if (!rows)
         return;
-    gesichert(meldungen, "SE-Filtern: Listen für Alias a bis g", FEHLER_LISTEN, [&] {
-        alias_ = werteliste(
-            tabelle().verschiedeneTexte(alias, *zeilen, [](std::string_view text) { return !text.empty(); }));
+    guarded(boxes, "SE-Filtern: Listen für Alias a bis g", FAULT_LISTS, [&] {
+        alias_ = valueList(table().distinctTexts(alias, *rows, [](std::string_view text) { return !text.empty(); }));
         if (!ChShowAnzAlias_)
-            alias_.anzahl.clear();
+            alias_.count.clear();
     });
 }
 
-void Strukturbereich::hauptwertUebernehmen(std::string_view CbHW, std::string_view TextBB)
+void StructureSection::adoptMainValue(std::string_view CbHW, std::string_view TextBB)
 {
     if (!SperreHauptwert_)
         return;
-    const auto wert = decimalFrom(CbHW);
+    const auto value = decimalFrom(CbHW);
     const auto band = trim(TextBB).empty() ? std::optional(Decimal()) : decimalFrom(TextBB);
-    const auto MinWert = wert && band ? wert->minus(*band) : std::nullopt;
-    const auto MaxWert = wert && band ? wert->plus(*band) : std::nullopt;
+    const auto MinWert = value && band ? value->minus(*band) : std::nullopt;
+    const auto MaxWert = value && band ? value->plus(*band) : std::nullopt;
     if (!MinWert || !MaxWert) {
-        kontext_.ports().meldungen.warnung("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", wert ? TextBB : CbHW));
+        context_.ports().boxes.warn("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", value ? TextBB : CbHW));
         return;
     }
-    Filterzustand& zustand = kontext_.zustand();
-    zustand.HauptwertBereich[static_cast<std::size_t>(hauptwert_)] = {*MinWert, *MaxWert};
-    zustand.HauptwertAktiv = true;
+    TypeFilter& state = context_.state();
+    state.HauptwertBereich[static_cast<std::size_t>(mainValue_)] = {*MinWert, *MaxWert};
+    state.HauptwertAktiv = true;
     SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
-    kontext_.operations.changed(Part::FilterPage);
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Strukturbereich::leereHauptwerte()
+void StructureSection::clearMainValues()
 {
-    ClearHauptwertBereich(kontext_.zustand());
-    kontext_.zustand().HauptwertAktiv = false;
-    kontext_.operations.changed(Part::FilterPage);
+    ClearHauptwertBereich(context_.state());
+    context_.state().HauptwertAktiv = false;
+    context_.operations.changed(Part::FilterPage);
 }
 
-std::string Strukturbereich::hauptwertName(int hauptwert) const
+std::string StructureSection::mainValueName(int mainValue) const
 {
-    return fmt::format("Hauptwert {}", buchstabe(hauptwert));
+    return fmt::format("Hauptwert {}", letter(mainValue));
 }
 
-std::string Strukturbereich::hauptwertBand(int hauptwert) const
+std::string StructureSection::mainValueBand(int mainValue) const
 {
-    const Hauptwertgrenzen& grenzen = kontext_.zustand().HauptwertBereich[static_cast<std::size_t>(hauptwert)];
-    if (!grenzen.gesetzt())
+    const MainValueBand& bounds = context_.state().HauptwertBereich[static_cast<std::size_t>(mainValue)];
+    if (!bounds.set())
         return {};
-    if (grenzen.MinWert == grenzen.MaxWert)
-        return grenzen.MinWert.text();
-    return fmt::format("{} - {}", grenzen.MinWert.text(), grenzen.MaxWert.text());
+    if (bounds.MinWert == bounds.MaxWert)
+        return bounds.MinWert.text();
+    return fmt::format("{} - {}", bounds.MinWert.text(), bounds.MaxWert.text());
 }
 
 } // namespace quelvarn

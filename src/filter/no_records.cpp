@@ -7,26 +7,26 @@
 
 namespace quelvarn {
 
-void ReportNoRecords(Filterkontext& kontext, int schritt)
+void ReportNoRecords(FilterContext& context, int step)
 {
-    const bool mitStatus = !kontext.filter.status.StatusFilter.empty();
+    const bool withStatus = !context.filter.status.StatusFilter.empty();
     std::string text;
-    if (schritt > 1)
+    if (step > 1)
         text = fmt::format("Filter {}:\nEs gibt keine Datensätze mit diesen Filtervorgaben{}\n"
                            "Es wird das Ergebnis bis Filter {} angezeigt.\n",
-                           schritt, mitStatus ? "\nunter Berücksichtigung der Status-Werte!" : "!", schritt - 1);
+                           step, withStatus ? "\nunter Berücksichtigung der Status-Werte!" : "!", step - 1);
     else
         text = fmt::format("Es gibt keine Datensätze mit diesen Filtervorgaben!{}\n\n",
-                           mitStatus ? "\nunter Berücksichtigung der Status-Werte!" : "");
-    kontext.ports().meldungen.warnung("Filtervorgaben",
-                                      text + zeilen({"Mögliche Ursache:", "- Sie haben keine Zugriffsberechtigung.",
-                                                     "- Es ist ein <Neuaufbau> erforderlich."}));
+                           withStatus ? "\nunter Berücksichtigung der Status-Werte!" : "");
+    context.ports().boxes.warn("Filtervorgaben",
+                               text + lines({"Mögliche Ursache:", "- Sie haben keine Zugriffsberechtigung.",
+                                             "- Es ist ein <Neuaufbau> erforderlich."}));
 }
 
-void reportStepsWithoutRows(Filterkontext& kontext)
+void reportStepsWithoutRows(FilterContext& context)
 {
-    for (const int schritt : std::exchange(kontext.stepsWithoutRows, {}))
-        ReportNoRecords(kontext, schritt);
+    for (const int step : std::exchange(context.stepsWithoutRows, {}))
+        ReportNoRecords(context, step);
 }
 
 } // namespace quelvarn

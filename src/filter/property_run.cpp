@@ -5,27 +5,27 @@
 namespace quelvarn {
 namespace {
 
-constexpr int SCHRITTE_OHNE_STRUKTUR = 5;
+constexpr int STEPS_WITHOUT_STRUCTURE = 5;
 
 } // namespace
 
-bool ApplyPropertyFilter(Filterkontext& kontext)
+bool ApplyPropertyFilter(FilterContext& context)
 {
-    Filterzustand& zustand = kontext.zustand();
-    const StatusCondition& status = kontext.filter.status;
-    if (zustand.FilterAnzahl > SCHRITTE_OHNE_STRUKTUR)
+    TypeFilter& state = context.state();
+    const StatusCondition& status = context.filter.status;
+    if (state.FilterAnzahl > STEPS_WITHOUT_STRUCTURE)
         return false;
-    if (zustand.FilterSchritte[0].Wert.empty() && status.StatusFilter.empty())
+    if (state.FilterSchritte[0].value.empty() && status.StatusFilter.empty())
         return false; // An empty filter changes no rows.
-    return laufeOderWieVorher(kontext, [&] {
-        std::vector<Kettenglied> kette;
-        if (!gesichert(kontext.ports().meldungen, "Erstellen Filterstring", "Fehler beim Erstellen Filterstring!",
-                       [&] { kette = bildeKette(zustand, schrittfragment); }))
+    return runOrKeep(context, [&] {
+        std::vector<ChainLink> chain;
+        if (!guarded(context.ports().boxes, "Erstellen Filterstring", "Fehler beim Erstellen Filterstring!",
+                     [&] { chain = formChain(state, stepFragment); }))
             return false;
-        if (!kette.empty())
-            return laufeKette(kontext, kette, status);
-        zustand.FilterString.clear();
-        return setzeFilter(kontext, Kettenglied().behind(status));
+        if (!chain.empty())
+            return runChain(context, chain, status);
+        state.FilterString.clear();
+        return setFilter(context, ChainLink().behind(status));
     });
 }
 

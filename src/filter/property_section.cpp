@@ -15,14 +15,14 @@
 namespace quelvarn {
 namespace {
 
-struct Eigenschaft
+struct Property
 {
-    std::string_view feld;
-    bool nurBlankGilt; // A value of blanks alone is listed.
+    std::string_view field;
+    bool onlyBlankCounts; // A value of blanks alone is listed.
 };
 
 // By the index of CbEigen, minus 1.
-constexpr std::array<Eigenschaft, ANZAHL_EIGENSCHAFTEN> EIGENSCHAFTEN{{
+constexpr std::array<Property, PROPERTY_COUNT> PROPERTIES{{
     {"Projekt", false},
     {"Titel", false},
     {"Thema", false},
@@ -38,101 +38,101 @@ constexpr std::array<Eigenschaft, ANZAHL_EIGENSCHAFTEN> EIGENSCHAFTEN{{
 }};
 
 // Those columns of the lists that the table has; one that it lacks is a fault of its own list.
-std::vector<std::string> spaltenDerListen(const Recordset& tabelle)
+std::vector<std::string> columnsOfLists(const Recordset& table)
 {
-    std::vector<std::string> spalten{"Status"};
-    for (const Eigenschaft& eigenschaft : EIGENSCHAFTEN)
-        spalten.emplace_back(eigenschaft.feld);
-    std::erase_if(spalten, [&](const std::string& name) { return !tabelle.hatFeld(name); });
-    return spalten;
+    std::vector<std::string> columns{"Status"};
+    for (const Property& property : PROPERTIES)
+        columns.emplace_back(property.field);
+    std::erase_if(columns, [&](const std::string& name) { return !table.hasField(name); });
+    return columns;
 }
 
 } // namespace
 
-Eigenschaftsbereich::Eigenschaftsbereich(Filterkontext& kontext) : kontext_(kontext)
+PropertySection::PropertySection(FilterContext& context) : context_(context)
 {
-    leere();
+    clear();
 }
 
-std::string Eigenschaftsbereich::bezeichnung(int index) const
+std::string PropertySection::label(int index) const
 {
-    return anzeigename(kontext_.session, EIGENSCHAFTEN[static_cast<std::size_t>(index - 1)].feld);
+    return displayName(context_.session, PROPERTIES[static_cast<std::size_t>(index - 1)].field);
 }
 
-void Eigenschaftsbereich::wertGewaehlt(int index, std::string_view wert)
+void PropertySection::valueChosen(int index, std::string_view value)
 {
-    if (wert.empty())
+    if (value.empty())
         return;
-    const std::string_view feld = EIGENSCHAFTEN[static_cast<std::size_t>(index - 1)].feld;
-    AddFilterStep(kontext_, wert, feld, 0, {"", bezeichnung(index)});
-    kontext_.operations.changed(Part::FilterPage);
+    const std::string_view field = PROPERTIES[static_cast<std::size_t>(index - 1)].field;
+    AddFilterStep(context_, value, field, 0, {"", label(index)});
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Eigenschaftsbereich::datumGewaehlt(const Zeitpunkt& tag)
+void PropertySection::dateChosen(const DateTime& day)
 {
-    const std::string feld = OpDat_ == 1 ? "Geaendert" : "Erstellt";
+    const std::string field = OpDat_ == 1 ? "Geaendert" : "Erstellt";
     const int Operator = OpDatBegr_ == 0 || OpDatBegr_ == 1 ? OpDatBegr_ : 2;
-    AddFilterStep(kontext_, formatDatum(tag), feld, Operator, {"Kalender", feld});
-    kontext_.operations.changed(Part::FilterPage);
+    AddFilterStep(context_, formatDate(day), field, Operator, {"Kalender", field});
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Eigenschaftsbereich::statusGewaehlt(int status, bool gesetzt)
+void PropertySection::statusChosen(int status, bool set)
 {
-    kontext_.zustand().ChFilterStat[static_cast<std::size_t>(status)] = gesetzt;
-    BuildStatusFilter(kontext_.filter, kontext_.tab);
-    kontext_.operations.changed(Part::FilterPage);
+    context_.state().ChFilterStat[static_cast<std::size_t>(status)] = set;
+    BuildStatusFilter(context_.filter, context_.tab);
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Eigenschaftsbereich::leere()
+void PropertySection::clear()
 {
-    listen_ = {};
-    statusVorhanden_.fill(true);
+    lists_ = {};
+    statusExists_.fill(true);
 }
 
-void Eigenschaftsbereich::FilterListenSchmal(std::string_view FilterString)
+void PropertySection::FilterListenSchmal(std::string_view FilterString)
 {
-    leere();
-    Recordset& tabelle = kontext_.table().rows();
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Filterlisten werden gefüllt ...");
-    if (!tabelle.ladeSpalten(spaltenDerListen(tabelle), std::ref(arbeit)))
+    clear();
+    Recordset& table = context_.table().rows();
+    LongWork work(context_.ports().progress, "Filterlisten werden gefüllt ...");
+    if (!table.loadColumns(columnsOfLists(table), std::ref(work)))
         return;
     RowFilter filter;
     if (SharedCondition condition = filterCondition(FilterString))
         filter.conditions.push_back(std::move(condition));
-    fuelleStatus(tabelle, filter);
-    if (SharedCondition status = sql::statusScope(kontext_.filter.status.StatusFilterWhere))
+    fillStatus(table, filter);
+    if (SharedCondition status = sql::statusScope(context_.filter.status.StatusFilterWhere))
         filter.conditions.push_back(std::move(status));
-    const auto zeilen = tabelle.waehle(filter, std::ref(arbeit));
-    if (!zeilen)
+    const auto rows = table.choose(filter, std::ref(work));
+    if (!rows)
         return;
-    std::exception_ptr erster;
-    for (std::size_t i = 0; i < EIGENSCHAFTEN.size() && arbeit(i, EIGENSCHAFTEN.size()); ++i) {
+    std::exception_ptr first;
+    for (std::size_t i = 0; i < PROPERTIES.size() && work(i, PROPERTIES.size()); ++i) {
         try {
-            fuelleListe(i, tabelle, *zeilen);
-        } catch (const Laufzeitfehler&) {
-            erster = erster ? erster : std::current_exception();
+            fillList(i, table, *rows);
+        } catch (const RuntimeError&) {
+            first = first ? first : std::current_exception();
         }
     }
-    if (erster)
-        std::rethrow_exception(erster);
+    if (first)
+        std::rethrow_exception(first);
 }
 
-void Eigenschaftsbereich::fuelleStatus(Recordset& tabelle, const RowFilter& filter)
+void PropertySection::fillStatus(Recordset& table, const RowFilter& filter)
 {
-    const auto zeilen = tabelle.waehle(filter);
-    statusVorhanden_.fill(false);
-    for (const double status : tabelle.verschiedeneZahlen("Status", *zeilen))
-        if (status >= 0 && status < ANZAHL_STATUS)
-            statusVorhanden_[static_cast<std::size_t>(status)] = true;
+    const auto rows = table.choose(filter);
+    statusExists_.fill(false);
+    for (const double status : table.distinctNumbers("Status", *rows))
+        if (status >= 0 && status < STATUS_COUNT)
+            statusExists_[static_cast<std::size_t>(status)] = true;
 }
 
-void Eigenschaftsbereich::fuelleListe(std::size_t nummer, Recordset& tabelle, std::span<const Bookmark> zeilen)
+void PropertySection::fillList(std::size_t number, Recordset& table, std::span<const Bookmark> rows)
 {
-    const auto [feld, nurBlankGilt] = EIGENSCHAFTEN[nummer];
-    const auto gilt = [nurBlankGilt = nurBlankGilt](std::string_view text) {
-        return !(nurBlankGilt ? text : trimRightBlanks(text)).empty();
+    const auto [field, onlyBlankCounts] = PROPERTIES[number];
+    const auto counts = [onlyBlankCounts = onlyBlankCounts](std::string_view text) {
+        return !(onlyBlankCounts ? text : trimRightBlanks(text)).empty();
     };
-    listen_[nummer] = werteliste(tabelle.verschiedeneTexte(feld, zeilen, gilt));
+    lists_[number] = valueList(table.distinctTexts(field, rows, counts));
 }
 
 } // namespace quelvarn

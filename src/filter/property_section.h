@@ -9,20 +9,20 @@
 
 namespace quelvarn {
 
-inline constexpr int ANZAHL_EIGENSCHAFTEN = 12;
+inline constexpr int PROPERTY_COUNT = 12;
 
 // Tab 0 of the filter page: twelve properties, statuses, dates.
-class Eigenschaftsbereich
+class PropertySection
 {
 public:
-    explicit Eigenschaftsbereich(Filterkontext& kontext);
+    explicit PropertySection(FilterContext& context);
 
     // --- operations ---
-    void wertGewaehlt(int index, std::string_view wert); // CbEigen(1) to CbEigen(12)
-    void datumGewaehlt(const Zeitpunkt& tag);            // MonthViewEigen
-    void setzeDatumsfeld(int OpDat) { OpDat_ = OpDat; }  // 0 Erstellt, 1 Geaendert
-    void setzeBegrenzung(int OpDatBegr) { OpDatBegr_ = OpDatBegr; }
-    void statusGewaehlt(int status, bool gesetzt); // ChFilterStat
+    void valueChosen(int index, std::string_view value); // CbEigen(1) to CbEigen(12)
+    void dateChosen(const DateTime& day);                // MonthViewEigen
+    void setDateField(int OpDat) { OpDat_ = OpDat; }     // 0 Erstellt, 1 Geaendert
+    void setBound(int OpDatBegr) { OpDatBegr_ = OpDatBegr; }
+    void statusChosen(int status, bool set); // ChFilterStat
 
     // --- mechanisms of the page; a fault passes through when the lists that can be filled are ---
     // Read from the columns of the open table. Reading given up leaves them empty.
@@ -31,21 +31,21 @@ public:
     void FilterListenSchmal(std::string_view FilterString); // All lists under the running filter.
 
     // --- state ---
-    const Werteliste& liste(int index) const { return listen_[static_cast<std::size_t>(index - 1)]; }
-    std::string bezeichnung(int index) const; // LblProjektCb and its like
+    const ValueList& list(int index) const { return lists_[static_cast<std::size_t>(index - 1)]; }
+    std::string label(int index) const; // LblProjektCb and its like
     int OpDat() const { return OpDat_; }
     int OpDatBegr() const { return OpDatBegr_; }
     // Some row under the running filter has it; whether it is ticked does not matter.
-    bool statusVorhanden(int status) const { return statusVorhanden_[static_cast<std::size_t>(status)]; }
+    bool statusExists(int status) const { return statusExists_[static_cast<std::size_t>(status)]; }
 
 private:
-    void leere();
-    void fuelleStatus(Recordset& tabelle, const RowFilter& filter);
-    void fuelleListe(std::size_t nummer, Recordset& tabelle, std::span<const Bookmark> zeilen);
+    void clear();
+    void fillStatus(Recordset& table, const RowFilter& filter);
+    void fillList(std::size_t number, Recordset& table, std::span<const Bookmark> rows);
 
-    Filterkontext& kontext_;
-    std::array<Werteliste, ANZAHL_EIGENSCHAFTEN> listen_;
-    std::array<bool, ANZAHL_STATUS> statusVorhanden_{};
+    FilterContext& context_;
+    std::array<ValueList, PROPERTY_COUNT> lists_;
+    std::array<bool, STATUS_COUNT> statusExists_{};
     int OpDat_ = 0;
     int OpDatBegr_ = 0;
 };

@@ -7,58 +7,58 @@ namespace quelvarn {
 namespace {
 
 // The status condition alone is a filter of the properties.
-bool nothingChosen(const Filterkontext& kontext)
+bool nothingChosen(const FilterContext& context)
 {
-    const Filterzustand& zustand = kontext.zustand();
-    return zustand.FilterAnzahl == 0 && zustand.BenutzDefAnzahl() == 0 && !zustand.HauptwertAktiv &&
-           (kontext.bereich() != Filterbereich::Eigenschaften || kontext.filter.status.StatusFilter.empty());
+    const TypeFilter& state = context.state();
+    return state.FilterAnzahl == 0 && state.BenutzDefAnzahl() == 0 && !state.HauptwertAktiv &&
+           (context.section() != FilterSection::Properties || context.filter.status.StatusFilter.empty());
 }
 
-bool laufeStruktur(Filterkontext& kontext)
+bool runStructure(FilterContext& context)
 {
-    return laufeOderWieVorher(kontext, [&] {
-        return ApplyStructureFilter(kontext) && (!kontext.zustand().HauptwertAktiv || ApplyHauptwertFilter(kontext));
+    return runOrKeep(context, [&] {
+        return ApplyStructureFilter(context) && (!context.state().HauptwertAktiv || ApplyHauptwertFilter(context));
     });
 }
 
 // False when nothing was applied.
-bool run(Filterkontext& kontext)
+bool run(FilterContext& context)
 {
-    Narrowing narrowing{kontext.FilterWerteTabelle(), {}, {}}; // Also the values of steps that leave nothing.
-    switch (kontext.bereich()) {
-    case Filterbereich::Eigenschaften:
-        if (!ApplyPropertyFilter(kontext))
+    Narrowing narrowing{context.FilterWerteTabelle(), {}, {}}; // Also the values of steps that leave nothing.
+    switch (context.section()) {
+    case FilterSection::Properties:
+        if (!ApplyPropertyFilter(context))
             return false;
-        narrowing.statusLimit = kontext.filter.status; // The other parts know no limit of the statuses.
+        narrowing.statusLimit = context.filter.status; // The other parts know no limit of the statuses.
         break;
-    case Filterbereich::Struktur:
-        if (!laufeStruktur(kontext))
+    case FilterSection::Structure:
+        if (!runStructure(context))
             return false;
         break;
-    case Filterbereich::BenutzDef: {
-        auto result = kontext.zustand().FilterAnzahl > 0 ? ApplyBenutzDefFilter(kontext) : std::nullopt;
+    case FilterSection::UserDefined: {
+        auto result = context.state().FilterAnzahl > 0 ? ApplyBenutzDefFilter(context) : std::nullopt;
         if (!result)
             return false;
-        kontext.table().showResult(std::move(*result), std::move(narrowing));
+        context.table().showResult(std::move(*result), std::move(narrowing));
         return true;
     }
     }
-    kontext.table().showFiltered(std::move(narrowing));
+    context.table().showFiltered(std::move(narrowing));
     return true;
 }
 
 } // namespace
 
-void FilterEigenMerkBenutzDef(Filterkontext& kontext)
+void FilterEigenMerkBenutzDef(FilterContext& context)
 {
-    if (nothingChosen(kontext))
-        return liftFilter(kontext.filter, kontext.tables, kontext.tab);
-    kontext.stepsWithoutRows.clear();
-    if (!run(kontext))
+    if (nothingChosen(context))
+        return liftFilter(context.filter, context.tables, context.tab);
+    context.stepsWithoutRows.clear();
+    if (!run(context))
         return;
-    kontext.zustand().Schnellfilter.clear();
-    kontext.tables.announceRows(kontext.tab);
-    reportStepsWithoutRows(kontext);
+    context.state().QuickFilter.clear();
+    context.tables.announceRows(context.tab);
+    reportStepsWithoutRows(context);
 }
 
 } // namespace quelvarn

@@ -14,207 +14,204 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::string_view TITEL = "Filterwerte";
-constexpr std::string_view GRUPPE = "Filterwerte"; // Feld2 of the rows.
-constexpr std::size_t LAENGSTER_NAME = 50;
+constexpr std::string_view TITLE = "Filterwerte";
+constexpr std::string_view GROUP = "Filterwerte"; // Feld2 of the rows.
+constexpr std::size_t LONGEST_NAME = 50;
 
-const Recordset& liste(const SessionState& session, int tab)
+const Recordset& list(const SessionState& session, int tab)
 {
     return session.pages.GespeicherteFilter[static_cast<std::size_t>(tab)];
 }
 
-std::size_t anzahl(const Recordset& liste)
+std::size_t count(const Recordset& list)
 {
-    return liste.offen() ? liste.RecordCount() : 0;
+    return list.open() ? list.RecordCount() : 0;
 }
 
-std::string text(const Recordset& liste, std::size_t zeile, std::string_view feld)
+std::string text(const Recordset& list, std::size_t row, std::string_view field)
 {
-    return alsText(liste.Zelle(zeile, feld));
+    return asText(list.cell(row, field));
 }
 
-std::optional<std::size_t> findeZeile(const Recordset& liste, std::string_view Filtername)
+std::optional<std::size_t> findRow(const Recordset& list, std::string_view Filtername)
 {
-    for (std::size_t zeile = 0; zeile < anzahl(liste); ++zeile)
-        if (text(liste, zeile, "Filtername") == Filtername)
-            return zeile;
+    for (std::size_t row = 0; row < count(list); ++row)
+        if (text(list, row, "Filtername") == Filtername)
+            return row;
     return std::nullopt;
 }
 
-// The list of the kontext's type; nullptr, after a box, when no database has filled it.
-Recordset* findeListe(Filterkontext& kontext)
+// The list of the context's type; nullptr, after a box, when no database has filled it.
+Recordset* findList(FilterContext& context)
 {
-    Recordset& liste = kontext.session.pages.GespeicherteFilter[static_cast<std::size_t>(kontext.tab)];
-    if (liste.offen())
-        return &liste;
-    kontext.ports().meldungen.warnung(TITEL, "Es konnte keine Tabelle zugeordnet werden!");
+    Recordset& list = context.session.pages.GespeicherteFilter[static_cast<std::size_t>(context.tab)];
+    if (list.open())
+        return &list;
+    context.ports().boxes.warn(TITLE, "Es konnte keine Tabelle zugeordnet werden!");
     return nullptr;
 }
 
 // What is wrong with the name or the filter; "" when they can be saved.
-std::string einwand(const Filterzustand& zustand, std::string_view name)
+std::string objection(const TypeFilter& state, std::string_view name)
 {
     if (name.empty())
         return "Es muss ein Name für den Filter angegeben werden!";
-    if (countCharacters(name) > LAENGSTER_NAME)
+    if (countCharacters(name) > LONGEST_NAME)
         return "Der Name für den Filter kann max. 50 Zeichen lang sein!";
-    const bool status = std::ranges::find(zustand.ChFilterStat, true) != zustand.ChFilterStat.end();
-    if (zustand.FilterSchritte[0].Wert.empty() && !status)
+    const bool status = std::ranges::find(state.ChFilterStat, true) != state.ChFilterStat.end();
+    if (state.FilterSchritte[0].value.empty() && !status)
         return "Es sind keine Filterwerte eingetragen!";
-    if (!speicherbar(zustand))
+    if (!storable(state))
         return "Filterwerte mit den Zeichen \\ oder | können nicht gespeichert werden!";
     return "";
 }
 
-bool stehtSoInDerTabelle(const Recordset& zeilen, const Recordset& liste)
+bool standsSoInTable(const Recordset& rows, const Recordset& list)
 {
-    if (zeilen.RecordCount() != liste.RecordCount())
+    if (rows.RecordCount() != list.RecordCount())
         return false;
-    for (std::size_t i = 0; i < liste.RecordCount(); ++i)
-        if (text(zeilen, i, "Feld4") != text(liste, i, "Filtername") ||
-            text(zeilen, i, "Feld5") != text(liste, i, "Filterstring"))
+    for (std::size_t i = 0; i < list.RecordCount(); ++i)
+        if (text(rows, i, "Feld4") != text(list, i, "Filtername") ||
+            text(rows, i, "Feld5") != text(list, i, "Filterstring"))
             return false;
     return true;
 }
 
 // The value as it counts: with a star at its end, where it can take one.
-std::optional<std::string> mitStern(std::string_view wert)
+std::optional<std::string> withStar(std::string_view value)
 {
-    if (wert.ends_with('*'))
-        return std::string(wert);
-    if (!wert.starts_with('*'))
+    if (value.ends_with('*'))
+        return std::string(value);
+    if (!value.starts_with('*'))
         return std::nullopt;
-    if (wert.ends_with(' '))
-        wert.remove_suffix(1);
-    return std::string(wert) + '*';
+    if (value.ends_with(' '))
+        value.remove_suffix(1);
+    return std::string(value) + '*';
 }
 
 } // namespace
 
-std::vector<std::string> gespeicherteNamen(const SessionState& session, int tab)
+std::vector<std::string> savedNames(const SessionState& session, int tab)
 {
-    std::vector<std::string> namen;
-    for (std::size_t zeile = 0; zeile < anzahl(liste(session, tab)); ++zeile)
-        namen.push_back(text(liste(session, tab), zeile, "Filtername"));
-    return namen;
+    std::vector<std::string> names;
+    for (std::size_t row = 0; row < count(list(session, tab)); ++row)
+        names.push_back(text(list(session, tab), row, "Filtername"));
+    return names;
 }
 
 std::string SavedFilterString(const SessionState& session, int tab, std::string_view Filtername)
 {
-    const auto zeile = findeZeile(liste(session, tab), Filtername);
-    return zeile ? text(liste(session, tab), *zeile, "Filterstring") : "";
+    const auto row = findRow(list(session, tab), Filtername);
+    return row ? text(list(session, tab), *row, "Filterstring") : "";
 }
 
 void SaveFilterRows(SessionState& session, int tab)
 {
-    const Recordset& filter = liste(session, tab);
-    if (!filter.offen())
+    const Recordset& filter = list(session, tab);
+    if (!filter.open())
         return;
-    const std::string_view schluessel = DOKUTYPEN[static_cast<std::size_t>(tab)].schluessel;
-    IniZeilen ini(session.database.Verbindung);
-    Recordset zeilen = ini.zeilen(session.user.Anwender, GRUPPE, schluessel);
-    if (stehtSoInDerTabelle(zeilen, filter))
+    const std::string_view key = DOCUMENT_TYPES[static_cast<std::size_t>(tab)].key;
+    IniRows ini(session.database.connection);
+    Recordset rows = ini.rows(session.user.Anwender, GROUP, key);
+    if (standsSoInTable(rows, filter))
         return;
     ini.writeAlone();
-    zeilen = ini.zeilen(session.user.Anwender, GRUPPE, schluessel);
-    ini.loesche(zeilen);
+    rows = ini.rows(session.user.Anwender, GROUP, key);
+    ini.remove(rows);
     for (std::size_t i = 0; i < filter.RecordCount(); ++i)
-        ini.fuegeAn({session.user.Anwender, GRUPPE, schluessel, text(filter, i, "Filtername"),
-                     text(filter, i, "Filterstring")});
-    ini.schliesseAb();
+        ini.append({session.user.Anwender, GROUP, key, text(filter, i, "Filtername"), text(filter, i, "Filterstring")});
+    ini.commit();
 }
 
-void speichereFilterlisten(SessionState& session, Meldungen& meldungen)
+void saveFilterLists(SessionState& session, Boxes& boxes)
 {
-    for (const DokuTyp& typ : DOKUTYPEN)
-        gesichert(meldungen, "Speichern der Filterwerte in die Ini-Tabelle",
-                  "Fehler beim Speichern der Filterwerte in die Ini-Tabelle!",
-                  [&] { SaveFilterRows(session, typ.tab); });
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        guarded(boxes, "Speichern der Filterwerte in die Ini-Tabelle",
+                "Fehler beim Speichern der Filterwerte in die Ini-Tabelle!",
+                [&] { SaveFilterRows(session, type.tab); });
 }
 
-bool speichereFilter(Filterkontext& kontext, std::string_view TxtFilterSave)
+bool saveFilter(FilterContext& context, std::string_view TxtFilterSave)
 {
-    const std::string grund = einwand(kontext.zustand(), TxtFilterSave);
-    if (!grund.empty()) {
-        kontext.ports().meldungen.warnung(TITEL, grund);
+    const std::string reason = objection(context.state(), TxtFilterSave);
+    if (!reason.empty()) {
+        context.ports().boxes.warn(TITLE, reason);
         return false;
     }
-    Recordset* filter = findeListe(kontext);
+    Recordset* filter = findList(context);
     if (!filter)
         return false;
-    if (findeZeile(*filter, TxtFilterSave)) {
-        kontext.ports().meldungen.warnung(TITEL,
-                                          fmt::format("Der Filtername '{}' ist bereits vorhanden!", TxtFilterSave));
+    if (findRow(*filter, TxtFilterSave)) {
+        context.ports().boxes.warn(TITLE, fmt::format("Der Filtername '{}' ist bereits vorhanden!", TxtFilterSave));
         return false;
     }
     filter->AddNew();
-    filter->setzeFeld("Filtername", std::string(TxtFilterSave));
-    filter->setzeFeld("Filterstring", alsFilterstring(kontext.zustand()));
+    filter->setField("Filtername", std::string(TxtFilterSave));
+    filter->setField("Filterstring", asFilterString(context.state()));
     filter->Update();
     return true;
 }
 
-void loescheFilter(Filterkontext& kontext, std::string_view CbFilterSave)
+void removeFilter(FilterContext& context, std::string_view CbFilterSave)
 {
-    Recordset* filter = findeListe(kontext);
-    const auto zeile = filter ? findeZeile(*filter, CbFilterSave) : std::nullopt;
-    if (!zeile)
+    Recordset* filter = findList(context);
+    const auto row = filter ? findRow(*filter, CbFilterSave) : std::nullopt;
+    if (!row)
         return;
-    filter->setzeAbsolutePosition(*zeile);
+    filter->setAbsolutePosition(*row);
     filter->Delete();
 }
 
-std::optional<std::string> gewaehlterFilter(Filterkontext& kontext, std::string_view CbFilterSave)
+std::optional<std::string> chosenFilter(FilterContext& context, std::string_view CbFilterSave)
 {
     if (CbFilterSave.empty()) {
-        kontext.ports().meldungen.warnung(TITEL, "Es ist kein Filterwert ausgewählt!");
+        context.ports().boxes.warn(TITLE, "Es ist kein Filterwert ausgewählt!");
         return std::nullopt;
     }
-    return SavedFilterString(kontext.session, kontext.tab, CbFilterSave);
+    return SavedFilterString(context.session, context.tab, CbFilterSave);
 }
 
-void UseSavedFilter(Filterkontext& kontext, std::string_view Filterstring)
+void UseSavedFilter(FilterContext& context, std::string_view Filterstring)
 {
-    const GespeicherterFilter filter = leseFilterstring(Filterstring);
-    Filterzustand& zustand = kontext.zustand();
-    leereFilter(zustand);
-    zustand.FilterSchritte = filter.FilterSchritte;
-    zustand.FilterAnzahl = filter.FilterAnzahl;
-    zustand.ZusBenutzDef = filter.ZusBenutzDef;
-    zustand.ChFilterStat = filter.ChFilterStat.value_or(std::array<bool, ANZAHL_STATUS>{});
-    BuildStatusFilter(kontext.filter, kontext.tab);
-    zustand.bereich = filter.bereich;
+    const SavedFilter filter = readFilterString(Filterstring);
+    TypeFilter& state = context.state();
+    clearFilter(state);
+    state.FilterSchritte = filter.FilterSchritte;
+    state.FilterAnzahl = filter.FilterAnzahl;
+    state.ZusBenutzDef = filter.ZusBenutzDef;
+    state.ChFilterStat = filter.ChFilterStat.value_or(std::array<bool, STATUS_COUNT>{});
+    BuildStatusFilter(context.filter, context.tab);
+    state.section = filter.section;
 }
 
-void ergaenzeSterne(Filterkontext& kontext)
+void completeStars(FilterContext& context)
 {
-    const std::vector<FilterRow> rows = kontext.FilterWerteTabelle();
+    const std::vector<FilterRow> rows = context.FilterWerteTabelle();
     for (std::size_t i = 0; i < rows.size(); ++i)
-        if (const auto wert = mitStern(rows[i].Wert))
-            setRowValue(kontext.zustand(), i, *wert);
+        if (const auto value = withStar(rows[i].value))
+            setRowValue(context.state(), i, *value);
 }
 
-Filterfavoriten favoritenliste(const SessionState& session, int tab)
+FilterFavourites favouriteList(const SessionState& session, int tab)
 {
-    Filterfavoriten favoriten{gespeicherteNamen(session, tab), std::nullopt};
-    const auto warnung = [](std::string text) {
-        return Meldung{std::string(TITEL_FAVORITENMENUE), std::move(text), Symbol::Warnung};
+    FilterFavourites favourites{savedNames(session, tab), std::nullopt};
+    const auto warn = [](std::string text) {
+        return Box{std::string(TITLE_FAVOURITE_MENU), std::move(text), Icon::Warning};
     };
-    if (favoriten.namen.empty())
-        favoriten.meldung =
-            warnung(fmt::format("Es sind keine gespeicherten Filter für {} vorhanden!", session.mehrzahl(tab)));
-    if (favoriten.namen.size() > MAX_FILTERFAVORITEN) {
-        favoriten.namen.resize(MAX_FILTERFAVORITEN);
-        favoriten.meldung = warnung("Das Formular ist auf max. 25 Filter ausgelegt!");
+    if (favourites.names.empty())
+        favourites.box = warn(fmt::format("Es sind keine gespeicherten Filter für {} vorhanden!", session.plural(tab)));
+    if (favourites.names.size() > MAX_FILTER_FAVOURITES) {
+        favourites.names.resize(MAX_FILTER_FAVOURITES);
+        favourites.box = warn("Das Formular ist auf max. 25 Filter ausgelegt!");
     }
-    return favoriten;
+    return favourites;
 }
 
-std::optional<std::string> gewaehlterFavorit(const SessionState& session, Meldungen& meldungen, int tab,
-                                             std::string_view LblFilter)
+std::optional<std::string> chosenFavourite(const SessionState& session, Boxes& boxes, int tab,
+                                           std::string_view LblFilter)
 {
     if (LblFilter.empty()) {
-        meldungen.warnung("Filterfavoriten", "Es ist kein Filtername eingetragen!");
+        boxes.warn("Filterfavoriten", "Es ist kein Filtername eingetragen!");
         return std::nullopt;
     }
     return SavedFilterString(session, tab, LblFilter);

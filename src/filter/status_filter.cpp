@@ -7,39 +7,39 @@ namespace quelvarn {
 namespace {
 
 // The upper limit as the condition has it. From 3 to 5 it reads 3, whatever the legend says: kept on purpose.
-std::ptrdiff_t obergrenze(std::ptrdiff_t von, std::ptrdiff_t bis)
+std::ptrdiff_t upperLimit(std::ptrdiff_t from, std::ptrdiff_t until)
 {
-    return von == 3 && bis == 5 ? 3 : bis;
+    return from == 3 && until == 5 ? 3 : until;
 }
 
-StatusCondition statusbedingung(const std::string& inhalt, const std::string& kurz)
+StatusCondition statusCondition(const std::string& content, const std::string& shortText)
 {
-    return {{"             Status" + kurz, kurz},
-            fmt::format(" ({})", inhalt),
-            fmt::format(" WHERE ({})", inhalt),
-            fmt::format(" AND ({})", inhalt)};
+    return {{"             Status" + shortText, shortText},
+            fmt::format(" ({})", content),
+            fmt::format(" WHERE ({})", content),
+            fmt::format(" AND ({})", content)};
 }
 
 } // namespace
 
 void BuildStatusFilter(FilterState& filter, int tab)
 {
-    auto& haken = filter.typen[static_cast<std::size_t>(tab)].ChFilterStat;
-    const auto gesetzte = std::count(haken.begin(), haken.end(), true);
-    if (gesetzte == 0 || gesetzte == ANZAHL_STATUS) {
+    auto& tick = filter.types[static_cast<std::size_t>(tab)].ChFilterStat;
+    const auto set = std::count(tick.begin(), tick.end(), true);
+    if (set == 0 || set == STATUS_COUNT) {
         filter.status = {};
         return;
     }
-    const auto von = std::find(haken.begin(), haken.end(), true) - haken.begin();
-    if (gesetzte == 1) {
-        const std::string kurz = fmt::format(" = {}", von);
-        filter.status = statusbedingung(" Status" + kurz, kurz);
+    const auto from = std::find(tick.begin(), tick.end(), true) - tick.begin();
+    if (set == 1) {
+        const std::string shortText = fmt::format(" = {}", from);
+        filter.status = statusCondition(" Status" + shortText, shortText);
         return;
     }
-    const auto bis = haken.rend() - std::find(haken.rbegin(), haken.rend(), true) - 1;
-    std::fill(haken.begin() + von, haken.begin() + bis, true);
-    filter.status = statusbedingung(fmt::format(" Status >= {}  AND Status <= {}", von, obergrenze(von, bis)),
-                                    fmt::format(" >= {} und <= {}", von, bis));
+    const auto until = tick.rend() - std::find(tick.rbegin(), tick.rend(), true) - 1;
+    std::fill(tick.begin() + from, tick.begin() + until, true);
+    filter.status = statusCondition(fmt::format(" Status >= {}  AND Status <= {}", from, upperLimit(from, until)),
+                                    fmt::format(" >= {} und <= {}", from, until));
 }
 
 } // namespace quelvarn

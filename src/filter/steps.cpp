@@ -6,72 +6,72 @@
 namespace quelvarn {
 namespace {
 
-constexpr int OHNE_CODE_AB = 5; // Rows behind the fifth are those of the structure features: texts alone.
+constexpr int NO_CODE_FROM = 5; // Rows behind the fifth are those of the structure features: texts alone.
 
-int codeVon(std::string_view Feldname, int Operator)
+int codeOf(std::string_view Feldname, int Operator)
 {
     if (Feldname == "Status")
         return CodeStatus + Operator;
     if (Feldname == "Erstellt")
-        return CodeErstellt + Operator;
+        return CodeCreated + Operator;
     if (Feldname == "Geaendert")
-        return CodeGeaendert + Operator;
+        return CodeChanged + Operator;
     return CodeText;
 }
 
 } // namespace
 
-void AddFilterStep(Filterkontext& kontext, std::string_view Wert, std::string_view Feldname, int Operator, RowName row)
+void AddFilterStep(FilterContext& context, std::string_view value, std::string_view Feldname, int Operator, RowName row)
 {
-    Filterzustand& zustand = kontext.zustand();
-    const int nummer = zustand.FilterAnzahl;
-    const bool frei = nummer < 5 || (nummer == 5 && kontext.bereich() == Filterbereich::Struktur) || nummer == 6;
-    if (!frei) {
-        kontext.ports().meldungen.warnung("Anzahl Filter", "Alle Filter sind gefüllt!");
-        zustand.FilterAnzahl = ALLE_GEFUELLT;
+    TypeFilter& state = context.state();
+    const int number = state.FilterAnzahl;
+    const bool free = number < 5 || (number == 5 && context.section() == FilterSection::Structure) || number == 6;
+    if (!free) {
+        context.ports().boxes.warn("Anzahl Filter", "Alle Filter sind gefüllt!");
+        state.FilterAnzahl = ALL_FILLED;
         return;
     }
-    zustand.FilterSchritte[static_cast<std::size_t>(nummer)] = {std::string(Feldname),
-                                                                std::string(Wert),
-                                                                nummer < OHNE_CODE_AB ? codeVon(Feldname, Operator)
-                                                                                      : CodeText,
-                                                                {},
-                                                                std::move(row)};
-    zustand.FilterAnzahl = nummer + 1;
+    state.FilterSchritte[static_cast<std::size_t>(number)] = {std::string(Feldname),
+                                                              std::string(value),
+                                                              number < NO_CODE_FROM ? codeOf(Feldname, Operator)
+                                                                                    : CodeText,
+                                                              {},
+                                                              std::move(row)};
+    state.FilterAnzahl = number + 1;
 }
 
-void ClearFilterSteps(Filterzustand& zustand)
+void ClearFilterSteps(TypeFilter& state)
 {
-    zustand.FilterSchritte.fill({});
+    state.FilterSchritte.fill({});
 }
 
-void ClearHauptwertBereich(Filterzustand& zustand)
+void ClearHauptwertBereich(TypeFilter& state)
 {
-    zustand.HauptwertBereich.fill({});
+    state.HauptwertBereich.fill({});
 }
 
-void SaveFilterState(Filterzustand& zustand)
+void SaveFilterState(TypeFilter& state)
 {
-    zustand.GesicherterFilter = {zustand.FilterString, zustand.FilterAnzahl, zustand.FilterSchritte, zustand.bereich};
+    state.GesicherterFilter = {state.FilterString, state.FilterAnzahl, state.FilterSchritte, state.section};
 }
 
-void RestoreFilterState(Filterzustand& zustand)
+void RestoreFilterState(TypeFilter& state)
 {
-    zustand.FilterString = zustand.GesicherterFilter.FilterString;
-    zustand.FilterAnzahl = zustand.GesicherterFilter.FilterAnzahl;
-    zustand.FilterSchritte = zustand.GesicherterFilter.FilterSchritte;
-    zustand.bereich = zustand.GesicherterFilter.bereich;
+    state.FilterString = state.GesicherterFilter.FilterString;
+    state.FilterAnzahl = state.GesicherterFilter.FilterAnzahl;
+    state.FilterSchritte = state.GesicherterFilter.FilterSchritte;
+    state.section = state.GesicherterFilter.section;
 }
 
-void leereFilter(Filterzustand& zustand)
+void clearFilter(TypeFilter& state)
 {
-    zustand.FilterString.clear();
-    zustand.Schnellfilter.clear();
-    zustand.FilterAnzahl = 0;
-    ClearFilterSteps(zustand);
-    ClearHauptwertBereich(zustand);
-    zustand.HauptwertAktiv = false;
-    zustand.ZusBenutzDef.clear();
+    state.FilterString.clear();
+    state.QuickFilter.clear();
+    state.FilterAnzahl = 0;
+    ClearFilterSteps(state);
+    ClearHauptwertBereich(state);
+    state.HauptwertAktiv = false;
+    state.ZusBenutzDef.clear();
 }
 
 } // namespace quelvarn

@@ -7,29 +7,27 @@
 namespace quelvarn {
 
 // The status condition is no part of this filter: the rows are limited by what the table was opened with alone.
-bool ApplyStructureFilter(Filterkontext& kontext)
+bool ApplyStructureFilter(FilterContext& context)
 {
-    if (kontext.zustand().FilterAnzahl > ANZAHL_SCHRITTE)
+    if (context.state().FilterAnzahl > STEP_COUNT)
         return false;
-    return laufeOderWieVorher(kontext, [&] {
-        Filterzustand& zustand = kontext.zustand();
-        zustand.FilterString.clear();
-        const auto kette =
-            bildeKette(zustand, [](const FilterSchritt& schritt, int) { return strukturfragment(schritt); });
-        return kette.empty() || laufeKette(kontext, kette, {});
+    return runOrKeep(context, [&] {
+        TypeFilter& state = context.state();
+        state.FilterString.clear();
+        const auto chain = formChain(state, [](const FilterStep& step, int) { return structureFragment(step); });
+        return chain.empty() || runChain(context, chain, {});
     });
 }
 
 // Lists and orders go by FilterString, which knows nothing of the main values.
-bool ApplyHauptwertFilter(Filterkontext& kontext)
+bool ApplyHauptwertFilter(FilterContext& context)
 {
-    const Filterzustand& zustand = kontext.zustand();
-    RowFilter filter{zustand.FilterString +
-                     HauptwertFragmente(zustand.HauptwertBereich, !zustand.FilterString.empty())};
-    if (SharedCondition condition = filterCondition(zustand.FilterString))
+    const TypeFilter& state = context.state();
+    RowFilter filter{state.FilterString + mainValueFragments(state.HauptwertBereich, !state.FilterString.empty())};
+    if (SharedCondition condition = filterCondition(state.FilterString))
         filter.conditions.push_back(std::move(condition));
-    std::ranges::move(mainValueConditions(zustand.HauptwertBereich), std::back_inserter(filter.conditions));
-    return laufeOderWieVorher(kontext, [&] { return setzeFilter(kontext, std::move(filter)); });
+    std::ranges::move(mainValueConditions(state.HauptwertBereich), std::back_inserter(filter.conditions));
+    return runOrKeep(context, [&] { return setFilter(context, std::move(filter)); });
 }
 
 } // namespace quelvarn

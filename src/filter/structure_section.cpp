@@ -16,254 +16,254 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view EBENEN = "CDEFG";
-constexpr const char* GESPERRT = "SE-Filter: Strukturmerkmale";
+constexpr std::string_view LEVELS = "CDEFG";
+constexpr const char* LOCKED = "SE-Filter: Strukturmerkmale";
 
-std::string merkmal(std::size_t ebene)
+std::string feature(std::size_t level)
 {
-    return fmt::format("Hauptmerkmal_{}", EBENEN[ebene]);
+    return fmt::format("Hauptmerkmal_{}", LEVELS[level]);
 }
 
 // A value that was edited may be a pattern.
-std::string gleich(std::string_view feld, std::string_view wert)
+std::string equal(std::string_view field, std::string_view value)
 {
-    if (wert.find('*') != std::string_view::npos)
-        return fmt::format("{} Like {}", feld, sql::quoted(asSqlPattern(wert, Wildcards::Star)));
-    return fmt::format("{} = {}", feld, sql::quoted(wert));
+    if (value.find('*') != std::string_view::npos)
+        return fmt::format("{} Like {}", field, sql::quoted(asSqlPattern(value, Wildcards::Star)));
+    return fmt::format("{} = {}", field, sql::quoted(value));
 }
 
-std::string bedingungVon(const Strukturpfad& pfad)
+std::string conditionOf(const StructurePath& documentPath)
 {
-    std::vector<std::string> teile;
-    for (std::size_t ebene = 0; ebene < pfad.size(); ++ebene)
-        teile.push_back(gleich(merkmal(ebene), pfad[ebene]));
-    return join(teile, " AND ");
+    std::vector<std::string> parts;
+    for (std::size_t level = 0; level < documentPath.size(); ++level)
+        parts.push_back(equal(feature(level), documentPath[level]));
+    return join(parts, " AND ");
 }
 
-std::string erweitert(std::string_view bedingung, std::string_view feld, std::string_view wert)
+std::string extended(std::string_view condition, std::string_view field, std::string_view value)
 {
-    return fmt::format("{} {}", bedingung.empty() ? "" : fmt::format("{} AND", bedingung), gleich(feld, wert));
+    return fmt::format("{} {}", condition.empty() ? "" : fmt::format("{} AND", condition), equal(field, value));
 }
 
-bool nichtLeer(std::string_view text)
+bool notEmpty(std::string_view text)
 {
     return !text.empty();
 }
 
-bool nichtNurBlanks(std::string_view text)
+bool notOnlyBlanks(std::string_view text)
 {
     return !trimRightBlanks(text).empty();
 }
 
 // The boxes of a level that could not be built. Only one of them bears the page's own name.
-struct Fehlertexte
+struct FaultTexts
 {
-    std::string titel;
+    std::string title;
     std::string text;
 };
 
-Fehlertexte fehlertexte(std::size_t ebene)
+FaultTexts faultTexts(std::size_t level)
 {
-    if (ebene == EBENEN.size())
+    if (level == LEVELS.size())
         return {"SE-Doku: Werte u. Alias Strukturmerkmale G",
                 "Fehler beim Aufbau der Werte u. Alias Strukturmerkmale G!"};
-    return {fmt::format("{}: Aufbau der Strukturmerkmale {}", ebene == 1 ? "SE-Filtern" : "SE-Doku", EBENEN[ebene]),
-            fmt::format("Fehler beim Aufbau der Strukturmerkmale {}!", EBENEN[ebene])};
+    return {fmt::format("{}: Aufbau der Strukturmerkmale {}", level == 1 ? "SE-Filtern" : "SE-Doku", LEVELS[level]),
+            fmt::format("Fehler beim Aufbau der Strukturmerkmale {}!", LEVELS[level])};
 }
 
 } // namespace
 
-struct Strukturbereich::Zweig
+struct StructureSection::Branch
 {
-    std::vector<Strukturknoten> kinder;
-    Werteliste material;
-    Werteliste firma;
-    std::string vorlage;
+    std::vector<StructureNode> children;
+    ValueList material;
+    ValueList company;
+    std::string drawingTemplate;
 };
 
 namespace {
 
-std::vector<Strukturknoten> knotenVon(std::vector<std::string> werte)
+std::vector<StructureNode> nodeOf(std::vector<std::string> values)
 {
-    std::vector<Strukturknoten> knoten;
-    for (std::string& wert : werte)
-        knoten.push_back({std::move(wert), {}, false, {}});
-    return knoten;
+    std::vector<StructureNode> node;
+    for (std::string& value : values)
+        node.push_back({std::move(value), {}, false, {}});
+    return node;
 }
 
 } // namespace
 
 // --- operations ---
 
-void Strukturbereich::knotenGewaehlt(const Strukturpfad& pfad)
+void StructureSection::nodeChosen(const StructurePath& documentPath)
 {
-    if (pfad.empty() || pfad == StrukturLetzterPfad_)
+    if (documentPath.empty() || documentPath == StrukturLetzterPfad_)
         return;
     if (!SperreBaum_) {
-        meldeGesperrt(fmt::format("Nach Auswahl\n - {} / {}\noder\n- Hauptwerte a bis g\n"
-                                  "ist die Auswahl weiterer Strukturmerkmale\nC bis G gesperrt!",
-                                  anzeigename(kontext_.session, "Material"), anzeigename(kontext_.session, "Firma")));
+        tellLocked(fmt::format("Nach Auswahl\n - {} / {}\noder\n- Hauptwerte a bis g\n"
+                               "ist die Auswahl weiterer Strukturmerkmale\nC bis G gesperrt!",
+                               displayName(context_.session, "Material"), displayName(context_.session, "Firma")));
         return;
     }
-    if (!std::equal(pfad.begin(), pfad.end() - 1, StrukturLetzterPfad_.begin(), StrukturLetzterPfad_.end())) {
-        kontext_.ports().meldungen.warnung("SE-Doku: Auswahl Pfad",
-                                           "Pfad wurde nicht eingehalten!\n\n"
-                                           "Gehen Sie über <Zurück> zum Anfang des Strukturbaumes.");
+    if (!std::equal(documentPath.begin(), documentPath.end() - 1, StrukturLetzterPfad_.begin(),
+                    StrukturLetzterPfad_.end())) {
+        context_.ports().boxes.warn("SE-Doku: Auswahl Pfad", "Pfad wurde nicht eingehalten!\n\n"
+                                                             "Gehen Sie über <Zurück> zum Anfang des Strukturbaumes.");
         return;
     }
-    const auto [titel, text] = fehlertexte(pfad.size());
-    const bool gelaufen = kontext_.operations.perform(Part::FilterPage, titel, text, [&] {
-        auto zweig = leseZweig(pfad);
-        if (!zweig)
+    const auto [title, text] = faultTexts(documentPath.size());
+    const bool ran = context_.operations.perform(Part::FilterPage, title, text, [&] {
+        auto branch = readBranch(documentPath);
+        if (!branch)
             return;
-        const std::string feld = merkmal(pfad.size() - 1);
-        AddFilterStep(kontext_, pfad.back(), feld, 0, {"", replaceAll(feld, "_", " ")});
-        uebernimmZweig(pfad, std::move(*zweig));
+        const std::string field = feature(documentPath.size() - 1);
+        AddFilterStep(context_, documentPath.back(), field, 0, {"", replaceAll(field, "_", " ")});
+        adoptBranch(documentPath, std::move(*branch));
     });
-    if (gelaufen && StrukturLetzterPfad_ == pfad)
-        fuelleHauptwerte();
-    kontext_.operations.changed(Part::FilterPage);
+    if (ran && StrukturLetzterPfad_ == documentPath)
+        fillMainValues();
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Strukturbereich::materialGewaehlt(std::string_view wert)
+void StructureSection::materialChosen(std::string_view value)
 {
-    waehleImZweig("Material", wert, SperreMaterial_);
+    chooseInBranch("Material", value, SperreMaterial_);
 }
 
-void Strukturbereich::firmaGewaehlt(std::string_view wert)
+void StructureSection::companyChosen(std::string_view value)
 {
-    waehleImZweig("Firma", wert, SperreFirma_);
+    chooseInBranch("Firma", value, SperreFirma_);
 }
 
-void Strukturbereich::waehleImZweig(std::string_view Feldname, std::string_view wert, bool erlaubt)
+void StructureSection::chooseInBranch(std::string_view Feldname, std::string_view value, bool allowed)
 {
-    if (wert.empty())
+    if (value.empty())
         return;
-    if (!erlaubt) {
-        meldeGesperrt(fmt::format("Nach Auswahl\n- Hauptwerte a bis g\nist die Auswahl {} / {} gesperrt!",
-                                  anzeigename(kontext_.session, "Material"), anzeigename(kontext_.session, "Firma")));
+    if (!allowed) {
+        tellLocked(fmt::format("Nach Auswahl\n- Hauptwerte a bis g\nist die Auswahl {} / {} gesperrt!",
+                               displayName(context_.session, "Material"), displayName(context_.session, "Firma")));
         return;
     }
-    AddFilterStep(kontext_, wert, Feldname, 0,
-                  {fmt::format("StrukturMerk{}", Feldname), anzeigename(kontext_.session, Feldname)});
+    AddFilterStep(context_, value, Feldname, 0,
+                  {fmt::format("StrukturMerk{}", Feldname), displayName(context_.session, Feldname)});
     SperreBaum_ = false;
-    StrukturBedingung_ = erweitert(StrukturBedingung_, Feldname, wert);
-    fuelleHauptwerte();
-    kontext_.operations.changed(Part::FilterPage);
+    StrukturBedingung_ = extended(StrukturBedingung_, Feldname, value);
+    fillMainValues();
+    context_.operations.changed(Part::FilterPage);
 }
 
-void Strukturbereich::meldeGesperrt(std::string_view text)
+void StructureSection::tellLocked(std::string_view text)
 {
-    kontext_.ports().meldungen.warnung(GESPERRT, fmt::format("{}\n\nDie Auswahl ist wieder entsperrt, wenn\n"
-                                                             "alle Filterwerte zurückgesetzt werden.",
-                                                             text));
+    context_.ports().boxes.warn(LOCKED, fmt::format("{}\n\nDie Auswahl ist wieder entsperrt, wenn\n"
+                                                    "alle Filterwerte zurückgesetzt werden.",
+                                                    text));
 }
 
 // --- the branch ---
 
 // Nothing when reading was given up. Changes no state, so that a fault leaves the branch before.
-std::optional<Strukturbereich::Zweig> Strukturbereich::leseZweig(const Strukturpfad& pfad)
+std::optional<StructureSection::Branch> StructureSection::readBranch(const StructurePath& documentPath)
 {
-    std::vector<std::string> spalten{"Material", "Firma"};
-    for (std::size_t ebene = 0; ebene < EBENEN.size(); ++ebene)
-        spalten.push_back(merkmal(ebene));
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Strukturmerkmale werden gelesen ...");
-    if (!tabelle().ladeSpalten(spalten, std::ref(arbeit)))
+    std::vector<std::string> columns{"Material", "Firma"};
+    for (std::size_t level = 0; level < LEVELS.size(); ++level)
+        columns.push_back(feature(level));
+    LongWork work(context_.ports().progress, "Strukturmerkmale werden gelesen ...");
+    if (!table().loadColumns(columns, std::ref(work)))
         return std::nullopt;
-    const auto zeilen = tabelle().waehle(bedingungVon(pfad));
-    Zweig zweig;
-    if (pfad.size() < EBENEN.size())
-        zweig.kinder = knotenVon(tabelle().verschiedeneTexte(merkmal(pfad.size()), *zeilen, nichtLeer));
-    zweig.material = werteliste(tabelle().verschiedeneTexte("Material", *zeilen, nichtNurBlanks));
-    zweig.firma = werteliste(tabelle().verschiedeneTexte("Firma", *zeilen, nichtNurBlanks));
-    zweig.vorlage = VorlageSuchen(kontext_.session.database.Verbindung, pfad);
-    return zweig;
+    const auto rows = table().choose(conditionOf(documentPath));
+    Branch branch;
+    if (documentPath.size() < LEVELS.size())
+        branch.children = nodeOf(table().distinctTexts(feature(documentPath.size()), *rows, notEmpty));
+    branch.material = valueList(table().distinctTexts("Material", *rows, notOnlyBlanks));
+    branch.company = valueList(table().distinctTexts("Firma", *rows, notOnlyBlanks));
+    branch.drawingTemplate = VorlageSuchen(context_.session.database.connection, documentPath);
+    return branch;
 }
 
-void Strukturbereich::uebernimmZweig(const Strukturpfad& pfad, Zweig zweig)
+void StructureSection::adoptBranch(const StructurePath& documentPath, Branch branch)
 {
-    if (Strukturknoten* knoten = findeKnoten(pfad)) {
-        knoten->kinder = std::move(zweig.kinder);
-        knoten->gelesen = true;
-        knoten->statuszeile = fmt::format("{}; Anz. {}; ", knoten->wert, knoten->kinder.size());
+    if (StructureNode* node = findNode(documentPath)) {
+        node->children = std::move(branch.children);
+        node->read = true;
+        node->statusRow = fmt::format("{}; Anz. {}; ", node->value, node->children.size());
     }
-    material_ = std::move(zweig.material);
-    firma_ = std::move(zweig.firma);
-    if (!zweig.vorlage.empty())
-        vorlage_ = std::move(zweig.vorlage);
-    StrukturBedingung_ = bedingungVon(pfad);
-    StrukturLetzterPfad_ = pfad;
+    material_ = std::move(branch.material);
+    company_ = std::move(branch.company);
+    if (!branch.drawingTemplate.empty())
+        drawingTemplate_ = std::move(branch.drawingTemplate);
+    StrukturBedingung_ = conditionOf(documentPath);
+    StrukturLetzterPfad_ = documentPath;
 }
 
-Strukturknoten* Strukturbereich::findeKnoten(const Strukturpfad& pfad)
+StructureNode* StructureSection::findNode(const StructurePath& documentPath)
 {
-    Strukturknoten* knoten = &wurzel_;
-    for (const std::string& wert : pfad) {
+    StructureNode* node = &root_;
+    for (const std::string& value : documentPath) {
         const auto kind = std::ranges::find_if(
-            knoten->kinder, [&](const Strukturknoten& kandidat) { return equalText(kandidat.wert, wert); });
-        if (kind == knoten->kinder.end())
+            node->children, [&](const StructureNode& candidate) { return equalText(candidate.value, value); });
+        if (kind == node->children.end())
             return nullptr;
-        knoten = &*kind;
+        node = &*kind;
     }
-    return knoten;
+    return node;
 }
 
-void Strukturbereich::BaumAufbauen()
+void StructureSection::BaumAufbauen()
 {
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Strukturmerkmale werden gelesen ...");
-    if (!tabelle().ladeSpalte(merkmal(0), std::ref(arbeit)))
+    LongWork work(context_.ports().progress, "Strukturmerkmale werden gelesen ...");
+    if (!table().loadColumn(feature(0), std::ref(work)))
         return;
-    const auto zeilen = tabelle().waehle("");
-    wurzel_ = {"Root", {}, true, knotenVon(tabelle().verschiedeneTexte(merkmal(0), *zeilen, nichtLeer))};
-    wurzel_.statuszeile = fmt::format("Root; Anz. {}; ", wurzel_.kinder.size());
+    const auto rows = table().choose("");
+    root_ = {"Root", {}, true, nodeOf(table().distinctTexts(feature(0), *rows, notEmpty))};
+    root_.statusRow = fmt::format("Root; Anz. {}; ", root_.children.size());
     StrukturLetzterPfad_.clear();
 }
 
-void Strukturbereich::FilterEigenMWMitFi(std::string_view bedingung)
+void StructureSection::FilterEigenMWMitFi(std::string_view condition)
 {
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Filterlisten werden gefüllt ...");
-    const std::vector<std::string> spalten{"Material", "Firma"};
-    if (!tabelle().ladeSpalten(spalten, std::ref(arbeit)))
+    LongWork work(context_.ports().progress, "Filterlisten werden gefüllt ...");
+    const std::vector<std::string> columns{"Material", "Firma"};
+    if (!table().loadColumns(columns, std::ref(work)))
         return;
-    const auto zeilen = tabelle().waehle(bedingung, std::ref(arbeit));
-    if (!zeilen)
+    const auto rows = table().choose(condition, std::ref(work));
+    if (!rows)
         return;
-    material_ = werteliste(tabelle().verschiedeneTexte("Material", *zeilen, nichtNurBlanks));
-    firma_ = werteliste(tabelle().verschiedeneTexte("Firma", *zeilen, nichtNurBlanks));
+    material_ = valueList(table().distinctTexts("Material", *rows, notOnlyBlanks));
+    company_ = valueList(table().distinctTexts("Firma", *rows, notOnlyBlanks));
 }
 
-void Strukturbereich::zuruecksetzen()
+void StructureSection::reset()
 {
-    wurzel_ = {"Root", {}, false, {}};
+    root_ = {"Root", {}, false, {}};
     StrukturLetzterPfad_.clear();
     StrukturBedingung_.clear();
-    material_ = firma_ = werte_ = alias_ = {};
+    material_ = company_ = values_ = alias_ = {};
     SperreHauptwert_ = true;
-    SperreBaum_ = SperreMaterial_ = SperreFirma_ = !kontext_.zustand().HauptwertAktiv;
+    SperreBaum_ = SperreMaterial_ = SperreFirma_ = !context_.state().HauptwertAktiv;
     BaumAufbauen();
     FilterEigenMWMitFi({});
-    fuelleHauptwerte();
+    fillMainValues();
 }
 
-void Strukturbereich::stelleWiederHer(std::span<const FilterSchritt> steps)
+void StructureSection::restore(std::span<const FilterStep> steps)
 {
-    Strukturpfad pfad;
-    for (const FilterSchritt& step : steps) {
+    StructurePath documentPath;
+    for (const FilterStep& step : steps) {
         if (!step.Feldname.starts_with("Hauptmerkmal_"))
             continue;
-        pfad.push_back(step.Wert);
-        auto zweig = leseZweig(pfad);
-        if (!zweig)
+        documentPath.push_back(step.value);
+        auto branch = readBranch(documentPath);
+        if (!branch)
             return;
-        uebernimmZweig(pfad, std::move(*zweig));
+        adoptBranch(documentPath, std::move(*branch));
     }
-    for (const FilterSchritt& step : steps) {
+    for (const FilterStep& step : steps) {
         if (step.Feldname.starts_with("Hauptmerkmal_"))
             continue;
-        StrukturBedingung_ = erweitert(StrukturBedingung_, step.Feldname, step.Wert);
+        StrukturBedingung_ = extended(StrukturBedingung_, step.Feldname, step.value);
         SperreBaum_ = false;
     }
-    fuelleHauptwerte();
+    fillMainValues();
 }
 
 } // namespace quelvarn

@@ -11,89 +11,89 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::string_view VERSAND = "*Versand";
+constexpr std::string_view SEND_ORDER = "*Versand";
 
 } // namespace
 
-BenutzDefSchritte::Schritt::Schritt(const std::string& Name, const std::string& Wert)
-    : name(Name), wert(Wert), muster(trimRightBlanks(Wert), Wildcards::Star), musterBeiKurzen(Wert.ends_with('*')),
-      versand(Wert.starts_with(VERSAND))
+UserDefinedSteps::Step::Step(const std::string& caption, const std::string& text)
+    : name(caption), value(text), pattern(trimRightBlanks(text), Wildcards::Star), patternAtShort(text.ends_with('*')),
+      sendOrder(text.starts_with(SEND_ORDER))
 {}
 
-bool BenutzDefSchritte::Schritt::jederWert() const
+bool UserDefinedSteps::Step::eachValue() const
 {
-    return wert == "*" || versand;
+    return value == "*" || sendOrder;
 }
 
-bool BenutzDefSchritte::Schritt::fitsPattern(std::string_view text) const
+bool UserDefinedSteps::Step::fitsPattern(std::string_view text) const
 {
     const std::string_view trimmed = trimRightBlanks(text);
-    return muster.matches(text) || (trimmed.size() < text.size() && muster.matches(trimmed));
+    return pattern.matches(text) || (trimmed.size() < text.size() && pattern.matches(trimmed));
 }
 
-bool BenutzDefSchritte::Schritt::passt(std::string_view text, bool lang) const
+bool UserDefinedSteps::Step::fits(std::string_view text, bool longText) const
 {
-    if (wert == "*" || equalText(text, wert))
+    if (value == "*" || equalText(text, value))
         return true;
-    if (lang && versand)
+    if (longText && sendOrder)
         return true; // The pattern is then the file name of the row itself.
-    return (lang || musterBeiKurzen) && fitsPattern(text);
+    return (longText || patternAtShort) && fitsPattern(text);
 }
 
-sql::AusdruckZeiger BenutzDefSchritte::Schritt::bedingung() const
+sql::ExpressionPointer UserDefinedSteps::Step::condition() const
 {
-    if (jederWert())
+    if (eachValue())
         return nullptr;
-    if (wert.find('*') == std::string::npos)
-        return sql::equal("Wert", wert);
-    return sql::like("Wert", std::string(trimRightBlanks(wert)) + (wert.ends_with('*') ? "" : "*"), Wildcards::Star);
+    if (value.find('*') == std::string::npos)
+        return sql::equal("Wert", value);
+    return sql::like("Wert", std::string(trimRightBlanks(value)) + (value.ends_with('*') ? "" : "*"), Wildcards::Star);
 }
 
-BenutzDefSchritte::BenutzDefSchritte(const Filterzustand& zustand)
+UserDefinedSteps::UserDefinedSteps(const TypeFilter& state)
 {
-    if (zustand.FilterSchritte[0].Wert.empty() || zustand.FilterAnzahl >= ALLE_GEFUELLT)
+    if (state.FilterSchritte[0].value.empty() || state.FilterAnzahl >= ALL_FILLED)
         return;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(zustand.FilterAnzahl); ++i)
-        schritte_.emplace_back(zustand.FilterSchritte[i].Wert, zustand.FilterSchritte[i].Muster);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(state.FilterAnzahl); ++i)
+        steps_.emplace_back(state.FilterSchritte[i].value, state.FilterSchritte[i].pattern);
 }
 
-bool BenutzDefSchritte::trifft(std::string_view Name, std::string_view Wert) const
+bool UserDefinedSteps::meets(std::string_view caption, std::string_view text) const
 {
-    if (letztes_ && Name == letzterName_ && Wert == letzterWert_)
-        return *letztes_;
-    letzterName_ = Name;
-    letzterWert_ = Wert;
-    letztes_ = passt(Name, Wert);
-    return *letztes_;
+    if (last_ && caption == lastName_ && text == lastValue_)
+        return *last_;
+    lastName_ = caption;
+    lastValue_ = text;
+    last_ = fits(caption, text);
+    return *last_;
 }
 
-bool BenutzDefSchritte::passt(std::string_view Name, std::string_view Wert) const
+bool UserDefinedSteps::fits(std::string_view caption, std::string_view text) const
 {
-    const bool lang = countCharacters(Wert) >= AB_PFAD;
+    const bool longText = countCharacters(text) >= FROM_PATH;
     return std::ranges::any_of(
-        schritte_, [&](const Schritt& schritt) { return equalText(schritt.name, Name) && schritt.passt(Wert, lang); });
+        steps_, [&](const Step& step) { return equalText(step.name, caption) && step.fits(text, longText); });
 }
 
-std::vector<sql::AusdruckZeiger> BenutzDefSchritte::vorauswahl() const
+std::vector<sql::ExpressionPointer> UserDefinedSteps::preselection() const
 {
-    std::vector<sql::AusdruckZeiger> bedingungen;
-    for (auto erster = schritte_.begin(); erster != schritte_.end(); ++erster) {
-        const auto gleicher = [&](const Schritt& schritt) { return equalText(schritt.name, erster->name); };
-        if (std::any_of(schritte_.begin(), erster, gleicher))
+    std::vector<sql::ExpressionPointer> conditions;
+    for (auto first = steps_.begin(); first != steps_.end(); ++first) {
+        const auto same = [&](const Step& step) { return equalText(step.name, first->name); };
+        if (std::any_of(steps_.begin(), first, same))
             continue;
-        std::vector<sql::AusdruckZeiger> werte;
-        bool jeder = false;
-        for (auto schritt = erster; schritt != schritte_.end(); ++schritt) {
-            if (!gleicher(*schritt))
+        std::vector<sql::ExpressionPointer> values;
+        bool each = false;
+        for (auto step = first; step != steps_.end(); ++step) {
+            if (!same(*step))
                 continue;
-            jeder = jeder || schritt->jederWert();
-            if (!schritt->jederWert())
-                werte.push_back(schritt->bedingung());
+            each = each || step->eachValue();
+            if (!step->eachValue())
+                values.push_back(step->condition());
         }
-        auto name = sql::equal("Name", erster->name);
-        bedingungen.push_back(jeder ? std::move(name) : sql::all(std::move(name), sql::any(std::move(werte))));
+        auto name = sql::equal("Name", first->name);
+        conditions.push_back(each ? std::move(name) : sql::all(std::move(name), sql::any(std::move(values))));
     }
-    return bedingungen;
+    return conditions;
 }
 
 } // namespace quelvarn

@@ -12,41 +12,41 @@
 
 namespace quelvarn {
 
-inline constexpr std::size_t AB_PFAD = 32; // A Wert of so many characters is taken for a path.
+inline constexpr std::size_t FROM_PATH = 32; // A Wert of so many characters is taken for a path.
 
 // The steps for user-defined properties: which rows (Name, Wert) meet one of them.
-class BenutzDefSchritte
+class UserDefinedSteps
 {
 public:
-    explicit BenutzDefSchritte(const Filterzustand& zustand);
+    explicit UserDefinedSteps(const TypeFilter& state);
 
-    std::size_t anzahl() const { return schritte_.size(); }
+    std::size_t count() const { return steps_.size(); }
     // A row counts once, however many steps it meets.
-    bool trifft(std::string_view Name, std::string_view Wert) const;
+    bool meets(std::string_view Name, std::string_view value) const;
     // Conditions that every row with a hit meets; no row meets two of them. Others may meet them as well.
-    std::vector<sql::AusdruckZeiger> vorauswahl() const;
+    std::vector<sql::ExpressionPointer> preselection() const;
 
 private:
-    struct Schritt
+    struct Step
     {
-        Schritt(const std::string& Name, const std::string& Wert);
-        bool passt(std::string_view text, bool lang) const;
+        Step(const std::string& Name, const std::string& value);
+        bool fits(std::string_view text, bool longText) const;
         bool fitsPattern(std::string_view text) const;
-        bool jederWert() const;
-        sql::AusdruckZeiger bedingung() const; // Of the Wert; nothing where each may fit.
+        bool eachValue() const;
+        sql::ExpressionPointer condition() const; // Of the Wert; nothing where each may fit.
 
         std::string name;
-        std::string wert;
-        LikePattern muster;
-        bool musterBeiKurzen; // The step's value ends with a star.
-        bool versand;
+        std::string value;
+        LikePattern pattern;
+        bool patternAtShort; // The step's value ends with a star.
+        bool sendOrder;
     };
-    bool passt(std::string_view Name, std::string_view Wert) const;
+    bool fits(std::string_view Name, std::string_view value) const;
 
-    std::vector<Schritt> schritte_;
+    std::vector<Step> steps_;
     // Rows of the same name and value come one behind the other.
-    mutable std::string letzterName_, letzterWert_;
-    mutable std::optional<bool> letztes_;
+    mutable std::string lastName_, lastValue_;
+    mutable std::optional<bool> last_;
 };
 
 } // namespace quelvarn

@@ -13,159 +13,160 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t SCHRITTWEITE = 8192;
-constexpr std::size_t ALS_ABFRAGEN = 2000; // So many documents are looked up one by one.
+constexpr std::size_t STEP_WIDTH = 8192;
+constexpr std::size_t AS_QUERIES = 2000; // So many documents are looked up one by one.
 
 // Where the rows of the documents found stand.
-struct Fundort
+struct HitPlace
 {
-    std::string_view tabelle;
-    std::string bereich; // The status scope of its readers.
+    std::string_view table;
+    std::string section; // The status scope of its readers.
 };
 
-struct Fund
+struct Find
 {
-    Zeilenschluessel zeile = 0; // 0: not found yet
-    std::size_t fundort = 0;
+    RowKey row = 0; // 0: not found yet
+    std::size_t hitPlace = 0;
 };
 
 // One run of the filter for user-defined properties: counts hits per document, then finds the documents' rows.
-class BenutzDefLauf
+class UserDefinedRun
 {
 public:
-    BenutzDefLauf(Filterkontext& kontext, LangeArbeit& arbeit)
-        : kontext_(kontext), arbeit_(arbeit), typ_(DOKUTYPEN[static_cast<std::size_t>(kontext.tab)]),
-          schritte_(kontext.zustand()), ZusBenutzDef_(kontext.zustand().ZusBenutzDef),
-          gesamt_(kontext.table().count() * (schritte_.anzahl() + 1) + SCHRITTWEITE)
+    UserDefinedRun(FilterContext& context, LongWork& work)
+        : context_(context), work_(work), type_(DOCUMENT_TYPES[static_cast<std::size_t>(context.tab)]),
+          steps_(context.state()), ZusBenutzDef_(context.state().ZusBenutzDef),
+          total_(context.table().count() * (steps_.count() + 1) + STEP_WIDTH)
     {
         // A special table's documents are looked up among the parts first.
-        const bool sonder = typ_.sondertabelle > 0;
-        const std::string& WhereStatus = kontext.session.rights.WhereStatus;
-        fundorte_.push_back({sonder ? DOKUTYPEN[0].tabelle : typ_.tabelle, WhereStatus});
-        if (sonder)
-            fundorte_.push_back({typ_.tabelle, ""});
+        const bool special = type_.specialTable > 0;
+        const std::string& WhereStatus = context.session.rights.WhereStatus;
+        hitPlaces_.push_back({special ? DOCUMENT_TYPES[0].table : type_.table, WhereStatus});
+        if (special)
+            hitPlaces_.push_back({type_.table, ""});
     }
 
     // Nothing when it was given up.
-    std::optional<Recordset> fuehreAus()
+    std::optional<Recordset> execute()
     {
-        if (schritte_.anzahl() > 0 && (!zaehleTreffer() || !sucheDokumente()))
+        if (steps_.count() > 0 && (!countHits() || !searchDocuments()))
             return std::nullopt;
-        return ergebnis();
+        return result();
     }
 
 private:
-    Connection& verbindung() const { return kontext_.session.database.Verbindung; }
+    Connection& connection() const { return context_.session.database.connection; }
 
-    bool weiter()
+    bool further()
     {
-        if (++gelesen_ % SCHRITTWEITE != 0)
+        if (++read_ % STEP_WIDTH != 0)
             return true;
-        return arbeit_(std::min(gelesen_, gesamt_), gesamt_);
+        return work_(std::min(read_, total_), total_);
     }
 
     // --- rows of properties ---
-    bool zaehleTreffer()
+    bool countHits()
     {
-        for (sql::AusdruckZeiger& bedingung : schritte_.vorauswahl())
-            if (!zaehleTreffer(std::move(bedingung)))
+        for (sql::ExpressionPointer& condition : steps_.preselection())
+            if (!countHits(std::move(condition)))
                 return false;
         return true;
     }
 
-    bool zaehleTreffer(sql::AusdruckZeiger bedingung)
+    bool countHits(sql::ExpressionPointer condition)
     {
         sql::Select select;
-        select.tabelle = typ_.tabelleBenutzDef;
-        select.spalten = {"DokuBez", "RevBez", "Name", "Wert"};
-        select.where = sql::all(std::move(bedingung), sql::statusScope(kontext_.session.rights.WhereStatus));
+        select.table = type_.tableUserDef;
+        select.columns = {"DokuBez", "RevBez", "Name", "Wert"};
+        select.where = sql::all(std::move(condition), sql::statusScope(context_.session.rights.WhereStatus));
         for (const AdditionalValue& value : ZusBenutzDef_)
-            select.where = sql::all(std::move(select.where), valueCondition(ZUSATZSPALTEN[value.column], value.Wert));
-        const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Nein);
-        while (zeilen->next()) {
-            if (!weiter())
+            select.where =
+                sql::all(std::move(select.where), valueCondition(ADDITIONAL_COLUMNS[value.column], value.value));
+        const auto rows = connection().engine().read(select, WithKey::No);
+        while (rows->next()) {
+            if (!further())
                 return false;
-            if (schritte_.trifft(zeilen->text(2), zeilen->text(3)))
-                dokumente_.zaehle(zeilen->text(0), zeilen->text(1));
+            if (steps_.meets(rows->text(2), rows->text(3)))
+                documents_.count(rows->text(0), rows->text(1));
         }
         return true;
     }
 
     // --- rows of documents ---
     // A document whose count passes the number of steps has reached it before.
-    bool gesucht(Dokumentzaehler::Nummer nummer) const
+    bool sought(DocumentCounter::Number number) const
     {
-        return dokumente_.zaehler(nummer) >= schritte_.anzahl() && funde_[nummer].zeile == 0;
+        return documents_.counter(number) >= steps_.count() && hits_[number].row == 0;
     }
 
-    bool sucheDokumente()
+    bool searchDocuments()
     {
-        funde_.resize(dokumente_.anzahl());
-        for (std::size_t fundort = 0; fundort < fundorte_.size(); ++fundort) {
-            std::vector<Dokumentzaehler::Nummer> offene;
-            for (Dokumentzaehler::Nummer nummer = 0; nummer < dokumente_.anzahl(); ++nummer)
-                if (gesucht(nummer))
-                    offene.push_back(nummer);
-            if (offene.empty())
+        hits_.resize(documents_.count());
+        for (std::size_t hitPlace = 0; hitPlace < hitPlaces_.size(); ++hitPlace) {
+            std::vector<DocumentCounter::Number> open;
+            for (DocumentCounter::Number number = 0; number < documents_.count(); ++number)
+                if (sought(number))
+                    open.push_back(number);
+            if (open.empty())
                 break;
-            if (!(offene.size() <= ALS_ABFRAGEN ? sucheEinzeln(fundort, offene) : sucheImGanzen(fundort)))
+            if (!(open.size() <= AS_QUERIES ? searchSingle(hitPlace, open) : searchInWhole(hitPlace)))
                 return false;
         }
         return true;
     }
 
     // A fault has its box; OK goes on with the documents behind.
-    bool sucheEinzeln(std::size_t fundort, const std::vector<Dokumentzaehler::Nummer>& offene)
+    bool searchSingle(std::size_t hitPlace, const std::vector<DocumentCounter::Number>& open)
     {
-        bool weitergehen = true;
-        einDurchgang_ = false;
-        std::vector<sql::AusdruckZeiger> dokumente;
-        for (const Dokumentzaehler::Nummer nummer : offene)
-            dokumente.push_back(sql::all(sql::equal("DokuBez", dokumente_.DokuBez(nummer)),
-                                         sql::equal("RevBez", dokumente_.RevBez(nummer))));
-        for (sql::AusdruckZeiger& einige : sql::chunks(std::move(dokumente))) {
-            gesichertKopiert([&] { weitergehen = nimmZeilen(fundort, std::move(einige)); });
-            if (!weitergehen)
+        bool goOn = true;
+        singlePass_ = false;
+        std::vector<sql::ExpressionPointer> documents;
+        for (const DocumentCounter::Number number : open)
+            documents.push_back(sql::all(sql::equal("DokuBez", documents_.DokuBez(number)),
+                                         sql::equal("RevBez", documents_.RevBez(number))));
+        for (sql::ExpressionPointer& some : sql::chunks(std::move(documents))) {
+            guardedCopied([&] { goOn = takeRows(hitPlace, std::move(some)); });
+            if (!goOn)
                 return false;
         }
         return true;
     }
 
-    bool sucheImGanzen(std::size_t fundort)
+    bool searchInWhole(std::size_t hitPlace)
     {
-        bool weitergehen = true;
-        einDurchgang_ = gefundene_.empty();
-        gesichertKopiert([&] { weitergehen = nimmZeilen(fundort, nullptr); });
-        return weitergehen;
+        bool goOn = true;
+        singlePass_ = found_.empty();
+        guardedCopied([&] { goOn = takeRows(hitPlace, nullptr); });
+        return goOn;
     }
 
-    bool gesichertKopiert(const std::function<void()>& tat)
+    bool guardedCopied(const std::function<void()>& action)
     {
-        return gesichert(kontext_.ports().meldungen, "SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
-                         "Fehler beim Erstellen der Filtertabelle BenutzDef", tat);
+        return guarded(context_.ports().boxes, "SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
+                       "Fehler beim Erstellen der Filtertabelle BenutzDef", action);
     }
 
     // Of several rows of one document the first counts.
-    bool nimmZeilen(std::size_t fundort, sql::AusdruckZeiger bedingung)
+    bool takeRows(std::size_t hitPlace, sql::ExpressionPointer condition)
     {
         sql::Select select;
-        select.tabelle = fundorte_[fundort].tabelle;
-        select.spalten = {"DokuBez", "RevBez"};
-        select.where = sql::all(std::move(bedingung), sql::statusScope(fundorte_[fundort].bereich));
+        select.table = hitPlaces_[hitPlace].table;
+        select.columns = {"DokuBez", "RevBez"};
+        select.where = sql::all(std::move(condition), sql::statusScope(hitPlaces_[hitPlace].section));
         select.orderBy = {{"DokuBez", false}, {"RevBez", true}}; // As the index has it.
-        const auto zeilen = verbindung().engine().lese(select, MitSchluessel::Ja);
-        while (zeilen->next()) {
-            if (!weiter())
+        const auto rows = connection().engine().read(select, WithKey::Yes);
+        while (rows->next()) {
+            if (!further())
                 return false;
-            const auto nummer = dokumente_.finde(zeilen->text(0), zeilen->text(1));
-            if (!nummer)
+            const auto number = documents_.find(rows->text(0), rows->text(1));
+            if (!number)
                 continue;
-            Fund& fund = funde_[*nummer];
-            if (gesucht(*nummer))
-                gefundene_.push_back(*nummer);
-            else if (fund.zeile == 0 || fund.fundort != fundort || fund.zeile < zeilen->schluessel())
+            Find& find = hits_[*number];
+            if (sought(*number))
+                found_.push_back(*number);
+            else if (find.row == 0 || find.hitPlace != hitPlace || find.row < rows->key())
                 continue;
-            fund = {zeilen->schluessel(), fundort};
+            find = {rows->key(), hitPlace};
         }
         return true;
     }
@@ -173,100 +174,100 @@ private:
     // --- the result ---
     // By document, older revisions first. One pass over all brought the documents in order already, their revisions
     // the other way round.
-    void ordne()
+    void arrange()
     {
-        const auto bezeichnung = [&](Dokumentzaehler::Nummer nummer) { return dokumente_.DokuBez(nummer); };
-        if (!einDurchgang_) {
-            std::ranges::sort(gefundene_, [&](auto links, auto rechts) {
-                const int vergleich = compareText(bezeichnung(links), bezeichnung(rechts));
-                return vergleich != 0 ? vergleich < 0
-                                      : compareText(dokumente_.RevBez(links), dokumente_.RevBez(rechts)) < 0;
+        const auto label = [&](DocumentCounter::Number number) { return documents_.DokuBez(number); };
+        if (!singlePass_) {
+            std::ranges::sort(found_, [&](auto left, auto right) {
+                const int comparison = compareText(label(left), label(right));
+                return comparison != 0 ? comparison < 0
+                                       : compareText(documents_.RevBez(left), documents_.RevBez(right)) < 0;
             });
             return;
         }
-        for (auto erste = gefundene_.begin(); erste != gefundene_.end();) {
-            const auto ende = std::find_if(erste + 1, gefundene_.end(), [&](Dokumentzaehler::Nummer nummer) {
-                return !equalText(bezeichnung(nummer), bezeichnung(*erste));
+        for (auto first = found_.begin(); first != found_.end();) {
+            const auto end = std::find_if(first + 1, found_.end(), [&](DocumentCounter::Number number) {
+                return !equalText(label(number), label(*first));
             });
-            std::reverse(erste, ende);
-            erste = ende;
+            std::reverse(first, end);
+            first = end;
         }
     }
 
-    std::optional<Recordset> ergebnis()
+    std::optional<Recordset> result()
     {
-        ordne();
-        std::size_t eigener = 0;
-        std::vector<Zeilenschluessel> schluessel;
-        for (const Dokumentzaehler::Nummer nummer : gefundene_) {
-            schluessel.push_back(funde_[nummer].zeile);
-            eigener += funde_[nummer].fundort;
+        arrange();
+        std::size_t own = 0;
+        std::vector<RowKey> key;
+        for (const DocumentCounter::Number number : found_) {
+            key.push_back(hits_[number].row);
+            own += hits_[number].hitPlace;
         }
         Recordset recordset;
-        if (eigener != 0 && eigener != gefundene_.size())
-            return gemischt();
-        recordset.OpenZeilen(fundorte_[eigener == 0 ? 0 : 1].tabelle, std::move(schluessel), verbindung());
+        if (own != 0 && own != found_.size())
+            return mixed();
+        recordset.openRows(hitPlaces_[own == 0 ? 0 : 1].table, std::move(key), connection());
         return recordset;
     }
 
     // Rows of two tables make a recordset in memory.
-    std::optional<Recordset> gemischt()
+    std::optional<Recordset> mixed()
     {
-        std::array<Recordset, 2> quellen;
-        for (std::size_t fundort = 0; fundort < fundorte_.size(); ++fundort) {
-            std::vector<Zeilenschluessel> schluessel;
-            for (const Dokumentzaehler::Nummer nummer : gefundene_)
-                if (funde_[nummer].fundort == fundort)
-                    schluessel.push_back(funde_[nummer].zeile);
-            quellen[fundort].OpenZeilen(fundorte_[fundort].tabelle, std::move(schluessel), verbindung());
+        std::array<Recordset, 2> sources;
+        for (std::size_t hitPlace = 0; hitPlace < hitPlaces_.size(); ++hitPlace) {
+            std::vector<RowKey> key;
+            for (const DocumentCounter::Number number : found_)
+                if (hits_[number].hitPlace == hitPlace)
+                    key.push_back(hits_[number].row);
+            sources[hitPlace].openRows(hitPlaces_[hitPlace].table, std::move(key), connection());
         }
-        Recordset ziel;
-        for (const Spalte& feld : quellen[1].Felder())
-            if (quellen[0].hatFeld(feld.name))
-                ziel.FeldAnhaengen(feld.name, feld.typ);
-        ziel.Open();
-        for (const Dokumentzaehler::Nummer nummer : gefundene_) {
-            if (!weiter())
+        Recordset target;
+        for (const ColumnInfo& field : sources[1].fields())
+            if (sources[0].hasField(field.name))
+                target.appendField(field.name, field.type);
+        target.Open();
+        for (const DocumentCounter::Number number : found_) {
+            if (!further())
                 return std::nullopt;
-            Recordset& quelle = quellen[funde_[nummer].fundort];
-            if (!gesichertKopiert([&] { kopiere(quelle, ziel); }))
-                ziel.CancelUpdate();
-            quelle.MoveNext();
+            Recordset& source = sources[hits_[number].hitPlace];
+            if (!guardedCopied([&] { copy(source, target); }))
+                target.CancelUpdate();
+            source.MoveNext();
         }
-        if (ziel.RecordCount() > 0)
-            ziel.MoveFirst();
-        return ziel;
+        if (target.RecordCount() > 0)
+            target.MoveFirst();
+        return target;
     }
 
-    static void kopiere(const Recordset& quelle, Recordset& ziel)
+    static void copy(const Recordset& source, Recordset& target)
     {
-        ziel.AddNew();
-        for (const Spalte& feld : ziel.Felder())
-            ziel.setzeFeld(feld.name, quelle.Feld(feld.name));
-        ziel.Update();
+        target.AddNew();
+        for (const ColumnInfo& field : target.fields())
+            target.setField(field.name, source.field(field.name));
+        target.Update();
     }
 
-    Filterkontext& kontext_;
-    LangeArbeit& arbeit_;
-    const DokuTyp& typ_;
-    BenutzDefSchritte schritte_;
+    FilterContext& context_;
+    LongWork& work_;
+    const DocumentType& type_;
+    UserDefinedSteps steps_;
     const std::vector<AdditionalValue>& ZusBenutzDef_;
-    std::vector<Fundort> fundorte_;
-    Dokumentzaehler dokumente_;
-    std::vector<Fund> funde_;
-    std::vector<Dokumentzaehler::Nummer> gefundene_;
-    bool einDurchgang_ = false;
-    std::size_t gelesen_ = 0;
-    std::size_t gesamt_; // About.
+    std::vector<HitPlace> hitPlaces_;
+    DocumentCounter documents_;
+    std::vector<Find> hits_;
+    std::vector<DocumentCounter::Number> found_;
+    bool singlePass_ = false;
+    std::size_t read_ = 0;
+    std::size_t total_; // About.
 };
 
 } // namespace
 
-std::optional<Recordset> ApplyBenutzDefFilter(Filterkontext& kontext)
+std::optional<Recordset> ApplyBenutzDefFilter(FilterContext& context)
 {
-    kontext.table(); // Opening it has a progress of its own.
-    LangeArbeit arbeit(kontext.ports().fortschritt, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
-    return BenutzDefLauf(kontext, arbeit).fuehreAus();
+    context.table(); // Opening it has a progress of its own.
+    LongWork work(context.ports().progress, "Benutzerdefinierte Eigenschaften werden gefiltert ...");
+    return UserDefinedRun(context, work).execute();
 }
 
 } // namespace quelvarn

@@ -14,153 +14,149 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int HOECHSTENS_SCHRITTE = 5;
-constexpr int HOECHSTENS_ZUSAETZE = 2;
-constexpr int AUTOR = 0, BEARBEITER = 1, MATERIAL = 2, PROJEKT = 3;
-constexpr std::string_view JEDER_WERT = "*";
-constexpr std::size_t ZEILEN_JE_DOKUMENT = 5; // A guess, for the progress alone.
+constexpr int STEP_LIMIT = 5;
+constexpr int ADDITION_LIMIT = 2;
+constexpr int AUTHOR = 0, EDITOR = 1, MATERIAL = 2, PROJECT = 3;
+constexpr std::string_view EACH_VALUE = "*";
+constexpr std::size_t ROWS_PER_DOCUMENT = 5; // A guess, for the progress alone.
 
-Werteliste alsListe(std::vector<std::string> werte)
+ValueList asList(std::vector<std::string> values)
 {
-    std::string anzahl = std::to_string(werte.size());
-    return {std::move(werte), std::move(anzahl)};
+    std::string count = std::to_string(values.size());
+    return {std::move(values), std::move(count)};
 }
 
-std::string_view tabelleVon(const Filterkontext& kontext)
+std::string_view tableOf(const FilterContext& context)
 {
-    return DOKUTYPEN[static_cast<std::size_t>(kontext.tab)].tabelleBenutzDef;
+    return DOCUMENT_TYPES[static_cast<std::size_t>(context.tab)].tableUserDef;
 }
 
 } // namespace
 
-std::string BenutzDefBereich::bezeichnung(int zusatz) const
+std::string UserDefinedSection::label(int addition) const
 {
-    const std::string_view spalte = ZUSATZSPALTEN[static_cast<std::size_t>(zusatz)];
-    const auto& namen = kontext_.session.labels.Bezeichnungen;
-    const auto name = namen.find(toLower(spalte));
-    return name == namen.end() ? std::string(spalte) : name->second;
+    const std::string_view column = ADDITIONAL_COLUMNS[static_cast<std::size_t>(addition)];
+    const auto& names = context_.session.labels.Bezeichnungen;
+    const auto name = names.find(toLower(column));
+    return name == names.end() ? std::string(column) : name->second;
 }
 
-bool BenutzDefBereich::vorhanden() const
+bool UserDefinedSection::exists() const
 {
-    const Connection& verbindung = kontext_.session.database.Verbindung;
-    return verbindung.offen() && verbindung.engine().findTabelle(tabelleVon(kontext_)).has_value();
+    const Connection& connection = context_.session.database.connection;
+    return connection.open() && connection.engine().findTable(tableOf(context_)).has_value();
 }
 
-void BenutzDefBereich::entsperre()
+void UserDefinedSection::unlock()
 {
     SperreBenutzDef_ = true;
 }
 
-void BenutzDefBereich::sperre()
+void UserDefinedSection::lock()
 {
     SperreBenutzDef_ = false;
 }
 
-void BenutzDefBereich::fuelleListen()
+void UserDefinedSection::fillLists()
 {
-    Connection& verbindung = kontext_.session.database.Verbindung;
+    Connection& connection = context_.session.database.connection;
     name_.clear();
-    werte_ = {};
-    kennungen_.clear();
-    zusatz_ = {};
-    namen_ = alsListe(leseNamen(verbindung, tabelleVon(kontext_), kontext_.session.rights.WhereStatus));
-    const std::size_t zeilen = kontext_.table().count() * ZEILEN_JE_DOKUMENT; // Opening it has a progress of its own.
-    LangeArbeit arbeit(kontext_.ports().fortschritt, "Listen werden gefüllt ...");
-    auto zusaetze = leseZusaetze(verbindung, tabelleVon(kontext_), zeilen, arbeit);
-    std::ranges::transform(zusaetze, zusatz_.begin(), [](auto& werte) { return alsListe(std::move(werte)); });
+    values_ = {};
+    addressCodes_.clear();
+    addition_ = {};
+    names_ = asList(readNames(connection, tableOf(context_), context_.session.rights.WhereStatus));
+    const std::size_t rows = context_.table().count() * ROWS_PER_DOCUMENT; // Opening it has a progress of its own.
+    LongWork work(context_.ports().progress, "Listen werden gefüllt ...");
+    auto additions = readAdditions(connection, tableOf(context_), rows, work);
+    std::ranges::transform(additions, addition_.begin(), [](auto& values) { return asList(std::move(values)); });
 }
 
-void BenutzDefBereich::nameGewaehlt(std::string_view name)
+void UserDefinedSection::nameChosen(std::string_view name)
 {
     name_ = name;
-    fuelleWerte();
+    fillValues();
 }
 
-void BenutzDefBereich::setzeEmpfaenger(bool gesetzt)
+void UserDefinedSection::setReceiver(bool set)
 {
-    ChReceiver_ = gesetzt;
-    fuelleWerte();
+    ChReceiver_ = set;
+    fillValues();
 }
 
-void BenutzDefBereich::fuelleWerte()
+void UserDefinedSection::fillValues()
 {
-    werte_ = {};
-    kennungen_.clear();
+    values_ = {};
+    addressCodes_.clear();
     if (name_.empty())
-        return kontext_.operations.changed(Part::FilterPage);
-    kontext_.operations.perform(
+        return context_.operations.changed(Part::FilterPage);
+    context_.operations.perform(
         Part::FilterPage, "SE-Filtern: Werte der Eigenschaft", "Fehler beim Füllen der Werteliste!", [&] {
-            Connection& verbindung = kontext_.session.database.Verbindung;
-            LangeArbeit arbeit(kontext_.ports().fortschritt, "Werte werden gelesen ...");
-            const std::vector<std::string> werte = leseWerte(verbindung, tabelleVon(kontext_), name_);
-            std::vector<std::string> gezeigte{std::string(JEDER_WERT)};
-            kennungen_ = gezeigte;
-            for (std::size_t i = 0; i < werte.size() && arbeit(i, werte.size()); ++i) {
-                const std::string gezeigt = gezeigterWert(werte[i]);
-                const std::string empfaenger = ChReceiver_ ? quelvarn::empfaenger(verbindung, werte[i]) : gezeigt;
-                if (empfaenger.empty())
+            Connection& connection = context_.session.database.connection;
+            LongWork work(context_.ports().progress, "Werte werden gelesen ...");
+            const std::vector<std::string> values = readValues(connection, tableOf(context_), name_);
+            std::vector<std::string> shownValues{std::string(EACH_VALUE)};
+            addressCodes_ = shownValues;
+            for (std::size_t i = 0; i < values.size() && work(i, values.size()); ++i) {
+                const std::string shown = shownValue(values[i]);
+                const std::string receiver = ChReceiver_ ? quelvarn::receiver(connection, values[i]) : shown;
+                if (receiver.empty())
                     continue;
-                gezeigte.push_back(empfaenger);
-                kennungen_.push_back(gezeigt);
+                shownValues.push_back(receiver);
+                addressCodes_.push_back(shown);
             }
-            werte_ = alsListe(std::move(gezeigte));
+            values_ = asList(std::move(shownValues));
         });
 }
 
-void BenutzDefBereich::wertGewaehlt(std::string_view wert)
+void UserDefinedSection::valueChosen(std::string_view value)
 {
-    Meldungen& meldungen = kontext_.ports().meldungen;
+    Boxes& boxes = context_.ports().boxes;
     if (!SperreBenutzDef_)
-        meldungen.warnung(
-            "SE-Filter: Strukturmerkmale",
-            zeilen({"Nach Auswahl",
-                    fmt::format("{} / {} / {}", bezeichnung(AUTOR), bezeichnung(BEARBEITER), bezeichnung(MATERIAL)), "",
-                    "ist die Auswahl der benutzerdefinierten Eigenschaften gesperrt!", "",
-                    "Die Auswahl ist wieder entsperrt, wenn", "alle Filterwerte zurückgesetzt werden."}));
-    else if (name_.empty() || wert.empty())
-        meldungen.warnung("SE-Filtern: Angaben", "Angaben sind unvollständig!");
-    else if (kontext_.zustand().FilterAnzahl < HOECHSTENS_SCHRITTE)
-        nimmSchritt(wert);
+        boxes.warn("SE-Filter: Strukturmerkmale",
+                   lines({"Nach Auswahl", fmt::format("{} / {} / {}", label(AUTHOR), label(EDITOR), label(MATERIAL)),
+                          "", "ist die Auswahl der benutzerdefinierten Eigenschaften gesperrt!", "",
+                          "Die Auswahl ist wieder entsperrt, wenn", "alle Filterwerte zurückgesetzt werden."}));
+    else if (name_.empty() || value.empty())
+        boxes.warn("SE-Filtern: Angaben", "Angaben sind unvollständig!");
+    else if (context_.state().FilterAnzahl < STEP_LIMIT)
+        takeStep(value);
     else
-        meldungen.warnung(
+        boxes.warn(
             "SE-Filtern: Anzahl Filterwerte",
-            zeilen({"Es können maximal 5 benutzerdefinierte Eigenschaften", "als Filterwerte vorgegeben werden!", "",
-                    "Filterwert 6 und 7 kann aus",
-                    fmt::format("{} / {} / {}", bezeichnung(AUTOR), bezeichnung(BEARBEITER), bezeichnung(MATERIAL)),
-                    "ausgewählt werden."}));
+            lines({"Es können maximal 5 benutzerdefinierte Eigenschaften", "als Filterwerte vorgegeben werden!", "",
+                   "Filterwert 6 und 7 kann aus",
+                   fmt::format("{} / {} / {}", label(AUTHOR), label(EDITOR), label(MATERIAL)), "ausgewählt werden."}));
 }
 
 // A receiver is taken by the code that stands in the table.
-void BenutzDefBereich::nimmSchritt(std::string_view wert)
+void UserDefinedSection::takeStep(std::string_view value)
 {
-    const auto stelle = std::ranges::find(werte_.werte, wert);
-    const std::string kennung = stelle == werte_.werte.end()
-                                    ? std::string(wert)
-                                    : kennungen_[static_cast<std::size_t>(stelle - werte_.werte.begin())];
-    Filterzustand& zustand = kontext_.zustand();
-    zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {"", name_, CodeText, kennung};
+    const auto position = std::ranges::find(values_.values, value);
+    const std::string addressCode = position == values_.values.end()
+                                        ? std::string(value)
+                                        : addressCodes_[static_cast<std::size_t>(position - values_.values.begin())];
+    TypeFilter& state = context_.state();
+    state.FilterSchritte[static_cast<std::size_t>(state.FilterAnzahl++)] = {"", name_, CodeText, addressCode};
     name_.clear();
-    kontext_.operations.changed(Part::FilterPage);
+    context_.operations.changed(Part::FilterPage);
 }
 
-void BenutzDefBereich::zusatzGewaehlt(int index, std::string_view wert)
+void UserDefinedSection::additionChosen(int index, std::string_view value)
 {
-    if (wert.empty())
+    if (value.empty())
         return;
-    auto& values = kontext_.zustand().ZusBenutzDef;
+    auto& values = context_.state().ZusBenutzDef;
     const auto column = static_cast<std::size_t>(index);
     const bool again = std::ranges::find(values, column, &AdditionalValue::column) != values.end();
-    if (!again && kontext_.zustand().BenutzDefAnzahl() >= HOECHSTENS_ZUSAETZE)
-        return kontext_.ports().meldungen.warnung(
+    if (!again && context_.state().BenutzDefAnzahl() >= ADDITION_LIMIT)
+        return context_.ports().boxes.warn(
             "SE-Filtern: Anzahl Filterwerte",
-            zeilen({"Von den Eigenschaften",
-                    fmt::format("{} / {} / {} / {}", bezeichnung(PROJEKT), bezeichnung(AUTOR), bezeichnung(BEARBEITER),
-                                bezeichnung(MATERIAL)),
-                    "können maximal 2 Filterwerte ausgewählt werden."}));
-    setAdditionalValue(values, {column, std::string(wert), bezeichnung(index)});
-    sperre();
-    kontext_.operations.changed(Part::FilterPage);
+            lines({"Von den Eigenschaften",
+                   fmt::format("{} / {} / {} / {}", label(PROJECT), label(AUTHOR), label(EDITOR), label(MATERIAL)),
+                   "können maximal 2 Filterwerte ausgewählt werden."}));
+    setAdditionalValue(values, {column, std::string(value), label(index)});
+    lock();
+    context_.operations.changed(Part::FilterPage);
 }
 
 } // namespace quelvarn

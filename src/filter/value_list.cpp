@@ -5,21 +5,21 @@
 
 namespace quelvarn {
 
-Werteliste werteliste(std::vector<std::string> werte)
+ValueList valueList(std::vector<std::string> values)
 {
-    const bool nurLeer = werte.size() == 1 && trimRightBlanks(werte.front()).empty();
-    std::string anzahl = std::to_string(nurLeer ? 0 : werte.size());
-    return {std::move(werte), std::move(anzahl)};
+    const bool onlyEmpty = values.size() == 1 && trimRightBlanks(values.front()).empty();
+    std::string count = std::to_string(onlyEmpty ? 0 : values.size());
+    return {std::move(values), std::move(count)};
 }
 
-std::string anzeigename(const SessionState& session, std::string_view Feldname)
+std::string displayName(const SessionState& session, std::string_view Feldname)
 {
-    std::string schluessel = replaceAll(toLower(Feldname), "_", " ");
+    std::string key = replaceAll(toLower(Feldname), "_", " ");
     if (Feldname == "Stichwoerter")
-        schluessel = "stichwörter";
+        key = "stichwörter";
     else if (Feldname == "Geaendert")
-        schluessel = "geändert";
-    const auto name = session.labels.Bezeichnungen.find(schluessel);
+        key = "geändert";
+    const auto name = session.labels.Bezeichnungen.find(key);
     return name == session.labels.Bezeichnungen.end() ? std::string(Feldname) : name->second;
 }
 

@@ -9,15 +9,15 @@
 namespace quelvarn {
 
 // A combo of the page: its values, and the count shown beside it.
-struct Werteliste
+struct ValueList
 {
-    std::vector<std::string> werte;
-    std::string anzahl; // "0" where the one value is empty.
+    std::vector<std::string> values;
+    std::string count; // "0" where the one value is empty.
 };
 
-Werteliste werteliste(std::vector<std::string> werte);
+ValueList valueList(std::vector<std::string> values);
 
 // The name that the office gave a column: of "Hauptmerkmal_A" that of "hauptmerkmal a".
-std::string anzeigename(const SessionState& session, std::string_view Feldname);
+std::string displayName(const SessionState& session, std::string_view Feldname);
 
 } // namespace quelvarn

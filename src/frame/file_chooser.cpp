@@ -10,64 +10,66 @@
 
 namespace quelvarn {
 
-Dateiauswahl::Dateiauswahl(const Ports& ports, std::string_view endung) : ports_(ports), endung_(toLower(endung)) {}
+FileSelection::FileSelection(const Ports& ports, std::string_view extension)
+    : ports_(ports), extension_(toLower(extension))
+{}
 
-void Dateiauswahl::liesLaufwerke()
+void FileSelection::readDrives()
 {
-    laufwerke_.clear();
-    for (const Laufwerk& laufwerk : ports_.laufwerke.liste())
-        laufwerke_.push_back(laufwerk.eintrag());
+    drives_.clear();
+    for (const Drive& drive : ports_.drives.list())
+        drives_.push_back(drive.entry());
 }
 
-void Dateiauswahl::setzeLaufwerk(std::string_view eintrag)
+void FileSelection::setDrive(std::string_view entry)
 {
-    setzeOrdner(toUpper(leftCharacters(eintrag, 2)) + "\\"); // Paths name drives in capitals; the list does not.
+    setFolder(toUpper(leftCharacters(entry, 2)) + "\\"); // Paths name drives in capitals; the list does not.
 }
 
-void Dateiauswahl::setzeOrdner(std::string_view ordner)
+void FileSelection::setFolder(std::string_view folder)
 {
-    std::string neu(ordner);
-    if (neu.size() == 2 && neu[1] == ':')
-        neu += '\\'; // A bare "W:" would be the current folder of that drive.
+    std::string fresh(folder);
+    if (fresh.size() == 2 && fresh[1] == ':')
+        fresh += '\\'; // A bare "W:" would be the current folder of that drive.
 
-    std::vector<std::string> unterordner, dateien;
-    for (const Ordnereintrag& eintrag : ports_.dateien.inhalt(neu)) {
-        if (eintrag.ordner)
-            unterordner.push_back(eintrag.name);
-        else if (toLower(rightCharacters(eintrag.name, endung_.size())) == endung_)
-            dateien.push_back(eintrag.name);
+    std::vector<std::string> subfolder, files;
+    for (const FolderEntry& entry : ports_.files.content(fresh)) {
+        if (entry.folder)
+            subfolder.push_back(entry.name);
+        else if (toLower(rightCharacters(entry.name, extension_.size())) == extension_)
+            files.push_back(entry.name);
     }
-    unterordner_ = std::move(unterordner);
-    dateien_ = std::move(dateien);
-    ordner_ = std::move(neu);
-    datei_.clear();
+    subfolder_ = std::move(subfolder);
+    files_ = std::move(files);
+    folder_ = std::move(fresh);
+    file_.clear();
 
-    const auto gleicherBuchstabe = [this](const std::string& eintrag) {
-        return equalText(leftCharacters(eintrag, 2), leftCharacters(ordner_, 2));
+    const auto sameLetter = [this](const std::string& entry) {
+        return equalText(leftCharacters(entry, 2), leftCharacters(folder_, 2));
     };
-    const auto eintrag = std::find_if(laufwerke_.begin(), laufwerke_.end(), gleicherBuchstabe);
-    laufwerk_ = eintrag == laufwerke_.end() ? "" : *eintrag;
+    const auto entry = std::find_if(drives_.begin(), drives_.end(), sameLetter);
+    drive_ = entry == drives_.end() ? "" : *entry;
 }
 
-void Dateiauswahl::nachOben()
+void FileSelection::upwards()
 {
-    std::string ohneStrich = ordner_;
-    if (ohneStrich.ends_with('\\'))
-        ohneStrich.pop_back();
-    const std::string oben = Ordnername(ohneStrich);
-    if (!oben.empty() && oben != "\\") // A share has nothing above it either.
-        setzeOrdner(oben);
+    std::string withoutDash = folder_;
+    if (withoutDash.ends_with('\\'))
+        withoutDash.pop_back();
+    const std::string above = Ordnername(withoutDash);
+    if (!above.empty() && above != "\\") // A share has nothing above it either.
+        setFolder(above);
 }
 
-void Dateiauswahl::zeigeDatei(std::string_view pfad)
+void FileSelection::showFile(std::string_view documentPath)
 {
-    setzeOrdner(Ordnername(pfad));
-    datei_ = DateiName(pfad);
+    setFolder(Ordnername(documentPath));
+    file_ = DateiName(documentPath);
 }
 
-std::string Dateiauswahl::pfad(std::string_view name) const
+std::string FileSelection::documentPath(std::string_view name) const
 {
-    return ordner_ + (ordner_.ends_with('\\') ? "" : "\\") + std::string(name);
+    return folder_ + (folder_.ends_with('\\') ? "" : "\\") + std::string(name);
 }
 
 } // namespace quelvarn

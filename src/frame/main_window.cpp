@@ -16,9 +16,9 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t ANZAHL_DATEITYPEN = 5; // The types with a stamp, which the status bar watches.
+constexpr std::size_t FILE_TYPE_COUNT = 5; // The types with a stamp, which the status bar watches.
 
-constexpr std::array<Werkzeugknopf, ANZAHL_WERKZEUGE> KNOEPFE{{
+constexpr std::array<ToolButton, TOOL_COUNT> BUTTONS{{
     {"Bearbeiten", "Bearbeiten mit Solid Edge"},
     {"Einfügen Baugr.", "Einfügen in Baugruppe"},
     {"Plazieren Zchn.", "Plazieren auf Zeichnung"},
@@ -29,43 +29,43 @@ constexpr std::array<Werkzeugknopf, ANZAHL_WERKZEUGE> KNOEPFE{{
     {"Beenden", ""},
 }};
 
-std::string sekundentext(int millisekunden)
+std::string secondsText(int milliseconds)
 {
-    return formatSekunden(millisekunden / 1000.0);
+    return formatSeconds(milliseconds / 1000.0);
 }
 
 } // namespace
 
-std::string benachrichtigungstext(const SessionState& session)
+std::string notificationText(const SessionState& session)
 {
     if (session.use.Zeitintervall > 0 && session.use.ForwardOn)
-        return "Innerhalb " + sekundentext(session.use.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
+        return "Innerhalb " + secondsText(session.use.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
     return "Zeitintervall = 0. Es erfogt keine Benachrichtigung.";
 }
 
 MainWindow::MainWindow(SessionState& session, Operations& operations, SolidEdgeInfo solidEdge)
     : session_(session), operations_(operations), ports_(operations.ports()), solidEdge_(std::move(solidEdge)),
-      knoepfe_(KNOEPFE)
+      buttons_(BUTTONS)
 {}
 
-void MainWindow::setzeAktion(Werkzeug knopf, std::function<void()> aktion)
+void MainWindow::setAction(Tool button, std::function<void()> action)
 {
-    aktionen_[static_cast<std::size_t>(knopf)] = std::move(aktion);
+    actions_[static_cast<std::size_t>(button)] = std::move(action);
 }
 
-bool MainWindow::hatAktion(Werkzeug knopf) const
+bool MainWindow::hasAction(Tool button) const
 {
-    if (knopf == Werkzeug::Beenden)
+    if (button == Tool::Quit)
         return true;
     // The box that forwarding is off is an answer as well.
-    if (!session_.use.ForwardOn && (knopf == Werkzeug::Weiterleiten || knopf == Werkzeug::Nachrichten))
+    if (!session_.use.ForwardOn && (button == Tool::Forward || button == Tool::Messages))
         return true;
-    return static_cast<bool>(aktionen_[static_cast<std::size_t>(knopf)]);
+    return static_cast<bool>(actions_[static_cast<std::size_t>(button)]);
 }
 
 bool MainWindow::laden()
 {
-    const std::string text = zeilen({
+    const std::string text = lines({
         "Fehler beim Laden der 'MDI-Form'!",
         "",
         "Mögliche Ursache:",
@@ -77,84 +77,84 @@ bool MainWindow::laden()
         "",
         "Das Programm wird beendet.",
     });
-    bool weiter = true;
-    const bool geladen = operations_.perform(Part::Frame, "Fehler beim Laden der 'MDI-Form'!", text, [&] {
-        stelleWerkzeugeEin();
+    bool further = true;
+    const bool loaded = operations_.perform(Part::Frame, "Fehler beim Laden der 'MDI-Form'!", text, [&] {
+        configureTools();
         RefreshStatusBar();
-        oeffneErsteSeite();
-        setzeTitel(session_.database.DatenbankPfad);
-        stelleZeitgeberEin();
-        weiter = CheckAlreadyRunning(ports_);
+        openFirstPage();
+        setTitle(session_.database.DatenbankPfad);
+        configureTimers();
+        further = CheckAlreadyRunning(ports_);
     });
-    if (!geladen || !weiter)
-        entladen();
-    return geladen && weiter;
+    if (!loaded || !further)
+        unload();
+    return loaded && further;
 }
 
-void MainWindow::oeffneErsteSeite()
+void MainWindow::openFirstPage()
 {
     if (!session_.database.DatenbankOk)
         session_.database.DatenbankPfad.clear();
-    zeigeSeite(session_.database.DatenbankOk ? Seite::Dokumente : Seite::Start);
+    showPage(session_.database.DatenbankOk ? Page::Documents : Page::Start);
 }
 
-void MainWindow::zuSeite(Seite ziel)
+void MainWindow::toPage(Page target)
 {
-    if (ziel != Seite::Start && session_.database.DatenbankPfad.empty()) {
-        ports_.meldungen.warnung("Auswahl Datenbank", "Es ist keine Datenbank ausgewählt!");
+    if (target != Page::Start && session_.database.DatenbankPfad.empty()) {
+        ports_.boxes.warn("Auswahl Datenbank", "Es ist keine Datenbank ausgewählt!");
         return;
     }
-    if (ziel == Seite::Start)
-        melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
-    else if (ziel == seite_)
+    if (target == Page::Start)
+        notify([](SessionListener& listener) { listener.reset(); });
+    else if (target == page_)
         return;
-    zeigeSeite(ziel);
+    showPage(target);
 }
 
-void MainWindow::zeigeSeite(Seite ziel)
+void MainWindow::showPage(Page target)
 {
-    seite_ = ziel;
-    melde([ziel](Rahmenteilnehmer& teilnehmer) { teilnehmer.seiteGezeigt(ziel); });
+    page_ = target;
+    notify([target](SessionListener& listener) { listener.pageShown(target); });
     operations_.changed(Part::Frame);
 }
 
-bool MainWindow::forwardAn(std::string_view titel, std::string_view ersteZeile)
+bool MainWindow::forwardOn(std::string_view title, std::string_view firstRow)
 {
     if (session_.use.ForwardOn)
         return true;
-    ports_.meldungen.warnung(titel, zeilen({
-                                        ersteZeile,
-                                        "Ini-Tabelle der Datenbank auf '0' gesetzt ist oder fehlt!",
-                                        "Eintrag muss lauten:",
-                                        "Spalte 'Feld1' = '!QV_Ini'",
-                                        "Spalte 'Feld2' = 'OnOff'",
-                                        "Spalte 'Feld3' = 'Forward'",
-                                        "Spalte 'Feld4' = '1'",
-                                        "Nach Änderung muss Quelvarn neu gestartet werden.",
-                                    }));
+    ports_.boxes.warn(title, lines({
+                                 firstRow,
+                                 "Ini-Tabelle der Datenbank auf '0' gesetzt ist oder fehlt!",
+                                 "Eintrag muss lauten:",
+                                 "Spalte 'Feld1' = '!QV_Ini'",
+                                 "Spalte 'Feld2' = 'OnOff'",
+                                 "Spalte 'Feld3' = 'Forward'",
+                                 "Spalte 'Feld4' = '1'",
+                                 "Nach Änderung muss Quelvarn neu gestartet werden.",
+                             }));
     return false;
 }
 
-void MainWindow::werkzeugGewaehlt(Werkzeug knopf)
+void MainWindow::toolChosen(Tool button)
 {
     operations_.perform(Part::Frame, "Toolbar MDI-Form", "Fehler bei Toolbar MDI-Form!", [&] {
-        if (knopf == Werkzeug::Beenden)
-            return entladen();
-        if (knopf == Werkzeug::Weiterleiten &&
-            !forwardAn("Weiterleiten der Dokumente", "Kein Weiterleiten der Dokumente, da 'Forward' in der"))
+        if (button == Tool::Quit)
+            return unload();
+        if (button == Tool::Forward &&
+            !forwardOn("Weiterleiten der Dokumente", "Kein Weiterleiten der Dokumente, da 'Forward' in der"))
             return;
-        if (knopf == Werkzeug::Nachrichten &&
-            !forwardAn("Erfassen der Nachrichten", "Die Nachrichten werden nicht registriert, da 'Forward' in der"))
+        if (button == Tool::Messages &&
+            !forwardOn("Erfassen der Nachrichten", "Die Nachrichten werden nicht registriert, da 'Forward' in der"))
             return;
-        if (const auto& aktion = aktionen_[static_cast<std::size_t>(knopf)])
-            aktion();
+        if (const auto& action = actions_[static_cast<std::size_t>(button)])
+            action();
     });
 }
 
 void MainWindow::edit()
 {
-    if (knopf(Werkzeug::Bearbeiten).sichtbar && hatAktion(Werkzeug::Bearbeiten))
-        werkzeugGewaehlt(Werkzeug::Bearbeiten);
+    if (button(Tool::Edit).visible && hasAction(Tool::Edit))
+        toolChosen(Tool::Edit);
 }
 
 void MainWindow::tickDBUpdate()
@@ -167,81 +167,81 @@ void MainWindow::tickDBUpdate()
 // The settings of the session belong into the file that the next start opens.
 void MainWindow::reachReplacedFile()
 {
-    if (session_.database.Verbindung.fileState() != FileState::Replaced)
+    if (session_.database.connection.fileState() != FileState::Replaced)
         return;
     try {
-        session_.database.Verbindung.Open(ports_.dateien.systempfad(session_.database.DatenbankPfad));
-    } catch (const Laufzeitfehler&) {
+        session_.database.connection.Open(ports_.files.systemPath(session_.database.DatenbankPfad));
+    } catch (const RuntimeError&) {
         return; // The pages tell that they cannot write.
     }
 }
 
-void MainWindow::entladen()
+void MainWindow::unload()
 {
-    if (std::exchange(entladen_, true))
+    if (std::exchange(unload_, true))
         return;
     timerDBUpdate_ = timerCheckInOut_ = timerWorkflow_ = {};
     reachReplacedFile();
-    melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.entladen(); });
+    notify([](SessionListener& listener) { listener.unload(); });
     session_.use.CheckInOut = Recordset();
-    session_.database.Verbindung.Close();
-    if (beendet)
-        beendet();
+    session_.database.connection.Close();
+    if (ended)
+        ended();
 }
 
-void MainWindow::setzeTitel(std::string_view datenbankPfad)
+void MainWindow::setTitle(std::string_view databasePath)
 {
-    titel_ = std::string(datenbankPfad) + versionstext();
-    ports_.programme.eigenerTitel(titel_);
+    title_ = std::string(databasePath) + versionText();
+    ports_.programs.ownTitle(title_);
     operations_.changed(Part::Frame);
 }
 
 void MainWindow::RefreshStatusBar()
 {
-    statuspanel_ = {"Änderung DB (" + sekundentext(session_.use.Zeitintervall) + " Sek-Takt):"};
+    statusPanel_ = {"Änderung DB (" + secondsText(session_.use.Zeitintervall) + " Sek-Takt):"};
     if (session_.use.Zeitintervall <= 0)
-        statuspanel_.emplace_back("Keine laufende Überprüfung der Datenbank (siehe Ini-Tabelle 'Timeinterval').");
-    for (std::size_t tab = 0; session_.use.Zeitintervall > 0 && tab < ANZAHL_DATEITYPEN; ++tab) {
-        statuspanel_.emplace_back(DOKUTYPEN[tab].einzahl);
-        statuspanel_.emplace_back();
+        statusPanel_.emplace_back("Keine laufende Überprüfung der Datenbank (siehe Ini-Tabelle 'Timeinterval').");
+    for (std::size_t tab = 0; session_.use.Zeitintervall > 0 && tab < FILE_TYPE_COUNT; ++tab) {
+        statusPanel_.emplace_back(DOCUMENT_TYPES[tab].singular);
+        statusPanel_.emplace_back();
     }
     operations_.changed(Part::Frame);
 }
 
-void MainWindow::stelleWerkzeugeEin()
+void MainWindow::configureTools()
 {
-    if (solidEdge_.nurViewer() || !session_.rights.darfBearbeiten())
+    if (solidEdge_.onlyViewer() || !session_.rights.mayEdit())
         session_.pages.ActiveQuelvarn = false;
-    const bool bearbeiten = !solidEdge_.nurViewer() && session_.rights.darfBearbeiten();
+    const bool edit = !solidEdge_.onlyViewer() && session_.rights.mayEdit();
 
-    const auto zeige = [this](Werkzeug knopf, bool sichtbar) {
-        knoepfe_[static_cast<std::size_t>(knopf)].sichtbar = sichtbar;
+    const auto show = [this](Tool button, bool visible) {
+        buttons_[static_cast<std::size_t>(button)].visible = visible;
     };
-    zeige(Werkzeug::Bearbeiten, bearbeiten);
-    zeige(Werkzeug::EinfuegenBaugr, bearbeiten && session_.pages.ActiveQuelvarn);
-    zeige(Werkzeug::PlazierenZchn, bearbeiten && session_.pages.ActiveQuelvarn);
-    if (bearbeiten)
-        knoepfe_[static_cast<std::size_t>(Werkzeug::Bearbeiten)].tooltip =
+    show(Tool::Edit, edit);
+    show(Tool::InsertInAssembly, edit && session_.pages.ActiveQuelvarn);
+    show(Tool::PlaceInDrawing, edit && session_.pages.ActiveQuelvarn);
+    if (edit)
+        buttons_[static_cast<std::size_t>(Tool::Edit)].tooltip =
             session_.pages.ActiveQuelvarn ? "Bearbeiten mit SE, Ereignisse sind aktiv!" : "Bearbeiten mit SE";
-    for (const Werkzeug knopf : {Werkzeug::Extras, Werkzeug::Weiterleiten, Werkzeug::Nachrichten})
-        zeige(knopf, session_.use.ForwardOn);
+    for (const Tool button : {Tool::Extras, Tool::Forward, Tool::Messages})
+        show(button, session_.use.ForwardOn);
     operations_.changed(Part::Frame);
 }
 
-void MainWindow::stelleZeitgeberEin()
+void MainWindow::configureTimers()
 {
-    const int intervall = session_.use.Zeitintervall;
-    const auto zeitgeber = [intervall](bool an) { return an ? Zeitgeber{true, intervall} : Zeitgeber{}; };
-    timerDBUpdate_ = zeitgeber(intervall > 0);
-    timerCheckInOut_ = zeitgeber(intervall > 0 && session_.use.CheckInOutOn);
-    timerWorkflow_ = zeitgeber(intervall > 0 && session_.use.ForwardOn);
+    const int interval = session_.use.Zeitintervall;
+    const auto timerSetting = [interval](bool on) { return on ? TimerSetting{true, interval} : TimerSetting{}; };
+    timerDBUpdate_ = timerSetting(interval > 0);
+    timerCheckInOut_ = timerSetting(interval > 0 && session_.use.CheckInOutOn);
+    timerWorkflow_ = timerSetting(interval > 0 && session_.use.ForwardOn);
     operations_.changed(Part::Frame);
 }
 
-void MainWindow::melde(const std::function<void(Rahmenteilnehmer&)>& ereignis)
+void MainWindow::notify(const std::function<void(SessionListener&)>& event)
 {
-    for (Rahmenteilnehmer* teilnehmer : teilnehmer_)
-        ereignis(*teilnehmer);
+    for (SessionListener* listener : listener_)
+        event(*listener);
 }
 
 } // namespace quelvarn

@@ -17,31 +17,31 @@ namespace quelvarn {
 
 namespace {
 
-std::string datenbankzeile(std::string_view pfad)
+std::string databaseLine(std::string_view documentPath)
 {
-    return "  Datenbank:  " + DateiName(pfad);
+    return "  Datenbank:  " + DateiName(documentPath);
 }
 
 } // namespace
 
-StartPage::StartPage(SessionState& session, Operations& operations, MainWindow& rahmen)
-    : session_(session), operations_(operations), ports_(operations.ports()), rahmen_(rahmen),
-      auswahl_(operations.ports(), ".mdb")
+StartPage::StartPage(SessionState& session, Operations& operations, MainWindow& frame)
+    : session_(session), operations_(operations), ports_(operations.ports()), frame_(frame),
+      selection_(operations.ports(), ".mdb")
 {
-    rahmen_.meldeAn(*this);
+    frame_.addListener(*this);
 }
 
 // --- load and unload -------------------------------------------------------------------------------------------
 
-void StartPage::seiteGezeigt(Seite seite)
+void StartPage::pageShown(Page page)
 {
-    if (seite != Seite::Start)
+    if (page != Page::Start)
         return;
     if (!session_.pages.FormDBGeladen)
         laden();
     if (!session_.database.DatenbankPfad.empty()) {
-        fuelleStatusBar(session_.database.DatenbankPfad);
-        dateinamePanel_ = datenbankzeile(session_.database.DatenbankPfad);
+        fillStatusBar(session_.database.DatenbankPfad);
+        fileNamePanel_ = databaseLine(session_.database.DatenbankPfad);
     }
     operations_.changed(Part::StartPage);
 }
@@ -50,197 +50,197 @@ void StartPage::laden()
 {
     operations_.perform(Part::StartPage, "Laden der Start-Form", "Fehler beim Laden der Start-Form!", [&] {
         session_.pages.FormDBGeladen = true;
-        zeigeDatenbankImWaehler();
-        gewaehlterPfad_ = session_.database.DatenbankPfad;
-        labelDB_ = gewaehlterPfad_.empty() ? "" : datenbankzeile(gewaehlterPfad_);
-        fuelleStatusBar(gewaehlterPfad_);
-        zeigeSolidEdge();
-        rahmen_.stelleWerkzeugeEin();
+        showDatabaseInChooser();
+        chosenPath_ = session_.database.DatenbankPfad;
+        labelDB_ = chosenPath_.empty() ? "" : databaseLine(chosenPath_);
+        fillStatusBar(chosenPath_);
+        showSolidEdge();
+        frame_.configureTools();
     });
 }
 
-void StartPage::entladen()
+void StartPage::unload()
 {
     saveSettings(ports_, "Schließen der Startseite", "Fehler beim Schließen der Startseite!", [&] {
         if (session_.pages.FormDBGeladen && session_.database.DatenbankOk)
-            schreibeStartseite(session_);
+            writeStartPage(session_);
     });
     session_.pages.FormDBGeladen = false;
 }
 
-void StartPage::zeigeDatenbankImWaehler()
+void StartPage::showDatabaseInChooser()
 {
-    const auto gelingt = [](auto&& schritt) {
+    const auto succeeds = [](auto&& step) {
         try {
-            schritt();
+            step();
             return true;
-        } catch (const Laufzeitfehler&) {
+        } catch (const RuntimeError&) {
             return false; // The chooser then keeps what it shows.
         }
     };
-    auswahl_.liesLaufwerke();
+    selection_.readDrives();
     if (!session_.database.DatenbankPfad.empty() &&
-        gelingt([&] { auswahl_.zeigeDatei(session_.database.DatenbankPfad); }))
+        succeeds([&] { selection_.showFile(session_.database.DatenbankPfad); }))
         return;
-    if (gelingt([&] { auswahl_.setzeLaufwerk(ports_.umgebung.systemlaufwerk()); }))
+    if (succeeds([&] { selection_.setDrive(ports_.environment.systemDrive()); }))
         return;
-    const auto& laufwerke = auswahl_.laufwerke();
-    std::any_of(laufwerke.begin(), laufwerke.end(),
-                [&](const std::string& eintrag) { return gelingt([&] { auswahl_.setzeLaufwerk(eintrag); }); });
+    const auto& drives = selection_.drives();
+    std::any_of(drives.begin(), drives.end(),
+                [&](const std::string& entry) { return succeeds([&] { selection_.setDrive(entry); }); });
 }
 
-void StartPage::fuelleStatusBar(std::string_view pfad)
+void StartPage::fillStatusBar(std::string_view documentPath)
 {
     operations_.perform(Part::StartPage, "Einrichten der Statusbar", "Fehler beim Einrichten der Statusbar 'Start'!",
                         [&] {
-                            dateinamePanel_ = DateiName(pfad);
-                            pfadnamePanel_ = Ordnername(pfad);
+                            fileNamePanel_ = DateiName(documentPath);
+                            pathNamePanel_ = Ordnername(documentPath);
                         });
 }
 
-void StartPage::zeigeSolidEdge()
+void StartPage::showSolidEdge()
 {
-    const SolidEdgeInfo& solidEdge = rahmen_.solidEdge();
-    const bool nurViewer = solidEdge.nurViewer();
+    const SolidEdgeInfo& solidEdge = frame_.solidEdge();
+    const bool onlyViewer = solidEdge.onlyViewer();
     lblVersion_ = solidEdge.version.empty() ? " Solid Edge Version?"
-                                            : (nurViewer ? "SmartView " : "Solid Edge ") + solidEdge.version;
-    lblPfad_ = solidEdge.pfad.empty() ? "Pfadname zu Solid Edge???" : solidEdge.pfad;
+                                            : (onlyViewer ? "SmartView " : "Solid Edge ") + solidEdge.version;
+    lblPfad_ = solidEdge.documentPath.empty() ? "Pfadname zu Solid Edge???" : solidEdge.documentPath;
 
-    activeSESichtbar_ = !nurViewer;
-    activeSEBereit_ = session_.rights.darfBearbeiten();
-    if (nurViewer || !activeSEBereit_)
+    cadEventsVisible_ = !onlyViewer;
+    cadEventsReady_ = session_.rights.mayEdit();
+    if (onlyViewer || !cadEventsReady_)
         session_.pages.ActiveQuelvarn = false;
 }
 
 // --- choosing a file -------------------------------------------------------------------------------------------
 
-void StartPage::laufwerkGewaehlt(std::string_view eintrag)
+void StartPage::driveChosen(std::string_view entry)
 {
     try {
-        auswahl_.setzeLaufwerk(eintrag);
-    } catch (const Laufzeitfehler&) {
-        ports_.meldungen.warnung("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
-                                                                "es ist wahrscheinlich kein Datenträger im Laufwerk!");
+        selection_.setDrive(entry);
+    } catch (const RuntimeError&) {
+        ports_.boxes.warn("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
+                                                         "es ist wahrscheinlich kein Datenträger im Laufwerk!");
     }
     operations_.changed(Part::StartPage);
 }
 
-void StartPage::ordnerGewaehlt(std::string_view ordner)
+void StartPage::folderChosen(std::string_view folder)
 {
     operations_.perform(Part::StartPage, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
-                        [&] { auswahl_.setzeOrdner(ordner); });
+                        [&] { selection_.setFolder(folder); });
 }
 
-void StartPage::nachOben()
+void StartPage::upwards()
 {
     operations_.perform(Part::StartPage, "Start: Wechsel Verzeichnis", "Fehler beim Wechsel Verzeichnis",
-                        [&] { auswahl_.nachOben(); });
+                        [&] { selection_.upwards(); });
 }
 
-void StartPage::dateiGewaehlt(std::string_view name)
+void StartPage::fileChosen(std::string_view name)
 {
     operations_.perform(Part::StartPage, "Auswahl der Datenbank", "Fehler bei Auswahl der Datenbank!", [&] {
         if (CheckSiblingsRunning(ports_))
             return;
         session_.database.DatenbankOk = false;
-        const std::string neuerPfad = auswahl_.pfad(name);
-        if (!bestaetigtWechsel(neuerPfad))
+        const std::string newPath = selection_.documentPath(name);
+        if (!confirmsChange(newPath))
             return;
-        auswahl_.waehleDatei(name);
-        gewaehlterPfad_ = neuerPfad;
-        fuelleStatusBar(neuerPfad);
-        rahmen_.setzeTitel(neuerPfad);
-        labelDB_ = datenbankzeile(neuerPfad);
+        selection_.chooseFile(name);
+        chosenPath_ = newPath;
+        fillStatusBar(newPath);
+        frame_.setTitle(newPath);
+        labelDB_ = databaseLine(newPath);
     });
 }
 
-bool StartPage::bestaetigtWechsel(std::string_view neuerPfad)
+bool StartPage::confirmsChange(std::string_view newPath)
 {
-    return ports_.meldungen.frage("Wechsel der Datenbank",
-                                  zeilen({
-                                      "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank",
-                                      "",
-                                      "von:    " + session_.database.DatenbankPfad,
-                                      "nach:  " + std::string(neuerPfad),
-                                      "",
-                                      "Möchten Sie fortfahren?",
-                                  }));
+    return ports_.boxes.ask("Wechsel der Datenbank",
+                            lines({
+                                "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank",
+                                "",
+                                "von:    " + session_.database.DatenbankPfad,
+                                "nach:  " + std::string(newPath),
+                                "",
+                                "Möchten Sie fortfahren?",
+                            }));
 }
 
 // --- the two actions -------------------------------------------------------------------------------------------
 
-void StartPage::oeffnen()
+void StartPage::open()
 {
     operations_.perform(Part::StartPage, "Öffnen der Datenbank", "Fehler beim Öffnen der Datenbank!", [&] {
-        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
+        frame_.notify([](SessionListener& listener) { listener.reset(); });
         if (labelDB_.empty()) {
-            ports_.meldungen.warnung("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
+            ports_.boxes.warn("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
             return;
         }
-        session_.database.DatenbankPfad = gewaehlterPfad_;
-        SchreibeDatenbankPfad(session_, ports_, gewaehlterPfad_);
-        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankWechselt(); });
+        session_.database.DatenbankPfad = chosenPath_;
+        SchreibeDatenbankPfad(session_, ports_, chosenPath_);
+        frame_.notify([](SessionListener& listener) { listener.databaseChanges(); });
         if (Hauptprogramm(session_, ports_))
-            datenbankUebernehmen();
+            adoptDatabase();
         else
-            datenbankVerloren();
+            databaseLost();
     });
 }
 
 void StartPage::openAgain()
 {
-    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.zuruecksetzen(); });
-    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankWechselt(); });
+    frame_.notify([](SessionListener& listener) { listener.reset(); });
+    frame_.notify([](SessionListener& listener) { listener.databaseChanges(); });
     if (Hauptprogramm(session_, ports_)) {
-        datenbankUebernehmen();
+        adoptDatabase();
     } else {
-        datenbankVerloren();
-        rahmen_.zeigeSeite(Seite::Start);
-        rahmen_.setzeTitel(session_.database.DatenbankPfad);
+        databaseLost();
+        frame_.showPage(Page::Start);
+        frame_.setTitle(session_.database.DatenbankPfad);
     }
     operations_.changed(Part::StartPage);
 }
 
-void StartPage::datenbankVerloren()
+void StartPage::databaseLost()
 {
     session_.database.DatenbankOk = false;
-    activeSESichtbar_ = false;
-    rahmen_.stelleWerkzeugeEin();
-    rahmen_.RefreshStatusBar();
-    rahmen_.stelleZeitgeberEin();
+    cadEventsVisible_ = false;
+    frame_.configureTools();
+    frame_.RefreshStatusBar();
+    frame_.configureTimers();
 }
 
-void StartPage::datenbankUebernehmen()
+void StartPage::adoptDatabase()
 {
     session_.database.DatenbankOk = true;
-    zeigeSolidEdge();
-    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.datenbankGewechselt(); });
-    rahmen_.zeigeSeite(Seite::Dokumente);
-    rahmen_.setzeTitel(session_.database.DatenbankPfad);
-    rahmen_.RefreshStatusBar();
-    rahmen_.stelleZeitgeberEin();
-    rahmen_.stelleWerkzeugeEin();
+    showSolidEdge();
+    frame_.notify([](SessionListener& listener) { listener.databaseChanged(); });
+    frame_.showPage(Page::Documents);
+    frame_.setTitle(session_.database.DatenbankPfad);
+    frame_.RefreshStatusBar();
+    frame_.configureTimers();
+    frame_.configureTools();
 }
 
-void StartPage::verlassen()
+void StartPage::leave()
 {
     if (!session_.database.DatenbankPfad.empty())
-        return rahmen_.zeigeSeite(Seite::Dokumente);
-    if (ports_.meldungen.frage("Auswahl Datenbank", zeilen({
-                                                        "Es wurde keine Datenbank ausgewählt!",
-                                                        "",
-                                                        "Möchten Sie Quelvarn beenden?",
-                                                        "",
-                                                    })))
-        rahmen_.entladen();
+        return frame_.showPage(Page::Documents);
+    if (ports_.boxes.ask("Auswahl Datenbank", lines({
+                                                  "Es wurde keine Datenbank ausgewählt!",
+                                                  "",
+                                                  "Möchten Sie Quelvarn beenden?",
+                                                  "",
+                                              })))
+        frame_.unload();
 }
 
 // --- settings of the user --------------------------------------------------------------------------------------
 
-void StartPage::setzeActiveSE(bool an)
+void StartPage::setActiveSE(bool on)
 {
-    session_.pages.ActiveQuelvarn = an && activeSESichtbar_ && activeSEBereit_;
-    rahmen_.stelleWerkzeugeEin();
+    session_.pages.ActiveQuelvarn = on && cadEventsVisible_ && cadEventsReady_;
+    frame_.configureTools();
     operations_.changed(Part::StartPage);
 }
 
@@ -249,39 +249,39 @@ std::string_view StartPage::LblActiveSE() const
     return session_.pages.ActiveQuelvarn ? "Ereignis wird ausgewertet." : "Ereignis wird NICHT ausgewertet.";
 }
 
-void StartPage::setzeSchalter(std::size_t zeile, bool an)
+void StartPage::setOption(std::size_t row, bool on)
 {
-    assert(zeile < BAUMSCHALTER.size());
+    assert(row < TREE_SWITCHES.size());
     operations_.perform(Part::StartPage, "Einstellungen TREEVIEW", "Fehler bei den Einstellungen TREEVIEW!", [&] {
-        session_.Tree.*BAUMSCHALTER[zeile].feld = an;
-        rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.baumschalterGeaendert(); });
+        session_.Tree.*TREE_SWITCHES[row].field = on;
+        frame_.notify([](SessionListener& listener) { listener.treeSwitchesChanged(); });
     });
 }
 
-void StartPage::setzeInfoPrio1(int index, bool an)
+void StartPage::setInfoPrio1(int index, bool on)
 {
-    setzeSchalter(static_cast<std::size_t>(index), an);
+    setOption(static_cast<std::size_t>(index), on);
 }
 
-void StartPage::setzeInfoPrio2(int index, bool an)
+void StartPage::setInfoPrio2(int index, bool on)
 {
-    setzeSchalter(ANZAHL_INFOPRIO1 + static_cast<std::size_t>(index), an);
+    setOption(INFO_PRIO_1_COUNT + static_cast<std::size_t>(index), on);
 }
 
 bool StartPage::infoPrio1(int index) const
 {
-    return session_.Tree.*BAUMSCHALTER[static_cast<std::size_t>(index)].feld;
+    return session_.Tree.*TREE_SWITCHES[static_cast<std::size_t>(index)].field;
 }
 
 bool StartPage::infoPrio2(int index) const
 {
-    return session_.Tree.*BAUMSCHALTER[ANZAHL_INFOPRIO1 + static_cast<std::size_t>(index)].feld;
+    return session_.Tree.*TREE_SWITCHES[INFO_PRIO_1_COUNT + static_cast<std::size_t>(index)].field;
 }
 
-void StartPage::offlineToolGewaehlt(int index)
+void StartPage::offlineToolChosen(int index)
 {
     session_.orders.OfflineTool = OFFLINE_TOOLS[static_cast<std::size_t>(index)];
-    rahmen_.melde([](Rahmenteilnehmer& teilnehmer) { teilnehmer.offlineToolGeaendert(); });
+    frame_.notify([](SessionListener& listener) { listener.offlineToolChanged(); });
     operations_.changed(Part::StartPage);
 }
 
@@ -290,9 +290,9 @@ int StartPage::offlineTool() const
     return session_.orders.OfflineTool == OFFLINE_TOOLS[0] ? 0 : 1;
 }
 
-void StartPage::setzeLokaleAuftraege(bool an)
+void StartPage::setLocalOrders(bool on)
 {
-    session_.orders.AuftraegeLokal = an;
+    session_.orders.OrdersLocal = on;
     operations_.changed(Part::StartPage);
 }
 

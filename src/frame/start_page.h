@@ -16,68 +16,68 @@ namespace quelvarn {
 inline constexpr std::array<std::string_view, 2> OFFLINE_TOOLS{"Druvik", "Talvik"};
 
 // State and operations of the start page FormDB: choosing the database, and the settings of the user.
-class StartPage : public Rahmenteilnehmer
+class StartPage : public SessionListener
 {
 public:
     // Follows the frame by itself.
-    StartPage(SessionState& session, Operations& operations, MainWindow& rahmen);
+    StartPage(SessionState& session, Operations& operations, MainWindow& frame);
 
     // --- operations, one for each thing a person can do ---
-    void laufwerkGewaehlt(std::string_view eintrag); // DriveDB
-    void ordnerGewaehlt(std::string_view ordner);    // DirDB, a whole path
-    void nachOben();                                 // TbUpDB
-    void dateiGewaehlt(std::string_view name);       // FileDB
-    void oeffnen();
+    void driveChosen(std::string_view entry);   // DriveDB
+    void folderChosen(std::string_view folder); // DirDB, a whole path
+    void upwards();                             // TbUpDB
+    void fileChosen(std::string_view name);     // FileDB
+    void open();
     // The open database, from the file that stands under its path now.
     void openAgain();
-    void verlassen();
-    void setzeActiveSE(bool an);             // TggBtActiveSE
-    void setzeInfoPrio1(int index, bool an); // ChInfoPrio1
-    void setzeInfoPrio2(int index, bool an); // ChInfoPrio2
-    void offlineToolGewaehlt(int index);     // OpOfflinePlot
-    void setzeLokaleAuftraege(bool an);      // ChLocalOrder
+    void leave();
+    void setActiveSE(bool on);             // TggBtActiveSE
+    void setInfoPrio1(int index, bool on); // ChInfoPrio1
+    void setInfoPrio2(int index, bool on); // ChInfoPrio2
+    void offlineToolChosen(int index);     // OpOfflinePlot
+    void setLocalOrders(bool on);          // ChLocalOrder
 
     // --- state, for the projection ---
-    const Dateiauswahl& auswahl() const { return auswahl_; }
+    const FileSelection& selection() const { return selection_; }
     const std::string& LabelDB() const { return labelDB_; }
-    const std::string& dateinamePanel() const { return dateinamePanel_; } // StatusBarDB
-    const std::string& pfadnamePanel() const { return pfadnamePanel_; }
+    const std::string& fileNamePanel() const { return fileNamePanel_; } // StatusBarDB
+    const std::string& pathNamePanel() const { return pathNamePanel_; }
     const std::string& LblSolidEdgeVersion() const { return lblVersion_; }
     const std::string& LblSolidEdgePfad() const { return lblPfad_; }
-    bool activeSESichtbar() const { return activeSESichtbar_; } // FrmActiveSE
-    bool activeSEBereit() const { return activeSEBereit_; }
+    bool cadEventsVisible() const { return cadEventsVisible_; } // FrmActiveSE
+    bool cadEventsReady() const { return cadEventsReady_; }
     bool activeSE() const { return session_.pages.ActiveQuelvarn; }
     std::string_view LblActiveSE() const;
     bool infoPrio1(int index) const;
     bool infoPrio2(int index) const;
     int offlineTool() const; // Index in OFFLINE_TOOLS
-    bool lokaleAuftraege() const { return session_.orders.AuftraegeLokal; }
+    bool localOrders() const { return session_.orders.OrdersLocal; }
 
     // --- what the frame tells ---
-    void seiteGezeigt(Seite seite) override;
-    void entladen() override;
+    void pageShown(Page page) override;
+    void unload() override;
 
 private:
     void laden();
-    void zeigeDatenbankImWaehler();
-    void fuelleStatusBar(std::string_view pfad);
-    void zeigeSolidEdge();
-    bool bestaetigtWechsel(std::string_view neuerPfad);
-    void datenbankVerloren();
-    void datenbankUebernehmen();
-    void setzeSchalter(std::size_t zeile, bool an);
+    void showDatabaseInChooser();
+    void fillStatusBar(std::string_view documentPath);
+    void showSolidEdge();
+    bool confirmsChange(std::string_view newPath);
+    void databaseLost();
+    void adoptDatabase();
+    void setOption(std::size_t row, bool on);
 
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    MainWindow& rahmen_;
-    Dateiauswahl auswahl_;
-    std::string gewaehlterPfad_; // What LabelDB names and "Öffnen" opens.
+    MainWindow& frame_;
+    FileSelection selection_;
+    std::string chosenPath_; // What LabelDB names and "Öffnen" opens.
     std::string labelDB_;
-    std::string dateinamePanel_, pfadnamePanel_;
+    std::string fileNamePanel_, pathNamePanel_;
     std::string lblVersion_, lblPfad_;
-    bool activeSESichtbar_ = true;
-    bool activeSEBereit_ = true;
+    bool cadEventsVisible_ = true;
+    bool cadEventsReady_ = true;
 };
 
 } // namespace quelvarn

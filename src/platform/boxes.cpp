@@ -2,24 +2,24 @@
 
 namespace quelvarn {
 
-void Meldungen::hinweis(std::string_view titel, std::string_view text)
+void Boxes::tell(std::string_view title, std::string_view text)
 {
-    zeige({std::string(titel), std::string(text), Symbol::Keins, Knoepfe::Ok});
+    show({std::string(title), std::string(text), Icon::None, Buttons::Ok});
 }
 
-void Meldungen::information(std::string_view titel, std::string_view text)
+void Boxes::information(std::string_view title, std::string_view text)
 {
-    zeige({std::string(titel), std::string(text), Symbol::Information, Knoepfe::Ok});
+    show({std::string(title), std::string(text), Icon::Information, Buttons::Ok});
 }
 
-void Meldungen::warnung(std::string_view titel, std::string_view text)
+void Boxes::warn(std::string_view title, std::string_view text)
 {
-    zeige({std::string(titel), std::string(text), Symbol::Warnung, Knoepfe::Ok});
+    show({std::string(title), std::string(text), Icon::Warning, Buttons::Ok});
 }
 
-bool Meldungen::frage(std::string_view titel, std::string_view text)
+bool Boxes::ask(std::string_view title, std::string_view text)
 {
-    return zeige({std::string(titel), std::string(text), Symbol::Frage, Knoepfe::JaNein}) == Antwort::Ja;
+    return show({std::string(title), std::string(text), Icon::Question, Buttons::YesNo}) == Answer::Yes;
 }
 
 } // namespace quelvarn

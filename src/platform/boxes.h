@@ -5,31 +5,31 @@
 
 namespace quelvarn {
 
-enum class Symbol { Keins, Information, Warnung, Frage, Kritisch };
-enum class Knoepfe { Ok, OkAbbrechen, JaNein, JaNeinAbbrechen };
-enum class Antwort { Ok, Abbrechen, Ja, Nein };
+enum class Icon { None, Information, Warning, Question, Critical };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Answer { Ok, Cancel, Yes, No };
 
-struct Meldung
+struct Box
 {
-    std::string titel;
+    std::string title;
     std::string text;
-    Symbol symbol = Symbol::Keins;
-    Knoepfe knoepfe = Knoepfe::Ok;
-    bool operator==(const Meldung&) const = default;
+    Icon icon = Icon::None;
+    Buttons buttons = Buttons::Ok;
+    bool operator==(const Box&) const = default;
 };
 
 // Every box that a user sees goes through here. Returns when he has answered.
-class Meldungen
+class Boxes
 {
 public:
-    virtual ~Meldungen() = default;
-    virtual Antwort zeige(const Meldung& meldung) = 0;
+    virtual ~Boxes() = default;
+    virtual Answer show(const Box& box) = 0;
 
-    void hinweis(std::string_view titel, std::string_view text);
-    void information(std::string_view titel, std::string_view text);
-    void warnung(std::string_view titel, std::string_view text);
+    void tell(std::string_view title, std::string_view text);
+    void information(std::string_view title, std::string_view text);
+    void warn(std::string_view title, std::string_view text);
     // True for Yes.
-    bool frage(std::string_view titel, std::string_view text);
+    bool ask(std::string_view title, std::string_view text);
 };
 
 } // namespace quelvarn

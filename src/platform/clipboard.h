@@ -5,21 +5,21 @@
 
 namespace quelvarn {
 
-class Zwischenablage
+class Clipboard
 {
 public:
-    virtual ~Zwischenablage() = default;
+    virtual ~Clipboard() = default;
     virtual std::string text() const = 0;
-    virtual void setzeText(std::string_view text) = 0;
+    virtual void setText(std::string_view text) = 0;
 };
 
 // Opens a file with the program that the system has for it.
-class Standardanwendung
+class DefaultApplication
 {
 public:
-    virtual ~Standardanwendung() = default;
+    virtual ~DefaultApplication() = default;
     // False when nothing could be started.
-    virtual bool oeffne(std::string_view pfad) = 0;
+    virtual bool open(std::string_view documentPath) = 0;
 };
 
 } // namespace quelvarn

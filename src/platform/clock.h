@@ -4,12 +4,12 @@
 
 namespace quelvarn {
 
-class Uhr
+class Clock
 {
 public:
-    virtual ~Uhr() = default;
+    virtual ~Clock() = default;
     // Local time.
-    virtual Zeitpunkt jetzt() const = 0;
+    virtual DateTime now() const = 0;
 };
 
 } // namespace quelvarn

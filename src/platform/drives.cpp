@@ -4,10 +4,10 @@
 
 namespace quelvarn {
 
-std::string Laufwerk::eintrag() const
+std::string Drive::entry() const
 {
-    const std::string letter = toLower(buchstabe);
-    return freigabe.empty() ? letter : letter + " [" + freigabe + "]";
+    const std::string name = toLower(letter);
+    return release.empty() ? name : name + " [" + release + "]";
 }
 
 } // namespace quelvarn

@@ -5,21 +5,21 @@
 
 namespace quelvarn {
 
-struct Laufwerk
+struct Drive
 {
-    std::string buchstabe; // "W:"
-    std::string freigabe;  // "\\server\share" of a mapped share, else ""
+    std::string letter;  // "W:"
+    std::string release; // "\\server\share" of a mapped share, else ""
 
     // As the drive list shows it: "w:" or "w: [\\server\share]".
-    std::string eintrag() const;
+    std::string entry() const;
 };
 
-class Laufwerke
+class Drives
 {
 public:
-    virtual ~Laufwerke() = default;
+    virtual ~Drives() = default;
     // In order of the letters.
-    virtual std::vector<Laufwerk> liste() const = 0;
+    virtual std::vector<Drive> list() const = 0;
 };
 
 } // namespace quelvarn

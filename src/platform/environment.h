@@ -4,23 +4,23 @@
 
 namespace quelvarn {
 
-struct Systemversion
+struct SystemVersion
 {
     std::string major;
     std::string minor;
-    int plattform = 0;
+    int platform = 0;
 };
 
 // Who works on which computer.
-class Umgebung
+class Environment
 {
 public:
-    virtual ~Umgebung() = default;
-    virtual std::string rechnername() const = 0;
-    virtual std::string anwendername() const = 0;
-    virtual Systemversion systemversion() const = 0;
+    virtual ~Environment() = default;
+    virtual std::string computerName() const = 0;
+    virtual std::string userName() const = 0;
+    virtual SystemVersion systemVersion() const = 0;
     // The drive of the system folder with its colon, such as "C:".
-    virtual std::string systemlaufwerk() const = 0;
+    virtual std::string systemDrive() const = 0;
 };
 
 } // namespace quelvarn

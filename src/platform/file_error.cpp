@@ -5,15 +5,15 @@
 namespace quelvarn {
 namespace {
 
-struct Grund
+struct Reason
 {
-    std::errc fehler;
-    int nummer;
+    std::errc fault;
+    int number;
     std::string_view text;
 };
 
 // The numbers that users know from their other programs.
-constexpr Grund gruende[] = {
+constexpr Reason reasons[] = {
     {std::errc::no_such_file_or_directory, 53, "Datei oder Ordner nicht gefunden"},
     {std::errc::not_a_directory, 76, "Pfad nicht gefunden"},
     {std::errc::no_such_device, 68, "Laufwerk nicht verfügbar"},
@@ -37,18 +37,18 @@ constexpr Grund gruende[] = {
 
 } // namespace
 
-Laufzeitfehler dateifehler(const std::error_code& grund, std::string_view pfad)
+RuntimeError fileFault(const std::error_code& reason, std::string_view documentPath)
 {
-    for (const Grund& bekannt : gruende) {
-        if (grund == bekannt.fehler)
-            return {bekannt.nummer, "Dateisystem", fmt::format("{}: {}", bekannt.text, pfad)};
+    for (const Reason& known : reasons) {
+        if (reason == known.fault)
+            return {known.number, "Dateisystem", fmt::format("{}: {}", known.text, documentPath)};
     }
-    return {grund.value(), "Dateisystem", fmt::format("{}: {}", grund.message(), pfad)};
+    return {reason.value(), "Dateisystem", fmt::format("{}: {}", reason.message(), documentPath)};
 }
 
-Laufzeitfehler dateifehler(std::errc grund, std::string_view pfad)
+RuntimeError fileFault(std::errc reason, std::string_view documentPath)
 {
-    return dateifehler(std::make_error_code(grund), pfad);
+    return fileFault(std::make_error_code(reason), documentPath);
 }
 
 } // namespace quelvarn

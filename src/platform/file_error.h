@@ -8,7 +8,7 @@
 namespace quelvarn {
 
 // The fault of a file operation: a number and a German reason, with the path behind it.
-Laufzeitfehler dateifehler(const std::error_code& grund, std::string_view pfad);
-Laufzeitfehler dateifehler(std::errc grund, std::string_view pfad);
+RuntimeError fileFault(const std::error_code& reason, std::string_view documentPath);
+RuntimeError fileFault(std::errc reason, std::string_view documentPath);
 
 } // namespace quelvarn

@@ -11,48 +11,48 @@
 
 namespace quelvarn {
 
-struct Dateiattribute
+struct FileAttributes
 {
-    bool schreibgeschuetzt = false;
-    bool versteckt = false;
-    bool archiv = false;
-    Zeitpunkt erstellt;
-    Zeitpunkt geaendert;
-    Zeitpunkt zugriff;
-    std::int64_t groesse = 0; // bytes
+    bool readOnly = false;
+    bool hidden = false;
+    bool archive = false;
+    DateTime created;
+    DateTime changed;
+    DateTime access;
+    std::int64_t size = 0; // bytes
 };
 
-struct Ordnereintrag
+struct FolderEntry
 {
     std::string name;
-    bool ordner = false;
+    bool folder = false;
 };
 
 // Files and folders by their Windows paths. Questions answer quietly; doing what cannot be done
-// throws Laufzeitfehler with the system's reason.
-class Dateien
+// throws RuntimeError with the system's reason.
+class Files
 {
 public:
-    virtual ~Dateien() = default;
+    virtual ~Files() = default;
 
-    virtual bool dateiVorhanden(std::string_view pfad) const = 0;
-    virtual bool ordnerVorhanden(std::string_view pfad) const = 0;
-    virtual void ordnerAnlegen(std::string_view pfad) = 0;
+    virtual bool fileExists(std::string_view documentPath) const = 0;
+    virtual bool folderExists(std::string_view documentPath) const = 0;
+    virtual void createFolder(std::string_view documentPath) = 0;
     // Sorted by name; throws when the folder or its drive cannot be read.
-    virtual std::vector<Ordnereintrag> inhalt(std::string_view ordner) const = 0;
+    virtual std::vector<FolderEntry> content(std::string_view folder) const = 0;
 
-    virtual std::optional<Dateiattribute> attribute(std::string_view pfad) const = 0;
-    virtual void setzeSchreibschutz(std::string_view pfad, bool gesetzt) = 0;
-    virtual void setzeArchiv(std::string_view pfad, bool gesetzt) = 0;
+    virtual std::optional<FileAttributes> attribute(std::string_view documentPath) const = 0;
+    virtual void setReadOnly(std::string_view documentPath, bool set) = 0;
+    virtual void setArchive(std::string_view documentPath, bool set) = 0;
 
-    virtual std::string lese(std::string_view pfad) const = 0;
+    virtual std::string read(std::string_view documentPath) const = 0;
     // The file appears whole or not at all. A write-protected file is neither written over nor deleted.
-    virtual void schreibe(std::string_view pfad, std::string_view inhalt) = 0;
-    virtual void kopiere(std::string_view von, std::string_view nach) = 0;
-    virtual void loesche(std::string_view pfad) = 0;
+    virtual void write(std::string_view documentPath, std::string_view content) = 0;
+    virtual void copy(std::string_view from, std::string_view after) = 0;
+    virtual void remove(std::string_view documentPath) = 0;
 
     // The path that the operating system takes for this Windows path, whether or not it exists.
-    virtual std::filesystem::path systempfad(std::string_view pfad) const = 0;
+    virtual std::filesystem::path systemPath(std::string_view documentPath) const = 0;
 };
 
 } // namespace quelvarn

@@ -2,30 +2,30 @@
 
 namespace quelvarn {
 
-class Meldungen;
-class Uhr;
-class Umgebung;
-class Dateien;
-class Laufwerke;
-class Drucker;
-class LaufendeProgramme;
-class Zwischenablage;
-class Standardanwendung;
-class Fortschrittsanzeige;
+class Boxes;
+class Clock;
+class Environment;
+class Files;
+class Drives;
+class Printers;
+class RunningPrograms;
+class Clipboard;
+class DefaultApplication;
+class ProgressDisplay;
 
 // The doors to the outside world, handed in by the program's entry. All live longer than their users.
 struct Ports
 {
-    Meldungen& meldungen;
-    Uhr& uhr;
-    Umgebung& umgebung;
-    Dateien& dateien;
-    Laufwerke& laufwerke;
-    Drucker& drucker;
-    LaufendeProgramme& programme;
-    Zwischenablage& zwischenablage;
-    Standardanwendung& standardanwendung;
-    Fortschrittsanzeige& fortschritt;
+    Boxes& boxes;
+    Clock& clock;
+    Environment& environment;
+    Files& files;
+    Drives& drives;
+    Printers& printers;
+    RunningPrograms& programs;
+    Clipboard& clipboard;
+    DefaultApplication& defaultApplication;
+    ProgressDisplay& progress;
 };
 
 } // namespace quelvarn

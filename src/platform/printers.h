@@ -6,21 +6,21 @@
 
 namespace quelvarn {
 
-struct Standarddrucker
+struct DefaultPrinter
 {
     std::string name;
-    int papiercode = 9; // 9 is A4; 256 is "not told"
-    int exemplare = 1;
-    int ausrichtung = 1; // 1 upright, 2 across
+    int paperCode = 9; // 9 is A4; 256 is "not told"
+    int copies = 1;
+    int orientation = 1; // 1 upright, 2 across
 };
 
-class Drucker
+class Printers
 {
 public:
-    virtual ~Drucker() = default;
-    virtual std::vector<std::string> namen() const = 0;
+    virtual ~Printers() = default;
+    virtual std::vector<std::string> names() const = 0;
     // Nothing when no printer is installed.
-    virtual std::optional<Standarddrucker> standard() const = 0;
+    virtual std::optional<DefaultPrinter> standard() const = 0;
 };
 
 } // namespace quelvarn

@@ -6,44 +6,44 @@
 namespace quelvarn {
 
 // Shows how far a long piece of work has come, and lets a person give it up. One piece at a time.
-class Fortschrittsanzeige
+class ProgressDisplay
 {
 public:
-    virtual ~Fortschrittsanzeige() = default;
-    virtual void beginne(std::string_view text) = 0;
+    virtual ~ProgressDisplay() = default;
+    virtual void begin(std::string_view text) = 0;
     // False when the person has given up. What is quick is never shown.
-    virtual bool schritt(std::size_t getan, std::size_t gesamt) = 0;
-    virtual void beende() = 0;
+    virtual bool step(std::size_t done, std::size_t total) = 0;
+    virtual void end() = 0;
 };
 
 // Work that nobody watches.
-class StilleAnzeige final : public Fortschrittsanzeige
+class SilentDisplay final : public ProgressDisplay
 {
 public:
-    void beginne(std::string_view) override {}
-    bool schritt(std::size_t, std::size_t) override { return true; }
-    void beende() override {}
+    void begin(std::string_view) override {}
+    bool step(std::size_t, std::size_t) override { return true; }
+    void end() override {}
 };
 
-// One piece of work on the display, for as long as it lives. Callable as the Fortschritt of a recordset.
-class LangeArbeit
+// One piece of work on the display, for as long as it lives. Callable as the Progress of a recordset.
+class LongWork
 {
 public:
-    LangeArbeit(Fortschrittsanzeige& anzeige, std::string_view text) : anzeige_(anzeige) { anzeige_.beginne(text); }
-    ~LangeArbeit() { anzeige_.beende(); }
-    LangeArbeit(const LangeArbeit&) = delete;
-    LangeArbeit& operator=(const LangeArbeit&) = delete;
+    LongWork(ProgressDisplay& display, std::string_view text) : display_(display) { display_.begin(text); }
+    ~LongWork() { display_.end(); }
+    LongWork(const LongWork&) = delete;
+    LongWork& operator=(const LongWork&) = delete;
 
-    bool operator()(std::size_t getan, std::size_t gesamt)
+    bool operator()(std::size_t done, std::size_t total)
     {
-        aufgegeben_ = aufgegeben_ || !anzeige_.schritt(getan, gesamt);
-        return !aufgegeben_;
+        abandoned_ = abandoned_ || !display_.step(done, total);
+        return !abandoned_;
     }
-    bool aufgegeben() const { return aufgegeben_; }
+    bool abandoned() const { return abandoned_; }
 
 private:
-    Fortschrittsanzeige& anzeige_;
-    bool aufgegeben_ = false;
+    ProgressDisplay& display_;
+    bool abandoned_ = false;
 };
 
 } // namespace quelvarn

@@ -8,14 +8,14 @@
 namespace quelvarn {
 
 // The windows of programs that run on this computer, known to one another by their captions.
-class LaufendeProgramme
+class RunningPrograms
 {
 public:
-    virtual ~LaufendeProgramme() = default;
+    virtual ~RunningPrograms() = default;
     // The captions of all top-level windows, this program's own among them.
-    virtual std::vector<std::string> fenstertitel() const = 0;
+    virtual std::vector<std::string> windowTitle() const = 0;
     // Tells the caption of this program's own window, from now until the object goes.
-    virtual void eigenerTitel(std::string_view titel) = 0;
+    virtual void ownTitle(std::string_view title) = 0;
 };
 
 } // namespace quelvarn

@@ -12,25 +12,25 @@ struct SystemPorts
 {
     virtual ~SystemPorts() = default;
 
-    virtual Uhr& uhr() = 0;
-    virtual Umgebung& umgebung() = 0;
-    virtual Dateien& dateien() = 0;
-    virtual Laufwerke& laufwerke() = 0;
-    virtual Drucker& drucker() = 0;
-    virtual LaufendeProgramme& programme() = 0;
-    virtual Standardanwendung& standardanwendung() = 0;
+    virtual Clock& clock() = 0;
+    virtual Environment& environment() = 0;
+    virtual Files& files() = 0;
+    virtual Drives& drives() = 0;
+    virtual Printers& printers() = 0;
+    virtual RunningPrograms& programs() = 0;
+    virtual DefaultApplication& defaultApplication() = 0;
 
-    Ports mit(Meldungen& meldungen, Zwischenablage& zwischenablage, Fortschrittsanzeige& fortschritt)
+    Ports with(Boxes& boxes, Clipboard& clipboard, ProgressDisplay& progress)
     {
-        return {meldungen, uhr(),       umgebung(),     dateien(),           laufwerke(),
-                drucker(), programme(), zwischenablage, standardanwendung(), fortschritt};
+        return {boxes,      clock(),   environment(),        files(), drives(), printers(),
+                programs(), clipboard, defaultApplication(), progress};
     }
 };
 
 // The folder of drive links is made when it is missing. Where the system has drives it is not needed.
-std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& laufwerkeOrdner);
+std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& drivesFolder);
 
 // The folder of drive links in the user's own data.
-std::filesystem::path standardLaufwerkeOrdner();
+std::filesystem::path standardDrivesFolder();
 
 } // namespace quelvarn

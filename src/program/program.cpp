@@ -17,21 +17,21 @@ Program::Program(SessionState& state, const Ports& outside, Viewer& viewers, Sol
       documentPage(session, operations, tables, tabs), jump(session, operations, tables, tabs),
       leftBar(session, operations, filter, tables, tabs, filterPage),
       topBar(session, operations, tables, tabs, viewer, jump),
-      relationActions(session, operations.ports(), info.relation(), jump, topBar.favoriten(), frame)
+      relationActions(session, operations.ports(), info.relation(), jump, topBar.favourites(), frame)
 {
-    frame.meldeAn(documentPage);
-    frame.meldeAn(topBar.favoriten());
-    frame.meldeAn(filterPage); // Behind the document page, whose table it opens for.
+    frame.addListener(documentPage);
+    frame.addListener(topBar.favourites());
+    frame.addListener(filterPage); // Behind the document page, whose table it opens for.
     frame.watchDatabase = [this] { watch.tick(); };
-    filterPage.zurDokumentseite = [this] { frame.zuSeite(Seite::Dokumente); };
+    filterPage.toDocumentPage = [this] { frame.toPage(Page::Documents); };
     filterPage.viewer = [this](const std::string& filename) { return showTemplate(filename); };
 }
 
 bool Program::showTemplate(const std::string& filename)
 {
     if (!filename.empty())
-        return files.zeige(Ansicht::Filtervorlage, filename);
-    files.leere(Ansicht::Filtervorlage);
+        return files.show(ViewerPlace::FilterTemplate, filename);
+    files.clear(ViewerPlace::FilterTemplate);
     return true;
 }
 
@@ -40,7 +40,7 @@ void Program::openDatabaseAgain()
 {
     const int tab = tables.tab();
     startPage.openAgain();
-    if (frame.seite() == Seite::Dokumente && tables.tab() != tab)
+    if (frame.page() == Page::Documents && tables.tab() != tab)
         tabs.chooseTab(tab);
 }
 

@@ -36,8 +36,8 @@ struct Program
     MainWindow frame;
     StartPage startPage;
     DatabaseWatch watch;
-    KeinNutzungsregister uses;
-    GezeigteDateien files;
+    NoUseRegistry uses;
+    ShownFiles files;
 
     FilterState filter;
     DocumentTables tables;
@@ -51,9 +51,9 @@ struct Program
     TableTabs tabs;
     TableHeading heading;
     DocumentPage documentPage;
-    Dokumentsprung jump;
-    LinkeLeiste leftBar;
-    ObereLeiste topBar;
+    DocumentJump jump;
+    LeftBar leftBar;
+    TopBar topBar;
     RelationActions relationActions;
 
 private:

@@ -11,95 +11,95 @@ namespace quelvarn {
 namespace {
 
 // Where the finished orders of this session go in the end.
-std::string archivordner(const SessionState& session)
+std::string archiveFolder(const SessionState& session)
 {
-    const bool lokal = session.orders.AuftraegeLokal || session.orders.PlotPfad.empty();
-    return (lokal ? session.folders.OrdnerOfflineVersand : session.orders.PlotPfad) + "\\Auftragsarchiv";
+    const bool local = session.orders.OrdersLocal || session.orders.PlotPfad.empty();
+    return (local ? session.folders.OrdnerOfflineVersand : session.orders.PlotPfad) + "\\Auftragsarchiv";
 }
 
-bool sollImArchivSuchen(Meldungen& meldungen, const std::string& pfad)
+bool searchesArchive(Boxes& boxes, const std::string& documentPath)
 {
-    return meldungen.zeige({std::string(NICHT_IM_VERZEICHNIS),
-                            zeilen({
-                                "Die Datei",
-                                pfad,
-                                "ist im Verzeichnis nicht vorhanden!",
-                                "Mögliche Ursache:",
-                                "- Versandauftrag / Protokoll wurde bereits archiviert.",
-                                "- Versandauftrag / Protokoll wurde im Verzeichnis gelöscht.",
-                                "Soll im Archiv nach der Datei gesucht werden?",
-                            }),
-                            Symbol::Warnung, Knoepfe::JaNein}) == Antwort::Ja;
+    return boxes.show({std::string(NOT_IN_DIRECTORY),
+                       lines({
+                           "Die Datei",
+                           documentPath,
+                           "ist im Verzeichnis nicht vorhanden!",
+                           "Mögliche Ursache:",
+                           "- Versandauftrag / Protokoll wurde bereits archiviert.",
+                           "- Versandauftrag / Protokoll wurde im Verzeichnis gelöscht.",
+                           "Soll im Archiv nach der Datei gesucht werden?",
+                       }),
+                       Icon::Warning, Buttons::YesNo}) == Answer::Yes;
 }
 
 } // namespace
 
-std::filesystem::path Detailseiten::systempfad(std::string_view pfad) const
+std::filesystem::path DetailPages::systemPath(std::string_view documentPath) const
 {
-    return ports_.dateien.systempfad(pfad);
+    return ports_.files.systemPath(documentPath);
 }
 
-void Detailseiten::oeffneAuftrag()
+void DetailPages::openOrder()
 {
     operations_.perform(Part::Document, "Versendet an", "Fehler beim Öffnen der Datei!", [&] {
-        const std::string pfad = feldDerZeile(InfoSeite::SendTo, "Orderfilename");
-        if (pfad.empty())
+        const std::string documentPath = fieldOfRow(InfoPageId::SendTo, "Orderfilename");
+        if (documentPath.empty())
             return;
-        if (ports_.dateien.dateiVorhanden(pfad))
-            return oeffne("Versendet an", pfad);
-        if (!sollImArchivSuchen(ports_.meldungen, pfad))
+        if (ports_.files.fileExists(documentPath))
+            return open("Versendet an", documentPath);
+        if (!searchesArchive(ports_.boxes, documentPath))
             return;
-        const std::string imArchiv = archivordner(session_) + "\\" + DateiName(pfad);
-        if (ports_.dateien.dateiVorhanden(imArchiv))
-            return oeffne("Versendet an", imArchiv);
-        ports_.meldungen.warnung("Im Archiv nicht vorhanden", zeilen({
-                                                                  "Die Datei",
-                                                                  imArchiv,
-                                                                  "ist im Archiv nicht vorhanden!",
-                                                                  "Mögliche Ursache:",
-                                                                  "- Versandauftrag wurde auch im Archiv gelöscht.",
-                                                              }));
+        const std::string inArchive = archiveFolder(session_) + "\\" + DateiName(documentPath);
+        if (ports_.files.fileExists(inArchive))
+            return open("Versendet an", inArchive);
+        ports_.boxes.warn("Im Archiv nicht vorhanden", lines({
+                                                           "Die Datei",
+                                                           inArchive,
+                                                           "ist im Archiv nicht vorhanden!",
+                                                           "Mögliche Ursache:",
+                                                           "- Versandauftrag wurde auch im Archiv gelöscht.",
+                                                       }));
     });
 }
 
-void Detailseiten::oeffneZusDoku()
+void DetailPages::openAdditionalDocument()
 {
     operations_.perform(Part::Document, "Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
-        const std::string pfad = feldDerZeile(InfoSeite::ZusDoku, "ZusDokufilename");
-        if (!pfad.empty() && vorhandenOderBox(pfad))
-            oeffne("Zusätzl. Dokumente", pfad);
+        const std::string documentPath = fieldOfRow(InfoPageId::ZusDoku, "ZusDokufilename");
+        if (!documentPath.empty() && existsOrBox(documentPath))
+            open("Zusätzl. Dokumente", documentPath);
     });
 }
 
-void Detailseiten::oeffne(std::string_view titel, const std::string& pfad)
+void DetailPages::open(std::string_view title, const std::string& documentPath)
 {
-    if (!ports_.standardanwendung.oeffne(pfad))
-        ports_.meldungen.warnung(titel, zeilen({"Fehler beim Öffnen der Datei:", pfad}));
+    if (!ports_.defaultApplication.open(documentPath))
+        ports_.boxes.warn(title, lines({"Fehler beim Öffnen der Datei:", documentPath}));
 }
 
-bool Detailseiten::vorhandenOderBox(const std::string& pfad)
+bool DetailPages::existsOrBox(const std::string& documentPath)
 {
-    if (ports_.dateien.dateiVorhanden(pfad))
+    if (ports_.files.fileExists(documentPath))
         return true;
-    meldeDateiFehlt(ports_.meldungen, pfad, "Löschen Sie den Verweis auf diese Datei in 'Harvel'.");
+    tellFileMissing(ports_.boxes, documentPath, "Löschen Sie den Verweis auf diese Datei in 'Harvel'.");
     return false;
 }
 
-void Detailseiten::bildNichtGeladen(InfoSeite seite)
+void DetailPages::pictureNotLoaded(InfoPageId page)
 {
-    if (seite == InfoSeite::Tiff)
+    if (page == InfoPageId::Tiff)
         tiff_.clear();
     else
-        grafik_ = {};
-    constexpr std::string_view NICHT_GELADEN = "Die TIFF-Datei konnte nicht geladen werden";
-    ports_.meldungen.warnung(NICHT_GELADEN, zeilen({
-                                                "Die TIFF-Datei konnte nicht geladen werden!",
-                                                "Mögliche Ursache:",
-                                                "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
-                                                "Empfehlung:",
-                                                "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
-                                                "Kontrollkästchen 'Graphik anzeigen'.",
-                                            }));
+        graphic_ = {};
+    constexpr std::string_view NOT_LOADED = "Die TIFF-Datei konnte nicht geladen werden";
+    ports_.boxes.warn(NOT_LOADED, lines({
+                                      "Die TIFF-Datei konnte nicht geladen werden!",
+                                      "Mögliche Ursache:",
+                                      "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
+                                      "Empfehlung:",
+                                      "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
+                                      "Kontrollkästchen 'Graphik anzeigen'.",
+                                  }));
     operations_.changed(Part::Document);
 }
 

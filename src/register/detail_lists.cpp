@@ -16,119 +16,119 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view ABSATZ = "      ";     // Before the letter of a feature.
-constexpr std::size_t ERSTES_STRUKTURMERKMAL = 2; // Hauptmerkmal_C
-constexpr int NACHKOMMASTELLEN = 3;
+constexpr std::string_view PARAGRAPH = "      ";   // Before the letter of a feature.
+constexpr std::size_t FIRST_STRUCTURE_FEATURE = 2; // Hauptmerkmal_C
+constexpr int DECIMALS = 3;
 
-char buchstabe(char erster, std::size_t nummer)
+char letter(char first, std::size_t number)
 {
-    return static_cast<char>(erster + static_cast<int>(nummer));
+    return static_cast<char>(first + static_cast<int>(number));
 }
 
-std::string datumOderLeer(const Value& datum)
+std::string dateOrEmpty(const Value& date)
 {
-    return istNull(datum) ? std::string() : formatDatum(alsDatum(datum));
+    return isNull(date) ? std::string() : formatDate(asDate(date));
 }
 
-std::string merkmalname(const SessionState& session, std::size_t nummer)
+std::string featureName(const SessionState& session, std::size_t number)
 {
-    const auto name = session.labels.Bezeichnungen.find(fmt::format("hauptmerkmal {}", buchstabe('a', nummer)));
+    const auto name = session.labels.Bezeichnungen.find(fmt::format("hauptmerkmal {}", letter('a', number)));
     return name == session.labels.Bezeichnungen.end() ? std::string() : name->second;
 }
 
-void trenne(Textliste& liste)
+void separate(TextList& list)
 {
-    liste.zeile({{"Bezeichn", "#######"},
-                 {"Inhalt", "############################"},
-                 {"Benennung", "##########################"}});
+    list.row({{"Bezeichn", "#######"},
+              {"Inhalt", "############################"},
+              {"Benennung", "##########################"}});
 }
 
 } // namespace
 
-Recordset InfoRevision(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez, RevErstBearb ansicht)
+Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, revisionFilter view)
 {
-    const bool erstellt = ansicht == RevErstBearb::Erstellt;
-    const std::string_view datum = erstellt ? "Erstellt" : "Geaendert";
-    const std::string_view name = erstellt ? "Autor" : "Bearbeiter";
-    Recordset zeilen;
-    zeilen.Open(
-        sql::Query(tabelle)
-            .columns({"RevBez", datum, name, "Aenderung"})
+    const bool created = view == revisionFilter::Erstellt;
+    const std::string_view date = created ? "Erstellt" : "Geaendert";
+    const std::string_view name = created ? "Autor" : "Bearbeiter";
+    Recordset rows;
+    rows.Open(
+        sql::Query(table)
+            .columns({"RevBez", date, name, "Aenderung"})
             .distinct()
-            .where(sql::all(sql::equal("DokuBez", DokuBez), sql::compare("Aenderung", sql::Vergleich::NotLike, "")))
+            .where(sql::all(sql::equal("DokuBez", DokuBez), sql::compare("Aenderung", sql::Comparison::NotLike, "")))
             .sortedBy("RevBez"),
-        verbindung);
-    Textliste liste{"RevBez", "Geaendert", "Bearbeiter", "Aenderung"};
-    for (; !zeilen.Eof(); zeilen.MoveNext())
-        liste.zeile({{"RevBez", zeilen.Text("RevBez")},
-                     {"Geaendert", datumOderLeer(zeilen.Feld(datum))},
-                     {"Bearbeiter", zeilen.Text(name)},
-                     {"Aenderung", zeilen.Text("Aenderung")}});
-    return liste.fertig();
+        connection);
+    TextList list{"RevBez", "Geaendert", "Bearbeiter", "Aenderung"};
+    for (; !rows.Eof(); rows.MoveNext())
+        list.row({{"RevBez", rows.Text("RevBez")},
+                  {"Geaendert", dateOrEmpty(rows.field(date))},
+                  {"Bearbeiter", rows.Text(name)},
+                  {"Aenderung", rows.Text("Aenderung")}});
+    return list.finish();
 }
 
 std::span<const std::string> templateBranch(const DokuRecord& record)
 {
-    const auto features = std::span(record.Hauptmerkmal).subspan(ERSTES_STRUKTURMERKMAL);
+    const auto features = std::span(record.StructureFeature).subspan(FIRST_STRUCTURE_FEATURE);
     const auto behind = std::ranges::find(features, std::string());
     return features.first(static_cast<std::size_t>(behind - features.begin()));
 }
 
-Recordset hauptmerkmalListe(const DokuRecord& record, const SessionState& session, bool mitVorlage)
+Recordset structureFeatureList(const DokuRecord& record, const SessionState& session, bool withTemplate)
 {
-    Textliste liste{"Bezeichn", "Inhalt", "Benennung"};
-    const std::size_t ebene = mitVorlage ? templateBranch(record).size() : 0;
-    for (std::size_t i = 0; i < record.Hauptmerkmal.size(); ++i) {
-        if (i == ERSTES_STRUKTURMERKMAL)
-            trenne(liste);
-        const bool vorlage = ebene > 0 && i == ERSTES_STRUKTURMERKMAL + ebene - 1;
-        liste.zeile({{"Bezeichn", fmt::format("{}{}", ABSATZ, buchstabe('A', i))},
-                     {"Inhalt", record.Hauptmerkmal[i]},
-                     {"Benennung", vorlage ? "Vorlage" : merkmalname(session, i)}});
+    TextList list{"Bezeichn", "Inhalt", "Benennung"};
+    const std::size_t level = withTemplate ? templateBranch(record).size() : 0;
+    for (std::size_t i = 0; i < record.StructureFeature.size(); ++i) {
+        if (i == FIRST_STRUCTURE_FEATURE)
+            separate(list);
+        const bool drawingTemplate = level > 0 && i == FIRST_STRUCTURE_FEATURE + level - 1;
+        list.row({{"Bezeichn", fmt::format("{}{}", PARAGRAPH, letter('A', i))},
+                  {"Inhalt", record.StructureFeature[i]},
+                  {"Benennung", drawingTemplate ? "Vorlage" : featureName(session, i)}});
     }
-    trenne(liste);
+    separate(list);
     for (std::size_t i = 0; i < record.Hauptwert.size(); ++i)
-        liste.zeile({{"Bezeichn", fmt::format("{}{}", ABSATZ, buchstabe('a', i))},
-                     {"Inhalt", formatKomma(record.Hauptwert[i], NACHKOMMASTELLEN)},
-                     {"Benennung", record.Alias[i]}});
-    return liste.fertig();
+        list.row({{"Bezeichn", fmt::format("{}{}", PARAGRAPH, letter('a', i))},
+                  {"Inhalt", formatComma(record.Hauptwert[i], DECIMALS)},
+                  {"Benennung", record.Alias[i]}});
+    return list.finish();
 }
 
-Recordset zusDokuListe(Connection& verbindung, const Dateien& dateien, std::string_view filename)
+Recordset additionalDocumentList(Connection& connection, const Files& files, std::string_view filename)
 {
-    constexpr std::string_view MITSENDEN = "/J";
-    Recordset zeilen;
-    zeilen.Open(sql::Query("VerbindungPartZusDoku")
-                    .columns({"ZusDokuDateiname", "ZusDokufilename"})
-                    .distinct()
-                    .where(sql::equal("Dokufilename", filename))
-                    .sortedBy("ZusDokuDateiname")
-                    .sortedBy("ZusDokufilename"),
-                verbindung);
-    Textliste liste{"ZusDokuDatum", "ZusDokuDateiname", "ZusDokuSenden", "ZusDokufilename"};
-    liste.mit("ZusDokuCreated", FeldTyp::Datum).mit("ZusDokuFileSize", FeldTyp::Ganzzahl);
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        std::string pfad = zeilen.Text("ZusDokufilename");
-        const bool mitsenden = pfad.ends_with(MITSENDEN);
-        if (mitsenden)
-            pfad.resize(pfad.size() - MITSENDEN.size());
-        const std::optional<Dateiattribute> datei = dateien.attribute(pfad);
-        liste.zeile({{"ZusDokuDatum", datei ? formatDatumUhrzeit(datei->geaendert) : std::string()},
-                     {"ZusDokuDateiname", zeilen.Text("ZusDokuDateiname")},
-                     {"ZusDokuSenden", mitsenden ? "Ja" : "Nein"},
-                     {"ZusDokufilename", pfad},
-                     {"ZusDokuCreated", datei ? Value(datei->erstellt) : Value()},
-                     {"ZusDokuFileSize", datei ? Value(datei->groesse) : Value()}});
+    constexpr std::string_view SEND_ALONG = "/J";
+    Recordset rows;
+    rows.Open(sql::Query("VerbindungPartZusDoku")
+                  .columns({"ZusDokuDateiname", "ZusDokufilename"})
+                  .distinct()
+                  .where(sql::equal("Dokufilename", filename))
+                  .sortedBy("ZusDokuDateiname")
+                  .sortedBy("ZusDokufilename"),
+              connection);
+    TextList list{"ZusDokuDatum", "ZusDokuDateiname", "ZusDokuSenden", "ZusDokufilename"};
+    list.with("ZusDokuCreated", FieldType::Date).with("ZusDokuFileSize", FieldType::Integer);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        std::string documentPath = rows.Text("ZusDokufilename");
+        const bool sendAlong = documentPath.ends_with(SEND_ALONG);
+        if (sendAlong)
+            documentPath.resize(documentPath.size() - SEND_ALONG.size());
+        const std::optional<FileAttributes> file = files.attribute(documentPath);
+        list.row({{"ZusDokuDatum", file ? formatDateTimeOfDay(file->changed) : std::string()},
+                  {"ZusDokuDateiname", rows.Text("ZusDokuDateiname")},
+                  {"ZusDokuSenden", sendAlong ? "Ja" : "Nein"},
+                  {"ZusDokufilename", documentPath},
+                  {"ZusDokuCreated", file ? Value(file->created) : Value()},
+                  {"ZusDokuFileSize", file ? Value(file->size) : Value()}});
     }
-    return liste.fertig();
+    return list.finish();
 }
 
-std::string zusDokuInfo(const Recordset& zeile)
+std::string additionalDocumentInfo(const Recordset& row)
 {
-    if (zeile.Bof() || zeile.Eof() || istNull(zeile.Feld("ZusDokuFileSize")))
+    if (row.Bof() || row.Eof() || isNull(row.field("ZusDokuFileSize")))
         return {};
-    return fmt::format("{}   {} Byte", zeile.Text("ZusDokuDatum"),
-                       formatGanzzahl(alsGanzzahl(zeile.Feld("ZusDokuFileSize"))));
+    return fmt::format("{}   {} Byte", row.Text("ZusDokuDatum"),
+                       formatInteger(asInteger(row.field("ZusDokuFileSize"))));
 }
 
 } // namespace quelvarn

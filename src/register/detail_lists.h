@@ -8,22 +8,21 @@
 namespace quelvarn {
 
 class Connection;
-class Dateien;
+class Files;
 struct DokuRecord;
 struct SessionState;
 
 // The rows of the information pages that are lists, in recordsets in memory. A fault of the database throws.
 
 // OpRevErstBearb: who made each revision, or who changed it last.
-enum class RevErstBearb : int { Erstellt = 0, Bearbeitet = 1 };
+enum class revisionFilter : int { Erstellt = 0, Edited = 1 };
 
 // RevBez, Geaendert, Bearbeiter, Aenderung. Revisions without a text of change are left out.
-Recordset InfoRevision(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez,
-                       RevErstBearb ansicht);
+Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, revisionFilter view);
 // Name, Wert: the user-defined rows that are no sent-to notes.
-Recordset benutzDefListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record);
+Recordset userDefinedList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record);
 // SendToDatum, Kennung, OrderDateiname, Orderfilename: the sent-to notes.
-Recordset sendToListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record);
+Recordset sendToList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record);
 // "14.02.11  10:30" from the twelve digits before the ending of an order file; "" without them.
 std::string SendToDatum(std::string_view OrderDateiname);
 
@@ -31,12 +30,12 @@ std::string SendToDatum(std::string_view OrderDateiname);
 // Hauptmerkmal_C and below, up to the first empty one.
 std::span<const std::string> templateBranch(const DokuRecord& record);
 // Bezeichn, Inhalt, Benennung. With a template the row of the branch's last feature is named so.
-Recordset hauptmerkmalListe(const DokuRecord& record, const SessionState& session, bool mitVorlage);
+Recordset structureFeatureList(const DokuRecord& record, const SessionState& session, bool withTemplate);
 
 // ZusDokuDatum, ZusDokuDateiname, ZusDokuSenden, ZusDokufilename, ZusDokuCreated, ZusDokuFileSize. A document that is
 // missing has neither dates nor a size.
-Recordset zusDokuListe(Connection& verbindung, const Dateien& dateien, std::string_view filename);
+Recordset additionalDocumentList(Connection& connection, const Files& files, std::string_view filename);
 // LblInfoZusDoku for the current row.
-std::string zusDokuInfo(const Recordset& zeile);
+std::string additionalDocumentInfo(const Recordset& row);
 
 } // namespace quelvarn

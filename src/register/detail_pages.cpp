@@ -17,148 +17,147 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::array<std::string_view, 6> BILDENDUNGEN{"tif", "iff", "png", "jpg", "bmp", "gif"};
-constexpr std::array<std::string_view, 4> TEXTENDUNGEN{"txt", "csv", "log", "ini"};
-constexpr std::int64_t TEXT_HOECHSTENS = 1 << 20; // bytes; more is for a program of its own.
-constexpr std::string_view OHNE_ANSICHT = "Für diese Datei gibt es hier keine Ansicht.\n"
+constexpr std::array<std::string_view, 6> PICTURE_EXTENSIONS{"tif", "iff", "png", "jpg", "bmp", "gif"};
+constexpr std::array<std::string_view, 4> TEXT_EXTENSIONS{"txt", "csv", "log", "ini"};
+constexpr std::int64_t TEXT_LIMIT = 1 << 20; // bytes; more is for a program of its own.
+constexpr std::string_view WITHOUT_VIEW = "Für diese Datei gibt es hier keine Ansicht.\n"
                                           "'Anschauen' öffnet sie in ihrer Anwendung.";
 
-bool enthaelt(const auto& endungen, std::string_view endung)
+bool contains(const auto& extensions, std::string_view extension)
 {
-    return std::ranges::find(endungen, endung) != endungen.end();
+    return std::ranges::find(extensions, extension) != extensions.end();
 }
 
 } // namespace
 
-void Detailseiten::fuelle(InfoSeite seite, const DokuTyp& typ, const DokuRecord& record)
+void DetailPages::fill(InfoPageId page, const DocumentType& type, const DokuRecord& record)
 {
-    typ_ = &typ;
+    type_ = &type;
     record_ = record;
-    listen_.erase(seite); // After a fault the page is empty, not another document's.
-    ++fassung_;
+    lists_.erase(page); // After a fault the page is empty, not another document's.
+    ++generation_;
     tiff_.clear(); // A picture behind another page would only cost memory.
-    grafik_ = {};
-    Connection& verbindung = session_.database.Verbindung;
-    switch (seite) {
-    case InfoSeite::Revisionen:
-        revErstBearb_ = RevErstBearb::Erstellt;
-        listen_[seite] = InfoRevision(verbindung, typ.tabelle, record.DokuBez, revErstBearb_);
+    graphic_ = {};
+    Connection& connection = session_.database.connection;
+    switch (page) {
+    case InfoPageId::Revisions:
+        revisionFilter_ = revisionFilter::Erstellt;
+        lists_[page] = InfoRevision(connection, type.table, record.DokuBez, revisionFilter_);
         break;
-    case InfoSeite::BenutzDef:
-        listen_[seite] = benutzDefListe(verbindung, typ.tabelleBenutzDef, record);
+    case InfoPageId::UserDefined:
+        lists_[page] = userDefinedList(connection, type.tableUserDef, record);
         break;
-    case InfoSeite::SendTo:
-        listen_[seite] = sendToListe(verbindung, typ.tabelleBenutzDef, record);
+    case InfoPageId::SendTo:
+        lists_[page] = sendToList(connection, type.tableUserDef, record);
         break;
-    case InfoSeite::Hauptmerkmale:
-        fuelleHauptmerkmale();
+    case InfoPageId::StructureFeatures:
+        fillStructureFeatures();
         break;
-    case InfoSeite::ZusDoku:
-        viewGrafik_ = false;
+    case InfoPageId::ZusDoku:
+        viewGraphic_ = false;
         LblInfoZusDoku_.clear();
-        listen_[seite] = zusDokuListe(verbindung, ports_.dateien, record.filename);
-        LblInfoZusDoku_ = zusDokuInfo(listen_[seite]);
+        lists_[page] = additionalDocumentList(connection, ports_.files, record.filename);
+        LblInfoZusDoku_ = additionalDocumentInfo(lists_[page]);
         break;
-    case InfoSeite::Tiff:
-        zeigeTiff();
+    case InfoPageId::Tiff:
+        showTiff();
         break;
     default:
         break;
     }
 }
 
-void Detailseiten::leere()
+void DetailPages::clear()
 {
-    listen_.clear();
-    ++fassung_;
-    typ_ = nullptr;
+    lists_.clear();
+    ++generation_;
+    type_ = nullptr;
     record_ = {};
     LblPfadDateiVorlage_.clear();
     LblInfoZusDoku_.clear();
-    viewGrafik_ = false;
-    grafik_ = {};
+    viewGraphic_ = false;
+    graphic_ = {};
     tiff_.clear();
 }
 
-void Detailseiten::fuelleHauptmerkmale()
+void DetailPages::fillStructureFeatures()
 {
     LblPfadDateiVorlage_.clear();
-    LblPfadDateiVorlage_ = VorlageSuchen(session_.database.Verbindung, templateBranch(record_));
-    listen_[InfoSeite::Hauptmerkmale] = hauptmerkmalListe(record_, session_, !LblPfadDateiVorlage_.empty());
+    LblPfadDateiVorlage_ = VorlageSuchen(session_.database.connection, templateBranch(record_));
+    lists_[InfoPageId::StructureFeatures] = structureFeatureList(record_, session_, !LblPfadDateiVorlage_.empty());
 }
 
-void Detailseiten::setzeRevErstBearb(RevErstBearb ansicht)
+void DetailPages::setRevisionFilter(revisionFilter view)
 {
     operations_.perform(Part::Document, "Revision", "Fehler beim Lesen der Revisionen!", [&] {
-        if (typ_ == nullptr)
+        if (type_ == nullptr)
             return;
-        revErstBearb_ = ansicht;
-        listen_.erase(InfoSeite::Revisionen);
-        ++fassung_;
-        listen_[InfoSeite::Revisionen] =
-            InfoRevision(session_.database.Verbindung, typ_->tabelle, record_.DokuBez, ansicht);
+        revisionFilter_ = view;
+        lists_.erase(InfoPageId::Revisions);
+        ++generation_;
+        lists_[InfoPageId::Revisions] = InfoRevision(session_.database.connection, type_->table, record_.DokuBez, view);
     });
 }
 
-void Detailseiten::zeileGewaehlt(InfoSeite seite, std::size_t position)
+void DetailPages::rowChosen(InfoPageId page, std::size_t position)
 {
     operations_.perform(Part::Document, "Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
-        const auto liste = listen_.find(seite);
-        if (liste == listen_.end() || position >= liste->second.RecordCount())
+        const auto list = lists_.find(page);
+        if (list == lists_.end() || position >= list->second.RecordCount())
             return;
-        liste->second.setzeAbsolutePosition(position);
-        if (seite == InfoSeite::ZusDoku)
-            zeigeZusDoku();
+        list->second.setAbsolutePosition(position);
+        if (page == InfoPageId::ZusDoku)
+            showAdditionalDocument();
     });
 }
 
-void Detailseiten::setzeViewGrafikZusDoku(bool an)
+void DetailPages::setViewGrafikZusDoku(bool on)
 {
     operations_.perform(Part::Document, "Graphik anzeigen", "Fehler beim Anzeigen der Datei!", [&] {
-        viewGrafik_ = an;
-        zeigeZusDoku();
+        viewGraphic_ = on;
+        showAdditionalDocument();
     });
 }
 
-void Detailseiten::zeigeZusDoku()
+void DetailPages::showAdditionalDocument()
 {
-    LblInfoZusDoku_ = zusDokuInfo(listen_[InfoSeite::ZusDoku]);
-    grafik_ = {};
-    const std::string pfad = feldDerZeile(InfoSeite::ZusDoku, "ZusDokufilename");
-    if (viewGrafik_ && !pfad.empty() && vorhandenOderBox(pfad))
-        grafik_ = bildVon(pfad);
+    LblInfoZusDoku_ = additionalDocumentInfo(lists_[InfoPageId::ZusDoku]);
+    graphic_ = {};
+    const std::string documentPath = fieldOfRow(InfoPageId::ZusDoku, "ZusDokufilename");
+    if (viewGraphic_ && !documentPath.empty() && existsOrBox(documentPath))
+        graphic_ = pictureOf(documentPath);
 }
 
-Dateibild Detailseiten::bildVon(const std::string& pfad) const
+FilePicture DetailPages::pictureOf(const std::string& documentPath) const
 {
-    const std::string endung = Dateiendung(pfad);
-    if (enthaelt(BILDENDUNGEN, endung))
-        return {Dateibild::Art::Bild, pfad, {}};
-    const auto attribute = ports_.dateien.attribute(pfad);
-    if (!enthaelt(TEXTENDUNGEN, endung) || !attribute || attribute->groesse > TEXT_HOECHSTENS)
-        return {Dateibild::Art::Text, {}, std::string(OHNE_ANSICHT)};
-    return {Dateibild::Art::Text, {}, decodeFileText(ports_.dateien.lese(pfad))};
+    const std::string extension = Extension(documentPath);
+    if (contains(PICTURE_EXTENSIONS, extension))
+        return {FilePicture::Kind::Picture, documentPath, {}};
+    const auto attribute = ports_.files.attribute(documentPath);
+    if (!contains(TEXT_EXTENSIONS, extension) || !attribute || attribute->size > TEXT_LIMIT)
+        return {FilePicture::Kind::Text, {}, std::string(WITHOUT_VIEW)};
+    return {FilePicture::Kind::Text, {}, decodeFileText(ports_.files.read(documentPath))};
 }
 
-void Detailseiten::zeigeTiff()
+void DetailPages::showTiff()
 {
-    std::string pfad = findTiff(session_.database.Verbindung, ports_.dateien, record_);
-    if (pfad.empty())
-        pfad = mitEndung(record_.filename, "tif"); // It was there when the tree was built.
-    if (vorhandenOderBox(pfad))
-        tiff_ = pfad;
+    std::string documentPath = findTiff(session_.database.connection, ports_.files, record_);
+    if (documentPath.empty())
+        documentPath = withExtension(record_.filename, "tif"); // It was there when the tree was built.
+    if (existsOrBox(documentPath))
+        tiff_ = documentPath;
 }
 
-const Recordset* Detailseiten::liste(InfoSeite seite) const
+const Recordset* DetailPages::list(InfoPageId page) const
 {
-    const auto liste = listen_.find(seite);
-    return liste == listen_.end() || !liste->second.offen() ? nullptr : &liste->second;
+    const auto list = lists_.find(page);
+    return list == lists_.end() || !list->second.open() ? nullptr : &list->second;
 }
 
-std::string Detailseiten::feldDerZeile(InfoSeite seite, std::string_view feld) const
+std::string DetailPages::fieldOfRow(InfoPageId page, std::string_view field) const
 {
-    const Recordset* zeilen = liste(seite);
-    return zeilen == nullptr || zeilen->Bof() || zeilen->Eof() ? std::string() : zeilen->Text(feld);
+    const Recordset* rows = list(page);
+    return rows == nullptr || rows->Bof() || rows->Eof() ? std::string() : rows->Text(field);
 }
 
 } // namespace quelvarn

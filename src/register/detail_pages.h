@@ -12,73 +12,73 @@
 
 namespace quelvarn {
 
-struct DokuTyp;
+struct DocumentType;
 struct SessionState;
 
 // A file to be shown on an information page. Pictures are drawn, texts are read, for others a hint stands.
-struct Dateibild
+struct FilePicture
 {
-    enum class Art { Keins, Bild, Text };
-    Art art = Art::Keins;
-    std::string datei; // The picture's path, "" for none.
+    enum class Kind { None, Picture, Text };
+    Kind kind = Kind::None;
+    std::string file; // The picture's path, "" for none.
     std::string text;
-    bool operator==(const Dateibild&) const = default;
+    bool operator==(const FilePicture&) const = default;
 };
 
 // State and operations of the information pages that are read from the database. A page is filled when it comes up,
 // and stays so until it comes up again.
-class Detailseiten
+class DetailPages
 {
 public:
-    Detailseiten(SessionState& session, Operations& operations)
+    DetailPages(SessionState& session, Operations& operations)
         : session_(session), operations_(operations), ports_(operations.ports())
     {}
 
     // For a document of this type; does nothing for a page of another kind. Faults pass through.
-    void fuelle(InfoSeite seite, const DokuTyp& typ, const DokuRecord& record);
-    void leere();
+    void fill(InfoPageId page, const DocumentType& type, const DokuRecord& record);
+    void clear();
 
     // --- operations, one for each thing a person can do ---
-    void setzeRevErstBearb(RevErstBearb ansicht); // OpRevErstBearb
-    void zeileGewaehlt(InfoSeite seite, std::size_t position);
-    void oeffneAuftrag();                   // CmSendTo
-    void setzeViewGrafikZusDoku(bool an);   // ChViewGrafikZusDoku
-    void oeffneZusDoku();                   // CmStartZusDoku
-    void bildNichtGeladen(InfoSeite seite); // The picture on this page turned out to be none.
+    void setRevisionFilter(revisionFilter view); // OpRevErstBearb
+    void rowChosen(InfoPageId page, std::size_t position);
+    void openOrder();                       // CmSendTo
+    void setViewGrafikZusDoku(bool on);     // ChViewGrafikZusDoku
+    void openAdditionalDocument();          // CmStartZusDoku
+    void pictureNotLoaded(InfoPageId page); // The picture on this page turned out to be none.
 
     // --- state, for the projection ---
-    // nullptr for no rows; another `fassung` means other rows.
-    const Recordset* liste(InfoSeite seite) const;
-    unsigned fassung() const { return fassung_; }
-    RevErstBearb OpRevErstBearb() const { return revErstBearb_; }
+    // nullptr for no rows; another `generation` means other rows.
+    const Recordset* list(InfoPageId page) const;
+    unsigned generation() const { return generation_; }
+    revisionFilter OpRevErstBearb() const { return revisionFilter_; }
     const std::string& LblPfadDateiVorlage() const { return LblPfadDateiVorlage_; }
     const std::string& LblInfoZusDoku() const { return LblInfoZusDoku_; }
-    bool ChViewGrafikZusDoku() const { return viewGrafik_; }
-    const Dateibild& grafikZusDoku() const { return grafik_; }
+    bool ChViewGrafikZusDoku() const { return viewGraphic_; }
+    const FilePicture& graphicAdditionalDocument() const { return graphic_; }
     const std::string& tiff() const { return tiff_; } // "" when none is shown
-    std::filesystem::path systempfad(std::string_view pfad) const;
+    std::filesystem::path systemPath(std::string_view documentPath) const;
 
 private:
-    void fuelleHauptmerkmale();
-    void zeigeTiff();
-    void zeigeZusDoku();
-    Dateibild bildVon(const std::string& pfad) const;
-    void oeffne(std::string_view titel, const std::string& pfad);
-    bool vorhandenOderBox(const std::string& pfad);
-    std::string feldDerZeile(InfoSeite seite, std::string_view feld) const;
+    void fillStructureFeatures();
+    void showTiff();
+    void showAdditionalDocument();
+    FilePicture pictureOf(const std::string& documentPath) const;
+    void open(std::string_view title, const std::string& documentPath);
+    bool existsOrBox(const std::string& documentPath);
+    std::string fieldOfRow(InfoPageId page, std::string_view field) const;
 
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    const DokuTyp* typ_ = nullptr;
+    const DocumentType* type_ = nullptr;
     DokuRecord record_;
-    std::map<InfoSeite, Recordset> listen_;
-    unsigned fassung_ = 0;
-    RevErstBearb revErstBearb_ = RevErstBearb::Erstellt;
+    std::map<InfoPageId, Recordset> lists_;
+    unsigned generation_ = 0;
+    revisionFilter revisionFilter_ = revisionFilter::Erstellt;
     std::string LblPfadDateiVorlage_;
     std::string LblInfoZusDoku_;
-    bool viewGrafik_ = false;
-    Dateibild grafik_;
+    bool viewGraphic_ = false;
+    FilePicture graphic_;
     std::string tiff_;
 };
 

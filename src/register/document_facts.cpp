@@ -15,60 +15,60 @@ namespace quelvarn {
 namespace {
 
 // The pages that are asked for; what an assembly consists of is not asked, it always has something.
-std::initializer_list<InfoSeite> relationsOf(const DokuTyp& type)
+std::initializer_list<InfoPageId> relationsOf(const DocumentType& type)
 {
-    static constexpr auto DRAWING = {InfoSeite::Enthaelt};
-    static constexpr auto ASSEMBLY = {InfoSeite::InBaugruppe, InfoSeite::InZeichnung, InfoSeite::InSchweissteil};
-    static constexpr auto WELDMENT = {InfoSeite::InBaugruppe, InfoSeite::InZeichnung, InfoSeite::EnthaeltBaugruppe};
-    static constexpr auto OTHERS = {InfoSeite::InBaugruppe, InfoSeite::InZeichnung};
-    if (type.schluessel == "Draft")
+    static constexpr auto DRAWING = {InfoPageId::Contains};
+    static constexpr auto ASSEMBLY = {InfoPageId::InAssembly, InfoPageId::InDrawing, InfoPageId::InWeldment};
+    static constexpr auto WELDMENT = {InfoPageId::InAssembly, InfoPageId::InDrawing, InfoPageId::ContainsAssembly};
+    static constexpr auto OTHERS = {InfoPageId::InAssembly, InfoPageId::InDrawing};
+    if (type.key == "Draft")
         return DRAWING;
-    if (type.schluessel == "Assemb")
+    if (type.key == "Assemb")
         return ASSEMBLY;
-    return type.schluessel == "Weld" ? WELDMENT : OTHERS;
+    return type.key == "Weld" ? WELDMENT : OTHERS;
 }
 
 } // namespace
 
-bool DocumentFacts::has(InfoSeite relation) const
+bool DocumentFacts::has(InfoPageId relation) const
 {
     return std::ranges::find(relations, relation) != relations.end();
 }
 
-void findFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& type, SessionState& session,
+void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session,
                const Ports& ports)
 {
-    const Revisionsstand stand = revisionsstand(session.database.Verbindung, type.tabelle, record.DokuBez);
-    facts.severalRevisions = stand.mehrere;
-    facts.newerRevision = neuereRevision(stand, record);
-    if (type.schluessel == "Draft") {
-        facts.tiff = session.Tree.TIFFDoku && !findTiff(session.database.Verbindung, ports.dateien, record).empty();
-        facts.pdf = session.Tree.PDFDoku && !findPdf(ports.dateien, record).empty();
+    const RevisionState state = revisionState(session.database.connection, type.table, record.DokuBez);
+    facts.severalRevisions = state.several;
+    facts.newerRevision = newerRevision(state, record);
+    if (type.key == "Draft") {
+        facts.tiff = session.Tree.TIFFDoku && !findTiff(session.database.connection, ports.files, record).empty();
+        facts.pdf = session.Tree.PDFDoku && !findPdf(ports.files, record).empty();
     }
     if (!session.Tree.Verwendung)
         return;
     std::string path = record.filename;
     UniversalNachLaufwerk(path, ports);
-    for (const InfoSeite relation : relationsOf(type))
-        if (gibtEsVerwendung(session.database.Verbindung, verwendungsartVon(relation), record, path))
+    for (const InfoPageId relation : relationsOf(type))
+        if (hasRelation(session.database.connection, relationKindOf(relation), record, path))
             facts.relations.push_back(relation);
     facts.relationsAsked = true;
 }
 
-void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& type, SessionState& session)
+void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session)
 {
     if (facts.properties)
         return;
     PropertyFacts& found = facts.properties.emplace();
-    const Baumschalter& switches = session.Tree;
-    const bool ofFiles = type.sondertabelle == 0;
+    const TreeSwitches& switches = session.Tree;
+    const bool ofFiles = type.specialTable == 0;
     if (switches.BenutzDef || (switches.Versendet && ofFiles)) {
-        const Benutzerzeilen rows = benutzerzeilen(session.database.Verbindung, type.tabelleBenutzDef, record);
-        found.userDefined = rows.eigenschaften;
-        found.sent = rows.versendet;
+        const UserDefinedRows rows = userDefinedRows(session.database.connection, type.tableUserDef, record);
+        found.userDefined = rows.properties;
+        found.sent = rows.sent;
     }
     found.additionalDocuments =
-        switches.ZusDoku && ofFiles && hatZusatzdokumente(session.database.Verbindung, record.filename);
+        switches.ZusDoku && ofFiles && hasAdditionalDocuments(session.database.connection, record.filename);
 }
 
 } // namespace quelvarn

@@ -9,7 +9,7 @@
 namespace quelvarn {
 
 struct DokuRecord;
-struct DokuTyp;
+struct DocumentType;
 struct SessionState;
 
 // What the user-defined rows and the link table of additional documents tell.
@@ -26,18 +26,18 @@ struct DocumentFacts
     bool severalRevisions = false;
     bool newerRevision = false;
     bool relationsAsked = false;
-    std::vector<InfoSeite> relations; // Pages of composition and where-used that have rows.
+    std::vector<InfoPageId> relations; // Pages of composition and where-used that have rows.
     bool tiff = false;
     bool pdf = false;
     std::optional<PropertyFacts> properties; // Nothing while nobody has asked.
 
-    bool has(InfoSeite relation) const;
+    bool has(InfoPageId relation) const;
 };
 
 // Fact by fact: after a fault those found before it stay.
-void findFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& type, SessionState& session,
+void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session,
                const Ports& ports);
 // The same; a fault is not met again.
-void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DokuTyp& type, SessionState& session);
+void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session);
 
 } // namespace quelvarn

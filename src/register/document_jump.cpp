@@ -12,90 +12,90 @@
 
 namespace quelvarn {
 
-bool Dokumentsprung::ZuDokumentWechseln(const DokuTyp& typ, const std::string& filename)
+bool DocumentJump::ZuDokumentWechseln(const DocumentType& type, const std::string& filename)
 {
-    return springe(typ, filename, {HINWEIS_DOKUMENT, "Das Modell ist in der Tabelle nicht vorhanden!", false});
+    return jump(type, filename, {HINT_DOCUMENT, "Das Modell ist in der Tabelle nicht vorhanden!", false});
 }
 
-bool Dokumentsprung::ZeichnungZeigen(const std::string& filename)
+bool DocumentJump::ZeichnungZeigen(const std::string& filename)
 {
-    return springe(*std::ranges::find(DOKUTYPEN, std::string_view("Draft"), &DokuTyp::schluessel), filename,
-                   {"Die zugehörige Zeichnung kann eventuell nicht angezeigt werden.",
-                    "Die Zeichnung ist in der Tabelle nicht vorhanden!", true});
+    return jump(*std::ranges::find(DOCUMENT_TYPES, std::string_view("Draft"), &DocumentType::key), filename,
+                {"Die zugehörige Zeichnung kann eventuell nicht angezeigt werden.",
+                 "Die Zeichnung ist in der Tabelle nicht vorhanden!", true});
 }
 
-void Dokumentsprung::bereiteVor(const DokuTyp& typ, std::string_view hinweis)
+void DocumentJump::prepare(const DocumentType& type, std::string_view tell)
 {
-    const DocumentTable& table = tables_.opened(typ.tab);
+    const DocumentTable& table = tables_.opened(type.tab);
     // Intended: of a special table only the plain filter is asked about.
-    if (table.state() == TableState::Filtered || (table.state() == TableState::FilterResult && typ.sondertabelle == 0))
-        frageNachFilter(typ, hinweis);
+    if (table.state() == TableState::Filtered || (table.state() == TableState::FilterResult && type.specialTable == 0))
+        askAfterFilter(type, tell);
 }
 
-void Dokumentsprung::frageNachFilter(const DokuTyp& typ, std::string_view hinweis)
+void DocumentJump::askAfterFilter(const DocumentType& type, std::string_view tell)
 {
-    const std::string name = session_.mehrzahl(typ.tab);
-    if (!ports_.meldungen.frage(
+    const std::string name = session_.plural(type.tab);
+    if (!ports_.boxes.ask(
             "Filterung der Tabelle '" + name + "' aufheben?",
-            zeilen({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", hinweis, "Soll der Filter aufgehoben werden?"})))
+            lines({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", tell, "Soll der Filter aufgehoben werden?"})))
         return;
-    if (tables_.tab() != typ.tab)
-        tabs_.goTo(typ.tab);
-    tabs_.liftFilter(typ.tab);
+    if (tables_.tab() != type.tab)
+        tabs_.goTo(type.tab);
+    tabs_.liftFilter(type.tab);
 }
 
 // Harvel may have met the file by the letter of a drive or by the share behind it.
-bool Dokumentsprung::sucheDatei(const DokuTyp& typ, const std::string& filename)
+bool DocumentJump::searchFile(const DocumentType& type, const std::string& filename)
 {
-    if (moveTo(typ, filename))
+    if (moveTo(type, filename))
         return true;
     std::string withLetter = filename;
     UniversalNachLaufwerk(withLetter, ports_);
     if (withLetter != filename)
-        return moveTo(typ, withLetter);
+        return moveTo(type, withLetter);
     const std::string withShare = pathOnShare(filename, ports_);
-    return !withShare.empty() && moveTo(typ, withShare);
+    return !withShare.empty() && moveTo(type, withShare);
 }
 
-bool Dokumentsprung::moveTo(const DokuTyp& typ, const std::string& filename)
+bool DocumentJump::moveTo(const DocumentType& type, const std::string& filename)
 {
-    Recordset& rows = tables_[typ.tab].visible();
-    return std::ranges::any_of(documentsWithPath(session_.database.Verbindung, typ, filename),
-                               [&](const Dokumentname& name) {
-                                   return stelleAufDatei(rows, {name.DokuBez, name.RevBez, filename, 0});
+    Recordset& rows = tables_[type.tab].visible();
+    return std::ranges::any_of(documentsWithPath(session_.database.connection, type, filename),
+                               [&](const DocumentName& name) {
+                                   return moveToFile(rows, {name.DokuBez, name.RevBez, filename, 0});
                                });
 }
 
-bool Dokumentsprung::springe(const DokuTyp& typ, const std::string& filename, const Fragen& fragen)
+bool DocumentJump::jump(const DocumentType& type, const std::string& filename, const Questions& questions)
 {
-    bereiteVor(typ, fragen.hinweis);
-    if (sucheDatei(typ, filename)) {
-        tabs_.goTo(typ.tab);
+    prepare(type, questions.tell);
+    if (searchFile(type, filename)) {
+        tabs_.goTo(type.tab);
         return true;
     }
-    const Antwort antwort = ports_.meldungen.zeige(
-        {"Neuaufbau der Tabelle durchführen?", zeilen({fragen.fehlt, "Soll ein 'Neuaufbau' durchgeführt werden?"}),
-         Symbol::Frage, fragen.abbrechbar ? Knoepfe::JaNeinAbbrechen : Knoepfe::JaNein});
-    if (antwort == Antwort::Ja)
-        return nachNeuaufbau(typ, filename);
-    if (antwort == Antwort::Nein)
-        tabs_.goTo(typ.tab);
+    const Answer answer = ports_.boxes.show(
+        {"Neuaufbau der Tabelle durchführen?", lines({questions.missing, "Soll ein 'Neuaufbau' durchgeführt werden?"}),
+         Icon::Question, questions.cancellable ? Buttons::YesNoCancel : Buttons::YesNo});
+    if (answer == Answer::Yes)
+        return afterRebuild(type, filename);
+    if (answer == Answer::No)
+        tabs_.goTo(type.tab);
     return false;
 }
 
-bool Dokumentsprung::nachNeuaufbau(const DokuTyp& typ, const std::string& filename)
+bool DocumentJump::afterRebuild(const DocumentType& type, const std::string& filename)
 {
-    tabs_.reopen(typ.tab);
-    if (sucheDatei(typ, filename)) {
-        tabs_.ZeileAktualisieren(typ.tab);
+    tabs_.reopen(type.tab);
+    if (searchFile(type, filename)) {
+        tabs_.ZeileAktualisieren(type.tab);
         return true;
     }
-    ports_.meldungen.warnung("Suchergebnis", zeilen({
-                                                 "Datei ist in der Tabelle nicht vorhanden!",
-                                                 "es ist ein <Neuaufbau> erforderlich.",
-                                                 "oder",
-                                                 "Sie haben keine Zugriffsberechtigung.",
-                                             }));
+    ports_.boxes.warn("Suchergebnis", lines({
+                                          "Datei ist in der Tabelle nicht vorhanden!",
+                                          "es ist ein <Neuaufbau> erforderlich.",
+                                          "oder",
+                                          "Sie haben keine Zugriffsberechtigung.",
+                                      }));
     return false;
 }
 

@@ -7,29 +7,29 @@
 
 namespace quelvarn {
 
-void DocumentPage::seiteGezeigt(Seite page)
+void DocumentPage::pageShown(Page page)
 {
-    if (page == Seite::Dokumente || page == Seite::Filter) // The filter page is about the table shown here.
+    if (page == Page::Documents || page == Page::Filter) // The filter page is about the table shown here.
         tabs_.StartTabelleZeigen();
 }
 
-void DocumentPage::datenbankWechselt()
+void DocumentPage::databaseChanges()
 {
     tabs_.forgetDatabase();
 }
 
-void DocumentPage::baumschalterGeaendert()
+void DocumentPage::treeSwitchesChanged()
 {
     tabs_.switchesChanged();
 }
 
-void DocumentPage::entladen()
+void DocumentPage::unload()
 {
     if (!session_.pages.FormSEDokuGeladen)
         return;
     saveSettings(operations_.ports(), "Schließen der Dokumentseite", "Fehler beim Schließen der Dokumentseite!", [&] {
-        if (session_.database.Verbindung.offen())
-            schreibeDokumentseite(session_, tables_.tab());
+        if (session_.database.connection.open())
+            writeDocumentPage(session_, tables_.tab());
     });
     session_.pages.FormSEDokuGeladen = false;
     tabs_.forgetDatabase();

@@ -10,18 +10,18 @@ class TableTabs;
 struct SessionState;
 
 // The document page (FormSEDoku) as a page of the frame: what it does when it comes, goes, or gets another database.
-class DocumentPage : public Rahmenteilnehmer
+class DocumentPage : public SessionListener
 {
 public:
     DocumentPage(SessionState& session, Operations& operations, const DocumentTables& tables, TableTabs& tabs)
         : session_(session), operations_(operations), tables_(tables), tabs_(tabs)
     {}
 
-    void seiteGezeigt(Seite page) override;
-    void datenbankWechselt() override;
-    void baumschalterGeaendert() override;
+    void pageShown(Page page) override;
+    void databaseChanges() override;
+    void treeSwitchesChanged() override;
     // Writes the Suchen/Filtern, Starttabelle and OfflineDaten rows.
-    void entladen() override;
+    void unload() override;
 
 private:
     SessionState& session_;

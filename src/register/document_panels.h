@@ -23,13 +23,13 @@ public:
 
     const std::string& fileName() const { return fileName_; } // Panel 2.
     const std::string& folder() const { return folder_; }     // Panel 4.
-    const Statuskopf& status() const { return status_; }
+    const StatusHeading& status() const { return status_; }
 
 private:
     const SessionState& session_;
     std::string fileName_;
     std::string folder_;
-    Statuskopf status_;
+    StatusHeading status_;
 };
 
 } // namespace quelvarn

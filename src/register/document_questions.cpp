@@ -14,114 +14,116 @@
 namespace quelvarn {
 namespace {
 
-std::unique_ptr<Zeilenleser> lese(Connection& verbindung, const sql::Select& select, std::size_t grenze = 0)
+std::unique_ptr<RowReader> read(Connection& connection, const sql::Select& select, std::size_t limit = 0)
 {
-    return verbindung.engine().lese(select, MitSchluessel::Nein, grenze);
+    return connection.engine().read(select, WithKey::No, limit);
 }
 
 // A document without a path is used nowhere.
-bool gibtEsZumPfad(Connection& verbindung, std::string_view tabelle, std::string_view spalte, std::string_view pfad)
+bool existsForPath(Connection& connection, std::string_view table, std::string_view column,
+                   std::string_view documentPath)
 {
-    return !pfad.empty() && rowExists(verbindung, tabelle, spalte, sql::equal(spalte, pfad));
+    return !documentPath.empty() && rowExists(connection, table, column, sql::equal(column, documentPath));
 }
 
-std::vector<std::string> leseSpalte(Connection& verbindung, const sql::Select& select)
+std::vector<std::string> readColumn(Connection& connection, const sql::Select& select)
 {
-    std::vector<std::string> werte;
-    const auto zeilen = lese(verbindung, select);
-    while (zeilen->next())
-        werte.emplace_back(zeilen->text(0));
-    return werte;
+    std::vector<std::string> values;
+    const auto rows = read(connection, select);
+    while (rows->next())
+        values.emplace_back(rows->text(0));
+    return values;
 }
 
-std::string vorhandene(const Dateien& dateien, std::string pfad)
+std::string existing(const Files& files, std::string documentPath)
 {
-    return dateien.dateiVorhanden(pfad) ? std::move(pfad) : std::string();
+    return files.fileExists(documentPath) ? std::move(documentPath) : std::string();
 }
 
 } // namespace
 
-bool rowExists(Connection& verbindung, std::string_view tabelle, std::string_view spalte, sql::AusdruckZeiger condition)
+bool rowExists(Connection& connection, std::string_view table, std::string_view column,
+               sql::ExpressionPointer condition)
 {
-    return lese(verbindung, sql::Query(tabelle).columns({spalte}).where(std::move(condition)), 1)->next();
+    return read(connection, sql::Query(table).columns({column}).where(std::move(condition)), 1)->next();
 }
 
-Revisionsstand revisionsstand(Connection& verbindung, std::string_view tabelle, std::string_view DokuBez)
+RevisionState revisionState(Connection& connection, std::string_view table, std::string_view DokuBez)
 {
     if (DokuBez.empty())
         return {};
-    const std::vector<std::string> revisionen = leseSpalte(
-        verbindung,
-        sql::Query(tabelle).columns({"RevBez"}).distinct().where(sql::equal("DokuBez", DokuBez)).sortedBy("RevBez"));
-    if (revisionen.empty())
+    const std::vector<std::string> revisions = readColumn(
+        connection,
+        sql::Query(table).columns({"RevBez"}).distinct().where(sql::equal("DokuBez", DokuBez)).sortedBy("RevBez"));
+    if (revisions.empty())
         return {};
-    return {!equalText(revisionen.front(), revisionen.back()), revisionen.back()};
+    return {!equalText(revisions.front(), revisions.back()), revisions.back()};
 }
 
-bool neuereRevision(const Revisionsstand& stand, const DokuRecord& record)
+bool newerRevision(const RevisionState& state, const DokuRecord& record)
 {
-    return !record.DokuBez.empty() && !record.RevBez.empty() && !stand.letzte.empty() &&
-           !equalText(stand.letzte, record.RevBez);
+    return !record.DokuBez.empty() && !record.RevBez.empty() && !state.last.empty() &&
+           !equalText(state.last, record.RevBez);
 }
 
-std::string EnthaltenInTIFFTabelle(Connection& verbindung, std::string_view Dateiname)
+std::string EnthaltenInTIFFTabelle(Connection& connection, std::string_view Dateiname)
 {
     if (Dateiname.empty())
         return {};
-    const std::string stamm(Dateiname.substr(0, Dateiname.rfind('.')));
-    for (const std::string& name : {stamm + "tif", stamm + ".tif"}) { // Some offices name them without a point.
-        const auto zeile = lese(
-            verbindung,
+    const std::string stem(Dateiname.substr(0, Dateiname.rfind('.')));
+    for (const std::string& name : {stem + "tif", stem + ".tif"}) { // Some offices name them without a point.
+        const auto row = read(
+            connection,
             sql::Query("TIFFTabelle").columns({"filename"}).where(sql::equal("Dateiname", name)).sortedBy("filename"),
             1);
-        if (zeile->next())
-            return std::string(zeile->text(0));
+        if (row->next())
+            return std::string(row->text(0));
     }
     return {};
 }
 
-std::string findTiff(Connection& verbindung, const Dateien& dateien, const DokuRecord& record)
+std::string findTiff(Connection& connection, const Files& files, const DokuRecord& record)
 {
-    const std::string registriert = EnthaltenInTIFFTabelle(verbindung, record.Dateiname);
-    return registriert.empty() ? vorhandene(dateien, mitEndung(record.filename, "tif")) : registriert;
+    const std::string registered = EnthaltenInTIFFTabelle(connection, record.Dateiname);
+    return registered.empty() ? existing(files, withExtension(record.filename, "tif")) : registered;
 }
 
-std::string findPdf(const Dateien& dateien, const DokuRecord& record)
+std::string findPdf(const Files& files, const DokuRecord& record)
 {
-    return vorhandene(dateien, mitEndung(record.filename, "pdf"));
+    return existing(files, withExtension(record.filename, "pdf"));
 }
 
-std::set<std::string> kennungen(Connection& verbindung, const std::vector<std::string>& namen)
+std::set<std::string> addressCodes(Connection& connection, const std::vector<std::string>& names)
 {
-    std::vector<sql::AusdruckZeiger> gefragte;
-    for (const std::string& name : namen)
-        gefragte.push_back(sql::equal("Kennung", name));
-    std::set<std::string> gefunden;
-    for (sql::AusdruckZeiger& einige : sql::chunks(std::move(gefragte))) {
-        const sql::Select select = sql::Query("Adresstabelle").columns({"Kennung"}).distinct().where(std::move(einige));
-        for (const std::string& kennung : leseSpalte(verbindung, select))
-            gefunden.insert(sortKey(kennung));
+    std::vector<sql::ExpressionPointer> asked;
+    for (const std::string& name : names)
+        asked.push_back(sql::equal("Kennung", name));
+    std::set<std::string> found;
+    for (sql::ExpressionPointer& some : sql::chunks(std::move(asked))) {
+        const sql::Select select = sql::Query("Adresstabelle").columns({"Kennung"}).distinct().where(std::move(some));
+        for (const std::string& addressCode : readColumn(connection, select))
+            found.insert(sortKey(addressCode));
     }
-    return gefunden;
+    return found;
 }
 
-Benutzerzeilen benutzerzeilen(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
+UserDefinedRows userDefinedRows(Connection& connection, std::string_view tableUserDef, const DokuRecord& record)
 {
-    const std::vector<std::string> namen = leseSpalte(
-        verbindung, sql::Query(tabelleBenutzDef)
+    const std::vector<std::string> names = readColumn(
+        connection, sql::Query(tableUserDef)
                         .columns({"Name"})
                         .distinct()
                         .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez))));
-    const std::set<std::string> bekannt = kennungen(verbindung, namen);
-    Benutzerzeilen ergebnis;
-    for (const std::string& name : namen)
-        (bekannt.contains(sortKey(name)) ? ergebnis.versendet : ergebnis.eigenschaften) = true;
-    return ergebnis;
+    const std::set<std::string> known = addressCodes(connection, names);
+    UserDefinedRows result;
+    for (const std::string& name : names)
+        (known.contains(sortKey(name)) ? result.sent : result.properties) = true;
+    return result;
 }
 
-bool hatZusatzdokumente(Connection& verbindung, std::string_view filename)
+bool hasAdditionalDocuments(Connection& connection, std::string_view filename)
 {
-    return gibtEsZumPfad(verbindung, "VerbindungPartZusDoku", "Dokufilename", filename);
+    return existsForPath(connection, "VerbindungPartZusDoku", "Dokufilename", filename);
 }
 
 } // namespace quelvarn

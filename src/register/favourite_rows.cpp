@@ -13,96 +13,96 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view GRUPPE = "Favoriten"; // Feld2
+constexpr std::string_view GROUP = "Favoriten"; // Feld2
 
 // Feld5 is compared by whom it concerns: some engines keep an empty text as Null.
-Favorit favoritVon(const Recordset& zeile)
+Favourite favouriteOf(const Recordset& row)
 {
-    return {textOderLeer(zeile, "Feld4"), textOderLeer(zeile, "Feld5")};
+    return {textOrEmpty(row, "Feld4"), textOrEmpty(row, "Feld5")};
 }
 
-using Schluessel = std::pair<std::string, std::string>;
-Schluessel schluessel(std::string_view DokuBez, std::string_view RevBez)
+using Key = std::pair<std::string, std::string>;
+Key key(std::string_view DokuBez, std::string_view RevBez)
 {
     return {sortKey(DokuBez), sortKey(RevBez)};
 }
 
-using Dateinamen = std::map<Schluessel, std::string>;
-void leseDateien(Connection& verbindung, const DokuTyp& typ, sql::AusdruckZeiger einige, Dateinamen& dateien)
+using FileNames = std::map<Key, std::string>;
+void readFiles(Connection& connection, const DocumentType& type, sql::ExpressionPointer some, FileNames& files)
 {
-    Recordset zeilen;
-    zeilen.Open(sql::Query(typ.tabelle).columns({"DokuBez", "RevBez", "filename"}).where(std::move(einige)),
-                verbindung);
-    for (; !zeilen.Eof(); zeilen.MoveNext())
-        dateien.try_emplace(schluessel(zeilen.Text("DokuBez"), zeilen.Text("RevBez")), zeilen.Text("filename"));
+    Recordset rows;
+    rows.Open(sql::Query(type.table).columns({"DokuBez", "RevBez", "filename"}).where(std::move(some)), connection);
+    for (; !rows.Eof(); rows.MoveNext())
+        files.try_emplace(key(rows.Text("DokuBez"), rows.Text("RevBez")), rows.Text("filename"));
 }
 
 } // namespace
 
-bool derselbe(const Favorit& links, const Favorit& rechts)
+bool same(const Favourite& left, const Favourite& right)
 {
-    return equalText(links.DokuBez, rechts.DokuBez) && equalText(links.RevBez, rechts.RevBez);
+    return equalText(left.DokuBez, right.DokuBez) && equalText(left.RevBez, right.RevBez);
 }
 
-std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ)
+std::vector<Favourite> readFavourites(SessionState& session, const DocumentType& type)
 {
-    IniZeilen ini(session.database.Verbindung);
-    std::vector<Favorit> favoriten;
-    for (Recordset zeilen = ini.lese(sql::Query("Ini")
-                                         .where(iniRows(session.user.Anwender, GRUPPE, typ.schluessel))
-                                         .sortedBy("Feld4")
-                                         .sortedBy("Feld5"));
-         !zeilen.Eof(); zeilen.MoveNext())
-        favoriten.push_back(favoritVon(zeilen));
-    favoriten.erase(std::unique(favoriten.begin(), favoriten.end(), derselbe), favoriten.end());
-    return favoriten;
+    IniRows ini(session.database.connection);
+    std::vector<Favourite> favourites;
+    for (Recordset rows = ini.read(sql::Query("Ini")
+                                       .where(iniRows(session.user.Anwender, GROUP, type.key))
+                                       .sortedBy("Feld4")
+                                       .sortedBy("Feld5"));
+         !rows.Eof(); rows.MoveNext())
+        favourites.push_back(favouriteOf(rows));
+    favourites.erase(std::unique(favourites.begin(), favourites.end(), same), favourites.end());
+    return favourites;
 }
 
-void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit)
+void writeFavourite(SessionState& session, const DocumentType& type, const Favourite& favourite)
 {
-    IniZeilen ini(session.database.Verbindung);
+    IniRows ini(session.database.connection);
     ini.writeAlone();
-    for (Recordset zeilen = ini.lese(sql::Query("Ini").where(
-             sql::all(iniRows(session.user.Anwender, GRUPPE, typ.schluessel), sql::equal("Feld4", favorit.DokuBez))));
-         !zeilen.Eof(); zeilen.MoveNext())
-        if (derselbe(favoritVon(zeilen), favorit))
+    for (Recordset rows = ini.read(sql::Query("Ini").where(
+             sql::all(iniRows(session.user.Anwender, GROUP, type.key), sql::equal("Feld4", favourite.DokuBez))));
+         !rows.Eof(); rows.MoveNext())
+        if (same(favouriteOf(rows), favourite))
             return;
-    ini.fuegeAn({session.user.Anwender, GRUPPE, typ.schluessel, favorit.DokuBez, favorit.RevBez});
-    ini.schliesseAb();
+    ini.append({session.user.Anwender, GROUP, type.key, favourite.DokuBez, favourite.RevBez});
+    ini.commit();
 }
 
-void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const Favorit> favoriten)
+void removeFavourites(SessionState& session, const DocumentType& type, std::span<const Favourite> favourites)
 {
-    std::vector<Schluessel> gemeint;
-    for (const Favorit& favorit : favoriten)
-        gemeint.push_back(schluessel(favorit.DokuBez, favorit.RevBez));
-    std::ranges::sort(gemeint);
+    std::vector<Key> intended;
+    for (const Favourite& favourite : favourites)
+        intended.push_back(key(favourite.DokuBez, favourite.RevBez));
+    std::ranges::sort(intended);
 
-    IniZeilen ini(session.database.Verbindung);
-    Recordset zeilen = ini.zeilen(session.user.Anwender, GRUPPE, typ.schluessel);
-    Transaktion transaktion(session.database.Verbindung);
-    while (!zeilen.Eof()) {
-        const Favorit favorit = favoritVon(zeilen);
-        if (std::ranges::binary_search(gemeint, schluessel(favorit.DokuBez, favorit.RevBez)))
-            zeilen.Delete(); // Moves to the next row.
+    IniRows ini(session.database.connection);
+    Recordset rows = ini.rows(session.user.Anwender, GROUP, type.key);
+    Transaction transaction(session.database.connection);
+    while (!rows.Eof()) {
+        const Favourite favourite = favouriteOf(rows);
+        if (std::ranges::binary_search(intended, key(favourite.DokuBez, favourite.RevBez)))
+            rows.Delete(); // Moves to the next row.
         else
-            zeilen.MoveNext();
+            rows.MoveNext();
     }
-    transaktion.schliesseAb();
+    transaction.commit();
 }
 
-std::vector<std::string> dateienVon(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten)
+std::vector<std::string> filesOf(Connection& connection, const DocumentType& type,
+                                 std::span<const Favourite> favourites)
 {
-    std::vector<sql::AusdruckZeiger> gefragte;
-    for (const Favorit& favorit : favoriten)
-        gefragte.push_back(sql::equal("DokuBez", favorit.DokuBez));
-    Dateinamen dateien;
-    for (sql::AusdruckZeiger& einige : sql::chunks(std::move(gefragte)))
-        leseDateien(verbindung, typ, std::move(einige), dateien);
-    std::vector<std::string> namen;
-    for (const Favorit& favorit : favoriten)
-        namen.push_back(dateien[schluessel(favorit.DokuBez, favorit.RevBez)]);
-    return namen;
+    std::vector<sql::ExpressionPointer> asked;
+    for (const Favourite& favourite : favourites)
+        asked.push_back(sql::equal("DokuBez", favourite.DokuBez));
+    FileNames files;
+    for (sql::ExpressionPointer& some : sql::chunks(std::move(asked)))
+        readFiles(connection, type, std::move(some), files);
+    std::vector<std::string> names;
+    for (const Favourite& favourite : favourites)
+        names.push_back(files[key(favourite.DokuBez, favourite.RevBez)]);
+    return names;
 }
 
 } // namespace quelvarn

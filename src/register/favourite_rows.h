@@ -7,24 +7,25 @@
 namespace quelvarn {
 
 class Connection;
-struct DokuTyp;
+struct DocumentType;
 struct SessionState;
 
 // A favourite as the Ini table keeps it; one revision of a document.
-struct Favorit
+struct Favourite
 {
     std::string DokuBez, RevBez;
 };
-bool derselbe(const Favorit& links, const Favorit& rechts);
+bool same(const Favourite& left, const Favourite& right);
 
 // The user's rows of this type by name, each once.
-std::vector<Favorit> leseFavoriten(SessionState& session, const DokuTyp& typ);
+std::vector<Favourite> readFavourites(SessionState& session, const DocumentType& type);
 // Unless there is such a row already.
-void schreibeFavorit(SessionState& session, const DokuTyp& typ, const Favorit& favorit);
+void writeFavourite(SessionState& session, const DocumentType& type, const Favourite& favourite);
 // All of them in one transaction.
-void loescheFavoriten(SessionState& session, const DokuTyp& typ, std::span<const Favorit> favoriten);
+void removeFavourites(SessionState& session, const DocumentType& type, std::span<const Favourite> favourites);
 
 // The files of these documents, in their order; "" for one that is not in the table. Few statements, each by an index.
-std::vector<std::string> dateienVon(Connection& verbindung, const DokuTyp& typ, std::span<const Favorit> favoriten);
+std::vector<std::string> filesOf(Connection& connection, const DocumentType& type,
+                                 std::span<const Favourite> favourites);
 
 } // namespace quelvarn

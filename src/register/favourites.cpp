@@ -16,228 +16,226 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view TITEL = "Favoriten";
+constexpr std::string_view TITLE = "Favoriten";
 
-Favorit favoritVon(const Recordset& zeile)
+Favourite favouriteOf(const Recordset& row)
 {
-    return {zeile.Text("DokuBezFavoriten"), zeile.Text("RevBezFavoriten")};
+    return {row.Text("DokuBezFavoriten"), row.Text("RevBezFavoriten")};
 }
 
-void fuegeAn(Recordset& zeilen, const Favorit& favorit, const std::string& filename)
+void append(Recordset& rows, const Favourite& favourite, const std::string& filename)
 {
-    zeilen.AddNew();
-    zeilen.setzeFeld("DokuBezFavoriten", favorit.DokuBez);
-    zeilen.setzeFeld("RevBezFavoriten", favorit.RevBez);
-    zeilen.setzeFeld("DateinameFavoriten", DateiName(filename));
-    zeilen.setzeFeld("filenameFavoriten", filename);
-    zeilen.Update();
+    rows.AddNew();
+    rows.setField("DokuBezFavoriten", favourite.DokuBez);
+    rows.setField("RevBezFavoriten", favourite.RevBez);
+    rows.setField("DateinameFavoriten", DateiName(filename));
+    rows.setField("filenameFavoriten", filename);
+    rows.Update();
 }
 
-Recordset neueListe()
+Recordset newList()
 {
-    Recordset zeilen;
-    for (const char* feld : {"DokuBezFavoriten", "RevBezFavoriten", "DateinameFavoriten", "filenameFavoriten"})
-        zeilen.FeldAnhaengen(feld, FeldTyp::Text);
-    zeilen.Open();
-    return zeilen;
+    Recordset rows;
+    for (const char* field : {"DokuBezFavoriten", "RevBezFavoriten", "DateinameFavoriten", "filenameFavoriten"})
+        rows.appendField(field, FieldType::Text);
+    rows.Open();
+    return rows;
 }
 
-std::vector<Favorit> alle(const Recordset& zeilen)
+std::vector<Favourite> all(const Recordset& rows)
 {
-    std::vector<Favorit> favoriten;
-    for (std::size_t i = 0; i < zeilen.RecordCount(); ++i)
-        favoriten.push_back(
-            {alsText(zeilen.Zelle(i, "DokuBezFavoriten")), alsText(zeilen.Zelle(i, "RevBezFavoriten"))});
-    return favoriten;
+    std::vector<Favourite> favourites;
+    for (std::size_t i = 0; i < rows.RecordCount(); ++i)
+        favourites.push_back({asText(rows.cell(i, "DokuBezFavoriten")), asText(rows.cell(i, "RevBezFavoriten"))});
+    return favourites;
 }
 
 } // namespace
 
-Favoriten::Favoriten(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
-                     Dokumentsprung& jump)
+Favourites::Favourites(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
+                       DocumentJump& jump)
     : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs), jump_(jump)
 {
     tables_.follow(*this);
 }
 
-Favoriten::Liste& Favoriten::geladen(const DokuTyp& typ)
+Favourites::List& Favourites::loaded(const DocumentType& type)
 {
-    Liste& liste = listen_[static_cast<std::size_t>(typ.tab)];
-    if (!liste.FavoritenGeladen)
-        FavoritLaden(typ, liste);
-    return liste;
+    List& list = lists_[static_cast<std::size_t>(type.tab)];
+    if (!list.FavoritenGeladen)
+        FavoritLaden(type, list);
+    return list;
 }
 
-const DokuTyp& Favoriten::typ() const
+const DocumentType& Favourites::type() const
 {
-    return DOKUTYPEN[static_cast<std::size_t>(tables_.tab())];
+    return DOCUMENT_TYPES[static_cast<std::size_t>(tables_.tab())];
 }
 
-Favoriten::Liste& Favoriten::aktuelle()
+Favourites::List& Favourites::current()
 {
-    return listen_[static_cast<std::size_t>(tables_.tab())];
+    return lists_[static_cast<std::size_t>(tables_.tab())];
 }
 
 // Without their files the favourites stand all the same, and are read again next time.
-void Favoriten::FavoritLaden(const DokuTyp& typ, Liste& liste)
+void Favourites::FavoritLaden(const DocumentType& type, List& list)
 {
-    const std::vector<Favorit> favoriten = leseFavoriten(session_, typ);
-    std::vector<std::string> dateien(favoriten.size());
-    liste.FavoritenGeladen = gesichert(ports_.meldungen, "Modul: Ermitteln filename für DokuBez und RevBez",
-                                       "Fehler beim Ermitteln filename für DokuBez und RevBez!",
-                                       [&] { dateien = dateienVon(session_.database.Verbindung, typ, favoriten); });
-    liste.zeilen = neueListe();
-    for (std::size_t i = 0; i < favoriten.size(); ++i)
-        fuegeAn(liste.zeilen, favoriten[i], dateien[i]);
-    if (!liste.zeilen.leer())
-        liste.zeilen.MoveFirst();
-    ++fassung_;
+    const std::vector<Favourite> favourites = readFavourites(session_, type);
+    std::vector<std::string> files(favourites.size());
+    list.FavoritenGeladen = guarded(ports_.boxes, "Modul: Ermitteln filename für DokuBez und RevBez",
+                                    "Fehler beim Ermitteln filename für DokuBez und RevBez!",
+                                    [&] { files = filesOf(session_.database.connection, type, favourites); });
+    list.rows = newList();
+    for (std::size_t i = 0; i < favourites.size(); ++i)
+        append(list.rows, favourites[i], files[i]);
+    if (!list.rows.empty())
+        list.rows.MoveFirst();
+    ++generation_;
 }
 
-void Favoriten::FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view schluessel,
-                                   const std::string& filename)
+void Favourites::FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view key,
+                                    const std::string& filename)
 {
-    const auto dokuTyp = std::ranges::find(DOKUTYPEN, schluessel, &DokuTyp::schluessel);
-    assert(dokuTyp != DOKUTYPEN.end());
-    const Favorit favorit{DokuBez, RevBez};
-    Liste& liste = geladen(*dokuTyp);
-    for (const Favorit& vorhanden : alle(liste.zeilen))
-        if (derselbe(vorhanden, favorit))
+    const auto documentType = std::ranges::find(DOCUMENT_TYPES, key, &DocumentType::key);
+    assert(documentType != DOCUMENT_TYPES.end());
+    const Favourite favourite{DokuBez, RevBez};
+    List& list = loaded(*documentType);
+    for (const Favourite& exists : all(list.rows))
+        if (same(exists, favourite))
             return;
-    schreibeFavorit(session_, *dokuTyp, favorit);
-    fuegeAn(liste.zeilen, favorit, filename);
-    ++fassung_;
+    writeFavourite(session_, *documentType, favourite);
+    append(list.rows, favourite, filename);
+    ++generation_;
     operations_.changed(Part::TopBar);
 }
 
-void Favoriten::zuFavoriten()
+void Favourites::toFavourites()
 {
     perform("Fehler beim Hinzufügen zu den Favoriten!", [&] {
         const DocumentTable& table = tables_.current();
         if (table.hasRows())
-            FavoritHinzufuegen(table.record().DokuBez, table.record().RevBez, typ().schluessel,
-                               table.record().filename);
+            FavoritHinzufuegen(table.record().DokuBez, table.record().RevBez, type().key, table.record().filename);
     });
 }
 
-void Favoriten::FavoritenZeigen(bool an)
+void Favourites::FavoritenZeigen(bool on)
 {
-    zeigtFavoriten_ = false;
-    verwaltung_ = false;
+    showsFavourites_ = false;
+    management_ = false;
     perform("Fehler beim Anzeigen der Favoriten!", [&] {
-        if (!an)
+        if (!on)
             return;
-        geladen(typ());
-        zeigtFavoriten_ = true;
+        loaded(type());
+        showsFavourites_ = true;
     });
 }
 
-void Favoriten::FavoritAuswaehlen(std::size_t position)
+void Favourites::FavoritAuswaehlen(std::size_t position)
 {
     perform("Fehler beim Suchen des Favoriten!", [&] {
-        if (stelleAuf(position))
-            wechsleZuFavorit();
+        if (moveTo(position))
+            switchToFavourite();
     });
 }
 
-void Favoriten::zeileGewechselt(std::size_t position)
+void Favourites::rowChanged(std::size_t position)
 {
-    if (!verwaltung_)
+    if (!management_)
         return FavoritAuswaehlen(position);
-    stelleAuf(position);
+    moveTo(position);
     operations_.changed(Part::TopBar);
 }
 
-bool Favoriten::stelleAuf(std::size_t position)
+bool Favourites::moveTo(std::size_t position)
 {
-    Recordset& zeilen = aktuelle().zeilen;
-    if (!zeilen.offen() || position >= zeilen.RecordCount())
+    Recordset& rows = current().rows;
+    if (!rows.open() || position >= rows.RecordCount())
         return false;
-    zeilen.setzeAbsolutePosition(position);
+    rows.setAbsolutePosition(position);
     return true;
 }
 
-void Favoriten::wechsleZuFavorit()
+void Favourites::switchToFavourite()
 {
-    const Recordset& zeile = aktuelle().zeilen;
-    const Favorit favorit = favoritVon(zeile);
-    const Merkzeile gesucht{favorit.DokuBez, favorit.RevBez, zeile.Text("filenameFavoriten")};
+    const Recordset& row = current().rows;
+    const Favourite favourite = favouriteOf(row);
+    const RowMemory sought{favourite.DokuBez, favourite.RevBez, row.Text("filenameFavoriten")};
     if (tables_.current().isFiltered())
-        jump_.frageNachFilter(typ(), HINWEIS_DOKUMENT);
-    if (stelleAufDokument(tables_.current().visible(), gesucht))
+        jump_.askAfterFilter(type(), HINT_DOCUMENT);
+    if (moveToDocument(tables_.current().visible(), sought))
         return tabs_.followRow();
-    ports_.meldungen.warnung(TITEL, zeilen({
-                                        "Datei ist in der Tabelle nicht vorhanden!",
-                                        "es ist ein <Neuaufbau> erforderlich.",
-                                        "oder",
-                                        "Sie haben keine Zugriffsberechtigung!",
-                                        "oder",
-                                        "Tabelle ist gefiltert!",
-                                    }));
+    ports_.boxes.warn(TITLE, lines({
+                                 "Datei ist in der Tabelle nicht vorhanden!",
+                                 "es ist ein <Neuaufbau> erforderlich.",
+                                 "oder",
+                                 "Sie haben keine Zugriffsberechtigung!",
+                                 "oder",
+                                 "Tabelle ist gefiltert!",
+                             }));
 }
 
-void Favoriten::oeffneVerwaltung()
+void Favourites::openManagement()
 {
-    verwaltung_ = zeigtFavoriten_;
+    management_ = showsFavourites_;
     operations_.changed(Part::TopBar);
 }
 
-void Favoriten::verlasseVerwaltung()
+void Favourites::leaveManagement()
 {
-    verwaltung_ = false;
+    management_ = false;
     operations_.changed(Part::TopBar);
 }
 
-void Favoriten::FavoritLoeschen()
+void Favourites::FavoritLoeschen()
 {
     perform("Fehler beim Löschen des Favoriten!", [&] {
-        Recordset& zeilen = aktuelle().zeilen;
-        if (!zeilen.offen() || zeilen.Eof() || zeilen.Bof())
+        Recordset& rows = current().rows;
+        if (!rows.open() || rows.Eof() || rows.Bof())
             return;
-        const std::array favorit{favoritVon(zeilen)};
-        loescheFavoriten(session_, typ(), favorit);
-        zeilen.Delete();
-        if (zeilen.Eof() && !zeilen.leer())
-            zeilen.MoveLast();
-        ++fassung_;
+        const std::array favourite{favouriteOf(rows)};
+        removeFavourites(session_, type(), favourite);
+        rows.Delete();
+        if (rows.Eof() && !rows.empty())
+            rows.MoveLast();
+        ++generation_;
     });
 }
 
-void Favoriten::AlleFavoritenLoeschen()
+void Favourites::AlleFavoritenLoeschen()
 {
     perform("Fehler beim Löschen der Favoriten!", [&] {
-        Recordset& zeilen = aktuelle().zeilen;
-        if (!zeilen.offen())
+        Recordset& rows = current().rows;
+        if (!rows.open())
             return;
-        loescheFavoriten(session_, typ(), alle(zeilen));
-        zeilen = neueListe();
-        ++fassung_;
+        removeFavourites(session_, type(), all(rows));
+        rows = newList();
+        ++generation_;
     });
 }
 
-void Favoriten::tabChanged()
+void Favourites::tabChanged()
 {
-    zeigtFavoriten_ = false;
-    verwaltung_ = false;
+    showsFavourites_ = false;
+    management_ = false;
 }
 
-void Favoriten::datenbankWechselt()
+void Favourites::databaseChanges()
 {
-    listen_ = {};
-    ++fassung_;
+    lists_ = {};
+    ++generation_;
     tabChanged();
     operations_.changed(Part::TopBar);
 }
 
-const Recordset* Favoriten::liste() const
+const Recordset* Favourites::list() const
 {
-    const Recordset& zeilen = listen_[static_cast<std::size_t>(tables_.tab())].zeilen;
-    return zeilen.offen() ? &zeilen : nullptr;
+    const Recordset& rows = lists_[static_cast<std::size_t>(tables_.tab())].rows;
+    return rows.open() ? &rows : nullptr;
 }
 
-void Favoriten::perform(std::string_view text, const std::function<void()>& operation)
+void Favourites::perform(std::string_view text, const std::function<void()>& operation)
 {
-    operations_.perform(Part::TopBar, TITEL, text, operation);
+    operations_.perform(Part::TopBar, TITLE, text, operation);
 }
 
 } // namespace quelvarn

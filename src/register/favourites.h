@@ -15,60 +15,60 @@
 namespace quelvarn {
 
 class DocumentTables;
-class Dokumentsprung;
+class DocumentJump;
 class TableTabs;
 struct SessionState;
 
 // The user's favourite documents of each type, and their list over the tables (FrmFavoriten). Follows the frame once it
 // is registered there.
-class Favoriten : public Rahmenteilnehmer, public TableFollower
+class Favourites : public SessionListener, public TableFollower
 {
 public:
-    Favoriten(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
-              Dokumentsprung& jump);
+    Favourites(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
+               DocumentJump& jump);
 
     // --- operations, one for each thing a person can do ---
-    void FavoritenZeigen(bool an);
-    void zuFavoriten(); // The document shown.
+    void FavoritenZeigen(bool on);
+    void toFavourites(); // The document shown.
     // A row was clicked; one that only became current moves no table while favourites are tidied up.
     void FavoritAuswaehlen(std::size_t position);
-    void zeileGewechselt(std::size_t position);
-    void oeffneVerwaltung();   // "Verwalten.....": TBarFavVerwalten comes up.
-    void verlasseVerwaltung(); // "Verlassen"
-    void FavoritLoeschen();    // The current row of the list.
+    void rowChanged(std::size_t position);
+    void openManagement();  // "Verwalten.....": TBarFavVerwalten comes up.
+    void leaveManagement(); // "Verlassen"
+    void FavoritLoeschen(); // The current row of the list.
     void AlleFavoritenLoeschen();
 
     // --- for other pages; faults pass through ---
-    // `schluessel` is that of a document type ("SheetM"). A document that is a favourite already is passed over in
+    // `key` is that of a document type ("SheetM"). A document that is a favourite already is passed over in
     // silence.
-    void FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view schluessel,
+    void FavoritHinzufuegen(const std::string& DokuBez, const std::string& RevBez, std::string_view key,
                             const std::string& filename);
     void tabChanged() override;
 
     // --- what the frame tells ---
-    void datenbankWechselt() override;
+    void databaseChanges() override;
 
     // --- state ---
-    bool zeigtFavoriten() const { return zeigtFavoriten_; }
-    bool verwaltung() const { return verwaltung_; }
+    bool showsFavourites() const { return showsFavourites_; }
+    bool management() const { return management_; }
     // The favourites of the tab shown, with the fields of DGFavoriten; nullptr while they are not loaded.
-    const Recordset* liste() const;
-    bool hatZeilen() const { return liste() && liste()->RecordCount() > 0; }
-    unsigned fassung() const { return fassung_; } // Rises with every change of the rows.
+    const Recordset* list() const;
+    bool hasRows() const { return list() && list()->RecordCount() > 0; }
+    unsigned generation() const { return generation_; } // Rises with every change of the rows.
 
 private:
-    struct Liste
+    struct List
     {
-        Recordset zeilen;
+        Recordset rows;
         bool FavoritenGeladen = false;
     };
 
-    Liste& geladen(const DokuTyp& typ);
-    void FavoritLaden(const DokuTyp& typ, Liste& liste);
-    Liste& aktuelle();
-    const DokuTyp& typ() const;
-    bool stelleAuf(std::size_t position);
-    void wechsleZuFavorit();
+    List& loaded(const DocumentType& type);
+    void FavoritLaden(const DocumentType& type, List& list);
+    List& current();
+    const DocumentType& type() const;
+    bool moveTo(std::size_t position);
+    void switchToFavourite();
     void perform(std::string_view text, const std::function<void()>& operation);
 
     SessionState& session_;
@@ -76,11 +76,11 @@ private:
     Ports& ports_;
     DocumentTables& tables_;
     TableTabs& tabs_;
-    Dokumentsprung& jump_;
-    std::array<Liste, ANZAHL_DOKUTYPEN> listen_;
-    bool zeigtFavoriten_ = false;
-    bool verwaltung_ = false;
-    unsigned fassung_ = 0;
+    DocumentJump& jump_;
+    std::array<List, DOCUMENT_TYPE_COUNT> lists_;
+    bool showsFavourites_ = false;
+    bool management_ = false;
+    unsigned generation_ = 0;
 };
 
 } // namespace quelvarn

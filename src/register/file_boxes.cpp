@@ -5,19 +5,19 @@
 
 namespace quelvarn {
 
-void meldeDateiFehlt(Meldungen& meldungen, std::string_view pfad, std::string_view rat)
+void tellFileMissing(Boxes& boxes, std::string_view documentPath, std::string_view rat)
 {
-    std::string text = zeilen({
+    std::string text = lines({
         "Die Datei",
-        pfad,
+        documentPath,
         "ist im Verzeichnis nicht vorhanden!",
         "Mögliche Ursache:",
         "- Falscher Pfad- und/oder Dateiname.",
         "- Datei wurde im Verzeichnis gelöscht.",
     });
     if (!rat.empty())
-        text = zeilen({text, rat});
-    meldungen.warnung(NICHT_IM_VERZEICHNIS, text);
+        text = lines({text, rat});
+    boxes.warn(NOT_IN_DIRECTORY, text);
 }
 
 } // namespace quelvarn

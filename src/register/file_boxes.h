@@ -4,11 +4,11 @@
 
 namespace quelvarn {
 
-class Meldungen;
+class Boxes;
 
-inline constexpr std::string_view NICHT_IM_VERZEICHNIS = "Im Verzeichnis nicht vorhanden";
+inline constexpr std::string_view NOT_IN_DIRECTORY = "Im Verzeichnis nicht vorhanden";
 
 // With a last line of advice, if any.
-void meldeDateiFehlt(Meldungen& meldungen, std::string_view pfad, std::string_view rat = {});
+void tellFileMissing(Boxes& boxes, std::string_view documentPath, std::string_view rat = {});
 
 } // namespace quelvarn

@@ -8,33 +8,33 @@
 
 namespace quelvarn {
 
-DateiSeite dateiSeite(const DateiInfo& info)
+FileProperties fileProperties(const FileInfo& info)
 {
-    DateiSeite seite;
-    seite.vorhanden = info.vorhanden;
-    if (!info.vorhanden)
-        return seite;
-    seite.schreibgeschuetzt = info.attribute.schreibgeschuetzt;
-    seite.archiv = info.attribute.archiv;
-    seite.Name = info.Name;
-    seite.Ordner = info.Ordner;
-    seite.Groesse = formatGanzzahl(info.attribute.groesse) + " Bytes";
-    seite.Erstellt = alsText(info.attribute.erstellt);
-    seite.Geaendert = alsText(info.attribute.geaendert);
-    seite.Zugriff = alsText(info.attribute.zugriff);
-    return seite;
+    FileProperties page;
+    page.exists = info.exists;
+    if (!info.exists)
+        return page;
+    page.readOnly = info.attribute.readOnly;
+    page.archive = info.attribute.archive;
+    page.name = info.Name;
+    page.folder = info.Ordner;
+    page.size = formatInteger(info.attribute.size) + " Bytes";
+    page.created = asText(info.attribute.created);
+    page.changed = asText(info.attribute.changed);
+    page.accessed = asText(info.attribute.access);
+    return page;
 }
 
 namespace {
 
-bool mitDateiBox(Meldungen& meldungen, const std::function<void()>& operation)
+bool withFileBox(Boxes& boxes, const std::function<void()>& operation)
 {
-    const std::string text = zeilen({
+    const std::string text = lines({
         "Fehler beim Lesen der Dateieigenschaften!",
         "Mögliche Ursache:",
         "Datei ist nicht vorhanden.",
     });
-    return gesichert(meldungen, "Dateieigenschaften", text, operation);
+    return guarded(boxes, "Dateieigenschaften", text, operation);
 }
 
 } // namespace
@@ -42,29 +42,29 @@ bool mitDateiBox(Meldungen& meldungen, const std::function<void()>& operation)
 void FilePage::read(const std::string& filename)
 {
     session_.Dateiinfo = {};
-    mitDateiBox(ports_.meldungen, [&] { session_.Dateiinfo = LeseDateiinfo(filename, ports_); });
-    shown_ = dateiSeite(session_.Dateiinfo);
+    withFileBox(ports_.boxes, [&] { session_.Dateiinfo = LeseDateiinfo(filename, ports_); });
+    shown_ = fileProperties(session_.Dateiinfo);
 }
 
-void FilePage::setAttribute(bool on, void (Dateien::*set)(std::string_view, bool), bool Dateiattribute::*attribute)
+void FilePage::setAttribute(bool on, void (Files::*set)(std::string_view, bool), bool FileAttributes::*attribute)
 {
     const std::string filename = session_.AktDoku.filename;
-    mitDateiBox(ports_.meldungen, [&] {
-        const auto attributes = ports_.dateien.attribute(filename);
+    withFileBox(ports_.boxes, [&] {
+        const auto attributes = ports_.files.attribute(filename);
         if (attributes && (*attributes).*attribute != on)
-            (ports_.dateien.*set)(filename, on);
+            (ports_.files.*set)(filename, on);
     });
     read(filename);
 }
 
 void FilePage::setReadOnly(bool on)
 {
-    setAttribute(on, &Dateien::setzeSchreibschutz, &Dateiattribute::schreibgeschuetzt);
+    setAttribute(on, &Files::setReadOnly, &FileAttributes::readOnly);
 }
 
 void FilePage::setArchive(bool on)
 {
-    setAttribute(on, &Dateien::setzeArchiv, &Dateiattribute::archiv);
+    setAttribute(on, &Files::setArchive, &FileAttributes::archive);
 }
 
 void FilePage::clear()

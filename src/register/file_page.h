@@ -22,14 +22,14 @@ public:
     void setArchive(bool on);
     void clear();
 
-    const DateiSeite& shown() const { return shown_; }
+    const FileProperties& shown() const { return shown_; }
 
 private:
-    void setAttribute(bool on, void (Dateien::*set)(std::string_view, bool), bool Dateiattribute::*attribute);
+    void setAttribute(bool on, void (Files::*set)(std::string_view, bool), bool FileAttributes::*attribute);
 
     SessionState& session_;
     Ports& ports_;
-    DateiSeite shown_;
+    FileProperties shown_;
 };
 
 } // namespace quelvarn

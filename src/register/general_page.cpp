@@ -9,79 +9,79 @@
 namespace quelvarn {
 namespace {
 
-bool istBekannt(int status)
+bool isKnown(int status)
 {
-    return status >= 0 && status < ANZAHL_STATUS;
+    return status >= 0 && status < STATUS_COUNT;
 }
 
-std::string datumOderLeer(Zeitpunkt datum)
+std::string dateOrEmpty(DateTime date)
 {
-    return datum == Zeitpunkt{} ? std::string() : formatDatum(datum);
+    return date == DateTime{} ? std::string() : formatDate(date);
 }
 
-std::string yesNo(const DocumentFacts& facts, InfoSeite relation)
+std::string yesNo(const DocumentFacts& facts, InfoPageId relation)
 {
     if (!facts.relationsAsked)
         return {};
     return facts.has(relation) ? "Ja" : "Nein";
 }
 
-void fuelleVerwendung(AllgemeineSeite& seite, const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& typ)
+void fillRelation(GeneralPage& page, const DokuRecord& record, const DocumentFacts& facts, const DocumentType& type)
 {
-    const bool zeichnung = typ.schluessel == "Draft";
-    seite.kopf39 = zeichnung ? "Modell:" : "Zeichnung:";
-    seite.wert40 = yesNo(facts, zeichnung ? InfoSeite::Enthaelt : InfoSeite::InZeichnung);
-    if (!zeichnung) {
-        seite.kopf8 = "Eingebaut:";
-        seite.wert9 = yesNo(facts, InfoSeite::InBaugruppe);
+    const bool drawing = type.key == "Draft";
+    page.heading39 = drawing ? "Modell:" : "Zeichnung:";
+    page.value40 = yesNo(facts, drawing ? InfoPageId::Contains : InfoPageId::InDrawing);
+    if (!drawing) {
+        page.heading8 = "Eingebaut:";
+        page.value9 = yesNo(facts, InfoPageId::InAssembly);
     } else if (!record.F_05_leer.empty()) {
-        seite.kopf8 = "Format:";
-        seite.wert9 = record.F_05_leer;
+        page.heading8 = "Format:";
+        page.value9 = record.F_05_leer;
     }
 }
 
 } // namespace
 
-AllgemeineSeite allgemeineSeite(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& typ,
-                                bool verwendung, bool dateiVorhanden)
+GeneralPage generalPage(const DokuRecord& record, const DocumentFacts& facts, const DocumentType& type, bool relation,
+                        bool fileExists)
 {
-    AllgemeineSeite seite;
-    seite.leer = false;
-    seite.DokuBez = record.DokuBez;
-    seite.RevBez = record.RevBez;
-    seite.Dateiname = record.Dateiname;
-    seite.filename = record.filename;
-    seite.Status = std::to_string(record.Status);
-    if (istBekannt(record.Status)) {
-        seite.StatusName = STATUS[record.Status].inKlammer;
-        seite.statusfarbe = STATUS[record.Status].farbe;
+    GeneralPage page;
+    page.empty = false;
+    page.DokuBez = record.DokuBez;
+    page.RevBez = record.RevBez;
+    page.Dateiname = record.Dateiname;
+    page.filename = record.filename;
+    page.Status = std::to_string(record.Status);
+    if (isKnown(record.Status)) {
+        page.StatusName = STATUS[record.Status].inBracket;
+        page.statusColour = STATUS[record.Status].colour;
     }
-    seite.Titel = record.Titel;
-    seite.Thema = record.Thema;
-    seite.Projekt = record.Projekt;
-    seite.Material = record.Material;
-    seite.Firma = record.Firma;
-    seite.Kategorie = record.Kategorie;
-    seite.Manager = record.Manager;
-    seite.Geaendert = datumOderLeer(record.Geaendert);
-    seite.Bearbeiter = record.Bearbeiter;
-    seite.Erstellt = datumOderLeer(record.Erstellt);
-    seite.Autor = record.Autor;
-    if (verwendung)
-        fuelleVerwendung(seite, record, facts, typ);
-    seite.nichtVorhanden = !dateiVorhanden;
-    seite.neuereRevision = facts.newerRevision;
-    return seite;
+    page.Titel = record.Titel;
+    page.Thema = record.Thema;
+    page.Projekt = record.Projekt;
+    page.Material = record.Material;
+    page.Firma = record.Firma;
+    page.Kategorie = record.Kategorie;
+    page.Manager = record.Manager;
+    page.Geaendert = dateOrEmpty(record.Geaendert);
+    page.Bearbeiter = record.Bearbeiter;
+    page.Erstellt = dateOrEmpty(record.Erstellt);
+    page.Autor = record.Autor;
+    if (relation)
+        fillRelation(page, record, facts, type);
+    page.missing = !fileExists;
+    page.newerRevision = facts.newerRevision;
+    return page;
 }
 
-Statuskopf statuskopf(const DokuRecord& record, const std::string& anwender, unsigned bisherigeFarbe)
+StatusHeading statusHeading(const DokuRecord& record, const std::string& user, unsigned previousColour)
 {
-    Statuskopf kopf;
-    kopf.farbe = istBekannt(record.Status) ? STATUS[record.Status].farbe : bisherigeFarbe;
-    kopf.breit = record.Status == 1 && !equalText(record.Bearbeiter, anwender);
-    kopf.text =
-        kopf.breit ? fmt::format("<{}> 'In Arbeit'", record.Bearbeiter) : fmt::format("{} Status ", record.Status);
-    return kopf;
+    StatusHeading heading;
+    heading.colour = isKnown(record.Status) ? STATUS[record.Status].colour : previousColour;
+    heading.wide = record.Status == 1 && !equalText(record.Bearbeiter, user);
+    heading.text =
+        heading.wide ? fmt::format("<{}> 'In Arbeit'", record.Bearbeiter) : fmt::format("{} Status ", record.Status);
+    return heading;
 }
 
 } // namespace quelvarn

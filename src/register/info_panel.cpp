@@ -21,45 +21,45 @@ namespace quelvarn {
 namespace {
 
 // The pages that a row change may keep, by their index in SeitenMerker.
-constexpr std::array MERKSEITEN{InfoSeite::Datei,     InfoSeite::Hauptmerkmale, InfoSeite::BenutzDef,
-                                InfoSeite::StichKomm, InfoSeite::ZusDoku,       InfoSeite::SendTo};
-constexpr int BLEIBT = 2; // Only this mark brings the page up again; any other is forgotten.
+constexpr std::array KEPT_PAGES{InfoPageId::File,      InfoPageId::StructureFeatures, InfoPageId::UserDefined,
+                                InfoPageId::StichKomm, InfoPageId::ZusDoku,           InfoPageId::SendTo};
+constexpr int STAYS = 2; // Only this mark brings the page up again; any other is forgotten.
 
-struct Knotenseite
+struct NodePage
 {
     std::string_view text;
-    InfoSeite seite;
-    bool beendetViewer = false; // The next row shows its general page again instead of the viewer.
+    InfoPageId page;
+    bool endsViewer = false; // The next row shows its general page again instead of the viewer.
 };
 
-constexpr std::array KNOTENSEITEN{
-    Knotenseite{knoten::DATEI, InfoSeite::Datei, true},
-    Knotenseite{knoten::HAUPTMERKMALE, InfoSeite::Hauptmerkmale, true},
-    Knotenseite{knoten::BENUTZDEF, InfoSeite::BenutzDef},
-    Knotenseite{knoten::STICHKOMM, InfoSeite::StichKomm},
-    Knotenseite{knoten::ZUSDOKU, InfoSeite::ZusDoku},
-    Knotenseite{knoten::VERSENDET, InfoSeite::SendTo},
-    Knotenseite{knoten::REVISION, InfoSeite::Revisionen},
-    Knotenseite{knoten::TIFF, InfoSeite::Tiff},
-    Knotenseite{knoten::IN_BAUGRUPPE, InfoSeite::InBaugruppe},
-    Knotenseite{knoten::IN_ZEICHNUNG, InfoSeite::InZeichnung},
-    Knotenseite{knoten::IN_SCHWEISSTEIL, InfoSeite::InSchweissteil},
-    Knotenseite{knoten::BESTEHT_AUS, InfoSeite::BestehtAus},
-    Knotenseite{knoten::ENTHAELT, InfoSeite::Enthaelt},
-    Knotenseite{knoten::ENTHAELT_BAUGRUPPE, InfoSeite::EnthaeltBaugruppe},
+constexpr std::array NODE_PAGES{
+    NodePage{nodes::FILE, InfoPageId::File, true},
+    NodePage{nodes::STRUCTURE_FEATURES, InfoPageId::StructureFeatures, true},
+    NodePage{nodes::USER_DEFINED, InfoPageId::UserDefined},
+    NodePage{nodes::KEYWORDS, InfoPageId::StichKomm},
+    NodePage{nodes::ZUSDOKU, InfoPageId::ZusDoku},
+    NodePage{nodes::SENT, InfoPageId::SendTo},
+    NodePage{nodes::REVISION, InfoPageId::Revisions},
+    NodePage{nodes::TIFF, InfoPageId::Tiff},
+    NodePage{nodes::IN_ASSEMBLY, InfoPageId::InAssembly},
+    NodePage{nodes::IN_DRAWING, InfoPageId::InDrawing},
+    NodePage{nodes::IN_WELDMENT, InfoPageId::InWeldment},
+    NodePage{nodes::CONSISTS_OF, InfoPageId::ConsistsOf},
+    NodePage{nodes::CONTAINS, InfoPageId::Contains},
+    NodePage{nodes::CONTAINS_ASSEMBLY, InfoPageId::ContainsAssembly},
 };
 
 // Intended: from row to row parts keep the key words, all other tables the file properties, and nothing else is kept.
-int merkwert(int tab, InfoSeite seite)
+int keepMark(int tab, InfoPageId page)
 {
-    const InfoSeite bleibende = DOKUTYPEN[tab].schluessel == "Part" ? InfoSeite::StichKomm : InfoSeite::Datei;
-    return seite == bleibende ? BLEIBT : 1;
+    const InfoPageId kept = DOCUMENT_TYPES[tab].key == "Part" ? InfoPageId::StichKomm : InfoPageId::File;
+    return page == kept ? STAYS : 1;
 }
 
 } // namespace
 
 InfoPanel::InfoPanel(SessionState& session, Operations& operations, DocumentTables& tables, TreePanel& tree,
-                     ViewerArea& viewer, DocumentPanels& panels, GezeigteDateien& files)
+                     ViewerArea& viewer, DocumentPanels& panels, ShownFiles& files)
     : session_(session), operations_(operations), tables_(tables), tree_(tree), viewer_(viewer), panels_(panels),
       files_(files), file_(session, operations.ports()), details_(session, operations),
       relation_(session, operations, tables, panels, files)
@@ -67,31 +67,31 @@ InfoPanel::InfoPanel(SessionState& session, Operations& operations, DocumentTabl
 
 std::string InfoPanel::heading() const
 {
-    return "  Eigenschaften " + session_.einzahl(tables_.tab());
+    return "  Eigenschaften " + session_.singular(tables_.tab());
 }
 
 void InfoPanel::chooseNode(std::string_view text)
 {
-    if (!tree_.tree().finde(text))
+    if (!tree_.tree().find(text))
         return;
     operations_.perform(Part::Document, "Eigenschaften des Dokuments", "Fehler beim Anzeigen der Eigenschaften!", [&] {
         tree_.select(text);
-        if (text == knoten::EIGENSCHAFTEN)
+        if (text == nodes::PROPERTIES)
             return showProperties();
-        if (text == knoten::SMARTVIEWER) {
+        if (text == nodes::SMARTVIEWER) {
             if (!showViewer())
                 showProperties();
             return;
         }
-        if (text == knoten::PDF)
+        if (text == nodes::PDF)
             return openPdf();
-        const auto page = std::ranges::find(KNOTENSEITEN, text, &Knotenseite::text);
-        if (text == knoten::DATEI)
+        const auto page = std::ranges::find(NODE_PAGES, text, &NodePage::text);
+        if (text == nodes::FILE)
             readFile();
-        keepPage(page->seite);
-        if (page->beendetViewer)
+        keepPage(page->page);
+        if (page->endsViewer)
             SeitenModus_ = 1;
-        showPage(page->seite);
+        showPage(page->page);
     });
 }
 
@@ -124,7 +124,7 @@ void InfoPanel::showRow()
     panels_.showDocument(record);
     fillGeneralPage(); // Also beside the viewer: its warnings stand over every page.
     if (SeitenModus_ == 2 && showViewer())
-        return tree_.select(knoten::SMARTVIEWER);
+        return tree_.select(nodes::SMARTVIEWER);
     SeitenModus_ = 1;
     showGeneralOrKept();
 }
@@ -132,25 +132,25 @@ void InfoPanel::showRow()
 void InfoPanel::clear()
 {
     SeitenModus_ = 1;
-    showPage(InfoSeite::Keine);
+    showPage(InfoPageId::None);
     general_ = {};
     file_.clear();
     keywords_ = {};
-    details_.leere();
+    details_.clear();
 }
 
-void InfoPanel::keepPage(InfoSeite page)
+void InfoPanel::keepPage(InfoPageId page)
 {
-    const auto place = std::ranges::find(MERKSEITEN, page);
-    if (!session_.Tree.Knoten || place == MERKSEITEN.end())
+    const auto place = std::ranges::find(KEPT_PAGES, page);
+    if (!session_.Tree.Node || place == KEPT_PAGES.end())
         return;
     keptPage_.fill(0);
-    keptPage_[static_cast<std::size_t>(place - MERKSEITEN.begin())] = merkwert(tables_.tab(), page);
+    keptPage_[static_cast<std::size_t>(place - KEPT_PAGES.begin())] = keepMark(tables_.tab(), page);
 }
 
 void InfoPanel::showProperties()
 {
-    tree_.select(knoten::EIGENSCHAFTEN); // Also in place of a viewer that could not show the file.
+    tree_.select(nodes::PROPERTIES); // Also in place of a viewer that could not show the file.
     forgetKeptPage();
     SeitenModus_ = 1;
     fillGeneralPage();
@@ -160,43 +160,43 @@ void InfoPanel::showProperties()
 void InfoPanel::fillGeneralPage()
 {
     const DocumentTable& table = tables_.current();
-    const bool fileExists = session_.Tree.Knoten ? session_.Dateiinfo.vorhanden
-                                                 : operations_.ports().dateien.dateiVorhanden(table.record().filename);
-    general_ = allgemeineSeite(table.record(), tree_.facts(), table.type(), session_.Tree.Verwendung, fileExists);
+    const bool fileExists =
+        session_.Tree.Node ? session_.Dateiinfo.exists : operations_.ports().files.fileExists(table.record().filename);
+    general_ = generalPage(table.record(), tree_.facts(), table.type(), session_.Tree.Verwendung, fileExists);
 }
 
 void InfoPanel::showGeneralOrKept()
 {
-    const auto place = std::ranges::find(keptPage_, BLEIBT);
-    if (!session_.Tree.Knoten || place == keptPage_.end())
-        return showPage(InfoSeite::Allgemein);
-    const InfoSeite kept = MERKSEITEN[static_cast<std::size_t>(place - keptPage_.begin())];
-    tree_.select(std::ranges::find(KNOTENSEITEN, kept, &Knotenseite::seite)->text);
+    const auto place = std::ranges::find(keptPage_, STAYS);
+    if (!session_.Tree.Node || place == keptPage_.end())
+        return showPage(InfoPageId::General);
+    const InfoPageId kept = KEPT_PAGES[static_cast<std::size_t>(place - keptPage_.begin())];
+    tree_.select(std::ranges::find(NODE_PAGES, kept, &NodePage::page)->text);
     showPage(kept);
 }
 
 // A viewer behind another page would hold its file for nothing.
-void InfoPanel::showPage(InfoSeite page)
+void InfoPanel::showPage(InfoPageId page)
 {
     const DocumentTable& table = tables_.current();
-    if (page_ == InfoSeite::Viewer && page != InfoSeite::Viewer)
-        files_.leere(Ansicht::Eigenschaften);
-    if (relation_.art()) { // Below stands the document of its current row.
-        relation_.leere();
+    if (page_ == InfoPageId::Viewer && page != InfoPageId::Viewer)
+        files_.clear(ViewerPlace::Properties);
+    if (relation_.kind()) { // Below stands the document of its current row.
+        relation_.clear();
         panels_.showDocument(table.record());
     }
     page_ = page;
-    if (const Verwendungsart* kind = findVerwendungsart(page))
-        relation_.fuelle(*kind);
-    details_.fuelle(page, table.type(), table.record());
+    if (const RelationKind* kind = findRelationKind(page))
+        relation_.fill(*kind);
+    details_.fill(page, table.type(), table.record());
 }
 
 bool InfoPanel::showViewer()
 {
-    if (!showOrTell(files_, operations_.ports().meldungen, Ansicht::Eigenschaften, tables_.current().record().filename))
+    if (!showOrTell(files_, operations_.ports().boxes, ViewerPlace::Properties, tables_.current().record().filename))
         return false;
     SeitenModus_ = 2;
-    showPage(InfoSeite::Viewer);
+    showPage(InfoPageId::Viewer);
     return true;
 }
 
@@ -204,11 +204,11 @@ void InfoPanel::openPdf()
 {
     Ports& ports = operations_.ports();
     const DokuRecord& record = tables_.current().record();
-    const std::string path = mitEndung(record.filename, "pdf");
-    if (findPdf(ports.dateien, record).empty())
-        meldeDateiFehlt(ports.meldungen, path);
-    else if (!ports.standardanwendung.oeffne(path))
-        ports.meldungen.warnung(std::string(knoten::PDF), zeilen({"Fehler beim Öffnen der Datei:", path}));
+    const std::string path = withExtension(record.filename, "pdf");
+    if (findPdf(ports.files, record).empty())
+        tellFileMissing(ports.boxes, path);
+    else if (!ports.defaultApplication.open(path))
+        ports.boxes.warn(std::string(nodes::PDF), lines({"Fehler beim Öffnen der Datei:", path}));
 }
 
 } // namespace quelvarn

@@ -14,7 +14,7 @@ namespace quelvarn {
 
 class DocumentPanels;
 class DocumentTables;
-class GezeigteDateien;
+class ShownFiles;
 class TreePanel;
 class ViewerArea;
 struct SessionState;
@@ -24,7 +24,7 @@ class InfoPanel
 {
 public:
     InfoPanel(SessionState& session, Operations& operations, DocumentTables& tables, TreePanel& tree,
-              ViewerArea& viewer, DocumentPanels& panels, GezeigteDateien& files);
+              ViewerArea& viewer, DocumentPanels& panels, ShownFiles& files);
 
     // --- operations ---
     void chooseNode(std::string_view text);
@@ -44,25 +44,25 @@ public:
 
     // --- state, for the projection ---
     std::string heading() const; // LblInfo: "  Eigenschaften Bauteil"
-    InfoSeite page() const { return page_; }
+    InfoPageId page() const { return page_; }
     // 1 the general page or what takes its place, 2 the viewer.
     int SeitenModus() const { return SeitenModus_; }
-    const AllgemeineSeite& general() const { return general_; }
-    const DateiSeite& file() const { return file_.shown(); }
-    const StichKommSeite& keywords() const { return keywords_; }
+    const GeneralPage& general() const { return general_; }
+    const FileProperties& file() const { return file_.shown(); }
+    const KeywordsPage& keywords() const { return keywords_; }
     // The pages that are read from the database when they come up, with their own operations.
-    Detailseiten& details() { return details_; }
-    const Detailseiten& details() const { return details_; }
+    DetailPages& details() { return details_; }
+    const DetailPages& details() const { return details_; }
     // The page of composition or where-used, when one of these is shown.
-    Verwendungsseite& relation() { return relation_; }
+    RelationPage& relation() { return relation_; }
 
 private:
     void fillGeneralPage();
     void showGeneralOrKept();
     void showProperties();
-    void showPage(InfoSeite page);
+    void showPage(InfoPageId page);
     bool showViewer();
-    void keepPage(InfoSeite page);
+    void keepPage(InfoPageId page);
     void openPdf();
 
     SessionState& session_;
@@ -71,15 +71,15 @@ private:
     TreePanel& tree_;
     ViewerArea& viewer_;
     DocumentPanels& panels_;
-    GezeigteDateien& files_;
-    InfoSeite page_ = InfoSeite::Keine;
+    ShownFiles& files_;
+    InfoPageId page_ = InfoPageId::None;
     int SeitenModus_ = 1;
     std::array<int, 6> keptPage_{}; // By the index of the page among those that may be kept.
-    AllgemeineSeite general_;
+    GeneralPage general_;
     FilePage file_;
-    StichKommSeite keywords_;
-    Detailseiten details_;
-    Verwendungsseite relation_;
+    KeywordsPage keywords_;
+    DetailPages details_;
+    RelationPage relation_;
 };
 
 } // namespace quelvarn

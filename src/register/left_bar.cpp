@@ -7,92 +7,92 @@
 
 namespace quelvarn {
 
-LinkeLeiste::LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
-                         TableTabs& tabs, FilterPage& filterPage)
+LeftBar::LeftBar(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
+                 TableTabs& tabs, FilterPage& filterPage)
     : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), filterPage_(filterPage),
-      suche_(session, operations, tables, tabs), filter_(session, operations, filter, tables, suche_)
+      search_(session, operations, tables, tabs), filter_(session, operations, filter, tables, search_)
 {
     tables_.follow(*this);
 }
 
-void LinkeLeiste::zeigeSuchen(bool FrmSuchenFiltern)
+void LeftBar::showSearch(bool FrmSuchenFiltern)
 {
-    zeigtSuchen_ = FrmSuchenFiltern;
-    zeigtWerte_ = zeigtWerte_ && !FrmSuchenFiltern;
+    showsSearch_ = FrmSuchenFiltern;
+    showsValues_ = showsValues_ && !FrmSuchenFiltern;
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::zeigeDatum(bool FrmFilternDatum)
+void LeftBar::showDate(bool FrmFilternDatum)
 {
-    zeigtDatum_ = FrmFilternDatum;
-    zeigtWerte_ = zeigtWerte_ && !FrmFilternDatum;
+    showsDate_ = FrmFilternDatum;
+    showsValues_ = showsValues_ && !FrmFilternDatum;
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::zeigeWerte(bool FrmInfoFilter)
+void LeftBar::showValues(bool FrmInfoFilter)
 {
-    zeigtWerte_ = FrmInfoFilter;
+    showsValues_ = FrmInfoFilter;
     operations_.changed(Part::LeftBar);
 }
 
-bool LinkeLeiste::zeigeFavoriten()
+bool LeftBar::showFavourites()
 {
-    zeigtFavorit_ = false;
-    operations_.perform(Part::LeftBar, TITEL_FILTERFAVORITEN, FEHLER_FILTERFAVORITEN, [&] {
-        const Filterfavoriten liste = favoritenliste(session_, tables_.tab());
-        if (liste.meldung)
-            ports_.meldungen.zeige(*liste.meldung);
-        zeigtFavorit_ = !liste.namen.empty();
+    showsFavourite_ = false;
+    operations_.perform(Part::LeftBar, TITLE_FILTER_FAVOURITES, FAULT_FILTER_FAVOURITES, [&] {
+        const FilterFavourites list = favouriteList(session_, tables_.tab());
+        if (list.box)
+            ports_.boxes.show(*list.box);
+        showsFavourite_ = !list.names.empty();
     });
-    return zeigtFavorit_;
+    return showsFavourite_;
 }
 
-std::vector<std::string> LinkeLeiste::favoritennamen()
+std::vector<std::string> LeftBar::favouriteNames()
 {
-    std::vector<std::string> namen;
-    gesichert(ports_.meldungen, TITEL_FAVORITENMENUE, FEHLER_FAVORITENMENUE,
-              [&] { namen = favoritenliste(session_, tables_.tab()).namen; });
-    return namen;
+    std::vector<std::string> names;
+    guarded(ports_.boxes, TITLE_FAVOURITE_MENU, FAULT_FAVOURITE_MENU,
+            [&] { names = favouriteList(session_, tables_.tab()).names; });
+    return names;
 }
 
-void LinkeLeiste::waehleFavorit(std::string_view name)
+void LeftBar::chooseFavourite(std::string_view name)
 {
     LblFilter_ = name;
-    zeigtFavorit_ = true;
+    showsFavourite_ = true;
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::schliesseFavoriten()
+void LeftBar::closeFavourites()
 {
-    zeigtFavorit_ = false;
+    showsFavourite_ = false;
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::nutzeFavorit()
+void LeftBar::useFavourite()
 {
     const std::string name = LblFilter_; // The run may show another tab.
-    if (gewaehlterFavorit(session_, ports_.meldungen, tables_.tab(), name))
-        filterPage_.nutzeGespeicherten(name);
+    if (chosenFavourite(session_, ports_.boxes, tables_.tab(), name))
+        filterPage_.useSaved(name);
     operations_.changed(Part::LeftBar);
 }
 
-void LinkeLeiste::tabChanged()
+void LeftBar::tabChanged()
 {
-    filter_.vergissSchritt();
-    zeigtWerte_ = false;
-    zeigtFavorit_ = false;
+    filter_.forgetStep();
+    showsValues_ = false;
+    showsFavourite_ = false;
     LblFilter_.clear(); // The filters of another table have names of their own.
 }
 
-std::string_view LinkeLeiste::knopfWerte() const
+std::string_view LeftBar::valuesButton() const
 {
-    return zeigtWerte_ ? "Ausblenden der Filterwerte <<" : "Anzeigen der Filterwerte >>";
+    return showsValues_ ? "Ausblenden der Filterwerte <<" : "Anzeigen der Filterwerte >>";
 }
 
-std::vector<FilterRow> LinkeLeiste::gezeigteWerte() const
+std::vector<FilterRow> LeftBar::shownValues() const
 {
-    if (const std::vector<FilterRow>* gesucht = suche_.gesuchteWerte())
-        return *gesucht;
+    if (const std::vector<FilterRow>* sought = search_.soughtValues())
+        return *sought;
     return TableHeading(session_, tables_).filterRows();
 }
 

@@ -14,35 +14,35 @@ class FilterPage;
 
 // What the buttons at the left of the tables bring up (ToolbarSEDok2): quick search, quick filters, the values of the
 // running filter, saved filters.
-class LinkeLeiste : public TableFollower
+class LeftBar : public TableFollower
 {
 public:
-    LinkeLeiste(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
-                TableTabs& tabs, FilterPage& filterPage);
+    LeftBar(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables, TableTabs& tabs,
+            FilterPage& filterPage);
 
     // --- operations ---
-    void zeigeSuchen(bool FrmSuchenFiltern);
-    void zeigeDatum(bool FrmFilternDatum);
-    void zeigeWerte(bool FrmInfoFilter);
+    void showSearch(bool FrmSuchenFiltern);
+    void showDate(bool FrmFilternDatum);
+    void showValues(bool FrmInfoFilter);
     // "Filtern Favo.": a box where there are none or too many. False: there is nothing to choose.
-    bool zeigeFavoriten();
-    void waehleFavorit(std::string_view name);
-    void schliesseFavoriten();
-    void nutzeFavorit(); // A click on LblFilter.
+    bool showFavourites();
+    void chooseFavourite(std::string_view name);
+    void closeFavourites();
+    void useFavourite(); // A click on LblFilter.
 
-    Schnellsuche& suche() { return suche_; }
-    Schnellfilter& filter() { return filter_; }
+    QuickSearch& search() { return search_; }
+    QuickFilter& filter() { return filter_; }
 
     // --- state ---
-    bool zeigtSuchen() const { return zeigtSuchen_; }
-    bool zeigtDatum() const { return zeigtDatum_; }
-    bool zeigtWerte() const { return zeigtWerte_; }
-    std::string_view knopfWerte() const; // Caption of the button of the filter values.
-    bool zeigtFavorit() const { return zeigtFavorit_; }
-    std::vector<std::string> favoritennamen(); // For the menu; a fault has its box.
+    bool showsSearch() const { return showsSearch_; }
+    bool showsDate() const { return showsDate_; }
+    bool showsValues() const { return showsValues_; }
+    std::string_view valuesButton() const; // Caption of the button of the filter values.
+    bool showsFavourite() const { return showsFavourite_; }
+    std::vector<std::string> favouriteNames(); // For the menu; a fault has its box.
     const std::string& LblFilter() const { return LblFilter_; }
     // Rows of DataGridFilterEigenMerk: what was searched last, or what filters the table.
-    std::vector<FilterRow> gezeigteWerte() const;
+    std::vector<FilterRow> shownValues() const;
 
     void tabChanged() override;
 
@@ -52,12 +52,12 @@ private:
     Ports& ports_;
     DocumentTables& tables_;
     FilterPage& filterPage_;
-    Schnellsuche suche_;
-    Schnellfilter filter_;
-    bool zeigtSuchen_ = false;
-    bool zeigtDatum_ = false;
-    bool zeigtWerte_ = false;
-    bool zeigtFavorit_ = false;
+    QuickSearch search_;
+    QuickFilter filter_;
+    bool showsSearch_ = false;
+    bool showsDate_ = false;
+    bool showsValues_ = false;
+    bool showsFavourite_ = false;
     std::string LblFilter_;
 };
 

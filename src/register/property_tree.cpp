@@ -3,12 +3,12 @@
 namespace quelvarn {
 namespace {
 
-const Knoten* findeIn(const std::vector<Knoten>& ebene, std::string_view text)
+const Node* findIn(const std::vector<Node>& level, std::string_view text)
 {
-    for (const Knoten& knoten : ebene) {
-        if (knoten.text == text)
-            return &knoten;
-        if (const Knoten* kind = findeIn(knoten.kinder, text))
+    for (const Node& node : level) {
+        if (node.text == text)
+            return &node;
+        if (const Node* kind = findIn(node.children, text))
             return kind;
     }
     return nullptr;
@@ -16,12 +16,12 @@ const Knoten* findeIn(const std::vector<Knoten>& ebene, std::string_view text)
 
 } // namespace
 
-const Knoten* Eigenschaftsbaum::finde(std::string_view text) const
+const Node* PropertyTree::find(std::string_view text) const
 {
-    return findeIn(wurzeln, text);
+    return findIn(roots, text);
 }
 
-void Eigenschaftsbaum::leere()
+void PropertyTree::clear()
 {
     *this = {};
 }

@@ -16,174 +16,174 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::size_t MAX_TEXTE = 2;
+constexpr std::size_t MAX_TEXTS = 2;
 
 // What differs between the two dates of a document.
-struct Datumsfeld
+struct DateField
 {
-    std::string_view feld;
+    std::string_view field;
     std::string_view person; // Who did it.
     int code;
 };
-constexpr std::array<Datumsfeld, 2> DATUMSFELDER{{
-    {"Erstellt", "Autor", CodeErstellt},
-    {"Geaendert", "Bearbeiter", CodeGeaendert},
+constexpr std::array<DateField, 2> DATE_FIELDS{{
+    {"Erstellt", "Autor", CodeCreated},
+    {"Geaendert", "Bearbeiter", CodeChanged},
 }};
 
-FilterRow zeileFuerText(const FilterSchritt& schritt)
+FilterRow rowForText(const FilterStep& step)
 {
-    const auto feld = std::find_if(SUCHFELDER.begin(), SUCHFELDER.end(),
-                                   [&](const Suchfeld& kandidat) { return kandidat.feld == schritt.Feldname; });
-    return {"DokubezDateiFile", std::string(feld->benennung), schritt.Wert};
+    const auto field = std::find_if(SEARCH_FIELDS.begin(), SEARCH_FIELDS.end(),
+                                    [&](const SearchField& candidate) { return candidate.field == step.Feldname; });
+    return {"DokubezDateiFile", std::string(field->caption), step.value};
 }
 
-std::string beschreibung(const std::vector<FilterRow>& werte)
+std::string description(const std::vector<FilterRow>& values)
 {
     std::string text;
-    for (const FilterRow& wert : werte)
-        text += (text.empty() ? "" : "; ") + wert.Benennung + " " + wert.Wert;
+    for (const FilterRow& value : values)
+        text += (text.empty() ? "" : "; ") + value.Benennung + " " + value.value;
     return text;
 }
 
 } // namespace
 
-Schnellfilter::Schnellfilter(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
-                             const Schnellsuche& suche)
+QuickFilter::QuickFilter(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
+                         const QuickSearch& search)
     : session_(session), operations_(operations), ports_(operations.ports()), filter_(filter), tables_(tables),
-      suche_(suche)
+      search_(search)
 {}
 
-void Schnellfilter::textFiltern()
+void QuickFilter::textFilter()
 {
-    if (suche_.CombSuchStr().empty())
+    if (search_.CombSuchStr().empty())
         return;
-    SuchTextMerken(session_.pages.Suchtexte, suche_.CombSuchStr());
+    SuchTextMerken(session_.pages.SearchTexts, search_.CombSuchStr());
     operations_.perform(Part::LeftBar, "Filterung Text", "Fehler bei der Filterung nach Text!",
-                        [this] { filtereText(); });
+                        [this] { filterText(); });
 }
 
-void Schnellfilter::filtereText()
+void QuickFilter::filterText()
 {
-    const auto bisher = static_cast<std::size_t>(schritt());
-    if (bisher == MAX_TEXTE)
-        return ports_.meldungen.warnung("Filterung Text", "Es sind nur maximal 2 Zeichenfolgen möglich!");
-    schritte_.resize(bisher);
+    const auto soFar = static_cast<std::size_t>(step());
+    if (soFar == MAX_TEXTS)
+        return ports_.boxes.warn("Filterung Text", "Es sind nur maximal 2 Zeichenfolgen möglich!");
+    steps_.resize(soFar);
 
-    std::vector<FilterSchritt> schritte = schritte_;
-    const std::string_view davor = suche_.verfahren() == TextBeliebig ? "*" : "";
-    schritte.push_back({std::string(suche_.feld().feld),
-                        fmt::format("{}{}*", davor, suche_.CombSuchStr()),
-                        bisher == 0 ? CodeDatei : CodeText,
-                        {}});
-    std::vector<FilterRow> werte;
-    std::transform(schritte.begin(), schritte.end(), std::back_inserter(werte), zeileFuerText);
-    wendeAn(std::move(schritte), std::move(werte), Run::OneByOne);
+    std::vector<FilterStep> steps = steps_;
+    const std::string_view before = search_.method() == TextAny ? "*" : "";
+    steps.push_back({std::string(search_.field().field),
+                     fmt::format("{}{}*", before, search_.CombSuchStr()),
+                     soFar == 0 ? CodeFile : CodeText,
+                     {}});
+    std::vector<FilterRow> values;
+    std::transform(steps.begin(), steps.end(), std::back_inserter(values), rowForText);
+    apply(std::move(steps), std::move(values), Run::OneByOne);
 }
 
-bool Schnellfilter::laeuft() const
+bool QuickFilter::runs() const
 {
     return tables_.tab() == tab_ && tables_.current().state() == TableState::Filtered &&
            tables_.current().rows().filterText() == filterText_;
 }
 
-int Schnellfilter::schritt() const
+int QuickFilter::step() const
 {
-    return laeuft() ? static_cast<int>(schritte_.size()) : 0;
+    return runs() ? static_cast<int>(steps_.size()) : 0;
 }
 
-std::string_view Schnellfilter::LblZeitRaum() const
+std::string_view QuickFilter::LblZeitRaum() const
 {
-    return laeuft() ? std::string_view(zeitraum_) : std::string_view();
+    return runs() ? std::string_view(period_) : std::string_view();
 }
 
-std::string_view Schnellfilter::LblFilterStep1() const
+std::string_view QuickFilter::LblFilterStep1() const
 {
-    constexpr std::array<std::string_view, MAX_TEXTE + 1> TEXTE{"", "2-te Filterung?", "2-ter Schritt der Filterung."};
-    return TEXTE[static_cast<std::size_t>(schritt())];
+    constexpr std::array<std::string_view, MAX_TEXTS + 1> TEXTS{"", "2-te Filterung?", "2-ter Schritt der Filterung."};
+    return TEXTS[static_cast<std::size_t>(step())];
 }
 
-void Schnellfilter::heute()
+void QuickFilter::today()
 {
-    zeigeAb(ports_.uhr.jetzt().tagesbeginn(), "Heute,");
+    showFrom(ports_.clock.now().startOfDay(), "Heute,");
 }
 
-void Schnellfilter::letzteTage()
+void QuickFilter::lastDays()
 {
-    zeigeAb(ports_.uhr.jetzt().tagesbeginn().plusTage(-SliderTage_), "Seit");
+    showFrom(ports_.clock.now().startOfDay().plusDays(-SliderTage_), "Seit");
 }
 
-void Schnellfilter::zeigeAb(const Zeitpunkt& tag, std::string_view seit)
+void QuickFilter::showFrom(const DateTime& day, std::string_view since)
 {
     operations_.perform(Part::LeftBar, "Filterung Datum", "Fehler bei der Filterung nach Datum!", [&] {
-        if (DatumFiltern(tag))
-            zeitraum_ = fmt::format("{} {}", seit, formatDatum(tag));
+        if (DatumFiltern(day))
+            period_ = fmt::format("{} {}", since, formatDate(day));
     });
 }
 
-bool Schnellfilter::DatumFiltern(const Zeitpunkt& tag)
+bool QuickFilter::DatumFiltern(const DateTime& day)
 {
-    const Datumsfeld& feld = DATUMSFELDER[static_cast<std::size_t>(OpErstAend_)];
-    std::vector<FilterSchritt> schritte{{std::string(feld.feld), formatDatum(tag), feld.code, {}}};
+    const DateField& field = DATE_FIELDS[static_cast<std::size_t>(OpErstAend_)];
+    std::vector<FilterStep> steps{{std::string(field.field), formatDate(day), field.code, {}}};
     if (ChAnwender_)
-        schritte.push_back({std::string(feld.person), session_.user.Anwender, CodeText, {}});
-    std::vector<FilterRow> werte;
-    for (const FilterSchritt& schritt : schritte)
-        werte.push_back({"FilternDatum", schritt.Feldname, schritt.Wert});
-    return wendeAn(std::move(schritte), std::move(werte), Run::Together);
+        steps.push_back({std::string(field.person), session_.user.Anwender, CodeText, {}});
+    std::vector<FilterRow> values;
+    for (const FilterStep& step : steps)
+        values.push_back({"FilternDatum", step.Feldname, step.value});
+    return apply(std::move(steps), std::move(values), Run::Together);
 }
 
-void Schnellfilter::setzeDatumsfeld(int OpErstAend)
+void QuickFilter::setDateField(int OpErstAend)
 {
     OpErstAend_ = OpErstAend;
     operations_.changed(Part::LeftBar);
 }
 
-void Schnellfilter::setzeNurEigene(bool ChAnwender)
+void QuickFilter::setOwnOnly(bool ChAnwender)
 {
     ChAnwender_ = ChAnwender;
     operations_.changed(Part::LeftBar);
 }
 
-void Schnellfilter::setzeTage(int SliderTage)
+void QuickFilter::setDays(int SliderTage)
 {
-    SliderTage_ = std::clamp(SliderTage, 1, MAX_TAGE);
+    SliderTage_ = std::clamp(SliderTage, 1, MAX_DAYS);
     operations_.changed(Part::LeftBar);
 }
 
-bool Schnellfilter::wendeAn(std::vector<FilterSchritt> schritte, std::vector<FilterRow> werte, Run run)
+bool QuickFilter::apply(std::vector<FilterStep> steps, std::vector<FilterRow> values, Run run)
 {
-    Filterkontext kontext{session_, operations_, filter_, tables_, tables_.tab()};
-    DocumentTable& table = kontext.table();
-    if (table.count() == 0 || !laufeOderWieVorher(kontext, [&] { return laufe(kontext, schritte, run); }))
+    FilterContext context{session_, operations_, filter_, tables_, tables_.tab()};
+    DocumentTable& table = context.table();
+    if (table.count() == 0 || !runOrKeep(context, [&] { return runSteps(context, steps, run); }))
         return false;
-    const auto left = static_cast<std::size_t>(kontext.zustand().FilterAnzahl);
-    werte.resize(left);
-    schritte.resize(run == Run::OneByOne ? left : 0);
-    schritte_ = std::move(schritte);
-    zeitraum_.clear();
-    tab_ = kontext.tab;
+    const auto left = static_cast<std::size_t>(context.state().FilterAnzahl);
+    values.resize(left);
+    steps.resize(run == Run::OneByOne ? left : 0);
+    steps_ = std::move(steps);
+    period_.clear();
+    tab_ = context.tab;
     filterText_ = table.rows().filterText();
-    std::string told = beschreibung(werte);
-    table.showFiltered({std::move(werte), filter_.status, std::move(told)});
-    kontext.tables.announceRows(kontext.tab);
-    reportStepsWithoutRows(kontext);
+    std::string told = description(values);
+    table.showFiltered({std::move(values), filter_.status, std::move(told)});
+    context.tables.announceRows(context.tab);
+    reportStepsWithoutRows(context);
     return true;
 }
 
-bool Schnellfilter::laufe(Filterkontext& kontext, const std::vector<FilterSchritt>& schritte, Run run)
+bool QuickFilter::runSteps(FilterContext& context, const std::vector<FilterStep>& steps, Run run)
 {
-    Filterzustand& zustand = kontext.zustand();
-    leereFilter(zustand);
-    std::copy(schritte.begin(), schritte.end(), zustand.FilterSchritte.begin());
-    zustand.FilterAnzahl = static_cast<int>(schritte.size());
-    const std::vector<Kettenglied> kette = bildeKette(zustand, schrittfragment);
+    TypeFilter& state = context.state();
+    clearFilter(state);
+    std::copy(steps.begin(), steps.end(), state.FilterSchritte.begin());
+    state.FilterAnzahl = static_cast<int>(steps.size());
+    const std::vector<ChainLink> chain = formChain(state, stepFragment);
     if (run == Run::OneByOne) {
-        const bool gelaufen = laufeKette(kontext, kette, filter_.status);
-        zustand.Schnellfilter = std::exchange(zustand.FilterString, {});
-        return gelaufen;
+        const bool ran = runChain(context, chain, filter_.status);
+        state.QuickFilter = std::exchange(state.FilterString, {});
+        return ran;
     }
-    zustand.Schnellfilter = kette.back().sqlform;
-    return setzeFilter(kontext, kette.back().behind(filter_.status));
+    state.QuickFilter = chain.back().sqlForm;
+    return setFilter(context, chain.back().behind(filter_.status));
 }
 
 } // namespace quelvarn

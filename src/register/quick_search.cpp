@@ -14,62 +14,62 @@
 
 namespace quelvarn {
 
-bool SuchenImRecordset(Recordset& zeilen, std::string_view text, std::string_view feld, int art, Suchbeginn beginn,
-                       Meldungen& meldungen)
+bool SuchenImRecordset(Recordset& rows, std::string_view text, std::string_view field, int kind, SearchStart begin,
+                       Boxes& boxes)
 {
     if (text.empty())
         return false;
-    if (art != TextAmAnfang && art != TextBeliebig) {
-        meldungen.warnung("Suchverfahren", "Falsches Suchverfahren!");
+    if (kind != TextAtBegin && kind != TextAny) {
+        boxes.warn("Suchverfahren", "Falsches Suchverfahren!");
         return false;
     }
-    const std::string pattern = fmt::format("{}{}%", art == TextBeliebig ? "%" : "", text);
-    const std::string kriterium = fmt::format("{} LIKE {}", feld, sql::quoted(pattern));
-    const bool oben = beginn == Suchbeginn::Oben;
-    return zeilen.Find(kriterium, oben ? 0 : 1, Suchrichtung::Vorwaerts, oben);
+    const std::string pattern = fmt::format("{}{}%", kind == TextAny ? "%" : "", text);
+    const std::string criterion = fmt::format("{} LIKE {}", field, sql::quoted(pattern));
+    const bool above = begin == SearchStart::Above;
+    return rows.Find(criterion, above ? 0 : 1, SearchDirection::Forward, above);
 }
 
-void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text)
+void SuchTextMerken(std::vector<std::string>& searchTexts, std::string_view text)
 {
-    if (text.empty() || std::find(suchtexte.begin(), suchtexte.end(), text) != suchtexte.end())
+    if (text.empty() || std::find(searchTexts.begin(), searchTexts.end(), text) != searchTexts.end())
         return;
-    if (suchtexte.size() >= ANZAHL_SUCHTEXTE)
-        suchtexte.erase(suchtexte.begin());
-    suchtexte.emplace_back(text);
+    if (searchTexts.size() >= SEARCH_TEXT_COUNT)
+        searchTexts.erase(searchTexts.begin());
+    searchTexts.emplace_back(text);
 }
 
-Schnellsuche::Schnellsuche(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
+QuickSearch::QuickSearch(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
     : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs)
 {}
 
-void Schnellsuche::sucheText(std::string_view CombSuchStr)
+void QuickSearch::searchText(std::string_view CombSuchStr)
 {
     CombSuchStr_ = CombSuchStr;
     if (!ChDynSuchen_ && !CombSuchStr_.empty())
-        beginne();
+        begin();
 }
 
-void Schnellsuche::tippe(std::string_view TextDocuBez)
+void QuickSearch::type(std::string_view TextDocuBez)
 {
     TextDocuBez_ = TextDocuBez;
-    sucheImBlatt();
+    searchInSheet();
 }
 
-void Schnellsuche::beginne()
+void QuickSearch::begin()
 {
-    beginn_ = Suchbeginn::Oben;
-    werte_ = {{std::string(feld().feld), std::string(feld().benennung), nimmText()}};
-    sucheImBlatt();
+    begin_ = SearchStart::Above;
+    values_ = {{std::string(field().field), std::string(field().caption), takeText()}};
+    searchInSheet();
 }
 
-void Schnellsuche::suche()
+void QuickSearch::search()
 {
-    beginn_ = Suchbeginn::AktuelleZeile;
-    nimmText();
-    sucheImBlatt();
+    begin_ = SearchStart::CurrentRow;
+    takeText();
+    searchInSheet();
 }
 
-void Schnellsuche::setzeBeimTippen(bool ChDynSuchen)
+void QuickSearch::setAtTyping(bool ChDynSuchen)
 {
     if (ChDynSuchen == ChDynSuchen_)
         return;
@@ -79,74 +79,74 @@ void Schnellsuche::setzeBeimTippen(bool ChDynSuchen)
         return operations_.changed(Part::LeftBar);
     }
     TextDocuBez_ = CombSuchStr_;
-    if (sucheImBlatt() == Ausgang::Aufgegeben) // Without its column in memory each key would wait again.
+    if (searchInSheet() == Outcome::Abandoned) // Without its column in memory each key would wait again.
         ChDynSuchen_ = false;
     operations_.changed(Part::LeftBar);
 }
 
-void Schnellsuche::setzeFeld(std::size_t suchfeld)
+void QuickSearch::setField(std::size_t searchField)
 {
-    assert(suchfeld < SUCHFELDER.size());
-    suchfeld_ = suchfeld;
+    assert(searchField < SEARCH_FIELDS.size());
+    searchField_ = searchField;
     if (ChDynSuchen_)
-        operations_.report([this] { spalteBereit(); });
+        operations_.report([this] { columnReady(); });
     operations_.changed(Part::LeftBar);
 }
 
-const std::vector<std::string>& Schnellsuche::suchtexte() const
+const std::vector<std::string>& QuickSearch::searchTexts() const
 {
-    return session_.pages.Suchtexte;
+    return session_.pages.SearchTexts;
 }
 
-const std::vector<FilterRow>* Schnellsuche::gesuchteWerte() const
+const std::vector<FilterRow>* QuickSearch::soughtValues() const
 {
-    const bool dieselben = tabDerWerte_ == tables_.tab() && fassungDerWerte_ == tables_.current().generation();
-    return dieselben && !werte_.empty() ? &werte_ : nullptr;
+    const bool same = tabOfValues_ == tables_.tab() && generationOfValues_ == tables_.current().generation();
+    return same && !values_.empty() ? &values_ : nullptr;
 }
 
-const std::string& Schnellsuche::nimmText()
+const std::string& QuickSearch::takeText()
 {
     if (ChDynSuchen_)
         return TextDocuBez_;
-    SuchTextMerken(session_.pages.Suchtexte, CombSuchStr_);
+    SuchTextMerken(session_.pages.SearchTexts, CombSuchStr_);
     return CombSuchStr_;
 }
 
-Schnellsuche::Ausgang Schnellsuche::sucheImBlatt()
+QuickSearch::Outcome QuickSearch::searchInSheet()
 {
-    tabDerWerte_ = tables_.tab();
-    fassungDerWerte_ = tables_.current().generation();
-    Ausgang ausgang = Ausgang::NichtGesucht;
+    tabOfValues_ = tables_.tab();
+    generationOfValues_ = tables_.current().generation();
+    Outcome outcome = Outcome::NotSought;
     operations_.report([&] {
         if (!tables_.current().hasRows())
             return;
-        if (!spalteBereit()) {
-            ausgang = Ausgang::Aufgegeben;
+        if (!columnReady()) {
+            outcome = Outcome::Abandoned;
             return;
         }
         const std::string& text = ChDynSuchen_ ? TextDocuBez_ : CombSuchStr_;
-        SuchenImRecordset(zeilen(), text, feld().feld, OptSuchPos_, beginn_, ports_.meldungen);
-        ausgang = text.empty() ? Ausgang::NichtGesucht : Ausgang::Gesucht;
+        SuchenImRecordset(rows(), text, field().field, OptSuchPos_, begin_, ports_.boxes);
+        outcome = text.empty() ? Outcome::NotSought : Outcome::Sought;
     });
-    if (ausgang == Ausgang::Gesucht)
+    if (outcome == Outcome::Sought)
         tabs_.followRow();
     operations_.changed(Part::LeftBar);
-    return ausgang;
+    return outcome;
 }
 
-Recordset& Schnellsuche::zeilen()
+Recordset& QuickSearch::rows()
 {
     return tables_.current().visible();
 }
 
 // The first search of a column reads it, which takes its time in a large table. False: given up.
-bool Schnellsuche::spalteBereit()
+bool QuickSearch::columnReady()
 {
-    if (!zeilen().offen() || zeilen().spalteGeladen(feld().feld))
+    if (!rows().open() || rows().columnLoaded(field().field))
         return true;
-    LangeArbeit arbeit(ports_.fortschritt, "Die Tabelle wird gelesen");
-    zeilen().ladeSpalte(feld().feld, std::ref(arbeit));
-    return !arbeit.aufgegeben();
+    LongWork work(ports_.progress, "Die Tabelle wird gelesen");
+    rows().loadColumn(field().field, std::ref(work));
+    return !work.abandoned();
 }
 
 // A pattern that cannot be read, or a fault of the connection: the common report alone.

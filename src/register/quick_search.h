@@ -17,63 +17,63 @@ class Recordset;
 struct SessionState;
 
 // The column that is searched: OpDokuBez, OpDatei or OpPfadDatei.
-struct Suchfeld
+struct SearchField
 {
-    std::string_view feld;
-    std::string_view benennung;
+    std::string_view field;
+    std::string_view caption;
 };
-inline constexpr std::array<Suchfeld, 3> SUCHFELDER{{
+inline constexpr std::array<SearchField, 3> SEARCH_FIELDS{{
     {"DokuBez", "Dokumentname"},
     {"Dateiname", "Dateiname"},
     {"filename", "Pfad-u. Dateiname"},
 }};
 
 // Where the text stands in the field (OptSuchPos). Plain numbers: other parts of the program pass them too.
-enum Suchverfahren : int { TextAmAnfang = 0, TextBeliebig = 1 };
-enum class Suchbeginn { Oben, AktuelleZeile };
+enum SearchMethod : int { TextAtBegin = 0, TextAny = 1 };
+enum class SearchStart { Above, CurrentRow };
 
 // Moves to the first row from the top, or the next one, whose field holds the text. Without such a row the recordset
 // stands at Eof; an empty text moves nothing. The text stands in the pattern as it is. Faults pass through.
-bool SuchenImRecordset(Recordset& zeilen, std::string_view text, std::string_view feld, int art, Suchbeginn beginn,
-                       Meldungen& meldungen);
+bool SuchenImRecordset(Recordset& rows, std::string_view text, std::string_view field, int kind, SearchStart begin,
+                       Boxes& boxes);
 
 // Keeps a text among the last eight.
-void SuchTextMerken(std::vector<std::string>& suchtexte, std::string_view text);
+void SuchTextMerken(std::vector<std::string>& searchTexts, std::string_view text);
 
 // The quick search: finds a row of the table shown by a piece of text (FrmSuchenFiltern).
-class Schnellsuche
+class QuickSearch
 {
 public:
-    Schnellsuche(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs);
+    QuickSearch(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs);
 
     // --- operations ---
-    void setzeSuchtext(std::string_view CombSuchStr) { CombSuchStr_ = CombSuchStr; } // Typed; searches nothing.
-    void sucheText(std::string_view CombSuchStr); // Enter, or an entry of the list chosen.
-    void tippe(std::string_view TextDocuBez);     // Searches with each key.
-    void beginne();                               // CmBeginnSuchen
-    void suche();                                 // CmWeiterSuchen
-    void setzeBeimTippen(bool ChDynSuchen);
-    void setzeFeld(std::size_t suchfeld);
-    void setzeVerfahren(Suchverfahren OptSuchPos) { OptSuchPos_ = OptSuchPos; }
+    void setSearchText(std::string_view CombSuchStr) { CombSuchStr_ = CombSuchStr; } // Typed; searches nothing.
+    void searchText(std::string_view CombSuchStr); // Enter, or an entry of the list chosen.
+    void type(std::string_view TextDocuBez);       // Searches with each key.
+    void begin();                                  // CmBeginnSuchen
+    void search();                                 // CmWeiterSuchen
+    void setAtTyping(bool ChDynSuchen);
+    void setField(std::size_t searchField);
+    void setMethod(SearchMethod OptSuchPos) { OptSuchPos_ = OptSuchPos; }
 
     // --- state ---
-    const std::vector<std::string>& suchtexte() const;
+    const std::vector<std::string>& searchTexts() const;
     const std::string& CombSuchStr() const { return CombSuchStr_; }
     const std::string& TextDocuBez() const { return TextDocuBez_; }
-    bool beimTippen() const { return ChDynSuchen_; }
-    std::size_t suchfeld() const { return suchfeld_; }
-    const Suchfeld& feld() const { return SUCHFELDER[suchfeld_]; }
-    Suchverfahren verfahren() const { return OptSuchPos_; }
+    bool atTyping() const { return ChDynSuchen_; }
+    std::size_t searchField() const { return searchField_; }
+    const SearchField& field() const { return SEARCH_FIELDS[searchField_]; }
+    SearchMethod method() const { return OptSuchPos_; }
     // What the last search looked for, while the same rows are shown; else nullptr.
-    const std::vector<FilterRow>* gesuchteWerte() const;
+    const std::vector<FilterRow>* soughtValues() const;
 
 private:
-    enum class Ausgang { Gesucht, NichtGesucht, Aufgegeben };
+    enum class Outcome { Sought, NotSought, Abandoned };
 
-    const std::string& nimmText();
-    Ausgang sucheImBlatt();
-    Recordset& zeilen();
-    bool spalteBereit();
+    const std::string& takeText();
+    Outcome searchInSheet();
+    Recordset& rows();
+    bool columnReady();
 
     SessionState& session_;
     Operations& operations_;
@@ -83,12 +83,12 @@ private:
     std::string CombSuchStr_;
     std::string TextDocuBez_;
     bool ChDynSuchen_ = false;
-    std::size_t suchfeld_ = 0;
-    Suchverfahren OptSuchPos_ = TextAmAnfang;
-    Suchbeginn beginn_ = Suchbeginn::Oben;
-    std::vector<FilterRow> werte_;
-    int tabDerWerte_ = 0;
-    unsigned fassungDerWerte_ = 0;
+    std::size_t searchField_ = 0;
+    SearchMethod OptSuchPos_ = TextAtBegin;
+    SearchStart begin_ = SearchStart::Above;
+    std::vector<FilterRow> values_;
+    int tabOfValues_ = 0;
+    unsigned generationOfValues_ = 0;
 };
 
 } // namespace quelvarn

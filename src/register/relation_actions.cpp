@@ -13,23 +13,23 @@
 namespace quelvarn {
 namespace {
 
-void meldeKeinenFavoriten(Meldungen& meldungen)
+void tellNoFavourite(Boxes& boxes)
 {
-    meldungen.warnung("Favoriten", zeilen({
-                                       "Der Eintrag bei Favoriten konnte",
-                                       "nicht erfolgreich durchgeführt werden!",
-                                       "Mögliche Ursache:",
-                                       "- Datei ist in der Tabelle nicht vorhanden.",
-                                       "- Es ist ein <Neuaufbau> erforderlich.",
-                                       "- Falscher Pfad-/Dateiname.",
-                                   }));
+    boxes.warn("Favoriten", lines({
+                                "Der Eintrag bei Favoriten konnte",
+                                "nicht erfolgreich durchgeführt werden!",
+                                "Mögliche Ursache:",
+                                "- Datei ist in der Tabelle nicht vorhanden.",
+                                "- Es ist ein <Neuaufbau> erforderlich.",
+                                "- Falscher Pfad-/Dateiname.",
+                            }));
 }
 
-void meldeSondertabelle(Meldungen& meldungen)
+void tellSpecialTable(Boxes& boxes)
 {
-    meldungen.warnung(
+    boxes.warn(
         "Bearbeiten der Dokumente in den Sondertabellen",
-        zeilen({
+        lines({
             "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!",
             "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.",
             "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
@@ -41,19 +41,19 @@ void meldeSondertabelle(Meldungen& meldungen)
 void RelationActions::addToFavourites()
 {
     page_.perform([&] {
-        if (!page_.bedienbar())
+        if (!page_.usable())
             return;
-        const auto document = findDokument(session_.database.Verbindung, *page_.type(), page_.filename());
+        const auto document = findDocument(session_.database.connection, *page_.type(), page_.filename());
         if (!document)
-            return meldeKeinenFavoriten(ports_.meldungen);
-        favourites_.FavoritHinzufuegen(document->DokuBez, document->RevBez, page_.type()->schluessel, page_.filename());
+            return tellNoFavourite(ports_.boxes);
+        favourites_.FavoritHinzufuegen(document->DokuBez, document->RevBez, page_.type()->key, page_.filename());
     });
 }
 
 void RelationActions::goToTable()
 {
     page_.perform([&] {
-        if (page_.bedienbar() && !fileMissing())
+        if (page_.usable() && !fileMissing())
             jump();
     });
 }
@@ -63,18 +63,18 @@ void RelationActions::open()
     page_.perform([&] {
         if (fileMissing())
             return;
-        if (page_.art()->seite == InfoSeite::BestehtAus && page_.SondertabelleNr() != 0)
-            return meldeSondertabelle(ports_.meldungen);
-        if (page_.bedienbar() && jump())
+        if (page_.kind()->page == InfoPageId::ConsistsOf && page_.SondertabelleNr() != 0)
+            return tellSpecialTable(ports_.boxes);
+        if (page_.usable() && jump())
             frame_.edit();
     });
 }
 
 bool RelationActions::fileMissing()
 {
-    if (ports_.dateien.dateiVorhanden(page_.filename()))
+    if (ports_.files.fileExists(page_.filename()))
         return false;
-    meldeDateiFehlt(ports_.meldungen, page_.filename());
+    tellFileMissing(ports_.boxes, page_.filename());
     return true;
 }
 
@@ -82,8 +82,8 @@ bool RelationActions::fileMissing()
 bool RelationActions::jump()
 {
     const std::string filename = page_.filename();
-    const DokuTyp& type = *page_.type();
-    if (page_.art()->seite == InfoSeite::InZeichnung)
+    const DocumentType& type = *page_.type();
+    if (page_.kind()->page == InfoPageId::InDrawing)
         return jump_.ZeichnungZeigen(filename);
     return jump_.ZuDokumentWechseln(type, filename);
 }

@@ -6,16 +6,16 @@
 
 namespace quelvarn {
 
-class Dokumentsprung;
-class Favoriten;
+class DocumentJump;
+class Favourites;
 class MainWindow;
 
 // What leads from the document of a row of composition or where-used to another place.
 class RelationActions
 {
 public:
-    RelationActions(SessionState& session, Ports& ports, Verwendungsseite& page, Dokumentsprung& jump,
-                    Favoriten& favourites, MainWindow& frame)
+    RelationActions(SessionState& session, Ports& ports, RelationPage& page, DocumentJump& jump, Favourites& favourites,
+                    MainWindow& frame)
         : session_(session), ports_(ports), page_(page), jump_(jump), favourites_(favourites), frame_(frame)
     {}
 
@@ -29,9 +29,9 @@ private:
 
     SessionState& session_;
     Ports& ports_;
-    Verwendungsseite& page_;
-    Dokumentsprung& jump_;
-    Favoriten& favourites_;
+    RelationPage& page_;
+    DocumentJump& jump_;
+    Favourites& favourites_;
     MainWindow& frame_;
 };
 

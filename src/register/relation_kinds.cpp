@@ -8,75 +8,75 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::string_view BAUGRUPPE = "AssembDokuBez, AssembRevBez, AssembDateiname, Assembfilename";
-constexpr std::string_view ZEICHNUNG = "DokuBezDraft, RevBezDraft, DateinameDraft, filenameDraft";
-constexpr std::string_view SCHWEISSTEIL = "DokuBezWeld, RevBezWeld, DateinameWeld, filenameWeld";
+constexpr std::string_view ASSEMBLY = "AssembDokuBez, AssembRevBez, AssembDateiname, Assembfilename";
+constexpr std::string_view DRAWING = "DokuBezDraft, RevBezDraft, DateinameDraft, filenameDraft";
+constexpr std::string_view WELDMENT = "DokuBezWeld, RevBezWeld, DateinameWeld, filenameWeld";
 
 } // namespace
 
-const std::array<Verwendungsart, 6> VERWENDUNGSARTEN{{
-    {InfoSeite::InBaugruppe,
-     knoten::IN_BAUGRUPPE,
-     Ansicht::InBaugruppe,
-     {{{"ZusBauPart", BAUGRUPPE, "Part", "", ""}, {"ZusBauSubAss", BAUGRUPPE, "Subassembly", "", ""}}},
-     Quellwahl::NachTyp,
+const std::array<RelationKind, 6> RELATION_KINDS{{
+    {InfoPageId::InAssembly,
+     nodes::IN_ASSEMBLY,
+     ViewerPlace::InAssembly,
+     {{{"ZusBauPart", ASSEMBLY, "Part", "", ""}, {"ZusBauSubAss", ASSEMBLY, "Subassembly", "", ""}}},
+     SourceChoice::ByType,
      {"AssembDokuBez", "AssembRevBez", "AssembDateiname", "Assembfilename"},
      "Assemb",
      "auf diese Baugruppe"},
-    {InfoSeite::InZeichnung,
-     knoten::IN_ZEICHNUNG,
-     Ansicht::InZeichnung,
-     {{{"VerbindungDraftPart", ZEICHNUNG, "PfadAssembPart", "", ""}, {}}},
-     Quellwahl::Erste,
+    {InfoPageId::InDrawing,
+     nodes::IN_DRAWING,
+     ViewerPlace::InDrawing,
+     {{{"VerbindungDraftPart", DRAWING, "PfadAssembPart", "", ""}, {}}},
+     SourceChoice::First,
      {"DokuBezDraft", "RevBezDraft", "DateinameDraft", "filenameDraft"},
      "Draft",
      "auf diese Zeichnung"},
-    {InfoSeite::InSchweissteil,
-     knoten::IN_SCHWEISSTEIL,
-     Ansicht::InSchweissteil,
-     {{{"VerbindungWeldAssemb", SCHWEISSTEIL, "PfadAssemb", "", ""}, {}}},
-     Quellwahl::Erste,
+    {InfoPageId::InWeldment,
+     nodes::IN_WELDMENT,
+     ViewerPlace::InWeldment,
+     {{{"VerbindungWeldAssemb", WELDMENT, "PfadAssemb", "", ""}, {}}},
+     SourceChoice::First,
      {"DokuBezWeld", "RevBezWeld", "DateinameWeld", "filenameWeld"},
      "Weld",
      "auf diese Baugruppe"},
-    {InfoSeite::BestehtAus,
-     knoten::BESTEHT_AUS,
-     Ansicht::BestehtAus,
+    {InfoPageId::ConsistsOf,
+     nodes::CONSISTS_OF,
+     ViewerPlace::ConsistsOf,
      {{{"ZusBauPart", "Part", "", "AssembDokuBez", "AssembRevBez"},
        {"ZusBauSubAss", "Subassembly", "", "AssembDokuBez", "AssembRevBez"}}},
-     Quellwahl::Alle,
+     SourceChoice::All,
      {"", "", "DateinameAssembPart", "PfadAssembPart"},
      "",
      "auf dieses Teil der Baugruppe"},
-    {InfoSeite::Enthaelt,
-     knoten::ENTHAELT,
-     Ansicht::Enthaelt,
+    {InfoPageId::Contains,
+     nodes::CONTAINS,
+     ViewerPlace::Contains,
      {{{"VerbindungDraftPart", "DateinameAssembPart, PfadAssembPart", "", "DokuBezDraft", "RevBezDraft"}, {}}},
-     Quellwahl::Erste,
+     SourceChoice::First,
      {"", "", "DateinameAssembPart", "PfadAssembPart"},
      "",
      "auf dieses Modell der Zeichnung"},
-    {InfoSeite::EnthaeltBaugruppe,
-     knoten::ENTHAELT_BAUGRUPPE,
-     Ansicht::EnthaeltBaugruppe,
+    {InfoPageId::ContainsAssembly,
+     nodes::CONTAINS_ASSEMBLY,
+     ViewerPlace::ContainsAssembly,
      {{{"VerbindungWeldAssemb", "DateinameAssemb, PfadAssemb", "", "DokuBezWeld", "RevBezWeld"}, {}}},
-     Quellwahl::Erste,
+     SourceChoice::First,
      {"", "", "DateinameAssemb", "PfadAssemb"},
      "",
      "auf diese Baugruppe"},
 }};
 
-const Verwendungsart* findVerwendungsart(InfoSeite seite)
+const RelationKind* findRelationKind(InfoPageId page)
 {
-    const auto art = std::ranges::find(VERWENDUNGSARTEN, seite, &Verwendungsart::seite);
-    return art == VERWENDUNGSARTEN.end() ? nullptr : &*art;
+    const auto kind = std::ranges::find(RELATION_KINDS, page, &RelationKind::page);
+    return kind == RELATION_KINDS.end() ? nullptr : &*kind;
 }
 
-const Verwendungsart& verwendungsartVon(InfoSeite seite)
+const RelationKind& relationKindOf(InfoPageId page)
 {
-    const Verwendungsart* art = findVerwendungsart(seite);
-    assert(art);
-    return *art;
+    const RelationKind* kind = findRelationKind(page);
+    assert(kind);
+    return *kind;
 }
 
 } // namespace quelvarn

@@ -17,173 +17,173 @@ namespace quelvarn {
 
 namespace {
 
-void meldeAnderenStatus(Meldungen& meldungen)
+void tellOtherStatus(Boxes& boxes)
 {
-    meldungen.warnung("Status der Baugruppe", zeilen({
-                                                  "ACHTUNG!",
-                                                  "Bestandteile der Baugruppe haben einen",
-                                                  "anderen Status als die Baugruppe.",
-                                              }));
+    boxes.warn("Status der Baugruppe", lines({
+                                           "ACHTUNG!",
+                                           "Bestandteile der Baugruppe haben einen",
+                                           "anderen Status als die Baugruppe.",
+                                       }));
 }
 
-void meldeKeinenZugriff(Meldungen& meldungen, std::string_view auf)
+void tellNoAccess(Boxes& boxes, std::string_view toUnfold)
 {
-    meldungen.warnung("Keine Zugriffsberechtigung",
-                      zeilen({"ACHTUNG!", "Sie haben " + std::string(auf) + " keine Zugriffsberechtigung."}));
+    boxes.warn("Keine Zugriffsberechtigung",
+               lines({"ACHTUNG!", "Sie haben " + std::string(toUnfold) + " keine Zugriffsberechtigung."}));
 }
 
-void meldeKeineVorschau(Meldungen& meldungen, const std::string& filename)
+void tellNoPreview(Boxes& boxes, const std::string& filename)
 {
-    meldungen.warnung("Anzeigen im Viewer", zeilen({
-                                                "Die Datei:",
-                                                filename,
-                                                "konnte nicht geöffnet werden!",
-                                                "Mögliche Ursache:",
-                                                "- Falscher Pfad- und/oder Dateiname.",
-                                                "- Kein Zugriffsrecht.",
-                                            }));
+    boxes.warn("Anzeigen im Viewer", lines({
+                                         "Die Datei:",
+                                         filename,
+                                         "konnte nicht geöffnet werden!",
+                                         "Mögliche Ursache:",
+                                         "- Falscher Pfad- und/oder Dateiname.",
+                                         "- Kein Zugriffsrecht.",
+                                     }));
 }
 
 } // namespace
 
-Verwendungsseite::Verwendungsseite(SessionState& session, Operations& operations, const DocumentTables& tables,
-                                   DocumentPanels& panels, GezeigteDateien& gezeigt)
-    : session_(session), operations_(operations), ports_(operations.ports()), gezeigt_(gezeigt), tables_(tables),
+RelationPage::RelationPage(SessionState& session, Operations& operations, const DocumentTables& tables,
+                           DocumentPanels& panels, ShownFiles& shown)
+    : session_(session), operations_(operations), ports_(operations.ports()), shown_(shown), tables_(tables),
       panels_(panels)
 {}
 
-void Verwendungsseite::perform(const std::function<void()>& operation)
+void RelationPage::perform(const std::function<void()>& operation)
 {
-    if (!hatZeilen())
+    if (!hasRows())
         return;
-    operations_.perform(Part::Document, art_->knoten, "Fehler beim Anzeigen der Verwendung!", operation);
+    operations_.perform(Part::Document, kind_->node, "Fehler beim Anzeigen der Verwendung!", operation);
 }
 
 // --- filling ---------------------------------------------------------------------------------------------------
 
-void Verwendungsseite::fuelle(const Verwendungsart& art)
+void RelationPage::fill(const RelationKind& kind)
 {
-    leere();
-    art_ = &art;
+    clear();
+    kind_ = &kind;
     const DokuRecord& record = tables_.current().record();
-    std::string pfad = record.filename;
-    UniversalNachLaufwerk(pfad, ports_);
-    zeilen_ = verwendungszeilen(session_.database.Verbindung, art, record, pfad);
-    leseZeile();
+    std::string documentPath = record.filename;
+    UniversalNachLaufwerk(documentPath, ports_);
+    rows_ = relationRows(session_.database.connection, kind, record, documentPath);
+    readRow();
 }
 
-void Verwendungsseite::leere()
+void RelationPage::clear()
 {
-    leereVorschau();
-    art_ = nullptr;
-    zeilen_ = Recordset();
-    ++fassung_; // A grid must see that its rows are gone.
+    clearPreview();
+    kind_ = nullptr;
+    rows_ = Recordset();
+    ++generation_; // A grid must see that its rows are gone.
     filename_.clear();
-    dokument_ = {};
-    grafik_ = false;
+    document_ = {};
+    graphic_ = false;
 }
 
-void Verwendungsseite::leseZeile()
+void RelationPage::readRow()
 {
-    dokument_ = {};
+    document_ = {};
     filename_.clear();
-    if (!hatZeilen())
+    if (!hasRows())
         return;
-    filename_ = zeilen_.Text(art_->felder.filename);
-    dokument_ = dokumentZu(session_.database.Verbindung, *art_, zeilen_);
+    filename_ = rows_.Text(kind_->fields.filename);
+    document_ = documentAt(session_.database.connection, *kind_, rows_);
 }
 
 // --- the current row -------------------------------------------------------------------------------------------
 
-void Verwendungsseite::zeileGewaehlt(std::size_t position)
+void RelationPage::rowChosen(std::size_t position)
 {
     perform([&] {
-        if (position >= zeilen_.RecordCount())
+        if (position >= rows_.RecordCount())
             return;
-        zeilen_.setzeAbsolutePosition(position);
-        leereVorschau();
-        leseZeile();
-        if (art_->seite == InfoSeite::BestehtAus)
-            pruefeBestandteil();
-        if (grafik_ && (art_->seite == InfoSeite::BestehtAus || hatZugriff()))
-            ladeVorschau();
+        rows_.setAbsolutePosition(position);
+        clearPreview();
+        readRow();
+        if (kind_->page == InfoPageId::ConsistsOf)
+            checkComponent();
+        if (graphic_ && (kind_->page == InfoPageId::ConsistsOf || hasAccess()))
+            loadPreview();
         panels_.showFile(filename_);
     });
 }
 
 // The special tables have no status scope.
-bool Verwendungsseite::liegtImStatusbereich() const
+bool RelationPage::liesInStatusRange() const
 {
-    return !dokument_.typ || dokument_.SondertabelleNr != 0 ||
-           istSichtbar(session_.database.Verbindung, *dokument_.typ, filename_, session_.rights.WhereStatus);
+    return !document_.type || document_.SondertabelleNr != 0 ||
+           isVisible(session_.database.connection, *document_.type, filename_, session_.rights.WhereStatus);
 }
 
 // Tells that a component lies outside the statuses of the user, and lets him see it all the same.
-void Verwendungsseite::pruefeBestandteil()
+void RelationPage::checkComponent()
 {
-    if (!liegtImStatusbereich())
-        meldeAnderenStatus(ports_.meldungen);
+    if (!liesInStatusRange())
+        tellOtherStatus(ports_.boxes);
 }
 
-bool Verwendungsseite::hatZugriff()
+bool RelationPage::hasAccess()
 {
-    const bool zugriff = liegtImStatusbereich();
-    if (!zugriff)
-        meldeKeinenZugriff(ports_.meldungen, art_->zugriffAuf);
-    return zugriff;
+    const bool access = liesInStatusRange();
+    if (!access)
+        tellNoAccess(ports_.boxes, kind_->accessTo);
+    return access;
 }
 
 // --- preview ---------------------------------------------------------------------------------------------------
 
-bool Verwendungsseite::ladeVorschau()
+bool RelationPage::loadPreview()
 {
-    if (ports_.dateien.dateiVorhanden(filename_) && gezeigt_.zeige(art_->ansicht, filename_))
+    if (ports_.files.fileExists(filename_) && shown_.show(kind_->view, filename_))
         return true;
-    leereVorschau();
-    meldeKeineVorschau(ports_.meldungen, filename_);
+    clearPreview();
+    tellNoPreview(ports_.boxes, filename_);
     return false;
 }
 
-void Verwendungsseite::leereVorschau()
+void RelationPage::clearPreview()
 {
-    if (zeigtVorschau())
-        gezeigt_.leere(art_->ansicht);
+    if (showsPreview())
+        shown_.clear(kind_->view);
 }
 
-bool Verwendungsseite::zeigtVorschau() const
+bool RelationPage::showsPreview() const
 {
-    return art_ && !gezeigt_.datei(art_->ansicht).empty();
+    return kind_ && !shown_.file(kind_->view).empty();
 }
 
-void Verwendungsseite::setzeGrafik(bool ChViewGrafik)
+void RelationPage::setGraphic(bool ChViewGrafik)
 {
-    grafik_ = ChViewGrafik;
+    graphic_ = ChViewGrafik;
     perform([&] {
         if (!ChViewGrafik)
-            leereVorschau();
-        else if (art_->seite == InfoSeite::BestehtAus || hatZugriff())
-            ladeVorschau();
+            clearPreview();
+        else if (kind_->page == InfoPageId::ConsistsOf || hasAccess())
+            loadPreview();
         panels_.showFile(filename_);
     });
 }
 
-void Verwendungsseite::anschauen()
+void RelationPage::openInViewer()
 {
     perform([&] {
-        if (!bedienbar() || !hatZugriff() || !ladeVorschau())
+        if (!usable() || !hasAccess() || !loadPreview())
             return;
-        grafik_ = true;
+        graphic_ = true;
         panels_.showFile(filename_);
     });
 }
 
 // --- what can be done with the document ------------------------------------------------------------------------
 
-void Verwendungsseite::pfadInZwSp()
+void RelationPage::pathToClipboard()
 {
     perform([&] {
-        if (bedienbar())
-            ports_.zwischenablage.setzeText(filename_);
+        if (usable())
+            ports_.clipboard.setText(filename_);
     });
 }
 

@@ -12,67 +12,67 @@ namespace quelvarn {
 
 class DocumentPanels;
 class DocumentTables;
-class GezeigteDateien;
+class ShownFiles;
 struct SessionState;
-struct Verwendungsart;
+struct RelationKind;
 
 // One of the six pages of composition and where-used: the rows of the document shown, the document of the current
 // row, and what can be done with it. Only one of them stands on the right at a time.
-class Verwendungsseite
+class RelationPage
 {
 public:
-    Verwendungsseite(SessionState& session, Operations& operations, const DocumentTables& tables,
-                     DocumentPanels& panels, GezeigteDateien& gezeigt);
+    RelationPage(SessionState& session, Operations& operations, const DocumentTables& tables, DocumentPanels& panels,
+                 ShownFiles& shown);
 
     // --- operations ---
-    void zeileGewaehlt(std::size_t position);
-    void setzeGrafik(bool ChViewGrafik);
-    void anschauen();
-    void pfadInZwSp();
+    void rowChosen(std::size_t position);
+    void setGraphic(bool ChViewGrafik);
+    void openInViewer();
+    void pathToClipboard();
 
     // --- for what leads away from the page (relation_actions.h) ---
     // Runs where there are rows, with the box of this page.
     void perform(const std::function<void()>& operation);
-    const DokuTyp* type() const { return dokument_.typ; } // Of the current row's document; nullptr for none.
+    const DocumentType* type() const { return document_.type; } // Of the current row's document; nullptr for none.
 
     // --- for the document page; faults pass through ---
-    void fuelle(const Verwendungsart& art);
-    void leere();
+    void fill(const RelationKind& kind);
+    void clear();
 
     // --- state ---
-    const Verwendungsart* art() const { return art_; } // nullptr while none of the pages is shown.
-    const Recordset& zeilen() const { return zeilen_; }
-    unsigned fassung() const { return fassung_; } // Rises when the page is filled.
-    bool hatZeilen() const { return art_ && zeilen_.offen() && zeilen_.RecordCount() > 0; }
+    const RelationKind* kind() const { return kind_; } // nullptr while none of the pages is shown.
+    const Recordset& rows() const { return rows_; }
+    unsigned generation() const { return generation_; } // Rises when the page is filled.
+    bool hasRows() const { return kind_ && rows_.open() && rows_.RecordCount() > 0; }
     // The document of the current row; "" for none.
     const std::string& filename() const { return filename_; }
-    const AllgemeineSeite& details() const { return dokument_.details; }
-    int SondertabelleNr() const { return dokument_.SondertabelleNr; }
+    const GeneralPage& details() const { return document_.details; }
+    int SondertabelleNr() const { return document_.SondertabelleNr; }
     // The buttons of the tool bar need a row whose file belongs to a table.
-    bool bedienbar() const { return dokument_.typ != nullptr; }
-    bool ChViewGrafik() const { return grafik_; }
-    bool zeigtVorschau() const; // In place of the details.
+    bool usable() const { return document_.type != nullptr; }
+    bool ChViewGrafik() const { return graphic_; }
+    bool showsPreview() const; // In place of the details.
 
 private:
-    void leseZeile();
-    bool liegtImStatusbereich() const;
-    void pruefeBestandteil();
-    bool hatZugriff();
-    bool ladeVorschau();
-    void leereVorschau();
+    void readRow();
+    bool liesInStatusRange() const;
+    void checkComponent();
+    bool hasAccess();
+    bool loadPreview();
+    void clearPreview();
 
     SessionState& session_;
     Operations& operations_;
     Ports& ports_;
-    GezeigteDateien& gezeigt_;
+    ShownFiles& shown_;
     const DocumentTables& tables_;
     DocumentPanels& panels_;
-    const Verwendungsart* art_ = nullptr;
-    Recordset zeilen_;
-    unsigned fassung_ = 0;
+    const RelationKind* kind_ = nullptr;
+    Recordset rows_;
+    unsigned generation_ = 0;
     std::string filename_;
-    Verwendungsdokument dokument_;
-    bool grafik_ = false;
+    RelationDocument document_;
+    bool graphic_ = false;
 };
 
 } // namespace quelvarn

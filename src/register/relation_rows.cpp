@@ -17,149 +17,150 @@ namespace quelvarn {
 namespace {
 
 // A document without a path is used nowhere: null.
-sql::AusdruckZeiger bedingung(const Verbindungstabelle& tabelle, const DokuRecord& record, std::string_view pfad)
+sql::ExpressionPointer condition(const LinkTable& table, const DokuRecord& record, std::string_view documentPath)
 {
-    if (!tabelle.pfad.empty())
-        return pfad.empty() ? nullptr : sql::equal(tabelle.pfad, pfad);
-    return sql::all(sql::equal(tabelle.DokuBez, record.DokuBez), sql::equal(tabelle.RevBez, record.RevBez));
+    if (!table.documentPath.empty())
+        return documentPath.empty() ? nullptr : sql::equal(table.documentPath, documentPath);
+    return sql::all(sql::equal(table.DokuBez, record.DokuBez), sql::equal(table.RevBez, record.RevBez));
 }
 
-bool istTeil(int dokuArt)
+bool isPart(int documentKind)
 {
-    return dokuArt == 1 || dokuArt == 4 || dokuArt == 6;
+    return documentKind == 1 || documentKind == 4 || documentKind == 6;
 }
 
-const Verbindungstabelle& quelle(const Verwendungsart& art, const DokuRecord& record)
+const LinkTable& source(const RelationKind& kind, const DokuRecord& record)
 {
-    const bool zweite = art.quellwahl == Quellwahl::NachTyp && !istTeil(record.DokuArt);
-    return art.tabellen[zweite ? 1 : 0];
+    const bool second = kind.sourceChoice == SourceChoice::ByType && !isPart(record.DokuArt);
+    return kind.tables[second ? 1 : 0];
 }
 
-Recordset oeffne(Connection& verbindung, const Verbindungstabelle& tabelle, sql::AusdruckZeiger bedingung)
+Recordset open(Connection& connection, const LinkTable& table, sql::ExpressionPointer condition)
 {
-    Recordset zeilen;
-    if (!bedingung)
-        return zeilen;
-    sql::Select select = sql::Query(tabelle.tabelle).distinct().where(std::move(bedingung));
-    for (const std::string& spalte : split(tabelle.spalten, ',')) {
-        select.spalten.emplace_back(trim(spalte));
-        select.orderBy.push_back({select.spalten.back(), false});
+    Recordset rows;
+    if (!condition)
+        return rows;
+    sql::Select select = sql::Query(table.table).distinct().where(std::move(condition));
+    for (const std::string& column : split(table.columns, ',')) {
+        select.columns.emplace_back(trim(column));
+        select.orderBy.push_back({select.columns.back(), false});
     }
-    zeilen.Open(std::move(select), verbindung);
-    return zeilen;
+    rows.Open(std::move(select), connection);
+    return rows;
 }
 
 // One list of the paths of several tables, with the names of the files.
-Recordset vereinigt(Connection& verbindung, const Verwendungsart& art, const DokuRecord& record, std::string_view pfad)
+Recordset united(Connection& connection, const RelationKind& kind, const DokuRecord& record,
+                 std::string_view documentPath)
 {
-    Recordset alle;
-    alle.FeldAnhaengen(art.felder.Dateiname, FeldTyp::Text);
-    alle.FeldAnhaengen(art.felder.filename, FeldTyp::Text);
-    alle.Open();
-    for (const Verbindungstabelle& tabelle : art.tabellen) {
-        Recordset teil = oeffne(verbindung, tabelle, bedingung(tabelle, record, pfad));
-        for (; !teil.Eof(); teil.MoveNext()) {
-            std::string filename = teil.Text(tabelle.spalten);
-            alle.AddNew();
-            alle.setzeFeld(art.felder.Dateiname, DateiName(filename));
-            alle.setzeFeld(art.felder.filename, std::move(filename));
+    Recordset all;
+    all.appendField(kind.fields.Dateiname, FieldType::Text);
+    all.appendField(kind.fields.filename, FieldType::Text);
+    all.Open();
+    for (const LinkTable& table : kind.tables) {
+        Recordset part = open(connection, table, condition(table, record, documentPath));
+        for (; !part.Eof(); part.MoveNext()) {
+            std::string filename = part.Text(table.columns);
+            all.AddNew();
+            all.setField(kind.fields.Dateiname, DateiName(filename));
+            all.setField(kind.fields.filename, std::move(filename));
         }
     }
-    if (!alle.leer()) {
-        alle.Update();
-        alle.MoveFirst();
+    if (!all.empty()) {
+        all.Update();
+        all.MoveFirst();
     }
-    return alle;
+    return all;
 }
 
-bool lese(Connection& verbindung, const DokuTyp& typ, sql::AusdruckZeiger bedingung, AllgemeineSeite& details)
+bool read(Connection& connection, const DocumentType& type, sql::ExpressionPointer condition, GeneralPage& details)
 {
-    Recordset zeile;
-    zeile.Open(sql::Query(typ.tabelle).where(std::move(bedingung)), verbindung);
-    if (zeile.leer())
+    Recordset row;
+    row.Open(sql::Query(type.table).where(std::move(condition)), connection);
+    if (row.empty())
         return false;
-    details = allgemeineSeite(leseDokuRecord(zeile, typ), {}, typ, false, true);
+    details = generalPage(readDocumentRecord(row, type), {}, type, false, true);
     return true;
 }
 
-const DokuTyp& typVon(std::string_view schluessel)
+const DocumentType& typeOf(std::string_view key)
 {
-    return *std::ranges::find(DOKUTYPEN, schluessel, &DokuTyp::schluessel);
+    return *std::ranges::find(DOCUMENT_TYPES, key, &DocumentType::key);
 }
 
 } // namespace
 
-bool gibtEsVerwendung(Connection& verbindung, const Verwendungsart& art, const DokuRecord& record,
-                      std::string_view pfad)
+bool hasRelation(Connection& connection, const RelationKind& kind, const DokuRecord& record,
+                 std::string_view documentPath)
 {
-    const Verbindungstabelle& tabelle = quelle(art, record);
-    sql::AusdruckZeiger wo = bedingung(tabelle, record, pfad);
-    return wo &&
-           rowExists(verbindung, tabelle.tabelle, tabelle.pfad.empty() ? tabelle.DokuBez : tabelle.pfad, std::move(wo));
+    const LinkTable& table = source(kind, record);
+    sql::ExpressionPointer wo = condition(table, record, documentPath);
+    return wo && rowExists(connection, table.table, table.documentPath.empty() ? table.DokuBez : table.documentPath,
+                           std::move(wo));
 }
 
-Recordset verwendungszeilen(Connection& verbindung, const Verwendungsart& art, const DokuRecord& record,
-                            std::string_view pfad)
+Recordset relationRows(Connection& connection, const RelationKind& kind, const DokuRecord& record,
+                       std::string_view documentPath)
 {
-    if (art.quellwahl == Quellwahl::Alle)
-        return vereinigt(verbindung, art, record, pfad);
-    const Verbindungstabelle& tabelle = quelle(art, record);
-    return oeffne(verbindung, tabelle, bedingung(tabelle, record, pfad));
+    if (kind.sourceChoice == SourceChoice::All)
+        return united(connection, kind, record, documentPath);
+    const LinkTable& table = source(kind, record);
+    return open(connection, table, condition(table, record, documentPath));
 }
 
-Verwendungsdokument dokumentZu(Connection& verbindung, const Verwendungsart& art, const Recordset& zeile)
+RelationDocument documentAt(Connection& connection, const RelationKind& kind, const Recordset& row)
 {
-    Verwendungsdokument dokument;
-    if (!art.bestandteile()) {
-        dokument.typ = &typVon(art.zieltyp);
-        lese(verbindung, *dokument.typ,
-             sql::all(sql::equal("DokuBez", zeile.Text(art.felder.DokuBez)),
-                      sql::equal("RevBez", zeile.Text(art.felder.RevBez))),
-             dokument.details);
-        return dokument;
+    RelationDocument document;
+    if (!kind.components()) {
+        document.type = &typeOf(kind.targetType);
+        read(connection, *document.type,
+             sql::all(sql::equal("DokuBez", row.Text(kind.fields.DokuBez)),
+                      sql::equal("RevBez", row.Text(kind.fields.RevBez))),
+             document.details);
+        return document;
     }
-    const std::string filename = zeile.Text(art.felder.filename);
-    dokument.typ = findTypZurDatei(filename);
-    const DokuTyp& erste = dokument.typ ? *dokument.typ : typVon("Draft");
-    if (lese(verbindung, erste, sql::equal("filename", filename), dokument.details))
-        return dokument;
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        if (typ.sondertabelle == 0 || !lese(verbindung, typ, sql::equal("filename", filename), dokument.details))
+    const std::string filename = row.Text(kind.fields.filename);
+    document.type = findTypeOfFile(filename);
+    const DocumentType& first = document.type ? *document.type : typeOf("Draft");
+    if (read(connection, first, sql::equal("filename", filename), document.details))
+        return document;
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        if (type.specialTable == 0 || !read(connection, type, sql::equal("filename", filename), document.details))
             continue;
-        dokument.typ = &typ;
-        dokument.SondertabelleNr = typ.sondertabelle;
+        document.type = &type;
+        document.SondertabelleNr = type.specialTable;
         break;
     }
-    return dokument;
+    return document;
 }
 
-std::optional<Dokumentname> findDokument(Connection& verbindung, const DokuTyp& typ, std::string_view filename)
+std::optional<DocumentName> findDocument(Connection& connection, const DocumentType& type, std::string_view filename)
 {
-    std::vector<Dokumentname> names = documentsWithPath(verbindung, typ, filename);
+    std::vector<DocumentName> names = documentsWithPath(connection, type, filename);
     return names.empty() ? std::nullopt : std::optional(std::move(names.front()));
 }
 
-std::vector<Dokumentname> documentsWithPath(Connection& verbindung, const DokuTyp& typ, std::string_view filename)
+std::vector<DocumentName> documentsWithPath(Connection& connection, const DocumentType& type, std::string_view filename)
 {
-    std::vector<Dokumentname> names;
-    const auto rows = verbindung.engine().lese(
-        sql::Query(typ.tabelle).columns({"DokuBez", "RevBez"}).where(sql::equal("filename", filename)),
-        MitSchluessel::Nein);
+    std::vector<DocumentName> names;
+    const auto rows = connection.engine().read(
+        sql::Query(type.table).columns({"DokuBez", "RevBez"}).where(sql::equal("filename", filename)), WithKey::No);
     while (rows->next())
         names.push_back({std::string(rows->text(0)), std::string(rows->text(1))});
     return names;
 }
 
-const DokuTyp* findTypZurDatei(std::string_view filename)
+const DocumentType* findTypeOfFile(std::string_view filename)
 {
-    const int code = dateiTypCode(filename);
-    const auto typ = std::ranges::find(DOKUTYPEN, code, &DokuTyp::dokuArt);
-    return code == 0 || typ == DOKUTYPEN.end() ? nullptr : &*typ;
+    const int code = fileTypeCode(filename);
+    const auto type = std::ranges::find(DOCUMENT_TYPES, code, &DocumentType::documentKind);
+    return code == 0 || type == DOCUMENT_TYPES.end() ? nullptr : &*type;
 }
 
-bool istSichtbar(Connection& verbindung, const DokuTyp& typ, std::string_view filename, std::string_view WhereStatus)
+bool isVisible(Connection& connection, const DocumentType& type, std::string_view filename,
+               std::string_view WhereStatus)
 {
-    return WhereStatus.empty() || rowExists(verbindung, typ.tabelle, "filename",
+    return WhereStatus.empty() || rowExists(connection, type.table, "filename",
                                             sql::all(sql::equal("filename", filename), sql::statusScope(WhereStatus)));
 }
 

@@ -18,8 +18,8 @@ void ShownDocument::show(int tab)
         return;
     if (!table.hasRows())
         return clear(tab);
-    session_.AktDoku = table.readRecord().alsAktDoku(table.type().typNachZeile);
-    if (session_.Tree.Knoten)
+    session_.AktDoku = table.readRecord().asAktDoku(table.type().typeAfterRow);
+    if (session_.Tree.Node)
         info_.readFile();
     tree_.BaumAufbauen(tab);
     info_.showRow();

@@ -24,8 +24,8 @@ void TableTabs::StartTabelleZeigen()
         forgetDatabase();
         shownDatabase_ = session_.database.DatenbankPfad;
         session_.pages.FormSEDokuGeladen = true;
-        for (const DokuTyp& type : DOKUTYPEN) {
-            if (type.sondertabelle == 0 && type.mehrzahl == session_.pages.Starttabelle)
+        for (const DocumentType& type : DOCUMENT_TYPES) {
+            if (type.specialTable == 0 && type.plural == session_.pages.Starttabelle)
                 goTo(type.tab);
         }
     });
@@ -33,7 +33,7 @@ void TableTabs::StartTabelleZeigen()
 
 void TableTabs::chooseTab(int tab)
 {
-    if (tab < 0 || tab >= ANZAHL_DOKUTYPEN)
+    if (tab < 0 || tab >= DOCUMENT_TYPE_COUNT)
         return;
     operations_.perform(Part::Document, "Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!", [&] { goTo(tab); });
 }
@@ -69,7 +69,7 @@ void TableTabs::rememberCurrent()
 {
     const DocumentTable& table = tables_.current();
     if (table.hasRows())
-        session_.AktDoku = table.record().alsAktDoku(table.type().typNachTabwechsel);
+        session_.AktDoku = table.record().asAktDoku(table.type().typeAfterTabChange);
 }
 
 void TableTabs::showRows()
@@ -83,7 +83,7 @@ void TableTabs::showRows()
 void TableTabs::ZeileAktualisieren(int tab)
 {
     Recordset& rows = tables_[tab].visible();
-    if (rows.offen() && !rows.leer() && (rows.Eof() || rows.Bof()))
+    if (rows.open() && !rows.empty() && (rows.Eof() || rows.Bof()))
         rows.MoveFirst();
     shown_.show(tab);
 }
@@ -93,9 +93,9 @@ void TableTabs::chooseRow(std::size_t position)
 {
     operations_.report(Part::Document, [&] {
         Recordset& rows = tables_.current().visible();
-        if (!rows.offen() || position >= rows.RecordCount())
+        if (!rows.open() || position >= rows.RecordCount())
             return;
-        rows.setzeAbsolutePosition(position);
+        rows.setAbsolutePosition(position);
         ZeileAktualisieren(tables_.tab());
     });
 }
@@ -104,7 +104,7 @@ void TableTabs::nextRow()
 {
     operations_.report(Part::Document, [&] {
         Recordset& rows = tables_.current().visible();
-        if (rows.offen() && !rows.Eof())
+        if (rows.open() && !rows.Eof())
             rows.MoveNext();
         ZeileAktualisieren(tables_.tab());
     });
@@ -133,11 +133,11 @@ void TableTabs::rebuild()
 void TableTabs::reopen(int tab)
 {
     DocumentTable& table = tables_[tab];
-    const Merkzeile row = merkeZeile(table);
+    const RowMemory row = rememberRow(table);
     tables_.reload(tab);
     tables_.showAll(tab, forgetFilter(filter_, tab));
     if (table.hasRows())
-        stelleAuf(table.rows(), row);
+        moveTo(table.rows(), row);
     tables_.indicator(tab).clear();
     goTo(tab);
 }
@@ -171,7 +171,7 @@ void TableTabs::forgetDatabase()
 {
     shown_.clearAll();
     tables_.closeAll(); // A grid sees that its rows are gone.
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab)
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab)
         forgetFilter(filter_, tab);
     shownDatabase_.clear();
     operations_.changed(Part::Document);

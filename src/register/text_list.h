@@ -9,40 +9,40 @@
 namespace quelvarn {
 
 // A recordset in memory under construction: fields first, then its rows.
-class Textliste
+class TextList
 {
 public:
-    explicit Textliste(std::initializer_list<std::string_view> felder)
+    explicit TextList(std::initializer_list<std::string_view> fields)
     {
-        for (const std::string_view feld : felder)
-            zeilen_.FeldAnhaengen(feld, FeldTyp::Text);
+        for (const std::string_view field : fields)
+            rows_.appendField(field, FieldType::Text);
     }
-    Textliste& mit(std::string_view feld, FeldTyp typ)
+    TextList& with(std::string_view field, FieldType type)
     {
-        zeilen_.FeldAnhaengen(feld, typ);
+        rows_.appendField(field, type);
         return *this;
     }
-    void zeile(std::initializer_list<std::pair<std::string_view, Value>> werte)
+    void row(std::initializer_list<std::pair<std::string_view, Value>> values)
     {
-        if (!zeilen_.offen())
-            zeilen_.Open();
-        zeilen_.AddNew();
-        for (const auto& [feld, wert] : werte)
-            zeilen_.setzeFeld(feld, wert);
-        zeilen_.Update();
+        if (!rows_.open())
+            rows_.Open();
+        rows_.AddNew();
+        for (const auto& [field, value] : values)
+            rows_.setField(field, value);
+        rows_.Update();
     }
     // Stands on the first row.
-    Recordset fertig()
+    Recordset finish()
     {
-        if (!zeilen_.offen())
-            zeilen_.Open();
-        if (!zeilen_.leer())
-            zeilen_.MoveFirst();
-        return std::move(zeilen_);
+        if (!rows_.open())
+            rows_.Open();
+        if (!rows_.empty())
+            rows_.MoveFirst();
+        return std::move(rows_);
     }
 
 private:
-    Recordset zeilen_;
+    Recordset rows_;
 };
 
 } // namespace quelvarn

@@ -19,145 +19,144 @@ namespace quelvarn {
 namespace {
 
 // A line copied from a text brings its end along.
-std::string ohneZeilenende(std::string text)
+std::string withoutLineEnd(std::string text)
 {
     for (int i = 0; i < 2 && (text.ends_with('\n') || text.ends_with('\r')); ++i)
         text.pop_back();
     return text;
 }
 
-std::string nichtGefunden(const std::string& pfad, const DokuTyp& typ)
+std::string notFound(const std::string& documentPath, const DocumentType& type)
 {
-    std::string text = zeilen({
-        pfad,
+    std::string text = lines({
+        documentPath,
         "Datei ist in der Tabelle nicht vorhanden!",
         "oder",
         "es ist ein <Neuaufbau> erforderlich.",
         "oder",
         "Sie haben keine Zugriffsberechtigung!",
     });
-    if (typ.schluessel == "Part") // Standard parts have the same ending.
-        text += "\n" + zeilen({"oder", "ist Bestandteil der Sondertabellen!", "(z.B. Normteile)"});
+    if (type.key == "Part") // Standard parts have the same ending.
+        text += "\n" + lines({"oder", "ist Bestandteil der Sondertabellen!", "(z.B. Normteile)"});
     return text;
 }
 
 } // namespace
 
-struct ObereLeiste::Befehl
+struct TopBar::Command
 {
-    std::string_view schluessel;
-    void (ObereLeiste::*tue)(bool an);
-    bool brauchtDokument = false;
+    std::string_view key;
+    void (TopBar::*tue)(bool on);
+    bool needsDocument = false;
 };
 
-const ObereLeiste::Befehl ObereLeiste::BEFEHLE[] = {
-    {"Neuaufbau", &ObereLeiste::neuaufbau},
-    {"Anschauen", &ObereLeiste::anschauen, true},
-    {"Pfad in ZwSp", &ObereLeiste::pfadInZwSp, true},
-    {"Pfad aus ZwSp", &ObereLeiste::pfadAusZwSp},
-    {"Zu Favoriten", &ObereLeiste::zuFavoriten, true},
-    {"Favoriten....", &ObereLeiste::zeigeFavoriten},
-    {"In Benutzung..", &ObereLeiste::inBenutzung},
-    {"Drucker....", &ObereLeiste::drucker},
+const TopBar::Command TopBar::COMMANDS[] = {
+    {"Neuaufbau", &TopBar::rebuild},
+    {"Anschauen", &TopBar::openInViewer, true},
+    {"Pfad in ZwSp", &TopBar::pathToClipboard, true},
+    {"Pfad aus ZwSp", &TopBar::pathFromClipboard},
+    {"Zu Favoriten", &TopBar::toFavourites, true},
+    {"Favoriten....", &TopBar::showFavourites},
+    {"In Benutzung..", &TopBar::inUse},
+    {"Drucker....", &TopBar::printers},
 };
 
-void ObereLeiste::klick(std::string_view schluessel, bool an)
+void TopBar::click(std::string_view key, bool on)
 {
-    const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
-    if (befehl != std::end(BEFEHLE))
-        (this->*befehl->tue)(an);
+    const auto* command = std::ranges::find(COMMANDS, key, &Command::key);
+    if (command != std::end(COMMANDS))
+        (this->*command->tue)(on);
 }
 
-bool ObereLeiste::bedienbar(std::string_view schluessel) const
+bool TopBar::usable(std::string_view key) const
 {
     if (viewer_.isInFront())
-        return schluessel == "Anschauen";
+        return key == "Anschauen";
     // Where use is not registered its box tells what to do; the list of users has no page yet.
-    if (schluessel == "In Benutzung..")
+    if (key == "In Benutzung..")
         return !session_.use.CheckInOutOn;
-    const auto* befehl = std::ranges::find(BEFEHLE, schluessel, &Befehl::schluessel);
-    return befehl != std::end(BEFEHLE) && (!befehl->brauchtDokument || tables_.current().hasRows());
+    const auto* command = std::ranges::find(COMMANDS, key, &Command::key);
+    return command != std::end(COMMANDS) && (!command->needsDocument || tables_.current().hasRows());
 }
 
-bool ObereLeiste::gedrueckt(std::string_view schluessel) const
+bool TopBar::pressed(std::string_view key) const
 {
-    return (schluessel == "Anschauen" && viewer_.isInFront()) ||
-           (schluessel == "Favoriten...." && favoriten_.zeigtFavoriten());
+    return (key == "Anschauen" && viewer_.isInFront()) || (key == "Favoriten...." && favourites_.showsFavourites());
 }
 
-void ObereLeiste::neuaufbau(bool /*an*/)
+void TopBar::rebuild(bool /*an*/)
 {
     tabs_.rebuild();
 }
 
-void ObereLeiste::anschauen(bool an)
+void TopBar::openInViewer(bool on)
 {
-    viewer_.showDocument(an);
+    viewer_.showDocument(on);
 }
 
-void ObereLeiste::pfadInZwSp(bool /*an*/)
+void TopBar::pathToClipboard(bool /*an*/)
 {
-    ports_.zwischenablage.setzeText(session_.AktDoku.filename);
+    ports_.clipboard.setText(session_.AktDoku.filename);
 }
 
-void ObereLeiste::pfadAusZwSp(bool /*an*/)
+void TopBar::pathFromClipboard(bool /*an*/)
 {
-    std::string pfad = ports_.zwischenablage.text();
-    if (pfad.empty())
-        return ports_.meldungen.information("SE-Doku: Zwischenspeicher", "Der Zwischenspeicher ist leer!");
+    std::string documentPath = ports_.clipboard.text();
+    if (documentPath.empty())
+        return ports_.boxes.information("SE-Doku: Zwischenspeicher", "Der Zwischenspeicher ist leer!");
     operations_.perform(Part::TopBar, "SE-Doku: Zwischenspeicher", "Fehler beim Suchen des Dokuments!", [&] {
-        pfad = ohneZeilenende(std::move(pfad));
-        UniversalNachLaufwerk(pfad, ports_);
-        if (!ports_.dateien.dateiVorhanden(pfad))
-            meldeDateiFehlt(ports_.meldungen, pfad);
-        else if (DateiTyp(pfad, ports_.meldungen) != 0)
-            wechsleZu(pfad);
+        documentPath = withoutLineEnd(std::move(documentPath));
+        UniversalNachLaufwerk(documentPath, ports_);
+        if (!ports_.files.fileExists(documentPath))
+            tellFileMissing(ports_.boxes, documentPath);
+        else if (DateiTyp(documentPath, ports_.boxes) != 0)
+            switchTo(documentPath);
     });
 }
 
-void ObereLeiste::wechsleZu(const std::string& pfad)
+void TopBar::switchTo(const std::string& documentPath)
 {
-    const DokuTyp& typ = *std::ranges::find(DOKUTYPEN, Dateiendung(pfad), &DokuTyp::endung);
-    jump_.bereiteVor(typ, HINWEIS_DOKUMENT);
-    const bool gefunden = jump_.sucheDatei(typ, pfad);
-    tabs_.chooseTab(typ.tab);
-    if (!gefunden)
-        ports_.meldungen.warnung("Suchergebnis", nichtGefunden(pfad, typ));
+    const DocumentType& type = *std::ranges::find(DOCUMENT_TYPES, Extension(documentPath), &DocumentType::extension);
+    jump_.prepare(type, HINT_DOCUMENT);
+    const bool found = jump_.searchFile(type, documentPath);
+    tabs_.chooseTab(type.tab);
+    if (!found)
+        ports_.boxes.warn("Suchergebnis", notFound(documentPath, type));
 }
 
-void ObereLeiste::zuFavoriten(bool /*an*/)
+void TopBar::toFavourites(bool /*an*/)
 {
-    favoriten_.zuFavoriten();
+    favourites_.toFavourites();
 }
 
-void ObereLeiste::zeigeFavoriten(bool an)
+void TopBar::showFavourites(bool on)
 {
-    favoriten_.FavoritenZeigen(an);
+    favourites_.FavoritenZeigen(on);
 }
 
 // The list of users behind the button is there only when uses are registered.
-void ObereLeiste::inBenutzung(bool /*an*/)
+void TopBar::inUse(bool /*an*/)
 {
     if (!session_.use.CheckInOutOn)
-        ports_.meldungen.warnung("CheckInOut der Benutzung",
-                                 zeilen({
-                                     "Die Benutzung wird nicht registriert, da 'CheckInOut' in der",
-                                     "Ini-Tabelle der Datenbank auf '0' gesetzt ist oder fehlt!",
-                                     "",
-                                     "Eintrag muss lauten:",
-                                     "Spalte 'Feld1' = '!QV_Ini'",
-                                     "Spalte 'Feld2' = 'OnOff'",
-                                     "Spalte 'Feld3' = 'CheckInOut'",
-                                     "Spalte 'Feld4' = '1'",
-                                     "",
-                                     "Nach Änderung muss Quelvarn neu gestartet werden.",
-                                 }));
+        ports_.boxes.warn("CheckInOut der Benutzung",
+                          lines({
+                              "Die Benutzung wird nicht registriert, da 'CheckInOut' in der",
+                              "Ini-Tabelle der Datenbank auf '0' gesetzt ist oder fehlt!",
+                              "",
+                              "Eintrag muss lauten:",
+                              "Spalte 'Feld1' = '!QV_Ini'",
+                              "Spalte 'Feld2' = 'OnOff'",
+                              "Spalte 'Feld3' = 'CheckInOut'",
+                              "Spalte 'Feld4' = '1'",
+                              "",
+                              "Nach Änderung muss Quelvarn neu gestartet werden.",
+                          }));
 }
 
-void ObereLeiste::drucker(bool /*an*/)
+void TopBar::printers(bool /*an*/)
 {
-    if (druckerdialog)
-        druckerdialog();
+    if (printerDialog)
+        printerDialog();
 }
 
 } // namespace quelvarn

@@ -10,45 +10,45 @@
 namespace quelvarn {
 
 class DocumentTables;
-class Dokumentsprung;
+class DocumentJump;
 class TableTabs;
 class ViewerArea;
 struct SessionState;
 
 // What the buttons over the tables do with the document shown (ToolbarSEDokTop).
-class ObereLeiste
+class TopBar
 {
 public:
-    ObereLeiste(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
-                ViewerArea& viewer, Dokumentsprung& jump)
+    TopBar(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs, ViewerArea& viewer,
+           DocumentJump& jump)
         : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs),
-          viewer_(viewer), jump_(jump), favoriten_(session, operations, tables, tabs, jump)
+          viewer_(viewer), jump_(jump), favourites_(session, operations, tables, tabs, jump)
     {}
 
     // A button was clicked, told apart by its key; a key without work does nothing. `an` counts for toggles.
-    void klick(std::string_view schluessel, bool an = true);
+    void click(std::string_view key, bool on = true);
 
-    Favoriten& favoriten() { return favoriten_; }
+    Favourites& favourites() { return favourites_; }
 
     // --- state ---
-    bool bedienbar(std::string_view schluessel) const;
-    bool gedrueckt(std::string_view schluessel) const;
+    bool usable(std::string_view key) const;
+    bool pressed(std::string_view key) const;
 
-    std::function<void()> druckerdialog; // Of the system; nothing here follows from it.
+    std::function<void()> printerDialog; // Of the system; nothing here follows from it.
 
 private:
-    struct Befehl;
-    static const Befehl BEFEHLE[];
+    struct Command;
+    static const Command COMMANDS[];
 
-    void neuaufbau(bool an);
-    void anschauen(bool an);
-    void pfadInZwSp(bool an);
-    void pfadAusZwSp(bool an);
-    void zuFavoriten(bool an);
-    void zeigeFavoriten(bool an);
-    void inBenutzung(bool an);
-    void drucker(bool an);
-    void wechsleZu(const std::string& pfad);
+    void rebuild(bool on);
+    void openInViewer(bool on);
+    void pathToClipboard(bool on);
+    void pathFromClipboard(bool on);
+    void toFavourites(bool on);
+    void showFavourites(bool on);
+    void inUse(bool on);
+    void printers(bool on);
+    void switchTo(const std::string& documentPath);
 
     SessionState& session_;
     Operations& operations_;
@@ -56,8 +56,8 @@ private:
     DocumentTables& tables_;
     TableTabs& tabs_;
     ViewerArea& viewer_;
-    Dokumentsprung& jump_;
-    Favoriten favoriten_;
+    DocumentJump& jump_;
+    Favourites favourites_;
 };
 
 } // namespace quelvarn

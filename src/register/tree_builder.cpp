@@ -11,7 +11,7 @@
 namespace quelvarn {
 namespace {
 
-Knoten node(std::string_view key, std::string_view text)
+Node node(std::string_view key, std::string_view text)
 {
     return {std::string(key), std::string(text), false, false, {}};
 }
@@ -20,68 +20,68 @@ Knoten node(std::string_view key, std::string_view text)
 bool hasMainFeatures(const DokuRecord& record)
 {
     const double sum = std::accumulate(record.Hauptwert.begin(), record.Hauptwert.end(), 0.0);
-    return sum != 0 || !record.Hauptmerkmal[0].empty() || !record.Hauptmerkmal[1].empty() ||
-           !record.Hauptmerkmal[2].empty();
+    return sum != 0 || !record.StructureFeature[0].empty() || !record.StructureFeature[1].empty() ||
+           !record.StructureFeature[2].empty();
 }
 
-Knoten propertiesNode(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
-                      const Baumschalter& switches)
+Node propertiesNode(const DokuRecord& record, const DocumentFacts& facts, const DocumentType& type,
+                    const TreeSwitches& switches)
 {
-    Knoten properties = node("KeyEigen", knoten::EIGENSCHAFTEN);
+    Node properties = node("KeyEigen", nodes::PROPERTIES);
     const auto child = [&](bool there, std::string_view text) {
         if (there)
-            properties.kinder.push_back(node("", text));
+            properties.children.push_back(node("", text));
     };
-    child(true, knoten::DATEI);
+    child(true, nodes::FILE);
     if (!facts.properties)
         return properties;
-    const bool ofFiles = type.sondertabelle == 0;
-    child(switches.HauptMerk && hasMainFeatures(record), knoten::HAUPTMERKMALE);
-    child(switches.BenutzDef && facts.properties->userDefined, knoten::BENUTZDEF);
-    child(switches.Versendet && ofFiles && facts.properties->sent, knoten::VERSENDET);
-    child(switches.StichKomm && !(record.Stichwoerter.empty() && record.Kommentar.empty()), knoten::STICHKOMM);
-    child(facts.properties->additionalDocuments, knoten::ZUSDOKU);
+    const bool ofFiles = type.specialTable == 0;
+    child(switches.HauptMerk && hasMainFeatures(record), nodes::STRUCTURE_FEATURES);
+    child(switches.BenutzDef && facts.properties->userDefined, nodes::USER_DEFINED);
+    child(switches.Versendet && ofFiles && facts.properties->sent, nodes::SENT);
+    child(switches.StichKomm && !(record.Stichwoerter.empty() && record.Kommentar.empty()), nodes::KEYWORDS);
+    child(facts.properties->additionalDocuments, nodes::ZUSDOKU);
     return properties;
 }
 
 // The keys of the nodes of composition and where-used, in their order.
 struct RelationNode
 {
-    InfoSeite page;
+    InfoPageId page;
     std::string_view key;
 };
 constexpr std::array RELATION_NODES{
-    RelationNode{InfoSeite::Enthaelt, knoten::ENTHAELT},
-    RelationNode{InfoSeite::InBaugruppe, "EnthaltenInAssemb"},
-    RelationNode{InfoSeite::InZeichnung, "EnthaltenInDraft"},
-    RelationNode{InfoSeite::InSchweissteil, "EnthaltenInWeld"},
-    RelationNode{InfoSeite::EnthaeltBaugruppe, "EnthaeltAssemb"},
+    RelationNode{InfoPageId::Contains, nodes::CONTAINS},
+    RelationNode{InfoPageId::InAssembly, "EnthaltenInAssemb"},
+    RelationNode{InfoPageId::InDrawing, "EnthaltenInDraft"},
+    RelationNode{InfoPageId::InWeldment, "EnthaltenInWeld"},
+    RelationNode{InfoPageId::ContainsAssembly, "EnthaeltAssemb"},
 };
 
 } // namespace
 
-Eigenschaftsbaum treeOf(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
-                        const Baumschalter& switches)
+PropertyTree treeOf(const DokuRecord& record, const DocumentFacts& facts, const DocumentType& type,
+                    const TreeSwitches& switches)
 {
-    Eigenschaftsbaum tree;
+    PropertyTree tree;
     tree.BaumAufgebaut = facts.properties.has_value();
-    const auto add = [&](std::string_view key, std::string_view text) { tree.wurzeln.push_back(node(key, text)); };
-    tree.wurzeln.push_back(propertiesNode(record, facts, type, switches));
-    tree.wurzeln.front().offen = switches.Knoten;
-    if (type.sondertabelle == 0 && switches.Revision && (record.RevBez != "0" || facts.severalRevisions)) {
-        add(knoten::REVISION, knoten::REVISION);
-        tree.wurzeln.back().rot = facts.newerRevision;
+    const auto add = [&](std::string_view key, std::string_view text) { tree.roots.push_back(node(key, text)); };
+    tree.roots.push_back(propertiesNode(record, facts, type, switches));
+    tree.roots.front().open = switches.Node;
+    if (type.specialTable == 0 && switches.Revision && (record.RevBez != "0" || facts.severalRevisions)) {
+        add(nodes::REVISION, nodes::REVISION);
+        tree.roots.back().red = facts.newerRevision;
     }
-    add("KeySmartView", knoten::SMARTVIEWER);
+    add("KeySmartView", nodes::SMARTVIEWER);
     if (facts.tiff)
-        add(knoten::TIFF, knoten::TIFF);
+        add(nodes::TIFF, nodes::TIFF);
     if (facts.pdf)
-        add(knoten::PDF, knoten::PDF);
+        add(nodes::PDF, nodes::PDF);
     for (const auto& [page, key] : RELATION_NODES)
         if (facts.has(page))
-            add(key, verwendungsartVon(page).knoten);
-    if (switches.Verwendung && type.schluessel == "Assemb")
-        add(knoten::BESTEHT_AUS, knoten::BESTEHT_AUS);
+            add(key, relationKindOf(page).node);
+    if (switches.Verwendung && type.key == "Assemb")
+        add(nodes::CONSISTS_OF, nodes::CONSISTS_OF);
     return tree;
 }
 

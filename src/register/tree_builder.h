@@ -4,13 +4,13 @@
 
 namespace quelvarn {
 
-struct Baumschalter;
+struct TreeSwitches;
 struct DocumentFacts;
 struct DokuRecord;
-struct DokuTyp;
+struct DocumentType;
 
 // The property tree of a document. The children of its first node are complete once the facts tell of properties.
-Eigenschaftsbaum treeOf(const DokuRecord& record, const DocumentFacts& facts, const DokuTyp& type,
-                        const Baumschalter& switches);
+PropertyTree treeOf(const DokuRecord& record, const DocumentFacts& facts, const DocumentType& type,
+                    const TreeSwitches& switches);
 
 } // namespace quelvarn

@@ -15,7 +15,7 @@ void TreePanel::BaumAufbauen(int tab)
     const DokuRecord& record = table.record();
     facts_ = {};
     operations_.report([&] {
-        if (session_.Tree.Knoten)
+        if (session_.Tree.Node)
             findPropertyFacts(facts_, record, table.type(), session_);
         findFacts(facts_, record, table.type(), session_, operations_.ports());
     });
@@ -29,41 +29,41 @@ void TreePanel::unfold()
 
 void TreePanel::KinderAufbauen()
 {
-    Eigenschaftsbaum& tree = inFront();
-    if (tree.wurzeln.empty())
+    PropertyTree& tree = inFront();
+    if (tree.roots.empty())
         return;
     const DocumentTable& table = tables_.current();
     operations_.report([&] { findPropertyFacts(facts_, table.record(), table.type(), session_); });
-    std::string chosen = std::move(tree.gewaehlt);
+    std::string chosen = std::move(tree.chosen);
     tree = treeOf(table.record(), facts_, table.type(), session_.Tree);
-    tree.gewaehlt = std::move(chosen);
-    tree.wurzeln.front().offen = true;
+    tree.chosen = std::move(chosen);
+    tree.roots.front().open = true;
 }
 
 void TreePanel::fold()
 {
-    if (!inFront().wurzeln.empty())
-        inFront().wurzeln.front().offen = false;
+    if (!inFront().roots.empty())
+        inFront().roots.front().open = false;
     operations_.changed(Part::Document);
 }
 
 void TreePanel::select(std::string_view node)
 {
-    inFront().gewaehlt = node;
+    inFront().chosen = node;
 }
 
 void TreePanel::clear(int tab)
 {
-    trees_[static_cast<std::size_t>(tab)].leere();
+    trees_[static_cast<std::size_t>(tab)].clear();
     facts_ = {};
 }
 
-const Eigenschaftsbaum& TreePanel::tree() const
+const PropertyTree& TreePanel::tree() const
 {
     return tree(tables_.tab());
 }
 
-Eigenschaftsbaum& TreePanel::inFront()
+PropertyTree& TreePanel::inFront()
 {
     return trees_[static_cast<std::size_t>(tables_.tab())];
 }

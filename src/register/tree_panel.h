@@ -34,19 +34,19 @@ public:
     void clearAll() { trees_ = {}; }
 
     // --- state ---
-    const Eigenschaftsbaum& tree(int tab) const { return trees_[static_cast<std::size_t>(tab)]; }
-    const Eigenschaftsbaum& tree() const;
+    const PropertyTree& tree(int tab) const { return trees_[static_cast<std::size_t>(tab)]; }
+    const PropertyTree& tree() const;
     // Of the document whose tree was built last.
     const DocumentFacts& facts() const { return facts_; }
 
 private:
-    Eigenschaftsbaum& inFront();
+    PropertyTree& inFront();
     void KinderAufbauen();
 
     SessionState& session_;
     Operations& operations_;
     DocumentTables& tables_;
-    std::array<Eigenschaftsbaum, ANZAHL_DOKUTYPEN> trees_;
+    std::array<PropertyTree, DOCUMENT_TYPE_COUNT> trees_;
     DocumentFacts facts_;
 };
 

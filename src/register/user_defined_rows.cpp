@@ -16,65 +16,64 @@
 namespace quelvarn {
 namespace {
 
-using Wertpaar = std::pair<std::string, std::string>; // Name, Wert
+using ValuePair = std::pair<std::string, std::string>; // Name, Wert
 
 // The rows of one document by name: sent-to notes, or all others.
-std::vector<Wertpaar> leseZeilen(Connection& verbindung, std::string_view tabelle, const DokuRecord& record,
-                                 bool versendet)
+std::vector<ValuePair> readRows(Connection& connection, std::string_view table, const DokuRecord& record, bool sent)
 {
-    Recordset zeilen;
-    zeilen.Open(sql::Query(tabelle)
-                    .columns({"Name", "Wert"})
-                    .distinct()
-                    .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez)))
-                    .sortedBy("Name")
-                    .sortedBy("Wert"),
-                verbindung);
-    std::vector<Wertpaar> alle;
-    std::vector<std::string> namen;
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        alle.emplace_back(zeilen.Text("Name"), zeilen.Text("Wert"));
-        namen.push_back(alle.back().first);
+    Recordset rows;
+    rows.Open(sql::Query(table)
+                  .columns({"Name", "Wert"})
+                  .distinct()
+                  .where(sql::all(sql::equal("DokuBez", record.DokuBez), sql::equal("RevBez", record.RevBez)))
+                  .sortedBy("Name")
+                  .sortedBy("Wert"),
+              connection);
+    std::vector<ValuePair> all;
+    std::vector<std::string> names;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        all.emplace_back(rows.Text("Name"), rows.Text("Wert"));
+        names.push_back(all.back().first);
     }
-    const std::set<std::string> bekannt = kennungen(verbindung, namen);
-    std::erase_if(alle, [&](const Wertpaar& zeile) { return bekannt.contains(sortKey(zeile.first)) != versendet; });
-    return alle;
+    const std::set<std::string> known = addressCodes(connection, names);
+    std::erase_if(all, [&](const ValuePair& row) { return known.contains(sortKey(row.first)) != sent; });
+    return all;
 }
 
 } // namespace
 
-Recordset benutzDefListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
+Recordset userDefinedList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record)
 {
-    Textliste liste{"Name", "Wert"};
-    for (const auto& [name, wert] : leseZeilen(verbindung, tabelleBenutzDef, record, false))
-        liste.zeile({{"Name", name}, {"Wert", wert}});
-    return liste.fertig();
+    TextList list{"Name", "Wert"};
+    for (const auto& [name, value] : readRows(connection, tableUserDef, record, false))
+        list.row({{"Name", name}, {"Wert", value}});
+    return list.finish();
 }
 
-Recordset sendToListe(Connection& verbindung, std::string_view tabelleBenutzDef, const DokuRecord& record)
+Recordset sendToList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record)
 {
-    Textliste liste{"SendToDatum", "Kennung", "OrderDateiname", "Orderfilename"};
-    for (const auto& [name, wert] : leseZeilen(verbindung, tabelleBenutzDef, record, true)) {
-        const std::string datei = DateiName(wert);
-        liste.zeile({{"SendToDatum", SendToDatum(datei)},
-                     {"Kennung", name},
-                     {"OrderDateiname", datei},
-                     {"Orderfilename", wert}});
+    TextList list{"SendToDatum", "Kennung", "OrderDateiname", "Orderfilename"};
+    for (const auto& [name, value] : readRows(connection, tableUserDef, record, true)) {
+        const std::string file = DateiName(value);
+        list.row({{"SendToDatum", SendToDatum(file)},
+                  {"Kennung", name},
+                  {"OrderDateiname", file},
+                  {"Orderfilename", value}});
     }
-    return liste.fertig();
+    return list.finish();
 }
 
 std::string SendToDatum(std::string_view OrderDateiname)
 {
-    constexpr std::size_t STEMPEL = 12;
-    constexpr std::size_t MIT_ENDUNG = 16; // "110214103000.txt"
-    if (OrderDateiname.size() < MIT_ENDUNG)
+    constexpr std::size_t STAMP = 12;
+    constexpr std::size_t WITH_EXTENSION = 16; // "110214103000.txt"
+    if (OrderDateiname.size() < WITH_EXTENSION)
         return {};
-    const std::string_view stempel = OrderDateiname.substr(OrderDateiname.size() - MIT_ENDUNG, STEMPEL);
-    if (stempel.find_first_not_of("0123456789") != std::string_view::npos)
+    const std::string_view stamp = OrderDateiname.substr(OrderDateiname.size() - WITH_EXTENSION, STAMP);
+    if (stamp.find_first_not_of("0123456789") != std::string_view::npos)
         return {};
-    return fmt::format("{}.{}.{}  {}:{}", stempel.substr(4, 2), stempel.substr(2, 2), stempel.substr(0, 2),
-                       stempel.substr(6, 2), stempel.substr(8, 2));
+    return fmt::format("{}.{}.{}  {}:{}", stamp.substr(4, 2), stamp.substr(2, 2), stamp.substr(0, 2),
+                       stamp.substr(6, 2), stamp.substr(8, 2));
 }
 
 } // namespace quelvarn

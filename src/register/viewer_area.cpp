@@ -8,19 +8,19 @@
 
 namespace quelvarn {
 
-bool showOrTell(GezeigteDateien& files, Meldungen& boxes, Ansicht place, const std::string& filename)
+bool showOrTell(ShownFiles& files, Boxes& boxes, ViewerPlace place, const std::string& filename)
 {
-    if (files.zeige(place, filename))
+    if (files.show(place, filename))
         return true;
-    boxes.warnung("Anzeigen im Viewer", zeilen({
-                                            "Die Datei:",
-                                            filename,
-                                            "konnte nicht geöffnet werden!",
-                                            "",
-                                            "Mögliche Ursache:",
-                                            "- Falscher Pfad- und/oder Dateiname.",
-                                            "- Kein Zugriffsrecht.",
-                                        }));
+    boxes.warn("Anzeigen im Viewer", lines({
+                                         "Die Datei:",
+                                         filename,
+                                         "konnte nicht geöffnet werden!",
+                                         "",
+                                         "Mögliche Ursache:",
+                                         "- Falscher Pfad- und/oder Dateiname.",
+                                         "- Kein Zugriffsrecht.",
+                                     }));
     return false;
 }
 
@@ -31,7 +31,7 @@ void ViewerArea::showDocument(bool on)
         if (!on)
             return leave();
         if (record.filename.empty() ||
-            !showOrTell(files_, operations_.ports().meldungen, Ansicht::Dokument, record.filename))
+            !showOrTell(files_, operations_.ports().boxes, ViewerPlace::Document, record.filename))
             return;
         inFront_ = true;
         panels_.showViewed(record);
@@ -41,7 +41,7 @@ void ViewerArea::showDocument(bool on)
 void ViewerArea::showTemplate(const std::string& filename)
 {
     operations_.perform(Part::Document, "Anzeigen im Viewer", "Fehler beim Anzeigen der Vorlage!", [&] {
-        if (filename.empty() || !showOrTell(files_, operations_.ports().meldungen, Ansicht::Dokument, filename))
+        if (filename.empty() || !showOrTell(files_, operations_.ports().boxes, ViewerPlace::Document, filename))
             return;
         inFront_ = true;
         panels_.showFile(filename);
@@ -52,7 +52,7 @@ void ViewerArea::leave()
 {
     if (!inFront_)
         return;
-    files_.leere(Ansicht::Dokument);
+    files_.clear(ViewerPlace::Document);
     inFront_ = false;
     panels_.showDocument(tables_.current().record());
 }

@@ -9,16 +9,16 @@ namespace quelvarn {
 
 class DocumentPanels;
 class DocumentTables;
-class GezeigteDateien;
+class ShownFiles;
 
 // False after the box that tells that the file cannot be shown.
-bool showOrTell(GezeigteDateien& files, Meldungen& boxes, Ansicht place, const std::string& filename);
+bool showOrTell(ShownFiles& files, Boxes& boxes, ViewerPlace place, const std::string& filename);
 
 // The viewer in place of the tables (FrmDokuSmartView_SmartView).
 class ViewerArea
 {
 public:
-    ViewerArea(Operations& operations, const DocumentTables& tables, GezeigteDateien& files, DocumentPanels& panels)
+    ViewerArea(Operations& operations, const DocumentTables& tables, ShownFiles& files, DocumentPanels& panels)
         : operations_(operations), tables_(tables), files_(files), panels_(panels)
     {}
 
@@ -33,7 +33,7 @@ public:
 private:
     Operations& operations_;
     const DocumentTables& tables_;
-    GezeigteDateien& files_;
+    ShownFiles& files_;
     DocumentPanels& panels_;
     bool inFront_ = false;
 };

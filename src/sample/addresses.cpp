@@ -8,24 +8,24 @@ namespace quelvarn::sample {
 
 namespace {
 
-struct Empfaenger
+struct Receiver
 {
-    std::string_view kennung;
-    std::string_view firma;
-    std::string_view firma2;
-    std::string_view anrede;
-    std::string_view vorname;
-    std::string_view nachname;
-    std::string_view abteilung;
-    std::string_view strasse;
-    std::string_view plz;
-    std::string_view ort;
-    std::string_view telefon;
-    std::string_view zeichnungen; // Kinds of sending, divided by "|".
-    std::string_view modelle;
+    std::string_view addressCode;
+    std::string_view company;
+    std::string_view company2;
+    std::string_view salutation;
+    std::string_view firstName;
+    std::string_view lastName;
+    std::string_view department;
+    std::string_view street;
+    std::string_view postcode;
+    std::string_view place;
+    std::string_view phone;
+    std::string_view drawings; // Kinds of sending, divided by "|".
+    std::string_view models;
 };
 
-constexpr std::array<Empfaenger, 8> EMPFAENGER{{
+constexpr std::array<Receiver, 8> RECEIVER{{
     {"Blechtechnik Östringen", "Blechtechnik Östringen GmbH", "Laserzuschnitt", "Herrn", "Jörg", "Kübler",
      "Arbeitsvorbereitung", "Industriestraße 14", "76684", "Östringen", "07253 / 000-10",
      "DXF/R12|PDF/Standard|Solid Edge mit Modell/V16", "STEP/AP214|Parasolid/14"},
@@ -45,58 +45,58 @@ constexpr std::array<Empfaenger, 8> EMPFAENGER{{
      "Seestraße 40", "12559", "Berlin", "030 / 000-80", "IGES/5.3|DXF/R14|PDF/Standard", "STEP/AP214|IGES/5.3"},
 }};
 
-constexpr std::array<std::string_view, EMPFAENGER.size()> KENNUNGEN = [] {
-    std::array<std::string_view, EMPFAENGER.size()> kennungen{};
-    for (std::size_t i = 0; i < kennungen.size(); ++i)
-        kennungen[i] = EMPFAENGER[i].kennung;
-    return kennungen;
+constexpr std::array<std::string_view, RECEIVER.size()> ADDRESS_CODES = [] {
+    std::array<std::string_view, RECEIVER.size()> addressCodes{};
+    for (std::size_t i = 0; i < addressCodes.size(); ++i)
+        addressCodes[i] = RECEIVER[i].addressCode;
+    return addressCodes;
 }();
 
-constexpr std::array<std::string_view, 3> MIT_SIGNATUR{"Meier", "Schröder", "Weber"};
+constexpr std::array<std::string_view, 3> WITH_SIGNATURE{"Meier", "Schröder", "Weber"};
 
 // Writes the items of one address.
-class Adresse
+class Address
 {
 public:
-    Adresse(std::string kennung, Zeilensenke& senke) : kennung_(std::move(kennung)), senke_(senke) {}
+    Address(std::string addressCode, RowSink& sink) : addressCode_(std::move(addressCode)), sink_(sink) {}
 
-    void eintrag(std::string_view name, std::string_view wert)
+    void entry(std::string_view name, std::string_view value)
     {
-        senke_.zeile(std::array<Value, 3>{kennung_, std::string(name), std::string(wert)});
+        sink_.row(std::array<Value, 3>{addressCode_, std::string(name), std::string(value)});
     }
-    void arten(std::string_view name, std::string_view arten)
+    void kinds(std::string_view name, std::string_view kinds)
     {
-        for (int nummer = 1; !arten.empty(); ++nummer) {
-            eintrag(fmt::format("{}{}", nummer, name), arten.substr(0, arten.find('|')));
-            arten.remove_prefix(std::min(arten.find('|'), arten.size() - 1) + 1);
+        for (int number = 1; !kinds.empty(); ++number) {
+            entry(fmt::format("{}{}", number, name), kinds.substr(0, kinds.find('|')));
+            kinds.remove_prefix(std::min(kinds.find('|'), kinds.size() - 1) + 1);
         }
     }
 
 private:
-    std::string kennung_;
-    Zeilensenke& senke_;
+    std::string addressCode_;
+    RowSink& sink_;
 };
 
-void schreibeEmpfaenger(const Empfaenger& e, Zeilensenke& senke)
+void writeReceiver(const Receiver& e, RowSink& sink)
 {
-    Adresse adresse(std::string(e.kennung), senke);
-    const std::string mail = e.telefon.empty() ? "" : fmt::format("technik{}@beispiel.example", e.plz);
-    for (const auto& [name, wert] : std::initializer_list<std::pair<std::string_view, std::string_view>>{
-             {"Firma", e.firma},
-             {"Firma2", e.firma2},
-             {"Anrede Adresse", e.anrede},
-             {"Anrede E-Mail", e.anrede.empty()     ? "Guten Tag"
-                               : e.anrede == "Frau" ? "Sehr geehrte Frau"
-                                                    : "Sehr geehrter Herr"},
-             {"Vorname", e.vorname},
-             {"Nachname", e.nachname},
-             {"Abteilung", e.abteilung},
-             {"Strasse", e.strasse},
-             {"StrPlz", e.plz},
-             {"Ort", e.ort},
-             {"Telefon", e.telefon},
-             {"Direkt", e.telefon.empty() ? "" : "-11"},
-             {"Fax", e.telefon.empty() ? "" : "-99"},
+    Address address(std::string(e.addressCode), sink);
+    const std::string mail = e.phone.empty() ? "" : fmt::format("technik{}@beispiel.example", e.postcode);
+    for (const auto& [name, value] : std::initializer_list<std::pair<std::string_view, std::string_view>>{
+             {"Firma", e.company},
+             {"Firma2", e.company2},
+             {"Anrede Adresse", e.salutation},
+             {"Anrede E-Mail", e.salutation.empty()     ? "Guten Tag"
+                               : e.salutation == "Frau" ? "Sehr geehrte Frau"
+                                                        : "Sehr geehrter Herr"},
+             {"Vorname", e.firstName},
+             {"Nachname", e.lastName},
+             {"Abteilung", e.department},
+             {"Strasse", e.street},
+             {"StrPlz", e.postcode},
+             {"Ort", e.place},
+             {"Telefon", e.phone},
+             {"Direkt", e.phone.empty() ? "" : "-11"},
+             {"Fax", e.phone.empty() ? "" : "-99"},
              {"E-Mail", mail},
              {"Web", "www.beispiel.example"},
              {"Text_Anrede", ""},
@@ -105,37 +105,37 @@ void schreibeEmpfaenger(const Empfaenger& e, Zeilensenke& senke)
              {"Text_Ende", "Für Rückfragen stehen wir gerne zur Verfügung."},
              {"Text_Gruss", "Mit freundlichen Grüßen"},
          })
-        adresse.eintrag(name, wert);
-    adresse.arten("Zeichnung_Art", e.zeichnungen);
-    adresse.arten("Modell_Art", e.modelle);
+        address.entry(name, value);
+    address.kinds("Zeichnung_Art", e.drawings);
+    address.kinds("Modell_Art", e.models);
 }
 
-void schreibeSignatur(std::string_view anwender, Zeilensenke& senke)
+void writeSignature(std::string_view user, RowSink& sink)
 {
-    Adresse adresse(fmt::format("Signatur, {}", anwender), senke);
-    adresse.eintrag("Firma", "Hallwang & Söhne Förder- und Getriebebau GmbH");
-    adresse.eintrag("Firma2", "Konstruktion");
-    adresse.eintrag("Nachname", anwender);
-    adresse.eintrag("Strasse", "Fabrikstraße 2");
-    adresse.eintrag("StrPlz", "74072");
-    adresse.eintrag("Ort", "Heilbronn");
-    adresse.eintrag("Telefon", "07131 / 000-0");
-    adresse.eintrag("E-Mail", "konstruktion@beispiel.example");
+    Address address(fmt::format("Signatur, {}", user), sink);
+    address.entry("Firma", "Hallwang & Söhne Förder- und Getriebebau GmbH");
+    address.entry("Firma2", "Konstruktion");
+    address.entry("Nachname", user);
+    address.entry("Strasse", "Fabrikstraße 2");
+    address.entry("StrPlz", "74072");
+    address.entry("Ort", "Heilbronn");
+    address.entry("Telefon", "07131 / 000-0");
+    address.entry("E-Mail", "konstruktion@beispiel.example");
 }
 
 } // namespace
 
-std::span<const std::string_view> empfaenger()
+std::span<const std::string_view> receiver()
 {
-    return KENNUNGEN;
+    return ADDRESS_CODES;
 }
 
-void schreibeAdresstabelle(const Dokumente&, Zeilensenke& senke)
+void writeAdresstabelle(const Documents&, RowSink& sink)
 {
-    for (const Empfaenger& e : EMPFAENGER)
-        schreibeEmpfaenger(e, senke);
-    for (const auto anwender : MIT_SIGNATUR)
-        schreibeSignatur(anwender, senke);
+    for (const Receiver& e : RECEIVER)
+        writeReceiver(e, sink);
+    for (const auto user : WITH_SIGNATURE)
+        writeSignature(user, sink);
 }
 
 } // namespace quelvarn::sample

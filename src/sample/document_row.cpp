@@ -10,222 +10,222 @@ namespace quelvarn::sample {
 
 namespace {
 
-enum Frage : std::uint64_t { INHALT = 40, JE_REVISION };
+enum Question : std::uint64_t { CONTENT = 40, PER_REVISION };
 
-Value text(std::string_view wert)
+Value text(std::string_view value)
 {
-    return std::string(wert);
+    return std::string(value);
 }
 
 // Registers are filled in by hand: the chance that a field is missing, half of it as Null.
-Value oft(Zufall& zufall, std::uint32_t vonHundert, std::string_view wert)
+Value often(Random& random, std::uint32_t ofHundred, std::string_view value)
 {
-    const auto wurf = zufall.unter(100);
-    if (wurf < vonHundert && !wert.empty())
-        return text(wert);
-    const auto rest = wurf % 8;
+    const auto draw = random.below(100);
+    if (draw < ofHundred && !value.empty())
+        return text(value);
+    const auto rest = draw % 8;
     return rest < 4 ? Value{} : text(rest < 7 ? "" : " ");
 }
 
-double zahl(std::string_view ziffern)
+double number(std::string_view digits)
 {
-    double ergebnis = 0;
-    const auto komma = ziffern.find(',');
-    std::string text(ziffern);
-    if (komma != std::string_view::npos)
-        text[komma] = '.';
-    std::from_chars(text.data(), text.data() + text.size(), ergebnis);
-    return ergebnis;
+    double result = 0;
+    const auto comma = digits.find(',');
+    std::string text(digits);
+    if (comma != std::string_view::npos)
+        text[comma] = '.';
+    std::from_chars(text.data(), text.data() + text.size(), result);
+    return result;
 }
 
 // As a person would type it: 0.15, not 0.15000000000000002.
-double gerundet(double wert)
+double rounded(double value)
 {
-    return std::round(wert * 1000) / 1000;
+    return std::round(value * 1000) / 1000;
 }
 
-constexpr std::string_view ZUSAETZE = "|||| links| rechts| oben| unten| kurz| lang| 2-teilig";
+constexpr std::string_view ADDITIONS = "|||| links| rechts| oben| unten| kurz| lang| 2-teilig";
 
-std::string_view format(std::uint16_t nummer, Zufall& zufall)
+std::string_view format(std::uint16_t number, Random& random)
 {
-    return zufall.teil(nummer % 100 == 0 ? "A0|A1|A1 quer" : nummer % 10 == 0 ? "A1|A2" : "A4|A4|A3|A2");
+    return random.part(number % 100 == 0 ? "A0|A1|A1 quer" : number % 10 == 0 ? "A1|A2" : "A4|A4|A3|A2");
 }
 
 } // namespace
 
-const Bauform* Dokumente::findBauform(const Teil& teil) const
+const Design* Documents::findDesign(const Part& part) const
 {
-    switch (teil.tab) {
+    switch (part.tab) {
     case Tab::Part:
-        return &(teil.bereich == Bereich::Getriebe ? zahnradteile() : bauteile())[teil.bauform];
+        return &(part.section == Section::Gear ? gearDesigns() : partDesigns())[part.design];
     case Tab::SheetM:
-        return &blechteile()[teil.bauform];
+        return &sheetMetalDesigns()[part.design];
     case Tab::Assemb:
-        return &baugruppen()[teil.nummer == 0 ? 0 : 1];
+        return &assemblies()[part.number == 0 ? 0 : 1];
     case Tab::Weld:
-        return &schweissteile()[0];
+        return &weldments()[0];
     case Tab::STbl3:
-        return &vorrichtungen()[teil.bauform];
+        return &fixtures()[part.design];
     default:
-        return teil.bereich == Bereich::Vorlage ? &bauteile()[teil.bauform] : nullptr;
+        return part.section == Section::Template ? &partDesigns()[part.design] : nullptr;
     }
 }
 
-std::string Dokumente::titel(std::uint32_t teil) const
+std::string Documents::title(std::uint32_t part) const
 {
-    const auto quelle = modell(teil);
-    const Teil& t = plan_.teil(quelle);
-    if (t.bereich == Bereich::Norm) {
+    const auto source = model(part);
+    const Part& t = plan_.part(source);
+    if (t.section == Section::Standard) {
         if (t.tab == Tab::Draft)
             return "Normteilübersicht";
-        const Normteil norm = normteil(t.projekt);
-        const Normreihe& reihe = normreihen()[norm.reihe];
-        return fmt::format("{} {}{}{}", reihe.titel, reihe.vorsatz, norm.groesse,
-                           norm.laenge.empty() ? "" : fmt::format("x{}", norm.laenge));
+        const StandardPart standard = standardPart(t.project);
+        const StandardSeries& series = standardSeries()[standard.series];
+        return fmt::format("{} {}{}{}", series.title, series.prefix, standard.size,
+                           standard.length.empty() ? "" : fmt::format("x{}", standard.length));
     }
-    if (t.bereich == Bereich::Kauf)
-        return fmt::format("{} {}", kaufreihen()[t.bauform].titel, dokuBez(quelle).substr(3));
-    if (t.bereich == Bereich::Vorrichtung)
-        return fmt::format("{}{}", vorrichtungen()[t.bauform].name,
-                           t.nummer == 0    ? ""
-                           : t.nummer == 10 ? " Grundplatte"
+    if (t.section == Section::Bought)
+        return fmt::format("{} {}", boughtSeries()[t.design].title, documentName(source).substr(3));
+    if (t.section == Section::Fixture)
+        return fmt::format("{}{}", fixtures()[t.design].name,
+                           t.number == 0    ? ""
+                           : t.number == 10 ? " Grundplatte"
                                             : " Zusammenstellung");
-    if (t.bereich == Bereich::Vorlage)
-        return fmt::format("Vorlage {}", bauteile()[t.bauform].name);
+    if (t.section == Section::Template)
+        return fmt::format("Vorlage {}", partDesigns()[t.design].name);
     if (t.tab == Tab::Weld)
-        return titel(t.eltern) + " geschweißt";
+        return title(t.parent) + " geschweißt";
     if (t.tab != Tab::Assemb)
-        return fmt::format("{}{}", findBauform(t)->name, Zufall{plan_.start(), INHALT, quelle}.teil(ZUSAETZE));
-    const Maschine& maschine = plan_.maschine(t.bereich, t.projekt);
-    if (t.nummer == 0)
-        return std::string(maschine.name);
-    return std::string(t.nummer % 100 == 0
-                           ? gruppenname(t)
-                           : maschine.gruppen[t.nummer / 100 - 1].unterbaugruppen[t.nummer % 100 / 10 - 1]);
+        return fmt::format("{}{}", findDesign(t)->name, Random{plan_.start(), CONTENT, source}.part(ADDITIONS));
+    const Machine& machine = plan_.machine(t.section, t.project);
+    if (t.number == 0)
+        return std::string(machine.name);
+    return std::string(t.number % 100 == 0 ? groupName(t)
+                                           : machine.groups[t.number / 100 - 1].subassemblies[t.number % 100 / 10 - 1]);
 }
 
-Value Dokumente::material(std::uint32_t teil) const
+Value Documents::material(std::uint32_t part) const
 {
-    const Teil& t = plan_.teil(teil);
-    Zufall zufall{plan_.start(), INHALT, teil, 1};
-    if (t.bereich == Bereich::Norm)
-        return text(normteil(t.projekt).ausfuehrung);
-    const Bauform* bauform = t.tab == Tab::Draft ? nullptr : findBauform(t);
-    return bauform ? oft(zufall, 92, zufall.teil(bauform->material)) : Value{};
+    const Part& t = plan_.part(part);
+    Random random{plan_.start(), CONTENT, part, 1};
+    if (t.section == Section::Standard)
+        return text(standardPart(t.project).variant);
+    const Design* design = t.tab == Tab::Draft ? nullptr : findDesign(t);
+    return design ? often(random, 92, random.part(design->material)) : Value{};
 }
 
-Value Dokumente::thema(const Teil& teil) const
+Value Documents::topic(const Part& part) const
 {
-    if (teil.bereich > Bereich::Rahmen)
+    if (part.section > Section::Frame)
         return {};
-    return text(plan_.maschine(teil.bereich, teil.projekt).name);
+    return text(plan_.machine(part.section, part.project).name);
 }
 
-std::string_view Dokumente::kategorie(const Teil& teil, Zufall& zufall) const
+std::string_view Documents::category(const Part& part, Random& random) const
 {
-    switch (teil.bereich) {
-    case Bereich::Norm:
+    switch (part.section) {
+    case Section::Standard:
         return "Normteil";
-    case Bereich::Kauf:
+    case Section::Bought:
         return "Kaufteil";
-    case Bereich::Vorrichtung:
+    case Section::Fixture:
         return "Vorrichtung";
-    case Bereich::Vorlage:
+    case Section::Template:
         return "QV_Vorlage";
     default:
-        return zufall.teil(teil.tab == Tab::Draft ? "Fertigungszeichnung|Fertigungszeichnung|Angebotszeichnung"
+        return random.part(part.tab == Tab::Draft ? "Fertigungszeichnung|Fertigungszeichnung|Angebotszeichnung"
                                                   : "Fertigungsteil|Fertigungsteil|Versuchsteil|Ersatzteil");
     }
 }
 
 // The five levels of the structure tree. A template leaves the levels below its own empty, never Null.
-void Dokumente::fuegeMerkmaleAn(const Teil& teil, Zufall& zufall, std::vector<Value>& werte) const
+void Documents::appendFeatures(const Part& part, Random& random, std::vector<Value>& values) const
 {
-    werte.push_back(oft(zufall, 70, zufall.teil("Eigenfertigung|Eigenfertigung|Lohnfertigung|Zukauf")));
-    werte.push_back(oft(zufall, 65, zufall.teil("Einzelteil|Verschleißteil|Vorzugsteil|Ersatzteil")));
-    std::array<std::string_view, STRUKTURMERKMALE> merkmale{};
-    if (teil.bereich == Bereich::Norm) {
-        const Normteil norm = normteil(teil.projekt);
-        const Normreihe& reihe = normreihen()[norm.reihe];
-        merkmale = {"Normteile", reihe.gruppe, reihe.art, reihe.norm, norm.ausfuehrung};
-    } else if (teil.bereich == Bereich::Kauf) {
-        const Kaufreihe& reihe = kaufreihen()[teil.bauform];
-        merkmale = {"Kaufteile", reihe.gruppe, zufall.teil("Katalogteil|Sonderausführung"), reihe.hersteller, ""};
-    } else if (const Bauform* bauform = findBauform(teil)) {
-        for (std::size_t i = 0; i < merkmale.size(); ++i)
-            merkmale[i] = zufall.teil(bauform->merkmale[i]);
+    values.push_back(often(random, 70, random.part("Eigenfertigung|Eigenfertigung|Lohnfertigung|Zukauf")));
+    values.push_back(often(random, 65, random.part("Einzelteil|Verschleißteil|Vorzugsteil|Ersatzteil")));
+    std::array<std::string_view, STRUCTURE_FEATURES> features{};
+    if (part.section == Section::Standard) {
+        const StandardPart standard = standardPart(part.project);
+        const StandardSeries& series = standardSeries()[standard.series];
+        features = {"Normteile", series.group, series.kind, series.standard, standard.variant};
+    } else if (part.section == Section::Bought) {
+        const BoughtSeries& series = boughtSeries()[part.design];
+        features = {"Kaufteile", series.group, random.part("Katalogteil|Sonderausführung"), series.maker, ""};
+    } else if (const Design* design = findDesign(part)) {
+        for (std::size_t i = 0; i < features.size(); ++i)
+            features[i] = random.part(design->features[i]);
     }
-    const std::size_t ebenen = teil.bereich == Bereich::Vorlage ? 1 + teil.nummer % STRUKTURMERKMALE : STRUKTURMERKMALE;
-    for (std::size_t i = 0; i < merkmale.size(); ++i) {
-        if (teil.bereich == Bereich::Vorlage)
-            werte.push_back(text(i < ebenen ? merkmale[i] : ""));
+    const std::size_t levels =
+        part.section == Section::Template ? 1 + part.number % STRUCTURE_FEATURES : STRUCTURE_FEATURES;
+    for (std::size_t i = 0; i < features.size(); ++i) {
+        if (part.section == Section::Template)
+            values.push_back(text(i < levels ? features[i] : ""));
         else
-            werte.push_back(merkmale[i].empty() || zufall.prozent(4) ? (zufall.prozent(60) ? Value{} : text(""))
-                                                                     : text(merkmale[i]));
+            values.push_back(features[i].empty() || random.percent(4) ? (random.percent(60) ? Value{} : text(""))
+                                                                      : text(features[i]));
     }
 }
 
-void Dokumente::fuegeHauptwerteAn(const Teil& teil, Zufall& zufall, std::vector<Value>& werte) const
+void Documents::appendMainValues(const Part& part, Random& random, std::vector<Value>& values) const
 {
-    std::array<std::string_view, HAUPTWERTE> alias{};
-    const Bauform* bauform = findBauform(teil);
-    for (std::size_t i = 0; i < HAUPTWERTE; ++i) {
-        Value wert = zufall.prozent(50) ? Value{} : Value{0.0};
-        if (teil.bereich == Bereich::Norm && i < 2) {
-            const Normteil norm = normteil(teil.projekt);
-            const auto ziffern = i == 0 ? norm.groesse : norm.laenge;
-            alias[i] = i == 0 ? normreihen()[norm.reihe].alias : ziffern.empty() ? "" : "Länge";
-            wert = ziffern.empty() ? wert : Value{zahl(ziffern)};
-        } else if (teil.bereich == Bereich::Kauf && i == 0) {
-            alias[i] = kaufreihen()[teil.bauform].alias;
-            wert = zahl(zufall.teil(kaufreihen()[teil.bauform].groessen));
-        } else if (bauform && !bauform->masse[i].alias.empty()) {
-            const Mass& mass = bauform->masse[i];
+    std::array<std::string_view, MAIN_VALUES> alias{};
+    const Design* design = findDesign(part);
+    for (std::size_t i = 0; i < MAIN_VALUES; ++i) {
+        Value value = random.percent(50) ? Value{} : Value{0.0};
+        if (part.section == Section::Standard && i < 2) {
+            const StandardPart standard = standardPart(part.project);
+            const auto digits = i == 0 ? standard.size : standard.length;
+            alias[i] = i == 0 ? standardSeries()[standard.series].alias : digits.empty() ? "" : "Länge";
+            value = digits.empty() ? value : Value{number(digits)};
+        } else if (part.section == Section::Bought && i == 0) {
+            alias[i] = boughtSeries()[part.design].alias;
+            value = number(random.part(boughtSeries()[part.design].sizes));
+        } else if (design && !design->sizes[i].alias.empty()) {
+            const Mass& mass = design->sizes[i];
             alias[i] = mass.alias;
-            wert = gerundet(mass.von + mass.schritt * zufall.unter(static_cast<std::uint32_t>(mass.stufen)));
+            value = rounded(mass.from + mass.step * random.below(static_cast<std::uint32_t>(mass.levels)));
         }
-        werte.push_back(std::move(wert));
+        values.push_back(std::move(value));
     }
     for (const auto name : alias)
-        werte.push_back(name.empty() ? (zufall.prozent(60) ? Value{} : text("")) : text(name));
+        values.push_back(name.empty() ? (random.percent(60) ? Value{} : text("")) : text(name));
 }
 
-void Dokumente::zeile(std::uint32_t teil, int revision, std::vector<Value>& werte) const
+void Documents::row(std::uint32_t part, int revision, std::vector<Value>& values) const
 {
-    const Teil& t = plan_.teil(teil);
-    const Teil& m = plan_.teil(modell(teil));
-    Zufall zufall{plan_.start(), JE_REVISION, teil, static_cast<std::uint64_t>(revision)};
-    werte.clear();
+    const Part& t = plan_.part(part);
+    const Part& m = plan_.part(model(part));
+    Random random{plan_.start(), PER_REVISION, part, static_cast<std::uint64_t>(revision)};
+    values.clear();
     for (const auto& name :
-         {dokuBez(teil), revBez(teil, revision), dateiname(teil, revision), filename(teil, revision)})
-        werte.emplace_back(name);
-    werte.emplace_back(std::int64_t{status(teil, revision)});
-    werte.push_back(oft(zufall, 96, projekt(teil)));
-    werte.push_back(material(teil));
-    werte.emplace_back(erstellt(teil, revision));
-    werte.push_back(autor(teil));
-    werte.emplace_back(geaendert(teil, revision));
-    werte.push_back(bearbeiter(teil, revision));
-    werte.push_back(revision == 0 ? oft(zufall, 50, "Ersterstellung") : oft(zufall, 80, zufall.teil(AENDERUNGEN)));
-    werte.push_back(geaendert(teil, revision).plusSekunden(zufall.zwischen(30, 900)));
-    werte.push_back(oft(zufall, 97, titel(teil)));
-    werte.push_back(thema(t));
-    werte.push_back(oft(zufall, 35, zufall.teil(MANAGER)));
-    werte.push_back(oft(zufall, 80, zufall.teil(FIRMEN)));
-    const auto art = kategorie(t, zufall);
-    werte.push_back(t.bereich == Bereich::Vorlage ? text(art) : oft(zufall, 85, art));
-    const Bauform* bauform = findBauform(m);
-    werte.push_back(oft(zufall, 55, bauform ? bauform->stichwort : ""));
-    werte.push_back(oft(zufall, 20, zufall.teil(KOMMENTARE)));
-    werte.push_back(
-        oft(zufall, 60,
-            fmt::format("{}Vorlagen\\Büro_{}.{}", ORDNER, t.tab == Tab::Draft ? "A3" : "Modell", endung(teil))));
+         {documentName(part), revisionName(part, revision), fileName(part, revision), filename(part, revision)})
+        values.emplace_back(name);
+    values.emplace_back(std::int64_t{status(part, revision)});
+    values.push_back(often(random, 96, project(part)));
+    values.push_back(material(part));
+    values.emplace_back(created(part, revision));
+    values.push_back(author(part));
+    values.emplace_back(changed(part, revision));
+    values.push_back(editor(part, revision));
+    values.push_back(revision == 0 ? often(random, 50, "Ersterstellung") : often(random, 80, random.part(CHANGES)));
+    values.push_back(changed(part, revision).plusSeconds(random.between(30, 900)));
+    values.push_back(often(random, 97, title(part)));
+    values.push_back(topic(t));
+    values.push_back(often(random, 35, random.part(MANAGER)));
+    values.push_back(often(random, 80, random.part(COMPANIES)));
+    const auto kind = category(t, random);
+    values.push_back(t.section == Section::Template ? text(kind) : often(random, 85, kind));
+    const Design* design = findDesign(m);
+    values.push_back(often(random, 55, design ? design->keyword : ""));
+    values.push_back(often(random, 20, random.part(COMMENTS)));
+    values.push_back(
+        often(random, 60,
+              fmt::format("{}Vorlagen\\Büro_{}.{}", FOLDER, t.tab == Tab::Draft ? "A3" : "Modell", extension(part))));
     // What a drawing shows is sorted like the model.
-    Zufall merkmale{plan_.start(), INHALT, modell(teil), 2};
-    fuegeMerkmaleAn(m, merkmale, werte);
-    fuegeHauptwerteAn(m, merkmale, werte);
+    Random features{plan_.start(), CONTENT, model(part), 2};
+    appendFeatures(m, features, values);
+    appendMainValues(m, features, values);
     if (t.tab == Tab::Draft)
-        werte.push_back(oft(zufall, 95, format(m.nummer, zufall)));
+        values.push_back(often(random, 95, format(m.number, random)));
 }
 
 } // namespace quelvarn::sample

@@ -10,235 +10,236 @@ namespace quelvarn::sample {
 
 namespace {
 
-enum Frage : std::uint64_t { NAMEN = 20, STATUSWURF, PERSONEN, ZEITEN };
+enum Question : std::uint64_t { NAMES = 20, STATUS_DRAW, PERSONS, TIMES };
 
-std::string revisionsname(std::uint32_t art, int revision)
+std::string revisionLabel(std::uint32_t kind, int revision)
 {
-    if (art == 3)
+    if (kind == 3)
         return fmt::format("{:02}", revision);
     if (revision == 0)
         return "0";
-    if (art == 1)
+    if (kind == 1)
         return std::to_string(revision);
-    return std::string(1, static_cast<char>((art == 2 ? 'a' : 'A') + revision - 1));
+    return std::string(1, static_cast<char>((kind == 2 ? 'a' : 'A') + revision - 1));
 }
 
-constexpr std::array<std::string_view, ANZAHL_STATUS> ALTE_STATI{"5", "5", "5", "5", "4", "3"};
+constexpr std::array<std::string_view, STATUS_COUNT> OLD_STATUSES{"5", "5", "5", "5", "4", "3"};
 
 // Of a hundred: what the newest revision of a document is.
-int neuesterStatus(std::uint32_t wurf)
+int newestStatus(std::uint32_t draw)
 {
-    constexpr std::array<std::uint32_t, ANZAHL_STATUS> BIS_ZU{8, 21, 29, 78, 97, 100};
-    return static_cast<int>(std::ranges::upper_bound(BIS_ZU, wurf) - BIS_ZU.begin());
+    constexpr std::array<std::uint32_t, STATUS_COUNT> UP_TO{8, 21, 29, 78, 97, 100};
+    return static_cast<int>(std::ranges::upper_bound(UP_TO, draw) - UP_TO.begin());
 }
 
-Zeitpunkt arbeitszeit(Zeitpunkt tag, Zufall& zufall)
+DateTime workingTime(DateTime day, Random& random)
 {
-    constexpr std::int64_t VON = std::int64_t{6} * 3600 + 1800;
-    constexpr std::int64_t BIS = std::int64_t{17} * 3600;
-    return tag.tagesbeginn().plusSekunden(zufall.zwischen(VON, BIS));
+    constexpr std::int64_t FROM = std::int64_t{6} * 3600 + 1800;
+    constexpr std::int64_t UNTIL = std::int64_t{17} * 3600;
+    return day.startOfDay().plusSeconds(random.between(FROM, UNTIL));
 }
 
-bool istDatei(const Teil& teil)
+bool isFile(const Part& part)
 {
-    return teil.tab <= Tab::Weld;
+    return part.tab <= Tab::Weld;
 }
 
 } // namespace
 
-Zeitpunkt stichtag()
+DateTime keyDate()
 {
-    return Zeitpunkt::aus({2025, 12, 19, 17, 0, 0});
+    return DateTime::out({2025, 12, 19, 17, 0, 0});
 }
 
-std::uint32_t Dokumente::modell(std::uint32_t teil) const
+std::uint32_t Documents::model(std::uint32_t part) const
 {
-    const Teil& eintrag = plan_.teil(teil);
-    return eintrag.tab == Tab::Draft && eintrag.eltern != KEINES ? eintrag.eltern : teil;
+    const Part& entry = plan_.part(part);
+    return entry.tab == Tab::Draft && entry.parent != NONE ? entry.parent : part;
 }
 
-std::string Dokumente::dokuBez(std::uint32_t teil) const
+std::string Documents::documentName(std::uint32_t part) const
 {
-    const Teil& t = plan_.teil(teil);
-    switch (t.bereich) {
-    case Bereich::Foerderanlage:
-    case Bereich::Getriebe:
-    case Bereich::Rahmen: {
-        const bool geschweisst = plan_.teil(modell(teil)).tab == Tab::Weld;
-        return fmt::format("{}-{:03}{}", projekt(teil), t.nummer, geschweisst ? "S" : "");
+    const Part& t = plan_.part(part);
+    switch (t.section) {
+    case Section::Conveyor:
+    case Section::Gear:
+    case Section::Frame: {
+        const bool welded = plan_.part(model(part)).tab == Tab::Weld;
+        return fmt::format("{}-{:03}{}", project(part), t.number, welded ? "S" : "");
     }
-    case Bereich::Norm: {
+    case Section::Standard: {
         if (t.tab == Tab::Draft)
             return "NT-Übersicht";
-        const Normteil norm = normteil(t.projekt);
-        const Normreihe& reihe = normreihen()[norm.reihe];
-        return fmt::format("{} - {}{}{}{}", reihe.norm, reihe.vorsatz, norm.groesse,
-                           norm.laenge.empty() ? "" : fmt::format("x{}", norm.laenge),
-                           norm.ersteAusfuehrung ? "" : fmt::format("-{}", norm.ausfuehrung));
+        const StandardPart standard = standardPart(t.project);
+        const StandardSeries& series = standardSeries()[standard.series];
+        return fmt::format("{} - {}{}{}{}", series.standard, series.prefix, standard.size,
+                           standard.length.empty() ? "" : fmt::format("x{}", standard.length),
+                           standard.firstVariant ? "" : fmt::format("-{}", standard.variant));
     }
-    case Bereich::Kauf:
-        return fmt::format("{} {}-{:04}", kaufreihen()[t.bauform].kuerzel,
-                           Zufall{plan_.start(), NAMEN, teil}.teil(kaufreihen()[t.bauform].groessen), t.projekt + 1);
-    case Bereich::Vorrichtung:
-        return fmt::format("VR-{:04}-{:03}", t.projekt + 1, t.nummer);
-    case Bereich::Vorlage:
+    case Section::Bought:
+        return fmt::format("{} {}-{:04}", boughtSeries()[t.design].abbreviation,
+                           Random{plan_.start(), NAMES, part}.part(boughtSeries()[t.design].sizes), t.project + 1);
+    case Section::Fixture:
+        return fmt::format("VR-{:04}-{:03}", t.project + 1, t.number);
+    case Section::Template:
         break;
     }
-    return fmt::format("VL-{:03}", t.nummer);
+    return fmt::format("VL-{:03}", t.number);
 }
 
-std::string Dokumente::projekt(std::uint32_t teil) const
+std::string Documents::project(std::uint32_t part) const
 {
-    const Teil& t = plan_.teil(teil);
-    switch (t.bereich) {
-    case Bereich::Foerderanlage:
-        return fmt::format("FA-{}", 1001 + t.projekt);
-    case Bereich::Getriebe:
-        return fmt::format("GT-{:04}", 301 + t.projekt);
-    case Bereich::Rahmen:
-        return fmt::format("RA-{:04}", 701 + t.projekt);
-    case Bereich::Norm:
+    const Part& t = plan_.part(part);
+    switch (t.section) {
+    case Section::Conveyor:
+        return fmt::format("FA-{}", 1001 + t.project);
+    case Section::Gear:
+        return fmt::format("GT-{:04}", 301 + t.project);
+    case Section::Frame:
+        return fmt::format("RA-{:04}", 701 + t.project);
+    case Section::Standard:
         return "Normteile";
-    case Bereich::Kauf:
+    case Section::Bought:
         return "Zukaufteile";
-    case Bereich::Vorrichtung:
+    case Section::Fixture:
         return "Betriebsmittel";
-    case Bereich::Vorlage:
+    case Section::Template:
         break;
     }
     return "Vorlagen";
 }
 
 // Each project keeps to one way of counting revisions.
-std::string Dokumente::revBez(std::uint32_t teil, int revision) const
+std::string Documents::revisionName(std::uint32_t part, int revision) const
 {
-    const Teil& t = plan_.teil(teil);
-    Zufall zufall{plan_.start(), NAMEN, static_cast<std::uint64_t>(t.bereich), t.projekt};
-    return revisionsname(t.bereich <= Bereich::Rahmen ? zufall.unter(4) : 0, revision);
+    const Part& t = plan_.part(part);
+    Random random{plan_.start(), NAMES, static_cast<std::uint64_t>(t.section), t.project};
+    return revisionLabel(t.section <= Section::Frame ? random.below(4) : 0, revision);
 }
 
-std::string_view Dokumente::endung(std::uint32_t teil) const
+std::string_view Documents::extension(std::uint32_t part) const
 {
-    const Teil& t = plan_.teil(teil);
-    if (istDatei(t))
-        return DOKUTYPEN[static_cast<std::size_t>(t.tab)].endung;
+    const Part& t = plan_.part(part);
+    if (isFile(t))
+        return DOCUMENT_TYPES[static_cast<std::size_t>(t.tab)].extension;
     if (t.tab != Tab::STbl3)
         return "par";
-    return t.nummer == 0 ? "asm" : t.nummer == 10 ? "par" : "dft";
+    return t.number == 0 ? "asm" : t.number == 10 ? "par" : "dft";
 }
 
-std::string Dokumente::stammname(const Teil& teil) const
+std::string Documents::stemName(const Part& part) const
 {
-    const auto nummer = static_cast<std::uint32_t>(&teil - plan_.teile().data());
-    return teil.bereich == Bereich::Vorlage ? fmt::format("{} {}", dokuBez(nummer), bauteile()[teil.bauform].name)
-                                            : dokuBez(nummer);
+    const auto number = static_cast<std::uint32_t>(&part - plan_.parts().data());
+    return part.section == Section::Template
+               ? fmt::format("{} {}", documentName(number), partDesigns()[part.design].name)
+               : documentName(number);
 }
 
-std::string Dokumente::dateiname(std::uint32_t teil, int revision) const
+std::string Documents::fileName(std::uint32_t part, int revision) const
 {
-    std::string stamm = stammname(plan_.teil(teil));
-    std::ranges::replace(stamm, '/', '_'); // Windows has no such file names.
+    std::string stem = stemName(plan_.part(part));
+    std::ranges::replace(stem, '/', '_'); // Windows has no such file names.
     if (revision > 0)
-        stamm += "_" + revBez(teil, revision);
-    return fmt::format("{}.{}", stamm, endung(teil));
+        stem += "_" + revisionName(part, revision);
+    return fmt::format("{}.{}", stem, extension(part));
 }
 
-std::string Dokumente::filename(std::uint32_t teil, int revision) const
+std::string Documents::filename(std::uint32_t part, int revision) const
 {
-    return fmt::format("{}{}\\{}", ORDNER, ordner(plan_.teil(teil)), dateiname(teil, revision));
+    return fmt::format("{}{}\\{}", FOLDER, folder(plan_.part(part)), fileName(part, revision));
 }
 
-std::string Dokumente::ordner(const Teil& teil) const
+std::string Documents::folder(const Part& part) const
 {
-    const auto nummer = static_cast<std::uint32_t>(&teil - plan_.teile().data());
-    const auto gruppe = [&] {
-        return teil.nummer < 100 ? "" : fmt::format("\\{} {}", teil.nummer / 100 * 100, gruppenname(teil));
+    const auto number = static_cast<std::uint32_t>(&part - plan_.parts().data());
+    const auto group = [&] {
+        return part.number < 100 ? "" : fmt::format("\\{} {}", part.number / 100 * 100, groupName(part));
     };
-    switch (teil.bereich) {
-    case Bereich::Foerderanlage:
-        return fmt::format("Förderanlagen\\{} {}{}", projekt(nummer), plan_.maschine(teil.bereich, teil.projekt).name,
-                           gruppe());
-    case Bereich::Getriebe:
-        return fmt::format("Getriebe\\{} {}", projekt(nummer), plan_.maschine(teil.bereich, teil.projekt).name);
-    case Bereich::Rahmen:
-        return fmt::format("Rahmen\\{}", projekt(nummer));
-    case Bereich::Norm: {
-        const Normreihe& reihe = normreihen()[normteil(teil.projekt).reihe];
-        std::string norm(reihe.norm);
-        std::ranges::replace(norm, ' ', '_');
-        return fmt::format("Normteile\\{}\\{}", reihe.gruppe, norm);
+    switch (part.section) {
+    case Section::Conveyor:
+        return fmt::format("Förderanlagen\\{} {}{}", project(number), plan_.machine(part.section, part.project).name,
+                           group());
+    case Section::Gear:
+        return fmt::format("Getriebe\\{} {}", project(number), plan_.machine(part.section, part.project).name);
+    case Section::Frame:
+        return fmt::format("Rahmen\\{}", project(number));
+    case Section::Standard: {
+        const StandardSeries& series = standardSeries()[standardPart(part.project).series];
+        std::string standard(series.standard);
+        std::ranges::replace(standard, ' ', '_');
+        return fmt::format("Normteile\\{}\\{}", series.group, standard);
     }
-    case Bereich::Kauf: {
-        std::string hersteller(kaufreihen()[teil.bauform].hersteller);
-        std::ranges::replace(hersteller, ' ', '_');
-        return fmt::format("Zukaufteile\\{}", hersteller);
+    case Section::Bought: {
+        std::string maker(boughtSeries()[part.design].maker);
+        std::ranges::replace(maker, ' ', '_');
+        return fmt::format("Zukaufteile\\{}", maker);
     }
-    case Bereich::Vorrichtung:
-        return fmt::format("Vorrichtungen\\VR-{:04}", teil.projekt + 1);
-    case Bereich::Vorlage:
+    case Section::Fixture:
+        return fmt::format("Vorrichtungen\\VR-{:04}", part.project + 1);
+    case Section::Template:
         break;
     }
     return "Vorlagen\\Zeichnungen";
 }
 
-std::string_view Dokumente::gruppenname(const Teil& teil) const
+std::string_view Documents::groupName(const Part& part) const
 {
-    return plan_.maschine(teil.bereich, teil.projekt).gruppen[teil.nummer / 100 - 1].name;
+    return plan_.machine(part.section, part.project).groups[part.number / 100 - 1].name;
 }
 
 // Old revisions are void or frozen; a drawing stands where its model stands.
-int Dokumente::status(std::uint32_t teil, int revision) const
+int Documents::status(std::uint32_t part, int revision) const
 {
-    const auto quelle = modell(teil);
-    const Teil& t = plan_.teil(quelle);
-    Zufall zufall{plan_.start(), STATUSWURF, quelle, static_cast<std::uint64_t>(revision)};
-    if (revision + 1 < t.revisionen)
-        return zufall.aus(ALTE_STATI)[0] - '0';
+    const auto source = model(part);
+    const Part& t = plan_.part(source);
+    Random random{plan_.start(), STATUS_DRAW, source, static_cast<std::uint64_t>(revision)};
+    if (revision + 1 < t.revisions)
+        return random.out(OLD_STATUSES)[0] - '0';
     if (t.tab >= Tab::STbl1)
-        return zufall.prozent(90) ? 4 : 3;
-    return neuesterStatus(zufall.unter(100));
+        return random.percent(90) ? 4 : 3;
+    return newestStatus(random.below(100));
 }
 
-Value Dokumente::autor(std::uint32_t teil) const
+Value Documents::author(std::uint32_t part) const
 {
-    const Teil& t = plan_.teil(teil);
-    Zufall zufall{plan_.start(), PERSONEN, static_cast<std::uint64_t>(t.bereich), t.projekt,
-                  static_cast<std::uint64_t>(t.nummer / 100)};
-    return std::string(zufall.aus(KONSTRUKTEURE));
+    const Part& t = plan_.part(part);
+    Random random{plan_.start(), PERSONS, static_cast<std::uint64_t>(t.section), t.project,
+                  static_cast<std::uint64_t>(t.number / 100)};
+    return std::string(random.out(DESIGNERS));
 }
 
-Value Dokumente::bearbeiter(std::uint32_t teil, int revision) const
+Value Documents::editor(std::uint32_t part, int revision) const
 {
-    Zufall zufall{plan_.start(), PERSONEN, teil, static_cast<std::uint64_t>(revision)};
-    const auto wurf = zufall.unter(100);
-    if (wurf < 60)
-        return autor(teil);
-    if (wurf < 90)
-        return std::string(zufall.aus(KONSTRUKTEURE));
-    return wurf < 96 ? Value{} : Value{std::string(wurf < 98 ? "" : " ")};
+    Random random{plan_.start(), PERSONS, part, static_cast<std::uint64_t>(revision)};
+    const auto draw = random.below(100);
+    if (draw < 60)
+        return author(part);
+    if (draw < 90)
+        return std::string(random.out(DESIGNERS));
+    return draw < 96 ? Value{} : Value{std::string(draw < 98 ? "" : " ")};
 }
 
-Zeitpunkt Dokumente::erstellt(std::uint32_t teil, int revision) const
+DateTime Documents::created(std::uint32_t part, int revision) const
 {
-    const auto quelle = modell(teil);
-    const Teil& t = plan_.teil(quelle);
-    constexpr std::int64_t TAGE_DES_REGISTERS = std::int64_t{26} * 365;
-    Zufall projektzeit{plan_.start(), ZEITEN, static_cast<std::uint64_t>(t.bereich), t.projekt};
-    Zufall zufall{plan_.start(), ZEITEN, quelle};
-    const auto beginn = stichtag().plusTage(-TAGE_DES_REGISTERS + projektzeit.zwischen(0, TAGE_DES_REGISTERS - 200));
-    const auto tage = t.nummer / 10 + zufall.zwischen(0, 20) + revision * zufall.zwischen(30, 260);
-    return std::min(arbeitszeit(beginn.plusTage(tage), zufall), stichtag().plusTage(revision - 40));
+    const auto source = model(part);
+    const Part& t = plan_.part(source);
+    constexpr std::int64_t DAYS_OF_THE_REGISTER = std::int64_t{26} * 365;
+    Random projectTime{plan_.start(), TIMES, static_cast<std::uint64_t>(t.section), t.project};
+    Random random{plan_.start(), TIMES, source};
+    const auto begin = keyDate().plusDays(-DAYS_OF_THE_REGISTER + projectTime.between(0, DAYS_OF_THE_REGISTER - 200));
+    const auto days = t.number / 10 + random.between(0, 20) + revision * random.between(30, 260);
+    return std::min(workingTime(begin.plusDays(days), random), keyDate().plusDays(revision - 40));
 }
 
 // What is being worked on was changed lately.
-Zeitpunkt Dokumente::geaendert(std::uint32_t teil, int revision) const
+DateTime Documents::changed(std::uint32_t part, int revision) const
 {
-    Zufall zufall{plan_.start(), ZEITEN, teil, static_cast<std::uint64_t>(revision)};
-    const Zeitpunkt anfang = erstellt(teil, revision);
-    const int stand = status(teil, revision);
-    if (stand == 1 || stand == 2)
-        return arbeitszeit(stichtag().plusTage(-zufall.zwischen(0, 30)), zufall);
-    return std::max(anfang.plusSekunden(600), arbeitszeit(anfang.plusTage(zufall.zwischen(0, 15)), zufall));
+    Random random{plan_.start(), TIMES, part, static_cast<std::uint64_t>(revision)};
+    const DateTime begin = created(part, revision);
+    const int state = status(part, revision);
+    if (state == 1 || state == 2)
+        return workingTime(keyDate().plusDays(-random.between(0, 30)), random);
+    return std::max(begin.plusSeconds(600), workingTime(begin.plusDays(random.between(0, 15)), random));
 }
 
 } // namespace quelvarn::sample

@@ -9,50 +9,50 @@
 
 namespace quelvarn::sample {
 
-struct Bauform;
-class Zufall;
+struct Design;
+class Random;
 
 // The last day of the sample register's life: nothing in it is younger.
-Zeitpunkt stichtag();
+DateTime keyDate();
 
 // Everything that a document (an item and one of its revisions) is called and has. The same question gives the
 // same answer, whichever table asks it.
-class Dokumente
+class Documents
 {
 public:
-    explicit Dokumente(const Plan& plan) : plan_(plan) {}
+    explicit Documents(const Plan& plan) : plan_(plan) {}
     const Plan& plan() const { return plan_; }
 
-    std::string dokuBez(std::uint32_t teil) const;
-    std::string revBez(std::uint32_t teil, int revision) const;
-    std::string dateiname(std::uint32_t teil, int revision) const;
-    std::string filename(std::uint32_t teil, int revision) const;
-    std::string_view endung(std::uint32_t teil) const;
+    std::string documentName(std::uint32_t part) const;
+    std::string revisionName(std::uint32_t part, int revision) const;
+    std::string fileName(std::uint32_t part, int revision) const;
+    std::string filename(std::uint32_t part, int revision) const;
+    std::string_view extension(std::uint32_t part) const;
 
-    int status(std::uint32_t teil, int revision) const;
-    std::string projekt(std::uint32_t teil) const;
-    Value autor(std::uint32_t teil) const;
-    Value bearbeiter(std::uint32_t teil, int revision) const;
-    Value material(std::uint32_t teil) const;
-    std::string titel(std::uint32_t teil) const;
-    Zeitpunkt erstellt(std::uint32_t teil, int revision) const;
-    Zeitpunkt geaendert(std::uint32_t teil, int revision) const;
+    int status(std::uint32_t part, int revision) const;
+    std::string project(std::uint32_t part) const;
+    Value author(std::uint32_t part) const;
+    Value editor(std::uint32_t part, int revision) const;
+    Value material(std::uint32_t part) const;
+    std::string title(std::uint32_t part) const;
+    DateTime created(std::uint32_t part, int revision) const;
+    DateTime changed(std::uint32_t part, int revision) const;
 
     // A row of its document table, cells in the order of the columns.
-    void zeile(std::uint32_t teil, int revision, std::vector<Value>& werte) const;
+    void row(std::uint32_t part, int revision, std::vector<Value>& values) const;
 
     // The item that a drawing shows; any other item is its own.
-    std::uint32_t modell(std::uint32_t teil) const;
+    std::uint32_t model(std::uint32_t part) const;
 
 private:
-    std::string ordner(const Teil& teil) const;
-    std::string stammname(const Teil& teil) const;
-    const Bauform* findBauform(const Teil& teil) const;
-    std::string_view gruppenname(const Teil& teil) const;
-    Value thema(const Teil& teil) const;
-    std::string_view kategorie(const Teil& teil, Zufall& zufall) const;
-    void fuegeMerkmaleAn(const Teil& teil, Zufall& zufall, std::vector<Value>& werte) const;
-    void fuegeHauptwerteAn(const Teil& teil, Zufall& zufall, std::vector<Value>& werte) const;
+    std::string folder(const Part& part) const;
+    std::string stemName(const Part& part) const;
+    const Design* findDesign(const Part& part) const;
+    std::string_view groupName(const Part& part) const;
+    Value topic(const Part& part) const;
+    std::string_view category(const Part& part, Random& random) const;
+    void appendFeatures(const Part& part, Random& random, std::vector<Value>& values) const;
+    void appendMainValues(const Part& part, Random& random, std::vector<Value>& values) const;
 
     const Plan& plan_;
 };

@@ -9,176 +9,174 @@ namespace quelvarn::sample {
 
 namespace {
 
-enum Frage : std::uint64_t { NORMTEILE = 60, ZWEITES_MODELL, ZUSATZ, TIFF, GETRIEBEWAHL };
+enum Question : std::uint64_t { STANDARD_PARTS = 60, SECOND_MODEL, ADDITION, TIFF, GEAR_CHOICE };
 
-using Zeile = std::vector<Value>;
+using Row = std::vector<Value>;
 
 // The revision of a part that this revision of its assembly was built with: the newest with the newest.
-int eingebauteRevision(const Teil& baugruppe, int revision, const Teil& teil)
+int builtInRevision(const Part& assembly, int revision, const Part& part)
 {
-    if (revision + 1 >= baugruppe.revisionen)
-        return teil.revisionen - 1;
-    return (teil.revisionen - 1) * revision / (baugruppe.revisionen - 1);
+    if (revision + 1 >= assembly.revisions)
+        return part.revisions - 1;
+    return (part.revisions - 1) * revision / (assembly.revisions - 1);
 }
 
-void fuegeDokumentAn(Zeile& zeile, const Dokumente& dokumente, std::uint32_t teil, int revision)
+void appendDocument(Row& row, const Documents& documents, std::uint32_t part, int revision)
 {
-    zeile.emplace_back(dokumente.dokuBez(teil));
-    zeile.emplace_back(dokumente.revBez(teil, revision));
-    zeile.emplace_back(dokumente.dateiname(teil, revision));
-    zeile.emplace_back(dokumente.filename(teil, revision));
+    row.emplace_back(documents.documentName(part));
+    row.emplace_back(documents.revisionName(part, revision));
+    row.emplace_back(documents.fileName(part, revision));
+    row.emplace_back(documents.filename(part, revision));
 }
 
 // One row for each revision of the assembly.
-void baueEin(const Dokumente& dokumente, std::uint32_t baugruppe, std::uint32_t teil, Zeilensenke& senke)
+void buildIn(const Documents& documents, std::uint32_t assembly, std::uint32_t part, RowSink& sink)
 {
-    const Teil& eltern = dokumente.plan().teil(baugruppe);
-    for (int revision = 0; revision < eltern.revisionen; ++revision) {
-        Zeile zeile;
-        fuegeDokumentAn(zeile, dokumente, baugruppe, revision);
-        zeile.emplace_back(dokumente.filename(teil, eingebauteRevision(eltern, revision, dokumente.plan().teil(teil))));
-        senke.zeile(zeile);
+    const Part& parent = documents.plan().part(assembly);
+    for (int revision = 0; revision < parent.revisions; ++revision) {
+        Row row;
+        appendDocument(row, documents, assembly, revision);
+        row.emplace_back(documents.filename(part, builtInRevision(parent, revision, documents.plan().part(part))));
+        sink.row(row);
     }
 }
 
-void baueNormUndKaufteileEin(const Dokumente& dokumente, std::uint32_t baugruppe, Zeilensenke& senke)
+void buildInStandardAndBoughtParts(const Documents& documents, std::uint32_t assembly, RowSink& sink)
 {
-    const Plan& plan = dokumente.plan();
-    Zufall zufall{plan.start(), NORMTEILE, baugruppe};
-    const auto nimm = [&](const std::vector<std::uint32_t>& auswahl, std::int64_t anzahl) {
-        std::vector<std::uint32_t> gewaehlt;
-        for (; anzahl > 0 && !auswahl.empty(); --anzahl)
-            gewaehlt.push_back(zufall.aus(auswahl));
-        std::ranges::sort(gewaehlt);
-        gewaehlt.erase(std::unique(gewaehlt.begin(), gewaehlt.end()), gewaehlt.end());
-        for (const auto teil : gewaehlt)
-            baueEin(dokumente, baugruppe, teil, senke);
+    const Plan& plan = documents.plan();
+    Random random{plan.start(), STANDARD_PARTS, assembly};
+    const auto take = [&](const std::vector<std::uint32_t>& selection, std::int64_t count) {
+        std::vector<std::uint32_t> chosen;
+        for (; count > 0 && !selection.empty(); --count)
+            chosen.push_back(random.out(selection));
+        std::ranges::sort(chosen);
+        chosen.erase(std::unique(chosen.begin(), chosen.end()), chosen.end());
+        for (const auto part : chosen)
+            buildIn(documents, assembly, part, sink);
     };
-    nimm(plan.normteile(), zufall.zwischen(2, 6));
-    nimm(plan.kaufteile(), zufall.zwischen(0, 2));
+    take(plan.standardParts(), random.between(2, 6));
+    take(plan.boughtParts(), random.between(0, 2));
 }
 
 // The assembly that a part goes into: a weldment takes the place of its model.
-std::uint32_t einbauort(const Plan& plan, const Teil& teil)
+std::uint32_t placeOfUse(const Plan& plan, const Part& part)
 {
-    return teil.tab == Tab::Weld ? plan.teil(teil.eltern).eltern : teil.eltern;
+    return part.tab == Tab::Weld ? plan.part(part.parent).parent : part.parent;
 }
 
-void modellzeile(const Dokumente& dokumente, std::uint32_t dokument, int revision, std::uint32_t modell,
-                 Zeilensenke& senke)
+void modelRow(const Documents& documents, std::uint32_t document, int revision, std::uint32_t model, RowSink& sink)
 {
-    const int modellrevision = std::min(revision, dokumente.plan().teil(modell).revisionen - 1);
-    Zeile zeile;
-    fuegeDokumentAn(zeile, dokumente, dokument, revision);
-    zeile.emplace_back(dokumente.dateiname(modell, modellrevision));
-    zeile.emplace_back(dokumente.filename(modell, modellrevision));
-    senke.zeile(zeile);
+    const int modelRevision = std::min(revision, documents.plan().part(model).revisions - 1);
+    Row row;
+    appendDocument(row, documents, document, revision);
+    row.emplace_back(documents.fileName(model, modelRevision));
+    row.emplace_back(documents.filename(model, modelRevision));
+    sink.row(row);
 }
 
 } // namespace
 
-void schreibeZusBauPart(const Dokumente& dokumente, Zeilensenke& senke)
+void writeZusBauPart(const Documents& documents, RowSink& sink)
 {
-    const Plan& plan = dokumente.plan();
-    for (std::uint32_t i = 0; i < plan.teile().size(); ++i) {
-        const Teil& teil = plan.teil(i);
-        if (teil.tab == Tab::Assemb && teil.nummer % 100 != 0)
-            baueNormUndKaufteileEin(dokumente, i, senke);
-        const bool einzelteil = teil.tab == Tab::Part || teil.tab == Tab::SheetM || teil.tab == Tab::Weld ||
-                                (teil.tab == Tab::STbl3 && dokumente.endung(i) == "par");
-        if (einzelteil && einbauort(plan, teil) != KEINES)
-            baueEin(dokumente, einbauort(plan, teil), i, senke);
+    const Plan& plan = documents.plan();
+    for (std::uint32_t i = 0; i < plan.parts().size(); ++i) {
+        const Part& part = plan.part(i);
+        if (part.tab == Tab::Assemb && part.number % 100 != 0)
+            buildInStandardAndBoughtParts(documents, i, sink);
+        const bool singlePart = part.tab == Tab::Part || part.tab == Tab::SheetM || part.tab == Tab::Weld ||
+                                (part.tab == Tab::STbl3 && documents.extension(i) == "par");
+        if (singlePart && placeOfUse(plan, part) != NONE)
+            buildIn(documents, placeOfUse(plan, part), i, sink);
     }
 }
 
-void schreibeZusBauSubAss(const Dokumente& dokumente, Zeilensenke& senke)
+void writeZusBauSubAss(const Documents& documents, RowSink& sink)
 {
-    constexpr int ANTRIEBSEINHEIT = 110;
-    const Plan& plan = dokumente.plan();
-    for (std::uint32_t i = 0; i < plan.teile().size(); ++i) {
-        const Teil& teil = plan.teil(i);
-        if (teil.tab != Tab::Assemb)
+    constexpr int DRIVE_UNIT = 110;
+    const Plan& plan = documents.plan();
+    for (std::uint32_t i = 0; i < plan.parts().size(); ++i) {
+        const Part& part = plan.part(i);
+        if (part.tab != Tab::Assemb)
             continue;
-        if (teil.eltern != KEINES)
-            baueEin(dokumente, teil.eltern, i, senke);
-        if (teil.bereich == Bereich::Foerderanlage && teil.nummer == ANTRIEBSEINHEIT && !plan.getriebe().empty())
-            baueEin(dokumente, i, Zufall{plan.start(), GETRIEBEWAHL, i}.aus(plan.getriebe()), senke);
+        if (part.parent != NONE)
+            buildIn(documents, part.parent, i, sink);
+        if (part.section == Section::Conveyor && part.number == DRIVE_UNIT && !plan.gear().empty())
+            buildIn(documents, i, Random{plan.start(), GEAR_CHOICE, i}.out(plan.gear()), sink);
     }
 }
 
-void schreibeVerbindungDraftPart(const Dokumente& dokumente, Zeilensenke& senke)
+void writeVerbindungDraftPart(const Documents& documents, RowSink& sink)
 {
-    const Plan& plan = dokumente.plan();
-    fuerJedesDokument(dokumente, [&](std::uint32_t i, int revision) {
-        const Teil& teil = plan.teil(i);
-        if (teil.tab == Tab::Draft && teil.bereich == Bereich::Norm)
-            for (std::size_t k = 0; k < MODELLE_DER_UEBERSICHT; ++k)
-                modellzeile(dokumente, i, revision, plan.normteile()[k], senke);
-        const bool zeichnung = teil.tab == Tab::Draft || (teil.tab == Tab::STbl3 && dokumente.endung(i) == "dft");
-        if (!zeichnung || teil.eltern == KEINES)
+    const Plan& plan = documents.plan();
+    forEachDocument(documents, [&](std::uint32_t i, int revision) {
+        const Part& part = plan.part(i);
+        if (part.tab == Tab::Draft && part.section == Section::Standard)
+            for (std::size_t k = 0; k < MODELS_OF_OVERVIEW; ++k)
+                modelRow(documents, i, revision, plan.standardParts()[k], sink);
+        const bool drawing = part.tab == Tab::Draft || (part.tab == Tab::STbl3 && documents.extension(i) == "dft");
+        if (!drawing || part.parent == NONE)
             return;
-        modellzeile(dokumente, i, revision, teil.eltern, senke);
-        const auto baugruppe = plan.teil(teil.eltern).eltern;
-        if (baugruppe != KEINES && Zufall{plan.start(), ZWEITES_MODELL, i}.prozent(6))
-            modellzeile(dokumente, i, revision, baugruppe, senke);
+        modelRow(documents, i, revision, part.parent, sink);
+        const auto assembly = plan.part(part.parent).parent;
+        if (assembly != NONE && Random{plan.start(), SECOND_MODEL, i}.percent(6))
+            modelRow(documents, i, revision, assembly, sink);
     });
 }
 
-void schreibeVerbindungWeldAssemb(const Dokumente& dokumente, Zeilensenke& senke)
+void writeVerbindungWeldAssemb(const Documents& documents, RowSink& sink)
 {
-    fuerJedesDokument(dokumente, [&](std::uint32_t i, int revision) {
-        const Teil& teil = dokumente.plan().teil(i);
-        if (teil.tab == Tab::Weld)
-            modellzeile(dokumente, i, revision, teil.eltern, senke);
+    forEachDocument(documents, [&](std::uint32_t i, int revision) {
+        const Part& part = documents.plan().part(i);
+        if (part.tab == Tab::Weld)
+            modelRow(documents, i, revision, part.parent, sink);
     });
 }
 
-std::vector<ZusaetzlichesDokument> zusaetzlicheDokumente(const Dokumente& dokumente, std::uint32_t teil, int revision)
+std::vector<AdditionalDocument> additionalDocuments(const Documents& documents, std::uint32_t part, int revision)
 {
-    constexpr std::string_view ARTEN =
+    constexpr std::string_view KINDS =
         "Datenblatt.pdf|Prüfprotokoll.pdf|Berechnung.xls|Montageanleitung.doc|Hinweise.txt|Schaltplan.pdf|"
         "Skizze.tif";
-    Zufall zufall{dokumente.plan().start(), ZUSATZ, teil, static_cast<std::uint64_t>(revision)};
-    std::vector<ZusaetzlichesDokument> ergebnis;
-    if (!zufall.prozent(6))
-        return ergebnis;
-    for (auto anzahl = zufall.zwischen(1, 3); anzahl > 0; --anzahl) {
-        ZusaetzlichesDokument neu{.dateiname = fmt::format("{} {}", dokumente.dokuBez(teil), zufall.teil(ARTEN)),
-                                  .filename = {},
-                                  .mitsenden = zufall.prozent(40)};
-        neu.filename = fmt::format("{}Zusatzdokumente\\{}\\{}", ORDNER, dokumente.projekt(teil), neu.dateiname);
-        if (std::ranges::none_of(ergebnis, [&](const auto& d) { return d.dateiname == neu.dateiname; }))
-            ergebnis.push_back(std::move(neu));
+    Random random{documents.plan().start(), ADDITION, part, static_cast<std::uint64_t>(revision)};
+    std::vector<AdditionalDocument> result;
+    if (!random.percent(6))
+        return result;
+    for (auto count = random.between(1, 3); count > 0; --count) {
+        AdditionalDocument fresh{.fileName = fmt::format("{} {}", documents.documentName(part), random.part(KINDS)),
+                                 .filename = {},
+                                 .sendAlong = random.percent(40)};
+        fresh.filename = fmt::format("{}Zusatzdokumente\\{}\\{}", FOLDER, documents.project(part), fresh.fileName);
+        if (std::ranges::none_of(result, [&](const auto& d) { return d.fileName == fresh.fileName; }))
+            result.push_back(std::move(fresh));
     }
-    return ergebnis;
+    return result;
 }
 
-void schreibeVerbindungPartZusDoku(const Dokumente& dokumente, Zeilensenke& senke)
+void writeVerbindungPartZusDoku(const Documents& documents, RowSink& sink)
 {
-    fuerJedesDokument(dokumente, [&](std::uint32_t teil, int revision) {
-        if (dokumente.plan().teil(teil).tab > Tab::Weld)
+    forEachDocument(documents, [&](std::uint32_t part, int revision) {
+        if (documents.plan().part(part).tab > Tab::Weld)
             return;
-        for (const auto& zusatz : zusaetzlicheDokumente(dokumente, teil, revision))
-            senke.zeile(Zeile{dokumente.filename(teil, revision), zusatz.dateiname,
-                              zusatz.filename + (zusatz.mitsenden ? "/J" : "")});
+        for (const auto& addition : additionalDocuments(documents, part, revision))
+            sink.row(Row{documents.filename(part, revision), addition.fileName,
+                         addition.filename + (addition.sendAlong ? "/J" : "")});
     });
 }
 
-std::string tiffDatei(const Dokumente& dokumente, std::uint32_t teil, int revision)
+std::string tiffFile(const Documents& documents, std::uint32_t part, int revision)
 {
-    const bool vorhanden =
-        dokumente.plan().teil(teil).tab == Tab::Draft &&
-        Zufall{dokumente.plan().start(), TIFF, teil, static_cast<std::uint64_t>(revision)}.prozent(30);
-    const std::string name = dokumente.dateiname(teil, revision);
-    return vorhanden ? fmt::format("{}TIFF\\{}tif", ORDNER, name.substr(0, name.size() - 3)) : "";
+    const bool exists = documents.plan().part(part).tab == Tab::Draft &&
+                        Random{documents.plan().start(), TIFF, part, static_cast<std::uint64_t>(revision)}.percent(30);
+    const std::string name = documents.fileName(part, revision);
+    return exists ? fmt::format("{}TIFF\\{}tif", FOLDER, name.substr(0, name.size() - 3)) : "";
 }
 
-void schreibeTIFFTabelle(const Dokumente& dokumente, Zeilensenke& senke)
+void writeTIFFTabelle(const Documents& documents, RowSink& sink)
 {
-    fuerJedesDokument(dokumente, [&](std::uint32_t teil, int revision) {
-        const std::string datei = tiffDatei(dokumente, teil, revision);
-        if (!datei.empty())
-            senke.zeile(Zeile{datei.substr(datei.rfind('\\') + 1), datei});
+    forEachDocument(documents, [&](std::uint32_t part, int revision) {
+        const std::string file = tiffFile(documents, part, revision);
+        if (!file.empty())
+            sink.row(Row{file.substr(file.rfind('\\') + 1), file});
     });
 }
 

@@ -10,225 +10,227 @@ namespace quelvarn::sample {
 namespace {
 
 // Kinds of random numbers: each question asks a series of its own.
-enum Frage : std::uint64_t { REVISIONEN = 1, AUFBAU = 2, ZEICHNUNG = 3 };
+enum Question : std::uint64_t { REVISIONS = 1, LAYOUT = 2, DRAWING = 3 };
 
 // Of a hundred documents.
-constexpr std::uint64_t ANTEIL_NORMTEILE = 7;
-constexpr std::uint64_t ANTEIL_KAUFTEILE = 4;
-constexpr std::uint64_t ANTEIL_VORRICHTUNGEN = 4;
-constexpr std::uint64_t VORLAGEN_HOECHSTENS = 24;
-constexpr int TEILE_MINDESTENS = 3; // Of a sub-assembly.
-constexpr int TEILE_HOECHSTENS = 7;
+constexpr std::uint64_t STANDARD_PART_SHARE = 7;
+constexpr std::uint64_t BOUGHT_PART_SHARE = 4;
+constexpr std::uint64_t FIXTURE_SHARE = 4;
+constexpr std::uint64_t TEMPLATE_LIMIT = 24;
+constexpr int PART_MINIMUM = 3; // Of a sub-assembly.
+constexpr int PART_LIMIT = 7;
 
-constexpr std::array<Bereich, 9> PROJEKTFOLGE{Bereich::Getriebe,      Bereich::Foerderanlage, Bereich::Foerderanlage,
-                                              Bereich::Rahmen,        Bereich::Foerderanlage, Bereich::Getriebe,
-                                              Bereich::Foerderanlage, Bereich::Rahmen,        Bereich::Foerderanlage};
+constexpr std::array<Section, 9> PROJECT_SEQUENCE{Section::Gear,     Section::Conveyor, Section::Conveyor,
+                                                  Section::Frame,    Section::Conveyor, Section::Gear,
+                                                  Section::Conveyor, Section::Frame,    Section::Conveyor};
 
-std::span<const Maschine> maschinen(Bereich bereich)
+std::span<const Machine> machines(Section section)
 {
-    switch (bereich) {
-    case Bereich::Getriebe:
-        return getriebe();
-    case Bereich::Rahmen:
-        return rahmen();
+    switch (section) {
+    case Section::Gear:
+        return gear();
+    case Section::Frame:
+        return frame();
     default:
-        return foerderanlagen();
+        return conveyors();
     }
 }
 
-std::size_t anzahlTeile(std::string_view auswahl)
+std::size_t partCount(std::string_view selection)
 {
-    return static_cast<std::size_t>(std::ranges::count(auswahl, '|')) + 1;
+    return static_cast<std::size_t>(std::ranges::count(selection, '|')) + 1;
 }
 
-std::string_view teilNummer(std::string_view auswahl, std::uint64_t nummer)
+std::string_view partNumber(std::string_view selection, std::uint64_t number)
 {
-    for (; nummer > 0; --nummer)
-        auswahl.remove_prefix(auswahl.find('|') + 1);
-    return auswahl.substr(0, auswahl.find('|'));
+    for (; number > 0; --number)
+        selection.remove_prefix(selection.find('|') + 1);
+    return selection.substr(0, selection.find('|'));
 }
 
-std::uint64_t anzahlIn(const Normreihe& reihe)
+std::uint64_t countIn(const StandardSeries& series)
 {
-    return anzahlTeile(reihe.groessen) * anzahlTeile(reihe.laengen) * anzahlTeile(reihe.ausfuehrung);
+    return partCount(series.sizes) * partCount(series.lengths) * partCount(series.variant);
 }
 
 } // namespace
 
-Plan::Plan(std::uint64_t dokumente, std::uint64_t start) : start_(start), frei_(dokumente)
+Plan::Plan(std::uint64_t documents, std::uint64_t start) : start_(start), free_(documents)
 {
-    teile_.reserve(dokumente * 6 / 10);
-    planeVorlagen(std::min(VORLAGEN_HOECHSTENS, dokumente / 80));
-    planeNormteile(std::min(anzahlNormteile(), dokumente * ANTEIL_NORMTEILE / 100));
-    planeKaufteile(dokumente * ANTEIL_KAUFTEILE / 100);
-    planeVorrichtungen(dokumente * ANTEIL_VORRICHTUNGEN / 100);
-    std::array<std::uint32_t, 3> laufend{};
-    for (std::size_t i = 0; !voll(); ++i) {
-        const Bereich bereich = PROJEKTFOLGE[i % PROJEKTFOLGE.size()];
-        planeProjekt(bereich, laufend[static_cast<std::size_t>(bereich)]++);
+    parts_.reserve(documents * 6 / 10);
+    planeTemplates(std::min(TEMPLATE_LIMIT, documents / 80));
+    planStandardParts(std::min(standardPartCount(), documents * STANDARD_PART_SHARE / 100));
+    planeBoughtParts(documents * BOUGHT_PART_SHARE / 100);
+    planeFixtures(documents * FIXTURE_SHARE / 100);
+    std::array<std::uint32_t, 3> running{};
+    for (std::size_t i = 0; !full(); ++i) {
+        const Section section = PROJECT_SEQUENCE[i % PROJECT_SEQUENCE.size()];
+        planeProject(section, running[static_cast<std::size_t>(section)]++);
     }
 }
 
-std::uint8_t Plan::wuerfleRevisionen(std::uint32_t nummer) const
+std::uint8_t Plan::rollRevisions(std::uint32_t number) const
 {
-    constexpr std::array<std::uint32_t, 5> BIS_ZU{60, 80, 90, 95, 98}; // of 100 for 1, 2, ... revisions
-    const auto wurf = Zufall{start_, REVISIONEN, nummer}.unter(100);
-    return static_cast<std::uint8_t>(1 + (std::ranges::upper_bound(BIS_ZU, wurf) - BIS_ZU.begin()));
+    constexpr std::array<std::uint32_t, 5> UP_TO{60, 80, 90, 95, 98}; // of 100 for 1, 2, ... revisions
+    const auto draw = Random{start_, REVISIONS, number}.below(100);
+    return static_cast<std::uint8_t>(1 + (std::ranges::upper_bound(UP_TO, draw) - UP_TO.begin()));
 }
 
-// The number of the item, or KEINES when the register is full.
-std::uint32_t Plan::fuegeAn(Teil teil)
+// The number of the item, or NONE when the register is full.
+std::uint32_t Plan::append(Part part)
 {
-    if (voll())
-        return KEINES;
-    teil.revisionen = static_cast<std::uint8_t>(std::min<std::uint64_t>(teil.revisionen, frei_));
-    frei_ -= teil.revisionen;
-    teile_.push_back(teil);
-    return static_cast<std::uint32_t>(teile_.size() - 1);
+    if (full())
+        return NONE;
+    part.revisions = static_cast<std::uint8_t>(std::min<std::uint64_t>(part.revisions, free_));
+    free_ -= part.revisions;
+    parts_.push_back(part);
+    return static_cast<std::uint32_t>(parts_.size() - 1);
 }
 
-void Plan::planeVorlagen(std::uint64_t anzahl)
+void Plan::planeTemplates(std::uint64_t count)
 {
-    for (std::uint32_t i = 0; i < anzahl; ++i)
-        fuegeAn({.projekt = i / static_cast<std::uint32_t>(bauteile().size()),
-                 .nummer = static_cast<std::uint16_t>(i + 1),
-                 .bauform = static_cast<std::uint8_t>(i % bauteile().size()),
-                 .bereich = Bereich::Vorlage,
-                 .tab = Tab::Draft});
+    for (std::uint32_t i = 0; i < count; ++i)
+        append({.project = i / static_cast<std::uint32_t>(partDesigns().size()),
+                .number = static_cast<std::uint16_t>(i + 1),
+                .design = static_cast<std::uint8_t>(i % partDesigns().size()),
+                .section = Section::Template,
+                .tab = Tab::Draft});
 }
 
 // Spread evenly over the catalog, and one drawing that shows many of them.
-void Plan::planeNormteile(std::uint64_t anzahl)
+void Plan::planStandardParts(std::uint64_t count)
 {
-    for (std::uint64_t i = 0; i < anzahl; ++i)
-        normteile_.push_back(fuegeAn({.projekt = static_cast<std::uint32_t>(i * anzahlNormteile() / anzahl),
-                                      .bereich = Bereich::Norm,
-                                      .tab = Tab::STbl1}));
-    if (anzahl >= MODELLE_DER_UEBERSICHT)
-        fuegeAn({.bereich = Bereich::Norm, .tab = Tab::Draft});
+    for (std::uint64_t i = 0; i < count; ++i)
+        standardParts_.push_back(append({.project = static_cast<std::uint32_t>(i * standardPartCount() / count),
+                                         .section = Section::Standard,
+                                         .tab = Tab::STbl1}));
+    if (count >= MODELS_OF_OVERVIEW)
+        append({.section = Section::Standard, .tab = Tab::Draft});
 }
 
-void Plan::planeKaufteile(std::uint64_t anzahl)
+void Plan::planeBoughtParts(std::uint64_t count)
 {
-    for (std::uint32_t i = 0; i < anzahl; ++i)
-        kaufteile_.push_back(fuegeAn({.projekt = i,
-                                      .bauform = static_cast<std::uint8_t>(i % kaufreihen().size()),
-                                      .bereich = Bereich::Kauf,
-                                      .tab = Tab::STbl2}));
+    for (std::uint32_t i = 0; i < count; ++i)
+        boughtParts_.push_back(append({.project = i,
+                                       .design = static_cast<std::uint8_t>(i % boughtSeries().size()),
+                                       .section = Section::Bought,
+                                       .tab = Tab::STbl2}));
 }
 
 // Each fixture is an assembly, its base plate and a drawing.
-void Plan::planeVorrichtungen(std::uint64_t anzahl)
+void Plan::planeFixtures(std::uint64_t count)
 {
-    constexpr int GRUNDPLATTE = 10;
-    constexpr int ZEICHNUNG_DAZU = 90;
-    constexpr std::array<std::uint16_t, 3> NUMMERN{0, GRUNDPLATTE, ZEICHNUNG_DAZU};
-    std::uint32_t eltern = KEINES;
-    for (std::uint32_t i = 0; i < anzahl; ++i) {
-        const auto nummer = NUMMERN[i % NUMMERN.size()];
-        const auto teil = fuegeAn({.projekt = i / static_cast<std::uint32_t>(NUMMERN.size()),
-                                   .eltern = nummer == 0 ? KEINES : eltern,
-                                   .nummer = nummer,
-                                   .bauform = static_cast<std::uint8_t>(i / NUMMERN.size() % vorrichtungen().size()),
-                                   .bereich = Bereich::Vorrichtung,
-                                   .tab = Tab::STbl3});
-        eltern = nummer == 0 ? teil : eltern;
+    constexpr int BASE_PLATE = 10;
+    constexpr int DRAWING_ADDED = 90;
+    constexpr std::array<std::uint16_t, 3> NUMBERS{0, BASE_PLATE, DRAWING_ADDED};
+    std::uint32_t parent = NONE;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const auto number = NUMBERS[i % NUMBERS.size()];
+        const auto part = append({.project = i / static_cast<std::uint32_t>(NUMBERS.size()),
+                                  .parent = number == 0 ? NONE : parent,
+                                  .number = number,
+                                  .design = static_cast<std::uint8_t>(i / NUMBERS.size() % fixtures().size()),
+                                  .section = Section::Fixture,
+                                  .tab = Tab::STbl3});
+        parent = number == 0 ? part : parent;
     }
 }
 
-const Maschine& Plan::maschine(Bereich bereich, std::uint32_t projekt) const
+const Machine& Plan::machine(Section section, std::uint32_t project) const
 {
-    return Zufall{start_, AUFBAU, static_cast<std::uint64_t>(bereich), projekt}.aus(maschinen(bereich));
+    return Random{start_, LAYOUT, static_cast<std::uint64_t>(section), project}.out(machines(section));
 }
 
-void Plan::planeProjekt(Bereich bereich, std::uint32_t projekt)
+void Plan::planeProject(Section section, std::uint32_t project)
 {
-    const Teil anlage{.projekt = projekt, .bereich = bereich, .tab = Tab::Assemb};
-    const auto oberste = planeModell(anlage, 95);
-    if (bereich == Bereich::Getriebe && oberste != KEINES)
-        getriebe_.push_back(oberste);
-    int nummer = 0;
-    for (const Baugruppe& vorlage : maschine(bereich, projekt).gruppen) {
-        nummer += 100;
-        if (vorlage.name.empty())
+    const Part plant{.project = project, .section = section, .tab = Tab::Assemb};
+    const auto top = planeModel(plant, 95);
+    if (section == Section::Gear && top != NONE)
+        gear_.push_back(top);
+    int number = 0;
+    for (const Assembly& drawingTemplate : machine(section, project).groups) {
+        number += 100;
+        if (drawingTemplate.name.empty())
             continue;
-        Teil gruppe = anlage;
-        gruppe.eltern = oberste;
-        gruppe.nummer = static_cast<std::uint16_t>(nummer);
-        const auto index = planeModell(gruppe, 90);
-        for (std::size_t u = 0; u < vorlage.unterbaugruppen.size(); ++u)
-            if (!vorlage.unterbaugruppen[u].empty())
-                planeUnterbaugruppe(gruppe, index, nummer + 10 * static_cast<int>(u + 1), vorlage);
+        Part group = plant;
+        group.parent = top;
+        group.number = static_cast<std::uint16_t>(number);
+        const auto index = planeModel(group, 90);
+        for (std::size_t u = 0; u < drawingTemplate.subassemblies.size(); ++u)
+            if (!drawingTemplate.subassemblies[u].empty())
+                planeSubassembly(group, index, number + 10 * static_cast<int>(u + 1), drawingTemplate);
     }
 }
 
 // With its drawing, by the given chance of 100.
-std::uint32_t Plan::planeModell(Teil teil, std::uint32_t mitZeichnung)
+std::uint32_t Plan::planeModel(Part part, std::uint32_t withDrawing)
 {
-    teil.revisionen = wuerfleRevisionen(static_cast<std::uint32_t>(teile_.size()));
-    const auto index = fuegeAn(teil);
-    planeZeichnung(index, mitZeichnung);
+    part.revisions = rollRevisions(static_cast<std::uint32_t>(parts_.size()));
+    const auto index = append(part);
+    planeDrawing(index, withDrawing);
     return index;
 }
 
-void Plan::planeUnterbaugruppe(const Teil& gruppe, std::uint32_t eltern, int nummer, const Baugruppe& vorlage)
+void Plan::planeSubassembly(const Part& group, std::uint32_t parent, int number, const Assembly& drawingTemplate)
 {
-    Zufall zufall{start_, AUFBAU, static_cast<std::uint64_t>(gruppe.bereich), gruppe.projekt,
-                  static_cast<std::uint64_t>(nummer)};
-    Teil unter = gruppe;
-    unter.eltern = eltern;
-    unter.nummer = static_cast<std::uint16_t>(nummer);
-    const auto index = planeModell(unter, 80);
-    const auto anzahl = zufall.zwischen(TEILE_MINDESTENS, TEILE_HOECHSTENS);
-    for (int i = 1; i <= anzahl; ++i) {
-        const bool blech = zufall.prozent(vorlage.blechlastig ? 60 : 15);
-        const auto formen = blech ? blechteile() : gruppe.bereich == Bereich::Getriebe ? zahnradteile() : bauteile();
-        Teil teil = unter;
-        teil.eltern = index;
-        teil.nummer = static_cast<std::uint16_t>(nummer + i);
-        teil.bauform = static_cast<std::uint8_t>(zufall.unter(static_cast<std::uint32_t>(formen.size())));
-        teil.tab = blech ? Tab::SheetM : Tab::Part;
-        planeModell(teil, 60);
+    Random random{start_, LAYOUT, static_cast<std::uint64_t>(group.section), group.project,
+                  static_cast<std::uint64_t>(number)};
+    Part below = group;
+    below.parent = parent;
+    below.number = static_cast<std::uint16_t>(number);
+    const auto index = planeModel(below, 80);
+    const auto count = random.between(PART_MINIMUM, PART_LIMIT);
+    for (int i = 1; i <= count; ++i) {
+        const bool sheetMetal = random.percent(drawingTemplate.sheetMetalHeavy ? 60 : 15);
+        const auto forms = sheetMetal                       ? sheetMetalDesigns()
+                           : group.section == Section::Gear ? gearDesigns()
+                                                            : partDesigns();
+        Part part = below;
+        part.parent = index;
+        part.number = static_cast<std::uint16_t>(number + i);
+        part.design = static_cast<std::uint8_t>(random.below(static_cast<std::uint32_t>(forms.size())));
+        part.tab = sheetMetal ? Tab::SheetM : Tab::Part;
+        planeModel(part, 60);
     }
-    if (!vorlage.geschweisst || index == KEINES)
+    if (!drawingTemplate.welded || index == NONE)
         return;
-    Teil schweissteil = teile_[index];
-    schweissteil.eltern = index;
-    schweissteil.tab = Tab::Weld;
-    planeZeichnung(fuegeAn(schweissteil), 70);
+    Part weldment = parts_[index];
+    weldment.parent = index;
+    weldment.tab = Tab::Weld;
+    planeDrawing(append(weldment), 70);
 }
 
-void Plan::planeZeichnung(std::uint32_t modell, std::uint32_t wahrscheinlichkeit)
+void Plan::planeDrawing(std::uint32_t model, std::uint32_t probability)
 {
-    if (modell == KEINES || !Zufall{start_, ZEICHNUNG, modell}.prozent(wahrscheinlichkeit))
+    if (model == NONE || !Random{start_, DRAWING, model}.percent(probability))
         return;
-    Teil zeichnung = teile_[modell];
-    zeichnung.eltern = modell;
-    zeichnung.tab = Tab::Draft;
-    fuegeAn(zeichnung);
+    Part drawing = parts_[model];
+    drawing.parent = model;
+    drawing.tab = Tab::Draft;
+    append(drawing);
 }
 
-std::uint64_t anzahlNormteile()
+std::uint64_t standardPartCount()
 {
-    std::uint64_t anzahl = 0;
-    for (const Normreihe& reihe : normreihen())
-        anzahl += anzahlIn(reihe);
-    return anzahl;
+    std::uint64_t count = 0;
+    for (const StandardSeries& series : standardSeries())
+        count += countIn(series);
+    return count;
 }
 
-Normteil normteil(std::uint64_t nummer)
+StandardPart standardPart(std::uint64_t number)
 {
-    std::size_t stelle = 0;
-    for (; nummer >= anzahlIn(normreihen()[stelle]); ++stelle)
-        nummer -= anzahlIn(normreihen()[stelle]);
-    const Normreihe& reihe = normreihen()[stelle];
-    const auto ausfuehrungen = anzahlTeile(reihe.ausfuehrung);
-    const auto laengen = anzahlTeile(reihe.laengen);
-    return {.reihe = stelle,
-            .groesse = teilNummer(reihe.groessen, nummer / ausfuehrungen / laengen),
-            .laenge = teilNummer(reihe.laengen, nummer / ausfuehrungen % laengen),
-            .ausfuehrung = teilNummer(reihe.ausfuehrung, nummer % ausfuehrungen),
-            .ersteAusfuehrung = nummer % ausfuehrungen == 0};
+    std::size_t position = 0;
+    for (; number >= countIn(standardSeries()[position]); ++position)
+        number -= countIn(standardSeries()[position]);
+    const StandardSeries& series = standardSeries()[position];
+    const auto variants = partCount(series.variant);
+    const auto lengths = partCount(series.lengths);
+    return {.series = position,
+            .size = partNumber(series.sizes, number / variants / lengths),
+            .length = partNumber(series.lengths, number / variants % lengths),
+            .variant = partNumber(series.variant, number % variants),
+            .firstVariant = number % variants == 0};
 }
 
 } // namespace quelvarn::sample

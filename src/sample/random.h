@@ -8,50 +8,50 @@
 namespace quelvarn::sample {
 
 // Numbers that look random and are the same on every system for the same start.
-class Zufall
+class Random
 {
 public:
     // Each set of numbers starts a series of its own, so that any part of a register can be made by itself.
-    Zufall(std::initializer_list<std::uint64_t> start)
+    Random(std::initializer_list<std::uint64_t> start)
     {
-        for (const auto zahl : start)
-            stand_ = mische(stand_ ^ (zahl + 0x9E3779B97F4A7C15));
+        for (const auto number : start)
+            state_ = mix(state_ ^ (number + 0x9E3779B97F4A7C15));
     }
 
-    std::uint32_t unter(std::uint32_t grenze)
+    std::uint32_t below(std::uint32_t limit)
     {
-        stand_ += 0x9E3779B97F4A7C15;
-        return static_cast<std::uint32_t>(((mische(stand_) >> 32) * grenze) >> 32);
+        state_ += 0x9E3779B97F4A7C15;
+        return static_cast<std::uint32_t>(((mix(state_) >> 32) * limit) >> 32);
     }
-    std::int64_t zwischen(std::int64_t von, std::int64_t bis)
+    std::int64_t between(std::int64_t from, std::int64_t until)
     {
-        return von + unter(static_cast<std::uint32_t>(bis - von + 1));
+        return from + below(static_cast<std::uint32_t>(until - from + 1));
     }
-    bool prozent(std::uint32_t wahrscheinlichkeit) { return unter(100) < wahrscheinlichkeit; }
+    bool percent(std::uint32_t probability) { return below(100) < probability; }
 
-    template <typename Liste> const auto& aus(const Liste& liste)
+    template <typename List> const auto& out(const List& list)
     {
-        return liste[unter(static_cast<std::uint32_t>(std::size(liste)))];
+        return list[below(static_cast<std::uint32_t>(std::size(list)))];
     }
     // One of the parts of "a|b|c".
-    std::string_view teil(std::string_view auswahl)
+    std::string_view part(std::string_view selection)
     {
-        std::uint32_t anzahl = 1;
-        for (const char zeichen : auswahl)
-            anzahl += zeichen == '|' ? 1 : 0;
-        for (auto ueberspringen = unter(anzahl); ueberspringen > 0; --ueberspringen)
-            auswahl.remove_prefix(auswahl.find('|') + 1);
-        return auswahl.substr(0, auswahl.find('|'));
+        std::uint32_t count = 1;
+        for (const char character : selection)
+            count += character == '|' ? 1 : 0;
+        for (auto skip = below(count); skip > 0; --skip)
+            selection.remove_prefix(selection.find('|') + 1);
+        return selection.substr(0, selection.find('|'));
     }
 
 private:
-    static constexpr std::uint64_t mische(std::uint64_t x)
+    static constexpr std::uint64_t mix(std::uint64_t x)
     {
         x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9;
         x = (x ^ (x >> 27)) * 0x94D049BB133111EB;
         return x ^ (x >> 31);
     }
-    std::uint64_t stand_ = 0;
+    std::uint64_t state_ = 0;
 };
 
 } // namespace quelvarn::sample

@@ -14,124 +14,124 @@ namespace quelvarn::sample {
 
 namespace {
 
-Laufzeitfehler fileFault(const std::string& text)
+RuntimeError fileFault(const std::string& text)
 {
     return {0, "qvadmin", text};
 }
 
 // Takes "W:\..." paths.
-class Laufwerk
+class Drive
 {
 public:
-    explicit Laufwerk(std::filesystem::path ordner) : ordner_(std::move(ordner)) {}
+    explicit Drive(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-    void schreibe(std::string_view pfad, std::string_view inhalt, Zeitpunkt geaendert)
+    void write(std::string_view documentPath, std::string_view content, DateTime changed)
     {
-        const auto ziel = systempfad(pfad);
-        if (ziel.parent_path() != letzterOrdner_)
-            legeOrdnerAn(ziel.parent_path());
-        letzterOrdner_ = ziel.parent_path();
-        anzahl_ += std::filesystem::exists(ziel) ? 0 : 1; // Revisions share their additional documents.
-        std::ofstream datei(ziel, std::ios::binary | std::ios::trunc);
-        datei.write(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
-        datei.close();
-        if (!datei)
-            throw fileFault(fmt::format("'{}' lässt sich nicht schreiben.", utf8FromPath(ziel)));
-        std::filesystem::last_write_time(ziel, dateizeit(geaendert));
+        const auto target = systemPath(documentPath);
+        if (target.parent_path() != lastFolder_)
+            createFolder(target.parent_path());
+        lastFolder_ = target.parent_path();
+        count_ += std::filesystem::exists(target) ? 0 : 1; // Revisions share their additional documents.
+        std::ofstream file(target, std::ios::binary | std::ios::trunc);
+        file.write(content.data(), static_cast<std::streamsize>(content.size()));
+        file.close();
+        if (!file)
+            throw fileFault(fmt::format("'{}' lässt sich nicht schreiben.", utf8FromPath(target)));
+        std::filesystem::last_write_time(target, fileTime(changed));
     }
-    void legeOrdnerAn(const std::filesystem::path& ordner)
+    void createFolder(const std::filesystem::path& folder)
     {
-        std::error_code fehler;
-        std::filesystem::create_directories(ordner, fehler);
-        if (fehler)
+        std::error_code fault;
+        std::filesystem::create_directories(folder, fault);
+        if (fault)
             throw fileFault(
-                fmt::format("Der Ordner '{}' lässt sich nicht anlegen: {}", utf8FromPath(ordner), fehler.message()));
+                fmt::format("Der Ordner '{}' lässt sich nicht anlegen: {}", utf8FromPath(folder), fault.message()));
     }
-    std::filesystem::path systempfad(std::string_view pfad) const
+    std::filesystem::path systemPath(std::string_view documentPath) const
     {
-        constexpr std::size_t HINTER_DEM_LAUFWERK = 3;
-        return ordner_ / pathFromUtf8(replaceAll(pfad.substr(HINTER_DEM_LAUFWERK), "\\", "/"));
+        constexpr std::size_t BEHIND_DRIVE = 3;
+        return folder_ / pathFromUtf8(replaceAll(documentPath.substr(BEHIND_DRIVE), "\\", "/"));
     }
-    std::uint64_t anzahl() const { return anzahl_; }
+    std::uint64_t count() const { return count_; }
 
 private:
-    static std::filesystem::file_time_type dateizeit(Zeitpunkt zeit)
+    static std::filesystem::file_time_type fileTime(DateTime time)
     {
-        const Kalenderzeit k = zeit.kalender();
-        std::tm lokal{};
-        lokal.tm_year = k.jahr - 1900;
-        lokal.tm_mon = k.monat - 1;
-        lokal.tm_mday = k.tag;
-        lokal.tm_hour = k.stunde;
-        lokal.tm_min = k.minute;
-        lokal.tm_sec = k.sekunde;
-        lokal.tm_isdst = -1;
-        return std::chrono::file_clock::from_sys(std::chrono::system_clock::from_time_t(std::mktime(&lokal)));
+        const CalendarTime k = time.calendar();
+        std::tm local{};
+        local.tm_year = k.year - 1900;
+        local.tm_mon = k.month - 1;
+        local.tm_mday = k.day;
+        local.tm_hour = k.hour;
+        local.tm_min = k.minute;
+        local.tm_sec = k.second;
+        local.tm_isdst = -1;
+        return std::chrono::file_clock::from_sys(std::chrono::system_clock::from_time_t(std::mktime(&local)));
     }
 
-    std::filesystem::path ordner_;
-    std::filesystem::path letzterOrdner_;
-    std::uint64_t anzahl_ = 0;
+    std::filesystem::path folder_;
+    std::filesystem::path lastFolder_;
+    std::uint64_t count_ = 0;
 };
 
-std::string mitEndung(std::string pfad, std::string_view endung)
+std::string withExtension(std::string documentPath, std::string_view extension)
 {
-    return pfad.replace(pfad.size() - 3, 3, endung);
+    return documentPath.replace(documentPath.size() - 3, 3, extension);
 }
 
 // Of four orders two lie in their folder, one in the archive, and one has been deleted.
-void schreibeAuftrag(const Benutzereigenschaft& versand, const std::string& titel, std::uint32_t teil, Zeitpunkt zeit,
-                     Laufwerk& laufwerk)
+void writeOrder(const UserDefinedProperty& sendOrder, const std::string& title, std::uint32_t part, DateTime time,
+                Drive& drive)
 {
-    const std::string inhalt = fmt::format("Versand an: {}\r\nDokument: {}\r\n", versand.name, titel);
-    const std::string name = versand.wert.substr(versand.wert.rfind('\\') + 1);
-    if (teil % 4 < 2)
-        laufwerk.schreibe(versand.wert, inhalt, zeit);
-    else if (teil % 4 == 2)
-        laufwerk.schreibe(fmt::format("{}\\Auftragsarchiv\\{}", AUFTRAGSORDNER, name), inhalt, zeit);
+    const std::string content = fmt::format("Versand an: {}\r\nDokument: {}\r\n", sendOrder.name, title);
+    const std::string name = sendOrder.value.substr(sendOrder.value.rfind('\\') + 1);
+    if (part % 4 < 2)
+        drive.write(sendOrder.value, content, time);
+    else if (part % 4 == 2)
+        drive.write(fmt::format("{}\\Auftragsarchiv\\{}", ORDER_FOLDER, name), content, time);
 }
 
-void schreibeDokument(const Dokumente& dokumente, std::uint32_t teil, int revision, Laufwerk& laufwerk)
+void writeDocument(const Documents& documents, std::uint32_t part, int revision, Drive& drive)
 {
-    const std::string pfad = dokumente.filename(teil, revision);
-    const Zeitpunkt geaendert = dokumente.geaendert(teil, revision);
-    const std::string titel = fmt::format("{}  {}", dokumente.dateiname(teil, revision), dokumente.titel(teil));
-    laufwerk.schreibe(pfad, fmt::format("Platzhalter: {}\r\n", titel), geaendert);
-    const auto endung = dokumente.endung(teil);
-    if (endung == "dft" && teil % 3 != 0)
-        laufwerk.schreibe(mitEndung(pfad, "pdf"), pdfBlatt(titel), geaendert.plusTage(1));
-    if (endung == "asm" && teil % 3 == 0)
-        laufwerk.schreibe(mitEndung(pfad, "cfg"), "Platzhalter\r\n", geaendert);
-    if (const std::string tiff = tiffDatei(dokumente, teil, revision); !tiff.empty())
-        laufwerk.schreibe(tiff, tiffBlatt(), geaendert.plusTage(1));
-    for (const auto& zusatz : zusaetzlicheDokumente(dokumente, teil, revision)) {
-        if (zusatz.dateiname.ends_with(".pdf"))
-            laufwerk.schreibe(zusatz.filename, pdfBlatt(zusatz.dateiname), geaendert);
-        else if (zusatz.dateiname.ends_with(".tif"))
-            laufwerk.schreibe(zusatz.filename, tiffBlatt(), geaendert);
-        else if (zusatz.dateiname.ends_with(".txt"))
-            laufwerk.schreibe(zusatz.filename, zusatz.dateiname + "\r\n", geaendert);
+    const std::string documentPath = documents.filename(part, revision);
+    const DateTime changed = documents.changed(part, revision);
+    const std::string title = fmt::format("{}  {}", documents.fileName(part, revision), documents.title(part));
+    drive.write(documentPath, fmt::format("Platzhalter: {}\r\n", title), changed);
+    const auto extension = documents.extension(part);
+    if (extension == "dft" && part % 3 != 0)
+        drive.write(withExtension(documentPath, "pdf"), pdfSheet(title), changed.plusDays(1));
+    if (extension == "asm" && part % 3 == 0)
+        drive.write(withExtension(documentPath, "cfg"), "Platzhalter\r\n", changed);
+    if (const std::string tiff = tiffFile(documents, part, revision); !tiff.empty())
+        drive.write(tiff, tiffSheet(), changed.plusDays(1));
+    for (const auto& addition : additionalDocuments(documents, part, revision)) {
+        if (addition.fileName.ends_with(".pdf"))
+            drive.write(addition.filename, pdfSheet(addition.fileName), changed);
+        else if (addition.fileName.ends_with(".tif"))
+            drive.write(addition.filename, tiffSheet(), changed);
+        else if (addition.fileName.ends_with(".txt"))
+            drive.write(addition.filename, addition.fileName + "\r\n", changed);
     }
-    for (const auto& eigenschaft : benutzereigenschaften(dokumente, teil, revision))
-        if (eigenschaft.versand)
-            schreibeAuftrag(eigenschaft, titel, teil, geaendert, laufwerk);
+    for (const auto& property : userDefinedProperties(documents, part, revision))
+        if (property.sendOrder)
+            writeOrder(property, title, part, changed, drive);
 }
 
 } // namespace
 
-std::uint64_t schreibeDateien(const Dokumente& dokumente, const std::filesystem::path& ordner,
-                              const std::function<void(std::uint64_t)>& progress)
+std::uint64_t writeFiles(const Documents& documents, const std::filesystem::path& folder,
+                         const std::function<void(std::uint64_t)>& progress)
 {
-    Laufwerk laufwerk(ordner);
-    std::uint64_t dokument = 0;
-    laufwerk.legeOrdnerAn(laufwerk.systempfad(AUFTRAGSORDNER));
-    fuerJedesDokument(dokumente, [&](std::uint32_t teil, int revision) {
-        if (dokument == DOKUMENTE_MIT_DATEI)
+    Drive drive(folder);
+    std::uint64_t document = 0;
+    drive.createFolder(drive.systemPath(ORDER_FOLDER));
+    forEachDocument(documents, [&](std::uint32_t part, int revision) {
+        if (document == DOCUMENTS_WITH_FILE)
             return;
-        progress(++dokument);
-        schreibeDokument(dokumente, teil, revision, laufwerk);
+        progress(++document);
+        writeDocument(documents, part, revision, drive);
     });
-    return laufwerk.anzahl();
+    return drive.count();
 }
 
 } // namespace quelvarn::sample

@@ -8,17 +8,17 @@
 
 namespace quelvarn::sample {
 
-constexpr std::uint64_t DOKUMENTE_MIT_DATEI = 5000;
+constexpr std::uint64_t DOCUMENTS_WITH_FILE = 5000;
 
 // Writes files for the first documents of the register; the folder stands for drive W:. Models are a few words
 // of text, drawings come with a PDF and some with a TIFF, as do some additional documents. The number of files.
 // `progress` is told how many documents are done; what it throws ends the work. A file that cannot be written throws.
-std::uint64_t schreibeDateien(const Dokumente& dokumente, const std::filesystem::path& ordner,
-                              const std::function<void(std::uint64_t)>& progress);
+std::uint64_t writeFiles(const Documents& documents, const std::filesystem::path& folder,
+                         const std::function<void(std::uint64_t)>& progress);
 
 // One page with a title, as a whole PDF file.
-std::string pdfBlatt(std::string_view titel);
+std::string pdfSheet(std::string_view title);
 // A sheet with a frame, as a whole TIFF file (black and white, not compressed).
-std::string tiffBlatt();
+std::string tiffSheet();
 
 } // namespace quelvarn::sample

@@ -11,52 +11,52 @@ namespace quelvarn::sample {
 
 namespace {
 
-using Schreiber = void (*)(const Dokumente&, Zeilensenke&);
+using Writer = void (*)(const Documents&, RowSink&);
 
-constexpr std::array<std::pair<std::string_view, Schreiber>, 9> TABELLEN{{
-    {"ZusBauPart", schreibeZusBauPart},
-    {"ZusBauSubAss", schreibeZusBauSubAss},
-    {"VerbindungDraftPart", schreibeVerbindungDraftPart},
-    {"VerbindungWeldAssemb", schreibeVerbindungWeldAssemb},
-    {"VerbindungPartZusDoku", schreibeVerbindungPartZusDoku},
-    {"TIFFTabelle", schreibeTIFFTabelle},
-    {"Ini", schreibeIni},
-    {"CheckInOut", schreibeCheckInOut},
-    {"Adresstabelle", schreibeAdresstabelle},
+constexpr std::array<std::pair<std::string_view, Writer>, 9> TABLES{{
+    {"ZusBauPart", writeZusBauPart},
+    {"ZusBauSubAss", writeZusBauSubAss},
+    {"VerbindungDraftPart", writeVerbindungDraftPart},
+    {"VerbindungWeldAssemb", writeVerbindungWeldAssemb},
+    {"VerbindungPartZusDoku", writeVerbindungPartZusDoku},
+    {"TIFFTabelle", writeTIFFTabelle},
+    {"Ini", writeIni},
+    {"CheckInOut", writeCheckInOut},
+    {"Adresstabelle", writeAdresstabelle},
 }};
 
-void schreibeDokumente(const Dokumente& dokumente, Tab tab, Zeilensenke& senke)
+void writeDocuments(const Documents& documents, Tab tab, RowSink& sink)
 {
-    std::vector<Value> werte;
-    fuerJedesDokument(dokumente, [&](std::uint32_t teil, int revision) {
-        if (dokumente.plan().teil(teil).tab != tab)
+    std::vector<Value> values;
+    forEachDocument(documents, [&](std::uint32_t part, int revision) {
+        if (documents.plan().part(part).tab != tab)
             return;
-        dokumente.zeile(teil, revision, werte);
-        senke.zeile(werte);
+        documents.row(part, revision, values);
+        sink.row(values);
     });
 }
 
-void schreibe(const Tabellenschema& tabelle, const Dokumente& dokumente, Zeilensenke& senke)
+void write(const TableSchema& table, const Documents& documents, RowSink& sink)
 {
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        if (tabelle.name == typ.tabelle)
-            return schreibeDokumente(dokumente, static_cast<Tab>(typ.tab), senke);
-        if (tabelle.name == typ.tabelleBenutzDef)
-            return schreibeBenutzDef(dokumente, static_cast<Tab>(typ.tab), senke);
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        if (table.name == type.table)
+            return writeDocuments(documents, static_cast<Tab>(type.tab), sink);
+        if (table.name == type.tableUserDef)
+            return writeUserDefined(documents, static_cast<Tab>(type.tab), sink);
     }
-    const auto schreiber =
-        std::ranges::find(TABELLEN, std::string_view(tabelle.name), &std::pair<std::string_view, Schreiber>::first);
-    assert(schreiber != TABELLEN.end());
-    schreiber->second(dokumente, senke);
+    const auto writer =
+        std::ranges::find(TABLES, std::string_view(table.name), &std::pair<std::string_view, Writer>::first);
+    assert(writer != TABLES.end());
+    writer->second(documents, sink);
 }
 
 } // namespace
 
-void schreibeMusterregister(const Dokumente& dokumente, Zeilensenke& senke)
+void writeSampleRegister(const Documents& documents, RowSink& sink)
 {
-    for (const Tabellenschema& tabelle : registerschema()) {
-        senke.tabelle(tabelle);
-        schreibe(tabelle, dokumente, senke);
+    for (const TableSchema& table : registerSchema()) {
+        sink.table(table);
+        write(table, documents, sink);
     }
 }
 

@@ -6,50 +6,50 @@
 namespace quelvarn::sample {
 
 // Writes all tables of a plausible register, one after the other.
-void schreibeMusterregister(const Dokumente& dokumente, Zeilensenke& senke);
+void writeSampleRegister(const Documents& documents, RowSink& sink);
 
-// The tables that no document type owns; called by schreibeMusterregister.
-void schreibeZusBauPart(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeZusBauSubAss(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeVerbindungDraftPart(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeVerbindungWeldAssemb(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeVerbindungPartZusDoku(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeTIFFTabelle(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeIni(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeCheckInOut(const Dokumente& dokumente, Zeilensenke& senke);
-void schreibeAdresstabelle(const Dokumente& dokumente, Zeilensenke& senke);
+// The tables that no document type owns; called by writeSampleRegister.
+void writeZusBauPart(const Documents& documents, RowSink& sink);
+void writeZusBauSubAss(const Documents& documents, RowSink& sink);
+void writeVerbindungDraftPart(const Documents& documents, RowSink& sink);
+void writeVerbindungWeldAssemb(const Documents& documents, RowSink& sink);
+void writeVerbindungPartZusDoku(const Documents& documents, RowSink& sink);
+void writeTIFFTabelle(const Documents& documents, RowSink& sink);
+void writeIni(const Documents& documents, RowSink& sink);
+void writeCheckInOut(const Documents& documents, RowSink& sink);
+void writeAdresstabelle(const Documents& documents, RowSink& sink);
 // The user-defined properties of one document type.
-void schreibeBenutzDef(const Dokumente& dokumente, Tab tab, Zeilensenke& senke);
+void writeUserDefined(const Documents& documents, Tab tab, RowSink& sink);
 
 // The names (Kennung) of the recipients in the address table.
-std::span<const std::string_view> empfaenger();
+std::span<const std::string_view> receiver();
 
-struct Benutzereigenschaft
+struct UserDefinedProperty
 {
     std::string_view name;
-    std::string wert;
-    bool versand = false; // A sent-to note: the value is the path of its order file.
+    std::string value;
+    bool sendOrder = false; // A sent-to note: the value is the path of its order file.
 };
-std::vector<Benutzereigenschaft> benutzereigenschaften(const Dokumente& dokumente, std::uint32_t teil, int revision);
+std::vector<UserDefinedProperty> userDefinedProperties(const Documents& documents, std::uint32_t part, int revision);
 
-struct ZusaetzlichesDokument
+struct AdditionalDocument
 {
-    std::string dateiname;
+    std::string fileName;
     std::string filename;
-    bool mitsenden = false; // Stored as "/J" behind the path.
+    bool sendAlong = false; // Stored as "/J" behind the path.
 };
-std::vector<ZusaetzlichesDokument> zusaetzlicheDokumente(const Dokumente& dokumente, std::uint32_t teil, int revision);
+std::vector<AdditionalDocument> additionalDocuments(const Documents& documents, std::uint32_t part, int revision);
 
 // The TIFF of a drawing, "" when it has none.
-std::string tiffDatei(const Dokumente& dokumente, std::uint32_t teil, int revision);
+std::string tiffFile(const Documents& documents, std::uint32_t part, int revision);
 
 // Calls `tun` with the number and the revision of each document.
-template <typename Tun> void fuerJedesDokument(const Dokumente& dokumente, Tun tun)
+template <typename Action> void forEachDocument(const Documents& documents, Action act)
 {
-    const auto& teile = dokumente.plan().teile();
-    for (std::uint32_t teil = 0; teil < teile.size(); ++teil)
-        for (int revision = 0; revision < teile[teil].revisionen; ++revision)
-            tun(teil, revision);
+    const auto& parts = documents.plan().parts();
+    for (std::uint32_t part = 0; part < parts.size(); ++part)
+        for (int revision = 0; revision < parts[part].revisions; ++revision)
+            act(part, revision);
 }
 
 } // namespace quelvarn::sample

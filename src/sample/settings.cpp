@@ -14,24 +14,24 @@ namespace {
 
 struct Filter
 {
-    std::string_view typ;
+    std::string_view type;
     std::string_view name;
-    std::string_view inhalt;
+    std::string_view content;
 };
 
 struct Anwender
 {
     std::string_view name;
-    std::string_view sichtbar;    // A digit for each status.
-    std::string_view loeschrecht; // The same.
-    std::string_view starttabelle;
-    std::string_view suchtexte; // divided by "|"
-    std::string_view baum;      // The ten switches of the property tree.
+    std::string_view visible;       // A digit for each status.
+    std::string_view deletionRight; // The same.
+    std::string_view startTable;
+    std::string_view searchTexts; // divided by "|"
+    std::string_view tree;        // The ten switches of the property tree.
     std::array<std::string_view, 3> offline;
     std::pair<std::string_view, std::string_view> zip;
-    std::string_view favoriten; // Types of which some are kept.
+    std::string_view favourites; // Types of which some are kept.
     std::span<const Filter> filter;
-    bool aktivesSolidEdge = false;
+    bool activeSolidEdge = false;
 };
 
 constexpr std::array<Filter, 6> FILTER_MEIER{{
@@ -52,7 +52,7 @@ constexpr std::array<Filter, 1> FILTER_WEBER{{
     {"Weld", "Gurtförderer", R"(Thema\Gurtförderer\0\Thema|)"},
 }};
 
-const std::array<Anwender, 3> ANWENDER{{
+const std::array<Anwender, 3> USER{{
     {"Meier",
      "111111",
      "666666",
@@ -88,7 +88,7 @@ const std::array<Anwender, 3> ANWENDER{{
      true},
 }};
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 10> BAUMSCHALTER{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 10> TREE_SWITCHES{{
     {"Knoten", "Knoten immer geöffnet"},
     {"Verwendung", "Verwendung anzeigen"},
     {"TIFFDoku", "TIFF-Dokumente (bei Zeichnung)"},
@@ -102,101 +102,99 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 10> BAUMSCHA
 }};
 
 // Writes rows of one user.
-class Anwenderzeilen
+class UserRows
 {
 public:
-    Anwenderzeilen(std::string_view anwender, Zeilensenke& senke) : anwender_(anwender), senke_(senke) {}
+    UserRows(std::string_view user, RowSink& sink) : user_(user), sink_(sink) {}
 
-    void zeile(std::string_view gruppe, std::string_view feld3, std::optional<std::string_view> feld4 = {},
-               std::optional<std::string_view> feld5 = {})
+    void row(std::string_view group, std::string_view field3, std::optional<std::string_view> field4 = {},
+             std::optional<std::string_view> field5 = {})
     {
-        senke_.zeile(
-            Inizeile{std::string(anwender_), std::string(gruppe), std::string(feld3), wert(feld4), wert(feld5)});
+        sink_.row(IniRow{std::string(user_), std::string(group), std::string(field3), value(field4), value(field5)});
     }
 
 private:
-    static Value wert(std::optional<std::string_view> text) { return text ? Value{std::string(*text)} : Value{}; }
+    static Value value(std::optional<std::string_view> text) { return text ? Value{std::string(*text)} : Value{}; }
 
-    std::string_view anwender_;
-    Zeilensenke& senke_;
+    std::string_view user_;
+    RowSink& sink_;
 };
 
-void schreibeRechte(const Anwender& anwender, Anwenderzeilen& ini)
+void writeRights(const Anwender& user, UserRows& ini)
 {
-    for (std::size_t status = 0; status < ANZAHL_STATUS; ++status)
-        ini.zeile("Berechtigung", fmt::format("{}_Status", status), anwender.sichtbar.substr(status, 1),
-                  anwender.loeschrecht.substr(status, 1));
-    ini.zeile("Sicherung", "BearbeitenVon");
-    ini.zeile("Sicherung", "SpeichernIn");
+    for (std::size_t status = 0; status < STATUS_COUNT; ++status)
+        ini.row("Berechtigung", fmt::format("{}_Status", status), user.visible.substr(status, 1),
+                user.deletionRight.substr(status, 1));
+    ini.row("Sicherung", "BearbeitenVon");
+    ini.row("Sicherung", "SpeichernIn");
 }
 
-void schreibeArbeitsweise(const Anwender& anwender, Anwenderzeilen& ini)
+void writeWorkSettings(const Anwender& user, UserRows& ini)
 {
-    std::string_view rest = anwender.suchtexte;
+    std::string_view rest = user.searchTexts;
     for (int i = 0; !rest.empty(); ++i) {
-        ini.zeile("Suchen/Filtern", fmt::format("Text{}", i), rest.substr(0, rest.find('|')));
+        ini.row("Suchen/Filtern", fmt::format("Text{}", i), rest.substr(0, rest.find('|')));
         rest.remove_prefix(std::min(rest.find('|'), rest.size() - 1) + 1);
     }
-    for (const auto nachricht : {"Weiterleiten", "Workflow"}) {
-        ini.zeile("Nachricht", nachricht, "Quelvarn", "1");
-        ini.zeile("Nachricht", nachricht, "Harvel", "0");
+    for (const auto packet : {"Weiterleiten", "Workflow"}) {
+        ini.row("Nachricht", packet, "Quelvarn", "1");
+        ini.row("Nachricht", packet, "Harvel", "0");
     }
-    ini.zeile("ActiveQuelvarn", anwender.aktivesSolidEdge ? "1" : "0");
-    ini.zeile("Starttabelle", anwender.starttabelle);
-    for (std::size_t i = 0; i < BAUMSCHALTER.size(); ++i)
-        ini.zeile("Treeview", BAUMSCHALTER[i].first, anwender.baum.substr(i, 1), BAUMSCHALTER[i].second);
+    ini.row("ActiveQuelvarn", user.activeSolidEdge ? "1" : "0");
+    ini.row("Starttabelle", user.startTable);
+    for (std::size_t i = 0; i < TREE_SWITCHES.size(); ++i)
+        ini.row("Treeview", TREE_SWITCHES[i].first, user.tree.substr(i, 1), TREE_SWITCHES[i].second);
 }
 
-void schreibeAuftragsvorgaben(const Anwender& anwender, Anwenderzeilen& ini)
+void writeOrderDefaults(const Anwender& user, UserRows& ini)
 {
-    ini.zeile("OfflineDaten", anwender.offline[0], anwender.offline[1], anwender.offline[2]);
-    ini.zeile("ZipDaten", anwender.zip.first, anwender.zip.second);
-    for (const auto gruppe : {"Plot", "PDF"}) {
-        const bool pdf = std::string_view(gruppe) == "PDF";
-        ini.zeile(gruppe, "Printer", pdf ? "PDF-Drucker" : "Drucker Konstruktion");
-        ini.zeile(gruppe, "PaperSize", "Wie in Solid Edge");
-        ini.zeile(gruppe, "ColorMode", "Schwarz");
-        ini.zeile(gruppe, "NumCopies", pdf ? "300" : "1");
-        ini.zeile(gruppe, "Orientation", "Ermitteln");
-        ini.zeile(gruppe, "PlotScale", "1");
+    ini.row("OfflineDaten", user.offline[0], user.offline[1], user.offline[2]);
+    ini.row("ZipDaten", user.zip.first, user.zip.second);
+    for (const auto group : {"Plot", "PDF"}) {
+        const bool pdf = std::string_view(group) == "PDF";
+        ini.row(group, "Printer", pdf ? "PDF-Drucker" : "Drucker Konstruktion");
+        ini.row(group, "PaperSize", "Wie in Solid Edge");
+        ini.row(group, "ColorMode", "Schwarz");
+        ini.row(group, "NumCopies", pdf ? "300" : "1");
+        ini.row(group, "Orientation", "Ermitteln");
+        ini.row(group, "PlotScale", "1");
     }
-    ini.zeile("PDF", "Pfadname", "1", fmt::format("{}PDF\\{}", ORDNER, anwender.name));
+    ini.row("PDF", "Pfadname", "1", fmt::format("{}PDF\\{}", FOLDER, user.name));
 }
 
 // Some documents of each type that the user keeps, spread over the register.
-void schreibeFavoriten(const Anwender& anwender, const Dokumente& dokumente, Anwenderzeilen& ini)
+void writeFavourites(const Anwender& user, const Documents& documents, UserRows& ini)
 {
-    constexpr std::size_t JE_TYP = 5;
-    const auto& teile = dokumente.plan().teile();
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        if (anwender.favoriten.find(typ.schluessel) == std::string_view::npos)
+    constexpr std::size_t PER_TYPE = 5;
+    const auto& parts = documents.plan().parts();
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        if (user.favourites.find(type.key) == std::string_view::npos)
             continue;
-        for (std::size_t i = 0; i < JE_TYP; ++i) {
-            auto teil = static_cast<std::uint32_t>(teile.size() * (2 * i + 1) / (2 * JE_TYP));
-            while (teil < teile.size() && static_cast<int>(teile[teil].tab) != typ.tab)
-                ++teil;
-            if (teil < teile.size())
-                ini.zeile("Favoriten", typ.schluessel, dokumente.dokuBez(teil),
-                          dokumente.revBez(teil, teile[teil].revisionen - 1));
+        for (std::size_t i = 0; i < PER_TYPE; ++i) {
+            auto part = static_cast<std::uint32_t>(parts.size() * (2 * i + 1) / (2 * PER_TYPE));
+            while (part < parts.size() && static_cast<int>(parts[part].tab) != type.tab)
+                ++part;
+            if (part < parts.size())
+                ini.row("Favoriten", type.key, documents.documentName(part),
+                        documents.revisionName(part, parts[part].revisions - 1));
         }
     }
 }
 
 } // namespace
 
-void schreibeIni(const Dokumente& dokumente, Zeilensenke& senke)
+void writeIni(const Documents& documents, RowSink& sink)
 {
-    for (const Inizeile& zeile :
-         installationszeilen({.stand = stichtag(), .auftragsordner = std::string(AUFTRAGSORDNER)}))
-        senke.zeile(zeile);
-    for (const Anwender& anwender : ANWENDER) {
-        Anwenderzeilen ini(anwender.name, senke);
-        schreibeRechte(anwender, ini);
-        schreibeArbeitsweise(anwender, ini);
-        schreibeAuftragsvorgaben(anwender, ini);
-        for (const Filter& filter : anwender.filter)
-            ini.zeile("Filterwerte", filter.typ, filter.name, filter.inhalt);
-        schreibeFavoriten(anwender, dokumente, ini);
+    for (const IniRow& row : installationRows({.state = keyDate(), .orderFolder = std::string(ORDER_FOLDER)}))
+        sink.row(row);
+    for (const Anwender& user : USER) {
+        UserRows ini(user.name, sink);
+        writeRights(user, ini);
+        writeWorkSettings(user, ini);
+        writeOrderDefaults(user, ini);
+        for (const Filter& filter : user.filter)
+            ini.row("Filterwerte", filter.type, filter.name, filter.content);
+        writeFavourites(user, documents, ini);
     }
 }
 

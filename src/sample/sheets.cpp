@@ -10,99 +10,99 @@ namespace {
 
 std::string pdfText(std::string_view text)
 {
-    std::string maskiert;
-    for (const char zeichen : toWindows1252(text)) {
-        if (zeichen == '(' || zeichen == ')' || zeichen == '\\')
-            maskiert += '\\';
-        maskiert += zeichen;
+    std::string masked;
+    for (const char character : toWindows1252(text)) {
+        if (character == '(' || character == ')' || character == '\\')
+            masked += '\\';
+        masked += character;
     }
-    return maskiert;
+    return masked;
 }
 
-void zahl16(std::string& ziel, std::uint32_t zahl)
+void number16(std::string& target, std::uint32_t number)
 {
-    ziel += static_cast<char>(zahl & 0xFF);
-    ziel += static_cast<char>((zahl >> 8) & 0xFF);
+    target += static_cast<char>(number & 0xFF);
+    target += static_cast<char>((number >> 8) & 0xFF);
 }
 
-void zahl32(std::string& ziel, std::uint32_t zahl)
+void number32(std::string& target, std::uint32_t number)
 {
-    zahl16(ziel, zahl & 0xFFFF);
-    zahl16(ziel, zahl >> 16);
+    number16(target, number & 0xFFFF);
+    number16(target, number >> 16);
 }
 
-constexpr std::uint32_t BREITE = 416; // pixels, a multiple of 8
-constexpr std::uint32_t HOEHE = 294;
-constexpr std::uint32_t RAND = 8;
+constexpr std::uint32_t WIDTH = 416; // pixels, a multiple of 8
+constexpr std::uint32_t HEIGHT = 294;
+constexpr std::uint32_t MARGIN = 8;
 
 // White, with a frame and a title block in its corner.
-std::string bildpunkte()
+std::string pixels()
 {
-    std::string bild;
-    for (std::uint32_t y = 0; y < HOEHE; ++y)
-        for (std::uint32_t x = 0; x < BREITE; x += 8) {
-            const bool waagrecht =
-                x < BREITE - 2 * RAND && (y == RAND || y == HOEHE - RAND || (y == HOEHE - 60 && x >= BREITE / 2));
-            const bool senkrecht = x == RAND || x == BREITE - 2 * RAND || (x == BREITE / 2 && y > HOEHE - 60);
-            const bool innen = x >= RAND && x < BREITE - RAND && y >= RAND && y <= HOEHE - RAND;
-            bild += static_cast<char>(!innen ? 0xFF : waagrecht ? 0x00 : senkrecht ? 0x7F : 0xFF);
+    std::string picture;
+    for (std::uint32_t y = 0; y < HEIGHT; ++y)
+        for (std::uint32_t x = 0; x < WIDTH; x += 8) {
+            const bool horizontal =
+                x < WIDTH - 2 * MARGIN && (y == MARGIN || y == HEIGHT - MARGIN || (y == HEIGHT - 60 && x >= WIDTH / 2));
+            const bool vertical = x == MARGIN || x == WIDTH - 2 * MARGIN || (x == WIDTH / 2 && y > HEIGHT - 60);
+            const bool inside = x >= MARGIN && x < WIDTH - MARGIN && y >= MARGIN && y <= HEIGHT - MARGIN;
+            picture += static_cast<char>(!inside ? 0xFF : horizontal ? 0x00 : vertical ? 0x7F : 0xFF);
         }
-    return bild;
+    return picture;
 }
 
 } // namespace
 
-std::string pdfBlatt(std::string_view titel)
+std::string pdfSheet(std::string_view title)
 {
-    const std::string inhalt = fmt::format("BT /F1 14 Tf 60 780 Td ({}) Tj ET\n40 40 515 760 re S", pdfText(titel));
-    const std::array<std::string, 5> objekte{
+    const std::string content = fmt::format("BT /F1 14 Tf 60 780 Td ({}) Tj ET\n40 40 515 760 re S", pdfText(title));
+    const std::array<std::string, 5> objects{
         "<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 595 842] /Contents 4 0 R /Resources << /Font << /F1 5 0 R >> >> "
         ">>",
-        fmt::format("<< /Length {} >>\nstream\n{}\nendstream", inhalt.size(), inhalt),
+        fmt::format("<< /Length {} >>\nstream\n{}\nendstream", content.size(), content),
         "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Encoding /WinAnsiEncoding >>"};
     std::string pdf = "%PDF-1.4\n";
-    std::string verzeichnis = fmt::format("xref\n0 {}\n0000000000 65535 f \n", objekte.size() + 1);
-    for (std::size_t i = 0; i < objekte.size(); ++i) {
-        verzeichnis += fmt::format("{:010} 00000 n \n", pdf.size());
-        pdf += fmt::format("{} 0 obj\n{}\nendobj\n", i + 1, objekte[i]);
+    std::string directory = fmt::format("xref\n0 {}\n0000000000 65535 f \n", objects.size() + 1);
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        directory += fmt::format("{:010} 00000 n \n", pdf.size());
+        pdf += fmt::format("{} 0 obj\n{}\nendobj\n", i + 1, objects[i]);
     }
-    const auto anfang = pdf.size();
-    return pdf + verzeichnis +
-           fmt::format("trailer\n<< /Size {} /Root 1 0 R >>\nstartxref\n{}\n%%EOF\n", objekte.size() + 1, anfang);
+    const auto begin = pdf.size();
+    return pdf + directory +
+           fmt::format("trailer\n<< /Size {} /Root 1 0 R >>\nstartxref\n{}\n%%EOF\n", objects.size() + 1, begin);
 }
 
-std::string tiffBlatt()
+std::string tiffSheet()
 {
-    struct Eintrag
+    struct Entry
     {
-        std::uint32_t kennung;
-        std::uint32_t typ; // 3 is 16 bits, 4 is 32 bits
-        std::uint32_t wert;
+        std::uint32_t addressCode;
+        std::uint32_t type; // 3 is 16 bits, 4 is 32 bits
+        std::uint32_t value;
     };
-    const std::string bild = bildpunkte();
-    constexpr std::uint32_t KOPF = 8;
-    const std::array<Eintrag, 9> eintraege{{{256, 4, BREITE},
-                                            {257, 4, HOEHE},
-                                            {258, 3, 1}, // bits a pixel
-                                            {259, 3, 1}, // not compressed
-                                            {262, 3, 1}, // 0 is black
-                                            {273, 4, KOPF},
-                                            {277, 3, 1}, // samples a pixel
-                                            {278, 4, HOEHE},
-                                            {279, 4, static_cast<std::uint32_t>(bild.size())}}};
+    const std::string picture = pixels();
+    constexpr std::uint32_t HEADING = 8;
+    const std::array<Entry, 9> entries{{{256, 4, WIDTH},
+                                        {257, 4, HEIGHT},
+                                        {258, 3, 1}, // bits a pixel
+                                        {259, 3, 1}, // not compressed
+                                        {262, 3, 1}, // 0 is black
+                                        {273, 4, HEADING},
+                                        {277, 3, 1}, // samples a pixel
+                                        {278, 4, HEIGHT},
+                                        {279, 4, static_cast<std::uint32_t>(picture.size())}}};
     std::string tiff = "II";
-    zahl16(tiff, 42);
-    zahl32(tiff, KOPF + static_cast<std::uint32_t>(bild.size()));
-    tiff += bild;
-    zahl16(tiff, eintraege.size());
-    for (const Eintrag& eintrag : eintraege) {
-        zahl16(tiff, eintrag.kennung);
-        zahl16(tiff, eintrag.typ);
-        zahl32(tiff, 1);
-        zahl32(tiff, eintrag.wert);
+    number16(tiff, 42);
+    number32(tiff, HEADING + static_cast<std::uint32_t>(picture.size()));
+    tiff += picture;
+    number16(tiff, entries.size());
+    for (const Entry& entry : entries) {
+        number16(tiff, entry.addressCode);
+        number16(tiff, entry.type);
+        number32(tiff, 1);
+        number32(tiff, entry.value);
     }
-    zahl32(tiff, 0); // No further page.
+    number32(tiff, 0); // No further page.
     return tiff;
 }
 

@@ -8,17 +8,17 @@ namespace quelvarn::sample {
 
 namespace {
 
-struct Eintrag
+struct Entry
 {
     int code;
-    std::string_view anwender; // Whoever uses the file, or sends the message.
-    std::string_view rechner;  // His computer, or the receiver of the message.
+    std::string_view user;     // Whoever uses the file, or sends the message.
+    std::string_view computer; // His computer, or the receiver of the message.
     Tab tab;
-    std::string_view kommentar; // "" is stored as Null.
+    std::string_view comment; // "" is stored as Null.
 };
 
 // Open files, and messages between users at every stage.
-constexpr std::array<Eintrag, 24> EINTRAEGE{{
+constexpr std::array<Entry, 24> ENTRIES{{
     {1, "Meier", "CAD-04", Tab::Assemb, ""},
     {1, "Meier", "CAD-04", Tab::Part, "Bohrbild in Arbeit"},
     {1, "Weber", "CAD-07", Tab::Part, "Rücksprache mit Einkauf läuft"},
@@ -45,38 +45,37 @@ constexpr std::array<Eintrag, 24> EINTRAEGE{{
     {91, "Meier", "Meier", Tab::Assemb, "Erinnerung an mich selbst"},
 }};
 
-constexpr std::uint64_t FRAGE = 80;
-constexpr int ERSTE_NACHRICHT = 5;
+constexpr std::uint64_t QUESTION = 80;
+constexpr int FIRST_PACKET = 5;
 
-// An item of this kind, somewhere in the register; KEINES when there is none.
-std::uint32_t findTeil(const Plan& plan, Tab tab, Zufall& zufall)
+// An item of this kind, somewhere in the register; NONE when there is none.
+std::uint32_t findPart(const Plan& plan, Tab tab, Random& random)
 {
-    const auto anzahl = static_cast<std::uint32_t>(plan.teile().size());
-    auto teil = zufall.unter(anzahl);
-    for (std::uint32_t versuch = 0; versuch < anzahl; ++versuch, teil = (teil + 1) % anzahl)
-        if (plan.teil(teil).tab == tab && plan.teil(teil).bereich <= Bereich::Rahmen)
-            return teil;
-    return KEINES;
+    const auto count = static_cast<std::uint32_t>(plan.parts().size());
+    auto part = random.below(count);
+    for (std::uint32_t attempt = 0; attempt < count; ++attempt, part = (part + 1) % count)
+        if (plan.part(part).tab == tab && plan.part(part).section <= Section::Frame)
+            return part;
+    return NONE;
 }
 
 } // namespace
 
-void schreibeCheckInOut(const Dokumente& dokumente, Zeilensenke& senke)
+void writeCheckInOut(const Documents& documents, RowSink& sink)
 {
-    Zufall zufall{dokumente.plan().start(), FRAGE};
-    for (const Eintrag& eintrag : EINTRAEGE) {
-        const auto teil = findTeil(dokumente.plan(), eintrag.tab, zufall);
-        if (teil == KEINES)
+    Random random{documents.plan().start(), QUESTION};
+    for (const Entry& entry : ENTRIES) {
+        const auto part = findPart(documents.plan(), entry.tab, random);
+        if (part == NONE)
             continue;
-        const int revision = dokumente.plan().teil(teil).revisionen - 1;
-        const bool nachricht = eintrag.code >= ERSTE_NACHRICHT;
-        const auto zeit =
-            stichtag().plusTage(nachricht ? -zufall.zwischen(0, 9) : 0).plusSekunden(-zufall.zwischen(600, 32000));
-        senke.zeile(std::vector<Value>{std::int64_t{eintrag.code}, std::string(eintrag.anwender),
-                                       std::string(eintrag.rechner), dokumente.dateiname(teil, revision),
-                                       dokumente.filename(teil, revision), dokumente.dokuBez(teil),
-                                       dokumente.revBez(teil, revision), zeit,
-                                       eintrag.kommentar.empty() ? Value{} : Value{std::string(eintrag.kommentar)}});
+        const int revision = documents.plan().part(part).revisions - 1;
+        const bool packet = entry.code >= FIRST_PACKET;
+        const auto time =
+            keyDate().plusDays(packet ? -random.between(0, 9) : 0).plusSeconds(-random.between(600, 32000));
+        sink.row(std::vector<Value>{std::int64_t{entry.code}, std::string(entry.user), std::string(entry.computer),
+                                    documents.fileName(part, revision), documents.filename(part, revision),
+                                    documents.documentName(part), documents.revisionName(part, revision), time,
+                                    entry.comment.empty() ? Value{} : Value{std::string(entry.comment)}});
     }
 }
 

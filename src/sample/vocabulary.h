@@ -7,95 +7,95 @@
 // What an office for conveyors, gearboxes and frames draws, and in which words. "a|b|c" is a choice.
 namespace quelvarn::sample {
 
-// A main value: values from `von` in steps.
+// A main value: values from `from` in steps.
 struct Mass
 {
     std::string_view alias;
-    double von = 0;
-    double schritt = 0;
-    int stufen = 0;
+    double from = 0;
+    double step = 0;
+    int levels = 0;
 };
 
-constexpr std::size_t HAUPTWERTE = 7;
-constexpr std::size_t STRUKTURMERKMALE = 5;
+constexpr std::size_t MAIN_VALUES = 7;
+constexpr std::size_t STRUCTURE_FEATURES = 5;
 
-struct Bauform
+struct Design
 {
     std::string_view name;
-    std::string_view stichwort;
-    std::array<std::string_view, STRUKTURMERKMALE> merkmale; // C to G
+    std::string_view keyword;
+    std::array<std::string_view, STRUCTURE_FEATURES> features; // C to G
     std::string_view material;
-    std::array<Mass, HAUPTWERTE> masse;
+    std::array<Mass, MAIN_VALUES> sizes;
 };
 
 // A group of a machine with its sub-assemblies.
-struct Baugruppe
+struct Assembly
 {
     std::string_view name;
-    std::array<std::string_view, 3> unterbaugruppen;
-    bool blechlastig = false;
-    bool geschweisst = false;
+    std::array<std::string_view, 3> subassemblies;
+    bool sheetMetalHeavy = false;
+    bool welded = false;
 };
 
-struct Maschine
+struct Machine
 {
     std::string_view name;
-    std::array<Baugruppe, 5> gruppen; // Those without a name are left out.
+    std::array<Assembly, 5> groups; // Those without a name are left out.
 };
 
 // A row of standard parts: one for each size, length and surface.
-struct Normreihe
+struct StandardSeries
 {
-    std::string_view norm;    // "DIN 933"
-    std::string_view art;     // "Sechskantschrauben"
-    std::string_view gruppe;  // "Schrauben"
-    std::string_view titel;   // "Sechskantschraube"
-    std::string_view vorsatz; // "M" of "M8x20"
-    std::string_view groessen;
-    std::string_view laengen; // "" when there are none
-    std::string_view ausfuehrung;
+    std::string_view standard; // "DIN 933"
+    std::string_view kind;     // "Sechskantschrauben"
+    std::string_view group;    // "Schrauben"
+    std::string_view title;    // "Sechskantschraube"
+    std::string_view prefix;   // "M" of "M8x20"
+    std::string_view sizes;
+    std::string_view lengths; // "" when there are none
+    std::string_view variant;
     std::string_view alias;
 };
 
-struct Kaufreihe
+struct BoughtSeries
 {
-    std::string_view kuerzel;
-    std::string_view titel;
-    std::string_view gruppe;
-    std::string_view hersteller;
-    std::string_view groessen;
+    std::string_view abbreviation;
+    std::string_view title;
+    std::string_view group;
+    std::string_view maker;
+    std::string_view sizes;
     std::string_view alias;
 };
 
-std::span<const Bauform> bauteile();
-std::span<const Bauform> zahnradteile(); // Parts of gearboxes.
-std::span<const Bauform> blechteile();
-std::span<const Bauform> baugruppen(); // [0] machines, [1] groups
-std::span<const Bauform> schweissteile();
-std::span<const Bauform> vorrichtungen();
-std::span<const Maschine> foerderanlagen();
-std::span<const Maschine> getriebe();
-std::span<const Maschine> rahmen();
-std::span<const Normreihe> normreihen();
-std::span<const Kaufreihe> kaufreihen();
+std::span<const Design> partDesigns();
+std::span<const Design> gearDesigns(); // Parts of gearboxes.
+std::span<const Design> sheetMetalDesigns();
+std::span<const Design> assemblies(); // [0] machines, [1] groups
+std::span<const Design> weldments();
+std::span<const Design> fixtures();
+std::span<const Machine> conveyors();
+std::span<const Machine> gear();
+std::span<const Machine> frame();
+std::span<const StandardSeries> standardSeries();
+std::span<const BoughtSeries> boughtSeries();
 
-inline constexpr std::string_view ORDNER = "W:\\Konstruktion\\";
-inline constexpr std::string_view AUFTRAGSORDNER = "W:\\Konstruktion\\Auftraege";
+inline constexpr std::string_view FOLDER = "W:\\Konstruktion\\";
+inline constexpr std::string_view ORDER_FOLDER = "W:\\Konstruktion\\Auftraege";
 
-inline constexpr std::array<std::string_view, 11> KONSTRUKTEURE{
+inline constexpr std::array<std::string_view, 11> DESIGNERS{
     "Meier", "Weber", "Meier", "Köhler", "Böhm", "Straßer", "Özdemir", "Lüdtke", "Jansen", "Weber", "Schröder"};
 
 inline constexpr std::string_view MANAGER = "Dr. Hövel|Schröder|Brückner|Meier";
-inline constexpr std::string_view FIRMEN =
+inline constexpr std::string_view COMPANIES =
     "Hallwang & Söhne Förder- und Getriebebau GmbH|Hallwang & Söhne Förder- und Getriebebau GmbH|"
     "Hallwang & Söhne Förder- und Getriebebau GmbH|Dreherei Kräutle|Blechtechnik Östringen GmbH|"
     "Gießerei Süßen KG|Härterei Bäuerle|Lohnfertigung Nüßlein";
-inline constexpr std::string_view AENDERUNGEN =
+inline constexpr std::string_view CHANGES =
     "Bohrbild geändert|Werkstoff geändert|Maß am Flansch korrigiert|Passung H7 statt H8|Schweißnaht verstärkt|"
     "Länge an Kundenmaß angepaßt|Fase ergänzt|Gewicht verringert (–8 %)|Nach Prüfung überarbeitet|Toleranz ±0,1 "
     "ergänzt|"
     "Auf neue Norm umgestellt";
-inline constexpr std::string_view KOMMENTARE =
+inline constexpr std::string_view COMMENTS =
     "Scharfe Kanten gebrochen|Gleichteil, nicht ohne Rücksprache ändern|Härte 58±2 HRC|Siehe Prüfplan 'QS 12'|"
     "Kunde wünscht RAL 5010 (Enzianblau)|Maße nach dem Schweißen|Für Ersatzteile 2 Stück auf Lager|"
     "Ø-Maße nach dem Verzinken\r\nGewinde nachschneiden|Abgleich mit Einkauf läuft";

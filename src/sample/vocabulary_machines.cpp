@@ -4,24 +4,24 @@ namespace quelvarn::sample {
 
 namespace {
 
-constexpr Baugruppe ANTRIEB{"Antriebsstation", {"Antriebseinheit", "Antriebstrommel kpl.", "Drehmomentstütze"}};
-constexpr Baugruppe SPANNEN{"Spannstation", {"Spanneinheit links", "Spanneinheit rechts", "Umlenkung"}};
-constexpr Baugruppe GESTELL{"Rahmen", {"Rahmenfeld", "Stützenpaar", "Querträger"}, false, true};
-constexpr Baugruppe SCHUTZ{"Schutzeinhausung", {"Schutzgitter", "Tür", "Verkleidung"}, true};
+constexpr Assembly DRIVE_UNIT{"Antriebsstation", {"Antriebseinheit", "Antriebstrommel kpl.", "Drehmomentstütze"}};
+constexpr Assembly SPANS{"Spannstation", {"Spanneinheit links", "Spanneinheit rechts", "Umlenkung"}};
+constexpr Assembly RACK{"Rahmen", {"Rahmenfeld", "Stützenpaar", "Querträger"}, false, true};
+constexpr Assembly PROTECTION{"Schutzeinhausung", {"Schutzgitter", "Tür", "Verkleidung"}, true};
 
-constexpr std::array<Maschine, 6> FOERDERANLAGEN{{
+constexpr std::array<Machine, 6> CONVEYORS{{
     {"Rollenförderer",
-     {{ANTRIEB, SPANNEN, GESTELL, {"Rollenbahn", {"Rollenfeld", "Seitenführung", "Stopper"}, true}, SCHUTZ}}},
+     {{DRIVE_UNIT, SPANS, RACK, {"Rollenbahn", {"Rollenfeld", "Seitenführung", "Stopper"}, true}, PROTECTION}}},
     {"Gurtförderer",
-     {{ANTRIEB, SPANNEN, GESTELL, {"Gurtführung", {"Gleitbett", "Abstreifer", "Rücklauf"}, true}, SCHUTZ}}},
+     {{DRIVE_UNIT, SPANS, RACK, {"Gurtführung", {"Gleitbett", "Abstreifer", "Rücklauf"}, true}, PROTECTION}}},
     {"Kettenförderer",
-     {{ANTRIEB, SPANNEN, GESTELL, {"Kettenbahn", {"Kettenstrang", "Kettenführung oben", "Schmierung"}}, SCHUTZ}}},
+     {{DRIVE_UNIT, SPANS, RACK, {"Kettenbahn", {"Kettenstrang", "Kettenführung oben", "Schmierung"}}, PROTECTION}}},
     {"Hubtisch",
      {{{"Hubwerk", {"Hubantrieb", "Schere", "Endlage"}},
        {"Tragrahmen", {"Oberrahmen", "Unterrahmen", "Abstützung"}, false, true},
        {"Tischplatte", {"Belag", "Rollenfeld", "Anschlag"}, true},
        {"Hydraulik", {"Aggregat", "Verrohrung", "Zylinder"}},
-       SCHUTZ}}},
+       PROTECTION}}},
     {"Querverfahrwagen",
      {{{"Fahrantrieb", {"Radsatz angetrieben", "Radsatz frei", "Bremse"}},
        {"Wagenrahmen", {"Längsträger", "Kopfträger", "Puffer"}, false, true},
@@ -29,37 +29,37 @@ constexpr std::array<Maschine, 6> FOERDERANLAGEN{{
        {"Energiekette", {"Kettenrinne", "Mitnehmer", "Klemmkasten"}, true},
        {}}}},
     {"Becherwerk",
-     {{ANTRIEB,
+     {{DRIVE_UNIT,
        {"Becherstrang", {"Becher", "Kette", "Umlenkung"}, true},
        {"Schacht", {"Schachtfeld", "Fuß", "Kopf"}, true, true},
-       SCHUTZ,
+       PROTECTION,
        {}}}},
 }};
 
-constexpr Baugruppe GEHAEUSE{"Gehäuse", {"Gehäuse kpl.", "Entlüftung", ""}, false, true};
+constexpr Assembly HOUSING{"Gehäuse", {"Gehäuse kpl.", "Entlüftung", ""}, false, true};
 
-constexpr std::array<Maschine, 3> GETRIEBE{{
+constexpr std::array<Machine, 3> GEAR{{
     {"Stirnradgetriebe",
      {{{"Antriebsstufe", {"Antriebswelle kpl.", "Lagerung", ""}},
        {"Zwischenstufe", {"Zwischenwelle kpl.", "Lagerung", ""}},
        {"Abtrieb", {"Abtriebswelle kpl.", "Abdichtung", ""}},
-       GEHAEUSE,
+       HOUSING,
        {}}}},
     {"Kegelradgetriebe",
      {{{"Kegelradstufe", {"Kegelritzel kpl.", "Tellerrad kpl.", ""}},
        {"Abtrieb", {"Abtriebswelle kpl.", "Abdichtung", ""}},
-       GEHAEUSE,
+       HOUSING,
        {},
        {}}}},
     {"Schneckengetriebe",
      {{{"Schnecke", {"Schneckenwelle kpl.", "Lagerung", ""}},
        {"Schneckenrad", {"Radkörper kpl.", "Abdichtung", ""}},
-       GEHAEUSE,
+       HOUSING,
        {},
        {}}}},
 }};
 
-constexpr std::array<Maschine, 2> RAHMEN{{
+constexpr std::array<Machine, 2> FRAME{{
     {"Maschinenrahmen",
      {{{"Grundrahmen", {"Längsholm", "Querholm", ""}, false, true},
        {"Aufbau", {"Säule", "Bühne", ""}, true, true},
@@ -74,41 +74,39 @@ constexpr std::array<Maschine, 2> RAHMEN{{
        {}}}},
 }};
 
-constexpr std::string_view SCHRAUBENGROESSEN = "4|5|6|8|10|12|16|20|24|30";
-constexpr std::string_view SCHRAUBENLAENGEN = "10|12|16|20|25|30|35|40|45|50|60|70|80|100|120|150";
-constexpr std::string_view FESTIGKEIT = "8.8 verzinkt|A2|10.9";
-constexpr std::string_view DURCHMESSER = "10|12|15|17|20|22|25|28|30|35|40|45|50|55|60|70|80|90|100|110|120";
+constexpr std::string_view SCREW_SIZES = "4|5|6|8|10|12|16|20|24|30";
+constexpr std::string_view SCREW_LENGTHS = "10|12|16|20|25|30|35|40|45|50|60|70|80|100|120|150";
+constexpr std::string_view STRENGTH = "8.8 verzinkt|A2|10.9";
+constexpr std::string_view DIAMETER = "10|12|15|17|20|22|25|28|30|35|40|45|50|55|60|70|80|90|100|110|120";
 
-constexpr std::array<Normreihe, 14> NORMREIHEN{{
-    {"DIN 933", "Sechskantschrauben", "Schrauben", "Sechskantschraube", "M", SCHRAUBENGROESSEN, SCHRAUBENLAENGEN,
-     FESTIGKEIT, "Gewinde-Ø"},
-    {"DIN 912", "Zylinderschrauben", "Schrauben", "Zylinderschraube mit Innensechskant", "M", SCHRAUBENGROESSEN,
-     SCHRAUBENLAENGEN, FESTIGKEIT, "Gewinde-Ø"},
-    {"DIN 931", "Sechskantschrauben", "Schrauben", "Sechskantschraube mit Schaft", "M", SCHRAUBENGROESSEN,
-     SCHRAUBENLAENGEN, FESTIGKEIT, "Gewinde-Ø"},
-    {"DIN 7991", "Senkschrauben", "Schrauben", "Senkschraube", "M", SCHRAUBENGROESSEN, SCHRAUBENLAENGEN, FESTIGKEIT,
+constexpr std::array<StandardSeries, 14> STANDARD_SERIES{{
+    {"DIN 933", "Sechskantschrauben", "Schrauben", "Sechskantschraube", "M", SCREW_SIZES, SCREW_LENGTHS, STRENGTH,
      "Gewinde-Ø"},
-    {"DIN 934", "Sechskantmuttern", "Muttern", "Sechskantmutter", "M", SCHRAUBENGROESSEN, "", FESTIGKEIT, "Gewinde-Ø"},
-    {"DIN 985", "Sicherungsmuttern", "Muttern", "Sicherungsmutter", "M", SCHRAUBENGROESSEN, "", FESTIGKEIT,
-     "Gewinde-Ø"},
+    {"DIN 912", "Zylinderschrauben", "Schrauben", "Zylinderschraube mit Innensechskant", "M", SCREW_SIZES,
+     SCREW_LENGTHS, STRENGTH, "Gewinde-Ø"},
+    {"DIN 931", "Sechskantschrauben", "Schrauben", "Sechskantschraube mit Schaft", "M", SCREW_SIZES, SCREW_LENGTHS,
+     STRENGTH, "Gewinde-Ø"},
+    {"DIN 7991", "Senkschrauben", "Schrauben", "Senkschraube", "M", SCREW_SIZES, SCREW_LENGTHS, STRENGTH, "Gewinde-Ø"},
+    {"DIN 934", "Sechskantmuttern", "Muttern", "Sechskantmutter", "M", SCREW_SIZES, "", STRENGTH, "Gewinde-Ø"},
+    {"DIN 985", "Sicherungsmuttern", "Muttern", "Sicherungsmutter", "M", SCREW_SIZES, "", STRENGTH, "Gewinde-Ø"},
     {"DIN 125", "Scheiben", "Scheiben", "Scheibe", "A", "4,3|5,3|6,4|8,4|10,5|13|17|21|25|31", "", "St verzinkt|A2",
      "Innen-Ø"},
-    {"DIN 127", "Federringe", "Scheiben", "Federring", "A", SCHRAUBENGROESSEN, "", "Federstahl", "Innen-Ø"},
-    {"DIN 471", "Sicherungsringe", "Sicherungselemente", "Sicherungsring für Welle", "", DURCHMESSER, "", "Federstahl",
+    {"DIN 127", "Federringe", "Scheiben", "Federring", "A", SCREW_SIZES, "", "Federstahl", "Innen-Ø"},
+    {"DIN 471", "Sicherungsringe", "Sicherungselemente", "Sicherungsring für Welle", "", DIAMETER, "", "Federstahl",
      "Wellen-Ø"},
-    {"DIN 472", "Sicherungsringe", "Sicherungselemente", "Sicherungsring für Bohrung", "", DURCHMESSER, "",
-     "Federstahl", "Bohrungs-Ø"},
+    {"DIN 472", "Sicherungsringe", "Sicherungselemente", "Sicherungsring für Bohrung", "", DIAMETER, "", "Federstahl",
+     "Bohrungs-Ø"},
     {"DIN 6885", "Passfedern", "Passfedern", "Passfeder", "A", "5x5|6x6|8x7|10x8|12x8|14x9|16x10|18x11|20x12",
      "16|20|25|32|40|50|63|80|100", "C45+C", "Breite"},
     {"DIN 6325", "Zylinderstifte", "Stifte", "Zylinderstift", "", "3|4|5|6|8|10|12|16", "10|16|20|24|32|40|50|60|80",
      "gehärtet", "Stift-Ø"},
     {"DIN 625", "Rillenkugellager", "Wälzlager", "Rillenkugellager", "",
      "6004|6005|6006|6007|6008|6204|6205|6206|6207|6208|6305|6306|6307|6308", "", "offen|2RS", "Baureihe"},
-    {"DIN 3760", "Wellendichtringe", "Dichtungen", "Wellendichtring", "A", DURCHMESSER, "7|8|10|12", "NBR|FKM",
+    {"DIN 3760", "Wellendichtringe", "Dichtungen", "Wellendichtring", "A", DIAMETER, "7|8|10|12", "NBR|FKM",
      "Wellen-Ø"},
 }};
 
-constexpr std::array<Kaufreihe, 8> KAUFREIHEN{{
+constexpr std::array<BoughtSeries, 8> BOUGHT_SERIES{{
     {"GM", "Getriebemotor", "Antriebe", "Antriebswerk Bad Überkingen GmbH", "71|80|90|100|112|132", "Leistung kW"},
     {"PZ", "Pneumatikzylinder", "Pneumatik", "Druckluft Wörlitz KG", "20|25|32|40|50|63|80|100", "Kolben-Ø"},
     {"NS", "Näherungsschalter", "Sensorik", "Sensorik Müggelheim GmbH", "8|12|18|30", "Schaltabstand"},
@@ -121,29 +119,29 @@ constexpr std::array<Kaufreihe, 8> KAUFREIHEN{{
 
 } // namespace
 
-std::span<const Maschine> foerderanlagen()
+std::span<const Machine> conveyors()
 {
-    return FOERDERANLAGEN;
+    return CONVEYORS;
 }
 
-std::span<const Maschine> getriebe()
+std::span<const Machine> gear()
 {
-    return GETRIEBE;
+    return GEAR;
 }
 
-std::span<const Maschine> rahmen()
+std::span<const Machine> frame()
 {
-    return RAHMEN;
+    return FRAME;
 }
 
-std::span<const Normreihe> normreihen()
+std::span<const StandardSeries> standardSeries()
 {
-    return NORMREIHEN;
+    return STANDARD_SERIES;
 }
 
-std::span<const Kaufreihe> kaufreihen()
+std::span<const BoughtSeries> boughtSeries()
 {
-    return KAUFREIHEN;
+    return BOUGHT_SERIES;
 }
 
 } // namespace quelvarn::sample

@@ -7,28 +7,28 @@
 
 namespace quelvarn {
 
-struct DateiInfo
+struct FileInfo
 {
-    bool vorhanden = false;
-    Dateiattribute attribute;
+    bool exists = false;
+    FileAttributes attribute;
     std::string Ordner;
     std::string Name;
 };
 
 // The document now shown; Typ 0 when none.
-struct AktuellesDokument
+struct CurrentDocument
 {
-    int Typ = 0;
+    int Type = 0;
     std::string DokuBez;
     std::string RevBez;
     std::string Dateiname;
     int Status = 0;
     std::string filename;
-    Zeitpunkt Erstellt;
-    Zeitpunkt Geaendert;
+    DateTime Erstellt;
+    DateTime Geaendert;
     std::string Autor;
     std::string Bearbeiter;
-    bool operator==(const AktuellesDokument&) const = default;
+    bool operator==(const CurrentDocument&) const = default;
 };
 
 } // namespace quelvarn

@@ -16,48 +16,48 @@ namespace quelvarn {
 
 namespace {
 
-struct Schritt
+struct Step
 {
-    std::string_view abschnitt;
-    void (*lese)(Startlauf&);
+    std::string_view section;
+    void (*read)(StartRun&);
 };
 
-constexpr std::array<Schritt, 19> SCHRITTE{{
-    {"Lesen der Bezeichnungen", leseBezeichnungen},
-    {"Lesen der Bezeichnungen", leseSuchtexte},
-    {"Lesen der Namen der Sondertabellen", leseSondertabellen},
-    {"Lesen Pfadname zum Versand- u. Plotverzeichnis", lesePlotPfad},
-    {"Lesen der Einstellung zum Offline-Plotten 'Allgemein'", leseOfflineTool},
-    {"Lesen der Einstellungen 'Printer' für 'Plotter/Drucker ermitteln'", lesePlotDrucker},
-    {"Lesen der Einstellung 'PDF' für 'Plotter/Drucker ermitteln'", lesePdfDrucker},
-    {"Lesen CheckInOut Ja/Nein", leseCheckInOut},
-    {"Lesen Forward Ja/Nein", leseForward},
-    {"Lesen ob Nachrichten sofort mitgeteilt werden.", leseNachricht},
-    {"Lesen aktives Quelvarn Ja/Nein?", leseActiveQuelvarn},
-    {"Lesen Zeitintervall", leseZeitintervall},
-    {"Lesen Starttabelle", leseStarttabelle},
-    {"Lesen der Einstellung der TREEVIEW des Anwenders.", leseTreeview},
-    {"Lesen der Einstellung zum Offline-Plotten 'Anwender'", leseOfflineDaten},
-    {"Lesen der ZIP-Daten 'Anwender'", leseZipDaten},
-    {"Lesen Standardeinstellung Plotten", lesePlotVorgabe},
-    {"Lesen Standardeinstellung PDF", lesePdfVorgabe},
-    {"Erstellen der Recordsets", leseGespeicherteFilter},
+constexpr std::array<Step, 19> STEPS{{
+    {"Lesen der Bezeichnungen", readLabels},
+    {"Lesen der Bezeichnungen", readSearchTexts},
+    {"Lesen der Namen der Sondertabellen", readSpecialTables},
+    {"Lesen Pfadname zum Versand- u. Plotverzeichnis", readPlotPfad},
+    {"Lesen der Einstellung zum Offline-Plotten 'Allgemein'", readOfflineTool},
+    {"Lesen der Einstellungen 'Printer' für 'Plotter/Drucker ermitteln'", readPlotDrucker},
+    {"Lesen der Einstellung 'PDF' für 'Plotter/Drucker ermitteln'", readPdfDrucker},
+    {"Lesen CheckInOut Ja/Nein", readCheckInOut},
+    {"Lesen Forward Ja/Nein", readForward},
+    {"Lesen ob Nachrichten sofort mitgeteilt werden.", readMessageSwitches},
+    {"Lesen aktives Quelvarn Ja/Nein?", readActiveQuelvarn},
+    {"Lesen Zeitintervall", readZeitintervall},
+    {"Lesen Starttabelle", readStarttabelle},
+    {"Lesen der Einstellung der TREEVIEW des Anwenders.", readTreeview},
+    {"Lesen der Einstellung zum Offline-Plotten 'Anwender'", readOfflineData},
+    {"Lesen der ZIP-Daten 'Anwender'", readZipData},
+    {"Lesen Standardeinstellung Plotten", readPlotDefaults},
+    {"Lesen Standardeinstellung PDF", readPdfDefaults},
+    {"Erstellen der Recordsets", readSavedFilters},
 }};
 
-void meldeKeinRegister(Meldungen& meldungen)
+void tellNoRegister(Boxes& boxes)
 {
-    meldungen.warnung("Modul: Ini-Tabelle fehlt", "Es wurde keine Datenbank vom Typ 'Quelvarnis' ausgewählt\n"
-                                                  "oder es fehlt die Ini-Tabelle in der Datenbank!");
+    boxes.warn("Modul: Ini-Tabelle fehlt", "Es wurde keine Datenbank vom Typ 'Quelvarnis' ausgewählt\n"
+                                           "oder es fehlt die Ini-Tabelle in der Datenbank!");
 }
 
-std::string fehlertext(std::string_view pfad, std::string_view abschnitt)
+std::string faultText(std::string_view documentPath, std::string_view section)
 {
-    return zeilen({
-        pfad,
+    return lines({
+        documentPath,
         "",
         "Fehler beim Öffnen, Lesen oder Bearbeiten der Datenbank!",
         "",
-        "Fehler bei: " + std::string(abschnitt),
+        "Fehler bei: " + std::string(section),
         "",
         "Mögliche Ursache:",
         "- Datenbank ist schreibgeschützt.",
@@ -70,20 +70,20 @@ std::string fehlertext(std::string_view pfad, std::string_view abschnitt)
 }
 
 // Lets go of everything that stood on the connection, and of the connection.
-void trenne(SessionState& session)
+void separate(SessionState& session)
 {
     session.use.CheckInOut = Recordset();
-    session.database.Verbindung.Close();
+    session.database.connection.Close();
 }
 
 // False when what lies there is no database at all.
-bool verbinde(SessionState& session, const Dateien& dateien)
+bool connect(SessionState& session, const Files& files)
 {
-    trenne(session);
-    const std::filesystem::path pfad = dateien.systempfad(session.database.DatenbankPfad);
-    if (erkenneDatenbank(pfad) == DatenbankArt::Unbekannt)
+    separate(session);
+    const std::filesystem::path documentPath = files.systemPath(session.database.DatenbankPfad);
+    if (recognizeDatabase(documentPath) == DatabaseKind::Unknown)
         return false;
-    session.database.Verbindung.Open(pfad);
+    session.database.connection.Open(documentPath);
     return true;
 }
 
@@ -91,96 +91,95 @@ bool verbinde(SessionState& session, const Dateien& dateien)
 bool isRegister(SessionState& session)
 {
     try {
-        Recordset zeilen;
-        zeilen.Open(sql::Query("Ini").distinct().where(iniRows(session.user.Anwender, "Berechtigung")),
-                    session.database.Verbindung);
+        Recordset rows;
+        rows.Open(sql::Query("Ini").distinct().where(iniRows(session.user.Anwender, "Berechtigung")),
+                  session.database.connection);
         return true;
-    } catch (const DatabaseFault& fehler) {
-        if (fehler.kind() != FaultKind::Other) // It tells nothing of what lies there.
+    } catch (const DatabaseFault& fault) {
+        if (fault.kind() != FaultKind::Other) // It tells nothing of what lies there.
             throw;
         return false;
-    } catch (const Laufzeitfehler&) {
+    } catch (const RuntimeError&) {
         return false; // The table of settings cannot be read.
     }
 }
 
 // Most starts only look. The steps that miss rows, or find wrong ones, are repeated in one transaction that no other
 // start enters meanwhile: one of the same user may have written them since. Boxes come while looking.
-void run(Startlauf& lauf, std::span<const Schritt> steps)
+void runSteps(StartRun& run, std::span<const Step> steps)
 {
-    std::vector<Schritt> writing;
-    for (const Schritt& step : steps) {
-        lauf.abschnitt = step.abschnitt;
-        lauf.ini.lookOnly();
-        step.lese(lauf);
-        if (lauf.ini.wantsToWrite())
+    std::vector<Step> writing;
+    for (const Step& step : steps) {
+        run.section = step.section;
+        run.ini.lookOnly();
+        step.read(run);
+        if (run.ini.wantsToWrite())
             writing.push_back(step);
     }
     if (writing.empty())
         return;
-    lauf.ini.writeAlone();
-    for (const Schritt& step : writing) {
-        lauf.abschnitt = step.abschnitt;
-        step.lese(lauf);
+    run.ini.writeAlone();
+    for (const Step& step : writing) {
+        run.section = step.section;
+        step.read(run);
     }
-    lauf.ini.schliesseAb();
+    run.ini.commit();
 }
 
 // False when the file is not a register; the session is filled otherwise.
-bool liesRegister(SessionState& session, Ports& ports, std::string_view& abschnitt)
+bool liesRegister(SessionState& session, Ports& ports, std::string_view& section)
 {
-    abschnitt = "Verbindung zur Datenbank";
-    if (!verbinde(session, ports.dateien))
+    section = "Verbindung zur Datenbank";
+    if (!connect(session, ports.files))
         return false;
-    Startlauf lauf{
-        .session = session, .ports = ports, .abschnitt = abschnitt, .ini = IniZeilen(session.database.Verbindung)};
-    return readRegister(lauf);
+    StartRun run{.session = session, .ports = ports, .section = section, .ini = IniRows(session.database.connection)};
+    return readRegister(run);
 }
 
 // Nothing that needs the register may seem to be there.
-void verwirf(SessionState& session)
+void discard(SessionState& session)
 {
-    trenne(session);
+    separate(session);
     session.database.DatenbankPfad.clear();
     session.use.CheckInOutOn = session.use.ForwardOn = session.pages.ActiveQuelvarn = false;
-    setzeZeitintervall(session, 0);
+    setZeitintervall(session, 0);
 }
 
 } // namespace
 
-bool readRegister(Startlauf& lauf)
+bool readRegister(StartRun& run)
 {
-    lauf.abschnitt = "Prüfen auf Quelvarnis-Datenbank";
-    if (!isRegister(lauf.session))
+    run.section = "Prüfen auf Quelvarnis-Datenbank";
+    if (!isRegister(run.session))
         return false;
 
     // A new user is entered before he is greeted.
-    run(lauf, std::array{Schritt{"Prüfen der Einträge", leseBerechtigung}});
-    werteBerechtigungAus(lauf);
-    run(lauf, SCHRITTE);
+    runSteps(run, std::array{Step{"Prüfen der Einträge", readRights}});
+    applyRights(run);
+    runSteps(run, STEPS);
     return true;
 }
 
 bool Hauptprogramm(SessionState& session, Ports& ports)
 {
-    const std::string pfad = session.database.DatenbankPfad;
-    std::string_view abschnitt;
-    bool istRegister = false;
-    const bool gelesen = gesichert(
-        ports.meldungen, "Fehler beim Öffnen der Datenbank", [&] { return fehlertext(pfad, abschnitt); },
+    const std::string documentPath = session.database.DatenbankPfad;
+    std::string_view section;
+    bool isRegister = false;
+    const bool read = guarded(
+        ports.boxes, "Fehler beim Öffnen der Datenbank", [&] { return faultText(documentPath, section); },
         [&] {
             try {
-                istRegister = liesRegister(session, ports, abschnitt);
+                isRegister = liesRegister(session, ports, section);
             } catch (...) {
-                verwirf(session);
+                discard(session);
                 throw;
             }
         });
-    if (gelesen && !istRegister) {
-        verwirf(session);
-        meldeKeinRegister(ports.meldungen);
+    if (read && !isRegister) {
+        discard(session);
+        tellNoRegister(ports.boxes);
     }
-    return gelesen && istRegister;
+    return read && isRegister;
 }
 
 } // namespace quelvarn

@@ -25,17 +25,17 @@ DatabaseWatch::DatabaseWatch(SessionState& session, Ports& ports, std::function<
 
 void DatabaseWatch::tick()
 {
-    const FileState now = session_.database.Verbindung.fileState();
+    const FileState now = session_.database.connection.fileState();
     if (now == FileState::Replaced)
         return tickReplaced();
     if (now == FileState::Gone && told_ != now)
-        ports_.meldungen.warnung(TITLE, zeilen({
-                                            "Die Datenbank ist nicht mehr vorhanden.",
-                                            session_.database.DatenbankPfad,
-                                            "",
-                                            "Angezeigt wird, was schon gelesen ist.",
-                                            "Sobald die Datei wieder da ist, geht es ohne Neustart weiter.",
-                                        }));
+        ports_.boxes.warn(TITLE, lines({
+                                     "Die Datenbank ist nicht mehr vorhanden.",
+                                     session_.database.DatenbankPfad,
+                                     "",
+                                     "Angezeigt wird, was schon gelesen ist.",
+                                     "Sobald die Datei wieder da ist, geht es ohne Neustart weiter.",
+                                 }));
     if (now != FileState::Away)
         told_ = now;
 }
@@ -45,11 +45,11 @@ void DatabaseWatch::tickReplaced()
 {
     try {
         requireRegister();
-    } catch (const Laufzeitfehler& fault) {
+    } catch (const RuntimeError& fault) {
         if (std::exchange(told_, FileState::Replaced) != FileState::Replaced)
-            ports_.meldungen.warnung(TITLE, zeilen({REPLACED, session_.database.DatenbankPfad, "",
-                                                    "Sie lässt sich nicht öffnen:", fault.beschreibung(), "",
-                                                    "Angezeigt wird, was aus der vorigen gelesen ist."}));
+            ports_.boxes.warn(TITLE, lines({REPLACED, session_.database.DatenbankPfad, "",
+                                            "Sie lässt sich nicht öffnen:", fault.description(), "",
+                                            "Angezeigt wird, was aus der vorigen gelesen ist."}));
         return;
     }
     openReplacement();
@@ -57,8 +57,8 @@ void DatabaseWatch::tickReplaced()
 
 bool DatabaseWatch::stillOpen()
 {
-    if (session_.database.Verbindung.fileState() != FileState::Replaced) {
-        session_.database.Verbindung.checkFile();
+    if (session_.database.connection.fileState() != FileState::Replaced) {
+        session_.database.connection.checkFile();
         return true;
     }
     requireRegister();
@@ -69,15 +69,15 @@ bool DatabaseWatch::stillOpen()
 void DatabaseWatch::requireRegister() const
 {
     Connection other;
-    other.setPatience(session_.database.Verbindung.patience());
-    other.Open(ports_.dateien.systempfad(session_.database.DatenbankPfad));
+    other.setPatience(session_.database.connection.patience());
+    other.Open(ports_.files.systemPath(session_.database.DatenbankPfad));
     Recordset().Open("SELECT * FROM Ini WHERE Feld1 = ''", other);
 }
 
 void DatabaseWatch::openReplacement()
 {
     told_ = FileState::Same;
-    ports_.meldungen.hinweis(TITLE, zeilen({REPLACED, session_.database.DatenbankPfad, "", "Sie wird neu geöffnet."}));
+    ports_.boxes.tell(TITLE, lines({REPLACED, session_.database.DatenbankPfad, "", "Sie wird neu geöffnet."}));
     openAgain_();
 }
 

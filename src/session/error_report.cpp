@@ -10,52 +10,51 @@ namespace quelvarn {
 
 namespace {
 
-std::optional<Laufzeitfehler> fehlerVon(const std::function<void()>& operation)
+std::optional<RuntimeError> faultOf(const std::function<void()>& operation)
 {
     try {
         operation();
         return std::nullopt;
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler;
-    } catch (const std::exception& fehler) {
-        return Laufzeitfehler(0, "Quelvarn", fehler.what());
+    } catch (const RuntimeError& fault) {
+        return fault;
+    } catch (const std::exception& fault) {
+        return RuntimeError(0, "Quelvarn", fault.what());
     }
 }
 
 } // namespace
 
-void Fehlermeldung(Meldungen& meldungen, const Laufzeitfehler& fehler)
+void Fehlermeldung(Boxes& boxes, const RuntimeError& fault)
 {
-    const std::string text = zeilen({
-        fmt::format("Fehler Nr. {} wurde erzeugt durch ", fehler.nummer()),
-        fehler.quelle(),
-        fehler.beschreibung(),
+    const std::string text = lines({
+        fmt::format("Fehler Nr. {} wurde erzeugt durch ", fault.number()),
+        fault.source(),
+        fault.description(),
         "",
         "Es wird empfohlen das Programm abzubrechen!",
         "",
         "OK =               Programm fortsetzen",
         "Abbrechen =   Programm beenden",
     });
-    if (meldungen.zeige({"Fehlermeldung", text, Symbol::Kritisch, Knoepfe::OkAbbrechen}) == Antwort::Abbrechen)
-        throw ProgrammEnde();
+    if (boxes.show({"Fehlermeldung", text, Icon::Critical, Buttons::OkCancel}) == Answer::Cancel)
+        throw ProgramExit();
 }
 
-bool gesichert(Meldungen& meldungen, std::string_view titel, const std::function<std::string()>& text,
-               const std::function<void()>& operation)
+bool guarded(Boxes& boxes, std::string_view title, const std::function<std::string()>& text,
+             const std::function<void()>& operation)
 {
-    const std::optional<Laufzeitfehler> fehler = fehlerVon(operation);
-    if (!fehler)
+    const std::optional<RuntimeError> fault = faultOf(operation);
+    if (!fault)
         return true;
-    meldungen.warnung(titel, text());
-    Fehlermeldung(meldungen, *fehler);
+    boxes.warn(title, text());
+    Fehlermeldung(boxes, *fault);
     return false;
 }
 
-bool gesichert(Meldungen& meldungen, std::string_view titel, std::string_view text,
-               const std::function<void()>& operation)
+bool guarded(Boxes& boxes, std::string_view title, std::string_view text, const std::function<void()>& operation)
 {
-    return gesichert(
-        meldungen, titel, [text] { return std::string(text); }, operation);
+    return guarded(
+        boxes, title, [text] { return std::string(text); }, operation);
 }
 
 } // namespace quelvarn

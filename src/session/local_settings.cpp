@@ -16,19 +16,19 @@ namespace quelvarn {
 
 namespace {
 
-std::string einstellungsdatei(const SessionState& session)
+std::string settingsFile(const SessionState& session)
 {
     return session.folders.OrdnerDatenbankPfad + "\\Quelvarnis.ini";
 }
 
-std::string letzteZeile(std::string_view text)
+std::string lastRow(std::string_view text)
 {
     if (text.ends_with('\n'))
         text.remove_suffix(1);
     if (text.ends_with('\r'))
         text.remove_suffix(1);
-    const auto umbruch = text.find_last_of('\n');
-    return std::string(umbruch == std::string_view::npos ? text : text.substr(umbruch + 1));
+    const auto wrap = text.find_last_of('\n');
+    return std::string(wrap == std::string_view::npos ? text : text.substr(wrap + 1));
 }
 
 } // namespace
@@ -36,75 +36,73 @@ std::string letzteZeile(std::string_view text)
 std::string LeseDatenbankPfad(const SessionState& session, const Ports& ports)
 {
     try {
-        const std::string pfad = letzteZeile(decodeFileText(ports.dateien.lese(einstellungsdatei(session))));
-        return pfad.ends_with(".mdb") && ports.dateien.dateiVorhanden(pfad) ? pfad : "";
-    } catch (const Laufzeitfehler&) {
+        const std::string documentPath = lastRow(decodeFileText(ports.files.read(settingsFile(session))));
+        return documentPath.ends_with(".mdb") && ports.files.fileExists(documentPath) ? documentPath : "";
+    } catch (const RuntimeError&) {
         return ""; // No such file yet: nobody opened a database on this computer.
     }
 }
 
-bool SchreibeDatenbankPfad(const SessionState& session, const Ports& ports, std::string_view pfad)
+bool SchreibeDatenbankPfad(const SessionState& session, const Ports& ports, std::string_view documentPath)
 {
     try {
-        ports.dateien.schreibe(einstellungsdatei(session), encodeFileText(std::string(pfad) + "\r\n"));
+        ports.files.write(settingsFile(session), encodeFileText(std::string(documentPath) + "\r\n"));
         return true;
-    } catch (const Laufzeitfehler&) {
+    } catch (const RuntimeError&) {
         return false;
     }
 }
 
-int DateiTyp(std::string_view pfad, Meldungen& meldungen)
+int DateiTyp(std::string_view documentPath, Boxes& boxes)
 {
-    const int code = dateiTypCode(pfad);
+    const int code = fileTypeCode(documentPath);
     if (code == 0)
-        meldungen.warnung("File-Endung", "File-Endung " + Dateiendung(pfad) + " ist nicht zulässig!");
+        boxes.warn("File-Endung", "File-Endung " + Extension(documentPath) + " ist nicht zulässig!");
     return code;
 }
 
-DateiInfo LeseDateiinfo(std::string_view pfad, const Ports& ports)
+FileInfo LeseDateiinfo(std::string_view documentPath, const Ports& ports)
 {
-    const std::optional<Dateiattribute> attribute = ports.dateien.attribute(pfad);
+    const std::optional<FileAttributes> attribute = ports.files.attribute(documentPath);
     if (!attribute)
         return {};
-    return {true, *attribute, Ordnername(pfad), DateiName(pfad)};
+    return {true, *attribute, Ordnername(documentPath), DateiName(documentPath)};
 }
 
-void UniversalNachLaufwerk(std::string& pfad, const Ports& ports)
+void UniversalNachLaufwerk(std::string& documentPath, const Ports& ports)
 {
-    if (!pfad.starts_with("\\\\"))
+    if (!documentPath.starts_with("\\\\"))
         return;
-    gesichert(
-        ports.meldungen, "Universalname nach Laufwerksname", "Fehler beim Umsetzen Universalname nach Laufwerk!", [&] {
-            const auto serverende = pfad.find('\\', 2);
-            const auto freigabeende = serverende == std::string::npos ? serverende : pfad.find('\\', serverende + 1);
-            const std::string freigabe = pfad.substr(0, freigabeende);
+    guarded(ports.boxes, "Universalname nach Laufwerksname", "Fehler beim Umsetzen Universalname nach Laufwerk!", [&] {
+        const auto serverEnd = documentPath.find('\\', 2);
+        const auto releaseEnd = serverEnd == std::string::npos ? serverEnd : documentPath.find('\\', serverEnd + 1);
+        const std::string release = documentPath.substr(0, releaseEnd);
 
-            const std::vector<Laufwerk> laufwerke = ports.laufwerke.liste();
-            const auto laufwerk = std::find_if(laufwerke.begin(), laufwerke.end(), [&](const Laufwerk& kandidat) {
-                return !kandidat.freigabe.empty() && equalText(kandidat.freigabe, freigabe);
-            });
-            if (laufwerk != laufwerke.end()) {
-                pfad = laufwerk->buchstabe + pfad.substr(freigabe.size());
-                return;
-            }
-            ports.meldungen.warnung("Universalname nach Laufwerksnamen",
-                                    zeilen({
-                                        "Dem Universal-Laufwerksnamen:",
-                                        freigabe,
-                                        "konnte kein lokales Laufwerk zugeordent werden!",
-                                        "Die Umsetzung wird beendet.",
-                                        "Das Ergebnis ist unvollständig.",
-                                    }));
+        const std::vector<Drive> drives = ports.drives.list();
+        const auto drive = std::find_if(drives.begin(), drives.end(), [&](const Drive& candidate) {
+            return !candidate.release.empty() && equalText(candidate.release, release);
         });
+        if (drive != drives.end()) {
+            documentPath = drive->letter + documentPath.substr(release.size());
+            return;
+        }
+        ports.boxes.warn("Universalname nach Laufwerksnamen", lines({
+                                                                  "Dem Universal-Laufwerksnamen:",
+                                                                  release,
+                                                                  "konnte kein lokales Laufwerk zugeordent werden!",
+                                                                  "Die Umsetzung wird beendet.",
+                                                                  "Das Ergebnis ist unvollständig.",
+                                                              }));
+    });
 }
 
 std::string pathOnShare(std::string_view path, const Ports& ports)
 {
-    const std::vector<Laufwerk> drives = ports.laufwerke.liste();
-    const auto drive = std::ranges::find_if(drives, [&](const Laufwerk& candidate) {
-        return !candidate.freigabe.empty() && equalText(candidate.buchstabe, path.substr(0, 2));
+    const std::vector<Drive> drives = ports.drives.list();
+    const auto drive = std::ranges::find_if(drives, [&](const Drive& candidate) {
+        return !candidate.release.empty() && equalText(candidate.letter, path.substr(0, 2));
     });
-    return drive == drives.end() ? std::string() : drive->freigabe + std::string(path.substr(2));
+    return drive == drives.end() ? std::string() : drive->release + std::string(path.substr(2));
 }
 
 } // namespace quelvarn

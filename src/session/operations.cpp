@@ -7,21 +7,23 @@
 namespace quelvarn {
 
 Operations::Operations(const Ports& outside)
-    : boxes_(*this, outside.meldungen), progress_(*this, outside.fortschritt),
-      ports_{boxes_,          outside.uhr,       outside.umgebung,       outside.dateien,           outside.laufwerke,
-             outside.drucker, outside.programme, outside.zwischenablage, outside.standardanwendung, progress_}
+    : boxes_(*this, outside.boxes),
+      progress_(*this, outside.progress), ports_{boxes_,           outside.clock,     outside.environment,
+                                                 outside.files,    outside.drives,    outside.printers,
+                                                 outside.programs, outside.clipboard, outside.defaultApplication,
+                                                 progress_}
 {}
 
 bool Operations::perform(Part part, std::string_view title, std::string_view text,
                          const std::function<void()>& operation)
 {
-    return run(part, [&] { return gesichert(boxes_, title, text, operation); });
+    return run(part, [&] { return guarded(boxes_, title, text, operation); });
 }
 
 bool Operations::perform(Part part, std::string_view title, const std::function<std::string()>& text,
                          const std::function<void()>& operation)
 {
-    return run(part, [&] { return gesichert(boxes_, title, text, operation); });
+    return run(part, [&] { return guarded(boxes_, title, text, operation); });
 }
 
 bool Operations::report(Part part, const std::function<void()>& operation)
@@ -34,7 +36,7 @@ bool Operations::report(const std::function<void()>& operation)
     try {
         operation();
         return true;
-    } catch (const Laufzeitfehler& fault) {
+    } catch (const RuntimeError& fault) {
         Fehlermeldung(boxes_, fault);
         return false;
     }
@@ -77,16 +79,16 @@ void Operations::showChanges()
         show(parts);
 }
 
-Antwort Operations::ShowingBoxes::zeige(const Meldung& box)
+Answer Operations::ShowingBoxes::show(const Box& box)
 {
     operations_.showChanges();
-    return outside_.zeige(box);
+    return outside_.show(box);
 }
 
-void Operations::ShowingProgress::beginne(std::string_view text)
+void Operations::ShowingProgress::begin(std::string_view text)
 {
     operations_.showChanges();
-    outside_.beginne(text);
+    outside_.begin(text);
 }
 
 } // namespace quelvarn

@@ -33,7 +33,7 @@ public:
     // The doors to the outside, as whatever runs here must take them.
     Ports& ports() { return ports_; }
 
-    // A fault shows this warning box, then the common report. Every exception but ProgrammEnde ends here. True when
+    // A fault shows this warning box, then the common report. Every exception but ProgramExit ends here. True when
     // the operation ran to its end. The part counts as changed, whatever happens.
     bool perform(Part part, std::string_view title, std::string_view text, const std::function<void()>& operation);
     bool perform(Part part, std::string_view title, const std::function<std::string()>& text,
@@ -46,29 +46,28 @@ public:
     std::function<void(const Parts&)> show;
 
 private:
-    class ShowingBoxes final : public Meldungen
+    class ShowingBoxes final : public Boxes
     {
     public:
-        ShowingBoxes(Operations& operations, Meldungen& outside) : operations_(operations), outside_(outside) {}
-        Antwort zeige(const Meldung& box) override;
+        ShowingBoxes(Operations& operations, Boxes& outside) : operations_(operations), outside_(outside) {}
+        Answer show(const Box& box) override;
 
     private:
         Operations& operations_;
-        Meldungen& outside_;
+        Boxes& outside_;
     };
-    class ShowingProgress final : public Fortschrittsanzeige
+    class ShowingProgress final : public ProgressDisplay
     {
     public:
-        ShowingProgress(Operations& operations, Fortschrittsanzeige& outside)
-            : operations_(operations), outside_(outside)
+        ShowingProgress(Operations& operations, ProgressDisplay& outside) : operations_(operations), outside_(outside)
         {}
-        void beginne(std::string_view text) override;
-        bool schritt(std::size_t done, std::size_t total) override { return outside_.schritt(done, total); }
-        void beende() override { outside_.beende(); }
+        void begin(std::string_view text) override;
+        bool step(std::size_t done, std::size_t total) override { return outside_.step(done, total); }
+        void end() override { outside_.end(); }
 
     private:
         Operations& operations_;
-        Fortschrittsanzeige& outside_;
+        ProgressDisplay& outside_;
     };
 
     bool run(Part part, const std::function<bool()>& guarded);

@@ -5,7 +5,7 @@
 
 namespace quelvarn {
 
-struct Druckvorgabe
+struct PrintDefaults
 {
     std::string Printer;
     std::string PaperSize;
@@ -30,9 +30,9 @@ struct OrderSettings
     std::string OfflineExportArt;
     int ZipStufe = 0; // 0 Normal, 1 Maximum, 2 Minimum, 3 Schnell
     std::string ZipPasswort;
-    Druckvorgabe PlotVorgabe;
-    Druckvorgabe PdfVorgabe;
-    bool AuftraegeLokal = false; // Orders go to OrdnerOfflineVersand; not stored.
+    PrintDefaults PlotVorgabe;
+    PrintDefaults PdfVorgabe;
+    bool OrdersLocal = false; // Orders go to OrdnerOfflineVersand; not stored.
 };
 
 } // namespace quelvarn

@@ -8,13 +8,13 @@ namespace quelvarn {
 
 namespace {
 
-struct Papier
+struct Paper
 {
     int code;
     std::string_view name;
 };
 
-constexpr std::array<Papier, 5> PAPIERE{{
+constexpr std::array<Paper, 5> PAPERS{{
     {8, "DIN A3, 297 x 420 mm"},
     {9, "DIN A4, 210 x 297 mm"},
     {10, "DIN A4, 210 x 297 mm"}, // "small"
@@ -24,11 +24,11 @@ constexpr std::array<Papier, 5> PAPIERE{{
 
 } // namespace
 
-std::string papierName(int code)
+std::string paperName(int code)
 {
-    const auto papier =
-        std::find_if(PAPIERE.begin(), PAPIERE.end(), [code](const Papier& kandidat) { return kandidat.code == code; });
-    return std::string(papier == PAPIERE.end() ? "Keine Angabe" : papier->name);
+    const auto paper =
+        std::find_if(PAPERS.begin(), PAPERS.end(), [code](const Paper& candidate) { return candidate.code == code; });
+    return std::string(paper == PAPERS.end() ? "Keine Angabe" : paper->name);
 }
 
 } // namespace quelvarn

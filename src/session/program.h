@@ -13,9 +13,9 @@ inline constexpr int VERSION_MINOR = 0;
 inline constexpr int VERSION_REVISION = 0;
 
 // "    Quelvarn Version 2.0.0": the tail of the main window's caption.
-std::string versionstext();
+std::string versionText();
 // Caption of the main window for this database path.
-std::string fenstertitel(const SessionState& session);
+std::string windowTitle(const SessionState& session);
 
 // Start-up: who, where, folders, last database, Hauptprogramm. Opens no window.
 // After a fault that was reported, and that the user goes on from, no database is open.
@@ -26,7 +26,7 @@ void Main(SessionState& session, Ports& ports);
 bool Hauptprogramm(SessionState& session, Ports& ports);
 
 // How many windows with this program's caption run on this computer.
-int laufendeKopien(const Ports& ports);
+int runningCopies(const Ports& ports);
 // Asks whether a second copy should stay open. False when the user says no.
 bool CheckAlreadyRunning(const Ports& ports);
 // True when Harvel or Talvik has an open window; the user has been told then.

@@ -11,34 +11,34 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t NAMENSLAENGE = 25; // What the columns of the use registry take.
-constexpr int HOEHE_STANDARD = 10090;
-constexpr int HOEHE_VERSION_5_1 = 10150;
+constexpr std::size_t NAME_LENGTH = 25; // What the columns of the use registry take.
+constexpr int HEIGHT_STANDARD = 10090;
+constexpr int HEIGHT_VERSION_5_1 = 10150;
 
-void leseUmgebung(SessionState& session, const Umgebung& umgebung)
+void readEnvironment(SessionState& session, const Environment& environment)
 {
-    const Systemversion version = umgebung.systemversion();
+    const SystemVersion version = environment.systemVersion();
     session.user.OsVersionMajor = version.major;
     session.user.OsVersionMinor = version.minor;
-    session.user.OsPlatform = version.plattform;
-    const bool version51 = version.major == "5" && version.minor == "1" && version.plattform == 2;
-    session.user.FensterHoehe = version51 ? HOEHE_VERSION_5_1 : HOEHE_STANDARD;
-    session.user.Rechner = leftCharacters(umgebung.rechnername(), NAMENSLAENGE);
-    session.user.Anwender = leftCharacters(umgebung.anwendername(), NAMENSLAENGE);
+    session.user.OsPlatform = version.platform;
+    const bool version51 = version.major == "5" && version.minor == "1" && version.platform == 2;
+    session.user.FensterHoehe = version51 ? HEIGHT_VERSION_5_1 : HEIGHT_STANDARD;
+    session.user.Rechner = leftCharacters(environment.computerName(), NAME_LENGTH);
+    session.user.Anwender = leftCharacters(environment.userName(), NAME_LENGTH);
 }
 
-void legeOrdnerAn(SessionState& session, const Umgebung& umgebung, Dateien& dateien)
+void createFolder(SessionState& session, const Environment& environment, Files& files)
 {
-    session.folders.OrdnerBasis = umgebung.systemlaufwerk() + "\\Dokumente und Einstellungen Quelvarnis";
+    session.folders.OrdnerBasis = environment.systemDrive() + "\\Dokumente und Einstellungen Quelvarnis";
     session.folders.OrdnerSEDokumente = session.folders.OrdnerBasis + "\\SolidEdge_Dokumente";
     session.folders.OrdnerProtokollPrio = session.folders.OrdnerBasis + "\\Protokoll_Prio";
     session.folders.OrdnerDatenbankPfad = session.folders.OrdnerBasis + "\\Datenbank_Pfad";
     session.folders.OrdnerOfflineVersand = session.folders.OrdnerBasis + "\\Offline_Versand";
-    for (const std::string& ordner :
+    for (const std::string& folder :
          {session.folders.OrdnerBasis, session.folders.OrdnerSEDokumente, session.folders.OrdnerProtokollPrio,
           session.folders.OrdnerDatenbankPfad, session.folders.OrdnerOfflineVersand})
-        if (!dateien.ordnerVorhanden(ordner))
-            dateien.ordnerAnlegen(ordner);
+        if (!files.folderExists(folder))
+            files.createFolder(folder);
 }
 
 } // namespace
@@ -47,14 +47,14 @@ void Main(SessionState& session, Ports& ports)
 {
     session.database.DatenbankOk = false;
     session.database.DatenbankPfad.clear();
-    const std::string text = zeilen({
+    const std::string text = lines({
         "Fehler beim Aufruf Hauptprogramm!",
         "Mögliche Ursache:",
         "- Keine Schreibberechtigung auf die Verzeichnisse von Quelvarnis.",
     });
-    const bool good = gesichert(ports.meldungen, "Aufruf Hauptprogramm", text, [&] {
-        leseUmgebung(session, ports.umgebung);
-        legeOrdnerAn(session, ports.umgebung, ports.dateien);
+    const bool good = guarded(ports.boxes, "Aufruf Hauptprogramm", text, [&] {
+        readEnvironment(session, ports.environment);
+        createFolder(session, ports.environment, ports.files);
         session.database.DatenbankPfad = LeseDatenbankPfad(session, ports);
         session.database.DatenbankOk = !session.database.DatenbankPfad.empty() && Hauptprogramm(session, ports);
     });

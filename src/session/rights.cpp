@@ -10,70 +10,69 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int CODE_ALLES = 6;
+constexpr int CODE_ALL = 6;
 // The codes that a caller names for an owner; others mean somebody else's document.
-constexpr int CODE_EIGENE_ZEILE = 1;
-constexpr int CODE_EIGENE_DATEI = 5;
+constexpr int CODE_OWN_ROW = 1;
+constexpr int CODE_OWN_FILE = 5;
 
 constexpr std::string_view ADMINISTRATOR = "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.";
 
-bool bekannterStatus(int status)
+bool knownStatus(int status)
 {
-    return status >= 0 && status < ANZAHL_STATUS;
+    return status >= 0 && status < STATUS_COUNT;
 }
 
-void verweigere(Meldungen& meldungen, int status, bool besitzer, std::string_view woraus)
+void refuse(Boxes& boxes, int status, bool owner, std::string_view ofWhat)
 {
-    const std::string anfang =
+    const std::string begin =
         fmt::format("Sie haben nicht die Berechtigung zum Löschen von Dateien mit Status {}", status);
     const std::string text =
-        besitzer ? fmt::format("{} {}.\nDies gilt auch für Dateien, bei denen Sie als Besitzer eingetragen sind!",
-                               anfang, woraus)
-                 : fmt::format("{}\n {}, bei denen Sie nicht als Besitzer eingetragen sind!", anfang, woraus);
-    meldungen.warnung(fmt::format("Keine Berechtigung zum Löschen bei Status {}", status),
-                      zeilen({text, "", ADMINISTRATOR}));
+        owner ? fmt::format("{} {}.\nDies gilt auch für Dateien, bei denen Sie als Besitzer eingetragen sind!", begin,
+                            ofWhat)
+              : fmt::format("{}\n {}, bei denen Sie nicht als Besitzer eingetragen sind!", begin, ofWhat);
+    boxes.warn(fmt::format("Keine Berechtigung zum Löschen bei Status {}", status), lines({text, "", ADMINISTRATOR}));
 }
 
 } // namespace
 
-void bildeStatusbereich(SessionState& session)
+void formStatusSection(SessionState& session)
 {
     session.rights.WhereStatus.clear();
     session.rights.AndStatus.clear();
     // The sum decides, not the six values.
-    if (std::accumulate(session.rights.Sichtbar.begin(), session.rights.Sichtbar.end(), 0) == ANZAHL_STATUS)
+    if (std::accumulate(session.rights.Sichtbar.begin(), session.rights.Sichtbar.end(), 0) == STATUS_COUNT)
         return;
 
-    std::string bedingungen;
-    for (int status = 0; status < ANZAHL_STATUS; ++status) {
+    std::string conditions;
+    for (int status = 0; status < STATUS_COUNT; ++status) {
         if (session.rights.Sichtbar[static_cast<std::size_t>(status)] != 1)
             continue;
-        if (bedingungen.empty() && status > 0)
-            bedingungen = fmt::format(" Status = {}", status);
+        if (conditions.empty() && status > 0)
+            conditions = fmt::format(" Status = {}", status);
         else
-            bedingungen += fmt::format("{}Status = {}", bedingungen.empty() ? "" : " OR ", status);
+            conditions += fmt::format("{}Status = {}", conditions.empty() ? "" : " OR ", status);
     }
-    session.rights.WhereStatus = " WHERE (" + bedingungen + ")";
+    session.rights.WhereStatus = " WHERE (" + conditions + ")";
     // Only behind AND does a first status 0 have a blank before it.
-    session.rights.AndStatus = fmt::format(" AND ({}{})", session.rights.Sichtbar[0] == 1 ? " " : "", bedingungen);
+    session.rights.AndStatus = fmt::format(" AND ({}{})", session.rights.Sichtbar[0] == 1 ? " " : "", conditions);
 }
 
-bool PruefeLoeschenDB(const SessionState& session, Meldungen& meldungen, int Status, int CodeA, int CodeB)
+bool PruefeLoeschenDB(const SessionState& session, Boxes& boxes, int Status, int CodeA, int CodeB)
 {
-    if (!bekannterStatus(Status))
+    if (!knownStatus(Status))
         return true;
-    const int recht = session.rights.LoeschRecht[static_cast<std::size_t>(Status)];
-    if (recht == CodeA || recht == CodeB || recht == CODE_ALLES)
+    const int right = session.rights.LoeschRecht[static_cast<std::size_t>(Status)];
+    if (right == CodeA || right == CodeB || right == CODE_ALL)
         return true;
-    verweigere(meldungen, Status, CodeA == CODE_EIGENE_ZEILE, "aus der Datenbank");
+    refuse(boxes, Status, CodeA == CODE_OWN_ROW, "aus der Datenbank");
     return false;
 }
 
-bool PruefeLoeschenDatei(const SessionState& session, Meldungen& meldungen, int Status, int Mindestcode)
+bool PruefeLoeschenDatei(const SessionState& session, Boxes& boxes, int Status, int Mindestcode)
 {
-    if (!bekannterStatus(Status) || session.rights.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
+    if (!knownStatus(Status) || session.rights.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
         return true;
-    verweigere(meldungen, Status, Mindestcode == CODE_EIGENE_DATEI, "aus dem Verzeichnis");
+    refuse(boxes, Status, Mindestcode == CODE_OWN_FILE, "aus dem Verzeichnis");
     return false;
 }
 

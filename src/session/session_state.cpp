@@ -4,24 +4,24 @@ namespace quelvarn {
 
 namespace {
 
-std::string name(const SessionState& session, int tab, std::string_view DokuTyp::*text)
+std::string name(const SessionState& session, int tab, std::string_view DocumentType::*text)
 {
-    const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
-    if (typ.sondertabelle > 0)
-        return session.labels.SondertabelleName[static_cast<std::size_t>(typ.sondertabelle - 1)];
-    return std::string(typ.*text);
+    const DocumentType& type = DOCUMENT_TYPES[static_cast<std::size_t>(tab)];
+    if (type.specialTable > 0)
+        return session.labels.SondertabelleName[static_cast<std::size_t>(type.specialTable - 1)];
+    return std::string(type.*text);
 }
 
 } // namespace
 
-std::string SessionState::einzahl(int tab) const
+std::string SessionState::singular(int tab) const
 {
-    return name(*this, tab, &DokuTyp::einzahl);
+    return name(*this, tab, &DocumentType::singular);
 }
 
-std::string SessionState::mehrzahl(int tab) const
+std::string SessionState::plural(int tab) const
 {
-    return name(*this, tab, &DokuTyp::mehrzahl);
+    return name(*this, tab, &DocumentType::plural);
 }
 
 } // namespace quelvarn

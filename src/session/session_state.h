@@ -38,7 +38,7 @@ struct OpenDatabase
 {
     std::string DatenbankPfad; // Empty while none is open.
     bool DatenbankOk = false;
-    Connection Verbindung;
+    Connection connection;
 };
 
 struct Labels
@@ -50,14 +50,14 @@ struct Labels
 
 struct Rights
 {
-    std::array<int, ANZAHL_STATUS> Sichtbar{};
-    std::array<int, ANZAHL_STATUS> LoeschRecht{};
+    std::array<int, STATUS_COUNT> Sichtbar{};
+    std::array<int, STATUS_COUNT> LoeschRecht{};
     std::string WhereStatus;
     std::string AndStatus;
 
-    bool siehtAlleStati() const { return WhereStatus.empty(); }
+    bool seesAllStatuses() const { return WhereStatus.empty(); }
     // Editing with the CAD program and taking its events need statuses 0, 1 and 2.
-    bool darfBearbeiten() const { return Sichtbar[0] != 0 && Sichtbar[1] != 0 && Sichtbar[2] != 0; }
+    bool mayEdit() const { return Sichtbar[0] != 0 && Sichtbar[1] != 0 && Sichtbar[2] != 0; }
 };
 
 // What colleagues learn of one another, and when.
@@ -75,11 +75,11 @@ struct UseSettings
 // What the pages keep from one session to the next, and which of them were loaded in this one.
 struct PageSettings
 {
-    std::vector<std::string> Suchtexte; // At most eight.
+    std::vector<std::string> SearchTexts; // At most eight.
     std::string Starttabelle = "Bauteile";
     bool ActiveQuelvarn = false;
     // Saved filters of a type: fields Filtername and Filterstring.
-    std::array<Recordset, ANZAHL_DOKUTYPEN> GespeicherteFilter;
+    std::array<Recordset, DOCUMENT_TYPE_COUNT> GespeicherteFilter;
     bool FormDBGeladen = false;
     bool FormSEDokuGeladen = false;
     bool FormSEFilternGeladen = false;
@@ -97,17 +97,17 @@ struct SessionState
     UseSettings use;
     OrderSettings orders;
     PageSettings pages;
-    Baumschalter Tree;
+    TreeSwitches Tree;
 
-    AktuellesDokument AktDoku;
-    DateiInfo Dateiinfo;
+    CurrentDocument AktDoku;
+    FileInfo Dateiinfo;
 
     // "Bauteil" or the configured name of a special table.
-    std::string einzahl(int tab) const;
-    std::string mehrzahl(int tab) const;
+    std::string singular(int tab) const;
+    std::string plural(int tab) const;
 };
 
 // The text of LblZugriffSEDoku for these rights.
-std::string zugriffstext(const SessionState& session);
+std::string accessLine(const SessionState& session);
 
 } // namespace quelvarn

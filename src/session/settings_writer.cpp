@@ -14,47 +14,46 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t LAENGSTER_SUCHTEXT = 50;
-constexpr std::string_view LEER = "Leer"; // The next start replaces it by the default.
+constexpr std::size_t LONGEST_SEARCH_TEXT = 50;
+constexpr std::string_view EMPTY = "Leer"; // The next start replaces it by the default.
 
-void schreibeBaumschalter(IniZeilen& ini, const SessionState& session)
+void writeTreeSwitches(IniRows& ini, const SessionState& session)
 {
-    Recordset zeilen = ini.zeilen(session.user.Anwender, "Treeview");
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        const std::string schluessel = textOderLeer(zeilen, "Feld3");
-        const auto schalter =
-            std::find_if(BAUMSCHALTER.begin(), BAUMSCHALTER.end(),
-                         [&](const Baumschalterzeile& kandidat) { return equalText(kandidat.schluessel, schluessel); });
-        if (schalter != BAUMSCHALTER.end())
-            ini.aendere(zeilen, "Feld4", session.Tree.*schalter->feld ? "1" : "0");
+    Recordset rows = ini.rows(session.user.Anwender, "Treeview");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::string key = textOrEmpty(rows, "Feld3");
+        const auto option = std::find_if(TREE_SWITCHES.begin(), TREE_SWITCHES.end(),
+                                         [&](const TreeSwitchRow& candidate) { return equalText(candidate.key, key); });
+        if (option != TREE_SWITCHES.end())
+            ini.update(rows, "Feld4", session.Tree.*option->field ? "1" : "0");
     }
 }
 
-bool stehtSoInDerTabelle(Recordset& zeilen, const std::vector<std::string>& texte)
+bool standsSoInTable(Recordset& rows, const std::vector<std::string>& texts)
 {
-    std::size_t anzahl = 0;
-    for (; !zeilen.Eof(); zeilen.MoveNext(), ++anzahl)
-        if (anzahl >= texte.size() || searchTextKey(textOderLeer(zeilen, "Feld3")) != anzahl ||
-            textOderLeer(zeilen, "Feld4") != texte[anzahl])
+    std::size_t count = 0;
+    for (; !rows.Eof(); rows.MoveNext(), ++count)
+        if (count >= texts.size() || searchTextKey(textOrEmpty(rows, "Feld3")) != count ||
+            textOrEmpty(rows, "Feld4") != texts[count])
             return false;
-    return anzahl == texte.size();
+    return count == texts.size();
 }
 
-void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
+void writeSearchTexts(IniRows& ini, const SessionState& session)
 {
-    std::vector<std::string> texte;
-    for (const std::string& text : session.pages.Suchtexte)
+    std::vector<std::string> texts;
+    for (const std::string& text : session.pages.SearchTexts)
         if (!text.empty())
-            texte.emplace_back(rightCharacters(text, LAENGSTER_SUCHTEXT));
+            texts.emplace_back(rightCharacters(text, LONGEST_SEARCH_TEXT));
 
-    Recordset zeilen = ini.suchtexte(session.user.Anwender);
-    if (stehtSoInDerTabelle(zeilen, texte))
+    Recordset rows = ini.searchTexts(session.user.Anwender);
+    if (standsSoInTable(rows, texts))
         return;
     ini.writeAlone();
-    zeilen = ini.suchtexte(session.user.Anwender);
-    ini.loesche(zeilen);
-    for (std::size_t index = 0; index < texte.size(); ++index)
-        ini.fuegeAn({session.user.Anwender, "Suchen/Filtern", searchTextName(index), texte[index]});
+    rows = ini.searchTexts(session.user.Anwender);
+    ini.remove(rows);
+    for (std::size_t index = 0; index < texts.size(); ++index)
+        ini.append({session.user.Anwender, "Suchen/Filtern", searchTextName(index), texts[index]});
 }
 
 } // namespace
@@ -62,8 +61,8 @@ void schreibeSuchtexte(IniZeilen& ini, const SessionState& session)
 void saveSettings(const Ports& ports, std::string_view title, std::string_view text, const std::function<void()>& write)
 {
     std::string told(text);
-    gesichert(
-        ports.meldungen, title, [&] { return told; },
+    guarded(
+        ports.boxes, title, [&] { return told; },
         [&] {
             try {
                 write();
@@ -75,36 +74,36 @@ void saveSettings(const Ports& ports, std::string_view title, std::string_view t
 }
 
 // All rows of a setting say the same afterwards: where older versions left twins, no start knows which it reads first.
-void schreibeStartseite(SessionState& session)
+void writeStartPage(SessionState& session)
 {
-    IniZeilen ini(session.database.Verbindung);
-    Recordset aktiv = ini.activeQuelvarn(session.user.Anwender);
-    ini.aendereAlle(aktiv, "Feld3", session.pages.ActiveQuelvarn ? "1" : "0");
+    IniRows ini(session.database.connection);
+    Recordset active = ini.activeQuelvarn(session.user.Anwender);
+    ini.updateAll(active, "Feld3", session.pages.ActiveQuelvarn ? "1" : "0");
 
-    Recordset offline = ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
-    ini.aendereAlle(offline, "Feld4", session.orders.OfflineTool);
+    Recordset offline = ini.rows(OWNER_ALL, "Plot", "Offline");
+    ini.updateAll(offline, "Feld4", session.orders.OfflineTool);
 
-    schreibeBaumschalter(ini, session);
-    ini.schliesseAb();
+    writeTreeSwitches(ini, session);
+    ini.commit();
 }
 
-void schreibeDokumentseite(SessionState& session, int tab)
+void writeDocumentPage(SessionState& session, int tab)
 {
-    IniZeilen ini(session.database.Verbindung);
-    schreibeSuchtexte(ini, session);
+    IniRows ini(session.database.connection);
+    writeSearchTexts(ini, session);
 
-    const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
-    Recordset start = ini.zeilen(session.user.Anwender, "Starttabelle");
-    if (typ.sondertabelle == 0)
-        ini.aendereAlle(start, "Feld3", typ.mehrzahl);
+    const DocumentType& type = DOCUMENT_TYPES[static_cast<std::size_t>(tab)];
+    Recordset start = ini.rows(session.user.Anwender, "Starttabelle");
+    if (type.specialTable == 0)
+        ini.updateAll(start, "Feld3", type.plural);
 
-    Recordset offline = ini.zeilen(session.user.Anwender, "OfflineDaten");
+    Recordset offline = ini.rows(session.user.Anwender, "OfflineDaten");
     for (; !offline.Eof(); offline.MoveNext()) {
-        ini.aendere(offline, "Feld3", session.orders.OfflineArt.empty() ? LEER : session.orders.OfflineArt);
-        ini.aendere(offline, "Feld4", session.orders.OfflineNummer);
-        ini.aendere(offline, "Feld5", session.orders.OfflineExportArt.empty() ? LEER : session.orders.OfflineExportArt);
+        ini.update(offline, "Feld3", session.orders.OfflineArt.empty() ? EMPTY : session.orders.OfflineArt);
+        ini.update(offline, "Feld4", session.orders.OfflineNummer);
+        ini.update(offline, "Feld5", session.orders.OfflineExportArt.empty() ? EMPTY : session.orders.OfflineExportArt);
     }
-    ini.schliesseAb();
+    ini.commit();
 }
 
 } // namespace quelvarn

@@ -16,10 +16,10 @@ void saveSettings(const Ports& ports, std::string_view title, std::string_view t
 
 // What the start page leaves behind: ActiveQuelvarn, the installation's offline tool, and the tree switches, each
 // only where its row exists. Rows that already say so are left alone.
-void schreibeStartseite(SessionState& session);
+void writeStartPage(SessionState& session);
 
 // What the document page leaves behind: the search texts, replaced as a whole; the table of `tab` as the start
 // table when it belongs to a file type; the options of offline orders.
-void schreibeDokumentseite(SessionState& session, int tab);
+void writeDocumentPage(SessionState& session, int tab);
 
 } // namespace quelvarn

@@ -15,62 +15,60 @@ constexpr std::string_view QUELVARN = "Quelvarn Version 2";
 constexpr std::string_view HARVEL = "Harvel Version 2";
 constexpr std::string_view TALVIK = "Talvik Version 2";
 
-bool enthaelt(std::string_view titel, std::string_view kennung)
+bool contains(std::string_view title, std::string_view addressCode)
 {
-    return titel.find(kennung) != std::string_view::npos;
+    return title.find(addressCode) != std::string_view::npos;
 }
 
 } // namespace
 
-std::string versionstext()
+std::string versionText()
 {
     return fmt::format("    Quelvarn Version {}.{}.{}", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION);
 }
 
-std::string fenstertitel(const SessionState& session)
+std::string windowTitle(const SessionState& session)
 {
-    return session.database.DatenbankPfad + versionstext();
+    return session.database.DatenbankPfad + versionText();
 }
 
-int laufendeKopien(const Ports& ports)
+int runningCopies(const Ports& ports)
 {
-    const std::vector<std::string> titel = ports.programme.fenstertitel();
+    const std::vector<std::string> title = ports.programs.windowTitle();
     return static_cast<int>(
-        std::count_if(titel.begin(), titel.end(), [](const std::string& t) { return enthaelt(t, QUELVARN); }));
+        std::count_if(title.begin(), title.end(), [](const std::string& t) { return contains(t, QUELVARN); }));
 }
 
 bool CheckAlreadyRunning(const Ports& ports)
 {
     try {
         // One of them is this program's own window.
-        if (laufendeKopien(ports) < 2)
+        if (runningCopies(ports) < 2)
             return true;
-    } catch (const Laufzeitfehler&) {
-        ports.meldungen.warnung("'Quelvarn' bereits geöffnet?",
-                                "Fehler beim Prüfen, ob 'Quelvarn' bereits geöffnet ist!");
+    } catch (const RuntimeError&) {
+        ports.boxes.warn("'Quelvarn' bereits geöffnet?", "Fehler beim Prüfen, ob 'Quelvarn' bereits geöffnet ist!");
         return true;
     }
-    return ports.meldungen.frage(
-        "'Quelvarn' ist bereits gestartet",
-        zeilen({"'Quelvarn' ist bereits gestartet!", "", "Möchten Sie 'Quelvarn' erneut öffnen?."}));
+    return ports.boxes.ask("'Quelvarn' ist bereits gestartet",
+                           lines({"'Quelvarn' ist bereits gestartet!", "", "Möchten Sie 'Quelvarn' erneut öffnen?."}));
 }
 
 bool CheckSiblingsRunning(const Ports& ports)
 {
     try {
-        for (const std::string& titel : ports.programme.fenstertitel()) {
-            const bool harvel = enthaelt(titel, HARVEL);
-            if (!harvel && !enthaelt(titel, TALVIK))
+        for (const std::string& title : ports.programs.windowTitle()) {
+            const bool Harvel = contains(title, HARVEL);
+            if (!Harvel && !contains(title, TALVIK))
                 continue;
-            const std::string name = harvel ? "'Harvel'" : "'Talvik'";
-            ports.meldungen.warnung(name + " ist gestartet",
-                                    zeilen({name + " ist gestartet!", "",
-                                            "Vor dem Wechsel der Datenbank muss " + name + " beendet werden."}));
+            const std::string name = Harvel ? "'Harvel'" : "'Talvik'";
+            ports.boxes.warn(name + " ist gestartet",
+                             lines({name + " ist gestartet!", "",
+                                    "Vor dem Wechsel der Datenbank muss " + name + " beendet werden."}));
             return true;
         }
-    } catch (const Laufzeitfehler&) {
-        ports.meldungen.warnung("'Harvel' oder 'Talvik' geöffnet",
-                                "Fehler beim Prüfen, ob 'Harvel' oder 'Talvik' geöffnet ist!");
+    } catch (const RuntimeError&) {
+        ports.boxes.warn("'Harvel' oder 'Talvik' geöffnet",
+                         "Fehler beim Prüfen, ob 'Harvel' oder 'Talvik' geöffnet ist!");
     }
     return false;
 }
@@ -78,9 +76,9 @@ bool CheckSiblingsRunning(const Ports& ports)
 bool IsHarvelRunning(const Ports& ports)
 {
     try {
-        const std::vector<std::string> titel = ports.programme.fenstertitel();
-        return std::any_of(titel.begin(), titel.end(), [](const std::string& t) { return enthaelt(t, HARVEL); });
-    } catch (const Laufzeitfehler&) {
+        const std::vector<std::string> title = ports.programs.windowTitle();
+        return std::any_of(title.begin(), title.end(), [](const std::string& t) { return contains(t, HARVEL); });
+    } catch (const RuntimeError&) {
         return false;
     }
 }

@@ -8,12 +8,12 @@ namespace quelvarn {
 struct SolidEdgeInfo
 {
     std::string version;
-    std::string pfad;
+    std::string documentPath;
 
     // Only the viewer is installed: nothing can be edited from here.
-    bool nurViewer() const
+    bool onlyViewer() const
     {
-        return pfad.find("SmartView") != std::string::npos || pfad.find("Viewer") != std::string::npos;
+        return documentPath.find("SmartView") != std::string::npos || documentPath.find("Viewer") != std::string::npos;
     }
 };
 

@@ -6,9 +6,9 @@
 namespace quelvarn {
 
 // The switches of the property tree. Valid for this session; a row of the table may say otherwise.
-struct Baumschalter
+struct TreeSwitches
 {
-    bool Knoten = true;
+    bool Node = true;
     bool Verwendung = true;
     bool TIFFDoku = true;
     bool PDFDoku = true;
@@ -21,31 +21,31 @@ struct Baumschalter
 };
 
 // One switch of the property tree: its row in Ini and its box on the start page.
-struct Baumschalterzeile
+struct TreeSwitchRow
 {
-    std::string_view schluessel;
-    std::string_view notiz;
-    std::string_view heilwert; // Written over a value that is neither "0" nor "1".
-    std::string_view beschriftung;
-    bool Baumschalter::*feld;
+    std::string_view key;
+    std::string_view note;
+    std::string_view mendedValue; // Written over a value that is neither "0" nor "1".
+    std::string_view caption;
+    bool TreeSwitches::*field;
 };
 
-inline constexpr std::size_t ANZAHL_INFOPRIO1 = 4; // The first four stand in Frame1, the others in Frame2.
+inline constexpr std::size_t INFO_PRIO_1_COUNT = 4; // The first four stand in Frame1, the others in Frame2.
 
-inline constexpr std::array<Baumschalterzeile, 10> BAUMSCHALTER{{
-    {"Knoten", "Knoten immer geöffnet", "1", "Knoten immer geöffnet", &Baumschalter::Knoten},
-    {"Verwendung", "Verwendung anzeigen", "1", "Verwendung anzeigen", &Baumschalter::Verwendung},
+inline constexpr std::array<TreeSwitchRow, 10> TREE_SWITCHES{{
+    {"Knoten", "Knoten immer geöffnet", "1", "Knoten immer geöffnet", &TreeSwitches::Node},
+    {"Verwendung", "Verwendung anzeigen", "1", "Verwendung anzeigen", &TreeSwitches::Verwendung},
     {"TIFFDoku", "TIFF-Dokumente (bei Zeichnung)", "0", "TIFF-Dokument (bei Zeichnung) Dateiname = Zeichnungsname",
-     &Baumschalter::TIFFDoku},
+     &TreeSwitches::TIFFDoku},
     {"PDFDoku", "PDF-Dokumente (bei Zeichnung)", "0", "PDF-Dokument (bei Zeichnung) Dateiname = Zeichnungsname",
-     &Baumschalter::PDFDoku},
-    {"Revision", "Revision", "1", "Revision", &Baumschalter::Revision},
-    {"HauptMerk", "Hauptmerkmale und Hauptwerte", "0", "Hauptmerkmale und Hauptwerte", &Baumschalter::HauptMerk},
+     &TreeSwitches::PDFDoku},
+    {"Revision", "Revision", "1", "Revision", &TreeSwitches::Revision},
+    {"HauptMerk", "Hauptmerkmale und Hauptwerte", "0", "Hauptmerkmale und Hauptwerte", &TreeSwitches::HauptMerk},
     {"BenutzDef", "Benutzerdefinierte Eigenschaften", "0", "Benutzerdefinierte Eigenschaften",
-     &Baumschalter::BenutzDef},
-    {"StichKomm", "Stichwörter / Kommentar", "0", "Stichwörter, Kommentar", &Baumschalter::StichKomm},
-    {"ZusDoku", "Zusätzliche Dokumente", "0", "Zusätzliche Dokumente", &Baumschalter::ZusDoku},
-    {"Versendet", "Versendet an", "0", "Versendet an", &Baumschalter::Versendet},
+     &TreeSwitches::BenutzDef},
+    {"StichKomm", "Stichwörter / Kommentar", "0", "Stichwörter, Kommentar", &TreeSwitches::StichKomm},
+    {"ZusDoku", "Zusätzliche Dokumente", "0", "Zusätzliche Dokumente", &TreeSwitches::ZusDoku},
+    {"Versendet", "Versendet an", "0", "Versendet an", &TreeSwitches::Versendet},
 }};
 
 } // namespace quelvarn

@@ -7,63 +7,63 @@
 
 namespace quelvarn::tools {
 
-Argumente::Argumente(std::span<const std::string> worte, std::span<const Schalter> bekannte)
+Arguments::Arguments(std::span<const std::string> words, std::span<const Option> known)
 {
-    bool nurStellen = false; // Behind "--".
-    for (std::size_t i = 0; i < worte.size(); ++i) {
-        const std::string& wort = worte[i];
-        if (nurStellen || !wort.starts_with("--")) {
-            stellen_.push_back(wort);
+    bool onlyPositions = false; // Behind "--".
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string& word = words[i];
+        if (onlyPositions || !word.starts_with("--")) {
+            positions_.push_back(word);
             continue;
         }
-        if (wort == "--") {
-            nurStellen = true;
+        if (word == "--") {
+            onlyPositions = true;
             continue;
         }
-        const auto gleich = wort.find('=');
-        const std::string name = wort.substr(0, gleich);
-        const auto schalter = std::ranges::find(bekannte, name, &Schalter::name);
-        if (schalter == bekannte.end())
-            throw Bedienfehler(fmt::format("Unbekannte Option: {}", name));
-        if (schalter->wert == Wert::Keiner && gleich != std::string::npos)
-            throw Bedienfehler(fmt::format("Die Option {} hat keinen Wert.", name));
-        std::string wert;
-        if (schalter->wert == Wert::Noetig) {
-            if (gleich == std::string::npos && i + 1 == worte.size())
-                throw Bedienfehler(fmt::format("Der Option {} fehlt ihr Wert.", name));
-            wert = gleich != std::string::npos ? wort.substr(gleich + 1) : worte[++i];
+        const auto equal = word.find('=');
+        const std::string name = word.substr(0, equal);
+        const auto option = std::ranges::find(known, name, &Option::name);
+        if (option == known.end())
+            throw UsageFault(fmt::format("Unbekannte Option: {}", name));
+        if (option->value == OptionValue::Nobody && equal != std::string::npos)
+            throw UsageFault(fmt::format("Die Option {} hat keinen Wert.", name));
+        std::string value;
+        if (option->value == OptionValue::Needed) {
+            if (equal == std::string::npos && i + 1 == words.size())
+                throw UsageFault(fmt::format("Der Option {} fehlt ihr Wert.", name));
+            value = equal != std::string::npos ? word.substr(equal + 1) : words[++i];
         }
-        if (!werte_.emplace(name, std::move(wert)).second)
-            throw Bedienfehler(fmt::format("Die Option {} steht zweimal da.", name));
+        if (!values_.emplace(name, std::move(value)).second)
+            throw UsageFault(fmt::format("Die Option {} steht zweimal da.", name));
     }
 }
 
-std::optional<std::string> Argumente::findWert(std::string_view schalter) const
+std::optional<std::string> Arguments::findValue(std::string_view option) const
 {
-    const auto gefunden = werte_.find(schalter);
-    return gefunden == werte_.end() ? std::nullopt : std::optional(gefunden->second);
+    const auto found = values_.find(option);
+    return found == values_.end() ? std::nullopt : std::optional(found->second);
 }
 
-std::optional<std::int64_t> Argumente::findZahl(std::string_view schalter, std::int64_t kleinster,
-                                                std::int64_t groesster) const
+std::optional<std::int64_t> Arguments::findNumber(std::string_view option, std::int64_t smallest,
+                                                  std::int64_t greatest) const
 {
-    const auto text = findWert(schalter);
+    const auto text = findValue(option);
     if (!text)
         return std::nullopt;
-    const auto zahl = parseGanzzahl(*text);
-    if (!zahl || *zahl < kleinster || *zahl > groesster)
-        throw Bedienfehler(fmt::format("{} braucht eine ganze Zahl von {} bis {}, nicht '{}'.", schalter, kleinster,
-                                       groesster, *text));
-    return zahl;
+    const auto number = parseInteger(*text);
+    if (!number || *number < smallest || *number > greatest)
+        throw UsageFault(
+            fmt::format("{} braucht eine ganze Zahl von {} bis {}, nicht '{}'.", option, smallest, greatest, *text));
+    return number;
 }
 
-std::optional<std::int64_t> parseGanzzahl(std::string_view text)
+std::optional<std::int64_t> parseInteger(std::string_view text)
 {
-    std::int64_t zahl = 0;
-    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), zahl);
-    if (fehler != std::errc() || ende != text.data() + text.size())
+    std::int64_t number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (fault != std::errc() || end != text.data() + text.size())
         return std::nullopt;
-    return zahl;
+    return number;
 }
 
 } // namespace quelvarn::tools

@@ -12,42 +12,41 @@
 namespace quelvarn::tools {
 
 // The command line cannot be understood; the caller's mistake, not a fault.
-class Bedienfehler : public std::runtime_error
+class UsageFault : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-enum class Wert { Keiner, Noetig };
+enum class OptionValue { Nobody, Needed };
 
 // An option of a command, "--name" or "--name WERT" (also "--name=WERT").
-struct Schalter
+struct Option
 {
     std::string_view name; // with its dashes
-    Wert wert = Wert::Keiner;
+    OptionValue value = OptionValue::Nobody;
 };
 
 // The words behind a command, sorted into positions and options.
-class Argumente
+class Arguments
 {
 public:
-    // Throws Bedienfehler for an unknown option, a missing value or one too many.
-    Argumente(std::span<const std::string> worte, std::span<const Schalter> bekannte);
+    // Throws UsageFault for an unknown option, a missing value or one too many.
+    Arguments(std::span<const std::string> words, std::span<const Option> known);
 
-    std::size_t anzahl() const { return stellen_.size(); }
-    const std::string& stelle(std::size_t nummer) const { return stellen_.at(nummer); }
-    bool gesetzt(std::string_view schalter) const { return werte_.contains(schalter); }
-    std::optional<std::string> findWert(std::string_view schalter) const;
-    // A whole number from `kleinster` to `groesster`; throws Bedienfehler for anything else.
-    std::optional<std::int64_t> findZahl(std::string_view schalter, std::int64_t kleinster,
-                                         std::int64_t groesster) const;
+    std::size_t count() const { return positions_.size(); }
+    const std::string& position(std::size_t number) const { return positions_.at(number); }
+    bool set(std::string_view option) const { return values_.contains(option); }
+    std::optional<std::string> findValue(std::string_view option) const;
+    // A whole number from `smallest` to `greatest`; throws UsageFault for anything else.
+    std::optional<std::int64_t> findNumber(std::string_view option, std::int64_t smallest, std::int64_t greatest) const;
 
 private:
-    std::vector<std::string> stellen_;
-    std::map<std::string, std::string, std::less<>> werte_;
+    std::vector<std::string> positions_;
+    std::map<std::string, std::string, std::less<>> values_;
 };
 
 // The whole text as a number; nothing when it is none.
-std::optional<std::int64_t> parseGanzzahl(std::string_view text);
+std::optional<std::int64_t> parseInteger(std::string_view text);
 
 } // namespace quelvarn::tools

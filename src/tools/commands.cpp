@@ -13,83 +13,83 @@ namespace quelvarn::tools {
 
 namespace {
 
-const std::array<const Befehl*, 6> BEFEHLE{&BEFEHL_CREATE, &BEFEHL_IMPORT, &BEFEHL_SAMPLE,
-                                           &BEFEHL_CHECK,  &BEFEHL_QUERY,  &BEFEHL_RIGHTS};
+const std::array<const Command*, 6> COMMANDS{&CREATE_COMMAND, &IMPORT_COMMAND, &SAMPLE_COMMAND,
+                                             &CHECK_COMMAND,  &QUERY_COMMAND,  &RIGHTS_COMMAND};
 
-constexpr std::string_view HILFE = "--help";
+constexpr std::string_view HELP = "--help";
 
-std::string uebersicht()
+std::string overview()
 {
     std::string text = "Aufruf: qvadmin BEFEHL ...\n\nWerkzeug zur Verwaltung eines Dokumentenregisters.\n\n";
-    for (const Befehl* befehl : BEFEHLE)
-        text += fmt::format("  {:<8} {}\n", befehl->name, befehl->kurz);
+    for (const Command* command : COMMANDS)
+        text += fmt::format("  {:<8} {}\n", command->name, command->shortText);
     text += "\nqvadmin BEFEHL --help zeigt, was ein Befehl kann.\n"
             "ZIEL ist der Pfad einer Datenbank oder eine Adresse postgresql://...\n"
             "Ergebnis: 0 gut, 1 Fehler, 2 falscher Aufruf.\n";
     return text;
 }
 
-int bedienfehler(Konsole& konsole, const Befehl& befehl, std::string_view text)
+int usageFault(Console& console, const Command& command, std::string_view text)
 {
-    const auto aufruf = befehl.hilfe.substr(0, befehl.hilfe.find('\n'));
-    konsole.meldungen << fmt::format("{}\n{}\nMehr mit: qvadmin {} --help\n", text, aufruf, befehl.name);
-    return FALSCH_BEDIENT;
+    const auto call = command.help.substr(0, command.help.find('\n'));
+    console.log << fmt::format("{}\n{}\nMehr mit: qvadmin {} --help\n", text, call, command.name);
+    return WRONG_OPERATED;
 }
 
 // A German sentence first; the words of an engine or of the system stand below it.
-int fault(Konsole& konsole, std::string_view text)
+int tellFault(Console& console, std::string_view text)
 {
-    konsole.aus.flush();
-    konsole.meldungen << "Fehler: " << text << '\n';
-    return FEHLGESCHLAGEN;
+    console.out.flush();
+    console.log << "Fehler: " << text << '\n';
+    return FAILED;
 }
 
-int fuehreAus(const Befehl& befehl, std::span<const std::string> worte, Konsole& konsole)
+int execute(const Command& command, std::span<const std::string> words, Console& console)
 {
-    if (std::ranges::find(worte, HILFE) != worte.end()) {
-        konsole.aus << befehl.hilfe;
-        return GUT;
+    if (std::ranges::find(words, HELP) != words.end()) {
+        console.out << command.help;
+        return GOOD;
     }
     try {
-        const Argumente argumente(worte, befehl.schalter);
-        if (argumente.anzahl() < befehl.mindestens)
-            return bedienfehler(konsole, befehl, "Es fehlt eine Angabe.");
-        if (argumente.anzahl() > befehl.hoechstens)
-            return bedienfehler(konsole, befehl,
-                                fmt::format("Eine Angabe zuviel: {}", argumente.stelle(befehl.hoechstens)));
-        return befehl.ausfuehren(argumente, konsole);
-    } catch (const Bedienfehler& fehler) {
-        return bedienfehler(konsole, befehl, fehler.what());
-    } catch (const Laufzeitfehler& fehler) {
-        return fault(konsole, fehler.what());
+        const Arguments arguments(words, command.option);
+        if (arguments.count() < command.atLeast)
+            return usageFault(console, command, "Es fehlt eine Angabe.");
+        if (arguments.count() > command.atMost)
+            return usageFault(console, command,
+                              fmt::format("Eine Angabe zuviel: {}", arguments.position(command.atMost)));
+        return command.execute(arguments, console);
+    } catch (const UsageFault& fault) {
+        return usageFault(console, command, fault.what());
+    } catch (const RuntimeError& fault) {
+        return tellFault(console, fault.what());
     } catch (const std::bad_alloc&) {
-        return fault(konsole, "Der Arbeitsspeicher reicht nicht.");
-    } catch (const std::filesystem::filesystem_error& fehler) {
-        return fault(konsole, fmt::format("Das Dateisystem lässt es nicht zu.\n{}\n{}", utf8FromPath(fehler.path1()),
-                                          fehler.code().message()));
-    } catch (const std::exception& fehler) {
-        return fault(konsole, fmt::format("Das ist ein Fehler des Programms selbst.\n{}", fehler.what()));
+        return tellFault(console, "Der Arbeitsspeicher reicht nicht.");
+    } catch (const std::filesystem::filesystem_error& fault) {
+        return tellFault(console, fmt::format("Das Dateisystem lässt es nicht zu.\n{}\n{}", utf8FromPath(fault.path1()),
+                                              fault.code().message()));
+    } catch (const std::exception& fault) {
+        return tellFault(console, fmt::format("Das ist ein Fehler des Programms selbst.\n{}", fault.what()));
     }
 }
 
 } // namespace
 
-int fuehreAus(std::span<const std::string> worte, Konsole& konsole)
+int execute(std::span<const std::string> words, Console& console)
 {
-    if (worte.empty()) {
-        konsole.meldungen << uebersicht();
-        return FALSCH_BEDIENT;
+    if (words.empty()) {
+        console.log << overview();
+        return WRONG_OPERATED;
     }
-    if (worte[0] == HILFE) {
-        konsole.aus << uebersicht();
-        return GUT;
+    if (words[0] == HELP) {
+        console.out << overview();
+        return GOOD;
     }
-    const auto befehl = std::ranges::find(BEFEHLE, worte[0], &Befehl::name);
-    if (befehl == BEFEHLE.end()) {
-        konsole.meldungen << fmt::format("Unbekannter Befehl: {}\n\n{}", worte[0], uebersicht());
-        return FALSCH_BEDIENT;
+    const auto command = std::ranges::find(COMMANDS, words[0], &Command::name);
+    if (command == COMMANDS.end()) {
+        console.log << fmt::format("Unbekannter Befehl: {}\n\n{}", words[0], overview());
+        return WRONG_OPERATED;
     }
-    return fuehreAus(**befehl, worte.subspan(1), konsole);
+    return execute(**command, words.subspan(1), console);
 }
 
 } // namespace quelvarn::tools

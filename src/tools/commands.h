@@ -9,30 +9,30 @@
 
 namespace quelvarn::tools {
 
-inline constexpr int GUT = 0;
-inline constexpr int FEHLGESCHLAGEN = 1;
-inline constexpr int FALSCH_BEDIENT = 2;
+inline constexpr int GOOD = 0;
+inline constexpr int FAILED = 1;
+inline constexpr int WRONG_OPERATED = 2;
 
 // One command of the program.
-struct Befehl
+struct Command
 {
     std::string_view name;
-    std::string_view kurz;
-    std::string_view hilfe;     // Whole text of --help; the first line is the call.
-    std::size_t mindestens = 1; // Positional arguments.
-    std::size_t hoechstens = 1;
-    std::span<const Schalter> schalter;
-    int (*ausfuehren)(const Argumente&, Konsole&);
+    std::string_view shortText;
+    std::string_view help;   // Whole text of --help; the first line is the call.
+    std::size_t atLeast = 1; // Positional arguments.
+    std::size_t atMost = 1;
+    std::span<const Option> option;
+    int (*execute)(const Arguments&, Console&);
 };
 
-extern const Befehl BEFEHL_CREATE;
-extern const Befehl BEFEHL_IMPORT;
-extern const Befehl BEFEHL_SAMPLE;
-extern const Befehl BEFEHL_CHECK;
-extern const Befehl BEFEHL_QUERY;
-extern const Befehl BEFEHL_RIGHTS;
+extern const Command CREATE_COMMAND;
+extern const Command IMPORT_COMMAND;
+extern const Command SAMPLE_COMMAND;
+extern const Command CHECK_COMMAND;
+extern const Command QUERY_COMMAND;
+extern const Command RIGHTS_COMMAND;
 
 // Runs the command that the words name and reports what goes wrong. The exit code of the process.
-int fuehreAus(std::span<const std::string> worte, Konsole& konsole);
+int execute(std::span<const std::string> words, Console& console);
 
 } // namespace quelvarn::tools

@@ -10,67 +10,67 @@ namespace quelvarn::tools {
 
 namespace {
 
-volatile std::sig_atomic_t abbruchGewuenscht = 0;
+volatile std::sig_atomic_t cancelWanted = 0;
 
-void merkeAbbruch(int)
+void rememberCancel(int)
 {
-    abbruchGewuenscht = 1;
+    cancelWanted = 1;
 }
 
-constexpr auto ABSTAND = std::chrono::milliseconds(150);
-constexpr std::uint64_t AUFRUFE_JE_BLICK_AUF_DIE_UHR = 256;
+constexpr auto INTERVAL = std::chrono::milliseconds(150);
+constexpr std::uint64_t CALLS_PER_LOOK_AT_THE_CLOCK = 256;
 
 } // namespace
 
-Laufzeitfehler werkzeugfehler(const std::string& beschreibung)
+RuntimeError toolFault(const std::string& description)
 {
-    return Laufzeitfehler(0, "qvadmin", beschreibung);
+    return RuntimeError(0, "qvadmin", description);
 }
 
-void fangeAbbruch()
+void catchCancel()
 {
-    std::signal(SIGINT, merkeAbbruch);
-    std::signal(SIGTERM, merkeAbbruch);
+    std::signal(SIGINT, rememberCancel);
+    std::signal(SIGTERM, rememberCancel);
 #ifdef SIGBREAK // The window of the console is closed.
-    std::signal(SIGBREAK, merkeAbbruch);
+    std::signal(SIGBREAK, rememberCancel);
 #endif
 }
 
-void pruefeAbbruch()
+void checkCancel()
 {
-    if (abbruchGewuenscht != 0)
-        throw werkzeugfehler("Abgebrochen. Es wurde nichts verändert.");
+    if (cancelWanted != 0)
+        throw toolFault("Abgebrochen. Es wurde nichts verändert.");
 }
 
-void Verlaufsanzeige::melde(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
+void ProgressLine::notify(std::string_view what, std::uint64_t done, std::uint64_t total)
 {
-    if (aufrufe_++ % AUFRUFE_JE_BLICK_AUF_DIE_UHR != 0)
+    if (calls_++ % CALLS_PER_LOOK_AT_THE_CLOCK != 0)
         return;
-    pruefeAbbruch();
-    if (!konsole_.terminal)
+    checkCancel();
+    if (!console_.terminal)
         return;
-    const auto jetzt = std::chrono::steady_clock::now();
-    if (jetzt < naechste_)
+    const auto now = std::chrono::steady_clock::now();
+    if (now < next_)
         return;
-    naechste_ = jetzt + ABSTAND;
-    zeige(was, erledigt, gesamt);
+    next_ = now + INTERVAL;
+    show(what, done, total);
 }
 
-void Verlaufsanzeige::schritt(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
+void ProgressLine::step(std::string_view what, std::uint64_t done, std::uint64_t total)
 {
-    pruefeAbbruch();
-    if (konsole_.terminal)
-        zeige(was, erledigt, gesamt);
+    checkCancel();
+    if (console_.terminal)
+        show(what, done, total);
 }
 
-void Verlaufsanzeige::zeige(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt)
+void ProgressLine::show(std::string_view what, std::uint64_t done, std::uint64_t total)
 {
     if (!painter_)
-        painter_.emplace(konsole_.meldungen);
-    std::string zeile = fmt::format("{}: {}", was, formatGanzzahl(static_cast<std::int64_t>(erledigt)));
-    if (gesamt != 0)
-        zeile += fmt::format(" von {}", formatGanzzahl(static_cast<std::int64_t>(gesamt)));
-    painter_->show(std::move(zeile));
+        painter_.emplace(console_.log);
+    std::string row = fmt::format("{}: {}", what, formatInteger(static_cast<std::int64_t>(done)));
+    if (total != 0)
+        row += fmt::format(" von {}", formatInteger(static_cast<std::int64_t>(total)));
+    painter_->show(std::move(row));
 }
 
 } // namespace quelvarn::tools

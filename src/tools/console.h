@@ -12,38 +12,38 @@
 
 namespace quelvarn::tools {
 
-// Where a command writes: results to `aus`, messages to `meldungen`.
-struct Konsole
+// Where a command writes: results to `aus`, messages to `boxes`.
+struct Console
 {
-    std::ostream& aus;
-    std::ostream& meldungen;
-    bool terminal = false; // `meldungen` is watched by a person: progress may be shown.
+    std::ostream& out;
+    std::ostream& log;
+    bool terminal = false; // `boxes` is watched by a person: progress may be shown.
 };
 
-Laufzeitfehler werkzeugfehler(const std::string& beschreibung);
+RuntimeError toolFault(const std::string& description);
 
-// From here on Ctrl+C and a request to end do not stop the process at once: the next pruefeAbbruch throws, so
+// From here on Ctrl+C and a request to end do not stop the process at once: the next checkCancel throws, so
 // that what was begun is taken back.
-void fangeAbbruch();
-void pruefeAbbruch();
+void catchCancel();
+void checkCancel();
 
 // One line that rewrites itself while long work runs; shows nothing where no terminal is.
-class Verlaufsanzeige
+class ProgressLine
 {
 public:
-    explicit Verlaufsanzeige(Konsole& konsole) : konsole_(konsole) {}
+    explicit ProgressLine(Console& console) : console_(console) {}
 
     // Cheap enough to be called for each row. Throws when the work is to be given up.
-    void melde(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt = 0);
+    void notify(std::string_view what, std::uint64_t done, std::uint64_t total = 0);
     // For a step that takes long by itself: shown at once.
-    void schritt(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt);
+    void step(std::string_view what, std::uint64_t done, std::uint64_t total);
 
 private:
-    void zeige(std::string_view was, std::uint64_t erledigt, std::uint64_t gesamt);
+    void show(std::string_view what, std::uint64_t done, std::uint64_t total);
 
-    Konsole& konsole_;
-    std::uint64_t aufrufe_ = 0;
-    std::chrono::steady_clock::time_point naechste_;
+    Console& console_;
+    std::uint64_t calls_ = 0;
+    std::chrono::steady_clock::time_point next_;
     std::optional<ProgressPainter> painter_;
 };
 

@@ -8,9 +8,9 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--ersetzen"}};
+constexpr std::array OPTION{Option{"--ersetzen"}};
 
-constexpr std::string_view HILFE = R"(Aufruf: qvadmin create ZIEL [--ersetzen]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin create ZIEL [--ersetzen]
 
 Legt ein leeres Register an: alle Tabellen mit ihren Indexen und die Einstellungen, die für das ganze Büro gelten.
 
@@ -18,28 +18,25 @@ Legt ein leeres Register an: alle Tabellen mit ihren Indexen und die Einstellung
   --ersetzen   Ein vorhandenes Register an dieser Stelle wird ersetzt.
 )";
 
-int create(const Argumente& argumente, Konsole& konsole)
+int create(const Arguments& arguments, Console& console)
 {
-    fangeAbbruch();
-    const auto vorhandenes = argumente.gesetzt("--ersetzen") ? Vorhandenes::Ersetzen : Vorhandenes::Ablehnen;
-    NeuesRegister reg(argumente.stelle(0), vorhandenes, konsole);
-    for (const Tabellenschema& tabelle : registerschema()) {
-        reg.tabelle(tabelle);
-        if (tabelle.name == "Ini")
-            for (const Inizeile& zeile : installationszeilen({.stand = jetzt(), .auftragsordner = {}}))
-                reg.zeile(zeile);
+    catchCancel();
+    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    NewRegister reg(arguments.position(0), existing, console);
+    for (const TableSchema& table : registerSchema()) {
+        reg.table(table);
+        if (table.name == "Ini")
+            for (const IniRow& row : installationRows({.state = now(), .orderFolder = {}}))
+                reg.row(row);
     }
-    reg.schliesseAb();
-    konsole.aus << "Leeres Register angelegt.\n";
-    return GUT;
+    reg.commit();
+    console.out << "Leeres Register angelegt.\n";
+    return GOOD;
 }
 
 } // namespace
 
-const Befehl BEFEHL_CREATE{.name = "create",
-                           .kurz = "legt ein leeres Register an",
-                           .hilfe = HILFE,
-                           .schalter = SCHALTER,
-                           .ausfuehren = create};
+const Command CREATE_COMMAND{
+    .name = "create", .shortText = "legt ein leeres Register an", .help = HELP, .option = OPTION, .execute = create};
 
 } // namespace quelvarn::tools

@@ -31,19 +31,18 @@ std::filesystem::path behindLinks(std::filesystem::path path)
     return path;
 }
 
-void checkTarget(const std::filesystem::path& target, Vorhandenes existing)
+void checkTarget(const std::filesystem::path& target, Existing existing)
 {
     std::error_code unknown;
     if (!std::filesystem::exists(target, unknown))
         return;
     if (!std::filesystem::is_regular_file(target, unknown))
-        throw werkzeugfehler(fmt::format("Das Ziel '{}' ist keine Datei.", utf8FromPath(target)));
-    if (existing == Vorhandenes::Ablehnen)
-        throw werkzeugfehler(
+        throw toolFault(fmt::format("Das Ziel '{}' ist keine Datei.", utf8FromPath(target)));
+    if (existing == Existing::Refuse)
+        throw toolFault(
             fmt::format("Das Ziel '{}' gibt es schon. Mit --ersetzen wird es ersetzt.", utf8FromPath(target)));
-    if (erkenneDatenbank(target) != DatenbankArt::SQLite)
-        throw werkzeugfehler(
-            fmt::format("Das Ziel '{}' ist kein Register und wird nicht ersetzt.", utf8FromPath(target)));
+    if (recognizeDatabase(target) != DatabaseKind::SQLite)
+        throw toolFault(fmt::format("Das Ziel '{}' ist kein Register und wird nicht ersetzt.", utf8FromPath(target)));
 }
 
 // The number of the process that makes this draft; nothing for other files. `prefix` is what drafts begin with.
@@ -54,7 +53,7 @@ std::optional<int> draftOf(std::string_view name, std::string_view prefix)
     name.remove_prefix(prefix.size());
     if (name.ends_with(JOURNAL))
         name.remove_suffix(JOURNAL.size());
-    const auto number = parseGanzzahl(name);
+    const auto number = parseInteger(name);
     if (!number || *number <= 0 || *number > std::numeric_limits<int>::max())
         return std::nullopt;
     return static_cast<int>(*number);
@@ -93,7 +92,7 @@ void removeLeftDrafts(const std::filesystem::path& target)
     for (auto entry = std::filesystem::directory_iterator(folder, unknown);
          entry != std::filesystem::directory_iterator(); entry.increment(unknown))
         if (const auto number = draftOf(utf8FromPath(entry->path().filename()), prefix))
-            if (*number == prozessnummer() || !processRuns(*number))
+            if (*number == processNumber() || !processRuns(*number))
                 left.push_back(*number);
     for (const int number : left) {
         const auto draft = target.parent_path() / pathFromUtf8(prefix + std::to_string(number));
@@ -102,10 +101,10 @@ void removeLeftDrafts(const std::filesystem::path& target)
     }
 }
 
-Laufzeitfehler cannotReplace(const std::filesystem::path& target, std::string_view why)
+RuntimeError cannotReplace(const std::filesystem::path& target, std::string_view why)
 {
-    return werkzeugfehler(fmt::format("Das Ziel '{}' lässt sich nicht ersetzen: {}. Das alte Register ist noch da.",
-                                      utf8FromPath(target), why));
+    return toolFault(fmt::format("Das Ziel '{}' lässt sich nicht ersetzen: {}. Das alte Register ist noch da.",
+                                 utf8FromPath(target), why));
 }
 
 // Nothing when it cannot be read as a database: then there is nothing in it that could be lost.
@@ -130,12 +129,12 @@ std::unique_ptr<ExclusiveFile> lockOld(const std::filesystem::path& target)
 
 } // namespace
 
-DraftFile::DraftFile(const std::filesystem::path& target, Vorhandenes existing) : target_(behindLinks(target))
+DraftFile::DraftFile(const std::filesystem::path& target, Existing existing) : target_(behindLinks(target))
 {
     checkTarget(target_, existing);
     removeLeftDrafts(target_);
     path_ = target_;
-    path_ += fmt::format("{}{}", MARK, prozessnummer());
+    path_ += fmt::format("{}{}", MARK, processNumber());
 }
 
 DraftFile::~DraftFile()
@@ -173,7 +172,7 @@ void DraftFile::rename()
     std::error_code unknown;
     if (refused && std::filesystem::exists(target_, unknown))
         throw cannotReplace(target_, "ein Programm hat es offen, oder es ist schreibgeschützt");
-    throw werkzeugfehler(fmt::format("'{}' lässt sich nicht anlegen: {}", utf8FromPath(target_), fault.message()));
+    throw toolFault(fmt::format("'{}' lässt sich nicht anlegen: {}", utf8FromPath(target_), fault.message()));
 }
 
 } // namespace quelvarn::tools

@@ -4,15 +4,15 @@
 
 namespace quelvarn::tools {
 
-enum class Vorhandenes { Ablehnen, Ersetzen };
+enum class Existing { Refuse, Replace };
 
 // A SQLite file in the making, beside its target and on the same drive, that becomes it by being renamed. Whatever
 // ends the process before leaves the target as it was. Drafts that killed processes left go at the next one.
 class DraftFile
 {
 public:
-    // A target that is a link stands for the file behind it. Throws Laufzeitfehler when the target may not be replaced.
-    DraftFile(const std::filesystem::path& target, Vorhandenes existing);
+    // A target that is a link stands for the file behind it. Throws RuntimeError when the target may not be replaced.
+    DraftFile(const std::filesystem::path& target, Existing existing);
     ~DraftFile();
     DraftFile(const DraftFile&) = delete;
     DraftFile& operator=(const DraftFile&) = delete;

@@ -23,92 +23,92 @@ std::string whyNotMade(const DatabaseFault& fault, const std::filesystem::path& 
 
 } // namespace
 
-NeuesRegister::NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Konsole& konsole) : anzeige_(konsole)
+NewRegister::NewRegister(std::string_view target, Existing existing, Console& console) : display_(console)
 {
-    if (istServerziel(ziel)) {
-        bereiteDatenbankVor(ziel, vorhandenes);
+    if (isServerTarget(target)) {
+        prepareDatabase(target, existing);
         return;
     }
-    entwurf_.emplace(pathFromUtf8(ziel), vorhandenes);
+    draft_.emplace(pathFromUtf8(target), existing);
     try {
-        datei_ = oeffneSqlite(entwurf_->path(), true);
-        engine_ = datei_.get();
-        engine().beginne();
+        file_ = openSqlite(draft_->path(), true);
+        engine_ = file_.get();
+        engine().begin();
     } catch (const DatabaseFault& fault) {
-        throw werkzeugfehler(
-            fmt::format("Das Ziel '{}' lässt sich nicht anlegen: {}", ziel, whyNotMade(fault, pathFromUtf8(ziel))));
+        throw toolFault(
+            fmt::format("Das Ziel '{}' lässt sich nicht anlegen: {}", target, whyNotMade(fault, pathFromUtf8(target))));
     }
-    offen_ = true;
+    open_ = true;
 }
 
-NeuesRegister::~NeuesRegister()
+NewRegister::~NewRegister()
 {
-    schreiber_.reset();
+    writer_.reset();
     try {
-        if (offen_)
-            engine().nimmZurueck();
-    } catch (const Laufzeitfehler&) {
+        if (open_)
+            engine().rollBack();
+    } catch (const RuntimeError&) {
         // The connection is gone, and what was begun with it.
     }
 }
 
-void NeuesRegister::bereiteDatenbankVor(std::string_view ziel, Vorhandenes vorhandenes)
+void NewRegister::prepareDatabase(std::string_view target, Existing existing)
 {
-    verbindung_.OpenAdresse(ziel);
-    engine_ = &verbindung_.engine();
-    engine().beginne();
-    offen_ = true;
-    for (const Tabellenschema& tabelle : registerschema()) {
-        if (!engine().findTabelle(tabelle.name))
+    connection_.openAddress(target);
+    engine_ = &connection_.engine();
+    engine().begin();
+    open_ = true;
+    for (const TableSchema& table : registerSchema()) {
+        if (!engine().findTable(table.name))
             continue;
-        if (vorhandenes == Vorhandenes::Ablehnen)
-            throw werkzeugfehler("In der Datenbank liegt schon ein Register. Mit --ersetzen wird es ersetzt.");
-        engine().entferneTabelle(tabelle.name);
+        if (existing == Existing::Refuse)
+            throw toolFault("In der Datenbank liegt schon ein Register. Mit --ersetzen wird es ersetzt.");
+        engine().removeTable(table.name);
     }
 }
 
-void NeuesRegister::tabelle(const Tabellenschema& tabelle)
+void NewRegister::table(const TableSchema& table)
 {
-    beendeTabelle();
-    engine().legeTabelleAn(tabelle);
-    tabellen_.push_back(tabelle);
-    schreiber_ = engine().massenschreiber(tabelle.name, tabelle.spalten);
+    endTable();
+    engine().createTable(table);
+    tables_.push_back(table);
+    writer_ = engine().bulkWriter(table.name, table.columns);
 }
 
-void NeuesRegister::zeile(std::span<const Value> werte)
+void NewRegister::row(std::span<const Value> values)
 {
-    schreiber_->zeile(werte);
-    anzeige_.melde(tabellen_.back().name, ++zeilen_);
+    writer_->row(values);
+    display_.notify(tables_.back().name, ++rows_);
 }
 
-void NeuesRegister::beendeTabelle()
+void NewRegister::endTable()
 {
-    if (schreiber_)
-        schreiber_->beende();
-    schreiber_.reset();
+    if (writer_)
+        writer_->end();
+    writer_.reset();
 }
 
-void NeuesRegister::schliesseAb()
+void NewRegister::commit()
 {
-    beendeTabelle();
-    for (std::size_t i = 0; i < tabellen_.size(); ++i) {
-        anzeige_.schritt("Indexe der Tabelle", i + 1, tabellen_.size());
-        engine().legeIndexeAn(tabellen_[i]);
+    endTable();
+    for (std::size_t i = 0; i < tables_.size(); ++i) {
+        display_.step("Indexe der Tabelle", i + 1, tables_.size());
+        engine().createIndexes(tables_[i]);
     }
-    engine().schliesseAb();
-    offen_ = false;
-    datei_.reset();
-    if (entwurf_)
-        entwurf_->takeOver();
+    engine().commit();
+    open_ = false;
+    file_.reset();
+    if (draft_)
+        draft_->takeOver();
 }
 
-bool istServerziel(std::string_view ziel)
+bool isServerTarget(std::string_view target)
 {
-    if (startsWithIgnoringCase(ziel, "postgresql://") || startsWithIgnoringCase(ziel, "postgres://"))
+    if (startsWithIgnoringCase(target, "postgresql://") || startsWithIgnoringCase(target, "postgres://"))
         return true;
-    std::error_code fehler;
-    return std::filesystem::is_regular_file(pathFromUtf8(ziel), fehler) &&
-           erkenneDatenbank(pathFromUtf8(ziel)) == DatenbankArt::PostgreSQL;
+    std::error_code fault;
+    return std::filesystem::is_regular_file(pathFromUtf8(target), fault) &&
+           recognizeDatabase(pathFromUtf8(target)) == DatabaseKind::PostgreSQL;
 }
 
 } // namespace quelvarn::tools

@@ -14,39 +14,39 @@
 
 namespace quelvarn::tools {
 
-// A register in the making. Whoever looks at the target sees what was there before, until schliesseAb has made
+// A register in the making. Whoever looks at the target sees what was there before, until commit has made
 // everything visible at once; without it nothing is left behind. A SQLite file grows under another name beside
 // its target, a PostgreSQL database gets one transaction.
-class NeuesRegister : public Zeilensenke
+class NewRegister : public RowSink
 {
 public:
-    NeuesRegister(std::string_view ziel, Vorhandenes vorhandenes, Konsole& konsole);
-    ~NeuesRegister() override;
+    NewRegister(std::string_view target, Existing existing, Console& console);
+    ~NewRegister() override;
 
-    void tabelle(const Tabellenschema& tabelle) override;
-    void zeile(std::span<const Value> werte) override;
+    void table(const TableSchema& table) override;
+    void row(std::span<const Value> values) override;
     // Builds the indexes, which is quicker than to keep them while rows come.
-    void schliesseAb();
+    void commit();
 
-    std::uint64_t zeilen() const { return zeilen_; }
+    std::uint64_t rows() const { return rows_; }
 
 private:
-    void bereiteDatenbankVor(std::string_view ziel, Vorhandenes vorhandenes);
-    void beendeTabelle();
+    void prepareDatabase(std::string_view target, Existing existing);
+    void endTable();
     Engine& engine() const { return *engine_; }
 
-    std::optional<DraftFile> entwurf_; // The file is removed after the engine has let go of it.
-    Connection verbindung_;
-    std::shared_ptr<Engine> datei_;
+    std::optional<DraftFile> draft_; // The file is removed after the engine has let go of it.
+    Connection connection_;
+    std::shared_ptr<Engine> file_;
     Engine* engine_ = nullptr;
-    bool offen_ = false;
-    std::vector<Tabellenschema> tabellen_;
-    std::unique_ptr<Engine::Massenschreiber> schreiber_;
-    std::uint64_t zeilen_ = 0;
-    Verlaufsanzeige anzeige_;
+    bool open_ = false;
+    std::vector<TableSchema> tables_;
+    std::unique_ptr<Engine::BulkWriter> writer_;
+    std::uint64_t rows_ = 0;
+    ProgressLine display_;
 };
 
 // True for an address and for a small text file that holds one.
-bool istServerziel(std::string_view ziel);
+bool isServerTarget(std::string_view target);
 
 } // namespace quelvarn::tools

@@ -9,9 +9,9 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--json"}};
+constexpr std::array OPTION{Option{"--json"}};
 
-constexpr std::string_view HILFE = R"(Aufruf: qvadmin query ZIEL "ANWEISUNG" [--json]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin query ZIEL "ANWEISUNG" [--json]
 
 Führt eine Anweisung (SELECT, INSERT, UPDATE oder DELETE) in der SQL-Form des Programms aus, gleich welche
 Datenbank dahinter steht: Texte in '..', Datumswerte als #mm/dd/yy hh:mm:ss#, LIKE mit %, _ und [..].
@@ -24,32 +24,32 @@ Die anderen Anweisungen schreiben, wie viele Zeilen betroffen waren.
            "JJJJ-MM-TT hh:mm:ss", Kommazahlen immer mit Punkt.
 )";
 
-int query(const Argumente& argumente, Konsole& konsole)
+int query(const Arguments& arguments, Console& console)
 {
-    const sql::Anweisung anweisung = sql::parseAnweisung(argumente.stelle(1));
-    Connection verbindung;
-    verbindung.OpenAdresse(argumente.stelle(0));
-    const auto* select = std::get_if<sql::Select>(&anweisung);
+    const sql::Statement statement = sql::parseStatement(arguments.position(1));
+    Connection connection;
+    connection.openAddress(arguments.position(0));
+    const auto* select = std::get_if<sql::Select>(&statement);
     if (select == nullptr) {
-        konsole.aus << verbindung.engine().fuehreAus(anweisung) << '\n';
-        return GUT;
+        console.out << connection.engine().execute(statement) << '\n';
+        return GOOD;
     }
     ResultBuffer result;
-    gibZeilenAus(*verbindung.engine().lese(*select, MitSchluessel::Nein),
-                 argumente.gesetzt("--json") ? Ausgabeform::Json : Ausgabeform::Tabulator, result);
-    verbindung.Close(); // A person with a pager reads for hours.
-    result.writeTo(konsole.aus);
-    return GUT;
+    printRows(*connection.engine().read(*select, WithKey::No),
+              arguments.set("--json") ? OutputForm::Json : OutputForm::Tabulator, result);
+    connection.Close(); // A person with a pager reads for hours.
+    result.writeTo(console.out);
+    return GOOD;
 }
 
 } // namespace
 
-const Befehl BEFEHL_QUERY{.name = "query",
-                          .kurz = "führt eine SQL-Anweisung aus",
-                          .hilfe = HILFE,
-                          .mindestens = 2,
-                          .hoechstens = 2,
-                          .schalter = SCHALTER,
-                          .ausfuehren = query};
+const Command QUERY_COMMAND{.name = "query",
+                            .shortText = "führt eine SQL-Anweisung aus",
+                            .help = HELP,
+                            .atLeast = 2,
+                            .atMost = 2,
+                            .option = OPTION,
+                            .execute = query};
 
 } // namespace quelvarn::tools

@@ -8,150 +8,150 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::size_t SCHUB = 64U << 10; // bytes
+constexpr std::size_t BATCH = 64U << 10; // bytes
 
-using Puffer = fmt::memory_buffer;
+using Buffer = fmt::memory_buffer;
 
-void fuegeAn(Puffer& ziel, std::string_view text)
+void append(Buffer& target, std::string_view text)
 {
-    ziel.append(text.data(), text.data() + text.size());
+    target.append(text.data(), text.data() + text.size());
 }
 
-void maskiere(Puffer& ziel, std::string_view text)
+void mask(Buffer& target, std::string_view text)
 {
-    for (const char zeichen : text) {
-        switch (zeichen) {
+    for (const char character : text) {
+        switch (character) {
         case '\t':
-            fuegeAn(ziel, "\\t");
+            append(target, "\\t");
             break;
         case '\n':
-            fuegeAn(ziel, "\\n");
+            append(target, "\\n");
             break;
         case '\r':
-            fuegeAn(ziel, "\\r");
+            append(target, "\\r");
             break;
         default:
-            ziel.push_back(zeichen);
+            target.push_back(character);
         }
     }
 }
 
-void jsonText(Puffer& ziel, std::string_view text)
+void jsonText(Buffer& target, std::string_view text)
 {
-    ziel.push_back('"');
-    for (const char zeichen : text) {
-        if (zeichen == '"' || zeichen == '\\') {
-            ziel.push_back('\\');
-            ziel.push_back(zeichen);
-        } else if (zeichen == '\n') {
-            fuegeAn(ziel, "\\n");
-        } else if (static_cast<unsigned char>(zeichen) < ' ') {
-            fmt::format_to(std::back_inserter(ziel), "\\u{:04x}", static_cast<unsigned>(zeichen));
+    target.push_back('"');
+    for (const char character : text) {
+        if (character == '"' || character == '\\') {
+            target.push_back('\\');
+            target.push_back(character);
+        } else if (character == '\n') {
+            append(target, "\\n");
+        } else if (static_cast<unsigned char>(character) < ' ') {
+            fmt::format_to(std::back_inserter(target), "\\u{:04x}", static_cast<unsigned>(character));
         } else {
-            ziel.push_back(zeichen);
+            target.push_back(character);
         }
     }
-    ziel.push_back('"');
+    target.push_back('"');
 }
 
 // The shortest text that reads back as the same number, marked as no whole number.
-void gleitkommazahl(Puffer& ziel, double zahl)
+void floatingPointNumber(Buffer& target, double number)
 {
-    const std::string text = fmt::format("{}", zahl);
-    fuegeAn(ziel, text);
+    const std::string text = fmt::format("{}", number);
+    append(target, text);
     if (text.find_first_not_of("-0123456789") == std::string::npos)
-        fuegeAn(ziel, ".0");
+        append(target, ".0");
 }
 
-class Schreiber
+class Writer
 {
 public:
-    Schreiber(Ausgabeform form, ResultBuffer& aus) : json_(form == Ausgabeform::Json), aus_(aus) {}
+    Writer(OutputForm form, ResultBuffer& out) : json_(form == OutputForm::Json), out_(out) {}
 
-    void kopf(const std::vector<Spalte>& spalten)
+    void heading(const std::vector<ColumnInfo>& columns)
     {
-        beginneZeile();
-        for (const Spalte& spalte : spalten) {
-            trenne();
-            text(spalte.name);
+        beginRow();
+        for (const ColumnInfo& column : columns) {
+            separate();
+            text(column.name);
         }
-        beendeZeile();
+        endRow();
     }
 
-    void zeile(const Zeilenleser& zeilen)
+    void row(const RowReader& rows)
     {
-        beginneZeile();
-        for (std::size_t i = 0; i < zeilen.spalten().size(); ++i) {
-            trenne();
-            if (zeilen.istNull(i))
-                fuegeAn(puffer_, json_ ? "null" : "");
-            else if (zeilen.spalten()[i].typ == FeldTyp::Text)
-                text(zeilen.text(i));
+        beginRow();
+        for (std::size_t i = 0; i < rows.columns().size(); ++i) {
+            separate();
+            if (rows.isNull(i))
+                append(buffer_, json_ ? "null" : "");
+            else if (rows.columns()[i].type == FieldType::Text)
+                text(rows.text(i));
             else
-                wert(zeilen.wert(i));
+                value(rows.value(i));
         }
-        beendeZeile();
+        endRow();
     }
 
-    void spuele()
+    void flush()
     {
-        aus_.append({puffer_.data(), puffer_.size()});
-        puffer_.clear();
+        out_.append({buffer_.data(), buffer_.size()});
+        buffer_.clear();
     }
 
 private:
-    void beginneZeile()
+    void beginRow()
     {
-        ersteZelle_ = true;
+        firstCell_ = true;
         if (json_)
-            puffer_.push_back('[');
+            buffer_.push_back('[');
     }
-    void beendeZeile()
+    void endRow()
     {
         if (json_)
-            puffer_.push_back(']');
-        puffer_.push_back('\n');
-        if (puffer_.size() >= SCHUB)
-            spuele();
+            buffer_.push_back(']');
+        buffer_.push_back('\n');
+        if (buffer_.size() >= BATCH)
+            flush();
     }
-    void trenne()
+    void separate()
     {
-        if (!ersteZelle_)
-            puffer_.push_back(json_ ? ',' : '\t');
-        ersteZelle_ = false;
+        if (!firstCell_)
+            buffer_.push_back(json_ ? ',' : '\t');
+        firstCell_ = false;
     }
-    void text(std::string_view text) { json_ ? jsonText(puffer_, text) : maskiere(puffer_, text); }
-    void wert(const Value& wert)
+    void text(std::string_view text) { json_ ? jsonText(buffer_, text) : mask(buffer_, text); }
+    void value(const Value& value)
     {
-        if (const auto* zahl = std::get_if<std::int64_t>(&wert))
-            fmt::format_to(std::back_inserter(puffer_), "{}", *zahl);
-        else if (const auto* bruch = std::get_if<double>(&wert))
-            gleitkommazahl(puffer_, *bruch);
-        else if (const auto* datum = std::get_if<Zeitpunkt>(&wert))
-            text(formatIso(*datum));
+        if (const auto* number = std::get_if<std::int64_t>(&value))
+            fmt::format_to(std::back_inserter(buffer_), "{}", *number);
+        else if (const auto* bruch = std::get_if<double>(&value))
+            floatingPointNumber(buffer_, *bruch);
+        else if (const auto* date = std::get_if<DateTime>(&value))
+            text(formatIso(*date));
         else
-            text(alsText(wert));
+            text(asText(value));
     }
 
     bool json_;
-    ResultBuffer& aus_;
-    Puffer puffer_;
-    bool ersteZelle_ = true;
+    ResultBuffer& out_;
+    Buffer buffer_;
+    bool firstCell_ = true;
 };
 
 } // namespace
 
-std::uint64_t gibZeilenAus(Zeilenleser& zeilen, Ausgabeform form, ResultBuffer& aus)
+std::uint64_t printRows(RowReader& rows, OutputForm form, ResultBuffer& out)
 {
-    Schreiber schreiber(form, aus);
-    schreiber.kopf(zeilen.spalten());
-    std::uint64_t anzahl = 0;
-    while (zeilen.next()) {
-        schreiber.zeile(zeilen);
-        ++anzahl;
+    Writer writer(form, out);
+    writer.heading(rows.columns());
+    std::uint64_t count = 0;
+    while (rows.next()) {
+        writer.row(rows);
+        ++count;
     }
-    schreiber.spuele();
-    return anzahl;
+    writer.flush();
+    return count;
 }
 
 } // namespace quelvarn::tools

@@ -14,8 +14,8 @@ constexpr std::size_t IN_MEMORY = 4U << 20; // bytes
 
 [[noreturn]] void reportFile(std::string_view what)
 {
-    throw werkzeugfehler(fmt::format("Die Zwischendatei des Ergebnisses lässt sich nicht {}: {}", what,
-                                     std::generic_category().message(errno)));
+    throw toolFault(fmt::format("Die Zwischendatei des Ergebnisses lässt sich nicht {}: {}", what,
+                                std::generic_category().message(errno)));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace quelvarn::tools {
 class ResultBuffer
 {
 public:
-    // Throws Laufzeitfehler when there is no room for it.
+    // Throws RuntimeError when there is no room for it.
     void append(std::string_view bytes);
     // All of it from its beginning, once. Ends early when nobody reads any more.
     void writeTo(std::ostream& target);

@@ -17,10 +17,10 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--sehen", Wert::Noetig}, Schalter{"--loeschen", Wert::Noetig},
-                              Schalter{"--neu"}};
+constexpr std::array OPTION{Option{"--sehen", OptionValue::Needed}, Option{"--loeschen", OptionValue::Needed},
+                            Option{"--neu"}};
 
-constexpr std::string_view HILFE =
+constexpr std::string_view HELP =
     R"(Aufruf: qvadmin rights ZIEL [ANWENDER] [--sehen STATI] [--loeschen STATUS=CODE,...] [--neu]
 
 Zeigt die Rechte der Anwender oder setzt die eines Anwenders. Sie gelten ab seinem nächsten Start.
@@ -36,167 +36,167 @@ Zeigt die Rechte der Anwender oder setzt die eines Anwenders. Sie gelten ab sein
 Stati: 0 Verfügbar, 1 In Arbeit, 2 Wird geprüft, 3 Freigegeben, 4 Festgeschrieben, 5 Ungültig
 )";
 
-constexpr std::string_view GRUPPE = "Berechtigung";
-constexpr int HOECHSTER_CODE = 6;
+constexpr std::string_view GROUP = "Berechtigung";
+constexpr int HIGHEST_CODE = 6;
 
-struct Rechte
+struct UserRights
 {
-    std::array<std::int64_t, ANZAHL_STATUS> sichtbar{0, 0, 0, 1, 1, 0};
-    std::array<std::int64_t, ANZAHL_STATUS> loeschrecht{};
+    std::array<std::int64_t, STATUS_COUNT> visible{0, 0, 0, 1, 1, 0};
+    std::array<std::int64_t, STATUS_COUNT> deletionRight{};
 };
 
-std::string schluessel(int status)
+std::string key(int status)
 {
     return fmt::format("{}_Status", status);
 }
 
-sql::AusdruckZeiger rechtezeilen()
+sql::ExpressionPointer rightRows()
 {
-    return sql::equal("Feld2", GRUPPE);
+    return sql::equal("Feld2", GROUP);
 }
 
-sql::AusdruckZeiger rechtezeilen(std::string_view anwender)
+sql::ExpressionPointer rightRows(std::string_view user)
 {
-    return sql::all(sql::equal("Feld1", anwender), rechtezeilen());
+    return sql::all(sql::equal("Feld1", user), rightRows());
 }
 
 // As the program reads it: what is no number of 16 bits counts as 0.
-std::int64_t number(const Value& wert)
+std::int64_t number(const Value& value)
 {
     using Limits = std::numeric_limits<std::int16_t>;
-    return wholeNumber(wert, Limits::min(), Limits::max()).value_or(0);
+    return wholeNumber(value, Limits::min(), Limits::max()).value_or(0);
 }
 
-void uebernimm(const Zeilenleser& zeile, Rechte& rechte)
+void adopt(const RowReader& row, UserRights& rights)
 {
-    const std::string stelle = toLower(zeile.istNull(1) ? "" : zeile.text(1));
-    for (int status = 0; status < ANZAHL_STATUS; ++status) {
-        if (stelle != toLower(schluessel(status)))
+    const std::string position = toLower(row.isNull(1) ? "" : row.text(1));
+    for (int status = 0; status < STATUS_COUNT; ++status) {
+        if (position != toLower(key(status)))
             continue;
-        rechte.sichtbar[status] = number(zeile.wert(2));
-        rechte.loeschrecht[status] = number(zeile.wert(3));
+        rights.visible[status] = number(row.value(2));
+        rights.deletionRight[status] = number(row.value(3));
     }
 }
 
 // Users in the order of their names, with the spelling of their first row.
-std::map<std::string, std::pair<std::string, Rechte>> liesRechte(Engine& engine)
+std::map<std::string, std::pair<std::string, UserRights>> readRights(Engine& engine)
 {
-    const sql::Select select = sql::Query("Ini").columns({"Feld1", "Feld3", "Feld4", "Feld5"}).where(rechtezeilen());
-    std::map<std::string, std::pair<std::string, Rechte>> alle;
-    const auto zeilen = engine.lese(select, MitSchluessel::Nein);
-    while (zeilen->next()) {
-        if (zeilen->istNull(0))
+    const sql::Select select = sql::Query("Ini").columns({"Feld1", "Feld3", "Feld4", "Feld5"}).where(rightRows());
+    std::map<std::string, std::pair<std::string, UserRights>> all;
+    const auto rows = engine.read(select, WithKey::No);
+    while (rows->next()) {
+        if (rows->isNull(0))
             continue;
-        const std::string name(zeilen->text(0));
-        auto& eintrag = alle.try_emplace(sortKey(name), name, Rechte{.sichtbar = {}, .loeschrecht = {}}).first->second;
-        uebernimm(*zeilen, eintrag.second);
+        const std::string name(rows->text(0));
+        auto& entry =
+            all.try_emplace(sortKey(name), name, UserRights{.visible = {}, .deletionRight = {}}).first->second;
+        adopt(*rows, entry.second);
     }
-    return alle;
+    return all;
 }
 
-void zeige(const std::string& anwender, const Rechte& rechte, Konsole& konsole)
+void show(const std::string& user, const UserRights& rights, Console& console)
 {
-    konsole.aus << anwender << '\n';
-    for (int status = 0; status < ANZAHL_STATUS; ++status)
-        konsole.aus << fmt::format("  {} {}{}  {:<8}  Löschcode {}\n", status, STATUS[status].name,
+    console.out << user << '\n';
+    for (int status = 0; status < STATUS_COUNT; ++status)
+        console.out << fmt::format("  {} {}{}  {:<8}  Löschcode {}\n", status, STATUS[status].name,
                                    std::string(16 - countCharacters(STATUS[status].name), ' '),
-                                   rechte.sichtbar[status] != 0 ? "sichtbar" : "-", rechte.loeschrecht[status]);
+                                   rights.visible[status] != 0 ? "sichtbar" : "-", rights.deletionRight[status]);
 }
 
 int status(std::string_view text)
 {
-    const auto zahl = parseGanzzahl(trim(text));
-    if (!zahl || *zahl < 0 || *zahl >= ANZAHL_STATUS)
-        throw Bedienfehler(fmt::format("'{}' ist kein Status von 0 bis 5.", text));
-    return static_cast<int>(*zahl);
+    const auto number = parseInteger(trim(text));
+    if (!number || *number < 0 || *number >= STATUS_COUNT)
+        throw UsageFault(fmt::format("'{}' ist kein Status von 0 bis 5.", text));
+    return static_cast<int>(*number);
 }
 
-void setzeSichtbar(Rechte& rechte, std::string_view liste)
+void setVisible(UserRights& rights, std::string_view list)
 {
-    rechte.sichtbar.fill(0);
-    for (const std::string& teil : split(liste, ','))
-        rechte.sichtbar[status(teil)] = 1;
+    rights.visible.fill(0);
+    for (const std::string& part : split(list, ','))
+        rights.visible[status(part)] = 1;
 }
 
-void setzeLoeschrecht(Rechte& rechte, std::string_view liste)
+void setDeletionRight(UserRights& rights, std::string_view list)
 {
-    for (const std::string& teil : split(liste, ',')) {
-        const auto paar = split(teil, '=');
-        const auto code = paar.size() == 2 ? parseGanzzahl(trim(paar[1])) : std::nullopt;
-        if (!code || *code < 0 || *code > HOECHSTER_CODE)
-            throw Bedienfehler(fmt::format("'{}' ist kein STATUS=CODE mit einem Code von 0 bis 6.", teil));
-        rechte.loeschrecht[status(paar[0])] = *code;
+    for (const std::string& part : split(list, ',')) {
+        const auto pair = split(part, '=');
+        const auto code = pair.size() == 2 ? parseInteger(trim(pair[1])) : std::nullopt;
+        if (!code || *code < 0 || *code > HIGHEST_CODE)
+            throw UsageFault(fmt::format("'{}' ist kein STATUS=CODE mit einem Code von 0 bis 6.", part));
+        rights.deletionRight[status(pair[0])] = *code;
     }
 }
 
-void schreibe(Connection& verbindung, const std::string& anwender, const Rechte& rechte, bool neu)
+void write(Connection& connection, const std::string& user, const UserRights& rights, bool fresh)
 {
-    Transaktion transaktion(verbindung);
-    Engine& engine = verbindung.engine();
-    engine.fuehreAus(sql::Delete{"Ini", rechtezeilen(anwender)});
-    const auto fuegeEin = [&](std::string_view gruppe, const std::string& feld3, Value feld4, Value feld5) {
-        const std::array<sql::Zuweisung, 5> werte{{{"Feld1", anwender},
-                                                   {"Feld2", std::string(gruppe)},
-                                                   {"Feld3", feld3},
-                                                   {"Feld4", std::move(feld4)},
-                                                   {"Feld5", std::move(feld5)}}};
-        engine.fuegeEin("Ini", werte);
+    Transaction transaction(connection);
+    Engine& engine = connection.engine();
+    engine.execute(sql::Delete{"Ini", rightRows(user)});
+    const auto insert = [&](std::string_view group, const std::string& field3, Value field4, Value field5) {
+        const std::array<sql::Assignment, 5> values{{{"Feld1", user},
+                                                     {"Feld2", std::string(group)},
+                                                     {"Feld3", field3},
+                                                     {"Feld4", std::move(field4)},
+                                                     {"Feld5", std::move(field5)}}};
+        engine.insert("Ini", values);
     };
-    for (int status = 0; status < ANZAHL_STATUS; ++status)
-        fuegeEin(GRUPPE, schluessel(status), std::to_string(rechte.sichtbar[status]),
-                 std::to_string(rechte.loeschrecht[status]));
-    if (neu) // A first start would write these with the rights and passes them over when those are there.
-        for (const char* feld3 : {"BearbeitenVon", "SpeichernIn"})
-            fuegeEin("Sicherung", feld3, {}, {});
-    transaktion.schliesseAb();
+    for (int status = 0; status < STATUS_COUNT; ++status)
+        insert(GROUP, key(status), std::to_string(rights.visible[status]),
+               std::to_string(rights.deletionRight[status]));
+    if (fresh) // A first start would write these with the rights and passes them over when those are there.
+        for (const char* field3 : {"BearbeitenVon", "SpeichernIn"})
+            insert("Sicherung", field3, {}, {});
+    transaction.commit();
 }
 
-int setze(const Argumente& argumente, Connection& verbindung, Konsole& konsole)
+int set(const Arguments& arguments, Connection& connection, Console& console)
 {
-    const auto alle = liesRechte(verbindung.engine());
-    const std::string& gesucht = argumente.stelle(1);
-    const auto gefunden = alle.find(sortKey(gesucht));
-    const bool neu = gefunden == alle.end();
-    if (neu && !argumente.gesetzt("--neu"))
-        throw werkzeugfehler(
-            fmt::format("Den Anwender '{}' kennt das Register nicht. Mit --neu wird er angelegt.", gesucht));
-    const std::string anwender = neu ? gesucht : gefunden->second.first;
-    Rechte rechte = neu ? Rechte{} : gefunden->second.second;
-    if (const auto liste = argumente.findWert("--sehen"))
-        setzeSichtbar(rechte, *liste);
-    if (const auto liste = argumente.findWert("--loeschen"))
-        setzeLoeschrecht(rechte, *liste);
-    if (neu || argumente.gesetzt("--sehen") || argumente.gesetzt("--loeschen"))
-        schreibe(verbindung, anwender, rechte, neu);
-    zeige(anwender, rechte, konsole);
-    return GUT;
+    const auto all = readRights(connection.engine());
+    const std::string& sought = arguments.position(1);
+    const auto found = all.find(sortKey(sought));
+    const bool fresh = found == all.end();
+    if (fresh && !arguments.set("--neu"))
+        throw toolFault(fmt::format("Den Anwender '{}' kennt das Register nicht. Mit --neu wird er angelegt.", sought));
+    const std::string user = fresh ? sought : found->second.first;
+    UserRights rights = fresh ? UserRights{} : found->second.second;
+    if (const auto list = arguments.findValue("--sehen"))
+        setVisible(rights, *list);
+    if (const auto list = arguments.findValue("--loeschen"))
+        setDeletionRight(rights, *list);
+    if (fresh || arguments.set("--sehen") || arguments.set("--loeschen"))
+        write(connection, user, rights, fresh);
+    show(user, rights, console);
+    return GOOD;
 }
 
-int rights(const Argumente& argumente, Konsole& konsole)
+int rights(const Arguments& arguments, Console& console)
 {
-    const bool aendert = argumente.gesetzt("--sehen") || argumente.gesetzt("--loeschen") || argumente.gesetzt("--neu");
-    if (aendert && argumente.anzahl() < 2)
-        throw Bedienfehler("Wessen Rechte? Es fehlt der Anwender.");
-    Connection verbindung;
-    verbindung.OpenAdresse(argumente.stelle(0));
-    if (argumente.anzahl() == 2)
-        return setze(argumente, verbindung, konsole);
-    const auto alle = liesRechte(verbindung.engine());
-    for (const auto& [_, eintrag] : alle)
-        zeige(eintrag.first, eintrag.second, konsole);
-    if (alle.empty())
-        konsole.aus << "Im Register ist kein Anwender eingetragen.\n";
-    return GUT;
+    const bool changes = arguments.set("--sehen") || arguments.set("--loeschen") || arguments.set("--neu");
+    if (changes && arguments.count() < 2)
+        throw UsageFault("Wessen Rechte? Es fehlt der Anwender.");
+    Connection connection;
+    connection.openAddress(arguments.position(0));
+    if (arguments.count() == 2)
+        return set(arguments, connection, console);
+    const auto all = readRights(connection.engine());
+    for (const auto& [_, entry] : all)
+        show(entry.first, entry.second, console);
+    if (all.empty())
+        console.out << "Im Register ist kein Anwender eingetragen.\n";
+    return GOOD;
 }
 
 } // namespace
 
-const Befehl BEFEHL_RIGHTS{.name = "rights",
-                           .kurz = "zeigt und setzt die Rechte der Anwender",
-                           .hilfe = HILFE,
-                           .mindestens = 1,
-                           .hoechstens = 2,
-                           .schalter = SCHALTER,
-                           .ausfuehren = rights};
+const Command RIGHTS_COMMAND{.name = "rights",
+                             .shortText = "zeigt und setzt die Rechte der Anwender",
+                             .help = HELP,
+                             .atLeast = 1,
+                             .atMost = 2,
+                             .option = OPTION,
+                             .execute = rights};
 
 } // namespace quelvarn::tools

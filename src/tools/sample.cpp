@@ -12,10 +12,10 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--documents", Wert::Noetig}, Schalter{"--files", Wert::Noetig},
-                              Schalter{"--seed", Wert::Noetig}, Schalter{"--ersetzen"}};
+constexpr std::array OPTION{Option{"--documents", OptionValue::Needed}, Option{"--files", OptionValue::Needed},
+                            Option{"--seed", OptionValue::Needed}, Option{"--ersetzen"}};
 
-constexpr std::string_view HILFE =
+constexpr std::string_view HELP =
     R"(Aufruf: qvadmin sample ZIEL [--documents ANZAHL] [--files ORDNER] [--seed ZAHL] [--ersetzen]
 
 Legt ein Register zum Ausprobieren an: Förderanlagen, Getriebe und Rahmen eines erfundenen Büros mit Stücklisten,
@@ -28,41 +28,40 @@ Zeichnungen, Normteilen, den Anwendern Meier, Schröder und Weber, ihren Filtern
   --ersetzen    Ein vorhandenes Register an dieser Stelle wird ersetzt.
 )";
 
-constexpr std::int64_t ANZAHL_OHNE_ANGABE = 2000;
-constexpr std::int64_t ANZAHL_HOECHSTENS = 10'000'000;
+constexpr std::int64_t DEFAULT_COUNT = 2000;
+constexpr std::int64_t COUNT_LIMIT = 10'000'000;
 
-std::int64_t writeFiles(const sample::Dokumente& documents, std::string_view folder, Konsole& console)
+std::int64_t writeFiles(const sample::Documents& documents, std::string_view folder, Console& console)
 {
-    Verlaufsanzeige progress(console);
-    return static_cast<std::int64_t>(sample::schreibeDateien(
-        documents, pathFromUtf8(folder), [&](std::uint64_t done) { progress.melde("Dateien", done); }));
+    ProgressLine progress(console);
+    return static_cast<std::int64_t>(sample::writeFiles(documents, pathFromUtf8(folder),
+                                                        [&](std::uint64_t done) { progress.notify("Dateien", done); }));
 }
 
-int makeSample(const Argumente& argumente, Konsole& konsole)
+int makeSample(const Arguments& arguments, Console& console)
 {
-    const auto anzahl = argumente.findZahl("--documents", 1, ANZAHL_HOECHSTENS).value_or(ANZAHL_OHNE_ANGABE);
-    const auto start = argumente.findZahl("--seed", 0, INT64_MAX).value_or(1);
-    fangeAbbruch();
-    const auto vorhandenes = argumente.gesetzt("--ersetzen") ? Vorhandenes::Ersetzen : Vorhandenes::Ablehnen;
-    NeuesRegister reg(argumente.stelle(0), vorhandenes, konsole);
-    const sample::Plan plan(static_cast<std::uint64_t>(anzahl), static_cast<std::uint64_t>(start));
-    const sample::Dokumente dokumente(plan);
-    sample::schreibeMusterregister(dokumente, reg);
-    reg.schliesseAb();
-    konsole.aus << fmt::format("Register mit {} Dokumenten angelegt, zusammen {} Zeilen.\n", formatGanzzahl(anzahl),
-                               formatGanzzahl(static_cast<std::int64_t>(reg.zeilen())));
-    if (const auto ordner = argumente.findWert("--files"))
-        konsole.aus << fmt::format("{} Dateien geschrieben.\n",
-                                   formatGanzzahl(writeFiles(dokumente, *ordner, konsole)));
-    return GUT;
+    const auto count = arguments.findNumber("--documents", 1, COUNT_LIMIT).value_or(DEFAULT_COUNT);
+    const auto start = arguments.findNumber("--seed", 0, INT64_MAX).value_or(1);
+    catchCancel();
+    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    NewRegister reg(arguments.position(0), existing, console);
+    const sample::Plan plan(static_cast<std::uint64_t>(count), static_cast<std::uint64_t>(start));
+    const sample::Documents documents(plan);
+    sample::writeSampleRegister(documents, reg);
+    reg.commit();
+    console.out << fmt::format("Register mit {} Dokumenten angelegt, zusammen {} Zeilen.\n", formatInteger(count),
+                               formatInteger(static_cast<std::int64_t>(reg.rows())));
+    if (const auto folder = arguments.findValue("--files"))
+        console.out << fmt::format("{} Dateien geschrieben.\n", formatInteger(writeFiles(documents, *folder, console)));
+    return GOOD;
 }
 
 } // namespace
 
-const Befehl BEFEHL_SAMPLE{.name = "sample",
-                           .kurz = "legt ein Register zum Ausprobieren an",
-                           .hilfe = HILFE,
-                           .schalter = SCHALTER,
-                           .ausfuehren = makeSample};
+const Command SAMPLE_COMMAND{.name = "sample",
+                             .shortText = "legt ein Register zum Ausprobieren an",
+                             .help = HELP,
+                             .option = OPTION,
+                             .execute = makeSample};
 
 } // namespace quelvarn::tools

@@ -12,7 +12,7 @@ struct CloseFile
 using TemporaryFile = std::unique_ptr<std::FILE, CloseFile>;
 
 // An empty file in the system's folder for such, to be written and read. It goes with the process, however that ends.
-// Throws Laufzeitfehler.
+// Throws RuntimeError.
 TemporaryFile makeTemporaryFile();
 
 } // namespace quelvarn::tools

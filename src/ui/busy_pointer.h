@@ -6,13 +6,13 @@
 namespace quelvarn {
 
 // The hourglass, as long as it lives.
-class Sanduhr
+class BusyCursor
 {
 public:
-    Sanduhr() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Sanduhr() { QGuiApplication::restoreOverrideCursor(); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
+    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
 };
 
 } // namespace quelvarn

@@ -8,45 +8,45 @@ namespace quelvarn {
 
 namespace {
 
-Waechter* inKraft = nullptr;
+SlotGuard* inForce = nullptr;
 
 } // namespace
 
-Waechter::Waechter(Meldungen& meldungen, std::function<void()> programmEnde)
-    : meldungen_(meldungen), programmEnde_(std::move(programmEnde)), vorheriger_(inKraft)
+SlotGuard::SlotGuard(Boxes& boxes, std::function<void()> programEnd)
+    : boxes_(boxes), programEnd_(std::move(programEnd)), previous_(inForce)
 {
-    inKraft = this;
+    inForce = this;
 }
 
-Waechter::~Waechter()
+SlotGuard::~SlotGuard()
 {
-    inKraft = vorheriger_;
+    inForce = previous_;
 }
 
-void Waechter::fuehreAus(const std::function<void()>& geste) noexcept
+void SlotGuard::execute(const std::function<void()>& gesture) noexcept
 {
     try {
         try {
-            geste();
-        } catch (const Laufzeitfehler& fehler) {
-            Fehlermeldung(meldungen_, fehler);
-        } catch (const std::exception& fehler) {
-            Fehlermeldung(meldungen_, Laufzeitfehler(5, "Quelvarn", fehler.what()));
+            gesture();
+        } catch (const RuntimeError& fault) {
+            Fehlermeldung(boxes_, fault);
+        } catch (const std::exception& fault) {
+            Fehlermeldung(boxes_, RuntimeError(5, "Quelvarn", fault.what()));
         }
-    } catch (const ProgrammEnde&) {
-        programmEnde_();
+    } catch (const ProgramExit&) {
+        programEnd_();
     }
 }
 
-Waechter& Waechter::aktuell()
+SlotGuard& SlotGuard::current()
 {
-    assert(inKraft != nullptr);
-    return *inKraft;
+    assert(inForce != nullptr);
+    return *inForce;
 }
 
-bool Waechter::gibtEs()
+bool SlotGuard::existsIn()
 {
-    return inKraft != nullptr;
+    return inForce != nullptr;
 }
 
 } // namespace quelvarn

@@ -6,53 +6,53 @@
 
 namespace quelvarn {
 
-class Meldungen;
+class Boxes;
 
 // Runs what a gesture starts, so that nothing is ever thrown into the event loop: a fault goes to the error report,
 // and the wish to end the program to the one who runs it.
-class Waechter
+class SlotGuard
 {
 public:
-    Waechter(Meldungen& meldungen, std::function<void()> programmEnde);
-    ~Waechter();
-    Waechter(const Waechter&) = delete;
-    Waechter& operator=(const Waechter&) = delete;
+    SlotGuard(Boxes& boxes, std::function<void()> programEnd);
+    ~SlotGuard();
+    SlotGuard(const SlotGuard&) = delete;
+    SlotGuard& operator=(const SlotGuard&) = delete;
 
-    void fuehreAus(const std::function<void()>& geste) noexcept;
+    void execute(const std::function<void()>& gesture) noexcept;
 
     // The one in force; every slot of the program runs through it.
-    static Waechter& aktuell();
-    static bool gibtEs();
+    static SlotGuard& current();
+    static bool existsIn();
 
 private:
-    Meldungen& meldungen_;
-    std::function<void()> programmEnde_;
-    Waechter* vorheriger_;
+    Boxes& boxes_;
+    std::function<void()> programEnd_;
+    SlotGuard* previous_;
 };
 
 // A slot that runs guarded, with the arguments of its signal, or with none when it takes none.
-template <typename Slot> class Bewacht
+template <typename Slot> class GuardedSlot
 {
 public:
-    explicit Bewacht(Slot slot) : slot_(std::move(slot)) {}
+    explicit GuardedSlot(Slot slot) : slot_(std::move(slot)) {}
 
-    template <typename... Argumente>
-    requires(std::invocable<Slot&, const Argumente&...> || std::invocable<Slot&>) void
-    operator()(const Argumente&... argumente)
+    template <typename... Arguments>
+    requires(std::invocable<Slot&, const Arguments&...> || std::invocable<Slot&>) void
+    operator()(const Arguments&... arguments)
     {
-        if constexpr (std::invocable<Slot&, const Argumente&...>)
-            Waechter::aktuell().fuehreAus([&] { slot_(argumente...); });
+        if constexpr (std::invocable<Slot&, const Arguments&...>)
+            SlotGuard::current().execute([&] { slot_(arguments...); });
         else
-            Waechter::aktuell().fuehreAus([&] { slot_(); });
+            SlotGuard::current().execute([&] { slot_(); });
     }
 
 private:
     Slot slot_;
 };
 
-template <typename Slot> Bewacht<Slot> bewacht(Slot slot)
+template <typename Slot> GuardedSlot<Slot> guardedSlot(Slot slot)
 {
-    return Bewacht<Slot>(std::move(slot));
+    return GuardedSlot<Slot>(std::move(slot));
 }
 
 } // namespace quelvarn

@@ -13,68 +13,67 @@
 
 namespace quelvarn {
 
-Arbeitsplatz::Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& darstellung,
-                           std::function<void()> programmEnde)
-    : darstellung_(darstellung), programmEnde_(std::move(programmEnde)),
-      waechter_(ports.meldungen, [this] { programmEnde_(); }), viewer_(ports.dateien),
-      program_(session, ports, viewer_), fenster_(std::make_unique<MDIForm1>(program_.frame, session, darstellung))
+Workplace::Workplace(SessionState& session, Ports& ports, Appearance& appearance, std::function<void()> programEnd)
+    : appearance_(appearance), programEnd_(std::move(programEnd)), slotGuard_(ports.boxes, [this] { programEnd_(); }),
+      viewer_(ports.files), program_(session, ports, viewer_),
+      window_(std::make_unique<MDIForm1>(program_.frame, session, appearance))
 {
-    auto* aussehen = new Darstellungsrahmen(darstellung);
-    aussehen->geaendert = [this] {
-        darstellung_.wendeAn(*qApp);
-        fenster_->stelleGroesseEin();
-        fenster_->show();
+    auto* appearanceFrame = new AppearanceFrame(appearance);
+    appearanceFrame->changed = [this] {
+        appearance_.apply(*qApp);
+        window_->configureSize();
+        window_->show();
     };
-    formDB_ = new FormDB(program_.startPage, aussehen);
-    formSEDoku_ = new FormSEDoku(program_, viewer_);
-    formSEFiltern_ = new FormSEFiltern(program_.filterPage, viewer_.platz(Ansicht::Filtervorlage));
-    fenster_->setzeSeiten(*formDB_, *formSEFiltern_, *formSEDoku_);
+    formDB_ = new FormDB(program_.startPage, appearanceFrame);
+    FormSEDoku_ = new FormSEDoku(program_, viewer_);
+    FormSEFiltern_ = new FormSEFiltern(program_.filterPage, viewer_.place(ViewerPlace::FilterTemplate));
+    window_->setPages(*formDB_, *FormSEFiltern_, *FormSEDoku_);
     program_.operations.show = [this](const Parts& parts) { refresh(parts); };
-    program_.frame.beendet = [this] { programmEnde_(); };
-    program_.topBar.druckerdialog = [this] { QPrintDialog(fenster_.get()).exec(); };
+    program_.frame.ended = [this] { programEnd_(); };
+    program_.topBar.printerDialog = [this] { QPrintDialog(window_.get()).exec(); };
 }
 
-Arbeitsplatz::~Arbeitsplatz() = default;
+Workplace::~Workplace() = default;
 
-void Arbeitsplatz::refresh(const Parts& parts)
+void Workplace::refresh(const Parts& parts)
 {
     const auto of = [&](Part part) { return contains(parts, part); };
     if (of(Part::Frame))
-        fenster_->zeigen();
+        window_->refresh();
     if (of(Part::StartPage))
-        formDB_->zeigen();
+        formDB_->refresh();
     if (of(Part::FilterPage))
-        formSEFiltern_->zeigen();
+        FormSEFiltern_->refresh();
     if (of(Part::Document)) {
-        formSEDoku_->zeigen();
-        fenster_->zeigeAenderungen(program_.tables.indicators());
+        FormSEDoku_->refresh();
+        window_->showChanges(program_.tables.indicators());
         return; // With its bars and tables.
     }
     if (of(Part::Rows))
-        formSEDoku_->refreshRows();
+        FormSEDoku_->refreshRows();
     if (of(Part::LeftBar))
-        formSEDoku_->zeigeLinks();
+        FormSEDoku_->showLeft();
     if (of(Part::TopBar))
-        formSEDoku_->zeigeOben();
+        FormSEDoku_->showAbove();
 }
 
-bool Arbeitsplatz::starte()
+bool Workplace::start()
 {
-    bool weiter = false;
-    waechter_.fuehreAus([&] {
-        const Sanduhr warten;
-        fenster_->zeigen();
-        formDB_->zeigen();
-        formSEDoku_->zeigen();
-        fenster_->show();
-        weiter = program_.frame.laden();
+    bool further = false;
+    slotGuard_.execute([&] {
+        const BusyCursor wait;
+        window_->refresh();
+        formDB_->refresh();
+        FormSEDoku_->refresh();
+        window_->show();
+        further = program_.frame.laden();
     });
-    return weiter;
+    return further;
 }
 
-void Arbeitsplatz::beende()
+void Workplace::end()
 {
-    waechter_.fuehreAus([this] { program_.frame.entladen(); });
+    slotGuard_.execute([this] { program_.frame.unload(); });
 }
 
 } // namespace quelvarn

@@ -18,31 +18,31 @@ class MDIForm1;
 struct SessionState;
 
 // The program on the screen: the models of its pages and the windows that show them.
-class Arbeitsplatz
+class Workplace
 {
 public:
-    // `programmEnde` ends the program: the window was closed, or a person chose so in an error report.
-    Arbeitsplatz(SessionState& session, Ports& ports, Darstellung& darstellung, std::function<void()> programmEnde);
-    ~Arbeitsplatz();
+    // `programEnd` ends the program: the window was closed, or a person chose so in an error report.
+    Workplace(SessionState& session, Ports& ports, Appearance& appearance, std::function<void()> programEnd);
+    ~Workplace();
 
     // Puts the window on the screen and runs its load. False when the program ends.
-    bool starte();
+    bool start();
     // As if a person had closed the window.
-    void beende();
-    MDIForm1& fenster() { return *fenster_; }
+    void end();
+    MDIForm1& window() { return *window_; }
 
 private:
     void refresh(const Parts& parts);
 
-    Darstellung& darstellung_;
-    std::function<void()> programmEnde_;
-    Waechter waechter_;
+    Appearance& appearance_;
+    std::function<void()> programEnd_;
+    SlotGuard slotGuard_;
     QtViewer viewer_;
     Program program_;
-    std::unique_ptr<MDIForm1> fenster_;
+    std::unique_ptr<MDIForm1> window_;
     FormDB* formDB_ = nullptr;
-    FormSEDoku* formSEDoku_ = nullptr;
-    FormSEFiltern* formSEFiltern_ = nullptr;
+    FormSEDoku* FormSEDoku_ = nullptr;
+    FormSEFiltern* FormSEFiltern_ = nullptr;
 };
 
 } // namespace quelvarn

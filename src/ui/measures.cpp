@@ -4,10 +4,10 @@
 
 namespace quelvarn {
 
-QSize ausTwips(int breite, int hoehe, const QScreen& bildschirm)
+QSize fromTwips(int width, int height, const QScreen& screen)
 {
-    return {qRound(breite * bildschirm.logicalDotsPerInchX() / TWIPS_JE_ZOLL),
-            qRound(hoehe * bildschirm.logicalDotsPerInchY() / TWIPS_JE_ZOLL)};
+    return {qRound(width * screen.logicalDotsPerInchX() / TWIPS_PER_INCH),
+            qRound(height * screen.logicalDotsPerInchY() / TWIPS_PER_INCH)};
 }
 
 } // namespace quelvarn

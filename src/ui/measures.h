@@ -6,9 +6,9 @@ class QScreen;
 
 namespace quelvarn {
 
-constexpr int TWIPS_JE_ZOLL = 1440;
+constexpr int TWIPS_PER_INCH = 1440;
 
 // Twips as the pixels that widgets count in, at the screen's logical resolution.
-QSize ausTwips(int breite, int hoehe, const QScreen& bildschirm);
+QSize fromTwips(int width, int height, const QScreen& screen);
 
 } // namespace quelvarn

@@ -18,7 +18,7 @@ constexpr int PACE = 50; // milliseconds
 
 } // namespace
 
-ProgramEnd::ProgramEnd(QtMeldungen& boxes, QtPatience& patience, QtFortschritt& progress)
+ProgramEnd::ProgramEnd(QtBoxes& boxes, QtPatience& patience, QtProgress& progress)
     : boxes_(boxes), patience_(patience), progress_(progress)
 {
     connect(

@@ -9,8 +9,8 @@ class QWidget;
 
 namespace quelvarn {
 
-class QtFortschritt;
-class QtMeldungen;
+class QtProgress;
+class QtBoxes;
 class QtPatience;
 
 // Ends the program for somebody who does not sit in front of it: the system at a logout, or a signal. What waits for
@@ -22,7 +22,7 @@ class ProgramEnd final : public QObject
 
 public:
     // Listens for the end of the desktop's session as soon as it is made.
-    ProgramEnd(QtMeldungen& boxes, QtPatience& patience, QtFortschritt& progress);
+    ProgramEnd(QtBoxes& boxes, QtPatience& patience, QtProgress& progress);
 
     // `unload` is what the closing of the window comes to; called without the window in the last moment that the
     // system grants.
@@ -38,9 +38,9 @@ private:
     void step();
     void endNow();
 
-    QtMeldungen& boxes_;
+    QtBoxes& boxes_;
     QtPatience& patience_;
-    QtFortschritt& progress_;
+    QtProgress& progress_;
     QWidget* window_ = nullptr;
     std::function<void()> unload_;
     bool requested_ = false;

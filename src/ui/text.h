@@ -8,12 +8,12 @@
 namespace quelvarn {
 
 // The core speaks UTF-8; QString begins here.
-inline QString zuQt(std::string_view text)
+inline QString toQt(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-inline std::string ausQt(const QString& text)
+inline std::string fromQt(const QString& text)
 {
     return text.toStdString();
 }

@@ -4,35 +4,35 @@
 
 namespace quelvarn {
 
-bool GezeigteDateien::zeige(Ansicht ansicht, const std::string& filename)
+bool ShownFiles::show(ViewerPlace view, const std::string& filename)
 {
-    leere(ansicht);
-    if (filename.empty() || !viewer_.zeige(ansicht, filename))
+    clear(view);
+    if (filename.empty() || !viewer_.show(view, filename))
         return false;
-    if (!steht(filename))
-        nutzung_.trageEin(filename, NUTZUNG_DURCHSICHT);
-    dateien_[static_cast<std::size_t>(ansicht)] = filename;
+    if (!stands(filename))
+        use_.add(filename, USE_VIEWING);
+    files_[static_cast<std::size_t>(view)] = filename;
     return true;
 }
 
-void GezeigteDateien::leere(Ansicht ansicht)
+void ShownFiles::clear(ViewerPlace view)
 {
-    viewer_.leere(ansicht);
-    std::string alte;
-    dateien_[static_cast<std::size_t>(ansicht)].swap(alte);
-    if (!alte.empty() && !steht(alte))
-        nutzung_.trageAus(alte, NUTZUNG_DURCHSICHT);
+    viewer_.clear(view);
+    std::string old;
+    files_[static_cast<std::size_t>(view)].swap(old);
+    if (!old.empty() && !stands(old))
+        use_.remove(old, USE_VIEWING);
 }
 
-void GezeigteDateien::DetachViewers()
+void ShownFiles::DetachViewers()
 {
-    for (int ansicht = 0; ansicht < ANZAHL_ANSICHTEN; ++ansicht)
-        leere(static_cast<Ansicht>(ansicht));
+    for (int view = 0; view < VIEWER_PLACE_COUNT; ++view)
+        clear(static_cast<ViewerPlace>(view));
 }
 
-bool GezeigteDateien::steht(const std::string& filename) const
+bool ShownFiles::stands(const std::string& filename) const
 {
-    return std::ranges::find(dateien_, filename) != dateien_.end();
+    return std::ranges::find(files_, filename) != files_.end();
 }
 
 } // namespace quelvarn

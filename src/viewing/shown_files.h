@@ -9,24 +9,24 @@
 namespace quelvarn {
 
 // What stands in the viewers. A file is entered in the use registry while it is shown somewhere.
-class GezeigteDateien
+class ShownFiles
 {
 public:
-    GezeigteDateien(Viewer& viewer, Nutzungsregister& nutzung) : viewer_(viewer), nutzung_(nutzung) {}
+    ShownFiles(Viewer& viewer, UseRegistry& use) : viewer_(viewer), use_(use) {}
 
     // False when it could not be shown; the place is empty then.
-    bool zeige(Ansicht ansicht, const std::string& filename);
-    void leere(Ansicht ansicht);
+    bool show(ViewerPlace view, const std::string& filename);
+    void clear(ViewerPlace view);
     // Every place lets go of its file.
     void DetachViewers();
-    const std::string& datei(Ansicht ansicht) const { return dateien_[static_cast<std::size_t>(ansicht)]; }
+    const std::string& file(ViewerPlace view) const { return files_[static_cast<std::size_t>(view)]; }
 
 private:
-    bool steht(const std::string& filename) const;
+    bool stands(const std::string& filename) const;
 
     Viewer& viewer_;
-    Nutzungsregister& nutzung_;
-    std::array<std::string, ANZAHL_ANSICHTEN> dateien_;
+    UseRegistry& use_;
+    std::array<std::string, VIEWER_PLACE_COUNT> files_;
 };
 
 } // namespace quelvarn

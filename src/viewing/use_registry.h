@@ -4,23 +4,23 @@
 
 namespace quelvarn {
 
-inline constexpr int NUTZUNG_DURCHSICHT = 2; // Shown in a viewer.
+inline constexpr int USE_VIEWING = 2; // Shown in a viewer.
 
 // Tells the office who has which file open.
-class Nutzungsregister
+class UseRegistry
 {
 public:
-    virtual ~Nutzungsregister() = default;
-    virtual void trageEin(std::string_view filename, int code) = 0;
-    virtual void trageAus(std::string_view filename, int code) = 0;
+    virtual ~UseRegistry() = default;
+    virtual void add(std::string_view filename, int code) = 0;
+    virtual void remove(std::string_view filename, int code) = 0;
 };
 
 // Keeps nothing.
-class KeinNutzungsregister final : public Nutzungsregister
+class NoUseRegistry final : public UseRegistry
 {
 public:
-    void trageEin(std::string_view, int) override {}
-    void trageAus(std::string_view, int) override {}
+    void add(std::string_view, int) override {}
+    void remove(std::string_view, int) override {}
 };
 
 } // namespace quelvarn

@@ -75,10 +75,10 @@ TEST(Collation, KeysAreTheAgreedBytes)
     EXPECT_EQ(key.substr(0, 5), "bad\x01\x02");
     EXPECT_EQ(key.size(), 6U);
     EXPECT_EQ(sortKey("Ж"), "ж");
-    for (const Kollationszeichen& zeichen : kollationszeichen()) {
-        for (const char byte : sortKey(toUtf8({&zeichen.zeichen, 1})))
+    for (const CollationCharacter& character : collationCharacters()) {
+        for (const char byte : sortKey(toUtf8({&character.character, 1})))
             ASSERT_NE(byte, '\0');
-        ASSERT_LT(2 + zeichen.akzent, 0x7F);
+        ASSERT_LT(2 + character.accent, 0x7F);
     }
 }
 

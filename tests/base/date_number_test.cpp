@@ -9,7 +9,7 @@ TEST(DateTime, ReadsTheDaysOfTheDatabase)
 {
     struct
     {
-        double tage;
+        double days;
         const char* iso;
     } const cases[] = {
         {0, "1899-12-30 00:00:00"},
@@ -24,20 +24,20 @@ TEST(DateTime, ReadsTheDaysOfTheDatabase)
         {-1e12, "0100-01-01 00:00:00"},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(formatIso(Zeitpunkt::ausTagen(c.tage)), c.iso) << c.tage;
+        EXPECT_EQ(formatIso(DateTime::fromDays(c.days)), c.iso) << c.days;
 }
 
 TEST(DateTime, KeepsEverySecondThroughTheNumberOfDays)
 {
     for (const char* iso : {"0100-01-01 00:00:01", "1899-12-29 06:00:00", "1899-12-29 23:59:59", "1899-12-30 00:00:01",
                             "2000-02-29 12:34:56", "9999-12-31 23:59:59"}) {
-        const auto zeit = parseIso(iso);
-        ASSERT_TRUE(zeit) << iso;
-        EXPECT_EQ(formatIso(Zeitpunkt::ausTagen(zeit->alsTage())), iso);
-        EXPECT_EQ(formatIso(Zeitpunkt::aus(zeit->kalender())), iso);
+        const auto time = parseIso(iso);
+        ASSERT_TRUE(time) << iso;
+        EXPECT_EQ(formatIso(DateTime::fromDays(time->asDays())), iso);
+        EXPECT_EQ(formatIso(DateTime::out(time->calendar())), iso);
     }
-    EXPECT_DOUBLE_EQ(parseIso("1899-12-29 06:00:00")->alsTage(), -1.25);
-    EXPECT_EQ(formatIso(parseIso("1899-12-29 06:00:00")->tagesbeginn()), "1899-12-29 00:00:00");
+    EXPECT_DOUBLE_EQ(parseIso("1899-12-29 06:00:00")->asDays(), -1.25);
+    EXPECT_EQ(formatIso(parseIso("1899-12-29 06:00:00")->startOfDay()), "1899-12-29 00:00:00");
 }
 
 TEST(DateTime, ParsesWhatPeopleWrite)
@@ -69,9 +69,9 @@ TEST(DateTime, ParsesWhatPeopleWrite)
         {"", nullptr},
     };
     for (const auto& c : cases) {
-        const auto zeit = parseDatum(c.text);
-        EXPECT_EQ(zeit.has_value(), c.iso != nullptr) << c.text;
-        EXPECT_EQ(zeit && c.iso ? formatIso(*zeit) : "", c.iso ? c.iso : "") << c.text;
+        const auto time = parseDate(c.text);
+        EXPECT_EQ(time.has_value(), c.iso != nullptr) << c.text;
+        EXPECT_EQ(time && c.iso ? formatIso(*time) : "", c.iso ? c.iso : "") << c.text;
     }
     EXPECT_EQ(formatIso(*parseIso("2003-02-01T04:05:59.5")), "2003-02-01 04:06:00");
     EXPECT_EQ(formatIso(*parseIso("2003-02-01")), "2003-02-01 00:00:00");
@@ -81,29 +81,29 @@ TEST(DateTime, ParsesWhatPeopleWrite)
 
 TEST(DateTime, WritesGerman)
 {
-    const Zeitpunkt zeit = *parseIso("2004-03-01 07:08:09");
-    EXPECT_EQ(formatDatum(zeit), "01.03.04");
-    EXPECT_EQ(formatDatumLang(zeit), "01.03.2004");
-    EXPECT_EQ(formatDatumUhrzeit(zeit), "01.03.04 07:08");
-    EXPECT_EQ(formatDatumSekunden(zeit), "01.03.04 07:08:09");
-    EXPECT_EQ(alsText(zeit), "01.03.2004 07:08:09");
-    EXPECT_EQ(alsText(zeit.tagesbeginn()), "01.03.2004");
+    const DateTime time = *parseIso("2004-03-01 07:08:09");
+    EXPECT_EQ(formatDate(time), "01.03.04");
+    EXPECT_EQ(formatLongDate(time), "01.03.2004");
+    EXPECT_EQ(formatDateTimeOfDay(time), "01.03.04 07:08");
+    EXPECT_EQ(formatDateSeconds(time), "01.03.04 07:08:09");
+    EXPECT_EQ(asText(time), "01.03.2004 07:08:09");
+    EXPECT_EQ(asText(time.startOfDay()), "01.03.2004");
 }
 
 TEST(Numbers, WriteGerman)
 {
-    EXPECT_EQ(formatGanzzahl(1234567), "1.234.567");
-    EXPECT_EQ(formatGanzzahl(-1234), "-1.234");
-    EXPECT_EQ(formatGanzzahl(-999), "-999");
-    EXPECT_EQ(formatGanzzahl(INT64_MIN), "-9.223.372.036.854.775.808");
-    EXPECT_EQ(formatKomma(1234.5, 3), "1.234,500");
-    EXPECT_EQ(formatKomma(999.5, 0), "1.000");
-    EXPECT_EQ(formatKomma(2.675, 2), "2,68");
-    EXPECT_EQ(formatKomma(-0.125, 2), "-0,13");
-    EXPECT_EQ(formatKomma(-0.001, 2), "0,00");
-    EXPECT_EQ(formatKomma(1e18, 1), "1.000.000.000.000.000.000,0");
-    EXPECT_EQ(formatSekunden(0.25), "0,3");
-    EXPECT_EQ(formatSekunden(1234), "1234,0");
+    EXPECT_EQ(formatInteger(1234567), "1.234.567");
+    EXPECT_EQ(formatInteger(-1234), "-1.234");
+    EXPECT_EQ(formatInteger(-999), "-999");
+    EXPECT_EQ(formatInteger(INT64_MIN), "-9.223.372.036.854.775.808");
+    EXPECT_EQ(formatComma(1234.5, 3), "1.234,500");
+    EXPECT_EQ(formatComma(999.5, 0), "1.000");
+    EXPECT_EQ(formatComma(2.675, 2), "2,68");
+    EXPECT_EQ(formatComma(-0.125, 2), "-0,13");
+    EXPECT_EQ(formatComma(-0.001, 2), "0,00");
+    EXPECT_EQ(formatComma(1e18, 1), "1.000.000.000.000.000.000,0");
+    EXPECT_EQ(formatSeconds(0.25), "0,3");
+    EXPECT_EQ(formatSeconds(1234), "1234,0");
 }
 
 TEST(Numbers, ReadGerman)
@@ -111,7 +111,7 @@ TEST(Numbers, ReadGerman)
     struct
     {
         const char* text;
-        std::optional<double> zahl;
+        std::optional<double> number;
     } const cases[] = {
         {"1,5", 1.5},
         {"1.234,5", 1234.5},
@@ -139,9 +139,9 @@ TEST(Numbers, ReadGerman)
         {"--1", std::nullopt},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(parseZahl(c.text), c.zahl) << c.text;
-    for (const double zahl : {0.1, -1.0 / 3, 1e20, 1.5e-9, 12345678.9})
-        EXPECT_EQ(parseZahl(zahlAlsText(zahl)), zahl) << zahlAlsText(zahl);
-    EXPECT_EQ(zahlAlsText(12345.5), "12345,5");
-    EXPECT_EQ(zahlAlsText(5), "5");
+        EXPECT_EQ(parseNumber(c.text), c.number) << c.text;
+    for (const double number : {0.1, -1.0 / 3, 1e20, 1.5e-9, 12345678.9})
+        EXPECT_EQ(parseNumber(numberAsText(number)), number) << numberAsText(number);
+    EXPECT_EQ(numberAsText(12345.5), "12345,5");
+    EXPECT_EQ(numberAsText(5), "5");
 }

@@ -59,16 +59,16 @@ TEST(Text, CutsReplacesAndJoins)
     EXPECT_EQ(split(";a;;b", ';'), (std::vector<std::string>{"", "a", "", "b"}));
     EXPECT_EQ(split("", ';'), std::vector<std::string>{""});
     EXPECT_EQ(join({"a", "b"}, ", "), "a, b");
-    EXPECT_EQ(zeilen({"eins", "", "zwei"}), "eins\n\nzwei");
+    EXPECT_EQ(lines({"eins", "", "zwei"}), "eins\n\nzwei");
     EXPECT_TRUE(startsWithIgnoringCase("Übersicht.par", "üBER"));
     EXPECT_FALSE(startsWithIgnoringCase("Über", "Übersicht"));
 }
 
 TEST(Text, SortsBlindToCase)
 {
-    std::vector<std::string> texte = {"b", "Ä", "C", "a", "z", "B", "ä", "A"};
-    SortiereTexte(texte);
-    EXPECT_EQ(texte, (std::vector<std::string>{"A", "a", "B", "b", "C", "z", "Ä", "ä"}));
+    std::vector<std::string> texts = {"b", "Ä", "C", "a", "z", "B", "ä", "A"};
+    SortiereTexte(texts);
+    EXPECT_EQ(texts, (std::vector<std::string>{"A", "a", "B", "b", "C", "z", "Ä", "ä"}));
 }
 
 TEST(Text, BuildsConditions)
@@ -85,10 +85,10 @@ TEST(WindowsPath, CutsAtTheLastBackslash)
 {
     struct
     {
-        const char* pfad;
-        const char* ordner;
+        const char* documentPath;
+        const char* folder;
         const char* name;
-        const char* endung;
+        const char* extension;
         int code;
     } const cases[] = {
         {"W:\\Konstruktion\\x.PAR", "W:\\Konstruktion", "x.PAR", "par", 1},
@@ -101,10 +101,10 @@ TEST(WindowsPath, CutsAtTheLastBackslash)
         {"", "", "", "", 0},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(Ordnername(c.pfad), c.ordner) << c.pfad;
-        EXPECT_EQ(DateiName(c.pfad), c.name) << c.pfad;
-        EXPECT_EQ(Dateiendung(c.pfad), c.endung) << c.pfad;
-        EXPECT_EQ(dateiTypCode(c.pfad), c.code) << c.pfad;
+        EXPECT_EQ(Ordnername(c.documentPath), c.folder) << c.documentPath;
+        EXPECT_EQ(DateiName(c.documentPath), c.name) << c.documentPath;
+        EXPECT_EQ(Extension(c.documentPath), c.extension) << c.documentPath;
+        EXPECT_EQ(fileTypeCode(c.documentPath), c.code) << c.documentPath;
     }
-    EXPECT_EQ(mitEndung("W:\\Größe.dft", "tif"), "W:\\Größe.tif");
+    EXPECT_EQ(withExtension("W:\\Größe.dft", "tif"), "W:\\Größe.tif");
 }

@@ -21,85 +21,85 @@ class EngineTest : public ::testing::TestWithParam<std::string_view>
 protected:
     void SetUp() override
     {
-        if (istPostgres()) {
+        if (isPostgres()) {
             PostgresCluster* cluster = PostgresCluster::find();
             if (!cluster)
                 GTEST_SKIP() << "no PostgreSQL server is installed here";
-            adresse_ = cluster->neueDatenbank();
+            address_ = cluster->newDatabase();
         }
-        if (istOdbc()) {
-            if (const std::string fehlt = bereiteOdbcVor(istPostgres(), adresse_); !fehlt.empty())
-                GTEST_SKIP() << fehlt;
+        if (isOdbc()) {
+            if (const std::string missing = prepareOdbc(isPostgres(), address_); !missing.empty())
+                GTEST_SKIP() << missing;
         }
-        engine_ = oeffne();
+        engine_ = open();
     }
 
     void TearDown() override
     {
         engine_.reset();
-        if (!adresse_.empty())
-            PostgresCluster::find()->gibFrei(adresse_);
+        if (!address_.empty())
+            PostgresCluster::find()->release(address_);
     }
 
-    bool istPostgres() const { return GetParam().ends_with("PostgreSQL"); }
-    bool istOdbc() const { return GetParam().starts_with("Odbc"); }
+    bool isPostgres() const { return GetParam().ends_with("PostgreSQL"); }
+    bool isOdbc() const { return GetParam().starts_with("Odbc"); }
 
     // Another connection to the same database.
-    std::shared_ptr<Engine> oeffne() const
+    std::shared_ptr<Engine> open() const
     {
-        if (istOdbc())
-            return oeffneOdbc(istPostgres() ? odbcText(adresse_) : odbcText(ordner_.path() / "test.qv"));
-        return istPostgres() ? oeffnePostgres(adresse_) : oeffneSqlite(ordner_.path() / "test.qv", true);
+        if (isOdbc())
+            return openOdbc(isPostgres() ? odbcText(address_) : odbcText(folder_.path() / "test.qv"));
+        return isPostgres() ? openPostgres(address_) : openSqlite(folder_.path() / "test.qv", true);
     }
 
-    static sql::Select select(std::string_view text) { return std::get<sql::Select>(sql::parseAnweisung(text)); }
+    static sql::Select select(std::string_view text) { return std::get<sql::Select>(sql::parseStatement(text)); }
 
     // The rows of a SELECT, columns divided by "|", Null as "Null".
-    std::vector<std::string> lies(std::string_view text) const { return zeilen(*engine_->lese(select(text), {})); }
+    std::vector<std::string> lies(std::string_view text) const { return rows(*engine_->read(select(text), {})); }
 
-    std::int64_t fuehreAus(std::string_view text) { return engine_->fuehreAus(sql::parseAnweisung(text)); }
+    std::int64_t execute(std::string_view text) { return engine_->execute(sql::parseStatement(text)); }
 
-    static std::vector<std::string> zeilen(Zeilenleser& leser)
+    static std::vector<std::string> rows(RowReader& reader)
     {
-        std::vector<std::string> zeilen;
-        while (leser.next()) {
-            std::string& zeile = zeilen.emplace_back();
-            for (std::size_t i = 0; i < leser.spalten().size(); ++i)
-                zeile += (i ? "|" : "") + (leser.istNull(i) ? "Null" : alsText(leser.wert(i)));
+        std::vector<std::string> rows;
+        while (reader.next()) {
+            std::string& row = rows.emplace_back();
+            for (std::size_t i = 0; i < reader.columns().size(); ++i)
+                row += (i ? "|" : "") + (reader.isNull(i) ? "Null" : asText(reader.value(i)));
         }
-        return zeilen;
+        return rows;
     }
 
     // A table "Tafel" with these columns; each row's values in their order.
-    void fuelle(std::vector<Spalte> spalten, const std::vector<std::vector<Value>>& zeilen,
-                std::vector<std::vector<IndexSpalte>> indexe = {})
+    void fill(std::vector<ColumnInfo> columns, const std::vector<std::vector<Value>>& rows,
+              std::vector<std::vector<IndexColumn>> indexes = {})
     {
-        const Tabellenschema tafel{"Tafel", std::move(spalten), std::move(indexe)};
-        engine_->legeTabelleAn(tafel);
-        const auto schreiber = engine_->massenschreiber("Tafel", tafel.spalten);
-        for (const auto& zeile : zeilen)
-            schreiber->zeile(zeile);
-        schreiber->beende();
-        engine_->legeIndexeAn(tafel);
+        const TableSchema panel{"Tafel", std::move(columns), std::move(indexes)};
+        engine_->createTable(panel);
+        const auto writer = engine_->bulkWriter("Tafel", panel.columns);
+        for (const auto& row : rows)
+            writer->row(row);
+        writer->end();
+        engine_->createIndexes(panel);
     }
 
     // One text column "Wort".
-    void fuelleWorte(const std::vector<Value>& worte)
+    void fillWords(const std::vector<Value>& words)
     {
-        std::vector<std::vector<Value>> zeilen;
-        for (const Value& wort : worte)
-            zeilen.push_back({wort});
-        fuelle({{"Wort", FeldTyp::Text}}, zeilen, {{{"Wort", false}}});
+        std::vector<std::vector<Value>> rows;
+        for (const Value& word : words)
+            rows.push_back({word});
+        fill({{"Wort", FieldType::Text}}, rows, {{{"Wort", false}}});
     }
 
-    TempFolder ordner_;
-    std::string adresse_;
+    TempFolder folder_;
+    std::string address_;
     std::shared_ptr<Engine> engine_;
 };
 
-inline const auto eigeneEngines = ::testing::Values("SQLite", "PostgreSQL");
+inline const auto ownEngines = ::testing::Values("SQLite", "PostgreSQL");
 // What the ODBC engine does otherwise (odbc_drivers.h names it) is skipped or told apart in the test concerned.
-inline const auto alleEngines = ::testing::Values("SQLite", "PostgreSQL", "OdbcSQLite", "OdbcPostgreSQL");
+inline const auto allEngines = ::testing::Values("SQLite", "PostgreSQL", "OdbcSQLite", "OdbcPostgreSQL");
 inline constexpr auto engineName = [](const auto& info) { return std::string(info.param); };
 
 } // namespace quelvarn::test

@@ -19,40 +19,40 @@ protected:
         EngineTest::SetUp();
         if (IsSkipped())
             return;
-        legeRegisterAn(*engine_);
-        for (const Tabellenschema& tabelle : registerschema())
-            fuelleTabelle(tabelle);
+        createRegister(*engine_);
+        for (const TableSchema& table : registerSchema())
+            fillTable(table);
     }
 
-    void fuelleTabelle(const Tabellenschema& tabelle)
+    void fillTable(const TableSchema& table)
     {
-        const auto schreiber = engine_->massenschreiber(tabelle.name, tabelle.spalten);
-        std::vector<Value> zeile(tabelle.spalten.size());
-        for (std::int64_t nummer = 0; nummer < 1500; ++nummer) {
-            for (std::size_t i = 0; i < zeile.size(); ++i) {
-                if (tabelle.spalten[i].typ == FeldTyp::Text)
-                    zeile[i] = fmt::format("W:\\Konstruktion\\{}-{}", tabelle.spalten[i].name, nummer * 7919 % 3001);
+        const auto writer = engine_->bulkWriter(table.name, table.columns);
+        std::vector<Value> row(table.columns.size());
+        for (std::int64_t number = 0; number < 1500; ++number) {
+            for (std::size_t i = 0; i < row.size(); ++i) {
+                if (table.columns[i].type == FieldType::Text)
+                    row[i] = fmt::format("W:\\Konstruktion\\{}-{}", table.columns[i].name, number * 7919 % 3001);
                 else
-                    zeile[i] = nummer % 97;
+                    row[i] = number % 97;
             }
-            schreiber->zeile(zeile);
+            writer->row(row);
         }
-        schreiber->beende();
+        writer->end();
     }
 
-    std::string plan(const std::string& text) const { return engine_->ausfuehrungsplan(select(text)); }
+    std::string plan(const std::string& text) const { return engine_->executionPlan(select(text)); }
 };
-INSTANTIATE_TEST_SUITE_P(, EngineIndex, eigeneEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(, EngineIndex, ownEngines, engineName);
 
 TEST_P(EngineIndex, LookUpsAreServedByTheirIndexes)
 {
-    struct Fall
+    struct TestCase
     {
-        const char* tabelle;
-        const char* bedingung;
+        const char* table;
+        const char* condition;
         const char* index;
     };
-    const Fall faelle[] = {
+    const TestCase cases[] = {
         {"PartTabelle", "filename = 'w:\\x.par'", "ix_PartTabelle_filename"},
         {"PartTabelle", "filename Like 'w:\\x.par'", "ix_PartTabelle_filename"},
         {"PartTabelle", "DokuBez Like 'FA%'", "ix_PartTabelle_DokuBez"},
@@ -74,25 +74,25 @@ TEST_P(EngineIndex, LookUpsAreServedByTheirIndexes)
         {"CheckInOut", "ADNutzer = 91 And RechnerNutzer = 'mm'", "ix_CheckInOut_ADNutzer"},
         {"Adresstabelle", "Kennung = 'x'", "ix_Adresstabelle_Kennung"},
     };
-    for (const Fall& fall : faelle)
-        EXPECT_THAT(plan(fmt::format("Select * From {} Where {}", fall.tabelle, fall.bedingung)),
-                    HasSubstr(fall.index));
+    for (const TestCase& testCase : cases)
+        EXPECT_THAT(plan(fmt::format("Select * From {} Where {}", testCase.table, testCase.condition)),
+                    HasSubstr(testCase.index));
 }
 
 TEST_P(EngineIndex, APatternOfAFilterThatBeginsWithTextIsARange)
 {
     for (const char* pattern : {"A[1]_x*", "A[1]", "20_50%*"})
         EXPECT_THAT(
-            engine_->ausfuehrungsplan(sql::Query("PartTabelle").where(sql::like("DokuBez", pattern, Wildcards::Star))),
+            engine_->executionPlan(sql::Query("PartTabelle").where(sql::like("DokuBez", pattern, Wildcards::Star))),
             HasSubstr("ix_PartTabelle_DokuBez"))
             << pattern;
 }
 
 TEST_P(EngineIndex, ListingComesSortedFromTheIndex)
 {
-    for (const char* bedingung : {"", "Where (Status = 0 Or Status = 3)"})
+    for (const char* condition : {"", "Where (Status = 0 Or Status = 3)"})
         EXPECT_THAT(
-            plan(fmt::format("Select DokuBez, RevBez From PartTabelle {} Order By DokuBez, RevBez Desc", bedingung)),
+            plan(fmt::format("Select DokuBez, RevBez From PartTabelle {} Order By DokuBez, RevBez Desc", condition)),
             AllOf(HasSubstr("ix_PartTabelle_DokuBez"), Not(HasSubstr("TEMP B-TREE")), Not(HasSubstr("Sort"))));
 }
 

@@ -14,25 +14,25 @@ using ::testing::UnorderedElementsAre;
 
 class EngineMeaning : public EngineTest
 {};
-INSTANTIATE_TEST_SUITE_P(, EngineMeaning, alleEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(, EngineMeaning, allEngines, engineName);
 
 TEST_P(EngineMeaning, ConditionsFindTheSameRowsOnEveryEngine)
 {
-    const std::vector<Value> worte{"Flansch", "FLANSCH ", "flansch  ", " Flansch", "Flanschring", "ÄRMEL",
+    const std::vector<Value> words{"Flansch", "FLANSCH ", "flansch  ", " Flansch", "Flanschring", "ÄRMEL",
                                    "ärmel",   "Ärmel ",   "Arm",       "Straße",   "STRASSE",     "50%",
                                    "a*b",     "O'Neill",  "C:\\Teil",  "",         " ",           "Ägypten",
                                    "łódź",    "ŁÓDŹ",     "πλ",        "a_b",      "a[b",         Value{}};
-    std::vector<std::vector<Value>> zeilen;
-    for (std::size_t i = 0; i < worte.size(); ++i)
-        zeilen.push_back({static_cast<std::int64_t>(i), worte[i]});
-    fuelle({{"Nr", FeldTyp::Ganzzahl}, {"Wort", FeldTyp::Text}}, zeilen);
+    std::vector<std::vector<Value>> rows;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        rows.push_back({static_cast<std::int64_t>(i), words[i]});
+    fill({{"Nr", FieldType::Integer}, {"Wort", FieldType::Text}}, rows);
 
-    struct Fall
+    struct TestCase
     {
-        const char* bedingung;
-        std::vector<std::string> nummern;
+        const char* condition;
+        std::vector<std::string> numbers;
     };
-    const Fall faelle[] = {
+    const TestCase cases[] = {
         {"Wort = 'flansch'", {"0", "1", "2"}},
         {"Wort = 'ärmel'", {"5", "6", "7"}},
         {"Wort = 'strasse'", {"9", "10"}},
@@ -64,84 +64,87 @@ TEST_P(EngineMeaning, ConditionsFindTheSameRowsOnEveryEngine)
         {"Nr >= 21 And Not (Wort Like 'a_b')", {}},
         {"Nr = 1 Or (Nr = 2 And Wort = 'x')", {"1"}},
     };
-    for (const Fall& fall : faelle)
-        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + fall.bedingung + " Order By Nr"), fall.nummern)
-            << fall.bedingung;
+    for (const TestCase& testCase : cases)
+        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + testCase.condition + " Order By Nr"),
+                  testCase.numbers)
+            << testCase.condition;
 }
 
 // What a filter or a search means by its pattern is the same in a statement.
 TEST_P(EngineMeaning, PatternsOfFiltersKnowOneWildcardAlone)
 {
-    const std::vector<Value> worte{"20_50",  "20x50", "A[1]", "A1",   "100%", "100 kg", "4*6", "4x6", "a\\b",
+    const std::vector<Value> words{"20_50",  "20x50", "A[1]", "A1",   "100%", "100 kg", "4*6", "4x6", "a\\b",
                                    "a\\\\b", "[",     "]",    "'a''", "#1!",  "?",      "51",  "",    Value{}};
-    std::vector<std::vector<Value>> zeilen;
-    for (std::size_t i = 0; i < worte.size(); ++i)
-        zeilen.push_back({static_cast<std::int64_t>(i), worte[i]});
-    fuelle({{"Nr", FeldTyp::Ganzzahl}, {"Wort", FeldTyp::Text}}, zeilen, {{{"Wort", false}}});
+    std::vector<std::vector<Value>> rows;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        rows.push_back({static_cast<std::int64_t>(i), words[i]});
+    fill({{"Nr", FieldType::Integer}, {"Wort", FieldType::Text}}, rows, {{{"Wort", false}}});
     for (const Wildcards wildcards : {Wildcards::Star, Wildcards::Percent}) {
-        for (const char* muster :
+        for (const char* pattern :
              {"20_50", "20_*", "20_%", "a[1]", "A[*",  "A[%", "100%", "100*", "*[*",  "%[%", "*]*", "4*6",
               "4%6",   "A\\B", "*\\*", "%\\%", "'A''", "*'*", "#*",   "?",    "[!a]", "*",   "%"}) {
-            std::vector<std::string> erwartet;
-            for (std::size_t i = 0; i < worte.size(); ++i)
-                if (!istNull(worte[i]) && LikePattern(muster, wildcards).matches(alsText(worte[i])))
-                    erwartet.push_back(std::to_string(i));
-            const auto gefragt = engine_->lese(
-                sql::Query("Tafel").columns({"Nr"}).where(sql::like("Wort", muster, wildcards)).sortedBy("Nr"), {});
-            EXPECT_EQ(EngineTest::zeilen(*gefragt), erwartet) << muster;
+            std::vector<std::string> expected;
+            for (std::size_t i = 0; i < words.size(); ++i)
+                if (!isNull(words[i]) && LikePattern(pattern, wildcards).matches(asText(words[i])))
+                    expected.push_back(std::to_string(i));
+            const auto asked = engine_->read(
+                sql::Query("Tafel").columns({"Nr"}).where(sql::like("Wort", pattern, wildcards)).sortedBy("Nr"), {});
+            EXPECT_EQ(EngineTest::rows(*asked), expected) << pattern;
         }
     }
 }
 
 TEST_P(EngineMeaning, DistinctTakesOneOfEqualTexts)
 {
-    if (!engine_->faehigkeiten().distinctBlind)
+    if (!engine_->capabilities().distinctBlind)
         GTEST_SKIP() << "this engine leaves equal texts of different case to the caller";
-    fuelleWorte({"Welle", "WELLE", "welle ", "Öl", "öl", Value{}, Value{}, ""});
-    std::vector<std::string> worte = lies("Select Distinct Wort From Tafel");
-    for (std::string& wort : worte)
-        wort = sortKey(wort);
-    EXPECT_THAT(worte, UnorderedElementsAre("welle", sortKey("Öl"), "null", ""));
+    fillWords({"Welle", "WELLE", "welle ", "Öl", "öl", Value{}, Value{}, ""});
+    std::vector<std::string> words = lies("Select Distinct Wort From Tafel");
+    for (std::string& word : words)
+        word = sortKey(word);
+    EXPECT_THAT(words, UnorderedElementsAre("welle", sortKey("Öl"), "null", ""));
 }
 
 TEST_P(EngineMeaning, OrderPutsNullFirstAndFollowsTheSortKeys)
 {
-    const std::vector<std::string> inOrdnung{"",    "_a",    "-b",  "1",     "12",  "2",
-                                             "Arm", "Ärmel", "Arz", "Zange", "łuk", "Ω"};
-    std::vector<Value> worte(inOrdnung.rbegin(), inOrdnung.rend());
-    worte.insert(worte.begin() + 3, Value{});
-    fuelleWorte(worte);
+    const std::vector<std::string> inOrder{"", "_a", "-b", "1", "12", "2", "Arm", "Ärmel", "Arz", "Zange", "łuk", "Ω"};
+    std::vector<Value> words(inOrder.rbegin(), inOrder.rend());
+    words.insert(words.begin() + 3, Value{});
+    fillWords(words);
 
-    std::vector<std::string> erwartet = inOrdnung;
-    std::ranges::sort(erwartet, {}, sortKey);
-    erwartet.insert(erwartet.begin(), "Null");
-    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort"), erwartet);
-    std::ranges::reverse(erwartet);
-    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort Desc"), erwartet);
+    std::vector<std::string> expected = inOrder;
+    std::ranges::sort(expected, {}, sortKey);
+    expected.insert(expected.begin(), "Null");
+    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort"), expected);
+    std::ranges::reverse(expected);
+    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort Desc"), expected);
 }
 
 TEST_P(EngineMeaning, NewestRevisionComesFirstAndNullRevisionLast)
 {
-    fuelle({{"DokuBez", FeldTyp::Text}, {"RevBez", FeldTyp::Text}},
-           {{"b", "A"}, {"A ", "0"}, {"a", Value{}}, {"a", "B"}, {Value{}, "C"}, {"B", "b"}});
+    fill({{"DokuBez", FieldType::Text}, {"RevBez", FieldType::Text}},
+         {{"b", "A"}, {"A ", "0"}, {"a", Value{}}, {"a", "B"}, {Value{}, "C"}, {"B", "b"}});
     EXPECT_THAT(lies("Select DokuBez, RevBez From Tafel Order By DokuBez, RevBez Desc"),
                 ElementsAre("Null|C", "a|B", "A |0", "a|Null", "B|b", "b|A"));
 }
 
 TEST_P(EngineMeaning, DatesAndNumbersCompareByValueWhateverTheyAreComparedWith)
 {
-    const auto am = [](int jahr, int monat, int tag, int stunde) {
-        return Zeitpunkt::aus({jahr, monat, tag, stunde, 30, 15});
+    const auto at = [](int year, int month, int day, int hour) {
+        return DateTime::out({year, month, day, hour, 30, 15});
     };
-    fuelle({{"Nr", FeldTyp::Ganzzahl}, {"Tag", FeldTyp::Datum}, {"Zahl", FeldTyp::Gleitkomma}, {"Wort", FeldTyp::Text}},
-           {{1, am(1899, 12, 29, 6), -0.5, "1,5"},
-            {2, am(2006, 3, 7, 0), 1e300, "2,5"},
-            {3, am(2006, 3, 7, 23), 12.5, "drei"},
-            {4, am(9999, 12, 31, 23), 0.0, ""},
-            {5, Value{}, Value{}, Value{}}});
-    EXPECT_EQ(fuehreAus("Insert Into Tafel (Nr, Tag, Zahl, Wort) Values ('6', '15.11.26', 2, 7)"), 1);
+    fill({{"Nr", FieldType::Integer},
+          {"Tag", FieldType::Date},
+          {"Zahl", FieldType::FloatingPoint},
+          {"Wort", FieldType::Text}},
+         {{1, at(1899, 12, 29, 6), -0.5, "1,5"},
+          {2, at(2006, 3, 7, 0), 1e300, "2,5"},
+          {3, at(2006, 3, 7, 23), 12.5, "drei"},
+          {4, at(9999, 12, 31, 23), 0.0, ""},
+          {5, Value{}, Value{}, Value{}}});
+    EXPECT_EQ(execute("Insert Into Tafel (Nr, Tag, Zahl, Wort) Values ('6', '15.11.26', 2, 7)"), 1);
 
-    const std::pair<const char*, std::vector<std::string>> faelle[] = {
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"Tag >= #03/07/06 00:00:00# And Tag <= #03/07/06 23:59:59# Order By Nr", {"2", "3"}},
         {"Tag < #01/01/2000# Order By Tag", {"1"}},
         {"Tag = #11/15/26#", {"6"}},
@@ -161,8 +164,8 @@ TEST_P(EngineMeaning, DatesAndNumbersCompareByValueWhateverTheyAreComparedWith)
         {"Wort = 7", {"6"}},
         {"(Nr = 1 Or Nr = 2) And Not (Nr = 2 And Wort Is Null) Order By Nr", {"1", "2"}},
     };
-    for (const auto& [bedingung, nummern] : faelle)
-        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + bedingung), nummern) << bedingung;
+    for (const auto& [condition, numbers] : cases)
+        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + condition), numbers) << condition;
     EXPECT_THAT(lies("Select Count(*) From Tafel Where Nr < 3"), ElementsAre("2"));
 }
 

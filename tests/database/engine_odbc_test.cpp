@@ -23,12 +23,12 @@ using ::testing::UnorderedElementsAre;
 class EngineOdbc : public EngineTest
 {
 protected:
-    std::vector<Zeilenschluessel> schluessel()
+    std::vector<RowKey> key()
     {
-        std::vector<Zeilenschluessel> alle;
-        for (const auto leser = engine_->lese(select("Select Nr From Tafel"), MitSchluessel::Ja); leser->next();)
-            alle.push_back(leser->schluessel());
-        return alle;
+        std::vector<RowKey> all;
+        for (const auto reader = engine_->read(select("Select Nr From Tafel"), WithKey::Yes); reader->next();)
+            all.push_back(reader->key());
+        return all;
     }
 };
 INSTANTIATE_TEST_SUITE_P(, EngineOdbc, ::testing::Values("OdbcSQLite", "OdbcPostgreSQL"), engineName);
@@ -36,66 +36,76 @@ INSTANTIATE_TEST_SUITE_P(, EngineOdbc, ::testing::Values("OdbcSQLite", "OdbcPost
 // Each row differs from another in one cell alone, in a way that an equality of the program would pass over.
 TEST_P(EngineOdbc, ARowWithoutAKeyIsHitAloneOrNotAtAll)
 {
-    const Value tag = Zeitpunkt::aus({2006, 3, 7, 13, 59, 1});
-    const Value spaeter = Zeitpunkt::aus({2006, 3, 7, 13, 59, 4});
-    const std::string lang = std::string(3000, 'x') + "ä";
-    const std::vector<std::vector<Value>> zeilen{
-        {"Welle", "kurz", 1, 0.1, tag},     {"WELLE", "kurz", 1, 0.1, tag},     {"Welle ", "kurz", 1, 0.1, tag},
-        {"Welle", Value{}, 1, 0.1, tag},    {"Welle", "", 1, 0.1, tag},         {"Welle", lang, 1, 0.1, tag},
-        {"Welle", lang + " ", 1, 0.1, tag}, {"Welle", "kurz", 2, 0.1, tag},     {"Welle", "kurz", Value{}, 0.1, tag},
-        {"Welle", "kurz", 1, 0.11, tag},    {"Welle", "kurz", 1, Value{}, tag}, {"Welle", "kurz", 1, 0.1, spaeter},
-        {"Welle", "kurz", 1, 0.1, Value{}}, {"doppelt", "", 3, 1.0, tag},       {"doppelt", "", 3, 1.0, tag},
+    const Value day = DateTime::out({2006, 3, 7, 13, 59, 1});
+    const Value later = DateTime::out({2006, 3, 7, 13, 59, 4});
+    const std::string longText = std::string(3000, 'x') + "ä";
+    const std::vector<std::vector<Value>> rows{
+        {"Welle", "kurz", 1, 0.1, day},
+        {"WELLE", "kurz", 1, 0.1, day},
+        {"Welle ", "kurz", 1, 0.1, day},
+        {"Welle", Value{}, 1, 0.1, day},
+        {"Welle", "", 1, 0.1, day},
+        {"Welle", longText, 1, 0.1, day},
+        {"Welle", longText + " ", 1, 0.1, day},
+        {"Welle", "kurz", 2, 0.1, day},
+        {"Welle", "kurz", Value{}, 0.1, day},
+        {"Welle", "kurz", 1, 0.11, day},
+        {"Welle", "kurz", 1, Value{}, day},
+        {"Welle", "kurz", 1, 0.1, later},
+        {"Welle", "kurz", 1, 0.1, Value{}},
+        {"doppelt", "", 3, 1.0, day},
+        {"doppelt", "", 3, 1.0, day},
     };
-    fuelle({{"Wort", FeldTyp::Text},
-            {"Notiz", FeldTyp::Text},
-            {"Nr", FeldTyp::Ganzzahl},
-            {"Zahl", FeldTyp::Gleitkomma},
-            {"Tag", FeldTyp::Datum}},
-           zeilen);
-    const std::vector<Zeilenschluessel> alle = schluessel();
-    ASSERT_EQ(alle.size(), zeilen.size());
-    EXPECT_EQ(schluessel(), alle) << "the same rows have the same keys again";
-    const sql::Zuweisung neu[] = {{"Nr", std::int64_t{50}}, {"Notiz", Value{}}};
-    for (std::size_t i = 0; i + 2 < alle.size(); ++i) {
-        EXPECT_TRUE(engine_->aendere("Tafel", alle[i], neu)) << i;
+    fill({{"Wort", FieldType::Text},
+          {"Notiz", FieldType::Text},
+          {"Nr", FieldType::Integer},
+          {"Zahl", FieldType::FloatingPoint},
+          {"Tag", FieldType::Date}},
+         rows);
+    const std::vector<RowKey> all = key();
+    ASSERT_EQ(all.size(), rows.size());
+    EXPECT_EQ(key(), all) << "the same rows have the same keys again";
+    const sql::Assignment fresh[] = {{"Nr", std::int64_t{50}}, {"Notiz", Value{}}};
+    for (std::size_t i = 0; i + 2 < all.size(); ++i) {
+        EXPECT_TRUE(engine_->update("Tafel", all[i], fresh)) << i;
         EXPECT_THAT(lies("Select Count(*) From Tafel Where Nr = 50"), ElementsAre("1")) << i;
-        EXPECT_TRUE(engine_->loesche("Tafel", alle[i])) << i;
-        EXPECT_FALSE(engine_->loesche("Tafel", alle[i])) << i;
-        EXPECT_THAT(lies("Select Count(*) From Tafel"), ElementsAre(std::to_string(alle.size() - 1 - i)));
+        EXPECT_TRUE(engine_->remove("Tafel", all[i])) << i;
+        EXPECT_FALSE(engine_->remove("Tafel", all[i])) << i;
+        EXPECT_THAT(lies("Select Count(*) From Tafel"), ElementsAre(std::to_string(all.size() - 1 - i)));
     }
-    for (const Zeilenschluessel doppelt : {alle.back(), alle[alle.size() - 2]}) {
-        EXPECT_THROW(engine_->loesche("Tafel", doppelt), Laufzeitfehler);
-        EXPECT_THROW(engine_->aendere("Tafel", doppelt, neu), Laufzeitfehler);
+    for (const RowKey twice : {all.back(), all[all.size() - 2]}) {
+        EXPECT_THROW(engine_->remove("Tafel", twice), RuntimeError);
+        EXPECT_THROW(engine_->update("Tafel", twice, fresh), RuntimeError);
     }
     EXPECT_THAT(lies("Select Wort, Nr From Tafel"), ElementsAre("doppelt|3", "doppelt|3"));
 }
 
 TEST_P(EngineOdbc, WhatAnotherProgramChangedIsNotWrittenOver)
 {
-    fuelle({{"Wort", FeldTyp::Text}, {"Nr", FeldTyp::Ganzzahl}}, {{"a", 1}, {"b", 2}, {"c", 3}, {"d", 4}, {"e", 5}});
-    const std::vector<Zeilenschluessel> alle = schluessel();
-    const auto zweite = oeffne();
-    zweite->fuehreAus(sql::parseAnweisung("Update Tafel Set Nr = 20 Where Wort = 'b'"));
-    const sql::Zuweisung neu[] = {{"Nr", std::int64_t{50}}};
-    EXPECT_FALSE(engine_->aendere("Tafel", alle[1], neu));
-    EXPECT_FALSE(engine_->loesche("Tafel", alle[1]));
+    fill({{"Wort", FieldType::Text}, {"Nr", FieldType::Integer}}, {{"a", 1}, {"b", 2}, {"c", 3}, {"d", 4}, {"e", 5}});
+    const std::vector<RowKey> all = key();
+    const auto second = open();
+    second->execute(sql::parseStatement("Update Tafel Set Nr = 20 Where Wort = 'b'"));
+    const sql::Assignment fresh[] = {{"Nr", std::int64_t{50}}};
+    EXPECT_FALSE(engine_->update("Tafel", all[1], fresh));
+    EXPECT_FALSE(engine_->remove("Tafel", all[1]));
     EXPECT_THAT(lies("Select Nr From Tafel Where Wort = 'b'"), ElementsAre("20"));
 
-    const std::string spalten[] = {"Nr", "Wort"};
-    EXPECT_THAT(zeilen(*engine_->leseZeilen("Tafel", spalten, alle)), UnorderedElementsAre("1|a", "3|c", "4|d", "5|e"));
+    const std::string columns[] = {"Nr", "Wort"};
+    EXPECT_THAT(rows(*engine_->readRows("Tafel", columns, all)), UnorderedElementsAre("1|a", "3|c", "4|d", "5|e"));
 }
 
 TEST_P(EngineOdbc, ANewRowIsWrittenAgainByItsKey)
 {
-    fuelle({{"Wort", FeldTyp::Text}, {"Nr", FeldTyp::Ganzzahl}}, {{"a", 1}});
-    Connection verbindung(engine_);
+    fill({{"Wort", FieldType::Text}, {"Nr", FieldType::Integer}}, {{"a", 1}});
+    Connection connection(engine_);
     Recordset rs;
-    rs.Open("Select * From Tafel Order By Wort", verbindung, CursorTyp::Statisch, SperrTyp::Optimistisch);
+    rs.Open("Select * From Tafel Order By Wort", connection, CursorType::Static, LockType::Optimistic);
     rs.AddNew();
-    rs.setzeFeld("Wort", "neu");
+    rs.setField("Wort", "neu");
     rs.Update();
-    for (std::int64_t nummer = 7; nummer < 10; ++nummer) {
-        rs.setzeFeld("Nr", nummer);
+    for (std::int64_t number = 7; number < 10; ++number) {
+        rs.setField("Nr", number);
         rs.Update();
     }
     EXPECT_THAT(lies("Select Wort, Nr From Tafel Order By Wort"), ElementsAre("a|1", "neu|9"));
@@ -105,25 +115,25 @@ TEST_P(EngineOdbc, ANewRowIsWrittenAgainByItsKey)
 
 TEST_P(EngineOdbc, AChangeTakenBackLeavesTheKeysGood)
 {
-    fuelle({{"Wort", FeldTyp::Text}, {"Nr", FeldTyp::Ganzzahl}}, {{"a", 1}, {"b", 2}, {"c", 3}});
-    const std::vector<Zeilenschluessel> alle = schluessel();
-    const sql::Zuweisung neu[] = {{"Nr", std::int64_t{50}}};
-    const sql::Zuweisung neuer[] = {{"Nr", std::int64_t{60}}};
-    engine_->beginne();
-    EXPECT_TRUE(engine_->aendere("Tafel", alle[0], neu));
-    engine_->beginne();
-    EXPECT_TRUE(engine_->aendere("Tafel", alle[0], neuer));
-    EXPECT_TRUE(engine_->loesche("Tafel", alle[1]));
-    engine_->nimmZurueck();
-    EXPECT_TRUE(engine_->loesche("Tafel", alle[1]));
-    engine_->schliesseAb();
+    fill({{"Wort", FieldType::Text}, {"Nr", FieldType::Integer}}, {{"a", 1}, {"b", 2}, {"c", 3}});
+    const std::vector<RowKey> all = key();
+    const sql::Assignment fresh[] = {{"Nr", std::int64_t{50}}};
+    const sql::Assignment other[] = {{"Nr", std::int64_t{60}}};
+    engine_->begin();
+    EXPECT_TRUE(engine_->update("Tafel", all[0], fresh));
+    engine_->begin();
+    EXPECT_TRUE(engine_->update("Tafel", all[0], other));
+    EXPECT_TRUE(engine_->remove("Tafel", all[1]));
+    engine_->rollBack();
+    EXPECT_TRUE(engine_->remove("Tafel", all[1]));
+    engine_->commit();
     EXPECT_THAT(lies("Select Wort, Nr From Tafel"), UnorderedElementsAre("a|50", "c|3"));
-    engine_->beginne();
-    EXPECT_TRUE(engine_->loesche("Tafel", alle[0]));
-    EXPECT_TRUE(engine_->aendere("Tafel", alle[2], neu));
-    engine_->nimmZurueck();
-    EXPECT_TRUE(engine_->aendere("Tafel", alle[0], neuer));
-    EXPECT_TRUE(engine_->loesche("Tafel", alle[2]));
+    engine_->begin();
+    EXPECT_TRUE(engine_->remove("Tafel", all[0]));
+    EXPECT_TRUE(engine_->update("Tafel", all[2], fresh));
+    engine_->rollBack();
+    EXPECT_TRUE(engine_->update("Tafel", all[0], other));
+    EXPECT_TRUE(engine_->remove("Tafel", all[2]));
     EXPECT_THAT(lies("Select Wort, Nr From Tafel"), ElementsAre("a|60"));
 }
 
@@ -133,80 +143,80 @@ const std::filesystem::path PROBE = QUELVARN_TEST_DATA "/werk-a.mdb";
 // Null reads as an empty text or the other way round. What it can do shows that the Access dialect meets a real file.
 TEST(EngineAccess, ReadsARealFileThroughTheDriverOfMdbtools)
 {
-    if (!hatOdbcTreiber(ODBC_TREIBER_MDB))
+    if (!hasOdbcDriver(ODBC_DRIVER_MDB))
         GTEST_SKIP() << "the ODBC driver of mdbtools is not here";
-    const auto engine = oeffneOdbc("DRIVER={" + std::string(ODBC_TREIBER_MDB) + "};DBQ=" + treiberPfad(PROBE));
+    const auto engine = openOdbc("DRIVER={" + std::string(ODBC_DRIVER_MDB) + "};DBQ=" + driverPath(PROBE));
     EXPECT_EQ(engine->name(), "Access");
-    EXPECT_EQ(engine->tabellen().size(), 25U);
-    const auto tabelle = engine->findTabelle("PARTTABELLE");
-    ASSERT_TRUE(tabelle);
-    const auto typ = [&](std::string_view name) {
-        return std::ranges::find(tabelle->spalten, name, &Spalte::name)->typ;
+    EXPECT_EQ(engine->tables().size(), 25U);
+    const auto table = engine->findTable("PARTTABELLE");
+    ASSERT_TRUE(table);
+    const auto type = [&](std::string_view name) {
+        return std::ranges::find(table->columns, name, &ColumnInfo::name)->type;
     };
-    EXPECT_EQ(typ("DokuBez"), FeldTyp::Text);
-    EXPECT_EQ(typ("Status"), FeldTyp::Ganzzahl);
-    EXPECT_EQ(typ("Erstellt"), FeldTyp::Datum);
+    EXPECT_EQ(type("DokuBez"), FieldType::Text);
+    EXPECT_EQ(type("Status"), FieldType::Integer);
+    EXPECT_EQ(type("Erstellt"), FieldType::Date);
 
-    Connection verbindung(engine);
+    Connection connection(engine);
     Recordset rs;
-    rs.Open("Select * From PartTabelle", verbindung);
+    rs.Open("Select * From PartTabelle", connection);
     EXPECT_EQ(rs.RecordCount(), 1402U);
     rs.Filter("DokuBez = 'FA-1280-413'");
     ASSERT_GE(rs.RecordCount(), 1U);
-    EXPECT_EQ(rs.Feld("Erstellt"), Value(Zeitpunkt::aus({1998, 1, 12, 14, 26, 42})));
-    rs.Open("Select Feld4 From Ini", verbindung);
+    EXPECT_EQ(rs.field("Erstellt"), Value(DateTime::out({1998, 1, 12, 14, 26, 42})));
+    rs.Open("Select Feld4 From Ini", connection);
     rs.Filter("Feld4 = 'Geändert am'");
     EXPECT_EQ(rs.RecordCount(), 1U);
-    rs.Open("Select DokuBez From PartTabelle Where Status = 3", verbindung);
+    rs.Open("Select DokuBez From PartTabelle Where Status = 3", connection);
     EXPECT_GT(rs.RecordCount(), 0U);
     EXPECT_LT(rs.RecordCount(), 1402U);
     // With row keys, which take every column of the table.
-    rs.Open("Select DokuBez, RevBez, Status From PartTabelle", verbindung, CursorTyp::Statisch, SperrTyp::Optimistisch);
+    rs.Open("Select DokuBez, RevBez, Status From PartTabelle", connection, CursorType::Static, LockType::Optimistic);
     EXPECT_EQ(rs.RecordCount(), 1402U);
-    EXPECT_THROW(engine->legeTabelleAn({"Neu", {{"x"}}, {}}), Laufzeitfehler);
+    EXPECT_THROW(engine->createTable({"Neu", {{"x"}}, {}}), RuntimeError);
 }
 
 // Runs as an entry of its own in ctest, where the driver of mdbtools bears that name.
 TEST(EngineAccess, OpensInPlaceWhereADriverOfItsNameIsInstalled)
 {
-    if (!hatOdbcTreiber(ODBC_TREIBER_ACCESS))
+    if (!hasOdbcDriver(ODBC_DRIVER_ACCESS))
         GTEST_SKIP() << "no ODBC driver bears the name of that of Access";
-    Connection verbindung;
-    verbindung.Open(PROBE);
-    EXPECT_EQ(verbindung.engine().name(), "Access");
+    Connection connection;
+    connection.Open(PROBE);
+    EXPECT_EQ(connection.engine().name(), "Access");
     Recordset rs;
-    rs.Open("Select * From Ini", verbindung);
+    rs.Open("Select * From Ini", connection);
     EXPECT_EQ(rs.RecordCount(), 210U);
 }
 
 // The Access file is shared with other programs: a lock is waited for a moment, then told.
 TEST(EngineAccess, ALockOfAnotherProgramIsWaitedForAndThenTold)
 {
-    if (!hatOdbcTreiber(ODBC_TREIBER_SQLITE))
+    if (!hasOdbcDriver(ODBC_DRIVER_SQLITE))
         GTEST_SKIP() << "the ODBC driver of SQLite is not installed";
-    const TempFolder ordner;
-    const auto anderes = oeffneSqlite(ordner / "test.qv", true);
-    anderes->legeTabelleAn({"Tafel", {{"Wort"}}, {}});
-    const auto engine = oeffneOdbc(odbcText(ordner / "test.qv", 1));
-    const sql::Zuweisung werte[] = {{"Wort", "x"}};
-    anderes->beginne();
-    anderes->fuegeEin("Tafel", werte);
+    const TempFolder folder;
+    const auto other = openSqlite(folder / "test.qv", true);
+    other->createTable({"Tafel", {{"Wort"}}, {}});
+    const auto engine = openOdbc(odbcText(folder / "test.qv", 1));
+    const sql::Assignment values[] = {{"Wort", "x"}};
+    other->begin();
+    other->insert("Tafel", values);
     {
-        const std::jthread freigabe([&] {
+        const std::jthread release([&] {
             std::this_thread::sleep_for(std::chrono::milliseconds(150));
-            anderes->schliesseAb();
+            other->commit();
         });
-        EXPECT_NO_THROW(engine->fuegeEin("Tafel", werte));
+        EXPECT_NO_THROW(engine->insert("Tafel", values));
     }
-    anderes->beginne();
-    anderes->fuegeEin("Tafel", werte);
+    other->begin();
+    other->insert("Tafel", values);
     try {
-        engine->fuegeEin("Tafel", werte);
+        engine->insert("Tafel", values);
         ADD_FAILURE();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_THAT(fehler.beschreibung(), HasSubstr("durch ein anderes Programm gesperrt"));
+    } catch (const RuntimeError& fault) {
+        EXPECT_THAT(fault.description(), HasSubstr("durch ein anderes Programm gesperrt"));
     }
-    anderes->nimmZurueck();
+    other->rollBack();
 }
 
 #ifndef QUELVARN_NO_ODBC
@@ -231,8 +241,8 @@ TEST(EngineAccess, FaultsAreToldInGermanByTheirNumberOrState)
     for (const auto& [failure, kind, sentence] : cases) {
         const DatabaseFault fault = faultOf(failure, {"Access", "W:\\werk.mdb"});
         EXPECT_EQ(fault.kind(), kind) << failure.words;
-        EXPECT_EQ(fault.beschreibung(), std::string(sentence) + "\nW:\\werk.mdb\n" + failure.words);
-        EXPECT_EQ(fault.nummer(), failure.sqlstate == "42000" ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN);
+        EXPECT_EQ(fault.description(), std::string(sentence) + "\nW:\\werk.mdb\n" + failure.words);
+        EXPECT_EQ(fault.number(), failure.sqlstate == "42000" ? FAULT_STATEMENT : FAULT_GENERAL);
     }
     EXPECT_EQ(faultOf({"HY000", 11, "malformed"}, {"SQLite", ""}).kind(), FaultKind::Damaged);
 }
@@ -240,14 +250,14 @@ TEST(EngineAccess, FaultsAreToldInGermanByTheirNumberOrState)
 
 TEST(EngineAccess, FaultsOfADriverAreTold)
 {
-    if (!hatOdbcTreiber(ODBC_TREIBER_SQLITE))
+    if (!hasOdbcDriver(ODBC_DRIVER_SQLITE))
         GTEST_SKIP() << "no ODBC here";
     try {
-        oeffneOdbc("DRIVER={Den gibt es nicht}");
+        openOdbc("DRIVER={Den gibt es nicht}");
         ADD_FAILURE();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.quelle(), "ODBC");
-        EXPECT_THAT(fehler.beschreibung(), HasSubstr("Driver Manager"));
+    } catch (const RuntimeError& fault) {
+        EXPECT_EQ(fault.source(), "ODBC");
+        EXPECT_THAT(fault.description(), HasSubstr("Driver Manager"));
     }
 }
 

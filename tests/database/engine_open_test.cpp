@@ -16,12 +16,12 @@ namespace {
 
 using ::testing::HasSubstr;
 
-std::string fehlertext(const std::function<void()>& aufruf)
+std::string faultText(const std::function<void()>& call)
 {
     try {
-        aufruf();
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler.beschreibung();
+        call();
+    } catch (const RuntimeError& fault) {
+        return fault.description();
     }
     return "no fault";
 }
@@ -29,87 +29,88 @@ std::string fehlertext(const std::function<void()>& aufruf)
 TEST(DatabaseFile, IsToldByItsFirstBytes)
 {
     using namespace std::string_literals;
-    const TempFolder ordner;
-    struct Fall
+    const TempFolder folder;
+    struct TestCase
     {
-        std::string inhalt;
-        DatenbankArt art;
-        ::testing::Matcher<std::string> fehler; // On opening.
+        std::string content;
+        DatabaseKind kind;
+        ::testing::Matcher<std::string> fault; // On opening.
     };
-    const bool hatAccess = hatOdbcTreiber(ODBC_TREIBER_ACCESS);
-    const ::testing::Matcher<std::string> access = HasSubstr(hatAccess ? "Der ODBC-Treiber" : "Treiber für Access");
-    const Fall faelle[] = {
-        {"\0\1\0\0Standard Jet DB\0\1"s, DatenbankArt::Access, access},
-        {"\0\1\0\0Standard ACE DB\0\2"s, DatenbankArt::Access, access},
-        {"\xEF\xBB\xBFPostgreSQL://127.0.0.1:1/qv \r\nzweite Zeile", DatenbankArt::PostgreSQL, HasSubstr("PostgreSQL")},
-        {"postgres://127.0.0.1:1/qv", DatenbankArt::PostgreSQL, HasSubstr("PostgreSQL")},
-        {"", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
-        {"\0\1\0\0Standard", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
-        {"Notiz: postgresql://x", DatenbankArt::Unbekannt, HasSubstr("ist keine Datenbank dieses Programms.")},
-        {"SQLite format 3\0"s + std::string(5000, '\x7'), DatenbankArt::SQLite,
+    const bool hasAccess = hasOdbcDriver(ODBC_DRIVER_ACCESS);
+    const ::testing::Matcher<std::string> access = HasSubstr(hasAccess ? "Der ODBC-Treiber" : "Treiber für Access");
+    const TestCase cases[] = {
+        {"\0\1\0\0Standard Jet DB\0\1"s, DatabaseKind::Access, access},
+        {"\0\1\0\0Standard ACE DB\0\2"s, DatabaseKind::Access, access},
+        {"\xEF\xBB\xBFPostgreSQL://127.0.0.1:1/qv \r\nzweite Zeile", DatabaseKind::PostgreSQL, HasSubstr("PostgreSQL")},
+        {"postgres://127.0.0.1:1/qv", DatabaseKind::PostgreSQL, HasSubstr("PostgreSQL")},
+        {"", DatabaseKind::Unknown, HasSubstr("ist keine Datenbank dieses Programms.")},
+        {"\0\1\0\0Standard", DatabaseKind::Unknown, HasSubstr("ist keine Datenbank dieses Programms.")},
+        {"Notiz: postgresql://x", DatabaseKind::Unknown, HasSubstr("ist keine Datenbank dieses Programms.")},
+        {"SQLite format 3\0"s + std::string(5000, '\x7'), DatabaseKind::SQLite,
          HasSubstr("Die Datenbank ist beschädigt.")},
     };
-    for (const Fall& fall : faelle) {
-        const auto pfad = ordner / "Prüfung.mdb";
-        std::ofstream(pfad, std::ios::binary) << fall.inhalt;
-        EXPECT_EQ(erkenneDatenbank(pfad), fall.art) << fall.inhalt;
-        EXPECT_THAT(fehlertext([&] { Connection().Open(pfad); }), fall.fehler) << fall.inhalt;
+    for (const TestCase& testCase : cases) {
+        const auto documentPath = folder / "Prüfung.mdb";
+        std::ofstream(documentPath, std::ios::binary) << testCase.content;
+        EXPECT_EQ(recognizeDatabase(documentPath), testCase.kind) << testCase.content;
+        EXPECT_THAT(faultText([&] { Connection().Open(documentPath); }), testCase.fault) << testCase.content;
     }
-    EXPECT_THAT(fehlertext([&] { erkenneDatenbank(ordner / "fehlt.mdb"); }), HasSubstr("wurde nicht gefunden"));
-    EXPECT_THAT(fehlertext([&] { erkenneDatenbank(ordner.path()); }), HasSubstr("kann nicht gelesen werden"));
+    EXPECT_THAT(faultText([&] { recognizeDatabase(folder / "fehlt.mdb"); }), HasSubstr("wurde nicht gefunden"));
+    EXPECT_THAT(faultText([&] { recognizeDatabase(folder.path()); }), HasSubstr("kann nicht gelesen werden"));
 }
 
 TEST(DatabaseFile, ConnectionExecutesChangesButNoQueries)
 {
-    const TempFolder ordner;
-    const auto pfad = ordner / "register.qv";
-    legeRegisterAn(*oeffneSqlite(pfad, true));
+    const TempFolder folder;
+    const auto documentPath = folder / "register.qv";
+    createRegister(*openSqlite(documentPath, true));
 
-    Connection verbindung;
-    EXPECT_THAT(fehlertext([&] { verbindung.Execute("Delete From Ini"); }), HasSubstr("nicht geöffnet"));
-    verbindung.OpenAdresse(utf8FromPath(pfad));
-    EXPECT_EQ(verbindung.Execute("Insert Into Ini (Feld1, Feld2) Values ('mm', 'Plot')"), 1);
+    Connection connection;
+    EXPECT_THAT(faultText([&] { connection.Execute("Delete From Ini"); }), HasSubstr("nicht geöffnet"));
+    connection.openAddress(utf8FromPath(documentPath));
+    EXPECT_EQ(connection.Execute("Insert Into Ini (Feld1, Feld2) Values ('mm', 'Plot')"), 1);
     {
-        Transaktion verworfen(verbindung);
-        EXPECT_EQ(verbindung.Execute("Delete From Ini"), 1);
+        Transaction discarded(connection);
+        EXPECT_EQ(connection.Execute("Delete From Ini"), 1);
     }
     {
-        Transaktion gueltig(verbindung);
-        EXPECT_EQ(verbindung.Execute("Update Ini Set Feld3 = 'x' Where Feld1 = 'MM'"), 1);
-        gueltig.schliesseAb();
+        Transaction valid(connection);
+        EXPECT_EQ(connection.Execute("Update Ini Set Feld3 = 'x' Where Feld1 = 'MM'"), 1);
+        valid.commit();
     }
-    EXPECT_EQ(verbindung.Execute("Delete From Ini Where Feld3 = 'x'"), 1);
-    EXPECT_NE(fehlertext([&] { verbindung.Execute("Select * From Ini"); }), "no fault");
-    EXPECT_NE(fehlertext([&] { verbindung.Execute("Delete From Ini; Delete From Ini"); }), "no fault");
+    EXPECT_EQ(connection.Execute("Delete From Ini Where Feld3 = 'x'"), 1);
+    EXPECT_NE(faultText([&] { connection.Execute("Select * From Ini"); }), "no fault");
+    EXPECT_NE(faultText([&] { connection.Execute("Delete From Ini; Delete From Ini"); }), "no fault");
 }
 
 TEST(DatabaseFile, TakesCellsAndColumnsOfAnotherMakersFile)
 {
-    const TempFolder ordner;
-    const auto pfad = ordner / "fremd.qv";
+    const TempFolder folder;
+    const auto documentPath = folder / "fremd.qv";
     sqlite3* fremd = nullptr;
-    sqlite3_open(utf8FromPath(pfad).c_str(), &fremd);
-    const int ergebnis = sqlite3_exec(
+    sqlite3_open(utf8FromPath(documentPath).c_str(), &fremd);
+    const int result = sqlite3_exec(
         fremd,
         "CREATE TABLE partTABELLE (DokuBez VARCHAR(50) COLLATE NOCASE, Status SMALLINT, Erstellt TIMESTAMP, "
         "Gewicht NUMERIC); "
         "INSERT INTO PartTabelle VALUES ('a', 'offen', 'gestern', 3), ('b', 2, '2006-03-07', 2.5);",
         nullptr, nullptr, nullptr);
     sqlite3_close(fremd);
-    ASSERT_EQ(ergebnis, SQLITE_OK);
-    const auto engine = oeffneSqlite(pfad, false);
-    EXPECT_EQ(engine->findTabelle("PartTabelle")->spalten, (std::vector<Spalte>{{"DokuBez", FeldTyp::Text},
-                                                                                {"Status", FeldTyp::Ganzzahl},
-                                                                                {"Erstellt", FeldTyp::Datum},
-                                                                                {"Gewicht", FeldTyp::Gleitkomma}}));
-    const auto leser =
-        engine->lese(std::get<sql::Select>(sql::parseAnweisung("Select * From PartTabelle")), MitSchluessel::Ja);
-    ASSERT_TRUE(leser->next());
-    EXPECT_EQ(leser->wert(1), Value("offen"));
-    EXPECT_EQ(leser->wert(2), Value("gestern"));
-    EXPECT_EQ(leser->wert(3), Value(3.0));
-    ASSERT_TRUE(leser->next());
-    EXPECT_EQ(leser->wert(2), Value(Zeitpunkt::aus({2006, 3, 7})));
+    ASSERT_EQ(result, SQLITE_OK);
+    const auto engine = openSqlite(documentPath, false);
+    EXPECT_EQ(engine->findTable("PartTabelle")->columns,
+              (std::vector<ColumnInfo>{{"DokuBez", FieldType::Text},
+                                       {"Status", FieldType::Integer},
+                                       {"Erstellt", FieldType::Date},
+                                       {"Gewicht", FieldType::FloatingPoint}}));
+    const auto reader =
+        engine->read(std::get<sql::Select>(sql::parseStatement("Select * From PartTabelle")), WithKey::Yes);
+    ASSERT_TRUE(reader->next());
+    EXPECT_EQ(reader->value(1), Value("offen"));
+    EXPECT_EQ(reader->value(2), Value("gestern"));
+    EXPECT_EQ(reader->value(3), Value(3.0));
+    ASSERT_TRUE(reader->next());
+    EXPECT_EQ(reader->value(2), Value(DateTime::out({2006, 3, 7})));
 }
 
 class EngineWriters : public EngineTest
@@ -120,36 +121,36 @@ INSTANTIATE_TEST_SUITE_P(, EngineWriters, ::testing::Values("SQLite", "PostgreSQ
 // Several seats of the office write and read at once; none may see a fault or lose a row.
 TEST_P(EngineWriters, ManyAtOnceLoseNothing)
 {
-    fuelle({{"Name", FeldTyp::Text}, {"Nummer", FeldTyp::Ganzzahl}}, {}, {{{"Name", false}}});
-    std::atomic<int> geschrieben = 0;
-    std::atomic<int> fehler = 0;
-    const auto platz = [&](int nummer) {
+    fill({{"Name", FieldType::Text}, {"Nummer", FieldType::Integer}}, {}, {{{"Name", false}}});
+    std::atomic<int> written = 0;
+    std::atomic<int> fault = 0;
+    const auto place = [&](int number) {
         try {
-            const auto engine = oeffne();
-            const std::string name = "Platz " + std::to_string(nummer);
-            const auto ende = std::chrono::steady_clock::now() + std::chrono::milliseconds(1500);
-            for (std::int64_t nummerDort = 0; std::chrono::steady_clock::now() < ende; ++nummerDort) {
-                const sql::Zuweisung werte[] = {{"Name", name}, {"Nummer", nummerDort}};
-                engine->beginne();
-                const auto zeile = engine->fuegeEin("Tafel", werte);
-                engine->aendere("Tafel", zeile, werte);
-                engine->schliesseAb();
-                ++geschrieben;
-                const auto zeilen = EngineTest::zeilen(*engine->lese(select("Select Name From Tafel"), {}));
-                if (zeilen.empty())
-                    ++fehler;
+            const auto engine = open();
+            const std::string name = "Platz " + std::to_string(number);
+            const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(1500);
+            for (std::int64_t numberThere = 0; std::chrono::steady_clock::now() < end; ++numberThere) {
+                const sql::Assignment values[] = {{"Name", name}, {"Nummer", numberThere}};
+                engine->begin();
+                const auto row = engine->insert("Tafel", values);
+                engine->update("Tafel", row, values);
+                engine->commit();
+                ++written;
+                const auto rows = EngineTest::rows(*engine->read(select("Select Name From Tafel"), {}));
+                if (rows.empty())
+                    ++fault;
             }
-        } catch (const Laufzeitfehler& gefangen) {
-            ADD_FAILURE() << gefangen.beschreibung();
+        } catch (const RuntimeError& caught) {
+            ADD_FAILURE() << caught.description();
         }
     };
-    std::vector<std::jthread> plaetze;
-    for (int nummer = 0; nummer < 4; ++nummer)
-        plaetze.emplace_back(platz, nummer);
-    plaetze.clear();
-    EXPECT_EQ(fehler, 0);
-    EXPECT_GT(geschrieben, 20);
-    EXPECT_EQ(lies("Select Count(*) From Tafel").front(), std::to_string(geschrieben));
+    std::vector<std::jthread> places;
+    for (int number = 0; number < 4; ++number)
+        places.emplace_back(place, number);
+    places.clear();
+    EXPECT_EQ(fault, 0);
+    EXPECT_GT(written, 20);
+    EXPECT_EQ(lies("Select Count(*) From Tafel").front(), std::to_string(written));
 }
 
 } // namespace

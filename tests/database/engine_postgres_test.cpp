@@ -18,77 +18,77 @@ INSTANTIATE_TEST_SUITE_P(, EnginePostgres, ::testing::Values("PostgreSQL"), engi
 
 std::string hex(std::string_view text)
 {
-    std::string ziffern;
-    for (const char zeichen : text)
-        ziffern += fmt::format("{:02x}", static_cast<unsigned char>(zeichen));
-    return ziffern;
+    std::string digits;
+    for (const char character : text)
+        digits += fmt::format("{:02x}", static_cast<unsigned char>(character));
+    return digits;
 }
 
-std::vector<Value> pruefworte()
+std::vector<Value> checkWords()
 {
-    std::vector<Value> worte{"", "  ", "ß ", "ẞß", "Ärmel ", "Straße", "ÀÉîõÜ", "a\tb\r\nc", "😀 x", "\x01\x7f ~"};
+    std::vector<Value> words{"", "  ", "ß ", "ẞß", "Ärmel ", "Straße", "ÀÉîõÜ", "a\tb\r\nc", "😀 x", "\x01\x7f ~"};
     for (int ascii = 1; ascii < 128; ++ascii)
-        worte.emplace_back(fmt::format("A{}b", static_cast<char>(ascii)));
-    for (const Kollationszeichen& zeile : kollationszeichen()) {
-        std::string wort = "Z ";
-        appendUtf8(wort, zeile.zeichen);
-        worte.emplace_back(wort + "_9");
+        words.emplace_back(fmt::format("A{}b", static_cast<char>(ascii)));
+    for (const CollationCharacter& row : collationCharacters()) {
+        std::string word = "Z ";
+        appendUtf8(word, row.character);
+        words.emplace_back(word + "_9");
     }
     // Mixed ones: plain, German and foreign characters, frequent and rare punctuation.
-    const std::u32string vorrat = U"aBz09 -._\\:/,()+%&;=?@[]^`{|}~'\"#$!<>*äÖüßéÑøŁżΩжЖ€–";
-    std::mt19937 zufall(7);
-    for (int nummer = 0; nummer < 400; ++nummer) {
-        std::u32string wort;
-        for (unsigned laenge = zufall() % 12; laenge > 0; --laenge)
-            wort += vorrat[zufall() % vorrat.size()];
-        worte.emplace_back(toUtf8(wort));
+    const std::u32string pool = U"aBz09 -._\\:/,()+%&;=?@[]^`{|}~'\"#$!<>*äÖüßéÑøŁżΩжЖ€–";
+    std::mt19937 random(7);
+    for (int number = 0; number < 400; ++number) {
+        std::u32string word;
+        for (unsigned length = random() % 12; length > 0; --length)
+            word += pool[random() % pool.size()];
+        words.emplace_back(toUtf8(word));
     }
-    return worte;
+    return words;
 }
 
 TEST_P(EnginePostgres, ServerFunctionsGiveWhatTheProgramGives)
 {
-    const std::vector<Value> worte = pruefworte();
-    fuelleWorte(worte);
-    const std::string ausgabe = PostgresCluster::find()->frage(
-        adresse_, "SELECT encode(convert_to(qv_key(\"Wort\"), 'UTF8'), 'hex'), "
+    const std::vector<Value> words = checkWords();
+    fillWords(words);
+    const std::string output = PostgresCluster::find()->ask(
+        address_, "SELECT encode(convert_to(qv_key(\"Wort\"), 'UTF8'), 'hex'), "
                   "encode(convert_to(qv_fold(\"Wort\"), 'UTF8'), 'hex') FROM \"Tafel\" ORDER BY qv_id");
-    const std::vector<std::string> zeilen = split(ausgabe, '\n');
-    ASSERT_EQ(zeilen.size(), worte.size() + 1);
-    for (std::size_t i = 0; i < worte.size(); ++i) {
-        const std::string wort = alsText(worte[i]);
-        EXPECT_EQ(zeilen[i], hex(sortKey(wort)) + "|" + hex(foldCase(wort))) << wort;
+    const std::vector<std::string> rows = split(output, '\n');
+    ASSERT_EQ(rows.size(), words.size() + 1);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::string word = asText(words[i]);
+        EXPECT_EQ(rows[i], hex(sortKey(word)) + "|" + hex(foldCase(word))) << word;
     }
 }
 
 TEST_P(EnginePostgres, LongTextsAndALargeResultPassThrough)
 {
-    legeRegisterAn(*engine_);
-    std::string lang;
+    createRegister(*engine_);
+    std::string longText;
     for (int i = 0; i < 20000; ++i)
-        lang += fmt::format("{} ", i * 7919 % 10007);
-    EXPECT_EQ(fuehreAus("Insert Into PartTabelleBenutzDef (Name, Wert) Values ('Notiz', '" + lang + "')"), 1);
-    EXPECT_EQ(lies("Select Wert From PartTabelleBenutzDef Where Name = 'notiz'").front(), lang);
+        longText += fmt::format("{} ", i * 7919 % 10007);
+    EXPECT_EQ(execute("Insert Into PartTabelleBenutzDef (Name, Wert) Values ('Notiz', '" + longText + "')"), 1);
+    EXPECT_EQ(lies("Select Wert From PartTabelleBenutzDef Where Name = 'notiz'").front(), longText);
 
     // A reader that is left halfway, and another one started meanwhile, disturb nobody.
-    fuelle({{"Nr", FeldTyp::Ganzzahl}}, std::vector<std::vector<Value>>(5000, {std::int64_t{3}}));
-    auto halb = engine_->lese(select("Select Nr From Tafel"), MitSchluessel::Ja);
-    ASSERT_TRUE(halb->next());
+    fill({{"Nr", FieldType::Integer}}, std::vector<std::vector<Value>>(5000, {std::int64_t{3}}));
+    auto half = engine_->read(select("Select Nr From Tafel"), WithKey::Yes);
+    ASSERT_TRUE(half->next());
     EXPECT_EQ(lies("Select Nr From Tafel").size(), 5000U);
-    EXPECT_EQ(zeilen(*halb).size(), 4999U);
-    halb = engine_->lese(select("Select Nr From Tafel"), MitSchluessel::Ja);
-    halb.reset();
+    EXPECT_EQ(rows(*half).size(), 4999U);
+    half = engine_->read(select("Select Nr From Tafel"), WithKey::Yes);
+    half.reset();
     EXPECT_EQ(lies("Select Count(*) From Tafel").front(), "5000");
 }
 
 TEST_P(EnginePostgres, ConnectionFaultsAreToldInGerman)
 {
     try {
-        oeffnePostgres("postgresql:///gibtsnicht?host=/nirgends");
+        openPostgres("postgresql:///gibtsnicht?host=/nirgends");
         ADD_FAILURE();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.quelle(), "PostgreSQL");
-        EXPECT_THAT(fehler.beschreibung(), ::testing::HasSubstr("kann nicht hergestellt werden.\n"));
+    } catch (const RuntimeError& fault) {
+        EXPECT_EQ(fault.source(), "PostgreSQL");
+        EXPECT_THAT(fault.description(), ::testing::HasSubstr("kann nicht hergestellt werden.\n"));
     }
 }
 

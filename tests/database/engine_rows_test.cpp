@@ -16,192 +16,188 @@ using ::testing::IsEmpty;
 class EngineRows : public EngineTest
 {
 protected:
-    void fuelleTeile()
-    {
-        fuelle({{"Name", FeldTyp::Text}, {"Anzahl", FeldTyp::Ganzzahl}}, {{"Welle", 1}, {"Nabe", 2}});
-    }
+    void fillParts() { fill({{"Name", FieldType::Text}, {"Anzahl", FieldType::Integer}}, {{"Welle", 1}, {"Nabe", 2}}); }
 
     // The driver of SQLite rounds doubles to 15 digits.
-    static bool istRund(std::size_t spalte) { return GetParam() == "OdbcSQLite" && spalte == 2; }
+    static bool isRound(std::size_t column) { return GetParam() == "OdbcSQLite" && column == 2; }
 
-    Zeilenschluessel fuegeEin(const char* name)
+    RowKey insert(const char* name)
     {
-        const sql::Zuweisung werte[] = {{"name", std::string(name)}, {"ANZAHL", std::int64_t{7}}};
-        return engine_->fuegeEin("tafel", werte);
+        const sql::Assignment values[] = {{"name", std::string(name)}, {"ANZAHL", std::int64_t{7}}};
+        return engine_->insert("tafel", values);
     }
 };
-INSTANTIATE_TEST_SUITE_P(, EngineRows, alleEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(, EngineRows, allEngines, engineName);
 
 TEST_P(EngineRows, EveryValueComesBackAsItWentIn)
 {
-    const auto tag = [](int jahr, int monat, int t, int stunde) {
-        return Zeitpunkt::aus({jahr, monat, t, stunde, 59, 1});
-    };
-    const std::vector<std::vector<Value>> zeilen{
-        {"O'Neill \"GmbH\"", std::int64_t{0}, 0.1, tag(2024, 2, 29, 13)},
-        {"C:\\Teile\\n\t50%\n;--", std::numeric_limits<std::int64_t>::max(), -1e-300, tag(1899, 12, 29, 6)},
-        {"Größe 😀 Ł {x} $1 ?1", std::int64_t{-5}, 1.7976931348623157e308, tag(100, 1, 1, 0)},
-        {std::string(70000, 'x') + "ß", std::int64_t{2147483648}, 1.0 / 3, tag(9999, 12, 31, 23)},
+    const auto day = [](int year, int month, int t, int hour) { return DateTime::out({year, month, t, hour, 59, 1}); };
+    const std::vector<std::vector<Value>> rows{
+        {"O'Neill \"GmbH\"", std::int64_t{0}, 0.1, day(2024, 2, 29, 13)},
+        {"C:\\Teile\\n\t50%\n;--", std::numeric_limits<std::int64_t>::max(), -1e-300, day(1899, 12, 29, 6)},
+        {"Größe 😀 Ł {x} $1 ?1", std::int64_t{-5}, 1.7976931348623157e308, day(100, 1, 1, 0)},
+        {std::string(70000, 'x') + "ß", std::int64_t{2147483648}, 1.0 / 3, day(9999, 12, 31, 23)},
         {"", Value{}, Value{}, Value{}},
-        {Value{}, std::numeric_limits<std::int64_t>::min(), 0.0, Zeitpunkt{}},
+        {Value{}, std::numeric_limits<std::int64_t>::min(), 0.0, DateTime{}},
     };
-    const std::vector<Spalte> spalten{
-        {"Wort", FeldTyp::Text}, {"Ganz", FeldTyp::Ganzzahl}, {"Zahl", FeldTyp::Gleitkomma}, {"Tag", FeldTyp::Datum}};
-    fuelle(spalten, zeilen);
-    for (const auto& zeile : zeilen) { // The same again, row by row.
-        std::vector<sql::Zuweisung> werte;
-        for (std::size_t i = 0; i < zeile.size(); ++i)
-            werte.push_back({spalten[i].name, zeile[i]});
-        engine_->fuegeEin("Tafel", werte);
+    const std::vector<ColumnInfo> columns{{"Wort", FieldType::Text},
+                                          {"Ganz", FieldType::Integer},
+                                          {"Zahl", FieldType::FloatingPoint},
+                                          {"Tag", FieldType::Date}};
+    fill(columns, rows);
+    for (const auto& row : rows) { // The same again, row by row.
+        std::vector<sql::Assignment> values;
+        for (std::size_t i = 0; i < row.size(); ++i)
+            values.push_back({columns[i].name, row[i]});
+        engine_->insert("Tafel", values);
     }
 
-    const auto leser = engine_->lese(select("Select * From Tafel"), MitSchluessel::Ja);
-    EXPECT_EQ(leser->spalten(), spalten);
-    std::set<Zeilenschluessel> schluessel;
-    for (std::size_t nummer = 0; nummer < 2 * zeilen.size(); ++nummer) {
-        const auto& zeile = zeilen[nummer % zeilen.size()];
-        ASSERT_TRUE(leser->next());
-        EXPECT_TRUE(schluessel.insert(leser->schluessel()).second);
-        EXPECT_TRUE(istOdbc() || leser->schluessel() == static_cast<Zeilenschluessel>(nummer + 1));
-        for (std::size_t i = 0; i < zeile.size(); ++i) {
-            if (istRund(i))
+    const auto reader = engine_->read(select("Select * From Tafel"), WithKey::Yes);
+    EXPECT_EQ(reader->columns(), columns);
+    std::set<RowKey> key;
+    for (std::size_t number = 0; number < 2 * rows.size(); ++number) {
+        const auto& row = rows[number % rows.size()];
+        ASSERT_TRUE(reader->next());
+        EXPECT_TRUE(key.insert(reader->key()).second);
+        EXPECT_TRUE(isOdbc() || reader->key() == static_cast<RowKey>(number + 1));
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (isRound(i))
                 continue;
-            EXPECT_EQ(leser->wert(i), zeile[i]) << nummer << ", " << i;
-            EXPECT_EQ(leser->istNull(i), istNull(zeile[i]));
+            EXPECT_EQ(reader->value(i), row[i]) << number << ", " << i;
+            EXPECT_EQ(reader->isNull(i), isNull(row[i]));
         }
-        EXPECT_EQ(leser->text(0), alsText(zeile[0]));
-        EXPECT_EQ(leser->ganzzahl(1), alsGanzzahl(zeile[1]));
-        EXPECT_TRUE(istRund(2) || leser->gleitkomma(2) == alsZahl(zeile[2]));
-        EXPECT_EQ(leser->datum(3), alsDatum(zeile[3]));
+        EXPECT_EQ(reader->text(0), asText(row[0]));
+        EXPECT_EQ(reader->integer(1), asInteger(row[1]));
+        EXPECT_TRUE(isRound(2) || reader->floatingPoint(2) == asNumber(row[2]));
+        EXPECT_EQ(reader->date(3), asDate(row[3]));
     }
-    EXPECT_FALSE(leser->next());
-    EXPECT_FALSE(leser->next());
+    EXPECT_FALSE(reader->next());
+    EXPECT_FALSE(reader->next());
 }
 
 TEST_P(EngineRows, RowsAreWrittenByTheirKeysAndAKeyIsNeverGivenTwice)
 {
-    fuelleTeile();
-    const Zeilenschluessel bolzen = fuegeEin("Bolzen");
-    const sql::Zuweisung neu[] = {{"Name", std::string("Stift")}};
-    EXPECT_TRUE(engine_->aendere("Tafel", bolzen, neu));
+    fillParts();
+    const RowKey bolt = insert("Bolzen");
+    const sql::Assignment fresh[] = {{"Name", std::string("Stift")}};
+    EXPECT_TRUE(engine_->update("Tafel", bolt, fresh));
     EXPECT_THAT(lies("Select * From Tafel Where Anzahl = 7"), ElementsAre("Stift|7"));
 
-    EXPECT_TRUE(engine_->loesche("Tafel", bolzen));
-    EXPECT_FALSE(engine_->loesche("Tafel", bolzen));
-    EXPECT_FALSE(engine_->aendere("Tafel", bolzen, neu));
-    const Zeilenschluessel keil = fuegeEin("Keil");
-    EXPECT_NE(keil, bolzen);
+    EXPECT_TRUE(engine_->remove("Tafel", bolt));
+    EXPECT_FALSE(engine_->remove("Tafel", bolt));
+    EXPECT_FALSE(engine_->update("Tafel", bolt, fresh));
+    const RowKey key = insert("Keil");
+    EXPECT_NE(key, bolt);
 
-    const auto alle = engine_->lese(select("Select Name From Tafel Order By Name Desc"), MitSchluessel::Ja);
-    ASSERT_TRUE(alle->next());
-    const Zeilenschluessel welle = alle->schluessel();
-    EXPECT_TRUE(istOdbc() || welle == 1);
-    const std::string spalten[] = {"name"};
-    const Zeilenschluessel gesucht[] = {keil, bolzen, welle};
-    const auto leser = engine_->leseZeilen("tafel", spalten, gesucht);
-    std::vector<std::string> gefunden;
-    while (leser->next())
-        gefunden.push_back(std::to_string(leser->schluessel()) + std::string(leser->text(0)));
-    EXPECT_THAT(gefunden,
-                ::testing::UnorderedElementsAre(std::to_string(welle) + "Welle", std::to_string(keil) + "Keil"));
-    EXPECT_FALSE(engine_->leseZeilen("Tafel", spalten, {})->next());
+    const auto all = engine_->read(select("Select Name From Tafel Order By Name Desc"), WithKey::Yes);
+    ASSERT_TRUE(all->next());
+    const RowKey shaft = all->key();
+    EXPECT_TRUE(isOdbc() || shaft == 1);
+    const std::string columns[] = {"name"};
+    const RowKey sought[] = {key, bolt, shaft};
+    const auto reader = engine_->readRows("tafel", columns, sought);
+    std::vector<std::string> found;
+    while (reader->next())
+        found.push_back(std::to_string(reader->key()) + std::string(reader->text(0)));
+    EXPECT_THAT(found, ::testing::UnorderedElementsAre(std::to_string(shaft) + "Welle", std::to_string(key) + "Keil"));
+    EXPECT_FALSE(engine_->readRows("Tafel", columns, {})->next());
 }
 
 TEST_P(EngineRows, StatementsTellHowManyRowsTheyTouched)
 {
-    fuelleTeile();
-    EXPECT_EQ(fuehreAus("Insert Into Tafel (Name, Anzahl) Values ('Welle ', 3)"), 1);
-    EXPECT_EQ(fuehreAus("Update Tafel Set Anzahl = 9, Name = 'O''Neill' Where Name = 'WELLE'"), 2);
-    EXPECT_EQ(fuehreAus("Delete From Tafel Where Anzahl = 4"), 0);
+    fillParts();
+    EXPECT_EQ(execute("Insert Into Tafel (Name, Anzahl) Values ('Welle ', 3)"), 1);
+    EXPECT_EQ(execute("Update Tafel Set Anzahl = 9, Name = 'O''Neill' Where Name = 'WELLE'"), 2);
+    EXPECT_EQ(execute("Delete From Tafel Where Anzahl = 4"), 0);
     EXPECT_THAT(lies("Select Name From Tafel Where Anzahl = 9"), ElementsAre("O'Neill", "O'Neill"));
-    EXPECT_EQ(fuehreAus("Delete From Tafel"), 3);
+    EXPECT_EQ(execute("Delete From Tafel"), 3);
 }
 
 TEST_P(EngineRows, ALimitCutsTheResult)
 {
-    fuelleTeile();
-    const auto leser = engine_->lese(select("Select Name From Tafel Order By Name"), MitSchluessel::Ja, 1);
-    EXPECT_THAT(zeilen(*leser), ElementsAre("Nabe"));
-    EXPECT_THAT(zeilen(*engine_->lese(select("Select Distinct Name From Tafel Order By Name"), {}, 1)),
+    fillParts();
+    const auto reader = engine_->read(select("Select Name From Tafel Order By Name"), WithKey::Yes, 1);
+    EXPECT_THAT(rows(*reader), ElementsAre("Nabe"));
+    EXPECT_THAT(rows(*engine_->read(select("Select Distinct Name From Tafel Order By Name"), {}, 1)),
                 ElementsAre("Nabe"));
 }
 
 TEST_P(EngineRows, ATransactionHoldsAllOrNothing)
 {
-    fuelleTeile();
-    const auto zweite = oeffne();
-    const auto anzahlDort = [&] { return zeilen(*zweite->lese(select("Select Count(*) From Tafel"), {})).front(); };
+    fillParts();
+    const auto second = open();
+    const auto countThere = [&] { return rows(*second->read(select("Select Count(*) From Tafel"), {})).front(); };
 
-    engine_->beginne();
-    fuegeEin("Keil");
-    EXPECT_EQ(anzahlDort(), "2");
-    engine_->nimmZurueck();
-    EXPECT_EQ(anzahlDort(), "2");
+    engine_->begin();
+    insert("Keil");
+    EXPECT_EQ(countThere(), "2");
+    engine_->rollBack();
+    EXPECT_EQ(countThere(), "2");
 
-    engine_->beginne();
-    fuegeEin("Keil");
-    engine_->beginne(); // One inside another can be taken back by itself.
-    fuegeEin("Stift");
-    engine_->nimmZurueck();
-    engine_->beginne();
-    fuegeEin("Bolzen");
-    engine_->schliesseAb();
-    engine_->schliesseAb();
-    EXPECT_THAT(zeilen(*zweite->lese(select("Select Name From Tafel Order By Name"), {})),
+    engine_->begin();
+    insert("Keil");
+    engine_->begin(); // One inside another can be taken back by itself.
+    insert("Stift");
+    engine_->rollBack();
+    engine_->begin();
+    insert("Bolzen");
+    engine_->commit();
+    engine_->commit();
+    EXPECT_THAT(rows(*second->read(select("Select Name From Tafel Order By Name"), {})),
                 ElementsAre("Bolzen", "Keil", "Nabe", "Welle"));
 
-    engine_->massenschreiber("Tafel", engine_->findTabelle("Tafel")->spalten)->zeile(std::vector<Value>{"x", 1});
+    engine_->bulkWriter("Tafel", engine_->findTable("Tafel")->columns)->row(std::vector<Value>{"x", 1});
     EXPECT_THAT(lies("Select Count(*) From Tafel"), ElementsAre("4")) << "an unfinished bulk insert leaves nothing";
 }
 
 TEST_P(EngineRows, SeveralReadersAndWritesMayOverlap)
 {
-    fuelleTeile();
-    const auto erster = engine_->lese(select("Select Name From Tafel Order By Name"), MitSchluessel::Ja);
-    const auto zweiter = engine_->lese(select("Select Name From Tafel Order By Name"), MitSchluessel::Ja);
-    ASSERT_TRUE(erster->next());
-    ASSERT_TRUE(zweiter->next());
-    EXPECT_EQ(erster->text(0), "Nabe");
-    engine_->loesche("Tafel", erster->schluessel());
-    ASSERT_TRUE(erster->next());
-    EXPECT_EQ(erster->text(0), "Welle");
-    EXPECT_FALSE(erster->next());
+    fillParts();
+    const auto first = engine_->read(select("Select Name From Tafel Order By Name"), WithKey::Yes);
+    const auto second = engine_->read(select("Select Name From Tafel Order By Name"), WithKey::Yes);
+    ASSERT_TRUE(first->next());
+    ASSERT_TRUE(second->next());
+    EXPECT_EQ(first->text(0), "Nabe");
+    engine_->remove("Tafel", first->key());
+    ASSERT_TRUE(first->next());
+    EXPECT_EQ(first->text(0), "Welle");
+    EXPECT_FALSE(first->next());
 }
 
 TEST_P(EngineRows, TablesAreFoundInAnyCaseWithTheirColumnsAsStored)
 {
-    legeRegisterAn(*engine_);
-    for (const Tabellenschema& tabelle : registerschema())
-        EXPECT_EQ(engine_->findTabelle(toUpper(tabelle.name))->spalten, tabelle.spalten) << tabelle.name;
-    EXPECT_EQ(engine_->tabellen().size(), registerschema().size());
-    EXPECT_EQ(engine_->findTabelle("DraftTabelle")->spalten.back().name, "F_05_leer");
-    EXPECT_EQ(engine_->findTabelle("Gibtsnicht"), std::nullopt);
+    createRegister(*engine_);
+    for (const TableSchema& table : registerSchema())
+        EXPECT_EQ(engine_->findTable(toUpper(table.name))->columns, table.columns) << table.name;
+    EXPECT_EQ(engine_->tables().size(), registerSchema().size());
+    EXPECT_EQ(engine_->findTable("DraftTabelle")->columns.back().name, "F_05_leer");
+    EXPECT_EQ(engine_->findTable("Gibtsnicht"), std::nullopt);
 
-    Tabellenschema ini = *findTabelle("Ini");
-    EXPECT_TRUE(engine_->fehlendeIndexe(ini).empty());
-    ini.indexe.push_back({{"Feld5"}});
-    EXPECT_EQ(engine_->fehlendeIndexe(ini).size(), istOdbc() ? 0U : 1U);
-    engine_->entferneTabelle("INI");
-    engine_->entferneTabelle("Ini");
-    EXPECT_EQ(engine_->findTabelle("Ini"), std::nullopt);
+    TableSchema ini = *findTable("Ini");
+    EXPECT_TRUE(engine_->missingIndexes(ini).empty());
+    ini.indexes.push_back({{"Feld5"}});
+    EXPECT_EQ(engine_->missingIndexes(ini).size(), isOdbc() ? 0U : 1U);
+    engine_->removeTable("INI");
+    engine_->removeTable("Ini");
+    EXPECT_EQ(engine_->findTable("Ini"), std::nullopt);
 }
 
 TEST_P(EngineRows, FaultsCarryNumberSourceAndText)
 {
-    fuelleTeile();
-    const auto fehler = [&](std::string_view text) {
+    fillParts();
+    const auto fault = [&](std::string_view text) {
         try {
             lies(text);
-        } catch (const Laufzeitfehler& gefangen) {
-            return std::to_string(gefangen.nummer()) + " " + gefangen.quelle() + ": " + gefangen.beschreibung();
+        } catch (const RuntimeError& caught) {
+            return std::to_string(caught.number()) + " " + caught.source() + ": " + caught.description();
         }
         return std::string("no fault");
     };
-    EXPECT_EQ(fehler("Select * From Fehlt"),
+    EXPECT_EQ(fault("Select * From Fehlt"),
               "-2147217865 " + std::string(GetParam()) + ": Die Tabelle 'Fehlt' wurde nicht gefunden.");
-    EXPECT_THAT(fehler("Select Farbe From Tafel"), HasSubstr("-2147217904"));
-    EXPECT_THAT(fehler("Select Name From Tafel Where Farbe = 1"), HasSubstr("-2147217904"));
-    EXPECT_THROW(engine_->legeTabelleAn({"Tafel", {{"x"}}, {}}), Laufzeitfehler);
+    EXPECT_THAT(fault("Select Farbe From Tafel"), HasSubstr("-2147217904"));
+    EXPECT_THAT(fault("Select Name From Tafel Where Farbe = 1"), HasSubstr("-2147217904"));
+    EXPECT_THROW(engine_->createTable({"Tafel", {{"x"}}, {}}), RuntimeError);
     EXPECT_THAT(lies("Select Name From Tafel Where Anzahl = 2"), ElementsAre("Nabe")) << "the connection still works";
 }
 

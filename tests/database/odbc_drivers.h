@@ -24,51 +24,51 @@ namespace quelvarn::test {
 // - DISTINCT over PostgreSQL shows any spelling of texts that differ in case alone.
 // - Which spelling of equal texts was stored first is not known: the keys follow the order of reading.
 // - SQLite's driver hands doubles out with 15 digits, and takes the write lock late: no test of many writers.
-inline constexpr std::string_view ODBC_TREIBER_SQLITE = "SQLite3";
-inline constexpr std::string_view ODBC_TREIBER_POSTGRES = "PostgreSQL Unicode";
-inline constexpr std::string_view ODBC_TREIBER_MDB = "MDBTools";
-inline constexpr std::string_view ODBC_TREIBER_ACCESS = "Microsoft Access Driver (*.mdb, *.accdb)";
+inline constexpr std::string_view ODBC_DRIVER_SQLITE = "SQLite3";
+inline constexpr std::string_view ODBC_DRIVER_POSTGRES = "PostgreSQL Unicode";
+inline constexpr std::string_view ODBC_DRIVER_MDB = "MDBTools";
+inline constexpr std::string_view ODBC_DRIVER_ACCESS = "Microsoft Access Driver (*.mdb, *.accdb)";
 
 // Whether the driver is installed, and the program was built with ODBC.
-inline bool hatOdbcTreiber([[maybe_unused]] std::string_view name)
+inline bool hasOdbcDriver([[maybe_unused]] std::string_view name)
 {
 #ifdef QUELVARN_NO_ODBC
     return false;
 #else
-    static const std::vector<std::string> vorhandene = odbc::Umgebung().treiber();
-    return std::ranges::find(vorhandene, name) != vorhandene.end();
+    static const std::vector<std::string> existing = odbc::Environment().driver();
+    return std::ranges::find(existing, name) != existing.end();
 #endif
 }
 
 // Why the tests over this driver cannot run, or "". The functions that a PostgreSQL database of ours has are made here.
-inline std::string bereiteOdbcVor(bool postgres, const std::string& adresse)
+inline std::string prepareOdbc(bool postgres, const std::string& address)
 {
-    if (!hatOdbcTreiber(postgres ? ODBC_TREIBER_POSTGRES : ODBC_TREIBER_SQLITE))
+    if (!hasOdbcDriver(postgres ? ODBC_DRIVER_POSTGRES : ODBC_DRIVER_SQLITE))
         return "the ODBC driver of this database is not installed";
     if (postgres) {
-        const auto engine = oeffnePostgres(adresse);
-        engine->legeTabelleAn({"Anlass", {{"x"}}, {}});
-        engine->entferneTabelle("Anlass");
+        const auto engine = openPostgres(address);
+        engine->createTable({"Anlass", {{"x"}}, {}});
+        engine->removeTable("Anlass");
     }
     return {};
 }
 
 // With the module that teaches the driver the order of our texts.
-inline std::string odbcText(const std::filesystem::path& sqliteDatei, int millisekundenGeduld = 60000)
+inline std::string odbcText(const std::filesystem::path& sqliteFile, int millisecondsPatience = 60000)
 {
-    return "DRIVER={" + std::string(ODBC_TREIBER_SQLITE) + "};Database=" + treiberPfad(sqliteDatei) +
-           ";LoadExt=" QUELVARN_SQLITE_MODULE ";Timeout=" + std::to_string(millisekundenGeduld);
+    return "DRIVER={" + std::string(ODBC_DRIVER_SQLITE) + "};Database=" + driverPath(sqliteFile) +
+           ";LoadExt=" QUELVARN_SQLITE_MODULE ";Timeout=" + std::to_string(millisecondsPatience);
 }
 
 // From the address that PostgresCluster gives.
-inline std::string odbcText(const std::string& adresse)
+inline std::string odbcText(const std::string& address)
 {
-    const auto zwischen = [&](std::string_view vor, std::string_view nach) {
-        const std::size_t anfang = adresse.find(vor) + vor.size();
-        return adresse.substr(anfang, adresse.find(nach, anfang) - anfang);
+    const auto between = [&](std::string_view before, std::string_view after) {
+        const std::size_t begin = address.find(before) + before.size();
+        return address.substr(begin, address.find(after, begin) - begin);
     };
-    return "DRIVER={" + std::string(ODBC_TREIBER_POSTGRES) + "};Servername=" + zwischen("host=", "&") +
-           ";Port=" + zwischen("port=", "&") + ";Database=" + zwischen("postgresql:///", "?") + ";Uid=quelvarn";
+    return "DRIVER={" + std::string(ODBC_DRIVER_POSTGRES) + "};Servername=" + between("host=", "&") +
+           ";Port=" + between("port=", "&") + ";Database=" + between("postgresql:///", "?") + ";Uid=quelvarn";
 }
 
 } // namespace quelvarn::test

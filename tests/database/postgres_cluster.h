@@ -30,28 +30,28 @@ public:
         return nullptr;
 #else
         static PostgresCluster cluster;
-        return cluster.zugang_.empty() ? nullptr : &cluster;
+        return cluster.access_.empty() ? nullptr : &cluster;
 #endif
     }
 
     // Address of an empty database.
-    std::string neueDatenbank()
+    std::string newDatabase()
     {
-        if (!frei_.empty()) {
-            const std::string frei = std::move(frei_.back());
-            frei_.pop_back();
-            frage(frei, "SET client_min_messages = warning; DROP SCHEMA public CASCADE; CREATE SCHEMA public");
-            return frei;
+        if (!free_.empty()) {
+            const std::string free = std::move(free_.back());
+            free_.pop_back();
+            ask(free, "SET client_min_messages = warning; DROP SCHEMA public CASCADE; CREATE SCHEMA public");
+            return free;
         }
-        const std::string name = "qv_test_" + std::to_string(nummer_) + "_" + std::to_string(++zaehler_);
-        frage(adresse("postgres"), "CREATE DATABASE " + name);
-        return adresse(name);
+        const std::string name = "qv_test_" + std::to_string(number_) + "_" + std::to_string(++counter_);
+        ask(address("postgres"), "CREATE DATABASE " + name);
+        return address(name);
     }
 
     // Nobody is connected to it any more: it may be given out again, which takes a fraction of the time of a new one.
-    void gibFrei(std::string adresse)
+    void release(std::string address)
     {
-        frei_.push_back(std::move(adresse));
+        free_.push_back(std::move(address));
     }
 
 #ifdef __linux__
@@ -76,34 +76,34 @@ public:
 #endif
 
     // What the server answers, read without the engine: a line a row, columns divided by "|".
-    std::string frage(const std::string& adresse, const std::string& sql) const;
+    std::string ask(const std::string& address, const std::string& sql) const;
 
 private:
     PostgresCluster()
     {
-        if (const char* zugang = std::getenv("QUELVARN_TEST_POSTGRES")) {
-            zugang_ = zugang;
+        if (const char* access = std::getenv("QUELVARN_TEST_POSTGRES")) {
+            access_ = access;
             return;
         }
 #ifdef __linux__
         server_ = PostgresServer::find();
         if (server_)
-            zugang_ = server_->zugang();
+            access_ = server_->access();
 #endif
     }
 
-    std::string adresse(std::string_view datenbank) const
+    std::string address(std::string_view database) const
     {
-        return "postgresql:///" + std::string(datenbank) + "?" + zugang_;
+        return "postgresql:///" + std::string(database) + "?" + access_;
     }
 
 #ifdef __linux__
     std::unique_ptr<PostgresServer> server_;
 #endif
-    std::string zugang_;
-    unsigned nummer_ = std::random_device()(); // Other programs may use the same server.
-    int zaehler_ = 0;
-    std::vector<std::string> frei_;
+    std::string access_;
+    unsigned number_ = std::random_device()(); // Other programs may use the same server.
+    int counter_ = 0;
+    std::vector<std::string> free_;
 };
 
 // For a fixture that runs on an engine by its name: the address of an empty database, "" for SQLite or without a
@@ -111,24 +111,24 @@ private:
 inline std::string addressOn(std::string_view engine)
 {
     PostgresCluster* cluster = engine == "PostgreSQL" ? PostgresCluster::find() : nullptr;
-    return cluster ? cluster->neueDatenbank() : "";
+    return cluster ? cluster->newDatabase() : "";
 }
 
-inline std::string PostgresCluster::frage(const std::string& adresse, const std::string& sql) const
+inline std::string PostgresCluster::ask(const std::string& address, const std::string& sql) const
 {
 #ifdef QUELVARN_NO_POSTGRESQL
-    throw std::runtime_error("built without PostgreSQL: " + adresse + sql);
+    throw std::runtime_error("built without PostgreSQL: " + address + sql);
 #else
-    const std::unique_ptr<PGconn, decltype(&PQfinish)> verbindung(PQconnectdb(adresse.c_str()), PQfinish);
-    const std::unique_ptr<PGresult, decltype(&PQclear)> antwort(PQexec(verbindung.get(), sql.c_str()), PQclear);
-    const ExecStatusType status = PQresultStatus(antwort.get());
+    const std::unique_ptr<PGconn, decltype(&PQfinish)> connection(PQconnectdb(address.c_str()), PQfinish);
+    const std::unique_ptr<PGresult, decltype(&PQclear)> answer(PQexec(connection.get(), sql.c_str()), PQclear);
+    const ExecStatusType status = PQresultStatus(answer.get());
     if (status != PGRES_TUPLES_OK && status != PGRES_COMMAND_OK)
-        throw std::runtime_error(sql.substr(0, 200) + ": " + PQerrorMessage(verbindung.get()));
+        throw std::runtime_error(sql.substr(0, 200) + ": " + PQerrorMessage(connection.get()));
     std::string text;
-    for (int zeile = 0; zeile < PQntuples(antwort.get()); ++zeile)
-        for (int spalte = 0; spalte < PQnfields(antwort.get()); ++spalte) {
-            text += PQgetvalue(antwort.get(), zeile, spalte);
-            text += spalte + 1 < PQnfields(antwort.get()) ? '|' : '\n';
+    for (int row = 0; row < PQntuples(answer.get()); ++row)
+        for (int column = 0; column < PQnfields(answer.get()); ++column) {
+            text += PQgetvalue(answer.get(), row, column);
+            text += column + 1 < PQnfields(answer.get()) ? '|' : '\n';
         }
     return text;
 #endif

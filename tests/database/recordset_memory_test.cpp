@@ -11,249 +11,249 @@ using testing::ElementsAre;
 namespace {
 
 // A recordset in memory with the fields Name (text), Nr (integer) and Wert (double).
-Recordset recordsetMit(const std::vector<std::pair<std::string, int>>& zeilen)
+Recordset recordsetWith(const std::vector<std::pair<std::string, int>>& rows)
 {
     Recordset rs;
-    rs.FeldAnhaengen("Name", FeldTyp::Text);
-    rs.FeldAnhaengen("Nr", FeldTyp::Ganzzahl);
-    rs.FeldAnhaengen("Wert", FeldTyp::Gleitkomma);
+    rs.appendField("Name", FieldType::Text);
+    rs.appendField("Nr", FieldType::Integer);
+    rs.appendField("Wert", FieldType::FloatingPoint);
     rs.Open();
-    for (const auto& [name, nr] : zeilen) {
+    for (const auto& [name, number] : rows) {
         rs.AddNew();
-        rs.setzeFeld("Name", name);
-        rs.setzeFeld("Nr", nr);
+        rs.setField("Name", name);
+        rs.setField("Nr", number);
         rs.Update();
     }
-    if (!rs.leer())
+    if (!rs.empty())
         rs.MoveFirst();
     return rs;
 }
 
-std::vector<std::string> namen(const Recordset& rs)
+std::vector<std::string> names(const Recordset& rs)
 {
-    std::vector<std::string> ergebnis;
+    std::vector<std::string> result;
     for (std::size_t i = 0; i < rs.RecordCount(); ++i)
-        ergebnis.push_back(alsText(rs.Zelle(i, "Name")));
-    return ergebnis;
+        result.push_back(asText(rs.cell(i, "Name")));
+    return result;
 }
 
-int fehlernummer(const std::function<void()>& tat)
+int faultNumber(const std::function<void()>& action)
 {
     try {
-        tat();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_NE(fehler.beschreibung(), "");
-        return fehler.nummer();
+        action();
+    } catch (const RuntimeError& fault) {
+        EXPECT_NE(fault.description(), "");
+        return fault.number();
     }
     return 0;
 }
 
 // Where the cursor stands: "bof", "eof", "leer" or the name of the row.
-std::string stelle(const Recordset& rs)
+std::string position(const Recordset& rs)
 {
-    if (rs.leer())
+    if (rs.empty())
         return "leer";
     return rs.Bof() ? "bof" : rs.Eof() ? "eof" : rs.Text("name");
 }
 
-struct Bewegung
+struct Movement
 {
-    std::string schritte; // f first, l last, n next, p previous, d delete, a add "N"
-    std::string stelle;
+    std::string steps; // f first, l last, n next, p previous, d delete, a add "N"
+    std::string position;
 };
 
-class RecordsetCursor : public testing::TestWithParam<Bewegung>
+class RecordsetCursor : public testing::TestWithParam<Movement>
 {};
 
 TEST_P(RecordsetCursor, StandsWhereAdoWouldStand)
 {
-    auto rs = recordsetMit({{"A", 1}, {"B", 2}, {"C", 3}});
-    for (const char schritt : GetParam().schritte) {
-        if (schritt == 'f')
+    auto rs = recordsetWith({{"A", 1}, {"B", 2}, {"C", 3}});
+    for (const char step : GetParam().steps) {
+        if (step == 'f')
             rs.MoveFirst();
-        else if (schritt == 'l')
+        else if (step == 'l')
             rs.MoveLast();
-        else if (schritt == 'n')
+        else if (step == 'n')
             rs.MoveNext();
-        else if (schritt == 'p')
+        else if (step == 'p')
             rs.MovePrevious();
-        else if (schritt == 'd')
+        else if (step == 'd')
             rs.Delete();
         else {
             rs.AddNew();
-            rs.setzeFeld("NAME", "N");
+            rs.setField("NAME", "N");
         }
     }
-    EXPECT_EQ(stelle(rs), GetParam().stelle);
+    EXPECT_EQ(position(rs), GetParam().position);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, RecordsetCursor,
-                         testing::Values(Bewegung{"", "A"}, Bewegung{"n", "B"}, Bewegung{"nnn", "eof"},
-                                         Bewegung{"p", "bof"}, Bewegung{"pn", "A"}, Bewegung{"lnp", "C"},
-                                         Bewegung{"d", "B"}, Bewegung{"ld", "eof"}, Bewegung{"ldp", "B"},
-                                         Bewegung{"ddd", "leer"}, Bewegung{"ddda", "N"}, Bewegung{"dddaf", "N"},
-                                         Bewegung{"a", "N"}, Bewegung{"afp", "bof"}, Bewegung{"an", "eof"},
-                                         Bewegung{"ap", "C"}, Bewegung{"ad", "A"}, Bewegung{"nad", "B"}));
+                         testing::Values(Movement{"", "A"}, Movement{"n", "B"}, Movement{"nnn", "eof"},
+                                         Movement{"p", "bof"}, Movement{"pn", "A"}, Movement{"lnp", "C"},
+                                         Movement{"d", "B"}, Movement{"ld", "eof"}, Movement{"ldp", "B"},
+                                         Movement{"ddd", "leer"}, Movement{"ddda", "N"}, Movement{"dddaf", "N"},
+                                         Movement{"a", "N"}, Movement{"afp", "bof"}, Movement{"an", "eof"},
+                                         Movement{"ap", "C"}, Movement{"ad", "A"}, Movement{"nad", "B"}));
 
 TEST(Recordset, RefusesWhatThereIsNoRowOrFieldFor)
 {
-    auto rs = recordsetMit({{"A", 1}});
-    const auto leer = [] { return recordsetMit({}); };
-    const std::vector<std::pair<int, std::function<void()>>> faelle{
-        {3265, [&] { rs.Feld("Gibtsnicht"); }},
-        {3265, [&] { rs.setzeFeld("Gibtsnicht", Value{}); }},
+    auto rs = recordsetWith({{"A", 1}});
+    const auto empty = [] { return recordsetWith({}); };
+    const std::vector<std::pair<int, std::function<void()>>> cases{
+        {3265, [&] { rs.field("Gibtsnicht"); }},
+        {3265, [&] { rs.setField("Gibtsnicht", Value{}); }},
         {3265, [&] { rs.Filter("Gibtsnicht = 1"); }},
         {3265, [&] { rs.Sort("Gibtsnicht"); }},
         {3001, [&] { rs.Find(""); }},
-        {3705, [&] { rs.FeldAnhaengen("Spaeter", FeldTyp::Text); }},
-        {3021, [&] { leer().Feld("Name"); }},
-        {3021, [&] { leer().MoveFirst(); }},
-        {3021, [&] { leer().MoveNext(); }},
-        {3021, [&] { leer().Delete(); }},
-        {3021, [&] { leer().setzeFeld("Name", Value{}); }},
-        {3021, [&] { leer().bookmark(); }},
+        {3705, [&] { rs.appendField("Spaeter", FieldType::Text); }},
+        {3021, [&] { empty().field("Name"); }},
+        {3021, [&] { empty().MoveFirst(); }},
+        {3021, [&] { empty().MoveNext(); }},
+        {3021, [&] { empty().Delete(); }},
+        {3021, [&] { empty().setField("Name", Value{}); }},
+        {3021, [&] { empty().bookmark(); }},
         {3704, [&] { Recordset().MoveFirst(); }},
         {3704, [&] { Recordset().AddNew(); }},
-        {-2147217913, [&] { rs.setzeFeld("Nr", "abc"); }},
+        {-2147217913, [&] { rs.setField("Nr", "abc"); }},
     };
-    for (std::size_t i = 0; i < faelle.size(); ++i)
-        EXPECT_EQ(fehlernummer(faelle[i].second), faelle[i].first) << "case " << i;
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        EXPECT_EQ(faultNumber(cases[i].second), cases[i].first) << "case " << i;
     rs.MoveNext();
-    EXPECT_EQ(fehlernummer([&] { rs.MoveNext(); }), 3021);
-    EXPECT_EQ(fehlernummer([&] { rs.Feld("Name"); }), 3021);
-    EXPECT_TRUE(Recordset().leer());
+    EXPECT_EQ(faultNumber([&] { rs.MoveNext(); }), 3021);
+    EXPECT_EQ(faultNumber([&] { rs.field("Name"); }), 3021);
+    EXPECT_TRUE(Recordset().empty());
 }
 
 TEST(Recordset, TakesValuesAsTheTypeOfTheirField)
 {
-    auto rs = recordsetMit({});
+    auto rs = recordsetWith({});
     rs.AddNew();
-    EXPECT_TRUE(istNull(rs.Feld("Nr")));
-    rs.setzeFeld("Nr", "12");
-    rs.setzeFeld("Wert", "1,5");
-    rs.setzeFeld("Name", 2.25);
-    EXPECT_EQ(rs.Feld("nr"), Value(std::int64_t{12}));
+    EXPECT_TRUE(isNull(rs.field("Nr")));
+    rs.setField("Nr", "12");
+    rs.setField("Wert", "1,5");
+    rs.setField("Name", 2.25);
+    EXPECT_EQ(rs.field("nr"), Value(std::int64_t{12}));
     rs.Update();
-    EXPECT_EQ(rs.Feld("NR"), Value(std::int64_t{12}));
-    EXPECT_EQ(rs.Feld("Wert"), Value(1.5));
+    EXPECT_EQ(rs.field("NR"), Value(std::int64_t{12}));
+    EXPECT_EQ(rs.field("Wert"), Value(1.5));
     EXPECT_EQ(rs.Text("Name"), "2,25");
-    rs.setzeFeld("Name", Value{});
-    rs.setzeFeld("Wert", Value{});
+    rs.setField("Name", Value{});
+    rs.setField("Wert", Value{});
     rs.Update();
-    EXPECT_TRUE(istNull(rs.Feld("Name")) && istNull(rs.Feld("Wert")));
-    rs.setzeFeld("Name", std::string());
-    EXPECT_FALSE(istNull(rs.Feld("Name")));
+    EXPECT_TRUE(isNull(rs.field("Name")) && isNull(rs.field("Wert")));
+    rs.setField("Name", std::string());
+    EXPECT_FALSE(isNull(rs.field("Name")));
 }
 
 TEST(Recordset, CancelUpdateForgetsAndAMoveKeepsWhatWasSet)
 {
-    auto rs = recordsetMit({{"A", 1}, {"B", 2}});
-    rs.setzeFeld("Name", "X");
+    auto rs = recordsetWith({{"A", 1}, {"B", 2}});
+    rs.setField("Name", "X");
     rs.CancelUpdate();
     EXPECT_EQ(rs.Text("Name"), "A");
     rs.AddNew();
     rs.CancelUpdate();
-    EXPECT_THAT(namen(rs), ElementsAre("A", "B"));
-    rs.setzeFeld("Name", "X");
+    EXPECT_THAT(names(rs), ElementsAre("A", "B"));
+    rs.setField("Name", "X");
     rs.MoveNext();
-    EXPECT_THAT(namen(rs), ElementsAre("X", "B"));
+    EXPECT_THAT(names(rs), ElementsAre("X", "B"));
 }
 
 TEST(Recordset, BookmarksOutliveFilterSortAndDeletion)
 {
-    auto rs = recordsetMit({{"C", 3}, {"A", 1}, {"D", 4}, {"B", 2}});
+    auto rs = recordsetWith({{"C", 3}, {"A", 1}, {"D", 4}, {"B", 2}});
     rs.MoveLast();
     const Bookmark b = rs.bookmark();
     rs.MoveFirst();
     const Bookmark c = rs.bookmark();
     rs.Sort("Name");
-    ASSERT_TRUE(rs.setzeBookmark(b));
+    ASSERT_TRUE(rs.setBookmark(b));
     EXPECT_EQ(rs.AbsolutePosition(), 1u);
     rs.Filter("Nr < 3");
-    EXPECT_TRUE(rs.setzeBookmark(b));
-    EXPECT_FALSE(rs.setzeBookmark(c));
+    EXPECT_TRUE(rs.setBookmark(b));
+    EXPECT_FALSE(rs.setBookmark(c));
     EXPECT_EQ(rs.Text("Name"), "B");
     rs.Delete();
     EXPECT_TRUE(rs.Eof());
     EXPECT_EQ(rs.AbsolutePosition(), rs.RecordCount());
     rs.Filter("");
-    EXPECT_FALSE(rs.setzeBookmark(b));
+    EXPECT_FALSE(rs.setBookmark(b));
     rs.Sort("");
-    EXPECT_THAT(namen(rs), ElementsAre("C", "A", "D"));
-    rs.setzeAbsolutePosition(2);
+    EXPECT_THAT(names(rs), ElementsAre("C", "A", "D"));
+    rs.setAbsolutePosition(2);
     EXPECT_EQ(rs.Text("Name"), "D");
 }
 
 TEST(Recordset, SortsAsTheDatabaseDoesNullFirstAndStable)
 {
-    auto rs = recordsetMit({{"b", 1}, {"Ä", 2}, {"a", 1}, {"B ", 2}, {"z", 2}});
+    auto rs = recordsetWith({{"b", 1}, {"Ä", 2}, {"a", 1}, {"B ", 2}, {"z", 2}});
     rs.AddNew();
-    rs.setzeFeld("Nr", 2);
+    rs.setField("Nr", 2);
     rs.Update();
     rs.Sort("Name");
-    EXPECT_THAT(namen(rs), ElementsAre("", "a", "Ä", "b", "B ", "z"));
+    EXPECT_THAT(names(rs), ElementsAre("", "a", "Ä", "b", "B ", "z"));
     rs.Sort("Name DESC");
-    EXPECT_THAT(namen(rs), ElementsAre("z", "b", "B ", "Ä", "a", ""));
+    EXPECT_THAT(names(rs), ElementsAre("z", "b", "B ", "Ä", "a", ""));
     rs.Sort("[Nr] asc, Name desc");
-    EXPECT_THAT(namen(rs), ElementsAre("b", "a", "z", "B ", "Ä", ""));
+    EXPECT_THAT(names(rs), ElementsAre("b", "a", "z", "B ", "Ä", ""));
     rs.Filter("Nr = 2");
-    EXPECT_THAT(namen(rs), ElementsAre("z", "B ", "Ä", ""));
+    EXPECT_THAT(names(rs), ElementsAre("z", "B ", "Ä", ""));
     rs.AddNew();
-    rs.setzeFeld("Name", "neu");
+    rs.setField("Name", "neu");
     rs.Update();
-    EXPECT_THAT(namen(rs), ElementsAre("z", "B ", "Ä", "", "neu"));
+    EXPECT_THAT(names(rs), ElementsAre("z", "B ", "Ä", "", "neu"));
     rs.Sort("Wert");
-    EXPECT_THAT(namen(rs), ElementsAre("Ä", "B ", "z", "", "neu"));
+    EXPECT_THAT(names(rs), ElementsAre("Ä", "B ", "z", "", "neu"));
 }
 
 TEST(Recordset, SortsNumbersOfBothSigns)
 {
-    auto rs = recordsetMit({});
-    for (const double wert : {2.5, -1.0, 0.0, -3.5, 1e300, -1e-300}) {
+    auto rs = recordsetWith({});
+    for (const double value : {2.5, -1.0, 0.0, -3.5, 1e300, -1e-300}) {
         rs.AddNew();
-        rs.setzeFeld("Wert", wert);
+        rs.setField("Wert", value);
         rs.Update();
     }
     rs.Sort("Wert");
-    std::vector<double> werte;
+    std::vector<double> values;
     for (std::size_t i = 0; i < rs.RecordCount(); ++i)
-        werte.push_back(alsZahl(rs.Zelle(i, "Wert")));
-    EXPECT_THAT(werte, ElementsAre(-3.5, -1.0, -1e-300, 0.0, 2.5, 1e300));
+        values.push_back(asNumber(rs.cell(i, "Wert")));
+    EXPECT_THAT(values, ElementsAre(-3.5, -1.0, -1e-300, 0.0, 2.5, 1e300));
 }
 
 TEST(Recordset, FindGoesBothWaysAndEndsBehindTheRows)
 {
-    auto rs = recordsetMit({{"Achse", 1}, {"Welle", 2}, {"Achse 2", 3}, {"a*", 4}, {"Hauptachse", 5}});
-    struct Fall
+    auto rs = recordsetWith({{"Achse", 1}, {"Welle", 2}, {"Achse 2", 3}, {"a*", 4}, {"Hauptachse", 5}});
+    struct TestCase
     {
-        std::string kriterium;
-        std::size_t start, ueberspringe;
-        Suchrichtung richtung;
-        bool vonAnfang;
-        std::string stelle;
+        std::string criterion;
+        std::size_t start, skip;
+        SearchDirection direction;
+        bool fromStart;
+        std::string position;
     };
-    const auto vor = Suchrichtung::Vorwaerts;
-    const auto zurueck = Suchrichtung::Rueckwaerts;
-    const std::vector<Fall> faelle{
-        {"Name LIKE 'achse%'", 0, 0, vor, false, "Achse"},
-        {"Name LIKE 'ACHSE%'", 0, 1, vor, false, "Achse 2"},
-        {"Name LIKE '%achse%'", 3, 0, vor, false, "Hauptachse"},
-        {"Name LIKE '%achse%'", 3, 0, vor, true, "Achse"},
-        {"Name LIKE 'achse%'", 2, 1, vor, false, "eof"},
-        {"Name LIKE 'achse%'", 3, 0, zurueck, false, "Achse 2"},
-        {"Name LIKE 'achse%'", 2, 1, zurueck, false, "Achse"},
-        {"Name LIKE 'achse%'", 0, 1, zurueck, false, "bof"},
-        {"Name LIKE '%achse%'", 0, 0, zurueck, true, "Hauptachse"},
-        {"Name LIKE 'x%'", 0, 0, vor, true, "eof"},
-        {"Name LIKE 'a*'", 0, 0, vor, true, "a*"},
-        {"Nr > 1 AND Nr < 4", 0, 1, vor, false, "Welle"},
-        {"Name LIKE 'achse%'", 0, 9, vor, false, "eof"},
+    const auto before = SearchDirection::Forward;
+    const auto back = SearchDirection::Backwards;
+    const std::vector<TestCase> cases{
+        {"Name LIKE 'achse%'", 0, 0, before, false, "Achse"},
+        {"Name LIKE 'ACHSE%'", 0, 1, before, false, "Achse 2"},
+        {"Name LIKE '%achse%'", 3, 0, before, false, "Hauptachse"},
+        {"Name LIKE '%achse%'", 3, 0, before, true, "Achse"},
+        {"Name LIKE 'achse%'", 2, 1, before, false, "eof"},
+        {"Name LIKE 'achse%'", 3, 0, back, false, "Achse 2"},
+        {"Name LIKE 'achse%'", 2, 1, back, false, "Achse"},
+        {"Name LIKE 'achse%'", 0, 1, back, false, "bof"},
+        {"Name LIKE '%achse%'", 0, 0, back, true, "Hauptachse"},
+        {"Name LIKE 'x%'", 0, 0, before, true, "eof"},
+        {"Name LIKE 'a*'", 0, 0, before, true, "a*"},
+        {"Nr > 1 AND Nr < 4", 0, 1, before, false, "Welle"},
+        {"Name LIKE 'achse%'", 0, 9, before, false, "eof"},
     };
-    for (const Fall& fall : faelle) {
-        rs.setzeAbsolutePosition(fall.start);
-        const bool gefunden = rs.Find(fall.kriterium, fall.ueberspringe, fall.richtung, fall.vonAnfang);
-        EXPECT_EQ(stelle(rs), fall.stelle) << fall.kriterium;
-        EXPECT_EQ(gefunden, fall.stelle != "eof" && fall.stelle != "bof") << fall.kriterium;
+    for (const TestCase& testCase : cases) {
+        rs.setAbsolutePosition(testCase.start);
+        const bool found = rs.Find(testCase.criterion, testCase.skip, testCase.direction, testCase.fromStart);
+        EXPECT_EQ(position(rs), testCase.position) << testCase.criterion;
+        EXPECT_EQ(found, testCase.position != "eof" && testCase.position != "bof") << testCase.criterion;
     }
     rs.Sort("Name");
     rs.Filter("Name LIKE '*achse*'");
@@ -263,26 +263,26 @@ TEST(Recordset, FindGoesBothWaysAndEndsBehindTheRows)
 
 TEST(Recordset, ABadFilterLeavesTheOldOne)
 {
-    auto rs = recordsetMit({{"A", 1}, {"B", 2}});
+    auto rs = recordsetWith({{"A", 1}, {"B", 2}});
     rs.Filter("Nr = 2");
-    for (const auto* schlecht : {"Nr = ", "Nr = 2 OR", "Weg = 1", "DROP TABLE x"})
-        EXPECT_NE(fehlernummer([&] { rs.Filter(schlecht); }), 0) << schlecht;
+    for (const auto* bad : {"Nr = ", "Nr = 2 OR", "Weg = 1", "DROP TABLE x"})
+        EXPECT_NE(faultNumber([&] { rs.Filter(bad); }), 0) << bad;
     EXPECT_EQ(rs.filterText(), "Nr = 2");
-    EXPECT_THAT(namen(rs), ElementsAre("B"));
+    EXPECT_THAT(names(rs), ElementsAre("B"));
     rs.Filter("Nr > 5");
-    EXPECT_TRUE(rs.leer());
+    EXPECT_TRUE(rs.empty());
     rs.Filter("");
-    EXPECT_EQ(stelle(rs), "A");
+    EXPECT_EQ(position(rs), "A");
 }
 
 TEST(Recordset, CloseAndOpenEmptyARecordsetInMemory)
 {
-    auto rs = recordsetMit({{"A", 1}});
+    auto rs = recordsetWith({{"A", 1}});
     rs.Close();
-    EXPECT_FALSE(rs.offen());
+    EXPECT_FALSE(rs.open());
     rs.Open();
-    EXPECT_TRUE(rs.leer());
-    EXPECT_TRUE(rs.hatFeld("WERT"));
+    EXPECT_TRUE(rs.empty());
+    EXPECT_TRUE(rs.hasField("WERT"));
 }
 
 } // namespace

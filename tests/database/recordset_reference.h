@@ -12,191 +12,190 @@
 #include <vector>
 
 // Random rows and conditions, with what they mean told row by row: the measure for every quicker way.
-namespace quelvarn::referenz {
+namespace quelvarn::reference {
 
-using Zeile = std::vector<Value>; // by the columns below
-struct Feld
+using Row = std::vector<Value>; // by the columns below
+struct Field
 {
     std::string name;
-    FeldTyp typ;
+    FieldType type;
 };
-inline const std::vector<Feld> FELDER{{"Titel", FeldTyp::Text},
-                                      {"Thema", FeldTyp::Text},
-                                      {"Nr", FeldTyp::Ganzzahl},
-                                      {"Wert", FeldTyp::Gleitkomma},
-                                      {"Tag", FeldTyp::Datum}};
+inline const std::vector<Field> FIELDS{{"Titel", FieldType::Text},
+                                       {"Thema", FieldType::Text},
+                                       {"Nr", FieldType::Integer},
+                                       {"Wert", FieldType::FloatingPoint},
+                                       {"Tag", FieldType::Date}};
 
 // True, false, or nothing where Null is compared.
-using Urteil = std::optional<bool>;
-struct Bedingung
+using Verdict = std::optional<bool>;
+struct Condition
 {
-    std::string alsFilter; // day first; means the same where the patterns are those of filters
-    std::string alsSql;    // month first
-    std::function<Urteil(const Zeile&)> trifft;
+    std::string asFilter; // day first; means the same where the patterns are those of filters
+    std::string asSql;    // month first
+    std::function<Verdict(const Row&)> meets;
 };
 
-inline bool passt(std::u32string_view text, std::u32string_view muster)
+inline bool fits(std::u32string_view text, std::u32string_view pattern)
 {
-    if (muster.empty())
+    if (pattern.empty())
         return text.empty();
-    if (muster[0] == U'%')
-        return passt(text, muster.substr(1)) || (!text.empty() && passt(text.substr(1), muster));
+    if (pattern[0] == U'%')
+        return fits(text, pattern.substr(1)) || (!text.empty() && fits(text.substr(1), pattern));
     if (text.empty())
         return false;
-    if (muster[0] == U'[') {
-        const std::size_t ende = muster.find(U']');
-        return muster.substr(1, ende - 1).find(text[0]) != muster.npos &&
-               passt(text.substr(1), muster.substr(ende + 1));
+    if (pattern[0] == U'[') {
+        const std::size_t end = pattern.find(U']');
+        return pattern.substr(1, end - 1).find(text[0]) != pattern.npos &&
+               fits(text.substr(1), pattern.substr(end + 1));
     }
-    return (muster[0] == U'_' || muster[0] == text[0]) && passt(text.substr(1), muster.substr(1));
+    return (pattern[0] == U'_' || pattern[0] == text[0]) && fits(text.substr(1), pattern.substr(1));
 }
 
-inline int vergleiche(const Value& links, const Value& rechts)
+inline int compare(const Value& left, const Value& right)
 {
-    if (const auto* text = std::get_if<std::string>(&links))
-        return sortKey(*text).compare(sortKey(alsText(rechts)));
-    const double l = alsZahl(links);
-    const double r = alsZahl(rechts);
+    if (const auto* text = std::get_if<std::string>(&left))
+        return sortKey(*text).compare(sortKey(asText(right)));
+    const double l = asNumber(left);
+    const double r = asNumber(right);
     return l < r ? -1 : l > r ? 1 : 0;
 }
 
-class Zufall
+class Random
 {
 public:
-    explicit Zufall(unsigned saat) : quelle_(saat) {}
+    explicit Random(unsigned seed) : source_(seed) {}
     bool filterPatterns = false; // '*' alone is a wildcard; else '%', '_' and classes are.
-    std::size_t unter(std::size_t grenze) { return quelle_() % grenze; }
-    template <class T> const T& aus(const std::vector<T>& liste) { return liste[unter(liste.size())]; }
+    std::size_t below(std::size_t limit) { return source_() % limit; }
+    template <class T> const T& out(const std::vector<T>& list) { return list[below(list.size())]; }
 
     std::string text()
     {
-        static const std::vector<std::string> STUECKE{"a", "A", "ä", "Ä", "b",  "B", "ß", "ss",
-                                                      " ", "1", "é", "-", "ab", "_", "["};
-        std::string ergebnis;
-        for (std::size_t n = unter(4); n > 0; --n)
-            ergebnis += aus(STUECKE);
-        return ergebnis;
+        static const std::vector<std::string> PIECES{"a", "A", "ä", "Ä", "b",  "B", "ß", "ss",
+                                                     " ", "1", "é", "-", "ab", "_", "["};
+        std::string result;
+        for (std::size_t n = below(4); n > 0; --n)
+            result += out(PIECES);
+        return result;
     }
 
-    Value wert(FeldTyp typ)
+    Value value(FieldType type)
     {
-        if (unter(6) == 0)
+        if (below(6) == 0)
             return {};
-        switch (typ) {
-        case FeldTyp::Text:
+        switch (type) {
+        case FieldType::Text:
             return text();
-        case FeldTyp::Ganzzahl:
-            return static_cast<std::int64_t>(unter(7)) - 2;
-        case FeldTyp::Gleitkomma:
-            return (static_cast<double>(unter(9)) - 4) / 2;
-        case FeldTyp::Datum:
+        case FieldType::Integer:
+            return static_cast<std::int64_t>(below(7)) - 2;
+        case FieldType::FloatingPoint:
+            return (static_cast<double>(below(9)) - 4) / 2;
+        case FieldType::Date:
             break;
         }
-        return tag();
+        return day();
     }
 
-    Zeile zeile()
+    Row row()
     {
-        Zeile ergebnis;
-        for (const Feld& feld : FELDER)
-            ergebnis.push_back(wert(feld.typ));
-        return ergebnis;
+        Row result;
+        for (const Field& field : FIELDS)
+            result.push_back(value(field.type));
+        return result;
     }
 
-    Bedingung bedingung(int tiefe)
+    Condition condition(int depth)
     {
-        if (tiefe == 0 || unter(3) == 0)
-            return blatt();
-        if (unter(5) == 0) {
-            const Bedingung teil = bedingung(tiefe - 1);
-            return {"NOT (" + teil.alsFilter + ")", "NOT (" + teil.alsSql + ")", [=](const Zeile& zeile) -> Urteil {
-                        const Urteil urteil = teil.trifft(zeile);
-                        return urteil ? Urteil(!*urteil) : urteil;
+        if (depth == 0 || below(3) == 0)
+            return sheet();
+        if (below(5) == 0) {
+            const Condition part = condition(depth - 1);
+            return {"NOT (" + part.asFilter + ")", "NOT (" + part.asSql + ")", [=](const Row& row) -> Verdict {
+                        const Verdict verdict = part.meets(row);
+                        return verdict ? Verdict(!*verdict) : verdict;
                     }};
         }
-        const bool und = unter(2) == 0;
-        const std::string wort = und ? ") AND (" : ") OR (";
-        const Bedingung links = bedingung(tiefe - 1);
-        const Bedingung rechts = bedingung(tiefe - 1);
-        return {"(" + links.alsFilter + wort + rechts.alsFilter + ")", "(" + links.alsSql + wort + rechts.alsSql + ")",
-                [=](const Zeile& zeile) { return verbunden(links.trifft(zeile), rechts.trifft(zeile), und); }};
+        const bool both = below(2) == 0;
+        const std::string word = both ? ") AND (" : ") OR (";
+        const Condition left = condition(depth - 1);
+        const Condition right = condition(depth - 1);
+        return {"(" + left.asFilter + word + right.asFilter + ")", "(" + left.asSql + word + right.asSql + ")",
+                [=](const Row& row) { return connected(left.meets(row), right.meets(row), both); }};
     }
 
 private:
-    static Urteil verbunden(Urteil links, Urteil rechts, bool und)
+    static Verdict connected(Verdict left, Verdict right, bool both)
     {
-        if (links == Urteil(!und) || rechts == Urteil(!und))
-            return !und;
-        return links && rechts ? Urteil(und) : std::nullopt;
+        if (left == Verdict(!both) || right == Verdict(!both))
+            return !both;
+        return left && right ? Verdict(both) : std::nullopt;
     }
 
-    Zeitpunkt tag()
+    DateTime day()
     {
-        return Zeitpunkt::aus(
-            {2024, 1 + static_cast<int>(unter(3)), 1 + static_cast<int>(unter(3)), unter(2) ? 12 : 0});
+        return DateTime::out({2024, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), below(2) ? 12 : 0});
     }
 
-    Bedingung blatt()
+    Condition sheet()
     {
-        const std::size_t nummer = unter(FELDER.size());
-        const Feld& feld = FELDER[nummer];
-        if (unter(8) == 0) {
-            const bool nicht = unter(2) == 0;
-            const std::string text = feld.name + (nicht ? " Is Not Null" : " Is Null");
-            return {text, text, [=](const Zeile& zeile) -> Urteil { return istNull(zeile[nummer]) != nicht; }};
+        const std::size_t number = below(FIELDS.size());
+        const Field& field = FIELDS[number];
+        if (below(8) == 0) {
+            const bool negate = below(2) == 0;
+            const std::string text = field.name + (negate ? " Is Not Null" : " Is Null");
+            return {text, text, [=](const Row& row) -> Verdict { return isNull(row[number]) != negate; }};
         }
-        if (feld.typ == FeldTyp::Text && unter(2) == 0)
-            return like(nummer);
-        static const std::vector<std::pair<std::string, std::function<bool(int)>>> OPERATOREN{
+        if (field.type == FieldType::Text && below(2) == 0)
+            return like(number);
+        static const std::vector<std::pair<std::string, std::function<bool(int)>>> OPERATORS{
             {"=", [](int o) { return o == 0; }}, {"<>", [](int o) { return o != 0; }},
             {"<", [](int o) { return o < 0; }},  {"<=", [](int o) { return o <= 0; }},
             {">", [](int o) { return o > 0; }},  {">=", [](int o) { return o >= 0; }}};
-        const auto& [zeichen, pruefung] = aus(OPERATOREN);
+        const auto& [character, check] = out(OPERATORS);
         Value literal;
-        while (istNull(literal))
-            literal = wert(feld.typ == FeldTyp::Ganzzahl && unter(2) ? FeldTyp::Gleitkomma : feld.typ);
-        const std::string davor = feld.name + " " + zeichen + " ";
-        return {davor + literalText(literal, true), davor + literalText(literal, false),
-                [=, &pruefung = pruefung](const Zeile& zeile) -> Urteil {
-                    return istNull(zeile[nummer]) ? Urteil() : pruefung(vergleiche(zeile[nummer], literal));
+        while (isNull(literal))
+            literal = value(field.type == FieldType::Integer && below(2) ? FieldType::FloatingPoint : field.type);
+        const std::string before = field.name + " " + character + " ";
+        return {before + literalText(literal, true), before + literalText(literal, false),
+                [=, &check = check](const Row& row) -> Verdict {
+                    return isNull(row[number]) ? Verdict() : check(compare(row[number], literal));
                 }};
     }
 
-    Bedingung like(std::size_t nummer)
+    Condition like(std::size_t number)
     {
-        static const std::vector<std::string> STUECKE{"%", "%", "_", "a", "ä", "B", "ß", "[aé]", " ", "1"};
+        static const std::vector<std::string> PIECES{"%", "%", "_", "a", "ä", "B", "ß", "[aé]", " ", "1"};
         static const std::vector<std::string> OF_FILTERS{"*", "*", "_", "a", "ä", "B", "ß", "[", " ", "1", "%"};
-        std::string filtermuster;
-        for (std::size_t n = unter(5); n > 0; --n)
-            filtermuster += aus(filterPatterns ? OF_FILTERS : STUECKE);
-        const std::string muster = filterPatterns ? asSqlPattern(filtermuster, Wildcards::Star) : filtermuster;
-        const bool nicht = unter(3) == 0;
-        const std::string davor = FELDER[nummer].name + (nicht ? " NOT LIKE '" : " Like '");
-        return {davor + filtermuster + "'", davor + muster + "'",
-                [=, gefaltet = toUtf32(foldCase(muster))](const Zeile& zeile) -> Urteil {
-                    if (istNull(zeile[nummer]))
+        std::string filterPattern;
+        for (std::size_t n = below(5); n > 0; --n)
+            filterPattern += out(filterPatterns ? OF_FILTERS : PIECES);
+        const std::string pattern = filterPatterns ? asSqlPattern(filterPattern, Wildcards::Star) : filterPattern;
+        const bool negate = below(3) == 0;
+        const std::string before = FIELDS[number].name + (negate ? " NOT LIKE '" : " Like '");
+        return {before + filterPattern + "'", before + pattern + "'",
+                [=, folded = toUtf32(foldCase(pattern))](const Row& row) -> Verdict {
+                    if (isNull(row[number]))
                         return std::nullopt;
-                    return passt(toUtf32(foldCase(alsText(zeile[nummer]))), gefaltet) != nicht;
+                    return fits(toUtf32(foldCase(asText(row[number]))), folded) != negate;
                 }};
     }
 
-    std::string literalText(const Value& literal, bool tagZuerst)
+    std::string literalText(const Value& literal, bool dayFirst)
     {
         if (const auto* text = std::get_if<std::string>(&literal))
             return "'" + *text + "'";
-        if (const auto* zeit = std::get_if<Zeitpunkt>(&literal)) {
-            const Kalenderzeit k = zeit->kalender();
-            const auto zwei = [](int zahl) { return std::string(zahl < 10 ? "0" : "") + std::to_string(zahl); };
-            return "#" + zwei(tagZuerst ? k.tag : k.monat) + "/" + zwei(tagZuerst ? k.monat : k.tag) + "/24 " +
-                   zwei(k.stunde) + ":00:00#";
+        if (const auto* time = std::get_if<DateTime>(&literal)) {
+            const CalendarTime k = time->calendar();
+            const auto two = [](int number) { return std::string(number < 10 ? "0" : "") + std::to_string(number); };
+            return "#" + two(dayFirst ? k.day : k.month) + "/" + two(dayFirst ? k.month : k.day) + "/24 " +
+                   two(k.hour) + ":00:00#";
         }
-        if (const auto* ganz = std::get_if<std::int64_t>(&literal))
-            return std::to_string(*ganz);
-        std::string zahl = std::to_string(alsZahl(literal));
-        return zahl;
+        if (const auto* whole = std::get_if<std::int64_t>(&literal))
+            return std::to_string(*whole);
+        std::string number = std::to_string(asNumber(literal));
+        return number;
     }
 
-    std::mt19937 quelle_;
+    std::mt19937 source_;
 };
 
-} // namespace quelvarn::referenz
+} // namespace quelvarn::reference

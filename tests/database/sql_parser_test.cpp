@@ -11,29 +11,29 @@ using namespace quelvarn::sql;
 
 namespace {
 
-std::string anweisung(std::string_view text)
+std::string statement(std::string_view text)
 {
     try {
-        return alsAccessText(parseAnweisung(text));
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler.beschreibung();
+        return asAccessText(parseStatement(text));
+    } catch (const RuntimeError& fault) {
+        return fault.description();
     }
 }
 
 std::string filter(std::string_view text)
 {
     try {
-        const AusdruckZeiger bedingung = parseBedingung(text);
-        return bedingung ? alsAccessText(*bedingung) : "kein Filter";
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler.beschreibung();
+        const ExpressionPointer condition = parseCondition(text);
+        return condition ? asAccessText(*condition) : "kein Filter";
+    } catch (const RuntimeError& fault) {
+        return fault.description();
     }
 }
 
-struct Fall
+struct TestCase
 {
     std::string text;
-    std::string erwartet;
+    std::string expected;
 };
 
 constexpr auto SYNTAX = "Syntaxfehler";
@@ -42,7 +42,7 @@ constexpr auto SYNTAX = "Syntaxfehler";
 
 TEST(SqlParser, ReadsTheStatementsOfTheProgram)
 {
-    const std::vector<Fall> faelle{
+    const std::vector<TestCase> cases{
         {"SELECT DISTINCT * FROM Ini WHERE Feld1 = 'Meier' AND Feld2 = 'Berechtigung'",
          "Select Distinct * From [Ini] Where ([Feld1] = 'Meier' And [Feld2] = 'Berechtigung')"},
         {"SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND (Feld3 = 'Zeitinterval' Or "
@@ -84,15 +84,15 @@ TEST(SqlParser, ReadsTheStatementsOfTheProgram)
         {"DELETE * FROM CheckInOut WHERE ADNutzer > 4", "Delete From [CheckInOut] Where [ADNutzer] > 4"},
         {"delete from CheckInOut", "Delete From [CheckInOut]"},
     };
-    for (const Fall& fall : faelle) {
-        EXPECT_EQ(anweisung(fall.text), fall.erwartet) << fall.text;
-        EXPECT_EQ(anweisung(fall.erwartet), fall.erwartet);
+    for (const TestCase& testCase : cases) {
+        EXPECT_EQ(statement(testCase.text), testCase.expected) << testCase.text;
+        EXPECT_EQ(statement(testCase.expected), testCase.expected);
     }
 }
 
 TEST(SqlParser, BindsNotBeforeAndBeforeOr)
 {
-    const std::vector<Fall> faelle{
+    const std::vector<TestCase> cases{
         {"a = 1 OR b = 2 AND NOT c = 3 OR d = 4", "([a] = 1 Or ([b] = 2 And Not [c] = 3) Or [d] = 4)"},
         {"(a = 1 OR b = 2) AND c = 3", "(([a] = 1 Or [b] = 2) And [c] = 3)"},
         {"Not Not a = 1", "Not Not [a] = 1"},
@@ -107,14 +107,14 @@ TEST(SqlParser, BindsNotBeforeAndBeforeOr)
          "(([Status] >= 1 And [Status] <= 3) And [Projekt] Like 'A*')"},
         {" \n", "kein Filter"},
     };
-    for (const Fall& fall : faelle)
-        EXPECT_EQ(filter(fall.text), fall.erwartet) << fall.text;
+    for (const TestCase& testCase : cases)
+        EXPECT_EQ(filter(testCase.text), testCase.expected) << testCase.text;
 }
 
 // Values are pasted into statements without doubling their apostrophes.
 TEST(SqlParser, KeepsApostrophesThatBelongToTheValue)
 {
-    const std::vector<std::string> werte{
+    const std::vector<std::string> values{
         "Müller's",
         "D'Angelo GmbH",
         "3/4' Rohr",
@@ -135,27 +135,27 @@ TEST(SqlParser, KeepsApostrophesThatBelongToTheValue)
         "x' UNION SELECT 1",
         "x'; DELETE FROM Ini; --'",
     };
-    for (const std::string& wert : werte) {
-        for (const char* dahinter : {"", " ORDER BY Titel", ";", " AND ( Status = 3 OR Status = 4)"}) {
-            const auto gelesen = parseAnweisung("SELECT * FROM PartTabelle WHERE Titel = '" + wert + "'" + dahinter);
-            const Ausdruck* bedingung = std::get<Select>(gelesen).where.get();
-            if (const auto* und = std::get_if<Und>(&bedingung->inhalt))
-                bedingung = und->teile.front().get();
-            EXPECT_EQ(std::get<Bedingung>(bedingung->inhalt).wert, Value(wert)) << dahinter;
+    for (const std::string& value : values) {
+        for (const char* behind : {"", " ORDER BY Titel", ";", " AND ( Status = 3 OR Status = 4)"}) {
+            const auto read = parseStatement("SELECT * FROM PartTabelle WHERE Titel = '" + value + "'" + behind);
+            const Expression* condition = std::get<Select>(read).where.get();
+            if (const auto* both = std::get_if<And>(&condition->content))
+                condition = both->parts.front().get();
+            EXPECT_EQ(std::get<Condition>(condition->content).value, Value(value)) << behind;
         }
-        const auto geschrieben = parseAnweisung("UPDATE Ini SET Feld4 = '" + wert + "', Feld5 = '" + wert +
-                                                "' WHERE Feld1 = '" + wert + "'");
-        EXPECT_EQ(std::get<Update>(geschrieben).werte.at(0).wert, Value(wert));
-        EXPECT_EQ(std::get<Update>(geschrieben).werte.at(1).wert, Value(wert));
-        const auto eingefuegt = parseAnweisung("INSERT INTO Ini (a, b) VALUES ('" + wert + "', '" + wert + "')");
-        EXPECT_EQ(std::get<Insert>(eingefuegt).werte.at(0).wert, Value(wert));
-        EXPECT_EQ(std::get<Insert>(eingefuegt).werte.at(1).wert, Value(wert));
+        const auto written = parseStatement("UPDATE Ini SET Feld4 = '" + value + "', Feld5 = '" + value +
+                                            "' WHERE Feld1 = '" + value + "'");
+        EXPECT_EQ(std::get<Update>(written).values.at(0).value, Value(value));
+        EXPECT_EQ(std::get<Update>(written).values.at(1).value, Value(value));
+        const auto inserted = parseStatement("INSERT INTO Ini (a, b) VALUES ('" + value + "', '" + value + "')");
+        EXPECT_EQ(std::get<Insert>(inserted).values.at(0).value, Value(value));
+        EXPECT_EQ(std::get<Insert>(inserted).values.at(1).value, Value(value));
     }
 }
 
 TEST(SqlParser, ReadsDoubledApostrophesAsOneAndTwoAsTheEmptyText)
 {
-    const std::vector<Fall> faelle{
+    const std::vector<TestCase> cases{
         {"Titel Like '%''%'", "[Titel] Like '%''%'"},
         {"Titel Like '' AND Name NOT LIKE ' '", "([Titel] Like '' And [Name] Not Like ' ')"},
         {"(Titel Like '')", "[Titel] Like ''"},
@@ -166,15 +166,15 @@ TEST(SqlParser, ReadsDoubledApostrophesAsOneAndTwoAsTheEmptyText)
         {"Titel = 'a'' AND Autor = 'b'", "([Titel] = 'a''' And [Autor] = 'b')"},
         {"Titel In ('a'',', 'b')", "([Titel] = 'a'',' Or [Titel] = 'b')"},
     };
-    for (const Fall& fall : faelle) {
-        EXPECT_EQ(filter(fall.text), fall.erwartet) << fall.text;
-        EXPECT_EQ(filter(fall.erwartet), fall.erwartet);
+    for (const TestCase& testCase : cases) {
+        EXPECT_EQ(filter(testCase.text), testCase.expected) << testCase.text;
+        EXPECT_EQ(filter(testCase.expected), testCase.expected);
     }
 }
 
 TEST(SqlParser, RefusesWhatIsNotExactlyOneStatement)
 {
-    const std::vector<std::string> anweisungen{
+    const std::vector<std::string> statements{
         "",
         ";",
         "SELECT",
@@ -210,23 +210,23 @@ TEST(SqlParser, RefusesWhatIsNotExactlyOneStatement)
         "UPDATE Ini SET Feld1 WHERE Feld2 = 'x'",
         "DROP TABLE Ini",
     };
-    for (const std::string& text : anweisungen)
-        EXPECT_EQ(anweisung(text).substr(0, 12), SYNTAX) << text;
-    EXPECT_EQ(anweisung("SELECT CheckInOut.Feld1 FROM Ini"),
+    for (const std::string& text : statements)
+        EXPECT_EQ(statement(text).substr(0, 12), SYNTAX) << text;
+    EXPECT_EQ(statement("SELECT CheckInOut.Feld1 FROM Ini"),
               "Die Tabelle 'CheckInOut' kommt in der Anweisung nicht vor.");
-    EXPECT_EQ(anweisung("SELECT * FROM Ini WHERE Feld1 == 'Ä'"), "Syntaxfehler im Ausdruck bei \"= 'Ä'\".");
+    EXPECT_EQ(statement("SELECT * FROM Ini WHERE Feld1 == 'Ä'"), "Syntaxfehler im Ausdruck bei \"= 'Ä'\".");
     EXPECT_EQ(filter("a = 1 ORDER BY a"), "Syntaxfehler im Ausdruck bei \"ORDER BY a\".");
     try {
-        parseBedingung("a =");
+        parseCondition("a =");
         FAIL();
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.nummer(), -2147217900);
+    } catch (const RuntimeError& fault) {
+        EXPECT_EQ(fault.number(), -2147217900);
     }
 }
 
 TEST(SqlParser, ReadsTheMonthFirstInStatementsAndTheDayFirstInFilters)
 {
-    const std::vector<std::pair<std::string, Fall>> faelle{
+    const std::vector<std::pair<std::string, TestCase>> cases{
         {"#04/03/26 00:00:00#", {"#04/03/2026 00:00:00#", "#03/04/2026 00:00:00#"}},
         {"#15/11/26 23:59:59#", {"#11/15/2026 23:59:59#", "#11/15/2026 23:59:59#"}},
         {"#11/15/26#", {"#11/15/2026 00:00:00#", "#11/15/2026 00:00:00#"}},
@@ -238,27 +238,27 @@ TEST(SqlParser, ReadsTheMonthFirstInStatementsAndTheDayFirstInFilters)
         {"#11/15/26", {SYNTAX, SYNTAX}},
         {"##", {SYNTAX, SYNTAX}},
     };
-    const auto datumAus = [](const std::string& text) {
+    const auto dateFrom = [](const std::string& text) {
         return text.starts_with(SYNTAX) ? SYNTAX : text.substr(text.find('#'));
     };
-    for (const auto& [literal, erwartet] : faelle) {
-        EXPECT_EQ(datumAus(anweisung("SELECT * FROM t WHERE d = " + literal)), erwartet.text) << literal;
-        EXPECT_EQ(datumAus(filter("d = " + literal)), erwartet.erwartet) << literal;
+    for (const auto& [literal, expected] : cases) {
+        EXPECT_EQ(dateFrom(statement("SELECT * FROM t WHERE d = " + literal)), expected.text) << literal;
+        EXPECT_EQ(dateFrom(filter("d = " + literal)), expected.expected) << literal;
     }
 }
 
 TEST(SqlParser, LimitsTheDepthOfBrackets)
 {
-    const auto geschachtelt = [](std::string_view auf, std::size_t tiefe, std::string_view zu) {
+    const auto nested = [](std::string_view toUnfold, std::size_t depth, std::string_view to) {
         std::string text;
-        for (std::size_t i = 0; i < tiefe; ++i)
-            text += auf;
+        for (std::size_t i = 0; i < depth; ++i)
+            text += toUnfold;
         text += "a = 1";
-        for (std::size_t i = 0; i < tiefe; ++i)
-            text += zu;
+        for (std::size_t i = 0; i < depth; ++i)
+            text += to;
         return filter(text);
     };
-    EXPECT_EQ(geschachtelt("(", 150, ")"), "[a] = 1");
-    EXPECT_EQ(geschachtelt("(", 100000, ")").substr(0, 12), SYNTAX);
-    EXPECT_EQ(geschachtelt("NOT ", 100000, "").substr(0, 12), SYNTAX);
+    EXPECT_EQ(nested("(", 150, ")"), "[a] = 1");
+    EXPECT_EQ(nested("(", 100000, ")").substr(0, 12), SYNTAX);
+    EXPECT_EQ(nested("NOT ", 100000, "").substr(0, 12), SYNTAX);
 }

@@ -12,59 +12,59 @@ using namespace quelvarn::sql;
 
 namespace {
 
-const Tabellenschema PARTS{"PartTabelle",
-                           {{"DokuBez", FeldTyp::Text},
-                            {"Größe", FeldTyp::Text},
-                            {"Status", FeldTyp::Ganzzahl},
-                            {"Hauptwert_a", FeldTyp::Gleitkomma},
-                            {"Erstellt", FeldTyp::Datum}},
-                           {}};
+const TableSchema PARTS{"PartTabelle",
+                        {{"DokuBez", FieldType::Text},
+                         {"Größe", FieldType::Text},
+                         {"Status", FieldType::Integer},
+                         {"Hauptwert_a", FieldType::FloatingPoint},
+                         {"Erstellt", FieldType::Date}},
+                        {}};
 
 // The parameters as they would be read, divided by "|".
-std::string parameter(const Gerendert& gerendert)
+std::string parameter(const Rendered& rendered)
 {
     std::string text;
-    for (const Value& wert : gerendert.parameter) {
+    for (const Value& value : rendered.parameter) {
         text += text.empty() ? "" : "|";
-        text += std::holds_alternative<std::string>(wert) ? "'" + alsText(wert) + "'" : alsText(wert);
+        text += std::holds_alternative<std::string>(value) ? "'" + asText(value) + "'" : asText(value);
     }
     return text;
 }
 
-Gerendert gerendert(const Dialekt& dialekt, std::string_view sql, std::size_t grenze = 0)
+Rendered rendered(const Dialect& dialect, std::string_view sql, std::size_t limit = 0)
 {
-    const Anweisung anweisung = parseAnweisung(sql);
-    if (const auto* select = std::get_if<Select>(&anweisung))
-        return dialekt.select(*select, PARTS, MitSchluessel::Nein, grenze);
-    return dialekt.aenderung(anweisung, PARTS);
+    const Statement statement = parseStatement(sql);
+    if (const auto* select = std::get_if<Select>(&statement))
+        return dialect.select(*select, PARTS, WithKey::No, limit);
+    return dialect.change(statement, PARTS);
 }
 
 } // namespace
 
 TEST(SqlRenderer, RefusesWhatTheTableDoesNotHave)
 {
-    const std::vector<std::pair<std::string, int>> faelle{
-        {"SELECT Preis FROM PartTabelle", FEHLER_FELD_FEHLT},
-        {"SELECT * FROM PartTabelle WHERE Preis = 1", FEHLER_FELD_FEHLT},
-        {"SELECT * FROM PartTabelle ORDER BY Preis", FEHLER_FELD_FEHLT},
-        {"SELECT DISTINCT DokuBez FROM PartTabelle ORDER BY Status", FEHLER_FELD_FEHLT},
-        {"UPDATE PartTabelle SET Preis = 1", FEHLER_FELD_FEHLT},
-        {"UPDATE PartTabelle SET Status = 'offen'", FEHLER_DATENTYP},
-        {"INSERT INTO PartTabelle (Erstellt) VALUES ('')", FEHLER_DATENTYP},
+    const std::vector<std::pair<std::string, int>> cases{
+        {"SELECT Preis FROM PartTabelle", FAULT_MISSING_FIELD},
+        {"SELECT * FROM PartTabelle WHERE Preis = 1", FAULT_MISSING_FIELD},
+        {"SELECT * FROM PartTabelle ORDER BY Preis", FAULT_MISSING_FIELD},
+        {"SELECT DISTINCT DokuBez FROM PartTabelle ORDER BY Status", FAULT_MISSING_FIELD},
+        {"UPDATE PartTabelle SET Preis = 1", FAULT_MISSING_FIELD},
+        {"UPDATE PartTabelle SET Status = 'offen'", FAULT_DATA_TYPE},
+        {"INSERT INTO PartTabelle (Erstellt) VALUES ('')", FAULT_DATA_TYPE},
     };
-    for (const auto& [sql, nummer] : faelle) {
+    for (const auto& [sql, number] : cases) {
         try {
-            gerendert(sqliteDialekt(), sql);
+            rendered(sqliteDialect(), sql);
             ADD_FAILURE() << sql;
-        } catch (const Laufzeitfehler& fehler) {
-            EXPECT_EQ(fehler.nummer(), nummer) << fehler.beschreibung();
+        } catch (const RuntimeError& fault) {
+            EXPECT_EQ(fault.number(), number) << fault.description();
         }
     }
 }
 
 TEST(SqlRenderer, AccessIsTakenAtItsWord)
 {
-    const std::pair<std::string, std::string> faelle[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"Select DokuBez, Status From PartTabelle Where Größe = 'ä''b' Order By DokuBez, Status Desc",
          "SELECT TOP 5 [DokuBez], [Status] FROM [PartTabelle] WHERE [Größe] = ? ORDER BY [DokuBez], [Status] DESC <- "
          "'ä'b'"},
@@ -78,15 +78,15 @@ TEST(SqlRenderer, AccessIsTakenAtItsWord)
         {"Insert Into PartTabelle (DokuBez, Status) Values ('a', 2)",
          "INSERT INTO [PartTabelle] ([DokuBez], [Status]) VALUES (?, 2) <- 'a'"},
     };
-    for (const auto& [anweisung, erwartet] : faelle) {
-        const Gerendert fertig = gerendert(accessDialekt(), anweisung, 5);
-        EXPECT_EQ(fertig.text + " <- " + parameter(fertig), erwartet);
+    for (const auto& [statement, expected] : cases) {
+        const Rendered finish = rendered(accessDialect(), statement, 5);
+        EXPECT_EQ(finish.text + " <- " + parameter(finish), expected);
     }
-    const Select gefiltert =
+    const Select filtered =
         Query("PartTabelle").columns({"DokuBez"}).where(like("DokuBez", "a#%*_[a]?]", Wildcards::Star));
-    EXPECT_EQ(parameter(accessDialekt().select(gefiltert, PARTS, MitSchluessel::Nein)), "'a[#][%]%[_][[]a][?]]'");
-    const Zuweisung bild[] = {{"DokuBez", std::string("a")}, {"Größe", {}}, {"Status", std::int64_t{2}}};
-    const Gerendert loeschen = accessDialekt().loescheZeile(PARTS, bild);
-    EXPECT_EQ(loeschen.text,
+    EXPECT_EQ(parameter(accessDialect().select(filtered, PARTS, WithKey::No)), "'a[#][%]%[_][[]a][?]]'");
+    const Assignment picture[] = {{"DokuBez", std::string("a")}, {"Größe", {}}, {"Status", std::int64_t{2}}};
+    const Rendered remove = accessDialect().removeRow(PARTS, picture);
+    EXPECT_EQ(remove.text,
               "DELETE FROM [PartTabelle] WHERE StrComp([DokuBez], ?, 0) = 0 AND [Größe] IS NULL AND [Status] = 2");
 }

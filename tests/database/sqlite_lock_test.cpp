@@ -22,10 +22,10 @@ class SqliteLock : public ::testing::Test
 protected:
     SqliteLock()
     {
-        const auto engine = oeffneSqlite(file_, true);
-        engine->legeTabelleAn({"Tafel", {{"Wort"}}, {}});
-        const sql::Zuweisung values[] = {{"Wort", "alt"}};
-        engine->fuegeEin("Tafel", values);
+        const auto engine = openSqlite(file_, true);
+        engine->createTable({"Tafel", {{"Wort"}}, {}});
+        const sql::Assignment values[] = {{"Wort", "alt"}};
+        engine->insert("Tafel", values);
         open(file_);
     }
     ~SqliteLock() override { sqlite3_close(other_); }
@@ -56,8 +56,8 @@ std::string faultText(FaultKind kind, const std::function<void()>& call)
     try {
         call();
     } catch (const DatabaseFault& fault) {
-        EXPECT_EQ(fault.kind(), kind) << fault.beschreibung();
-        return fault.beschreibung();
+        EXPECT_EQ(fault.kind(), kind) << fault.description();
+        return fault.description();
     }
     ADD_FAILURE() << "no fault";
     return "";
@@ -69,11 +69,11 @@ TEST_F(SqliteLock, GivingUpEndsAnyStatementAndLeavesNothingHalfDone)
     Connection connection;
     connection.setPatience(&patience);
     connection.Open(file_);
-    patience.during = [&] { EXPECT_THROW(word(connection), Laufzeitfehler) << "no statement within a statement"; };
+    patience.during = [&] { EXPECT_THROW(word(connection), RuntimeError) << "no statement within a statement"; };
     const std::function<void()> calls[] = {
         [&] { word(connection); },
         [&] { setWord(connection); },
-        [&] { const Transaktion together(connection); },
+        [&] { const Transaction together(connection); },
         [&] {
             patience.during = {}; // The other connection is free.
             Connection late;
@@ -109,9 +109,9 @@ TEST_F(SqliteLock, ATransactionThatCannotEndIsTakenBack)
     sqlite3_prepare_v2(other_, "SELECT * FROM Tafel", -1, &reading, nullptr);
     sqlite3_step(reading);
     faultText(FaultKind::GivenUp, [&] {
-        Transaktion together(connection);
+        Transaction together(connection);
         setWord(connection);
-        together.schliesseAb();
+        together.commit();
     });
     sqlite3_finalize(reading);
     other("COMMIT");

@@ -12,74 +12,74 @@
 
 namespace quelvarn {
 
-// Answers boxes in place of a person. Each box must have been announced, by `erwarte` or `antworte`:
+// Answers boxes in place of a person. Each box must have been announced, by `expect` or `answer`:
 // one that was not, or an announced one that never came, fails the test.
-class FakeMeldungen : public Meldungen
+class FakeBoxes : public Boxes
 {
 public:
-    ~FakeMeldungen() override
+    ~FakeBoxes() override
     {
-        for (const Ankuendigung& offen : angekuendigt_)
-            ADD_FAILURE() << "box did not come: " << offen.titel.value_or("(any)") << " / " << offen.text.value_or("");
+        for (const Announcement& open : announced_)
+            ADD_FAILURE() << "box did not come: " << open.title.value_or("(any)") << " / " << open.text.value_or("");
     }
 
     // The next box has this title and text, and gets this answer.
-    void erwarte(std::string titel, std::string text, Antwort antwort = Antwort::Ok)
+    void expect(std::string title, std::string text, Answer answer = Answer::Ok)
     {
-        angekuendigt_.push_back({std::move(titel), std::move(text), antwort});
+        announced_.push_back({std::move(title), std::move(text), answer});
     }
-    // The next box, whatever it says, gets this answer; `gezeigt` tells what it said.
-    void antworte(Antwort antwort = Antwort::Ok) { angekuendigt_.push_back({std::nullopt, std::nullopt, antwort}); }
+    // The next box, whatever it says, gets this answer; `shown` tells what it said.
+    void answer(Answer answer = Answer::Ok) { announced_.push_back({std::nullopt, std::nullopt, answer}); }
     // From now on boxes with only an OK button need no announcement.
-    void erlaubeHinweise() { hinweiseErlaubt_ = true; }
+    void allowHints() { hintsAllowed_ = true; }
 
-    Antwort zeige(const Meldung& meldung) override
+    Answer show(const Box& box) override
     {
-        gezeigt.push_back(meldung);
+        shown.push_back(box);
         if (during)
             during();
-        if (angekuendigt_.empty()) {
-            if (!hinweiseErlaubt_ || meldung.knoepfe != Knoepfe::Ok)
-                ADD_FAILURE() << "unexpected box: " << meldung.titel << "\n" << meldung.text;
-            return Antwort::Ok;
+        if (announced_.empty()) {
+            if (!hintsAllowed_ || box.buttons != Buttons::Ok)
+                ADD_FAILURE() << "unexpected box: " << box.title << "\n" << box.text;
+            return Answer::Ok;
         }
-        const Ankuendigung naechste = angekuendigt_.front();
-        angekuendigt_.pop_front();
-        EXPECT_EQ(meldung.titel, naechste.titel.value_or(meldung.titel));
-        EXPECT_EQ(meldung.text, naechste.text.value_or(meldung.text));
-        EXPECT_TRUE(hatKnopf(meldung.knoepfe, naechste.antwort)) << "no such button: " << meldung.titel;
-        return naechste.antwort;
+        const Announcement next = announced_.front();
+        announced_.pop_front();
+        EXPECT_EQ(box.title, next.title.value_or(box.title));
+        EXPECT_EQ(box.text, next.text.value_or(box.text));
+        EXPECT_TRUE(hasButton(box.buttons, next.answer)) << "no such button: " << box.title;
+        return next.answer;
     }
 
-    const Meldung& letzte() const { return gezeigt.at(gezeigt.size() - 1); }
+    const Box& last() const { return shown.at(shown.size() - 1); }
 
-    std::vector<Meldung> gezeigt;
+    std::vector<Box> shown;
     std::function<void()> during; // While a box is shown, the window behind it is drawn.
 
 private:
-    struct Ankuendigung
+    struct Announcement
     {
-        std::optional<std::string> titel;
+        std::optional<std::string> title;
         std::optional<std::string> text;
-        Antwort antwort;
+        Answer answer;
     };
 
-    static bool hatKnopf(Knoepfe knoepfe, Antwort antwort)
+    static bool hasButton(Buttons buttons, Answer answer)
     {
-        switch (antwort) {
-        case Antwort::Ok:
-            return knoepfe == Knoepfe::Ok || knoepfe == Knoepfe::OkAbbrechen;
-        case Antwort::Abbrechen:
-            return knoepfe == Knoepfe::OkAbbrechen || knoepfe == Knoepfe::JaNeinAbbrechen;
-        case Antwort::Ja:
-        case Antwort::Nein:
-            return knoepfe == Knoepfe::JaNein || knoepfe == Knoepfe::JaNeinAbbrechen;
+        switch (answer) {
+        case Answer::Ok:
+            return buttons == Buttons::Ok || buttons == Buttons::OkCancel;
+        case Answer::Cancel:
+            return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel;
+        case Answer::Yes:
+        case Answer::No:
+            return buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
         }
         return false;
     }
 
-    std::deque<Ankuendigung> angekuendigt_;
-    bool hinweiseErlaubt_ = false;
+    std::deque<Announcement> announced_;
+    bool hintsAllowed_ = false;
 };
 
 } // namespace quelvarn

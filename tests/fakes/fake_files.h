@@ -14,167 +14,164 @@
 
 namespace quelvarn {
 
-// A file system in memory with the drives C: and W:, blind to case. `gesperrt` holds folded paths
+// A file system in memory with the drives C: and W:, blind to case. `locked` holds folded paths
 // that nobody may write, delete or create.
-class FakeDateien : public Dateien
+class FakeFiles : public Files
 {
 public:
-    explicit FakeDateien(const Uhr& uhr) : uhr_(uhr)
+    explicit FakeFiles(const Clock& clock) : clock_(clock)
     {
-        lege("C:", Eintrag{true});
-        lege("W:", Eintrag{true});
+        put("C:", Entry{true});
+        put("W:", Entry{true});
     }
 
     // A file with all its folders.
-    void legeAn(std::string_view pfad, std::string_view inhalt = "")
+    void create(std::string_view documentPath, std::string_view content = "")
     {
-        for (std::size_t slash = pfad.find('\\', 2); slash != std::string_view::npos;
-             slash = pfad.find('\\', slash + 1))
-            eintraege_.try_emplace(schluessel(pfad.substr(0, slash)),
-                                   Eintrag{true, std::string(pfad.substr(0, slash))});
-        schreibe(pfad, inhalt);
+        for (std::size_t slash = documentPath.find('\\', 2); slash != std::string_view::npos;
+             slash = documentPath.find('\\', slash + 1))
+            entries_.try_emplace(keyOf(documentPath.substr(0, slash)),
+                                 Entry{true, std::string(documentPath.substr(0, slash))});
+        write(documentPath, content);
     }
     // The same for a real file, for those that open it by its system path.
-    void verbinde(std::string_view pfad, const std::filesystem::path& echt)
+    void connect(std::string_view documentPath, const std::filesystem::path& genuine)
     {
-        legeAn(pfad);
-        eintraege_.at(schluessel(pfad)).echt = echt;
+        create(documentPath);
+        entries_.at(keyOf(documentPath)).genuine = genuine;
     }
-    void sperre(std::string_view pfad) { gesperrt.insert(schluessel(pfad)); }
+    void lock(std::string_view documentPath) { locked.insert(keyOf(documentPath)); }
     // For a test to set times or the hidden attribute.
-    Dateiattribute& aendereAttribute(std::string_view pfad) { return eintrag(pfad).attribute; }
+    FileAttributes& updateAttribute(std::string_view documentPath) { return entry(documentPath).attribute; }
 
-    bool dateiVorhanden(std::string_view pfad) const override
+    bool fileExists(std::string_view documentPath) const override
     {
-        const Eintrag* gefunden = suche(pfad);
-        return gefunden && !gefunden->ordner;
+        const Entry* found = search(documentPath);
+        return found && !found->folder;
     }
-    bool ordnerVorhanden(std::string_view pfad) const override
+    bool folderExists(std::string_view documentPath) const override
     {
-        const Eintrag* gefunden = suche(pfad);
-        return gefunden && gefunden->ordner;
+        const Entry* found = search(documentPath);
+        return found && found->folder;
     }
-    void ordnerAnlegen(std::string_view pfad) override
+    void createFolder(std::string_view documentPath) override
     {
-        pruefeSchreiben(pfad);
-        if (suche(pfad))
-            throw dateifehler(std::errc::file_exists, pfad);
-        lege(pfad, Eintrag{true});
+        checkWrite(documentPath);
+        if (search(documentPath))
+            throw fileFault(std::errc::file_exists, documentPath);
+        put(documentPath, Entry{true});
     }
-    std::vector<Ordnereintrag> inhalt(std::string_view ordner) const override
+    std::vector<FolderEntry> content(std::string_view folder) const override
     {
-        if (!ordnerVorhanden(ordner))
-            throw dateifehler(std::errc::no_such_file_or_directory, ordner);
-        std::vector<Ordnereintrag> namen;
-        for (const auto& [key, e] : eintraege_) {
-            if (schluessel(Ordnername(e.pfad)) == schluessel(ordner))
-                namen.push_back({DateiName(e.pfad), e.ordner});
+        if (!folderExists(folder))
+            throw fileFault(std::errc::no_such_file_or_directory, folder);
+        std::vector<FolderEntry> names;
+        for (const auto& [key, e] : entries_) {
+            if (keyOf(Ordnername(e.documentPath)) == keyOf(folder))
+                names.push_back({DateiName(e.documentPath), e.folder});
         }
-        std::sort(namen.begin(), namen.end(),
+        std::sort(names.begin(), names.end(),
                   [](const auto& a, const auto& b) { return compareText(a.name, b.name) < 0; });
-        return namen;
+        return names;
     }
 
-    std::optional<Dateiattribute> attribute(std::string_view pfad) const override
+    std::optional<FileAttributes> attribute(std::string_view documentPath) const override
     {
-        const Eintrag* gefunden = suche(pfad);
-        if (!gefunden || gefunden->ordner)
+        const Entry* found = search(documentPath);
+        if (!found || found->folder)
             return std::nullopt;
-        Dateiattribute result = gefunden->attribute;
-        result.groesse = static_cast<std::int64_t>(gefunden->inhalt.size());
+        FileAttributes result = found->attribute;
+        result.size = static_cast<std::int64_t>(found->content.size());
         return result;
     }
-    void setzeSchreibschutz(std::string_view pfad, bool gesetzt) override
-    {
-        eintrag(pfad).attribute.schreibgeschuetzt = gesetzt;
-    }
-    void setzeArchiv(std::string_view pfad, bool gesetzt) override { eintrag(pfad).attribute.archiv = gesetzt; }
+    void setReadOnly(std::string_view documentPath, bool set) override { entry(documentPath).attribute.readOnly = set; }
+    void setArchive(std::string_view documentPath, bool set) override { entry(documentPath).attribute.archive = set; }
 
-    std::string lese(std::string_view pfad) const override
+    std::string read(std::string_view documentPath) const override
     {
-        if (!dateiVorhanden(pfad))
-            throw dateifehler(std::errc::no_such_file_or_directory, pfad);
-        return suche(pfad)->inhalt;
+        if (!fileExists(documentPath))
+            throw fileFault(std::errc::no_such_file_or_directory, documentPath);
+        return search(documentPath)->content;
     }
-    void schreibe(std::string_view pfad, std::string_view inhalt) override
+    void write(std::string_view documentPath, std::string_view content) override
     {
-        pruefeSchreiben(pfad);
-        const Eintrag* alt = suche(pfad);
-        if (alt && (alt->ordner || alt->attribute.schreibgeschuetzt))
-            throw dateifehler(std::errc::permission_denied, pfad);
-        Eintrag neu = alt ? *alt : Eintrag{};
-        if (!alt)
-            neu.attribute.erstellt = neu.attribute.zugriff = uhr_.jetzt();
-        neu.attribute.geaendert = uhr_.jetzt();
-        neu.inhalt = inhalt;
-        lege(pfad, std::move(neu));
+        checkWrite(documentPath);
+        const Entry* old = search(documentPath);
+        if (old && (old->folder || old->attribute.readOnly))
+            throw fileFault(std::errc::permission_denied, documentPath);
+        Entry fresh = old ? *old : Entry{};
+        if (!old)
+            fresh.attribute.created = fresh.attribute.access = clock_.now();
+        fresh.attribute.changed = clock_.now();
+        fresh.content = content;
+        put(documentPath, std::move(fresh));
     }
-    void kopiere(std::string_view von, std::string_view nach) override
+    void copy(std::string_view from, std::string_view after) override
     {
-        schreibe(nach, lese(von));
-        eintrag(nach).attribute.geaendert = eintrag(von).attribute.geaendert;
+        write(after, read(from));
+        entry(after).attribute.changed = entry(from).attribute.changed;
     }
-    void loesche(std::string_view pfad) override
+    void remove(std::string_view documentPath) override
     {
-        pruefeSchreiben(pfad);
-        if (eintrag(pfad).ordner || eintrag(pfad).attribute.schreibgeschuetzt)
-            throw dateifehler(std::errc::permission_denied, pfad);
-        eintraege_.erase(schluessel(pfad));
+        checkWrite(documentPath);
+        if (entry(documentPath).folder || entry(documentPath).attribute.readOnly)
+            throw fileFault(std::errc::permission_denied, documentPath);
+        entries_.erase(keyOf(documentPath));
     }
 
-    std::filesystem::path systempfad(std::string_view pfad) const override
+    std::filesystem::path systemPath(std::string_view documentPath) const override
     {
-        const Eintrag* gefunden = suche(pfad);
-        return gefunden && !gefunden->echt.empty() ? gefunden->echt : std::filesystem::path("/nicht/vorhanden");
+        const Entry* found = search(documentPath);
+        return found && !found->genuine.empty() ? found->genuine : std::filesystem::path("/nicht/vorhanden");
     }
 
-    std::set<std::string> gesperrt;
+    std::set<std::string> locked;
 
 private:
-    struct Eintrag
+    struct Entry
     {
-        bool ordner = false;
-        std::string pfad = {};
-        std::string inhalt = {};
-        Dateiattribute attribute = {};
-        std::filesystem::path echt = {};
+        bool folder = false;
+        std::string documentPath = {};
+        std::string content = {};
+        FileAttributes attribute = {};
+        std::filesystem::path genuine = {};
     };
 
-    static std::string schluessel(std::string_view pfad)
+    static std::string keyOf(std::string_view documentPath)
     {
-        std::string key = foldCase(replaceAll(pfad, "/", "\\"));
+        std::string key = foldCase(replaceAll(documentPath, "/", "\\"));
         while (key.ends_with('\\'))
             key.pop_back();
         return key;
     }
-    const Eintrag* suche(std::string_view pfad) const
+    const Entry* search(std::string_view documentPath) const
     {
-        const auto found = eintraege_.find(schluessel(pfad));
-        return found == eintraege_.end() ? nullptr : &found->second;
+        const auto found = entries_.find(keyOf(documentPath));
+        return found == entries_.end() ? nullptr : &found->second;
     }
-    Eintrag& eintrag(std::string_view pfad)
+    Entry& entry(std::string_view documentPath)
     {
-        const auto found = eintraege_.find(schluessel(pfad));
-        if (found == eintraege_.end())
-            throw dateifehler(std::errc::no_such_file_or_directory, pfad);
+        const auto found = entries_.find(keyOf(documentPath));
+        if (found == entries_.end())
+            throw fileFault(std::errc::no_such_file_or_directory, documentPath);
         return found->second;
     }
-    void lege(std::string_view pfad, Eintrag eintrag)
+    void put(std::string_view documentPath, Entry entry)
     {
-        if (eintrag.pfad.empty())
-            eintrag.pfad = pfad;
-        eintraege_[schluessel(pfad)] = std::move(eintrag);
+        if (entry.documentPath.empty())
+            entry.documentPath = documentPath;
+        entries_[keyOf(documentPath)] = std::move(entry);
     }
-    void pruefeSchreiben(std::string_view pfad) const
+    void checkWrite(std::string_view documentPath) const
     {
-        if (gesperrt.contains(schluessel(pfad)))
-            throw dateifehler(std::errc::permission_denied, pfad);
-        if (!ordnerVorhanden(Ordnername(pfad)))
-            throw dateifehler(std::errc::no_such_file_or_directory, pfad);
+        if (locked.contains(keyOf(documentPath)))
+            throw fileFault(std::errc::permission_denied, documentPath);
+        if (!folderExists(Ordnername(documentPath)))
+            throw fileFault(std::errc::no_such_file_or_directory, documentPath);
     }
 
-    const Uhr& uhr_;
-    std::map<std::string, Eintrag> eintraege_;
+    const Clock& clock_;
+    std::map<std::string, Entry> entries_;
 };
 
 } // namespace quelvarn

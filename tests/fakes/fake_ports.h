@@ -14,23 +14,22 @@ struct FakePorts
     FakePorts(const FakePorts&) = delete;
     FakePorts& operator=(const FakePorts&) = delete;
 
-    FakeMeldungen meldungen;
-    FakeUhr uhr;
-    FakeUmgebung umgebung;
-    FakeDateien dateien{uhr};
-    FakeLaufwerke laufwerke;
-    FakeDrucker drucker;
-    FakeProgramme programme;
-    FakeZwischenablage zwischenablage;
-    FakeStandardanwendung standardanwendung;
-    FakeFortschritt fortschritt;
+    FakeBoxes boxes;
+    FakeClock clock;
+    FakeEnvironment environment;
+    FakeFiles files{clock};
+    FakeDrives drives;
+    FakePrinters printers;
+    FakePrograms programs;
+    FakeClipboard clipboard;
+    FakeDefaultApplication defaultApplication;
+    FakeProgress progress;
 
-    Ports ports() { return portsMit(dateien); }
+    Ports ports() { return portsWith(files); }
     // With files of another kind, such as real ones.
-    Ports portsMit(Dateien& andere)
+    Ports portsWith(Files& other)
     {
-        return {meldungen,         uhr,        umgebung, andere, laufwerke, drucker, programme, zwischenablage,
-                standardanwendung, fortschritt};
+        return {boxes, clock, environment, other, drives, printers, programs, clipboard, defaultApplication, progress};
     }
 };
 

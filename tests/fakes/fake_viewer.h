@@ -12,28 +12,28 @@ namespace quelvarn {
 class FakeViewer : public Viewer
 {
 public:
-    bool zeige(Ansicht ansicht, std::string_view filename) override
+    bool show(ViewerPlace view, std::string_view filename) override
     {
-        const bool kann = !kaputt.contains(std::string(filename));
-        steht(ansicht) = kann ? filename : "";
-        return kann;
+        const bool can = !broken.contains(std::string(filename));
+        stands(view) = can ? filename : "";
+        return can;
     }
-    void leere(Ansicht ansicht) override { steht(ansicht).clear(); }
+    void clear(ViewerPlace view) override { stands(view).clear(); }
 
-    std::string& steht(Ansicht ansicht) { return gezeigt_[static_cast<std::size_t>(ansicht)]; }
+    std::string& stands(ViewerPlace view) { return shown_[static_cast<std::size_t>(view)]; }
 
-    std::set<std::string> kaputt;
+    std::set<std::string> broken;
 
 private:
-    std::array<std::string, ANZAHL_ANSICHTEN> gezeigt_;
+    std::array<std::string, VIEWER_PLACE_COUNT> shown_;
 };
 
 // The viewers of a test, with a use registry that keeps nothing.
-struct FakeBildschirm
+struct FakeScreen
 {
     FakeViewer viewer;
-    KeinNutzungsregister nutzung;
-    GezeigteDateien gezeigt{viewer, nutzung};
+    NoUseRegistry use;
+    ShownFiles shown{viewer, use};
 };
 
 } // namespace quelvarn

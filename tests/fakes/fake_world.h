@@ -16,97 +16,97 @@
 namespace quelvarn {
 
 // A clock that stands until the test moves it.
-class FakeUhr : public Uhr
+class FakeClock : public Clock
 {
 public:
-    Zeitpunkt jetzt() const override { return zeit; }
-    void vor(std::int64_t sekunden) { zeit = zeit.plusSekunden(sekunden); }
+    DateTime now() const override { return time; }
+    void before(std::int64_t seconds) { time = time.plusSeconds(seconds); }
 
-    Zeitpunkt zeit = Zeitpunkt::aus({2004, 3, 1, 8, 30, 0});
+    DateTime time = DateTime::out({2004, 3, 1, 8, 30, 0});
 };
 
-class FakeUmgebung : public Umgebung
+class FakeEnvironment : public Environment
 {
 public:
-    std::string rechnername() const override { return rechner; }
-    std::string anwendername() const override { return anwender; }
-    Systemversion systemversion() const override { return version; }
-    std::string systemlaufwerk() const override { return laufwerk; }
+    std::string computerName() const override { return computer; }
+    std::string userName() const override { return user; }
+    SystemVersion systemVersion() const override { return version; }
+    std::string systemDrive() const override { return drive; }
 
-    std::string rechner = "CAD-PC-7";
-    std::string anwender = "mueller";
-    Systemversion version = {"6", "2", 2};
-    std::string laufwerk = "C:";
+    std::string computer = "CAD-PC-7";
+    std::string user = "mueller";
+    SystemVersion version = {"6", "2", 2};
+    std::string drive = "C:";
 };
 
-class FakeLaufwerke : public Laufwerke
+class FakeDrives : public Drives
 {
 public:
-    std::vector<Laufwerk> liste() const override { return laufwerke; }
+    std::vector<Drive> list() const override { return drives; }
 
-    std::vector<Laufwerk> laufwerke = {{"C:", ""}, {"W:", "\\\\server\\konstruktion"}};
+    std::vector<Drive> drives = {{"C:", ""}, {"W:", "\\\\server\\konstruktion"}};
 };
 
-class FakeDrucker : public Drucker
+class FakePrinters : public Printers
 {
 public:
-    std::vector<std::string> namen() const override { return drucker; }
-    std::optional<Standarddrucker> standard() const override { return standarddrucker; }
+    std::vector<std::string> names() const override { return printers; }
+    std::optional<DefaultPrinter> standard() const override { return defaultPrinter; }
 
-    std::vector<std::string> drucker = {"Plotter A0", "Buero"};
-    std::optional<Standarddrucker> standarddrucker = Standarddrucker{"Buero"};
+    std::vector<std::string> printers = {"Plotter A0", "Buero"};
+    std::optional<DefaultPrinter> defaultPrinter = DefaultPrinter{"Buero"};
 };
 
-class FakeProgramme : public LaufendeProgramme
+class FakePrograms : public RunningPrograms
 {
 public:
-    std::vector<std::string> fenstertitel() const override
+    std::vector<std::string> windowTitle() const override
     {
-        std::vector<std::string> alle = andere;
-        if (!eigener.empty())
-            alle.push_back(eigener);
-        return alle;
+        std::vector<std::string> all = other;
+        if (!own.empty())
+            all.push_back(own);
+        return all;
     }
-    void eigenerTitel(std::string_view titel) override { eigener = titel; }
+    void ownTitle(std::string_view title) override { own = title; }
 
-    std::vector<std::string> andere;
-    std::string eigener;
+    std::vector<std::string> other;
+    std::string own;
 };
 
-class FakeZwischenablage : public Zwischenablage
+class FakeClipboard : public Clipboard
 {
 public:
-    std::string text() const override { return inhalt; }
-    void setzeText(std::string_view text) override { inhalt = text; }
+    std::string text() const override { return content; }
+    void setText(std::string_view text) override { content = text; }
 
-    std::string inhalt;
+    std::string content;
 };
 
 // Notes what would have been opened.
-class FakeStandardanwendung : public Standardanwendung
+class FakeDefaultApplication : public DefaultApplication
 {
 public:
-    bool oeffne(std::string_view pfad) override
+    bool open(std::string_view documentPath) override
     {
-        geoeffnet.emplace_back(pfad);
-        return startetEtwas;
+        opened.emplace_back(documentPath);
+        return startsSomething;
     }
 
-    std::vector<std::string> geoeffnet;
-    bool startetEtwas = true;
+    std::vector<std::string> opened;
+    bool startsSomething = true;
 };
 
 // Gives work up at its next step once it has lost patience.
-class FakeFortschritt final : public Fortschrittsanzeige
+class FakeProgress final : public ProgressDisplay
 {
 public:
-    void beginne(std::string_view) override { ++begonnen; }
-    bool schritt(std::size_t, std::size_t) override { return geduld; }
-    void beende() override { ++beendet; }
+    void begin(std::string_view) override { ++begun; }
+    bool step(std::size_t, std::size_t) override { return patience; }
+    void end() override { ++ended; }
 
-    bool geduld = true;
-    int begonnen = 0;
-    int beendet = 0;
+    bool patience = true;
+    int begun = 0;
+    int ended = 0;
 };
 
 } // namespace quelvarn

@@ -8,9 +8,9 @@
 namespace quelvarn::test {
 
 // Tests write statements as a person types them.
-inline sql::Anweisung statement(std::string_view text)
+inline sql::Statement statement(std::string_view text)
 {
-    return sql::parseAnweisung(text);
+    return sql::parseStatement(text);
 }
 
 inline sql::Select query(std::string_view text)

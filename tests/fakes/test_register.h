@@ -25,39 +25,39 @@ protected:
     // With the address of an empty PostgreSQL database the register lies there, and the file names it.
     explicit TestRegister(const std::string& postgres = "")
     {
-        engine_ = postgres.empty() ? oeffneSqlite(ordner_ / "Werk.mdb", true) : oeffnePostgres(postgres);
+        engine_ = postgres.empty() ? openSqlite(folder_ / "Werk.mdb", true) : openPostgres(postgres);
         if (!postgres.empty())
-            std::ofstream(ordner_ / "Werk.mdb") << postgres << "\n";
-        legeRegisterAn(*engine_);
-        session_.database.Verbindung.Open(ordner_ / "Werk.mdb");
+            std::ofstream(folder_ / "Werk.mdb") << postgres << "\n";
+        createRegister(*engine_);
+        session_.database.connection.Open(folder_ / "Werk.mdb");
         session_.database.DatenbankPfad = "W:\\Werk.mdb";
         session_.database.DatenbankOk = true;
         session_.user.Anwender = "Mueller";
-        siehtStati("012345");
+        seesStatuses("012345");
     }
 
-    void siehtStati(std::string_view stati)
+    void seesStatuses(std::string_view statuses)
     {
         session_.rights.Sichtbar = {};
-        for (const char status : stati)
+        for (const char status : statuses)
             session_.rights.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
-        bildeStatusbereich(session_);
+        formStatusSection(session_);
     }
 
-    using Werte = std::initializer_list<std::pair<const char*, Value>>;
+    using Values = std::initializer_list<std::pair<const char*, Value>>;
     // A row of any table; tables that are open see it when they are opened anew.
-    Zeilenschluessel zeile(std::string_view tabelle, const Werte& werte)
+    RowKey row(std::string_view table, const Values& values)
     {
-        std::vector<sql::Zuweisung> zuweisungen;
-        for (const auto& [spalte, wert] : werte)
-            zuweisungen.push_back({spalte, wert});
-        return engine_->fuegeEin(tabelle, zuweisungen);
+        std::vector<sql::Assignment> assignments;
+        for (const auto& [column, value] : values)
+            assignments.push_back({column, value});
+        return engine_->insert(table, assignments);
     }
 
-    TempFolder ordner_;
+    TempFolder folder_;
     std::shared_ptr<Engine> engine_; // Of its own: rows come as from another program.
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
+    FakePorts world_;
+    Ports ports_ = world_.ports();
     SessionState session_;
 };
 

@@ -18,196 +18,196 @@
 namespace quelvarn {
 namespace {
 
-class Wuerfel
+class Dice
 {
 public:
-    explicit Wuerfel(unsigned saat) : quelle_(saat) {}
-    std::size_t unter(std::size_t grenze) { return quelle_() % grenze; }
-    template <class Liste> const auto& aus(const Liste& liste) { return liste[unter(std::size(liste))]; }
+    explicit Dice(unsigned seed) : source_(seed) {}
+    std::size_t below(std::size_t limit) { return source_() % limit; }
+    template <class List> const auto& out(const List& list) { return list[below(std::size(list))]; }
 
-    std::string wert()
+    std::string value()
     {
         // clang-format off
-        static constexpr const char* STUECKE[]{
+        static constexpr const char* PIECES[]{
             "a",  "A", "ä", "ß", "ss", " ", "1", "é", "-", "'", "''", "'''", "' AND ", "' OR '", " And Titel Like '",
             "%", "_", "\\", "[", "]", "[1]", "[!a]", "[a-c]", "[]", "!", "?", "#", "#01/02/26#", "\"", "(", "')", ",",
             " ORDER BY ", ";", "Null"};
         // clang-format on
         std::string text;
-        for (std::size_t n = unter(5); n > 0; --n)
-            text += aus(STUECKE);
+        for (std::size_t n = below(5); n > 0; --n)
+            text += out(PIECES);
         return text;
     }
     // Of a value that is there, so that some rows are met: as it stands, or with stars in place of its pieces.
-    std::string muster(std::string text)
+    std::string pattern(std::string text)
     {
-        for (std::size_t n = unter(3); n > 0; --n) {
-            const std::size_t stelle = unter(text.size() + 1);
-            text = stelle > 0 && (stelle == text.size() || (text[stelle] & 0xC0) != 0x80)
-                       ? text.substr(0, stelle) + "*" + (unter(2) ? text.substr(stelle) : "")
+        for (std::size_t n = below(3); n > 0; --n) {
+            const std::size_t position = below(text.size() + 1);
+            text = position > 0 && (position == text.size() || (text[position] & 0xC0) != 0x80)
+                       ? text.substr(0, position) + "*" + (below(2) ? text.substr(position) : "")
                        : "*" + text;
         }
         return text;
     }
-    Zeitpunkt zeit()
+    DateTime time()
     {
-        static constexpr int STUNDEN[]{0, 12, 23};
-        const int stunde = aus(STUNDEN);
-        return Zeitpunkt::aus({2026, 1 + static_cast<int>(unter(3)), 1 + static_cast<int>(unter(3)), stunde,
-                               stunde == 23 ? 59 : 0, stunde == 23 ? 59 : 0});
+        static constexpr int HOURS[]{0, 12, 23};
+        const int hour = out(HOURS);
+        return DateTime::out({2026, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), hour,
+                              hour == 23 ? 59 : 0, hour == 23 ? 59 : 0});
     }
 
 private:
-    std::mt19937 quelle_;
+    std::mt19937 source_;
 };
 
-constexpr const char* TEXTFELDER[]{"Projekt", "Autor", "Titel", "Hauptmerkmal_A"};
+constexpr const char* TEXT_FIELDS[]{"Projekt", "Autor", "Titel", "Hauptmerkmal_A"};
 
 class FilterForms : public test::EngineTest
 {
 protected:
-    void fuelleRegister(std::size_t dokumente)
+    void fillRegister(std::size_t documents)
     {
-        legeRegisterAn(*engine_);
-        std::vector<Spalte> spalten{{"DokuBez", FeldTyp::Text},
-                                    {"Status", FeldTyp::Ganzzahl},
-                                    {"Erstellt", FeldTyp::Datum},
-                                    {"Geaendert", FeldTyp::Datum}};
-        for (const char* feld : TEXTFELDER)
-            spalten.push_back({feld, FeldTyp::Text});
-        const auto schreiber = engine_->massenschreiber("PartTabelle", spalten);
-        const auto oderNull = [&](Value wert) { return wuerfel_.unter(8) == 0 ? Value{} : wert; };
-        for (std::size_t i = 0; i < dokumente; ++i) {
-            std::vector<Value> zeile{std::to_string(i), oderNull(static_cast<std::int64_t>(wuerfel_.unter(6))),
-                                     oderNull(wuerfel_.zeit()), oderNull(wuerfel_.zeit())};
-            for (std::size_t n = 0; n < std::size(TEXTFELDER); ++n)
-                zeile.push_back(oderNull(wuerfel_.wert()));
-            schreiber->zeile(zeile);
+        createRegister(*engine_);
+        std::vector<ColumnInfo> columns{{"DokuBez", FieldType::Text},
+                                        {"Status", FieldType::Integer},
+                                        {"Erstellt", FieldType::Date},
+                                        {"Geaendert", FieldType::Date}};
+        for (const char* field : TEXT_FIELDS)
+            columns.push_back({field, FieldType::Text});
+        const auto writer = engine_->bulkWriter("PartTabelle", columns);
+        const auto orNull = [&](Value value) { return dice_.below(8) == 0 ? Value{} : value; };
+        for (std::size_t i = 0; i < documents; ++i) {
+            std::vector<Value> row{std::to_string(i), orNull(static_cast<std::int64_t>(dice_.below(6))),
+                                   orNull(dice_.time()), orNull(dice_.time())};
+            for (std::size_t n = 0; n < std::size(TEXT_FIELDS); ++n)
+                row.push_back(orNull(dice_.value()));
+            writer->row(row);
         }
-        schreiber->beende();
-        verbindung_.OpenAdresse(istPostgres() ? adresse_ : utf8FromPath(ordner_ / "test.qv"));
-        tabelle_.setzeGanzGrenze(1);
-        tabelle_.Open("Select * From PartTabelle ORDER BY DokuBez", verbindung_);
+        writer->end();
+        connection_.openAddress(isPostgres() ? address_ : utf8FromPath(folder_ / "test.qv"));
+        table_.setWholeLimit(1);
+        table_.Open("Select * From PartTabelle ORDER BY DokuBez", connection_);
     }
 
-    FilterSchritt schritt(bool erster)
+    FilterStep step(bool first)
     {
-        switch (wuerfel_.unter(erster ? 9 : 8)) {
+        switch (dice_.below(first ? 9 : 8)) {
         case 0:
-            return {"Erstellt", formatDatum(wuerfel_.zeit()), CodeErstellt + static_cast<int>(wuerfel_.unter(3)), {}};
+            return {"Erstellt", formatDate(dice_.time()), CodeCreated + static_cast<int>(dice_.below(3)), {}};
         case 1:
-            return {"Geaendert", formatDatum(wuerfel_.zeit()), CodeGeaendert + static_cast<int>(wuerfel_.unter(3)), {}};
+            return {"Geaendert", formatDate(dice_.time()), CodeChanged + static_cast<int>(dice_.below(3)), {}};
         case 2:
-            return {"Status", std::to_string(wuerfel_.unter(6)), CodeZahl, {}};
+            return {"Status", std::to_string(dice_.below(6)), CodeNumber, {}};
         case 8:
-            return {"Dateiname", wuerfel_.muster(wuerfel_.wert()), CodeDateiWennGefuellt, {}};
+            return {"Dateiname", dice_.pattern(dice_.value()), CodeFileIfFilled, {}};
         default:
-            return {wuerfel_.aus(TEXTFELDER), wuerfel_.muster(wuerfel_.wert()), CodeText, {}};
+            return {dice_.out(TEXT_FIELDS), dice_.pattern(dice_.value()), CodeText, {}};
         }
     }
 
-    std::string dokumente(RowFilter filter)
+    std::string documents(RowFilter filter)
     {
-        tabelle_.Filter(std::move(filter));
-        return namen(tabelle_);
+        table_.Filter(std::move(filter));
+        return names(table_);
     }
     // As every list and every order asks.
-    std::string dokumenteDerAbfrage(std::string_view FilterString, std::string_view StatusFilter = "")
+    std::string documentsOfQuery(std::string_view FilterString, std::string_view StatusFilter = "")
     {
-        Recordset gefragt;
-        gefragt.Open(sql::Query("PartTabelle")
-                         .columns({"DokuBez"})
-                         .where(sql::all(filterCondition(FilterString), sql::parseBedingung(StatusFilter)))
-                         .sortedBy("DokuBez"),
-                     verbindung_);
-        return namen(gefragt);
+        Recordset asked;
+        asked.Open(sql::Query("PartTabelle")
+                       .columns({"DokuBez"})
+                       .where(sql::all(filterCondition(FilterString), sql::parseCondition(StatusFilter)))
+                       .sortedBy("DokuBez"),
+                   connection_);
+        return names(asked);
     }
-    static std::string namen(const Recordset& zeilen)
+    static std::string names(const Recordset& rows)
     {
         std::string text;
-        for (std::size_t i = 0; i < zeilen.RecordCount(); ++i)
-            text += alsText(zeilen.Zelle(i, "DokuBez")) + " ";
+        for (std::size_t i = 0; i < rows.RecordCount(); ++i)
+            text += asText(rows.cell(i, "DokuBez")) + " ";
         return text;
     }
 
-    Wuerfel wuerfel_{20};
-    Connection verbindung_;
-    Recordset tabelle_;
+    Dice dice_{20};
+    Connection connection_;
+    Recordset table_;
 };
-INSTANTIATE_TEST_SUITE_P(, FilterForms, test::eigeneEngines, test::engineName);
+INSTANTIATE_TEST_SUITE_P(, FilterForms, test::ownEngines, test::engineName);
 
 // A star is told apart from everything that is tested: every length of a run is tried.
-bool meint(std::u32string_view muster, std::u32string_view text)
+bool means(std::u32string_view pattern, std::u32string_view text)
 {
-    if (muster.empty())
+    if (pattern.empty())
         return text.empty();
-    if (muster.front() == U'*')
-        return meint(muster.substr(1), text) || (!text.empty() && meint(muster, text.substr(1)));
-    return !text.empty() && muster.front() == text.front() && meint(muster.substr(1), text.substr(1));
+    if (pattern.front() == U'*')
+        return means(pattern.substr(1), text) || (!text.empty() && means(pattern, text.substr(1)));
+    return !text.empty() && pattern.front() == text.front() && means(pattern.substr(1), text.substr(1));
 }
 
-bool meint(const std::string& muster, const std::string& text)
+bool means(const std::string& pattern, const std::string& text)
 {
-    return equalText(muster, text) ||
-           (muster.find('*') != std::string::npos && meint(toUtf32(foldCase(muster)), toUtf32(foldCase(text))));
+    return equalText(pattern, text) ||
+           (pattern.find('*') != std::string::npos && means(toUtf32(foldCase(pattern)), toUtf32(foldCase(text))));
 }
 
 TEST_P(FilterForms, FindTheSameRows)
 {
-    fuelleRegister(400);
-    int mitZeilen = 0;
+    fillRegister(400);
+    int withRows = 0;
     for (int i = 0; i < 600; ++i) {
         FilterState filter;
-        Filterzustand& zustand = filter.typen[0];
-        zustand.FilterAnzahl = 1 + static_cast<int>(wuerfel_.unter(3));
-        for (int n = 0; n < zustand.FilterAnzahl; ++n)
-            zustand.FilterSchritte[static_cast<std::size_t>(n)] = schritt(n == 0);
-        for (bool& haken : zustand.ChFilterStat)
-            haken = wuerfel_.unter(2) != 0;
+        TypeFilter& state = filter.types[0];
+        state.FilterAnzahl = 1 + static_cast<int>(dice_.below(3));
+        for (int n = 0; n < state.FilterAnzahl; ++n)
+            state.FilterSchritte[static_cast<std::size_t>(n)] = step(n == 0);
+        for (bool& tick : state.ChFilterStat)
+            tick = dice_.below(2) != 0;
         BuildStatusFilter(filter, 0);
 
         const std::string& StatusFilter = filter.status.StatusFilter;
-        const Kettenglied glied = bildeKette(zustand, schrittfragment).back();
-        const std::string gefiltert = dokumente(glied.behind(filter.status));
-        ASSERT_EQ(gefiltert, dokumenteDerAbfrage(glied.sqlform, StatusFilter)) << glied.sqlform;
-        mitZeilen += gefiltert.empty() ? 0 : 1;
+        const ChainLink link = formChain(state, stepFragment).back();
+        const std::string filtered = documents(link.behind(filter.status));
+        ASSERT_EQ(filtered, documentsOfQuery(link.sqlForm, StatusFilter)) << link.sqlForm;
+        withRows += filtered.empty() ? 0 : 1;
     }
-    EXPECT_GT(mitZeilen, 100);
+    EXPECT_GT(withRows, 100);
 }
 
 // Numbers as binary arithmetic leaves them, around bounds of four places.
 TEST_P(FilterForms, MainValuesMeanTheSameInAQuery)
 {
-    fuelleRegister(0);
-    const std::vector<Spalte> spalten{{"DokuBez", FeldTyp::Text}, {"Hauptwert_a", FeldTyp::Gleitkomma}};
-    const auto schreiber = engine_->massenschreiber("PartTabelle", spalten);
+    fillRegister(0);
+    const std::vector<ColumnInfo> columns{{"DokuBez", FieldType::Text}, {"Hauptwert_a", FieldType::FloatingPoint}};
+    const auto writer = engine_->bulkWriter("PartTabelle", columns);
     for (int i = 0; i < 2000; ++i) {
-        double zahl = static_cast<double>(wuerfel_.unter(20)) / 10;
-        for (std::size_t n = wuerfel_.unter(4); n > 0; --n)
-            zahl += wuerfel_.unter(2) ? 0.1 : -0.1;
-        zahl += wuerfel_.unter(4) ? 0 : 0.0001 * (static_cast<double>(wuerfel_.unter(5)) - 2) / 2;
-        schreiber->zeile(std::vector<Value>{std::to_string(i), zahl});
+        double number = static_cast<double>(dice_.below(20)) / 10;
+        for (std::size_t n = dice_.below(4); n > 0; --n)
+            number += dice_.below(2) ? 0.1 : -0.1;
+        number += dice_.below(4) ? 0 : 0.0001 * (static_cast<double>(dice_.below(5)) - 2) / 2;
+        writer->row(std::vector<Value>{std::to_string(i), number});
     }
-    schreiber->beende();
-    tabelle_.Open(sql::Query("PartTabelle").sortedBy("DokuBez"), verbindung_);
-    for (std::int64_t von = 0; von < 20; ++von) {
-        std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> grenzen{};
-        grenzen[0] = {Decimal::ofUnits(von * 1000), Decimal::ofUnits(von * 1000 + 2000)};
-        std::string gemeint;
-        for (std::size_t i = 0; i < tabelle_.RecordCount(); ++i) {
-            const auto wert = Decimal::from(alsZahl(tabelle_.Zelle(i, "Hauptwert_a")));
-            if (*wert >= grenzen[0].MinWert && *wert <= grenzen[0].MaxWert)
-                gemeint += alsText(tabelle_.Zelle(i, "DokuBez")) + " ";
+    writer->end();
+    table_.Open(sql::Query("PartTabelle").sortedBy("DokuBez"), connection_);
+    for (std::int64_t from = 0; from < 20; ++from) {
+        std::array<MainValueBand, MAIN_VALUE_COUNT> bounds{};
+        bounds[0] = {Decimal::ofUnits(from * 1000), Decimal::ofUnits(from * 1000 + 2000)};
+        std::string intended;
+        for (std::size_t i = 0; i < table_.RecordCount(); ++i) {
+            const auto value = Decimal::from(asNumber(table_.cell(i, "Hauptwert_a")));
+            if (*value >= bounds[0].MinWert && *value <= bounds[0].MaxWert)
+                intended += asText(table_.cell(i, "DokuBez")) + " ";
         }
         RowFilter filter{"Hauptwerte"};
-        for (sql::AusdruckZeiger& bedingung : mainValueConditions(grenzen))
-            filter.conditions.push_back(std::move(bedingung));
-        EXPECT_EQ(dokumente(std::move(filter)), gemeint);
-        Recordset gefragt;
-        gefragt.Open(sql::Query("PartTabelle").where(sql::all(mainValueConditions(grenzen))).sortedBy("DokuBez"),
-                     verbindung_);
-        EXPECT_EQ(namen(gefragt), gemeint);
-        tabelle_.Filter("");
+        for (sql::ExpressionPointer& condition : mainValueConditions(bounds))
+            filter.conditions.push_back(std::move(condition));
+        EXPECT_EQ(documents(std::move(filter)), intended);
+        Recordset asked;
+        asked.Open(sql::Query("PartTabelle").where(sql::all(mainValueConditions(bounds))).sortedBy("DokuBez"),
+                   connection_);
+        EXPECT_EQ(names(asked), intended);
+        table_.Filter("");
     }
 }
 
@@ -215,42 +215,42 @@ TEST_P(FilterForms, MainValuesMeanTheSameInAQuery)
 // text, a query, and the filter for user-defined properties where the pattern ends with a star.
 TEST_P(FilterForms, AValueMeansItselfAndTheStarAnyRun)
 {
-    fuelleRegister(0);
-    std::vector<std::string> werte{"20_50",    "20x50", "A[1]", "A1",       "Vorlage [NG6]", "O'Ring 5''", "O'Ring 5'",
-                                   "O'Ring 5", "'",     "''",   "x' OR 'y", "100%",          "100 kg",     "a\\b",
-                                   "[",        "]",     "4*6",  "4x6",      "!#?-",          "\"a\"",      " "};
-    while (werte.size() < 150)
-        werte.push_back(wuerfel_.wert());
-    const std::vector<Spalte> spalten{{"DokuBez", FeldTyp::Text}, {"Titel", FeldTyp::Text}};
-    const auto schreiber = engine_->massenschreiber("PartTabelle", spalten);
-    for (std::size_t i = 0; i < werte.size(); ++i)
-        schreiber->zeile(std::vector<Value>{std::to_string(i), werte[i]});
-    schreiber->beende();
-    tabelle_.Open(sql::Query("PartTabelle").sortedBy("DokuBez"), verbindung_);
-    std::vector<std::size_t> reihe;
-    for (std::size_t i = 0; i < tabelle_.RecordCount(); ++i)
-        reihe.push_back(std::stoul(alsText(tabelle_.Zelle(i, "DokuBez"))));
+    fillRegister(0);
+    std::vector<std::string> values{"20_50",    "20x50", "A[1]", "A1",       "Vorlage [NG6]", "O'Ring 5''", "O'Ring 5'",
+                                    "O'Ring 5", "'",     "''",   "x' OR 'y", "100%",          "100 kg",     "a\\b",
+                                    "[",        "]",     "4*6",  "4x6",      "!#?-",          "\"a\"",      " "};
+    while (values.size() < 150)
+        values.push_back(dice_.value());
+    const std::vector<ColumnInfo> columns{{"DokuBez", FieldType::Text}, {"Titel", FieldType::Text}};
+    const auto writer = engine_->bulkWriter("PartTabelle", columns);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        writer->row(std::vector<Value>{std::to_string(i), values[i]});
+    writer->end();
+    table_.Open(sql::Query("PartTabelle").sortedBy("DokuBez"), connection_);
+    std::vector<std::size_t> layoutRow;
+    for (std::size_t i = 0; i < table_.RecordCount(); ++i)
+        layoutRow.push_back(std::stoul(asText(table_.cell(i, "DokuBez"))));
 
-    for (std::size_t i = 0; i < 2 * werte.size(); ++i) {
-        const std::string muster = i < werte.size() ? werte[i] : wuerfel_.muster(werte[i - werte.size()]);
-        if (muster.empty())
+    for (std::size_t i = 0; i < 2 * values.size(); ++i) {
+        const std::string pattern = i < values.size() ? values[i] : dice_.pattern(values[i - values.size()]);
+        if (pattern.empty())
             continue;
-        Filterzustand zustand;
-        zustand.FilterAnzahl = 1;
-        zustand.FilterSchritte[0] = {"Titel", muster, CodeText, {}};
-        const Kettenglied glied = bildeKette(zustand, schrittfragment).back();
-        zustand.FilterSchritte[0] = {"", "Name", CodeText, muster};
-        const BenutzDefSchritte benutzDef(zustand);
+        TypeFilter state;
+        state.FilterAnzahl = 1;
+        state.FilterSchritte[0] = {"Titel", pattern, CodeText, {}};
+        const ChainLink link = formChain(state, stepFragment).back();
+        state.FilterSchritte[0] = {"", "Name", CodeText, pattern};
+        const UserDefinedSteps userDefined(state);
 
-        std::string gemeint, beiBenutzDef;
-        for (const std::size_t n : reihe) {
-            gemeint += meint(muster, werte[n]) ? std::to_string(n) + " " : "";
-            beiBenutzDef += benutzDef.trifft("Name", werte[n]) ? std::to_string(n) + " " : "";
+        std::string intended, atUserDefined;
+        for (const std::size_t n : layoutRow) {
+            intended += means(pattern, values[n]) ? std::to_string(n) + " " : "";
+            atUserDefined += userDefined.meets("Name", values[n]) ? std::to_string(n) + " " : "";
         }
-        ASSERT_EQ(dokumente(glied.behind({})), gemeint) << muster;
-        ASSERT_EQ(dokumenteDerAbfrage(glied.sqlform), gemeint) << glied.sqlform;
-        if (muster.ends_with('*')) {
-            ASSERT_EQ(beiBenutzDef, gemeint) << muster;
+        ASSERT_EQ(documents(link.behind({})), intended) << pattern;
+        ASSERT_EQ(documentsOfQuery(link.sqlForm), intended) << link.sqlForm;
+        if (pattern.ends_with('*')) {
+            ASSERT_EQ(atUserDefined, intended) << pattern;
         }
     }
 }

@@ -11,289 +11,289 @@ class FilterPageTest : public FilterTest
 protected:
     FilterPageTest()
     {
-        for (Filterzustand& typ : filter_.typen)
-            typ.ChFilterStat.fill(false);
-        for (Recordset& liste : session_.pages.GespeicherteFilter) {
-            liste.FeldAnhaengen("Filtername", FeldTyp::Text);
-            liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
-            liste.Open();
+        for (TypeFilter& type : filter_.types)
+            type.ChFilterStat.fill(false);
+        for (Recordset& list : session_.pages.GespeicherteFilter) {
+            list.appendField("Filtername", FieldType::Text);
+            list.appendField("Filterstring", FieldType::Text);
+            list.Open();
         }
-        dokument("A", {{"Projekt", "P1"}, {"Autor", "Meier"}});
-        dokument("B", {{"Projekt", "P1"}, {"Autor", "Schulz"}});
-        dokument("C", {{"Projekt", "P2"}, {"Autor", "Schulz"}, {"Status", 1}});
-        seite_.zurDokumentseite = [this] { ++verlassen_; };
+        addDocument("A", {{"Projekt", "P1"}, {"Autor", "Meier"}});
+        addDocument("B", {{"Projekt", "P1"}, {"Autor", "Schulz"}});
+        addDocument("C", {{"Projekt", "P2"}, {"Autor", "Schulz"}, {"Status", 1}});
+        page_.toDocumentPage = [this] { ++leave_; };
     }
 
-    static constexpr int PROJEKT = 1, AUTOR = 7;
+    static constexpr int PROJECT = 1, AUTHOR = 7;
 
-    void waehle(int index, const std::string& wert) { seite_.eigenschaften().wertGewaehlt(index, wert); }
-    int anzahl(int tab = 0) { return filter_.typen[static_cast<std::size_t>(tab)].FilterAnzahl; }
+    void choose(int index, const std::string& value) { page_.properties().valueChosen(index, value); }
+    int count(int tab = 0) { return filter_.types[static_cast<std::size_t>(tab)].FilterAnzahl; }
 
     // The values of the rows collected, "P1|Meier".
-    std::string werte() const
+    std::string values() const
     {
         std::string text;
-        for (const FilterRow& zeile : seite_.kontext().FilterWerteTabelle())
-            text += (text.empty() ? "" : "|") + zeile.Wert;
+        for (const FilterRow& row : page_.context().FilterWerteTabelle())
+            text += (text.empty() ? "" : "|") + row.value;
         return text;
     }
-    std::string autoren() { return join(seite_.eigenschaften().liste(AUTOR).werte, "|"); }
+    std::string authors() { return join(page_.properties().list(AUTHOR).values, "|"); }
 
-    static std::string join(const std::vector<std::string>& teile, const char* zwischen)
+    static std::string join(const std::vector<std::string>& parts, const char* between)
     {
         std::string text;
-        for (const auto& teil : teile)
-            text += (text.empty() ? "" : zwischen) + teil;
+        for (const auto& part : parts)
+            text += (text.empty() ? "" : between) + part;
         return text;
     }
 
-    void erwarteAlleGefuellt() { welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!"); }
+    void expectAllFilled() { world_.boxes.expect("Anzahl Filter", "Alle Filter sind gefüllt!"); }
 
-    FilterPage seite_{session_, operations_, filter_, tables_};
-    int verlassen_ = 0;
+    FilterPage page_{session_, operations_, filter_, tables_};
+    int leave_ = 0;
 };
 
 TEST_F(FilterPageTest, NamesTheTypeAndTheRights)
 {
-    const std::array<const char*, ANZAHL_DOKUTYPEN> namen{"Bauteile",       "Blechteile",    "Baugruppe",
-                                                          "Zeichnung",      "Schweißteile",  "Normteile",
-                                                          "Sondertabelle2", "Sondertabelle3"};
+    const std::array<const char*, DOCUMENT_TYPE_COUNT> names{"Bauteile",       "Blechteile",    "Baugruppe",
+                                                             "Zeichnung",      "Schweißteile",  "Normteile",
+                                                             "Sondertabelle2", "Sondertabelle3"};
     session_.labels.SondertabelleName[0] = "Normteile";
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab) {
         tables_.bringToFront(tab);
-        seite_.OpenFilterPage();
-        EXPECT_EQ(seite_.titel(),
-                  std::string("    Solid Edge - Filterwerte für ") + namen[static_cast<std::size_t>(tab)]);
+        page_.OpenFilterPage();
+        EXPECT_EQ(page_.title(),
+                  std::string("    Solid Edge - Filterwerte für ") + names[static_cast<std::size_t>(tab)]);
     }
-    EXPECT_EQ(seite_.zugriffText(), "Zugriffsberechtigung:             Alle Stati von 0 bis 5");
-    siehtStati("3");
-    EXPECT_EQ(seite_.zugriffText(), "Berechtigung: 3=Freigegeben;");
-    siehtStati("015");
-    EXPECT_EQ(seite_.zugriffText(), "Berechtigung: 0=Verfügbar; 1=In Arbeit; 5=Ungültig;");
+    EXPECT_EQ(page_.accessDateText(), "Zugriffsberechtigung:             Alle Stati von 0 bis 5");
+    seesStatuses("3");
+    EXPECT_EQ(page_.accessDateText(), "Berechtigung: 3=Freigegeben;");
+    seesStatuses("015");
+    EXPECT_EQ(page_.accessDateText(), "Berechtigung: 0=Verfügbar; 1=In Arbeit; 5=Ungültig;");
 }
 
 TEST_F(FilterPageTest, FilteringNarrowsTableAndLists)
 {
-    seite_.OpenFilterPage();
-    EXPECT_EQ(autoren(), "Meier|Schulz");
-    waehle(PROJEKT, "P2");
-    EXPECT_EQ(gezeigt(), "A B C") << "nothing runs before <Filtern>";
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "C");
-    EXPECT_EQ(autoren(), "Schulz");
+    page_.OpenFilterPage();
+    EXPECT_EQ(authors(), "Meier|Schulz");
+    choose(PROJECT, "P2");
+    EXPECT_EQ(shown(), "A B C") << "nothing runs before <Filtern>";
+    page_.filter();
+    EXPECT_EQ(shown(), "C");
+    EXPECT_EQ(authors(), "Schulz");
 }
 
 TEST_F(FilterPageTest, AFilterStaysWithItsTypeAndIsNarrowedFurther)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P1");
-    seite_.filtern();
-    seite_.verlassen();
-    EXPECT_EQ(verlassen_, 1);
-    EXPECT_EQ(gezeigt(), "A B") << "the table stays filtered";
+    page_.OpenFilterPage();
+    choose(PROJECT, "P1");
+    page_.filter();
+    page_.leave();
+    EXPECT_EQ(leave_, 1);
+    EXPECT_EQ(shown(), "A B") << "the table stays filtered";
 
     tables_.bringToFront(3);
-    seite_.OpenFilterPage();
-    EXPECT_EQ(werte(), "");
+    page_.OpenFilterPage();
+    EXPECT_EQ(values(), "");
     tables_.bringToFront(0);
-    seite_.OpenFilterPage();
-    EXPECT_EQ(werte(), "P1");
-    waehle(AUTOR, "Schulz");
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "B");
+    page_.OpenFilterPage();
+    EXPECT_EQ(values(), "P1");
+    choose(AUTHOR, "Schulz");
+    page_.filter();
+    EXPECT_EQ(shown(), "B");
 
     forgetFilter(filter_, 0); // The document page lifted it.
-    seite_.OpenFilterPage();
-    EXPECT_EQ(werte(), "");
+    page_.OpenFilterPage();
+    EXPECT_EQ(values(), "");
 }
 
 TEST_F(FilterPageTest, AQuickFilterOfTheTableIsLifted)
 {
     tables_.opened(0).rows().Filter("DokuBez Like 'A*'");
     tables_[0].showFiltered({{}, {}, "Dokumentname A*"});
-    seite_.OpenFilterPage();
-    EXPECT_EQ(gezeigt(), "A B C");
+    page_.OpenFilterPage();
+    EXPECT_EQ(shown(), "A B C");
 }
 
 TEST_F(FilterPageTest, AStepThatLeavesNothingGoesWithItsRow)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P2");
-    waehle(AUTOR, "Meier");
-    welt_.meldungen.antworte();
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "C");
-    EXPECT_EQ(werte(), "P2");
-    EXPECT_EQ(welt_.meldungen.letzte().titel, "Filtervorgaben");
+    page_.OpenFilterPage();
+    choose(PROJECT, "P2");
+    choose(AUTHOR, "Meier");
+    world_.boxes.answer();
+    page_.filter();
+    EXPECT_EQ(shown(), "C");
+    EXPECT_EQ(values(), "P2");
+    EXPECT_EQ(world_.boxes.last().title, "Filtervorgaben");
 }
 
 TEST_F(FilterPageTest, ThePartsDoNotMix)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P1");
-    seite_.filtern();
-    const unsigned listen = seite_.listenfassung();
-    seite_.bereichGewaehlt(Filterbereich::Struktur);
-    EXPECT_EQ(anzahl(), 0);
-    EXPECT_EQ(werte(), "");
-    EXPECT_EQ(gezeigt(), "A B") << "until the next run";
-    EXPECT_EQ(seite_.kopfFilterwerte(), "      Filterwerte");
-    seite_.bereichGewaehlt(Filterbereich::BenutzDef);
-    EXPECT_EQ(seite_.kopfFilterwerte(), "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)");
-    seite_.bereichGewaehlt(Filterbereich::Eigenschaften);
-    EXPECT_EQ(autoren(), "Meier|Schulz") << "all lists again";
-    EXPECT_GT(seite_.listenfassung(), listen);
+    page_.OpenFilterPage();
+    choose(PROJECT, "P1");
+    page_.filter();
+    const unsigned lists = page_.listGeneration();
+    page_.sectionChosen(FilterSection::Structure);
+    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(values(), "");
+    EXPECT_EQ(shown(), "A B") << "until the next run";
+    EXPECT_EQ(page_.headingFilterValues(), "      Filterwerte");
+    page_.sectionChosen(FilterSection::UserDefined);
+    EXPECT_EQ(page_.headingFilterValues(), "      Filterwerte ( * am Anfang u. Ende/oder nur am Ende)");
+    page_.sectionChosen(FilterSection::Properties);
+    EXPECT_EQ(authors(), "Meier|Schulz") << "all lists again";
+    EXPECT_GT(page_.listGeneration(), lists);
 }
 
-TEST_F(FilterPageTest, ZurueckGoesToTheStateOfTheOpening)
+TEST_F(FilterPageTest, BackGoesToTheStateOfTheOpening)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P1");
-    seite_.filtern();
-    seite_.OpenFilterPage();
-    waehle(AUTOR, "Schulz");
-    seite_.filtern();
-    seite_.zurueck();
-    EXPECT_EQ(werte(), "P1");
-    EXPECT_EQ(autoren(), "Meier|Schulz");
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "A B");
+    page_.OpenFilterPage();
+    choose(PROJECT, "P1");
+    page_.filter();
+    page_.OpenFilterPage();
+    choose(AUTHOR, "Schulz");
+    page_.filter();
+    page_.back();
+    EXPECT_EQ(values(), "P1");
+    EXPECT_EQ(authors(), "Meier|Schulz");
+    page_.filter();
+    EXPECT_EQ(shown(), "A B");
 
-    seite_.bereichGewaehlt(Filterbereich::Struktur);
-    seite_.bereichGewaehlt(Filterbereich::Eigenschaften);
-    seite_.zurueck();
-    EXPECT_EQ(werte(), "P1");
+    page_.sectionChosen(FilterSection::Structure);
+    page_.sectionChosen(FilterSection::Properties);
+    page_.back();
+    EXPECT_EQ(values(), "P1");
 }
 
 TEST_F(FilterPageTest, NobodyIsLockedByFilledSteps)
 {
-    seite_.OpenFilterPage();
+    page_.OpenFilterPage();
     for (int i = 0; i < 5; ++i)
-        waehle(PROJEKT, "P1");
-    erwarteAlleGefuellt();
-    waehle(AUTOR, "Meier");
-    EXPECT_EQ(werte(), "P1|P1|P1|P1|P1");
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "A B C") << "applies nothing";
+        choose(PROJECT, "P1");
+    expectAllFilled();
+    choose(AUTHOR, "Meier");
+    EXPECT_EQ(values(), "P1|P1|P1|P1|P1");
+    page_.filter();
+    EXPECT_EQ(shown(), "A B C") << "applies nothing";
 
-    seite_.OpenFilterPage(); // Left and opened again.
-    seite_.zurueck();
-    EXPECT_EQ(anzahl(), 5);
-    seite_.filtern();
-    EXPECT_EQ(gezeigt(), "A B");
+    page_.OpenFilterPage(); // Left and opened again.
+    page_.back();
+    EXPECT_EQ(count(), 5);
+    page_.filter();
+    EXPECT_EQ(shown(), "A B");
 }
 
 TEST_F(FilterPageTest, SavedFiltersAreUsedAndWrittenOnLeaving)
 {
-    seite_.OpenFilterPage();
-    welt_.meldungen.erwarte("Filterwerte", "Es sind keine Filterwerte eingetragen!");
-    EXPECT_FALSE(seite_.filterSpeichern("Leer"));
-    waehle(PROJEKT, "P1");
-    seite_.eigenschaften().statusGewaehlt(3, true);
-    EXPECT_TRUE(seite_.filterSpeichern("Projekt 1"));
-    seite_.verlassen();
-    Recordset zeilen;
-    zeilen.Open("SELECT Feld3, Feld4 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Filterwerte'",
-                session_.database.Verbindung);
-    ASSERT_EQ(zeilen.RecordCount(), 1U);
-    EXPECT_EQ(zeilen.Text("Feld3") + " " + zeilen.Text("Feld4"), "Part Projekt 1");
+    page_.OpenFilterPage();
+    world_.boxes.expect("Filterwerte", "Es sind keine Filterwerte eingetragen!");
+    EXPECT_FALSE(page_.saveCurrentFilter("Leer"));
+    choose(PROJECT, "P1");
+    page_.properties().statusChosen(3, true);
+    EXPECT_TRUE(page_.saveCurrentFilter("Projekt 1"));
+    page_.leave();
+    Recordset rows;
+    rows.Open("SELECT Feld3, Feld4 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Filterwerte'",
+              session_.database.connection);
+    ASSERT_EQ(rows.RecordCount(), 1U);
+    EXPECT_EQ(rows.Text("Feld3") + " " + rows.Text("Feld4"), "Part Projekt 1");
 
     forgetFilter(filter_, 0);
-    seite_.OpenFilterPage();
-    seite_.bereichGewaehlt(Filterbereich::Struktur);
-    seite_.filterVerwenden("Projekt 1");
-    EXPECT_EQ(seite_.kontext().bereich(), Filterbereich::Eigenschaften);
-    EXPECT_EQ(werte(), "P1");
-    EXPECT_EQ(filter_.status.kurz, " = 3");
-    EXPECT_EQ(gezeigt(), "A B C") << "it runs with <Filtern>";
+    page_.OpenFilterPage();
+    page_.sectionChosen(FilterSection::Structure);
+    page_.applySavedFilter("Projekt 1");
+    EXPECT_EQ(page_.context().section(), FilterSection::Properties);
+    EXPECT_EQ(values(), "P1");
+    EXPECT_EQ(filter_.status.shortText, " = 3");
+    EXPECT_EQ(shown(), "A B C") << "it runs with <Filtern>";
 
-    seite_.filterLoeschen("Projekt 1");
-    EXPECT_TRUE(seite_.gespeicherteFilter().empty());
-    welt_.meldungen.erwarte("Filterwerte", "Es ist kein Filterwert ausgewählt!");
-    seite_.filterVerwenden("");
+    page_.deleteSavedFilter("Projekt 1");
+    EXPECT_TRUE(page_.savedFilter().empty());
+    world_.boxes.expect("Filterwerte", "Es ist kein Filterwert ausgewählt!");
+    page_.applySavedFilter("");
 }
 
 TEST_F(FilterPageTest, AFavouriteRunsAtOnce)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P2");
-    seite_.filterSpeichern("Projekt 2");
-    seite_.zurueck();
-    seite_.nutzeGespeicherten("Projekt 2");
-    EXPECT_EQ(gezeigt(), "C");
-    seite_.OpenFilterPage();
-    EXPECT_EQ(werte(), "P2");
-    seite_.nutzeGespeicherten("Gibt es nicht");
-    EXPECT_EQ(gezeigt(), "C");
+    page_.OpenFilterPage();
+    choose(PROJECT, "P2");
+    page_.saveCurrentFilter("Projekt 2");
+    page_.back();
+    page_.useSaved("Projekt 2");
+    EXPECT_EQ(shown(), "C");
+    page_.OpenFilterPage();
+    EXPECT_EQ(values(), "P2");
+    page_.useSaved("Gibt es nicht");
+    EXPECT_EQ(shown(), "C");
 }
 
 TEST_F(FilterPageTest, EditedValuesCount)
 {
-    seite_.OpenFilterPage();
-    waehle(AUTOR, "Schulz");
-    for (const auto& [eingabe, rest] :
+    page_.OpenFilterPage();
+    choose(AUTHOR, "Schulz");
+    for (const auto& [input, rest] :
          std::vector<std::pair<const char*, const char*>>{{"Meier", "A"}, {"*ei", "A"}, {"S*", "B C"}}) {
-        seite_.wertGeaendert(0, eingabe);
-        seite_.sterneErgaenzen();
-        seite_.filtern();
-        EXPECT_EQ(gezeigt(), rest) << eingabe;
+        page_.valueChanged(0, input);
+        page_.starsComplete();
+        page_.filter();
+        EXPECT_EQ(shown(), rest) << input;
     }
 }
 
 TEST_F(FilterPageTest, TheTemplateIsADrawing)
 {
-    const auto box = [](const std::string& pfad) {
-        return "Die Datei:\n\n" + pfad +
+    const auto box = [](const std::string& documentPath) {
+        return "Die Datei:\n\n" + documentPath +
                "\n\nkonnte nicht geöffnet werden!\n\nMögliche Ursache:\n- Kein Zugriffsrecht.\n"
                "- Falscher Pfad- und/oder Dateiname.";
     };
-    std::string gezeigte = "?";
-    seite_.viewer = [&](const std::string& filename) {
-        gezeigte = filename;
+    std::string shown = "?";
+    page_.viewer = [&](const std::string& filename) {
+        shown = filename;
         return filename != "W:\\Kaputt.dft";
     };
-    struct Fall
+    struct TestCase
     {
-        const char* merkmal;
-        std::string vorlage;
-        bool gezeigt;
+        const char* feature;
+        std::string drawingTemplate;
+        bool shown;
     };
-    for (const Fall& fall : {Fall{"Welle", "W:\\Welle.DFT", true}, Fall{"Rad", "W:\\Rad.par", false},
-                             Fall{"Kette", "W:\\Kaputt.dft", false}}) {
-        dokument("V", {{"Hauptmerkmal_C", std::string(fall.merkmal)}});
-        zeile("DraftTabelle", {{"DokuBez", "V"},
-                               {"RevBez", "0"},
-                               {"Kategorie", "QV_Vorlage"},
-                               {"Hauptmerkmal_C", std::string(fall.merkmal)},
-                               {"Hauptmerkmal_D", ""},
-                               {"filename", fall.vorlage}});
-        neuOeffnen();
-        seite_.OpenFilterPage();
-        seite_.bereichGewaehlt(Filterbereich::Struktur);
-        seite_.zurueck();
-        seite_.struktur().knotenGewaehlt({fall.merkmal});
-        ASSERT_EQ(seite_.vorlagePfad(), fall.vorlage);
-        if (!fall.gezeigt)
-            welt_.meldungen.erwarte("Anzeigen im Viewer", box(fall.vorlage));
-        seite_.vorlage(true);
-        EXPECT_EQ(seite_.zeigtVorlage(), fall.gezeigt);
-        seite_.vorlage(false);
-        EXPECT_FALSE(seite_.zeigtVorlage());
-        EXPECT_EQ(gezeigte, fall.gezeigt ? "" : gezeigte) << "the viewer is cleared";
+    for (const TestCase& testCase : {TestCase{"Welle", "W:\\Welle.DFT", true}, TestCase{"Rad", "W:\\Rad.par", false},
+                                     TestCase{"Kette", "W:\\Kaputt.dft", false}}) {
+        addDocument("V", {{"Hauptmerkmal_C", std::string(testCase.feature)}});
+        row("DraftTabelle", {{"DokuBez", "V"},
+                             {"RevBez", "0"},
+                             {"Kategorie", "QV_Vorlage"},
+                             {"Hauptmerkmal_C", std::string(testCase.feature)},
+                             {"Hauptmerkmal_D", ""},
+                             {"filename", testCase.drawingTemplate}});
+        reopen();
+        page_.OpenFilterPage();
+        page_.sectionChosen(FilterSection::Structure);
+        page_.back();
+        page_.structure().nodeChosen({testCase.feature});
+        ASSERT_EQ(page_.templatePath(), testCase.drawingTemplate);
+        if (!testCase.shown)
+            world_.boxes.expect("Anzeigen im Viewer", box(testCase.drawingTemplate));
+        page_.drawingTemplate(true);
+        EXPECT_EQ(page_.showsTemplate(), testCase.shown);
+        page_.drawingTemplate(false);
+        EXPECT_FALSE(page_.showsTemplate());
+        EXPECT_EQ(shown, testCase.shown ? "" : shown) << "the viewer is cleared";
     }
 }
 
 TEST_F(FilterPageTest, AnotherDatabaseForgetsEverything)
 {
-    seite_.OpenFilterPage();
-    waehle(PROJEKT, "P1");
-    seite_.eigenschaften().statusGewaehlt(3, true);
-    seite_.datenbankWechselt();
-    EXPECT_EQ(anzahl(), 0);
-    EXPECT_EQ(werte(), "");
+    page_.OpenFilterPage();
+    choose(PROJECT, "P1");
+    page_.properties().statusChosen(3, true);
+    page_.databaseChanges();
+    EXPECT_EQ(count(), 0);
+    EXPECT_EQ(values(), "");
     EXPECT_EQ(filter_.status.StatusFilter, "");
     EXPECT_FALSE(session_.pages.FormSEFilternGeladen);
-    seite_.entladen(); // Not loaded since: writes nothing to the new database.
+    page_.unload(); // Not loaded since: writes nothing to the new database.
 }
 
 } // namespace

@@ -11,16 +11,16 @@
 namespace quelvarn {
 namespace {
 
-struct Fall
+struct TestCase
 {
-    FilterSchritt schritt;
-    const char* filterform;
-    const char* sqlform;
+    FilterStep step;
+    const char* filterForm;
+    const char* sqlForm;
 };
 
 TEST(Fragments, AStepIsOneConditionInTwoForms)
 {
-    const std::vector<Fall> faelle{
+    const std::vector<TestCase> cases{
         {{"Projekt", "A100", 0, {}}, "Projekt Like 'A100'", "Projekt Like 'A100'"},
         {{"Titel", "*W_l[lm]e%", 0, {}}, "Titel Like '*W_l[lm]e%'", "Titel Like '*W_l[lm]e%'"},
         {{"Autor", "O'Neill", 0, {}}, "Autor Like 'O''Neill'", "Autor Like 'O''Neill'"},
@@ -44,45 +44,45 @@ TEST(Fragments, AStepIsOneConditionInTwoForms)
         {{"Dateiname", "a", 60, {}}, "Dateiname Like 'a'", "Dateiname Like 'a'"},
         {{"Dateiname", "", 60, {}}, "", ""},
     };
-    for (const Fall& fall : faelle) {
-        const Schrittfragment fragment = schrittfragment(fall.schritt, 0);
-        EXPECT_EQ(fragment.filterform, fall.filterform);
-        EXPECT_EQ(fragment.sqlform, fall.sqlform);
+    for (const TestCase& testCase : cases) {
+        const StepFragment fragment = stepFragment(testCase.step, 0);
+        EXPECT_EQ(fragment.filterForm, testCase.filterForm);
+        EXPECT_EQ(fragment.sqlForm, testCase.sqlForm);
     }
-    EXPECT_EQ(schrittfragment({"Dateiname", "a", CodeDatei, {}}, 1).filterform, "") << "known to the first step alone";
-    EXPECT_EQ(strukturfragment({"Hauptmerkmal_C", "20.1", CodeErstellt, {}}).filterform, "Hauptmerkmal_C Like '20.1'");
+    EXPECT_EQ(stepFragment({"Dateiname", "a", CodeFile, {}}, 1).filterForm, "") << "known to the first step alone";
+    EXPECT_EQ(structureFragment({"Hauptmerkmal_C", "20.1", CodeCreated, {}}).filterForm, "Hauptmerkmal_C Like '20.1'");
 }
 
 TEST(Fragments, WhatIsNoDateOrNumberIsAFault)
 {
-    EXPECT_THROW(schrittfragment({"Erstellt", "31.02.26", 20, {}}, 0), Laufzeitfehler);
-    EXPECT_THROW(schrittfragment({"Geaendert", "", 31, {}}, 0), Laufzeitfehler);
-    EXPECT_THROW(schrittfragment({"Status", "drei", 40, {}}, 0), Laufzeitfehler);
+    EXPECT_THROW(stepFragment({"Erstellt", "31.02.26", 20, {}}, 0), RuntimeError);
+    EXPECT_THROW(stepFragment({"Geaendert", "", 31, {}}, 0), RuntimeError);
+    EXPECT_THROW(stepFragment({"Status", "drei", 40, {}}, 0), RuntimeError);
 }
 
 TEST(Fragments, MainValuesWithBoundsFollowOneAnother)
 {
-    std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE> grenzen{};
-    EXPECT_EQ(HauptwertFragmente(grenzen, true), "");
-    grenzen[1] = {Decimal::ofUnits(15000), Decimal::ofUnits(20000)};
-    EXPECT_EQ(HauptwertFragmente(grenzen, false), "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
-    grenzen[6] = {Decimal(), Decimal::ofUnits(12342500)};
-    EXPECT_EQ(HauptwertFragmente(grenzen, true), " AND Hauptwert_b >= 1.5 AND Hauptwert_b <= 2"
-                                                 " AND Hauptwert_g >= 0 AND Hauptwert_g <= 1234.25");
+    std::array<MainValueBand, MAIN_VALUE_COUNT> bounds{};
+    EXPECT_EQ(mainValueFragments(bounds, true), "");
+    bounds[1] = {Decimal::ofUnits(15000), Decimal::ofUnits(20000)};
+    EXPECT_EQ(mainValueFragments(bounds, false), "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
+    bounds[6] = {Decimal(), Decimal::ofUnits(12342500)};
+    EXPECT_EQ(mainValueFragments(bounds, true), " AND Hauptwert_b >= 1.5 AND Hauptwert_b <= 2"
+                                                " AND Hauptwert_g >= 0 AND Hauptwert_g <= 1234.25");
 }
 
 // Whatever the values hold, the text of a filter reads as the steps that it was made of.
 // The value that a condition asks for, by itself, by a pattern or by both; "?" for a condition of another form.
-std::string meant(const sql::Ausdruck& condition)
+std::string meant(const sql::Expression& condition)
 {
-    if (const auto* either = std::get_if<sql::Oder>(&condition.inhalt)) {
-        const std::string value = meant(*either->teile.at(0));
-        return either->teile.size() == 2 && meant(*either->teile[1]) == value ? value : "?";
+    if (const auto* either = std::get_if<sql::Or>(&condition.content)) {
+        const std::string value = meant(*either->parts.at(0));
+        return either->parts.size() == 2 && meant(*either->parts[1]) == value ? value : "?";
     }
-    const auto& comparison = std::get<sql::Bedingung>(condition.inhalt);
-    const auto& value = std::get<std::string>(comparison.wert);
-    const bool plain = comparison.vergleich == sql::Vergleich::Gleich;
-    const bool pattern = comparison.vergleich == sql::Vergleich::Like && comparison.wildcards == Wildcards::Star &&
+    const auto& comparison = std::get<sql::Condition>(condition.content);
+    const auto& value = std::get<std::string>(comparison.value);
+    const bool plain = comparison.comparison == sql::Comparison::Equal;
+    const bool pattern = comparison.comparison == sql::Comparison::Like && comparison.wildcards == Wildcards::Star &&
                          value.find('*') != std::string::npos;
     return plain || pattern ? value : "?";
 }
@@ -92,20 +92,20 @@ TEST(Fragments, EveryValueIsReadAsItWasChosen)
     const char* const pieces[]{"a", "'", "''", "' AND ", " OR ", "Titel Like '", "[", "_", "*", "%", " ", ")", "x"};
     std::minstd_rand random(7);
     for (int i = 0; i < 3000; ++i) {
-        Filterzustand zustand;
-        while (zustand.FilterAnzahl < 3) {
-            std::string wert;
-            while (wert.empty() || random() % 5 != 0)
-                wert += pieces[random() % std::size(pieces)];
-            zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {"Autor", wert, CodeText, {}};
+        TypeFilter state;
+        while (state.FilterAnzahl < 3) {
+            std::string value;
+            while (value.empty() || random() % 5 != 0)
+                value += pieces[random() % std::size(pieces)];
+            state.FilterSchritte[static_cast<std::size_t>(state.FilterAnzahl++)] = {"Autor", value, CodeText, {}};
         }
-        const Kettenglied glied = bildeKette(zustand, schrittfragment).back();
-        const auto gelesen = filterCondition(glied.sqlform);
-        const auto& teile = std::get<sql::Und>(gelesen->inhalt).teile;
-        ASSERT_EQ(teile.size(), 3U) << glied.sqlform;
-        for (std::size_t n = 0; n < teile.size(); ++n) {
-            for (const sql::Ausdruck& ausdruck : {std::cref(*teile[n]), std::cref(*glied.conditions[n])})
-                EXPECT_EQ(meant(ausdruck), zustand.FilterSchritte[n].Wert) << glied.sqlform;
+        const ChainLink link = formChain(state, stepFragment).back();
+        const auto read = filterCondition(link.sqlForm);
+        const auto& parts = std::get<sql::And>(read->content).parts;
+        ASSERT_EQ(parts.size(), 3U) << link.sqlForm;
+        for (std::size_t n = 0; n < parts.size(); ++n) {
+            for (const sql::Expression& expression : {std::cref(*parts[n]), std::cref(*link.conditions[n])})
+                EXPECT_EQ(meant(expression), state.FilterSchritte[n].value) << link.sqlForm;
         }
     }
     EXPECT_EQ(LikeFragment("Titel", "O'Ring 5''"), "Titel Like 'O''Ring 5'''''");
@@ -115,11 +115,11 @@ TEST(StatusFilter, FollowsTheTickedBoxesAndClosesGaps)
 {
     struct
     {
-        const char* haken;
-        const char* danach;
-        const char* bedingung;
-        const char* kurz;
-    } const faelle[]{
+        const char* tick;
+        const char* afterwards;
+        const char* condition;
+        const char* shortText;
+    } const cases[]{
         {"012345", "012345", "", ""},
         {"", "", "", ""},
         {"2", "2", "( Status = 2)", " = 2"},
@@ -132,22 +132,25 @@ TEST(StatusFilter, FollowsTheTickedBoxesAndClosesGaps)
         {"35", "345", "( Status >= 3  AND Status <= 3)", " >= 3 und <= 5"},
         {"345", "345", "( Status >= 3  AND Status <= 3)", " >= 3 und <= 5"},
     };
-    for (const auto& fall : faelle) {
+    for (const auto& testCase : cases) {
         FilterState filter;
-        auto& haken = filter.typen[2].ChFilterStat;
-        for (const char* ziffer = fall.haken; *ziffer; ++ziffer)
-            haken[static_cast<std::size_t>(*ziffer - '0')] = true;
+        auto& tick = filter.types[2].ChFilterStat;
+        for (const char* digit = testCase.tick; *digit; ++digit)
+            tick[static_cast<std::size_t>(*digit - '0')] = true;
         BuildStatusFilter(filter, 2);
-        std::string danach;
-        for (std::size_t status = 0; status < haken.size(); ++status)
-            danach += haken[status] ? std::to_string(status) : "";
-        EXPECT_EQ(danach, fall.danach);
-        const auto mitKopf = [&](const std::string& kopf) { return *fall.bedingung ? kopf + fall.bedingung : ""; };
-        EXPECT_EQ(filter.status.StatusFilter, mitKopf(" "));
-        EXPECT_EQ(filter.status.StatusFilterWhere, mitKopf(" WHERE "));
-        EXPECT_EQ(filter.status.StatusFilterAnd, mitKopf(" AND "));
-        EXPECT_EQ(filter.status.kurz, fall.kurz);
-        EXPECT_EQ(filter.status.legende, *fall.kurz ? std::string("             Status") + fall.kurz : "");
+        std::string afterwards;
+        for (std::size_t status = 0; status < tick.size(); ++status)
+            afterwards += tick[status] ? std::to_string(status) : "";
+        EXPECT_EQ(afterwards, testCase.afterwards);
+        const auto withHeading = [&](const std::string& heading) {
+            return *testCase.condition ? heading + testCase.condition : "";
+        };
+        EXPECT_EQ(filter.status.StatusFilter, withHeading(" "));
+        EXPECT_EQ(filter.status.StatusFilterWhere, withHeading(" WHERE "));
+        EXPECT_EQ(filter.status.StatusFilterAnd, withHeading(" AND "));
+        EXPECT_EQ(filter.status.shortText, testCase.shortText);
+        EXPECT_EQ(filter.status.legend,
+                  *testCase.shortText ? std::string("             Status") + testCase.shortText : "");
     }
 }
 

@@ -9,77 +9,77 @@ using namespace quelvarn;
 
 namespace {
 
-class Eigenschaften : public FilterTest
+class Properties : public FilterTest
 {
 protected:
-    std::string liste(int index) const { return join(bereich_.liste(index).werte, "|"); }
-    std::string stati() const
+    std::string list(int index) const { return join(section_.list(index).values, "|"); }
+    std::string statuses() const
     {
         std::string text;
-        for (int status = 0; status < ANZAHL_STATUS; ++status)
-            text += bereich_.statusVorhanden(status) ? static_cast<char>('0' + status) : '-';
+        for (int status = 0; status < STATUS_COUNT; ++status)
+            text += section_.statusExists(status) ? static_cast<char>('0' + status) : '-';
         return text;
     }
-    void ticke(std::string_view stati)
+    void tick(std::string_view statuses)
     {
-        for (int status = 0; status < ANZAHL_STATUS; ++status)
-            bereich_.statusGewaehlt(status, stati.find(static_cast<char>('0' + status)) != stati.npos);
+        for (int status = 0; status < STATUS_COUNT; ++status)
+            section_.statusChosen(status, statuses.find(static_cast<char>('0' + status)) != statuses.npos);
     }
 
-    Eigenschaftsbereich bereich_{kontext_};
+    PropertySection section_{context_};
 };
 
 } // namespace
 
-TEST_F(Eigenschaften, ListsHoldWhatOccursAndCountIt)
+TEST_F(Properties, ListsHoldWhatOccursAndCountIt)
 {
-    struct Fall
+    struct TestCase
     {
-        const char* spalte;
+        const char* column;
         int index;
-        std::vector<Value> zellen;
-        const char* liste;
-        const char* anzahl;
+        std::vector<Value> cells;
+        const char* list;
+        const char* count;
     };
-    const Value NULLWERT{};
-    const std::vector<Fall> faelle{
+    const Value NULL_VALUE{};
+    const std::vector<TestCase> cases{
         {"Projekt", 1, {"B", "a", "Ä", "A1", "a"}, "a|Ä|A1|B", "4"},
         {"Titel", 2, {"Welle", "welle  ", "WELLE"}, "Welle", "1"},
         {"Thema", 3, {" ", " "}, "", "0"},
         {"Firma", 4, {"   ", ""}, "", "0"},
-        {"Material", 6, {NULLWERT, "", "St 37", NULLWERT}, "St 37", "1"},
+        {"Material", 6, {NULL_VALUE, "", "St 37", NULL_VALUE}, "St 37", "1"},
         {"Hauptmerkmal_A", 10, {" ", " ", ""}, " ", "0"},
         {"Hauptmerkmal_B", 11, {" ", "x"}, " |x", "2"},
         {"Stichwoerter", 12, {"O'Brien", "a' AND Status = '1"}, "a' AND Status = '1|O'Brien", "2"},
     };
-    for (const Fall& fall : faelle)
-        for (std::size_t i = 0; i < fall.zellen.size(); ++i)
-            dokument(fall.spalte + std::to_string(i), {{fall.spalte, fall.zellen[i]}});
-    bereich_.FilterEigenNeu();
-    for (const Fall& fall : faelle) {
-        EXPECT_EQ(liste(fall.index), fall.liste) << fall.spalte;
-        EXPECT_EQ(bereich_.liste(fall.index).anzahl, fall.anzahl) << fall.spalte;
+    for (const TestCase& testCase : cases)
+        for (std::size_t i = 0; i < testCase.cells.size(); ++i)
+            addDocument(testCase.column + std::to_string(i), {{testCase.column, testCase.cells[i]}});
+    section_.FilterEigenNeu();
+    for (const TestCase& testCase : cases) {
+        EXPECT_EQ(list(testCase.index), testCase.list) << testCase.column;
+        EXPECT_EQ(section_.list(testCase.index).count, testCase.count) << testCase.column;
     }
-    EXPECT_EQ(bereich_.liste(5).anzahl, "0") << "a column without values";
+    EXPECT_EQ(section_.list(5).count, "0") << "a column without values";
 }
 
-TEST_F(Eigenschaften, RunningFilterAndStatusNarrowTheLists)
+TEST_F(Properties, RunningFilterAndStatusNarrowTheLists)
 {
-    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", 0}});
-    dokument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", 3}});
-    dokument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", 4}});
-    dokument("4", {{"Projekt", "B"}, {"Status", 7}, {"Geaendert", Zeitpunkt::aus({2026, 11, 3})}});
-    tabelle().Filter("DokuBez = '1'");
+    addDocument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", 0}});
+    addDocument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", 3}});
+    addDocument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", 4}});
+    addDocument("4", {{"Projekt", "B"}, {"Status", 7}, {"Geaendert", DateTime::out({2026, 11, 3})}});
+    table().Filter("DokuBez = '1'");
 
-    struct Fall
+    struct TestCase
     {
         const char* FilterString;
-        const char* stati;
-        const char* projekte;
-        const char* autoren;
-        const char* vorhanden;
+        const char* statuses;
+        const char* projects;
+        const char* authors;
+        const char* exists;
     };
-    const Fall faelle[]{
+    const TestCase cases[]{
         {"", "012345", "A100|A200|B", "Meier|Ober|Ulm", "0--34-"},
         {"Projekt Like 'A*'", "012345", "A100|A200", "Meier|Ober|Ulm", "0--34-"},
         {"Projekt Like 'a100'", "012345", "A100", "Meier|Ober", "0--3--"},
@@ -88,81 +88,81 @@ TEST_F(Eigenschaften, RunningFilterAndStatusNarrowTheLists)
         {"Geaendert >= #11/03/26 00:00:00#", "012345", "B", "", "------"},
         {"Projekt Like 'nichts'", "012345", "", "", "------"},
     };
-    for (const Fall& fall : faelle) {
-        ticke(fall.stati);
-        bereich_.FilterListenSchmal(fall.FilterString);
-        EXPECT_EQ(liste(1), fall.projekte) << fall.FilterString << fall.stati;
-        EXPECT_EQ(liste(7), fall.autoren) << fall.FilterString << fall.stati;
-        EXPECT_EQ(stati(), fall.vorhanden) << fall.FilterString << fall.stati;
+    for (const TestCase& testCase : cases) {
+        tick(testCase.statuses);
+        section_.FilterListenSchmal(testCase.FilterString);
+        EXPECT_EQ(list(1), testCase.projects) << testCase.FilterString << testCase.statuses;
+        EXPECT_EQ(list(7), testCase.authors) << testCase.FilterString << testCase.statuses;
+        EXPECT_EQ(statuses(), testCase.exists) << testCase.FilterString << testCase.statuses;
     }
-    EXPECT_EQ(gezeigt(), "1") << "the table's own filter stays";
+    EXPECT_EQ(shown(), "1") << "the table's own filter stays";
 }
 
-TEST_F(Eigenschaften, ChoicesBecomeSteps)
+TEST_F(Properties, ChoicesBecomeSteps)
 {
-    struct Fall
+    struct TestCase
     {
-        std::function<void(Eigenschaftsbereich&)> wahl;
-        FilterSchritt schritt;
-        FilterRow zeile;
+        std::function<void(PropertySection&)> choice;
+        FilterStep step;
+        FilterRow row;
     };
     session_.labels.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
-    const Zeitpunkt tag = Zeitpunkt::aus({2026, 11, 5});
-    const Fall faelle[]{
-        {[](auto& b) { b.wertGewaehlt(1, "A100"); }, {"Projekt", "A100", 0, ""}, {"Projekt", "Vorhaben", "A100"}},
-        {[](auto& b) { b.wertGewaehlt(10, "x"); }, {"Hauptmerkmal_A", "x", 0, ""}, {"Hauptmerkmal_A", "Klasse", "x"}},
-        {[](auto& b) { b.wertGewaehlt(12, "y"); }, {"Stichwoerter", "y", 0, ""}, {"Stichwoerter", "Worte", "y"}},
-        {[&](auto& b) { b.datumGewaehlt(tag); },
+    const DateTime day = DateTime::out({2026, 11, 5});
+    const TestCase cases[]{
+        {[](auto& b) { b.valueChosen(1, "A100"); }, {"Projekt", "A100", 0, ""}, {"Projekt", "Vorhaben", "A100"}},
+        {[](auto& b) { b.valueChosen(10, "x"); }, {"Hauptmerkmal_A", "x", 0, ""}, {"Hauptmerkmal_A", "Klasse", "x"}},
+        {[](auto& b) { b.valueChosen(12, "y"); }, {"Stichwoerter", "y", 0, ""}, {"Stichwoerter", "Worte", "y"}},
+        {[&](auto& b) { b.dateChosen(day); },
          {"Erstellt", "05.11.26", 20, ""},
          {"Kalender", "Erstellt", ">= 05.11.26"}},
         {[&](auto& b) {
-             b.setzeDatumsfeld(1);
-             b.setzeBegrenzung(2);
-             b.datumGewaehlt(tag);
+             b.setDateField(1);
+             b.setBound(2);
+             b.dateChosen(day);
          },
          {"Geaendert", "05.11.26", 32, ""},
          {"Kalender", "Geaendert", "<= 05.11.26"}},
     };
-    std::size_t nummer = 0;
-    bereich_.wertGewaehlt(1, "");
-    for (const Fall& fall : faelle) {
-        fall.wahl(bereich_);
-        FilterSchritt schritt = kontext_.zustand().FilterSchritte[nummer++];
-        schritt.row = {};
-        EXPECT_EQ(schritt, fall.schritt);
-        ASSERT_EQ(kontext_.FilterWerteTabelle().size(), nummer);
-        EXPECT_EQ(kontext_.FilterWerteTabelle().back(), fall.zeile);
+    std::size_t number = 0;
+    section_.valueChosen(1, "");
+    for (const TestCase& testCase : cases) {
+        testCase.choice(section_);
+        FilterStep step = context_.state().FilterSchritte[number++];
+        step.row = {};
+        EXPECT_EQ(step, testCase.step);
+        ASSERT_EQ(context_.FilterWerteTabelle().size(), number);
+        EXPECT_EQ(context_.FilterWerteTabelle().back(), testCase.row);
     }
-    welt_.meldungen.erwarte("Anzahl Filter", "Alle Filter sind gefüllt!");
-    bereich_.wertGewaehlt(1, "A100");
-    EXPECT_EQ(kontext_.FilterWerteTabelle().size(), nummer);
+    world_.boxes.expect("Anzahl Filter", "Alle Filter sind gefüllt!");
+    section_.valueChosen(1, "A100");
+    EXPECT_EQ(context_.FilterWerteTabelle().size(), number);
 }
 
-TEST_F(Eigenschaften, ReadingGivenUpLeavesEmptyListsAndAUsablePage)
+TEST_F(Properties, ReadingGivenUpLeavesEmptyListsAndAUsablePage)
 {
-    dokument("1", {{"Projekt", "A100"}});
-    dokument("2");
-    welt_.fortschritt.geduld = false;
-    bereich_.FilterEigenNeu();
-    EXPECT_TRUE(bereich_.liste(1).werte.empty());
-    EXPECT_TRUE(bereich_.statusVorhanden(5));
-    EXPECT_EQ(welt_.fortschritt.beendet, 1);
-    EXPECT_EQ(gezeigt(), "1 2");
+    addDocument("1", {{"Projekt", "A100"}});
+    addDocument("2");
+    world_.progress.patience = false;
+    section_.FilterEigenNeu();
+    EXPECT_TRUE(section_.list(1).values.empty());
+    EXPECT_TRUE(section_.statusExists(5));
+    EXPECT_EQ(world_.progress.ended, 1);
+    EXPECT_EQ(shown(), "1 2");
 }
 
-TEST_F(Eigenschaften, AListThatCannotBeFilledLeavesTheOthers)
+TEST_F(Properties, AListThatCannotBeFilledLeavesTheOthers)
 {
-    engine_->entferneTabelle("PartTabelle");
-    engine_->legeTabelleAn({"PartTabelle",
-                            {{"DokuBez", FeldTyp::Text},
-                             {"RevBez", FeldTyp::Text},
-                             {"Status", FeldTyp::Ganzzahl},
-                             {"Projekt", FeldTyp::Text},
-                             {"Autor", FeldTyp::Text}},
-                            {}});
-    dokument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}});
-    EXPECT_THROW(bereich_.FilterEigenNeu(), Laufzeitfehler);
-    EXPECT_EQ(liste(1), "A100");
-    EXPECT_EQ(liste(7), "Meier");
-    EXPECT_EQ(bereich_.liste(6).anzahl, "");
+    engine_->removeTable("PartTabelle");
+    engine_->createTable({"PartTabelle",
+                          {{"DokuBez", FieldType::Text},
+                           {"RevBez", FieldType::Text},
+                           {"Status", FieldType::Integer},
+                           {"Projekt", FieldType::Text},
+                           {"Autor", FieldType::Text}},
+                          {}});
+    addDocument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}});
+    EXPECT_THROW(section_.FilterEigenNeu(), RuntimeError);
+    EXPECT_EQ(list(1), "A100");
+    EXPECT_EQ(list(7), "Meier");
+    EXPECT_EQ(section_.list(6).count, "");
 }

@@ -12,225 +12,223 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::string stati(const std::array<bool, ANZAHL_STATUS>& haken)
+std::string statuses(const std::array<bool, STATUS_COUNT>& tick)
 {
     std::string text;
-    for (const bool gesetzt : haken)
-        text += gesetzt ? '1' : '0';
+    for (const bool set : tick)
+        text += set ? '1' : '0';
     return text;
 }
 
 // What a text says: part of the page, steps, additional values, statuses.
-std::string gelesen(const GespeicherterFilter& filter)
+std::string read(const SavedFilter& filter)
 {
-    std::string text = std::to_string(static_cast<int>(filter.bereich));
+    std::string text = std::to_string(static_cast<int>(filter.section));
     for (int i = 0; i < filter.FilterAnzahl; ++i) {
-        const FilterSchritt& schritt = filter.FilterSchritte[static_cast<std::size_t>(i)];
-        text += " [" + schritt.Feldname + "," + schritt.Wert + "," + std::to_string(schritt.code) + "," +
-                schritt.Muster + "]";
+        const FilterStep& step = filter.FilterSchritte[static_cast<std::size_t>(i)];
+        text += " [" + step.Feldname + "," + step.value + "," + std::to_string(step.code) + "," + step.pattern + "]";
     }
     for (const AdditionalValue& value : filter.ZusBenutzDef)
-        text += " +" + std::to_string(value.column) + value.Wert;
-    return text + (filter.ChFilterStat ? " " + stati(*filter.ChFilterStat) : "");
+        text += " +" + std::to_string(value.column) + value.value;
+    return text + (filter.ChFilterStat ? " " + statuses(*filter.ChFilterStat) : "");
 }
 
-struct Textfall
+struct TextCase
 {
     const char* text;
-    const char* sagt;
+    const char* says;
 };
 
-class GespeicherteTexte : public testing::TestWithParam<Textfall>
+class SavedTexts : public testing::TestWithParam<TextCase>
 {};
 
-TEST_P(GespeicherteTexte, AreReadUpToTheFirstDamagedEntry)
+TEST_P(SavedTexts, AreReadUpToTheFirstDamagedEntry)
 {
-    EXPECT_EQ(gelesen(leseFilterstring(GetParam().text)), GetParam().sagt);
+    EXPECT_EQ(read(readFilterString(GetParam().text)), GetParam().says);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Whole, GespeicherteTexte,
-    testing::Values(Textfall{"", "0"}, Textfall{"\\110010\\\\Status|", "0 110010"},
-                    Textfall{"Projekt\\A100\\0\\Projekt|\\111111\\\\Status|", "0 [Projekt,A100,0,] 111111"},
-                    Textfall{"Kalender\\>= 15.11.26\\20\\Erstellt|Kalender\\<= 3.1.27\\32\\Geaendert|",
+    Whole, SavedTexts,
+    testing::Values(TextCase{"", "0"}, TextCase{"\\110010\\\\Status|", "0 110010"},
+                    TextCase{"Projekt\\A100\\0\\Projekt|\\111111\\\\Status|", "0 [Projekt,A100,0,] 111111"},
+                    TextCase{"Kalender\\>= 15.11.26\\20\\Erstellt|Kalender\\<= 3.1.27\\32\\Geaendert|",
                              "0 [Erstellt,15.11.26,20,] [Geaendert,3.1.27,32,]"},
                     // The operator in front of a date counts.
-                    Textfall{"Kalender\\= 15.11.26\\20\\Erstellt|", "0 [Erstellt,15.11.26,21,]"},
-                    Textfall{"FilternDatum\\15.11.26\\30\\Geaendert|FilternDatum\\Meier\\0\\Bearbeiter|",
+                    TextCase{"Kalender\\= 15.11.26\\20\\Erstellt|", "0 [Erstellt,15.11.26,21,]"},
+                    TextCase{"FilternDatum\\15.11.26\\30\\Geaendert|FilternDatum\\Meier\\0\\Bearbeiter|",
                              "0 [Geaendert,15.11.26,30,] [Bearbeiter,Meier,0,]"},
-                    Textfall{"DokubezDateiFile\\*A1*\\50\\Pfad-u. Dateiname|", "0 [filename,*A1*,50,]"},
-                    Textfall{"Titel\\>= 5 mm\\0\\Titel|", "0 [Titel,>= 5 mm,0,]"},
-                    Textfall{"Hauptmerkmal_A\\Guss\\0\\Hauptmerkmal A|", "0 [Hauptmerkmal_A,Guss,0,]"},
-                    Textfall{"Hauptmerkmal_C\\Welle\\0\\Hauptmerkmal C|Hauptmerkmal_D\\lang\\0\\Hauptmerkmal D|"
+                    TextCase{"DokubezDateiFile\\*A1*\\50\\Pfad-u. Dateiname|", "0 [filename,*A1*,50,]"},
+                    TextCase{"Titel\\>= 5 mm\\0\\Titel|", "0 [Titel,>= 5 mm,0,]"},
+                    TextCase{"Hauptmerkmal_A\\Guss\\0\\Hauptmerkmal A|", "0 [Hauptmerkmal_A,Guss,0,]"},
+                    TextCase{"Hauptmerkmal_C\\Welle\\0\\Hauptmerkmal C|Hauptmerkmal_D\\lang\\0\\Hauptmerkmal D|"
                              "StrukturMerkMaterial\\C45\\0\\Material|StrukturMerkFirma\\Alt\\0\\Firma|",
                              "1 [Hauptmerkmal_C,Welle,0,] [Hauptmerkmal_D,lang,0,] [Material,C45,0,] [Firma,Alt,0,]"},
-                    Textfall{"BenutzDef\\*Stahl*\\*Stahl*\\Werkstoff|ZusBenutzDefProjekt\\A1\\\\Projekt|",
+                    TextCase{"BenutzDef\\*Stahl*\\*Stahl*\\Werkstoff|ZusBenutzDefProjekt\\A1\\\\Projekt|",
                              "2 [,Werkstoff,0,*Stahl*] +3A1"}));
 
 INSTANTIATE_TEST_SUITE_P(
-    Damaged, GespeicherteTexte,
-    testing::Values(Textfall{"Projekt\\A\\0\\Projekt|Titel\\B|Autor\\C\\0\\Autor|", "0 [Projekt,A,0,]"},
-                    Textfall{"Projekt\\A\\0\\Projekt|Titel\\B\\0\\Titel\\|Autor\\C\\0\\Autor|", "0 [Projekt,A,0,]"},
-                    Textfall{"Projekt\\A\\0\\Projekt|Titel\\B\\x\\Titel|", "0 [Projekt,A,0,]"},
-                    Textfall{"Projekt\\A\\0\\Projekt||Titel\\B\\0\\Titel|", "0 [Projekt,A,0,]"},
-                    Textfall{"Projekt\\A\\0\\Projekt|Titel\\B\\0\\Ti", "0 [Projekt,A,0,]"}, // Cut off.
-                    Textfall{"Projekt\\A\\0\\Projekt|BenutzDef\\*\\*\\Werkstoff|", "0 [Projekt,A,0,]"},
-                    Textfall{"ZusBenutzDefFirma\\A1\\\\Firma|", "2"}, Textfall{"StrukturMerkAutor\\A1\\0\\Autor|", "1"},
-                    Textfall{"Hauptmerkmal_C\\Welle\\0\\C|Hauptmerkmal_E\\lang\\0\\E|", "1 [Hauptmerkmal_C,Welle,0,]"},
-                    Textfall{"Kalender\\>= 15.11.26\\0\\Wann|", "0"}, Textfall{"FilternDatum\\Meier\\0\\|", "0"},
-                    Textfall{"\\11001\\\\Status|", "0"}, Textfall{"\\110012\\\\Status|", "0"},
-                    Textfall{"P\\1\\0\\P|P\\2\\0\\P|P\\3\\0\\P|P\\4\\0\\P|P\\5\\0\\P|P\\6\\0\\P|",
+    Damaged, SavedTexts,
+    testing::Values(TextCase{"Projekt\\A\\0\\Projekt|Titel\\B|Autor\\C\\0\\Autor|", "0 [Projekt,A,0,]"},
+                    TextCase{"Projekt\\A\\0\\Projekt|Titel\\B\\0\\Titel\\|Autor\\C\\0\\Autor|", "0 [Projekt,A,0,]"},
+                    TextCase{"Projekt\\A\\0\\Projekt|Titel\\B\\x\\Titel|", "0 [Projekt,A,0,]"},
+                    TextCase{"Projekt\\A\\0\\Projekt||Titel\\B\\0\\Titel|", "0 [Projekt,A,0,]"},
+                    TextCase{"Projekt\\A\\0\\Projekt|Titel\\B\\0\\Ti", "0 [Projekt,A,0,]"}, // Cut off.
+                    TextCase{"Projekt\\A\\0\\Projekt|BenutzDef\\*\\*\\Werkstoff|", "0 [Projekt,A,0,]"},
+                    TextCase{"ZusBenutzDefFirma\\A1\\\\Firma|", "2"}, TextCase{"StrukturMerkAutor\\A1\\0\\Autor|", "1"},
+                    TextCase{"Hauptmerkmal_C\\Welle\\0\\C|Hauptmerkmal_E\\lang\\0\\E|", "1 [Hauptmerkmal_C,Welle,0,]"},
+                    TextCase{"Kalender\\>= 15.11.26\\0\\Wann|", "0"}, TextCase{"FilternDatum\\Meier\\0\\|", "0"},
+                    TextCase{"\\11001\\\\Status|", "0"}, TextCase{"\\110012\\\\Status|", "0"},
+                    TextCase{"P\\1\\0\\P|P\\2\\0\\P|P\\3\\0\\P|P\\4\\0\\P|P\\5\\0\\P|P\\6\\0\\P|",
                              "0 [P,1,0,] [P,2,0,] [P,3,0,] [P,4,0,] [P,5,0,]"}));
 
-class GespeicherteFilterTest : public FilterTest
+class SavedFilterTest : public FilterTest
 {
 protected:
-    GespeicherteFilterTest()
+    SavedFilterTest()
     {
-        for (Recordset& liste : session_.pages.GespeicherteFilter) {
-            liste.FeldAnhaengen("Filtername", FeldTyp::Text);
-            liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
-            liste.Open();
+        for (Recordset& list : session_.pages.GespeicherteFilter) {
+            list.appendField("Filtername", FieldType::Text);
+            list.appendField("Filterstring", FieldType::Text);
+            list.Open();
         }
-        kontext_.zustand().ChFilterStat.fill(false);
+        context_.state().ChFilterStat.fill(false);
     }
 
-    void schritt(const std::string& Feldname, const std::string& Wert, int code = CodeText)
+    void step(const std::string& Feldname, const std::string& value, int code = CodeText)
     {
-        Filterzustand& zustand = kontext_.zustand();
-        zustand.FilterSchritte[static_cast<std::size_t>(zustand.FilterAnzahl++)] = {Feldname, Wert, code, ""};
+        TypeFilter& state = context_.state();
+        state.FilterSchritte[static_cast<std::size_t>(state.FilterAnzahl++)] = {Feldname, value, code, ""};
     }
-    std::string gespeichert(const std::string& name) { return SavedFilterString(session_, kontext_.tab, name); }
+    std::string saved(const std::string& name) { return SavedFilterString(session_, context_.tab, name); }
 };
 
-TEST_F(GespeicherteFilterTest, ARefusedNameSaysWhyAndSavesNothing)
+TEST_F(SavedFilterTest, ARefusedNameSaysWhyAndSavesNothing)
 {
-    const std::string fuenfzig = "ä" + std::string(49, 'x');
+    const std::string fifty = "ä" + std::string(49, 'x');
     struct
     {
         std::string name;
-        std::string wert;
+        std::string value;
         const char* text;
-    } const faelle[]{
+    } const cases[]{
         {"", "A100", "Es muss ein Name für den Filter angegeben werden!"},
-        {fuenfzig + "x", "A100", "Der Name für den Filter kann max. 50 Zeichen lang sein!"},
+        {fifty + "x", "A100", "Der Name für den Filter kann max. 50 Zeichen lang sein!"},
         {"Leer", "", "Es sind keine Filterwerte eingetragen!"},
         {"Alt", "A100", "Der Filtername 'Alt' ist bereits vorhanden!"},
         {"Pfad", "W:\\Alt", "Filterwerte mit den Zeichen \\ oder | können nicht gespeichert werden!"},
     };
-    schritt("Projekt", "A1");
-    ASSERT_TRUE(speichereFilter(kontext_, "Alt"));
-    for (const auto& fall : faelle) {
-        kontext_.zustand().FilterSchritte[0].Wert = fall.wert;
-        welt_.meldungen.erwarte("Filterwerte", fall.text);
-        EXPECT_FALSE(speichereFilter(kontext_, fall.name));
+    step("Projekt", "A1");
+    ASSERT_TRUE(saveFilter(context_, "Alt"));
+    for (const auto& testCase : cases) {
+        context_.state().FilterSchritte[0].value = testCase.value;
+        world_.boxes.expect("Filterwerte", testCase.text);
+        EXPECT_FALSE(saveFilter(context_, testCase.name));
     }
-    EXPECT_THAT(gespeicherteNamen(session_, 0), ElementsAre("Alt"));
-    kontext_.zustand().FilterSchritte[0].Wert = "A100";
-    EXPECT_TRUE(speichereFilter(kontext_, fuenfzig));
-    EXPECT_TRUE(speichereFilter(kontext_, "alt")); // Names are compared exactly.
-    EXPECT_THAT(gespeicherteNamen(session_, 1), IsEmpty());
+    EXPECT_THAT(savedNames(session_, 0), ElementsAre("Alt"));
+    context_.state().FilterSchritte[0].value = "A100";
+    EXPECT_TRUE(saveFilter(context_, fifty));
+    EXPECT_TRUE(saveFilter(context_, "alt")); // Names are compared exactly.
+    EXPECT_THAT(savedNames(session_, 1), IsEmpty());
 }
 
-TEST_F(GespeicherteFilterTest, TheStoredFormHoldsFiveStepsAndTheTickedStatuses)
+TEST_F(SavedFilterTest, TheStoredFormHoldsFiveStepsAndTheTickedStatuses)
 {
-    kontext_.zustand().ChFilterStat = {true, true, false, false, true, false};
-    EXPECT_TRUE(speichereFilter(kontext_, "Nur Status"));
-    EXPECT_EQ(gespeichert("Nur Status"), "\\110010\\\\Status|");
-    for (const char* feld : {"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F", "Hauptmerkmal_G",
-                             "Material", "Firma"})
-        schritt(feld, "x");
-    EXPECT_TRUE(speichereFilter(kontext_, "Sieben"));
-    EXPECT_EQ(gespeichert("Sieben"), "Hauptmerkmal_C\\x\\0\\Hauptmerkmal_C|Hauptmerkmal_D\\x\\0\\Hauptmerkmal_D|"
-                                     "Hauptmerkmal_E\\x\\0\\Hauptmerkmal_E|Hauptmerkmal_F\\x\\0\\Hauptmerkmal_F|"
-                                     "Hauptmerkmal_G\\x\\0\\Hauptmerkmal_G|\\110010\\\\Status|");
-    loescheFilter(kontext_, "nur status");
-    loescheFilter(kontext_, "Nur Status");
-    EXPECT_THAT(gespeicherteNamen(session_, 0), ElementsAre("Sieben"));
+    context_.state().ChFilterStat = {true, true, false, false, true, false};
+    EXPECT_TRUE(saveFilter(context_, "Nur Status"));
+    EXPECT_EQ(saved("Nur Status"), "\\110010\\\\Status|");
+    for (const char* field : {"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F", "Hauptmerkmal_G",
+                              "Material", "Firma"})
+        step(field, "x");
+    EXPECT_TRUE(saveFilter(context_, "Sieben"));
+    EXPECT_EQ(saved("Sieben"), "Hauptmerkmal_C\\x\\0\\Hauptmerkmal_C|Hauptmerkmal_D\\x\\0\\Hauptmerkmal_D|"
+                               "Hauptmerkmal_E\\x\\0\\Hauptmerkmal_E|Hauptmerkmal_F\\x\\0\\Hauptmerkmal_F|"
+                               "Hauptmerkmal_G\\x\\0\\Hauptmerkmal_G|\\110010\\\\Status|");
+    removeFilter(context_, "nur status");
+    removeFilter(context_, "Nur Status");
+    EXPECT_THAT(savedNames(session_, 0), ElementsAre("Sieben"));
 }
 
-TEST_F(GespeicherteFilterTest, AFilterInUseReplacesTheOneBefore)
+TEST_F(SavedFilterTest, AFilterInUseReplacesTheOneBefore)
 {
-    schritt("Projekt", "alt");
-    kontext_.zustand().HauptwertAktiv = true;
+    step("Projekt", "alt");
+    context_.state().HauptwertAktiv = true;
     const std::string text = "BenutzDef\\*rot*\\*rot*\\Farbe|ZusBenutzDefAutor\\Meier\\\\Autor|\\010100\\\\Status|";
-    UseSavedFilter(kontext_, text);
-    const Filterzustand& zustand = kontext_.zustand();
-    EXPECT_EQ(zustand.FilterAnzahl, 1);
-    EXPECT_EQ(zustand.FilterSchritte[0], (FilterSchritt{"", "Farbe", CodeText, "*rot*"}));
-    EXPECT_EQ(additionalValue(zustand, 0), "Meier");
-    EXPECT_EQ(zustand.BenutzDefAnzahl(), 1);
-    EXPECT_FALSE(zustand.HauptwertAktiv);
-    EXPECT_EQ(kontext_.bereich(), Filterbereich::BenutzDef);
+    UseSavedFilter(context_, text);
+    const TypeFilter& state = context_.state();
+    EXPECT_EQ(state.FilterAnzahl, 1);
+    EXPECT_EQ(state.FilterSchritte[0], (FilterStep{"", "Farbe", CodeText, "*rot*"}));
+    EXPECT_EQ(additionalValue(state, 0), "Meier");
+    EXPECT_EQ(state.BenutzDefAnzahl(), 1);
+    EXPECT_FALSE(state.HauptwertAktiv);
+    EXPECT_EQ(context_.section(), FilterSection::UserDefined);
     EXPECT_EQ(filter_.status.StatusFilter, " ( Status >= 1  AND Status <= 3)");
-    EXPECT_EQ(stati(zustand.ChFilterStat), "011100"); // The gap is closed.
-    ASSERT_TRUE(speichereFilter(kontext_, "Wieder"));
-    EXPECT_EQ(gespeichert("Wieder"), text.substr(0, text.rfind("\\01")) + "\\011100\\\\Status|");
+    EXPECT_EQ(statuses(state.ChFilterStat), "011100"); // The gap is closed.
+    ASSERT_TRUE(saveFilter(context_, "Wieder"));
+    EXPECT_EQ(saved("Wieder"), text.substr(0, text.rfind("\\01")) + "\\011100\\\\Status|");
 
-    UseSavedFilter(kontext_, "Projekt\\A\\0\\Projekt|");
-    EXPECT_EQ(additionalValue(zustand, 0) + filter_.status.StatusFilter + stati(zustand.ChFilterStat), "000000");
+    UseSavedFilter(context_, "Projekt\\A\\0\\Projekt|");
+    EXPECT_EQ(additionalValue(state, 0) + filter_.status.StatusFilter + statuses(state.ChFilterStat), "000000");
 }
 
-TEST_F(GespeicherteFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer)
+TEST_F(SavedFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer)
 {
-    for (const char* anwender : {"Mueller", "Huber"})
-        zeile("Ini", {{"Feld1", anwender},
-                      {"Feld2", "Filterwerte"},
-                      {"Feld3", "Part"},
-                      {"Feld4", "Alt"},
-                      {"Feld5", "\\100000\\\\Status|"}});
-    schritt("Projekt", "Halle 'Ost'");
-    ASSERT_TRUE(speichereFilter(kontext_, "Meier's"));
-    speichereFilterlisten(session_, welt_.meldungen);
-    const auto stand = [&] {
-        Recordset zeilen;
-        zeilen.Open("SELECT * FROM Ini WHERE Feld2 = 'Filterwerte' ORDER BY Feld1", session_.database.Verbindung);
+    for (const char* user : {"Mueller", "Huber"})
+        row("Ini", {{"Feld1", user},
+                    {"Feld2", "Filterwerte"},
+                    {"Feld3", "Part"},
+                    {"Feld4", "Alt"},
+                    {"Feld5", "\\100000\\\\Status|"}});
+    step("Projekt", "Halle 'Ost'");
+    ASSERT_TRUE(saveFilter(context_, "Meier's"));
+    saveFilterLists(session_, world_.boxes);
+    const auto state = [&] {
+        Recordset rows;
+        rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Filterwerte' ORDER BY Feld1", session_.database.connection);
         std::string text;
-        for (; !zeilen.Eof(); zeilen.MoveNext())
-            text += zeilen.Text("Feld1") + "/" + zeilen.Text("Feld3") + "/" + zeilen.Text("Feld4") + "/" +
-                    zeilen.Text("Feld5") + "\n";
+        for (; !rows.Eof(); rows.MoveNext())
+            text += rows.Text("Feld1") + "/" + rows.Text("Feld3") + "/" + rows.Text("Feld4") + "/" +
+                    rows.Text("Feld5") + "\n";
         return text;
     };
-    EXPECT_EQ(stand(), "Huber/Part/Alt/\\100000\\\\Status|\nMueller/Part/Meier's/Projekt\\Halle 'Ost'\\0\\Projekt|\n");
-    engine_->entferneTabelle("Ini");
-    for (int i = 0; i < ANZAHL_DOKUTYPEN; ++i) {
-        welt_.meldungen.erwarte("Speichern der Filterwerte in die Ini-Tabelle",
-                                "Fehler beim Speichern der Filterwerte in die Ini-Tabelle!");
-        welt_.meldungen.antworte(); // Fehlermeldung
+    EXPECT_EQ(state(), "Huber/Part/Alt/\\100000\\\\Status|\nMueller/Part/Meier's/Projekt\\Halle 'Ost'\\0\\Projekt|\n");
+    engine_->removeTable("Ini");
+    for (int i = 0; i < DOCUMENT_TYPE_COUNT; ++i) {
+        world_.boxes.expect("Speichern der Filterwerte in die Ini-Tabelle",
+                            "Fehler beim Speichern der Filterwerte in die Ini-Tabelle!");
+        world_.boxes.answer(); // Fehlermeldung
     }
-    speichereFilterlisten(session_, welt_.meldungen);
+    saveFilterLists(session_, world_.boxes);
 }
 
-TEST_F(GespeicherteFilterTest, StarsAreAddedWhereAValueBeginsWithOne)
+TEST_F(SavedFilterTest, StarsAreAddedWhereAValueBeginsWithOne)
 {
-    for (const auto& [wert, danach] :
+    for (const auto& [value, afterwards] :
          {std::array{"*rot", "*rot*"}, std::array{"*rot ", "*rot*"}, std::array{"*rot*", "*rot*"},
           std::array{"rot*", "rot*"}, std::array{"rot", "rot"}, std::array{"*", "*"}}) {
-        leereFilter(kontext_.zustand());
+        clearFilter(context_.state());
         for (const char* name : {"Farbe", "Farbe"})
-            kontext_.zustand().FilterSchritte[static_cast<std::size_t>(kontext_.zustand().FilterAnzahl++)] = {
-                "", name, CodeText, wert};
-        schritt("Titel", wert);
-        ergaenzeSterne(kontext_);
-        for (const FilterRow& zeile : kontext_.FilterWerteTabelle())
-            EXPECT_EQ(zeile.Wert, danach);
+            context_.state().FilterSchritte[static_cast<std::size_t>(context_.state().FilterAnzahl++)] = {
+                "", name, CodeText, value};
+        step("Titel", value);
+        completeStars(context_);
+        for (const FilterRow& row : context_.FilterWerteTabelle())
+            EXPECT_EQ(row.value, afterwards);
     }
 }
 
-TEST_F(GespeicherteFilterTest, TheFavouritesMenuTakesTwentyFive)
+TEST_F(SavedFilterTest, TheFavouritesMenuTakesTwentyFive)
 {
-    EXPECT_EQ(favoritenliste(session_, 4).meldung->text,
-              "Es sind keine gespeicherten Filter für Schweißteile vorhanden!");
+    EXPECT_EQ(favouriteList(session_, 4).box->text, "Es sind keine gespeicherten Filter für Schweißteile vorhanden!");
     session_.labels.SondertabelleName[1] = "Normteile";
-    EXPECT_EQ(favoritenliste(session_, 6).meldung->text, "Es sind keine gespeicherten Filter für Normteile vorhanden!");
-    schritt("Projekt", "A1");
+    EXPECT_EQ(favouriteList(session_, 6).box->text, "Es sind keine gespeicherten Filter für Normteile vorhanden!");
+    step("Projekt", "A1");
     for (int i = 1; i <= 26; ++i) {
-        ASSERT_TRUE(speichereFilter(kontext_, std::to_string(i)));
-        const Filterfavoriten favoriten = favoritenliste(session_, 0);
-        EXPECT_EQ(favoriten.namen.size(), static_cast<std::size_t>(std::min(i, 25)));
-        EXPECT_EQ(favoriten.meldung.has_value(), i > 25);
+        ASSERT_TRUE(saveFilter(context_, std::to_string(i)));
+        const FilterFavourites favourites = favouriteList(session_, 0);
+        EXPECT_EQ(favourites.names.size(), static_cast<std::size_t>(std::min(i, 25)));
+        EXPECT_EQ(favourites.box.has_value(), i > 25);
     }
-    EXPECT_EQ(favoritenliste(session_, 0).meldung->text, "Das Formular ist auf max. 25 Filter ausgelegt!");
+    EXPECT_EQ(favouriteList(session_, 0).box->text, "Das Formular ist auf max. 25 Filter ausgelegt!");
 }
 
 } // namespace

@@ -10,59 +10,59 @@ namespace {
 
 using testing::ElementsAre;
 
-class BenutzDefTest : public FilterTest
+class UserDefinedTest : public FilterTest
 {
 protected:
-    void eigenschaft(const std::string& DokuBez, const std::string& Name, const Value& Wert, const Werte& weitere = {})
+    void property(const std::string& DokuBez, const std::string& Name, const Value& value, const Values& further = {})
     {
-        std::vector<sql::Zuweisung> werte{
-            {"DokuBez", DokuBez}, {"RevBez", "0"}, {"Name", Name}, {"Wert", Wert}, {"Status", 3}};
-        for (const auto& [spalte, wert] : weitere) {
-            std::erase_if(werte, [&](const auto& alter) { return alter.spalte == spalte; });
-            werte.push_back({spalte, wert});
+        std::vector<sql::Assignment> values{
+            {"DokuBez", DokuBez}, {"RevBez", "0"}, {"Name", Name}, {"Wert", value}, {"Status", 3}};
+        for (const auto& [column, value] : further) {
+            std::erase_if(values, [&](const auto& alter) { return alter.column == column; });
+            values.push_back({column, value});
         }
-        engine_->fuegeEin(DOKUTYPEN[static_cast<std::size_t>(kontext_.tab)].tabelleBenutzDef, werte);
+        engine_->insert(DOCUMENT_TYPES[static_cast<std::size_t>(context_.tab)].tableUserDef, values);
     }
-    void eigenschaft(const std::string& DokuBez, const std::string& Name, const char* Wert, const Werte& weitere = {})
+    void property(const std::string& DokuBez, const std::string& Name, const char* value, const Values& further = {})
     {
-        eigenschaft(DokuBez, Name, Value(std::string(Wert)), weitere);
+        property(DokuBez, Name, Value(std::string(value)), further);
     }
 
-    using Paare = std::vector<std::pair<std::string, std::string>>;
-    void setze(const Paare& paare)
+    using Pairs = std::vector<std::pair<std::string, std::string>>;
+    void set(const Pairs& pairs)
     {
-        leereFilter(kontext_.zustand());
-        for (const auto& [name, wert] : paare)
-            kontext_.zustand().FilterSchritte[static_cast<std::size_t>(kontext_.zustand().FilterAnzahl++)] = {
-                "", name, CodeText, wert};
+        clearFilter(context_.state());
+        for (const auto& [name, value] : pairs)
+            context_.state().FilterSchritte[static_cast<std::size_t>(context_.state().FilterAnzahl++)] = {
+                "", name, CodeText, value};
     }
     // The documents found, in their order.
-    std::string findet(const Paare& paare)
+    std::string finds(const Pairs& pairs)
     {
-        setze(paare);
-        return laeuft();
+        set(pairs);
+        return runs();
     }
-    std::string laeuft()
+    std::string runs()
     {
-        kontext_.zustand().bereich = Filterbereich::BenutzDef;
-        FilterEigenMerkBenutzDef(kontext_);
-        EXPECT_EQ(kontext_.table().state(), TableState::FilterResult);
-        return gezeigt();
+        context_.state().section = FilterSection::UserDefined;
+        FilterEigenMerkBenutzDef(context_);
+        EXPECT_EQ(context_.table().state(), TableState::FilterResult);
+        return shown();
     }
 };
 
-TEST_F(BenutzDefTest, AValueMeetsItsPattern)
+TEST_F(UserDefinedTest, AValueMeetsItsPattern)
 {
-    const std::string langer = "W:\\Ablage\\Notizen\\2026\\Notiz_77.txt";
-    ASSERT_GE(langer.size(), 32u);
-    const std::string genau32 = "W:\\123456789\\1234567890\\1234.txt";
-    ASSERT_EQ(genau32.size(), 32u);
+    const std::string longName = "W:\\Ablage\\Notizen\\2026\\Notiz_77.txt";
+    ASSERT_GE(longName.size(), 32u);
+    const std::string exactly32 = "W:\\123456789\\1234567890\\1234.txt";
+    ASSERT_EQ(exactly32.size(), 32u);
     struct
     {
-        Value wert;
-        const char* muster;
-        bool passt;
-    } const faelle[]{
+        Value value;
+        const char* pattern;
+        bool fits;
+    } const cases[]{
         {std::string("Rot matt"), "Rot matt", true},
         {std::string("Rot matt"), "rOT MATT", true},
         {std::string("Rot matt"), "Rot", false},
@@ -81,232 +81,232 @@ TEST_F(BenutzDefTest, AValueMeetsItsPattern)
         {std::string(""), "*", true},
         {Value{}, "*", true},
         {Value{}, "x*", false},
-        {langer, "*Notiz_77.txt", true},
-        {langer, "*notiz_77.TXT", true},
-        {langer, "*Notiz_7.txt", false},
-        {langer, "Notiz_77.txt", false},
-        {langer, "W:\\Abl*", true},
-        {langer, "*VersandM1.txt", true}, // Any path of that name will do.
+        {longName, "*Notiz_77.txt", true},
+        {longName, "*notiz_77.TXT", true},
+        {longName, "*Notiz_7.txt", false},
+        {longName, "Notiz_77.txt", false},
+        {longName, "W:\\Abl*", true},
+        {longName, "*VersandM1.txt", true}, // Any path of that name will do.
         {std::string("VersandM2.txt"), "*VersandM1.txt", false},
-        {genau32, "*1234.txt", true},
-        {genau32.substr(0, 26) + "4.txt", "*4.txt", false}, // 31 characters
+        {exactly32, "*1234.txt", true},
+        {exactly32.substr(0, 26) + "4.txt", "*4.txt", false}, // 31 characters
     };
-    dokument("A");
-    for (const auto& fall : faelle) {
-        engine_->fuehreAus(sql::Delete{"PartTabelleBenutzDef", nullptr});
-        eigenschaft("A", "Merkmal", fall.wert);
-        EXPECT_EQ(findet({{"merkMAL", fall.muster}}), fall.passt ? "A" : "")
-            << alsText(fall.wert) << " / " << fall.muster;
+    addDocument("A");
+    for (const auto& testCase : cases) {
+        engine_->execute(sql::Delete{"PartTabelleBenutzDef", nullptr});
+        property("A", "Merkmal", testCase.value);
+        EXPECT_EQ(finds({{"merkMAL", testCase.pattern}}), testCase.fits ? "A" : "")
+            << asText(testCase.value) << " / " << testCase.pattern;
     }
 }
 
-TEST_F(BenutzDefTest, ADocumentQualifiesByTheNumberOfItsRowsWithAHit)
+TEST_F(UserDefinedTest, ADocumentQualifiesByTheNumberOfItsRowsWithAHit)
 {
     for (const char* name : {"B", "A", "C", "D", "E"})
-        dokument(name);
-    eigenschaft("A", "Farbe", "rot");
-    eigenschaft("A", "Form", "rund");
-    eigenschaft("B", "Form", "rund");
-    eigenschaft("B ", "farbe", "ROT"); // The same document and property to the register.
-    eigenschaft("C", "Farbe", "rot");
-    eigenschaft("C", "Form", "eckig");
-    eigenschaft("D", "Farbe", "rot"); // Two rows of one property count as two.
-    eigenschaft("D", "Farbe", "rot");
-    eigenschaft("E", "Farbe", "rot");
-    eigenschaft("Fehlt", "Farbe", "rot"); // No document.
-    EXPECT_EQ(findet({{"Farbe", "rot"}, {"Form", "rund"}}), "A B D");
-    EXPECT_EQ(findet({{"Farbe", "rot"}}), "A B C D E");
-    EXPECT_EQ(findet({{"Farbe", "rot"}, {"Farbe", "r*"}}), "D"); // A row counts once.
-    EXPECT_EQ(findet({{"Farbe", "blau"}}), "");
-    EXPECT_EQ(findet({{"", ""}, {"Farbe", "rot"}}), ""); // An empty first step is an empty filter.
+        addDocument(name);
+    property("A", "Farbe", "rot");
+    property("A", "Form", "rund");
+    property("B", "Form", "rund");
+    property("B ", "farbe", "ROT"); // The same document and property to the register.
+    property("C", "Farbe", "rot");
+    property("C", "Form", "eckig");
+    property("D", "Farbe", "rot"); // Two rows of one property count as two.
+    property("D", "Farbe", "rot");
+    property("E", "Farbe", "rot");
+    property("Fehlt", "Farbe", "rot"); // No document.
+    EXPECT_EQ(finds({{"Farbe", "rot"}, {"Form", "rund"}}), "A B D");
+    EXPECT_EQ(finds({{"Farbe", "rot"}}), "A B C D E");
+    EXPECT_EQ(finds({{"Farbe", "rot"}, {"Farbe", "r*"}}), "D"); // A row counts once.
+    EXPECT_EQ(finds({{"Farbe", "blau"}}), "");
+    EXPECT_EQ(finds({{"", ""}, {"Farbe", "rot"}}), ""); // An empty first step is an empty filter.
 }
 
-TEST_F(BenutzDefTest, AdditionalValuesLeaveRowsOut)
+TEST_F(UserDefinedTest, AdditionalValuesLeaveRowsOut)
 {
-    dokument("A");
-    dokument("B");
-    eigenschaft("A", "Farbe", "rot", {{"Autor", "MEIER"}, {"Material", Value{}}});
-    eigenschaft("B", "Farbe", "rot", {{"Autor", "Huber"}, {"Material", "C45"}});
-    setze({{"Farbe", "rot"}});
-    EXPECT_EQ(laeuft(), "A B");
-    kontext_.zustand().ZusBenutzDef = {{0, "Meier", ""}};
-    EXPECT_EQ(laeuft(), "A");
-    kontext_.zustand().ZusBenutzDef = {{2, "C45", ""}};
-    EXPECT_EQ(laeuft(), "B");
-    kontext_.zustand().ZusBenutzDef = {{2, "C45", ""}, {0, "Meier", ""}};
-    EXPECT_EQ(laeuft(), "");
+    addDocument("A");
+    addDocument("B");
+    property("A", "Farbe", "rot", {{"Autor", "MEIER"}, {"Material", Value{}}});
+    property("B", "Farbe", "rot", {{"Autor", "Huber"}, {"Material", "C45"}});
+    set({{"Farbe", "rot"}});
+    EXPECT_EQ(runs(), "A B");
+    context_.state().ZusBenutzDef = {{0, "Meier", ""}};
+    EXPECT_EQ(runs(), "A");
+    context_.state().ZusBenutzDef = {{2, "C45", ""}};
+    EXPECT_EQ(runs(), "B");
+    context_.state().ZusBenutzDef = {{2, "C45", ""}, {0, "Meier", ""}};
+    EXPECT_EQ(runs(), "");
 }
 
-TEST_F(BenutzDefTest, TheResultIsInOrderAndHoldsTheDocumentsColumns)
+TEST_F(UserDefinedTest, TheResultIsInOrderAndHoldsTheDocumentsColumns)
 {
     // Few documents are looked up one by one, many in one pass; small results are read whole.
-    for (const int anzahl : {3, 2500}) {
-        const std::string art = std::to_string(anzahl);
-        engine_->beginne();
-        for (int i = anzahl; i > 0; --i)
+    for (const int count : {3, 2500}) {
+        const std::string kind = std::to_string(count);
+        engine_->begin();
+        for (int i = count; i > 0; --i)
             for (const char* rev : {"1", "0"}) {
-                const std::string name = "D" + art + "-" + std::to_string(10000 + i);
-                zeile("PartTabelle",
-                      {{"DokuBez", name}, {"RevBez", rev}, {"Titel", name + rev}, {"Hauptwert_c", 0.5 * i}});
-                eigenschaft(name, "Art", art.c_str(), {{"RevBez", rev}});
+                const std::string name = "D" + kind + "-" + std::to_string(10000 + i);
+                row("PartTabelle",
+                    {{"DokuBez", name}, {"RevBez", rev}, {"Titel", name + rev}, {"Hauptwert_c", 0.5 * i}});
+                property(name, "Art", kind.c_str(), {{"RevBez", rev}});
             }
-        engine_->schliesseAb();
-        findet({{"Art", art}});
-        const Recordset& zeilen = kontext_.table().visible();
-        ASSERT_EQ(zeilen.RecordCount(), static_cast<std::size_t>(2 * anzahl));
-        for (int i = 0; i < 2 * anzahl; ++i) {
-            const auto stelle = static_cast<std::size_t>(i);
-            const std::string titel = "D" + art + "-" + std::to_string(10001 + i / 2) + (i % 2 ? "1" : "0");
-            ASSERT_EQ(alsText(zeilen.Zelle(stelle, "Titel")), titel);
-            ASSERT_EQ(alsZahl(zeilen.Zelle(stelle, "Hauptwert_c")), 0.5 * (i / 2 + 1));
+        engine_->commit();
+        finds({{"Art", kind}});
+        const Recordset& rows = context_.table().visible();
+        ASSERT_EQ(rows.RecordCount(), static_cast<std::size_t>(2 * count));
+        for (int i = 0; i < 2 * count; ++i) {
+            const auto position = static_cast<std::size_t>(i);
+            const std::string title = "D" + kind + "-" + std::to_string(10001 + i / 2) + (i % 2 ? "1" : "0");
+            ASSERT_EQ(asText(rows.cell(position, "Titel")), title);
+            ASSERT_EQ(asNumber(rows.cell(position, "Hauptwert_c")), 0.5 * (i / 2 + 1));
         }
-        kontext_.table().visible().Filter("Titel Like '*-100020'");
-        EXPECT_EQ(zeilen.RecordCount(), 1u);
+        context_.table().visible().Filter("Titel Like '*-100020'");
+        EXPECT_EQ(rows.RecordCount(), 1u);
     }
 }
 
-TEST_F(BenutzDefTest, NobodySeesMoreThanHisStatuses)
+TEST_F(UserDefinedTest, NobodySeesMoreThanHisStatuses)
 {
     for (const char* name : {"A", "B", "C"})
-        eigenschaft(name, "Farbe", "rot", {{"Status", std::int64_t{name[0] == 'C' ? 5 : 3}}});
-    dokument("A");
-    dokument("B", {{"Status", 5}}); // Its properties lag behind.
-    dokument("C");
-    siehtStati("34");
-    EXPECT_EQ(findet({{"Farbe", "rot"}}), "A");
+        property(name, "Farbe", "rot", {{"Status", std::int64_t{name[0] == 'C' ? 5 : 3}}});
+    addDocument("A");
+    addDocument("B", {{"Status", 5}}); // Its properties lag behind.
+    addDocument("C");
+    seesStatuses("34");
+    EXPECT_EQ(finds({{"Farbe", "rot"}}), "A");
 }
 
-TEST_F(BenutzDefTest, ASpecialTablesDocumentsAreLookedUpAmongThePartsFirst)
+TEST_F(UserDefinedTest, ASpecialTablesDocumentsAreLookedUpAmongThePartsFirst)
 {
-    dokument("P", {{"Titel", "Bauteil"}});
-    dokument("Q", {{"Titel", "Bauteil"}});
-    kontext_.tab = 6;
-    dokument("Q", {{"Titel", "Sonderteil"}});
-    dokument("R", {{"Titel", "Sonderteil"}});
+    addDocument("P", {{"Titel", "Bauteil"}});
+    addDocument("Q", {{"Titel", "Bauteil"}});
+    context_.tab = 6;
+    addDocument("Q", {{"Titel", "Sonderteil"}});
+    addDocument("R", {{"Titel", "Sonderteil"}});
     struct
     {
-        std::vector<const char*> dokumente;
-        const char* titel;
-    } const faelle[]{{{"P", "Q"}, "Bauteil Bauteil "}, {{"R"}, "Sonderteil "}, {{"R", "Q"}, "Bauteil Sonderteil "}};
-    for (const auto& fall : faelle) {
-        engine_->fuehreAus(sql::Delete{"STbl2TabelleBenutzDef", nullptr});
-        for (const char* name : fall.dokumente)
-            eigenschaft(name, "Farbe", "rot");
-        findet({{"Farbe", "rot"}});
-        const Recordset& zeilen = kontext_.table().visible();
-        std::string titel;
-        for (std::size_t i = 0; i < zeilen.RecordCount(); ++i)
-            titel += alsText(zeilen.Zelle(i, "Titel")) + " ";
-        EXPECT_EQ(titel, fall.titel);
+        std::vector<const char*> documents;
+        const char* title;
+    } const cases[]{{{"P", "Q"}, "Bauteil Bauteil "}, {{"R"}, "Sonderteil "}, {{"R", "Q"}, "Bauteil Sonderteil "}};
+    for (const auto& testCase : cases) {
+        engine_->execute(sql::Delete{"STbl2TabelleBenutzDef", nullptr});
+        for (const char* name : testCase.documents)
+            property(name, "Farbe", "rot");
+        finds({{"Farbe", "rot"}});
+        const Recordset& rows = context_.table().visible();
+        std::string title;
+        for (std::size_t i = 0; i < rows.RecordCount(); ++i)
+            title += asText(rows.cell(i, "Titel")) + " ";
+        EXPECT_EQ(title, testCase.title);
     }
 }
 
-TEST_F(BenutzDefTest, WhoGivesUpKeepsTheTableAsItWas)
+TEST_F(UserDefinedTest, WhoGivesUpKeepsTheTableAsItWas)
 {
-    dokument("A");
-    engine_->beginne();
+    addDocument("A");
+    engine_->begin();
     for (int i = 0; i < 9000; ++i)
-        eigenschaft("A", "Farbe", "rot");
-    engine_->schliesseAb();
-    ASSERT_EQ(findet({{"Farbe", "rot"}}), "A");
-    dokument("B");
-    eigenschaft("B", "Farbe", "rot");
-    welt_.fortschritt.geduld = false;
-    EXPECT_FALSE(ApplyBenutzDefFilter(kontext_));
-    EXPECT_EQ(gezeigt(), "A");
+        property("A", "Farbe", "rot");
+    engine_->commit();
+    ASSERT_EQ(finds({{"Farbe", "rot"}}), "A");
+    addDocument("B");
+    property("B", "Farbe", "rot");
+    world_.progress.patience = false;
+    EXPECT_FALSE(ApplyBenutzDefFilter(context_));
+    EXPECT_EQ(shown(), "A");
 }
 
-TEST_F(BenutzDefTest, AFaultWhileRowsAreCopiedHasItsBox)
+TEST_F(UserDefinedTest, AFaultWhileRowsAreCopiedHasItsBox)
 {
-    dokument("A");
-    tabelle();
-    eigenschaft("A", "Farbe", "rot");
-    engine_->entferneTabelle("PartTabelle");
-    welt_.meldungen.erwarte("SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
-                            "Fehler beim Erstellen der Filtertabelle BenutzDef");
-    welt_.meldungen.antworte(Antwort::Abbrechen);
-    setze({{"Farbe", "rot"}});
-    EXPECT_THROW(ApplyBenutzDefFilter(kontext_), ProgrammEnde);
+    addDocument("A");
+    table();
+    property("A", "Farbe", "rot");
+    engine_->removeTable("PartTabelle");
+    world_.boxes.expect("SE-ModFiltern: Erstellen der Filtertabelle BenutzDef",
+                        "Fehler beim Erstellen der Filtertabelle BenutzDef");
+    world_.boxes.answer(Answer::Cancel);
+    set({{"Farbe", "rot"}});
+    EXPECT_THROW(ApplyBenutzDefFilter(context_), ProgramExit);
 }
 
-class BenutzDefBereichTest : public BenutzDefTest
+class UserDefinedSectionTest : public UserDefinedTest
 {
 protected:
-    BenutzDefBereichTest()
+    UserDefinedSectionTest()
     {
         session_.labels.Bezeichnungen = {{"autor", "Verfasser"}, {"bearbeiter", "Änderer"}, {"material", "Stoff"}};
     }
-    BenutzDefBereich bereich_{kontext_};
+    UserDefinedSection section_{context_};
 };
 
-TEST_F(BenutzDefBereichTest, ListsShowWhatOccurs)
+TEST_F(UserDefinedSectionTest, ListsShowWhatOccurs)
 {
-    const std::string pfad = "W:\\Ablage\\Notizen\\2026\\Notiz_77.txt";
-    eigenschaft("A", "Farbe", "rot", {{"Autor", "Meier"}, {"Projekt", " "}});
-    eigenschaft("A", "farbe", "Blau", {{"Autor", "meier"}});
-    eigenschaft("A", "Farbe", "ROT", {{"Autor", "Äbtle"}});
-    eigenschaft("A", "Farbe", " ");
-    eigenschaft("B", "Notiz", Value(pfad));
-    eigenschaft("B", "Geheim", "x", {{"Status", 5}});
-    siehtStati("01234");
-    bereich_.fuelleListen();
-    EXPECT_THAT(bereich_.namen().werte, ElementsAre("Farbe", "Notiz"));
-    EXPECT_EQ(bereich_.namen().anzahl, "2");
-    EXPECT_THAT(bereich_.zusatz(0).werte, ElementsAre("Äbtle", "Meier"));
-    EXPECT_THAT(bereich_.zusatz(3).werte, ElementsAre());
-    bereich_.nameGewaehlt("FARBE");
-    EXPECT_THAT(bereich_.werte().werte, ElementsAre("*", "Blau", "ROT"));
-    bereich_.nameGewaehlt("Notiz");
-    EXPECT_THAT(bereich_.werte().werte, ElementsAre("*", "*Notiz_77.txt"));
+    const std::string documentPath = "W:\\Ablage\\Notizen\\2026\\Notiz_77.txt";
+    property("A", "Farbe", "rot", {{"Autor", "Meier"}, {"Projekt", " "}});
+    property("A", "farbe", "Blau", {{"Autor", "meier"}});
+    property("A", "Farbe", "ROT", {{"Autor", "Äbtle"}});
+    property("A", "Farbe", " ");
+    property("B", "Notiz", Value(documentPath));
+    property("B", "Geheim", "x", {{"Status", 5}});
+    seesStatuses("01234");
+    section_.fillLists();
+    EXPECT_THAT(section_.names().values, ElementsAre("Farbe", "Notiz"));
+    EXPECT_EQ(section_.names().count, "2");
+    EXPECT_THAT(section_.addition(0).values, ElementsAre("Äbtle", "Meier"));
+    EXPECT_THAT(section_.addition(3).values, ElementsAre());
+    section_.nameChosen("FARBE");
+    EXPECT_THAT(section_.values().values, ElementsAre("*", "Blau", "ROT"));
+    section_.nameChosen("Notiz");
+    EXPECT_THAT(section_.values().values, ElementsAre("*", "*Notiz_77.txt"));
 }
 
-TEST_F(BenutzDefBereichTest, ReceiversStandInPlaceOfTheirCodesAndFilterByThem)
+TEST_F(UserDefinedSectionTest, ReceiversStandInPlaceOfTheirCodesAndFilterByThem)
 {
-    dokument("A");
-    eigenschaft("A", "Kunde", "K1");
-    eigenschaft("A", "Kunde", "K2");
-    eigenschaft("A", "Kunde", "Nirgends");
-    for (const auto& [kennung, name, wert] :
+    addDocument("A");
+    property("A", "Kunde", "K1");
+    property("A", "Kunde", "K2");
+    property("A", "Kunde", "Nirgends");
+    for (const auto& [addressCode, name, value] :
          {std::array{"K1", "Ort", "Ulm"}, std::array{"K1", "Firma", "Alt AG"}, std::array{"K2", "Ort", "Köln"}})
-        zeile("Adresstabelle", {{"Kennung", kennung}, {"Name", name}, {"Wert", wert}});
-    bereich_.nameGewaehlt("Kunde");
-    bereich_.setzeEmpfaenger(true);
-    EXPECT_THAT(bereich_.werte().werte, ElementsAre("*", "Alt AG", "K2"));
-    bereich_.wertGewaehlt("Alt AG");
-    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (FilterRow{"BenutzDef", "Kunde", "K1"}));
-    EXPECT_EQ(laeuft(), "A");
+        row("Adresstabelle", {{"Kennung", addressCode}, {"Name", name}, {"Wert", value}});
+    section_.nameChosen("Kunde");
+    section_.setReceiver(true);
+    EXPECT_THAT(section_.values().values, ElementsAre("*", "Alt AG", "K2"));
+    section_.valueChosen("Alt AG");
+    EXPECT_EQ(context_.FilterWerteTabelle().back(), (FilterRow{"BenutzDef", "Kunde", "K1"}));
+    EXPECT_EQ(runs(), "A");
 }
 
-TEST_F(BenutzDefBereichTest, FivePairsAndTwoAdditionalValuesAreTaken)
+TEST_F(UserDefinedSectionTest, FivePairsAndTwoAdditionalValuesAreTaken)
 {
-    welt_.meldungen.erwarte("SE-Filtern: Angaben", "Angaben sind unvollständig!");
-    bereich_.wertGewaehlt("rot");
+    world_.boxes.expect("SE-Filtern: Angaben", "Angaben sind unvollständig!");
+    section_.valueChosen("rot");
     for (int i = 1; i <= 6; ++i) {
         if (i == 6)
-            welt_.meldungen.erwarte("SE-Filtern: Anzahl Filterwerte",
-                                    "Es können maximal 5 benutzerdefinierte Eigenschaften\n"
-                                    "als Filterwerte vorgegeben werden!\n\nFilterwert 6 und 7 kann aus\n"
-                                    "Verfasser / Änderer / Stoff\nausgewählt werden.");
-        bereich_.nameGewaehlt("Farbe");
-        bereich_.wertGewaehlt("rot" + std::to_string(i));
+            world_.boxes.expect("SE-Filtern: Anzahl Filterwerte",
+                                "Es können maximal 5 benutzerdefinierte Eigenschaften\n"
+                                "als Filterwerte vorgegeben werden!\n\nFilterwert 6 und 7 kann aus\n"
+                                "Verfasser / Änderer / Stoff\nausgewählt werden.");
+        section_.nameChosen("Farbe");
+        section_.valueChosen("rot" + std::to_string(i));
     }
-    EXPECT_EQ(kontext_.zustand().FilterAnzahl, 5);
-    EXPECT_EQ(kontext_.zustand().FilterSchritte[4], (FilterSchritt{"", "Farbe", CodeText, "rot5"}));
+    EXPECT_EQ(context_.state().FilterAnzahl, 5);
+    EXPECT_EQ(context_.state().FilterSchritte[4], (FilterStep{"", "Farbe", CodeText, "rot5"}));
 
-    welt_.meldungen.erwarte("SE-Filtern: Anzahl Filterwerte",
-                            "Von den Eigenschaften\nProjekt / Verfasser / Änderer / Stoff\n"
-                            "können maximal 2 Filterwerte ausgewählt werden.");
+    world_.boxes.expect("SE-Filtern: Anzahl Filterwerte",
+                        "Von den Eigenschaften\nProjekt / Verfasser / Änderer / Stoff\n"
+                        "können maximal 2 Filterwerte ausgewählt werden.");
     for (const int index : {3, 0, 2})
-        bereich_.zusatzGewaehlt(index, "x");
-    EXPECT_THAT(kontext_.zustand().ZusBenutzDef,
+        section_.additionChosen(index, "x");
+    EXPECT_THAT(context_.state().ZusBenutzDef,
                 ElementsAre(AdditionalValue{3, "x", "Projekt"}, AdditionalValue{0, "x", "Verfasser"}));
-    EXPECT_EQ(kontext_.FilterWerteTabelle().back(), (FilterRow{"ZusBenutzDefAutor", "Verfasser", "x"}));
+    EXPECT_EQ(context_.FilterWerteTabelle().back(), (FilterRow{"ZusBenutzDefAutor", "Verfasser", "x"}));
 
-    welt_.meldungen.erwarte("SE-Filter: Strukturmerkmale",
-                            "Nach Auswahl\nVerfasser / Änderer / Stoff\n\n"
-                            "ist die Auswahl der benutzerdefinierten Eigenschaften gesperrt!\n\n"
-                            "Die Auswahl ist wieder entsperrt, wenn\nalle Filterwerte zurückgesetzt werden.");
-    bereich_.wertGewaehlt("rot");
+    world_.boxes.expect("SE-Filter: Strukturmerkmale",
+                        "Nach Auswahl\nVerfasser / Änderer / Stoff\n\n"
+                        "ist die Auswahl der benutzerdefinierten Eigenschaften gesperrt!\n\n"
+                        "Die Auswahl ist wieder entsperrt, wenn\nalle Filterwerte zurückgesetzt werden.");
+    section_.valueChosen("rot");
 }
 
 } // namespace

@@ -9,20 +9,20 @@
 namespace quelvarn {
 
 // A file system with the empty drives C: and W:.
-struct DateienWelt
+struct FileWorld
 {
-    virtual ~DateienWelt() = default;
-    virtual Dateien& dateien() = 0;
+    virtual ~FileWorld() = default;
+    virtual Files& files() = 0;
 };
 
-using MacheDateienWelt = std::function<std::unique_ptr<DateienWelt>()>;
+using MakeFileWorld = std::function<std::unique_ptr<FileWorld>()>;
 
 // What every file system promises, whatever lies beneath it.
-class DateienRegeln : public testing::TestWithParam<MacheDateienWelt>
+class FileRules : public testing::TestWithParam<MakeFileWorld>
 {
 protected:
-    std::unique_ptr<DateienWelt> welt_ = GetParam()();
-    Dateien& dateien_ = welt_->dateien();
+    std::unique_ptr<FileWorld> world_ = GetParam()();
+    Files& files_ = world_->files();
 };
 
 } // namespace quelvarn

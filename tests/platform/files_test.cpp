@@ -6,93 +6,93 @@ using namespace quelvarn;
 
 namespace {
 
-struct ImSpeicher : DateienWelt
+struct InMemory : FileWorld
 {
-    FakeUhr uhr;
-    FakeDateien eigene{uhr};
-    Dateien& dateien() override { return eigene; }
+    FakeClock clock;
+    FakeFiles own{clock};
+    Files& files() override { return own; }
 };
 
-std::string namen(const std::vector<Ordnereintrag>& inhalt)
+std::string names(const std::vector<FolderEntry>& content)
 {
     std::string result;
-    for (const Ordnereintrag& eintrag : inhalt)
-        result += eintrag.ordner ? "[" + eintrag.name + "]" : "<" + eintrag.name + ">";
+    for (const FolderEntry& entry : content)
+        result += entry.folder ? "[" + entry.name + "]" : "<" + entry.name + ">";
     return result;
 }
 
 } // namespace
 
-TEST_P(DateienRegeln, PathsAreBlindToCase)
+TEST_P(FileRules, PathsAreBlindToCase)
 {
-    dateien_.ordnerAnlegen("W:\\Bögen");
-    dateien_.schreibe("W:\\Bögen\\Welle.PAR", "1");
-    EXPECT_TRUE(dateien_.dateiVorhanden("w:\\BÖGEN\\welle.par"));
-    EXPECT_TRUE(dateien_.ordnerVorhanden("w:/bögen/"));
-    EXPECT_TRUE(dateien_.ordnerVorhanden("W:"));
-    EXPECT_TRUE(dateien_.ordnerVorhanden("W:\\"));
-    EXPECT_FALSE(dateien_.dateiVorhanden("W:\\Bögen"));
-    EXPECT_FALSE(dateien_.ordnerVorhanden("W:\\Bögen\\Welle.PAR"));
-    EXPECT_FALSE(dateien_.ordnerVorhanden("Q:"));
-    EXPECT_FALSE(dateien_.dateiVorhanden(""));
+    files_.createFolder("W:\\Bögen");
+    files_.write("W:\\Bögen\\Welle.PAR", "1");
+    EXPECT_TRUE(files_.fileExists("w:\\BÖGEN\\welle.par"));
+    EXPECT_TRUE(files_.folderExists("w:/bögen/"));
+    EXPECT_TRUE(files_.folderExists("W:"));
+    EXPECT_TRUE(files_.folderExists("W:\\"));
+    EXPECT_FALSE(files_.fileExists("W:\\Bögen"));
+    EXPECT_FALSE(files_.folderExists("W:\\Bögen\\Welle.PAR"));
+    EXPECT_FALSE(files_.folderExists("Q:"));
+    EXPECT_FALSE(files_.fileExists(""));
 
-    dateien_.schreibe("W:\\BÖGEN\\WELLE.par", "zwei");
-    EXPECT_EQ(namen(dateien_.inhalt("w:\\bögen")), "<Welle.PAR>");
-    EXPECT_EQ(dateien_.lese("W:\\Bögen\\Welle.PAR"), "zwei");
+    files_.write("W:\\BÖGEN\\WELLE.par", "zwei");
+    EXPECT_EQ(names(files_.content("w:\\bögen")), "<Welle.PAR>");
+    EXPECT_EQ(files_.read("W:\\Bögen\\Welle.PAR"), "zwei");
 }
 
-TEST_P(DateienRegeln, ListsByName)
+TEST_P(FileRules, ListsByName)
 {
-    for (const char* ordner : {"C:\\b", "C:\\Ärger"})
-        dateien_.ordnerAnlegen(ordner);
-    for (const char* datei : {"C:\\c.txt", "C:\\Alt.txt", "C:\\b\\tief.txt"})
-        dateien_.schreibe(datei, "");
-    EXPECT_EQ(namen(dateien_.inhalt("C:\\")), "<Alt.txt>[Ärger][b]<c.txt>");
-    EXPECT_THROW(dateien_.inhalt("C:\\fehlt"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.inhalt("Q:\\"), Laufzeitfehler);
+    for (const char* folder : {"C:\\b", "C:\\Ärger"})
+        files_.createFolder(folder);
+    for (const char* file : {"C:\\c.txt", "C:\\Alt.txt", "C:\\b\\tief.txt"})
+        files_.write(file, "");
+    EXPECT_EQ(names(files_.content("C:\\")), "<Alt.txt>[Ärger][b]<c.txt>");
+    EXPECT_THROW(files_.content("C:\\fehlt"), RuntimeError);
+    EXPECT_THROW(files_.content("Q:\\"), RuntimeError);
 }
 
-TEST_P(DateienRegeln, WriteProtectionHoldsAgainstEveryChange)
+TEST_P(FileRules, WriteProtectionHoldsAgainstEveryChange)
 {
-    const std::string pfad = "W:\\x.par";
-    dateien_.schreibe(pfad, "alt");
-    dateien_.setzeSchreibschutz("w:\\X.PAR", true);
-    EXPECT_TRUE(dateien_.attribute(pfad)->schreibgeschuetzt);
-    EXPECT_THROW(dateien_.schreibe(pfad, "neu"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.kopiere(pfad, pfad), Laufzeitfehler);
-    EXPECT_THROW(dateien_.loesche(pfad), Laufzeitfehler);
-    EXPECT_EQ(dateien_.lese(pfad), "alt");
+    const std::string documentPath = "W:\\x.par";
+    files_.write(documentPath, "alt");
+    files_.setReadOnly("w:\\X.PAR", true);
+    EXPECT_TRUE(files_.attribute(documentPath)->readOnly);
+    EXPECT_THROW(files_.write(documentPath, "neu"), RuntimeError);
+    EXPECT_THROW(files_.copy(documentPath, documentPath), RuntimeError);
+    EXPECT_THROW(files_.remove(documentPath), RuntimeError);
+    EXPECT_EQ(files_.read(documentPath), "alt");
 
-    dateien_.setzeSchreibschutz(pfad, false);
-    EXPECT_FALSE(dateien_.attribute(pfad)->schreibgeschuetzt);
-    dateien_.schreibe(pfad, "neu");
-    EXPECT_EQ(dateien_.attribute(pfad)->groesse, 3);
-    dateien_.kopiere(pfad, "W:\\Kopie.par");
-    dateien_.loesche(pfad);
-    EXPECT_FALSE(dateien_.dateiVorhanden(pfad));
-    EXPECT_EQ(dateien_.lese("W:\\kopie.par"), "neu");
+    files_.setReadOnly(documentPath, false);
+    EXPECT_FALSE(files_.attribute(documentPath)->readOnly);
+    files_.write(documentPath, "neu");
+    EXPECT_EQ(files_.attribute(documentPath)->size, 3);
+    files_.copy(documentPath, "W:\\Kopie.par");
+    files_.remove(documentPath);
+    EXPECT_FALSE(files_.fileExists(documentPath));
+    EXPECT_EQ(files_.read("W:\\kopie.par"), "neu");
 }
 
-TEST_P(DateienRegeln, WhatCannotBeDoneIsAFault)
+TEST_P(FileRules, WhatCannotBeDoneIsAFault)
 {
-    dateien_.ordnerAnlegen("W:\\Ordner");
-    EXPECT_THROW(dateien_.lese("W:\\fehlt.par"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.loesche("W:\\fehlt.par"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.loesche("W:\\Ordner"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.schreibe("W:\\fehlt\\x.par", ""), Laufzeitfehler);
-    EXPECT_THROW(dateien_.schreibe("W:\\Ordner", ""), Laufzeitfehler);
-    EXPECT_THROW(dateien_.schreibe("Q:\\x.par", ""), Laufzeitfehler);
-    EXPECT_THROW(dateien_.kopiere("W:\\fehlt.par", "W:\\x.par"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.ordnerAnlegen("W:\\ORDNER"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.ordnerAnlegen("W:\\fehlt\\tiefer"), Laufzeitfehler);
-    EXPECT_THROW(dateien_.setzeSchreibschutz("W:\\fehlt.par", true), Laufzeitfehler);
-    EXPECT_FALSE(dateien_.attribute("W:\\fehlt.par"));
+    files_.createFolder("W:\\Ordner");
+    EXPECT_THROW(files_.read("W:\\fehlt.par"), RuntimeError);
+    EXPECT_THROW(files_.remove("W:\\fehlt.par"), RuntimeError);
+    EXPECT_THROW(files_.remove("W:\\Ordner"), RuntimeError);
+    EXPECT_THROW(files_.write("W:\\fehlt\\x.par", ""), RuntimeError);
+    EXPECT_THROW(files_.write("W:\\Ordner", ""), RuntimeError);
+    EXPECT_THROW(files_.write("Q:\\x.par", ""), RuntimeError);
+    EXPECT_THROW(files_.copy("W:\\fehlt.par", "W:\\x.par"), RuntimeError);
+    EXPECT_THROW(files_.createFolder("W:\\ORDNER"), RuntimeError);
+    EXPECT_THROW(files_.createFolder("W:\\fehlt\\tiefer"), RuntimeError);
+    EXPECT_THROW(files_.setReadOnly("W:\\fehlt.par", true), RuntimeError);
+    EXPECT_FALSE(files_.attribute("W:\\fehlt.par"));
     try {
-        dateien_.lese("W:\\fehlt.par");
-    } catch (const Laufzeitfehler& fehler) {
-        EXPECT_EQ(fehler.nummer(), 53);
-        EXPECT_EQ(fehler.beschreibung(), "Datei oder Ordner nicht gefunden: W:\\fehlt.par");
+        files_.read("W:\\fehlt.par");
+    } catch (const RuntimeError& fault) {
+        EXPECT_EQ(fault.number(), 53);
+        EXPECT_EQ(fault.description(), "Datei oder Ordner nicht gefunden: W:\\fehlt.par");
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(ImSpeicher, DateienRegeln, testing::Values([] { return std::make_unique<ImSpeicher>(); }));
+INSTANTIATE_TEST_SUITE_P(InMemory, FileRules, testing::Values([] { return std::make_unique<InMemory>(); }));

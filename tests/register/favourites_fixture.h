@@ -13,10 +13,10 @@ protected:
     std::string grid() const
     {
         std::string text;
-        const Recordset* rows = favourites_.liste();
+        const Recordset* rows = favourites_.list();
         for (std::size_t i = 0; rows && i < rows->RecordCount(); ++i) {
             for (const char* field : {"DokuBezFavoriten", "RevBezFavoriten", "DateinameFavoriten", "filenameFavoriten"})
-                text += alsText(rows->Zelle(i, field)) + "|";
+                text += asText(rows->cell(i, field)) + "|";
             text += "\n";
         }
         return text;
@@ -26,7 +26,7 @@ protected:
     {
         Recordset rows;
         rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Favoriten' ORDER BY Feld1, Feld3, Feld4, Feld5",
-                  session_.database.Verbindung);
+                  session_.database.connection);
         std::string text;
         for (; !rows.Eof(); rows.MoveNext())
             text += rows.Text("Feld1") + "|" + rows.Text("Feld3") + "|" + rows.Text("Feld4") + "|" +
@@ -35,10 +35,10 @@ protected:
     }
     void store(const char* user, const char* type, const std::string& DokuBez, const Value& RevBez)
     {
-        zeile("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
+        row("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
     }
 
-    Favoriten& favourites_ = program_.topBar.favoriten();
+    Favourites& favourites_ = program_.topBar.favourites();
 };
 
 } // namespace quelvarn

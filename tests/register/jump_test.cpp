@@ -13,90 +13,91 @@ protected:
     {
         for (const int tab : {0, 2, 3, 6})
             for (const char* name : {"A", "B", "C"})
-                dokument(tab, name);
+                addDocument(tab, name);
         tabs_.chooseTab(0);
     }
 
-    bool springe(int tab, const std::string& datei)
+    bool jump(int tab, const std::string& file)
     {
-        const DokuTyp& typ = DOKUTYPEN[static_cast<std::size_t>(tab)];
-        return tab == 3 ? sprung_.ZeichnungZeigen(pfad(datei)) : sprung_.ZuDokumentWechseln(typ, pfad(datei));
+        const DocumentType& type = DOCUMENT_TYPES[static_cast<std::size_t>(tab)];
+        return tab == 3 ? sprung_.ZeichnungZeigen(documentPath(file))
+                        : sprung_.ZuDokumentWechseln(type, documentPath(file));
     }
-    static std::string dateiVon(int tab, const std::string& name)
+    static std::string fileOf(int tab, const std::string& name)
     {
         return name + (tab == 2 ? "_0.asm" : tab == 3 ? "_0.dft" : "_0.par");
     }
-    void fragtNeuaufbau(int tab, Antwort antwort)
+    void asksRebuild(int tab, Answer answer)
     {
-        welt_.meldungen.erwarte("Neuaufbau der Tabelle durchführen?",
-                                std::string(tab == 3 ? "Die Zeichnung" : "Das Modell") +
-                                    " ist in der Tabelle nicht vorhanden!\nSoll ein 'Neuaufbau' durchgeführt werden?",
-                                antwort);
+        world_.boxes.expect("Neuaufbau der Tabelle durchführen?",
+                            std::string(tab == 3 ? "Die Zeichnung" : "Das Modell") +
+                                " ist in der Tabelle nicht vorhanden!\nSoll ein 'Neuaufbau' durchgeführt werden?",
+                            answer);
     }
-    std::string ort() { return std::to_string(tables_.tab()) + session_.AktDoku.DokuBez; }
+    std::string place() { return std::to_string(tables_.tab()) + session_.AktDoku.DokuBez; }
 
-    Dokumentsprung& sprung_ = program_.jump;
+    DocumentJump& sprung_ = program_.jump;
 };
 
 TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
 {
     for (const int tab : {2, 3, 6, 0}) {
-        EXPECT_TRUE(springe(tab, dateiVon(tab, "B"))) << tab;
-        EXPECT_EQ(ort(), std::to_string(tab) + "B");
+        EXPECT_TRUE(jump(tab, fileOf(tab, "B"))) << tab;
+        EXPECT_EQ(place(), std::to_string(tab) + "B");
     }
-    dokument(0, "A1", "0");
-    session_.database.Verbindung.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
+    addDocument(0, "A1", "0");
+    session_.database.connection.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
     tabs_.rebuild();
-    EXPECT_TRUE(springe(0, "B_0.par")); // Not the longer path in the row before.
-    EXPECT_EQ(ort(), "0B");
+    EXPECT_TRUE(jump(0, "B_0.par")); // Not the longer path in the row before.
+    EXPECT_EQ(place(), "0B");
 }
 
 TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
 {
-    Connection& database = session_.database.Verbindung;
+    Connection& database = session_.database.connection;
     database.Execute(
         "UPDATE PartTabelle SET filename = '\\\\server\\konstruktion\\Teile\\B_0.par' WHERE DokuBez = 'B'");
     tabs_.rebuild();
-    EXPECT_TRUE(springe(0, "B_0.par")); // Stored by the share that W: stands for.
-    EXPECT_EQ(ort(), "0B");
-    EXPECT_TRUE(sprung_.ZuDokumentWechseln(DOKUTYPEN[2], "\\\\server\\konstruktion\\Teile\\C_0.asm"));
-    EXPECT_EQ(ort(), "2C"); // Stored by the letter.
+    EXPECT_TRUE(jump(0, "B_0.par")); // Stored by the share that W: stands for.
+    EXPECT_EQ(place(), "0B");
+    EXPECT_TRUE(sprung_.ZuDokumentWechseln(DOCUMENT_TYPES[2], "\\\\server\\konstruktion\\Teile\\C_0.asm"));
+    EXPECT_EQ(place(), "2C"); // Stored by the letter.
 
     database.Execute("UPDATE DraftTabelle SET DokuBez = Null, RevBez = Null WHERE DokuBez = 'B'");
     tabs_.chooseTab(3);
     tabs_.rebuild();
     tabs_.chooseRow(2);
     tabs_.chooseTab(0);
-    EXPECT_TRUE(springe(3, "B_0.dft"));
-    EXPECT_EQ(session_.AktDoku.filename, pfad("B_0.dft"));
+    EXPECT_TRUE(jump(3, "B_0.dft"));
+    EXPECT_EQ(session_.AktDoku.filename, documentPath("B_0.dft"));
 
-    zeile("PartTabelle", {{"DokuBez", "A9"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 0}});
-    zeile("PartTabelle", {{"DokuBez", "D"}, {"RevBez", "0"}, {"filename", pfad("twice.par")}, {"Status", 3}});
-    siehtStati("3");
+    row("PartTabelle", {{"DokuBez", "A9"}, {"RevBez", "0"}, {"filename", documentPath("twice.par")}, {"Status", 0}});
+    row("PartTabelle", {{"DokuBez", "D"}, {"RevBez", "0"}, {"filename", documentPath("twice.par")}, {"Status", 3}});
+    seesStatuses("3");
     tabs_.chooseTab(0);
     tabs_.rebuild();
-    EXPECT_TRUE(springe(0, "twice.par")); // The one that may be seen.
-    EXPECT_EQ(ort(), "0D");
+    EXPECT_TRUE(jump(0, "twice.par")); // The one that may be seen.
+    EXPECT_EQ(place(), "0D");
 }
 
 TEST_F(JumpTest, AFilterIsKeptOrLiftedAsAnswered)
 {
     for (const int tab : {2, 3, 6}) {
-        filtere(tab, "DokuBez = 'B'");
-        erwarteFilterfrage(tab, Antwort::Nein);
-        EXPECT_TRUE(springe(tab, dateiVon(tab, "B")));
+        filter(tab, "DokuBez = 'B'");
+        expectFilterQuestion(tab, Answer::No);
+        EXPECT_TRUE(jump(tab, fileOf(tab, "B")));
         EXPECT_EQ(tables_.current().state(), TableState::Filtered);
 
         tabs_.chooseTab(0);
-        erwarteFilterfrage(tab, Antwort::Nein); // Kept, and it hides the document.
-        fragtNeuaufbau(tab, Antwort::Nein);
-        EXPECT_FALSE(springe(tab, dateiVon(tab, "C")));
-        EXPECT_EQ(ort(), std::to_string(tab) + "B") << "the place in the table is kept";
+        expectFilterQuestion(tab, Answer::No); // Kept, and it hides the document.
+        asksRebuild(tab, Answer::No);
+        EXPECT_FALSE(jump(tab, fileOf(tab, "C")));
+        EXPECT_EQ(place(), std::to_string(tab) + "B") << "the place in the table is kept";
 
-        erwarteFilterfrage(tab, Antwort::Ja);
-        EXPECT_TRUE(springe(tab, dateiVon(tab, "C")));
-        EXPECT_EQ(ort(), std::to_string(tab) + "C");
-        EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
+        expectFilterQuestion(tab, Answer::Yes);
+        EXPECT_TRUE(jump(tab, fileOf(tab, "C")));
+        EXPECT_EQ(place(), std::to_string(tab) + "C");
+        EXPECT_EQ(list(), "A/0 B/0 C/0 ");
     }
 }
 
@@ -106,72 +107,72 @@ TEST_F(JumpTest, ADocumentThatIsNewerThanItsTableNeedsARebuild)
         tabs_.chooseTab(tab);
         tabs_.chooseRow(1);
         tabs_.chooseTab(0);
-        dokument(tab, "D");
-        const std::string neu = dateiVon(tab, "D");
+        addDocument(tab, "D");
+        const std::string fresh = fileOf(tab, "D");
         if (tab == 3) {
-            fragtNeuaufbau(tab, Antwort::Abbrechen);
-            EXPECT_FALSE(springe(tab, neu));
-            EXPECT_EQ(ort(), "0A");
+            asksRebuild(tab, Answer::Cancel);
+            EXPECT_FALSE(jump(tab, fresh));
+            EXPECT_EQ(place(), "0A");
         }
-        fragtNeuaufbau(tab, Antwort::Nein);
-        EXPECT_FALSE(springe(tab, neu));
-        EXPECT_EQ(ort(), std::to_string(tab) + "B");
-        fragtNeuaufbau(tab, Antwort::Ja);
-        EXPECT_TRUE(springe(tab, neu));
-        EXPECT_EQ(ort(), std::to_string(tab) + "D");
-        EXPECT_EQ(liste(), "A/0 B/0 C/0 D/0 ");
+        asksRebuild(tab, Answer::No);
+        EXPECT_FALSE(jump(tab, fresh));
+        EXPECT_EQ(place(), std::to_string(tab) + "B");
+        asksRebuild(tab, Answer::Yes);
+        EXPECT_TRUE(jump(tab, fresh));
+        EXPECT_EQ(place(), std::to_string(tab) + "D");
+        EXPECT_EQ(list(), "A/0 B/0 C/0 D/0 ");
     }
 }
 
 TEST_F(JumpTest, ADocumentThatMayNotBeSeenStaysHidden)
 {
-    dokument(2, "G", "0", 0);
-    siehtStati("3");
+    addDocument(2, "G", "0", 0);
+    seesStatuses("3");
     tabs_.chooseTab(2);
     tabs_.chooseRow(2);
     tabs_.chooseTab(0);
-    fragtNeuaufbau(2, Antwort::Ja);
-    welt_.meldungen.erwarte("Suchergebnis", "Datei ist in der Tabelle nicht vorhanden!\n"
-                                            "es ist ein <Neuaufbau> erforderlich.\noder\n"
-                                            "Sie haben keine Zugriffsberechtigung.");
-    EXPECT_FALSE(springe(2, "G_0.asm"));
-    EXPECT_EQ(ort(), "2C");
+    asksRebuild(2, Answer::Yes);
+    world_.boxes.expect("Suchergebnis", "Datei ist in der Tabelle nicht vorhanden!\n"
+                                        "es ist ein <Neuaufbau> erforderlich.\noder\n"
+                                        "Sie haben keine Zugriffsberechtigung.");
+    EXPECT_FALSE(jump(2, "G_0.asm"));
+    EXPECT_EQ(place(), "2C");
 }
 
 TEST_F(JumpTest, ADoubleClickOpensTheDocumentWhenItWasFound)
 {
-    int bearbeitet = 0;
-    program_.frame.setzeAktion(Werkzeug::Bearbeiten, [&] { ++bearbeitet; });
-    for (const char* teil : {"A_0.par", "S_0.par"})
-        zeile("ZusBauPart", {{"AssembDokuBez", "A"}, {"AssembRevBez", "0"}, {"Part", pfad(teil)}});
-    dokument(6, "S");
-    Verwendungsseite& usage = info_.relation();
-    zeigeDokument(2, "A");
+    int edited = 0;
+    program_.frame.setAction(Tool::Edit, [&] { ++edited; });
+    for (const char* part : {"A_0.par", "S_0.par"})
+        row("ZusBauPart", {{"AssembDokuBez", "A"}, {"AssembRevBez", "0"}, {"Part", documentPath(part)}});
+    addDocument(6, "S");
+    RelationPage& usage = info_.relation();
+    showDocument(2, "A");
     info_.chooseNode("Besteht aus");
-    welt_.meldungen.erwarte("Im Verzeichnis nicht vorhanden", dateiFehlt(pfad("A_0.par")));
+    world_.boxes.expect("Im Verzeichnis nicht vorhanden", fileMissing(documentPath("A_0.par")));
     actions_.open();
-    welt_.dateien.legeAn(pfad("A_0.par"));
-    welt_.dateien.legeAn(pfad("S_0.par"));
-    usage.zeileGewaehlt(1);
-    welt_.meldungen.erwarte(
+    world_.files.create(documentPath("A_0.par"));
+    world_.files.create(documentPath("S_0.par"));
+    usage.rowChosen(1);
+    world_.boxes.expect(
         "Bearbeiten der Dokumente in den Sondertabellen",
         "Für die Bearbeitung der Dokumente in den Sondertabellen ist eine besondere Arbeitsweise erfoderlich!\n"
         "Der Doppelklick zum Öffnen der Solid Edge-Datei wird daher an dieser Stelle nicht unterstützt.\n"
         "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.");
     actions_.open();
-    EXPECT_EQ(bearbeitet, 0);
+    EXPECT_EQ(edited, 0);
     EXPECT_EQ(tables_.tab(), 2);
-    usage.zeileGewaehlt(0);
+    usage.rowChosen(0);
     actions_.open();
-    EXPECT_EQ(bearbeitet, 1);
-    EXPECT_EQ(ort(), "0A");
+    EXPECT_EQ(edited, 1);
+    EXPECT_EQ(place(), "0A");
 
-    zeigeDokument(2, "A");
+    showDocument(2, "A");
     info_.chooseNode("Besteht aus");
-    usage.zeileGewaehlt(1);
+    usage.rowChosen(1);
     actions_.goToTable();
-    EXPECT_EQ(ort(), "6S");
-    EXPECT_EQ(bearbeitet, 1);
+    EXPECT_EQ(place(), "6S");
+    EXPECT_EQ(edited, 1);
 }
 
 } // namespace

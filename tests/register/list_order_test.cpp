@@ -32,7 +32,7 @@ protected:
         return texts;
     }
 
-    Connection& database_ = session_.database.Verbindung;
+    Connection& database_ = session_.database.connection;
 };
 
 INSTANTIATE_TEST_SUITE_P(Engines, ListOrder, ::testing::Values("SQLite", "PostgreSQL"),
@@ -44,7 +44,7 @@ TEST_P(ListOrder, PropertiesNotesAndAdditionalDocumentsComeByName)
     record.DokuBez = "A";
     record.RevBez = "0";
     record.filename = "W:\\A.par";
-    zeile("Adresstabelle", {{"Kennung", "Dreherei"}});
+    row("Adresstabelle", {{"Kennung", "Dreherei"}});
     for (const auto& [name, value] :
          std::initializer_list<std::pair<const char*, const char*>>{{"Zulauf", "1"},
                                                                     {"Ölstand", "2"},
@@ -53,28 +53,29 @@ TEST_P(ListOrder, PropertiesNotesAndAdditionalDocumentsComeByName)
                                                                     {"Abmessung", "a"},
                                                                     {"Norm", "DIN"},
                                                                     {"Dreherei", "W:\\M100214103059.txt"}})
-        zeile("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", name}, {"Wert", value}});
-    EXPECT_THAT(texts(benutzDefListe(database_, "PartTabelleBenutzDef", record), "Name", "Wert"),
+        row("PartTabelleBenutzDef", {{"DokuBez", "A"}, {"RevBez", "0"}, {"Name", name}, {"Wert", value}});
+    EXPECT_THAT(texts(userDefinedList(database_, "PartTabelleBenutzDef", record), "Name", "Wert"),
                 ElementsAre("Abmessung|a", "abmessung|b", "Norm|DIN", "Ölstand|2", "Zulauf|1"));
-    EXPECT_THAT(texts(sendToListe(database_, "PartTabelleBenutzDef", record), "Kennung", "SendToDatum"),
+    EXPECT_THAT(texts(sendToList(database_, "PartTabelleBenutzDef", record), "Kennung", "SendToDatum"),
                 ElementsAre("Dreherei|14.02.10  10:30", "Dreherei|14.02.11  10:30"));
 
     for (const char* name : {"Prüfung.doc", "Maße.txt", "prüfung.bmp"})
-        zeile("VerbindungPartZusDoku", {{"Dokufilename", record.filename},
-                                        {"ZusDokuDateiname", name},
-                                        {"ZusDokufilename", "W:\\" + std::string(name)}});
-    EXPECT_THAT(texts(zusDokuListe(database_, welt_.dateien, record.filename), "ZusDokuDateiname", "ZusDokuSenden"),
-                ElementsAre("Maße.txt|Nein", "prüfung.bmp|Nein", "Prüfung.doc|Nein"));
+        row("VerbindungPartZusDoku", {{"Dokufilename", record.filename},
+                                      {"ZusDokuDateiname", name},
+                                      {"ZusDokufilename", "W:\\" + std::string(name)}});
+    EXPECT_THAT(
+        texts(additionalDocumentList(database_, world_.files, record.filename), "ZusDokuDateiname", "ZusDokuSenden"),
+        ElementsAre("Maße.txt|Nein", "prüfung.bmp|Nein", "Prüfung.doc|Nein"));
 }
 
 TEST_P(ListOrder, OfSeveralTemplatesAndTiffsTheFirstByPathIsTaken)
 {
     for (const char* path : {"W:\\c.dft", "W:\\A.dft", "W:\\b.dft"}) {
-        zeile("DraftTabelle", {{"filename", path},
-                               {"Kategorie", "QV_Vorlage"},
-                               {"Hauptmerkmal_C", "Wellen"},
-                               {"Hauptmerkmal_D", "lang"}});
-        zeile("TIFFTabelle", {{"Dateiname", "Z.tif"}, {"filename", path}});
+        row("DraftTabelle", {{"filename", path},
+                             {"Kategorie", "QV_Vorlage"},
+                             {"Hauptmerkmal_C", "Wellen"},
+                             {"Hauptmerkmal_D", "lang"}});
+        row("TIFFTabelle", {{"Dateiname", "Z.tif"}, {"filename", path}});
     }
     EXPECT_EQ(VorlageSuchen(database_, std::vector<std::string>{"Wellen", "lang"}), "W:\\A.dft");
     EXPECT_EQ(EnthaltenInTIFFTabelle(database_, "Z.dft"), "W:\\A.dft");

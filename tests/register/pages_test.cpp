@@ -10,56 +10,57 @@ using PagesTest = RegisterTest;
 
 TEST_F(PagesTest, StatusHeadNamesWhoWorksOnIt)
 {
-    struct Fall
+    struct TestCase
     {
         std::int64_t status;
-        const char* bearbeiter;
+        const char* editor;
         const char* text;
-        unsigned farbe;
-        bool breit;
+        unsigned colour;
+        bool wide;
     };
-    const Fall faelle[] = {
+    const TestCase cases[] = {
         {0, "Meier", "0 Status ", 0x000000, false},   {1, "Meier", "<Meier> 'In Arbeit'", 0xFF0000, true},
         {1, "MUELLER", "1 Status ", 0xFF0000, false}, {2, "", "2 Status ", 0xFF00FF, false},
         {3, "", "3 Status ", 0x0000FF, false},        {4, "", "4 Status ", 0x00FFFF, false},
         {5, "", "5 Status ", 0x008080, false},        {7, "", "7 Status ", 0x008080, false}, // Keeps the colour.
     };
-    int nummer = 0;
-    for (const Fall& fall : faelle)
-        zeile("PartTabelle",
-              {{"DokuBez", "S-" + std::to_string(nummer++)}, {"Status", fall.status}, {"Bearbeiter", fall.bearbeiter}});
+    int number = 0;
+    for (const TestCase& testCase : cases)
+        row("PartTabelle", {{"DokuBez", "S-" + std::to_string(number++)},
+                            {"Status", testCase.status},
+                            {"Bearbeiter", testCase.editor}});
     tabs_.chooseTab(0);
-    for (const Fall& fall : faelle) {
-        SCOPED_TRACE(fall.text);
-        EXPECT_EQ(panels_.status().text, fall.text);
-        EXPECT_EQ(panels_.status().farbe, fall.farbe);
-        EXPECT_EQ(panels_.status().breit, fall.breit);
+    for (const TestCase& testCase : cases) {
+        SCOPED_TRACE(testCase.text);
+        EXPECT_EQ(panels_.status().text, testCase.text);
+        EXPECT_EQ(panels_.status().colour, testCase.colour);
+        EXPECT_EQ(panels_.status().wide, testCase.wide);
         tabs_.nextRow();
     }
 }
 
 TEST_F(PagesTest, GeneralPageShowsTheRow)
 {
-    zeile("PartTabelle", {{"DokuBez", "P-1"},
-                          {"filename", "W:\\Teile\\P-1.par"},
-                          {"Status", 4},
-                          {"Erstellt", Zeitpunkt::aus({2004, 2, 9, 7, 5, 0})}});
+    row("PartTabelle", {{"DokuBez", "P-1"},
+                        {"filename", "W:\\Teile\\P-1.par"},
+                        {"Status", 4},
+                        {"Erstellt", DateTime::out({2004, 2, 9, 7, 5, 0})}});
     tabs_.chooseTab(0);
-    const AllgemeineSeite& seite = info_.general();
-    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
-    EXPECT_EQ(seite.Status + seite.StatusName, "4(Festgeschr.)");
-    EXPECT_EQ(seite.Erstellt, "09.02.04");
-    EXPECT_EQ(seite.Geaendert, ""); // Null: no date is better than a wrong one.
+    const GeneralPage& page = info_.general();
+    EXPECT_EQ(info_.page(), InfoPageId::General);
+    EXPECT_EQ(page.Status + page.StatusName, "4(Festgeschr.)");
+    EXPECT_EQ(page.Erstellt, "09.02.04");
+    EXPECT_EQ(page.Geaendert, ""); // Null: no date is better than a wrong one.
     EXPECT_EQ(panels_.folder(), "W:\\Teile");
-    EXPECT_TRUE(seite.nichtVorhanden);
-    welt_.dateien.legeAn("W:\\Teile\\P-1.par");
+    EXPECT_TRUE(page.missing);
+    world_.files.create("W:\\Teile\\P-1.par");
     tabs_.chooseRow(0);
-    EXPECT_FALSE(seite.nichtVorhanden);
+    EXPECT_FALSE(page.missing);
 }
 
 TEST_F(PagesTest, GeneralPageTellsWhereTheDocumentIsUsed)
 {
-    const std::tuple<int, std::string, bool, std::string> faelle[] = {
+    const std::tuple<int, std::string, bool, std::string> cases[] = {
         {0, "verbunden", true, "Eingebaut:Ja Zeichnung:Ja"},
         {0, "frei", true, "Eingebaut:Nein Zeichnung:Nein"},
         {0, "verbunden", false, " "},
@@ -69,158 +70,161 @@ TEST_F(PagesTest, GeneralPageTellsWhereTheDocumentIsUsed)
         {7, "verbunden", true, "Eingebaut:Ja Zeichnung:Ja"},
     };
     for (const int tab : {0, 3, 7}) {
-        dokument(tab, "frei");
-        zeile(DOKUTYPEN[tab].tabelle, {{"DokuBez", "verbunden"}, {"RevBez", "0"}, {"filename", "W:\\v"}});
+        addDocument(tab, "frei");
+        row(DOCUMENT_TYPES[tab].table, {{"DokuBez", "verbunden"}, {"RevBez", "0"}, {"filename", "W:\\v"}});
     }
-    engine_->fuehreAus(sql::parseAnweisung("UPDATE DraftTabelle SET F_05_leer = 'A2' WHERE DokuBez = 'verbunden'"));
-    zeile("ZusBauPart", {{"Part", "W:\\v"}});
-    zeile("VerbindungDraftPart", {{"DokuBezDraft", "verbunden"}, {"RevBezDraft", "0"}, {"PfadAssembPart", "W:\\v"}});
-    for (const auto& [tab, name, verwendung, text] : faelle) {
-        session_.Tree.Verwendung = verwendung;
-        zeigeDokument(tab, name);
-        const AllgemeineSeite& seite = info_.general();
-        EXPECT_EQ(seite.kopf8 + seite.wert9 + " " + seite.kopf39 + seite.wert40, text) << tab << name;
+    engine_->execute(sql::parseStatement("UPDATE DraftTabelle SET F_05_leer = 'A2' WHERE DokuBez = 'verbunden'"));
+    row("ZusBauPart", {{"Part", "W:\\v"}});
+    row("VerbindungDraftPart", {{"DokuBezDraft", "verbunden"}, {"RevBezDraft", "0"}, {"PfadAssembPart", "W:\\v"}});
+    for (const auto& [tab, name, relation, text] : cases) {
+        session_.Tree.Verwendung = relation;
+        showDocument(tab, name);
+        const GeneralPage& page = info_.general();
+        EXPECT_EQ(page.heading8 + page.value9 + " " + page.heading39 + page.value40, text) << tab << name;
     }
 }
 
 TEST_F(PagesTest, OnlyOnePageOfATableStaysFromRowToRow)
 {
-    const std::pair<std::string_view, InfoSeite> klicks[] = {
-        {knoten::DATEI, InfoSeite::Datei},         {knoten::HAUPTMERKMALE, InfoSeite::Hauptmerkmale},
-        {knoten::BENUTZDEF, InfoSeite::BenutzDef}, {knoten::STICHKOMM, InfoSeite::StichKomm},
-        {knoten::ZUSDOKU, InfoSeite::ZusDoku},     {knoten::REVISION, InfoSeite::Revisionen},
+    const std::pair<std::string_view, InfoPageId> clicks[] = {
+        {nodes::FILE, InfoPageId::File},
+        {nodes::STRUCTURE_FEATURES, InfoPageId::StructureFeatures},
+        {nodes::USER_DEFINED, InfoPageId::UserDefined},
+        {nodes::KEYWORDS, InfoPageId::StichKomm},
+        {nodes::ZUSDOKU, InfoPageId::ZusDoku},
+        {nodes::REVISION, InfoPageId::Revisions},
     };
     for (const int tab : {0, 1}) {
-        const DokuTyp& typ = DOKUTYPEN[tab];
+        const DocumentType& type = DOCUMENT_TYPES[tab];
         for (const char* revision : {"a", "b"}) {
-            zeile(typ.tabelle, {{"DokuBez", "M"},
-                                {"RevBez", revision},
-                                {"filename", "W:\\m"},
-                                {"Hauptmerkmal_A", "x"},
-                                {"Stichwoerter", revision}});
-            zeile(typ.tabelleBenutzDef, {{"DokuBez", "M"}, {"RevBez", revision}, {"Name", "n"}});
+            row(type.table, {{"DokuBez", "M"},
+                             {"RevBez", revision},
+                             {"filename", "W:\\m"},
+                             {"Hauptmerkmal_A", "x"},
+                             {"Stichwoerter", revision}});
+            row(type.tableUserDef, {{"DokuBez", "M"}, {"RevBez", revision}, {"Name", "n"}});
         }
-        zeile("VerbindungPartZusDoku", {{"Dokufilename", "W:\\m"}});
+        row("VerbindungPartZusDoku", {{"Dokufilename", "W:\\m"}});
         tabs_.chooseTab(tab);
-        const InfoSeite bleibend = tab == 0 ? InfoSeite::StichKomm : InfoSeite::Datei;
-        for (const auto& [text, seite] : klicks) {
+        const InfoPageId kept = tab == 0 ? InfoPageId::StichKomm : InfoPageId::File;
+        for (const auto& [text, page] : clicks) {
             SCOPED_TRACE(text);
             info_.chooseNode(text);
-            EXPECT_EQ(info_.page(), seite);
-            EXPECT_EQ(tree_.tree().gewaehlt, text);
+            EXPECT_EQ(info_.page(), page);
+            EXPECT_EQ(tree_.tree().chosen, text);
             tabs_.nextRow();
             // A click on a top node leaves what was kept before; none was by then.
-            EXPECT_EQ(info_.page(), seite == bleibend ? seite : InfoSeite::Allgemein);
+            EXPECT_EQ(info_.page(), page == kept ? page : InfoPageId::General);
             EXPECT_EQ(info_.keywords().TextKeywords, session_.AktDoku.RevBez);
         }
-        info_.chooseNode(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
-        info_.chooseNode(knoten::EIGENSCHAFTEN);
+        info_.chooseNode(kept == InfoPageId::File ? nodes::FILE : nodes::KEYWORDS);
+        info_.chooseNode(nodes::PROPERTIES);
         tabs_.nextRow();
-        EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
-        info_.chooseNode(bleibend == InfoSeite::Datei ? knoten::DATEI : knoten::STICHKOMM);
+        EXPECT_EQ(info_.page(), InfoPageId::General);
+        info_.chooseNode(kept == InfoPageId::File ? nodes::FILE : nodes::KEYWORDS);
         tabs_.chooseTab(tab); // forgets it
-        EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+        EXPECT_EQ(info_.page(), InfoPageId::General);
     }
 }
 
 TEST_F(PagesTest, TheViewerFollowsTheRowsUntilItCannotShowOne)
 {
-    dokument(0, "A");
-    dokument(0, "B");
-    dokument(0, "C");
+    addDocument(0, "A");
+    addDocument(0, "B");
+    addDocument(0, "C");
     tabs_.chooseTab(0);
-    viewers_.kaputt = {pfad("C_0.par")};
-    info_.chooseNode(knoten::SMARTVIEWER);
-    EXPECT_EQ(info_.page(), InfoSeite::Viewer);
+    viewers_.broken = {documentPath("C_0.par")};
+    info_.chooseNode(nodes::SMARTVIEWER);
+    EXPECT_EQ(info_.page(), InfoPageId::Viewer);
     tabs_.nextRow();
-    EXPECT_EQ(info_.page(), InfoSeite::Viewer);
-    EXPECT_EQ(viewers_.steht(Ansicht::Eigenschaften), pfad("B_0.par"));
-    welt_.meldungen.erwarte("Anzeigen im Viewer", "Die Datei:\n" + pfad("C_0.par") +
-                                                      "\nkonnte nicht geöffnet werden!\n\nMögliche Ursache:\n"
-                                                      "- Falscher Pfad- und/oder Dateiname.\n- Kein Zugriffsrecht.");
+    EXPECT_EQ(info_.page(), InfoPageId::Viewer);
+    EXPECT_EQ(viewers_.stands(ViewerPlace::Properties), documentPath("B_0.par"));
+    world_.boxes.expect("Anzeigen im Viewer", "Die Datei:\n" + documentPath("C_0.par") +
+                                                  "\nkonnte nicht geöffnet werden!\n\nMögliche Ursache:\n"
+                                                  "- Falscher Pfad- und/oder Dateiname.\n- Kein Zugriffsrecht.");
     tabs_.nextRow();
-    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+    EXPECT_EQ(info_.page(), InfoPageId::General);
     EXPECT_EQ(info_.general().DokuBez, "C");
     tabs_.chooseRow(0);
-    EXPECT_EQ(info_.page(), InfoSeite::Allgemein);
+    EXPECT_EQ(info_.page(), InfoPageId::General);
 }
 
 TEST_F(PagesTest, FilePageShowsAndSetsAttributes)
 {
-    dokument(0, "A");
-    dokument(0, "B");
-    welt_.dateien.legeAn(pfad("A_0.par"), std::string(12345, 'x'));
+    addDocument(0, "A");
+    addDocument(0, "B");
+    world_.files.create(documentPath("A_0.par"), std::string(12345, 'x'));
     tabs_.chooseTab(0);
-    info_.chooseNode(knoten::DATEI);
-    const DateiSeite& datei = info_.file();
-    EXPECT_TRUE(datei.vorhanden);
-    EXPECT_EQ(datei.Name, "A_0.par");
-    EXPECT_EQ(datei.Ordner, "W:\\Teile");
-    EXPECT_EQ(datei.Groesse, "12.345 Bytes");
-    EXPECT_EQ(datei.Erstellt, "01.03.2004 08:30:00");
+    info_.chooseNode(nodes::FILE);
+    const FileProperties& file = info_.file();
+    EXPECT_TRUE(file.exists);
+    EXPECT_EQ(file.name, "A_0.par");
+    EXPECT_EQ(file.folder, "W:\\Teile");
+    EXPECT_EQ(file.size, "12.345 Bytes");
+    EXPECT_EQ(file.created, "01.03.2004 08:30:00");
 
     info_.setReadOnly(true);
     info_.setArchive(true);
-    EXPECT_TRUE(datei.schreibgeschuetzt && datei.archiv);
-    EXPECT_TRUE(welt_.dateien.attribute(pfad("A_0.par"))->schreibgeschuetzt);
+    EXPECT_TRUE(file.readOnly && file.archive);
+    EXPECT_TRUE(world_.files.attribute(documentPath("A_0.par"))->readOnly);
     info_.setReadOnly(false);
-    EXPECT_FALSE(datei.schreibgeschuetzt);
+    EXPECT_FALSE(file.readOnly);
 
     tabs_.nextRow();
-    info_.chooseNode(knoten::DATEI);
-    EXPECT_FALSE(datei.vorhanden);
-    EXPECT_EQ(datei.Name + datei.Groesse + datei.Erstellt, "");
+    info_.chooseNode(nodes::FILE);
+    EXPECT_FALSE(file.exists);
+    EXPECT_EQ(file.name + file.size + file.created, "");
     info_.setReadOnly(true); // No file: nothing happens.
 }
 
 TEST_F(PagesTest, AnAttributeThatCannotBeWrittenIsTold)
 {
-    struct Gesperrt : FakeDateien
+    struct Locked : FakeFiles
     {
-        using FakeDateien::FakeDateien;
-        void setzeArchiv(std::string_view, bool) override { throw Laufzeitfehler(70, "Datei", "Zugriff verweigert"); }
-    } dateien{welt_.uhr};
-    dokument(0, "A");
-    dateien.legeAn(pfad("A_0.par"));
-    Ports ports = welt_.portsMit(dateien);
+        using FakeFiles::FakeFiles;
+        void setArchive(std::string_view, bool) override { throw RuntimeError(70, "Datei", "Zugriff verweigert"); }
+    } files{world_.clock};
+    addDocument(0, "A");
+    files.create(documentPath("A_0.par"));
+    Ports ports = world_.portsWith(files);
     Program program(session_, ports, viewers_);
     program.tabs.chooseTab(0);
-    welt_.meldungen.erwarte("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
-                                                  "Datei ist nicht vorhanden.");
-    welt_.meldungen.antworte();
+    world_.boxes.expect("Dateieigenschaften", "Fehler beim Lesen der Dateieigenschaften!\nMögliche Ursache:\n"
+                                              "Datei ist nicht vorhanden.");
+    world_.boxes.answer();
     program.info.setArchive(true);
-    EXPECT_FALSE(program.info.file().archiv); // The box goes back to what the file says.
+    EXPECT_FALSE(program.info.file().archive); // The box goes back to what the file says.
 }
 
 TEST_F(PagesTest, PdfOpensInItsApplication)
 {
-    dokument(3, "Z");
-    welt_.dateien.legeAn(pfad("Z_0.pdf"));
+    addDocument(3, "Z");
+    world_.files.create(documentPath("Z_0.pdf"));
     tabs_.chooseTab(3);
-    info_.chooseNode(knoten::PDF);
-    EXPECT_EQ(welt_.standardanwendung.geoeffnet, std::vector<std::string>{pfad("Z_0.pdf")});
-    welt_.dateien.loesche(pfad("Z_0.pdf"));
-    welt_.meldungen.antworte();
-    info_.chooseNode(knoten::PDF);
-    EXPECT_EQ(welt_.meldungen.letzte().titel, "Im Verzeichnis nicht vorhanden");
+    info_.chooseNode(nodes::PDF);
+    EXPECT_EQ(world_.defaultApplication.opened, std::vector<std::string>{documentPath("Z_0.pdf")});
+    world_.files.remove(documentPath("Z_0.pdf"));
+    world_.boxes.answer();
+    info_.chooseNode(nodes::PDF);
+    EXPECT_EQ(world_.boxes.last().title, "Im Verzeichnis nicht vorhanden");
 }
 
 TEST_F(PagesTest, ClosingRemembersTheTabOfFileTypesOnly)
 {
-    const auto starttabelle = [&] {
-        Recordset zeilen;
-        zeilen.Open("SELECT Feld3 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Starttabelle'",
-                    session_.database.Verbindung);
-        return zeilen.Text("Feld3");
+    const auto startTable = [&] {
+        Recordset rows;
+        rows.Open("SELECT Feld3 FROM Ini WHERE Feld1 = 'Mueller' AND Feld2 = 'Starttabelle'",
+                  session_.database.connection);
+        return rows.Text("Feld3");
     };
-    zeile("Ini", {{"Feld1", "Mueller"}, {"Feld2", "Starttabelle"}, {"Feld3", "Bauteile"}});
-    for (const auto& [tab, erwartet] : {std::pair{2, "Baugruppen"}, std::pair{6, "Baugruppen"}, {4, "Schweißteile"}}) {
+    row("Ini", {{"Feld1", "Mueller"}, {"Feld2", "Starttabelle"}, {"Feld3", "Bauteile"}});
+    for (const auto& [tab, expected] : {std::pair{2, "Baugruppen"}, std::pair{6, "Baugruppen"}, {4, "Schweißteile"}}) {
         tabs_.StartTabelleZeigen();
         tabs_.chooseTab(tab);
-        page_.entladen();
-        EXPECT_EQ(starttabelle(), erwartet);
+        page_.unload();
+        EXPECT_EQ(startTable(), expected);
     }
-    page_.entladen(); // Closed already: nothing is written.
+    page_.unload(); // Closed already: nothing is written.
     EXPECT_EQ(tables_[4].state(), TableState::NotOpen);
 }
 

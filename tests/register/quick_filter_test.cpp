@@ -16,27 +16,27 @@ protected:
     }
 
     // Changed a year after it was made.
-    void document(const char* name, const char* file, int status, Kalenderzeit made, const char* author,
+    void document(const char* name, const char* file, int status, CalendarTime made, const char* author,
                   const char* editor)
     {
-        const Zeitpunkt erstellt = Zeitpunkt::aus(made);
-        zeile("PartTabelle", {{"DokuBez", name},
-                              {"RevBez", "0"},
-                              {"Dateiname", file},
-                              {"filename", pfad(file)},
-                              {"Status", status},
-                              {"Erstellt", erstellt},
-                              {"Geaendert", erstellt.plusTage(3)},
-                              {"Autor", author},
-                              {"Bearbeiter", editor}});
+        const DateTime created = DateTime::out(made);
+        row("PartTabelle", {{"DokuBez", name},
+                            {"RevBez", "0"},
+                            {"Dateiname", file},
+                            {"filename", documentPath(file)},
+                            {"Status", status},
+                            {"Erstellt", created},
+                            {"Geaendert", created.plusDays(3)},
+                            {"Autor", author},
+                            {"Bearbeiter", editor}});
     }
 
-    void filterText(const char* text, std::size_t field, Suchverfahren place)
+    void filterText(const char* text, std::size_t field, SearchMethod place)
     {
-        search_.setzeSuchtext(text);
-        search_.setzeFeld(field);
-        search_.setzeVerfahren(place);
-        quick_.textFiltern();
+        search_.setSearchText(text);
+        search_.setField(field);
+        search_.setMethod(place);
+        quick_.textFilter();
     }
 
     const std::string& expression() const { return tables_.current().rows().filterText(); }
@@ -44,67 +44,67 @@ protected:
 
 TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)
 {
-    session_.pages.GespeicherteFilter[0].FeldAnhaengen("Name", FeldTyp::Text); // As of another version.
+    session_.pages.GespeicherteFilter[0].appendField("Name", FieldType::Text); // As of another version.
     session_.pages.GespeicherteFilter[0].Open();
     session_.pages.GespeicherteFilter[0].AddNew();
     session_.pages.GespeicherteFilter[0].Update();
-    welt_.meldungen.erwarte("Liste mit Filterfavoriten", "Fehler beim Erstellen der Liste mit Filterfavoriten!");
-    welt_.meldungen.antworte();
-    EXPECT_FALSE(bar_.zeigeFavoriten());
-    welt_.meldungen.erwarte("Gespeicherte Filter", "Fehler beim Eintrag der gespeicherten Filter!");
-    welt_.meldungen.antworte();
-    EXPECT_TRUE(bar_.favoritennamen().empty());
+    world_.boxes.expect("Liste mit Filterfavoriten", "Fehler beim Erstellen der Liste mit Filterfavoriten!");
+    world_.boxes.answer();
+    EXPECT_FALSE(bar_.showFavourites());
+    world_.boxes.expect("Gespeicherte Filter", "Fehler beim Eintrag der gespeicherten Filter!");
+    world_.boxes.answer();
+    EXPECT_TRUE(bar_.favouriteNames().empty());
 }
 
 TEST_F(QuickFilterTest, TextNarrowsInTwoStepsAndNoMore)
 {
-    filterText("", 0, TextAmAnfang);
+    filterText("", 0, TextAtBegin);
     EXPECT_EQ(tables_[0].state(), TableState::Open);
 
-    filterText("fa", 0, TextAmAnfang);
+    filterText("fa", 0, TextAtBegin);
     EXPECT_EQ(expression(), "DokuBez Like 'fa*'");
-    EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
+    EXPECT_EQ(list(), "FA-100/0 FA-200/0 ");
     EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 2");
     EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
     EXPECT_TRUE(heading_.showsFilterButton());
 
-    filterText("LL", 1, TextBeliebig);
+    filterText("LL", 1, TextAny);
     EXPECT_EQ(expression(), "DokuBez Like 'fa*' AND Dateiname Like '*LL*'");
-    EXPECT_EQ(filter_.typen[0].Schnellfilter, expression());
+    EXPECT_EQ(filter_.types[0].QuickFilter, expression());
     EXPECT_EQ(quick_.LblFilterStep1(), "2-ter Schritt der Filterung.");
     EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|fa*\nDokubezDateiFile|Dateiname|*LL*\n");
 
     const std::string before = expression();
-    welt_.meldungen.erwarte("Filterung Text", "Es sind nur maximal 2 Zeichenfolgen möglich!");
-    filterText("W", 2, TextAmAnfang);
+    world_.boxes.expect("Filterung Text", "Es sind nur maximal 2 Zeichenfolgen möglich!");
+    filterText("W", 2, TextAtBegin);
     EXPECT_EQ(expression(), before);
-    EXPECT_EQ(quick_.schritt(), 2);
-    EXPECT_EQ(session_.pages.Suchtexte, (std::vector<std::string>{"fa", "LL", "W"}));
+    EXPECT_EQ(quick_.step(), 2);
+    EXPECT_EQ(session_.pages.SearchTexts, (std::vector<std::string>{"fa", "LL", "W"}));
 
     tabs_.back();
     EXPECT_EQ(tables_[0].state(), TableState::Open);
-    EXPECT_EQ(quick_.schritt(), 0);
+    EXPECT_EQ(quick_.step(), 0);
     EXPECT_EQ(rows(), "");
-    EXPECT_EQ(filter_.typen[0].Schnellfilter, "");
-    filterText("gibt es nicht", 0, TextBeliebig);
+    EXPECT_EQ(filter_.types[0].QuickFilter, "");
+    filterText("gibt es nicht", 0, TextAny);
     EXPECT_EQ(heading_.countText(), "  Solid Edge - Dokumente, Bauteile, Anzahl: 4; Filteranzahl: 0");
 }
 
 TEST_F(QuickFilterTest, ATabKeepsItsFilterButNotTheRunningStep)
 {
-    dokument(1, "Blech");
-    filterText("FA", 0, TextAmAnfang);
+    addDocument(1, "Blech");
+    filterText("FA", 0, TextAtBegin);
     tabs_.chooseTab(1);
     EXPECT_EQ(quick_.LblFilterStep1(), "");
     EXPECT_EQ(rows(), "");
     tabs_.chooseTab(0);
     EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
-    EXPECT_EQ(quick_.schritt(), 0);
-    filterText("FB", 0, TextAmAnfang); // A first step again.
-    EXPECT_EQ(liste(), "FB-100/0 FB-200/0 ");
+    EXPECT_EQ(quick_.step(), 0);
+    filterText("FB", 0, TextAtBegin); // A first step again.
+    EXPECT_EQ(list(), "FB-100/0 FB-200/0 ");
     tabs_.rebuild();
-    EXPECT_EQ(quick_.schritt(), 0);
-    filterText("FA", 0, TextAmAnfang);
+    EXPECT_EQ(quick_.step(), 0);
+    filterText("FA", 0, TextAtBegin);
     EXPECT_EQ(expression(), "DokuBez Like 'FA*'");
 }
 
@@ -129,17 +129,17 @@ TEST_F(QuickFilterTest, DateFiltersTakeTheDayTheFieldAndThePerson)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.sql);
-        quick_.setzeDatumsfeld(c.field);
-        quick_.setzeNurEigene(c.own);
+        quick_.setDateField(c.field);
+        quick_.setOwnOnly(c.own);
         if (c.days > 0) {
-            quick_.setzeTage(c.days);
-            quick_.letzteTage();
+            quick_.setDays(c.days);
+            quick_.lastDays();
         } else {
-            quick_.heute();
+            quick_.today();
         }
-        EXPECT_EQ(liste(), c.list);
+        EXPECT_EQ(list(), c.list);
         EXPECT_EQ(quick_.LblZeitRaum(), c.span);
-        EXPECT_EQ(filter_.typen[0].Schnellfilter, c.sql);
+        EXPECT_EQ(filter_.types[0].QuickFilter, c.sql);
     }
     EXPECT_EQ(rows(), "FilternDatum|Geaendert|31.01.04\nFilternDatum|Bearbeiter|Mueller\n");
     tabs_.back();
@@ -148,18 +148,18 @@ TEST_F(QuickFilterTest, DateFiltersTakeTheDayTheFieldAndThePerson)
 
 TEST_F(QuickFilterTest, TheStatusConditionStaysAndFiltersTakeTurns)
 {
-    filter_.typen[0].ChFilterStat = {false, true, true, true, false, false};
+    filter_.types[0].ChFilterStat = {false, true, true, true, false, false};
     BuildStatusFilter(filter_, 0);
-    filterText("00", 0, TextBeliebig);
-    EXPECT_EQ(liste(), "FA-100/0 FA-200/0 FB-100/0 ");
-    quick_.heute();
+    filterText("00", 0, TextAny);
+    EXPECT_EQ(list(), "FA-100/0 FA-200/0 FB-100/0 ");
+    quick_.today();
     EXPECT_EQ(expression(), " ( Status >= 1  AND Status <= 3) AND Erstellt >= #01/03/04 00:00:00#");
-    EXPECT_EQ(quick_.schritt(), 0);
-    filterText("FB", 0, TextAmAnfang);
-    EXPECT_EQ(liste(), "FB-100/0 ");
+    EXPECT_EQ(quick_.step(), 0);
+    filterText("FB", 0, TextAtBegin);
+    EXPECT_EQ(list(), "FB-100/0 ");
     EXPECT_EQ(quick_.LblZeitRaum(), "");
     tabs_.back();
-    EXPECT_EQ(liste(), "FA-100/0 FA-200/0 FB-100/0 ");
+    EXPECT_EQ(list(), "FA-100/0 FA-200/0 FB-100/0 ");
 }
 
 constexpr const char* NOTHING_LEFT = "Filter 2:\nEs gibt keine Datensätze mit diesen Filtervorgaben!\n"
@@ -172,46 +172,46 @@ TEST_F(QuickFilterTest, ASecondTextThatLeavesNothingIsToldAndTheFirstOneStays)
 {
     for (const char* text : {"gibt es nicht", "x' OR Status Like '", "F_", "[F]", "%"}) {
         SCOPED_TRACE(text);
-        filterText("FA", 0, TextAmAnfang);
-        welt_.meldungen.erwarte("Filtervorgaben", NOTHING_LEFT);
+        filterText("FA", 0, TextAtBegin);
+        world_.boxes.expect("Filtervorgaben", NOTHING_LEFT);
         unsigned drawn = 0;
-        welt_.meldungen.during = [&] {
-            EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ") << "behind the box";
+        world_.boxes.during = [&] {
+            EXPECT_EQ(list(), "FA-100/0 FA-200/0 ") << "behind the box";
             drawn = tables_.current().generation();
         };
-        filterText(text, 1, TextAmAnfang);
-        welt_.meldungen.during = nullptr;
+        filterText(text, 1, TextAtBegin);
+        world_.boxes.during = nullptr;
         EXPECT_EQ(tables_.current().generation(), drawn) << "the grid knew of these rows already";
-        EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
+        EXPECT_EQ(list(), "FA-100/0 FA-200/0 ");
         EXPECT_EQ(quick_.LblFilterStep1(), "2-te Filterung?");
         EXPECT_EQ(rows(), "DokubezDateiFile|Dokumentname|FA*\n");
-        EXPECT_EQ(filter_.typen[0].Schnellfilter, "DokuBez Like 'FA*'");
-        filterText("w", 1, TextAmAnfang);
-        EXPECT_EQ(quick_.schritt(), 2);
-        EXPECT_EQ(liste(), "FA-100/0 FA-200/0 ");
+        EXPECT_EQ(filter_.types[0].QuickFilter, "DokuBez Like 'FA*'");
+        filterText("w", 1, TextAtBegin);
+        EXPECT_EQ(quick_.step(), 2);
+        EXPECT_EQ(list(), "FA-100/0 FA-200/0 ");
         tabs_.back();
     }
 }
 
 TEST_F(QuickFilterTest, PanelsAndFavouritesOfTheBar)
 {
-    bar_.zeigeWerte(true);
-    EXPECT_EQ(bar_.knopfWerte(), "Ausblenden der Filterwerte <<");
-    bar_.zeigeSuchen(true);
-    EXPECT_FALSE(bar_.zeigtWerte());
-    EXPECT_EQ(bar_.knopfWerte(), "Anzeigen der Filterwerte >>");
-    bar_.zeigeWerte(true);
+    bar_.showValues(true);
+    EXPECT_EQ(bar_.valuesButton(), "Ausblenden der Filterwerte <<");
+    bar_.showSearch(true);
+    EXPECT_FALSE(bar_.showsValues());
+    EXPECT_EQ(bar_.valuesButton(), "Anzeigen der Filterwerte >>");
+    bar_.showValues(true);
     tabs_.chooseTab(1);
-    EXPECT_FALSE(bar_.zeigtWerte());
-    EXPECT_TRUE(bar_.zeigtSuchen());
+    EXPECT_FALSE(bar_.showsValues());
+    EXPECT_TRUE(bar_.showsSearch());
 
-    welt_.meldungen.erwarte("Gespeicherte Filter", "Es sind keine gespeicherten Filter für Blechteile vorhanden!");
-    EXPECT_FALSE(bar_.zeigeFavoriten());
-    welt_.meldungen.erwarte("Filterfavoriten", "Es ist kein Filtername eingetragen!");
-    bar_.nutzeFavorit();
+    world_.boxes.expect("Gespeicherte Filter", "Es sind keine gespeicherten Filter für Blechteile vorhanden!");
+    EXPECT_FALSE(bar_.showFavourites());
+    world_.boxes.expect("Filterfavoriten", "Es ist kein Filtername eingetragen!");
+    bar_.useFavourite();
 
-    bar_.waehleFavorit("Neue Bleche"); // Gone by now: nothing runs.
-    bar_.nutzeFavorit();
+    bar_.chooseFavourite("Neue Bleche"); // Gone by now: nothing runs.
+    bar_.useFavourite();
     EXPECT_EQ(tables_.current().state(), TableState::Empty);
     tabs_.chooseTab(0);
     EXPECT_EQ(bar_.LblFilter(), "");

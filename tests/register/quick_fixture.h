@@ -15,14 +15,14 @@ protected:
     {
         std::string text;
         for (const FilterRow& value : values)
-            text += value.Feldname + "|" + value.Benennung + "|" + value.Wert + "\n";
+            text += value.Feldname + "|" + value.Benennung + "|" + value.value + "\n";
         return text;
     }
-    std::string rows() const { return rows(bar_.gezeigteWerte()); }
+    std::string rows() const { return rows(bar_.shownValues()); }
 
-    LinkeLeiste& bar_ = program_.leftBar;
-    Schnellsuche& search_ = bar_.suche();
-    Schnellfilter& quick_ = bar_.filter();
+    LeftBar& bar_ = program_.leftBar;
+    QuickSearch& search_ = bar_.search();
+    QuickFilter& quick_ = bar_.filter();
 };
 
 } // namespace quelvarn

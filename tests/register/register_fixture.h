@@ -12,75 +12,75 @@ namespace quelvarn {
 class RegisterTest : public TestRegister
 {
 protected:
-    static std::string pfad(std::string_view name) { return "W:\\Teile\\" + std::string(name); }
+    static std::string documentPath(std::string_view name) { return "W:\\Teile\\" + std::string(name); }
 
-    // A document whose file lies at W:\Teile\<DokuBez>_<RevBez>.<endung>.
-    Zeilenschluessel dokument(int tab, const std::string& DokuBez, const std::string& RevBez = "0", int status = 3)
+    // A document whose file lies at W:\Parts\<DokuBez>_<RevBez>.<extension>.
+    RowKey addDocument(int tab, const std::string& DokuBez, const std::string& RevBez = "0", int status = 3)
     {
-        const std::string endung(DOKUTYPEN[tab].endung.empty() ? "par" : DOKUTYPEN[tab].endung);
-        const std::string name = DokuBez + "_" + RevBez + "." + endung;
-        return zeile(DOKUTYPEN[tab].tabelle, {{"DokuBez", DokuBez},
-                                              {"RevBez", RevBez},
-                                              {"Dateiname", name},
-                                              {"filename", pfad(name)},
-                                              {"Status", status}});
+        const std::string extension(DOCUMENT_TYPES[tab].extension.empty() ? "par" : DOCUMENT_TYPES[tab].extension);
+        const std::string name = DokuBez + "_" + RevBez + "." + extension;
+        return row(DOCUMENT_TYPES[tab].table, {{"DokuBez", DokuBez},
+                                               {"RevBez", RevBez},
+                                               {"Dateiname", name},
+                                               {"filename", documentPath(name)},
+                                               {"Status", status}});
     }
 
-    void zeigeDokument(int tab, const std::string& DokuBez, const std::string& RevBez = "0")
+    void showDocument(int tab, const std::string& DokuBez, const std::string& RevBez = "0")
     {
         tabs_.chooseTab(tab);
         tabs_.rebuild(); // It may have been written just now.
-        const Recordset& zeilen = tables_[tab].rows();
+        const Recordset& rows = tables_[tab].rows();
         std::size_t i = 0;
-        while (i < zeilen.RecordCount() &&
-               alsText(zeilen.Zelle(i, "DokuBez")) + alsText(zeilen.Zelle(i, "RevBez")) != DokuBez + RevBez)
+        while (i < rows.RecordCount() &&
+               asText(rows.cell(i, "DokuBez")) + asText(rows.cell(i, "RevBez")) != DokuBez + RevBez)
             ++i;
         tabs_.chooseRow(i);
         ASSERT_EQ(session_.AktDoku.DokuBez, DokuBez);
     }
 
-    void erwarteFilterfrage(int tab, Antwort antwort)
+    void expectFilterQuestion(int tab, Answer answer)
     {
-        const std::string name = session_.mehrzahl(tab);
-        welt_.meldungen.erwarte("Filterung der Tabelle '" + name + "' aufheben?",
-                                "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
-                                    (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +
-                                    " kann eventuell nicht angezeigt werden.\nSoll der Filter aufgehoben werden?",
-                                antwort);
+        const std::string name = session_.plural(tab);
+        world_.boxes.expect("Filterung der Tabelle '" + name + "' aufheben?",
+                            "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
+                                (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +
+                                " kann eventuell nicht angezeigt werden.\nSoll der Filter aufgehoben werden?",
+                            answer);
     }
-    static std::string dateiFehlt(const std::string& pfad)
+    static std::string fileMissing(const std::string& documentPath)
     {
-        return "Die Datei\n" + pfad +
+        return "Die Datei\n" + documentPath +
                "\nist im Verzeichnis nicht vorhanden!\nMögliche Ursache:\n"
                "- Falscher Pfad- und/oder Dateiname.\n- Datei wurde im Verzeichnis gelöscht.";
     }
     // As a filter run leaves the table.
-    void filtere(int tab, const std::string& filter)
+    void filter(int tab, const std::string& filter)
     {
         tables_.opened(tab).rows().Filter(filter);
         tables_[tab].showFiltered({});
     }
 
     // The grid's first two columns, from the top.
-    std::string liste() const
+    std::string list() const
     {
-        const Recordset& zeilen = tables_.current().visible();
+        const Recordset& rows = tables_.current().visible();
         std::string text;
-        for (std::size_t i = 0; zeilen.offen() && i < zeilen.RecordCount(); ++i)
-            text += alsText(zeilen.Zelle(i, "DokuBez")) + "/" + alsText(zeilen.Zelle(i, "RevBez")) + " ";
+        for (std::size_t i = 0; rows.open() && i < rows.RecordCount(); ++i)
+            text += asText(rows.cell(i, "DokuBez")) + "/" + asText(rows.cell(i, "RevBez")) + " ";
         return text;
     }
 
     // Indented, a newer revision marked with "!".
-    static std::string alsText(const std::vector<Knoten>& ebene, const std::string& einzug = "")
+    static std::string asText(const std::vector<Node>& level, const std::string& indent = "")
     {
         std::string text;
-        for (const Knoten& knoten : ebene)
-            text += einzug + knoten.text + (knoten.rot ? "!" : "") + "\n" + alsText(knoten.kinder, einzug + "  ");
+        for (const Node& node : level)
+            text += indent + node.text + (node.red ? "!" : "") + "\n" + asText(node.children, indent + "  ");
         return text;
     }
-    static std::string alsText(const Value& wert) { return quelvarn::alsText(wert); }
-    std::string baum() const { return alsText(tree_.tree().wurzeln); }
+    static std::string asText(const Value& value) { return quelvarn::asText(value); }
+    std::string tree() const { return asText(tree_.tree().roots); }
 
     FakeViewer viewers_;
     Program program_{session_, ports_, viewers_};

@@ -12,101 +12,101 @@ class UsageTest : public RegisterTest
 protected:
     UsageTest()
     {
-        const auto verbinde = [&](const char* tabelle, const char* spalte, const std::string& baugruppe,
-                                  const std::string& datei) {
-            zeile(tabelle, {{"AssembDokuBez", baugruppe},
-                            {"AssembRevBez", "0"},
-                            {"AssembDateiname", baugruppe + "_0.asm"},
-                            {"Assembfilename", pfad(baugruppe + "_0.asm")},
-                            {spalte, pfad(datei)}});
+        const auto connect = [&](const char* table, const char* column, const std::string& assembly,
+                                 const std::string& file) {
+            row(table, {{"AssembDokuBez", assembly},
+                        {"AssembRevBez", "0"},
+                        {"AssembDateiname", assembly + "_0.asm"},
+                        {"Assembfilename", documentPath(assembly + "_0.asm")},
+                        {column, documentPath(file)}});
         };
-        dokument(0, "P1", "0", 1);
-        dokument(0, "P2");
-        dokument(2, "G");
-        dokument(2, "U");
-        dokument(3, "Z");
-        dokument(4, "S");
-        dokument(6, "N"); // A standard part of the second special table.
-        verbinde("ZusBauPart", "Part", "G", "P2_0.par");
-        verbinde("ZusBauPart", "Part", "G", "P1_0.par");
-        verbinde("ZusBauPart", "Part", "G", "P1_0.PAR"); // The same file.
-        verbinde("ZusBauPart", "Part", "G", "N_0.par");
-        verbinde("ZusBauPart", "Part", "G", "fehlt.stp");
-        verbinde("ZusBauPart", "Part", "U", "P1_0.par");
-        verbinde("ZusBauSubAss", "Subassembly", "G", "U_0.asm");
-        zeile("VerbindungDraftPart", {{"DokuBezDraft", "Z"},
-                                      {"RevBezDraft", "0"},
-                                      {"DateinameDraft", "Z_0.dft"},
-                                      {"filenameDraft", pfad("Z_0.dft")},
-                                      {"DateinameAssembPart", "P1_0.par"},
-                                      {"PfadAssembPart", pfad("P1_0.par")}});
-        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", "S"},
-                                       {"RevBezWeld", "0"},
-                                       {"DateinameWeld", "S_0.pwd"},
-                                       {"filenameWeld", pfad("S_0.pwd")},
-                                       {"DateinameAssemb", "U_0.asm"},
-                                       {"PfadAssemb", pfad("U_0.asm")}});
+        addDocument(0, "P1", "0", 1);
+        addDocument(0, "P2");
+        addDocument(2, "G");
+        addDocument(2, "U");
+        addDocument(3, "Z");
+        addDocument(4, "S");
+        addDocument(6, "N"); // A standard part of the second special table.
+        connect("ZusBauPart", "Part", "G", "P2_0.par");
+        connect("ZusBauPart", "Part", "G", "P1_0.par");
+        connect("ZusBauPart", "Part", "G", "P1_0.PAR"); // The same file.
+        connect("ZusBauPart", "Part", "G", "N_0.par");
+        connect("ZusBauPart", "Part", "G", "fehlt.stp");
+        connect("ZusBauPart", "Part", "U", "P1_0.par");
+        connect("ZusBauSubAss", "Subassembly", "G", "U_0.asm");
+        row("VerbindungDraftPart", {{"DokuBezDraft", "Z"},
+                                    {"RevBezDraft", "0"},
+                                    {"DateinameDraft", "Z_0.dft"},
+                                    {"filenameDraft", documentPath("Z_0.dft")},
+                                    {"DateinameAssembPart", "P1_0.par"},
+                                    {"PfadAssembPart", documentPath("P1_0.par")}});
+        row("VerbindungWeldAssemb", {{"DokuBezWeld", "S"},
+                                     {"RevBezWeld", "0"},
+                                     {"DateinameWeld", "S_0.pwd"},
+                                     {"filenameWeld", documentPath("S_0.pwd")},
+                                     {"DateinameAssemb", "U_0.asm"},
+                                     {"PfadAssemb", documentPath("U_0.asm")}});
     }
 
-    void oeffneSeite(int tab, const std::string& DokuBez, std::string_view knoten)
+    void openPage(int tab, const std::string& DokuBez, std::string_view node)
     {
-        zeigeDokument(tab, DokuBez);
-        info_.chooseNode(knoten);
+        showDocument(tab, DokuBez);
+        info_.chooseNode(node);
     }
 
-    std::string dateien()
+    std::string files()
     {
         std::string text;
-        for (std::size_t i = 0; usage_.hatZeilen() && i < usage_.zeilen().RecordCount(); ++i)
-            text += alsText(usage_.zeilen().Zelle(i, usage_.art()->felder.Dateiname)) + " ";
+        for (std::size_t i = 0; usage_.hasRows() && i < usage_.rows().RecordCount(); ++i)
+            text += asText(usage_.rows().cell(i, usage_.kind()->fields.Dateiname)) + " ";
         return text;
     }
 
-    void waehle(const std::string& datei)
+    void choose(const std::string& file)
     {
         std::size_t i = 0;
-        while (alsText(usage_.zeilen().Zelle(i, usage_.art()->felder.Dateiname)) != datei)
+        while (asText(usage_.rows().cell(i, usage_.kind()->fields.Dateiname)) != file)
             ++i;
-        usage_.zeileGewaehlt(i);
+        usage_.rowChosen(i);
     }
 
-    Verwendungsseite& usage_ = info_.relation();
+    RelationPage& usage_ = info_.relation();
 };
 
 TEST_F(UsageTest, EachPageListsItsDocumentsOnceAndTellsOfTheFirst)
 {
-    struct Fall
+    struct TestCase
     {
         int tab;
-        const char* dokument;
-        std::string_view knoten;
-        const char* dateien;
-        const char* erstes;
+        const char* document;
+        std::string_view node;
+        const char* files;
+        const char* first;
     };
-    for (const Fall& fall :
-         {Fall{0, "P1", knoten::IN_BAUGRUPPE, "G_0.asm U_0.asm ", "G"},
-          Fall{2, "U", knoten::IN_BAUGRUPPE, "G_0.asm ", "G"}, Fall{0, "P1", knoten::IN_ZEICHNUNG, "Z_0.dft ", "Z"},
-          Fall{2, "U", knoten::IN_SCHWEISSTEIL, "S_0.pwd ", "S"},
-          Fall{2, "G", knoten::BESTEHT_AUS, "fehlt.stp N_0.par P1_0.par P2_0.par U_0.asm ", ""},
-          Fall{3, "Z", knoten::ENTHAELT, "P1_0.par ", "P1"},
-          Fall{4, "S", knoten::ENTHAELT_BAUGRUPPE, "U_0.asm ", "U"}}) {
-        oeffneSeite(fall.tab, fall.dokument, fall.knoten);
-        EXPECT_EQ(dateien(), fall.dateien) << fall.knoten;
-        EXPECT_EQ(usage_.details().DokuBez, fall.erstes) << fall.knoten;
+    for (const TestCase& testCase :
+         {TestCase{0, "P1", nodes::IN_ASSEMBLY, "G_0.asm U_0.asm ", "G"},
+          TestCase{2, "U", nodes::IN_ASSEMBLY, "G_0.asm ", "G"}, TestCase{0, "P1", nodes::IN_DRAWING, "Z_0.dft ", "Z"},
+          TestCase{2, "U", nodes::IN_WELDMENT, "S_0.pwd ", "S"},
+          TestCase{2, "G", nodes::CONSISTS_OF, "fehlt.stp N_0.par P1_0.par P2_0.par U_0.asm ", ""},
+          TestCase{3, "Z", nodes::CONTAINS, "P1_0.par ", "P1"},
+          TestCase{4, "S", nodes::CONTAINS_ASSEMBLY, "U_0.asm ", "U"}}) {
+        openPage(testCase.tab, testCase.document, testCase.node);
+        EXPECT_EQ(files(), testCase.files) << testCase.node;
+        EXPECT_EQ(usage_.details().DokuBez, testCase.first) << testCase.node;
         tabs_.chooseRow(0);
-        EXPECT_EQ(usage_.art(), nullptr) << "a page is that of one row";
+        EXPECT_EQ(usage_.kind(), nullptr) << "a page is that of one row";
     }
 }
 
 TEST_F(UsageTest, AComponentIsFoundInItsTableOrInASpecialOne)
 {
-    oeffneSeite(2, "G", knoten::BESTEHT_AUS);
-    EXPECT_TRUE(usage_.details().leer);
-    EXPECT_FALSE(usage_.bedienbar()); // No table for this ending.
-    waehle("N_0.par");
+    openPage(2, "G", nodes::CONSISTS_OF);
+    EXPECT_TRUE(usage_.details().empty);
+    EXPECT_FALSE(usage_.usable()); // No table for this ending.
+    choose("N_0.par");
     EXPECT_EQ(usage_.SondertabelleNr(), 2);
     EXPECT_EQ(usage_.details().StatusName, "(Freigegeben)");
-    waehle("P1_0.par");
+    choose("P1_0.par");
     EXPECT_EQ(usage_.SondertabelleNr(), 0);
     EXPECT_EQ(usage_.details().StatusName, "(In Arbeit)");
     EXPECT_EQ(panels_.fileName() + "|" + panels_.folder() + "|" + panels_.status().text, "P1_0.par|W:\\Teile|");
@@ -114,47 +114,47 @@ TEST_F(UsageTest, AComponentIsFoundInItsTableOrInASpecialOne)
 
 TEST_F(UsageTest, OutsideTheStatusScopeAComponentIsTolerantlyShownAndOthersAreNot)
 {
-    siehtStati("3");
-    welt_.dateien.legeAn(pfad("P1_0.par"));
-    oeffneSeite(2, "G", knoten::BESTEHT_AUS);
-    usage_.setzeGrafik(false);
+    seesStatuses("3");
+    world_.files.create(documentPath("P1_0.par"));
+    openPage(2, "G", nodes::CONSISTS_OF);
+    usage_.setGraphic(false);
     const std::string status = "ACHTUNG!\nBestandteile der Baugruppe haben einen\nanderen Status als die Baugruppe.";
-    welt_.meldungen.erwarte("Status der Baugruppe", status);
-    waehle("P1_0.par");
-    usage_.setzeGrafik(true);
-    EXPECT_EQ(viewers_.steht(Ansicht::BestehtAus), pfad("P1_0.par"));
-    EXPECT_TRUE(usage_.zeigtVorschau());
-    usage_.setzeGrafik(false);
-    EXPECT_EQ(viewers_.steht(Ansicht::BestehtAus), "");
-    const auto kein = [](const std::string& auf) {
-        return "ACHTUNG!\nSie haben " + auf + " keine Zugriffsberechtigung.";
+    world_.boxes.expect("Status der Baugruppe", status);
+    choose("P1_0.par");
+    usage_.setGraphic(true);
+    EXPECT_EQ(viewers_.stands(ViewerPlace::ConsistsOf), documentPath("P1_0.par"));
+    EXPECT_TRUE(usage_.showsPreview());
+    usage_.setGraphic(false);
+    EXPECT_EQ(viewers_.stands(ViewerPlace::ConsistsOf), "");
+    const auto no = [](const std::string& toUnfold) {
+        return "ACHTUNG!\nSie haben " + toUnfold + " keine Zugriffsberechtigung.";
     };
-    welt_.meldungen.erwarte("Keine Zugriffsberechtigung", kein("auf dieses Teil der Baugruppe"));
-    usage_.anschauen();
-    waehle("N_0.par"); // Special tables have no scope: no box.
+    world_.boxes.expect("Keine Zugriffsberechtigung", no("auf dieses Teil der Baugruppe"));
+    usage_.openInViewer();
+    choose("N_0.par"); // Special tables have no scope: no box.
 
-    oeffneSeite(3, "Z", knoten::ENTHAELT);
-    welt_.meldungen.erwarte("Keine Zugriffsberechtigung", kein("auf dieses Modell der Zeichnung"));
-    usage_.setzeGrafik(true);
-    EXPECT_FALSE(usage_.zeigtVorschau());
+    openPage(3, "Z", nodes::CONTAINS);
+    world_.boxes.expect("Keine Zugriffsberechtigung", no("auf dieses Modell der Zeichnung"));
+    usage_.setGraphic(true);
+    EXPECT_FALSE(usage_.showsPreview());
 }
 
 TEST_F(UsageTest, AnUnreadableFileLeavesTheDetails)
 {
-    oeffneSeite(0, "P1", knoten::IN_BAUGRUPPE);
-    const std::string box = "Die Datei:\n" + pfad("G_0.asm") +
+    openPage(0, "P1", nodes::IN_ASSEMBLY);
+    const std::string box = "Die Datei:\n" + documentPath("G_0.asm") +
                             "\nkonnte nicht geöffnet werden!\nMögliche Ursache:\n"
                             "- Falscher Pfad- und/oder Dateiname.\n- Kein Zugriffsrecht.";
-    welt_.meldungen.erwarte("Anzeigen im Viewer", box);
-    usage_.anschauen();
-    EXPECT_FALSE(usage_.zeigtVorschau() || usage_.ChViewGrafik());
-    welt_.dateien.legeAn(pfad("G_0.asm"));
-    usage_.anschauen();
-    EXPECT_TRUE(usage_.zeigtVorschau() && usage_.ChViewGrafik());
-    welt_.meldungen.antworte(); // The next row has no file.
-    usage_.zeileGewaehlt(1);
-    EXPECT_FALSE(usage_.zeigtVorschau());
-    EXPECT_EQ(viewers_.steht(Ansicht::InBaugruppe), "");
+    world_.boxes.expect("Anzeigen im Viewer", box);
+    usage_.openInViewer();
+    EXPECT_FALSE(usage_.showsPreview() || usage_.ChViewGrafik());
+    world_.files.create(documentPath("G_0.asm"));
+    usage_.openInViewer();
+    EXPECT_TRUE(usage_.showsPreview() && usage_.ChViewGrafik());
+    world_.boxes.answer(); // The next row has no file.
+    usage_.rowChosen(1);
+    EXPECT_FALSE(usage_.showsPreview());
+    EXPECT_EQ(viewers_.stands(ViewerPlace::InAssembly), "");
 }
 
 TEST_F(UsageTest, TheToolBarActsOnTheRow)
@@ -162,27 +162,27 @@ TEST_F(UsageTest, TheToolBarActsOnTheRow)
     const auto favourites = [&](const char* type) {
         Recordset rows;
         rows.Open(sql::Query("Ini").where(sql::all(sql::equal("Feld2", "Favoriten"), sql::equal("Feld3", type))),
-                  session_.database.Verbindung);
-        return rows.leer() ? std::string() : rows.Text("Feld4") + "/" + rows.Text("Feld5");
+                  session_.database.connection);
+        return rows.empty() ? std::string() : rows.Text("Feld4") + "/" + rows.Text("Feld5");
     };
-    oeffneSeite(2, "G", knoten::BESTEHT_AUS);
-    usage_.pfadInZwSp(); // "fehlt.stp" belongs to no table: nothing happens.
+    openPage(2, "G", nodes::CONSISTS_OF);
+    usage_.pathToClipboard(); // "fehlt.stp" belongs to no table: nothing happens.
     actions_.goToTable();
-    EXPECT_EQ(welt_.zwischenablage.text(), "");
-    waehle("P2_0.par");
-    usage_.pfadInZwSp();
-    EXPECT_EQ(welt_.zwischenablage.text(), pfad("P2_0.par"));
+    EXPECT_EQ(world_.clipboard.text(), "");
+    choose("P2_0.par");
+    usage_.pathToClipboard();
+    EXPECT_EQ(world_.clipboard.text(), documentPath("P2_0.par"));
     actions_.addToFavourites();
     EXPECT_EQ(favourites("Part"), "P2/0");
-    waehle("N_0.par");
+    choose("N_0.par");
     actions_.addToFavourites();
     EXPECT_EQ(favourites("STbl2"), "N/0");
 
-    session_.database.Verbindung.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
-    waehle("U_0.asm");
-    welt_.meldungen.erwarte("Favoriten", "Der Eintrag bei Favoriten konnte\nnicht erfolgreich durchgeführt werden!\n"
-                                         "Mögliche Ursache:\n- Datei ist in der Tabelle nicht vorhanden.\n"
-                                         "- Es ist ein <Neuaufbau> erforderlich.\n- Falscher Pfad-/Dateiname.");
+    session_.database.connection.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
+    choose("U_0.asm");
+    world_.boxes.expect("Favoriten", "Der Eintrag bei Favoriten konnte\nnicht erfolgreich durchgeführt werden!\n"
+                                     "Mögliche Ursache:\n- Datei ist in der Tabelle nicht vorhanden.\n"
+                                     "- Es ist ein <Neuaufbau> erforderlich.\n- Falscher Pfad-/Dateiname.");
     actions_.addToFavourites();
 }
 

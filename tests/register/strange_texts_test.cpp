@@ -85,13 +85,13 @@ protected:
     std::vector<std::string> rowsOfOthers(std::string_view user)
     {
         std::vector<std::string> rows;
-        const auto row = engine_->lese(sql::Query("Ini"), MitSchluessel::Nein);
+        const auto row = engine_->read(sql::Query("Ini"), WithKey::No);
         while (row->next()) {
             if (equalText(row->text(0), user))
                 continue;
             std::string& text = rows.emplace_back();
-            for (std::size_t i = 0; i < row->spalten().size(); ++i)
-                text.append(row->istNull(i) ? "Null" : row->text(i)).append("|");
+            for (std::size_t i = 0; i < row->columns().size(); ++i)
+                text.append(row->isNull(i) ? "Null" : row->text(i)).append("|");
         }
         std::ranges::sort(rows);
         return rows;
@@ -101,55 +101,55 @@ protected:
     {
         session.user.Anwender = user;
         session.database.DatenbankPfad = "W:\\Werk.mdb";
-        welt_.dateien.verbinde("W:\\Werk.mdb", ordner_ / "Werk.mdb");
-        welt_.meldungen.gezeigt.clear();
+        world_.files.connect("W:\\Werk.mdb", folder_ / "Werk.mdb");
+        world_.boxes.shown.clear();
         ASSERT_TRUE(Hauptprogramm(session, ports_)) << user;
     }
 
     static void save(SessionState& session, const std::string& text)
     {
         session.pages.ActiveQuelvarn = true;
-        session.Tree.Knoten = false;
-        session.pages.Suchtexte = {text};
-        schreibeStartseite(session);
-        schreibeDokumentseite(session, 3);
+        session.Tree.Node = false;
+        session.pages.SearchTexts = {text};
+        writeStartPage(session);
+        writeDocumentPage(session, 3);
         Recordset& filters = session.pages.GespeicherteFilter[0];
         filters.AddNew();
-        filters.setzeFeld("Filtername", text);
-        filters.setzeFeld("Filterstring", text);
+        filters.setField("Filtername", text);
+        filters.setField("Filterstring", text);
         filters.Update();
         SaveFilterRows(session, 0);
-        schreibeFavorit(session, DOKUTYPEN[0], {text, text});
-        schreibeFavorit(session, DOKUTYPEN[0], {text, text});
+        writeFavourite(session, DOCUMENT_TYPES[0], {text, text});
+        writeFavourite(session, DOCUMENT_TYPES[0], {text, text});
     }
 
     void insertDocuments()
     {
-        Enginetransaktion together(*engine_);
+        EngineTransaction together(*engine_);
         for (const std::string& text : strangeTexts())
             insertDocument(text);
-        together.schliesseAb();
+        together.commit();
     }
     // A document of that name, and everything that is linked to it.
     void insertDocument(const std::string& text)
     {
         const std::string path = pathOf(text);
         for (const char* table : {"PartTabelle", "AssembTabelle", "DraftTabelle", "WeldTabelle"})
-            zeile(table, {{"DokuBez", text},
-                          {"RevBez", text},
-                          {"filename", path},
-                          {"Status", 3},
-                          {"Aenderung", text},
-                          {"Kategorie", "QV_Vorlage"},
-                          {"Hauptmerkmal_C", text}});
-        zeile("PartTabelleBenutzDef", {{"DokuBez", text}, {"RevBez", text}, {"Name", text}, {"Wert", text}});
-        zeile("VerbindungPartZusDoku", {{"Dokufilename", path}, {"ZusDokuDateiname", text}, {"ZusDokufilename", text}});
-        zeile("TIFFTabelle", {{"Dateiname", text + ".tif"}, {"filename", text}});
-        zeile("Adresstabelle", {{"Kennung", "an " + text}, {"Name", "Firma"}, {"Wert", text}});
-        zeile("ZusBauPart", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Part", path}});
-        zeile("ZusBauSubAss", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Subassembly", path}});
-        zeile("VerbindungDraftPart", {{"DokuBezDraft", text}, {"RevBezDraft", text}, {"PfadAssembPart", path}});
-        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", text}, {"RevBezWeld", text}, {"PfadAssemb", path}});
+            row(table, {{"DokuBez", text},
+                        {"RevBez", text},
+                        {"filename", path},
+                        {"Status", 3},
+                        {"Aenderung", text},
+                        {"Kategorie", "QV_Vorlage"},
+                        {"Hauptmerkmal_C", text}});
+        row("PartTabelleBenutzDef", {{"DokuBez", text}, {"RevBez", text}, {"Name", text}, {"Wert", text}});
+        row("VerbindungPartZusDoku", {{"Dokufilename", path}, {"ZusDokuDateiname", text}, {"ZusDokufilename", text}});
+        row("TIFFTabelle", {{"Dateiname", text + ".tif"}, {"filename", text}});
+        row("Adresstabelle", {{"Kennung", "an " + text}, {"Name", "Firma"}, {"Wert", text}});
+        row("ZusBauPart", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Part", path}});
+        row("ZusBauSubAss", {{"AssembDokuBez", text}, {"AssembRevBez", text}, {"Subassembly", path}});
+        row("VerbindungDraftPart", {{"DokuBezDraft", text}, {"RevBezDraft", text}, {"PfadAssembPart", path}});
+        row("VerbindungWeldAssemb", {{"DokuBezWeld", text}, {"RevBezWeld", text}, {"PfadAssemb", path}});
     }
     static std::string pathOf(const std::string& text) { return "W:\\" + text + ".par"; }
 
@@ -159,7 +159,7 @@ protected:
         record.DokuArt = 1;
         record.DokuBez = record.RevBez = text;
         record.filename = pathOf(text);
-        record.Hauptmerkmal[2] = text;
+        record.StructureFeature[2] = text;
         return record;
     }
 
@@ -177,36 +177,36 @@ INSTANTIATE_TEST_SUITE_P(Engines, StrangeTexts, ::testing::Values("SQLite", "Pos
 
 TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
 {
-    welt_.meldungen.erlaubeHinweise();
+    world_.boxes.allowHints();
     for (const std::string& user : strangeTexts()) {
         SessionState first;
         std::vector<std::string> others = rowsOfOthers(user);
         start(first, user);
-        EXPECT_EQ(welt_.meldungen.gezeigt.front().titel, "") << user << ": he is greeted";
+        EXPECT_EQ(world_.boxes.shown.front().title, "") << user << ": he is greeted";
         if (others.empty()) // The first of all writes the rows of the installation.
             others = rowsOfOthers(user);
         EXPECT_FALSE(first.pages.ActiveQuelvarn) << user;
-        EXPECT_THAT(first.pages.Suchtexte, IsEmpty()) << user;
-        EXPECT_THAT(gespeicherteNamen(first, 0), IsEmpty()) << user;
-        EXPECT_THAT(leseFavoriten(first, DOKUTYPEN[0]), IsEmpty()) << user;
+        EXPECT_THAT(first.pages.SearchTexts, IsEmpty()) << user;
+        EXPECT_THAT(savedNames(first, 0), IsEmpty()) << user;
+        EXPECT_THAT(readFavourites(first, DOCUMENT_TYPES[0]), IsEmpty()) << user;
         save(first, user);
         EXPECT_EQ(rowsOfOthers(user), others) << user;
 
         SessionState second;
         start(second, user);
-        for (const Meldung& box : welt_.meldungen.gezeigt)
-            EXPECT_NE(box.titel, "") << user << ": he is no longer new";
-        EXPECT_TRUE(second.pages.ActiveQuelvarn && !second.Tree.Knoten) << user;
+        for (const Box& box : world_.boxes.shown)
+            EXPECT_NE(box.title, "") << user << ": he is no longer new";
+        EXPECT_TRUE(second.pages.ActiveQuelvarn && !second.Tree.Node) << user;
         EXPECT_EQ(second.pages.Starttabelle, "Zeichnungen") << user;
-        EXPECT_EQ(second.pages.Suchtexte.size(), 1U) << user;
-        EXPECT_THAT(gespeicherteNamen(second, 0), ElementsAre(user));
+        EXPECT_EQ(second.pages.SearchTexts.size(), 1U) << user;
+        EXPECT_THAT(savedNames(second, 0), ElementsAre(user));
         EXPECT_EQ(SavedFilterString(second, 0, user), user);
-        const auto favourites = leseFavoriten(second, DOKUTYPEN[0]);
+        const auto favourites = readFavourites(second, DOCUMENT_TYPES[0]);
         ASSERT_EQ(favourites.size(), 1U) << user;
         EXPECT_EQ(favourites.front().DokuBez, user);
-        loescheFavoriten(second, DOKUTYPEN[0], favourites);
+        removeFavourites(second, DOCUMENT_TYPES[0], favourites);
         EXPECT_EQ(rowsOfOthers(user), others) << user;
-        schreibeFavorit(second, DOKUTYPEN[0], {user, user});
+        writeFavourite(second, DOCUMENT_TYPES[0], {user, user});
     }
 }
 
@@ -214,33 +214,33 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
 {
     insertDocuments();
     const auto texts = strangeTexts();
-    Connection& database = session_.database.Verbindung;
-    siehtStati("3");
+    Connection& database = session_.database.connection;
+    seesStatuses("3");
     Recordset parts;
     parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez, RevBez DESC", database);
     for (const std::string& text : texts) {
         SCOPED_TRACE(text);
         const DokuRecord record = recordOf(text);
-        EXPECT_THAT(column(InfoRevision(database, "PartTabelle", text, RevErstBearb::Erstellt), "RevBez"),
+        EXPECT_THAT(column(InfoRevision(database, "PartTabelle", text, revisionFilter::Erstellt), "RevBez"),
                     ElementsAre(text));
-        EXPECT_THAT(column(benutzDefListe(database, "PartTabelleBenutzDef", record), "Wert"), ElementsAre(text));
-        EXPECT_THAT(column(zusDokuListe(database, welt_.dateien, record.filename), "ZusDokuDateiname"),
+        EXPECT_THAT(column(userDefinedList(database, "PartTabelleBenutzDef", record), "Wert"), ElementsAre(text));
+        EXPECT_THAT(column(additionalDocumentList(database, world_.files, record.filename), "ZusDokuDateiname"),
                     ElementsAre(text));
-        EXPECT_EQ(revisionsstand(database, "PartTabelle", text).letzte, text);
-        EXPECT_FALSE(revisionsstand(database, "PartTabelle", text).mehrere);
+        EXPECT_EQ(revisionState(database, "PartTabelle", text).last, text);
+        EXPECT_FALSE(revisionState(database, "PartTabelle", text).several);
         EXPECT_EQ(EnthaltenInTIFFTabelle(database, text + ".dft"), text);
-        EXPECT_THAT(kennungen(database, {"an " + text, text}), ElementsAre(sortKey("an " + text)));
-        EXPECT_TRUE(benutzerzeilen(database, "PartTabelleBenutzDef", record).eigenschaften);
-        EXPECT_TRUE(hatZusatzdokumente(database, record.filename));
+        EXPECT_THAT(addressCodes(database, {"an " + text, text}), ElementsAre(sortKey("an " + text)));
+        EXPECT_TRUE(userDefinedRows(database, "PartTabelleBenutzDef", record).properties);
+        EXPECT_TRUE(hasAdditionalDocuments(database, record.filename));
         EXPECT_EQ(VorlageSuchen(database, templateBranch(record)), record.filename);
-        EXPECT_EQ(findDokument(database, DOKUTYPEN[0], record.filename)->DokuBez, text);
-        EXPECT_TRUE(istSichtbar(database, DOKUTYPEN[0], record.filename, session_.rights.WhereStatus));
-        EXPECT_FALSE(istSichtbar(database, DOKUTYPEN[0], record.filename, " WHERE ( Status = 1)"));
-        EXPECT_THAT(dateienVon(database, DOKUTYPEN[0], std::vector<Favorit>{{text, text}}),
+        EXPECT_EQ(findDocument(database, DOCUMENT_TYPES[0], record.filename)->DokuBez, text);
+        EXPECT_TRUE(isVisible(database, DOCUMENT_TYPES[0], record.filename, session_.rights.WhereStatus));
+        EXPECT_FALSE(isVisible(database, DOCUMENT_TYPES[0], record.filename, " WHERE ( Status = 1)"));
+        EXPECT_THAT(filesOf(database, DOCUMENT_TYPES[0], std::vector<Favourite>{{text, text}}),
                     ElementsAre(record.filename));
-        EXPECT_TRUE(stelleAufDatei(parts, {text, text, record.filename, 0}));
+        EXPECT_TRUE(moveToFile(parts, {text, text, record.filename, 0}));
         EXPECT_EQ(parts.Text("DokuBez"), text);
-        EXPECT_TRUE(stelleAufDokument(parts, {text, text, "", 0}));
+        EXPECT_TRUE(moveToDocument(parts, {text, text, "", 0}));
         EXPECT_EQ(parts.Text("DokuBez"), text);
     }
 }
@@ -249,16 +249,16 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhereTheyAreUsed)
 {
     insertDocuments();
     for (const std::string& text : strangeTexts())
-        for (const Verwendungsart& kind : VERWENDUNGSARTEN) {
-            SCOPED_TRACE(text + std::string(kind.knoten));
+        for (const RelationKind& kind : RELATION_KINDS) {
+            SCOPED_TRACE(text + std::string(kind.node));
             const DokuRecord record = recordOf(text);
-            EXPECT_TRUE(gibtEsVerwendung(session_.database.Verbindung, kind, record, record.filename));
-            Recordset rows = verwendungszeilen(session_.database.Verbindung, kind, record, record.filename);
-            ASSERT_EQ(rows.RecordCount(), kind.quellwahl == Quellwahl::Alle ? 2U : 1U);
-            const Verwendungsdokument document = dokumentZu(session_.database.Verbindung, kind, rows);
-            EXPECT_FALSE(document.details.leer);
-            EXPECT_EQ(rows.Text(kind.bestandteile() ? kind.felder.filename : kind.felder.DokuBez),
-                      kind.bestandteile() ? record.filename : text);
+            EXPECT_TRUE(hasRelation(session_.database.connection, kind, record, record.filename));
+            Recordset rows = relationRows(session_.database.connection, kind, record, record.filename);
+            ASSERT_EQ(rows.RecordCount(), kind.sourceChoice == SourceChoice::All ? 2U : 1U);
+            const RelationDocument document = documentAt(session_.database.connection, kind, rows);
+            EXPECT_FALSE(document.details.empty);
+            EXPECT_EQ(rows.Text(kind.components() ? kind.fields.filename : kind.fields.DokuBez),
+                      kind.components() ? record.filename : text);
         }
 }
 
@@ -267,11 +267,11 @@ TEST_P(StrangeTexts, AsSearchTextsFindNothingElse)
 {
     insertDocuments();
     Recordset parts;
-    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.database.Verbindung);
+    parts.Open("SELECT * FROM PartTabelle ORDER BY DokuBez", session_.database.connection);
     for (const std::string& text : strangeTexts()) {
         if (text.find_first_of("%_[") != std::string::npos)
             continue;
-        EXPECT_TRUE(SuchenImRecordset(parts, text, "DokuBez", TextAmAnfang, Suchbeginn::Oben, welt_.meldungen));
+        EXPECT_TRUE(SuchenImRecordset(parts, text, "DokuBez", TextAtBegin, SearchStart::Above, world_.boxes));
         ASSERT_FALSE(parts.Eof()) << text;
         EXPECT_TRUE(parts.Text("DokuBez").starts_with(text)) << text << " / " << parts.Text("DokuBez");
     }

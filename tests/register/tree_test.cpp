@@ -9,192 +9,192 @@ class TreeTest : public RegisterTest
 {
 protected:
     // D/b of the table stands in every relation that a document can have; D/c is its newer revision.
-    void legeVerbundenesAn(int tab)
+    void createLinked(int tab)
     {
-        const DokuTyp& typ = DOKUTYPEN[tab];
-        const std::string endung(typ.endung.empty() ? "par" : typ.endung);
-        const std::string datei = pfad("D_b." + endung);
-        zeile(typ.tabelle, {{"DokuBez", "D"},
-                            {"RevBez", "b"},
-                            {"Dateiname", "D_b." + endung},
-                            {"filename", datei},
-                            {"Status", 3},
-                            {"Hauptmerkmal_B", "Welle"},
-                            {"Kommentar", "gehärtet"}});
-        dokument(tab, "D", "c");
-        zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", datei}});
-        zeile("ZusBauSubAss", {{"AssembDokuBez", "B"}, {"Subassembly", datei}});
-        zeile("VerbindungDraftPart",
-              {{"DokuBezDraft", "D"}, {"RevBezDraft", "b"}, {"filenameDraft", "x"}, {"PfadAssembPart", datei}});
-        zeile("VerbindungWeldAssemb", {{"DokuBezWeld", "D"}, {"RevBezWeld", "b"}, {"PfadAssemb", datei}});
-        zeile("VerbindungPartZusDoku", {{"Dokufilename", datei}, {"ZusDokufilename", "W:\\a.doc"}});
-        zeile("TIFFTabelle", {{"Dateiname", "D_b.tif"}, {"filename", "W:\\Tiff\\D_b.tif"}});
-        welt_.dateien.legeAn(pfad("D_b.pdf"));
-        zeile("Adresstabelle", {{"Kennung", "Kunde 7"}, {"Name", "Ort"}, {"Wert", "Ulm"}});
-        zeile(typ.tabelleBenutzDef, {{"DokuBez", "D"}, {"RevBez", "b"}, {"Name", "Gewicht"}, {"Wert", "7"}});
-        zeile(typ.tabelleBenutzDef, {{"DokuBez", "D"}, {"RevBez", "b"}, {"Name", "KUNDE 7"}, {"Wert", "W:\\v"}});
+        const DocumentType& type = DOCUMENT_TYPES[tab];
+        const std::string extension(type.extension.empty() ? "par" : type.extension);
+        const std::string file = documentPath("D_b." + extension);
+        row(type.table, {{"DokuBez", "D"},
+                         {"RevBez", "b"},
+                         {"Dateiname", "D_b." + extension},
+                         {"filename", file},
+                         {"Status", 3},
+                         {"Hauptmerkmal_B", "Welle"},
+                         {"Kommentar", "gehärtet"}});
+        addDocument(tab, "D", "c");
+        row("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", file}});
+        row("ZusBauSubAss", {{"AssembDokuBez", "B"}, {"Subassembly", file}});
+        row("VerbindungDraftPart",
+            {{"DokuBezDraft", "D"}, {"RevBezDraft", "b"}, {"filenameDraft", "x"}, {"PfadAssembPart", file}});
+        row("VerbindungWeldAssemb", {{"DokuBezWeld", "D"}, {"RevBezWeld", "b"}, {"PfadAssemb", file}});
+        row("VerbindungPartZusDoku", {{"Dokufilename", file}, {"ZusDokufilename", "W:\\a.doc"}});
+        row("TIFFTabelle", {{"Dateiname", "D_b.tif"}, {"filename", "W:\\Tiff\\D_b.tif"}});
+        world_.files.create(documentPath("D_b.pdf"));
+        row("Adresstabelle", {{"Kennung", "Kunde 7"}, {"Name", "Ort"}, {"Wert", "Ulm"}});
+        row(type.tableUserDef, {{"DokuBez", "D"}, {"RevBez", "b"}, {"Name", "Gewicht"}, {"Wert", "7"}});
+        row(type.tableUserDef, {{"DokuBez", "D"}, {"RevBez", "b"}, {"Name", "KUNDE 7"}, {"Wert", "W:\\v"}});
     }
 };
 
-const std::string KINDER = "Eigenschaften\n"
-                           "  Dateieigenschaften\n"
-                           "  Hauptmerkmale / -werte\n"
-                           "  Benutzerdef. Eigenschaften\n"
-                           "  Versendet an\n"
-                           "  Stichwörter / Kommentar\n"
-                           "  Zusätzl. Dokumente\n"
-                           "Revision!\n"
-                           "SmartViewer\n";
-const std::string KINDER_SONDERTABELLE = "Eigenschaften\n"
-                                         "  Dateieigenschaften\n"
-                                         "  Hauptmerkmale / -werte\n"
-                                         "  Benutzerdef. Eigenschaften\n"
-                                         "  Stichwörter / Kommentar\n"
-                                         "SmartViewer\n";
-const std::string ENTHALTEN = "Enthalten in Baugruppe\nEnthalten in Zeichnung\n";
-const std::string NICHTS = "Eigenschaften\n  Dateieigenschaften\nSmartViewer\n";
+const std::string CHILDREN = "Eigenschaften\n"
+                             "  Dateieigenschaften\n"
+                             "  Hauptmerkmale / -werte\n"
+                             "  Benutzerdef. Eigenschaften\n"
+                             "  Versendet an\n"
+                             "  Stichwörter / Kommentar\n"
+                             "  Zusätzl. Dokumente\n"
+                             "Revision!\n"
+                             "SmartViewer\n";
+const std::string CHILDREN_SPECIAL_TABLE = "Eigenschaften\n"
+                                           "  Dateieigenschaften\n"
+                                           "  Hauptmerkmale / -werte\n"
+                                           "  Benutzerdef. Eigenschaften\n"
+                                           "  Stichwörter / Kommentar\n"
+                                           "SmartViewer\n";
+const std::string CONTAINED = "Enthalten in Baugruppe\nEnthalten in Zeichnung\n";
+const std::string NOTHING = "Eigenschaften\n  Dateieigenschaften\nSmartViewer\n";
 
 TEST_F(TreeTest, ShowsANodeForEachRelationThatItsTypeKnows)
 {
-    const std::string erwartet[] = {
-        KINDER + ENTHALTEN,
-        KINDER + ENTHALTEN,
-        KINDER + ENTHALTEN + "Enthalten in Schweißteil\nBesteht aus\n",
-        KINDER + "TIFF-Dokument\nPDF-Dokument\nEnthält\n",
-        KINDER + ENTHALTEN + "Enthält Baugruppe\n",
-        KINDER_SONDERTABELLE + ENTHALTEN,
-        KINDER_SONDERTABELLE + ENTHALTEN,
-        KINDER_SONDERTABELLE + ENTHALTEN,
+    const std::string expected[] = {
+        CHILDREN + CONTAINED,
+        CHILDREN + CONTAINED,
+        CHILDREN + CONTAINED + "Enthalten in Schweißteil\nBesteht aus\n",
+        CHILDREN + "TIFF-Dokument\nPDF-Dokument\nEnthält\n",
+        CHILDREN + CONTAINED + "Enthält Baugruppe\n",
+        CHILDREN_SPECIAL_TABLE + CONTAINED,
+        CHILDREN_SPECIAL_TABLE + CONTAINED,
+        CHILDREN_SPECIAL_TABLE + CONTAINED,
     };
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        SCOPED_TRACE(typ.tabelle);
-        legeVerbundenesAn(typ.tab);
-        zeigeDokument(typ.tab, "D", "b");
-        EXPECT_EQ(baum(), erwartet[typ.tab]);
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        SCOPED_TRACE(type.table);
+        createLinked(type.tab);
+        showDocument(type.tab, "D", "b");
+        EXPECT_EQ(tree(), expected[type.tab]);
     }
 }
 
 TEST_F(TreeTest, ShowsNoNodeWithoutItsRelation)
 {
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        SCOPED_TRACE(typ.tabelle);
-        dokument(typ.tab, "E");
-        tabs_.chooseTab(typ.tab);
-        EXPECT_EQ(baum(), typ.schluessel == "Assemb" ? NICHTS + "Besteht aus\n" : NICHTS);
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        SCOPED_TRACE(type.table);
+        addDocument(type.tab, "E");
+        tabs_.chooseTab(type.tab);
+        EXPECT_EQ(tree(), type.key == "Assemb" ? NOTHING + "Besteht aus\n" : NOTHING);
     }
 }
 
 TEST_F(TreeTest, EachSwitchHidesItsNodesOnly)
 {
-    const std::tuple<int, bool Baumschalter::*, std::string> faelle[] = {
-        {0, &Baumschalter::Verwendung, ENTHALTEN},
-        {0, &Baumschalter::Revision, "Revision!\n"},
-        {0, &Baumschalter::HauptMerk, "  Hauptmerkmale / -werte\n"},
-        {0, &Baumschalter::BenutzDef, "  Benutzerdef. Eigenschaften\n"},
-        {0, &Baumschalter::Versendet, "  Versendet an\n"},
-        {0, &Baumschalter::StichKomm, "  Stichwörter / Kommentar\n"},
-        {0, &Baumschalter::ZusDoku, "  Zusätzl. Dokumente\n"},
-        {2, &Baumschalter::Verwendung, ENTHALTEN + "Enthalten in Schweißteil\nBesteht aus\n"},
-        {3, &Baumschalter::TIFFDoku, "TIFF-Dokument\n"},
-        {3, &Baumschalter::PDFDoku, "PDF-Dokument\n"},
-        {3, &Baumschalter::Verwendung, "Enthält\n"},
+    const std::tuple<int, bool TreeSwitches::*, std::string> cases[] = {
+        {0, &TreeSwitches::Verwendung, CONTAINED},
+        {0, &TreeSwitches::Revision, "Revision!\n"},
+        {0, &TreeSwitches::HauptMerk, "  Hauptmerkmale / -werte\n"},
+        {0, &TreeSwitches::BenutzDef, "  Benutzerdef. Eigenschaften\n"},
+        {0, &TreeSwitches::Versendet, "  Versendet an\n"},
+        {0, &TreeSwitches::StichKomm, "  Stichwörter / Kommentar\n"},
+        {0, &TreeSwitches::ZusDoku, "  Zusätzl. Dokumente\n"},
+        {2, &TreeSwitches::Verwendung, CONTAINED + "Enthalten in Schweißteil\nBesteht aus\n"},
+        {3, &TreeSwitches::TIFFDoku, "TIFF-Dokument\n"},
+        {3, &TreeSwitches::PDFDoku, "PDF-Dokument\n"},
+        {3, &TreeSwitches::Verwendung, "Enthält\n"},
     };
     for (const int tab : {0, 2, 3})
-        legeVerbundenesAn(tab);
-    for (const auto& [tab, schalter, fehlt] : faelle) {
+        createLinked(tab);
+    for (const auto& [tab, option, missing] : cases) {
         session_.Tree = {};
-        zeigeDokument(tab, "D", "b");
-        std::string erwartet = baum();
-        ASSERT_NE(erwartet.find(fehlt), std::string::npos) << fehlt;
-        erwartet.erase(erwartet.find(fehlt), fehlt.size());
-        session_.Tree.*schalter = false;
-        page_.baumschalterGeaendert();
-        EXPECT_EQ(baum(), erwartet) << fehlt;
+        showDocument(tab, "D", "b");
+        std::string expected = tree();
+        ASSERT_NE(expected.find(missing), std::string::npos) << missing;
+        expected.erase(expected.find(missing), missing.size());
+        session_.Tree.*option = false;
+        page_.treeSwitchesChanged();
+        EXPECT_EQ(tree(), expected) << missing;
     }
 }
 
 TEST_F(TreeTest, WithoutOpenNodesTheChildrenComeOnceOnTheFirstExpand)
 {
-    legeVerbundenesAn(0);
-    session_.Tree.Knoten = false;
-    zeigeDokument(0, "D", "b");
-    const std::string oben = "Revision!\nSmartViewer\n" + ENTHALTEN;
-    EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\n" + oben);
-    EXPECT_FALSE(tree_.tree().wurzeln.front().offen);
-    for (int mal = 0; mal < 2; ++mal) {
+    createLinked(0);
+    session_.Tree.Node = false;
+    showDocument(0, "D", "b");
+    const std::string above = "Revision!\nSmartViewer\n" + CONTAINED;
+    EXPECT_EQ(tree(), "Eigenschaften\n  Dateieigenschaften\n" + above);
+    EXPECT_FALSE(tree_.tree().roots.front().open);
+    for (int times = 0; times < 2; ++times) {
         tree_.unfold();
-        EXPECT_EQ(baum(), KINDER + ENTHALTEN);
+        EXPECT_EQ(tree(), CHILDREN + CONTAINED);
     }
     tabs_.chooseRow(0);
     tree_.unfold();
     EXPECT_EQ(session_.AktDoku.RevBez, "c");
-    EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\n");
+    EXPECT_EQ(tree(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\n");
 }
 
 TEST_F(TreeTest, RevisionNodeTellsOfFurtherRevisions)
 {
-    const std::tuple<std::vector<std::string>, std::string, std::string> faelle[] = {
+    const std::tuple<std::vector<std::string>, std::string, std::string> cases[] = {
         {{"0"}, "0", ""},         {{"0", "a"}, "0", "Revision!"}, {{"0", "a"}, "a", "Revision"},
         {{"a"}, "a", "Revision"}, {{"a", "B"}, "a", "Revision!"}, {{"9", "10"}, "9", "Revision"}, // Text order.
     };
-    int nummer = 0;
-    for (const auto& [revisionen, gezeigt, knoten] : faelle) {
-        const std::string DokuBez = "R-" + std::to_string(nummer++);
-        for (const std::string& revision : revisionen)
-            dokument(1, DokuBez, revision);
-        zeigeDokument(1, DokuBez, gezeigt);
-        EXPECT_EQ(baum(),
-                  "Eigenschaften\n  Dateieigenschaften\n" + knoten + (knoten.empty() ? "" : "\n") + "SmartViewer\n");
-        EXPECT_EQ(info_.general().neuereRevision, knoten.ends_with('!'));
+    int number = 0;
+    for (const auto& [revisions, shown, node] : cases) {
+        const std::string DokuBez = "R-" + std::to_string(number++);
+        for (const std::string& revision : revisions)
+            addDocument(1, DokuBez, revision);
+        showDocument(1, DokuBez, shown);
+        EXPECT_EQ(tree(),
+                  "Eigenschaften\n  Dateieigenschaften\n" + node + (node.empty() ? "" : "\n") + "SmartViewer\n");
+        EXPECT_EQ(info_.general().newerRevision, node.ends_with('!'));
     }
 }
 
 TEST_F(TreeTest, MainFeaturesCountByTheirSumAndTheFirstThree)
 {
-    zeile("PartTabelle", {{"Hauptmerkmal_D", "Bolzen"}});
-    zeile("PartTabelle", {{"Hauptmerkmal_C", "Bolzen"}});
-    zeile("PartTabelle", {{"Hauptwert_a", 2.5}, {"Hauptwert_g", -2.5}});
-    zeile("PartTabelle", {{"Hauptwert_g", 0.5}});
+    row("PartTabelle", {{"Hauptmerkmal_D", "Bolzen"}});
+    row("PartTabelle", {{"Hauptmerkmal_C", "Bolzen"}});
+    row("PartTabelle", {{"Hauptwert_a", 2.5}, {"Hauptwert_g", -2.5}});
+    row("PartTabelle", {{"Hauptwert_g", 0.5}});
     tabs_.chooseTab(0);
-    for (const bool erwartet : {false, true, false, true}) {
-        EXPECT_EQ(tree_.tree().finde(knoten::HAUPTMERKMALE) != nullptr, erwartet);
+    for (const bool expected : {false, true, false, true}) {
+        EXPECT_EQ(tree_.tree().find(nodes::STRUCTURE_FEATURES) != nullptr, expected);
         tabs_.nextRow();
     }
 }
 
 TEST_F(TreeTest, FindsRegisteredAndNeighbouringTiffs)
 {
-    dokument(3, "A"); // registered, though the file is gone
-    zeile("TIFFTabelle", {{"Dateiname", "A_0.TIF"}, {"filename", "W:\\Tiff\\A_0.tif"}});
-    dokument(3, "B"); // beside the drawing
-    welt_.dateien.legeAn(pfad("B_0.tif"));
-    dokument(3, "C");
+    addDocument(3, "A"); // registered, though the file is gone
+    row("TIFFTabelle", {{"Dateiname", "A_0.TIF"}, {"filename", "W:\\Tiff\\A_0.tif"}});
+    addDocument(3, "B"); // beside the drawing
+    world_.files.create(documentPath("B_0.tif"));
+    addDocument(3, "C");
     tabs_.chooseTab(3);
-    for (const bool erwartet : {true, true, false}) {
-        EXPECT_EQ(tree_.tree().finde(knoten::TIFF) != nullptr, erwartet) << session_.AktDoku.DokuBez;
+    for (const bool expected : {true, true, false}) {
+        EXPECT_EQ(tree_.tree().find(nodes::TIFF) != nullptr, expected) << session_.AktDoku.DokuBez;
         tabs_.nextRow();
     }
 }
 
 TEST_F(TreeTest, WhereUsedIsAskedByTheDrivePathOfANetworkPath)
 {
-    zeile("PartTabelle", {{"DokuBez", "N"}, {"filename", "\\\\server\\konstruktion\\N.par"}});
-    zeile("PartTabelle", {{"DokuBez", "O"}, {"filename", "\\\\fremd\\weg\\O.par"}});
-    zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", "W:\\N.par"}});
+    row("PartTabelle", {{"DokuBez", "N"}, {"filename", "\\\\server\\konstruktion\\N.par"}});
+    row("PartTabelle", {{"DokuBez", "O"}, {"filename", "\\\\fremd\\weg\\O.par"}});
+    row("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", "W:\\N.par"}});
     tabs_.chooseTab(0);
-    EXPECT_NE(tree_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
-    welt_.meldungen.antworte(); // The share has no drive: told once for the row.
+    EXPECT_NE(tree_.tree().find(nodes::IN_ASSEMBLY), nullptr);
+    world_.boxes.answer(); // The share has no drive: told once for the row.
     tabs_.nextRow();
-    EXPECT_EQ(welt_.meldungen.letzte().titel, "Universalname nach Laufwerksnamen");
-    EXPECT_EQ(tree_.tree().finde(knoten::IN_BAUGRUPPE), nullptr);
+    EXPECT_EQ(world_.boxes.last().title, "Universalname nach Laufwerksnamen");
+    EXPECT_EQ(tree_.tree().find(nodes::IN_ASSEMBLY), nullptr);
 }
 
 TEST_F(TreeTest, AnApostropheInANameIsAValueLikeAnyOther)
 {
-    dokument(0, "O'Neill", "a'");
-    zeile("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", pfad("O'Neill_a'.par")}});
+    addDocument(0, "O'Neill", "a'");
+    row("ZusBauPart", {{"AssembDokuBez", "B"}, {"Part", documentPath("O'Neill_a'.par")}});
     tabs_.chooseTab(0);
-    EXPECT_EQ(baum(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\nEnthalten in Baugruppe\n");
+    EXPECT_EQ(tree(), "Eigenschaften\n  Dateieigenschaften\nRevision\nSmartViewer\nEnthalten in Baugruppe\n");
 }
 
 } // namespace

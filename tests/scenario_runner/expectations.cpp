@@ -83,7 +83,7 @@ void toolTip(World&, const Step& step)
 std::string rowAsText(const Recordset& rows)
 {
     std::string line;
-    for (const auto& column : rows.Felder())
+    for (const auto& column : rows.fields())
         line += (line.empty() ? "" : " ; ") + rows.Text(column.name);
     return line;
 }
@@ -110,7 +110,7 @@ void showsQuery(World& world, const Step& step)
     auto connection = world.connect();
     Recordset rows;
     rows.Open(test::query(step.word(2)), connection);
-    auto shown = linesOf(step.word(1), static_cast<int>(rows.Felder().size()));
+    auto shown = linesOf(step.word(1), static_cast<int>(rows.fields().size()));
     auto wanted = rowsAsText(rows);
     if (step.word(2).find("ORDER BY") == std::string::npos) {
         std::ranges::sort(shown);
@@ -134,7 +134,7 @@ void countIs(World& world, const Step& step)
 
 void fileIs(World& world, const Step& step)
 {
-    if (!world.files().dateiVorhanden(step.word(1)))
+    if (!world.files().fileExists(step.word(1)))
         throw Difference(fmt::format("there is no file {}", step.word(1)));
     if (!step.text.empty())
         compare(step.word(1), step.joinedText(), world.fileText(step.word(1)));
@@ -201,7 +201,7 @@ void addExpectations(Verbs& verbs)
     verbs["count"] = countIs;
     verbs["file"] = fileIs;
     verbs["no-file"] = [](World& world, const Step& step) {
-        if (world.files().dateiVorhanden(step.word(1)))
+        if (world.files().fileExists(step.word(1)))
             throw Difference(fmt::format("there is a file {}", step.word(1)));
     };
     verbs["timer"] = timerState;

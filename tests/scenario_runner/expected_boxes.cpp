@@ -8,64 +8,64 @@ namespace quelvarn::scenario {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Antwort>, 4> ANSWERS{
-    {{"OK", Antwort::Ok}, {"Abbrechen", Antwort::Abbrechen}, {"Ja", Antwort::Ja}, {"Nein", Antwort::Nein}}};
+constexpr std::array<std::pair<std::string_view, Answer>, 4> ANSWERS{
+    {{"OK", Answer::Ok}, {"Abbrechen", Answer::Cancel}, {"Ja", Answer::Yes}, {"Nein", Answer::No}}};
 
-bool offers(Knoepfe buttons, Antwort answer)
+bool offers(Buttons buttons, Answer answer)
 {
     switch (buttons) {
-    case Knoepfe::Ok:
-        return answer == Antwort::Ok;
-    case Knoepfe::OkAbbrechen:
-        return answer == Antwort::Ok || answer == Antwort::Abbrechen;
-    case Knoepfe::JaNein:
-        return answer == Antwort::Ja || answer == Antwort::Nein;
-    case Knoepfe::JaNeinAbbrechen:
-        return answer != Antwort::Ok;
+    case Buttons::Ok:
+        return answer == Answer::Ok;
+    case Buttons::OkCancel:
+        return answer == Answer::Ok || answer == Answer::Cancel;
+    case Buttons::YesNo:
+        return answer == Answer::Yes || answer == Answer::No;
+    case Buttons::YesNoCancel:
+        return answer != Answer::Ok;
     }
     return false;
 }
 
 // What closes a box without doing anything.
-Antwort mildest(Knoepfe buttons)
+Answer mildest(Buttons buttons)
 {
     switch (buttons) {
-    case Knoepfe::OkAbbrechen:
-    case Knoepfe::Ok:
-        return Antwort::Ok;
+    case Buttons::OkCancel:
+    case Buttons::Ok:
+        return Answer::Ok;
     default:
-        return Antwort::Nein;
+        return Answer::No;
     }
 }
 
 } // namespace
 
-Antwort ExpectedBoxes::zeige(const Meldung& meldung)
+Answer ExpectedBoxes::show(const Box& box)
 {
-    last_ = meldung;
+    last_ = box;
     if (boxes_.empty()) {
-        fault_ += fmt::format("an unexpected box came: \"{}\"\n  {}\n", meldung.titel, meldung.text);
-        return mildest(meldung.knoepfe);
+        fault_ += fmt::format("an unexpected box came: \"{}\"\n  {}\n", box.title, box.text);
+        return mildest(box.buttons);
     }
-    const Box box = boxes_.front();
+    const Foretold foretold = boxes_.front();
     boxes_.pop_front();
-    if (box.title != meldung.titel)
-        fault_ += fmt::format("title of a box\n  expected: {}\n  found:    {}\n", box.title, meldung.titel);
-    if (box.text && *box.text != meldung.text)
-        fault_ +=
-            fmt::format("text of the box \"{}\"\n  expected: {}\n  found:    {}\n", box.title, *box.text, meldung.text);
+    if (foretold.title != box.title)
+        fault_ += fmt::format("title of a box\n  expected: {}\n  found:    {}\n", foretold.title, box.title);
+    if (foretold.text && *foretold.text != box.text)
+        fault_ += fmt::format("text of the box \"{}\"\n  expected: {}\n  found:    {}\n", foretold.title,
+                              *foretold.text, box.text);
     for (const auto& [name, answer] : ANSWERS)
-        if (name == box.answer && offers(meldung.knoepfe, answer))
+        if (name == foretold.answer && offers(box.buttons, answer))
             return answer;
-    fault_ += fmt::format("the box \"{}\" has no button \"{}\"\n", meldung.titel, box.answer);
-    return mildest(meldung.knoepfe);
+    fault_ += fmt::format("the box \"{}\" has no button \"{}\"\n", box.title, foretold.answer);
+    return mildest(box.buttons);
 }
 
 void ExpectedBoxes::check()
 {
     auto fault = std::exchange(fault_, {});
-    for (const auto& box : boxes_)
-        fault += fmt::format("a box did not come: \"{}\"\n", box.title);
+    for (const auto& foretold : boxes_)
+        fault += fmt::format("a box did not come: \"{}\"\n", foretold.title);
     boxes_.clear();
     if (!fault.empty())
         throw Difference(fault.substr(0, fault.size() - 1));

@@ -10,10 +10,10 @@
 namespace quelvarn::scenario {
 
 // Answers boxes as the scenario foretold: each in its order, with its title and, when given, its whole text.
-class ExpectedBoxes final : public Meldungen
+class ExpectedBoxes final : public Boxes
 {
 public:
-    struct Box
+    struct Foretold
     {
         std::string title;
         std::optional<std::string> text;
@@ -21,16 +21,16 @@ public:
         std::string place;
     };
 
-    void expect(Box box) { boxes_.push_back(std::move(box)); }
-    Antwort zeige(const Meldung& meldung) override;
+    void expect(Foretold foretold) { boxes_.push_back(std::move(foretold)); }
+    Answer show(const Box& box) override;
 
     // Throws Difference for what went wrong in a box since the last call, and for boxes that never came.
     void check();
-    const std::optional<Meldung>& last() const { return last_; }
+    const std::optional<Box>& last() const { return last_; }
 
 private:
-    std::deque<Box> boxes_;
-    std::optional<Meldung> last_;
+    std::deque<Foretold> boxes_;
+    std::optional<Box> last_;
     // A box is shown deep inside the program, where a Difference must not pass; it waits here for the step's end.
     std::string fault_;
 };

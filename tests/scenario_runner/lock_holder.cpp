@@ -91,7 +91,7 @@ LockHolder::~LockHolder()
 int holdLock(const std::string& mode, const std::string& registerFile)
 {
     try {
-        if (erkenneDatenbank(registerFile) == DatenbankArt::PostgreSQL)
+        if (recognizeDatabase(registerFile) == DatabaseKind::PostgreSQL)
             holdPostgres(mode, registerFile);
         else
             holdSqlite(mode, registerFile);

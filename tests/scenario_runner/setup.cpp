@@ -43,7 +43,7 @@ std::string newServerDatabase(const std::filesystem::path& file)
         server->start();
     }
 #endif
-    const auto address = cluster->neueDatenbank();
+    const auto address = cluster->newDatabase();
     std::ofstream(file, std::ios::binary) << address << "\n";
     return address;
 }
@@ -86,10 +86,10 @@ void lastDatabase(World& world, const Step& step)
 
 void expectBox(World& world, const Step& step)
 {
-    ExpectedBoxes::Box box{step.word(1), {}, step.has(2) ? step.word(2) : "OK", step.file};
+    ExpectedBoxes::Foretold foretold{step.word(1), {}, step.has(2) ? step.word(2) : "OK", step.file};
     if (!step.text.empty())
-        box.text = step.joinedText();
-    world.boxes.expect(std::move(box));
+        foretold.text = step.joinedText();
+    world.boxes.expect(std::move(foretold));
 }
 
 } // namespace
@@ -111,7 +111,7 @@ void addSetupVerbs(Verbs& verbs)
     verbs["use-register"] = [](World& world, const Step& step) { world.useRegister(step.word(1)); };
     verbs["last-database"] = lastDatabase;
     verbs["file"] = makeFile;
-    verbs["remove"] = [](World& world, const Step& step) { world.files().loesche(step.word(1)); };
+    verbs["remove"] = [](World& world, const Step& step) { world.files().remove(step.word(1)); };
     verbs["sql"] = [](World& world, const Step& step) {
         const std::string more = step.text.empty() ? "" : "\n" + step.joinedText();
         world.connect().Execute(test::statement(step.word(1) + more));

@@ -31,19 +31,19 @@ namespace quelvarn::scenario {
 struct World::Parts
 {
     TempFolder folder;
-    FakeUhr clock;
-    FakeUmgebung environment;
-    FakeDrucker printers;
-    FakeProgramme programs;
-    FakeZwischenablage clipboard;
-    FakeStandardanwendung opener;
-    QtFortschritt progress;
+    FakeClock clock;
+    FakeEnvironment environment;
+    FakePrinters printers;
+    FakePrograms programs;
+    FakeClipboard clipboard;
+    FakeDefaultApplication opener;
+    QtProgress progress;
     std::unique_ptr<SystemPorts> system;
     std::unique_ptr<Ports> ports;
-    std::unique_ptr<Darstellung> appearance;
+    std::unique_ptr<Appearance> appearance;
     // Gone when the program has ended.
     std::unique_ptr<SessionState> session;
-    std::unique_ptr<Arbeitsplatz> workplace;
+    std::unique_ptr<Workplace> workplace;
     bool ended = false;
     std::unique_ptr<LockHolder> lock;
     std::unique_ptr<RealProgram> realProgram;
@@ -54,16 +54,16 @@ struct World::Parts
 World::World(std::string pictureFolder) : parts_(std::make_unique<Parts>()), pictureFolder_(std::move(pictureFolder))
 {
     std::filesystem::create_directories(parts_->drives());
-    parts_->environment.rechner = "CAD-WS01";
-    parts_->environment.anwender = "Meier";
-    parts_->clock.zeit = Zeitpunkt::aus({2026, 11, 22, 8, 0, 0});
-    parts_->printers.standarddrucker = Standarddrucker{"Buero"};
+    parts_->environment.computer = "CAD-WS01";
+    parts_->environment.user = "Meier";
+    parts_->clock.time = DateTime::out({2026, 11, 22, 8, 0, 0});
+    parts_->printers.defaultPrinter = DefaultPrinter{"Buero"};
     parts_->system = systemPorts(parts_->drives());
-    parts_->ports = std::make_unique<Ports>(Ports{boxes, parts_->clock, parts_->environment, parts_->system->dateien(),
-                                                  parts_->system->laufwerke(), parts_->printers, parts_->programs,
+    parts_->ports = std::make_unique<Ports>(Ports{boxes, parts_->clock, parts_->environment, parts_->system->files(),
+                                                  parts_->system->drives(), parts_->printers, parts_->programs,
                                                   parts_->clipboard, parts_->opener, parts_->progress});
-    parts_->appearance = std::make_unique<Darstellung>(qt((parts_->folder.path() / "darstellung.ini").string()));
-    parts_->appearance->setzeModus(Modus::Hell);
+    parts_->appearance = std::make_unique<Appearance>(qt((parts_->folder.path() / "darstellung.ini").string()));
+    parts_->appearance->setMode(Mode::Light);
     addDrive("c");
     addDrive("w");
 }
@@ -76,17 +76,17 @@ World::~World()
 
 void World::setUser(const std::string& name)
 {
-    parts_->environment.anwender = name;
+    parts_->environment.user = name;
 }
 
 void World::setSystemUser()
 {
-    setUser(parts_->system->umgebung().anwendername());
+    setUser(parts_->system->environment().userName());
 }
 
 void World::setComputer(const std::string& name)
 {
-    parts_->environment.rechner = name;
+    parts_->environment.computer = name;
 }
 
 void World::setClock(const std::string& iso)
@@ -94,12 +94,12 @@ void World::setClock(const std::string& iso)
     const auto time = parseIso(iso);
     if (!time)
         throw Difference(fmt::format("\"{}\" is no time (YYYY-MM-DD HH:MM:SS)", iso));
-    parts_->clock.zeit = *time;
+    parts_->clock.time = *time;
 }
 
 void World::advance(int seconds)
 {
-    parts_->clock.vor(seconds);
+    parts_->clock.before(seconds);
 }
 
 void World::addDrive(const std::string& letter)
@@ -114,51 +114,51 @@ void World::addShare(const std::string& letter, const std::string& share)
 
 void World::setPrinter(const std::string& name, int paper, int copies, int orientation)
 {
-    parts_->printers.standarddrucker = Standarddrucker{name, paper, copies, orientation};
+    parts_->printers.defaultPrinter = DefaultPrinter{name, paper, copies, orientation};
 }
 
 void World::removePrinters()
 {
-    parts_->printers.drucker.clear();
-    parts_->printers.standarddrucker.reset();
+    parts_->printers.printers.clear();
+    parts_->printers.defaultPrinter.reset();
 }
 
 void World::addForeignWindow(const std::string& caption)
 {
-    parts_->programs.andere.push_back(caption);
+    parts_->programs.other.push_back(caption);
 }
 
 void World::clearForeignWindows()
 {
-    parts_->programs.andere.clear();
+    parts_->programs.other.clear();
 }
 
 void World::setClipboard(const std::string& text)
 {
-    parts_->clipboard.inhalt = text;
+    parts_->clipboard.content = text;
 }
 
 void World::look(bool dark)
 {
-    parts_->appearance->setzeModus(dark ? Modus::Dunkel : Modus::Hell);
-    parts_->appearance->wendeAn(*qApp);
+    parts_->appearance->setMode(dark ? Mode::Dark : Mode::Light);
+    parts_->appearance->apply(*qApp);
 }
 
 void World::start()
 {
     parts_->ended = false;
-    parts_->appearance->wendeAn(*qApp);
+    parts_->appearance->apply(*qApp);
     parts_->session = std::make_unique<SessionState>();
-    parts_->session->database.Verbindung.setPatience(&waits);
+    parts_->session->database.connection.setPatience(&waits);
     {
-        Waechter guard(boxes, [this] { parts_->ended = true; });
-        guard.fuehreAus([this] { Main(*parts_->session, *parts_->ports); });
+        SlotGuard guard(boxes, [this] { parts_->ended = true; });
+        guard.execute([this] { Main(*parts_->session, *parts_->ports); });
     }
     if (parts_->ended)
         return parts_->session.reset();
-    parts_->workplace = std::make_unique<Arbeitsplatz>(*parts_->session, *parts_->ports, *parts_->appearance,
-                                                       [this] { parts_->ended = true; });
-    if (!parts_->workplace->starte())
+    parts_->workplace = std::make_unique<Workplace>(*parts_->session, *parts_->ports, *parts_->appearance,
+                                                    [this] { parts_->ended = true; });
+    if (!parts_->workplace->start())
         parts_->ended = true;
     settle();
 }
@@ -180,7 +180,7 @@ QWidget& World::mainWindow() const
 {
     if (parts_->workplace == nullptr)
         throw Difference("the program does not run");
-    return parts_->workplace->fenster();
+    return parts_->workplace->window();
 }
 
 void World::settle() const
@@ -228,19 +228,19 @@ RealProgram& World::realProgram() const
     return *parts_->realProgram;
 }
 
-Dateien& World::files() const
+Files& World::files() const
 {
-    return parts_->system->dateien();
+    return parts_->system->files();
 }
 
 std::filesystem::path World::realPath(const std::string& windowsPath) const
 {
-    return files().systempfad(windowsPath);
+    return files().systemPath(windowsPath);
 }
 
 std::string World::fileText(const std::string& windowsPath) const
 {
-    auto text = files().lese(windowsPath);
+    auto text = files().read(windowsPath);
     std::erase(text, '\r');
     if (text.ends_with('\n'))
         text.pop_back();
@@ -249,12 +249,12 @@ std::string World::fileText(const std::string& windowsPath) const
 
 std::string World::clipboardText() const
 {
-    return parts_->clipboard.inhalt;
+    return parts_->clipboard.content;
 }
 
 std::string World::lastOpened() const
 {
-    return parts_->opener.geoeffnet.empty() ? "" : parts_->opener.geoeffnet.back();
+    return parts_->opener.opened.empty() ? "" : parts_->opener.opened.back();
 }
 
 Connection World::connect() const

@@ -13,7 +13,7 @@
 class QWidget;
 
 namespace quelvarn {
-class Dateien;
+class Files;
 }
 
 namespace quelvarn::scenario {
@@ -63,7 +63,7 @@ public:
     RealProgram& realProgram() const;
 
     // --- what can be looked at ---
-    Dateien& files() const;
+    Files& files() const;
     std::filesystem::path realPath(const std::string& windowsPath) const;
     std::string fileText(const std::string& windowsPath) const;
     std::string clipboardText() const;

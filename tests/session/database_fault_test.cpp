@@ -13,109 +13,109 @@ namespace quelvarn {
 class FaultsAtTheStart : public RegisterTest
 {
 protected:
-    void erwarteFehler(const std::string& pfad, const std::string& abschnitt)
+    void expectFault(const std::string& documentPath, const std::string& section)
     {
-        world.meldungen.erwarte(
+        world.boxes.expect(
             "Fehler beim Öffnen der Datenbank",
-            pfad + "\n\nFehler beim Öffnen, Lesen oder Bearbeiten der Datenbank!\n\nFehler bei: " + abschnitt +
+            documentPath + "\n\nFehler beim Öffnen, Lesen oder Bearbeiten der Datenbank!\n\nFehler bei: " + section +
                 "\n\nMögliche Ursache:\n- Datenbank ist schreibgeschützt.\n"
                 "- Vergleichen sie den Aufbau ihrer Tabellen mit der neuesten Template.\n"
                 "- Falscher Eintrag beim Editieren der Ini-Tabelle.\n"
                 "- Sie benutzen ein älteres Format von Access.\n"
                 "- Alle Benutzer der Datenbank benötigen 'Vollzugriff'.\n"
                 "   Überprüfen Sie die Sicherheitseinstellungen der Datenbank.");
-        world.meldungen.antworte(Antwort::Ok); // Fehlermeldung
+        world.boxes.answer(Answer::Ok); // Fehlermeldung
     }
-    void scheitert()
+    void fails()
     {
         EXPECT_FALSE(Hauptprogramm(session, ports));
         EXPECT_EQ(session.database.DatenbankPfad, "");
-        EXPECT_FALSE(session.database.Verbindung.offen());
-        EXPECT_FALSE(session.use.CheckInOut.offen());
+        EXPECT_FALSE(session.database.connection.open());
+        EXPECT_FALSE(session.use.CheckInOut.open());
     }
-    void erwarteKeinRegister()
+    void expectNoRegister()
     {
-        world.meldungen.erwarte("Modul: Ini-Tabelle fehlt", "Es wurde keine Datenbank vom Typ 'Quelvarnis' ausgewählt\n"
-                                                            "oder es fehlt die Ini-Tabelle in der Datenbank!");
+        world.boxes.expect("Modul: Ini-Tabelle fehlt", "Es wurde keine Datenbank vom Typ 'Quelvarnis' ausgewählt\n"
+                                                       "oder es fehlt die Ini-Tabelle in der Datenbank!");
     }
     // The session's database becomes a new one with this table only.
-    void nurMit(const Tabellenschema& tabelle)
+    void onlyWith(const TableSchema& table)
     {
-        oeffneSqlite(ordner / "andere.db", true)->legeTabelleAn(tabelle);
-        world.dateien.verbinde(REGISTERPFAD, ordner / "andere.db");
+        openSqlite(folder / "andere.db", true)->createTable(table);
+        world.files.connect(REGISTER_PATH, folder / "andere.db");
     }
-    void schreibe(const std::string& name, const std::string& inhalt)
+    void write(const std::string& name, const std::string& content)
     {
-        std::ofstream(ordner / name, std::ios::binary) << inhalt;
-        world.dateien.verbinde(REGISTERPFAD, ordner / name);
+        std::ofstream(folder / name, std::ios::binary) << content;
+        world.files.connect(REGISTER_PATH, folder / name);
     }
 };
 
 TEST_F(FaultsAtTheStart, FilesThatAreNoRegisterAreRefused)
 {
-    erwarteKeinRegister();
-    nurMit({"Anderes", {{"Feld1", FeldTyp::Text}}, {}});
-    scheitert();
+    expectNoRegister();
+    onlyWith({"Anderes", {{"Feld1", FieldType::Text}}, {}});
+    fails();
 
-    session.database.DatenbankPfad = REGISTERPFAD;
-    erwarteKeinRegister();
-    schreibe("text.mdb", "Nur ein Text.");
-    scheitert();
+    session.database.DatenbankPfad = REGISTER_PATH;
+    expectNoRegister();
+    write("text.mdb", "Nur ein Text.");
+    fails();
 }
 
 TEST_F(FaultsAtTheStart, AMissingFileAndAnAccessFileFailAtTheConnection)
 {
     session.database.DatenbankPfad = "W:\\weg.mdb";
-    erwarteFehler("W:\\weg.mdb", "Verbindung zur Datenbank");
-    scheitert();
+    expectFault("W:\\weg.mdb", "Verbindung zur Datenbank");
+    fails();
 
-    session.database.DatenbankPfad = REGISTERPFAD;
-    erwarteFehler(REGISTERPFAD, "Verbindung zur Datenbank");
-    schreibe("access.mdb", std::string("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24) + std::string(4096, '\0'));
-    scheitert();
-    EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("Treiber für Access"));
+    session.database.DatenbankPfad = REGISTER_PATH;
+    expectFault(REGISTER_PATH, "Verbindung zur Datenbank");
+    write("access.mdb", std::string("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24) + std::string(4096, '\0'));
+    fails();
+    EXPECT_THAT(world.boxes.last().text, ::testing::HasSubstr("Treiber für Access"));
 }
 
 TEST_F(FaultsAtTheStart, ATableThatLacksAColumnFailsInTheStepThatNeedsIt)
 {
-    Tabellenschema ini{"Ini", {}, {}};
-    for (const char* feld : {"Feld1", "Feld2", "Feld3", "Feld4"})
-        ini.spalten.push_back({feld, FeldTyp::Text});
-    nurMit(ini);
-    erwarteFehler(REGISTERPFAD, "Berechtigung eintragen");
-    scheitert();
+    TableSchema ini{"Ini", {}, {}};
+    for (const char* field : {"Feld1", "Feld2", "Feld3", "Feld4"})
+        ini.columns.push_back({field, FieldType::Text});
+    onlyWith(ini);
+    expectFault(REGISTER_PATH, "Berechtigung eintragen");
+    fails();
 }
 
 TEST_F(FaultsAtTheStart, ANullWhereATextMustStandFailsInItsStep)
 {
-    meldeAn();
+    addListener();
     const struct
     {
-        std::string gruppe, zeile, abschnitt;
-    } faelle[] = {
+        std::string group, row, section;
+    } cases[] = {
         {"Feld2 = 'ZipDaten'", "mueller|ZipDaten|Normal|~|~", "Lesen der ZIP-Daten 'Anwender'"},
         {"Feld3 = 'Offline'", "!QV_Ini|Plot|Offline|~|~", "Lesen der Einstellung zum Offline-Plotten 'Allgemein'"},
         // This step has no label of its own.
         {"Feld2 = 'Suchen/Filtern'", "mueller|Suchen/Filtern|Text0|~|~", "Lesen der Bezeichnungen"},
     };
-    for (const auto& fall : faelle) {
-        const auto vorher = iniZeilen(fall.gruppe);
-        loesche(fall.gruppe);
-        fuegeEin({fall.zeile});
-        session.database.DatenbankPfad = REGISTERPFAD;
-        erwarteFehler(REGISTERPFAD, fall.abschnitt);
-        scheitert();
-        loesche(fall.gruppe);
-        fuegeEin(vorher);
+    for (const auto& testCase : cases) {
+        const auto before = iniRows(testCase.group);
+        remove(testCase.group);
+        insert({testCase.row});
+        session.database.DatenbankPfad = REGISTER_PATH;
+        expectFault(REGISTER_PATH, testCase.section);
+        fails();
+        remove(testCase.group);
+        insert(before);
     }
 }
 
 TEST_F(FaultsAtTheStart, CancelEndsTheProgram)
 {
     session.database.DatenbankPfad = "W:\\weg.mdb";
-    world.meldungen.antworte();
-    world.meldungen.antworte(Antwort::Abbrechen);
-    EXPECT_THROW(Hauptprogramm(session, ports), ProgrammEnde);
+    world.boxes.answer();
+    world.boxes.answer(Answer::Cancel);
+    EXPECT_THROW(Hauptprogramm(session, ports), ProgramExit);
 }
 
 TEST_F(FaultsAtTheStart, AServerThatRefusesToReadIsNoWrongFile)
@@ -123,32 +123,32 @@ TEST_F(FaultsAtTheStart, AServerThatRefusesToReadIsNoWrongFile)
     test::PostgresCluster* cluster = test::PostgresCluster::find();
     if (!cluster)
         GTEST_SKIP() << "no PostgreSQL server is installed here";
-    const std::string address = cluster->neueDatenbank();
-    legeRegisterAn(*oeffnePostgres(address));
-    cluster->frage(address, "DO $$ BEGIN CREATE ROLE gast LOGIN; EXCEPTION WHEN duplicate_object THEN END $$;"
-                            "GRANT USAGE ON SCHEMA public TO gast");
-    erwarteFehler(REGISTERPFAD, "Prüfen auf Quelvarnis-Datenbank");
-    schreibe("postgres.mdb", address + "&user=gast");
-    scheitert();
-    EXPECT_THAT(world.meldungen.letzte().text, ::testing::HasSubstr("Für die Datenbank fehlen die nötigen Rechte."));
-    cluster->gibFrei(address);
+    const std::string address = cluster->newDatabase();
+    createRegister(*openPostgres(address));
+    cluster->ask(address, "DO $$ BEGIN CREATE ROLE gast LOGIN; EXCEPTION WHEN duplicate_object THEN END $$;"
+                          "GRANT USAGE ON SCHEMA public TO gast");
+    expectFault(REGISTER_PATH, "Prüfen auf Quelvarnis-Datenbank");
+    write("postgres.mdb", address + "&user=gast");
+    fails();
+    EXPECT_THAT(world.boxes.last().text, ::testing::HasSubstr("Für die Datenbank fehlen die nötigen Rechte."));
+    cluster->release(address);
 }
 
 #ifndef _WIN32
 TEST_F(FaultsAtTheStart, AReadOnlyRegisterFailsAtTheFirstWriteAndKeepsNothing)
 {
     db.Close();
-    std::filesystem::permissions(ordner.path(), std::filesystem::perms(0555));
-    std::filesystem::permissions(datei, std::filesystem::perms(0444));
-    erwarteFehler(REGISTERPFAD, "Berechtigung eintragen");
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0555));
+    std::filesystem::permissions(file, std::filesystem::perms(0444));
+    expectFault(REGISTER_PATH, "Berechtigung eintragen");
     // The administrator may write everywhere.
-    const bool verwalter = geteuid() == 0 && seteuid(65534) == 0;
-    scheitert();
-    ASSERT_TRUE(!verwalter || seteuid(0) == 0);
-    std::filesystem::permissions(ordner.path(), std::filesystem::perms(0755));
-    std::filesystem::permissions(datei, std::filesystem::perms(0644));
-    db.Open(datei);
-    EXPECT_THAT(iniZeilen("Feld1 = 'mueller'"), ::testing::IsEmpty());
+    const bool manager = geteuid() == 0 && seteuid(65534) == 0;
+    fails();
+    ASSERT_TRUE(!manager || seteuid(0) == 0);
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(file, std::filesystem::perms(0644));
+    db.Open(file);
+    EXPECT_THAT(iniRows("Feld1 = 'mueller'"), ::testing::IsEmpty());
 }
 #endif
 

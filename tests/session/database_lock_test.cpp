@@ -14,19 +14,19 @@ using ::testing::HasSubstr;
 class LockedRegister : public RegisterTest
 {
 protected:
-    LockedRegister() { session.database.Verbindung.setPatience(&patience); }
+    LockedRegister() { session.database.connection.setPatience(&patience); }
 
     FakePatience patience{0};
 };
 
 TEST_F(LockedRegister, GivingUpAtTheStartLeavesNoDatabase)
 {
-    const Transaktion writing(db); // The first start writes the user's rows.
-    world.meldungen.antworte();
-    world.meldungen.antworte();
+    const Transaction writing(db); // The first start writes the user's rows.
+    world.boxes.answer();
+    world.boxes.answer();
     EXPECT_FALSE(Hauptprogramm(session, ports));
-    EXPECT_EQ(world.meldungen.gezeigt.at(0).titel, "Fehler beim Öffnen der Datenbank");
-    EXPECT_THAT(world.meldungen.letzte().text, HasSubstr("Das Warten auf die Datenbank wurde abgebrochen."));
+    EXPECT_EQ(world.boxes.shown.at(0).title, "Fehler beim Öffnen der Datenbank");
+    EXPECT_THAT(world.boxes.last().text, HasSubstr("Das Warten auf die Datenbank wurde abgebrochen."));
     EXPECT_EQ(session.database.DatenbankPfad, "");
 }
 
@@ -35,18 +35,18 @@ TEST_F(LockedRegister, TheProgramEndsAllTheSameAndTellsThatItsSettingsAreLost)
     MainWindow frame(session, operations, {});
     StartPage start(session, operations, frame);
     bool ended = false;
-    frame.beendet = [&] { ended = true; };
-    meldeAn();
+    frame.ended = [&] { ended = true; };
+    addListener();
     ASSERT_TRUE(frame.laden());
-    frame.zuSeite(Seite::Start);
-    start.setzeInfoPrio1(0, false);
-    const Transaktion writing(db);
-    world.meldungen.erwarte("Schließen der Startseite",
-                            "Fehler beim Schließen der Startseite!\nDie Einstellungen wurden nicht gespeichert.");
-    world.meldungen.antworte();
-    frame.entladen();
+    frame.toPage(Page::Start);
+    start.setInfoPrio1(0, false);
+    const Transaction writing(db);
+    world.boxes.expect("Schließen der Startseite",
+                       "Fehler beim Schließen der Startseite!\nDie Einstellungen wurden nicht gespeichert.");
+    world.boxes.answer();
+    frame.unload();
     EXPECT_TRUE(ended);
-    EXPECT_THAT(world.meldungen.letzte().text, HasSubstr("Das Warten auf die Datenbank wurde abgebrochen."));
+    EXPECT_THAT(world.boxes.last().text, HasSubstr("Das Warten auf die Datenbank wurde abgebrochen."));
 }
 
 } // namespace quelvarn

@@ -11,18 +11,15 @@ using ::testing::UnorderedElementsAre;
 
 namespace {
 
-struct Beobachter : Rahmenteilnehmer
+struct Observer : SessionListener
 {
-    void seiteGezeigt(Seite seite) override
-    {
-        ereignisse.push_back("Seite " + std::to_string(static_cast<int>(seite)));
-    }
-    void datenbankWechselt() override { ereignisse.emplace_back("wechselt"); }
-    void datenbankGewechselt() override { ereignisse.emplace_back("gewechselt"); }
-    void baumschalterGeaendert() override { ereignisse.emplace_back("Baum"); }
-    void offlineToolGeaendert() override { ereignisse.emplace_back("Offline"); }
-    void entladen() override { ereignisse.emplace_back("entladen"); }
-    std::vector<std::string> ereignisse;
+    void pageShown(Page page) override { events.push_back("Seite " + std::to_string(static_cast<int>(page))); }
+    void databaseChanges() override { events.emplace_back("wechselt"); }
+    void databaseChanged() override { events.emplace_back("gewechselt"); }
+    void treeSwitchesChanged() override { events.emplace_back("Baum"); }
+    void offlineToolChanged() override { events.emplace_back("Offline"); }
+    void unload() override { events.emplace_back("entladen"); }
+    std::vector<std::string> events;
 };
 
 } // namespace
@@ -32,116 +29,116 @@ class Frame : public RegisterTest
 protected:
     Frame()
     {
-        rahmen.meldeAn(beobachter);
-        rahmen.beendet = [this] { beendet = true; };
+        frame.addListener(observer);
+        frame.ended = [this] { ended = true; };
     }
-    void ohneDatenbank()
+    void withoutDatabase()
     {
         session.database.DatenbankPfad.clear();
-        ASSERT_TRUE(rahmen.laden());
+        ASSERT_TRUE(frame.laden());
     }
-    void mitDatenbank()
+    void withDatabase()
     {
-        meldeAn();
-        ASSERT_TRUE(rahmen.laden());
+        addListener();
+        ASSERT_TRUE(frame.laden());
     }
     // What is visible of the tool bar, by first letters, and the first button's tip.
-    std::string werkzeuge() const
+    std::string tools() const
     {
         std::string text;
-        for (int i = 0; i < ANZAHL_WERKZEUGE; ++i)
-            if (rahmen.knopf(static_cast<Werkzeug>(i)).sichtbar)
-                text += rahmen.knopf(static_cast<Werkzeug>(i)).beschriftung.substr(0, 2);
-        return text + "/" + std::string(rahmen.knopf(Werkzeug::Bearbeiten).tooltip);
+        for (int i = 0; i < TOOL_COUNT; ++i)
+            if (frame.button(static_cast<Tool>(i)).visible)
+                text += frame.button(static_cast<Tool>(i)).caption.substr(0, 2);
+        return text + "/" + std::string(frame.button(Tool::Edit).tooltip);
     }
-    void waehle(const std::string& name, Antwort antwort, const std::string& von, const std::string& nach)
+    void choose(const std::string& name, Answer answer, const std::string& from, const std::string& after)
     {
-        world.meldungen.erwarte("Wechsel der Datenbank",
-                                "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank\n\nvon:    " + von +
-                                    "\nnach:  " + nach + "\n\nMöchten Sie fortfahren?",
-                                antwort);
-        start.dateiGewaehlt(name);
+        world.boxes.expect("Wechsel der Datenbank",
+                           "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank\n\nvon:    " + from +
+                               "\nnach:  " + after + "\n\nMöchten Sie fortfahren?",
+                           answer);
+        start.fileChosen(name);
     }
 
-    MainWindow rahmen{session, operations, {}};
-    StartPage start{session, operations, rahmen};
-    Beobachter beobachter;
-    bool beendet = false;
+    MainWindow frame{session, operations, {}};
+    StartPage start{session, operations, frame};
+    Observer observer;
+    bool ended = false;
 };
 
 TEST_F(Frame, WithoutADatabaseOnlyTheStartPageIsReached)
 {
-    ohneDatenbank();
-    EXPECT_EQ(rahmen.titel(), "    Quelvarn Version 2.0.0");
-    EXPECT_EQ(world.programme.eigener, rahmen.titel());
-    EXPECT_EQ(rahmen.seite(), Seite::Start);
+    withoutDatabase();
+    EXPECT_EQ(frame.title(), "    Quelvarn Version 2.0.0");
+    EXPECT_EQ(world.programs.own, frame.title());
+    EXPECT_EQ(frame.page(), Page::Start);
     EXPECT_EQ(start.LabelDB(), "");
-    EXPECT_EQ(start.auswahl().ordner(), "C:\\");
-    EXPECT_THAT(rahmen.statuspanel(),
+    EXPECT_EQ(start.selection().folder(), "C:\\");
+    EXPECT_THAT(frame.statusPanel(),
                 ElementsAre("Änderung DB (0,0 Sek-Takt):",
                             "Keine laufende Überprüfung der Datenbank (siehe Ini-Tabelle 'Timeinterval')."));
-    EXPECT_FALSE(rahmen.TimerDBUpdate().an);
+    EXPECT_FALSE(frame.TimerDBUpdate().on);
 
-    for (const Seite seite : {Seite::Filter, Seite::Dokumente}) {
-        world.meldungen.erwarte("Auswahl Datenbank", "Es ist keine Datenbank ausgewählt!");
-        rahmen.zuSeite(seite);
-        EXPECT_EQ(rahmen.seite(), Seite::Start);
+    for (const Page page : {Page::Filter, Page::Documents}) {
+        world.boxes.expect("Auswahl Datenbank", "Es ist keine Datenbank ausgewählt!");
+        frame.toPage(page);
+        EXPECT_EQ(frame.page(), Page::Start);
     }
-    world.meldungen.erwarte("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
-    start.oeffnen();
-    const std::string frage = "Es wurde keine Datenbank ausgewählt!\n\nMöchten Sie Quelvarn beenden?\n";
-    world.meldungen.erwarte("Auswahl Datenbank", frage, Antwort::Nein);
-    start.verlassen();
-    EXPECT_FALSE(beendet);
-    world.meldungen.erwarte("Auswahl Datenbank", frage, Antwort::Ja);
-    start.verlassen();
-    EXPECT_TRUE(beendet);
+    world.boxes.expect("Start: Name der Datenbank", "Es wurde keine Datenbank ausgewählt");
+    start.open();
+    const std::string ask = "Es wurde keine Datenbank ausgewählt!\n\nMöchten Sie Quelvarn beenden?\n";
+    world.boxes.expect("Auswahl Datenbank", ask, Answer::No);
+    start.leave();
+    EXPECT_FALSE(ended);
+    world.boxes.expect("Auswahl Datenbank", ask, Answer::Yes);
+    start.leave();
+    EXPECT_TRUE(ended);
 }
 
 TEST_F(Frame, WithADatabaseTheDocumentPageComesFirst)
 {
-    mitDatenbank();
-    EXPECT_EQ(rahmen.titel(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
-    EXPECT_THAT(beobachter.ereignisse, ElementsAre("Seite 3"));
-    EXPECT_THAT(rahmen.statuspanel(), ElementsAre("Änderung DB (30,0 Sek-Takt):", "Bauteil", "", "Blechteil", "",
-                                                  "Baugruppe", "", "Zeichnung", "", "Schweißteil", ""));
-    EXPECT_EQ(rahmen.TimerDBUpdate().intervall, 30000);
-    EXPECT_TRUE(rahmen.TimerCheckInOut().an && rahmen.TimerWorkflow().an);
-    EXPECT_EQ(benachrichtigungstext(session), "Innerhalb 30,0 Sek. benachrichtigen Ja/Nein.");
+    withDatabase();
+    EXPECT_EQ(frame.title(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
+    EXPECT_THAT(observer.events, ElementsAre("Seite 3"));
+    EXPECT_THAT(frame.statusPanel(), ElementsAre("Änderung DB (30,0 Sek-Takt):", "Bauteil", "", "Blechteil", "",
+                                                 "Baugruppe", "", "Zeichnung", "", "Schweißteil", ""));
+    EXPECT_EQ(frame.TimerDBUpdate().interval, 30000);
+    EXPECT_TRUE(frame.TimerCheckInOut().on && frame.TimerWorkflow().on);
+    EXPECT_EQ(notificationText(session), "Innerhalb 30,0 Sek. benachrichtigen Ja/Nein.");
 
-    rahmen.zuSeite(Seite::Start);
-    EXPECT_EQ(start.LabelDB() + start.dateinamePanel() + "+" + start.pfadnamePanel(),
+    frame.toPage(Page::Start);
+    EXPECT_EQ(start.LabelDB() + start.fileNamePanel() + "+" + start.pathNamePanel(),
               "  Datenbank:  werk.mdb  Datenbank:  werk.mdb+W:\\Daten");
-    EXPECT_THAT(start.auswahl().dateien(), ElementsAre("werk.mdb"));
-    start.verlassen();
-    EXPECT_EQ(rahmen.seite(), Seite::Dokumente);
+    EXPECT_THAT(start.selection().files(), ElementsAre("werk.mdb"));
+    start.leave();
+    EXPECT_EQ(frame.page(), Page::Documents);
 }
 
 TEST_F(Frame, ToolBarFollowsRightsEventsAndForwarding)
 {
     const struct
     {
-        std::array<int, ANZAHL_STATUS> sichtbar;
-        bool aktiv, forward;
-        std::string viewer, werkzeuge;
-    } faelle[] = {
+        std::array<int, STATUS_COUNT> visible;
+        bool active, forward;
+        std::string viewer, tools;
+    } cases[] = {
         {{1, 1, 1, 0, 0, 0}, true, true, "", "BeEiPlSmExWeNaBe/Bearbeiten mit SE, Ereignisse sind aktiv!"},
         {{1, 1, 1, 0, 0, 0}, false, false, "", "BeSmBe/Bearbeiten mit SE"},
         {{1, 1, 0, 1, 1, 1}, true, true, "", "SmExWeNaBe/Bearbeiten mit Solid Edge"},
         {{1, 1, 1, 1, 1, 1}, true, true, "C:\\SmartView", "SmExWeNaBe/Bearbeiten mit Solid Edge"},
     };
-    for (const auto& fall : faelle) {
-        session.rights.Sichtbar = fall.sichtbar;
-        session.pages.ActiveQuelvarn = fall.aktiv;
-        session.use.ForwardOn = fall.forward;
-        MainWindow fenster(session, operations, {"16", fall.viewer});
-        fenster.stelleWerkzeugeEin();
+    for (const auto& testCase : cases) {
+        session.rights.Sichtbar = testCase.visible;
+        session.pages.ActiveQuelvarn = testCase.active;
+        session.use.ForwardOn = testCase.forward;
+        MainWindow window(session, operations, {"16", testCase.viewer});
+        window.configureTools();
         std::string text;
-        for (int i = 0; i < ANZAHL_WERKZEUGE; ++i)
-            if (fenster.knopf(static_cast<Werkzeug>(i)).sichtbar)
-                text += fenster.knopf(static_cast<Werkzeug>(i)).beschriftung.substr(0, 2);
-        EXPECT_EQ(text + "/" + std::string(fenster.knopf(Werkzeug::Bearbeiten).tooltip), fall.werkzeuge);
-        EXPECT_EQ(session.pages.ActiveQuelvarn, fall.werkzeuge.starts_with("BeEi"));
+        for (int i = 0; i < TOOL_COUNT; ++i)
+            if (window.button(static_cast<Tool>(i)).visible)
+                text += window.button(static_cast<Tool>(i)).caption.substr(0, 2);
+        EXPECT_EQ(text + "/" + std::string(window.button(Tool::Edit).tooltip), testCase.tools);
+        EXPECT_EQ(session.pages.ActiveQuelvarn, testCase.tools.starts_with("BeEi"));
     }
 }
 
@@ -150,126 +147,125 @@ TEST_F(Frame, ForwardingThatIsOffAnswersWithABox)
     const std::string rest = "\nIni-Tabelle der Datenbank auf '0' gesetzt ist oder fehlt!\nEintrag muss lauten:\n"
                              "Spalte 'Feld1' = '!QV_Ini'\nSpalte 'Feld2' = 'OnOff'\nSpalte 'Feld3' = 'Forward'\n"
                              "Spalte 'Feld4' = '1'\nNach Änderung muss Quelvarn neu gestartet werden.";
-    int aktionen = 0;
-    rahmen.setzeAktion(Werkzeug::Weiterleiten, [&] { ++aktionen; });
-    world.meldungen.erwarte("Weiterleiten der Dokumente",
-                            "Kein Weiterleiten der Dokumente, da 'Forward' in der" + rest);
-    rahmen.werkzeugGewaehlt(Werkzeug::Weiterleiten);
-    world.meldungen.erwarte("Erfassen der Nachrichten",
-                            "Die Nachrichten werden nicht registriert, da 'Forward' in der" + rest);
-    rahmen.werkzeugGewaehlt(Werkzeug::Nachrichten);
-    EXPECT_EQ(aktionen, 0);
+    int actions = 0;
+    frame.setAction(Tool::Forward, [&] { ++actions; });
+    world.boxes.expect("Weiterleiten der Dokumente", "Kein Weiterleiten der Dokumente, da 'Forward' in der" + rest);
+    frame.toolChosen(Tool::Forward);
+    world.boxes.expect("Erfassen der Nachrichten",
+                       "Die Nachrichten werden nicht registriert, da 'Forward' in der" + rest);
+    frame.toolChosen(Tool::Messages);
+    EXPECT_EQ(actions, 0);
 
     session.use.ForwardOn = true;
-    rahmen.werkzeugGewaehlt(Werkzeug::Weiterleiten);
-    EXPECT_EQ(aktionen, 1);
-    rahmen.setzeAktion(Werkzeug::SmartViewer, [] { throw Laufzeitfehler(5, "x", "y"); });
-    world.meldungen.erwarte("Toolbar MDI-Form", "Fehler bei Toolbar MDI-Form!");
-    world.meldungen.antworte();
-    rahmen.werkzeugGewaehlt(Werkzeug::SmartViewer);
+    frame.toolChosen(Tool::Forward);
+    EXPECT_EQ(actions, 1);
+    frame.setAction(Tool::SmartViewer, [] { throw RuntimeError(5, "x", "y"); });
+    world.boxes.expect("Toolbar MDI-Form", "Fehler bei Toolbar MDI-Form!");
+    world.boxes.answer();
+    frame.toolChosen(Tool::SmartViewer);
 }
 
 TEST_F(Frame, ASecondCopyThatIsNotWantedEndsAtOnce)
 {
-    world.programme.andere = {"    Quelvarn Version 2.0.0"};
+    world.programs.other = {"    Quelvarn Version 2.0.0"};
     session.database.DatenbankPfad.clear();
-    world.meldungen.antworte(Antwort::Nein);
-    EXPECT_FALSE(rahmen.laden());
-    EXPECT_TRUE(beendet);
+    world.boxes.answer(Answer::No);
+    EXPECT_FALSE(frame.laden());
+    EXPECT_TRUE(ended);
 }
 
 TEST_F(Frame, ChoosingAndOpeningChangesTheDatabase)
 {
-    ohneDatenbank();
-    beobachter.ereignisse.clear();
-    start.laufwerkGewaehlt("w: [\\\\server\\konstruktion]");
-    EXPECT_THAT(start.auswahl().unterordner(), ElementsAre("Anderes", "Daten", "Plot"));
-    start.ordnerGewaehlt("W:\\Daten");
-    world.programme.andere = {"Harvel Version 2"};
-    world.meldungen.antworte();
-    start.dateiGewaehlt("werk.mdb");
+    withoutDatabase();
+    observer.events.clear();
+    start.driveChosen("w: [\\\\server\\konstruktion]");
+    EXPECT_THAT(start.selection().subfolder(), ElementsAre("Anderes", "Daten", "Plot"));
+    start.folderChosen("W:\\Daten");
+    world.programs.other = {"Harvel Version 2"};
+    world.boxes.answer();
+    start.fileChosen("werk.mdb");
     EXPECT_EQ(start.LabelDB(), "");
 
-    world.programme.andere.clear();
-    waehle("werk.mdb", Antwort::Ja, "", REGISTERPFAD);
+    world.programs.other.clear();
+    choose("werk.mdb", Answer::Yes, "", REGISTER_PATH);
     EXPECT_EQ(start.LabelDB(), "  Datenbank:  werk.mdb");
-    EXPECT_EQ(start.dateinamePanel() + "+" + start.pfadnamePanel(), "werk.mdb+W:\\Daten");
-    EXPECT_EQ(rahmen.titel(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
-    EXPECT_FALSE(session.database.Verbindung.offen());
+    EXPECT_EQ(start.fileNamePanel() + "+" + start.pathNamePanel(), "werk.mdb+W:\\Daten");
+    EXPECT_EQ(frame.title(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
+    EXPECT_FALSE(session.database.connection.open());
 
-    world.meldungen.antworte(); // The welcome.
-    start.oeffnen();
+    world.boxes.answer(); // The welcome.
+    start.open();
     EXPECT_TRUE(session.database.DatenbankOk);
-    EXPECT_THAT(beobachter.ereignisse, ElementsAre("wechselt", "gewechselt", "Seite 3"));
-    EXPECT_EQ(world.dateien.lese("C:\\Quelvarnis.ini"), "W:\\Daten\\werk.mdb\r\n");
-    EXPECT_FALSE(start.activeSEBereit()); // A new user does not see statuses 0 to 2.
-    EXPECT_EQ(werkzeuge(), "SmExWeNaBe/Bearbeiten mit Solid Edge");
-    EXPECT_TRUE(rahmen.TimerDBUpdate().an);
+    EXPECT_THAT(observer.events, ElementsAre("wechselt", "gewechselt", "Seite 3"));
+    EXPECT_EQ(world.files.read("C:\\Quelvarnis.ini"), "W:\\Daten\\werk.mdb\r\n");
+    EXPECT_FALSE(start.cadEventsReady()); // A new user does not see statuses 0 to 2.
+    EXPECT_EQ(tools(), "SmExWeNaBe/Bearbeiten mit Solid Edge");
+    EXPECT_TRUE(frame.TimerDBUpdate().on);
 }
 
 TEST_F(Frame, ARefusedChoiceKeepsTheDatabaseButNotTheRowsOfTheUnload)
 {
-    mitDatenbank();
-    rahmen.zuSeite(Seite::Start);
-    start.nachOben();
-    EXPECT_EQ(start.auswahl().ordner(), "W:\\");
-    start.nachOben();
-    EXPECT_EQ(start.auswahl().ordner(), "W:\\");
-    waehle("neu.mdb", Antwort::Nein, REGISTERPFAD, "W:\\neu.mdb");
-    EXPECT_EQ(rahmen.titel(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
-    EXPECT_TRUE(session.database.Verbindung.offen());
-    start.offlineToolGewaehlt(0);
-    rahmen.entladen();
-    EXPECT_THAT(iniZeilen("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Talvik|~"));
+    withDatabase();
+    frame.toPage(Page::Start);
+    start.upwards();
+    EXPECT_EQ(start.selection().folder(), "W:\\");
+    start.upwards();
+    EXPECT_EQ(start.selection().folder(), "W:\\");
+    choose("neu.mdb", Answer::No, REGISTER_PATH, "W:\\neu.mdb");
+    EXPECT_EQ(frame.title(), "W:\\Daten\\werk.mdb    Quelvarn Version 2.0.0");
+    EXPECT_TRUE(session.database.connection.open());
+    start.offlineToolChosen(0);
+    frame.unload();
+    EXPECT_THAT(iniRows("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Talvik|~"));
 }
 
 TEST_F(Frame, AWrongFileStaysOnTheStartPage)
 {
-    mitDatenbank();
-    rahmen.zuSeite(Seite::Start);
-    start.ordnerGewaehlt("W:\\Anderes");
-    waehle("notiz.txt", Antwort::Ja, REGISTERPFAD, "W:\\Anderes\\notiz.txt");
-    world.meldungen.antworte();
-    world.meldungen.antworte();
-    start.oeffnen();
-    EXPECT_EQ(rahmen.seite(), Seite::Start);
-    EXPECT_FALSE(session.database.DatenbankOk || session.use.ForwardOn || start.activeSESichtbar());
+    withDatabase();
+    frame.toPage(Page::Start);
+    start.folderChosen("W:\\Anderes");
+    choose("notiz.txt", Answer::Yes, REGISTER_PATH, "W:\\Anderes\\notiz.txt");
+    world.boxes.answer();
+    world.boxes.answer();
+    start.open();
+    EXPECT_EQ(frame.page(), Page::Start);
+    EXPECT_FALSE(session.database.DatenbankOk || session.use.ForwardOn || start.cadEventsVisible());
     EXPECT_EQ(session.database.DatenbankPfad, "");
-    EXPECT_FALSE(rahmen.TimerDBUpdate().an);
+    EXPECT_FALSE(frame.TimerDBUpdate().on);
 }
 
 TEST_F(Frame, SettingsOfTheStartPageAreWrittenWhenItUnloads)
 {
-    meldeAn();
+    addListener();
     session.rights.Sichtbar.fill(1);
-    ASSERT_TRUE(rahmen.laden());
-    rahmen.zuSeite(Seite::Start);
-    beobachter.ereignisse.clear();
-    start.setzeActiveSE(true);
+    ASSERT_TRUE(frame.laden());
+    frame.toPage(Page::Start);
+    observer.events.clear();
+    start.setActiveSE(true);
     EXPECT_EQ(start.LblActiveSE(), "Ereignis wird ausgewertet.");
-    EXPECT_TRUE(rahmen.knopf(Werkzeug::PlazierenZchn).sichtbar);
-    start.setzeInfoPrio1(1, false);
-    start.setzeInfoPrio2(5, false);
-    start.offlineToolGewaehlt(0);
+    EXPECT_TRUE(frame.button(Tool::PlaceInDrawing).visible);
+    start.setInfoPrio1(1, false);
+    start.setInfoPrio2(5, false);
+    start.offlineToolChosen(0);
     EXPECT_FALSE(session.Tree.Verwendung || session.Tree.Versendet);
-    rahmen.werkzeugGewaehlt(Werkzeug::Beenden);
-    EXPECT_TRUE(beendet);
-    EXPECT_FALSE(session.database.Verbindung.offen());
-    EXPECT_THAT(beobachter.ereignisse, ElementsAre("Baum", "Baum", "Offline", "entladen"));
-    EXPECT_THAT(iniZeilen("Feld2 = 'Treeview' AND Feld4 = '0'"),
+    frame.toolChosen(Tool::Quit);
+    EXPECT_TRUE(ended);
+    EXPECT_FALSE(session.database.connection.open());
+    EXPECT_THAT(observer.events, ElementsAre("Baum", "Baum", "Offline", "entladen"));
+    EXPECT_THAT(iniRows("Feld2 = 'Treeview' AND Feld4 = '0'"),
                 UnorderedElementsAre("mueller|Treeview|Verwendung|0|Verwendung anzeigen",
                                      "mueller|Treeview|Versendet|0|Versendet an"));
-    EXPECT_THAT(iniZeilen("Feld2 = 'ActiveQuelvarn'"), ElementsAre("mueller|ActiveQuelvarn|1|~|~"));
-    EXPECT_THAT(iniZeilen("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Druvik|~"));
+    EXPECT_THAT(iniRows("Feld2 = 'ActiveQuelvarn'"), ElementsAre("mueller|ActiveQuelvarn|1|~|~"));
+    EXPECT_THAT(iniRows("Feld3 = 'Offline'"), ElementsAre("!QV_Ini|Plot|Offline|Druvik|~"));
 }
 
 TEST_F(Frame, ADriveThatCannotBeReadStaysUnchosen)
 {
-    ohneDatenbank();
-    world.meldungen.erwarte("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
-                                                           "es ist wahrscheinlich kein Datenträger im Laufwerk!");
-    start.laufwerkGewaehlt("a:");
-    EXPECT_EQ(start.auswahl().ordner() + start.auswahl().laufwerk(), "C:\\c:");
+    withoutDatabase();
+    world.boxes.expect("Start: Fehler beim Laufwerk", "Das Laufwerk ist nicht eingerichtet oder\n"
+                                                      "es ist wahrscheinlich kein Datenträger im Laufwerk!");
+    start.driveChosen("a:");
+    EXPECT_EQ(start.selection().folder() + start.selection().drive(), "C:\\c:");
 }
 
 TEST_F(Frame, StartPageNamesTheInstalledSolidEdge)
@@ -277,21 +273,21 @@ TEST_F(Frame, StartPageNamesTheInstalledSolidEdge)
     const struct
     {
         SolidEdgeInfo info;
-        std::string version, pfad;
+        std::string version, documentPath;
         bool activeSE;
-    } faelle[] = {
+    } cases[] = {
         {{}, " Solid Edge Version?", "Pfadname zu Solid Edge???", true},
         {{"16.00", "C:\\Solid Edge\\Program"}, "Solid Edge 16.00", "C:\\Solid Edge\\Program", true},
         {{"16.00", "C:\\SmartViewer"}, "SmartView 16.00", "C:\\SmartViewer", false},
     };
-    for (const auto& fall : faelle) {
-        SessionState andere;
-        MainWindow fenster(andere, operations, fall.info);
-        StartPage seite(andere, operations, fenster);
-        fenster.zeigeSeite(Seite::Start);
-        EXPECT_EQ(seite.LblSolidEdgeVersion(), fall.version);
-        EXPECT_EQ(seite.LblSolidEdgePfad(), fall.pfad);
-        EXPECT_EQ(seite.activeSESichtbar(), fall.activeSE);
+    for (const auto& testCase : cases) {
+        SessionState other;
+        MainWindow window(other, operations, testCase.info);
+        StartPage page(other, operations, window);
+        window.showPage(Page::Start);
+        EXPECT_EQ(page.LblSolidEdgeVersion(), testCase.version);
+        EXPECT_EQ(page.LblSolidEdgePfad(), testCase.documentPath);
+        EXPECT_EQ(page.cadEventsVisible(), testCase.activeSE);
     }
 }
 

@@ -10,31 +10,31 @@ namespace {
 
 // The rows of a group are replaced by the given ones before a start. Rows are parted by ";"; "=" stands for
 // "as before".
-struct Fall
+struct TestCase
 {
     std::string name;
-    std::string gruppe;
-    std::string vorher;
-    std::string nachher;
-    std::string feld;
-    std::string erwartet;
-    std::string titel = {}; // Of the box, if there is one.
+    std::string group;
+    std::string before;
+    std::string afterwards;
+    std::string field;
+    std::string expected;
+    std::string title = {}; // Of the box, if there is one.
     std::string text = {};
 };
 
-std::string jaNein(bool wert)
+std::string yesNo(bool value)
 {
-    return wert ? "ja" : "nein";
+    return value ? "ja" : "nein";
 }
 
-std::string vorgabe(const Druckvorgabe& v)
+std::string defaultValue(const PrintDefaults& v)
 {
     return v.Printer + "," + v.PaperSize + "," + v.ColorMode + "," + std::to_string(v.NumCopies) + "," + v.Orientation +
            "," + std::to_string(v.PlotScale).substr(0, 3) + "," + std::to_string(v.PfadArt) + "," + v.Pfad;
 }
 
 // What a start left in the session, by names of its fields.
-std::map<std::string, std::string> felder(const SessionState& s)
+std::map<std::string, std::string> fields(const SessionState& s)
 {
     const Recordset& filter = s.pages.GespeicherteFilter[3];
     return {
@@ -43,81 +43,81 @@ std::map<std::string, std::string> felder(const SessionState& s)
                       s.labels.SondertabelleName[1]},
         {"PlotPfad", s.orders.PlotPfad},
         {"OfflineTool", s.orders.OfflineTool},
-        {"PlotDrucker", s.orders.PlotDrucker[0] + s.orders.PlotDrucker[9] + jaNein(s.orders.PlotDruckerKomplett)},
+        {"PlotDrucker", s.orders.PlotDrucker[0] + s.orders.PlotDrucker[9] + yesNo(s.orders.PlotDruckerKomplett)},
         {"PdfDrucker", s.orders.PdfDrucker},
-        {"OnOff", jaNein(s.use.CheckInOutOn) + jaNein(s.use.ForwardOn) + jaNein(s.use.CheckInOut.offen())},
-        {"Melden", jaNein(s.use.MeldenWorkflow) + jaNein(s.use.MeldenWeiterleiten)},
+        {"OnOff", yesNo(s.use.CheckInOutOn) + yesNo(s.use.ForwardOn) + yesNo(s.use.CheckInOut.open())},
+        {"Melden", yesNo(s.use.MeldenWorkflow) + yesNo(s.use.MeldenWeiterleiten)},
         {"Intervall", std::to_string(s.use.Zeitintervall) + s.use.ZeitintervallText},
         {"Starttabelle", s.pages.Starttabelle},
-        {"Tree", jaNein(s.Tree.TIFFDoku) + jaNein(s.Tree.Knoten) + jaNein(s.Tree.Revision)},
+        {"Tree", yesNo(s.Tree.TIFFDoku) + yesNo(s.Tree.Node) + yesNo(s.Tree.Revision)},
         {"Offline", s.orders.OfflineArt + s.orders.OfflineNummer + s.orders.OfflineExportArt},
         {"Zip", std::to_string(s.orders.ZipStufe) + s.orders.ZipPasswort},
-        {"Plot", vorgabe(s.orders.PlotVorgabe)},
-        {"PDF", vorgabe(s.orders.PdfVorgabe)},
-        {"Suchtexte", join(s.pages.Suchtexte, "+")},
+        {"Plot", defaultValue(s.orders.PlotVorgabe)},
+        {"PDF", defaultValue(s.orders.PdfVorgabe)},
+        {"Suchtexte", join(s.pages.SearchTexts, "+")},
         {"Rechte",
          s.rights.WhereStatus + std::to_string(s.rights.LoeschRecht[0]) + std::to_string(s.rights.LoeschRecht[1])},
-        {"Filter", filter.leer() ? "" : filter.Text("Filtername") + "=" + filter.Text("Filterstring")},
+        {"Filter", filter.empty() ? "" : filter.Text("Filtername") + "=" + filter.Text("Filterstring")},
     };
 }
 
-std::string druckerzeilen(int anzahl)
+std::string printerRows(int count)
 {
-    std::vector<std::string> zeilen;
-    for (int i = 0; i < anzahl; ++i)
-        zeilen.push_back("!QV_Ini|Plot|Printer|A" + std::to_string(i % 5) + (i < 5 ? "/Color|HP" : "/Mono|HP") +
-                         std::to_string(i));
-    return join(zeilen, ";");
+    std::vector<std::string> rows;
+    for (int i = 0; i < count; ++i)
+        rows.push_back("!QV_Ini|Plot|Printer|A" + std::to_string(i % 5) + (i < 5 ? "/Color|HP" : "/Mono|HP") +
+                       std::to_string(i));
+    return join(rows, ";");
 }
 
-std::vector<std::string> zerlegt(const std::string& zeilen)
+std::vector<std::string> sortedRows(const std::string& rows)
 {
-    std::vector<std::string> einzeln = zeilen.empty() ? std::vector<std::string>{} : split(zeilen, ';');
-    std::sort(einzeln.begin(), einzeln.end());
-    return einzeln;
+    std::vector<std::string> single = rows.empty() ? std::vector<std::string>{} : split(rows, ';');
+    std::sort(single.begin(), single.end());
+    return single;
 }
 
-const std::string FALSCH = "Modul: Falscher Eintrag Ini-Tabelle";
-const std::string FEHLT = "Modul: Falscher oder fehlender Eintrag Ini-Tabelle";
-const std::string DRUCKER = "Plotter/Drucker ermitteln";
-const std::string NOCHMAL = "\nÜberprüfen Sie die Angaben und Starten Sie 'Quelvarn' erneut.";
-const std::string VORGABEN = "'in der Ini-Tabelle!\nEs werden die Defaultwerte eingetragen.";
+const std::string WRONG = "Modul: Falscher Eintrag Ini-Tabelle";
+const std::string MISSING = "Modul: Falscher oder fehlender Eintrag Ini-Tabelle";
+const std::string PRINTERS = "Plotter/Drucker ermitteln";
+const std::string AGAIN = "\nÜberprüfen Sie die Angaben und Starten Sie 'Quelvarn' erneut.";
+const std::string DEFAULTS = "'in der Ini-Tabelle!\nEs werden die Defaultwerte eingetragen.";
 
-std::string onOffText(const std::string& schluessel, const std::string& pruefungen)
+std::string onOffText(const std::string& key, const std::string& checks)
 {
-    return "Falscher oder fehlender Eintrag bei 'OnOff' u. '" + schluessel +
-           "' in der Ini-Tabelle!\nDie im Intervall vorgenommene Überprüfung von:\n" + pruefungen +
+    return "Falscher oder fehlender Eintrag bei 'OnOff' u. '" + key +
+           "' in der Ini-Tabelle!\nDie im Intervall vorgenommene Überprüfung von:\n" + checks +
            "\nwird nicht durchgeführt.\nEintrag muss lauten:\nSpalte 'Feld1' = '!QV_Ini'\nSpalte 'Feld2' = 'OnOff'\n"
            "Spalte 'Feld3' = '" +
-           schluessel + "'\nSpalte 'Feld4' = '1' für Ja oder '0' für Nein";
+           key + "'\nSpalte 'Feld4' = '1' für Ja oder '0' für Nein";
 }
 
 // clang-format off
-const std::vector<Fall> INSTALLATION{
+const std::vector<TestCase> INSTALLATION{
     {"no labels", "Feld2 = 'Bezeichnung'", "", "=", "Namen", "AutorTitelGeändertProjektNormteile",
-     FALSCH, "Falscher Eintrag bei 'Bezeichnung" + VORGABEN},
+     WRONG, "Falscher Eintrag bei 'Bezeichnung" + DEFAULTS},
     {"empty and Null label", "Feld2 = 'Bezeichnung'",
      "!QV_Ini|Bezeichnung|Autor||~;!QV_Ini|Bezeichnung|Titel|~|~;!QV_Ini|Bezeichnung|GEÄNDERT|Stand|~", "=",
      "Namen", "AutorTitelStandProjektNormteile"},
     {"no special tables", "Feld2 = 'Tabelle'", "", "=", "Namen", "AutorTitelGeändertAuftragSondertabelle2",
-     FALSCH, "Falscher Eintrag bei 'Tabelle" + VORGABEN},
+     WRONG, "Falscher Eintrag bei 'Tabelle" + DEFAULTS},
     {"no order folder", "Feld3 = 'Pfadname' AND Feld2 = 'Plot'", "", "=", "PlotPfad", "",
-     FALSCH, "Falscher Eintrag bei 'Plot'u. 'Pfadname' in der Ini-Tabelle!"},
+     WRONG, "Falscher Eintrag bei 'Plot'u. 'Pfadname' in der Ini-Tabelle!"},
     {"order folder is Null", "Feld3 = 'Pfadname' AND Feld2 = 'Plot'", "!QV_Ini|Plot|Pfadname|~|~", "=", "PlotPfad", ""},
     {"order folder is gone", "Feld3 = 'Pfadname' AND Feld2 = 'Plot'", "!QV_Ini|Plot|Pfadname|~|W:\\weg", "=",
      "PlotPfad", ""},
     {"no offline tool", "Feld3 = 'Offline'", "!QV_Ini|Plot|Offline||~", "!QV_Ini|Plot|Offline|Talvik|~",
      "OfflineTool", "Talvik"},
     {"other offline tool", "Feld3 = 'Offline'", "!QV_Ini|Plot|Offline|Druvik|~", "=", "OfflineTool", "Druvik"},
-    {"ten printers", "Feld1 = '!QV_Ini' AND Feld3 = 'Printer'", druckerzeilen(10), "=", "PlotDrucker", "HP0HP9ja"},
-    {"nine printers", "Feld1 = '!QV_Ini' AND Feld3 = 'Printer'", druckerzeilen(9), "=", "PlotDrucker", "nein",
-     DRUCKER, "Fehler bei den Angaben 'Printer' für 'Plotter/Drucker ermitteln'!" + NOCHMAL},
+    {"ten printers", "Feld1 = '!QV_Ini' AND Feld3 = 'Printer'", printerRows(10), "=", "PlotDrucker", "HP0HP9ja"},
+    {"nine printers", "Feld1 = '!QV_Ini' AND Feld3 = 'Printer'", printerRows(9), "=", "PlotDrucker", "nein",
+     PRINTERS, "Fehler bei den Angaben 'Printer' für 'Plotter/Drucker ermitteln'!" + AGAIN},
     {"two PDF printers", "Feld3 = 'PDF'", "!QV_Ini|Plot|PDF|A0-A4/Color|a;!QV_Ini|Plot|PDF|A0-A4/Color|b", "=",
-     "PdfDrucker", "", DRUCKER, "Fehler bei den Angaben 'PDF' für 'Plotter/Drucker ermitteln'!" + NOCHMAL},
+     "PdfDrucker", "", PRINTERS, "Fehler bei den Angaben 'PDF' für 'Plotter/Drucker ermitteln'!" + AGAIN},
     {"no PDF printer", "Feld3 = 'PDF'", "", "!QV_Ini|Plot|PDF|A0-A4/Color|Keine Angabe", "PdfDrucker", "Keine Angabe"},
-    {"no registry switch, forwarding works", "Feld3 = 'CheckInOut'", "", "=", "OnOff", "neinjaja", FEHLT,
+    {"no registry switch, forwarding works", "Feld3 = 'CheckInOut'", "", "=", "OnOff", "neinjaja", MISSING,
      onOffText("CheckInOut", "- Beendigung 'In Arbeit'\n- Beendigung 'In Durchsicht'")},
-    {"no forwarding switch", "Feld3 = 'Forward'", "", "=", "OnOff", "janeinja", FEHLT,
+    {"no forwarding switch", "Feld3 = 'Forward'", "", "=", "OnOff", "janeinja", MISSING,
      onOffText("Forward", "- Weiterleiten von Dokumenten\n- Workflow")},
     {"switch that is no number", "Feld3 = 'Forward'", "!QV_Ini|OnOff|Forward|ja|~", "=", "OnOff", "janeinja"},
     {"interval too long", "Feld3 Like '%interval'", "!QV_Ini|WriteDB|Timeinterval|70000|~", "=", "Intervall",
@@ -130,7 +130,7 @@ const std::vector<Fall> INSTALLATION{
      "janeinja"},
 };
 
-const std::vector<Fall> ANWENDER{
+const std::vector<TestCase> USER{
     {"the other program tells already", "Feld3 = 'Workflow'",
      "mueller|Nachricht|Workflow|QUELVARN|1;mueller|Nachricht|Workflow|Harvel|1", "=", "Melden", "neinja"},
     {"the other program is quiet", "Feld3 = 'Workflow'",
@@ -201,38 +201,39 @@ const std::vector<Fall> ANWENDER{
 class IniRepair : public RegisterTest
 {
 protected:
-    void pruefe(const std::vector<Fall>& faelle)
+    void check(const std::vector<TestCase>& cases)
     {
-        meldeAn();
-        world.drucker.standarddrucker = Standarddrucker{"Buero", 8, 3, 2};
-        for (const Fall& fall : faelle) {
-            SCOPED_TRACE(fall.name);
-            const std::vector<std::string> sonst = iniZeilen("Not (" + fall.gruppe + ")");
-            const std::vector<std::string> urspruenglich = iniZeilen(fall.gruppe);
-            loesche(fall.gruppe);
-            fuegeEin(zerlegt(fall.vorher));
-            if (!fall.titel.empty())
-                world.meldungen.erwarte(fall.titel, fall.text);
+        addListener();
+        world.printers.defaultPrinter = DefaultPrinter{"Buero", 8, 3, 2};
+        for (const TestCase& testCase : cases) {
+            SCOPED_TRACE(testCase.name);
+            const std::vector<std::string> otherwise = iniRows("Not (" + testCase.group + ")");
+            const std::vector<std::string> original = iniRows(testCase.group);
+            remove(testCase.group);
+            insert(sortedRows(testCase.before));
+            if (!testCase.title.empty())
+                world.boxes.expect(testCase.title, testCase.text);
 
             ASSERT_TRUE(Hauptprogramm(session, ports));
-            EXPECT_EQ(felder(session).at(fall.feld), fall.erwartet);
-            EXPECT_EQ(iniZeilen(fall.gruppe), zerlegt(fall.nachher == "=" ? fall.vorher : fall.nachher));
-            EXPECT_EQ(iniZeilen("Not (" + fall.gruppe + ")"), sonst);
+            EXPECT_EQ(fields(session).at(testCase.field), testCase.expected);
+            EXPECT_EQ(iniRows(testCase.group),
+                      sortedRows(testCase.afterwards == "=" ? testCase.before : testCase.afterwards));
+            EXPECT_EQ(iniRows("Not (" + testCase.group + ")"), otherwise);
 
-            loesche(fall.gruppe);
-            fuegeEin(urspruenglich);
+            remove(testCase.group);
+            insert(original);
         }
     }
 };
 
 TEST_F(IniRepair, RowsOfTheInstallationAreReadAndMended)
 {
-    pruefe(INSTALLATION);
+    check(INSTALLATION);
 }
 
 TEST_F(IniRepair, RowsOfTheUserAreReadAndMended)
 {
-    pruefe(ANWENDER);
+    check(USER);
 }
 
 } // namespace quelvarn

@@ -18,10 +18,10 @@ protected:
         operations_.show = [this](const Parts& parts) { told_ += parts.to_string() + ";"; };
     }
     static std::string of(Part part) { return Parts().set(static_cast<std::size_t>(part)).to_string() + ";"; }
-    void showBox() { operations_.ports().meldungen.warnung("Titel", "Text"); }
+    void showBox() { operations_.ports().boxes.warn("Titel", "Text"); }
 
-    FakePorts welt_;
-    Ports outside_ = welt_.ports();
+    FakePorts world_;
+    Ports outside_ = world_.ports();
     Operations operations_{outside_};
     std::string told_;
 };
@@ -41,7 +41,7 @@ TEST_F(OperationsTest, AGestureOfManyOperationsIsToldOnce)
 
 TEST_F(OperationsTest, RowsAreToldAtOnceAndTheRestBeforeABox)
 {
-    welt_.meldungen.erwarte("Titel", "Text");
+    world_.boxes.expect("Titel", "Text");
     operations_.perform(Part::Document, "a", "b", [&] {
         operations_.changed(Part::Rows);
         EXPECT_EQ(told_, of(Part::Rows));
@@ -49,7 +49,7 @@ TEST_F(OperationsTest, RowsAreToldAtOnceAndTheRestBeforeABox)
         showBox();
         EXPECT_EQ(told_, of(Part::Document));
         told_.clear();
-        operations_.ports().fortschritt.beginne("Arbeit");
+        operations_.ports().progress.begin("Arbeit");
         EXPECT_EQ(told_, "") << "nothing has changed since";
     });
     EXPECT_EQ(told_, of(Part::Document)) << "what ran behind the box counts as well";
@@ -57,19 +57,19 @@ TEST_F(OperationsTest, RowsAreToldAtOnceAndTheRestBeforeABox)
 
 TEST_F(OperationsTest, AFaultIsReportedAndTheNextOperationIsToldAsEver)
 {
-    welt_.meldungen.erwarte("Titel", "Eigene Meldung!");
-    welt_.meldungen.antworte();
+    world_.boxes.expect("Titel", "Eigene Meldung!");
+    world_.boxes.answer();
     EXPECT_FALSE(operations_.perform(Part::TopBar, "Titel", "Eigene Meldung!", [] { throw std::runtime_error("x"); }));
     told_.clear();
 
-    welt_.meldungen.antworte();
-    EXPECT_FALSE(operations_.report(Part::TopBar, [] { throw Laufzeitfehler(5, "Quelvarn", "x"); }));
+    world_.boxes.answer();
+    EXPECT_FALSE(operations_.report(Part::TopBar, [] { throw RuntimeError(5, "Quelvarn", "x"); }));
     told_.clear();
 
-    welt_.meldungen.erwarte("Titel", "Ende");
-    welt_.meldungen.antworte(Antwort::Abbrechen);
+    world_.boxes.expect("Titel", "Ende");
+    world_.boxes.answer(Answer::Cancel);
     EXPECT_THROW(operations_.perform(Part::TopBar, "Titel", "Ende", [] { throw std::runtime_error("x"); }),
-                 ProgrammEnde);
+                 ProgramExit);
     told_.clear();
     operations_.perform(Part::LeftBar, "a", "b", [] {});
     EXPECT_EQ(told_, of(Part::LeftBar));

@@ -19,7 +19,7 @@
 
 namespace quelvarn {
 
-inline constexpr const char* REGISTERPFAD = "W:\\Daten\\werk.mdb";
+inline constexpr const char* REGISTER_PATH = "W:\\Daten\\werk.mdb";
 
 // A session of the user "mueller" in front of a register on disk. Rows of Ini are written as lines,
 // "Feld1|Feld2|Feld3|Feld4|Feld5"; "~" is Null.
@@ -33,61 +33,61 @@ protected:
         session.user.Rechner = "CAD-PC-7";
         session.folders.OrdnerSEDokumente = "C:\\SE";
         session.folders.OrdnerDatenbankPfad = "C:";
-        legeRegisterAn(postgres.empty() ? *oeffneSqlite(datei, true) : *oeffnePostgres(postgres));
+        createRegister(postgres.empty() ? *openSqlite(file, true) : *openPostgres(postgres));
         if (!postgres.empty())
-            std::ofstream(datei) << postgres << "\n";
-        db.Open(datei);
-        world.dateien.verbinde(REGISTERPFAD, datei);
-        world.dateien.legeAn("W:\\Plot\\x.txt");
-        world.dateien.legeAn("W:\\Anderes\\notiz.txt");
-        session.database.DatenbankPfad = REGISTERPFAD;
+            std::ofstream(file) << postgres << "\n";
+        db.Open(file);
+        world.files.connect(REGISTER_PATH, file);
+        world.files.create("W:\\Plot\\x.txt");
+        world.files.create("W:\\Anderes\\notiz.txt");
+        session.database.DatenbankPfad = REGISTER_PATH;
         // What a well kept installation has.
-        fuegeEin({"!QV_Ini|Bezeichnung|Projekt|Auftrag|~", "!QV_Ini|Tabelle|Sondertabelle2|Normteile|~",
-                  "!QV_Ini|Plot|Pfadname|~|W:\\Plot", "!QV_Ini|OnOff|CheckInOut|1|~", "!QV_Ini|OnOff|Forward|1|~",
-                  "!QV_Ini|WriteDB|Zeitinterval|30000|~", "!QV_Ini|WriteDB|PART|01.03.2004 08:00:00|~",
-                  "!QV_Ini|WriteDB|DRAFT|gestern|~", "!QV_Ini|WriteDB|ASSEMB|~|~", "!QV_Ini|WriteDB|WELD|~|~"});
+        insert({"!QV_Ini|Bezeichnung|Projekt|Auftrag|~", "!QV_Ini|Tabelle|Sondertabelle2|Normteile|~",
+                "!QV_Ini|Plot|Pfadname|~|W:\\Plot", "!QV_Ini|OnOff|CheckInOut|1|~", "!QV_Ini|OnOff|Forward|1|~",
+                "!QV_Ini|WriteDB|Zeitinterval|30000|~", "!QV_Ini|WriteDB|PART|01.03.2004 08:00:00|~",
+                "!QV_Ini|WriteDB|DRAFT|gestern|~", "!QV_Ini|WriteDB|ASSEMB|~|~", "!QV_Ini|WriteDB|WELD|~|~"});
     }
 
-    void fuegeEin(const std::vector<std::string>& zeilen)
+    void insert(const std::vector<std::string>& rows)
     {
-        Transaktion zusammen(db);
-        for (const std::string& zeile : zeilen) {
-            std::vector<sql::Zuweisung> werte;
-            for (const std::string& feld : split(zeile, '|'))
-                werte.push_back({"Feld" + std::to_string(werte.size() + 1), feld == "~" ? Value() : Value(feld)});
-            db.engine().fuegeEin("Ini", werte);
+        Transaction together(db);
+        for (const std::string& row : rows) {
+            std::vector<sql::Assignment> values;
+            for (const std::string& field : split(row, '|'))
+                values.push_back({"Feld" + std::to_string(values.size() + 1), field == "~" ? Value() : Value(field)});
+            db.engine().insert("Ini", values);
         }
-        zusammen.schliesseAb();
+        together.commit();
     }
-    void loesche(const std::string& bedingung) { db.Execute(test::statement("DELETE FROM Ini WHERE " + bedingung)); }
+    void remove(const std::string& condition) { db.Execute(test::statement("DELETE FROM Ini WHERE " + condition)); }
 
     // Sorted: rows come in no order of their own.
-    std::vector<std::string> iniZeilen(const std::string& bedingung)
+    std::vector<std::string> iniRows(const std::string& condition)
     {
-        Recordset zeilen;
-        zeilen.Open(test::query("SELECT * FROM Ini WHERE " + bedingung), db);
-        std::vector<std::string> texte;
-        for (; !zeilen.Eof(); zeilen.MoveNext()) {
-            std::vector<std::string> felder;
-            for (const char* feld : {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"})
-                felder.push_back(istNull(zeilen.Feld(feld)) ? "~" : zeilen.Text(feld));
-            texte.push_back(join(felder, "|"));
+        Recordset rows;
+        rows.Open(test::query("SELECT * FROM Ini WHERE " + condition), db);
+        std::vector<std::string> texts;
+        for (; !rows.Eof(); rows.MoveNext()) {
+            std::vector<std::string> fields;
+            for (const char* field : {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"})
+                fields.push_back(isNull(rows.field(field)) ? "~" : rows.Text(field));
+            texts.push_back(join(fields, "|"));
         }
-        std::sort(texte.begin(), texte.end());
-        return texte;
+        std::sort(texts.begin(), texts.end());
+        return texts;
     }
 
     // The user's first start, with its welcome.
-    void meldeAn()
+    void addListener()
     {
-        world.meldungen.antworte();
+        world.boxes.answer();
         ASSERT_TRUE(Hauptprogramm(session, ports));
         session.database.DatenbankOk = true;
-        world.meldungen.gezeigt.clear();
+        world.boxes.shown.clear();
     }
 
-    TempFolder ordner;
-    std::filesystem::path datei = ordner / "werk.mdb";
+    TempFolder folder;
+    std::filesystem::path file = folder / "werk.mdb";
     Connection db;
     FakePorts world;
     Ports ports = world.ports();

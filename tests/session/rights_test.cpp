@@ -5,15 +5,15 @@
 
 namespace quelvarn {
 
-using Werte = std::array<int, ANZAHL_STATUS>;
+using Values = std::array<int, STATUS_COUNT>;
 
 TEST(Rights, StatusScopeAndAccessLineFollowTheVisibleStatuses)
 {
     const struct
     {
-        Werte sichtbar;
-        std::string where, und, zeile;
-    } faelle[] = {
+        Values visible;
+        std::string where, both, row;
+    } cases[] = {
         {{1, 1, 1, 1, 1, 1}, "", "", "Zugriffsberechtigung:             Alle Stati von 0 bis 5"},
         {{3, 3, 0, 0, 0, 0}, "", "", "Zugriffsberechtigung:             Alle Stati von 0 bis 5"},
         {{0, 0, 0, 1, 0, 0},
@@ -43,20 +43,20 @@ TEST(Rights, StatusScopeAndAccessLineFollowTheVisibleStatuses)
          "Zugriffsberechtigung:             3=Freigegeben"},
         {{0, 0, 0, 0, 0, 0}, " WHERE ()", " AND ()", "Berechtigung:"},
     };
-    for (const auto& fall : faelle) {
+    for (const auto& testCase : cases) {
         SessionState session;
-        session.rights.Sichtbar = fall.sichtbar;
-        bildeStatusbereich(session);
-        EXPECT_EQ(session.rights.WhereStatus, fall.where);
-        EXPECT_EQ(session.rights.AndStatus, fall.und);
-        EXPECT_EQ(zugriffstext(session), fall.zeile);
+        session.rights.Sichtbar = testCase.visible;
+        formStatusSection(session);
+        EXPECT_EQ(session.rights.WhereStatus, testCase.where);
+        EXPECT_EQ(session.rights.AndStatus, testCase.both);
+        EXPECT_EQ(accessLine(session), testCase.row);
     }
 }
 
 TEST(Rights, DeletionCodesDecideForOwnAndForeignRowsAndFiles)
 {
     // Per code: own row, foreign row, own file, foreign file.
-    const bool erlaubt[7][4] = {
+    const bool allowed[7][4] = {
         {false, false, false, false}, {true, false, false, false},  {false, true, false, false},
         {false, false, false, false}, {false, false, false, false}, {true, false, true, false},
         {true, true, true, true},
@@ -64,35 +64,35 @@ TEST(Rights, DeletionCodesDecideForOwnAndForeignRowsAndFiles)
     for (int code = 0; code <= 6; ++code) {
         SessionState session;
         session.rights.LoeschRecht.fill(code);
-        FakeMeldungen meldungen;
-        meldungen.erlaubeHinweise();
-        EXPECT_EQ(PruefeLoeschenDB(session, meldungen, 3, 1, 5), erlaubt[code][0]) << code;
-        EXPECT_EQ(PruefeLoeschenDB(session, meldungen, 3, 2, 6), erlaubt[code][1]) << code;
-        EXPECT_EQ(PruefeLoeschenDatei(session, meldungen, 3, 5), erlaubt[code][2]) << code;
-        EXPECT_EQ(PruefeLoeschenDatei(session, meldungen, 3, 6), erlaubt[code][3]) << code;
-        EXPECT_TRUE(PruefeLoeschenDB(session, meldungen, 7, 1, 5));
-        EXPECT_TRUE(PruefeLoeschenDatei(session, meldungen, -1, 6));
+        FakeBoxes boxes;
+        boxes.allowHints();
+        EXPECT_EQ(PruefeLoeschenDB(session, boxes, 3, 1, 5), allowed[code][0]) << code;
+        EXPECT_EQ(PruefeLoeschenDB(session, boxes, 3, 2, 6), allowed[code][1]) << code;
+        EXPECT_EQ(PruefeLoeschenDatei(session, boxes, 3, 5), allowed[code][2]) << code;
+        EXPECT_EQ(PruefeLoeschenDatei(session, boxes, 3, 6), allowed[code][3]) << code;
+        EXPECT_TRUE(PruefeLoeschenDB(session, boxes, 7, 1, 5));
+        EXPECT_TRUE(PruefeLoeschenDatei(session, boxes, -1, 6));
     }
 }
 
 TEST(Rights, RefusalsTellStatusAndOwnership)
 {
     SessionState session;
-    FakeMeldungen meldungen;
-    const std::string titel = "Keine Berechtigung zum Löschen bei Status 4";
-    const std::string anfang = "Sie haben nicht die Berechtigung zum Löschen von Dateien mit Status 4";
-    const std::string ende = "\n\nWenden Sie sich an ihren Systemadministrator für Quelvarnis.";
-    const std::string auch = "\nDies gilt auch für Dateien, bei denen Sie als Besitzer eingetragen sind!";
+    FakeBoxes boxes;
+    const std::string title = "Keine Berechtigung zum Löschen bei Status 4";
+    const std::string begin = "Sie haben nicht die Berechtigung zum Löschen von Dateien mit Status 4";
+    const std::string end = "\n\nWenden Sie sich an ihren Systemadministrator für Quelvarnis.";
+    const std::string also = "\nDies gilt auch für Dateien, bei denen Sie als Besitzer eingetragen sind!";
     const std::string fremd = ", bei denen Sie nicht als Besitzer eingetragen sind!";
-    meldungen.erwarte(titel, anfang + " aus der Datenbank." + auch + ende);
-    meldungen.erwarte(titel, anfang + "\n aus der Datenbank" + fremd + ende);
-    meldungen.erwarte(titel, anfang + " aus dem Verzeichnis." + auch + ende);
-    meldungen.erwarte(titel, anfang + "\n aus dem Verzeichnis" + fremd + ende);
-    PruefeLoeschenDB(session, meldungen, 4, 1, 5);
-    PruefeLoeschenDB(session, meldungen, 4, 2, 6);
-    PruefeLoeschenDatei(session, meldungen, 4, 5);
-    PruefeLoeschenDatei(session, meldungen, 4, 6);
-    EXPECT_EQ(meldungen.letzte().symbol, Symbol::Warnung);
+    boxes.expect(title, begin + " aus der Datenbank." + also + end);
+    boxes.expect(title, begin + "\n aus der Datenbank" + fremd + end);
+    boxes.expect(title, begin + " aus dem Verzeichnis." + also + end);
+    boxes.expect(title, begin + "\n aus dem Verzeichnis" + fremd + end);
+    PruefeLoeschenDB(session, boxes, 4, 1, 5);
+    PruefeLoeschenDB(session, boxes, 4, 2, 6);
+    PruefeLoeschenDatei(session, boxes, 4, 5);
+    PruefeLoeschenDatei(session, boxes, 4, 6);
+    EXPECT_EQ(boxes.last().icon, Icon::Warning);
 }
 
 } // namespace quelvarn

@@ -43,12 +43,12 @@ protected:
     void startAll()
     {
         for (Start& start : starts_) {
-            start.world.dateien.verbinde(REGISTERPFAD, datei);
-            start.world.dateien.legeAn("W:\\Plot\\x.txt");
-            start.world.meldungen.erlaubeHinweise();
+            start.world.files.connect(REGISTER_PATH, file);
+            start.world.files.create("W:\\Plot\\x.txt");
+            start.world.boxes.allowHints();
             start.session.user.Anwender = "mueller";
             start.session.folders.OrdnerSEDokumente = "C:\\SE";
-            start.session.database.DatenbankPfad = REGISTERPFAD;
+            start.session.database.DatenbankPfad = REGISTER_PATH;
         }
         atOnce([](Start& start) {
             Ports ports = start.world.ports();
@@ -58,7 +58,7 @@ protected:
 
     void expectNoTwins()
     {
-        const auto rows = iniZeilen("Feld2 Like '%'");
+        const auto rows = iniRows("Feld2 Like '%'");
         EXPECT_EQ(std::set(rows.begin(), rows.end()).size(), rows.size());
     }
 
@@ -76,10 +76,10 @@ TEST_P(SameUser, IsNewOnceHoweverManyStartsThereAre)
         EXPECT_TRUE(start.good);
         EXPECT_EQ(start.session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
         EXPECT_EQ(start.session.orders.PdfVorgabe.Pfad, "C:\\SE");
-        greetings += start.world.meldungen.gezeigt.size();
+        greetings += start.world.boxes.shown.size();
     }
     EXPECT_EQ(greetings, 1U);
-    EXPECT_EQ(iniZeilen("Feld1 = 'mueller'").size(), 37U);
+    EXPECT_EQ(iniRows("Feld1 = 'mueller'").size(), 37U);
     expectNoTwins();
 }
 
@@ -88,12 +88,12 @@ TEST_P(SameUser, ClosedAtOnceLeavesTheSearchTextsOfOne)
     startAll();
     char letter = 'a';
     for (Start& start : starts_) {
-        start.session.pages.Suchtexte = {std::string(1, letter), std::string(2, letter)};
+        start.session.pages.SearchTexts = {std::string(1, letter), std::string(2, letter)};
         ++letter;
     }
-    atOnce([](Start& start) { schreibeDokumentseite(start.session, 0); });
+    atOnce([](Start& start) { writeDocumentPage(start.session, 0); });
     std::set<std::string> writers;
-    const auto rows = iniZeilen("Feld2 = 'Suchen/Filtern'");
+    const auto rows = iniRows("Feld2 = 'Suchen/Filtern'");
     for (const std::string& row : rows)
         writers.insert(split(row, '|')[3].substr(0, 1));
     EXPECT_EQ(rows.size(), 2U);
@@ -104,22 +104,22 @@ TEST_P(SameUser, ClosedAtOnceLeavesTheSearchTextsOfOne)
 // What starts of older versions at once have left: it does not grow, and a setting is remembered all the same.
 TEST_P(SameUser, WithTwinsOfHisRowsKeepsHisSettings)
 {
-    meldeAn();
-    fuegeEin(iniZeilen("Feld1 = 'mueller'"));
+    addListener();
+    insert(iniRows("Feld1 = 'mueller'"));
     for (const bool on : {true, false}) {
         session.pages.ActiveQuelvarn = on;
-        session.Tree.Knoten = on;
+        session.Tree.Node = on;
         session.orders.OfflineNummer = on ? "(2)" : "(1)";
-        schreibeStartseite(session);
-        schreibeDokumentseite(session, on ? 3 : 0);
+        writeStartPage(session);
+        writeDocumentPage(session, on ? 3 : 0);
         ASSERT_TRUE(Hauptprogramm(session, ports));
         EXPECT_EQ(session.pages.ActiveQuelvarn, on);
-        EXPECT_EQ(session.Tree.Knoten, on);
+        EXPECT_EQ(session.Tree.Node, on);
         EXPECT_EQ(session.orders.OfflineNummer, on ? "(2)" : "(1)");
         EXPECT_EQ(session.pages.Starttabelle, on ? "Zeichnungen" : "Bauteile");
         EXPECT_EQ(session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
     }
-    EXPECT_EQ(iniZeilen("Feld1 = 'mueller'").size(), 2 * 37U);
+    EXPECT_EQ(iniRows("Feld1 = 'mueller'").size(), 2 * 37U);
 }
 
 } // namespace quelvarn

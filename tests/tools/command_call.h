@@ -11,39 +11,39 @@
 
 namespace quelvarn::test {
 
-struct Aufruf
+struct Call
 {
-    int ergebnis;
-    std::string aus;
-    std::string meldungen;
+    int result;
+    std::string out;
+    std::string log;
 };
 
 // As the command line does it.
-inline Aufruf rufe(const std::vector<std::string>& worte)
+inline Call runCommand(const std::vector<std::string>& words)
 {
-    std::ostringstream aus;
-    std::ostringstream meldungen;
-    tools::Konsole konsole{aus, meldungen};
-    const int ergebnis = tools::fuehreAus(worte, konsole);
-    return {ergebnis, aus.str(), meldungen.str()};
+    std::ostringstream out;
+    std::ostringstream log;
+    tools::Console console{out, log};
+    const int result = tools::execute(words, console);
+    return {result, out.str(), log.str()};
 }
 
 // Rows of a SELECT, the names of the columns first.
-inline std::vector<nlohmann::json> zeilen(const std::string& ziel, const std::string& sql)
+inline std::vector<nlohmann::json> rows(const std::string& target, const std::string& sql)
 {
-    const Aufruf aufruf = rufe({"query", ziel, sql, "--json"});
-    EXPECT_EQ(aufruf.ergebnis, tools::GUT) << sql << '\n' << aufruf.meldungen;
-    std::vector<nlohmann::json> zeilen;
-    std::istringstream strom(aufruf.aus);
-    for (std::string zeile; std::getline(strom, zeile);)
-        zeilen.push_back(nlohmann::json::parse(zeile));
-    return zeilen;
+    const Call call = runCommand({"query", target, sql, "--json"});
+    EXPECT_EQ(call.result, tools::GOOD) << sql << '\n' << call.log;
+    std::vector<nlohmann::json> rows;
+    std::istringstream stream(call.out);
+    for (std::string row; std::getline(stream, row);)
+        rows.push_back(nlohmann::json::parse(row));
+    return rows;
 }
 
 // With "/" on every system, as drivers of this one want it.
-inline std::string pfad(const std::filesystem::path& datei)
+inline std::string path(const std::filesystem::path& file)
 {
-    return utf8FromPath(datei.generic_u8string());
+    return utf8FromPath(file.generic_u8string());
 }
 
 } // namespace quelvarn::test

@@ -7,20 +7,20 @@
 
 namespace quelvarn::test {
 
-class Befehle : public ::testing::TestWithParam<std::string_view>
+class Commands : public ::testing::TestWithParam<std::string_view>
 {
 protected:
     void SetUp() override
     {
-        if (istPostgres() && !PostgresCluster::find())
+        if (isPostgres() && !PostgresCluster::find())
             GTEST_SKIP() << "no PostgreSQL server is installed here";
-        ziel_ = istPostgres() ? PostgresCluster::find()->neueDatenbank() : pfad(ordner_ / "register.qv");
+        target_ = isPostgres() ? PostgresCluster::find()->newDatabase() : path(folder_ / "register.qv");
     }
 
-    static bool istPostgres() { return GetParam() == "PostgreSQL"; }
+    static bool isPostgres() { return GetParam() == "PostgreSQL"; }
 
-    TempFolder ordner_;
-    std::string ziel_;
+    TempFolder folder_;
+    std::string target_;
 };
 
 } // namespace quelvarn::test

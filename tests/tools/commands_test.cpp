@@ -6,9 +6,9 @@
 namespace quelvarn::test {
 namespace {
 
-TEST(Befehle, AnswersACallThatIsWrongWithItsUsage)
+TEST(Commands, AnswersACallThatIsWrongWithItsUsage)
 {
-    const std::vector<std::string> falsche[] = {
+    const std::vector<std::string> wrong[] = {
         {},
         {"loesche"},
         {"create"},
@@ -22,101 +22,104 @@ TEST(Befehle, AnswersACallThatIsWrongWithItsUsage)
         {"query", "a"},
         {"rights", "a", "--sehen", "1"},
     };
-    for (const auto& worte : falsche) {
-        const Aufruf aufruf = rufe(worte);
-        EXPECT_EQ(aufruf.ergebnis, tools::FALSCH_BEDIENT) << (worte.empty() ? "" : worte.back());
-        EXPECT_NE(aufruf.meldungen.find("Aufruf: qvadmin"), std::string::npos);
+    for (const auto& words : wrong) {
+        const Call call = runCommand(words);
+        EXPECT_EQ(call.result, tools::WRONG_OPERATED) << (words.empty() ? "" : words.back());
+        EXPECT_NE(call.log.find("Aufruf: qvadmin"), std::string::npos);
     }
-    for (const std::string befehl : {"create", "import", "sample", "check", "query", "rights"})
-        EXPECT_TRUE(rufe({befehl, "--help"}).aus.starts_with("Aufruf: qvadmin " + befehl)) << befehl;
+    for (const std::string command : {"create", "import", "sample", "check", "query", "rights"})
+        EXPECT_TRUE(runCommand({command, "--help"}).out.starts_with("Aufruf: qvadmin " + command)) << command;
 }
 
-TEST_P(Befehle, CreatesARegisterThatNeedsNoRepair)
+TEST_P(Commands, CreatesARegisterThatNeedsNoRepair)
 {
-    ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
-    const Aufruf pruefung = rufe({"check", ziel_, "--streng"});
-    EXPECT_EQ(pruefung.ergebnis, tools::GUT) << pruefung.aus;
-    EXPECT_EQ(rufe({"create", ziel_}).ergebnis, tools::FEHLGESCHLAGEN);
-    EXPECT_EQ(rufe({"query", ziel_, "DELETE FROM Ini"}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"create", ziel_, "--ersetzen"}).ergebnis, tools::GUT);
-    EXPECT_EQ(zeilen(ziel_, "Select Feld5 From Ini Where Feld2 = 'Plot' And Feld3 = 'Printer'").size(), 11U);
+    ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
+    const Call check = runCommand({"check", target_, "--streng"});
+    EXPECT_EQ(check.result, tools::GOOD) << check.out;
+    EXPECT_EQ(runCommand({"create", target_}).result, tools::FAILED);
+    EXPECT_EQ(runCommand({"query", target_, "DELETE FROM Ini"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"create", target_, "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(rows(target_, "Select Feld5 From Ini Where Feld2 = 'Plot' And Feld3 = 'Printer'").size(), 11U);
 }
 
-TEST_P(Befehle, TakesASmallFileWithAnAddressForTheDatabaseItself)
+TEST_P(Commands, TakesASmallFileWithAnAddressForTheDatabaseItself)
 {
-    if (!istPostgres())
+    if (!isPostgres())
         return;
-    const std::string datei = pfad(ordner_ / "register.mdb");
-    std::ofstream(datei) << ziel_ << "\n";
-    ASSERT_EQ(rufe({"create", datei}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"query", datei, "Select Count(*) From Ini"}).aus,
-              rufe({"query", ziel_, "Select Count(*) From Ini"}).aus);
+    const std::string file = path(folder_ / "register.mdb");
+    std::ofstream(file) << target_ << "\n";
+    ASSERT_EQ(runCommand({"create", file}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"query", file, "Select Count(*) From Ini"}).out,
+              runCommand({"query", target_, "Select Count(*) From Ini"}).out);
 }
 
-TEST(Verlauf, IsShownToAPersonOnly)
+TEST(Course, IsShownToAPersonOnly)
 {
     for (const bool terminal : {false, true}) {
-        TempFolder ordner;
-        std::ostringstream aus;
-        std::ostringstream meldungen;
-        tools::Konsole konsole{aus, meldungen, terminal};
-        const std::vector<std::string> worte{"create", pfad(ordner / "register.qv")};
-        ASSERT_EQ(tools::fuehreAus(worte, konsole), tools::GUT);
-        EXPECT_EQ(meldungen.str().empty(), !terminal) << meldungen.str();
+        TempFolder folder;
+        std::ostringstream out;
+        std::ostringstream log;
+        tools::Console console{out, log, terminal};
+        const std::vector<std::string> words{"create", path(folder / "register.qv")};
+        ASSERT_EQ(tools::execute(words, console), tools::GOOD);
+        EXPECT_EQ(log.str().empty(), !terminal) << log.str();
     }
 }
 
-TEST_P(Befehle, PrintsRowsForPeopleAndForPrograms)
+TEST_P(Commands, PrintsRowsForPeopleAndForPrograms)
 {
-    ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
+    ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
     EXPECT_EQ(
-        rufe({"query", ziel_,
-              "INSERT INTO PartTabelle (DokuBez, RevBez, Status, Erstellt, Hauptwert_a, Hauptwert_b, Titel) VALUES "
-              "('A\tB\\', '', 3, #12/31/99 23:59:58#, 1.5, 20, 'Über \"alles\"\n')"})
-            .aus,
+        runCommand(
+            {"query", target_,
+             "INSERT INTO PartTabelle (DokuBez, RevBez, Status, Erstellt, Hauptwert_a, Hauptwert_b, Titel) VALUES "
+             "('A\tB\\', '', 3, #12/31/99 23:59:58#, 1.5, 20, 'Über \"alles\"\n')"})
+            .out,
         "1\n");
-    const std::string abfrage = "Select DokuBez, RevBez, Projekt, Status, Erstellt, Hauptwert_a, Hauptwert_b, Titel "
-                                "From PartTabelle";
-    EXPECT_EQ(rufe({"query", ziel_, abfrage}).aus,
+    const std::string query = "Select DokuBez, RevBez, Projekt, Status, Erstellt, Hauptwert_a, Hauptwert_b, Titel "
+                              "From PartTabelle";
+    EXPECT_EQ(runCommand({"query", target_, query}).out,
               "DokuBez\tRevBez\tProjekt\tStatus\tErstellt\tHauptwert_a\tHauptwert_b\tTitel\n"
               "A\\tB\\\t\t\t3\t1999-12-31 23:59:58\t1.5\t20.0\tÜber \"alles\"\\n\n");
-    EXPECT_EQ(rufe({"query", ziel_, abfrage, "--json"}).aus,
+    EXPECT_EQ(runCommand({"query", target_, query, "--json"}).out,
               "[\"DokuBez\",\"RevBez\",\"Projekt\",\"Status\",\"Erstellt\",\"Hauptwert_a\",\"Hauptwert_b\",\"Titel\"]\n"
               "[\"A\\u0009B\\\\\",\"\",null,3,\"1999-12-31 23:59:58\",1.5,20.0,\"Über \\\"alles\\\"\\n\"]\n");
-    EXPECT_EQ(rufe({"query", ziel_, "UPDATE PartTabelle SET Status = 4 WHERE Status = 3"}).aus, "1\n");
-    EXPECT_EQ(rufe({"query", ziel_, "DELETE FROM PartTabelle WHERE Status = 3"}).aus, "0\n");
-    EXPECT_EQ(rufe({"query", ziel_, "Select * From PartTabelle; Drop Table Ini"}).ergebnis, tools::FEHLGESCHLAGEN);
-    EXPECT_EQ(rufe({"query", ziel_, "Select Unbekannt From PartTabelle"}).ergebnis, tools::FEHLGESCHLAGEN);
+    EXPECT_EQ(runCommand({"query", target_, "UPDATE PartTabelle SET Status = 4 WHERE Status = 3"}).out, "1\n");
+    EXPECT_EQ(runCommand({"query", target_, "DELETE FROM PartTabelle WHERE Status = 3"}).out, "0\n");
+    EXPECT_EQ(runCommand({"query", target_, "Select * From PartTabelle; Drop Table Ini"}).result, tools::FAILED);
+    EXPECT_EQ(runCommand({"query", target_, "Select Unbekannt From PartTabelle"}).result, tools::FAILED);
 }
 
-TEST_P(Befehle, SetsAndShowsTheRightsOfAUser)
+TEST_P(Commands, SetsAndShowsTheRightsOfAUser)
 {
-    ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"rights", ziel_, "O'Neill", "--sehen", "1"}).ergebnis, tools::FEHLGESCHLAGEN); // Not there yet.
-    EXPECT_EQ(rufe({"rights", ziel_, "O'Neill", "--neu"}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"rights", ziel_, "o'neill", "--sehen", "0, 5", "--loeschen", "5=6,0=2"}).ergebnis, tools::GUT);
-    std::vector<nlohmann::json> rechte =
-        zeilen(ziel_, "Select Feld1, Feld3, Feld4, Feld5 From Ini Where Feld2 = 'Berechtigung' Order By Feld3");
-    const nlohmann::json erwartet = {{"Feld1", "Feld3", "Feld4", "Feld5"}, {"O'Neill", "0_Status", "1", "2"},
+    ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--sehen", "1"}).result, tools::FAILED); // Not there yet.
+    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--neu"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"rights", target_, "o'neill", "--sehen", "0, 5", "--loeschen", "5=6,0=2"}).result,
+              tools::GOOD);
+    std::vector<nlohmann::json> rights =
+        rows(target_, "Select Feld1, Feld3, Feld4, Feld5 From Ini Where Feld2 = 'Berechtigung' Order By Feld3");
+    const nlohmann::json expected = {{"Feld1", "Feld3", "Feld4", "Feld5"}, {"O'Neill", "0_Status", "1", "2"},
                                      {"O'Neill", "1_Status", "0", "0"},    {"O'Neill", "2_Status", "0", "0"},
                                      {"O'Neill", "3_Status", "0", "0"},    {"O'Neill", "4_Status", "0", "0"},
                                      {"O'Neill", "5_Status", "1", "6"}};
-    EXPECT_EQ(nlohmann::json(rechte), erwartet);
-    EXPECT_EQ(rufe({"rights", ziel_}).aus, rufe({"rights", ziel_, "O'NEILL"}).aus);
-    for (const std::string wert : {"", "6", "1;2", "x"})
-        EXPECT_EQ(rufe({"rights", ziel_, "O'Neill", "--sehen", wert}).ergebnis, tools::FALSCH_BEDIENT) << wert;
-    for (const std::string wert : {"0", "0=7", "6=1", "0=-1"})
-        EXPECT_EQ(rufe({"rights", ziel_, "O'Neill", "--loeschen", wert}).ergebnis, tools::FALSCH_BEDIENT) << wert;
+    EXPECT_EQ(nlohmann::json(rights), expected);
+    EXPECT_EQ(runCommand({"rights", target_}).out, runCommand({"rights", target_, "O'NEILL"}).out);
+    for (const std::string value : {"", "6", "1;2", "x"})
+        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--sehen", value}).result, tools::WRONG_OPERATED) << value;
+    for (const std::string value : {"0", "0=7", "6=1", "0=-1"})
+        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--loeschen", value}).result, tools::WRONG_OPERATED)
+            << value;
 }
 
-TEST_P(Befehle, FindsWhatIsWrongWithARegister)
+TEST_P(Commands, FindsWhatIsWrongWithARegister)
 {
     const struct
     {
-        std::string anweisung;
-        std::string befund;
-        int ergebnis;
-    } faelle[] = {
+        std::string statement;
+        std::string findings;
+        int result;
+    } cases[] = {
         {"UPDATE PartTabelle SET Status = 7 WHERE DokuBez = 'GT-0301-111'",
          "Fehler: PartTabelle: Dokumente mit einem Status außerhalb von 0 bis 5: 1, etwa GT-0301-111 (0)", 1},
         {"UPDATE DraftTabelle SET DokuBez = Null WHERE DokuBez = 'VL-001'",
@@ -132,32 +135,33 @@ TEST_P(Befehle, FindsWhatIsWrongWithARegister)
         {"UPDATE Ini SET Feld4 = '2' WHERE Feld1 = 'Weber' AND Feld3 = 'Knoten'",
          "Warnung: Ini: Weber, Treeview/Knoten: der Wert wird beim Start ersetzt.", 0},
     };
-    for (const auto& fall : faelle) {
-        ASSERT_EQ(rufe({"sample", ziel_, "--documents", "500", "--ersetzen"}).ergebnis, tools::GUT);
-        ASSERT_EQ(rufe({"query", ziel_, fall.anweisung}).ergebnis, tools::GUT) << fall.anweisung;
-        const Aufruf pruefung = rufe({"check", ziel_});
-        EXPECT_EQ(pruefung.ergebnis, fall.ergebnis) << fall.anweisung;
-        EXPECT_NE(pruefung.aus.find(fall.befund), std::string::npos) << pruefung.aus;
-        EXPECT_EQ(rufe({"check", ziel_, "--streng"}).ergebnis, tools::FEHLGESCHLAGEN) << fall.anweisung;
+    for (const auto& testCase : cases) {
+        ASSERT_EQ(runCommand({"sample", target_, "--documents", "500", "--ersetzen"}).result, tools::GOOD);
+        ASSERT_EQ(runCommand({"query", target_, testCase.statement}).result, tools::GOOD) << testCase.statement;
+        const Call check = runCommand({"check", target_});
+        EXPECT_EQ(check.result, testCase.result) << testCase.statement;
+        EXPECT_NE(check.out.find(testCase.findings), std::string::npos) << check.out;
+        EXPECT_EQ(runCommand({"check", target_, "--streng"}).result, tools::FAILED) << testCase.statement;
     }
 }
 
-TEST_P(Befehle, BuildsMissingIndexesWhenTold)
+TEST_P(Commands, BuildsMissingIndexesWhenTold)
 {
-    ASSERT_EQ(rufe({"create", ziel_}).ergebnis, tools::GUT);
-    const auto engine = istPostgres() ? oeffnePostgres(ziel_) : oeffneSqlite(ziel_, false);
-    Tabellenschema tafel = *findTabelle("TIFFTabelle");
-    engine->entferneTabelle("tifftabelle");
-    engine->legeTabelleAn(tafel);
-    EXPECT_NE(rufe({"check", ziel_}).aus.find("Fehler: Es fehlt der Index der Tabelle TIFFTabelle über Dateiname"),
-              std::string::npos);
-    EXPECT_EQ(rufe({"check", ziel_, "--reparieren"}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"check", ziel_}).ergebnis, tools::GUT);
-    engine->entferneTabelle("TIFFTabelle");
-    EXPECT_NE(rufe({"check", ziel_}).aus.find("Fehler: Die Tabelle TIFFTabelle fehlt."), std::string::npos);
+    ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
+    const auto engine = isPostgres() ? openPostgres(target_) : openSqlite(target_, false);
+    TableSchema panel = *findTable("TIFFTabelle");
+    engine->removeTable("tifftabelle");
+    engine->createTable(panel);
+    EXPECT_NE(
+        runCommand({"check", target_}).out.find("Fehler: Es fehlt der Index der Tabelle TIFFTabelle über Dateiname"),
+        std::string::npos);
+    EXPECT_EQ(runCommand({"check", target_, "--reparieren"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"check", target_}).result, tools::GOOD);
+    engine->removeTable("TIFFTabelle");
+    EXPECT_NE(runCommand({"check", target_}).out.find("Fehler: Die Tabelle TIFFTabelle fehlt."), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, Befehle, eigeneEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, Commands, ownEngines, engineName);
 
 } // namespace
 } // namespace quelvarn::test

@@ -25,19 +25,19 @@ class DamagedFile : public ::testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_EQ(rufe({"sample", pfad(file_), "--documents", "400"}).ergebnis, tools::GUT);
+        ASSERT_EQ(runCommand({"sample", path(file_), "--documents", "400"}).result, tools::GOOD);
         whole_ = lies(file_);
-        ASSERT_EQ(rufe({"check", pfad(file_), "--streng"}).ergebnis, tools::GUT);
+        ASSERT_EQ(runCommand({"check", path(file_), "--streng"}).result, tools::GOOD);
     }
 
     // True when check tells a person of it, in German, and ends with 1.
     bool isTold(const std::string& content) const
     {
-        schreibe(file_, content);
-        const Aufruf check = rufe({"check", pfad(file_)});
-        const bool finding = check.aus.find("Fehler: ") != std::string::npos;
-        const bool refused = check.meldungen.starts_with("Fehler: ");
-        EXPECT_EQ(check.ergebnis == tools::FEHLGESCHLAGEN, finding || refused) << check.aus << check.meldungen;
+        write(file_, content);
+        const Call check = runCommand({"check", path(file_)});
+        const bool finding = check.out.find("Fehler: ") != std::string::npos;
+        const bool refused = check.log.starts_with("Fehler: ");
+        EXPECT_EQ(check.result == tools::FAILED, finding || refused) << check.out << check.log;
         return finding || refused;
     }
 

@@ -10,64 +10,64 @@
 
 namespace quelvarn::test {
 
-inline const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_TEST_DATA);
-inline const std::filesystem::path PROBE = PROBEN / "werk-a.mdb";
+inline const std::filesystem::path SAMPLES = std::filesystem::path(QUELVARN_TEST_DATA);
+inline const std::filesystem::path PROBE = SAMPLES / "werk-a.mdb";
 
-inline void schreibe(const std::filesystem::path& datei, std::string_view inhalt)
+inline void write(const std::filesystem::path& file, std::string_view content)
 {
-    std::ofstream(datei, std::ios::binary) << inhalt;
+    std::ofstream(file, std::ios::binary) << content;
 }
 
-inline std::string lies(const std::filesystem::path& datei)
+inline std::string lies(const std::filesystem::path& file)
 {
-    std::ifstream strom(datei, std::ios::binary);
-    return {std::istreambuf_iterator<char>(strom), {}};
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-inline std::size_t eintraege(const std::filesystem::path& ordner)
+inline std::size_t entries(const std::filesystem::path& folder)
 {
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(ordner), {}));
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
 }
 
 // Nothing but one sentence comes of it.
-inline void erwarteAbsage(const std::vector<std::string>& aufruf, std::string_view teil,
-                          const std::filesystem::path& zielordner)
+inline void expectRefusal(const std::vector<std::string>& call, std::string_view part,
+                          const std::filesystem::path& targetFolder)
 {
-    const auto vorher = eintraege(zielordner);
-    const Aufruf ergebnis = rufe(aufruf);
-    EXPECT_EQ(ergebnis.ergebnis, tools::FEHLGESCHLAGEN) << teil;
-    EXPECT_EQ(ergebnis.aus, "");
-    EXPECT_NE(ergebnis.meldungen.find(teil), std::string::npos) << ergebnis.meldungen;
-    EXPECT_EQ(std::ranges::count(ergebnis.meldungen, '\n'), 1) << ergebnis.meldungen;
-    EXPECT_EQ(eintraege(zielordner), vorher) << teil;
+    const auto before = entries(targetFolder);
+    const Call result = runCommand(call);
+    EXPECT_EQ(result.result, tools::FAILED) << part;
+    EXPECT_EQ(result.out, "");
+    EXPECT_NE(result.log.find(part), std::string::npos) << result.log;
+    EXPECT_EQ(std::ranges::count(result.log, '\n'), 1) << result.log;
+    EXPECT_EQ(entries(targetFolder), before) << part;
 }
 
 class Import : public ::testing::Test
 {
 protected:
-    void erwarteAbsage(std::string_view inhalt, std::string_view teil)
+    void expectRefusal(std::string_view content, std::string_view part)
     {
-        schreibe(quelle_, inhalt);
-        test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "ziel.qv")}, teil, ordner_.path());
+        write(source_, content);
+        test::expectRefusal({"import", path(source_), path(folder_ / "ziel.qv")}, part, folder_.path());
     }
 
-    TempFolder ordner_;
-    std::filesystem::path quelle_ = ordner_ / "quelle.mdb";
+    TempFolder folder_;
+    std::filesystem::path source_ = folder_ / "quelle.mdb";
 };
 
-class ImportDerProbe : public Import
+class ImportOfTheSample : public Import
 {
 protected:
     void SetUp() override
     {
 #ifdef _WIN32
-        if (!oeffneAccess(pfad(PROBE)))
+        if (!openAccess(path(PROBE)))
             GTEST_SKIP() << "no ODBC driver of Access is here";
 #endif
-        inhalt_ = lies(PROBE);
+        content_ = lies(PROBE);
     }
 
-    std::string inhalt_;
+    std::string content_;
 };
 
 } // namespace quelvarn::test

@@ -5,35 +5,35 @@ namespace {
 
 TEST_F(Import, RefusesSourcesThatAreNoAccessFile)
 {
-    erwarteAbsage("Liebe Kollegen,\nanbei die Datenbank.\n", "ist keine Access-Datenbank");
-    erwarteAbsage("", "ist leer");
+    expectRefusal("Liebe Kollegen,\nanbei die Datenbank.\n", "ist keine Access-Datenbank");
+    expectRefusal("", "ist leer");
     using namespace std::string_view_literals;
-    erwarteAbsage("\0\1\0\0Standard Jet DB"sv, "ist abgeschnitten");
-    std::filesystem::remove(quelle_);
-    test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "ziel.qv")}, "gibt es nicht", ordner_.path());
-    test::erwarteAbsage({"import", pfad(ordner_.path()), pfad(ordner_ / "ziel.qv")}, "ist keine Datei", ordner_.path());
+    expectRefusal("\0\1\0\0Standard Jet DB"sv, "ist abgeschnitten");
+    std::filesystem::remove(source_);
+    test::expectRefusal({"import", path(source_), path(folder_ / "ziel.qv")}, "gibt es nicht", folder_.path());
+    test::expectRefusal({"import", path(folder_.path()), path(folder_ / "ziel.qv")}, "ist keine Datei", folder_.path());
 }
 
-TEST_F(ImportDerProbe, LeavesATargetAloneThatItMayNotReplace)
+TEST_F(ImportOfTheSample, LeavesATargetAloneThatItMayNotReplace)
 {
-    const auto ziel = ordner_ / "ziel.qv";
-    schreibe(ziel, "wichtig");
-    test::erwarteAbsage({"import", pfad(PROBE), pfad(ziel)}, "gibt es schon", ordner_.path());
-    test::erwarteAbsage({"import", pfad(PROBE), pfad(ziel), "--ersetzen"}, "ist kein Register", ordner_.path());
-    EXPECT_EQ(lies(ziel), "wichtig");
-    test::erwarteAbsage({"import", pfad(PROBE), pfad(ordner_ / "fehlt/ziel.qv")}, "lässt sich nicht anlegen",
-                        ordner_.path());
+    const auto target = folder_ / "ziel.qv";
+    write(target, "wichtig");
+    test::expectRefusal({"import", path(PROBE), path(target)}, "gibt es schon", folder_.path());
+    test::expectRefusal({"import", path(PROBE), path(target), "--ersetzen"}, "ist kein Register", folder_.path());
+    EXPECT_EQ(lies(target), "wichtig");
+    test::expectRefusal({"import", path(PROBE), path(folder_ / "fehlt/ziel.qv")}, "lässt sich nicht anlegen",
+                        folder_.path());
 }
 
-TEST_F(ImportDerProbe, ReplacesARegisterWhenTold)
+TEST_F(ImportOfTheSample, ReplacesARegisterWhenTold)
 {
-    const std::string ziel = pfad(ordner_ / "ziel.qv");
-    ASSERT_EQ(rufe({"create", ziel}).ergebnis, tools::GUT);
-    ASSERT_EQ(rufe({"import", pfad(PROBE), ziel, "--ersetzen"}).ergebnis, tools::GUT);
-    const auto wahrheit = nlohmann::json::parse(std::ifstream(PROBEN / "werk-a.truth.json"));
-    for (const auto& [tabelle, soll] : wahrheit["tables"].items())
-        EXPECT_EQ(zeilen(ziel, "Select Count(*) From " + tabelle)[1][0], soll["rows"]) << tabelle;
-    EXPECT_EQ(eintraege(ordner_.path()), 1U);
+    const std::string target = path(folder_ / "ziel.qv");
+    ASSERT_EQ(runCommand({"create", target}).result, tools::GOOD);
+    ASSERT_EQ(runCommand({"import", path(PROBE), target, "--ersetzen"}).result, tools::GOOD);
+    const auto truth = nlohmann::json::parse(std::ifstream(SAMPLES / "werk-a.truth.json"));
+    for (const auto& [table, should] : truth["tables"].items())
+        EXPECT_EQ(rows(target, "Select Count(*) From " + table)[1][0], should["rows"]) << table;
+    EXPECT_EQ(entries(folder_.path()), 1U);
 }
 
 } // namespace

@@ -18,8 +18,8 @@ public:
 private:
     std::streamsize xsputn(const char*, std::streamsize count) override
     {
-        const sql::Zuweisung row[] = {{"Feld1", std::string("Kollege")}};
-        colleague_.fuegeEin("Ini", row);
+        const sql::Assignment row[] = {{"Feld1", std::string("Kollege")}};
+        colleague_.insert("Ini", row);
         wrote_ = true;
         return count;
     }
@@ -29,21 +29,21 @@ private:
     bool wrote_ = false;
 };
 
-class QueryWithAPager : public Befehle
+class QueryWithAPager : public Commands
 {};
-INSTANTIATE_TEST_SUITE_P(Engines, QueryWithAPager, eigeneEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, QueryWithAPager, ownEngines, engineName);
 
 TEST_P(QueryWithAPager, LetsOthersWriteWhileAPersonReads)
 {
-    ASSERT_EQ(rufe({"sample", ziel_, "--documents", "3000"}).ergebnis, tools::GUT);
-    const auto colleague = istPostgres() ? oeffnePostgres(ziel_) : oeffneSqlite(pathFromUtf8(ziel_), false);
+    ASSERT_EQ(runCommand({"sample", target_, "--documents", "3000"}).result, tools::GOOD);
+    const auto colleague = isPostgres() ? openPostgres(target_) : openSqlite(pathFromUtf8(target_), false);
     Pager pager(*colleague);
     std::ostream out(&pager);
     std::ostringstream messages;
-    tools::Konsole console{out, messages};
+    tools::Console console{out, messages};
     const auto begin = std::chrono::steady_clock::now();
-    const std::vector<std::string> words{"query", ziel_, "Select * From PartTabelle"};
-    EXPECT_EQ(tools::fuehreAus(words, console), tools::GUT) << messages.str();
+    const std::vector<std::string> words{"query", target_, "Select * From PartTabelle"};
+    EXPECT_EQ(tools::execute(words, console), tools::GOOD) << messages.str();
     EXPECT_TRUE(pager.colleagueWrote());
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
 }
@@ -94,10 +94,10 @@ TEST(Progress, DoesNotHoldTheWorkWhenTheTerminalStandsStill)
     StoppedTerminal terminal;
     std::ostringstream out;
     std::ostream messages(&terminal);
-    tools::Konsole console{out, messages, true};
-    tools::Verlaufsanzeige progress(console);
+    tools::Console console{out, messages, true};
+    tools::ProgressLine progress(console);
     for (std::uint64_t i = 0; i < 100; ++i) // Would never end.
-        progress.schritt("Arbeit", i, 100);
+        progress.step("Arbeit", i, 100);
     terminal.goOn();
 }
 

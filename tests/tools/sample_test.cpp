@@ -9,48 +9,48 @@
 namespace quelvarn::test {
 namespace {
 
-std::int64_t anzahl(const std::string& ziel, std::string_view tabelle, const std::string& bedingung = {})
+std::int64_t count(const std::string& target, std::string_view table, const std::string& condition = {})
 {
-    return zeilen(ziel, "Select Count(*) From " + std::string(tabelle) + bedingung).at(1).at(0);
+    return rows(target, "Select Count(*) From " + std::string(table) + condition).at(1).at(0);
 }
 
-TEST(Musterregister, HasExactlyTheWantedNumberOfDocumentsAndNoFault)
+TEST(SampleRegister, HasExactlyTheWantedNumberOfDocumentsAndNoFault)
 {
-    TempFolder ordner;
-    for (const int dokumente : {1, 13, 500, 2000}) {
-        const std::string ziel = pfad(ordner / std::to_string(dokumente));
-        ASSERT_EQ(rufe({"sample", ziel, "--documents", std::to_string(dokumente)}).ergebnis, tools::GUT);
-        std::int64_t summe = 0;
-        for (const DokuTyp& typ : DOKUTYPEN)
-            summe += anzahl(ziel, typ.tabelle);
-        EXPECT_EQ(summe, dokumente);
-        const Aufruf pruefung = rufe({"check", ziel, "--streng"});
-        EXPECT_EQ(pruefung.ergebnis, tools::GUT) << pruefung.aus;
+    TempFolder folder;
+    for (const int documents : {1, 13, 500, 2000}) {
+        const std::string target = path(folder / std::to_string(documents));
+        ASSERT_EQ(runCommand({"sample", target, "--documents", std::to_string(documents)}).result, tools::GOOD);
+        std::int64_t sum = 0;
+        for (const DocumentType& type : DOCUMENT_TYPES)
+            sum += count(target, type.table);
+        EXPECT_EQ(sum, documents);
+        const Call check = runCommand({"check", target, "--streng"});
+        EXPECT_EQ(check.result, tools::GOOD) << check.out;
     }
 }
 
-TEST(Musterregister, IsTheSameForTheSameSeed)
+TEST(SampleRegister, IsTheSameForTheSameSeed)
 {
-    TempFolder ordner;
-    const auto inhalt = [&](const std::string& name, const std::string& start) {
-        const std::string ziel = pfad(ordner / name);
-        EXPECT_EQ(rufe({"sample", ziel, "--documents", "600", "--seed", start}).ergebnis, tools::GUT);
+    TempFolder folder;
+    const auto content = [&](const std::string& name, const std::string& start) {
+        const std::string target = path(folder / name);
+        EXPECT_EQ(runCommand({"sample", target, "--documents", "600", "--seed", start}).result, tools::GOOD);
         std::string text;
-        for (const auto& tabelle : {"PartTabelle", "DraftTabelle", "ZusBauPart", "PartTabelleBenutzDef", "CheckInOut"})
-            text += rufe({"query", ziel, std::string("Select * From ") + tabelle, "--json"}).aus;
+        for (const auto& table : {"PartTabelle", "DraftTabelle", "ZusBauPart", "PartTabelleBenutzDef", "CheckInOut"})
+            text += runCommand({"query", target, std::string("Select * From ") + table, "--json"}).out;
         return text;
     };
-    const std::string erstes = inhalt("a", "7");
-    EXPECT_EQ(inhalt("b", "7"), erstes);
-    EXPECT_NE(inhalt("c", "8"), erstes);
+    const std::string first = content("a", "7");
+    EXPECT_EQ(content("b", "7"), first);
+    EXPECT_NE(content("c", "8"), first);
 }
 
-TEST(Musterregister, OffersSomethingForEveryPageOfTheProgram)
+TEST(SampleRegister, OffersSomethingForEveryPageOfTheProgram)
 {
-    TempFolder ordner;
-    const std::string ziel = pfad(ordner / "muster");
-    ASSERT_EQ(rufe({"sample", ziel}).ergebnis, tools::GUT);
-    const std::pair<std::string, std::string> gesucht[] = {
+    TempFolder folder;
+    const std::string target = path(folder / "muster");
+    ASSERT_EQ(runCommand({"sample", target}).result, tools::GOOD);
+    const std::pair<std::string, std::string> sought[] = {
         {"PartTabelle", " WHERE Titel LIKE '%''%'"},
         {"PartTabelle", " WHERE Bearbeiter Is Null"},
         {"PartTabelle", " WHERE Bearbeiter LIKE ''"},
@@ -65,34 +65,34 @@ TEST(Musterregister, OffersSomethingForEveryPageOfTheProgram)
         {"CheckInOut", " WHERE ADNutzer = 91 AND RechnerNutzer = 'Meier'"},
         {"Adresstabelle", " WHERE Kennung = 'Signatur, Meier'"},
     };
-    for (const auto& [tabelle, bedingung] : gesucht)
-        EXPECT_GT(anzahl(ziel, tabelle, bedingung), 0) << tabelle << bedingung;
-    for (const DokuTyp& typ : DOKUTYPEN)
-        EXPECT_GT(anzahl(ziel, typ.tabelle), 20) << typ.tabelle;
-    for (int status = 0; status < ANZAHL_STATUS; ++status)
-        EXPECT_GT(anzahl(ziel, "PartTabelle", " WHERE Status = " + std::to_string(status)), 5) << status;
+    for (const auto& [table, condition] : sought)
+        EXPECT_GT(count(target, table, condition), 0) << table << condition;
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        EXPECT_GT(count(target, type.table), 20) << type.table;
+    for (int status = 0; status < STATUS_COUNT; ++status)
+        EXPECT_GT(count(target, "PartTabelle", " WHERE Status = " + std::to_string(status)), 5) << status;
 }
 
-TEST(Musterregister, WritesFilesWhereTheDocumentsAre)
+TEST(SampleRegister, WritesFilesWhereTheDocumentsAre)
 {
-    TempFolder ordner;
-    const std::string ziel = pfad(ordner / "muster");
-    ASSERT_EQ(rufe({"sample", ziel, "--documents", "300", "--files", pfad(ordner / "w")}).ergebnis, tools::GUT);
-    const auto systempfad = [&](std::string pfad) {
-        std::ranges::replace(pfad, '\\', '/');
-        return ordner / ("w/" + pfad.substr(3));
+    TempFolder folder;
+    const std::string target = path(folder / "muster");
+    ASSERT_EQ(runCommand({"sample", target, "--documents", "300", "--files", path(folder / "w")}).result, tools::GOOD);
+    const auto systemPath = [&](std::string path) {
+        std::ranges::replace(path, '\\', '/');
+        return folder / ("w/" + path.substr(3));
     };
     std::size_t pdfs = 0;
-    for (const auto& zeile : zeilen(ziel, "Select filename From DraftTabelle WHERE filename LIKE 'W:%'")) {
-        if (zeile[0] == "filename")
+    for (const auto& row : rows(target, "Select filename From DraftTabelle WHERE filename LIKE 'W:%'")) {
+        if (row[0] == "filename")
             continue;
-        auto datei = systempfad(zeile[0]);
-        EXPECT_TRUE(exists(datei)) << datei;
-        pdfs += exists(datei.replace_extension("pdf")) ? 1 : 0;
+        auto file = systemPath(row[0]);
+        EXPECT_TRUE(exists(file)) << file;
+        pdfs += exists(file.replace_extension("pdf")) ? 1 : 0;
     }
     EXPECT_GT(pdfs, 20U);
-    for (const auto& zeile : zeilen(ziel, "Select filename From TIFFTabelle"))
-        EXPECT_TRUE(zeile[0] == "filename" || exists(systempfad(zeile[0]))) << zeile[0];
+    for (const auto& row : rows(target, "Select filename From TIFFTabelle"))
+        EXPECT_TRUE(row[0] == "filename" || exists(systemPath(row[0]))) << row[0];
 }
 
 } // namespace

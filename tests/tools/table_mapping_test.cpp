@@ -11,112 +11,113 @@ namespace {
 
 using namespace std::string_view_literals;
 
-Zelle zelle(std::int64_t zahl)
+Cell cell(std::int64_t number)
 {
-    return {.art = Zellart::Ganzzahl, .ganzzahl = zahl, .gleitkomma = 0, .text = {}};
+    return {.kind = CellKind::Integer, .integer = number, .floatingPoint = 0, .text = {}};
 }
-Zelle zelle(double zahl, Zellart art = Zellart::Gleitkomma)
+Cell cell(double number, CellKind kind = CellKind::FloatingPoint)
 {
-    return {.art = art, .ganzzahl = 0, .gleitkomma = zahl, .text = {}};
+    return {.kind = kind, .integer = 0, .floatingPoint = number, .text = {}};
 }
-Zelle zelle(std::string_view text)
+Cell cell(std::string_view text)
 {
-    return {.art = Zellart::Text, .ganzzahl = 0, .gleitkomma = 0, .text = text};
+    return {.kind = CellKind::Text, .integer = 0, .floatingPoint = 0, .text = text};
 }
 
-TEST(Umwandlung, KeepsWhatFitsAndNamesWhatDoesNot)
+TEST(Conversion, KeepsWhatFitsAndNamesWhatDoesNot)
 {
-    const Zeitpunkt mittag = Zeitpunkt::aus({1899, 12, 29, 12, 0, 0});
+    const DateTime noon = DateTime::out({1899, 12, 29, 12, 0, 0});
     const struct
     {
-        Zelle zelle;
-        FeldTyp typ;
-        Value erwartet;
-        std::string_view grund;
-    } faelle[] = {
-        {{}, FeldTyp::Text, {}, ""},
-        {zelle(""sv), FeldTyp::Text, std::string(), ""}, // Not Null.
-        {zelle("a\0b"sv), FeldTyp::Text, std::string("ab"), ""},
-        {zelle(std::int64_t{-1}), FeldTyp::Ganzzahl, std::int64_t{-1}, ""},
-        {zelle(std::int64_t{3}), FeldTyp::Gleitkomma, 3.0, ""},
-        {zelle(std::int64_t{3}), FeldTyp::Text, std::string("3"), ""},
-        {zelle(3.0), FeldTyp::Ganzzahl, std::int64_t{3}, ""},
-        {zelle(3.5), FeldTyp::Ganzzahl, {}, "keine ganze Zahl"},
-        {zelle(3.5), FeldTyp::Text, std::string("3,5"), ""},
-        {zelle(std::nan("")), FeldTyp::Gleitkomma, {}, "keine Zahl"},
-        {zelle("1,5"sv), FeldTyp::Gleitkomma, 1.5, ""},
-        {zelle(" "sv), FeldTyp::Gleitkomma, {}, ""},
-        {zelle("drei"sv), FeldTyp::Ganzzahl, {}, "keine Zahl"},
+        Cell cell;
+        FieldType type;
+        Value expected;
+        std::string_view reason;
+    } cases[] = {
+        {{}, FieldType::Text, {}, ""},
+        {cell(""sv), FieldType::Text, std::string(), ""}, // Not Null.
+        {cell("a\0b"sv), FieldType::Text, std::string("ab"), ""},
+        {cell(std::int64_t{-1}), FieldType::Integer, std::int64_t{-1}, ""},
+        {cell(std::int64_t{3}), FieldType::FloatingPoint, 3.0, ""},
+        {cell(std::int64_t{3}), FieldType::Text, std::string("3"), ""},
+        {cell(3.0), FieldType::Integer, std::int64_t{3}, ""},
+        {cell(3.5), FieldType::Integer, {}, "keine ganze Zahl"},
+        {cell(3.5), FieldType::Text, std::string("3,5"), ""},
+        {cell(std::nan("")), FieldType::FloatingPoint, {}, "keine Zahl"},
+        {cell("1,5"sv), FieldType::FloatingPoint, 1.5, ""},
+        {cell(" "sv), FieldType::FloatingPoint, {}, ""},
+        {cell("drei"sv), FieldType::Integer, {}, "keine Zahl"},
         // The time of day counts forward on a day before the first one, too.
-        {zelle(-1.5, Zellart::Datum), FeldTyp::Datum, mittag, ""},
-        {zelle(-1.5, Zellart::Datum), FeldTyp::Text, std::string("29.12.1899 12:00:00"), ""},
-        {zelle(3e6, Zellart::Datum), FeldTyp::Datum, {}, "kein Datum von 100 bis 9999"},
-        {zelle(-std::numeric_limits<double>::infinity(), Zellart::Datum),
-         FeldTyp::Datum,
+        {cell(-1.5, CellKind::Date), FieldType::Date, noon, ""},
+        {cell(-1.5, CellKind::Date), FieldType::Text, std::string("29.12.1899 12:00:00"), ""},
+        {cell(3e6, CellKind::Date), FieldType::Date, {}, "kein Datum von 100 bis 9999"},
+        {cell(-std::numeric_limits<double>::infinity(), CellKind::Date),
+         FieldType::Date,
          {},
          "kein Datum von 100 bis 9999"},
-        {zelle("29.12.1899 12:00"sv), FeldTyp::Datum, mittag, ""},
-        {zelle("morgen"sv), FeldTyp::Datum, {}, "kein Datum von 100 bis 9999"},
+        {cell("29.12.1899 12:00"sv), FieldType::Date, noon, ""},
+        {cell("morgen"sv), FieldType::Date, {}, "kein Datum von 100 bis 9999"},
     };
-    for (const auto& fall : faelle) {
-        std::string_view grund;
-        EXPECT_EQ(alsWert(fall.zelle, fall.typ, grund), fall.erwartet) << fall.zelle.text << fall.zelle.gleitkomma;
-        EXPECT_EQ(grund, fall.grund) << fall.zelle.text << fall.zelle.gleitkomma;
+    for (const auto& testCase : cases) {
+        std::string_view reason;
+        EXPECT_EQ(asValue(testCase.cell, testCase.type, reason), testCase.expected)
+            << testCase.cell.text << testCase.cell.floatingPoint;
+        EXPECT_EQ(reason, testCase.reason) << testCase.cell.text << testCase.cell.floatingPoint;
     }
 }
 
-TEST(Tabellenabbildung, MatchesColumnsInAnyCaseAndKeepsTheOthers)
+TEST(TableMapping, MatchesColumnsInAnyCaseAndKeepsTheOthers)
 {
-    const Quelltabelle quelle{"partTABELLE",
-                              {{"ID", Spaltenart::Ganzzahl},
-                               {"REVBEZ", Spaltenart::Text},
-                               {"dokubez", Spaltenart::Text},
-                               {"Gespeichert", Spaltenart::Text},
-                               {"Bild", Spaltenart::Fremd}},
-                              0};
-    const Tabellenabbildung ergebnis = bildeAb(quelle, *findTabelle("PartTabelle"));
-    EXPECT_EQ(ergebnis.ziel.name, "PartTabelle");
-    EXPECT_EQ(ergebnis.ziel.spalten[0], (Spalte{"DokuBez", FeldTyp::Text}));
-    EXPECT_EQ(ergebnis.quelle[0], 2U);
-    EXPECT_EQ(ergebnis.quelle[1], 1U);
-    const auto gespeichert = std::ranges::find(ergebnis.ziel.spalten, "Gespeichert", &Spalte::name);
-    EXPECT_EQ(gespeichert->typ, FeldTyp::Text);
-    EXPECT_EQ(ergebnis.ziel.spalten.back(), (Spalte{"ID", FeldTyp::Ganzzahl}));
-    EXPECT_EQ(ergebnis.zusaetzliche, std::vector<std::string>{"ID"});
-    EXPECT_EQ(ergebnis.nichtGenommen, std::vector<std::size_t>{4});
-    EXPECT_NE(std::ranges::find(ergebnis.fehlende, "filename"), ergebnis.fehlende.end());
-}
-
-TEST(Tabellenabbildung, LeavesAnAddressTableItsShape)
-{
-    const Quelltabelle breit{
-        "Adresstabelle",
-        {{"Kennung", Spaltenart::Text}, {"Anrede E-Mail", Spaltenart::Text}, {"Zeichnung_Art1", Spaltenart::Text}},
-        0};
-    const std::vector<Spalte> spalten{
-        {"Kennung", FeldTyp::Text}, {"Anrede E-Mail", FeldTyp::Text}, {"Zeichnung_Art1", FeldTyp::Text}};
-    EXPECT_EQ(bildeAb(breit, *findTabelle("Adresstabelle")).ziel.spalten, spalten);
-}
-
-TEST(Einwand, NamesWhatMakesAFileNoRegister)
-{
-    const Quelltabelle ini{"INI",
-                           {{"Feld1", Spaltenart::Text},
-                            {"Feld2", Spaltenart::Text},
-                            {"Feld3", Spaltenart::Text},
-                            {"Feld4", Spaltenart::Text},
-                            {"Feld5", Spaltenart::Text}},
-                           0};
-    const Quelltabelle teile{"PartTabelle",
-                             {{"DokuBez", Spaltenart::Text},
-                              {"RevBez", Spaltenart::Text},
-                              {"filename", Spaltenart::Text},
-                              {"Status", Spaltenart::Ganzzahl}},
+    const SourceTable source{"partTABELLE",
+                             {{"ID", ColumnKind::Integer},
+                              {"REVBEZ", ColumnKind::Text},
+                              {"dokubez", ColumnKind::Text},
+                              {"Gespeichert", ColumnKind::Text},
+                              {"Bild", ColumnKind::Fremd}},
                              0};
-    EXPECT_EQ(findEinwand({{ini, teile}, {}}), std::nullopt);
-    EXPECT_TRUE(findEinwand({{teile}, {}}));
-    EXPECT_TRUE(findEinwand({{ini}, {"Kunden"}}));
-    EXPECT_TRUE(findEinwand({{{"Ini", {{"Feld1", Spaltenart::Text}}, 0}, teile}, {}}));
+    const TableMapping result = mapTable(source, *findTable("PartTabelle"));
+    EXPECT_EQ(result.target.name, "PartTabelle");
+    EXPECT_EQ(result.target.columns[0], (ColumnInfo{"DokuBez", FieldType::Text}));
+    EXPECT_EQ(result.source[0], 2U);
+    EXPECT_EQ(result.source[1], 1U);
+    const auto saved = std::ranges::find(result.target.columns, "Gespeichert", &ColumnInfo::name);
+    EXPECT_EQ(saved->type, FieldType::Text);
+    EXPECT_EQ(result.target.columns.back(), (ColumnInfo{"ID", FieldType::Integer}));
+    EXPECT_EQ(result.additional, std::vector<std::string>{"ID"});
+    EXPECT_EQ(result.notTaken, std::vector<std::size_t>{4});
+    EXPECT_NE(std::ranges::find(result.missing, "filename"), result.missing.end());
+}
+
+TEST(TableMapping, LeavesAnAddressTableItsShape)
+{
+    const SourceTable wide{
+        "Adresstabelle",
+        {{"Kennung", ColumnKind::Text}, {"Anrede E-Mail", ColumnKind::Text}, {"Zeichnung_Art1", ColumnKind::Text}},
+        0};
+    const std::vector<ColumnInfo> columns{
+        {"Kennung", FieldType::Text}, {"Anrede E-Mail", FieldType::Text}, {"Zeichnung_Art1", FieldType::Text}};
+    EXPECT_EQ(mapTable(wide, *findTable("Adresstabelle")).target.columns, columns);
+}
+
+TEST(Objection, NamesWhatMakesAFileNoRegister)
+{
+    const SourceTable ini{"INI",
+                          {{"Feld1", ColumnKind::Text},
+                           {"Feld2", ColumnKind::Text},
+                           {"Feld3", ColumnKind::Text},
+                           {"Feld4", ColumnKind::Text},
+                           {"Feld5", ColumnKind::Text}},
+                          0};
+    const SourceTable parts{"PartTabelle",
+                            {{"DokuBez", ColumnKind::Text},
+                             {"RevBez", ColumnKind::Text},
+                             {"filename", ColumnKind::Text},
+                             {"Status", ColumnKind::Integer}},
+                            0};
+    EXPECT_EQ(findObjection({{ini, parts}, {}}), std::nullopt);
+    EXPECT_TRUE(findObjection({{parts}, {}}));
+    EXPECT_TRUE(findObjection({{ini}, {"Kunden"}}));
+    EXPECT_TRUE(findObjection({{{"Ini", {{"Feld1", ColumnKind::Text}}, 0}, parts}, {}}));
 }
 
 } // namespace

@@ -21,32 +21,32 @@ using nlohmann::json;
 namespace quelvarn::test {
 namespace {
 
-const std::filesystem::path PROBEN = std::filesystem::path(QUELVARN_TEST_DATA);
+const std::filesystem::path SAMPLES = std::filesystem::path(QUELVARN_TEST_DATA);
 
 // These need more than the program's own dialect: joins, subselects, functions.
-const std::set<std::string> NICHT_IM_DIALEKT{"Q19", "Q45", "Q46", "Q47"};
+const std::set<std::string> NOT_IN_DIALECT{"Q19", "Q45", "Q46", "Q47"};
 
-std::string summeOf(const std::vector<json>& zeilen)
+std::string sumOf(const std::vector<json>& rows)
 {
     std::string text;
-    for (const json& zeile : zeilen)
-        text += (text.empty() ? "" : "\n") + zeile.dump();
+    for (const json& row : rows)
+        text += (text.empty() ? "" : "\n") + row.dump();
     return sha256(text);
 }
 
-std::vector<json> sortiert(std::vector<json> zeilen)
+std::vector<json> sorted(std::vector<json> rows)
 {
-    std::ranges::sort(zeilen, {}, [](const json& zeile) { return zeile.dump(); });
-    return zeilen;
+    std::ranges::sort(rows, {}, [](const json& row) { return row.dump(); });
+    return rows;
 }
 
-json wieAbgelegt(const Value& wert)
+json asStored(const Value& value)
 {
-    if (const auto* zahl = std::get_if<std::int64_t>(&wert))
-        return *zahl;
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return formatIso(*zeit);
-    return istNull(wert) ? json() : json(alsText(wert));
+    if (const auto* number = std::get_if<std::int64_t>(&value))
+        return *number;
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return formatIso(*time);
+    return isNull(value) ? json() : json(asText(value));
 }
 
 // The real Access file of an office, brought over once for each engine, against the figures of its generator.
@@ -60,193 +60,193 @@ protected:
 #ifdef _WIN32
         if (std::getenv("QUELVARN_WERK_A") && GetParam() == "PostgreSQL")
             GTEST_SKIP() << "mdbtools, which stands in for the driver of Access, does not tell Null from an empty text";
-        if (!std::getenv("QUELVARN_WERK_A") && !oeffneAccess(pfad(PROBEN / "werk-a.mdb")))
+        if (!std::getenv("QUELVARN_WERK_A") && !openAccess(path(SAMPLES / "werk-a.mdb")))
             GTEST_SKIP() << "no ODBC driver of Access is here";
 #endif
-        wahrheit_ = &wahrheit();
-        ziel_ = uebernommen(std::string(GetParam()));
+        truth_ = &truth();
+        target_ = adopted(std::string(GetParam()));
     }
 
-    static const json& wahrheit()
+    static const json& truth()
     {
-        static const json wahrheit = json::parse(std::ifstream(PROBEN / "werk-a.truth.json"));
-        return wahrheit;
+        static const json truth = json::parse(std::ifstream(SAMPLES / "werk-a.truth.json"));
+        return truth;
     }
 
-    static std::string uebernommen(const std::string& engine)
+    static std::string adopted(const std::string& engine)
     {
-        static TempFolder ordner;
-        static std::map<std::string, std::string> ziele;
+        static TempFolder folder;
+        static std::map<std::string, std::string> targets;
         // One that another system has made from the same source, for a driver that reads it only half.
-        if (const char* fertig = std::getenv("QUELVARN_WERK_A"); fertig && engine == "SQLite")
-            return fertig;
-        if (!ziele.contains(engine)) {
-            const std::string ziel =
-                engine == "PostgreSQL" ? PostgresCluster::find()->neueDatenbank() : pfad(ordner / "werk-a.qv");
-            const Aufruf aufruf = rufe({"import", pfad(PROBEN / "werk-a.mdb"), ziel});
-            EXPECT_EQ(aufruf.ergebnis, tools::GUT) << aufruf.meldungen;
-            EXPECT_EQ(aufruf.aus.find("Nicht übernommen"), std::string::npos) << aufruf.aus;
-            ziele[engine] = ziel;
+        if (const char* finish = std::getenv("QUELVARN_WERK_A"); finish && engine == "SQLite")
+            return finish;
+        if (!targets.contains(engine)) {
+            const std::string target =
+                engine == "PostgreSQL" ? PostgresCluster::find()->newDatabase() : path(folder / "werk-a.qv");
+            const Call call = runCommand({"import", path(SAMPLES / "werk-a.mdb"), target});
+            EXPECT_EQ(call.result, tools::GOOD) << call.log;
+            EXPECT_EQ(call.out.find("Nicht übernommen"), std::string::npos) << call.out;
+            targets[engine] = target;
         }
-        return ziele[engine];
+        return targets[engine];
     }
 
-    std::int64_t anzahl(const std::string& tabelle, const std::string& bedingung = {}) const
+    std::int64_t count(const std::string& table, const std::string& condition = {}) const
     {
-        return zeilen(ziel_, "Select Count(*) From " + tabelle + bedingung).at(1).at(0);
+        return rows(target_, "Select Count(*) From " + table + condition).at(1).at(0);
     }
 
     // Null cells are left out and counted.
-    json kennzahlen(const std::string& tabelle, const std::string& spalte, const json& soll) const
+    json figuresOf(const std::string& table, const std::string& column, const json& should) const
     {
-        std::vector<json> werte;
-        for (const json& zeile : zeilen(ziel_, fmt::format("Select {} From {}", spalte, tabelle)))
-            werte.push_back(zeile[0]);
-        werte.erase(werte.begin());
-        const auto nullwerte = std::erase_if(werte, [](const json& wert) { return wert.is_null(); });
-        json ist{{"null", nullwerte}};
-        if (soll.contains("distinct_exact"))
-            ist.update(textKennzahlen(werte));
+        std::vector<json> values;
+        for (const json& row : rows(target_, fmt::format("Select {} From {}", column, table)))
+            values.push_back(row[0]);
+        values.erase(values.begin());
+        const auto nullValues = std::erase_if(values, [](const json& value) { return value.is_null(); });
+        json is{{"null", nullValues}};
+        if (should.contains("distinct_exact"))
+            is.update(textFigures(values));
         else
-            ist.update(anderekennzahlen(werte, soll.contains("sum")));
-        return ist;
+            is.update(otherFigures(values, should.contains("sum")));
+        return is;
     }
 
-    static json textKennzahlen(const std::vector<json>& werte)
+    static json textFigures(const std::vector<json>& values)
     {
-        std::set<std::string> genau;
-        std::set<std::string> ohneSchreibweise;
-        std::set<std::string> ohneLeerzeichen;
-        std::size_t laenge = 0;
-        for (const std::string text : werte) {
-            genau.insert(text);
-            ohneSchreibweise.insert(foldCase(text));
-            ohneLeerzeichen.insert(foldCase(trimRightBlanks(text)));
-            laenge = std::max(laenge, countCharacters(text));
+        std::set<std::string> exactly;
+        std::set<std::string> withoutSpelling;
+        std::set<std::string> withoutBlank;
+        std::size_t length = 0;
+        for (const std::string text : values) {
+            exactly.insert(text);
+            withoutSpelling.insert(foldCase(text));
+            withoutBlank.insert(foldCase(trimRightBlanks(text)));
+            length = std::max(length, countCharacters(text));
         }
-        return {{"zero_length", std::ranges::count(werte, "")},
-                {"single_blank", std::ranges::count(werte, " ")},
-                {"max_length", laenge},
-                {"distinct_exact", genau.size()},
-                {"distinct_case_blind", ohneSchreibweise.size()},
-                {"distinct_case_and_trailing_blank_blind", ohneLeerzeichen.size()}};
+        return {{"zero_length", std::ranges::count(values, "")},
+                {"single_blank", std::ranges::count(values, " ")},
+                {"max_length", length},
+                {"distinct_exact", exactly.size()},
+                {"distinct_case_blind", withoutSpelling.size()},
+                {"distinct_case_and_trailing_blank_blind", withoutBlank.size()}};
     }
 
-    static json anderekennzahlen(const std::vector<json>& werte, bool zahlen)
+    static json otherFigures(const std::vector<json>& values, bool numbers)
     {
-        if (werte.empty())
+        if (values.empty())
             return json::object();
-        json ist{{"min", *std::ranges::min_element(werte)}, {"max", *std::ranges::max_element(werte)}};
-        if (!zahlen)
-            return ist;
-        double summe = 0;
-        for (const double wert : werte)
-            summe += wert;
-        ist["sum"] = std::round(summe * 1e6) / 1e6;
-        return ist;
+        json is{{"min", *std::ranges::min_element(values)}, {"max", *std::ranges::max_element(values)}};
+        if (!numbers)
+            return is;
+        double sum = 0;
+        for (const double value : values)
+            sum += value;
+        is["sum"] = std::round(sum * 1e6) / 1e6;
+        return is;
     }
 
-    const json* wahrheit_ = nullptr;
-    std::string ziel_;
+    const json* truth_ = nullptr;
+    std::string target_;
 };
 
 TEST_P(WerkA, HoldsEveryCellOfTheSource)
 {
-    for (const auto& [tabelle, soll] : (*wahrheit_)["tables"].items()) {
-        EXPECT_EQ(anzahl(tabelle), soll["rows"]) << tabelle;
-        for (const auto& [spalte, figuren] : soll["column_figures"].items()) {
-            json erwartet = figuren;
-            if (erwartet.contains("sum"))
-                erwartet["sum"] = std::round(erwartet["sum"].get<double>() * 1e6) / 1e6;
-            EXPECT_EQ(kennzahlen(tabelle, spalte, erwartet), erwartet) << tabelle << '.' << spalte;
+    for (const auto& [table, should] : (*truth_)["tables"].items()) {
+        EXPECT_EQ(count(table), should["rows"]) << table;
+        for (const auto& [column, figures] : should["column_figures"].items()) {
+            json expected = figures;
+            if (expected.contains("sum"))
+                expected["sum"] = std::round(expected["sum"].get<double>() * 1e6) / 1e6;
+            EXPECT_EQ(figuresOf(table, column, expected), expected) << table << '.' << column;
         }
     }
 }
 
 TEST_P(WerkA, CountsStatusesScopesOwnersAndCodesAsTheOfficeDoes)
 {
-    const json& w = *wahrheit_;
-    for (const auto& [tabelle, soll] : w["tables"].items()) {
-        const json stati = soll.value("status_counts", json::object());
-        for (const auto& [status, erwartet] : stati.items())
-            EXPECT_EQ(anzahl(tabelle, " WHERE Status = " + status), erwartet) << tabelle << status;
-        const json listen = soll.value("distinct_list_values", json::object());
-        for (const auto& [spalte, erwartet] : listen.items())
+    const json& w = *truth_;
+    for (const auto& [table, should] : w["tables"].items()) {
+        const json statuses = should.value("status_counts", json::object());
+        for (const auto& [status, expected] : statuses.items())
+            EXPECT_EQ(count(table, " WHERE Status = " + status), expected) << table << status;
+        const json lists = should.value("distinct_list_values", json::object());
+        for (const auto& [column, expected] : lists.items())
             EXPECT_EQ(
-                zeilen(ziel_, fmt::format("SELECT DISTINCT {0} FROM {1} WHERE {0} NOT LIKE '' AND {0} NOT LIKE ' '",
-                                          spalte, tabelle))
+                rows(target_, fmt::format("SELECT DISTINCT {0} FROM {1} WHERE {0} NOT LIKE '' AND {0} NOT LIKE ' '",
+                                          column, table))
                         .size() -
                     1,
-                erwartet["jet_distinct"])
-                << tabelle << '.' << spalte;
+                expected["jet_distinct"])
+                << table << '.' << column;
     }
-    for (const auto& [anwender, bereich] : w["user_scopes"].items())
-        for (const auto& [tabelle, sichtbar] : bereich["visible_rows"].items())
-            EXPECT_EQ(anzahl(tabelle, bereich["WhereStatus"]), sichtbar) << anwender << tabelle;
-    for (const auto& [gruppe, soll] : w["ini_rows_per_owner_and_group"].items()) {
-        const auto trenner = gruppe.find(" / ");
-        EXPECT_EQ(anzahl("Ini", fmt::format(" WHERE Feld1 = '{}' AND Feld2 = '{}'", gruppe.substr(0, trenner),
-                                            gruppe.substr(trenner + 3))),
-                  soll)
-            << gruppe;
+    for (const auto& [user, section] : w["user_scopes"].items())
+        for (const auto& [table, visible] : section["visible_rows"].items())
+            EXPECT_EQ(count(table, section["WhereStatus"]), visible) << user << table;
+    for (const auto& [group, should] : w["ini_rows_per_owner_and_group"].items()) {
+        const auto separator = group.find(" / ");
+        EXPECT_EQ(count("Ini", fmt::format(" WHERE Feld1 = '{}' AND Feld2 = '{}'", group.substr(0, separator),
+                                           group.substr(separator + 3))),
+                  should)
+            << group;
     }
-    for (const auto& [code, soll] : w["checkinout_rows_per_code"].items())
-        EXPECT_EQ(anzahl("CheckInOut", " WHERE ADNutzer = " + code), soll) << code;
+    for (const auto& [code, should] : w["checkinout_rows_per_code"].items())
+        EXPECT_EQ(count("CheckInOut", " WHERE ADNutzer = " + code), should) << code;
 }
 
 TEST_P(WerkA, AnswersEveryQueryLikeTheSource)
 {
-    for (const json& frage : (*wahrheit_)["queries"]) {
-        const std::string nummer = frage["id"];
-        if (NICHT_IM_DIALEKT.contains(nummer))
+    for (const json& ask : (*truth_)["queries"]) {
+        const std::string number = ask["id"];
+        if (NOT_IN_DIALECT.contains(number))
             continue;
-        const json& soll = frage["result"];
-        std::vector<json> ist = zeilen(ziel_, frage["sql"]);
-        EXPECT_EQ(ist.front(), soll["columns"]) << nummer;
-        ist.erase(ist.begin());
-        EXPECT_EQ(ist.size(), soll["count"]) << nummer;
-        if (!frage["ordered"])
-            ist = sortiert(std::move(ist));
-        EXPECT_EQ(summeOf(ist), soll["sha256"]) << nummer << ' ' << frage["sql"];
+        const json& should = ask["result"];
+        std::vector<json> is = rows(target_, ask["sql"]);
+        EXPECT_EQ(is.front(), should["columns"]) << number;
+        is.erase(is.begin());
+        EXPECT_EQ(is.size(), should["count"]) << number;
+        if (!ask["ordered"])
+            is = sorted(std::move(is));
+        EXPECT_EQ(sumOf(is), should["sha256"]) << number << ' ' << ask["sql"];
     }
 }
 
 TEST_P(WerkA, FiltersARecordsetLikeTheSource)
 {
-    Connection verbindung;
-    verbindung.OpenAdresse(ziel_);
-    for (const json& frage : (*wahrheit_)["queries"]) {
-        if (!frage.contains("recordset_filter"))
+    Connection connection;
+    connection.openAddress(target_);
+    for (const json& ask : (*truth_)["queries"]) {
+        if (!ask.contains("recordset_filter"))
             continue;
-        const std::string sql = frage["sql"];
-        const auto ab = sql.find(" FROM ");
+        const std::string sql = ask["sql"];
+        const auto from = sql.find(" FROM ");
         Recordset rs;
-        rs.Open(query("Select *" + sql.substr(ab, sql.find(" WHERE ") - ab)), verbindung);
-        rs.Filter(frage["recordset_filter"].get<std::string>());
-        EXPECT_EQ(rs.RecordCount(), frage["result"]["count"]) << frage["id"];
-        std::vector<json> ist;
+        rs.Open(query("Select *" + sql.substr(from, sql.find(" WHERE ") - from)), connection);
+        rs.Filter(ask["recordset_filter"].get<std::string>());
+        EXPECT_EQ(rs.RecordCount(), ask["result"]["count"]) << ask["id"];
+        std::vector<json> is;
         for (; !rs.Eof(); rs.MoveNext()) {
-            json zeile = json::array();
-            for (const std::string spalte : frage["result"]["columns"])
-                zeile.push_back(wieAbgelegt(rs.Feld(spalte)));
-            ist.push_back(zeile);
+            json row = json::array();
+            for (const std::string column : ask["result"]["columns"])
+                row.push_back(asStored(rs.field(column)));
+            is.push_back(row);
         }
-        EXPECT_EQ(summeOf(sortiert(std::move(ist))), frage["result"]["sha256"]) << frage["id"];
+        EXPECT_EQ(sumOf(sorted(std::move(is))), ask["result"]["sha256"]) << ask["id"];
     }
 }
 
 TEST_P(WerkA, ListsTablesInTheOrderOfTheSource)
 {
-    for (const auto& [tabelle, soll] : (*wahrheit_)["table_order"]["tables"].items()) {
-        std::vector<json> ist =
-            zeilen(ziel_, fmt::format("Select DokuBez, RevBez From {} ORDER BY DokuBez, RevBez DESC", tabelle));
-        ist.erase(ist.begin());
-        EXPECT_EQ(ist.size(), soll["count"]) << tabelle;
-        EXPECT_EQ(summeOf(ist), soll["sha256"]) << tabelle;
+    for (const auto& [table, should] : (*truth_)["table_order"]["tables"].items()) {
+        std::vector<json> is =
+            rows(target_, fmt::format("Select DokuBez, RevBez From {} ORDER BY DokuBez, RevBez DESC", table));
+        is.erase(is.begin());
+        EXPECT_EQ(is.size(), should["count"]) << table;
+        EXPECT_EQ(sumOf(is), should["sha256"]) << table;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, WerkA, eigeneEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, WerkA, ownEngines, engineName);
 
 } // namespace
 } // namespace quelvarn::test

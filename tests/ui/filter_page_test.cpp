@@ -22,90 +22,90 @@ class FormSEFilternTest : public TestRegister
 protected:
     FormSEFilternTest()
     {
-        zeile("PartTabelle", {{"DokuBez", "A-100"},
-                              {"RevBez", "0"},
-                              {"Status", 3},
-                              {"Projekt", "P1"},
-                              {"Geaendert", Zeitpunkt::aus({2026, 11, 2})}});
+        row("PartTabelle", {{"DokuBez", "A-100"},
+                            {"RevBez", "0"},
+                            {"Status", 3},
+                            {"Projekt", "P1"},
+                            {"Geaendert", DateTime::out({2026, 11, 2})}});
         program_.tabs.StartTabelleZeigen();
         program_.operations.show = [this](const Parts& parts) {
             if (!contains(parts, Part::FilterPage))
                 return;
-            ++operationen_;
-            seite_.zeigen();
+            ++operations_;
+            page_.refresh();
         };
-        modell_.zurDokumentseite = [this] { ++verlassen_; };
-        welt_.uhr.zeit = Zeitpunkt::aus({2026, 11, 22});
-        modell_.OpenFilterPage();
-        seite_.resize(939, 600);
-        seite_.show();
-        seite_.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&seite_));
-        operationen_ = 0;
+        model_.toDocumentPage = [this] { ++leave_; };
+        world_.clock.time = DateTime::out({2026, 11, 22});
+        model_.OpenFilterPage();
+        page_.resize(939, 600);
+        page_.show();
+        page_.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&page_));
+        operations_ = 0;
     }
 
-    template <typename Art> Art& finde(const char* name) { return *seite_.findChild<Art*>(QLatin1String(name)); }
-    std::string letzterWert() const
+    template <typename Kind> Kind& find(const char* name) { return *page_.findChild<Kind*>(QLatin1String(name)); }
+    std::string lastValue() const
     {
-        const auto& werte = modell_.kontext().FilterWerteTabelle();
-        return werte.empty() ? "" : werte.back().Benennung + " " + werte.back().Wert;
+        const auto& values = model_.context().FilterWerteTabelle();
+        return values.empty() ? "" : values.back().Benennung + " " + values.back().value;
     }
 
-    Waechter waechter_{welt_.meldungen, [] {}};
+    SlotGuard slotGuard_{world_.boxes, [] {}};
     FakeViewer viewers_;
     Program program_{session_, ports_, viewers_};
-    FilterPage& modell_ = program_.filterPage;
-    FormSEFiltern seite_{modell_, *new QWidget};
-    int operationen_ = 0;
-    int verlassen_ = 0;
+    FilterPage& model_ = program_.filterPage;
+    FormSEFiltern page_{model_, *new QWidget};
+    int operations_ = 0;
+    int leave_ = 0;
 };
 
 TEST_F(FormSEFilternTest, FollowsItsModelAndFiresNoOperation)
 {
-    modell_.eigenschaften().statusGewaehlt(1, true);
-    modell_.bereichGewaehlt(Filterbereich::Struktur);
-    operationen_ = 0;
-    seite_.zeigen();
-    EXPECT_EQ(operationen_, 0);
-    EXPECT_EQ(finde<QTabWidget>("SSTabDGFilter").currentIndex(), 1);
-    EXPECT_TRUE(finde<QAbstractButton>("ChFilterStat(1)").isChecked());
-    EXPECT_TRUE(finde<QTableView>("DGFilternWerte").isVisible());
+    model_.properties().statusChosen(1, true);
+    model_.sectionChosen(FilterSection::Structure);
+    operations_ = 0;
+    page_.refresh();
+    EXPECT_EQ(operations_, 0);
+    EXPECT_EQ(find<QTabWidget>("SSTabDGFilter").currentIndex(), 1);
+    EXPECT_TRUE(find<QAbstractButton>("ChFilterStat(1)").isChecked());
+    EXPECT_TRUE(find<QTableView>("DGFilternWerte").isVisible());
 }
 
 TEST_F(FormSEFilternTest, ADayIsPickedByOneClickOrByEnter)
 {
-    finde<QAbstractButton>("OpDat(1)").click();
-    finde<QAbstractButton>("OpDatBegr(2)").click();
-    auto& kalender = finde<Kalender>("MonthViewEigen");
-    EXPECT_EQ(kalender.selectedDate(), QDate(2026, 11, 22)) << "today";
-    auto& tage = *kalender.findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"));
-    QTest::keyClick(&tage, Qt::Key_Left);
-    EXPECT_EQ(letzterWert(), "") << "moving about picks nothing";
-    QTest::keyClick(&tage, Qt::Key_Return);
-    EXPECT_EQ(letzterWert(), "Geaendert <= 21.11.26");
-    const QModelIndex sechzehnter = tage.model()->index(4, 0);
-    QTest::mouseClick(tage.viewport(), Qt::LeftButton, {}, tage.visualRect(sechzehnter).center());
-    EXPECT_EQ(letzterWert(), "Geaendert <= 16.11.26");
-    EXPECT_EQ(modell_.kontext().FilterWerteTabelle().size(), 2U);
+    find<QAbstractButton>("OpDat(1)").click();
+    find<QAbstractButton>("OpDatBegr(2)").click();
+    auto& calendar = find<Calendar>("MonthViewEigen");
+    EXPECT_EQ(calendar.selectedDate(), QDate(2026, 11, 22)) << "today";
+    auto& days = *calendar.findChild<QTableView*>(QStringLiteral("qt_calendar_calendarview"));
+    QTest::keyClick(&days, Qt::Key_Left);
+    EXPECT_EQ(lastValue(), "") << "moving about picks nothing";
+    QTest::keyClick(&days, Qt::Key_Return);
+    EXPECT_EQ(lastValue(), "Geaendert <= 21.11.26");
+    const QModelIndex sixteenth = days.model()->index(4, 0);
+    QTest::mouseClick(days.viewport(), Qt::LeftButton, {}, days.visualRect(sixteenth).center());
+    EXPECT_EQ(lastValue(), "Geaendert <= 16.11.26");
+    EXPECT_EQ(model_.context().FilterWerteTabelle().size(), 2U);
 }
 
 TEST_F(FormSEFilternTest, KeysRunTheFilterAndLeave)
 {
-    auto& kombo = finde<QComboBox>("CbEigen(1)");
-    kombo.setFocus();
-    kombo.setCurrentIndex(0);
-    Q_EMIT kombo.activated(0);
-    EXPECT_EQ(letzterWert(), "Projekt P1");
-    EXPECT_EQ(kombo.currentText(), u"P1");
-    QTest::keyClick(&seite_, Qt::Key_Return, Qt::ControlModifier);
+    auto& combo = find<QComboBox>("CbEigen(1)");
+    combo.setFocus();
+    combo.setCurrentIndex(0);
+    Q_EMIT combo.activated(0);
+    EXPECT_EQ(lastValue(), "Projekt P1");
+    EXPECT_EQ(combo.currentText(), u"P1");
+    QTest::keyClick(&page_, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(program_.tables[0].state(), TableState::Filtered);
-    EXPECT_EQ(kombo.currentText(), u"") << "the lists were read anew";
+    EXPECT_EQ(combo.currentText(), u"") << "the lists were read anew";
 
-    QTest::keyClicks(&kombo, QStringLiteral("x"));
-    QTest::keyClick(&kombo, Qt::Key_Escape);
-    EXPECT_EQ(verlassen_, 0) << "takes back what was typed";
-    QTest::keyClick(&kombo, Qt::Key_Escape);
-    EXPECT_EQ(verlassen_, 1);
+    QTest::keyClicks(&combo, QStringLiteral("x"));
+    QTest::keyClick(&combo, Qt::Key_Escape);
+    EXPECT_EQ(leave_, 0) << "takes back what was typed";
+    QTest::keyClick(&combo, Qt::Key_Escape);
+    EXPECT_EQ(leave_, 1);
 }
 
 } // namespace

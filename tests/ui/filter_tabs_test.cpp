@@ -17,95 +17,95 @@ namespace {
 
 using Pfad = std::vector<std::string>;
 
-Strukturknoten knoten(std::string wert, std::vector<Strukturknoten> kinder = {})
+StructureNode node(std::string value, std::vector<StructureNode> children = {})
 {
-    return {std::move(wert), "", !kinder.empty(), std::move(kinder)};
+    return {std::move(value), "", !children.empty(), std::move(children)};
 }
 
-TEST(MerkmalbaumTest, ALevelReadMeanwhileLeavesTheRestUnfolded)
+TEST(FeatureTreeTest, ALevelReadMeanwhileLeavesTheRestUnfolded)
 {
-    Merkmalbaum baum;
-    const QAbstractItemModelTester vertrag(&baum, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    QTreeView ansicht;
-    ansicht.setModel(&baum);
-    Strukturknoten wurzel = knoten("", {knoten("Antrieb"), knoten("Welle")});
-    baum.zeige(wurzel);
-    ansicht.expand(baum.finde({}));
+    FeatureTree tree;
+    const QAbstractItemModelTester contract(&tree, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QTreeView view;
+    view.setModel(&tree);
+    StructureNode root = node("", {node("Antrieb"), node("Welle")});
+    tree.display(root);
+    view.expand(tree.find({}));
 
-    QSignalSpy zurueckgesetzt(&baum, &QAbstractItemModel::modelReset);
-    wurzel.kinder[1] = {"Welle", "Welle; Anz. 2; ", true, {knoten("glatt"), knoten("abgesetzt")}};
-    baum.zeige(wurzel);
-    EXPECT_TRUE(ansicht.isExpanded(baum.finde({})));
-    EXPECT_EQ(zurueckgesetzt.count(), 0);
-    EXPECT_EQ(baum.statuszeile(baum.finde({"Welle"})), QStringLiteral("Welle; Anz. 2; "));
-    const QModelIndex abgesetzt = baum.finde({"Welle", "abgesetzt"});
-    EXPECT_EQ(baum.pfad(abgesetzt), (Pfad{"Welle", "abgesetzt"}));
-    EXPECT_EQ(baum.pfad(abgesetzt.parent().parent()), Pfad{});
-    EXPECT_FALSE(baum.finde({"Antrieb", "abgesetzt"}).isValid());
+    QSignalSpy resetDone(&tree, &QAbstractItemModel::modelReset);
+    root.children[1] = {"Welle", "Welle; Anz. 2; ", true, {node("glatt"), node("abgesetzt")}};
+    tree.display(root);
+    EXPECT_TRUE(view.isExpanded(tree.find({})));
+    EXPECT_EQ(resetDone.count(), 0);
+    EXPECT_EQ(tree.statusRow(tree.find({"Welle"})), QStringLiteral("Welle; Anz. 2; "));
+    const QModelIndex stepped = tree.find({"Welle", "abgesetzt"});
+    EXPECT_EQ(tree.documentPath(stepped), (Pfad{"Welle", "abgesetzt"}));
+    EXPECT_EQ(tree.documentPath(stepped.parent().parent()), Pfad{});
+    EXPECT_FALSE(tree.find({"Antrieb", "abgesetzt"}).isValid());
 
-    baum.zeige(knoten("", {knoten("Lager")}));
-    EXPECT_EQ(zurueckgesetzt.count(), 1);
-    EXPECT_EQ(baum.index(0, 0, baum.finde({})).data().toString(), QStringLiteral("Lager"));
+    tree.display(node("", {node("Lager")}));
+    EXPECT_EQ(resetDone.count(), 1);
+    EXPECT_EQ(tree.index(0, 0, tree.find({})).data().toString(), QStringLiteral("Lager"));
 }
 
-class WertefeldTest : public testing::Test
+class ValueFieldTest : public testing::Test
 {
 protected:
-    WertefeldTest()
+    ValueFieldTest()
     {
-        liste_.gewaehlt = [this](const std::string& wert) { gewaehlt_.push_back(wert); };
-        liste_.resize(200, 200);
-        liste_.show();
+        list_.chosen = [this](const std::string& value) { chosen_.push_back(value); };
+        list_.resize(200, 200);
+        list_.show();
     }
 
-    QPoint mitte(int zeile) { return liste_.visualRect(liste_.model()->index(zeile, 0)).center(); }
+    QPoint middle(int row) { return list_.visualRect(list_.model()->index(row, 0)).center(); }
 
-    FakeMeldungen meldungen_;
-    Waechter waechter_{meldungen_, [] {}};
-    Wertefeld liste_{QStringLiteral("DLstBenutzDefWert")};
-    Pfad gewaehlt_;
+    FakeBoxes boxes_;
+    SlotGuard slotGuard_{boxes_, [] {}};
+    ValueField list_{QStringLiteral("DLstBenutzDefWert")};
+    Pfad chosen_;
 };
 
-TEST_F(WertefeldTest, OnlyAClickOrEnterPicks)
+TEST_F(ValueFieldTest, OnlyAClickOrEnterPicks)
 {
-    liste_.zeige({"*", "DIN 912", "ISO 4762"});
-    liste_.markiere("*");
-    QTest::keyClick(&liste_, Qt::Key_Down);
-    EXPECT_TRUE(gewaehlt_.empty());
-    QTest::keyClick(&liste_, Qt::Key_Return);
-    QTest::mouseClick(liste_.viewport(), Qt::LeftButton, {}, mitte(2));
-    QTest::mouseClick(liste_.viewport(), Qt::LeftButton, {}, mitte(2));
-    EXPECT_EQ(gewaehlt_, (Pfad{"DIN 912", "ISO 4762", "ISO 4762"}));
-    gewaehlt_.clear();
-    QTest::mouseClick(liste_.viewport(), Qt::LeftButton, {}, mitte(0));
-    QTest::mouseDClick(liste_.viewport(), Qt::LeftButton, {}, mitte(0));
-    QTest::mouseRelease(liste_.viewport(), Qt::LeftButton, {}, mitte(0));
-    EXPECT_EQ(gewaehlt_.size(), 1U) << "a double click is one pick";
+    list_.display({"*", "DIN 912", "ISO 4762"});
+    list_.mark("*");
+    QTest::keyClick(&list_, Qt::Key_Down);
+    EXPECT_TRUE(chosen_.empty());
+    QTest::keyClick(&list_, Qt::Key_Return);
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, middle(2));
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, middle(2));
+    EXPECT_EQ(chosen_, (Pfad{"DIN 912", "ISO 4762", "ISO 4762"}));
+    chosen_.clear();
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, middle(0));
+    QTest::mouseDClick(list_.viewport(), Qt::LeftButton, {}, middle(0));
+    QTest::mouseRelease(list_.viewport(), Qt::LeftButton, {}, middle(0));
+    EXPECT_EQ(chosen_.size(), 1U) << "a double click is one pick";
 }
 
-TEST_F(WertefeldTest, APickMayFillTheListAnew)
+TEST_F(ValueFieldTest, APickMayFillTheListAnew)
 {
-    liste_.zeige({"A", "B"});
-    liste_.gewaehlt = [this](const std::string& wert) {
-        liste_.zeige({});
-        gewaehlt_.push_back(wert);
+    list_.display({"A", "B"});
+    list_.chosen = [this](const std::string& value) {
+        list_.display({});
+        chosen_.push_back(value);
     };
-    QTest::mouseClick(liste_.viewport(), Qt::LeftButton, {}, mitte(1));
-    EXPECT_EQ(gewaehlt_, Pfad{"B"});
+    QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, middle(1));
+    EXPECT_EQ(chosen_, Pfad{"B"});
 }
 
-TEST_F(WertefeldTest, AHundredThousandValuesAreShownAtOnce)
+TEST_F(ValueFieldTest, AHundredThousandValuesAreShownAtOnce)
 {
-    Pfad werte;
+    Pfad values;
     for (int i = 0; i < 100'000; ++i)
-        werte.push_back("Wert " + std::to_string(i));
-    QElapsedTimer uhr;
-    uhr.start();
-    liste_.zeige(werte);
-    liste_.markiere(werte.back());
-    liste_.grab();
-    EXPECT_LT(uhr.elapsed(), 1000); // Measured: a tenth of it, with each entry laid out by itself many times more.
-    EXPECT_EQ(liste_.currentIndex().row(), 99'999);
+        values.push_back("Wert " + std::to_string(i));
+    QElapsedTimer clock;
+    clock.start();
+    list_.display(values);
+    list_.mark(values.back());
+    list_.grab();
+    EXPECT_LT(clock.elapsed(), 1000); // Measured: a tenth of it, with each entry laid out by itself many times more.
+    EXPECT_EQ(list_.currentIndex().row(), 99'999);
 }
 
 } // namespace

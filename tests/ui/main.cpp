@@ -7,9 +7,9 @@
 
 namespace {
 
-void warnung(QtMsgType art, const QMessageLogContext& /*ort*/, const QString& text)
+void warn(QtMsgType kind, const QMessageLogContext& /*ort*/, const QString& text)
 {
-    if (quelvarn::test::isFault(art, text))
+    if (quelvarn::test::isFault(kind, text))
         ADD_FAILURE() << "Qt: " << text.toStdString();
 }
 
@@ -19,7 +19,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    qInstallMessageHandler(warnung);
-    QApplication anwendung(argc, argv);
+    qInstallMessageHandler(warn);
+    QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -20,87 +20,87 @@ namespace {
 class MDIForm1Test : public testing::Test
 {
 protected:
-    std::string knoepfe()
+    std::string buttons()
     {
-        std::string sichtbar;
-        for (const QAction* knopf : fenster_.findChild<QToolBar*>(QStringLiteral("ToolbarMidiFrm"))->actions())
-            if (knopf->isVisible() && !knopf->text().isEmpty())
-                sichtbar += knopf->text().toStdString() + "|";
-        return sichtbar;
+        std::string visible;
+        for (const QAction* button : window_.findChild<QToolBar*>(QStringLiteral("ToolbarMidiFrm"))->actions())
+            if (button->isVisible() && !button->text().isEmpty())
+                visible += button->text().toStdString() + "|";
+        return visible;
     }
 
-    TempFolder ordner_;
-    FakePorts welt_;
-    Ports ports_ = welt_.ports();
+    TempFolder folder_;
+    FakePorts world_;
+    Ports ports_ = world_.ports();
     Operations operations_{ports_};
     SessionState session_;
-    Waechter waechter_{welt_.meldungen, [] {}};
-    Darstellung darstellung_{QString::fromStdString((ordner_ / "Darstellung.ini").string())};
-    MainWindow modell_{session_, operations_, {}};
-    MDIForm1 fenster_{modell_, session_, darstellung_};
+    SlotGuard slotGuard_{world_.boxes, [] {}};
+    Appearance appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
+    MainWindow model_{session_, operations_, {}};
+    MDIForm1 window_{model_, session_, appearance_};
 };
 
 TEST_F(MDIForm1Test, HasAFixedSizeInTwips)
 {
     // 1440 twips an inch, 96 dots an inch.
-    EXPECT_EQ(fenster_.minimumSize(), QSize(939, 673));
-    EXPECT_EQ(fenster_.maximumSize(), QSize(939, 673));
+    EXPECT_EQ(window_.minimumSize(), QSize(939, 673));
+    EXPECT_EQ(window_.maximumSize(), QSize(939, 673));
     session_.user.FensterHoehe = 10150;
-    fenster_.stelleGroesseEin();
-    EXPECT_EQ(fenster_.size(), QSize(939, 677));
+    window_.configureSize();
+    EXPECT_EQ(window_.size(), QSize(939, 677));
 
-    fenster_.show();
-    fenster_.setWindowState(Qt::WindowMaximized);
-    EXPECT_FALSE(fenster_.isMaximized()) << "it snaps back";
+    window_.show();
+    window_.setWindowState(Qt::WindowMaximized);
+    EXPECT_FALSE(window_.isMaximized()) << "it snaps back";
 
-    darstellung_.setzeFensterFrei(true);
-    fenster_.stelleGroesseEin();
-    fenster_.resize(1200, 800);
-    EXPECT_EQ(fenster_.size(), QSize(1200, 800));
-    EXPECT_TRUE(Darstellung(QString::fromStdString((ordner_ / "Darstellung.ini").string())).fensterFrei());
+    appearance_.setWindowFree(true);
+    window_.configureSize();
+    window_.resize(1200, 800);
+    EXPECT_EQ(window_.size(), QSize(1200, 800));
+    EXPECT_TRUE(Appearance(QString::fromStdString((folder_ / "Darstellung.ini").string())).windowFree());
 }
 
 TEST_F(MDIForm1Test, ShowsTheButtonsThatTheUserMayUse)
 {
-    for (const auto& [sichtbar, erwartet] :
+    for (const auto& [visible, expected] :
          {std::pair(1, "Bearbeiten|Einfügen Baugr.|Plazieren Zchn.|SmartViewer|Beenden|"),
           {0, "SmartViewer|Beenden|"}}) {
-        session_.rights.Sichtbar = {sichtbar, sichtbar, sichtbar, 1 - sichtbar, 0, 0};
+        session_.rights.Sichtbar = {visible, visible, visible, 1 - visible, 0, 0};
         session_.pages.ActiveQuelvarn = true;
-        modell_.stelleWerkzeugeEin();
-        fenster_.zeigen();
-        EXPECT_EQ(knoepfe(), erwartet);
+        model_.configureTools();
+        window_.refresh();
+        EXPECT_EQ(buttons(), expected);
     }
 }
 
 TEST_F(MDIForm1Test, RunsItsTimersAsTold)
 {
-    const auto* timer = fenster_.findChild<QTimer*>(QStringLiteral("TimerDBUpdate"));
+    const auto* timer = window_.findChild<QTimer*>(QStringLiteral("TimerDBUpdate"));
     session_.use.Zeitintervall = 30000;
-    modell_.stelleZeitgeberEin();
-    modell_.RefreshStatusBar();
-    fenster_.zeigen();
+    model_.configureTimers();
+    model_.RefreshStatusBar();
+    window_.refresh();
     EXPECT_TRUE(timer->isActive());
     EXPECT_EQ(timer->interval(), 30000);
-    EXPECT_FALSE(fenster_.findChild<QTimer*>(QStringLiteral("TimerCheckInOut"))->isActive());
+    EXPECT_FALSE(window_.findChild<QTimer*>(QStringLiteral("TimerCheckInOut"))->isActive());
 
-    fenster_.zeigeAenderungen({"", "", "14.02.11", "", ""});
-    EXPECT_EQ(fenster_.findChild<QLabel*>(QStringLiteral("StatusBarUpdate(7)"))->text(), u"14.02.11");
+    window_.showChanges({"", "", "14.02.11", "", ""});
+    EXPECT_EQ(window_.findChild<QLabel*>(QStringLiteral("StatusBarUpdate(7)"))->text(), u"14.02.11");
 
     session_.use.Zeitintervall = 0;
-    modell_.stelleZeitgeberEin();
-    fenster_.zeigen();
+    model_.configureTimers();
+    window_.refresh();
     EXPECT_FALSE(timer->isActive());
 }
 
 TEST_F(MDIForm1Test, ClosingAsksTheModelAndNothingElse)
 {
-    int beendet = 0;
-    modell_.beendet = [&] { ++beendet; };
-    fenster_.show();
-    fenster_.close();
-    EXPECT_EQ(beendet, 1);
-    EXPECT_TRUE(fenster_.isVisible()) << "the window goes with the program";
+    int ended = 0;
+    model_.ended = [&] { ++ended; };
+    window_.show();
+    window_.close();
+    EXPECT_EQ(ended, 1);
+    EXPECT_TRUE(window_.isVisible()) << "the window goes with the program";
 }
 
 } // namespace

@@ -16,126 +16,126 @@
 namespace quelvarn {
 namespace {
 
-using Pruefung = QAbstractItemModelTester::FailureReportingMode;
+using Check = QAbstractItemModelTester::FailureReportingMode;
 
-void fuelle(Recordset& zeilen, int anzahl)
+void fill(Recordset& rows, int count)
 {
-    zeilen.FeldAnhaengen("DokuBez", FeldTyp::Text);
-    zeilen.FeldAnhaengen("Menge", FeldTyp::Gleitkomma);
-    zeilen.Open();
-    for (int i = 0; i < anzahl; ++i) {
-        zeilen.AddNew();
-        zeilen.setzeFeld("DokuBez", "A-" + std::to_string(i));
-        zeilen.setzeFeld("Menge", i + 0.5);
-        zeilen.Update();
+    rows.appendField("DokuBez", FieldType::Text);
+    rows.appendField("Menge", FieldType::FloatingPoint);
+    rows.Open();
+    for (int i = 0; i < count; ++i) {
+        rows.AddNew();
+        rows.setField("DokuBez", "A-" + std::to_string(i));
+        rows.setField("Menge", i + 0.5);
+        rows.Update();
     }
 }
 
-TEST(Gittermodell, ShowsTheRowsOfARecordset)
+TEST(GridModel, ShowsTheRowsOfARecordset)
 {
-    Recordset zeilen;
-    fuelle(zeilen, 3);
-    Gittermodell modell({{"Dokumentname", "DokuBez"}, {"Menge", "Menge"}});
-    const QAbstractItemModelTester vertrag(&modell, Pruefung::Fatal);
-    EXPECT_EQ(modell.rowCount(), 0);
+    Recordset rows;
+    fill(rows, 3);
+    GridModel model({{"Dokumentname", "DokuBez"}, {"Menge", "Menge"}});
+    const QAbstractItemModelTester contract(&model, Check::Fatal);
+    EXPECT_EQ(model.rowCount(), 0);
 
-    EXPECT_TRUE(modell.zeige(&zeilen, 1));
-    EXPECT_EQ(modell.rowCount(), 3);
-    EXPECT_EQ(modell.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), u"Menge");
-    EXPECT_EQ(modell.index(2, 0).data().toString(), u"A-2");
-    EXPECT_EQ(modell.index(1, 1).data().toString(), u"1,5");
+    EXPECT_TRUE(model.display(&rows, 1));
+    EXPECT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), u"Menge");
+    EXPECT_EQ(model.index(2, 0).data().toString(), u"A-2");
+    EXPECT_EQ(model.index(1, 1).data().toString(), u"1,5");
 
-    zeilen.Filter("DokuBez = 'A-1'");
-    EXPECT_TRUE(modell.zeige(&zeilen, 2));
-    EXPECT_EQ(modell.rowCount(), 1);
-    EXPECT_EQ(modell.index(0, 0).data().toString(), u"A-1");
-    EXPECT_TRUE(modell.zeige(nullptr, 2));
-    EXPECT_EQ(modell.rowCount(), 0);
+    rows.Filter("DokuBez = 'A-1'");
+    EXPECT_TRUE(model.display(&rows, 2));
+    EXPECT_EQ(model.rowCount(), 1);
+    EXPECT_EQ(model.index(0, 0).data().toString(), u"A-1");
+    EXPECT_TRUE(model.display(nullptr, 2));
+    EXPECT_EQ(model.rowCount(), 0);
 }
 
 // The database cannot be read for a while.
-TEST(Gittermodell, AFaultIsToldOnceAndTheNextOperationReadsAgain)
+TEST(GridModel, AFaultIsToldOnceAndTheNextOperationReadsAgain)
 {
     const TempFolder folder;
-    FakeMeldungen boxes;
-    const Waechter guard(boxes, [] {});
-    const auto engine = oeffneSqlite(folder / "test.qv", true);
+    FakeBoxes boxes;
+    const SlotGuard guard(boxes, [] {});
+    const auto engine = openSqlite(folder / "test.qv", true);
     const auto fill = [&] {
-        engine->legeTabelleAn({"Tafel", {{"Wort"}, {"Bild"}}, {}});
-        const sql::Zuweisung values[] = {{"Wort", "w"}, {"Bild", "b"}};
-        engine->fuegeEin("Tafel", values);
-        engine->fuegeEin("Tafel", values);
+        engine->createTable({"Tafel", {{"Wort"}, {"Bild"}}, {}});
+        const sql::Assignment values[] = {{"Wort", "w"}, {"Bild", "b"}};
+        engine->insert("Tafel", values);
+        engine->insert("Tafel", values);
     };
     fill();
     Connection connection;
     connection.Open(folder / "test.qv");
     Recordset rows;
-    rows.setzeGanzGrenze(1);
+    rows.setWholeLimit(1);
     rows.Open("Select * From Tafel Order By Wort", connection);
-    Gittermodell model(std::vector<Gitterspalte>{{"Bild", "Bild"}});
-    model.zeige(&rows, 1);
+    GridModel model(std::vector<GridColumn>{{"Bild", "Bild"}});
+    model.display(&rows, 1);
     const auto cell = [&] { return model.index(1, 0).data().toString(); };
-    engine->entferneTabelle("Tafel");
-    boxes.antworte();
+    engine->removeTable("Tafel");
+    boxes.answer();
     for (int operation = 0; operation < 3; ++operation) {
-        model.zeige(&rows, 1);
+        model.display(&rows, 1);
         EXPECT_EQ(cell(), u"");
         QTest::qWait(10);
     }
-    EXPECT_EQ(boxes.gezeigt.size(), 1U);
+    EXPECT_EQ(boxes.shown.size(), 1U);
     fill();
     EXPECT_EQ(cell(), u"") << "not before an operation";
     const QSignalSpy drawn(&model, &QAbstractItemModel::dataChanged);
-    model.zeige(&rows, 1);
+    model.display(&rows, 1);
     EXPECT_EQ(drawn.count(), 1);
     EXPECT_EQ(cell(), u"b");
 }
 
-TEST(Gittermodell, IsNotBoundAnewWhenOnlyTheRowMoved)
+TEST(GridModel, IsNotBoundAnewWhenOnlyTheRowMoved)
 {
-    Recordset zeilen;
-    fuelle(zeilen, 3);
-    Gittermodell modell(std::vector<Gitterspalte>{{"Dokumentname", "DokuBez"}});
-    modell.zeige(&zeilen, 1);
-    const QSignalSpy neu(&modell, &QAbstractItemModel::modelReset);
-    zeilen.MoveLast();
-    EXPECT_FALSE(modell.zeige(&zeilen, 1));
-    EXPECT_EQ(neu.count(), 0);
+    Recordset rows;
+    fill(rows, 3);
+    GridModel model(std::vector<GridColumn>{{"Dokumentname", "DokuBez"}});
+    model.display(&rows, 1);
+    const QSignalSpy fresh(&model, &QAbstractItemModel::modelReset);
+    rows.MoveLast();
+    EXPECT_FALSE(model.display(&rows, 1));
+    EXPECT_EQ(fresh.count(), 0);
 }
 
-const std::vector<Knoten> BAUM{
-    {.text = "Eigenschaften", .kinder = {{.text = "Dateieigenschaften"}, {.text = "Benutzerdef. Eigenschaften"}}},
-    {.text = "Revision", .rot = true},
+const std::vector<Node> TREE{
+    {.text = "Eigenschaften", .children = {{.text = "Dateieigenschaften"}, {.text = "Benutzerdef. Eigenschaften"}}},
+    {.text = "Revision", .red = true},
     {.text = "SmartViewer"},
 };
 
-TEST(Baummodell, ShowsNodesWithTheirChildren)
+TEST(TreeModel, ShowsNodesWithTheirChildren)
 {
-    Baummodell modell;
-    const QAbstractItemModelTester vertrag(&modell, Pruefung::Fatal);
-    EXPECT_TRUE(modell.zeige(BAUM));
-    EXPECT_EQ(modell.rowCount(), 3);
-    const QModelIndex kind = modell.finde("Dateieigenschaften");
+    TreeModel model;
+    const QAbstractItemModelTester contract(&model, Check::Fatal);
+    EXPECT_TRUE(model.display(TREE));
+    EXPECT_EQ(model.rowCount(), 3);
+    const QModelIndex kind = model.find("Dateieigenschaften");
     EXPECT_EQ(kind.parent().data().toString(), u"Eigenschaften");
-    EXPECT_EQ(modell.rowCount(kind), 0);
-    EXPECT_FALSE(modell.finde("Besteht aus").isValid());
-    EXPECT_TRUE(modell.finde("Revision").data(Qt::ForegroundRole).isValid());
-    EXPECT_FALSE(modell.finde("SmartViewer").data(Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model.rowCount(kind), 0);
+    EXPECT_FALSE(model.find("Besteht aus").isValid());
+    EXPECT_TRUE(model.find("Revision").data(Qt::ForegroundRole).isValid());
+    EXPECT_FALSE(model.find("SmartViewer").data(Qt::ForegroundRole).isValid());
 
-    auto offen = BAUM;
-    offen[0].offen = true;
-    EXPECT_FALSE(modell.zeige(offen)) << "unfolding is no other tree";
+    auto open = TREE;
+    open[0].open = true;
+    EXPECT_FALSE(model.display(open)) << "unfolding is no other tree";
 }
 
 // A view keeps the index of a node it has just reported, while the report replaces the tree.
-TEST(Baummodell, AnIndexMayOutliveItsNode)
+TEST(TreeModel, AnIndexMayOutliveItsNode)
 {
-    Baummodell modell;
-    modell.zeige(BAUM);
-    const QModelIndex kind = modell.finde("Benutzerdef. Eigenschaften");
-    modell.zeige({{.text = "Eigenschaften"}});
+    TreeModel model;
+    model.display(TREE);
+    const QModelIndex kind = model.find("Benutzerdef. Eigenschaften");
+    model.display({{.text = "Eigenschaften"}});
     EXPECT_FALSE(kind.data().isValid());
-    EXPECT_EQ(modell.rowCount(kind), 0);
+    EXPECT_EQ(model.rowCount(kind), 0);
 }
 
 } // namespace

@@ -16,86 +16,86 @@ namespace quelvarn {
 namespace {
 
 // A session on a register of two parts and a drawing.
-class SeitenTest : public TestRegister
+class PagesTest : public TestRegister
 {
 protected:
-    SeitenTest()
+    PagesTest()
     {
-        for (const auto& [tabelle, name] :
+        for (const auto& [table, name] :
              {std::pair("PartTabelle", "A-100"), {"PartTabelle", "A-200"}, {"DraftTabelle", "Z-100"}})
-            zeile(tabelle, {{"DokuBez", name},
-                            {"RevBez", "0"},
-                            {"Dateiname", std::string(name) + ".par"},
-                            {"filename", "W:\\" + std::string(name) + ".par"},
-                            {"Status", 3},
-                            {"Erstellt", Zeitpunkt::aus({2010, 1, 25})},
-                            {"Geaendert", Zeitpunkt::aus({2011, 2, 14})}});
+            row(table, {{"DokuBez", name},
+                        {"RevBez", "0"},
+                        {"Dateiname", std::string(name) + ".par"},
+                        {"filename", "W:\\" + std::string(name) + ".par"},
+                        {"Status", 3},
+                        {"Erstellt", DateTime::out({2010, 1, 25})},
+                        {"Geaendert", DateTime::out({2011, 2, 14})}});
     }
 
-    QtViewer viewer_{welt_.dateien};
+    QtViewer viewer_{world_.files};
     Program program_{session_, ports_, viewer_};
-    Waechter waechter_{welt_.meldungen, [] {}};
+    SlotGuard slotGuard_{world_.boxes, [] {}};
 };
 
-template <typename Art> Art& finde(QWidget& seite, const char* name)
+template <typename Kind> Kind& find(QWidget& page, const char* name)
 {
-    return *seite.findChild<Art*>(QLatin1String(name));
+    return *page.findChild<Kind*>(QLatin1String(name));
 }
 
-TEST_F(SeitenTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
+TEST_F(PagesTest, FormSEDokuFollowsItsModelAndFiresNoOperation)
 {
-    FormSEDoku seite(program_, viewer_);
-    seite.resize(939, 600);
-    seite.show();
+    FormSEDoku page(program_, viewer_);
+    page.resize(939, 600);
+    page.show();
     program_.tabs.StartTabelleZeigen();
-    int operationen = 0;
-    program_.operations.show = [&](const Parts&) { ++operationen; };
-    seite.zeigen();
-    seite.zeigen();
-    EXPECT_EQ(operationen, 0);
-    EXPECT_EQ(finde<QTableView>(seite, "PartDataGrid").model()->rowCount(), 2);
+    int operations = 0;
+    program_.operations.show = [&](const Parts&) { ++operations; };
+    page.refresh();
+    page.refresh();
+    EXPECT_EQ(operations, 0);
+    EXPECT_EQ(find<QTableView>(page, "PartDataGrid").model()->rowCount(), 2);
 
     program_.tabs.chooseRow(1);
     program_.tabs.chooseTab(3);
-    operationen = 0;
-    seite.zeigen();
-    EXPECT_EQ(operationen, 0);
-    EXPECT_EQ(finde<QTabWidget>(seite, "SSTabDGDoku").currentIndex(), 3);
-    EXPECT_EQ(finde<QTableView>(seite, "PartDataGrid").currentIndex().row(), 1);
-    EXPECT_EQ(finde<QLabel>(seite, "LblInfo(2)").text(), u"Z-100");
+    operations = 0;
+    page.refresh();
+    EXPECT_EQ(operations, 0);
+    EXPECT_EQ(find<QTabWidget>(page, "SSTabDGDoku").currentIndex(), 3);
+    EXPECT_EQ(find<QTableView>(page, "PartDataGrid").currentIndex().row(), 1);
+    EXPECT_EQ(find<QLabel>(page, "LblInfo(2)").text(), u"Z-100");
 }
 
-TEST_F(SeitenTest, EachGestureOnFormSEDokuIsOneOperation)
+TEST_F(PagesTest, EachGestureOnFormSEDokuIsOneOperation)
 {
-    FormSEDoku seite(program_, viewer_);
-    seite.resize(939, 600);
-    seite.show();
+    FormSEDoku page(program_, viewer_);
+    page.resize(939, 600);
+    page.show();
     program_.tabs.StartTabelleZeigen();
-    int operationen = 0;
+    int operations = 0;
     program_.operations.show = [&](const Parts& parts) {
         if (!contains(parts, Part::Document))
-            return seite.refreshRows();
-        ++operationen;
-        seite.zeigen();
+            return page.refreshRows();
+        ++operations;
+        page.refresh();
     };
-    seite.zeigen();
-    auto& gitter = finde<QTableView>(seite, "PartDataGrid");
-    QTest::keyClick(&gitter, Qt::Key_Down);
-    EXPECT_EQ(operationen, 1);
+    page.refresh();
+    auto& grid = find<QTableView>(page, "PartDataGrid");
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(operations, 1);
     EXPECT_EQ(session_.AktDoku.DokuBez, "A-200");
 
-    auto& baum = finde<QTreeView>(seite, "PartTreeView");
-    const QModelIndex eigenschaften = baum.model()->index(0, 0);
-    baum.setExpanded(eigenschaften, false);
-    EXPECT_EQ(operationen, 2);
-    EXPECT_FALSE(program_.tree.tree().wurzeln.at(0).offen);
-    finde<QTabWidget>(seite, "SSTabDGDoku").setCurrentIndex(3);
+    auto& tree = find<QTreeView>(page, "PartTreeView");
+    const QModelIndex properties = tree.model()->index(0, 0);
+    tree.setExpanded(properties, false);
+    EXPECT_EQ(operations, 2);
+    EXPECT_FALSE(program_.tree.tree().roots.at(0).open);
+    find<QTabWidget>(page, "SSTabDGDoku").setCurrentIndex(3);
     EXPECT_EQ(session_.AktDoku.DokuBez, "Z-100");
-    seite.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&seite));
-    QTest::keyClick(&seite, Qt::Key_1, Qt::ControlModifier);
+    page.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    QTest::keyClick(&page, Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(program_.tables.tab(), 0);
-    EXPECT_TRUE(gitter.hasFocus());
+    EXPECT_TRUE(grid.hasFocus());
 }
 
 } // namespace

@@ -32,17 +32,17 @@ protected:
     PatienceTest()
     {
         constexpr int rows = 4000;
-        other_->legeTabelleAn({"Tafel", {{"Wort"}, {"Bild"}}, {}});
-        other_->beginne();
+        other_->createTable({"Tafel", {{"Wort"}, {"Bild"}}, {}});
+        other_->begin();
         for (int i = 0; i < rows; ++i) {
-            const sql::Zuweisung values[] = {{"Wort", std::to_string(10'000 + i)}, {"Bild", "b"}};
-            other_->fuegeEin("Tafel", values);
+            const sql::Assignment values[] = {{"Wort", std::to_string(10'000 + i)}, {"Bild", "b"}};
+            other_->insert("Tafel", values);
         }
-        other_->schliesseAb();
+        other_->commit();
         connection_.setPatience(&patience_);
         connection_.Open(folder_ / "test.qv");
         rows_.Open("Select * From Tafel Order By Wort", connection_);
-        grid_.zeige(&rows_, 1);
+        grid_.display(&rows_, 1);
 
         auto* column = new QVBoxLayout(&window_);
         column->addWidget(&button_);
@@ -59,7 +59,7 @@ protected:
     // Writes while the other program does, and does this in the middle of the wait. True when it was given up.
     bool write(const std::function<void()>& meanwhile)
     {
-        other_->beginne();
+        other_->begin();
         locked_ = true;
         foreign_ = 0;
         clock_.start();
@@ -77,7 +77,7 @@ protected:
     void release()
     {
         if (std::exchange(locked_, false))
-            other_->nimmZurueck();
+            other_->rollBack();
     }
     static QDialog* panel()
     {
@@ -88,17 +88,17 @@ protected:
     }
     QString cell(int row) const { return grid_.model()->index(row, 1).data().toString(); }
 
-    FakeMeldungen boxes_;
-    Waechter guard_{boxes_, [] {}};
+    FakeBoxes boxes_;
+    SlotGuard guard_{boxes_, [] {}};
     TempFolder folder_;
-    std::shared_ptr<Engine> other_ = oeffneSqlite(folder_ / "test.qv", true);
+    std::shared_ptr<Engine> other_ = openSqlite(folder_ / "test.qv", true);
     bool locked_ = false;
     QtPatience patience_;
     Connection connection_;
     Recordset rows_;
     QWidget window_;
     QPushButton button_;
-    Gitter grid_{"Gitter", {{"Wort", "Wort"}, {"Bild", "Bild"}}, {50, 50}};
+    Grid grid_{"Gitter", {{"Wort", "Wort"}, {"Bild", "Bild"}}, {50, 50}};
     QTimer timer_;
     QElapsedTimer clock_;
     int foreign_ = 0; // Operations that were started.
@@ -140,8 +140,8 @@ TEST_F(PatienceTest, AtTheStartItIsAWindowOfItsOwn)
 
 TEST_F(PatienceTest, ItsButtonIsReachedWhileLongWorkHoldsBackTheOthers)
 {
-    QtFortschritt progress;
-    LangeArbeit work(progress, "Filtern");
+    QtProgress progress;
+    LongWork work(progress, "Filtern");
     QTest::qSleep(120); // Now it would be shown.
     EXPECT_TRUE(work(1, 2));
     EXPECT_TRUE(write([] { QTest::mouseClick(panel()->findChild<QPushButton*>(), Qt::LeftButton); }));
@@ -159,8 +159,8 @@ TEST_F(PatienceTest, NothingElseUsesTheConnectionAndAllGoesOnAfterwards)
         grid_.resizeColumnsToContents();
         grid_.viewport()->repaint();
         EXPECT_EQ(cell(3999), u"");
-        EXPECT_EQ(connection_.offen(), true);
-        EXPECT_THROW(rows_.Zelle(3000, "Bild"), Laufzeitfehler);
+        EXPECT_EQ(connection_.open(), true);
+        EXPECT_THROW(rows_.cell(3000, "Bild"), RuntimeError);
         release();
     }));
     EXPECT_EQ(panel(), nullptr);
@@ -171,7 +171,7 @@ TEST_F(PatienceTest, NothingElseUsesTheConnectionAndAllGoesOnAfterwards)
     QTest::mouseClick(&button_, Qt::LeftButton);
     EXPECT_EQ(foreign_, 1);
     EXPECT_TRUE(window_.updatesEnabled());
-    EXPECT_TRUE(boxes_.gezeigt.empty());
+    EXPECT_TRUE(boxes_.shown.empty());
 }
 
 } // namespace

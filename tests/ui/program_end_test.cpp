@@ -35,8 +35,8 @@ class ProgramEndTest : public testing::Test
 protected:
     ProgramEndTest()
     {
-        model_.beendet = [this] { events_ += "ended "; };
-        end_.setWindow(window_, [this] { model_.entladen(); });
+        model_.ended = [this] { events_ += "ended "; };
+        end_.setWindow(window_, [this] { model_.unload(); });
         window_.show();
         window_.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -45,14 +45,14 @@ protected:
 
     TempFolder folder_;
     FakePorts world_;
-    QtMeldungen messages_;
+    QtBoxes messages_;
     QtPatience patience_;
-    QtFortschritt progress_;
+    QtProgress progress_;
     Ports ports_ = world_.ports();
     Operations operations_{ports_};
     SessionState session_;
-    Waechter guard_{messages_, [this] { events_ += "cancelled "; }};
-    Darstellung appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
+    SlotGuard guard_{messages_, [this] { events_ += "cancelled "; }};
+    Appearance appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
     MainWindow model_{session_, operations_, {}};
     MDIForm1 window_{model_, session_, appearance_};
     ProgramEnd end_{messages_, patience_, progress_};
@@ -67,11 +67,11 @@ TEST_F(ProgramEndTest, AtOnceWhenNothingRuns)
 
 TEST_F(ProgramEndTest, ABoxIsAnsweredAndItsOperationGoesToItsEndFirst)
 {
-    QTimer::singleShot(0, &window_, bewacht([this] {
+    QTimer::singleShot(0, &window_, guardedSlot([this] {
                            QTimer::singleShot(0, &window_, logOut);
-                           const Meldung box{"Fehlermeldung", "Fehler", Symbol::Kritisch, Knoepfe::OkAbbrechen};
-                           const bool goesOn = messages_.zeige(box) == Antwort::Ok;
-                           events_ += goesOn && !messages_.frage("Weiter", "Noch eine?") ? "answered " : "wrong ";
+                           const Box box{"Fehlermeldung", "Fehler", Icon::Critical, Buttons::OkCancel};
+                           const bool goesOn = messages_.show(box) == Answer::Ok;
+                           events_ += goesOn && !messages_.ask("Weiter", "Noch eine?") ? "answered " : "wrong ";
                        }));
     EXPECT_TRUE(QTest::qWaitFor([this] { return ended(); }, LONGEST));
     EXPECT_EQ(events_, "answered ended ");
@@ -90,8 +90,8 @@ TEST_F(ProgramEndTest, AnOpenMenuHoldsNothingUp)
 
 TEST_F(ProgramEndTest, RunningWorkIsGivenUp)
 {
-    QTimer::singleShot(0, &window_, bewacht([this] {
-                           LangeArbeit work(progress_, "Filtern der Dokumente");
+    QTimer::singleShot(0, &window_, guardedSlot([this] {
+                           LongWork work(progress_, "Filtern der Dokumente");
                            QElapsedTimer time;
                            bool asked = false;
                            for (time.start(); work(1, 2) && time.elapsed() < LONGEST;)
@@ -105,13 +105,13 @@ TEST_F(ProgramEndTest, RunningWorkIsGivenUp)
 
 TEST_F(ProgramEndTest, TheLastMomentDoesNotWaitForABox)
 {
-    QTimer::singleShot(0, &window_, bewacht([this] {
+    QTimer::singleShot(0, &window_, guardedSlot([this] {
                            QTimer::singleShot(0, &window_, [this] {
                                QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection);
                                EXPECT_EQ(events_, "ended ");
                                logOut(); // Closes the box.
                            });
-                           messages_.zeige({"Fehlermeldung", "Fehler", Symbol::Kritisch, Knoepfe::OkAbbrechen});
+                           messages_.show({"Fehlermeldung", "Fehler", Icon::Critical, Buttons::OkCancel});
                        }));
     EXPECT_TRUE(QTest::qWaitFor([this] { return ended() && !QApplication::activeModalWidget(); }, LONGEST));
 }

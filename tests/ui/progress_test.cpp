@@ -16,107 +16,107 @@
 namespace quelvarn {
 namespace {
 
-constexpr int LANG = 400; // milliseconds
+constexpr int LONG = 400; // milliseconds
 
-class FortschrittTest : public testing::Test
+class ProgressTest : public testing::Test
 {
 protected:
-    FortschrittTest()
+    ProgressTest()
     {
-        auto* aufbau = new QVBoxLayout(&fenster_);
-        aufbau->addWidget(knopf_);
-        QObject::connect(knopf_, &QPushButton::clicked, &fenster_, [this] { ++fremdes_; });
-        auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), &fenster_);
-        QObject::connect(esc, &QShortcut::activated, &fenster_, [this] { ++fremdes_; });
-        fenster_.resize(600, 400);
-        fenster_.show();
-        fenster_.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster_));
+        auto* layout = new QVBoxLayout(&window_);
+        layout->addWidget(button_);
+        QObject::connect(button_, &QPushButton::clicked, &window_, [this] { ++foreign_; });
+        auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), &window_);
+        QObject::connect(esc, &QShortcut::activated, &window_, [this] { ++foreign_; });
+        window_.resize(600, 400);
+        window_.show();
+        window_.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
     }
 
-    // Works for so long and does `mittendrin` once when the field is on the screen. True when not given up.
-    bool arbeite(int dauer, const std::function<void()>& mittendrin = {})
+    // Works for so long and does `inTheMiddle` once when the field is on the screen. True when not given up.
+    bool work(int duration, const std::function<void()>& inTheMiddle = {})
     {
-        LangeArbeit arbeit(anzeige_, "Filtern der Dokumente");
-        QElapsedTimer zeit;
-        bool getan = false;
-        for (zeit.start(); zeit.elapsed() < dauer;) {
-            if (!arbeit(static_cast<std::size_t>(zeit.elapsed()), static_cast<std::size_t>(dauer)))
+        LongWork work(display_, "Filtern der Dokumente");
+        QElapsedTimer time;
+        bool done = false;
+        for (time.start(); time.elapsed() < duration;) {
+            if (!work(static_cast<std::size_t>(time.elapsed()), static_cast<std::size_t>(duration)))
                 return false;
-            if (gezeigtes() != nullptr && !std::exchange(getan, true) && mittendrin)
-                mittendrin();
+            if (shown() != nullptr && !std::exchange(done, true) && inTheMiddle)
+                inTheMiddle();
         }
         return true;
     }
 
-    Fortschrittsfeld* gezeigtes() const
+    ProgressField* shown() const
     {
-        const auto felder = fenster_.findChildren<Fortschrittsfeld*>();
-        for (auto* feld : felder)
-            if (feld->isVisible())
-                return feld;
+        const auto fields = window_.findChildren<ProgressField*>();
+        for (auto* field : fields)
+            if (field->isVisible())
+                return field;
         return nullptr;
     }
 
-    FakeMeldungen meldungen_;
-    Waechter waechter_{meldungen_, [] {}};
-    QWidget fenster_;
-    QPushButton* knopf_ = new QPushButton;
-    QtFortschritt anzeige_;
-    int fremdes_ = 0; // Operations that were started while the work ran.
+    FakeBoxes boxes_;
+    SlotGuard slotGuard_{boxes_, [] {}};
+    QWidget window_;
+    QPushButton* button_ = new QPushButton;
+    QtProgress display_;
+    int foreign_ = 0; // Operations that were started while the work ran.
 };
 
-TEST_F(FortschrittTest, QuickWorkIsNeverShown)
+TEST_F(ProgressTest, QuickWorkIsNeverShown)
 {
-    bool gesehen = false;
-    LangeArbeit arbeit(anzeige_, "Filtern");
+    bool seen = false;
+    LongWork work(display_, "Filtern");
     for (std::size_t i = 0; i < 1000; ++i) {
-        EXPECT_TRUE(arbeit(i, 1000));
-        gesehen = gesehen || gezeigtes() != nullptr;
+        EXPECT_TRUE(work(i, 1000));
+        seen = seen || shown() != nullptr;
     }
-    EXPECT_FALSE(gesehen);
+    EXPECT_FALSE(seen);
 }
 
-TEST_F(FortschrittTest, LongWorkIsGivenUpByButtonEscOrClosing)
+TEST_F(ProgressTest, LongWorkIsGivenUpByButtonEscOrClosing)
 {
-    const std::vector<std::function<void()>> wege{
-        [this] { QTest::mouseClick(&gezeigtes()->abbrechen(), Qt::LeftButton); },
-        [this] { QTest::keyClick(&fenster_, Qt::Key_Escape); },
-        [this] { fenster_.close(); },
+    const std::vector<std::function<void()>> routes{
+        [this] { QTest::mouseClick(&shown()->cancel(), Qt::LeftButton); },
+        [this] { QTest::keyClick(&window_, Qt::Key_Escape); },
+        [this] { window_.close(); },
     };
-    for (const auto& weg : wege) {
-        EXPECT_FALSE(arbeite(LANG, weg));
-        EXPECT_EQ(gezeigtes(), nullptr) << "gone with the work";
-        EXPECT_TRUE(fenster_.isVisible());
+    for (const auto& route : routes) {
+        EXPECT_FALSE(work(LONG, route));
+        EXPECT_EQ(shown(), nullptr) << "gone with the work";
+        EXPECT_TRUE(window_.isVisible());
     }
-    EXPECT_EQ(fremdes_, 0);
+    EXPECT_EQ(foreign_, 0);
 }
 
-TEST_F(FortschrittTest, NothingElseStartsWhileItRuns)
+TEST_F(ProgressTest, NothingElseStartsWhileItRuns)
 {
-    QTimer zeitgeber;
-    QObject::connect(&zeitgeber, &QTimer::timeout, &fenster_, [this] { ++fremdes_; });
-    zeitgeber.start(10);
-    EXPECT_TRUE(arbeite(LANG, [this] {
-        QTest::mouseClick(knopf_, Qt::LeftButton);
-        QTest::keyClick(knopf_, Qt::Key_Space);
+    QTimer timerSetting;
+    QObject::connect(&timerSetting, &QTimer::timeout, &window_, [this] { ++foreign_; });
+    timerSetting.start(10);
+    EXPECT_TRUE(work(LONG, [this] {
+        QTest::mouseClick(button_, Qt::LeftButton);
+        QTest::keyClick(button_, Qt::Key_Space);
     }));
-    EXPECT_EQ(fremdes_, 0);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return fremdes_ > 0; })) << "the timer comes again";
-    zeitgeber.stop();
-    fremdes_ = 0;
-    QTest::mouseClick(knopf_, Qt::LeftButton);
-    EXPECT_EQ(fremdes_, 1) << "and so does the person";
+    EXPECT_EQ(foreign_, 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return foreign_ > 0; })) << "the timer comes again";
+    timerSetting.stop();
+    foreign_ = 0;
+    QTest::mouseClick(button_, Qt::LeftButton);
+    EXPECT_EQ(foreign_, 1) << "and so does the person";
 }
 
-TEST_F(FortschrittTest, ThePageInFrontLendsItsBar)
+TEST_F(ProgressTest, ThePageInFrontLendsItsBar)
 {
-    auto* feld = new Fortschrittsfeld("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef");
-    fenster_.layout()->addWidget(feld);
-    for (const bool verliehen : {true, false}) {
-        feld->setzeVerliehen(verliehen);
-        EXPECT_TRUE(arbeite(LANG, [&] { EXPECT_EQ(gezeigtes() == feld, verliehen); }));
-        EXPECT_TRUE(feld->isHidden());
+    auto* field = new ProgressField("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef");
+    window_.layout()->addWidget(field);
+    for (const bool lent : {true, false}) {
+        field->setLent(lent);
+        EXPECT_TRUE(work(LONG, [&] { EXPECT_EQ(shown() == field, lent); }));
+        EXPECT_TRUE(field->isHidden());
     }
 }
 

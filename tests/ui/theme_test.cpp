@@ -16,103 +16,103 @@
 namespace quelvarn {
 namespace {
 
-class DarstellungTest : public testing::TestWithParam<Modus>
+class AppearanceTest : public testing::TestWithParam<Mode>
 {
 protected:
-    DarstellungTest()
+    AppearanceTest()
     {
-        darstellung_.setzeModus(GetParam());
-        darstellung_.wendeAn(*qApp);
+        appearance_.setMode(GetParam());
+        appearance_.apply(*qApp);
     }
 
-    TempFolder ordner_;
-    Darstellung darstellung_{QString::fromStdString((ordner_ / "Darstellung.ini").string())};
+    TempFolder folder_;
+    Appearance appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
 };
 
-TEST_P(DarstellungTest, TextsStandOutFromTheirGround)
+TEST_P(AppearanceTest, TextsStandOutFromTheirGround)
 {
-    const Farbsatz& farben = farbsatz();
-    EXPECT_EQ(farben.dunkel, GetParam() == Modus::Dunkel);
-    for (const QColor& text : {farben.text, farben.gedaempft, farben.akzent, farben.warnung}) {
-        EXPECT_GE(kontrast(text, farben.flaeche), 4.5) << text.name().toStdString();
-        EXPECT_GE(kontrast(text, farben.streifen), 4.5) << text.name().toStdString();
+    const ColourSet& colours = colourSet();
+    EXPECT_EQ(colours.dark, GetParam() == Mode::Dark);
+    for (const QColor& text : {colours.text, colours.muted, colours.accent, colours.warn}) {
+        EXPECT_GE(contrast(text, colours.area), 4.5) << text.name().toStdString();
+        EXPECT_GE(contrast(text, colours.strip), 4.5) << text.name().toStdString();
     }
-    EXPECT_GE(kontrast(farben.text, farben.auswahl), 4.5);
+    EXPECT_GE(contrast(colours.text, colours.selection), 4.5);
     for (const StatusText& status : STATUS) {
-        EXPECT_GE(kontrast(statusText(status.farbe), farben.flaeche), 4.5) << status.name;
-        EXPECT_GE(kontrast(statusPunkt(status.farbe), farben.flaeche), 2.2) << status.name;
+        EXPECT_GE(contrast(statusText(status.colour), colours.area), 4.5) << status.name;
+        EXPECT_GE(contrast(statusDot(status.colour), colours.area), 2.2) << status.name;
     }
 }
 
-TEST_P(DarstellungTest, IsRememberedOnThisComputer)
+TEST_P(AppearanceTest, IsRememberedOnThisComputer)
 {
-    const Darstellung spaeter(QString::fromStdString((ordner_ / "Darstellung.ini").string()));
-    EXPECT_EQ(spaeter.modus(), GetParam());
-    EXPECT_FALSE(spaeter.fensterFrei());
+    const Appearance later(QString::fromStdString((folder_ / "Darstellung.ini").string()));
+    EXPECT_EQ(later.mode(), GetParam());
+    EXPECT_FALSE(later.windowFree());
 }
 
-TEST_P(DarstellungTest, PicturesTakeTheColourOfTheText)
+TEST_P(AppearanceTest, PicturesTakeTheColourOfTheText)
 {
-    const auto gezeichnet = [](QIcon::Mode modus, const QColor& farbe) {
-        const QColor mitte = symbol("plus").pixmap(QSize(24, 24), modus).toImage().pixelColor(12, 12);
-        return kontrast(mitte, farbe) < 1.05; // But for the softened edge.
+    const auto drawn = [](QIcon::Mode mode, const QColor& colour) {
+        const QColor middle = icon("plus").pixmap(QSize(24, 24), mode).toImage().pixelColor(12, 12);
+        return contrast(middle, colour) < 1.05; // But for the softened edge.
     };
-    EXPECT_TRUE(gezeichnet(QIcon::Normal, farbsatz().text));
-    EXPECT_TRUE(gezeichnet(QIcon::Disabled, farbsatz().inaktiv));
+    EXPECT_TRUE(drawn(QIcon::Normal, colourSet().text));
+    EXPECT_TRUE(drawn(QIcon::Disabled, colourSet().inactive));
 }
 
-INSTANTIATE_TEST_SUITE_P(HellUndDunkel, DarstellungTest, testing::Values(Modus::Hell, Modus::Dunkel));
+INSTANTIATE_TEST_SUITE_P(LightAndDark, AppearanceTest, testing::Values(Mode::Light, Mode::Dark));
 
-TEST(Symbole, EachFileCanBeDrawn)
+TEST(Icons, EachFileCanBeDrawn)
 {
-    symbol("start").pixmap(16, 16); // Brings the resources in.
-    const auto namen = QDir(QStringLiteral(":/quelvarn/icons")).entryList({QStringLiteral("*.svg")});
-    EXPECT_GT(namen.size(), 40);
-    for (const QString& name : namen) {
-        const QImage bild = symbol(name.chopped(4).toStdString()).pixmap(24, 24).toImage();
-        bool leer = true;
-        for (int i = 0; i < bild.width() * bild.height(); ++i)
-            leer = leer && bild.pixelColor(i % bild.width(), i / bild.width()).alpha() == 0;
-        EXPECT_FALSE(leer) << name.toStdString();
+    icon("start").pixmap(16, 16); // Brings the resources in.
+    const auto names = QDir(QStringLiteral(":/quelvarn/icons")).entryList({QStringLiteral("*.svg")});
+    EXPECT_GT(names.size(), 40);
+    for (const QString& name : names) {
+        const QImage picture = icon(name.chopped(4).toStdString()).pixmap(24, 24).toImage();
+        bool empty = true;
+        for (int i = 0; i < picture.width() * picture.height(); ++i)
+            empty = empty && picture.pixelColor(i % picture.width(), i / picture.width()).alpha() == 0;
+        EXPECT_FALSE(empty) << name.toStdString();
     }
 }
 
-struct Boxfall
+struct BoxCase
 {
-    Knoepfe knoepfe;
-    std::vector<std::string> beschriftungen;
-    int gedrueckt; // -1 for Esc
-    Antwort antwort;
+    Buttons buttons;
+    std::vector<std::string> captions;
+    int pressed; // -1 for Esc
+    Answer answer;
 };
 
-TEST(QtMeldungen, OffersGermanAnswers)
+TEST(QtBoxes, OffersGermanAnswers)
 {
-    const std::vector<Boxfall> faelle{
-        {Knoepfe::Ok, {"OK"}, 0, Antwort::Ok},
-        {Knoepfe::OkAbbrechen, {"OK", "Abbrechen"}, 1, Antwort::Abbrechen},
-        {Knoepfe::OkAbbrechen, {"OK", "Abbrechen"}, -1, Antwort::Abbrechen},
-        {Knoepfe::JaNein, {"&Ja", "&Nein"}, 0, Antwort::Ja},
-        {Knoepfe::JaNein, {"&Ja", "&Nein"}, -1, Antwort::Nein},
-        {Knoepfe::JaNeinAbbrechen, {"&Ja", "&Nein", "Abbrechen"}, 1, Antwort::Nein},
+    const std::vector<BoxCase> cases{
+        {Buttons::Ok, {"OK"}, 0, Answer::Ok},
+        {Buttons::OkCancel, {"OK", "Abbrechen"}, 1, Answer::Cancel},
+        {Buttons::OkCancel, {"OK", "Abbrechen"}, -1, Answer::Cancel},
+        {Buttons::YesNo, {"&Ja", "&Nein"}, 0, Answer::Yes},
+        {Buttons::YesNo, {"&Ja", "&Nein"}, -1, Answer::No},
+        {Buttons::YesNoCancel, {"&Ja", "&Nein", "Abbrechen"}, 1, Answer::No},
     };
-    for (const Boxfall& fall : faelle) {
-        std::vector<std::string> gesehen;
+    for (const BoxCase& testCase : cases) {
+        std::vector<std::string> seen;
         QTimer::singleShot(0, qApp, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             for (const char* text : {"OK", "&Ja", "&Nein", "Abbrechen"})
-                for (QAbstractButton* knopf : box->buttons())
-                    if (knopf->text() == QLatin1String(text))
-                        gesehen.emplace_back(text);
+                for (QAbstractButton* button : box->buttons())
+                    if (button->text() == QLatin1String(text))
+                        seen.emplace_back(text);
             EXPECT_EQ(box->text(), u"OK =               weiter");
-            if (fall.gedrueckt < 0)
+            if (testCase.pressed < 0)
                 return box->reject();
-            for (QAbstractButton* knopf : box->buttons())
-                if (knopf->text().toStdString() == fall.beschriftungen[static_cast<std::size_t>(fall.gedrueckt)])
-                    return knopf->click();
+            for (QAbstractButton* button : box->buttons())
+                if (button->text().toStdString() == testCase.captions[static_cast<std::size_t>(testCase.pressed)])
+                    return button->click();
         });
-        EXPECT_EQ(QtMeldungen().zeige({"Titel", "OK =               weiter", Symbol::Frage, fall.knoepfe}),
-                  fall.antwort);
-        EXPECT_EQ(gesehen, fall.beschriftungen);
+        EXPECT_EQ(QtBoxes().show({"Titel", "OK =               weiter", Icon::Question, testCase.buttons}),
+                  testCase.answer);
+        EXPECT_EQ(seen, testCase.captions);
     }
 }
 

@@ -13,78 +13,78 @@
 namespace quelvarn {
 namespace {
 
-class WertekomboTest : public testing::Test
+class ValueComboTest : public testing::Test
 {
 protected:
-    WertekomboTest()
+    ValueComboTest()
     {
-        kombo_.gewaehlt = [this](const std::string& wert) { gewaehlt_.push_back(wert); };
-        kombo_.zeige({"Deckel", "Flansch", "Welle", "Wellenmutter"});
-        kombo_.resize(200, 25);
-        kombo_.show();
-        kombo_.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&kombo_));
-        kombo_.setFocus();
+        combo_.chosen = [this](const std::string& value) { chosen_.push_back(value); };
+        combo_.display({"Deckel", "Flansch", "Welle", "Wellenmutter"});
+        combo_.resize(200, 25);
+        combo_.show();
+        combo_.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&combo_));
+        combo_.setFocus();
     }
 
-    FakeMeldungen meldungen_;
-    Waechter waechter_{meldungen_, [] {}};
-    Wertekombo kombo_{QStringLiteral("CbEigen(1)")};
-    std::vector<std::string> gewaehlt_;
+    FakeBoxes boxes_;
+    SlotGuard slotGuard_{boxes_, [] {}};
+    ValueCombo combo_{QStringLiteral("CbEigen(1)")};
+    std::vector<std::string> chosen_;
 };
 
-TEST_F(WertekomboTest, OnlyAPickOfAPersonIsTold)
+TEST_F(ValueComboTest, OnlyAPickOfAPersonIsTold)
 {
-    kombo_.zeige({"Anker", "Bolzen"});
-    for (int mal = 0; mal < 2; ++mal) {
-        QTest::keyClick(&kombo_, Qt::Key_Down);
-        ASSERT_TRUE(kombo_.view()->isVisible());
-        EXPECT_EQ(gewaehlt_.size(), static_cast<std::size_t>(mal)) << "opening the list is no pick";
-        kombo_.view()->setCurrentIndex(kombo_.model()->index(1, 0));
-        QTest::keyClick(kombo_.view(), Qt::Key_Return);
+    combo_.display({"Anker", "Bolzen"});
+    for (int times = 0; times < 2; ++times) {
+        QTest::keyClick(&combo_, Qt::Key_Down);
+        ASSERT_TRUE(combo_.view()->isVisible());
+        EXPECT_EQ(chosen_.size(), static_cast<std::size_t>(times)) << "opening the list is no pick";
+        combo_.view()->setCurrentIndex(combo_.model()->index(1, 0));
+        QTest::keyClick(combo_.view(), Qt::Key_Return);
     }
-    EXPECT_EQ(gewaehlt_, (std::vector<std::string>{"Bolzen", "Bolzen"}));
-    EXPECT_EQ(kombo_.currentText(), u"Bolzen");
-    kombo_.zeige({"Anker", "Bolzen"}, 1);
-    EXPECT_EQ(kombo_.currentText(), u"") << "lists read anew";
+    EXPECT_EQ(chosen_, (std::vector<std::string>{"Bolzen", "Bolzen"}));
+    EXPECT_EQ(combo_.currentText(), u"Bolzen");
+    combo_.display({"Anker", "Bolzen"}, 1);
+    EXPECT_EQ(combo_.currentText(), u"") << "lists read anew";
 }
 
-TEST_F(WertekomboTest, TypingNarrowsTheListAndEnterPicks)
+TEST_F(ValueComboTest, TypingNarrowsTheListAndEnterPicks)
 {
-    QTest::keyClicks(&kombo_, QStringLiteral("mutter"));
-    ASSERT_EQ(kombo_.completer()->completionCount(), 1);
-    auto* liste = kombo_.completer()->popup();
-    ASSERT_TRUE(liste->isVisible());
-    QTest::keyClick(liste, Qt::Key_Down);
-    QTest::keyClick(liste, Qt::Key_Return);
-    EXPECT_EQ(gewaehlt_, std::vector<std::string>{"Wellenmutter"});
-    EXPECT_EQ(kombo_.currentText(), u"Wellenmutter");
+    QTest::keyClicks(&combo_, QStringLiteral("mutter"));
+    ASSERT_EQ(combo_.completer()->completionCount(), 1);
+    auto* list = combo_.completer()->popup();
+    ASSERT_TRUE(list->isVisible());
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(chosen_, std::vector<std::string>{"Wellenmutter"});
+    EXPECT_EQ(combo_.currentText(), u"Wellenmutter");
 }
 
-TEST_F(WertekomboTest, WhatMatchesNothingIsTakenBack)
+TEST_F(ValueComboTest, WhatMatchesNothingIsTakenBack)
 {
-    QTest::keyClicks(&kombo_, QStringLiteral("Zahnrad"));
-    QTest::keyClick(&kombo_, Qt::Key_Return);
-    QTest::keyClick(&kombo_, Qt::Key_Escape);
-    EXPECT_EQ(kombo_.currentText(), u"");
-    QWheelEvent rad({5, 5}, kombo_.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                    false);
-    QApplication::sendEvent(&kombo_, &rad);
-    EXPECT_TRUE(gewaehlt_.empty());
+    QTest::keyClicks(&combo_, QStringLiteral("Zahnrad"));
+    QTest::keyClick(&combo_, Qt::Key_Return);
+    QTest::keyClick(&combo_, Qt::Key_Escape);
+    EXPECT_EQ(combo_.currentText(), u"");
+    QWheelEvent wheel({5, 5}, combo_.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&combo_, &wheel);
+    EXPECT_TRUE(chosen_.empty());
 }
 
-TEST_F(WertekomboTest, AHundredThousandValuesOpenAtOnce)
+TEST_F(ValueComboTest, AHundredThousandValuesOpenAtOnce)
 {
-    std::vector<std::string> werte;
+    std::vector<std::string> values;
     for (int i = 0; i < 100'000; ++i)
-        werte.push_back("Zeichnung " + std::to_string(i));
-    QElapsedTimer zeit;
-    zeit.start();
-    kombo_.zeige(werte);
-    kombo_.showPopup();
+        values.push_back("Zeichnung " + std::to_string(i));
+    QElapsedTimer time;
+    time.start();
+    combo_.display(values);
+    combo_.showPopup();
     QApplication::processEvents();
-    kombo_.hidePopup();
-    EXPECT_LT(zeit.elapsed(), 400);
+    combo_.hidePopup();
+    EXPECT_LT(time.elapsed(), 400);
 }
 
 } // namespace

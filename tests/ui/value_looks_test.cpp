@@ -37,12 +37,12 @@ namespace quelvarn {
 namespace {
 
 // As the program: with its style and style sheet.
-void usePrograms(Modus modus = Modus::Hell)
+void usePrograms(Mode mode = Mode::Light)
 {
     const TempFolder folder;
-    Darstellung appearance{QString::fromStdString((folder / "Darstellung.ini").string())};
-    appearance.setzeModus(modus);
-    appearance.wendeAn(*qApp);
+    Appearance appearance{QString::fromStdString((folder / "Darstellung.ini").string())};
+    appearance.setMode(mode);
+    appearance.apply(*qApp);
 }
 
 QString million()
@@ -89,33 +89,33 @@ protected:
     {
         usePrograms();
         page_.resize(333, 490);
-        page_.zeigen({});
+        page_.refresh({});
         page_.show();
-        usePrograms(Modus::Dunkel); // A new style for widgets that stand already, without a text.
-        values_.leer = false;
+        usePrograms(Mode::Dark); // A new style for widgets that stand already, without a text.
+        values_.empty = false;
         values_.Status = "3";
         values_.StatusName = "(Freigegeben)";
         values_.Titel = "Rahmen";
         values_.Geaendert = values_.Erstellt = "14.02.11";
         values_.Bearbeiter = values_.Autor = "Meier";
-        values_.kopf8 = "Eingebaut:";
-        values_.kopf39 = "Zeichnung:";
-        values_.wert9 = values_.wert40 = "Nein";
+        values_.heading8 = "Eingebaut:";
+        values_.heading39 = "Zeichnung:";
+        values_.value9 = values_.value40 = "Nein";
         values_.Dateiname = "A-100.par";
     }
 
     // Where the text of a label begins and how much room it has.
     QRect place(int index)
     {
-        page_.zeigen(values_);
+        page_.refresh(values_);
         QCoreApplication::processEvents();
         const auto& label = *page_.findChild<QLabel*>(QStringLiteral("LblInfo(%1)").arg(index));
         const QPoint corner = label.mapTo(&page_, label.contentsRect().topLeft());
         return label.isVisible() ? QRect(corner, label.contentsRect().size()) : QRect();
     }
 
-    Allgemeinansicht page_;
-    AllgemeineSeite values_;
+    GeneralView page_;
+    GeneralPage values_;
 };
 
 TEST_F(GeneralPageTest, ALongValueMovesNoOther)
@@ -124,9 +124,8 @@ TEST_F(GeneralPageTest, ALongValueMovesNoOther)
     const QRect author = place(29);
     const int left = place(11).left();
     EXPECT_EQ(date.left(), left) << "all values begin at the same place";
-    for (std::string AllgemeineSeite::*field :
-         {&AllgemeineSeite::Bearbeiter, &AllgemeineSeite::Autor, &AllgemeineSeite::wert9, &AllgemeineSeite::StatusName,
-          &AllgemeineSeite::Titel}) {
+    for (std::string GeneralPage::*field : {&GeneralPage::Bearbeiter, &GeneralPage::Autor, &GeneralPage::value9,
+                                            &GeneralPage::StatusName, &GeneralPage::Titel}) {
         const std::string before = values_.*field;
         values_.*field = "Konstruktionsbüro Schröder & Weber in der Außenstelle Hohenstein";
         EXPECT_EQ(place(25).topLeft().x(), left);
@@ -149,12 +148,12 @@ TEST_F(GeneralPageTest, ALineBreakIsALineAndAnEmptyLineNone)
 
     const int first = place(8).top();
     const int below = place(31).top();
-    values_.kopf8 = values_.wert9 = "";
-    values_.kopf39 = "Modell:";
+    values_.heading8 = values_.value9 = "";
+    values_.heading39 = "Modell:";
     EXPECT_EQ(place(39).top(), first) << "no empty line above";
     EXPECT_LT(place(31).top(), below);
     const int oneLineLess = below - place(31).top();
-    values_.kopf39 = values_.wert40 = "";
+    values_.heading39 = values_.value40 = "";
     EXPECT_GT(below - place(31).top(), 2 * oneLineLess) << "and the line over both is gone, too";
 }
 
@@ -162,7 +161,7 @@ TEST_F(GeneralPageTest, ALineBreakIsALineAndAnEmptyLineNone)
 
 QImage labelWith(const QString& value)
 {
-    KurzLabel label;
+    ShortLabel label;
     label.setText(value);
     label.resize(label.sizeHint());
     return label.grab().toImage();
@@ -170,7 +169,7 @@ QImage labelWith(const QString& value)
 
 QImage statusWith(const QString& value)
 {
-    Statustext label;
+    StatusCaption label;
     label.setText(value);
     label.resize(label.sizeHint());
     return label.grab().toImage();
@@ -178,36 +177,36 @@ QImage statusWith(const QString& value)
 
 QImage listWith(const QString& value)
 {
-    Wertefeld list(QStringLiteral("LstHW"));
+    ValueField list(QStringLiteral("LstHW"));
     list.resize(200, 80);
-    list.zeige({value.toStdString(), "B"});
+    list.display({value.toStdString(), "B"});
     return list.grab().toImage();
 }
 
 QImage treeWith(const QString& value)
 {
-    Baummodell model;
+    TreeModel model;
     QTreeView tree;
     tree.setHeaderHidden(true);
     tree.setModel(&model);
     tree.resize(200, 80);
-    Knoten node;
+    Node node;
     node.text = value.toStdString();
-    model.zeige({node, node});
+    model.display({node, node});
     return tree.grab().toImage();
 }
 
 QImage gridWith(const QString& value)
 {
     Recordset rows;
-    rows.FeldAnhaengen("DokuBez", FeldTyp::Text);
+    rows.appendField("DokuBez", FieldType::Text);
     rows.Open();
     rows.AddNew();
-    rows.setzeFeld("DokuBez", value.toStdString());
+    rows.setField("DokuBez", value.toStdString());
     rows.Update();
-    Gitter grid("PartDataGrid", std::vector<Gitterspalte>{{"Dokumentname", "DokuBez"}}, {100});
+    Grid grid("PartDataGrid", std::vector<GridColumn>{{"Dokumentname", "DokuBez"}}, {100});
     grid.resize(200, 80);
-    grid.zeige(&rows, 1);
+    grid.display(&rows, 1);
     return grid.grab().toImage();
 }
 
@@ -247,13 +246,13 @@ TEST(PlainText, MarkupIsShownAsItIs)
     QWidget window;
     QLabel owner(&window);
     owner.setToolTip(value);
-    KurzLabel shortened(&window);
+    ShortLabel shortened(&window);
     shortened.setText(value);
     shortened.resize(30, 20);
-    Wertefeld list(QStringLiteral("LstHW"));
+    ValueField list(QStringLiteral("LstHW"));
     list.setParent(&window);
     list.resize(60, 80);
-    list.zeige({value.toStdString()});
+    list.display({value.toStdString()});
     window.show();
     const QPoint inside(5, 5);
     for (QWidget* place : {static_cast<QWidget*>(&owner), static_cast<QWidget*>(&shortened), list.viewport()}) {
@@ -300,7 +299,7 @@ TEST(LongTextTest, IsLaidOutInPiecesAndCopiedWhole)
 
 TEST(WrappingLabel, ShowsTheBeginningOfALongValue)
 {
-    Umbruchlabel label(500);
+    WrappingLabel label(500);
     label.setText(million());
     EXPECT_LT(label.heightForWidth(200), 40 * label.fontMetrics().height());
     EXPECT_EQ(label.text().size(), 1'000'000);
@@ -315,24 +314,24 @@ protected:
     {
         usePrograms();
         for (const char* revision : {"0", "A"})
-            zeile("WeldTabelle", {{"DokuBez", "S-100"},
-                                  {"RevBez", revision},
-                                  {"Dateiname", "S-100.asm"},
-                                  {"filename", "W:\\S-100.asm"},
-                                  {"Status", 3}});
+            row("WeldTabelle", {{"DokuBez", "S-100"},
+                                {"RevBez", revision},
+                                {"Dateiname", "S-100.asm"},
+                                {"filename", "W:\\S-100.asm"},
+                                {"Status", 3}});
         page_.resize(939, 600);
         page_.show();
         program_.tabs.StartTabelleZeigen();
         program_.tabs.chooseTab(4);
         program_.tabs.chooseRow(1);
-        page_.zeigen();
+        page_.refresh();
         QCoreApplication::processEvents();
     }
 
     template <typename Kind> Kind& find(const char* name) { return *page_.findChild<Kind*>(QLatin1String(name)); }
 
-    QtViewer viewer_{welt_.dateien};
-    Waechter guard_{welt_.meldungen, [] {}};
+    QtViewer viewer_{world_.files};
+    SlotGuard guard_{world_.boxes, [] {}};
     Program program_{session_, ports_, viewer_};
     FormSEDoku page_{program_, viewer_};
 };
@@ -350,7 +349,7 @@ TEST_F(ValuesOnThePageTest, HeadsAreWhole)
     for (int i = 0; i < static_cast<QStackedWidget&>(pages).count(); ++i) {
         static_cast<QStackedWidget&>(pages).setCurrentIndex(i);
         QTest::qWait(1); // The grid takes on the height of its head a moment later.
-        for (const Gitter* grid : pages.findChildren<Gitter*>()) {
+        for (const Grid* grid : pages.findChildren<Grid*>()) {
             if (!grid->isVisible())
                 continue;
             ++grids;
@@ -364,7 +363,7 @@ TEST_F(ValuesOnThePageTest, HeadsAreWhole)
     }
     EXPECT_GE(grids, 5);
     const auto lines = [&](const char* name) {
-        const auto& captions = *find<Gitter>(name).horizontalHeader();
+        const auto& captions = *find<Grid>(name).horizontalHeader();
         return captions.height() / captions.fontMetrics().lineSpacing();
     };
     EXPECT_GE(lines("DataGridSendTo"), 3) << "the longest caption stands in three lines";
@@ -376,7 +375,7 @@ TEST_F(ValuesOnThePageTest, NoLetterOfATabsNameIsAShortcut)
     auto& tabs = find<QTabWidget>("SSTabDGDoku");
     const QString plain = tabs.tabText(5);
     session_.labels.SondertabelleName[0] = "Roste & <Gitter>";
-    page_.zeigen();
+    page_.refresh();
     EXPECT_NE(tabs.tabText(5), plain);
     EXPECT_TRUE(QKeySequence::mnemonic(tabs.tabText(5)).isEmpty());
     EXPECT_EQ(tabs.tabToolTip(5), u"Roste & <Gitter>");

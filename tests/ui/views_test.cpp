@@ -12,98 +12,98 @@
 namespace quelvarn {
 namespace {
 
-class GitterTest : public testing::Test
+class GridTest : public testing::Test
 {
 protected:
-    GitterTest()
+    GridTest()
     {
-        zeilen_.FeldAnhaengen("DokuBez", FeldTyp::Text);
-        zeilen_.Open();
+        rows_.appendField("DokuBez", FieldType::Text);
+        rows_.Open();
         for (const char* name : {"A", "B", "C"}) {
-            zeilen_.AddNew();
-            zeilen_.setzeFeld("DokuBez", std::string(name));
-            zeilen_.Update();
+            rows_.AddNew();
+            rows_.setField("DokuBez", std::string(name));
+            rows_.Update();
         }
-        zeilen_.MoveFirst();
-        gitter_.gewaehlt = [this](const QModelIndex& stelle) { gewaehlt_.push_back(stelle.row()); };
-        gitter_.geoeffnet = [this](const QModelIndex& stelle) { geoeffnet_.push_back(stelle.row()); };
-        gitter_.resize(300, 200);
-        gitter_.show();
-        gitter_.zeige(&zeilen_, 1);
+        rows_.MoveFirst();
+        grid_.chosen = [this](const QModelIndex& position) { chosen_.push_back(position.row()); };
+        grid_.opened = [this](const QModelIndex& position) { opened_.push_back(position.row()); };
+        grid_.resize(300, 200);
+        grid_.show();
+        grid_.display(&rows_, 1);
     }
 
-    QPoint mitte(int zeile) { return gitter_.visualRect(gitter_.model()->index(zeile, 0)).center(); }
-    void klicke(int zeile) { QTest::mouseClick(gitter_.viewport(), Qt::LeftButton, {}, mitte(zeile)); }
+    QPoint middle(int row) { return grid_.visualRect(grid_.model()->index(row, 0)).center(); }
+    void click(int row) { QTest::mouseClick(grid_.viewport(), Qt::LeftButton, {}, middle(row)); }
 
-    FakeMeldungen meldungen_;
-    int enden_ = 0;
-    Waechter waechter_{meldungen_, [this] { ++enden_; }};
-    Recordset zeilen_;
-    Gitter gitter_{"PartDataGrid", std::vector<Gitterspalte>{{"Dokumentname", "DokuBez"}}, {100}};
-    std::vector<int> gewaehlt_;
-    std::vector<int> geoeffnet_;
+    FakeBoxes boxes_;
+    int ends_ = 0;
+    SlotGuard slotGuard_{boxes_, [this] { ++ends_; }};
+    Recordset rows_;
+    Grid grid_{"PartDataGrid", std::vector<GridColumn>{{"Dokumentname", "DokuBez"}}, {100}};
+    std::vector<int> chosen_;
+    std::vector<int> opened_;
 };
 
-TEST_F(GitterTest, TellsEachChoiceOfAPersonOnce)
+TEST_F(GridTest, TellsEachChoiceOfAPersonOnce)
 {
-    klicke(1);
-    klicke(1);
-    QTest::keyClick(&gitter_, Qt::Key_Down);
-    EXPECT_EQ(gewaehlt_, (std::vector{1, 1, 2}));
-    QTest::keyClick(&gitter_, Qt::Key_Return);
-    QTest::mouseDClick(gitter_.viewport(), Qt::LeftButton, {}, mitte(0));
-    EXPECT_EQ(geoeffnet_, (std::vector{2, 0}));
+    click(1);
+    click(1);
+    QTest::keyClick(&grid_, Qt::Key_Down);
+    EXPECT_EQ(chosen_, (std::vector{1, 1, 2}));
+    QTest::keyClick(&grid_, Qt::Key_Return);
+    QTest::mouseDClick(grid_.viewport(), Qt::LeftButton, {}, middle(0));
+    EXPECT_EQ(opened_, (std::vector{2, 0}));
 }
 
-TEST_F(GitterTest, WhatTheProgramShowsIsNoChoice)
+TEST_F(GridTest, WhatTheProgramShowsIsNoChoice)
 {
-    zeilen_.MoveLast();
-    gitter_.zeige(&zeilen_, 1);
-    EXPECT_EQ(gitter_.currentIndex().row(), 2);
-    gitter_.zeige(&zeilen_, 2);
-    EXPECT_EQ(gitter_.currentIndex().row(), 2) << "bound anew, the row is still marked";
-    gitter_.setFocus();
-    EXPECT_TRUE(gewaehlt_.empty());
+    rows_.MoveLast();
+    grid_.display(&rows_, 1);
+    EXPECT_EQ(grid_.currentIndex().row(), 2);
+    grid_.display(&rows_, 2);
+    EXPECT_EQ(grid_.currentIndex().row(), 2) << "bound anew, the row is still marked";
+    grid_.setFocus();
+    EXPECT_TRUE(chosen_.empty());
 }
 
-TEST_F(GitterTest, AFaultOfAChoiceEndsInTheErrorReport)
+TEST_F(GridTest, AFaultOfAChoiceEndsInTheErrorReport)
 {
-    gitter_.gewaehlt = [](const QModelIndex&) { throw Laufzeitfehler(3021, "Test", "weg"); };
-    meldungen_.antworte(Antwort::Ok);
-    klicke(1);
-    EXPECT_EQ(enden_, 0);
-    meldungen_.antworte(Antwort::Abbrechen);
-    klicke(2);
-    EXPECT_EQ(enden_, 1);
-    EXPECT_EQ(meldungen_.letzte().titel, "Fehlermeldung");
+    grid_.chosen = [](const QModelIndex&) { throw RuntimeError(3021, "Test", "weg"); };
+    boxes_.answer(Answer::Ok);
+    click(1);
+    EXPECT_EQ(ends_, 0);
+    boxes_.answer(Answer::Cancel);
+    click(2);
+    EXPECT_EQ(ends_, 1);
+    EXPECT_EQ(boxes_.last().title, "Fehlermeldung");
 }
 
 // A million rows are bound as quickly as three: nothing of them is read or copied.
-TEST_F(GitterTest, ReadsOnlyTheCellsInSight)
+TEST_F(GridTest, ReadsOnlyTheCellsInSight)
 {
-    Recordset viele;
-    viele.FeldAnhaengen("Fehlt", FeldTyp::Text); // Reading the grid's column is a fault.
-    viele.Open();
+    Recordset many;
+    many.appendField("Fehlt", FieldType::Text); // Reading the grid's column is a fault.
+    many.Open();
     for (int i = 0; i < 5; ++i) {
-        viele.AddNew();
-        viele.Update();
+        many.AddNew();
+        many.Update();
     }
-    gitter_.hide();
-    gitter_.zeige(&viele, 3);
+    grid_.hide();
+    grid_.display(&many, 3);
     QCoreApplication::processEvents();
-    EXPECT_EQ(gitter_.model()->rowCount(), 5);
+    EXPECT_EQ(grid_.model()->rowCount(), 5);
 
-    gitter_.show();
-    meldungen_.antworte(Antwort::Ok); // One report, however many cells cannot be read.
-    gitter_.grab();
-    gitter_.grab();
+    grid_.show();
+    boxes_.answer(Answer::Ok); // One report, however many cells cannot be read.
+    grid_.grab();
+    grid_.grab();
     QCoreApplication::processEvents();
-    EXPECT_EQ(meldungen_.gezeigt.size(), 1U);
+    EXPECT_EQ(boxes_.shown.size(), 1U);
 }
 
-TEST(KurzLabel, KeepsItsWholeText)
+TEST(ShortLabel, KeepsItsWholeText)
 {
-    KurzLabel label;
+    ShortLabel label;
     label.setText(QStringLiteral("W:\\Konstruktion\\Förderanlagen\\FA-1240"));
     label.resize(60, 20);
     label.grab();

@@ -6,50 +6,50 @@
 namespace quelvarn {
 namespace {
 
-struct Bildschirm : Viewer
+struct Screen : Viewer
 {
-    bool zeige(Ansicht ansicht, std::string_view filename) override
+    bool show(ViewerPlace view, std::string_view filename) override
     {
-        verlauf += "zeige " + std::to_string(static_cast<int>(ansicht)) + "; ";
+        course += "zeige " + std::to_string(static_cast<int>(view)) + "; ";
         return filename != "W:\\weg.par";
     }
-    void leere(Ansicht) override {}
-    std::string verlauf;
+    void clear(ViewerPlace) override {}
+    std::string course;
 };
 
-struct Register : Nutzungsregister
+struct Register : UseRegistry
 {
-    void trageEin(std::string_view filename, int code) override
+    void add(std::string_view filename, int code) override
     {
-        verlauf += "+" + std::string(filename) + std::to_string(code) + " ";
+        course += "+" + std::string(filename) + std::to_string(code) + " ";
     }
-    void trageAus(std::string_view filename, int code) override
+    void remove(std::string_view filename, int code) override
     {
-        verlauf += "-" + std::string(filename) + std::to_string(code) + " ";
+        course += "-" + std::string(filename) + std::to_string(code) + " ";
     }
-    std::string verlauf;
+    std::string course;
 };
 
-TEST(GezeigteDateien, EinDokumentGiltAlsGezeigtSolangeEsIrgendwoSteht)
+TEST(ShownFiles, ADocumentIsShownWhileItStandsAnywhere)
 {
-    Bildschirm bildschirm;
-    Register nutzung;
-    GezeigteDateien gezeigt(bildschirm, nutzung);
+    Screen screen;
+    Register use;
+    ShownFiles shown(screen, use);
 
-    EXPECT_FALSE(gezeigt.zeige(Ansicht::Dokument, "W:\\weg.par"));
-    EXPECT_EQ(nutzung.verlauf, "");
-    EXPECT_TRUE(gezeigt.zeige(Ansicht::Dokument, "W:\\a.par"));
-    EXPECT_TRUE(gezeigt.zeige(Ansicht::BestehtAus, "W:\\a.par"));
-    EXPECT_EQ(nutzung.verlauf, "+W:\\a.par2 ");
-    gezeigt.leere(Ansicht::Dokument);
-    EXPECT_EQ(nutzung.verlauf, "+W:\\a.par2 ");
-    EXPECT_TRUE(gezeigt.zeige(Ansicht::BestehtAus, "W:\\b.asm"));
-    EXPECT_EQ(nutzung.verlauf, "+W:\\a.par2 -W:\\a.par2 +W:\\b.asm2 ");
-    EXPECT_FALSE(gezeigt.zeige(Ansicht::BestehtAus, "W:\\weg.par"));
-    EXPECT_EQ(gezeigt.datei(Ansicht::BestehtAus), "");
-    gezeigt.zeige(Ansicht::Eigenschaften, "W:\\c.dft");
-    gezeigt.DetachViewers();
-    EXPECT_EQ(nutzung.verlauf, "+W:\\a.par2 -W:\\a.par2 +W:\\b.asm2 -W:\\b.asm2 +W:\\c.dft2 -W:\\c.dft2 ");
+    EXPECT_FALSE(shown.show(ViewerPlace::Document, "W:\\weg.par"));
+    EXPECT_EQ(use.course, "");
+    EXPECT_TRUE(shown.show(ViewerPlace::Document, "W:\\a.par"));
+    EXPECT_TRUE(shown.show(ViewerPlace::ConsistsOf, "W:\\a.par"));
+    EXPECT_EQ(use.course, "+W:\\a.par2 ");
+    shown.clear(ViewerPlace::Document);
+    EXPECT_EQ(use.course, "+W:\\a.par2 ");
+    EXPECT_TRUE(shown.show(ViewerPlace::ConsistsOf, "W:\\b.asm"));
+    EXPECT_EQ(use.course, "+W:\\a.par2 -W:\\a.par2 +W:\\b.asm2 ");
+    EXPECT_FALSE(shown.show(ViewerPlace::ConsistsOf, "W:\\weg.par"));
+    EXPECT_EQ(shown.file(ViewerPlace::ConsistsOf), "");
+    shown.show(ViewerPlace::Properties, "W:\\c.dft");
+    shown.DetachViewers();
+    EXPECT_EQ(use.course, "+W:\\a.par2 -W:\\a.par2 +W:\\b.asm2 -W:\\b.asm2 +W:\\c.dft2 -W:\\c.dft2 ");
 }
 
 } // namespace

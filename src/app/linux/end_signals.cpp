@@ -43,7 +43,7 @@ EndSignals::EndSignals(std::function<void()> asked) : asked_(std::move(asked))
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return; // The signals then end the process as they always do.
     auto* notifier = new QSocketNotifier(ends[1], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, bewacht([this, notifier] {
+    connect(notifier, &QSocketNotifier::activated, this, guardedSlot([this, notifier] {
                 notifier->setEnabled(false);
                 asked_();
             }));

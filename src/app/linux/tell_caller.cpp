@@ -5,10 +5,10 @@
 
 namespace quelvarn {
 
-void tellCaller(const Answer& answer)
+void tellCaller(const Reply& reply)
 {
-    std::FILE* output = answer.exitCode == EXIT_SUCCESS ? stdout : stderr;
-    std::fputs(answer.text.c_str(), output);
+    std::FILE* output = reply.exitCode == EXIT_SUCCESS ? stdout : stderr;
+    std::fputs(reply.text.c_str(), output);
     std::fflush(output);
 }
 

@@ -14,12 +14,12 @@ bool isUsable(HANDLE output)
 }
 
 // Into a file or pipe that the caller gave.
-bool writeToOutput(const Answer& answer)
+bool writeToOutput(const Reply& reply)
 {
-    HANDLE output = GetStdHandle(answer.exitCode == EXIT_SUCCESS ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+    HANDLE output = GetStdHandle(reply.exitCode == EXIT_SUCCESS ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
     DWORD written = 0;
     return isUsable(output) &&
-           WriteFile(output, answer.text.data(), static_cast<DWORD>(answer.text.size()), &written, nullptr) != 0;
+           WriteFile(output, reply.text.data(), static_cast<DWORD>(reply.text.size()), &written, nullptr) != 0;
 }
 
 // A program with windows has no console of its own; the caller may have one.
@@ -39,12 +39,12 @@ bool writeToConsole(const std::wstring& text)
 
 } // namespace
 
-void tellCaller(const Answer& answer)
+void tellCaller(const Reply& reply)
 {
-    const std::wstring text = wide(answer.text);
-    if (writeToOutput(answer) || writeToConsole(L"\r\n" + text))
+    const std::wstring text = wide(reply.text);
+    if (writeToOutput(reply) || writeToConsole(L"\r\n" + text))
         return;
-    MessageBoxW(nullptr, text.c_str(), L"Quelvarn", answer.exitCode == EXIT_SUCCESS ? MB_OK : MB_OK | MB_ICONWARNING);
+    MessageBoxW(nullptr, text.c_str(), L"Quelvarn", reply.exitCode == EXIT_SUCCESS ? MB_OK : MB_OK | MB_ICONWARNING);
 }
 
 } // namespace quelvarn

@@ -18,97 +18,98 @@ namespace quelvarn::odbc {
 namespace {
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
-static_assert(sizeof(SQLRETURN) == sizeof(Ergebnis));
+static_assert(sizeof(SQLRETURN) == sizeof(Result));
 
-SQLSMALLINT rohArt(Handleart art)
+SQLSMALLINT rawKind(HandleKind kind)
 {
-    if (art == Handleart::Umgebung)
+    if (kind == HandleKind::Environment)
         return SQL_HANDLE_ENV;
-    return art == Handleart::Verbindung ? SQL_HANDLE_DBC : SQL_HANDLE_STMT;
+    return kind == HandleKind::ConnectionHandle ? SQL_HANDLE_DBC : SQL_HANDLE_STMT;
 }
 
-constexpr int VERSUCHE = 6;
+constexpr int ATTEMPTS = 6;
 constexpr auto PAUSE = std::chrono::milliseconds(100);
 
 // What the driver tells of the last call on a handle.
-Failure auskunftOf(Handleart art, RohHandle handle)
+Failure informationOf(HandleKind kind, RawHandle handle)
 {
-    Failure auskunft{.sqlstate = "", .number = 0, .words = "Der ODBC-Treiber nennt keinen Grund."};
+    Failure information{.sqlstate = "", .number = 0, .words = "Der ODBC-Treiber nennt keinen Grund."};
     std::array<char16_t, 6> status{};
     std::array<char16_t, 1024> text{};
-    SQLINTEGER nummer = 0;
-    SQLSMALLINT laenge = 0;
-    const SQLRETURN ergebnis =
-        SQLGetDiagRecW(rohArt(art), handle, 1, reinterpret_cast<SQLWCHAR*>(status.data()), &nummer,
-                       reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &laenge);
-    if (SQL_SUCCEEDED(ergebnis))
-        auskunft = {fromUtf16(status.data()), nummer, fromUtf16(text.data())};
-    return auskunft;
+    SQLINTEGER number = 0;
+    SQLSMALLINT length = 0;
+    const SQLRETURN result =
+        SQLGetDiagRecW(rawKind(kind), handle, 1, reinterpret_cast<SQLWCHAR*>(status.data()), &number,
+                       reinterpret_cast<SQLWCHAR*>(text.data()), static_cast<SQLSMALLINT>(text.size()), &length);
+    if (SQL_SUCCEEDED(result))
+        information = {fromUtf16(status.data()), number, fromUtf16(text.data())};
+    return information;
 }
 
-bool gelungen(Ergebnis ergebnis)
+bool succeeded(Result result)
 {
-    return SQL_SUCCEEDED(ergebnis) || ergebnis == SQL_NO_DATA;
+    return SQL_SUCCEEDED(result) || result == SQL_NO_DATA;
 }
 
 } // namespace
 
-void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, const Place& place)
+void check(Result result, HandleKind kind, RawHandle handle, const Place& place)
 {
-    if (!gelungen(ergebnis))
-        throw faultOf(auskunftOf(art, handle), place);
+    if (!succeeded(result))
+        throw faultOf(informationOf(kind, handle), place);
 }
 
-Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle)
+Result repeat(const std::function<Result()>& call, HandleKind kind, RawHandle handle)
 {
-    for (int versuch = 1;; ++versuch) {
-        const Ergebnis ergebnis = aufruf();
-        if (gelungen(ergebnis) || versuch == VERSUCHE || !isHeld(auskunftOf(art, handle)))
-            return ergebnis;
+    for (int attempt = 1;; ++attempt) {
+        const Result result = call();
+        if (succeeded(result) || attempt == ATTEMPTS || !isHeld(informationOf(kind, handle)))
+            return result;
         std::this_thread::sleep_for(PAUSE);
     }
 }
 
-Handle::Handle(Handleart art, RohHandle eltern) : art_(art)
+Handle::Handle(HandleKind kind, RawHandle parent) : kind_(kind)
 {
-    const SQLRETURN ergebnis = SQLAllocHandle(rohArt(art), eltern, &roh_);
-    if (SQL_SUCCEEDED(ergebnis))
+    const SQLRETURN result = SQLAllocHandle(rawKind(kind), parent, &raw_);
+    if (SQL_SUCCEEDED(result))
         return;
-    if (art == Handleart::Umgebung)
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "ODBC", "ODBC kann nicht gestartet werden.");
-    pruefe(ergebnis, art == Handleart::Verbindung ? Handleart::Umgebung : Handleart::Verbindung, eltern, {});
+    if (kind == HandleKind::Environment)
+        throw RuntimeError(FAULT_GENERAL, "ODBC", "ODBC kann nicht gestartet werden.");
+    check(result, kind == HandleKind::ConnectionHandle ? HandleKind::Environment : HandleKind::ConnectionHandle, parent,
+          {});
 }
 
 Handle::~Handle()
 {
-    SQLFreeHandle(rohArt(art_), roh_);
+    SQLFreeHandle(rawKind(kind_), raw_);
 }
 
-void* alsZeiger(std::uintptr_t zahl)
+void* asPointer(std::uintptr_t number)
 {
-    return reinterpret_cast<void*>(zahl); // NOLINT(performance-no-int-to-ptr)
+    return reinterpret_cast<void*>(number); // NOLINT(performance-no-int-to-ptr)
 }
 
-Umgebung::Umgebung() : handle_(Handleart::Umgebung, nullptr)
+Environment::Environment() : handle_(HandleKind::Environment, nullptr)
 {
-    pruefe(SQLSetEnvAttr(roh(), SQL_ATTR_ODBC_VERSION, alsZeiger(SQL_OV_ODBC3), 0), Handleart::Umgebung, roh(), {});
+    check(SQLSetEnvAttr(raw(), SQL_ATTR_ODBC_VERSION, asPointer(SQL_OV_ODBC3), 0), HandleKind::Environment, raw(), {});
 }
 
-std::vector<std::string> Umgebung::treiber() const
+std::vector<std::string> Environment::driver() const
 {
-    std::vector<std::string> namen;
+    std::vector<std::string> names;
     std::array<char16_t, 256> name{};
-    std::array<char16_t, 4096> angaben{};
-    SQLSMALLINT laenge = 0;
-    SQLSMALLINT angabenLaenge = 0;
-    const auto weiter = [&](SQLUSMALLINT richtung) {
+    std::array<char16_t, 4096> details{};
+    SQLSMALLINT length = 0;
+    SQLSMALLINT detailsLength = 0;
+    const auto further = [&](SQLUSMALLINT direction) {
         return SQL_SUCCEEDED(SQLDriversW(
-            roh(), richtung, reinterpret_cast<SQLWCHAR*>(name.data()), static_cast<SQLSMALLINT>(name.size()), &laenge,
-            reinterpret_cast<SQLWCHAR*>(angaben.data()), static_cast<SQLSMALLINT>(angaben.size()), &angabenLaenge));
+            raw(), direction, reinterpret_cast<SQLWCHAR*>(name.data()), static_cast<SQLSMALLINT>(name.size()), &length,
+            reinterpret_cast<SQLWCHAR*>(details.data()), static_cast<SQLSMALLINT>(details.size()), &detailsLength));
     };
-    for (bool da = weiter(SQL_FETCH_FIRST); da; da = weiter(SQL_FETCH_NEXT))
-        namen.push_back(fromUtf16(name.data()));
-    return namen;
+    for (bool there = further(SQL_FETCH_FIRST); there; there = further(SQL_FETCH_NEXT))
+        names.push_back(fromUtf16(name.data()));
+    return names;
 }
 
 } // namespace quelvarn::odbc

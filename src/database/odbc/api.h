@@ -11,42 +11,42 @@
 // What the parts of this folder share of ODBC without its headers.
 namespace quelvarn::odbc {
 
-using RohHandle = void*;
-using Ergebnis = short;
+using RawHandle = void*;
+using Result = short;
 
-enum class Handleart { Umgebung, Verbindung, Anweisung };
+enum class HandleKind { Environment, ConnectionHandle, StatementHandle };
 
 // Throws DatabaseFault with the driver's text unless the call succeeded; "no data" counts as success.
-void pruefe(Ergebnis ergebnis, Handleart art, RohHandle handle, const Place& place);
+void check(Result result, HandleKind kind, RawHandle handle, const Place& place);
 
 // Makes the call, and makes it again for a moment while another program holds the file, the table or the row.
-Ergebnis wiederhole(const std::function<Ergebnis()>& aufruf, Handleart art, RohHandle handle);
+Result repeat(const std::function<Result()>& call, HandleKind kind, RawHandle handle);
 
 // A number in the shape of a pointer, as ODBC wants attributes.
-void* alsZeiger(std::uintptr_t zahl);
+void* asPointer(std::uintptr_t number);
 
 // One allocated handle.
 class Handle
 {
 public:
-    Handle(Handleart art, RohHandle eltern);
+    Handle(HandleKind kind, RawHandle parent);
     ~Handle();
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
-    RohHandle roh() const { return roh_; }
+    RawHandle raw() const { return raw_; }
 
 private:
-    Handleart art_;
-    RohHandle roh_ = nullptr;
+    HandleKind kind_;
+    RawHandle raw_ = nullptr;
 };
 
 // ODBC 3, once for each connection.
-class Umgebung
+class Environment
 {
 public:
-    Umgebung();
-    RohHandle roh() const { return handle_.roh(); }
-    std::vector<std::string> treiber() const; // Names of the drivers that are installed.
+    Environment();
+    RawHandle raw() const { return handle_.raw(); }
+    std::vector<std::string> driver() const; // Names of the drivers that are installed.
 
 private:
     Handle handle_;

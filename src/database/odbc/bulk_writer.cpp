@@ -4,27 +4,27 @@
 
 namespace quelvarn::odbc {
 
-Massenschreiber::Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten)
-    : engine_(engine), transaktion_(engine)
+BulkWriter::BulkWriter(Engine& engine, std::string table, std::vector<ColumnInfo> columns)
+    : engine_(engine), transaction_(engine)
 {
-    sql::Insert einfuegen{std::move(tabelle), {}};
-    for (Spalte& spalte : spalten)
-        einfuegen.werte.push_back({std::move(spalte.name), {}});
-    einfuegen_ = std::move(einfuegen);
+    sql::Insert insert{std::move(table), {}};
+    for (ColumnInfo& column : columns)
+        insert.values.push_back({std::move(column.name), {}});
+    insert_ = std::move(insert);
 }
 
-void Massenschreiber::zeile(std::span<const Value> werte)
+void BulkWriter::row(std::span<const Value> values)
 {
-    auto& ziel = std::get<sql::Insert>(einfuegen_).werte;
-    assert(werte.size() == ziel.size());
-    for (std::size_t i = 0; i < werte.size(); ++i)
-        ziel[i].wert = werte[i];
-    engine_.fuehreAus(einfuegen_);
+    auto& target = std::get<sql::Insert>(insert_).values;
+    assert(values.size() == target.size());
+    for (std::size_t i = 0; i < values.size(); ++i)
+        target[i].value = values[i];
+    engine_.execute(insert_);
 }
 
-void Massenschreiber::beende()
+void BulkWriter::end()
 {
-    transaktion_.schliesseAb();
+    transaction_.commit();
 }
 
 } // namespace quelvarn::odbc

@@ -5,18 +5,18 @@
 namespace quelvarn::odbc {
 
 // Inserts row after row, in a transaction of its own.
-class Massenschreiber final : public Engine::Massenschreiber
+class BulkWriter final : public Engine::BulkWriter
 {
 public:
-    Massenschreiber(Engine& engine, std::string tabelle, std::vector<Spalte> spalten);
+    BulkWriter(Engine& engine, std::string table, std::vector<ColumnInfo> columns);
 
-    void zeile(std::span<const Value> werte) override;
-    void beende() override;
+    void row(std::span<const Value> values) override;
+    void end() override;
 
 private:
     Engine& engine_;
-    sql::Anweisung einfuegen_;
-    Enginetransaktion transaktion_;
+    sql::Statement insert_;
+    EngineTransaction transaction_;
 };
 
 } // namespace quelvarn::odbc

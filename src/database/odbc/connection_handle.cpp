@@ -13,56 +13,55 @@
 
 namespace quelvarn::odbc {
 
-Verbindung::Verbindung() : handle_(Handleart::Verbindung, umgebung_.roh()) {}
+ConnectionHandle::ConnectionHandle() : handle_(HandleKind::ConnectionHandle, environment_.raw()) {}
 
-std::shared_ptr<Verbindung> Verbindung::oeffne(std::string_view text, std::string path)
+std::shared_ptr<ConnectionHandle> ConnectionHandle::open(std::string_view text, std::string path)
 {
-    std::shared_ptr<Verbindung> verbindung(new Verbindung);
-    verbindung->place_.path = std::move(path);
-    std::u16string breit = toUtf16(text);
-    const auto verbinde = [&]() -> Ergebnis {
-        return SQLDriverConnectW(verbindung->roh(), nullptr, reinterpret_cast<SQLWCHAR*>(breit.data()), SQL_NTS,
-                                 nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    std::shared_ptr<ConnectionHandle> connection(new ConnectionHandle);
+    connection->place_.path = std::move(path);
+    std::u16string wide = toUtf16(text);
+    const auto connect = [&]() -> Result {
+        return SQLDriverConnectW(connection->raw(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()), SQL_NTS, nullptr,
+                                 0, nullptr, SQL_DRIVER_NOPROMPT);
     };
-    pruefe(wiederhole(verbinde, Handleart::Verbindung, verbindung->roh()), Handleart::Verbindung, verbindung->roh(),
-           verbindung->place_);
-    return verbindung;
+    check(repeat(connect, HandleKind::ConnectionHandle, connection->raw()), HandleKind::ConnectionHandle,
+          connection->raw(), connection->place_);
+    return connection;
 }
 
-Verbindung::~Verbindung()
+ConnectionHandle::~ConnectionHandle()
 {
-    SQLEndTran(SQL_HANDLE_DBC, roh(), SQL_ROLLBACK); // A driver may refuse to leave an open transaction.
-    SQLDisconnect(roh());
+    SQLEndTran(SQL_HANDLE_DBC, raw(), SQL_ROLLBACK); // A driver may refuse to leave an open transaction.
+    SQLDisconnect(raw());
 }
 
-std::string Verbindung::datenbankname() const
+std::string ConnectionHandle::databaseName() const
 {
     std::array<char16_t, 128> name{};
-    SQLSMALLINT laenge = 0;
-    const SQLRETURN ergebnis = SQLGetInfoW(roh(), SQL_DBMS_NAME, name.data(),
-                                           static_cast<SQLSMALLINT>(name.size() * sizeof(char16_t)), &laenge);
-    pruefe(ergebnis, Handleart::Verbindung, roh(), place_);
+    SQLSMALLINT length = 0;
+    const SQLRETURN result = SQLGetInfoW(raw(), SQL_DBMS_NAME, name.data(),
+                                         static_cast<SQLSMALLINT>(name.size() * sizeof(char16_t)), &length);
+    check(result, HandleKind::ConnectionHandle, raw(), place_);
     return fromUtf16(name.data());
 }
 
-void Verbindung::setzeAutomatik(bool an)
+void ConnectionHandle::setAutomatic(bool on)
 {
-    void* wert = alsZeiger(an ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
-    pruefe(SQLSetConnectAttrW(roh(), SQL_ATTR_AUTOCOMMIT, wert, SQL_IS_UINTEGER), Handleart::Verbindung, roh(), place_);
+    void* value = asPointer(on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
+    check(SQLSetConnectAttrW(raw(), SQL_ATTR_AUTOCOMMIT, value, SQL_IS_UINTEGER), HandleKind::ConnectionHandle, raw(),
+          place_);
 }
 
-void Verbindung::beginne()
+void ConnectionHandle::begin()
 {
-    setzeAutomatik(false);
+    setAutomatic(false);
 }
 
-void Verbindung::beende(bool uebernehmen)
+void ConnectionHandle::end(bool adopt)
 {
-    const auto schliesse = [&]() -> Ergebnis {
-        return SQLEndTran(SQL_HANDLE_DBC, roh(), uebernehmen ? SQL_COMMIT : SQL_ROLLBACK);
-    };
-    pruefe(wiederhole(schliesse, Handleart::Verbindung, roh()), Handleart::Verbindung, roh(), place_);
-    setzeAutomatik(true);
+    const auto close = [&]() -> Result { return SQLEndTran(SQL_HANDLE_DBC, raw(), adopt ? SQL_COMMIT : SQL_ROLLBACK); };
+    check(repeat(close, HandleKind::ConnectionHandle, raw()), HandleKind::ConnectionHandle, raw(), place_);
+    setAutomatic(true);
 }
 
 } // namespace quelvarn::odbc

@@ -9,29 +9,29 @@
 namespace quelvarn::odbc {
 
 // One open connection of a driver. Used by one thread at a time.
-class Verbindung
+class ConnectionHandle
 {
 public:
     // `text` is a connection text: DRIVER={...};...  `path` of its file, for faults.
-    static std::shared_ptr<Verbindung> oeffne(std::string_view text, std::string path);
-    ~Verbindung();
-    Verbindung(const Verbindung&) = delete;
-    Verbindung& operator=(const Verbindung&) = delete;
+    static std::shared_ptr<ConnectionHandle> open(std::string_view text, std::string path);
+    ~ConnectionHandle();
+    ConnectionHandle(const ConnectionHandle&) = delete;
+    ConnectionHandle& operator=(const ConnectionHandle&) = delete;
 
     // What the driver calls the database behind it.
-    std::string datenbankname() const;
-    void beginne();                // Until beende, changes stay open.
-    void beende(bool uebernehmen); // When it throws, they still are.
+    std::string databaseName() const;
+    void begin();         // Until end, changes stay open.
+    void end(bool adopt); // When it throws, they still are.
 
-    RohHandle roh() const { return handle_.roh(); }
+    RawHandle raw() const { return handle_.raw(); }
     void setSource(std::string_view source) { place_.source = source; }
     const Place& place() const { return place_; } // Of faults.
 
 private:
-    Verbindung();
-    void setzeAutomatik(bool an);
+    ConnectionHandle();
+    void setAutomatic(bool on);
 
-    Umgebung umgebung_;
+    Environment environment_;
     Handle handle_;
     Place place_;
 };

@@ -14,24 +14,24 @@
 namespace quelvarn::odbc {
 namespace {
 
-constexpr std::array<Datenbankart, 3> arten{{
-    {"ACCESS", "Access", sql::accessDialekt, true, false, "", false},
-    {"SQLite", "OdbcSQLite", sql::sqliteOdbcDialekt, true, true, "UPDATE {0} SET {1} = {1} WHERE 1 = 0", true},
-    {"PostgreSQL", "OdbcPostgreSQL", sql::postgresOdbcDialekt, false, true,
+constexpr std::array<OdbcKind, 3> kinds{{
+    {"ACCESS", "Access", sql::accessDialect, true, false, "", false},
+    {"SQLite", "OdbcSQLite", sql::sqliteOdbcDialect, true, true, "UPDATE {0} SET {1} = {1} WHERE 1 = 0", true},
+    {"PostgreSQL", "OdbcPostgreSQL", sql::postgresOdbcDialect, false, true,
      "LOCK TABLE {0} IN SHARE ROW EXCLUSIVE MODE", true},
 }};
 
-std::string_view deklaration(const Datenbankart& art, FeldTyp typ)
+std::string_view declaration(const OdbcKind& kind, FieldType type)
 {
-    const bool sqlite = art.dialekt == sql::sqliteOdbcDialekt;
-    switch (typ) {
-    case FeldTyp::Ganzzahl:
+    const bool sqlite = kind.dialect == sql::sqliteOdbcDialect;
+    switch (type) {
+    case FieldType::Integer:
         return "BIGINT";
-    case FeldTyp::Gleitkomma:
+    case FieldType::FloatingPoint:
         return "DOUBLE PRECISION";
-    case FeldTyp::Datum:
+    case FieldType::Date:
         return sqlite ? "DATETIME" : "TIMESTAMP(0)";
-    case FeldTyp::Text:
+    case FieldType::Text:
         break;
     }
     return sqlite ? "TEXT COLLATE QV" : "TEXT COLLATE \"C\"";
@@ -39,49 +39,49 @@ std::string_view deklaration(const Datenbankart& art, FeldTyp typ)
 
 } // namespace
 
-const Datenbankart& datenbankartOf(std::string_view kennung)
+const OdbcKind& odbcKindOf(std::string_view addressCode)
 {
-    const auto treffer = std::ranges::find_if(
-        arten, [&](const Datenbankart& art) { return startsWithIgnoringCase(kennung, art.kennung); });
-    return treffer == arten.end() ? arten.front() : *treffer;
+    const auto hits = std::ranges::find_if(
+        kinds, [&](const OdbcKind& kind) { return startsWithIgnoringCase(addressCode, kind.addressCode); });
+    return hits == kinds.end() ? kinds.front() : *hits;
 }
 
-std::string tabelleAnlegen(const Datenbankart& art, const Tabellenschema& tabelle)
+std::string createTableStatement(const OdbcKind& kind, const TableSchema& table)
 {
-    std::vector<std::string> spalten;
-    for (const Spalte& spalte : tabelle.spalten)
-        spalten.push_back(sql::Dialekt::bezeichner(spalte.name) + " " + std::string(deklaration(art, spalte.typ)));
-    return fmt::format("CREATE TABLE {} ({})", sql::Dialekt::bezeichner(tabelle.name), join(spalten, ", "));
+    std::vector<std::string> columns;
+    for (const ColumnInfo& column : table.columns)
+        columns.push_back(sql::Dialect::identifier(column.name) + " " + std::string(declaration(kind, column.type)));
+    return fmt::format("CREATE TABLE {} ({})", sql::Dialect::identifier(table.name), join(columns, ", "));
 }
 
-std::optional<FeldTyp> findFeldTyp(int odbcTyp)
+std::optional<FieldType> findFieldType(int odbcType)
 {
-    switch (odbcTyp) {
+    switch (odbcType) {
     case SQL_BIT:
     case SQL_TINYINT:
     case SQL_SMALLINT:
     case SQL_INTEGER:
     case SQL_BIGINT:
-        return FeldTyp::Ganzzahl;
+        return FieldType::Integer;
     case SQL_NUMERIC:
     case SQL_DECIMAL:
     case SQL_FLOAT:
     case SQL_REAL:
     case SQL_DOUBLE:
-        return FeldTyp::Gleitkomma;
+        return FieldType::FloatingPoint;
     case SQL_DATE: // ODBC 2 names them so.
     case SQL_TIME:
     case SQL_TIMESTAMP:
     case SQL_TYPE_DATE:
     case SQL_TYPE_TIME:
     case SQL_TYPE_TIMESTAMP:
-        return FeldTyp::Datum;
+        return FieldType::Date;
     case SQL_BINARY:
     case SQL_VARBINARY:
     case SQL_LONGVARBINARY:
         return std::nullopt;
     default:
-        return FeldTyp::Text;
+        return FieldType::Text;
     }
 }
 

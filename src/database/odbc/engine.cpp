@@ -19,68 +19,68 @@
 namespace quelvarn::odbc {
 namespace {
 
-constexpr int ZEILE_MEHRDEUTIG = -2147217887;
+constexpr int ROW_AMBIGUOUS = -2147217887;
 // More rows than these are looked for in one pass over the table.
-constexpr std::size_t EINZELN_BIS = 4;
+constexpr std::size_t SINGLE_UNTIL = 4;
 // Columns in the answer of the driver about tables and columns.
-constexpr std::size_t AUSKUNFT_TABELLE = 2;
-constexpr std::size_t AUSKUNFT_TABELLENART = 3;
-constexpr std::size_t AUSKUNFT_SPALTE = 3;
-constexpr std::size_t AUSKUNFT_TYP = 4;
+constexpr std::size_t INFORMATION_TABLE = 2;
+constexpr std::size_t INFORMATION_TABLE_KIND = 3;
+constexpr std::size_t INFORMATION_COLUMN = 3;
+constexpr std::size_t INFORMATION_TYPE = 4;
 
-int ganzzahlAus(const std::string& text)
+int integerFrom(const std::string& text)
 {
-    int zahl = 0;
-    std::from_chars(text.data(), text.data() + text.size(), zahl);
-    return zahl;
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
 }
 
-std::size_t stelleOf(std::span<const Spalte> spalten, std::string_view name)
+std::size_t positionOf(std::span<const ColumnInfo> columns, std::string_view name)
 {
-    const auto treffer =
-        std::ranges::find_if(spalten, [&](const Spalte& spalte) { return equalText(spalte.name, name); });
-    return static_cast<std::size_t>(treffer - spalten.begin());
+    const auto hits =
+        std::ranges::find_if(columns, [&](const ColumnInfo& column) { return equalText(column.name, name); });
+    return static_cast<std::size_t>(hits - columns.begin());
 }
 
 // Where each column of the table stands among those of a result.
-std::vector<std::size_t> stellenOf(const Tabellenschema& tabelle, const sql::Gerendert& gerendert)
+std::vector<std::size_t> positionsOf(const TableSchema& table, const sql::Rendered& rendered)
 {
-    std::vector<Spalte> alle = gerendert.spalten;
-    alle.insert(alle.end(), gerendert.rest.begin(), gerendert.rest.end());
-    std::vector<std::size_t> stellen;
-    for (const Spalte& spalte : tabelle.spalten)
-        stellen.push_back(stelleOf(alle, spalte.name));
-    return stellen;
+    std::vector<ColumnInfo> all = rendered.columns;
+    all.insert(all.end(), rendered.rest.begin(), rendered.rest.end());
+    std::vector<std::size_t> positions;
+    for (const ColumnInfo& column : table.columns)
+        positions.push_back(positionOf(all, column.name));
+    return positions;
 }
 
-std::vector<sql::Zuweisung> alsZuweisungen(const Tabellenschema& tabelle, std::span<const Value> zeile)
+std::vector<sql::Assignment> asAssignments(const TableSchema& table, std::span<const Value> row)
 {
-    std::vector<sql::Zuweisung> werte;
-    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i)
-        werte.push_back({tabelle.spalten[i].name, zeile[i]});
-    return werte;
+    std::vector<sql::Assignment> values;
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+        values.push_back({table.columns[i].name, row[i]});
+    return values;
 }
 
 } // namespace
 
-OdbcEngine::OdbcEngine(std::string_view verbindungstext, std::optional<WatchedFile> file)
-    : file_(std::move(file)), verbindung_(Verbindung::oeffne(verbindungstext, file_ ? file_->text() : "")),
-      art_(&datenbankartOf(verbindung_->datenbankname())),
-      katalog_([this](std::string_view name) { return leseSchema(name); })
+OdbcEngine::OdbcEngine(std::string_view connectionText, std::optional<WatchedFile> file)
+    : file_(std::move(file)), connection_(ConnectionHandle::open(connectionText, file_ ? file_->text() : "")),
+      kind_(&odbcKindOf(connection_->databaseName())),
+      catalog_([this](std::string_view name) { return readSchema(name); })
 {
-    verbindung_->setSource(art_->name);
+    connection_->setSource(kind_->name);
 }
 
 std::string_view OdbcEngine::name() const
 {
-    return art_->name;
+    return kind_->name;
 }
 
-EngineFaehigkeiten OdbcEngine::faehigkeiten() const
+EngineCapabilities OdbcEngine::capabilities() const
 {
-    EngineFaehigkeiten kann;
-    kann.spaltenNachladen = false; // To know a row again, all of it must be read anyway.
-    return kann;
+    EngineCapabilities can;
+    can.loadsColumnsLater = false; // To know a row again, all of it must be read anyway.
+    return can;
 }
 
 FileState OdbcEngine::fileState() const
@@ -94,328 +94,325 @@ void OdbcEngine::checkFile() const
         file_->check(std::string(name()));
 }
 
-std::vector<std::string> OdbcEngine::tabellen()
+std::vector<std::string> OdbcEngine::tables()
 {
-    std::vector<std::string> namen;
-    for (Anweisung auskunft = Anweisung::tabellen(verbindung_); auskunft.next();) {
-        std::string name = auskunft.text(AUSKUNFT_TABELLE);
-        if (!equalText(auskunft.text(AUSKUNFT_TABELLENART), "SYSTEM TABLE")) // Not every driver heeds what is asked.
-            namen.push_back(std::move(name));
+    std::vector<std::string> names;
+    for (StatementHandle information = StatementHandle::tables(connection_); information.next();) {
+        std::string name = information.text(INFORMATION_TABLE);
+        if (!equalText(information.text(INFORMATION_TABLE_KIND),
+                       "SYSTEM TABLE")) // Not every driver heeds what is asked.
+            names.push_back(std::move(name));
     }
-    std::ranges::sort(namen);
-    return namen;
+    std::ranges::sort(names);
+    return names;
 }
 
-std::string OdbcEngine::gespeicherterName(std::string_view name)
+std::string OdbcEngine::savedName(std::string_view name)
 {
-    for (std::string& tabelle : tabellen())
-        if (equalText(tabelle, name))
-            return std::move(tabelle);
+    for (std::string& table : tables())
+        if (equalText(table, name))
+            return std::move(table);
     return {};
 }
 
-std::optional<Tabellenschema> OdbcEngine::findTabelle(std::string_view name)
+std::optional<TableSchema> OdbcEngine::findTable(std::string_view name)
 {
-    const Tabellenschema* tabelle = katalog_.find(name);
-    return tabelle ? std::optional(*tabelle) : std::nullopt;
+    const TableSchema* table = catalog_.find(name);
+    return table ? std::optional(*table) : std::nullopt;
 }
 
-std::optional<Tabellenschema> OdbcEngine::leseSchema(std::string_view name)
+std::optional<TableSchema> OdbcEngine::readSchema(std::string_view name)
 {
-    Tabellenschema tabelle{gespeicherterName(name), {}, {}};
-    if (tabelle.name.empty())
+    TableSchema table{savedName(name), {}, {}};
+    if (table.name.empty())
         return std::nullopt;
-    for (Anweisung auskunft = Anweisung::spalten(verbindung_, tabelle.name); auskunft.next();) {
-        if (auskunft.text(AUSKUNFT_TABELLE) != tabelle.name) // "_" in a name is a wildcard to the driver.
+    for (StatementHandle information = StatementHandle::columns(connection_, table.name); information.next();) {
+        if (information.text(INFORMATION_TABLE) != table.name) // "_" in a name is a wildcard to the driver.
             continue;
-        std::string spalte = auskunft.text(AUSKUNFT_SPALTE);
-        if (const auto typ = findFeldTyp(ganzzahlAus(auskunft.text(AUSKUNFT_TYP))))
-            tabelle.spalten.push_back({std::move(spalte), *typ});
+        std::string column = information.text(INFORMATION_COLUMN);
+        if (const auto type = findFieldType(integerFrom(information.text(INFORMATION_TYPE))))
+            table.columns.push_back({std::move(column), *type});
     }
-    return tabelle;
+    return table;
 }
 
-std::shared_ptr<Zeilenbuch> OdbcEngine::buchOf(const Tabellenschema& tabelle)
+std::shared_ptr<RowBook> OdbcEngine::bookOf(const TableSchema& table)
 {
-    std::shared_ptr<Zeilenbuch>& buch = buecher_[tabelle.name];
-    if (!buch)
-        buch = std::make_shared<Zeilenbuch>();
-    return buch;
+    std::shared_ptr<RowBook>& book = books_[table.name];
+    if (!book)
+        book = std::make_shared<RowBook>();
+    return book;
 }
 
-Anweisung OdbcEngine::starte(const sql::Gerendert& gerendert)
+StatementHandle OdbcEngine::start(const sql::Rendered& rendered)
 {
-    return Anweisung::fuehreAus(verbindung_, gerendert.text, gerendert.parameter);
+    return StatementHandle::execute(connection_, rendered.text, rendered.parameter);
 }
 
-std::unique_ptr<Zeilenleser> OdbcEngine::lese(const sql::Select& select, MitSchluessel schluessel, std::size_t grenze)
+std::unique_ptr<RowReader> OdbcEngine::read(const sql::Select& select, WithKey key, std::size_t limit)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    const sql::Gerendert gerendert = art_->dialekt().select(select, tabelle, schluessel, grenze);
-    std::optional<Schluesselquelle> quelle;
-    if (schluessel == MitSchluessel::Ja)
-        quelle = Schluesselquelle{buchOf(tabelle), stellenOf(tabelle, gerendert)};
-    const bool hierUnterscheiden = select.distinct && !art_->distinctBlind;
-    auto leser = std::make_unique<Leser>(starte(gerendert), gerendert.spalten, gerendert.rest,
-                                         hierUnterscheiden ? 0 : grenze, std::move(quelle));
-    if (hierUnterscheiden)
-        return std::make_unique<DistinctLeser>(*leser, select.orderBy, grenze);
-    return leser;
+    const TableSchema& table = catalog_.tableOf(select.table, name());
+    const sql::Rendered rendered = kind_->dialect().select(select, table, key, limit);
+    std::optional<KeySource> source;
+    if (key == WithKey::Yes)
+        source = KeySource{bookOf(table), positionsOf(table, rendered)};
+    const bool hereDistinguish = select.distinct && !kind_->distinctBlind;
+    auto reader = std::make_unique<Reader>(start(rendered), rendered.columns, rendered.rest,
+                                           hereDistinguish ? 0 : limit, std::move(source));
+    if (hereDistinguish)
+        return std::make_unique<DistinctReader>(*reader, select.orderBy, limit);
+    return reader;
 }
 
-std::unique_ptr<Zeilenleser> OdbcEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
-                                                    std::span<const Zeilenschluessel> schluessel)
+std::unique_ptr<RowReader> OdbcEngine::readRows(std::string_view table, std::span<const std::string> columns,
+                                                std::span<const RowKey> key)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    sql::Select alle;
-    alle.tabelle = schema.name;
-    alle.spalten.assign(spalten.begin(), spalten.end());
-    const std::vector<Spalte> gesuchte = art_->dialekt().select(alle, schema, MitSchluessel::Nein).spalten;
-    if (schluessel.size() <= EINZELN_BIS)
-        return leseEinzeln(schema, gesuchte, schluessel);
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    sql::Select all;
+    all.table = schema.name;
+    all.columns.assign(columns.begin(), columns.end());
+    const std::vector<ColumnInfo> sought = kind_->dialect().select(all, schema, WithKey::No).columns;
+    if (key.size() <= SINGLE_UNTIL)
+        return readSingle(schema, sought, key);
 
-    const std::unordered_set<Zeilenschluessel> verlangte(schluessel.begin(), schluessel.end());
-    std::vector<Schluesselzeile> zeilen;
-    for (const auto leser = lese(alle, MitSchluessel::Ja, 0); leser->next();) {
-        if (!verlangte.contains(leser->schluessel()))
+    const std::unordered_set<RowKey> required(key.begin(), key.end());
+    std::vector<KeyRow> rows;
+    for (const auto reader = read(all, WithKey::Yes, 0); reader->next();) {
+        if (!required.contains(reader->key()))
             continue;
-        Schluesselzeile& zeile = zeilen.emplace_back(Schluesselzeile{leser->schluessel()});
-        for (std::size_t i = 0; i < gesuchte.size(); ++i)
-            zeile.werte.push_back(leser->wert(i));
+        KeyRow& row = rows.emplace_back(KeyRow{reader->key()});
+        for (std::size_t i = 0; i < sought.size(); ++i)
+            row.values.push_back(reader->value(i));
     }
-    return std::make_unique<Listenleser>(gesuchte, std::move(zeilen));
+    return std::make_unique<ListReader>(sought, std::move(rows));
 }
 
-std::unique_ptr<Zeilenleser> OdbcEngine::leseEinzeln(const Tabellenschema& tabelle, std::vector<Spalte> spalten,
-                                                     std::span<const Zeilenschluessel> schluessel)
+std::unique_ptr<RowReader> OdbcEngine::readSingle(const TableSchema& table, std::vector<ColumnInfo> columns,
+                                                  std::span<const RowKey> key)
 {
-    std::vector<Schluesselzeile> zeilen;
-    for (const Zeilenschluessel gesucht : schluessel) {
-        const std::string* bild = buchOf(tabelle)->findBild(gesucht);
-        if (!bild)
+    std::vector<KeyRow> rows;
+    for (const RowKey sought : key) {
+        const std::string* picture = bookOf(table)->findPicture(sought);
+        if (!picture)
             continue;
-        const auto gefunden = findZeilen(tabelle, alsZuweisungen(tabelle, Zeilenbuch::zeileOf(*bild)));
-        if (gefunden.empty())
+        const auto found = findRows(table, asAssignments(table, RowBook::rowOf(*picture)));
+        if (found.empty())
             continue;
-        Schluesselzeile& zeile = zeilen.emplace_back(Schluesselzeile{gesucht});
-        for (const Spalte& spalte : spalten)
-            zeile.werte.push_back(gefunden.front()[stelleOf(tabelle.spalten, spalte.name)]);
+        KeyRow& row = rows.emplace_back(KeyRow{sought});
+        for (const ColumnInfo& column : columns)
+            row.values.push_back(found.front()[positionOf(table.columns, column.name)]);
     }
-    return std::make_unique<Listenleser>(std::move(spalten), std::move(zeilen));
+    return std::make_unique<ListReader>(std::move(columns), std::move(rows));
 }
 
-std::vector<std::vector<Value>> OdbcEngine::findZeilen(const Tabellenschema& tabelle,
-                                                       std::span<const sql::Zuweisung> bild)
+std::vector<std::vector<Value>> OdbcEngine::findRows(const TableSchema& table, std::span<const sql::Assignment> picture)
 {
-    const sql::Gerendert gerendert = art_->dialekt().leseZeile(tabelle, bild);
-    Leser leser(starte(gerendert), gerendert.spalten, {}, 0, std::nullopt);
-    std::vector<std::vector<Value>> zeilen;
-    while (leser.next()) {
-        std::vector<Value>& zeile = zeilen.emplace_back();
-        for (std::size_t i = 0; i < gerendert.spalten.size(); ++i)
-            zeile.push_back(leser.wert(i));
+    const sql::Rendered rendered = kind_->dialect().readRow(table, picture);
+    Reader reader(start(rendered), rendered.columns, {}, 0, std::nullopt);
+    std::vector<std::vector<Value>> rows;
+    while (reader.next()) {
+        std::vector<Value>& row = rows.emplace_back();
+        for (std::size_t i = 0; i < rendered.columns.size(); ++i)
+            row.push_back(reader.value(i));
     }
-    return zeilen;
+    return rows;
 }
 
-std::string OdbcEngine::ausfuehrungsplan(const sql::Select& select)
+std::string OdbcEngine::executionPlan(const sql::Select& select)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    return art_->dialekt().select(select, tabelle, MitSchluessel::Nein).text;
+    const TableSchema& table = catalog_.tableOf(select.table, name());
+    return kind_->dialect().select(select, table, WithKey::No).text;
 }
 
-std::int64_t OdbcEngine::fuehreAus(const sql::Anweisung& anweisung)
+std::int64_t OdbcEngine::execute(const sql::Statement& statement)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(zieltabelle(anweisung), name());
-    return starte(art_->dialekt().aenderung(anweisung, tabelle)).betroffeneZeilen();
+    const TableSchema& table = catalog_.tableOf(targetTable(statement), name());
+    return start(kind_->dialect().change(statement, table)).affectedRows();
 }
 
 // The row is read again at once: a counter or a default value may have filled more columns.
-Zeilenschluessel OdbcEngine::fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte)
+RowKey OdbcEngine::insert(std::string_view table, std::span<const sql::Assignment> values)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    std::vector<sql::Zuweisung> gespeicherte(werte.begin(), werte.end());
-    if (gespeicherte.empty()) // Access knows no row without a value.
-        gespeicherte.push_back({schema.spalten.front().name, {}});
-    for (sql::Zuweisung& zelle : gespeicherte)
-        if (const std::size_t stelle = stelleOf(schema.spalten, zelle.spalte); stelle < schema.spalten.size())
-            zelle.wert = sql::speicherwert(zelle.wert, schema.spalten[stelle].typ);
-    starte(art_->dialekt().fuegeEin(schema, gespeicherte));
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    std::vector<sql::Assignment> saved(values.begin(), values.end());
+    if (saved.empty()) // Access knows no row without a value.
+        saved.push_back({schema.columns.front().name, {}});
+    for (sql::Assignment& cell : saved)
+        if (const std::size_t position = positionOf(schema.columns, cell.column); position < schema.columns.size())
+            cell.value = sql::storedValue(cell.value, schema.columns[position].type);
+    start(kind_->dialect().insert(schema, saved));
 
-    const std::vector<std::vector<Value>> zeilen = findZeilen(schema, gespeicherte);
-    if (zeilen.empty())
-        throw Laufzeitfehler(
-            ZEILE_MEHRDEUTIG, std::string(name()),
-            fmt::format("Der neue Datensatz der Tabelle '{}' wurde nicht wiedergefunden.", schema.name));
-    const std::string bild = Zeilenbuch::bildOf(zeilen.back());
-    const auto gleiche =
-        std::ranges::count_if(zeilen, [&](const auto& zeile) { return Zeilenbuch::bildOf(zeile) == bild; });
-    return buchOf(schema)->schluesselOf(bild, static_cast<std::size_t>(gleiche));
+    const std::vector<std::vector<Value>> rows = findRows(schema, saved);
+    if (rows.empty())
+        throw RuntimeError(ROW_AMBIGUOUS, std::string(name()),
+                           fmt::format("Der neue Datensatz der Tabelle '{}' wurde nicht wiedergefunden.", schema.name));
+    const std::string picture = RowBook::pictureOf(rows.back());
+    const auto same = std::ranges::count_if(rows, [&](const auto& row) { return RowBook::pictureOf(row) == picture; });
+    return bookOf(schema)->keyOf(picture, static_cast<std::size_t>(same));
 }
 
 // False when the row is gone, or was changed by another program meanwhile.
-bool OdbcEngine::schreibeEine(const Tabellenschema& tabelle, std::span<const sql::Zuweisung> bild,
-                              const sql::Gerendert& gerendert)
+bool OdbcEngine::writeOne(const TableSchema& table, std::span<const sql::Assignment> picture,
+                          const sql::Rendered& rendered)
 {
-    const auto pruefeEindeutig = [&](std::int64_t zeilen) {
-        if (zeilen > 1)
-            throw Laufzeitfehler(ZEILE_MEHRDEUTIG, std::string(name()),
-                                 fmt::format("Der Datensatz kommt in der Tabelle '{}' {}-mal gleich vor und hat keinen "
-                                             "Schlüssel.\nEs wurde nichts geändert.",
-                                             tabelle.name, zeilen));
-        return zeilen == 1;
+    const auto checkUnique = [&](std::int64_t rows) {
+        if (rows > 1)
+            throw RuntimeError(ROW_AMBIGUOUS, std::string(name()),
+                               fmt::format("Der Datensatz kommt in der Tabelle '{}' {}-mal gleich vor und hat keinen "
+                                           "Schlüssel.\nEs wurde nichts geändert.",
+                                           table.name, rows));
+        return rows == 1;
     };
-    Anweisung anzahl = starte(art_->dialekt().zaehleZeile(tabelle, bild));
-    anzahl.next();
-    if (!pruefeEindeutig(alsGanzzahl(anzahl.zelle(0, FeldTyp::Ganzzahl))))
+    StatementHandle count = start(kind_->dialect().countRow(table, picture));
+    count.next();
+    if (!checkUnique(asInteger(count.cell(0, FieldType::Integer))))
         return false;
-    beginne();
+    begin();
     try {
-        const bool geschrieben = pruefeEindeutig(starte(gerendert).betroffeneZeilen());
-        schliesseAb();
-        return geschrieben;
+        const bool written = checkUnique(start(rendered).affectedRows());
+        commit();
+        return written;
     } catch (...) {
-        nimmZurueck();
+        rollBack();
         throw;
     }
 }
 
-bool OdbcEngine::aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte)
+bool OdbcEngine::update(std::string_view table, RowKey row, std::span<const sql::Assignment> values)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    const std::shared_ptr<Zeilenbuch> buch = buchOf(schema);
-    const std::string* bild = buch->findBild(zeile);
-    if (!bild)
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    const std::shared_ptr<RowBook> book = bookOf(schema);
+    const std::string* picture = book->findPicture(row);
+    if (!picture)
         return false;
-    std::vector<Value> inhalt = Zeilenbuch::zeileOf(*bild);
-    const auto alt = alsZuweisungen(schema, inhalt);
-    if (!schreibeEine(schema, alt, art_->dialekt().aendereZeile(schema, alt, werte)))
+    std::vector<Value> content = RowBook::rowOf(*picture);
+    const auto old = asAssignments(schema, content);
+    if (!writeOne(schema, old, kind_->dialect().updateRow(schema, old, values)))
         return false;
-    for (const sql::Zuweisung& neu : werte) {
-        const std::size_t stelle = stelleOf(schema.spalten, neu.spalte);
-        inhalt[stelle] = sql::speicherwert(neu.wert, schema.spalten[stelle].typ);
+    for (const sql::Assignment& fresh : values) {
+        const std::size_t position = positionOf(schema.columns, fresh.column);
+        content[position] = sql::storedValue(fresh.value, schema.columns[position].type);
     }
-    merkeVorher(buch, zeile);
-    buch->ersetze(zeile, Zeilenbuch::bildOf(inhalt));
+    rememberState(book, row);
+    book->replace(row, RowBook::pictureOf(content));
     return true;
 }
 
-bool OdbcEngine::loesche(std::string_view tabelle, Zeilenschluessel zeile)
+bool OdbcEngine::remove(std::string_view table, RowKey row)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    const std::shared_ptr<Zeilenbuch> buch = buchOf(schema);
-    const std::string* bild = buch->findBild(zeile);
-    if (!bild)
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    const std::shared_ptr<RowBook> book = bookOf(schema);
+    const std::string* picture = book->findPicture(row);
+    if (!picture)
         return false;
-    const auto alt = alsZuweisungen(schema, Zeilenbuch::zeileOf(*bild));
-    if (!schreibeEine(schema, alt, art_->dialekt().loescheZeile(schema, alt)))
+    const auto old = asAssignments(schema, RowBook::rowOf(*picture));
+    if (!writeOne(schema, old, kind_->dialect().removeRow(schema, old)))
         return false;
-    merkeVorher(buch, zeile);
-    buch->entferne(zeile);
+    rememberState(book, row);
+    book->remove(row);
     return true;
 }
 
-void OdbcEngine::merkeVorher(const std::shared_ptr<Zeilenbuch>& buch, Zeilenschluessel schluessel)
+void OdbcEngine::rememberState(const std::shared_ptr<RowBook>& book, RowKey key)
 {
-    if (!marken_.empty())
-        vorher_.push_back({buch, schluessel, *buch->findBild(schluessel)});
+    if (!marks_.empty())
+        before_.push_back({book, key, *book->findPicture(key)});
 }
 
-void OdbcEngine::pruefeSchreibenderAufbau() const
+void OdbcEngine::checkWritingLayout() const
 {
-    if (!art_->legtTabellenAn)
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, std::string(name()),
-                             "In einer Access-Datenbank werden keine Tabellen oder Indexe angelegt oder entfernt.");
+    if (!kind_->createsTables)
+        throw RuntimeError(FAULT_GENERAL, std::string(name()),
+                           "In einer Access-Datenbank werden keine Tabellen oder Indexe angelegt oder entfernt.");
 }
 
-void OdbcEngine::legeTabelleAn(const Tabellenschema& tabelle)
+void OdbcEngine::createTable(const TableSchema& table)
 {
-    pruefeSchreibenderAufbau();
-    Anweisung::fuehreAus(verbindung_, tabelleAnlegen(*art_, tabelle));
-    katalog_.vergiss();
+    checkWritingLayout();
+    StatementHandle::execute(connection_, createTableStatement(*kind_, table));
+    catalog_.forget();
 }
 
-void OdbcEngine::legeIndexeAn(const Tabellenschema&)
+void OdbcEngine::createIndexes(const TableSchema&)
 {
-    pruefeSchreibenderAufbau();
+    checkWritingLayout();
 }
 
-std::vector<std::vector<IndexSpalte>> OdbcEngine::fehlendeIndexe(const Tabellenschema&)
+std::vector<std::vector<IndexColumn>> OdbcEngine::missingIndexes(const TableSchema&)
 {
     return {};
 }
 
-void OdbcEngine::entferneTabelle(std::string_view name)
+void OdbcEngine::removeTable(std::string_view name)
 {
-    pruefeSchreibenderAufbau();
-    if (const Tabellenschema* tabelle = katalog_.find(name)) {
-        Anweisung::fuehreAus(verbindung_, "DROP TABLE " + sql::Dialekt::bezeichner(tabelle->name));
-        buecher_.erase(tabelle->name);
+    checkWritingLayout();
+    if (const TableSchema* table = catalog_.find(name)) {
+        StatementHandle::execute(connection_, "DROP TABLE " + sql::Dialect::identifier(table->name));
+        books_.erase(table->name);
     }
-    katalog_.vergiss();
+    catalog_.forget();
 }
 
-std::unique_ptr<Engine::Massenschreiber> OdbcEngine::massenschreiber(std::string_view tabelle,
-                                                                     std::span<const Spalte> spalten)
+std::unique_ptr<Engine::BulkWriter> OdbcEngine::bulkWriter(std::string_view table, std::span<const ColumnInfo> columns)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    return std::make_unique<odbc::Massenschreiber>(*this, schema.name, spaltenOf(schema, spalten));
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    return std::make_unique<odbc::BulkWriter>(*this, schema.name, columnsOf(schema, columns));
 }
 
-void OdbcEngine::lockForWriting(std::string_view tabelle)
+void OdbcEngine::lockForWriting(std::string_view table)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    if (!art_->writeLock.empty())
-        Anweisung::fuehreAus(verbindung_,
-                             fmt::format(fmt::runtime(art_->writeLock), sql::Dialekt::bezeichner(schema.name),
-                                         sql::Dialekt::bezeichner(schema.spalten.front().name)));
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    if (!kind_->writeLock.empty())
+        StatementHandle::execute(connection_,
+                                 fmt::format(fmt::runtime(kind_->writeLock), sql::Dialect::identifier(schema.name),
+                                             sql::Dialect::identifier(schema.columns.front().name)));
 }
 
-void OdbcEngine::beginne()
+void OdbcEngine::begin()
 {
-    if (marken_.empty())
-        verbindung_->beginne();
-    else if (art_->sicherungspunkte)
-        Anweisung::fuehreAus(verbindung_, fmt::format("SAVEPOINT qv_{}", marken_.size()));
-    marken_.push_back(vorher_.size());
+    if (marks_.empty())
+        connection_->begin();
+    else if (kind_->savepoints)
+        StatementHandle::execute(connection_, fmt::format("SAVEPOINT qv_{}", marks_.size()));
+    marks_.push_back(before_.size());
 }
 
 // When it throws, the transaction is still there to be taken back.
-void OdbcEngine::schliesseAb()
+void OdbcEngine::commit()
 {
-    assert(!marken_.empty());
-    if (marken_.size() > 1) {
-        if (art_->sicherungspunkte)
-            Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", marken_.size() - 1));
+    assert(!marks_.empty());
+    if (marks_.size() > 1) {
+        if (kind_->savepoints)
+            StatementHandle::execute(connection_, fmt::format("RELEASE SAVEPOINT qv_{}", marks_.size() - 1));
     } else {
-        if (verdorben_)
-            throw Laufzeitfehler(FEHLER_ALLGEMEIN, std::string(name()),
-                                 "Ein Teil der Änderungen ging nicht, daher wurden alle zurückgenommen.");
-        verbindung_->beende(true);
-        vorher_.clear();
+        if (spoiled_)
+            throw RuntimeError(FAULT_GENERAL, std::string(name()),
+                               "Ein Teil der Änderungen ging nicht, daher wurden alle zurückgenommen.");
+        connection_->end(true);
+        before_.clear();
     }
-    marken_.pop_back();
+    marks_.pop_back();
 }
 
-void OdbcEngine::nimmZurueck()
+void OdbcEngine::rollBack()
 {
-    assert(!marken_.empty());
-    const std::size_t marke = marken_.back();
-    marken_.pop_back();
-    katalog_.vergiss(); // Tables made meanwhile go as well.
-    if (!marken_.empty() && !art_->sicherungspunkte) {
-        verdorben_ = true;
+    assert(!marks_.empty());
+    const std::size_t mark = marks_.back();
+    marks_.pop_back();
+    catalog_.forget(); // Tables made meanwhile go as well.
+    if (!marks_.empty() && !kind_->savepoints) {
+        spoiled_ = true;
         return;
     }
-    for (; vorher_.size() > marke; vorher_.pop_back())
-        vorher_.back().buch->ersetze(vorher_.back().schluessel, vorher_.back().bild);
-    if (marken_.empty()) {
-        verdorben_ = false;
-        verbindung_->beende(false);
+    for (; before_.size() > mark; before_.pop_back())
+        before_.back().book->replace(before_.back().key, before_.back().picture);
+    if (marks_.empty()) {
+        spoiled_ = false;
+        connection_->end(false);
         return;
     }
-    Anweisung::fuehreAus(verbindung_, fmt::format("ROLLBACK TO SAVEPOINT qv_{}", marken_.size()));
-    Anweisung::fuehreAus(verbindung_, fmt::format("RELEASE SAVEPOINT qv_{}", marken_.size()));
+    StatementHandle::execute(connection_, fmt::format("ROLLBACK TO SAVEPOINT qv_{}", marks_.size()));
+    StatementHandle::execute(connection_, fmt::format("RELEASE SAVEPOINT qv_{}", marks_.size()));
 }
 
 } // namespace quelvarn::odbc

@@ -78,7 +78,7 @@ DatabaseFault faultOf(const Failure& failure, const Place& place)
 {
     const FaultKind kind = kindOf(failure, place);
     const bool statement = failure.sqlstate.starts_with("42"); // Syntax or access rule.
-    const int number = statement ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN;
+    const int number = statement ? FAULT_STATEMENT : FAULT_GENERAL;
     if (kind == FaultKind::Other) // It has no sentence of its own.
         return {kind, number, place.source,
                 fmt::format("Die Datenbank meldet einen Fehler.{}{}", place.path.empty() ? "" : "\n", place.path),

@@ -12,37 +12,38 @@ namespace quelvarn {
 namespace {
 
 // The driver of today's Access, and the older one of 32-bit Windows.
-constexpr std::array<std::string_view, 2> ACCESS_TREIBER{"Microsoft Access Driver (*.mdb, *.accdb)",
-                                                         "Microsoft Access Driver (*.mdb)"};
+constexpr std::array<std::string_view, 2> ACCESS_DRIVER{"Microsoft Access Driver (*.mdb, *.accdb)",
+                                                        "Microsoft Access Driver (*.mdb)"};
 
-std::string accessTreiber()
+std::string accessDriver()
 {
-    const std::vector<std::string> vorhandene = odbc::Umgebung().treiber();
-    for (const std::string_view treiber : ACCESS_TREIBER)
-        if (std::ranges::find(vorhandene, treiber) != vorhandene.end())
-            return std::string(treiber);
+    const std::vector<std::string> existing = odbc::Environment().driver();
+    for (const std::string_view driver : ACCESS_DRIVER)
+        if (std::ranges::find(existing, driver) != existing.end())
+            return std::string(driver);
     return {};
 }
 
 } // namespace
 
-std::shared_ptr<Engine> oeffneOdbc(std::string_view verbindungstext)
+std::shared_ptr<Engine> openOdbc(std::string_view connectionText)
 {
-    return std::make_shared<odbc::OdbcEngine>(verbindungstext);
+    return std::make_shared<odbc::OdbcEngine>(connectionText);
 }
 
-std::shared_ptr<Engine> oeffneAccess(const std::filesystem::path& pfad)
+std::shared_ptr<Engine> openAccess(const std::filesystem::path& documentPath)
 {
-    const std::string treiber = accessTreiber();
-    if (treiber.empty())
+    const std::string driver = accessDriver();
+    if (driver.empty())
         return nullptr;
-    const std::string datei = utf8FromPath(pfad);
-    if (datei.find_first_of(";{}") != std::string::npos) // They would end the path, or begin another entry.
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "Access",
-                             fmt::format("Der Pfad '{}' darf für den Treiber von Access weder \";\" noch geschweifte "
-                                         "Klammern enthalten.",
-                                         datei));
-    return std::make_shared<odbc::OdbcEngine>(fmt::format("DRIVER={{{}}};DBQ={}", treiber, datei), WatchedFile(pfad));
+    const std::string file = utf8FromPath(documentPath);
+    if (file.find_first_of(";{}") != std::string::npos) // They would end the path, or begin another entry.
+        throw RuntimeError(FAULT_GENERAL, "Access",
+                           fmt::format("Der Pfad '{}' darf für den Treiber von Access weder \";\" noch geschweifte "
+                                       "Klammern enthalten.",
+                                       file));
+    return std::make_shared<odbc::OdbcEngine>(fmt::format("DRIVER={{{}}};DBQ={}", driver, file),
+                                              WatchedFile(documentPath));
 }
 
 } // namespace quelvarn

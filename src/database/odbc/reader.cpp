@@ -4,55 +4,55 @@
 
 namespace quelvarn::odbc {
 
-std::string_view Zeilentraeger::text(std::size_t spalte) const
+std::string_view RowCarrier::text(std::size_t column) const
 {
-    if (const auto* text = std::get_if<std::string>(&zeile_[spalte]))
+    if (const auto* text = std::get_if<std::string>(&row_[column]))
         return *text;
-    text_ = alsText(zeile_[spalte]);
+    text_ = asText(row_[column]);
     return text_;
 }
 
-Leser::Leser(Anweisung anweisung, std::vector<Spalte> spalten, const std::vector<Spalte>& rest, std::size_t grenze,
-             std::optional<Schluesselquelle> quelle)
-    : Zeilentraeger(std::move(spalten)), anweisung_(std::move(anweisung)),
-      uebrig_(grenze > 0 ? grenze : std::numeric_limits<std::size_t>::max()), quelle_(std::move(quelle))
+Reader::Reader(StatementHandle statement, std::vector<ColumnInfo> columns, const std::vector<ColumnInfo>& rest,
+               std::size_t limit, std::optional<KeySource> source)
+    : RowCarrier(std::move(columns)), statement_(std::move(statement)),
+      left_(limit > 0 ? limit : std::numeric_limits<std::size_t>::max()), source_(std::move(source))
 {
-    for (const Spalte& spalte : this->spalten())
-        typen_.push_back(spalte.typ);
-    for (const Spalte& spalte : rest)
-        typen_.push_back(spalte.typ);
-    zeile_.resize(typen_.size());
+    for (const ColumnInfo& column : this->columns())
+        types_.push_back(column.type);
+    for (const ColumnInfo& column : rest)
+        types_.push_back(column.type);
+    row_.resize(types_.size());
 }
 
-bool Leser::next()
+bool Reader::next()
 {
-    if (zuEnde_ || uebrig_ == 0 || !anweisung_.next()) {
-        zuEnde_ = true;
+    if (atEnd_ || left_ == 0 || !statement_.next()) {
+        atEnd_ = true;
         return false;
     }
-    --uebrig_;
-    for (std::size_t i = 0; i < typen_.size(); ++i)
-        zeile_[i] = anweisung_.zelle(i, typen_[i]);
-    if (quelle_)
-        merkeSchluessel();
+    --left_;
+    for (std::size_t i = 0; i < types_.size(); ++i)
+        row_[i] = statement_.cell(i, types_[i]);
+    if (source_)
+        rememberKey();
     return true;
 }
 
-void Leser::merkeSchluessel()
+void Reader::rememberKey()
 {
-    std::vector<Value> ganze;
-    for (const std::size_t stelle : quelle_->stellen)
-        ganze.push_back(zeile_[stelle]);
-    const std::string bild = Zeilenbuch::bildOf(ganze);
-    schluessel_ = quelle_->buch->schluesselOf(bild, ++vorkommen_[bild]);
+    std::vector<Value> whole;
+    for (const std::size_t position : source_->positions)
+        whole.push_back(row_[position]);
+    const std::string picture = RowBook::pictureOf(whole);
+    key_ = source_->book->keyOf(picture, ++occurrences_[picture]);
 }
 
-bool Listenleser::next()
+bool ListReader::next()
 {
-    if (naechste_ == zeilen_.size())
+    if (next_ == rows_.size())
         return false;
-    schluessel_ = zeilen_[naechste_].schluessel;
-    zeile_ = std::move(zeilen_[naechste_++].werte);
+    key_ = rows_[next_].key;
+    row_ = std::move(rows_[next_++].values);
     return true;
 }
 

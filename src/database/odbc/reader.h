@@ -8,76 +8,76 @@
 namespace quelvarn::odbc {
 
 // A reader whose current row lies in memory.
-class Zeilentraeger : public Zeilenleser
+class RowCarrier : public RowReader
 {
 public:
-    explicit Zeilentraeger(std::vector<Spalte> spalten) : spalten_(std::move(spalten)) {}
+    explicit RowCarrier(std::vector<ColumnInfo> columns) : columns_(std::move(columns)) {}
 
-    const std::vector<Spalte>& spalten() const override { return spalten_; }
-    Zeilenschluessel schluessel() const override { return schluessel_; }
-    bool istNull(std::size_t spalte) const override { return quelvarn::istNull(zeile_[spalte]); }
-    std::string_view text(std::size_t spalte) const override;
-    std::int64_t ganzzahl(std::size_t spalte) const override { return alsGanzzahl(zeile_[spalte]); }
-    double gleitkomma(std::size_t spalte) const override { return alsZahl(zeile_[spalte]); }
-    Zeitpunkt datum(std::size_t spalte) const override { return alsDatum(zeile_[spalte]); }
-    Value wert(std::size_t spalte) const override { return zeile_[spalte]; }
+    const std::vector<ColumnInfo>& columns() const override { return columns_; }
+    RowKey key() const override { return key_; }
+    bool isNull(std::size_t column) const override { return quelvarn::isNull(row_[column]); }
+    std::string_view text(std::size_t column) const override;
+    std::int64_t integer(std::size_t column) const override { return asInteger(row_[column]); }
+    double floatingPoint(std::size_t column) const override { return asNumber(row_[column]); }
+    DateTime date(std::size_t column) const override { return asDate(row_[column]); }
+    Value value(std::size_t column) const override { return row_[column]; }
 
 protected:
-    std::vector<Value> zeile_; // At least the columns of the reader.
-    Zeilenschluessel schluessel_ = 0;
+    std::vector<Value> row_; // At least the columns of the reader.
+    RowKey key_ = 0;
 
 private:
-    std::vector<Spalte> spalten_;
+    std::vector<ColumnInfo> columns_;
     mutable std::string text_;
 };
 
 // Which cell of a result holds which column of the table, to tell a row by all it holds.
-struct Schluesselquelle
+struct KeySource
 {
-    std::shared_ptr<Zeilenbuch> buch;
-    std::vector<std::size_t> stellen; // By the table's columns.
+    std::shared_ptr<RowBook> book;
+    std::vector<std::size_t> positions; // By the table's columns.
 };
 
 // The rows of a statement as the driver hands them out.
-class Leser final : public Zeilentraeger
+class Reader final : public RowCarrier
 {
 public:
-    // `rest` are columns behind those of the reader. `grenze` rows at most when above 0.
-    Leser(Anweisung anweisung, std::vector<Spalte> spalten, const std::vector<Spalte>& rest, std::size_t grenze,
-          std::optional<Schluesselquelle> quelle);
+    // `rest` are columns behind those of the reader. `limit` rows at most when above 0.
+    Reader(StatementHandle statement, std::vector<ColumnInfo> columns, const std::vector<ColumnInfo>& rest,
+           std::size_t limit, std::optional<KeySource> source);
 
     bool next() override;
 
 private:
-    void merkeSchluessel();
+    void rememberKey();
 
-    Anweisung anweisung_;
-    std::vector<FeldTyp> typen_;
-    std::size_t uebrig_;
-    std::optional<Schluesselquelle> quelle_;
-    std::unordered_map<std::string, std::size_t> vorkommen_;
-    bool zuEnde_ = false;
+    StatementHandle statement_;
+    std::vector<FieldType> types_;
+    std::size_t left_;
+    std::optional<KeySource> source_;
+    std::unordered_map<std::string, std::size_t> occurrences_;
+    bool atEnd_ = false;
 };
 
-struct Schluesselzeile
+struct KeyRow
 {
-    Zeilenschluessel schluessel;
-    std::vector<Value> werte;
+    RowKey key;
+    std::vector<Value> values;
 };
 
 // Rows that were collected before.
-class Listenleser final : public Zeilentraeger
+class ListReader final : public RowCarrier
 {
 public:
-    Listenleser(std::vector<Spalte> spalten, std::vector<Schluesselzeile> zeilen)
-        : Zeilentraeger(std::move(spalten)), zeilen_(std::move(zeilen))
+    ListReader(std::vector<ColumnInfo> columns, std::vector<KeyRow> rows)
+        : RowCarrier(std::move(columns)), rows_(std::move(rows))
     {}
 
     bool next() override;
 
 private:
-    std::vector<Schluesselzeile> zeilen_;
-    std::size_t naechste_ = 0;
+    std::vector<KeyRow> rows_;
+    std::size_t next_ = 0;
 };
 
 } // namespace quelvarn::odbc

@@ -6,55 +6,55 @@
 namespace quelvarn::odbc {
 namespace {
 
-template <class Zahl> void schreibe(std::string& bild, Zahl zahl)
+template <class Number> void write(std::string& picture, Number number)
 {
-    char bytes[sizeof zahl];
-    std::memcpy(bytes, &zahl, sizeof zahl);
-    bild.append(bytes, sizeof zahl);
+    char bytes[sizeof number];
+    std::memcpy(bytes, &number, sizeof number);
+    picture.append(bytes, sizeof number);
 }
 
-template <class Zahl> Zahl lies(std::string_view& bild)
+template <class Number> Number lies(std::string_view& picture)
 {
-    Zahl zahl;
-    assert(bild.size() >= sizeof zahl);
-    std::memcpy(&zahl, bild.data(), sizeof zahl);
-    bild.remove_prefix(sizeof zahl);
-    return zahl;
+    Number number;
+    assert(picture.size() >= sizeof number);
+    std::memcpy(&number, picture.data(), sizeof number);
+    picture.remove_prefix(sizeof number);
+    return number;
 }
 
 // What a cell holds stands in front of it.
-constexpr char Nichts = 'N', Ganz = 'G', Zahl = 'Z', Text = 'T', Zeit = 'D';
+constexpr char Nothing = 'N', Whole = 'G', Number = 'Z', Text = 'T', Time = 'D';
 
-struct Schreiber
+struct Writer
 {
-    std::string& bild;
+    std::string& picture;
 
-    void operator()(std::monostate) const { bild += Nichts; }
-    void operator()(std::int64_t zahl) const { schreibe(bild += Ganz, zahl); }
-    void operator()(double zahl) const { schreibe(bild += Zahl, zahl); }
+    void operator()(std::monostate) const { picture += Nothing; }
+    void operator()(std::int64_t number) const { write(picture += Whole, number); }
+    void operator()(double number) const { write(picture += Number, number); }
     void operator()(const std::string& text) const
     {
-        schreibe(bild += Text, text.size());
-        bild += text;
+        write(picture += Text, text.size());
+        picture += text;
     }
-    void operator()(Zeitpunkt zeit) const { schreibe(bild += Zeit, zeit.sekunden); }
+    void operator()(DateTime time) const { write(picture += Time, time.seconds); }
 };
 
-Value liesZelle(std::string_view& bild)
+Value readCell(std::string_view& picture)
 {
-    const char art = bild.front();
-    bild.remove_prefix(1);
-    switch (art) {
-    case Ganz:
-        return lies<std::int64_t>(bild);
-    case Zahl:
-        return lies<double>(bild);
-    case Zeit:
-        return Zeitpunkt{lies<std::int64_t>(bild)};
+    const char kind = picture.front();
+    picture.remove_prefix(1);
+    switch (kind) {
+    case Whole:
+        return lies<std::int64_t>(picture);
+    case Number:
+        return lies<double>(picture);
+    case Time:
+        return DateTime{lies<std::int64_t>(picture)};
     case Text: {
-        const auto laenge = lies<std::size_t>(bild);
-        std::string text(bild.substr(0, laenge));
-        bild.remove_prefix(laenge);
+        const auto length = lies<std::size_t>(picture);
+        std::string text(picture.substr(0, length));
+        picture.remove_prefix(length);
         return text;
     }
     default:
@@ -64,54 +64,54 @@ Value liesZelle(std::string_view& bild)
 
 } // namespace
 
-std::string Zeilenbuch::bildOf(std::span<const Value> zeile)
+std::string RowBook::pictureOf(std::span<const Value> row)
 {
-    std::string bild;
-    for (const Value& zelle : zeile)
-        std::visit(Schreiber{bild}, zelle);
-    return bild;
+    std::string picture;
+    for (const Value& cell : row)
+        std::visit(Writer{picture}, cell);
+    return picture;
 }
 
-std::vector<Value> Zeilenbuch::zeileOf(std::string_view bild)
+std::vector<Value> RowBook::rowOf(std::string_view picture)
 {
-    std::vector<Value> zeile;
-    while (!bild.empty())
-        zeile.push_back(liesZelle(bild));
-    return zeile;
+    std::vector<Value> row;
+    while (!picture.empty())
+        row.push_back(readCell(picture));
+    return row;
 }
 
-Zeilenschluessel Zeilenbuch::schluesselOf(const std::string& bild, std::size_t vorkommen)
+RowKey RowBook::keyOf(const std::string& picture, std::size_t occurrences)
 {
-    const auto eintrag = schluessel_.try_emplace(bild).first;
-    std::vector<Zeilenschluessel>& gleiche = eintrag->second;
-    while (gleiche.size() < vorkommen) {
-        gleiche.push_back(++letzter_);
-        bilder_.emplace(letzter_, &eintrag->first);
+    const auto entry = key_.try_emplace(picture).first;
+    std::vector<RowKey>& same = entry->second;
+    while (same.size() < occurrences) {
+        same.push_back(++last_);
+        pictures_.emplace(last_, &entry->first);
     }
-    return gleiche[vorkommen - 1];
+    return same[occurrences - 1];
 }
 
-const std::string* Zeilenbuch::findBild(Zeilenschluessel schluessel) const
+const std::string* RowBook::findPicture(RowKey key) const
 {
-    const auto eintrag = bilder_.find(schluessel);
-    return eintrag == bilder_.end() ? nullptr : eintrag->second;
+    const auto entry = pictures_.find(key);
+    return entry == pictures_.end() ? nullptr : entry->second;
 }
 
-void Zeilenbuch::ersetze(Zeilenschluessel schluessel, const std::string& neuesBild)
+void RowBook::replace(RowKey key, const std::string& newPicture)
 {
-    const auto neu = schluessel_.try_emplace(neuesBild).first;
-    entferne(schluessel);
-    neu->second.push_back(schluessel);
-    bilder_.emplace(schluessel, &neu->first);
+    const auto fresh = key_.try_emplace(newPicture).first;
+    remove(key);
+    fresh->second.push_back(key);
+    pictures_.emplace(key, &fresh->first);
 }
 
-void Zeilenbuch::entferne(Zeilenschluessel schluessel)
+void RowBook::remove(RowKey key)
 {
-    const auto eintrag = bilder_.find(schluessel);
-    if (eintrag == bilder_.end())
+    const auto entry = pictures_.find(key);
+    if (entry == pictures_.end())
         return;
-    std::erase(schluessel_.find(*eintrag->second)->second, schluessel);
-    bilder_.erase(eintrag);
+    std::erase(key_.find(*entry->second)->second, key);
+    pictures_.erase(entry);
 }
 
 } // namespace quelvarn::odbc

@@ -19,158 +19,159 @@ namespace quelvarn::odbc {
 namespace {
 
 // A text as ODBC wants to see it until the statement has run.
-struct Gebunden
+struct Bound
 {
     std::u16string text;
-    SQLLEN laenge = SQL_NULL_DATA;
+    SQLLEN length = SQL_NULL_DATA;
 };
 
-std::vector<Gebunden> bindung(std::span<const Value> parameter)
+std::vector<Bound> binding(std::span<const Value> parameter)
 {
-    std::vector<Gebunden> gebundene(parameter.size());
+    std::vector<Bound> bound(parameter.size());
     for (std::size_t i = 0; i < parameter.size(); ++i) {
-        if (istNull(parameter[i]))
+        if (isNull(parameter[i]))
             continue;
-        gebundene[i].text = toUtf16(sql::parametertext(parameter[i]));
-        gebundene[i].laenge = static_cast<SQLLEN>(gebundene[i].text.size() * sizeof(char16_t));
+        bound[i].text = toUtf16(sql::parameterText(parameter[i]));
+        bound[i].length = static_cast<SQLLEN>(bound[i].text.size() * sizeof(char16_t));
     }
-    return gebundene;
+    return bound;
 }
 
 // The longest text of a plain column of Access; beyond it a text is bound as that of a memo.
-constexpr std::size_t laengsterText = 255;
+constexpr std::size_t longestText = 255;
 
-SQLRETURN binde(RohHandle anweisung, std::size_t nummer, Gebunden& wert)
+SQLRETURN bind(RawHandle statement, std::size_t number, Bound& value)
 {
-    const bool lang = wert.text.size() > laengsterText;
-    const SQLULEN groesse = std::max<std::size_t>(wert.text.size(), 1); // 0 is refused.
-    return SQLBindParameter(anweisung, static_cast<SQLUSMALLINT>(nummer), SQL_PARAM_INPUT, SQL_C_WCHAR,
-                            lang ? SQL_WLONGVARCHAR : SQL_WVARCHAR, groesse, 0, wert.text.data(),
-                            wert.laenge == SQL_NULL_DATA ? 0 : wert.laenge, &wert.laenge);
+    const bool longText = value.text.size() > longestText;
+    const SQLULEN size = std::max<std::size_t>(value.text.size(), 1); // 0 is refused.
+    return SQLBindParameter(statement, static_cast<SQLUSMALLINT>(number), SQL_PARAM_INPUT, SQL_C_WCHAR,
+                            longText ? SQL_WLONGVARCHAR : SQL_WVARCHAR, size, 0, value.text.data(),
+                            value.length == SQL_NULL_DATA ? 0 : value.length, &value.length);
 }
 
-SQLWCHAR* breit(std::u16string& text)
+SQLWCHAR* wide(std::u16string& text)
 {
     return reinterpret_cast<SQLWCHAR*>(text.data());
 }
 
-Zeitpunkt ausStempel(const SQL_TIMESTAMP_STRUCT& stempel)
+DateTime fromStamp(const SQL_TIMESTAMP_STRUCT& stamp)
 {
-    constexpr SQLUINTEGER halbeSekunde = 500'000'000;
-    const Zeitpunkt zeit =
-        Zeitpunkt::aus({stempel.year, stempel.month, stempel.day, stempel.hour, stempel.minute, stempel.second});
-    return zeit.plusSekunden(stempel.fraction >= halbeSekunde ? 1 : 0);
+    constexpr SQLUINTEGER halfSecond = 500'000'000;
+    const DateTime time = DateTime::out({stamp.year, stamp.month, stamp.day, stamp.hour, stamp.minute, stamp.second});
+    return time.plusSeconds(stamp.fraction >= halfSecond ? 1 : 0);
 }
 
 } // namespace
 
-Anweisung::Anweisung(std::shared_ptr<Verbindung> verbindung)
-    : verbindung_(std::move(verbindung)), handle_(std::make_unique<Handle>(Handleart::Anweisung, verbindung_->roh()))
+StatementHandle::StatementHandle(std::shared_ptr<ConnectionHandle> connection)
+    : connection_(std::move(connection)),
+      handle_(std::make_unique<Handle>(HandleKind::StatementHandle, connection_->raw()))
 {}
 
-void Anweisung::pruefe(Ergebnis ergebnis) const
+void StatementHandle::check(Result result) const
 {
-    odbc::pruefe(ergebnis, Handleart::Anweisung, handle_->roh(), verbindung_->place());
+    odbc::check(result, HandleKind::StatementHandle, handle_->raw(), connection_->place());
 }
 
-Anweisung Anweisung::fuehreAus(std::shared_ptr<Verbindung> verbindung, std::string_view sql,
-                               std::span<const Value> parameter)
+StatementHandle StatementHandle::execute(std::shared_ptr<ConnectionHandle> connection, std::string_view sql,
+                                         std::span<const Value> parameter)
 {
-    Anweisung anweisung(std::move(verbindung));
+    StatementHandle statement(std::move(connection));
     std::u16string text = toUtf16(sql);
-    std::vector<Gebunden> gebundene = bindung(parameter);
-    for (std::size_t i = 0; i < gebundene.size(); ++i)
-        anweisung.pruefe(binde(anweisung.handle_->roh(), i + 1, gebundene[i]));
-    const auto starte = [&]() -> Ergebnis { return SQLExecDirectW(anweisung.handle_->roh(), breit(text), SQL_NTS); };
-    anweisung.pruefe(wiederhole(starte, Handleart::Anweisung, anweisung.handle_->roh()));
-    SQLFreeStmt(anweisung.handle_->roh(), SQL_RESET_PARAMS); // The values go now.
-    return anweisung;
+    std::vector<Bound> bound = binding(parameter);
+    for (std::size_t i = 0; i < bound.size(); ++i)
+        statement.check(bind(statement.handle_->raw(), i + 1, bound[i]));
+    const auto start = [&]() -> Result { return SQLExecDirectW(statement.handle_->raw(), wide(text), SQL_NTS); };
+    statement.check(repeat(start, HandleKind::StatementHandle, statement.handle_->raw()));
+    SQLFreeStmt(statement.handle_->raw(), SQL_RESET_PARAMS); // The values go now.
+    return statement;
 }
 
-Anweisung Anweisung::tabellen(std::shared_ptr<Verbindung> verbindung)
+StatementHandle StatementHandle::tables(std::shared_ptr<ConnectionHandle> connection)
 {
-    Anweisung anweisung(std::move(verbindung));
-    std::u16string arten = u"TABLE,VIEW,SYNONYM";
-    anweisung.pruefe(SQLTablesW(anweisung.handle_->roh(), nullptr, 0, nullptr, 0, nullptr, 0, breit(arten), SQL_NTS));
-    return anweisung;
+    StatementHandle statement(std::move(connection));
+    std::u16string kinds = u"TABLE,VIEW,SYNONYM";
+    statement.check(SQLTablesW(statement.handle_->raw(), nullptr, 0, nullptr, 0, nullptr, 0, wide(kinds), SQL_NTS));
+    return statement;
 }
 
-Anweisung Anweisung::spalten(std::shared_ptr<Verbindung> verbindung, std::string_view tabelle)
+StatementHandle StatementHandle::columns(std::shared_ptr<ConnectionHandle> connection, std::string_view table)
 {
-    Anweisung anweisung(std::move(verbindung));
-    std::u16string name = toUtf16(tabelle);
-    anweisung.pruefe(SQLColumnsW(anweisung.handle_->roh(), nullptr, 0, nullptr, 0, breit(name), SQL_NTS, nullptr, 0));
-    return anweisung;
+    StatementHandle statement(std::move(connection));
+    std::u16string name = toUtf16(table);
+    statement.check(SQLColumnsW(statement.handle_->raw(), nullptr, 0, nullptr, 0, wide(name), SQL_NTS, nullptr, 0));
+    return statement;
 }
 
-bool Anweisung::next()
+bool StatementHandle::next()
 {
-    const SQLRETURN ergebnis = SQLFetch(handle_->roh());
-    pruefe(ergebnis);
-    return ergebnis != SQL_NO_DATA;
+    const SQLRETURN result = SQLFetch(handle_->raw());
+    check(result);
+    return result != SQL_NO_DATA;
 }
 
-bool Anweisung::holeText(std::size_t spalte, std::string& text)
+bool StatementHandle::holeText(std::size_t column, std::string& text)
 {
-    std::array<char16_t, 2048> stueck;
-    std::u16string gesamt;
+    std::array<char16_t, 2048> piece;
+    std::u16string total;
     for (;;) {
         SQLLEN bytes = 0;
-        const SQLRETURN ergebnis = SQLGetData(handle_->roh(), static_cast<SQLUSMALLINT>(spalte + 1), SQL_C_WCHAR,
-                                              stueck.data(), sizeof stueck, &bytes);
-        pruefe(ergebnis);
-        if (ergebnis == SQL_NO_DATA)
+        const SQLRETURN result = SQLGetData(handle_->raw(), static_cast<SQLUSMALLINT>(column + 1), SQL_C_WCHAR,
+                                            piece.data(), sizeof piece, &bytes);
+        check(result);
+        if (result == SQL_NO_DATA)
             break;
         if (bytes == SQL_NULL_DATA)
             return false;
         // Each piece ends with a NUL; the driver may not know how much is still to come.
-        const std::size_t da = stueck.size() - 1;
-        const bool rest = bytes == SQL_NO_TOTAL || static_cast<std::size_t>(bytes) / sizeof(char16_t) > da;
-        gesamt.append(stueck.data(), rest ? da : static_cast<std::size_t>(bytes) / sizeof(char16_t));
+        const std::size_t there = piece.size() - 1;
+        const bool rest = bytes == SQL_NO_TOTAL || static_cast<std::size_t>(bytes) / sizeof(char16_t) > there;
+        total.append(piece.data(), rest ? there : static_cast<std::size_t>(bytes) / sizeof(char16_t));
         if (!rest)
             break;
     }
-    text = fromUtf16(gesamt);
+    text = fromUtf16(total);
     return true;
 }
 
-std::string Anweisung::text(std::size_t spalte)
+std::string StatementHandle::text(std::size_t column)
 {
     std::string text;
-    holeText(spalte, text);
+    holeText(column, text);
     return text;
 }
 
-Value Anweisung::zelle(std::size_t spalte, FeldTyp typ)
+Value StatementHandle::cell(std::size_t column, FieldType type)
 {
-    const auto nummer = static_cast<SQLUSMALLINT>(spalte + 1);
-    SQLLEN laenge = 0;
-    if (typ == FeldTyp::Gleitkomma) {
-        double zahl = 0;
-        pruefe(SQLGetData(handle_->roh(), nummer, SQL_C_DOUBLE, &zahl, sizeof zahl, &laenge));
-        return laenge == SQL_NULL_DATA ? Value() : Value(zahl);
+    const auto number = static_cast<SQLUSMALLINT>(column + 1);
+    SQLLEN length = 0;
+    if (type == FieldType::FloatingPoint) {
+        double integer = 0;
+        check(SQLGetData(handle_->raw(), number, SQL_C_DOUBLE, &integer, sizeof integer, &length));
+        return length == SQL_NULL_DATA ? Value() : Value(integer);
     }
-    if (typ == FeldTyp::Datum) {
-        SQL_TIMESTAMP_STRUCT stempel{};
-        pruefe(SQLGetData(handle_->roh(), nummer, SQL_C_TYPE_TIMESTAMP, &stempel, sizeof stempel, &laenge));
-        return laenge == SQL_NULL_DATA ? Value() : Value(ausStempel(stempel));
+    if (type == FieldType::Date) {
+        SQL_TIMESTAMP_STRUCT stamp{};
+        check(SQLGetData(handle_->raw(), number, SQL_C_TYPE_TIMESTAMP, &stamp, sizeof stamp, &length));
+        return length == SQL_NULL_DATA ? Value() : Value(fromStamp(stamp));
     }
     std::string text;
-    if (!holeText(spalte, text))
+    if (!holeText(column, text))
         return {};
     // Integers as texts: not every driver knows those of 64 bits.
-    std::int64_t zahl = 0;
-    if (typ == FeldTyp::Ganzzahl &&
-        std::from_chars(text.data(), text.data() + text.size(), zahl).ptr == text.data() + text.size() && !text.empty())
-        return zahl;
+    std::int64_t integer = 0;
+    if (type == FieldType::Integer &&
+        std::from_chars(text.data(), text.data() + text.size(), integer).ptr == text.data() + text.size() &&
+        !text.empty())
+        return integer;
     return text;
 }
 
-std::int64_t Anweisung::betroffeneZeilen() const
+std::int64_t StatementHandle::affectedRows() const
 {
-    SQLLEN zeilen = 0;
-    pruefe(SQLRowCount(handle_->roh(), &zeilen));
-    return zeilen;
+    SQLLEN rows = 0;
+    check(SQLRowCount(handle_->raw(), &rows));
+    return rows;
 }
 
 } // namespace quelvarn::odbc

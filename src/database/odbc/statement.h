@@ -11,30 +11,30 @@
 
 namespace quelvarn::odbc {
 
-class Verbindung;
+class ConnectionHandle;
 
 // One statement that was run, and its rows.
-class Anweisung
+class StatementHandle
 {
 public:
     // Every value is bound as a text, which each driver takes for any column; Null as Null.
-    static Anweisung fuehreAus(std::shared_ptr<Verbindung> verbindung, std::string_view sql,
-                               std::span<const Value> parameter = {});
-    static Anweisung tabellen(std::shared_ptr<Verbindung> verbindung);
-    static Anweisung spalten(std::shared_ptr<Verbindung> verbindung, std::string_view tabelle);
+    static StatementHandle execute(std::shared_ptr<ConnectionHandle> connection, std::string_view sql,
+                                   std::span<const Value> parameter = {});
+    static StatementHandle tables(std::shared_ptr<ConnectionHandle> connection);
+    static StatementHandle columns(std::shared_ptr<ConnectionHandle> connection, std::string_view table);
 
     bool next();
     // Columns of a row are read from the left to the right, each once. The first is 0.
-    Value zelle(std::size_t spalte, FeldTyp typ);
-    std::string text(std::size_t spalte); // "" for Null
-    std::int64_t betroffeneZeilen() const;
+    Value cell(std::size_t column, FieldType type);
+    std::string text(std::size_t column); // "" for Null
+    std::int64_t affectedRows() const;
 
 private:
-    explicit Anweisung(std::shared_ptr<Verbindung> verbindung);
-    bool holeText(std::size_t spalte, std::string& text);
-    void pruefe(Ergebnis ergebnis) const;
+    explicit StatementHandle(std::shared_ptr<ConnectionHandle> connection);
+    bool holeText(std::size_t column, std::string& text);
+    void check(Result result) const;
 
-    std::shared_ptr<Verbindung> verbindung_; // Outlives its statements.
+    std::shared_ptr<ConnectionHandle> connection_; // Outlives its statements.
     std::unique_ptr<Handle> handle_;
 };
 

@@ -11,90 +11,90 @@
 namespace quelvarn::postgresql {
 namespace {
 
-constexpr std::size_t puffergroesse = 1 << 16;
+constexpr std::size_t bufferSize = 1 << 16;
 
 // A cell of the COPY text format.
-void haengeZelleAn(std::string& puffer, std::string_view text)
+void appendCell(std::string& buffer, std::string_view text)
 {
-    for (const char zeichen : text) {
-        switch (zeichen) {
+    for (const char character : text) {
+        switch (character) {
         case '\\':
-            puffer += "\\\\";
+            buffer += "\\\\";
             break;
         case '\n':
-            puffer += "\\n";
+            buffer += "\\n";
             break;
         case '\r':
-            puffer += "\\r";
+            buffer += "\\r";
             break;
         case '\t':
-            puffer += "\\t";
+            buffer += "\\t";
             break;
         default:
-            puffer += zeichen;
+            buffer += character;
         }
     }
 }
 
-std::string kopieranweisung(const std::string& tabelle, std::span<const Spalte> spalten)
+std::string copyStatement(const std::string& table, std::span<const ColumnInfo> columns)
 {
-    std::vector<std::string> namen;
-    for (const Spalte& spalte : spalten)
-        namen.push_back(sql::Dialekt::bezeichner(spalte.name));
-    return fmt::format("COPY {} ({}) FROM STDIN", sql::Dialekt::bezeichner(tabelle), join(namen, ", "));
+    std::vector<std::string> names;
+    for (const ColumnInfo& column : columns)
+        names.push_back(sql::Dialect::identifier(column.name));
+    return fmt::format("COPY {} ({}) FROM STDIN", sql::Dialect::identifier(table), join(names, ", "));
 }
 
 } // namespace
 
-Massenschreiber::Massenschreiber(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& tabelle,
-                                 std::vector<Spalte> spalten)
-    : engine_(engine), handle_(std::move(handle)), tabelle_(tabelle), spalten_(std::move(spalten)), transaktion_(engine)
+BulkWriter::BulkWriter(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& table,
+                       std::vector<ColumnInfo> columns)
+    : engine_(engine), handle_(std::move(handle)), table_(table), columns_(std::move(columns)), transaction_(engine)
 {
-    handle_->fuehreAus(kopieranweisung(tabelle_, spalten_));
+    handle_->execute(copyStatement(table_, columns_));
 }
 
-Massenschreiber::~Massenschreiber()
+BulkWriter::~BulkWriter()
 {
-    if (!kopiert_)
+    if (!copied_)
         return;
     try {
-        handle_->beendeZeilen("abgebrochen");
-    } catch (const Laufzeitfehler&) {
+        handle_->endRows("abgebrochen");
+    } catch (const RuntimeError&) {
         // The server confirms that it gave up, or is gone.
     }
 }
 
-void Massenschreiber::zeile(std::span<const Value> werte)
+void BulkWriter::row(std::span<const Value> values)
 {
-    assert(werte.size() == spalten_.size());
-    for (std::size_t i = 0; i < werte.size(); ++i) {
-        puffer_ += i ? "\t" : "";
-        const auto* text = std::get_if<std::string>(&werte[i]);
-        if (istNull(werte[i]))
-            puffer_ += "\\N";
-        else if (text && spalten_[i].typ == FeldTyp::Text)
-            haengeZelleAn(puffer_, *text);
+    assert(values.size() == columns_.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        buffer_ += i ? "\t" : "";
+        const auto* text = std::get_if<std::string>(&values[i]);
+        if (isNull(values[i]))
+            buffer_ += "\\N";
+        else if (text && columns_[i].type == FieldType::Text)
+            appendCell(buffer_, *text);
         else
-            haengeZelleAn(puffer_, sql::parametertext(sql::speicherwert(werte[i], spalten_[i].typ)));
+            appendCell(buffer_, sql::parameterText(sql::storedValue(values[i], columns_[i].type)));
     }
-    puffer_ += '\n';
-    if (puffer_.size() > puffergroesse)
-        sende();
+    buffer_ += '\n';
+    if (buffer_.size() > bufferSize)
+        send();
 }
 
-void Massenschreiber::sende()
+void BulkWriter::send()
 {
-    handle_->sendeZeilen(puffer_);
-    puffer_.clear();
+    handle_->sendRows(buffer_);
+    buffer_.clear();
 }
 
-void Massenschreiber::beende()
+void BulkWriter::end()
 {
-    sende();
-    kopiert_ = false;
-    handle_->beendeZeilen(nullptr);
-    transaktion_.schliesseAb();
-    engine_.frischeAuf(tabelle_);
+    send();
+    copied_ = false;
+    handle_->endRows(nullptr);
+    transaction_.commit();
+    engine_.refreshAll(table_);
 }
 
 } // namespace quelvarn::postgresql

@@ -7,26 +7,26 @@
 namespace quelvarn::postgresql {
 
 // Sends rows as one COPY, in a transaction of its own. The connection can do nothing else until it has ended.
-class Massenschreiber final : public Engine::Massenschreiber
+class BulkWriter final : public Engine::BulkWriter
 {
 public:
-    Massenschreiber(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& tabelle,
-                    std::vector<Spalte> spalten);
-    ~Massenschreiber() override; // Gives the COPY up unless beende() was called.
+    BulkWriter(PostgresEngine& engine, std::shared_ptr<Handle> handle, const std::string& table,
+               std::vector<ColumnInfo> columns);
+    ~BulkWriter() override; // Gives the COPY up unless end() was called.
 
-    void zeile(std::span<const Value> werte) override;
-    void beende() override;
+    void row(std::span<const Value> values) override;
+    void end() override;
 
 private:
-    void sende();
+    void send();
 
     PostgresEngine& engine_;
     std::shared_ptr<Handle> handle_;
-    std::string tabelle_;
-    std::vector<Spalte> spalten_;
-    std::string puffer_;
-    bool kopiert_ = true;
-    Enginetransaktion transaktion_;
+    std::string table_;
+    std::vector<ColumnInfo> columns_;
+    std::string buffer_;
+    bool copied_ = true;
+    EngineTransaction transaction_;
 };
 
 } // namespace quelvarn::postgresql

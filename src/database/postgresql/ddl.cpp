@@ -9,63 +9,63 @@
 namespace quelvarn::postgresql {
 namespace {
 
-const auto bezeichner = sql::Dialekt::bezeichner;
+const auto identifier = sql::Dialect::identifier;
 
 // Texts in the plain order of bytes: their own order comes from qv_key.
-std::string_view deklaration(FeldTyp typ)
+std::string_view declaration(FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Ganzzahl:
+    switch (type) {
+    case FieldType::Integer:
         return "bigint";
-    case FeldTyp::Gleitkomma:
+    case FieldType::FloatingPoint:
         return "double precision";
-    case FeldTyp::Datum:
+    case FieldType::Date:
         return "timestamp(0)";
-    case FeldTyp::Text:
+    case FieldType::Text:
         break;
     }
     return "text COLLATE \"C\"";
 }
 
-bool istText(const Tabellenschema& tabelle, const std::string& name)
+bool isText(const TableSchema& table, const std::string& name)
 {
-    const auto spalte = std::ranges::find(tabelle.spalten, name, &Spalte::name);
-    return spalte != tabelle.spalten.end() && spalte->typ == FeldTyp::Text;
+    const auto column = std::ranges::find(table.columns, name, &ColumnInfo::name);
+    return column != table.columns.end() && column->type == FieldType::Text;
 }
 
 } // namespace
 
-std::string tabelleAnlegen(const Tabellenschema& tabelle)
+std::string createTableStatement(const TableSchema& table)
 {
-    std::string spalten = fmt::format("{} bigint GENERATED ALWAYS AS IDENTITY PRIMARY KEY", schluesselspalte);
-    for (const Spalte& spalte : tabelle.spalten)
-        spalten += fmt::format(", {} {}", bezeichner(spalte.name), deklaration(spalte.typ));
-    return fmt::format("CREATE TABLE {} ({})", bezeichner(tabelle.name), spalten);
+    std::string columns = fmt::format("{} bigint GENERATED ALWAYS AS IDENTITY PRIMARY KEY", keyColumn);
+    for (const ColumnInfo& column : table.columns)
+        columns += fmt::format(", {} {}", identifier(column.name), declaration(column.type));
+    return fmt::format("CREATE TABLE {} ({})", identifier(table.name), columns);
 }
 
-std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+std::string createIndexStatement(const TableSchema& table, const std::vector<IndexColumn>& index)
 {
-    std::vector<std::string> sortiert;
-    std::vector<std::string> mitgefuehrt{std::string(schluesselspalte)};
-    for (const IndexSpalte& spalte : index) {
-        if (spalte.lang || spalte.mitgefuehrt)
+    std::vector<std::string> sorted;
+    std::vector<std::string> carried{std::string(keyColumn)};
+    for (const IndexColumn& column : index) {
+        if (column.longText || column.carried)
             continue;
-        const std::string name = bezeichner(spalte.name);
-        const bool text = istText(tabelle, spalte.name);
-        sortiert.push_back((text ? "qv_key(" + name + ")" : name) +
-                           (spalte.absteigend ? " DESC NULLS LAST" : " ASC NULLS FIRST"));
+        const std::string name = identifier(column.name);
+        const bool text = isText(table, column.name);
+        sorted.push_back((text ? "qv_key(" + name + ")" : name) +
+                         (column.descending ? " DESC NULLS LAST" : " ASC NULLS FIRST"));
         if (text)
-            mitgefuehrt.push_back(name);
+            carried.push_back(name);
     }
     // Lists are read from an index of several columns without the table, so it holds the texts beside their keys.
-    const std::string dazu = sortiert.size() > 1 ? " INCLUDE (" + join(mitgefuehrt, ", ") + ")" : "";
-    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({}){}", bezeichner(indexname(tabelle, index)),
-                       bezeichner(tabelle.name), join(sortiert, ", "), dazu);
+    const std::string added = sorted.size() > 1 ? " INCLUDE (" + join(carried, ", ") + ")" : "";
+    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({}){}", identifier(indexName(table, index)),
+                       identifier(table.name), join(sorted, ", "), added);
 }
 
-std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+std::string indexName(const TableSchema& table, const std::vector<IndexColumn>& index)
 {
-    return fmt::format("ix_{}_{}", tabelle.name, index.front().name);
+    return fmt::format("ix_{}_{}", table.name, index.front().name);
 }
 
 } // namespace quelvarn::postgresql

@@ -8,10 +8,10 @@
 namespace quelvarn::postgresql {
 
 // The hidden key. A number is never given twice, so a deleted row's key finds no other row.
-inline constexpr std::string_view schluesselspalte = "qv_id";
+inline constexpr std::string_view keyColumn = "qv_id";
 
-std::string tabelleAnlegen(const Tabellenschema& tabelle);
-std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index);
-std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index);
+std::string createTableStatement(const TableSchema& table);
+std::string createIndexStatement(const TableSchema& table, const std::vector<IndexColumn>& index);
+std::string indexName(const TableSchema& table, const std::vector<IndexColumn>& index);
 
 } // namespace quelvarn::postgresql

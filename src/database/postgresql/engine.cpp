@@ -21,30 +21,29 @@ namespace quelvarn::postgresql {
 namespace {
 
 // Tables that are found without naming their schema.
-constexpr std::string_view sichtbareTabellen = "FROM pg_catalog.pg_class c WHERE c.relkind IN ({}) "
-                                               "AND pg_catalog.pg_table_is_visible(c.oid) "
-                                               "AND c.relnamespace <> 'pg_catalog'::regnamespace";
+constexpr std::string_view visibleTables = "FROM pg_catalog.pg_class c WHERE c.relkind IN ({}) "
+                                           "AND pg_catalog.pg_table_is_visible(c.oid) "
+                                           "AND c.relnamespace <> 'pg_catalog'::regnamespace";
 
-std::string_view zelle(const Ergebnis& ergebnis, int zeile, int spalte)
+std::string_view cell(const Result& result, int row, int column)
 {
-    return {PQgetvalue(ergebnis.get(), zeile, spalte),
-            static_cast<std::size_t>(PQgetlength(ergebnis.get(), zeile, spalte))};
+    return {PQgetvalue(result.get(), row, column), static_cast<std::size_t>(PQgetlength(result.get(), row, column))};
 }
 
 } // namespace
 
-PostgresEngine::PostgresEngine(std::string_view adresse, Patience* patience)
-    : handle_(Handle::oeffne(adresse, patience)), katalog_([this](std::string_view name) { return leseSchema(name); })
+PostgresEngine::PostgresEngine(std::string_view address, Patience* patience)
+    : handle_(Handle::open(address, patience)), catalog_([this](std::string_view name) { return readSchema(name); })
 {
-    handle_->verbundenAnders = [this] {
-        katalog_.vergiss();
-        funktionenAngelegt_ = false;
+    handle_->connectedDifferently = [this] {
+        catalog_.forget();
+        functionsCreated_ = false;
     };
 }
 
 PostgresEngine::~PostgresEngine()
 {
-    handle_->verbundenAnders = {}; // A reader may keep the connection for longer.
+    handle_->connectedDifferently = {}; // A reader may keep the connection for longer.
 }
 
 void PostgresEngine::setPatience(Patience* patience)
@@ -52,23 +51,23 @@ void PostgresEngine::setPatience(Patience* patience)
     handle_->setPatience(patience);
 }
 
-std::vector<std::string> PostgresEngine::tabellen()
+std::vector<std::string> PostgresEngine::tables()
 {
-    const Ergebnis ergebnis =
-        handle_->lies(fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(sichtbareTabellen, "'r', 'p', 'f'")));
-    std::vector<std::string> namen;
-    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
-        namen.emplace_back(zelle(ergebnis, zeile, 0));
-    return namen;
+    const Result result =
+        handle_->lies(fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(visibleTables, "'r', 'p', 'f'")));
+    std::vector<std::string> names;
+    for (int row = 0; row < PQntuples(result.get()); ++row)
+        names.emplace_back(cell(result, row, 0));
+    return names;
 }
 
-std::optional<Tabellenschema> PostgresEngine::findTabelle(std::string_view name)
+std::optional<TableSchema> PostgresEngine::findTable(std::string_view name)
 {
-    const Tabellenschema* tabelle = katalog_.find(name);
-    return tabelle ? std::optional(*tabelle) : std::nullopt;
+    const TableSchema* table = catalog_.find(name);
+    return table ? std::optional(*table) : std::nullopt;
 }
 
-std::optional<Tabellenschema> PostgresEngine::leseSchema(std::string_view name)
+std::optional<TableSchema> PostgresEngine::readSchema(std::string_view name)
 {
     const std::string sql = fmt::format("SELECT t.relname, a.attname, y.typname FROM "
                                         "(SELECT c.oid, c.relname {} AND lower(c.relname) = lower($1) "
@@ -76,152 +75,150 @@ std::optional<Tabellenschema> PostgresEngine::leseSchema(std::string_view name)
                                         "JOIN pg_catalog.pg_attribute a ON a.attrelid = t.oid "
                                         "JOIN pg_catalog.pg_type y ON y.oid = a.atttypid "
                                         "WHERE a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum",
-                                        fmt::format(sichtbareTabellen, "'r', 'p', 'f', 'v', 'm'"));
-    const Value gesucht = std::string(name);
-    const Ergebnis ergebnis = handle_->lies(sql, {&gesucht, 1});
-    if (PQntuples(ergebnis.get()) == 0)
+                                        fmt::format(visibleTables, "'r', 'p', 'f', 'v', 'm'"));
+    const Value sought = std::string(name);
+    const Result result = handle_->lies(sql, {&sought, 1});
+    if (PQntuples(result.get()) == 0)
         return std::nullopt;
-    Tabellenschema tabelle{std::string(zelle(ergebnis, 0, 0)), {}, {}};
-    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
-        if (zelle(ergebnis, zeile, 1) != schluesselspalte)
-            tabelle.spalten.push_back({std::string(zelle(ergebnis, zeile, 1)), feldTypAus(zelle(ergebnis, zeile, 2))});
-    return tabelle;
+    TableSchema table{std::string(cell(result, 0, 0)), {}, {}};
+    for (int row = 0; row < PQntuples(result.get()); ++row)
+        if (cell(result, row, 1) != keyColumn)
+            table.columns.push_back({std::string(cell(result, row, 1)), fieldTypeFrom(cell(result, row, 2))});
+    return table;
 }
 
-std::unique_ptr<Zeilenleser> PostgresEngine::lese(const sql::Select& select, MitSchluessel schluessel,
-                                                  std::size_t grenze)
+std::unique_ptr<RowReader> PostgresEngine::read(const sql::Select& select, WithKey key, std::size_t limit)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    const sql::Gerendert gerendert = sql::postgresDialekt().select(select, tabelle, schluessel, grenze);
-    return select.distinct ? leseVerschiedene(select, gerendert, grenze) : leser(gerendert, schluessel);
+    const TableSchema& table = catalog_.tableOf(select.table, name());
+    const sql::Rendered rendered = sql::postgresDialect().select(select, table, key, limit);
+    return select.distinct ? readDistinct(select, rendered, limit) : reader(rendered, key);
 }
 
-std::unique_ptr<Zeilenleser> PostgresEngine::leseVerschiedene(const sql::Select& select,
-                                                              const sql::Gerendert& gerendert, std::size_t grenze)
+std::unique_ptr<RowReader> PostgresEngine::readDistinct(const sql::Select& select, const sql::Rendered& rendered,
+                                                        std::size_t limit)
 {
     const auto lies = [&] {
-        return std::make_unique<DistinctLeser>(*leser(gerendert, MitSchluessel::Nein), select.orderBy, grenze);
+        return std::make_unique<DistinctReader>(*reader(rendered, WithKey::No), select.orderBy, limit);
     };
     try {
         return lies();
-    } catch (const DatabaseFault& fehler) { // Nobody has seen a row yet.
-        if (!handle_->darfWiederholen(fehler))
+    } catch (const DatabaseFault& fault) { // Nobody has seen a row yet.
+        if (!handle_->mayRepeat(fault))
             throw;
     }
     return lies();
 }
 
-std::unique_ptr<Zeilenleser> PostgresEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
-                                                        std::span<const Zeilenschluessel> schluessel)
+std::unique_ptr<RowReader> PostgresEngine::readRows(std::string_view table, std::span<const std::string> columns,
+                                                    std::span<const RowKey> key)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+    const TableSchema& schema = catalog_.tableOf(table, name());
     sql::Select select;
-    select.spalten.assign(spalten.begin(), spalten.end());
-    select.tabelle = schema.name;
-    sql::Gerendert gerendert = sql::postgresDialekt().select(select, schema, MitSchluessel::Ja);
-    gerendert.text += fmt::format(" WHERE {} = ANY ($1::bigint[])", schluesselspalte);
-    gerendert.parameter.emplace_back(fmt::format("{{{}}}", fmt::join(schluessel, ",")));
-    return leser(gerendert, MitSchluessel::Ja);
+    select.columns.assign(columns.begin(), columns.end());
+    select.table = schema.name;
+    sql::Rendered rendered = sql::postgresDialect().select(select, schema, WithKey::Yes);
+    rendered.text += fmt::format(" WHERE {} = ANY ($1::bigint[])", keyColumn);
+    rendered.parameter.emplace_back(fmt::format("{{{}}}", fmt::join(key, ",")));
+    return reader(rendered, WithKey::Yes);
 }
 
-std::string PostgresEngine::ausfuehrungsplan(const sql::Select& select)
+std::string PostgresEngine::executionPlan(const sql::Select& select)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    const sql::Gerendert gerendert = sql::postgresDialekt().select(select, tabelle, MitSchluessel::Nein);
-    const Ergebnis ergebnis = handle_->lies("EXPLAIN " + gerendert.text, gerendert.parameter);
+    const TableSchema& table = catalog_.tableOf(select.table, name());
+    const sql::Rendered rendered = sql::postgresDialect().select(select, table, WithKey::No);
+    const Result result = handle_->lies("EXPLAIN " + rendered.text, rendered.parameter);
     std::string plan;
-    for (int zeile = 0; zeile < PQntuples(ergebnis.get()); ++zeile)
-        plan += std::string(zelle(ergebnis, zeile, 0)) + '\n';
+    for (int row = 0; row < PQntuples(result.get()); ++row)
+        plan += std::string(cell(result, row, 0)) + '\n';
     return plan;
 }
 
-std::unique_ptr<Zeilenleser> PostgresEngine::leser(const sql::Gerendert& gerendert, MitSchluessel schluessel)
+std::unique_ptr<RowReader> PostgresEngine::reader(const sql::Rendered& rendered, WithKey key)
 {
-    return std::make_unique<Leser>(handle_, gerendert.text, gerendert.parameter, gerendert.spalten, schluessel);
+    return std::make_unique<Reader>(handle_, rendered.text, rendered.parameter, rendered.columns, key);
 }
 
-std::int64_t PostgresEngine::aendereZeilen(const sql::Gerendert& gerendert)
+std::int64_t PostgresEngine::updateRows(const sql::Rendered& rendered)
 {
-    const Ergebnis ergebnis = handle_->fuehreAus(gerendert.text, gerendert.parameter);
-    return ganzzahlAus(PQcmdTuples(ergebnis.get())).value_or(0);
+    const Result result = handle_->execute(rendered.text, rendered.parameter);
+    return integerFrom(PQcmdTuples(result.get())).value_or(0);
 }
 
-std::int64_t PostgresEngine::fuehreAus(const sql::Anweisung& anweisung)
+std::int64_t PostgresEngine::execute(const sql::Statement& statement)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(zieltabelle(anweisung), name());
-    return aendereZeilen(sql::postgresDialekt().aenderung(anweisung, tabelle));
+    const TableSchema& table = catalog_.tableOf(targetTable(statement), name());
+    return updateRows(sql::postgresDialect().change(statement, table));
 }
 
-Zeilenschluessel PostgresEngine::fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte)
+RowKey PostgresEngine::insert(std::string_view table, std::span<const sql::Assignment> values)
 {
-    const sql::Gerendert gerendert = sql::postgresDialekt().fuegeEin(katalog_.tabelleOf(tabelle, name()), werte);
-    const Ergebnis ergebnis =
-        handle_->fuehreAus(fmt::format("{} RETURNING {}", gerendert.text, schluesselspalte), gerendert.parameter);
-    return ganzzahlAus(zelle(ergebnis, 0, 0)).value_or(0);
+    const sql::Rendered rendered = sql::postgresDialect().insert(catalog_.tableOf(table, name()), values);
+    const Result result =
+        handle_->execute(fmt::format("{} RETURNING {}", rendered.text, keyColumn), rendered.parameter);
+    return integerFrom(cell(result, 0, 0)).value_or(0);
 }
 
-bool PostgresEngine::aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte)
+bool PostgresEngine::update(std::string_view table, RowKey row, std::span<const sql::Assignment> values)
 {
-    return aendereZeilen(sql::postgresDialekt().aendere(katalog_.tabelleOf(tabelle, name()), zeile, werte)) > 0;
+    return updateRows(sql::postgresDialect().update(catalog_.tableOf(table, name()), row, values)) > 0;
 }
 
-bool PostgresEngine::loesche(std::string_view tabelle, Zeilenschluessel zeile)
+bool PostgresEngine::remove(std::string_view table, RowKey row)
 {
-    return aendereZeilen(sql::postgresDialekt().loesche(katalog_.tabelleOf(tabelle, name()), zeile)) > 0;
+    return updateRows(sql::postgresDialect().remove(catalog_.tableOf(table, name()), row)) > 0;
 }
 
-void PostgresEngine::legeTabelleAn(const Tabellenschema& tabelle)
+void PostgresEngine::createTable(const TableSchema& table)
 {
-    legeFunktionenAn();
-    handle_->fuehreAus(tabelleAnlegen(tabelle));
-    katalog_.vergiss();
+    createFunctions();
+    handle_->execute(createTableStatement(table));
+    catalog_.forget();
 }
 
-void PostgresEngine::legeIndexeAn(const Tabellenschema& tabelle)
+void PostgresEngine::createIndexes(const TableSchema& table)
 {
-    legeFunktionenAn();
-    for (const auto& index : tabelle.indexe)
-        handle_->fuehreAus(indexAnlegen(tabelle, index));
-    frischeAuf(tabelle.name);
+    createFunctions();
+    for (const auto& index : table.indexes)
+        handle_->execute(createIndexStatement(table, index));
+    refreshAll(table.name);
 }
 
-std::vector<std::vector<IndexSpalte>> PostgresEngine::fehlendeIndexe(const Tabellenschema& tabelle)
+std::vector<std::vector<IndexColumn>> PostgresEngine::missingIndexes(const TableSchema& table)
 {
-    std::vector<std::vector<IndexSpalte>> fehlende;
-    for (const auto& index : tabelle.indexe) {
-        const Value name = sql::Dialekt::bezeichner(indexname(tabelle, index));
-        const Ergebnis ergebnis = handle_->lies("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
-        if (PQntuples(ergebnis.get()) == 0)
-            fehlende.push_back(index);
+    std::vector<std::vector<IndexColumn>> missing;
+    for (const auto& index : table.indexes) {
+        const Value name = sql::Dialect::identifier(indexName(table, index));
+        const Result result = handle_->lies("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
+        if (PQntuples(result.get()) == 0)
+            missing.push_back(index);
     }
-    return fehlende;
+    return missing;
 }
 
-void PostgresEngine::entferneTabelle(std::string_view name)
+void PostgresEngine::removeTable(std::string_view name)
 {
-    if (const Tabellenschema* tabelle = katalog_.find(name))
-        handle_->fuehreAus("DROP TABLE " + sql::Dialekt::bezeichner(tabelle->name));
-    katalog_.vergiss();
+    if (const TableSchema* table = catalog_.find(name))
+        handle_->execute("DROP TABLE " + sql::Dialect::identifier(table->name));
+    catalog_.forget();
 }
 
-void PostgresEngine::frischeAuf(const std::string& tabelle)
+void PostgresEngine::refreshAll(const std::string& table)
 {
-    if (!handle_->inTransaktion())
-        handle_->fuehreAus("VACUUM (ANALYZE) " + sql::Dialekt::bezeichner(tabelle));
+    if (!handle_->inTransaction())
+        handle_->execute("VACUUM (ANALYZE) " + sql::Dialect::identifier(table));
 }
 
-void PostgresEngine::legeFunktionenAn()
+void PostgresEngine::createFunctions()
 {
-    if (funktionenAngelegt_)
+    if (functionsCreated_)
         return;
-    const std::string kodierung = handle_->kodierung();
-    if (kodierung != "UTF8")
-        throw Laufzeitfehler(
-            FEHLER_ALLGEMEIN, "PostgreSQL",
-            fmt::format("Die PostgreSQL-Datenbank muss die Kodierung UTF8 haben, nicht {}.", kodierung));
-    const Ergebnis schema = handle_->lies("SELECT current_schema()");
-    handle_->fuehreAus(funktionenAnlegen(zelle(schema, 0, 0)));
-    funktionenAngelegt_ = true;
+    const std::string encoding = handle_->encoding();
+    if (encoding != "UTF8")
+        throw RuntimeError(FAULT_GENERAL, "PostgreSQL",
+                           fmt::format("Die PostgreSQL-Datenbank muss die Kodierung UTF8 haben, nicht {}.", encoding));
+    const Result schema = handle_->lies("SELECT current_schema()");
+    handle_->execute(createFunctionsStatement(cell(schema, 0, 0)));
+    functionsCreated_ = true;
 }
 
 DamageReport PostgresEngine::findDamage(std::size_t limit)
@@ -229,44 +226,44 @@ DamageReport PostgresEngine::findDamage(std::size_t limit)
     return postgresql::findDamage(*handle_, limit);
 }
 
-std::unique_ptr<Engine::Massenschreiber> PostgresEngine::massenschreiber(std::string_view tabelle,
-                                                                         std::span<const Spalte> spalten)
+std::unique_ptr<Engine::BulkWriter> PostgresEngine::bulkWriter(std::string_view table,
+                                                               std::span<const ColumnInfo> columns)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    return std::make_unique<postgresql::Massenschreiber>(*this, handle_, schema.name, spaltenOf(schema, spalten));
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    return std::make_unique<postgresql::BulkWriter>(*this, handle_, schema.name, columnsOf(schema, columns));
 }
 
 // Readers go on meanwhile. As no SELECT, it leaves what the transaction sees to the time after the waiting.
-void PostgresEngine::lockForWriting(std::string_view tabelle)
+void PostgresEngine::lockForWriting(std::string_view table)
 {
-    handle_->fuehreAus(fmt::format("LOCK TABLE {} IN SHARE ROW EXCLUSIVE MODE",
-                                   sql::Dialekt::bezeichner(katalog_.tabelleOf(tabelle, name()).name)));
+    handle_->execute(fmt::format("LOCK TABLE {} IN SHARE ROW EXCLUSIVE MODE",
+                                 sql::Dialect::identifier(catalog_.tableOf(table, name()).name)));
 }
 
-void PostgresEngine::beginne()
+void PostgresEngine::begin()
 {
-    handle_->beginne();
+    handle_->begin();
 }
 
-void PostgresEngine::schliesseAb()
+void PostgresEngine::commit()
 {
-    handle_->schliesseAb();
+    handle_->commit();
 }
 
-void PostgresEngine::nimmZurueck()
+void PostgresEngine::rollBack()
 {
-    katalog_.vergiss(); // Tables made meanwhile go as well.
-    funktionenAngelegt_ = false;
-    handle_->nimmZurueck();
+    catalog_.forget(); // Tables made meanwhile go as well.
+    functionsCreated_ = false;
+    handle_->rollBack();
 }
 
 } // namespace quelvarn::postgresql
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffnePostgres(std::string_view adresse, Patience* patience)
+std::shared_ptr<Engine> openPostgres(std::string_view address, Patience* patience)
 {
-    return std::make_shared<postgresql::PostgresEngine>(adresse, patience);
+    return std::make_shared<postgresql::PostgresEngine>(address, patience);
 }
 
 } // namespace quelvarn

@@ -4,7 +4,7 @@
 #include "database/engine.h"
 
 namespace quelvarn::sql {
-struct Gerendert;
+struct Rendered;
 }
 
 namespace quelvarn::postgresql {
@@ -16,54 +16,54 @@ class PostgresEngine final : public Engine
 {
 public:
     // `patience` may be null, and outlives the engine.
-    PostgresEngine(std::string_view adresse, Patience* patience);
+    PostgresEngine(std::string_view address, Patience* patience);
     ~PostgresEngine() override;
 
     std::string_view name() const override { return "PostgreSQL"; }
-    EngineFaehigkeiten faehigkeiten() const override { return {}; }
+    EngineCapabilities capabilities() const override { return {}; }
     void setPatience(Patience* patience) override;
 
-    std::vector<std::string> tabellen() override;
-    std::optional<Tabellenschema> findTabelle(std::string_view name) override;
+    std::vector<std::string> tables() override;
+    std::optional<TableSchema> findTable(std::string_view name) override;
 
-    std::unique_ptr<Zeilenleser> lese(const sql::Select& select, MitSchluessel schluessel, std::size_t grenze) override;
-    std::unique_ptr<Zeilenleser> leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
-                                            std::span<const Zeilenschluessel> schluessel) override;
-    std::string ausfuehrungsplan(const sql::Select& select) override;
-    std::int64_t fuehreAus(const sql::Anweisung& anweisung) override;
+    std::unique_ptr<RowReader> read(const sql::Select& select, WithKey key, std::size_t limit) override;
+    std::unique_ptr<RowReader> readRows(std::string_view table, std::span<const std::string> columns,
+                                        std::span<const RowKey> key) override;
+    std::string executionPlan(const sql::Select& select) override;
+    std::int64_t execute(const sql::Statement& statement) override;
 
-    Zeilenschluessel fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte) override;
-    bool aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte) override;
-    bool loesche(std::string_view tabelle, Zeilenschluessel zeile) override;
+    RowKey insert(std::string_view table, std::span<const sql::Assignment> values) override;
+    bool update(std::string_view table, RowKey row, std::span<const sql::Assignment> values) override;
+    bool remove(std::string_view table, RowKey row) override;
 
-    void legeTabelleAn(const Tabellenschema& tabelle) override;
-    void legeIndexeAn(const Tabellenschema& tabelle) override;
-    std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) override;
-    void entferneTabelle(std::string_view name) override;
+    void createTable(const TableSchema& table) override;
+    void createIndexes(const TableSchema& table) override;
+    std::vector<std::vector<IndexColumn>> missingIndexes(const TableSchema& table) override;
+    void removeTable(std::string_view name) override;
     DamageReport findDamage(std::size_t limit) override;
-    std::unique_ptr<Engine::Massenschreiber> massenschreiber(std::string_view tabelle,
-                                                             std::span<const Spalte> spalten) override;
+    std::unique_ptr<Engine::BulkWriter> bulkWriter(std::string_view table,
+                                                   std::span<const ColumnInfo> columns) override;
 
-    void lockForWriting(std::string_view tabelle) override;
-    void beginne() override;
-    void schliesseAb() override;
-    void nimmZurueck() override;
+    void lockForWriting(std::string_view table) override;
+    void begin() override;
+    void commit() override;
+    void rollBack() override;
 
     // Tells the planner of many new rows or a new index, without which it would not read lists from the index alone.
     // Nothing inside a transaction; the server then does it by itself later.
-    void frischeAuf(const std::string& tabelle);
+    void refreshAll(const std::string& table);
 
 private:
-    std::optional<Tabellenschema> leseSchema(std::string_view name);
-    std::unique_ptr<Zeilenleser> leser(const sql::Gerendert& gerendert, MitSchluessel schluessel);
-    std::unique_ptr<Zeilenleser> leseVerschiedene(const sql::Select& select, const sql::Gerendert& gerendert,
-                                                  std::size_t grenze);
-    std::int64_t aendereZeilen(const sql::Gerendert& gerendert);
-    void legeFunktionenAn();
+    std::optional<TableSchema> readSchema(std::string_view name);
+    std::unique_ptr<RowReader> reader(const sql::Rendered& rendered, WithKey key);
+    std::unique_ptr<RowReader> readDistinct(const sql::Select& select, const sql::Rendered& rendered,
+                                            std::size_t limit);
+    std::int64_t updateRows(const sql::Rendered& rendered);
+    void createFunctions();
 
     std::shared_ptr<Handle> handle_;
-    Tabellenkatalog katalog_;
-    bool funktionenAngelegt_ = false;
+    TableCatalog catalog_;
+    bool functionsCreated_ = false;
 };
 
 } // namespace quelvarn::postgresql

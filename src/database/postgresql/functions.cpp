@@ -15,16 +15,16 @@ namespace quelvarn::postgresql {
 namespace {
 
 // Punctuation of names and paths. The others are rare enough for translate().
-constexpr std::string_view haeufig = " -._\\:/,()+";
-constexpr std::u32string_view umlaute = U"äöüÄÖÜ";
+constexpr std::string_view frequent = " -._\\:/,()+";
+constexpr std::u32string_view umlauts = U"äöüÄÖÜ";
 
 // A string constant of the server; characters that mean something there are written by their numbers.
-std::string konstante(std::u32string_view zeichen)
+std::string constant(std::u32string_view character)
 {
     std::string text = "E'";
-    for (const char32_t z : zeichen) {
-        const bool harmlos = z > 0x7F || (z >= U'0' && z <= U'9') || (z >= U'a' && z <= U'z');
-        if (harmlos)
+    for (const char32_t z : character) {
+        const bool harmless = z > 0x7F || (z >= U'0' && z <= U'9') || (z >= U'a' && z <= U'z');
+        if (harmless)
             appendUtf8(text, z);
         else
             text += fmt::format("\\x{:02x}", static_cast<unsigned>(z));
@@ -32,95 +32,95 @@ std::string konstante(std::u32string_view zeichen)
     return text + "'";
 }
 
-std::string konstante(char32_t zeichen)
+std::string constant(char32_t character)
 {
-    return konstante(std::u32string_view(&zeichen, 1));
+    return constant(std::u32string_view(&character, 1));
 }
 
 // One character as sortKey weighs it. A blank has no key of its own, being cut, so it is asked in front of a letter.
-char32_t gewichtVon(char ascii)
+char32_t weightOf(char ascii)
 {
     return toUtf32(sortKey({std::string(1, ascii) + "x"})).front();
 }
 
-std::string ersetzt(std::string ausdruck, char32_t von, char32_t nach)
+std::string replaced(std::string expression, char32_t from, char32_t after)
 {
-    return fmt::format("replace({}, {}, {})", ausdruck, konstante(von), konstante(nach));
+    return fmt::format("replace({}, {}, {})", expression, constant(from), constant(after));
 }
 
 // The weights of a text in small letters of which all are letters, digits or frequent punctuation.
-std::string gewichteHaeufiger(std::string ausdruck)
+std::string weightsMoreFrequent(std::string expression)
 {
-    for (const char zeichen : haeufig)
-        ausdruck = ersetzt(std::move(ausdruck), static_cast<char32_t>(zeichen), gewichtVon(zeichen));
-    return ausdruck;
+    for (const char character : frequent)
+        expression = replaced(std::move(expression), static_cast<char32_t>(character), weightOf(character));
+    return expression;
 }
 
 // The same for any text in small letters.
-std::string gewichteAller(std::string_view ausdruck)
+std::string weightsAll(std::string_view expression)
 {
-    std::u32string von;
-    std::u32string nach;
-    for (char zeichen = 1; zeichen > 0; ++zeichen) {
-        const char32_t gewicht = gewichtVon(zeichen);
-        if (gewicht == static_cast<char32_t>(zeichen) || (zeichen >= 'A' && zeichen <= 'Z'))
+    std::u32string from;
+    std::u32string after;
+    for (char character = 1; character > 0; ++character) {
+        const char32_t weight = weightOf(character);
+        if (weight == static_cast<char32_t>(character) || (character >= 'A' && character <= 'Z'))
             continue;
-        von += static_cast<char32_t>(zeichen);
-        nach += gewicht;
+        from += static_cast<char32_t>(character);
+        after += weight;
     }
-    return fmt::format("translate({}, {}, {})", ausdruck, konstante(von), konstante(nach));
+    return fmt::format("translate({}, {}, {})", expression, constant(from), constant(after));
 }
 
 // A regular expression for texts of these characters alone.
-std::string nurAus(std::string_view bereiche, std::u32string_view zeichen)
+std::string onlyOf(std::string_view sections, std::u32string_view character)
 {
-    std::string klasse(bereiche);
-    for (const char32_t z : zeichen)
-        klasse += fmt::format("\\u{:04x}", static_cast<unsigned>(z));
-    return fmt::format("'^[{}]*$'", klasse);
+    std::string kind(sections);
+    for (const char32_t z : character)
+        kind += fmt::format("\\u{:04x}", static_cast<unsigned>(z));
+    return fmt::format("'^[{}]*$'", kind);
 }
 
 // The rows of the table, the umlauts first: the server finds a character the sooner, the further ahead it stands.
-struct Tabelle
+struct Table
 {
-    std::u32string zeichen;
+    std::u32string character;
     std::u32string fold;
     std::u32string basis;
-    std::u32string akzent;
+    std::u32string accent;
 };
 
-Tabelle tabelle()
+Table table()
 {
-    Tabelle ergebnis;
-    const auto haengeAn = [&](const Kollationszeichen& zeile) {
-        ergebnis.zeichen += zeile.zeichen;
-        ergebnis.fold += zeile.fold;
-        ergebnis.basis += zeile.basis;
-        ergebnis.akzent += static_cast<char32_t>(2 + zeile.akzent);
+    Table result;
+    const auto append = [&](const CollationCharacter& row) {
+        result.character += row.character;
+        result.fold += row.fold;
+        result.basis += row.basis;
+        result.accent += static_cast<char32_t>(2 + row.accent);
     };
-    for (const char32_t umlaut : umlaute)
-        haengeAn(*findKollationszeichen(umlaut));
-    for (const Kollationszeichen& zeile : kollationszeichen())
-        if (umlaute.find(zeile.zeichen) == umlaute.npos)
-            haengeAn(zeile);
-    return ergebnis;
+    for (const char32_t umlaut : umlauts)
+        append(*findCollationCharacter(umlaut));
+    for (const CollationCharacter& row : collationCharacters())
+        if (umlauts.find(row.character) == umlauts.npos)
+            append(row);
+    return result;
 }
 
 // Characters of code page 1252 that fold to themselves.
-std::u32string kleineVon1252()
+std::u32string smallOf1252()
 {
-    std::u32string zeichen;
+    std::u32string character;
     for (int byte = 0x80; byte < 0x100; ++byte)
         for (const char32_t z : toUtf32(fromWindows1252(std::string(1, static_cast<char>(byte)))))
             if (z > 0x9F && foldCase(z) == z)
-                zeichen += z;
-    return zeichen;
+                character += z;
+    return character;
 }
 
-std::string keyFunktionen(std::string_view schema, const Tabelle& t)
+std::string keyFunctions(std::string_view schema, const Table& t)
 {
-    const std::string nurHaeufige = nurAus("0-9A-Za-z", toUtf32(haeufig));
-    const std::string klein = "lower(rtrim(x, ' ') COLLATE \"C\")";
+    const std::string onlyFrequent = onlyOf("0-9A-Za-z", toUtf32(frequent));
+    const std::string small = "lower(rtrim(x, ' ') COLLATE \"C\")";
     return fmt::format(
         R"sql(
 CREATE OR REPLACE FUNCTION {0}.qv_key_walk(x text) RETURNS text
@@ -152,17 +152,17 @@ CREATE OR REPLACE FUNCTION {0}.qv_key(x text) RETURNS text LANGUAGE sql IMMUTABL
     SELECT CASE WHEN x ~ {5} THEN {8} ELSE {0}.qv_key_walk(x) END
 $qv$;
 )sql",
-        schema, klein, konstante(t.zeichen), konstante(t.basis), konstante(t.akzent), nurHaeufige,
-        gewichteHaeufiger("weights"), gewichteAller("weights"), gewichteHaeufiger(klein));
+        schema, small, constant(t.character), constant(t.basis), constant(t.accent), onlyFrequent,
+        weightsMoreFrequent("weights"), weightsAll("weights"), weightsMoreFrequent(small));
 }
 
-std::string foldFunktionen(std::string_view schema, const Tabelle& t)
+std::string foldFunctions(std::string_view schema, const Table& t)
 {
-    std::string klein = "lower(x COLLATE \"C\")";
-    std::string kleinMitUmlauten = klein;
-    for (const char32_t umlaut : umlaute)
+    std::string small = "lower(x COLLATE \"C\")";
+    std::string smallWithUmlauts = small;
+    for (const char32_t umlaut : umlauts)
         if (foldCase(umlaut) != umlaut)
-            kleinMitUmlauten = ersetzt(std::move(kleinMitUmlauten), umlaut, foldCase(umlaut));
+            smallWithUmlauts = replaced(std::move(smallWithUmlauts), umlaut, foldCase(umlaut));
     return fmt::format(
         R"sql(
 CREATE OR REPLACE FUNCTION {0}.qv_fold_walk(x text) RETURNS text
@@ -189,17 +189,17 @@ CREATE OR REPLACE FUNCTION {0}.qv_fold(x text) RETURNS text LANGUAGE sql IMMUTAB
                 ELSE {0}.qv_fold_walk(x) END
 $qv$;
 )sql",
-        schema, klein, konstante(t.zeichen), konstante(t.fold), nurAus("\\x01-\\x7f", kleineVon1252() + U"ÄÖÜ"),
-        kleinMitUmlauten);
+        schema, small, constant(t.character), constant(t.fold), onlyOf("\\x01-\\x7f", smallOf1252() + U"ÄÖÜ"),
+        smallWithUmlauts);
 }
 
 } // namespace
 
-std::string funktionenAnlegen(std::string_view schema)
+std::string createFunctionsStatement(std::string_view schema)
 {
-    const Tabelle t = tabelle();
-    const std::string name = sql::Dialekt::bezeichner(schema);
-    return keyFunktionen(name, t) + foldFunktionen(name, t);
+    const Table t = table();
+    const std::string name = sql::Dialect::identifier(schema);
+    return keyFunctions(name, t) + foldFunctions(name, t);
 }
 
 } // namespace quelvarn::postgresql

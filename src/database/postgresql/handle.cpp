@@ -9,104 +9,104 @@
 namespace quelvarn::postgresql {
 namespace {
 
-constexpr std::string_view TRANSAKTION_VERLOREN = "Die begonnenen Änderungen wurden nicht geschrieben.";
-constexpr std::string_view WIRKUNG_UNGEWISS = "Ob die Änderung noch geschrieben wurde, ist ungewiss.";
+constexpr std::string_view TRANSACTION_LOST = "Die begonnenen Änderungen wurden nicht geschrieben.";
+constexpr std::string_view EFFECT_UNCERTAIN = "Ob die Änderung noch geschrieben wurde, ist ungewiss.";
 
 } // namespace
 
-std::shared_ptr<Handle> Handle::oeffne(std::string_view adresse, Patience* patience)
+std::shared_ptr<Handle> Handle::open(std::string_view address, Patience* patience)
 {
-    std::shared_ptr<Handle> handle(new Handle(adresse, patience));
+    std::shared_ptr<Handle> handle(new Handle(address, patience));
     handle->link_.connect();
     return handle;
 }
 
-void Handle::bereite()
+void Handle::prepare()
 {
     if (link_.waiting())
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL", "Die Antwort der Datenbank steht noch aus.");
-    machFrei();
+        throw RuntimeError(FAULT_GENERAL, "PostgreSQL", "Die Antwort der Datenbank steht noch aus.");
+    makeFree();
     if (link_.alive())
         return;
     link_.drop();
-    if (transaktion_.offen())
-        link_.throwLost(TRANSAKTION_VERLOREN);
+    if (transaction_.open())
+        link_.throwLost(TRANSACTION_LOST);
     link_.connect();
-    if (verbundenAnders)
-        verbundenAnders();
+    if (connectedDifferently)
+        connectedDifferently();
 }
 
-std::string_view Handle::wennVerloren() const
+std::string_view Handle::ifLost() const
 {
-    return transaktion_.offen() ? TRANSAKTION_VERLOREN : WIRKUNG_UNGEWISS;
+    return transaction_.open() ? TRANSACTION_LOST : EFFECT_UNCERTAIN;
 }
 
-bool Handle::darfWiederholen(const DatabaseFault& fehler) const
+bool Handle::mayRepeat(const DatabaseFault& fault) const
 {
-    return fehler.kind() == FaultKind::ConnectionLost && !link_.connected() && !transaktion_.offen() &&
-           !dynamic_cast<const ServerSilent*>(&fehler);
+    return fault.kind() == FaultKind::ConnectionLost && !link_.connected() && !transaction_.open() &&
+           !dynamic_cast<const ServerSilent*>(&fault);
 }
 
-template <class Lauf> Ergebnis Handle::wiederholbar(Lauf lauf)
+template <class Run> Result Handle::repeatable(Run run)
 {
-    bereite();
+    prepare();
     try {
-        return lauf();
-    } catch (const DatabaseFault& fehler) {
-        if (!darfWiederholen(fehler))
+        return run();
+    } catch (const DatabaseFault& fault) {
+        if (!mayRepeat(fault))
             throw;
     }
-    bereite();
-    return lauf();
+    prepare();
+    return run();
 }
 
-Ergebnis Handle::lies(const std::string& sql, std::span<const Value> parameter)
+Result Handle::lies(const std::string& sql, std::span<const Value> parameter)
 {
-    return wiederholbar([&] {
-        link_.send(sql, parameter, transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+    return repeatable([&] {
+        link_.send(sql, parameter, transaction_.open() ? TRANSACTION_LOST : "");
         return link_.answer();
     });
 }
 
-Ergebnis Handle::fuehreAus(const std::string& sql)
+Result Handle::execute(const std::string& sql)
 {
-    bereite();
-    link_.send(sql, wennVerloren());
+    prepare();
+    link_.send(sql, ifLost());
     return link_.answer();
 }
 
-Ergebnis Handle::fuehreAus(const std::string& sql, std::span<const Value> parameter)
+Result Handle::execute(const std::string& sql, std::span<const Value> parameter)
 {
-    bereite();
-    link_.send(sql, parameter, wennVerloren());
+    prepare();
+    link_.send(sql, parameter, ifLost());
     return link_.answer();
 }
 
-Ergebnis Handle::starte(const std::string& sql, std::span<const Value> parameter, Leser& leser)
+Result Handle::start(const std::string& sql, std::span<const Value> parameter, Reader& reader)
 {
-    return wiederholbar([&] {
-        link_.send(sql, parameter, transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+    return repeatable([&] {
+        link_.send(sql, parameter, transaction_.open() ? TRANSACTION_LOST : "");
         link_.singleRows();
-        liest_ = &leser;
-        return naechstes();
+        reads_ = &reader;
+        return next();
     });
 }
 
-Ergebnis Handle::naechstes()
+Result Handle::next()
 {
     try {
         return link_.next();
     } catch (...) {
-        liest_ = nullptr;
+        reads_ = nullptr;
         throw;
     }
 }
 
-void Handle::meldeAb(const Leser& leser) noexcept
+void Handle::detach(const Reader& reader) noexcept
 {
-    if (liest_ != &leser)
+    if (reads_ != &reader)
         return;
-    liest_ = nullptr;
+    reads_ = nullptr;
     try {
         link_.drain();
     } catch (...) {
@@ -114,43 +114,43 @@ void Handle::meldeAb(const Leser& leser) noexcept
     }
 }
 
-void Handle::machFrei()
+void Handle::makeFree()
 {
-    if (liest_)
-        liest_->holeRest();
+    if (reads_)
+        reads_->holeRest();
 }
 
-void Handle::beginne()
+void Handle::begin()
 {
-    wiederholbar([&] {
-        link_.send(transaktion_.beginn(), transaktion_.offen() ? TRANSAKTION_VERLOREN : "");
+    repeatable([&] {
+        link_.send(transaction_.begin(), transaction_.open() ? TRANSACTION_LOST : "");
         return link_.answer();
     });
-    transaktion_.begonnen();
+    transaction_.begun();
 }
 
-void Handle::schliesseAb()
+void Handle::commit()
 {
-    bereite();
-    const bool ganz = transaktion_.abschluss() == "COMMIT";
-    link_.send(transaktion_.abschluss(), ganz ? WIRKUNG_UNGEWISS : TRANSAKTION_VERLOREN);
-    const Ergebnis ergebnis = link_.answer();
+    prepare();
+    const bool whole = transaction_.completion() == "COMMIT";
+    link_.send(transaction_.completion(), whole ? EFFECT_UNCERTAIN : TRANSACTION_LOST);
+    const Result result = link_.answer();
     // The server answers so, and with no fault, when a statement of the transaction had failed.
-    if (std::string_view(PQcmdStatus(ergebnis.get())) == "ROLLBACK")
-        throw Laufzeitfehler(FEHLER_ALLGEMEIN, "PostgreSQL",
-                             "Die Änderungen wurden zurückgenommen, weil eine von ihnen gescheitert ist.");
-    transaktion_.beendet();
+    if (std::string_view(PQcmdStatus(result.get())) == "ROLLBACK")
+        throw RuntimeError(FAULT_GENERAL, "PostgreSQL",
+                           "Die Änderungen wurden zurückgenommen, weil eine von ihnen gescheitert ist.");
+    transaction_.ended();
 }
 
-void Handle::nimmZurueck()
+void Handle::rollBack()
 {
-    const std::string ruecknahme = transaktion_.ruecknahme();
-    transaktion_.beendet();
+    const std::string rollback = transaction_.rollback();
+    transaction_.ended();
     if (!link_.connected())
         return;
     try {
-        machFrei();
-        link_.send(ruecknahme, "");
+        makeFree();
+        link_.send(rollback, "");
         link_.answer();
     } catch (const DatabaseFault&) {
         if (link_.connected())

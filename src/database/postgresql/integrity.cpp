@@ -29,22 +29,22 @@ class ServerCheck
 public:
     explicit ServerCheck(Handle& handle) : handle_(handle)
     {
-        handle_.fuehreAus("BEGIN");
+        handle_.execute("BEGIN");
         schema_ = findSchema();
         if (!schema_.empty() || !mayMake())
             return;
         try {
-            handle_.fuehreAus("CREATE EXTENSION amcheck");
+            handle_.execute("CREATE EXTENSION amcheck");
             schema_ = findSchema();
-        } catch (const Laufzeitfehler&) {
+        } catch (const RuntimeError&) {
             schema_.clear(); // The server's own reasons; a register is checked without it as well.
         }
     }
     ~ServerCheck()
     {
         try {
-            handle_.fuehreAus("ROLLBACK");
-        } catch (const Laufzeitfehler&) {
+            handle_.execute("ROLLBACK");
+        } catch (const RuntimeError&) {
             // The connection is gone, and the transaction with it.
         }
     }
@@ -71,7 +71,7 @@ private:
     bool isTrue(const std::string& expression) const { return text("SELECT " + expression) == "t"; }
     std::string text(const std::string& sql) const
     {
-        const Ergebnis result = handle_.fuehreAus(sql);
+        const Result result = handle_.execute(sql);
         return PQntuples(result.get()) > 0 ? PQgetvalue(result.get(), 0, 0) : "";
     }
     std::string findSchema() const
@@ -93,21 +93,21 @@ private:
 
     template <typename Check> void each(const char* list, DamageReport& report, std::size_t limit, const Check& check)
     {
-        const Ergebnis names = handle_.fuehreAus(list);
+        const Result names = handle_.execute(list);
         for (int row = 0; row < PQntuples(names.get()) && report.findings.size() < limit; ++row)
             one(PQgetvalue(names.get(), row, 0), check(PQgetvalue(names.get(), row, 1)), report);
     }
 
     void one(std::string_view name, const std::string& check, DamageReport& report)
     {
-        handle_.fuehreAus("SAVEPOINT qv_check");
+        handle_.execute("SAVEPOINT qv_check");
         try {
-            const Ergebnis result = handle_.fuehreAus(check);
+            const Result result = handle_.execute(check);
             for (int row = 0; row < PQntuples(result.get()); ++row)
                 if (const std::string_view finding = PQgetvalue(result.get(), row, 0); !finding.empty())
                     report.findings.push_back(fmt::format("{}: {}", name, finding));
-        } catch (const Laufzeitfehler& fault) {
-            handle_.fuehreAus("ROLLBACK TO qv_check"); // Throws when the connection is what is gone.
+        } catch (const RuntimeError& fault) {
+            handle_.execute("ROLLBACK TO qv_check"); // Throws when the connection is what is gone.
             report.findings.push_back(fmt::format("{}: {}", name, fault.what()));
         }
     }

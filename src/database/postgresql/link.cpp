@@ -18,21 +18,21 @@ namespace {
 class Parameter
 {
 public:
-    explicit Parameter(std::span<const Value> werte)
+    explicit Parameter(std::span<const Value> values)
     {
-        texte_.reserve(werte.size());
-        for (const Value& wert : werte) {
-            texte_.push_back(sql::parametertext(wert));
-            zeiger_.push_back(istNull(wert) ? nullptr : texte_.back().c_str());
+        texts_.reserve(values.size());
+        for (const Value& value : values) {
+            texts_.push_back(sql::parameterText(value));
+            pointer_.push_back(isNull(value) ? nullptr : texts_.back().c_str());
         }
     }
 
-    int anzahl() const { return static_cast<int>(zeiger_.size()); }
-    const char* const* zeiger() const { return zeiger_.data(); }
+    int count() const { return static_cast<int>(pointer_.size()); }
+    const char* const* pointer() const { return pointer_.data(); }
 
 private:
-    std::vector<std::string> texte_;
-    std::vector<const char*> zeiger_;
+    std::vector<std::string> texts_;
+    std::vector<const char*> pointer_;
 };
 
 bool isFault(const PGresult* answer)
@@ -43,9 +43,9 @@ bool isFault(const PGresult* answer)
 
 } // namespace
 
-void LoescheErgebnis::operator()(pg_result* ergebnis) const
+void DeleteResult::operator()(pg_result* result) const
 {
-    PQclear(ergebnis);
+    PQclear(result);
 }
 
 bool Link::alive()
@@ -72,7 +72,7 @@ void Link::send(const std::string& sql, std::string_view ifLost)
 void Link::send(const std::string& sql, std::span<const Value> parameters, std::string_view ifLost)
 {
     const Parameter p(parameters);
-    sent(PQsendQueryParams(connection_.get(), sql.c_str(), p.anzahl(), nullptr, p.zeiger(), nullptr, nullptr, 0),
+    sent(PQsendQueryParams(connection_.get(), sql.c_str(), p.count(), nullptr, p.pointer(), nullptr, nullptr, 0),
          ifLost);
 }
 
@@ -133,7 +133,7 @@ void Link::giveUp()
 {
     cancelInBackground(connection_.get());
     drop();
-    throw DatabaseFault(FaultKind::GivenUp, FEHLER_ALLGEMEIN, "PostgreSQL", where_, withEffect(""));
+    throw DatabaseFault(FaultKind::GivenUp, FAULT_GENERAL, "PostgreSQL", where_, withEffect(""));
 }
 
 // Long work and a server that hangs look the same on the connection. One that still greets others is at work.
@@ -146,24 +146,24 @@ void Link::checkSilence(ServerWait& wait)
     if (ping == PQPING_OK || ping == PQPING_REJECT)
         return wait.restart();
     drop();
-    throw ServerSilent(FaultKind::ConnectionLost, FEHLER_ALLGEMEIN, "PostgreSQL", where_,
+    throw ServerSilent(FaultKind::ConnectionLost, FAULT_GENERAL, "PostgreSQL", where_,
                        withEffect(fmt::format("Der Server antwortet nicht (gewartet: {} s).", seconds)));
 }
 
-Ergebnis Link::next()
+Result Link::next()
 {
     if (PQisBusy(connection_.get()))
         awaitAnswer();
-    Ergebnis piece(PQgetResult(connection_.get()));
+    Result piece(PQgetResult(connection_.get()));
     if (piece && isFault(piece.get()))
         fail(piece.get());
     return piece;
 }
 
-Ergebnis Link::answer()
+Result Link::answer()
 {
-    Ergebnis last;
-    while (Ergebnis piece = next()) {
+    Result last;
+    while (Result piece = next()) {
         last = std::move(piece);
         if (PQresultStatus(last.get()) == PGRES_COPY_IN)
             break; // The server waits for rows.
@@ -176,7 +176,7 @@ void Link::drain()
     while (connection_) {
         if (PQisBusy(connection_.get()))
             awaitAnswer();
-        const Ergebnis piece(PQgetResult(connection_.get()));
+        const Result piece(PQgetResult(connection_.get()));
         if (!piece || PQresultStatus(piece.get()) == PGRES_COPY_IN)
             return;
     }

@@ -13,11 +13,11 @@ struct pg_result;
 
 namespace quelvarn::postgresql {
 
-struct LoescheErgebnis
+struct DeleteResult
 {
-    void operator()(pg_result* ergebnis) const;
+    void operator()(pg_result* result) const;
 };
-using Ergebnis = std::unique_ptr<pg_result, LoescheErgebnis>;
+using Result = std::unique_ptr<pg_result, DeleteResult>;
 
 struct CloseConnection
 {
@@ -47,9 +47,9 @@ public:
     // The rows of what was sent come one by one.
     void singleRows();
     // The next piece of the answer; null behind the last one.
-    Ergebnis next();
+    Result next();
     // The whole answer: that of the last statement.
-    Ergebnis answer();
+    Result answer();
     void drain();
 
     // Rows of a COPY, and its end; with a reason when it is to fail.

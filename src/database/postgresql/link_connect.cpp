@@ -21,11 +21,11 @@ constexpr std::array<const char*, 8> namesInFront{
 constexpr std::array<const char*, 6> valuesInFront{defaultLimit, "Quelvarn", "15", "5", "3", "15000"};
 
 // Results come as the program reads them. Compiling plans would take longer than the register's queries.
-constexpr const char* einstellungen = "SET client_min_messages = warning;"
-                                      "SET datestyle = 'ISO, YMD';"
-                                      "SET extra_float_digits = 1;"
-                                      "SET standard_conforming_strings = on;"
-                                      "SET jit = off";
+constexpr const char* settings = "SET client_min_messages = warning;"
+                                 "SET datestyle = 'ISO, YMD';"
+                                 "SET extra_float_digits = 1;"
+                                 "SET standard_conforming_strings = on;"
+                                 "SET jit = off";
 
 PGconn* startConnection(const std::string& address)
 {
@@ -59,7 +59,7 @@ void Link::readLimit()
     for (const PQconninfoOption* o = options; o && o->keyword; ++o) {
         const std::string_view value = o->val ? o->val : "";
         if (std::string_view(o->keyword) == "connect_timeout")
-            seconds = std::max<std::int64_t>(ganzzahlAus(value).value_or(0), 0);
+            seconds = std::max<std::int64_t>(integerFrom(value).value_or(0), 0);
         if (std::string_view(o->keyword) == "host")
             hosts += std::ranges::count(value, ',');
     }
@@ -88,7 +88,7 @@ void Link::connect()
     PQsetnonblocking(connection_.get(), 1);
     PQsetNoticeProcessor(
         connection_.get(), [](void*, const char*) {}, nullptr);
-    send(einstellungen, "");
+    send(settings, "");
     answer();
 }
 
@@ -105,8 +105,8 @@ void Link::awaitConnecting(SocketEvent event)
         return;
     drop();
     if (end == WaitEnd::GivenUp)
-        throw DatabaseFault(FaultKind::GivenUp, FEHLER_ALLGEMEIN, "PostgreSQL", where_, "");
-    throw ServerSilent(FaultKind::ConnectionLost, FEHLER_ALLGEMEIN, "PostgreSQL", where_,
+        throw DatabaseFault(FaultKind::GivenUp, FAULT_GENERAL, "PostgreSQL", where_, "");
+    throw ServerSilent(FaultKind::ConnectionLost, FAULT_GENERAL, "PostgreSQL", where_,
                        fmt::format("Die Verbindung zur PostgreSQL-Datenbank kann nicht hergestellt werden.\n"
                                    "Der Server antwortet nicht (gewartet: {} s).",
                                    rules_.limit.count() / 1000));

@@ -6,102 +6,102 @@
 
 namespace quelvarn::postgresql {
 
-Leser::Leser(std::shared_ptr<Handle> handle, const std::string& sql, std::span<const Value> parameter,
-             std::vector<Spalte> spalten, MitSchluessel schluessel)
-    : handle_(std::move(handle)), spalten_(std::move(spalten)), versatz_(schluessel == MitSchluessel::Ja ? 1 : 0)
+Reader::Reader(std::shared_ptr<Handle> handle, const std::string& sql, std::span<const Value> parameter,
+               std::vector<ColumnInfo> columns, WithKey key)
+    : handle_(std::move(handle)), columns_(std::move(columns)), offset_(key == WithKey::Yes ? 1 : 0)
 {
     // A fault of the statement is told here, not at the first row.
-    if (Ergebnis erste = nimm(handle_->starte(sql, parameter, *this)))
-        rest_.push_back(std::move(erste));
+    if (Result first = take(handle_->start(sql, parameter, *this)))
+        rest_.push_back(std::move(first));
 }
 
-Leser::~Leser()
+Reader::~Reader()
 {
-    if (amServer_)
-        handle_->meldeAb(*this);
+    if (onServer_)
+        handle_->detach(*this);
 }
 
-Ergebnis Leser::holeZeile()
+Result Reader::fetchRow()
 {
     try {
-        return nimm(handle_->naechstes());
+        return take(handle_->next());
     } catch (...) {
-        amServer_ = false;
-        fehler_ = std::current_exception();
+        onServer_ = false;
+        fault_ = std::current_exception();
         throw;
     }
 }
 
 // The row, or nothing when the piece is the end of the rows.
-Ergebnis Leser::nimm(Ergebnis stueck)
+Result Reader::take(Result piece)
 {
-    if (stueck && PQresultStatus(stueck.get()) == PGRES_SINGLE_TUPLE)
-        return stueck;
-    amServer_ = false;
-    handle_->meldeAb(*this);
+    if (piece && PQresultStatus(piece.get()) == PGRES_SINGLE_TUPLE)
+        return piece;
+    onServer_ = false;
+    handle_->detach(*this);
     return nullptr;
 }
 
-bool Leser::next()
+bool Reader::next()
 {
     if (!rest_.empty()) {
-        zeile_ = std::move(rest_.front());
+        row_ = std::move(rest_.front());
         rest_.pop_front();
-    } else if (fehler_) {
-        std::rethrow_exception(fehler_);
+    } else if (fault_) {
+        std::rethrow_exception(fault_);
     } else {
-        zeile_ = amServer_ ? holeZeile() : nullptr;
+        row_ = onServer_ ? fetchRow() : nullptr;
     }
-    return zeile_ != nullptr;
+    return row_ != nullptr;
 }
 
-void Leser::holeRest() noexcept
+void Reader::holeRest() noexcept
 {
     try {
-        while (amServer_)
-            if (Ergebnis zeile = holeZeile())
-                rest_.push_back(std::move(zeile));
+        while (onServer_)
+            if (Result row = fetchRow())
+                rest_.push_back(std::move(row));
     } catch (...) {
-        amServer_ = false; // next() tells it.
+        onServer_ = false; // next() tells it.
     }
 }
 
-Zeilenschluessel Leser::schluessel() const
+RowKey Reader::key() const
 {
-    return versatz_ ? ganzzahlAus(PQgetvalue(zeile_.get(), 0, 0)).value_or(0) : 0;
+    return offset_ ? integerFrom(PQgetvalue(row_.get(), 0, 0)).value_or(0) : 0;
 }
 
-bool Leser::istNull(std::size_t spalte) const
+bool Reader::isNull(std::size_t column) const
 {
-    return PQgetisnull(zeile_.get(), 0, static_cast<int>(spalte) + versatz_);
+    return PQgetisnull(row_.get(), 0, static_cast<int>(column) + offset_);
 }
 
-std::string_view Leser::text(std::size_t spalte) const
+std::string_view Reader::text(std::size_t column) const
 {
-    const int stelle = static_cast<int>(spalte) + versatz_;
-    return {PQgetvalue(zeile_.get(), 0, stelle), static_cast<std::size_t>(PQgetlength(zeile_.get(), 0, stelle))};
+    const int position = static_cast<int>(column) + offset_;
+    return {PQgetvalue(row_.get(), 0, position), static_cast<std::size_t>(PQgetlength(row_.get(), 0, position))};
 }
 
-std::int64_t Leser::ganzzahl(std::size_t spalte) const
+std::int64_t Reader::integer(std::size_t column) const
 {
-    return ganzzahlAus(text(spalte)).value_or(0);
+    return integerFrom(text(column)).value_or(0);
 }
 
-double Leser::gleitkomma(std::size_t spalte) const
+double Reader::floatingPoint(std::size_t column) const
 {
-    return gleitkommaAus(text(spalte)).value_or(0);
+    return floatingPointFrom(text(column)).value_or(0);
 }
 
-Zeitpunkt Leser::datum(std::size_t spalte) const
+DateTime Reader::date(std::size_t column) const
 {
-    return parseIso(text(spalte)).value_or(Zeitpunkt{});
+    return parseIso(text(column)).value_or(DateTime{});
 }
 
-Value Leser::wert(std::size_t spalte) const
+Value Reader::value(std::size_t column) const
 {
-    if (istNull(spalte))
+    if (isNull(column))
         return {};
-    return ausServertext(text(spalte), spalten_[spalte].typ);
+    return fromServerText(text(column), columns_[column].type);
 }
 
 } // namespace quelvarn::postgresql

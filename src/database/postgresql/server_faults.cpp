@@ -120,7 +120,7 @@ bool endsConnection(const pg_result* answer)
 
 DatabaseFault serverFault(FaultKind kind, std::string_view sqlstate, std::string_view where, std::string_view words)
 {
-    const int number = sqlstate.starts_with(statementClass) ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN;
+    const int number = sqlstate.starts_with(statementClass) ? FAULT_STATEMENT : FAULT_GENERAL;
     if (kind == FaultKind::Other) // It has no sentence of its own.
         return {kind, number, "PostgreSQL", fmt::format("Die Datenbank meldet einen Fehler.\n{}", where), trim(words)};
     return {kind, number, "PostgreSQL", where, trim(words)};
@@ -135,7 +135,7 @@ DatabaseFault connectFault(pg_conn* connection)
         kind = FaultKind::WrongPassword;
     else if (kind == FaultKind::Other)
         kind = FaultKind::ConnectionLost;
-    return {kind, FEHLER_ALLGEMEIN, "PostgreSQL", addressOf(connection),
+    return {kind, FAULT_GENERAL, "PostgreSQL", addressOf(connection),
             fmt::format("Die Verbindung zur PostgreSQL-Datenbank kann nicht hergestellt werden.\n{}", trim(words))};
 }
 

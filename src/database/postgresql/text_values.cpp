@@ -6,57 +6,57 @@
 namespace quelvarn::postgresql {
 namespace {
 
-template <class Zahl> std::optional<Zahl> zahlAus(std::string_view text)
+template <class Number> std::optional<Number> numberFrom(std::string_view text)
 {
-    Zahl zahl{};
-    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), zahl);
-    if (fehler != std::errc() || ende != text.data() + text.size())
+    Number number{};
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (fault != std::errc() || end != text.data() + text.size())
         return std::nullopt;
-    return zahl;
+    return number;
 }
 
 } // namespace
 
-std::optional<std::int64_t> ganzzahlAus(std::string_view text)
+std::optional<std::int64_t> integerFrom(std::string_view text)
 {
-    return zahlAus<std::int64_t>(text);
+    return numberFrom<std::int64_t>(text);
 }
 
-std::optional<double> gleitkommaAus(std::string_view text)
+std::optional<double> floatingPointFrom(std::string_view text)
 {
-    return zahlAus<double>(text);
+    return numberFrom<double>(text);
 }
 
-Value ausServertext(std::string_view text, FeldTyp typ)
+Value fromServerText(std::string_view text, FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Ganzzahl:
-        if (const auto zahl = ganzzahlAus(text))
-            return *zahl;
+    switch (type) {
+    case FieldType::Integer:
+        if (const auto number = integerFrom(text))
+            return *number;
         break;
-    case FeldTyp::Gleitkomma:
-        if (const auto zahl = gleitkommaAus(text))
-            return *zahl;
+    case FieldType::FloatingPoint:
+        if (const auto number = floatingPointFrom(text))
+            return *number;
         break;
-    case FeldTyp::Datum:
-        if (const auto zeit = parseIso(text))
-            return *zeit;
+    case FieldType::Date:
+        if (const auto time = parseIso(text))
+            return *time;
         break;
-    case FeldTyp::Text:
+    case FieldType::Text:
         break;
     }
     return std::string(text);
 }
 
-FeldTyp feldTypAus(std::string_view typname)
+FieldType fieldTypeFrom(std::string_view typeName)
 {
-    if (typname == "int2" || typname == "int4" || typname == "int8")
-        return FeldTyp::Ganzzahl;
-    if (typname == "float4" || typname == "float8" || typname == "numeric")
-        return FeldTyp::Gleitkomma;
-    if (typname == "timestamp" || typname == "timestamptz" || typname == "date")
-        return FeldTyp::Datum;
-    return FeldTyp::Text;
+    if (typeName == "int2" || typeName == "int4" || typeName == "int8")
+        return FieldType::Integer;
+    if (typeName == "float4" || typeName == "float8" || typeName == "numeric")
+        return FieldType::FloatingPoint;
+    if (typeName == "timestamp" || typeName == "timestamptz" || typeName == "date")
+        return FieldType::Date;
+    return FieldType::Text;
 }
 
 } // namespace quelvarn::postgresql

@@ -9,10 +9,10 @@
 namespace quelvarn::postgresql {
 
 // What the server wrote, by the column's type; a text that does not fit it as it is.
-Value ausServertext(std::string_view text, FeldTyp typ);
-std::optional<std::int64_t> ganzzahlAus(std::string_view text);
-std::optional<double> gleitkommaAus(std::string_view text);
+Value fromServerText(std::string_view text, FieldType type);
+std::optional<std::int64_t> integerFrom(std::string_view text);
+std::optional<double> floatingPointFrom(std::string_view text);
 // The server's type name.
-FeldTyp feldTypAus(std::string_view typname);
+FieldType fieldTypeFrom(std::string_view typeName);
 
 } // namespace quelvarn::postgresql

@@ -23,11 +23,11 @@ std::string asAccessClass(const LikeToken& token)
 
 // What the program calls a pattern, as Access reads it: "#", "*" and "?" are wildcards to it in some modes, and a
 // bracket that is never closed is a fault. In brackets each stands for itself.
-std::string alsAccessMuster(std::string_view muster)
+std::string asAccessPattern(std::string_view pattern)
 {
     constexpr std::u32string_view SIGNS = U"[#*?%_";
     std::string text;
-    for (const LikeToken& token : likeTokens(toUtf32(muster), Wildcards::Sql)) {
+    for (const LikeToken& token : likeTokens(toUtf32(pattern), Wildcards::Sql)) {
         if (token.kind == LikeToken::Kind::AnyRun)
             text += '%';
         else if (token.kind == LikeToken::Kind::AnyOne)
@@ -45,50 +45,50 @@ std::string alsAccessMuster(std::string_view muster)
 // Relied on: its equality, order and DISTINCT are blind to case, Null is sorted first, LIKE through ODBC knows "%" and
 // "_". A text meets its pattern or value as a bound parameter: no literal of it can be cut or misread. Numbers and
 // dates are literals, since a placeholder has no type of its own in Access.
-class AccessDialekt : public Dialekt
+class AccessDialect : public Dialect
 {
 protected:
     std::string name(std::string_view name) const override { return accessName(name); }
-    std::string_view schluesselspalte() const override { return {}; }
-    std::string platzhalter(std::size_t, const Value&, FeldTyp) const override { return "?"; }
+    std::string_view keyColumn() const override { return {}; }
+    std::string placeholder(std::size_t, const Value&, FieldType) const override { return "?"; }
 
-    std::optional<std::string> alsLiteral(const Value& wert) const override
+    std::optional<std::string> asLiteral(const Value& value) const override
     {
-        return std::holds_alternative<std::string>(wert) ? std::nullopt : std::optional(accessLiteral(wert));
+        return std::holds_alternative<std::string>(value) ? std::nullopt : std::optional(accessLiteral(value));
     }
 
-    std::string vergleichsausdruck(const std::string& spalte) const override { return spalte; }
-    std::string vergleichstext(const std::string& text) const override { return text; }
-    Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
+    std::string comparisonExpression(const std::string& column) const override { return column; }
+    std::string comparisonText(const std::string& text) const override { return text; }
+    PatternComparison like(const std::string& expression, const std::string& pattern) const override
     {
-        return {ausdruck + " LIKE ", alsAccessMuster(muster), ""};
+        return {expression + " LIKE ", asAccessPattern(pattern), ""};
     }
-    bool engtMusterEin() const override { return false; }
-    std::string genauGleich(const std::string& ausdruck, const std::string& text) const override
+    bool narrowsPattern() const override { return false; }
+    std::string exactlyEqual(const std::string& expression, const std::string& text) const override
     {
-        return fmt::format("StrComp({}, {}, 0) = 0", ausdruck, text);
+        return fmt::format("StrComp({}, {}, 0) = 0", expression, text);
     }
     // It turns them into text by itself, in the format of the computer.
-    std::string alsText(const std::string& spalte, FeldTyp) const override { return spalte; }
-    Value datumswert(Zeitpunkt zeit) const override { return zeit; }
-    std::string sortiert(const std::string& ausdruck, bool absteigend) const override
+    std::string asText(const std::string& column, FieldType) const override { return column; }
+    Value dateValue(DateTime time) const override { return time; }
+    std::string sorted(const std::string& expression, bool descending) const override
     {
-        return ausdruck + (absteigend ? " DESC" : "");
+        return expression + (descending ? " DESC" : "");
     }
-    bool sortiertDistinct() const override { return true; }
-    bool gruppiertDistinct(const Select&) const override { return false; }
-    std::string_view niemals() const override { return "Null"; }
+    bool sortedDistinct() const override { return true; }
+    bool groupedDistinct(const Select&) const override { return false; }
+    std::string_view never() const override { return "Null"; }
     // Rows that are equal in the order come beyond the limit; the reader ends earlier.
-    std::string grenzeVorn(std::size_t grenze) const override { return fmt::format("TOP {} ", grenze); }
-    std::string grenzeHinten(std::size_t) const override { return {}; }
+    std::string limitBefore(std::size_t limit) const override { return fmt::format("TOP {} ", limit); }
+    std::string limitBehind(std::size_t) const override { return {}; }
 };
 
 } // namespace
 
-const Dialekt& accessDialekt()
+const Dialect& accessDialect()
 {
-    static const AccessDialekt dialekt;
-    return dialekt;
+    static const AccessDialect dialect;
+    return dialect;
 }
 
 } // namespace quelvarn::sql

@@ -8,87 +8,84 @@
 namespace quelvarn::sql {
 namespace {
 
-template <class Liste, class Text> std::string verbunden(const Liste& liste, std::string_view dazwischen, Text text)
+template <class List, class Text> std::string connected(const List& list, std::string_view between, Text text)
 {
-    std::vector<std::string> teile;
-    for (const auto& eintrag : liste)
-        teile.push_back(text(eintrag));
-    return join(teile, dazwischen);
+    std::vector<std::string> parts;
+    for (const auto& entry : list)
+        parts.push_back(text(entry));
+    return join(parts, between);
 }
 
 struct Literal
 {
     std::string operator()(std::monostate) const { return "Null"; }
-    std::string operator()(std::int64_t zahl) const { return fmt::format("{}", zahl); }
-    std::string operator()(double zahl) const { return fmt::format("{}", zahl); }
+    std::string operator()(std::int64_t number) const { return fmt::format("{}", number); }
+    std::string operator()(double number) const { return fmt::format("{}", number); }
     std::string operator()(const std::string& text) const { return "'" + replaceAll(text, "'", "''") + "'"; }
-    std::string operator()(Zeitpunkt zeit) const
+    std::string operator()(DateTime time) const
     {
-        const Kalenderzeit k = zeit.kalender();
-        return fmt::format("#{:02}/{:02}/{:04} {:02}:{:02}:{:02}#", k.monat, k.tag, k.jahr, k.stunde, k.minute,
-                           k.sekunde);
+        const CalendarTime k = time.calendar();
+        return fmt::format("#{:02}/{:02}/{:04} {:02}:{:02}:{:02}#", k.month, k.day, k.year, k.hour, k.minute, k.second);
     }
 };
 
-struct Bedingungstext
+struct ConditionText
 {
-    std::string operator()(const Bedingung& b) const
+    std::string operator()(const Condition& b) const
     {
-        const auto* pattern = std::get_if<std::string>(&b.wert);
-        if (pattern && (b.vergleich == Vergleich::Like || b.vergleich == Vergleich::NotLike))
-            return fmt::format("{} {} {}", accessName(b.spalte), zeichenOf(b.vergleich),
+        const auto* pattern = std::get_if<std::string>(&b.value);
+        if (pattern && (b.comparison == Comparison::Like || b.comparison == Comparison::NotLike))
+            return fmt::format("{} {} {}", accessName(b.column), characterOf(b.comparison),
                                accessLiteral(asSqlPattern(*pattern, b.wildcards)));
-        return fmt::format("{} {} {}", accessName(b.spalte), zeichenOf(b.vergleich), accessLiteral(b.wert));
+        return fmt::format("{} {} {}", accessName(b.column), characterOf(b.comparison), accessLiteral(b.value));
     }
-    std::string operator()(const IstNull& i) const
+    std::string operator()(const IsNull& i) const
     {
-        return accessName(i.spalte) + (i.verneint ? " Is Not Null" : " Is Null");
+        return accessName(i.column) + (i.negated ? " Is Not Null" : " Is Null");
     }
-    std::string operator()(const Und& und) const { return geklammert(und.teile, " And "); }
-    std::string operator()(const Oder& oder) const { return geklammert(oder.teile, " Or "); }
-    std::string operator()(const Nicht& nicht) const { return "Not " + std::visit(*this, nicht.teil->inhalt); }
+    std::string operator()(const And& both) const { return bracketed(both.parts, " And "); }
+    std::string operator()(const Or& either) const { return bracketed(either.parts, " Or "); }
+    std::string operator()(const Not& negate) const { return "Not " + std::visit(*this, negate.part->content); }
 
-    std::string geklammert(const std::vector<AusdruckZeiger>& teile, std::string_view wort) const
+    std::string bracketed(const std::vector<ExpressionPointer>& parts, std::string_view word) const
     {
-        return "(" + verbunden(teile, wort, [&](const auto& teil) { return std::visit(*this, teil->inhalt); }) + ")";
+        return "(" + connected(parts, word, [&](const auto& part) { return std::visit(*this, part->content); }) + ")";
     }
 };
 
-std::string where(const AusdruckZeiger& bedingung)
+std::string where(const ExpressionPointer& condition)
 {
-    return bedingung ? " Where " + alsAccessText(*bedingung) : "";
+    return condition ? " Where " + asAccessText(*condition) : "";
 }
 
-struct Anweisungstext
+struct StatementText
 {
     std::string operator()(const Select& select) const
     {
-        const std::string spalten = select.anzahl            ? "Count(*)"
-                                    : select.spalten.empty() ? "*"
-                                                             : verbunden(select.spalten, ", ", accessName);
-        const std::string sortiert = verbunden(select.orderBy, ", ", [](const Sortierung& s) {
-            return accessName(s.spalte) + (s.absteigend ? " Desc" : "");
-        });
-        return fmt::format("Select {}{} From {}{}{}{}", select.distinct ? "Distinct " : "", spalten,
-                           accessName(select.tabelle), where(select.where), sortiert.empty() ? "" : " Order By ",
-                           sortiert);
+        const std::string columns = select.count             ? "Count(*)"
+                                    : select.columns.empty() ? "*"
+                                                             : connected(select.columns, ", ", accessName);
+        const std::string sorted = connected(
+            select.orderBy, ", ", [](const Sort& s) { return accessName(s.column) + (s.descending ? " Desc" : ""); });
+        return fmt::format("Select {}{} From {}{}{}{}", select.distinct ? "Distinct " : "", columns,
+                           accessName(select.table), where(select.where), sorted.empty() ? "" : " Order By ", sorted);
     }
     std::string operator()(const Insert& insert) const
     {
-        return fmt::format("Insert Into {} ({}) Values ({})", accessName(insert.tabelle),
-                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return accessName(z.spalte); }),
-                           verbunden(insert.werte, ", ", [](const Zuweisung& z) { return accessLiteral(z.wert); }));
+        return fmt::format("Insert Into {} ({}) Values ({})", accessName(insert.table),
+                           connected(insert.values, ", ", [](const Assignment& z) { return accessName(z.column); }),
+                           connected(insert.values, ", ", [](const Assignment& z) { return accessLiteral(z.value); }));
     }
     std::string operator()(const Update& update) const
     {
-        const std::string werte = verbunden(update.werte, ", ", [](const Zuweisung& z) {
-            return fmt::format("{} = {}", accessName(z.spalte), accessLiteral(z.wert));
+        const std::string values = connected(update.values, ", ", [](const Assignment& z) {
+            return fmt::format("{} = {}", accessName(z.column), accessLiteral(z.value));
         });
-        return fmt::format("Update {} Set {}{}", accessName(update.tabelle), werte, where(update.where));
+        return fmt::format("Update {} Set {}{}", accessName(update.table), values, where(update.where));
     }
-    std::string operator()(const Delete& loeschen) const
+    std::string operator()(const Delete& remove) const
     {
-        return fmt::format("Delete From {}{}", accessName(loeschen.tabelle), where(loeschen.where));
+        return fmt::format("Delete From {}{}", accessName(remove.table), where(remove.where));
     }
 };
 
@@ -99,19 +96,19 @@ std::string accessName(std::string_view name)
     return fmt::format("[{}]", name);
 }
 
-std::string accessLiteral(const Value& wert)
+std::string accessLiteral(const Value& value)
 {
-    return std::visit(Literal{}, wert);
+    return std::visit(Literal{}, value);
 }
 
-std::string alsAccessText(const Anweisung& anweisung)
+std::string asAccessText(const Statement& statement)
 {
-    return std::visit(Anweisungstext{}, anweisung);
+    return std::visit(StatementText{}, statement);
 }
 
-std::string alsAccessText(const Ausdruck& bedingung)
+std::string asAccessText(const Expression& condition)
 {
-    return std::visit(Bedingungstext{}, bedingung.inhalt);
+    return std::visit(ConditionText{}, condition.content);
 }
 
 } // namespace quelvarn::sql

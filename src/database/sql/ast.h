@@ -11,77 +11,77 @@
 // A statement of the program's SQL dialect (that of Access), or a recordset filter, as a tree.
 namespace quelvarn::sql {
 
-enum class Vergleich { Gleich, Ungleich, Kleiner, KleinerGleich, Groesser, GroesserGleich, Like, NotLike };
+enum class Comparison { Equal, Unequal, Less, LessEqual, Greater, GreaterEqual, Like, NotLike };
 
-struct Ausdruck;
-using AusdruckZeiger = std::unique_ptr<Ausdruck>;
+struct Expression;
+using ExpressionPointer = std::unique_ptr<Expression>;
 
 // column op literal. Literals: text, number, date; Null only behind Is [Not] Null.
-struct Bedingung
+struct Condition
 {
-    std::string spalte;
-    Vergleich vergleich = Vergleich::Gleich;
-    Value wert;
+    std::string column;
+    Comparison comparison = Comparison::Equal;
+    Value value;
     Wildcards wildcards = Wildcards::Sql; // Of a LIKE: how its text is read.
 };
-struct IstNull
+struct IsNull
 {
-    std::string spalte;
-    bool verneint = false;
+    std::string column;
+    bool negated = false;
 };
-struct Und
+struct And
 {
-    std::vector<AusdruckZeiger> teile;
+    std::vector<ExpressionPointer> parts;
 };
-struct Oder
+struct Or
 {
-    std::vector<AusdruckZeiger> teile;
+    std::vector<ExpressionPointer> parts;
 };
-struct Nicht
+struct Not
 {
-    AusdruckZeiger teil;
+    ExpressionPointer part;
 };
-struct Ausdruck
+struct Expression
 {
-    std::variant<Bedingung, IstNull, Und, Oder, Nicht> inhalt;
+    std::variant<Condition, IsNull, And, Or, Not> content;
 };
 
-struct Sortierung
+struct Sort
 {
-    std::string spalte;
-    bool absteigend = false;
+    std::string column;
+    bool descending = false;
 };
 
 struct Select
 {
     bool distinct = false;
-    bool anzahl = false;              // Select Count(*)
-    std::vector<std::string> spalten; // Empty: all (*).
-    std::string tabelle;
-    AusdruckZeiger where; // May be null.
-    std::vector<Sortierung> orderBy;
+    bool count = false;               // Select Count(*)
+    std::vector<std::string> columns; // Empty: all (*).
+    std::string table;
+    ExpressionPointer where; // May be null.
+    std::vector<Sort> orderBy;
 };
-struct Zuweisung
+struct Assignment
 {
-    std::string spalte;
-    Value wert;
+    std::string column;
+    Value value;
 };
 struct Insert
 {
-    std::string tabelle;
-    std::vector<Zuweisung> werte;
+    std::string table;
+    std::vector<Assignment> values;
 };
 struct Update
 {
-    std::string tabelle;
-    std::vector<Zuweisung> werte;
-    AusdruckZeiger where;
+    std::string table;
+    std::vector<Assignment> values;
+    ExpressionPointer where;
 };
 struct Delete
 {
-    std::string tabelle;
-    AusdruckZeiger where;
+    std::string table;
+    ExpressionPointer where;
 };
-using Anweisung = std::variant<Select, Insert, Update, Delete>;
+using Statement = std::variant<Select, Insert, Update, Delete>;
 
 } // namespace quelvarn::sql

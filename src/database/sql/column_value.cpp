@@ -11,71 +11,71 @@ namespace quelvarn::sql {
 namespace {
 
 // As an integer where it is one: an index of an integer column serves no fractions.
-Value schlicht(double zahl)
+Value plain(double number)
 {
-    constexpr double genauBis = 9007199254740992.0; // 2^53
-    if (zahl == std::trunc(zahl) && std::abs(zahl) <= genauBis)
-        return static_cast<std::int64_t>(zahl);
-    return zahl;
+    constexpr double exactlyUntil = 9007199254740992.0; // 2^53
+    if (number == std::trunc(number) && std::abs(number) <= exactlyUntil)
+        return static_cast<std::int64_t>(number);
+    return number;
 }
 
-std::optional<Value> findZahl(const Value& wert)
+std::optional<Value> findNumber(const Value& value)
 {
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return schlicht(*zahl);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return schlicht(zeit->alsTage());
-    if (const auto* text = std::get_if<std::string>(&wert)) {
-        const auto zahl = parseZahl(*text);
-        return zahl ? std::optional(schlicht(*zahl)) : std::nullopt;
+    if (const auto* number = std::get_if<double>(&value))
+        return plain(*number);
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return plain(time->asDays());
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        const auto number = parseNumber(*text);
+        return number ? std::optional(plain(*number)) : std::nullopt;
     }
-    return wert;
+    return value;
 }
 
-std::optional<Value> findDatum(const Value& wert)
+std::optional<Value> findDate(const Value& value)
 {
-    if (const auto* text = std::get_if<std::string>(&wert)) {
-        const auto deutsch = parseDatum(*text);
-        const auto zeit = deutsch ? deutsch : parseIso(*text);
-        return zeit ? std::optional<Value>(*zeit) : std::nullopt;
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        const auto german = parseDate(*text);
+        const auto time = german ? german : parseIso(*text);
+        return time ? std::optional<Value>(*time) : std::nullopt;
     }
-    if (std::holds_alternative<Zeitpunkt>(wert))
-        return wert;
-    return Zeitpunkt::ausTagen(alsZahl(wert));
+    if (std::holds_alternative<DateTime>(value))
+        return value;
+    return DateTime::fromDays(asNumber(value));
 }
 
 } // namespace
 
-std::optional<Value> vergleichswert(const Value& literal, FeldTyp typ)
+std::optional<Value> comparisonValue(const Value& literal, FieldType type)
 {
-    if (typ == FeldTyp::Text)
-        return alsText(literal);
-    return typ == FeldTyp::Datum ? findDatum(literal) : findZahl(literal);
+    if (type == FieldType::Text)
+        return asText(literal);
+    return type == FieldType::Date ? findDate(literal) : findNumber(literal);
 }
 
-Value speicherwert(const Value& wert, FeldTyp typ)
+Value storedValue(const Value& value, FieldType type)
 {
-    if (istNull(wert))
-        return wert;
-    const auto passend = vergleichswert(wert, typ);
-    if (!passend)
-        throw Laufzeitfehler(FEHLER_DATENTYP, "Datenbank",
-                             "Datentypenkonflikt: '" + alsText(wert) + "' passt nicht zum Datentyp des Feldes.");
-    if (typ == FeldTyp::Ganzzahl)
-        return alsGanzzahl(*passend);
-    return typ == FeldTyp::Gleitkomma ? Value(alsZahl(*passend)) : *passend;
+    if (isNull(value))
+        return value;
+    const auto fitting = comparisonValue(value, type);
+    if (!fitting)
+        throw RuntimeError(FAULT_DATA_TYPE, "Datenbank",
+                           "Datentypenkonflikt: '" + asText(value) + "' passt nicht zum Datentyp des Feldes.");
+    if (type == FieldType::Integer)
+        return asInteger(*fitting);
+    return type == FieldType::FloatingPoint ? Value(asNumber(*fitting)) : *fitting;
 }
 
-std::string parametertext(const Value& wert)
+std::string parameterText(const Value& value)
 {
-    if (const auto* text = std::get_if<std::string>(&wert))
+    if (const auto* text = std::get_if<std::string>(&value))
         return *text;
-    if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        return fmt::to_string(*ganz);
-    if (const auto* zahl = std::get_if<double>(&wert))
-        return fmt::to_string(*zahl);
-    if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        return formatIso(*zeit);
+    if (const auto* whole = std::get_if<std::int64_t>(&value))
+        return fmt::to_string(*whole);
+    if (const auto* number = std::get_if<double>(&value))
+        return fmt::to_string(*number);
+    if (const auto* time = std::get_if<DateTime>(&value))
+        return formatIso(*time);
     return {};
 }
 

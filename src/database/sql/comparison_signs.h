@@ -7,27 +7,27 @@
 
 namespace quelvarn::sql {
 
-struct Vergleichszeichen
+struct ComparisonSign
 {
     std::string_view text;
-    Vergleich vergleich;
+    Comparison comparison;
 };
 
 // As Access and the engines alike write them; the longer ones first, for reading.
-inline constexpr std::array<Vergleichszeichen, 6> VERGLEICHSZEICHEN{{{"<>", Vergleich::Ungleich},
-                                                                     {"<=", Vergleich::KleinerGleich},
-                                                                     {">=", Vergleich::GroesserGleich},
-                                                                     {"=", Vergleich::Gleich},
-                                                                     {"<", Vergleich::Kleiner},
-                                                                     {">", Vergleich::Groesser}}};
+inline constexpr std::array<ComparisonSign, 6> COMPARISON_SIGN{{{"<>", Comparison::Unequal},
+                                                                {"<=", Comparison::LessEqual},
+                                                                {">=", Comparison::GreaterEqual},
+                                                                {"=", Comparison::Equal},
+                                                                {"<", Comparison::Less},
+                                                                {">", Comparison::Greater}}};
 
-constexpr std::string_view zeichenOf(Vergleich vergleich)
+constexpr std::string_view characterOf(Comparison comparison)
 {
-    for (const Vergleichszeichen& zeichen : VERGLEICHSZEICHEN) {
-        if (zeichen.vergleich == vergleich)
-            return zeichen.text;
+    for (const ComparisonSign& character : COMPARISON_SIGN) {
+        if (character.comparison == comparison)
+            return character.text;
     }
-    return vergleich == Vergleich::Like ? "Like" : "Not Like";
+    return comparison == Comparison::Like ? "Like" : "Not Like";
 }
 
 } // namespace quelvarn::sql

@@ -8,133 +8,132 @@ namespace quelvarn::sql {
 namespace {
 
 // Brackets and NOTs within one another. Keeps a hostile text from using up the stack.
-constexpr int GROESSTE_TIEFE = 200;
+constexpr int GREATEST_DEPTH = 200;
 
-template <class T> AusdruckZeiger ausdruck(T inhalt)
+template <class T> ExpressionPointer expression(T content)
 {
-    return std::make_unique<Ausdruck>(Ausdruck{std::move(inhalt)});
+    return std::make_unique<Expression>(Expression{std::move(content)});
 }
 
-AusdruckZeiger vergleiche(const std::string& spalte, Vergleich vergleich, Value wert)
+ExpressionPointer compare(const std::string& column, Comparison comparison, Value value)
 {
-    return ausdruck(Bedingung{spalte, vergleich, std::move(wert)});
+    return expression(Condition{column, comparison, std::move(value)});
 }
 
-template <class T> AusdruckZeiger verbunden(T verbindung)
+template <class T> ExpressionPointer connected(T connection)
 {
-    if (verbindung.teile.size() == 1)
-        return std::move(verbindung.teile.front());
-    return ausdruck(std::move(verbindung));
+    if (connection.parts.size() == 1)
+        return std::move(connection.parts.front());
+    return expression(std::move(connection));
 }
 
 } // namespace
 
-AusdruckZeiger Bedingungsparser::lies()
+ExpressionPointer ConditionParser::lies()
 {
-    return oder();
+    return either();
 }
 
-AusdruckZeiger Bedingungsparser::oder()
+ExpressionPointer ConditionParser::either()
 {
-    Oder verbindung;
+    Or connection;
     do {
-        verbindung.teile.push_back(und());
-    } while (leser_.nimmWort("OR"));
-    return verbunden(std::move(verbindung));
+        connection.parts.push_back(both());
+    } while (reader_.takeWord("OR"));
+    return connected(std::move(connection));
 }
 
-AusdruckZeiger Bedingungsparser::und()
+ExpressionPointer ConditionParser::both()
 {
-    Und verbindung;
+    And connection;
     do {
-        verbindung.teile.push_back(nicht());
-    } while (leser_.nimmWort("AND"));
-    return verbunden(std::move(verbindung));
+        connection.parts.push_back(negate());
+    } while (reader_.takeWord("AND"));
+    return connected(std::move(connection));
 }
 
-AusdruckZeiger Bedingungsparser::nicht()
+ExpressionPointer ConditionParser::negate()
 {
-    if (++tiefe_ > GROESSTE_TIEFE)
-        leser_.syntaxfehler();
-    AusdruckZeiger gelesen;
-    if (leser_.nimmWort("NOT"))
-        gelesen = ausdruck(Nicht{nicht()});
+    if (++depth_ > GREATEST_DEPTH)
+        reader_.syntaxFault();
+    ExpressionPointer read;
+    if (reader_.takeWord("NOT"))
+        read = expression(Not{negate()});
     else
-        gelesen = leser_.vorschau() == '(' ? klammer() : vergleich();
-    --tiefe_;
-    return gelesen;
+        read = reader_.preview() == '(' ? bracket() : comparison();
+    --depth_;
+    return read;
 }
 
-AusdruckZeiger Bedingungsparser::klammer()
+ExpressionPointer ConditionParser::bracket()
 {
-    leser_.verlangeZeichen("(");
-    ++klammern_;
-    AusdruckZeiger inhalt = oder();
-    --klammern_;
-    leser_.verlangeZeichen(")");
-    return inhalt;
+    reader_.requireCharacter("(");
+    ++brackets_;
+    ExpressionPointer content = either();
+    --brackets_;
+    reader_.requireCharacter(")");
+    return content;
 }
 
-AusdruckZeiger Bedingungsparser::vergleich()
+ExpressionPointer ConditionParser::comparison()
 {
-    Spaltenname name = leser_.verlangeSpalte();
-    if (!name.tabelle.empty())
-        tabellen_.push_back(std::move(name.tabelle));
-    for (const Vergleichszeichen& zeichen : VERGLEICHSZEICHEN) {
-        if (leser_.nimmZeichen(zeichen.text))
-            return vergleiche(name.spalte, zeichen.vergleich, literal());
+    ColumnName name = reader_.requireColumn();
+    if (!name.table.empty())
+        tables_.push_back(std::move(name.table));
+    for (const ComparisonSign& character : COMPARISON_SIGN) {
+        if (reader_.takeCharacter(character.text))
+            return compare(name.column, character.comparison, literal());
     }
-    return vergleichMitWort(name.spalte);
+    return comparisonWithWord(name.column);
 }
 
-AusdruckZeiger Bedingungsparser::vergleichMitWort(const std::string& spalte)
+ExpressionPointer ConditionParser::comparisonWithWord(const std::string& column)
 {
-    if (leser_.nimmWort("IS")) {
-        const bool verneint = leser_.nimmWort("NOT");
-        leser_.verlangeWort("NULL");
-        return ausdruck(IstNull{spalte, verneint});
+    if (reader_.takeWord("IS")) {
+        const bool negated = reader_.takeWord("NOT");
+        reader_.requireWord("NULL");
+        return expression(IsNull{column, negated});
     }
-    const bool verneint = leser_.nimmWort("NOT");
-    if (leser_.nimmWort("LIKE"))
-        return muster(spalte, verneint ? Vergleich::NotLike : Vergleich::Like);
-    AusdruckZeiger gelesen;
-    if (leser_.nimmWort("IN"))
-        gelesen = liste(spalte);
-    else if (leser_.nimmWort("BETWEEN"))
-        gelesen = bereich(spalte);
+    const bool negated = reader_.takeWord("NOT");
+    if (reader_.takeWord("LIKE"))
+        return pattern(column, negated ? Comparison::NotLike : Comparison::Like);
+    ExpressionPointer read;
+    if (reader_.takeWord("IN"))
+        read = list(column);
+    else if (reader_.takeWord("BETWEEN"))
+        read = section(column);
     else
-        leser_.syntaxfehler();
-    return verneint ? ausdruck(Nicht{std::move(gelesen)}) : std::move(gelesen);
+        reader_.syntaxFault();
+    return negated ? expression(Not{std::move(read)}) : std::move(read);
 }
 
-AusdruckZeiger Bedingungsparser::muster(const std::string& spalte, Vergleich vergleich)
+ExpressionPointer ConditionParser::pattern(const std::string& column, Comparison comparison)
 {
-    const std::size_t anfang = leser_.position();
-    Value wert = literal();
-    if (!std::holds_alternative<std::string>(wert))
-        leser_.syntaxfehler(anfang);
-    return ausdruck(Bedingung{spalte, vergleich, std::move(wert), wildcards_});
+    const std::size_t begin = reader_.position();
+    Value value = literal();
+    if (!std::holds_alternative<std::string>(value))
+        reader_.syntaxFault(begin);
+    return expression(Condition{column, comparison, std::move(value), wildcards_});
 }
 
-AusdruckZeiger Bedingungsparser::liste(const std::string& spalte)
+ExpressionPointer ConditionParser::list(const std::string& column)
 {
-    Oder werte;
-    leser_.verlangeZeichen("(");
+    Or values;
+    reader_.requireCharacter("(");
     do {
-        werte.teile.push_back(vergleiche(spalte, Vergleich::Gleich, literale_.lies(Stelle::Liste, klammern_)));
-    } while (leser_.nimmZeichen(","));
-    leser_.verlangeZeichen(")");
-    return verbunden(std::move(werte));
+        values.parts.push_back(compare(column, Comparison::Equal, literals_.lies(Place::List, brackets_)));
+    } while (reader_.takeCharacter(","));
+    reader_.requireCharacter(")");
+    return connected(std::move(values));
 }
 
-AusdruckZeiger Bedingungsparser::bereich(const std::string& spalte)
+ExpressionPointer ConditionParser::section(const std::string& column)
 {
-    Und grenzen;
-    grenzen.teile.push_back(
-        vergleiche(spalte, Vergleich::GroesserGleich, literale_.lies(Stelle::ErsteGrenze, klammern_)));
-    leser_.verlangeWort("AND");
-    grenzen.teile.push_back(vergleiche(spalte, Vergleich::KleinerGleich, literal()));
-    return ausdruck(std::move(grenzen));
+    And bounds;
+    bounds.parts.push_back(compare(column, Comparison::GreaterEqual, literals_.lies(Place::FirstLimit, brackets_)));
+    reader_.requireWord("AND");
+    bounds.parts.push_back(compare(column, Comparison::LessEqual, literal()));
+    return expression(std::move(bounds));
 }
 
 } // namespace quelvarn::sql

@@ -9,37 +9,37 @@
 namespace quelvarn::sql {
 
 // Reads a condition: OR binds least, then AND, then NOT.
-class Bedingungsparser
+class ConditionParser
 {
 public:
-    // `stelle` is Filterbedingung or Bedingung.
-    Bedingungsparser(Leser& leser, Literalleser& literale, Stelle stelle, Wildcards wildcards = Wildcards::Sql)
-        : leser_(leser), literale_(literale), stelle_(stelle), wildcards_(wildcards)
+    // `position` is FilterCondition or Condition.
+    ConditionParser(Reader& reader, LiteralReader& literals, Place position, Wildcards wildcards = Wildcards::Sql)
+        : reader_(reader), literals_(literals), position_(position), wildcards_(wildcards)
     {}
 
-    AusdruckZeiger lies();
+    ExpressionPointer lies();
     // The tables that stood in front of columns.
-    const std::vector<std::string>& tabellen() const { return tabellen_; }
+    const std::vector<std::string>& tables() const { return tables_; }
 
 private:
-    AusdruckZeiger oder();
-    AusdruckZeiger und();
-    AusdruckZeiger nicht();
-    AusdruckZeiger klammer();
-    AusdruckZeiger vergleich();
-    AusdruckZeiger vergleichMitWort(const std::string& spalte);
-    AusdruckZeiger liste(const std::string& spalte);
-    AusdruckZeiger bereich(const std::string& spalte);
-    AusdruckZeiger muster(const std::string& spalte, Vergleich vergleich);
-    Value literal() { return literale_.lies(stelle_, klammern_); }
+    ExpressionPointer either();
+    ExpressionPointer both();
+    ExpressionPointer negate();
+    ExpressionPointer bracket();
+    ExpressionPointer comparison();
+    ExpressionPointer comparisonWithWord(const std::string& column);
+    ExpressionPointer list(const std::string& column);
+    ExpressionPointer section(const std::string& column);
+    ExpressionPointer pattern(const std::string& column, Comparison comparison);
+    Value literal() { return literals_.lies(position_, brackets_); }
 
-    Leser& leser_;
-    Literalleser& literale_;
-    Stelle stelle_;
+    Reader& reader_;
+    LiteralReader& literals_;
+    Place position_;
     Wildcards wildcards_;
-    int klammern_ = 0;
-    int tiefe_ = 0;
-    std::vector<std::string> tabellen_;
+    int brackets_ = 0;
+    int depth_ = 0;
+    std::vector<std::string> tables_;
 };
 
 } // namespace quelvarn::sql

@@ -13,14 +13,14 @@ namespace {
 
 constexpr std::size_t CHUNK = 100;
 
-template <class Node> AusdruckZeiger expression(Node node)
+template <class Node> ExpressionPointer expression(Node node)
 {
-    auto made = std::make_unique<Ausdruck>();
-    made->inhalt = std::move(node);
+    auto made = std::make_unique<Expression>();
+    made->content = std::move(node);
     return made;
 }
 
-template <class Node> AusdruckZeiger joined(std::vector<AusdruckZeiger> parts)
+template <class Node> ExpressionPointer joined(std::vector<ExpressionPointer> parts)
 {
     if (parts.size() == 1)
         return std::move(parts.front());
@@ -29,41 +29,41 @@ template <class Node> AusdruckZeiger joined(std::vector<AusdruckZeiger> parts)
 
 } // namespace
 
-AusdruckZeiger compare(std::string_view column, Vergleich comparison, std::string_view value)
+ExpressionPointer compare(std::string_view column, Comparison comparison, std::string_view value)
 {
-    return expression(Bedingung{std::string(column), comparison, std::string(value)});
+    return expression(Condition{std::string(column), comparison, std::string(value)});
 }
 
-AusdruckZeiger like(std::string_view column, std::string_view pattern, Wildcards wildcards)
+ExpressionPointer like(std::string_view column, std::string_view pattern, Wildcards wildcards)
 {
-    return expression(Bedingung{std::string(column), Vergleich::Like, std::string(pattern), wildcards});
+    return expression(Condition{std::string(column), Comparison::Like, std::string(pattern), wildcards});
 }
 
-AusdruckZeiger equal(std::string_view column, std::string_view value)
+ExpressionPointer equal(std::string_view column, std::string_view value)
 {
-    return compare(column, Vergleich::Gleich, value);
+    return compare(column, Comparison::Equal, value);
 }
 
-AusdruckZeiger equal(std::string_view column, std::int64_t value)
+ExpressionPointer equal(std::string_view column, std::int64_t value)
 {
-    return expression(Bedingung{std::string(column), Vergleich::Gleich, value});
+    return expression(Condition{std::string(column), Comparison::Equal, value});
 }
 
-AusdruckZeiger all(std::vector<AusdruckZeiger> parts)
+ExpressionPointer all(std::vector<ExpressionPointer> parts)
 {
     std::erase(parts, nullptr);
-    return parts.empty() ? nullptr : joined<Und>(std::move(parts));
+    return parts.empty() ? nullptr : joined<And>(std::move(parts));
 }
 
-AusdruckZeiger any(std::vector<AusdruckZeiger> parts)
+ExpressionPointer any(std::vector<ExpressionPointer> parts)
 {
     assert(!parts.empty() && std::find(parts.begin(), parts.end(), nullptr) == parts.end());
-    return joined<Oder>(std::move(parts));
+    return joined<Or>(std::move(parts));
 }
 
-std::vector<AusdruckZeiger> chunks(std::vector<AusdruckZeiger> parts)
+std::vector<ExpressionPointer> chunks(std::vector<ExpressionPointer> parts)
 {
-    std::vector<AusdruckZeiger> conditions;
+    std::vector<ExpressionPointer> conditions;
     for (auto first = parts.begin(); first != parts.end();) {
         const auto behind = first + std::min<std::ptrdiff_t>(CHUNK, parts.end() - first);
         conditions.push_back(any({std::make_move_iterator(first), std::make_move_iterator(behind)}));
@@ -72,16 +72,16 @@ std::vector<AusdruckZeiger> chunks(std::vector<AusdruckZeiger> parts)
     return conditions;
 }
 
-AusdruckZeiger statusScope(std::string_view WhereStatus)
+ExpressionPointer statusScope(std::string_view WhereStatus)
 {
     // The table is not asked.
-    Anweisung statement = parseAnweisung("SELECT Status FROM Tabelle" + std::string(WhereStatus));
+    Statement statement = parseStatement("SELECT Status FROM Tabelle" + std::string(WhereStatus));
     return std::move(std::get<Select>(statement).where);
 }
 
 Query Query::columns(std::initializer_list<std::string_view> names) &&
 {
-    select_.spalten.assign(names.begin(), names.end());
+    select_.columns.assign(names.begin(), names.end());
     return std::move(*this);
 }
 
@@ -91,7 +91,7 @@ Query Query::distinct() &&
     return std::move(*this);
 }
 
-Query Query::where(AusdruckZeiger condition) &&
+Query Query::where(ExpressionPointer condition) &&
 {
     select_.where = std::move(condition);
     return std::move(*this);

@@ -14,38 +14,38 @@
 // it stays a value. Texts of statements are taken as literals alone (FixedText).
 namespace quelvarn::sql {
 
-AusdruckZeiger compare(std::string_view column, Vergleich comparison, std::string_view value);
-AusdruckZeiger like(std::string_view column, std::string_view pattern, Wildcards wildcards);
-AusdruckZeiger equal(std::string_view column, std::string_view value);
-AusdruckZeiger equal(std::string_view column, std::int64_t value);
+ExpressionPointer compare(std::string_view column, Comparison comparison, std::string_view value);
+ExpressionPointer like(std::string_view column, std::string_view pattern, Wildcards wildcards);
+ExpressionPointer equal(std::string_view column, std::string_view value);
+ExpressionPointer equal(std::string_view column, std::int64_t value);
 
 // Each of these. A null pointer is no condition; null when none of them is one.
-AusdruckZeiger all(std::vector<AusdruckZeiger> parts);
-template <std::same_as<AusdruckZeiger>... Parts> AusdruckZeiger all(Parts... parts)
+ExpressionPointer all(std::vector<ExpressionPointer> parts);
+template <std::same_as<ExpressionPointer>... Parts> ExpressionPointer all(Parts... parts)
 {
-    std::vector<AusdruckZeiger> list;
+    std::vector<ExpressionPointer> list;
     (list.push_back(std::move(parts)), ...);
     return all(std::move(list));
 }
 
 // One of these; there must be one at least.
-AusdruckZeiger any(std::vector<AusdruckZeiger> parts);
+ExpressionPointer any(std::vector<ExpressionPointer> parts);
 // The same in several conditions: a longer one than of a hundred parts is more than some engines take.
-std::vector<AusdruckZeiger> chunks(std::vector<AusdruckZeiger> parts);
+std::vector<ExpressionPointer> chunks(std::vector<ExpressionPointer> parts);
 
-// The condition of WhereStatus (" WHERE (...)", or "" for none); null where there is none. Throws Laufzeitfehler where
+// The condition of WhereStatus (" WHERE (...)", or "" for none); null where there is none. Throws RuntimeError where
 // it names no status.
-AusdruckZeiger statusScope(std::string_view WhereStatus);
+ExpressionPointer statusScope(std::string_view WhereStatus);
 
 // Makes a SELECT: Query("Ini").columns({"Feld4"}).where(equal("Feld1", user)).
 class Query
 {
 public:
-    explicit Query(std::string_view table) { select_.tabelle = table; }
+    explicit Query(std::string_view table) { select_.table = table; }
 
     Query columns(std::initializer_list<std::string_view> names) &&;
     Query distinct() &&;
-    Query where(AusdruckZeiger condition) &&;
+    Query where(ExpressionPointer condition) &&;
     Query sortedBy(std::string_view column) &&;
     Query sortedDownBy(std::string_view column) &&;
 

@@ -13,79 +13,78 @@ namespace quelvarn::sql {
 namespace {
 
 // How placeholders are written. Behind ODBC they have no numbers, and the tables no row key of ours.
-enum class Zaehlung { Nummern, Keine };
+enum class Count { Numbers, None };
 
-class SqliteDialekt : public Dialekt
+class SqliteDialect : public Dialect
 {
 public:
-    explicit SqliteDialekt(Zaehlung zaehlung) : zaehlung_(zaehlung) {}
+    explicit SqliteDialect(Count count) : count_(count) {}
 
 protected:
-    std::string_view schluesselspalte() const override { return zaehlung_ == Zaehlung::Nummern ? "rowid" : ""; }
+    std::string_view keyColumn() const override { return count_ == Count::Numbers ? "rowid" : ""; }
 
-    std::string platzhalter(std::size_t nummer, const Value&, FeldTyp) const override
+    std::string placeholder(std::size_t number, const Value&, FieldType) const override
     {
-        return zaehlung_ == Zaehlung::Nummern ? fmt::format("?{}", nummer) : "?";
+        return count_ == Count::Numbers ? fmt::format("?{}", number) : "?";
     }
 
-    std::string vergleichsausdruck(const std::string& spalte) const override { return spalte; }
-    std::string vergleichstext(const std::string& text) const override { return text; }
+    std::string comparisonExpression(const std::string& column) const override { return column; }
+    std::string comparisonText(const std::string& text) const override { return text; }
 
-    Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
+    PatternComparison like(const std::string& expression, const std::string& pattern) const override
     {
-        return {"qv_like(", muster, ", " + ausdruck + ")"};
+        return {"qv_like(", pattern, ", " + expression + ")"};
     }
 
-    std::string genauGleich(const std::string& ausdruck, const std::string& text) const override
+    std::string exactlyEqual(const std::string& expression, const std::string& text) const override
     {
-        return fmt::format("{} COLLATE BINARY = {}", ausdruck, text);
+        return fmt::format("{} COLLATE BINARY = {}", expression, text);
     }
 
-    std::string alsText(const std::string& spalte, FeldTyp typ) const override
+    std::string asText(const std::string& column, FieldType type) const override
     {
-        if (typ == FeldTyp::Datum)
-            return fmt::format("replace(strftime('%d.%m.%Y %H:%M:%S', {}), ' 00:00:00', '')", spalte);
-        if (typ == FeldTyp::Ganzzahl)
-            return fmt::format("CAST({} AS TEXT)", spalte);
+        if (type == FieldType::Date)
+            return fmt::format("replace(strftime('%d.%m.%Y %H:%M:%S', {}), ' 00:00:00', '')", column);
+        if (type == FieldType::Integer)
+            return fmt::format("CAST({} AS TEXT)", column);
         // printf would make a number of Null.
-        return fmt::format("iif({0} IS NULL, NULL, replace(printf('%.15g', {0}), '.', ','))", spalte);
+        return fmt::format("iif({0} IS NULL, NULL, replace(printf('%.15g', {0}), '.', ','))", column);
     }
 
-    Value datumswert(Zeitpunkt zeit) const override { return formatIso(zeit); }
+    Value dateValue(DateTime time) const override { return formatIso(time); }
 
-    std::string sortiert(const std::string& ausdruck, bool absteigend) const override
+    std::string sorted(const std::string& expression, bool descending) const override
     {
-        return ausdruck + (absteigend ? " DESC" : "");
+        return expression + (descending ? " DESC" : "");
     }
 
-    bool sortiertDistinct() const override { return true; }
+    bool sortedDistinct() const override { return true; }
 
     // Without a condition the table is read in the order of storage, unless an index that begins with the column
     // serves instead.
-    bool gruppiertDistinct(const Select& anweisung) const override
+    bool groupedDistinct(const Select& statement) const override
     {
-        if (zaehlung_ == Zaehlung::Keine || anweisung.spalten.size() != 1 || anweisung.where ||
-            !anweisung.orderBy.empty())
+        if (count_ == Count::None || statement.columns.size() != 1 || statement.where || !statement.orderBy.empty())
             return false;
-        const Tabellenschema* tabelle = findTabelle(anweisung.tabelle);
-        return tabelle && std::ranges::any_of(tabelle->indexe, [&](const auto& index) {
-                   return equalText(index.front().name, anweisung.spalten.front());
+        const TableSchema* table = findTable(statement.table);
+        return table && std::ranges::any_of(table->indexes, [&](const auto& index) {
+                   return equalText(index.front().name, statement.columns.front());
                });
     }
 
-    std::string_view niemals() const override { return "NULL"; }
+    std::string_view never() const override { return "NULL"; }
 
 private:
-    Zaehlung zaehlung_;
+    Count count_;
 };
 
 // A character of a regular expression, inside or outside of a class, that means nothing but itself.
-std::string alsRegexZeichen(char32_t zeichen)
+std::string asRegexCharacters(char32_t character)
 {
-    const bool harmlos = (zeichen >= U'a' && zeichen <= U'z') || (zeichen >= U'A' && zeichen <= U'Z') ||
-                         (zeichen >= U'0' && zeichen <= U'9');
-    return harmlos ? std::string(1, static_cast<char>(zeichen))
-                   : fmt::format("\\U{:08x}", static_cast<std::uint32_t>(zeichen));
+    const bool harmless = (character >= U'a' && character <= U'z') || (character >= U'A' && character <= U'Z') ||
+                          (character >= U'0' && character <= U'9');
+    return harmless ? std::string(1, static_cast<char>(character))
+                    : fmt::format("\\U{:08x}", static_cast<std::uint32_t>(character));
 }
 
 std::string asRegexClass(const LikeToken& token)
@@ -95,7 +94,7 @@ std::string asRegexClass(const LikeToken& token)
         const char32_t first = token.members[i];
         const char32_t last = token.members[i + 1];
         if (first <= last)
-            ranges += alsRegexZeichen(first) + (first < last ? "-" + alsRegexZeichen(last) : "");
+            ranges += asRegexCharacters(first) + (first < last ? "-" + asRegexCharacters(last) : "");
     }
     if (ranges.empty()) // A range the wrong way round holds nothing.
         return token.negated ? "." : "(?!)";
@@ -108,7 +107,7 @@ std::string asRegex(const std::vector<LikeToken>& pattern)
     for (const LikeToken& token : pattern) {
         switch (token.kind) {
         case LikeToken::Kind::Char:
-            regex += alsRegexZeichen(token.character);
+            regex += asRegexCharacters(token.character);
             break;
         case LikeToken::Kind::AnyOne:
             regex += '.';
@@ -141,93 +140,93 @@ std::string asServerPattern(const std::vector<LikeToken>& pattern)
     return text;
 }
 
-class PostgresDialekt : public Dialekt
+class PostgresDialect : public Dialect
 {
 public:
-    explicit PostgresDialekt(Zaehlung zaehlung) : zaehlung_(zaehlung) {}
+    explicit PostgresDialect(Count count) : count_(count) {}
 
 protected:
-    std::string_view schluesselspalte() const override { return zaehlung_ == Zaehlung::Nummern ? "qv_id" : ""; }
+    std::string_view keyColumn() const override { return count_ == Count::Numbers ? "qv_id" : ""; }
 
     // The server would take the type of a placeholder from its column and refuse what is too large or no integer.
-    std::string platzhalter(std::size_t nummer, const Value& wert, FeldTyp typ) const override
+    std::string placeholder(std::size_t number, const Value& value, FieldType type) const override
     {
-        std::string stelle = zaehlung_ == Zaehlung::Nummern ? fmt::format("${}", nummer) : "?";
-        switch (typ) {
-        case FeldTyp::Text:
+        std::string position = count_ == Count::Numbers ? fmt::format("${}", number) : "?";
+        switch (type) {
+        case FieldType::Text:
             break;
-        case FeldTyp::Ganzzahl:
-            return stelle + (std::holds_alternative<double>(wert) ? "::float8" : "::bigint");
-        case FeldTyp::Gleitkomma:
-            return stelle + "::float8";
-        case FeldTyp::Datum:
-            return stelle + "::timestamp";
+        case FieldType::Integer:
+            return position + (std::holds_alternative<double>(value) ? "::float8" : "::bigint");
+        case FieldType::FloatingPoint:
+            return position + "::float8";
+        case FieldType::Date:
+            return position + "::timestamp";
         }
-        return stelle;
+        return position;
     }
 
-    std::string vergleichsausdruck(const std::string& spalte) const override { return "qv_key(" + spalte + ")"; }
-    std::string vergleichstext(const std::string& text) const override { return sortKey(text); }
+    std::string comparisonExpression(const std::string& column) const override { return "qv_key(" + column + ")"; }
+    std::string comparisonText(const std::string& text) const override { return sortKey(text); }
 
-    Mustervergleich like(const std::string& ausdruck, const std::string& muster) const override
+    PatternComparison like(const std::string& expression, const std::string& pattern) const override
     {
-        const std::vector<LikeToken> tokens = likeTokens(toUtf32(foldCase(muster)), Wildcards::Sql);
+        const std::vector<LikeToken> tokens = likeTokens(toUtf32(foldCase(pattern)), Wildcards::Sql);
         if (std::ranges::find(tokens, LikeToken::Kind::Class, &LikeToken::kind) != tokens.end())
-            return {"qv_fold(" + ausdruck + ") ~ ", asRegex(tokens), ""};
-        return {"qv_fold(" + ausdruck + ") LIKE ", asServerPattern(tokens), " ESCAPE '\\'"};
+            return {"qv_fold(" + expression + ") ~ ", asRegex(tokens), ""};
+        return {"qv_fold(" + expression + ") LIKE ", asServerPattern(tokens), " ESCAPE '\\'"};
     }
 
-    std::string genauGleich(const std::string& ausdruck, const std::string& text) const override
+    std::string exactlyEqual(const std::string& expression, const std::string& text) const override
     {
-        return fmt::format("{} = {}", ausdruck, text);
+        return fmt::format("{} = {}", expression, text);
     }
 
-    std::string alsText(const std::string& spalte, FeldTyp typ) const override
+    std::string asText(const std::string& column, FieldType type) const override
     {
-        if (typ == FeldTyp::Datum)
-            return fmt::format("replace(to_char({}, 'DD.MM.YYYY HH24:MI:SS'), ' 00:00:00', '')", spalte);
-        return fmt::format("replace(CAST({} AS text), '.', ',')", spalte);
+        if (type == FieldType::Date)
+            return fmt::format("replace(to_char({}, 'DD.MM.YYYY HH24:MI:SS'), ' 00:00:00', '')", column);
+        return fmt::format("replace(CAST({} AS text), '.', ',')", column);
     }
 
-    Value datumswert(Zeitpunkt zeit) const override { return zeit; }
+    Value dateValue(DateTime time) const override { return time; }
 
-    std::string sortiert(const std::string& ausdruck, bool absteigend) const override
+    std::string sorted(const std::string& expression, bool descending) const override
     {
-        return ausdruck + (absteigend ? " DESC NULLS LAST" : " ASC NULLS FIRST");
+        return expression + (descending ? " DESC NULLS LAST" : " ASC NULLS FIRST");
     }
 
-    bool sortiertDistinct() const override { return false; }
-    bool gruppiertDistinct(const Select&) const override { return zaehlung_ == Zaehlung::Nummern; }
-    std::string_view niemals() const override { return "NULL::boolean"; }
+    bool sortedDistinct() const override { return false; }
+    bool groupedDistinct(const Select&) const override { return count_ == Count::Numbers; }
+    std::string_view never() const override { return "NULL::boolean"; }
 
 private:
-    Zaehlung zaehlung_;
+    Count count_;
 };
 
 } // namespace
 
-const Dialekt& sqliteDialekt()
+const Dialect& sqliteDialect()
 {
-    static const SqliteDialekt dialekt(Zaehlung::Nummern);
-    return dialekt;
+    static const SqliteDialect dialect(Count::Numbers);
+    return dialect;
 }
 
-const Dialekt& postgresDialekt()
+const Dialect& postgresDialect()
 {
-    static const PostgresDialekt dialekt(Zaehlung::Nummern);
-    return dialekt;
+    static const PostgresDialect dialect(Count::Numbers);
+    return dialect;
 }
 
-const Dialekt& sqliteOdbcDialekt()
+const Dialect& sqliteOdbcDialect()
 {
-    static const SqliteDialekt dialekt(Zaehlung::Keine);
-    return dialekt;
+    static const SqliteDialect dialect(Count::None);
+    return dialect;
 }
 
-const Dialekt& postgresOdbcDialekt()
+const Dialect& postgresOdbcDialect()
 {
-    static const PostgresDialekt dialekt(Zaehlung::Keine);
-    return dialekt;
+    static const PostgresDialect dialect(Count::None);
+    return dialect;
 }
 
 } // namespace quelvarn::sql

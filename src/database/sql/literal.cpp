@@ -10,210 +10,212 @@
 namespace quelvarn::sql {
 namespace {
 
-bool istZiffer(char zeichen)
+bool isDigit(char character)
 {
-    return zeichen >= '0' && zeichen <= '9';
+    return character >= '0' && character <= '9';
 }
 
-bool beginntZahl(char zeichen)
+bool beginsNumber(char character)
 {
-    return istZiffer(zeichen) || zeichen == '+' || zeichen == '-' || zeichen == '.';
+    return isDigit(character) || character == '+' || character == '-' || character == '.';
 }
 
-bool beginntLiteral(Leser leser)
+bool beginsLiteral(Reader reader)
 {
-    const char zeichen = leser.vorschau();
-    return zeichen == '\'' || zeichen == '"' || zeichen == '#' || beginntZahl(zeichen) || leser.nimmWort("NULL");
+    const char character = reader.preview();
+    return character == '\'' || character == '"' || character == '#' || beginsNumber(character) ||
+           reader.takeWord("NULL");
 }
 
-bool endetZuweisung(Leser leser)
+bool endsAssignment(Reader reader)
 {
-    std::string spalte;
-    if (leser.nimmZeichen(","))
-        return leser.nimmName(spalte) && leser.nimmZeichen("=");
-    return leser.nimmWort("WHERE") || leser.nimmEnde();
+    std::string column;
+    if (reader.takeCharacter(","))
+        return reader.takeName(column) && reader.takeCharacter("=");
+    return reader.takeWord("WHERE") || reader.takeEnd();
 }
 
-bool endetBedingung(Leser leser, Stelle stelle, int klammern)
+bool endsCondition(Reader reader, Place place, int brackets)
 {
-    while (leser.nimmZeichen(")")) {
-        if (--klammern < 0)
+    while (reader.takeCharacter(")")) {
+        if (--brackets < 0)
             return false;
     }
-    if (leser.nimmEnde() || leser.nimmWort("AND") || leser.nimmWort("OR"))
+    if (reader.takeEnd() || reader.takeWord("AND") || reader.takeWord("OR"))
         return true;
-    return stelle == Stelle::Bedingung && leser.nimmWort("ORDER") && leser.nimmWort("BY");
+    return place == Place::Condition && reader.takeWord("ORDER") && reader.takeWord("BY");
 }
 
 // "11/15/26 08:00:00" with the first two numbers exchanged; "" when it has no such form.
-std::string vertauscht(std::string_view datum)
+std::string swapped(std::string_view date)
 {
-    const auto keineZiffer = [](char zeichen) { return !istZiffer(zeichen); };
-    const auto ersteEnde = std::ranges::find_if(datum, keineZiffer);
-    if (ersteEnde == datum.end())
+    const auto noDigit = [](char character) { return !isDigit(character); };
+    const auto firstEnd = std::ranges::find_if(date, noDigit);
+    if (firstEnd == date.end())
         return {};
-    const auto zweiteEnde = std::find_if(ersteEnde + 1, datum.end(), keineZiffer);
-    return std::string(ersteEnde + 1, zweiteEnde) + *ersteEnde + std::string(datum.begin(), ersteEnde) +
-           std::string(zweiteEnde, datum.end());
+    const auto secondEnd = std::find_if(firstEnd + 1, date.end(), noDigit);
+    return std::string(firstEnd + 1, secondEnd) + *firstEnd + std::string(date.begin(), firstEnd) +
+           std::string(secondEnd, date.end());
 }
 
 } // namespace
 
-Value Literalleser::lies(Stelle stelle, int klammern)
+Value LiteralReader::lies(Place place, int brackets)
 {
-    const char zeichen = leser_.vorschau();
-    if (zeichen == '\'')
-        return text(stelle, klammern);
-    if (zeichen == '"')
-        return textInAnfuehrung();
-    if (zeichen == '#')
-        return datum();
-    if (beginntZahl(zeichen))
-        return zahl();
-    if ((stelle == Stelle::Einfuegewert || stelle == Stelle::Zuweisung) && leser_.nimmWort("NULL"))
+    const char character = reader_.preview();
+    if (character == '\'')
+        return text(place, brackets);
+    if (character == '"')
+        return textInQuote();
+    if (character == '#')
+        return date();
+    if (beginsNumber(character))
+        return number();
+    if ((place == Place::InsertedValue || place == Place::Assignment) && reader_.takeWord("NULL"))
         return std::monostate{};
-    leser_.syntaxfehler();
+    reader_.syntaxFault();
 }
 
-std::string Literalleser::text(Stelle stelle, int klammern)
+std::string LiteralReader::text(Place place, int brackets)
 {
-    const std::string_view alles = leser_.text();
-    const std::size_t anfang = leser_.position();
-    std::string wert;
-    for (std::size_t position = anfang + 1;;) {
-        const std::size_t lauf = alles.find('\'', position);
-        if (lauf == std::string_view::npos)
-            leser_.syntaxfehler(anfang);
-        wert += alles.substr(position, lauf - position);
-        const std::size_t laenge = laufLaenge(lauf);
-        position = lauf + laenge;
-        const bool endet = kannEnden(position, stelle, klammern) &&
-                           (laenge % 2 == 1 || !wirdNochGeschlossen(position, stelle, klammern));
-        wert.append(endet ? laenge / 2 : (laenge + 1) / 2, '\'');
-        if (endet) {
-            leser_.gehezu(position);
-            return wert;
+    const std::string_view everything = reader_.text();
+    const std::size_t begin = reader_.position();
+    std::string value;
+    for (std::size_t position = begin + 1;;) {
+        const std::size_t run = everything.find('\'', position);
+        if (run == std::string_view::npos)
+            reader_.syntaxFault(begin);
+        value += everything.substr(position, run - position);
+        const std::size_t length = runLength(run);
+        position = run + length;
+        const bool ends =
+            canEnds(position, place, brackets) && (length % 2 == 1 || !isStillClosing(position, place, brackets));
+        value.append(ends ? length / 2 : (length + 1) / 2, '\'');
+        if (ends) {
+            reader_.goTo(position);
+            return value;
         }
     }
 }
 
-std::size_t Literalleser::laufLaenge(std::size_t position) const
+std::size_t LiteralReader::runLength(std::size_t position) const
 {
-    const std::size_t ende = std::min(leser_.text().find_first_not_of('\'', position), leser_.text().size());
-    return ende - position;
+    const std::size_t end = std::min(reader_.text().find_first_not_of('\'', position), reader_.text().size());
+    return end - position;
 }
 
-bool Literalleser::kannEnden(std::size_t position, Stelle stelle, int klammern) const
+bool LiteralReader::canEnds(std::size_t position, Place place, int brackets) const
 {
-    Leser danach = leser_;
-    danach.gehezu(position);
-    switch (stelle) {
-    case Stelle::ErsteGrenze:
-        return danach.nimmWort("AND");
-    case Stelle::Liste:
-        return danach.nimmZeichen(",") ? beginntLiteral(danach) : danach.nimmZeichen(")");
-    case Stelle::Einfuegewert:
-        return danach.nimmZeichen(",") ? beginntLiteral(danach) : danach.nimmZeichen(")") && danach.nimmEnde();
-    case Stelle::Zuweisung:
-        return endetZuweisung(danach);
-    case Stelle::Filterbedingung:
-    case Stelle::Bedingung:
+    Reader afterwards = reader_;
+    afterwards.goTo(position);
+    switch (place) {
+    case Place::FirstLimit:
+        return afterwards.takeWord("AND");
+    case Place::List:
+        return afterwards.takeCharacter(",") ? beginsLiteral(afterwards) : afterwards.takeCharacter(")");
+    case Place::InsertedValue:
+        return afterwards.takeCharacter(",") ? beginsLiteral(afterwards)
+                                             : afterwards.takeCharacter(")") && afterwards.takeEnd();
+    case Place::Assignment:
+        return endsAssignment(afterwards);
+    case Place::FilterCondition:
+    case Place::Condition:
         break;
     }
-    return endetBedingung(danach, stelle, klammern);
+    return endsCondition(afterwards, place, brackets);
 }
 
 // A pair of apostrophes where the text could end as well is one of the text itself when the text still finds its end
 // later, as a doubled apostrophe does; otherwise the value ends with a single one.
-bool Literalleser::wirdNochGeschlossen(std::size_t position, Stelle stelle, int klammern)
+bool LiteralReader::isStillClosing(std::size_t position, Place place, int brackets)
 {
-    const std::string_view alles = leser_.text();
-    if (ungeraderLauf_ <= position) {
-        endetDort_.clear();
-        ungeraderLauf_ = position;
-        std::size_t laenge = 0;
-        while (laenge % 2 == 0 && ungeraderLauf_ != std::string_view::npos) {
-            ungeraderLauf_ = alles.find('\'', ungeraderLauf_);
-            if (ungeraderLauf_ != std::string_view::npos) {
-                laenge = laufLaenge(ungeraderLauf_);
-                ungeraderLauf_ += laenge;
+    const std::string_view everything = reader_.text();
+    if (oddRun_ <= position) {
+        endsThere_.clear();
+        oddRun_ = position;
+        std::size_t length = 0;
+        while (length % 2 == 0 && oddRun_ != std::string_view::npos) {
+            oddRun_ = everything.find('\'', oddRun_);
+            if (oddRun_ != std::string_view::npos) {
+                length = runLength(oddRun_);
+                oddRun_ += length;
             }
         }
     }
-    if (ungeraderLauf_ == std::string_view::npos)
+    if (oddRun_ == std::string_view::npos)
         return false;
-    const auto [eintrag, neu] = endetDort_.try_emplace({stelle, klammern}, false);
-    if (neu)
-        eintrag->second = kannEnden(ungeraderLauf_, stelle, klammern);
-    return eintrag->second;
+    const auto [entry, fresh] = endsThere_.try_emplace({place, brackets}, false);
+    if (fresh)
+        entry->second = canEnds(oddRun_, place, brackets);
+    return entry->second;
 }
 
-std::string Literalleser::textInAnfuehrung()
+std::string LiteralReader::textInQuote()
 {
-    const std::string_view alles = leser_.text();
-    const std::size_t anfang = leser_.position();
-    std::string wert;
-    for (std::size_t position = anfang + 1;;) {
-        const std::size_t ende = alles.find('"', position);
-        if (ende == std::string_view::npos)
-            leser_.syntaxfehler(anfang);
-        wert += alles.substr(position, ende - position);
-        position = ende + 1;
-        if (position == alles.size() || alles[position] != '"') {
-            leser_.gehezu(position);
-            return wert;
+    const std::string_view everything = reader_.text();
+    const std::size_t begin = reader_.position();
+    std::string value;
+    for (std::size_t position = begin + 1;;) {
+        const std::size_t end = everything.find('"', position);
+        if (end == std::string_view::npos)
+            reader_.syntaxFault(begin);
+        value += everything.substr(position, end - position);
+        position = end + 1;
+        if (position == everything.size() || everything[position] != '"') {
+            reader_.goTo(position);
+            return value;
         }
-        wert += '"';
+        value += '"';
         ++position;
     }
 }
 
-Value Literalleser::zahl()
+Value LiteralReader::number()
 {
-    const std::string_view alles = leser_.text();
-    const std::size_t anfang = leser_.position();
-    const bool vorzeichen = alles[anfang] == '+' || alles[anfang] == '-';
-    const std::int64_t faktor = alles[anfang] == '-' ? -1 : 1;
-    const char* const beginn = alles.data() + anfang + (vorzeichen ? 1 : 0);
-    const char* const ende = alles.data() + alles.size();
+    const std::string_view everything = reader_.text();
+    const std::size_t begin = reader_.position();
+    const bool sign = everything[begin] == '+' || everything[begin] == '-';
+    const std::int64_t factor = everything[begin] == '-' ? -1 : 1;
+    const char* const first = everything.data() + begin + (sign ? 1 : 0);
+    const char* const end = everything.data() + everything.size();
 
-    double gleitkomma = 0;
-    const auto gelesen = std::from_chars(beginn, ende, gleitkomma);
-    leser_.gehezu(static_cast<std::size_t>(gelesen.ptr - alles.data()));
+    double floatingPoint = 0;
+    const auto read = std::from_chars(first, end, floatingPoint);
+    reader_.goTo(static_cast<std::size_t>(read.ptr - everything.data()));
     // The first character keeps out "--1" and "inf", which from_chars would take.
-    const bool lesbar = gelesen.ec == std::errc{} && (istZiffer(*beginn) || *beginn == '.');
-    if (!lesbar || leser_.stehtVorWort())
-        leser_.syntaxfehler(anfang);
+    const bool readable = read.ec == std::errc{} && (isDigit(*first) || *first == '.');
+    if (!readable || reader_.standsBeforeWord())
+        reader_.syntaxFault(begin);
 
-    std::int64_t ganzzahl = 0;
-    const auto ganz = std::from_chars(beginn, ende, ganzzahl);
-    if (ganz.ec == std::errc{} && ganz.ptr == gelesen.ptr)
-        return faktor * ganzzahl;
-    return static_cast<double>(faktor) * gleitkomma +
+    std::int64_t integer = 0;
+    const auto whole = std::from_chars(first, end, integer);
+    if (whole.ec == std::errc{} && whole.ptr == read.ptr)
+        return factor * integer;
+    return static_cast<double>(factor) * floatingPoint +
            0.0; // No zero with a sign: written out, it would read as a whole one.
 }
 
-Zeitpunkt Literalleser::datum()
+DateTime LiteralReader::date()
 {
-    const std::string_view alles = leser_.text();
-    const std::size_t anfang = leser_.position();
-    const std::size_t ende = alles.find('#', anfang + 1);
-    if (ende == std::string_view::npos)
-        leser_.syntaxfehler(anfang);
-    const std::string tagZuerst(trim(alles.substr(anfang + 1, ende - anfang - 1)));
-    const std::string monatZuerst = vertauscht(tagZuerst);
+    const std::string_view everything = reader_.text();
+    const std::size_t begin = reader_.position();
+    const std::size_t end = everything.find('#', begin + 1);
+    if (end == std::string_view::npos)
+        reader_.syntaxFault(begin);
+    const std::string dayFirst(trim(everything.substr(begin + 1, end - begin - 1)));
+    const std::string monthFirst = swapped(dayFirst);
 
-    const bool deutsch = folge_ == Datumsfolge::TagZuerst;
+    const bool german = sequence_ == DateOrder::DayFirst;
     // Where the first number cannot be what it should be, the two change places.
-    auto zeit = parseDatum(deutsch ? tagZuerst : monatZuerst);
-    if (!zeit)
-        zeit = parseDatum(deutsch ? monatZuerst : tagZuerst);
-    if (!zeit)
-        zeit = parseIso(tagZuerst);
-    if (!zeit)
-        leser_.syntaxfehler(anfang);
-    leser_.gehezu(ende + 1);
-    return *zeit;
+    auto time = parseDate(german ? dayFirst : monthFirst);
+    if (!time)
+        time = parseDate(german ? monthFirst : dayFirst);
+    if (!time)
+        time = parseIso(dayFirst);
+    if (!time)
+        reader_.syntaxFault(begin);
+    reader_.goTo(end + 1);
+    return *time;
 }
 
 } // namespace quelvarn::sql

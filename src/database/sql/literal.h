@@ -10,39 +10,39 @@
 namespace quelvarn::sql {
 
 // Where a literal stands: this decides what may come behind it.
-enum class Stelle {
-    Filterbedingung, // AND, OR, ")", the end
-    Bedingung,       // the same and ORDER BY
-    ErsteGrenze,     // AND of "Between x And y"
-    Liste,           // "," and ")" of "In (..)"
-    Einfuegewert,    // "," and ")" of VALUES
-    Zuweisung,       // "," and another column, WHERE, the end
+enum class Place {
+    FilterCondition, // AND, OR, ")", the end
+    Condition,       // the same and ORDER BY
+    FirstLimit,      // AND of "Between x And y"
+    List,            // "," and ")" of "In (..)"
+    InsertedValue,   // "," and ")" of VALUES
+    Assignment,      // "," and another column, WHERE, the end
 };
 
 // Reads the literals of one statement. It must tell the apostrophe that ends a text from one that belongs to it.
-class Literalleser
+class LiteralReader
 {
 public:
-    Literalleser(Leser& leser, Datumsfolge folge) : leser_(leser), folge_(folge) {}
+    LiteralReader(Reader& reader, DateOrder sequence) : reader_(reader), sequence_(sequence) {}
 
-    // A text, number or date. `klammern` brackets are open here.
-    Value lies(Stelle stelle, int klammern);
+    // A text, number or date. `brackets` brackets are open here.
+    Value lies(Place place, int brackets);
 
 private:
-    std::string text(Stelle stelle, int klammern);
-    std::string textInAnfuehrung();
-    Value zahl();
-    Zeitpunkt datum();
+    std::string text(Place place, int brackets);
+    std::string textInQuote();
+    Value number();
+    DateTime date();
 
-    std::size_t laufLaenge(std::size_t position) const;
-    bool kannEnden(std::size_t position, Stelle stelle, int klammern) const;
-    bool wirdNochGeschlossen(std::size_t position, Stelle stelle, int klammern);
+    std::size_t runLength(std::size_t position) const;
+    bool canEnds(std::size_t position, Place place, int brackets) const;
+    bool isStillClosing(std::size_t position, Place place, int brackets);
 
-    Leser& leser_;
-    Datumsfolge folge_;
+    Reader& reader_;
+    DateOrder sequence_;
     // Behind the next run of an odd number of apostrophes, and whether a literal can end there.
-    std::size_t ungeraderLauf_ = 0;
-    std::map<std::pair<Stelle, int>, bool> endetDort_;
+    std::size_t oddRun_ = 0;
+    std::map<std::pair<Place, int>, bool> endsThere_;
 };
 
 } // namespace quelvarn::sql

@@ -12,193 +12,193 @@ namespace quelvarn::sql {
 namespace {
 
 // Reads one statement.
-class Anweisungsparser
+class StatementParser
 {
 public:
-    explicit Anweisungsparser(std::string_view text) : leser_(text), literale_(leser_, Datumsfolge::MonatZuerst) {}
+    explicit StatementParser(std::string_view text) : reader_(text), literals_(reader_, DateOrder::MonthFirst) {}
 
-    Anweisung lies()
+    Statement lies()
     {
-        Anweisung anweisung = beliebige();
-        leser_.verlangeEnde();
-        return anweisung;
+        Statement statement = any();
+        reader_.requireEnd();
+        return statement;
     }
 
 private:
-    Anweisung beliebige()
+    Statement any()
     {
-        if (leser_.nimmWort("SELECT"))
+        if (reader_.takeWord("SELECT"))
             return select();
-        if (leser_.nimmWort("INSERT"))
+        if (reader_.takeWord("INSERT"))
             return insert();
-        if (leser_.nimmWort("UPDATE"))
+        if (reader_.takeWord("UPDATE"))
             return update();
-        if (leser_.nimmWort("DELETE"))
-            return loeschen();
-        leser_.syntaxfehler();
+        if (reader_.takeWord("DELETE"))
+            return remove();
+        reader_.syntaxFault();
     }
 
     Select select()
     {
-        Select anweisung;
-        anweisung.distinct = leser_.nimmWort("DISTINCT");
-        anweisung.anzahl = nimmAnzahl();
-        if (!anweisung.anzahl && !leser_.nimmZeichen("*"))
-            anweisung.spalten = spaltenliste();
-        leser_.verlangeWort("FROM");
-        anweisung.tabelle = leser_.verlangeName();
-        nimmEinsamenApostroph();
-        anweisung.where = where(Stelle::Bedingung);
-        if (!anweisung.anzahl)
-            anweisung.orderBy = sortierung();
-        pruefeTabellen(anweisung.tabelle);
-        return anweisung;
+        Select statement;
+        statement.distinct = reader_.takeWord("DISTINCT");
+        statement.count = takeCount();
+        if (!statement.count && !reader_.takeCharacter("*"))
+            statement.columns = columnList();
+        reader_.requireWord("FROM");
+        statement.table = reader_.requireName();
+        takeLoneApostrophe();
+        statement.where = where(Place::Condition);
+        if (!statement.count)
+            statement.orderBy = sort();
+        checkTables(statement.table);
+        return statement;
     }
 
     Insert insert()
     {
-        Insert anweisung;
-        leser_.verlangeWort("INTO");
-        anweisung.tabelle = leser_.verlangeName();
-        leser_.verlangeZeichen("(");
-        for (std::string& name : spaltenliste())
-            anweisung.werte.push_back({std::move(name), {}});
-        leser_.verlangeZeichen(")");
-        leser_.verlangeWort("VALUES");
-        leser_.verlangeZeichen("(");
-        for (Zuweisung& zuweisung : anweisung.werte) {
-            if (&zuweisung != &anweisung.werte.front())
-                leser_.verlangeZeichen(",");
-            zuweisung.wert = literale_.lies(Stelle::Einfuegewert, 0);
+        Insert statement;
+        reader_.requireWord("INTO");
+        statement.table = reader_.requireName();
+        reader_.requireCharacter("(");
+        for (std::string& name : columnList())
+            statement.values.push_back({std::move(name), {}});
+        reader_.requireCharacter(")");
+        reader_.requireWord("VALUES");
+        reader_.requireCharacter("(");
+        for (Assignment& assignment : statement.values) {
+            if (&assignment != &statement.values.front())
+                reader_.requireCharacter(",");
+            assignment.value = literals_.lies(Place::InsertedValue, 0);
         }
-        leser_.verlangeZeichen(")");
-        pruefeTabellen(anweisung.tabelle);
-        return anweisung;
+        reader_.requireCharacter(")");
+        checkTables(statement.table);
+        return statement;
     }
 
     Update update()
     {
-        Update anweisung;
-        anweisung.tabelle = leser_.verlangeName();
-        leser_.verlangeWort("SET");
+        Update statement;
+        statement.table = reader_.requireName();
+        reader_.requireWord("SET");
         do {
-            std::string name = spalte();
-            leser_.verlangeZeichen("=");
-            anweisung.werte.push_back({std::move(name), literale_.lies(Stelle::Zuweisung, 0)});
-        } while (leser_.nimmZeichen(","));
-        anweisung.where = where(Stelle::Filterbedingung);
-        pruefeTabellen(anweisung.tabelle);
-        return anweisung;
+            std::string name = column();
+            reader_.requireCharacter("=");
+            statement.values.push_back({std::move(name), literals_.lies(Place::Assignment, 0)});
+        } while (reader_.takeCharacter(","));
+        statement.where = where(Place::FilterCondition);
+        checkTables(statement.table);
+        return statement;
     }
 
-    Delete loeschen()
+    Delete remove()
     {
-        Delete anweisung;
-        leser_.nimmZeichen("*");
-        leser_.verlangeWort("FROM");
-        anweisung.tabelle = leser_.verlangeName();
-        anweisung.where = where(Stelle::Filterbedingung);
-        pruefeTabellen(anweisung.tabelle);
-        return anweisung;
+        Delete statement;
+        reader_.takeCharacter("*");
+        reader_.requireWord("FROM");
+        statement.table = reader_.requireName();
+        statement.where = where(Place::FilterCondition);
+        checkTables(statement.table);
+        return statement;
     }
 
     // Count(*); a column may be called Count.
-    bool nimmAnzahl()
+    bool takeCount()
     {
-        Leser voraus = leser_;
-        if (!voraus.nimmWort("COUNT") || !voraus.nimmZeichen("(") || !voraus.nimmZeichen("*") ||
-            !voraus.nimmZeichen(")"))
+        Reader ahead = reader_;
+        if (!ahead.takeWord("COUNT") || !ahead.takeCharacter("(") || !ahead.takeCharacter("*") ||
+            !ahead.takeCharacter(")"))
             return false;
-        leser_.gehezu(voraus.position());
+        reader_.goTo(ahead.position());
         return true;
     }
 
     // One list of addresses is asked for with an apostrophe too many behind the table.
-    void nimmEinsamenApostroph()
+    void takeLoneApostrophe()
     {
-        Leser voraus = leser_;
-        if (voraus.nimmZeichen("'") && voraus.nimmEnde())
-            leser_.gehezu(voraus.position());
+        Reader ahead = reader_;
+        if (ahead.takeCharacter("'") && ahead.takeEnd())
+            reader_.goTo(ahead.position());
     }
 
-    AusdruckZeiger where(Stelle stelle)
+    ExpressionPointer where(Place position)
     {
-        if (!leser_.nimmWort("WHERE"))
+        if (!reader_.takeWord("WHERE"))
             return nullptr;
-        Bedingungsparser bedingung(leser_, literale_, stelle);
-        AusdruckZeiger gelesen = bedingung.lies();
-        tabellen_.insert(tabellen_.end(), bedingung.tabellen().begin(), bedingung.tabellen().end());
-        return gelesen;
+        ConditionParser condition(reader_, literals_, position);
+        ExpressionPointer read = condition.lies();
+        tables_.insert(tables_.end(), condition.tables().begin(), condition.tables().end());
+        return read;
     }
 
-    std::vector<Sortierung> sortierung()
+    std::vector<Sort> sort()
     {
-        std::vector<Sortierung> gelesen;
-        if (!leser_.nimmWort("ORDER"))
-            return gelesen;
-        leser_.verlangeWort("BY");
+        std::vector<Sort> read;
+        if (!reader_.takeWord("ORDER"))
+            return read;
+        reader_.requireWord("BY");
         do {
-            std::string name = spalte();
-            const bool absteigend = leser_.nimmWort("DESC");
-            if (!absteigend)
-                leser_.nimmWort("ASC");
-            gelesen.push_back({std::move(name), absteigend});
-        } while (leser_.nimmZeichen(","));
-        return gelesen;
+            std::string name = column();
+            const bool descending = reader_.takeWord("DESC");
+            if (!descending)
+                reader_.takeWord("ASC");
+            read.push_back({std::move(name), descending});
+        } while (reader_.takeCharacter(","));
+        return read;
     }
 
-    std::vector<std::string> spaltenliste()
+    std::vector<std::string> columnList()
     {
-        std::vector<std::string> gelesen;
+        std::vector<std::string> read;
         do {
-            gelesen.push_back(spalte());
-        } while (leser_.nimmZeichen(","));
-        return gelesen;
+            read.push_back(column());
+        } while (reader_.takeCharacter(","));
+        return read;
     }
 
-    std::string spalte()
+    std::string column()
     {
-        Spaltenname name = leser_.verlangeSpalte();
-        if (!name.tabelle.empty())
-            tabellen_.push_back(std::move(name.tabelle));
-        return std::move(name.spalte);
+        ColumnName name = reader_.requireColumn();
+        if (!name.table.empty())
+            tables_.push_back(std::move(name.table));
+        return std::move(name.column);
     }
 
     // A column's table is known only when the table of the statement is.
-    void pruefeTabellen(std::string_view tabelle) const
+    void checkTables(std::string_view table) const
     {
-        for (const std::string& vorn : tabellen_) {
-            if (!equalText(vorn, tabelle))
-                throw Laufzeitfehler(FEHLER_SYNTAX, "Datenbank",
-                                     "Die Tabelle '" + vorn + "' kommt in der Anweisung nicht vor.");
+        for (const std::string& front : tables_) {
+            if (!equalText(front, table))
+                throw RuntimeError(FAULT_SYNTAX, "Datenbank",
+                                   "Die Tabelle '" + front + "' kommt in der Anweisung nicht vor.");
         }
     }
 
-    Leser leser_;
-    Literalleser literale_;
-    std::vector<std::string> tabellen_; // Those that stood in front of columns.
+    Reader reader_;
+    LiteralReader literals_;
+    std::vector<std::string> tables_; // Those that stood in front of columns.
 };
 
 } // namespace
 
-Anweisung parseAnweisung(std::string_view text)
+Statement parseStatement(std::string_view text)
 {
-    return Anweisungsparser(text).lies();
+    return StatementParser(text).lies();
 }
 
-AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge, Wildcards wildcards)
+ExpressionPointer parseCondition(std::string_view text, DateOrder sequence, Wildcards wildcards)
 {
-    Leser leser(text);
-    if (leser.nimmEnde())
+    Reader reader(text);
+    if (reader.takeEnd())
         return nullptr;
-    Literalleser literale(leser, folge);
-    Bedingungsparser parser(leser, literale, Stelle::Filterbedingung, wildcards);
-    AusdruckZeiger bedingung = parser.lies();
-    leser.verlangeEnde();
-    if (!parser.tabellen().empty())
-        throw Laufzeitfehler(FEHLER_SYNTAX, "Datenbank",
-                             "Die Tabelle '" + parser.tabellen().front() + "' kommt in der Anweisung nicht vor.");
-    return bedingung;
+    LiteralReader literals(reader, sequence);
+    ConditionParser parser(reader, literals, Place::FilterCondition, wildcards);
+    ExpressionPointer condition = parser.lies();
+    reader.requireEnd();
+    if (!parser.tables().empty())
+        throw RuntimeError(FAULT_SYNTAX, "Datenbank",
+                           "Die Tabelle '" + parser.tables().front() + "' kommt in der Anweisung nicht vor.");
+    return condition;
 }
 
 } // namespace quelvarn::sql

@@ -7,23 +7,23 @@
 namespace quelvarn::sql {
 
 // How the day stands in a #..# literal.
-enum class Datumsfolge {
-    MonatZuerst, // SQL: #mm/dd/yy#
-    TagZuerst,   // recordset filter: #dd/mm/yy#
+enum class DateOrder {
+    MonthFirst, // SQL: #mm/dd/yy#
+    DayFirst,   // recordset filter: #dd/mm/yy#
 };
 
 // Reads exactly one SELECT, INSERT, UPDATE or DELETE. Whatever stands behind it is refused, so a pasted
-// value can never add a second statement. Throws Laufzeitfehler with a German description.
+// value can never add a second statement. Throws RuntimeError with a German description.
 //
 // Values stand in statements as they are, so an apostrophe inside a literal is part of it when what follows cannot
 // come behind a literal at this place: AND, OR, ORDER BY, a bracket or comma that is awaited, the end. A doubled
 // apostrophe is one apostrophe, and a value whose apostrophes are all doubled is always read as it was meant. A lone
 // apostrophe behind the table at the very end of a statement is passed over.
-Anweisung parseAnweisung(std::string_view text);
+Statement parseStatement(std::string_view text);
 
 // A recordset filter or Find criterion: the condition alone. An empty text gives null: no filter. `wildcards` tells how
 // its patterns are meant.
-AusdruckZeiger parseBedingung(std::string_view text, Datumsfolge folge = Datumsfolge::TagZuerst,
-                              Wildcards wildcards = Wildcards::Sql);
+ExpressionPointer parseCondition(std::string_view text, DateOrder sequence = DateOrder::DayFirst,
+                                 Wildcards wildcards = Wildcards::Sql);
 
 } // namespace quelvarn::sql

@@ -9,150 +9,150 @@
 namespace quelvarn::sql {
 namespace {
 
-constexpr std::string_view LEERZEICHEN = " \t\r\n\f\v";
-constexpr std::array<std::string_view, 22> SCHLUESSELWORTE{
+constexpr std::string_view BLANK = " \t\r\n\f\v";
+constexpr std::array<std::string_view, 22> KEYWORDS{
     "SELECT", "DISTINCT", "FROM",   "WHERE", "ORDER", "BY",  "ASC", "DESC", "INSERT", "INTO", "VALUES",
     "UPDATE", "SET",      "DELETE", "AND",   "OR",    "NOT", "IN",  "LIKE", "IS",     "NULL", "BETWEEN"};
 
-bool istZiffer(char zeichen)
+bool isDigit(char character)
 {
-    return zeichen >= '0' && zeichen <= '9';
+    return character >= '0' && character <= '9';
 }
 
 // Every byte beyond ASCII belongs to a letter.
-bool istBuchstabe(char zeichen)
+bool isLetter(char character)
 {
-    return (zeichen >= 'a' && zeichen <= 'z') || (zeichen >= 'A' && zeichen <= 'Z') || zeichen == '_' ||
-           static_cast<unsigned char>(zeichen) >= 0x80;
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') || character == '_' ||
+           static_cast<unsigned char>(character) >= 0x80;
 }
 
-bool istSchluesselwort(std::string_view wort, std::string_view grossgeschrieben)
+bool isKeyword(std::string_view word, std::string_view upperCase)
 {
-    return std::ranges::equal(wort, grossgeschrieben, [](char eins, char gross) {
-        return eins == gross || (eins >= 'a' && eins <= 'z' && eins - 'a' + 'A' == gross);
+    return std::ranges::equal(word, upperCase, [](char one, char large) {
+        return one == large || (one >= 'a' && one <= 'z' && one - 'a' + 'A' == large);
     });
 }
 
 } // namespace
 
-void Leser::ueberspringeLeerzeichen()
+void Reader::skipBlank()
 {
-    position_ = std::min(text_.find_first_not_of(LEERZEICHEN, position_), text_.size());
+    position_ = std::min(text_.find_first_not_of(BLANK, position_), text_.size());
 }
 
-std::string_view Leser::wort() const
+std::string_view Reader::word() const
 {
-    std::size_t ende = position_;
-    if (ende < text_.size() && istBuchstabe(text_[ende])) {
-        while (ende < text_.size() && (istBuchstabe(text_[ende]) || istZiffer(text_[ende])))
-            ++ende;
+    std::size_t end = position_;
+    if (end < text_.size() && isLetter(text_[end])) {
+        while (end < text_.size() && (isLetter(text_[end]) || isDigit(text_[end])))
+            ++end;
     }
-    return text_.substr(position_, ende - position_);
+    return text_.substr(position_, end - position_);
 }
 
-bool Leser::nimmWort(std::string_view grossgeschrieben)
+bool Reader::takeWord(std::string_view upperCase)
 {
-    ueberspringeLeerzeichen();
-    if (!istSchluesselwort(wort(), grossgeschrieben))
+    skipBlank();
+    if (!isKeyword(word(), upperCase))
         return false;
-    position_ += grossgeschrieben.size();
+    position_ += upperCase.size();
     return true;
 }
 
-bool Leser::nimmZeichen(std::string_view zeichen)
+bool Reader::takeCharacter(std::string_view character)
 {
-    ueberspringeLeerzeichen();
-    if (!text_.substr(position_).starts_with(zeichen))
+    skipBlank();
+    if (!text_.substr(position_).starts_with(character))
         return false;
-    position_ += zeichen.size();
+    position_ += character.size();
     return true;
 }
 
-bool Leser::nimmName(std::string& name)
+bool Reader::takeName(std::string& name)
 {
-    ueberspringeLeerzeichen();
+    skipBlank();
     if (position_ < text_.size() && text_[position_] == '[') {
-        const std::size_t ende = text_.find_first_of("[]", position_ + 1);
-        if (ende == std::string_view::npos || text_[ende] == '[' || ende == position_ + 1)
+        const std::size_t end = text_.find_first_of("[]", position_ + 1);
+        if (end == std::string_view::npos || text_[end] == '[' || end == position_ + 1)
             return false;
-        name = text_.substr(position_ + 1, ende - position_ - 1);
-        position_ = ende + 1;
+        name = text_.substr(position_ + 1, end - position_ - 1);
+        position_ = end + 1;
         return true;
     }
-    const std::string_view gefunden = wort();
-    const auto gleich = [&](std::string_view schluesselwort) { return istSchluesselwort(gefunden, schluesselwort); };
-    if (gefunden.empty() || std::ranges::any_of(SCHLUESSELWORTE, gleich))
+    const std::string_view found = word();
+    const auto equal = [&](std::string_view keyword) { return isKeyword(found, keyword); };
+    if (found.empty() || std::ranges::any_of(KEYWORDS, equal))
         return false;
-    name = gefunden;
-    position_ += gefunden.size();
+    name = found;
+    position_ += found.size();
     return true;
 }
 
-bool Leser::nimmEnde()
+bool Reader::takeEnd()
 {
-    const std::size_t anfang = position_;
-    nimmZeichen(";");
-    ueberspringeLeerzeichen();
+    const std::size_t begin = position_;
+    takeCharacter(";");
+    skipBlank();
     if (position_ == text_.size())
         return true;
-    position_ = anfang;
+    position_ = begin;
     return false;
 }
 
-void Leser::verlangeWort(std::string_view grossgeschrieben)
+void Reader::requireWord(std::string_view upperCase)
 {
-    if (!nimmWort(grossgeschrieben))
-        syntaxfehler();
+    if (!takeWord(upperCase))
+        syntaxFault();
 }
 
-void Leser::verlangeZeichen(std::string_view zeichen)
+void Reader::requireCharacter(std::string_view character)
 {
-    if (!nimmZeichen(zeichen))
-        syntaxfehler();
+    if (!takeCharacter(character))
+        syntaxFault();
 }
 
-void Leser::verlangeEnde()
+void Reader::requireEnd()
 {
-    if (!nimmEnde())
-        syntaxfehler();
+    if (!takeEnd())
+        syntaxFault();
 }
 
-std::string Leser::verlangeName()
+std::string Reader::requireName()
 {
     std::string name;
-    if (!nimmName(name))
-        syntaxfehler();
+    if (!takeName(name))
+        syntaxFault();
     return name;
 }
 
-Spaltenname Leser::verlangeSpalte()
+ColumnName Reader::requireColumn()
 {
-    Spaltenname name{"", verlangeName()};
-    if (nimmZeichen("."))
-        name = {std::move(name.spalte), verlangeName()};
+    ColumnName name{"", requireName()};
+    if (takeCharacter("."))
+        name = {std::move(name.column), requireName()};
     return name;
 }
 
-char Leser::vorschau()
+char Reader::preview()
 {
-    ueberspringeLeerzeichen();
+    skipBlank();
     return position_ < text_.size() ? text_[position_] : '\0';
 }
 
-bool Leser::stehtVorWort() const
+bool Reader::standsBeforeWord() const
 {
-    const char zeichen = position_ < text_.size() ? text_[position_] : '\0';
-    return istBuchstabe(zeichen) || istZiffer(zeichen) || zeichen == '.';
+    const char character = position_ < text_.size() ? text_[position_] : '\0';
+    return isLetter(character) || isDigit(character) || character == '.';
 }
 
-void Leser::syntaxfehler(std::size_t position) const
+void Reader::syntaxFault(std::size_t position) const
 {
-    position = std::min(text_.find_first_not_of(LEERZEICHEN, position), text_.size());
-    constexpr std::size_t gezeigt = 40;
-    const std::string stelle(leftCharacters(text_.substr(position), gezeigt));
-    throw Laufzeitfehler(FEHLER_SYNTAX, "Datenbank",
-                         stelle.empty() ? "Syntaxfehler am Ende des Ausdrucks."
-                                        : "Syntaxfehler im Ausdruck bei \"" + stelle + "\".");
+    position = std::min(text_.find_first_not_of(BLANK, position), text_.size());
+    constexpr std::size_t shown = 40;
+    const std::string near(leftCharacters(text_.substr(position), shown));
+    throw RuntimeError(FAULT_SYNTAX, "Datenbank",
+                       near.empty() ? "Syntaxfehler am Ende des Ausdrucks."
+                                    : "Syntaxfehler im Ausdruck bei \"" + near + "\".");
 }
 
 } // namespace quelvarn::sql

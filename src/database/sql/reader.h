@@ -6,46 +6,46 @@
 
 namespace quelvarn::sql {
 
-constexpr int FEHLER_SYNTAX = -2147217900;
+constexpr int FAULT_SYNTAX = -2147217900;
 
 // A column as it is written: with the table in front ("Ini.Feld1") or without.
-struct Spaltenname
+struct ColumnName
 {
-    std::string tabelle;
-    std::string spalte;
+    std::string table;
+    std::string column;
 };
 
 // Reads a statement from left to right. Whatever is taken may have blanks in front. Cheap to copy: a copy looks ahead.
-class Leser
+class Reader
 {
 public:
-    explicit Leser(std::string_view text) : text_(text) {}
+    explicit Reader(std::string_view text) : text_(text) {}
 
     // Each takes what it asks for and tells whether it stood there.
-    bool nimmWort(std::string_view grossgeschrieben);
-    bool nimmZeichen(std::string_view zeichen);
-    bool nimmName(std::string& name); // Bare or in [brackets]; a bare keyword is no name.
-    bool nimmEnde();                  // A closing semicolon may stand in front of the end.
+    bool takeWord(std::string_view upperCase);
+    bool takeCharacter(std::string_view character);
+    bool takeName(std::string& name); // Bare or in [brackets]; a bare keyword is no name.
+    bool takeEnd();                   // A closing semicolon may stand in front of the end.
 
-    void verlangeWort(std::string_view grossgeschrieben);
-    void verlangeZeichen(std::string_view zeichen);
-    void verlangeEnde();
-    std::string verlangeName();
-    Spaltenname verlangeSpalte();
+    void requireWord(std::string_view upperCase);
+    void requireCharacter(std::string_view character);
+    void requireEnd();
+    std::string requireName();
+    ColumnName requireColumn();
 
     // The next character that is no blank, '\0' at the end.
-    char vorschau();
-    bool stehtVorWort() const; // A letter, digit or point stands right here.
+    char preview();
+    bool standsBeforeWord() const; // A letter, digit or point stands right here.
     std::size_t position() const { return position_; }
-    void gehezu(std::size_t position) { position_ = position; }
+    void goTo(std::size_t position) { position_ = position; }
     std::string_view text() const { return text_; }
 
-    [[noreturn]] void syntaxfehler() const { syntaxfehler(position_); }
-    [[noreturn]] void syntaxfehler(std::size_t position) const;
+    [[noreturn]] void syntaxFault() const { syntaxFault(position_); }
+    [[noreturn]] void syntaxFault(std::size_t position) const;
 
 private:
-    void ueberspringeLeerzeichen();
-    std::string_view wort() const; // Letters, digits and '_' from here on; "" when none begins here.
+    void skipBlank();
+    std::string_view word() const; // Letters, digits and '_' from here on; "" when none begins here.
 
     std::string_view text_;
     std::size_t position_ = 0;

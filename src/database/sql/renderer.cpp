@@ -16,346 +16,341 @@
 
 namespace quelvarn::sql {
 // Writes one statement, counting the placeholders as it goes.
-class Schreiber
+class Writer
 {
 public:
-    Schreiber(const Dialekt& dialekt, const Tabellenschema& tabelle) : dialekt_(dialekt), tabelle_(tabelle) {}
+    Writer(const Dialect& dialect, const TableSchema& table) : dialect_(dialect), table_(table) {}
 
-    const Spalte& spalte(std::string_view name) const
+    const ColumnInfo& column(std::string_view name) const
     {
-        auto gefunden = std::ranges::find(tabelle_.spalten, name, &Spalte::name); // Nearly always spelled so.
-        if (gefunden == tabelle_.spalten.end())
-            gefunden = std::ranges::find_if(tabelle_.spalten,
-                                            [&](const Spalte& spalte) { return equalText(spalte.name, name); });
-        if (gefunden == tabelle_.spalten.end())
-            throw Laufzeitfehler(
-                FEHLER_FELD_FEHLT, "Datenbank",
-                fmt::format("Feld '{}' ist in der Tabelle '{}' nicht vorhanden.", name, tabelle_.name));
-        return *gefunden;
+        auto found = std::ranges::find(table_.columns, name, &ColumnInfo::name); // Nearly always spelled so.
+        if (found == table_.columns.end())
+            found = std::ranges::find_if(table_.columns,
+                                         [&](const ColumnInfo& column) { return equalText(column.name, name); });
+        if (found == table_.columns.end())
+            throw RuntimeError(FAULT_MISSING_FIELD, "Datenbank",
+                               fmt::format("Feld '{}' ist in der Tabelle '{}' nicht vorhanden.", name, table_.name));
+        return *found;
     }
 
-    std::string name(const Spalte& spalte) const { return dialekt_.name(spalte.name); }
-    std::string tabelle() const { return dialekt_.name(tabelle_.name); }
+    std::string name(const ColumnInfo& column) const { return dialect_.name(column.name); }
+    std::string table() const { return dialect_.name(table_.name); }
 
-    std::string parameter(Value wert, FeldTyp typ)
+    std::string parameter(Value value, FieldType type)
     {
-        if (auto literal = dialekt_.alsLiteral(wert))
+        if (auto literal = dialect_.asLiteral(value))
             return *std::move(literal);
-        if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-            wert = dialekt_.datumswert(*zeit);
-        ergebnis_.parameter.push_back(std::move(wert));
-        return dialekt_.platzhalter(ergebnis_.parameter.size(), ergebnis_.parameter.back(), typ);
+        if (const auto* time = std::get_if<DateTime>(&value))
+            value = dialect_.dateValue(*time);
+        result_.parameter.push_back(std::move(value));
+        return dialect_.placeholder(result_.parameter.size(), result_.parameter.back(), type);
     }
 
     // Names of the columns of the result; all of them when none is named.
-    std::string auswahl(std::span<const std::string> namen)
+    std::string selection(std::span<const std::string> names)
     {
-        if (namen.empty())
-            ergebnis_.spalten = tabelle_.spalten;
-        for (const std::string& name : namen)
-            ergebnis_.spalten.push_back(spalte(name));
-        std::vector<std::string> texte;
-        for (const Spalte& spalte : ergebnis_.spalten)
-            texte.push_back(name(spalte));
-        return join(texte, ", ");
+        if (names.empty())
+            result_.columns = table_.columns;
+        for (const std::string& name : names)
+            result_.columns.push_back(column(name));
+        std::vector<std::string> texts;
+        for (const ColumnInfo& column : result_.columns)
+            texts.push_back(name(column));
+        return join(texts, ", ");
     }
 
     std::string rest()
     {
         std::string text;
-        for (const Spalte& andere : tabelle_.spalten) {
-            if (std::ranges::find(ergebnis_.spalten, andere) != ergebnis_.spalten.end())
+        for (const ColumnInfo& other : table_.columns) {
+            if (std::ranges::find(result_.columns, other) != result_.columns.end())
                 continue;
-            ergebnis_.rest.push_back(andere);
-            text += ", " + name(andere);
+            result_.rest.push_back(other);
+            text += ", " + name(other);
         }
         return text;
     }
 
-    std::string where(const AusdruckZeiger& bedingung)
+    std::string where(const ExpressionPointer& condition)
     {
-        return bedingung ? " WHERE " + std::visit(*this, bedingung->inhalt) : "";
+        return condition ? " WHERE " + std::visit(*this, condition->content) : "";
     }
 
-    std::string zeile(Zeilenschluessel schluessel)
+    std::string row(RowKey key)
     {
-        return fmt::format(" WHERE {} = {}", dialekt_.schluesselspalte(), parameter(schluessel, FeldTyp::Ganzzahl));
+        return fmt::format(" WHERE {} = {}", dialect_.keyColumn(), parameter(key, FieldType::Integer));
     }
 
-    std::string zeile(Dialekt::Zeilenbild bild)
+    std::string row(Dialect::RowImage picture)
     {
-        std::vector<std::string> texte;
-        for (const Zuweisung& zelle : bild)
-            texte.push_back(genau(spalte(zelle.spalte), zelle.wert));
-        return " WHERE " + join(texte, " AND ");
+        std::vector<std::string> texts;
+        for (const Assignment& cell : picture)
+            texts.push_back(exactly(column(cell.column), cell.value));
+        return " WHERE " + join(texts, " AND ");
     }
 
-    std::string sortierung(const std::vector<Sortierung>& sortierungen) const
+    std::string sort(const std::vector<Sort>& sorts) const
     {
-        std::vector<std::string> texte;
-        for (const Sortierung& sortierung : sortierungen) {
-            const Spalte& gemeint = spalte(sortierung.spalte);
-            const std::string ausdruck = name(gemeint);
-            texte.push_back(
-                dialekt_.sortiert(gemeint.typ == FeldTyp::Text ? dialekt_.vergleichsausdruck(ausdruck) : ausdruck,
-                                  sortierung.absteigend));
+        std::vector<std::string> texts;
+        for (const Sort& sort : sorts) {
+            const ColumnInfo& intended = column(sort.column);
+            const std::string expression = name(intended);
+            texts.push_back(dialect_.sorted(intended.type == FieldType::Text ? dialect_.comparisonExpression(expression)
+                                                                             : expression,
+                                            sort.descending));
         }
-        return texte.empty() ? "" : " ORDER BY " + join(texte, ", ");
+        return texts.empty() ? "" : " ORDER BY " + join(texts, ", ");
     }
 
-    std::string wert(const Zuweisung& zuweisung)
+    std::string value(const Assignment& assignment)
     {
-        const FeldTyp typ = spalte(zuweisung.spalte).typ;
-        return parameter(speicherwert(zuweisung.wert, typ), typ);
+        const FieldType type = column(assignment.column).type;
+        return parameter(storedValue(assignment.value, type), type);
     }
 
-    std::string operator()(const Bedingung& bedingung)
+    std::string operator()(const Condition& condition)
     {
-        const Spalte& gemeint = spalte(bedingung.spalte);
-        if (bedingung.vergleich == Vergleich::Like)
-            return like(gemeint, std::get<std::string>(bedingung.wert), bedingung.wildcards);
-        if (bedingung.vergleich == Vergleich::NotLike)
-            return "NOT (" + muster(gemeint, std::get<std::string>(bedingung.wert), bedingung.wildcards) + ")";
+        const ColumnInfo& intended = column(condition.column);
+        if (condition.comparison == Comparison::Like)
+            return like(intended, std::get<std::string>(condition.value), condition.wildcards);
+        if (condition.comparison == Comparison::NotLike)
+            return "NOT (" + pattern(intended, std::get<std::string>(condition.value), condition.wildcards) + ")";
 
-        const auto literal = vergleichswert(bedingung.wert, gemeint.typ);
+        const auto literal = comparisonValue(condition.value, intended.type);
         if (!literal)
-            return std::string(dialekt_.niemals());
-        if (gemeint.typ == FeldTyp::Text)
-            return textvergleich(name(gemeint), zeichenOf(bedingung.vergleich), std::get<std::string>(*literal));
-        return fmt::format("{} {} {}", name(gemeint), zeichenOf(bedingung.vergleich), parameter(*literal, gemeint.typ));
+            return std::string(dialect_.never());
+        if (intended.type == FieldType::Text)
+            return textComparison(name(intended), characterOf(condition.comparison), std::get<std::string>(*literal));
+        return fmt::format("{} {} {}", name(intended), characterOf(condition.comparison),
+                           parameter(*literal, intended.type));
     }
 
-    std::string operator()(const IstNull& istNull) const
+    std::string operator()(const IsNull& isNull) const
     {
-        return name(spalte(istNull.spalte)) + (istNull.verneint ? " IS NOT NULL" : " IS NULL");
+        return name(column(isNull.column)) + (isNull.negated ? " IS NOT NULL" : " IS NULL");
     }
 
-    std::string operator()(const Und& und) { return verbunden(und.teile, " AND "); }
-    std::string operator()(const Oder& oder) { return verbunden(oder.teile, " OR "); }
-    std::string operator()(const Nicht& nicht) { return "NOT (" + std::visit(*this, nicht.teil->inhalt) + ")"; }
+    std::string operator()(const And& both) { return connected(both.parts, " AND "); }
+    std::string operator()(const Or& either) { return connected(either.parts, " OR "); }
+    std::string operator()(const Not& negate) { return "NOT (" + std::visit(*this, negate.part->content) + ")"; }
 
-    Gerendert fertig(std::string text)
+    Rendered finish(std::string text)
     {
-        ergebnis_.text = std::move(text);
-        return std::move(ergebnis_);
+        result_.text = std::move(text);
+        return std::move(result_);
     }
-    Gerendert& ergebnis() { return ergebnis_; }
+    Rendered& result() { return result_; }
 
 private:
-    std::string genau(const Spalte& spalte, const Value& wert)
+    std::string exactly(const ColumnInfo& column, const Value& value)
     {
-        if (istNull(wert))
-            return name(spalte) + " IS NULL";
-        if (const auto* text = std::get_if<std::string>(&wert); text && spalte.typ == FeldTyp::Text)
-            return dialekt_.genauGleich(name(spalte), parameter(*text, FeldTyp::Text));
-        if (const auto* zahl = std::get_if<double>(&wert)) {
-            constexpr double groesste = std::numeric_limits<double>::max();
-            const double spielraum = std::abs(*zahl) * 1e-14;
-            return bereich(spalte, std::max(*zahl - spielraum, -groesste), std::min(*zahl + spielraum, groesste));
+        if (isNull(value))
+            return name(column) + " IS NULL";
+        if (const auto* text = std::get_if<std::string>(&value); text && column.type == FieldType::Text)
+            return dialect_.exactlyEqual(name(column), parameter(*text, FieldType::Text));
+        if (const auto* number = std::get_if<double>(&value)) {
+            constexpr double greatest = std::numeric_limits<double>::max();
+            const double slack = std::abs(*number) * 1e-14;
+            return section(column, std::max(*number - slack, -greatest), std::min(*number + slack, greatest));
         }
-        if (const auto* zeit = std::get_if<Zeitpunkt>(&wert)) {
-            static const Zeitpunkt erste = Zeitpunkt::aus({100, 1, 1});
-            static const Zeitpunkt letzte = Zeitpunkt::aus({9999, 12, 31, 23, 59, 59});
-            return bereich(spalte, std::max(zeit->plusSekunden(-1), erste), std::min(zeit->plusSekunden(1), letzte));
+        if (const auto* time = std::get_if<DateTime>(&value)) {
+            static const DateTime first = DateTime::out({100, 1, 1});
+            static const DateTime last = DateTime::out({9999, 12, 31, 23, 59, 59});
+            return section(column, std::max(time->plusSeconds(-1), first), std::min(time->plusSeconds(1), last));
         }
-        return fmt::format("{} = {}", name(spalte), parameter(wert, spalte.typ));
+        return fmt::format("{} = {}", name(column), parameter(value, column.type));
     }
 
-    std::string bereich(const Spalte& spalte, const Value& von, const Value& bis)
+    std::string section(const ColumnInfo& column, const Value& from, const Value& until)
     {
-        const std::string unten = parameter(von, spalte.typ);
-        return fmt::format("({} BETWEEN {} AND {})", name(spalte), unten, parameter(bis, spalte.typ));
+        const std::string below = parameter(from, column.type);
+        return fmt::format("({} BETWEEN {} AND {})", name(column), below, parameter(until, column.type));
     }
 
-    std::string verbunden(const std::vector<AusdruckZeiger>& teile, std::string_view wort)
+    std::string connected(const std::vector<ExpressionPointer>& parts, std::string_view word)
     {
-        std::vector<std::string> texte;
-        for (const AusdruckZeiger& teil : teile)
-            texte.push_back(std::visit(*this, teil->inhalt));
-        return "(" + join(texte, wort) + ")";
+        std::vector<std::string> texts;
+        for (const ExpressionPointer& part : parts)
+            texts.push_back(std::visit(*this, part->content));
+        return "(" + join(texts, word) + ")";
     }
 
-    std::string textvergleich(const std::string& name, std::string_view zeichen, const std::string& text)
+    std::string textComparison(const std::string& name, std::string_view character, const std::string& text)
     {
-        return fmt::format("{} {} {}", dialekt_.vergleichsausdruck(name), zeichen,
-                           parameter(dialekt_.vergleichstext(text), FeldTyp::Text));
+        return fmt::format("{} {} {}", dialect_.comparisonExpression(name), character,
+                           parameter(dialect_.comparisonText(text), FieldType::Text));
     }
 
     // What a pattern begins with narrows the rows by an index, before each one is looked at.
-    std::string like(const Spalte& spalte, const std::string& text, Wildcards wildcards)
+    std::string like(const ColumnInfo& column, const std::string& text, Wildcards wildcards)
     {
-        const LikePattern gelesen(text, wildcards);
-        const std::string anfang =
-            gelesen.shape() == LikePattern::Shape::Exact || gelesen.shape() == LikePattern::Shape::Prefix
-                ? gelesen.literal()
-                : std::string();
-        if (!dialekt_.engtMusterEin() || spalte.typ != FeldTyp::Text || trimRightBlanks(anfang).empty())
-            return muster(spalte, text, wildcards);
-        std::string enger;
-        if (gelesen.shape() == LikePattern::Shape::Exact) {
-            enger = textvergleich(name(spalte), "=", anfang);
+        const LikePattern read(text, wildcards);
+        const std::string begin =
+            read.shape() == LikePattern::Shape::Exact || read.shape() == LikePattern::Shape::Prefix ? read.literal()
+                                                                                                    : std::string();
+        if (!dialect_.narrowsPattern() || column.type != FieldType::Text || trimRightBlanks(begin).empty())
+            return pattern(column, text, wildcards);
+        std::string narrower;
+        if (read.shape() == LikePattern::Shape::Exact) {
+            narrower = textComparison(name(column), "=", begin);
         } else {
-            enger = textvergleich(name(spalte), ">=", anfang);
-            std::string dahinter = anfang;
-            appendUtf8(dahinter, 0x10FFFF);
-            enger += " AND " + textvergleich(name(spalte), "<", dahinter);
+            narrower = textComparison(name(column), ">=", begin);
+            std::string behind = begin;
+            appendUtf8(behind, 0x10FFFF);
+            narrower += " AND " + textComparison(name(column), "<", behind);
         }
-        return "(" + enger + " AND " + muster(spalte, text, wildcards) + ")";
+        return "(" + narrower + " AND " + pattern(column, text, wildcards) + ")";
     }
 
-    std::string muster(const Spalte& spalte, const std::string& text, Wildcards wildcards)
+    std::string pattern(const ColumnInfo& column, const std::string& text, Wildcards wildcards)
     {
-        std::string ausdruck = name(spalte);
-        if (spalte.typ != FeldTyp::Text)
-            ausdruck = dialekt_.alsText(ausdruck, spalte.typ);
+        std::string expression = name(column);
+        if (column.type != FieldType::Text)
+            expression = dialect_.asText(expression, column.type);
         // Patterns of blanks alone, which every list of choices has, need no matching.
-        if (dialekt_.engtMusterEin() && trimRightBlanks(text).empty())
-            return dialekt_.genauGleich(ausdruck, parameter(text, FeldTyp::Text));
-        Dialekt::Mustervergleich vergleich = dialekt_.like(ausdruck, asSqlPattern(text, wildcards));
-        return vergleich.davor + parameter(std::move(vergleich.muster), FeldTyp::Text) + vergleich.dahinter;
+        if (dialect_.narrowsPattern() && trimRightBlanks(text).empty())
+            return dialect_.exactlyEqual(expression, parameter(text, FieldType::Text));
+        Dialect::PatternComparison comparison = dialect_.like(expression, asSqlPattern(text, wildcards));
+        return comparison.before + parameter(std::move(comparison.pattern), FieldType::Text) + comparison.behind;
     }
 
-    const Dialekt& dialekt_;
-    const Tabellenschema& tabelle_;
-    Gerendert ergebnis_;
+    const Dialect& dialect_;
+    const TableSchema& table_;
+    Rendered result_;
 };
 
 namespace {
 
-std::string zuweisungen(Schreiber& schreiber, std::span<const Zuweisung> werte)
+std::string assignments(Writer& writer, std::span<const Assignment> values)
 {
-    std::vector<std::string> texte;
-    for (const Zuweisung& zuweisung : werte)
-        texte.push_back(
-            fmt::format("{} = {}", schreiber.name(schreiber.spalte(zuweisung.spalte)), schreiber.wert(zuweisung)));
-    return join(texte, ", ");
+    std::vector<std::string> texts;
+    for (const Assignment& assignment : values)
+        texts.push_back(
+            fmt::format("{} = {}", writer.name(writer.column(assignment.column)), writer.value(assignment)));
+    return join(texts, ", ");
 }
 
 // The rows of a DISTINCT have only the columns that were asked for.
-void pruefeSortierung(const Select& anweisung, const std::vector<Spalte>& spalten)
+void checkSort(const Select& statement, const std::vector<ColumnInfo>& columns)
 {
-    for (const Sortierung& sortierung : anweisung.orderBy) {
-        const auto gleich = [&](const Spalte& spalte) { return equalText(spalte.name, sortierung.spalte); };
-        if (anweisung.distinct && std::ranges::none_of(spalten, gleich))
-            throw Laufzeitfehler(
-                FEHLER_FELD_FEHLT, "Datenbank",
-                fmt::format("Nach Feld '{}' kann nicht sortiert werden: Es steht nicht hinter DISTINCT.",
-                            sortierung.spalte));
+    for (const Sort& sort : statement.orderBy) {
+        const auto equal = [&](const ColumnInfo& column) { return equalText(column.name, sort.column); };
+        if (statement.distinct && std::ranges::none_of(columns, equal))
+            throw RuntimeError(
+                FAULT_MISSING_FIELD, "Datenbank",
+                fmt::format("Nach Feld '{}' kann nicht sortiert werden: Es steht nicht hinter DISTINCT.", sort.column));
     }
 }
 
 } // namespace
 
-std::string Dialekt::bezeichner(std::string_view name)
+std::string Dialect::identifier(std::string_view name)
 {
     return "\"" + replaceAll(name, "\"", "\"\"") + "\"";
 }
 
-std::string Dialekt::grenzeHinten(std::size_t grenze) const
+std::string Dialect::limitBehind(std::size_t limit) const
 {
-    return fmt::format(" LIMIT {}", grenze);
+    return fmt::format(" LIMIT {}", limit);
 }
 
-Gerendert Dialekt::select(const Select& anweisung, const Tabellenschema& tabelle, MitSchluessel schluessel,
-                          std::size_t grenze) const
+Rendered Dialect::select(const Select& statement, const TableSchema& table, WithKey key, std::size_t limit) const
 {
-    assert(schluessel == MitSchluessel::Nein || !(anweisung.distinct || anweisung.anzahl));
-    Schreiber schreiber(*this, tabelle);
-    const bool gruppiert = anweisung.distinct && gruppiertDistinct(anweisung);
+    assert(key == WithKey::No || !(statement.distinct || statement.count));
+    Writer writer(*this, table);
+    const bool grouped = statement.distinct && groupedDistinct(statement);
     std::string text = "SELECT ";
-    std::string auswahl;
-    if (anweisung.anzahl) {
-        schreiber.ergebnis().spalten = {{"Anzahl", FeldTyp::Ganzzahl}};
+    std::string selection;
+    if (statement.count) {
+        writer.result().columns = {{"Anzahl", FieldType::Integer}};
         text += "COUNT(*)";
     } else {
-        auswahl = schreiber.auswahl(anweisung.spalten);
-        text += anweisung.distinct && !gruppiert ? "DISTINCT " : "";
-        text += grenze > 0 ? grenzeVorn(grenze) : "";
-        const bool mitRest = schluessel == MitSchluessel::Ja && schluesselspalte().empty();
-        text += schluessel == MitSchluessel::Ja && !mitRest ? std::string(schluesselspalte()) + ", " : "";
-        text += auswahl + (mitRest ? schreiber.rest() : "");
-        pruefeSortierung(anweisung, schreiber.ergebnis().spalten);
+        selection = writer.selection(statement.columns);
+        text += statement.distinct && !grouped ? "DISTINCT " : "";
+        text += limit > 0 ? limitBefore(limit) : "";
+        const bool withRest = key == WithKey::Yes && keyColumn().empty();
+        text += key == WithKey::Yes && !withRest ? std::string(keyColumn()) + ", " : "";
+        text += selection + (withRest ? writer.rest() : "");
+        checkSort(statement, writer.result().columns);
     }
-    text += " FROM " + schreiber.tabelle() + schreiber.where(anweisung.where);
-    text += gruppiert ? fmt::format(" GROUP BY {} ORDER BY MIN({})", auswahl, schluesselspalte()) : "";
-    const bool hier = !anweisung.distinct || sortiertDistinct();
-    schreiber.ergebnis().sortiertSelbst = hier || (anweisung.orderBy.empty() && grenze == 0);
-    if (hier) {
-        text += schreiber.sortierung(anweisung.orderBy);
-        text += grenze > 0 ? grenzeHinten(grenze) : "";
+    text += " FROM " + writer.table() + writer.where(statement.where);
+    text += grouped ? fmt::format(" GROUP BY {} ORDER BY MIN({})", selection, keyColumn()) : "";
+    const bool here = !statement.distinct || sortedDistinct();
+    writer.result().sortedSelf = here || (statement.orderBy.empty() && limit == 0);
+    if (here) {
+        text += writer.sort(statement.orderBy);
+        text += limit > 0 ? limitBehind(limit) : "";
     }
-    return schreiber.fertig(std::move(text));
+    return writer.finish(std::move(text));
 }
 
-Gerendert Dialekt::aenderung(const Anweisung& anweisung, const Tabellenschema& tabelle) const
+Rendered Dialect::change(const Statement& statement, const TableSchema& table) const
 {
-    if (const auto* insert = std::get_if<Insert>(&anweisung))
-        return fuegeEin(tabelle, insert->werte);
-    Schreiber schreiber(*this, tabelle);
-    if (const auto* update = std::get_if<Update>(&anweisung)) {
-        const std::string werte = zuweisungen(schreiber, update->werte);
-        return schreiber.fertig(
-            fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), werte, schreiber.where(update->where)));
+    if (const auto* insertion = std::get_if<Insert>(&statement))
+        return insert(table, insertion->values);
+    Writer writer(*this, table);
+    if (const auto* update = std::get_if<Update>(&statement)) {
+        const std::string values = assignments(writer, update->values);
+        return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), values, writer.where(update->where)));
     }
-    const auto* loeschen = std::get_if<Delete>(&anweisung);
-    assert(loeschen);
-    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.where(loeschen->where)));
+    const auto* remove = std::get_if<Delete>(&statement);
+    assert(remove);
+    return writer.finish(fmt::format("DELETE FROM {}{}", writer.table(), writer.where(remove->where)));
 }
 
-Gerendert Dialekt::fuegeEin(const Tabellenschema& tabelle, std::span<const Zuweisung> werte) const
+Rendered Dialect::insert(const TableSchema& table, std::span<const Assignment> values) const
 {
-    Schreiber schreiber(*this, tabelle);
-    std::vector<std::string> namen;
-    std::vector<std::string> texte;
-    for (const Zuweisung& zuweisung : werte) {
-        namen.push_back(schreiber.name(schreiber.spalte(zuweisung.spalte)));
-        texte.push_back(schreiber.wert(zuweisung));
+    Writer writer(*this, table);
+    std::vector<std::string> names;
+    std::vector<std::string> texts;
+    for (const Assignment& assignment : values) {
+        names.push_back(writer.name(writer.column(assignment.column)));
+        texts.push_back(writer.value(assignment));
     }
-    if (werte.empty())
-        return schreiber.fertig(fmt::format("INSERT INTO {} DEFAULT VALUES", schreiber.tabelle()));
-    return schreiber.fertig(
-        fmt::format("INSERT INTO {} ({}) VALUES ({})", schreiber.tabelle(), join(namen, ", "), join(texte, ", ")));
+    if (values.empty())
+        return writer.finish(fmt::format("INSERT INTO {} DEFAULT VALUES", writer.table()));
+    return writer.finish(
+        fmt::format("INSERT INTO {} ({}) VALUES ({})", writer.table(), join(names, ", "), join(texts, ", ")));
 }
 
-Gerendert Dialekt::aendere(const Tabellenschema& tabelle, Zeilenschluessel zeile,
-                           std::span<const Zuweisung> werte) const
+Rendered Dialect::update(const TableSchema& table, RowKey row, std::span<const Assignment> values) const
 {
-    Schreiber schreiber(*this, tabelle);
-    const std::string neu = zuweisungen(schreiber, werte);
-    return schreiber.fertig(fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), neu, schreiber.zeile(zeile)));
+    Writer writer(*this, table);
+    const std::string fresh = assignments(writer, values);
+    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), fresh, writer.row(row)));
 }
 
-Gerendert Dialekt::loesche(const Tabellenschema& tabelle, Zeilenschluessel zeile) const
+Rendered Dialect::remove(const TableSchema& table, RowKey row) const
 {
-    Schreiber schreiber(*this, tabelle);
-    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.zeile(zeile)));
+    Writer writer(*this, table);
+    return writer.finish(fmt::format("DELETE FROM {}{}", writer.table(), writer.row(row)));
 }
 
-Gerendert Dialekt::leseZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+Rendered Dialect::readRow(const TableSchema& table, RowImage picture) const
 {
-    Schreiber schreiber(*this, tabelle);
-    const std::string auswahl = schreiber.auswahl({});
-    return schreiber.fertig(fmt::format("SELECT {} FROM {}{}", auswahl, schreiber.tabelle(), schreiber.zeile(bild)));
+    Writer writer(*this, table);
+    const std::string selection = writer.selection({});
+    return writer.finish(fmt::format("SELECT {} FROM {}{}", selection, writer.table(), writer.row(picture)));
 }
 
-Gerendert Dialekt::zaehleZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+Rendered Dialect::countRow(const TableSchema& table, RowImage picture) const
 {
-    Schreiber schreiber(*this, tabelle);
-    schreiber.ergebnis().spalten = {{"Anzahl", FeldTyp::Ganzzahl}};
-    return schreiber.fertig(fmt::format("SELECT COUNT(*) FROM {}{}", schreiber.tabelle(), schreiber.zeile(bild)));
+    Writer writer(*this, table);
+    writer.result().columns = {{"Anzahl", FieldType::Integer}};
+    return writer.finish(fmt::format("SELECT COUNT(*) FROM {}{}", writer.table(), writer.row(picture)));
 }
 
-Gerendert Dialekt::aendereZeile(const Tabellenschema& tabelle, Zeilenbild bild, std::span<const Zuweisung> werte) const
+Rendered Dialect::updateRow(const TableSchema& table, RowImage picture, std::span<const Assignment> values) const
 {
-    Schreiber schreiber(*this, tabelle);
-    const std::string neu = zuweisungen(schreiber, werte);
-    return schreiber.fertig(fmt::format("UPDATE {} SET {}{}", schreiber.tabelle(), neu, schreiber.zeile(bild)));
+    Writer writer(*this, table);
+    const std::string fresh = assignments(writer, values);
+    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), fresh, writer.row(picture)));
 }
 
-Gerendert Dialekt::loescheZeile(const Tabellenschema& tabelle, Zeilenbild bild) const
+Rendered Dialect::removeRow(const TableSchema& table, RowImage picture) const
 {
-    Schreiber schreiber(*this, tabelle);
-    return schreiber.fertig(fmt::format("DELETE FROM {}{}", schreiber.tabelle(), schreiber.zeile(bild)));
+    Writer writer(*this, table);
+    return writer.finish(fmt::format("DELETE FROM {}{}", writer.table(), writer.row(picture)));
 }
 
 } // namespace quelvarn::sql

@@ -6,28 +6,28 @@
 
 namespace quelvarn::sqlite {
 
-Massenschreiber::Massenschreiber(Engine& engine, Statement einfuegen, std::vector<Spalte> spalten)
-    : einfuegen_(std::move(einfuegen)), spalten_(std::move(spalten)), transaktion_(engine)
+BulkWriter::BulkWriter(Engine& engine, Statement insert, std::vector<ColumnInfo> columns)
+    : insert_(std::move(insert)), columns_(std::move(columns)), transaction_(engine)
 {}
 
-void Massenschreiber::zeile(std::span<const Value> werte)
+void BulkWriter::row(std::span<const Value> values)
 {
-    assert(werte.size() == spalten_.size());
-    for (std::size_t i = 0; i < werte.size(); ++i) {
+    assert(values.size() == columns_.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
         const auto parameter = static_cast<int>(i) + 1;
-        const auto* text = std::get_if<std::string>(&werte[i]);
-        if (text && spalten_[i].typ == FeldTyp::Text)
-            einfuegen_.bindeText(parameter, *text, Statement::Textdauer::UeberlebtSchritte);
+        const auto* text = std::get_if<std::string>(&values[i]);
+        if (text && columns_[i].type == FieldType::Text)
+            insert_.bindText(parameter, *text, Statement::TextDuration::SurvivesSteps);
         else
-            einfuegen_.binde(parameter, sql::speicherwert(werte[i], spalten_[i].typ));
+            insert_.bind(parameter, sql::storedValue(values[i], columns_[i].type));
     }
-    einfuegen_.step();
-    einfuegen_.setzeZurueck();
+    insert_.step();
+    insert_.reset();
 }
 
-void Massenschreiber::beende()
+void BulkWriter::end()
 {
-    transaktion_.schliesseAb();
+    transaction_.commit();
 }
 
 } // namespace quelvarn::sqlite

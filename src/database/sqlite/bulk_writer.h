@@ -6,18 +6,18 @@
 namespace quelvarn::sqlite {
 
 // Inserts row after row with one prepared statement, in a transaction of its own.
-class Massenschreiber final : public Engine::Massenschreiber
+class BulkWriter final : public Engine::BulkWriter
 {
 public:
-    Massenschreiber(Engine& engine, Statement einfuegen, std::vector<Spalte> spalten);
+    BulkWriter(Engine& engine, Statement insert, std::vector<ColumnInfo> columns);
 
-    void zeile(std::span<const Value> werte) override;
-    void beende() override;
+    void row(std::span<const Value> values) override;
+    void end() override;
 
 private:
-    Statement einfuegen_;
-    std::vector<Spalte> spalten_;
-    Enginetransaktion transaktion_;
+    Statement insert_;
+    std::vector<ColumnInfo> columns_;
+    EngineTransaction transaction_;
 };
 
 } // namespace quelvarn::sqlite

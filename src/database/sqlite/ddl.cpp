@@ -11,18 +11,18 @@
 namespace quelvarn::sqlite {
 namespace {
 
-const auto bezeichner = sql::Dialekt::bezeichner;
+const auto identifier = sql::Dialect::identifier;
 
-std::string_view deklaration(FeldTyp typ)
+std::string_view declaration(FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Ganzzahl:
+    switch (type) {
+    case FieldType::Integer:
         return "INTEGER";
-    case FeldTyp::Gleitkomma:
+    case FieldType::FloatingPoint:
         return "REAL";
-    case FeldTyp::Datum:
+    case FieldType::Date:
         return "DATETIME";
-    case FeldTyp::Text:
+    case FieldType::Text:
         break;
     }
     return "TEXT COLLATE QV";
@@ -30,49 +30,49 @@ std::string_view deklaration(FeldTyp typ)
 
 } // namespace
 
-std::string tabelleAnlegen(const Tabellenschema& tabelle)
+std::string createTableStatement(const TableSchema& table)
 {
-    std::string spalten = fmt::format("{} INTEGER PRIMARY KEY AUTOINCREMENT", schluesselspalte);
-    for (const Spalte& spalte : tabelle.spalten)
-        spalten += fmt::format(", {} {}", bezeichner(spalte.name), deklaration(spalte.typ));
-    return fmt::format("CREATE TABLE {} ({})", bezeichner(tabelle.name), spalten);
+    std::string columns = fmt::format("{} INTEGER PRIMARY KEY AUTOINCREMENT", keyColumn);
+    for (const ColumnInfo& column : table.columns)
+        columns += fmt::format(", {} {}", identifier(column.name), declaration(column.type));
+    return fmt::format("CREATE TABLE {} ({})", identifier(table.name), columns);
 }
 
-std::string indexAnlegen(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+std::string createIndexStatement(const TableSchema& table, const std::vector<IndexColumn>& index)
 {
-    std::vector<std::string> spalten;
-    for (const IndexSpalte& spalte : index)
-        spalten.push_back(bezeichner(spalte.name) + (spalte.absteigend ? " DESC" : ""));
-    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({})", bezeichner(indexname(tabelle, index)),
-                       bezeichner(tabelle.name), fmt::join(spalten, ", "));
+    std::vector<std::string> columns;
+    for (const IndexColumn& column : index)
+        columns.push_back(identifier(column.name) + (column.descending ? " DESC" : ""));
+    return fmt::format("CREATE INDEX IF NOT EXISTS {} ON {} ({})", identifier(indexName(table, index)),
+                       identifier(table.name), fmt::join(columns, ", "));
 }
 
-std::string indexname(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+std::string indexName(const TableSchema& table, const std::vector<IndexColumn>& index)
 {
-    return fmt::format("ix_{}_{}{}", tabelle.name, index.front().name, index.back().mitgefuehrt ? "_mit" : "");
+    return fmt::format("ix_{}_{}{}", table.name, index.front().name, index.back().carried ? "_mit" : "");
 }
 
-FeldTyp feldTypAus(std::string_view deklaration)
+FieldType fieldTypeFrom(std::string_view declaration)
 {
-    static constexpr std::array<std::pair<std::string_view, FeldTyp>, 12> teile{{
-        {"char", FeldTyp::Text},
-        {"text", FeldTyp::Text},
-        {"date", FeldTyp::Datum},
-        {"time", FeldTyp::Datum},
-        {"int", FeldTyp::Ganzzahl},
-        {"bool", FeldTyp::Ganzzahl},
-        {"bit", FeldTyp::Ganzzahl},
-        {"real", FeldTyp::Gleitkomma},
-        {"floa", FeldTyp::Gleitkomma},
-        {"doub", FeldTyp::Gleitkomma},
-        {"num", FeldTyp::Gleitkomma},
-        {"dec", FeldTyp::Gleitkomma},
+    static constexpr std::array<std::pair<std::string_view, FieldType>, 12> parts{{
+        {"char", FieldType::Text},
+        {"text", FieldType::Text},
+        {"date", FieldType::Date},
+        {"time", FieldType::Date},
+        {"int", FieldType::Integer},
+        {"bool", FieldType::Integer},
+        {"bit", FieldType::Integer},
+        {"real", FieldType::FloatingPoint},
+        {"floa", FieldType::FloatingPoint},
+        {"doub", FieldType::FloatingPoint},
+        {"num", FieldType::FloatingPoint},
+        {"dec", FieldType::FloatingPoint},
     }};
-    const std::string klein = toLower(deklaration);
-    for (const auto& [teil, typ] : teile)
-        if (klein.find(teil) != std::string::npos)
-            return typ;
-    return FeldTyp::Text;
+    const std::string small = toLower(declaration);
+    for (const auto& [part, type] : parts)
+        if (small.find(part) != std::string::npos)
+            return type;
+    return FieldType::Text;
 }
 
 } // namespace quelvarn::sqlite

@@ -16,22 +16,22 @@
 namespace quelvarn::sqlite {
 namespace {
 
-std::string einfuegeanweisung(std::string_view tabelle, std::span<const Spalte> spalten)
+std::string insertStatement(std::string_view table, std::span<const ColumnInfo> columns)
 {
-    std::string namen;
-    std::string platzhalter;
-    for (const Spalte& spalte : spalten) {
-        namen += (namen.empty() ? "" : ", ") + sql::Dialekt::bezeichner(spalte.name);
-        platzhalter += platzhalter.empty() ? "?" : ", ?";
+    std::string names;
+    std::string placeholder;
+    for (const ColumnInfo& column : columns) {
+        names += (names.empty() ? "" : ", ") + sql::Dialect::identifier(column.name);
+        placeholder += placeholder.empty() ? "?" : ", ?";
     }
-    return fmt::format("INSERT INTO {} ({}) VALUES ({})", sql::Dialekt::bezeichner(tabelle), namen, platzhalter);
+    return fmt::format("INSERT INTO {} ({}) VALUES ({})", sql::Dialect::identifier(table), names, placeholder);
 }
 
 } // namespace
 
-SqliteEngine::SqliteEngine(const std::filesystem::path& pfad, bool neu, Patience* patience)
-    : patience_(patience), handle_(Handle::oeffne(pfad, neu, patience)),
-      katalog_([this](std::string_view name) { return leseSchema(name); })
+SqliteEngine::SqliteEngine(const std::filesystem::path& documentPath, bool fresh, Patience* patience)
+    : patience_(patience), handle_(Handle::open(documentPath, fresh, patience)),
+      catalog_([this](std::string_view name) { return readSchema(name); })
 {}
 
 void SqliteEngine::setPatience(Patience* patience)
@@ -52,7 +52,7 @@ void SqliteEngine::checkFile() const
 
 void SqliteEngine::makeReady()
 {
-    if (handle_->lost() && !transaktion_.offen())
+    if (handle_->lost() && !transaction_.open())
         openAgain();
 }
 
@@ -60,8 +60,8 @@ void SqliteEngine::makeReady()
 void SqliteEngine::openAgain()
 {
     checkFile();
-    handle_ = Handle::oeffne(handle_->file().path(), false, patience_);
-    katalog_.vergiss();
+    handle_ = Handle::open(handle_->file().path(), false, patience_);
+    catalog_.forget();
 }
 
 template <class Read> auto SqliteEngine::repeatable(Read read)
@@ -70,7 +70,7 @@ template <class Read> auto SqliteEngine::repeatable(Read read)
     try {
         return read();
     } catch (const DatabaseFault&) {
-        if (!handle_->lost() || transaktion_.offen())
+        if (!handle_->lost() || transaction_.open())
             throw;
     }
     openAgain();
@@ -80,163 +80,163 @@ template <class Read> auto SqliteEngine::repeatable(Read read)
 void SqliteEngine::beforeChange()
 {
     makeReady();
-    if (transaktion_.offen())
+    if (transaction_.open())
         return;
     checkFile();
-    handle_->lasseVortritt();
+    handle_->letOthersGoFirst();
 }
 
-std::vector<std::string> SqliteEngine::tabellen()
+std::vector<std::string> SqliteEngine::tables()
 {
     return repeatable([this] {
-        std::vector<std::string> namen;
-        Statement statement = handle_->bereite(
+        std::vector<std::string> names;
+        Statement statement = handle_->prepare(
             "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT GLOB 'sqlite_*' ORDER BY name");
         while (statement.step())
-            namen.emplace_back(statement.text(0));
-        return namen;
+            names.emplace_back(statement.text(0));
+        return names;
     });
 }
 
-std::optional<Tabellenschema> SqliteEngine::findTabelle(std::string_view name)
+std::optional<TableSchema> SqliteEngine::findTable(std::string_view name)
 {
-    const Tabellenschema* tabelle = katalog_.find(name);
-    return tabelle ? std::optional(*tabelle) : std::nullopt;
+    const TableSchema* table = catalog_.find(name);
+    return table ? std::optional(*table) : std::nullopt;
 }
 
-std::optional<Tabellenschema> SqliteEngine::leseSchema(std::string_view name)
+std::optional<TableSchema> SqliteEngine::readSchema(std::string_view name)
 {
     return repeatable([&] {
         Statement statement =
-            handle_->bereite("SELECT t.name, c.name, c.type FROM sqlite_schema AS t, pragma_table_info(t.name) AS c "
+            handle_->prepare("SELECT t.name, c.name, c.type FROM sqlite_schema AS t, pragma_table_info(t.name) AS c "
                              "WHERE t.type IN ('table', 'view') AND t.name = ?1 COLLATE NOCASE ORDER BY c.cid");
-        statement.binde(1, std::string(name));
-        std::optional<Tabellenschema> tabelle;
+        statement.bind(1, std::string(name));
+        std::optional<TableSchema> table;
         while (statement.step()) {
-            if (!tabelle)
-                tabelle = Tabellenschema{std::string(statement.text(0)), {}, {}};
-            if (statement.text(1) != schluesselspalte)
-                tabelle->spalten.push_back({std::string(statement.text(1)), feldTypAus(statement.text(2))});
+            if (!table)
+                table = TableSchema{std::string(statement.text(0)), {}, {}};
+            if (statement.text(1) != keyColumn)
+                table->columns.push_back({std::string(statement.text(1)), fieldTypeFrom(statement.text(2))});
         }
-        return tabelle;
+        return table;
     });
 }
 
-std::unique_ptr<Zeilenleser> SqliteEngine::lese(const sql::Select& select, MitSchluessel schluessel, std::size_t grenze)
+std::unique_ptr<RowReader> SqliteEngine::read(const sql::Select& select, WithKey key, std::size_t limit)
 {
     return repeatable([&] {
-        const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-        return leser(sql::sqliteDialekt().select(select, tabelle, schluessel, grenze), schluessel);
+        const TableSchema& table = catalog_.tableOf(select.table, name());
+        return reader(sql::sqliteDialect().select(select, table, key, limit), key);
     });
 }
 
-std::unique_ptr<Zeilenleser> SqliteEngine::leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
-                                                      std::span<const Zeilenschluessel> schluessel)
+std::unique_ptr<RowReader> SqliteEngine::readRows(std::string_view table, std::span<const std::string> columns,
+                                                  std::span<const RowKey> key)
 {
     return repeatable([&] {
-        const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
+        const TableSchema& schema = catalog_.tableOf(table, name());
         sql::Select select;
-        select.spalten.assign(spalten.begin(), spalten.end());
-        select.tabelle = schema.name;
+        select.columns.assign(columns.begin(), columns.end());
+        select.table = schema.name;
         // One text for any number of keys, so that it is prepared once.
-        sql::Gerendert gerendert = sql::sqliteDialekt().select(select, schema, MitSchluessel::Ja);
-        gerendert.text += " WHERE rowid IN (SELECT value FROM json_each(?1))";
-        gerendert.parameter.emplace_back(fmt::format("[{}]", fmt::join(schluessel, ",")));
-        return leser(std::move(gerendert), MitSchluessel::Ja);
+        sql::Rendered rendered = sql::sqliteDialect().select(select, schema, WithKey::Yes);
+        rendered.text += " WHERE rowid IN (SELECT value FROM json_each(?1))";
+        rendered.parameter.emplace_back(fmt::format("[{}]", fmt::join(key, ",")));
+        return reader(std::move(rendered), WithKey::Yes);
     });
 }
 
-std::string SqliteEngine::ausfuehrungsplan(const sql::Select& select)
+std::string SqliteEngine::executionPlan(const sql::Select& select)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(select.tabelle, name());
-    sql::Gerendert gerendert = sql::sqliteDialekt().select(select, tabelle, MitSchluessel::Nein);
-    gerendert.text.insert(0, "EXPLAIN QUERY PLAN ");
-    Statement statement = vorbereitet(gerendert);
+    const TableSchema& table = catalog_.tableOf(select.table, name());
+    sql::Rendered rendered = sql::sqliteDialect().select(select, table, WithKey::No);
+    rendered.text.insert(0, "EXPLAIN QUERY PLAN ");
+    Statement statement = prepared(rendered);
     std::string plan;
-    constexpr int spalteDetail = 3;
+    constexpr int columnDetail = 3;
     while (statement.step())
-        plan += std::string(statement.text(spalteDetail)) + '\n';
+        plan += std::string(statement.text(columnDetail)) + '\n';
     return plan;
 }
 
-Statement SqliteEngine::vorbereitet(const sql::Gerendert& gerendert)
+Statement SqliteEngine::prepared(const sql::Rendered& rendered)
 {
-    Statement statement = handle_->bereite(gerendert.text);
-    for (std::size_t i = 0; i < gerendert.parameter.size(); ++i)
-        statement.binde(static_cast<int>(i) + 1, gerendert.parameter[i]);
+    Statement statement = handle_->prepare(rendered.text);
+    for (std::size_t i = 0; i < rendered.parameter.size(); ++i)
+        statement.bind(static_cast<int>(i) + 1, rendered.parameter[i]);
     return statement;
 }
 
-std::unique_ptr<Zeilenleser> SqliteEngine::leser(sql::Gerendert gerendert, MitSchluessel schluessel)
+std::unique_ptr<RowReader> SqliteEngine::reader(sql::Rendered rendered, WithKey key)
 {
-    Statement statement = vorbereitet(gerendert);
-    auto leser = std::make_unique<Leser>(std::move(statement), std::move(gerendert.spalten), schluessel);
-    leser->begin();
-    return leser;
+    Statement statement = prepared(rendered);
+    auto reader = std::make_unique<Reader>(std::move(statement), std::move(rendered.columns), key);
+    reader->begin();
+    return reader;
 }
 
-std::int64_t SqliteEngine::aendereZeilen(const sql::Gerendert& gerendert)
+std::int64_t SqliteEngine::updateRows(const sql::Rendered& rendered)
 {
     beforeChange();
-    Statement statement = vorbereitet(gerendert);
+    Statement statement = prepared(rendered);
     statement.step();
-    handle_->merkeSchreiben();
-    return handle_->geaenderteZeilen();
+    handle_->rememberWrite();
+    return handle_->changedRows();
 }
 
-std::int64_t SqliteEngine::fuehreAus(const sql::Anweisung& anweisung)
+std::int64_t SqliteEngine::execute(const sql::Statement& statement)
 {
-    const Tabellenschema& tabelle = katalog_.tabelleOf(zieltabelle(anweisung), name());
-    return aendereZeilen(sql::sqliteDialekt().aenderung(anweisung, tabelle));
+    const TableSchema& table = catalog_.tableOf(targetTable(statement), name());
+    return updateRows(sql::sqliteDialect().change(statement, table));
 }
 
-Zeilenschluessel SqliteEngine::fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte)
+RowKey SqliteEngine::insert(std::string_view table, std::span<const sql::Assignment> values)
 {
-    aendereZeilen(sql::sqliteDialekt().fuegeEin(katalog_.tabelleOf(tabelle, name()), werte));
-    return handle_->letzteZeile();
+    updateRows(sql::sqliteDialect().insert(catalog_.tableOf(table, name()), values));
+    return handle_->lastRow();
 }
 
-bool SqliteEngine::aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte)
+bool SqliteEngine::update(std::string_view table, RowKey row, std::span<const sql::Assignment> values)
 {
-    return aendereZeilen(sql::sqliteDialekt().aendere(katalog_.tabelleOf(tabelle, name()), zeile, werte)) > 0;
+    return updateRows(sql::sqliteDialect().update(catalog_.tableOf(table, name()), row, values)) > 0;
 }
 
-bool SqliteEngine::loesche(std::string_view tabelle, Zeilenschluessel zeile)
+bool SqliteEngine::remove(std::string_view table, RowKey row)
 {
-    return aendereZeilen(sql::sqliteDialekt().loesche(katalog_.tabelleOf(tabelle, name()), zeile)) > 0;
+    return updateRows(sql::sqliteDialect().remove(catalog_.tableOf(table, name()), row)) > 0;
 }
 
-void SqliteEngine::legeTabelleAn(const Tabellenschema& tabelle)
+void SqliteEngine::createTable(const TableSchema& table)
 {
-    handle_->fuehreAus(tabelleAnlegen(tabelle));
-    katalog_.vergiss();
+    handle_->execute(createTableStatement(table));
+    catalog_.forget();
 }
 
-void SqliteEngine::legeIndexeAn(const Tabellenschema& tabelle)
+void SqliteEngine::createIndexes(const TableSchema& table)
 {
-    for (const auto& index : tabelle.indexe)
-        handle_->fuehreAus(indexAnlegen(tabelle, index));
+    for (const auto& index : table.indexes)
+        handle_->execute(createIndexStatement(table, index));
 }
 
-std::vector<std::vector<IndexSpalte>> SqliteEngine::fehlendeIndexe(const Tabellenschema& tabelle)
+std::vector<std::vector<IndexColumn>> SqliteEngine::missingIndexes(const TableSchema& table)
 {
     return repeatable([&] {
-        Statement statement = handle_->bereite("SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1");
-        std::vector<std::vector<IndexSpalte>> fehlende;
-        for (const auto& index : tabelle.indexe) {
-            statement.binde(1, indexname(tabelle, index));
+        Statement statement = handle_->prepare("SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1");
+        std::vector<std::vector<IndexColumn>> missing;
+        for (const auto& index : table.indexes) {
+            statement.bind(1, indexName(table, index));
             if (!statement.step())
-                fehlende.push_back(index);
-            statement.setzeZurueck();
+                missing.push_back(index);
+            statement.reset();
         }
-        return fehlende;
+        return missing;
     });
 }
 
-void SqliteEngine::entferneTabelle(std::string_view name)
+void SqliteEngine::removeTable(std::string_view name)
 {
-    handle_->fuehreAus("DROP TABLE IF EXISTS " + sql::Dialekt::bezeichner(name));
-    katalog_.vergiss();
+    handle_->execute("DROP TABLE IF EXISTS " + sql::Dialect::identifier(name));
+    catalog_.forget();
 }
 
 DamageReport SqliteEngine::findDamage(std::size_t limit)
@@ -244,44 +244,44 @@ DamageReport SqliteEngine::findDamage(std::size_t limit)
     return sqlite::findDamage(*handle_, limit);
 }
 
-std::unique_ptr<Engine::Massenschreiber> SqliteEngine::massenschreiber(std::string_view tabelle,
-                                                                       std::span<const Spalte> spalten)
+std::unique_ptr<Engine::BulkWriter> SqliteEngine::bulkWriter(std::string_view table,
+                                                             std::span<const ColumnInfo> columns)
 {
-    const Tabellenschema& schema = katalog_.tabelleOf(tabelle, name());
-    std::vector<Spalte> ziel = spaltenOf(schema, spalten);
-    Statement einfuegen = handle_->bereite(einfuegeanweisung(schema.name, ziel));
-    return std::make_unique<sqlite::Massenschreiber>(*this, std::move(einfuegen), std::move(ziel));
+    const TableSchema& schema = catalog_.tableOf(table, name());
+    std::vector<ColumnInfo> target = columnsOf(schema, columns);
+    Statement insert = handle_->prepare(insertStatement(schema.name, target));
+    return std::make_unique<sqlite::BulkWriter>(*this, std::move(insert), std::move(target));
 }
 
-void SqliteEngine::beginne()
+void SqliteEngine::begin()
 {
     beforeChange();
-    repeatable([this] { handle_->fuehreAus(transaktion_.beginn()); });
-    transaktion_.begonnen();
+    repeatable([this] { handle_->execute(transaction_.begin()); });
+    transaction_.begun();
 }
 
-void SqliteEngine::schliesseAb()
+void SqliteEngine::commit()
 {
-    handle_->fuehreAus(transaktion_.abschluss());
-    handle_->merkeSchreiben();
-    transaktion_.beendet();
+    handle_->execute(transaction_.completion());
+    handle_->rememberWrite();
+    transaction_.ended();
 }
 
-void SqliteEngine::nimmZurueck()
+void SqliteEngine::rollBack()
 {
-    const std::string ruecknahme = transaktion_.ruecknahme();
-    transaktion_.beendet();
-    katalog_.vergiss(); // Tables made meanwhile go as well.
-    handle_->fuehreAus(ruecknahme);
+    const std::string rollback = transaction_.rollback();
+    transaction_.ended();
+    catalog_.forget(); // Tables made meanwhile go as well.
+    handle_->execute(rollback);
 }
 
 } // namespace quelvarn::sqlite
 
 namespace quelvarn {
 
-std::shared_ptr<Engine> oeffneSqlite(const std::filesystem::path& pfad, bool neu, Patience* patience)
+std::shared_ptr<Engine> openSqlite(const std::filesystem::path& documentPath, bool fresh, Patience* patience)
 {
-    return std::make_shared<sqlite::SqliteEngine>(pfad, neu, patience);
+    return std::make_shared<sqlite::SqliteEngine>(documentPath, fresh, patience);
 }
 
 } // namespace quelvarn

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 namespace quelvarn::sql {
-struct Gerendert;
+struct Rendered;
 }
 
 namespace quelvarn::sqlite {
@@ -20,56 +20,56 @@ class Statement;
 class SqliteEngine final : public Engine
 {
 public:
-    SqliteEngine(const std::filesystem::path& pfad, bool neu, Patience* patience);
+    SqliteEngine(const std::filesystem::path& documentPath, bool fresh, Patience* patience);
 
     std::string_view name() const override { return "SQLite"; }
-    EngineFaehigkeiten faehigkeiten() const override { return {}; }
+    EngineCapabilities capabilities() const override { return {}; }
     void setPatience(Patience* patience) override;
     FileState fileState() const override;
     void checkFile() const override;
 
-    std::vector<std::string> tabellen() override;
-    std::optional<Tabellenschema> findTabelle(std::string_view name) override;
+    std::vector<std::string> tables() override;
+    std::optional<TableSchema> findTable(std::string_view name) override;
 
-    std::unique_ptr<Zeilenleser> lese(const sql::Select& select, MitSchluessel schluessel, std::size_t grenze) override;
-    std::unique_ptr<Zeilenleser> leseZeilen(std::string_view tabelle, std::span<const std::string> spalten,
-                                            std::span<const Zeilenschluessel> schluessel) override;
-    std::string ausfuehrungsplan(const sql::Select& select) override;
-    std::int64_t fuehreAus(const sql::Anweisung& anweisung) override;
+    std::unique_ptr<RowReader> read(const sql::Select& select, WithKey key, std::size_t limit) override;
+    std::unique_ptr<RowReader> readRows(std::string_view table, std::span<const std::string> columns,
+                                        std::span<const RowKey> key) override;
+    std::string executionPlan(const sql::Select& select) override;
+    std::int64_t execute(const sql::Statement& statement) override;
 
-    Zeilenschluessel fuegeEin(std::string_view tabelle, std::span<const sql::Zuweisung> werte) override;
-    bool aendere(std::string_view tabelle, Zeilenschluessel zeile, std::span<const sql::Zuweisung> werte) override;
-    bool loesche(std::string_view tabelle, Zeilenschluessel zeile) override;
+    RowKey insert(std::string_view table, std::span<const sql::Assignment> values) override;
+    bool update(std::string_view table, RowKey row, std::span<const sql::Assignment> values) override;
+    bool remove(std::string_view table, RowKey row) override;
 
-    void legeTabelleAn(const Tabellenschema& tabelle) override;
-    void legeIndexeAn(const Tabellenschema& tabelle) override;
-    std::vector<std::vector<IndexSpalte>> fehlendeIndexe(const Tabellenschema& tabelle) override;
-    void entferneTabelle(std::string_view name) override;
+    void createTable(const TableSchema& table) override;
+    void createIndexes(const TableSchema& table) override;
+    std::vector<std::vector<IndexColumn>> missingIndexes(const TableSchema& table) override;
+    void removeTable(std::string_view name) override;
     DamageReport findDamage(std::size_t limit) override;
-    std::unique_ptr<Engine::Massenschreiber> massenschreiber(std::string_view tabelle,
-                                                             std::span<const Spalte> spalten) override;
+    std::unique_ptr<Engine::BulkWriter> bulkWriter(std::string_view table,
+                                                   std::span<const ColumnInfo> columns) override;
 
-    void beginne() override;
-    void schliesseAb() override;
-    void nimmZurueck() override;
+    void begin() override;
+    void commit() override;
+    void rollBack() override;
 
 private:
-    std::optional<Tabellenschema> leseSchema(std::string_view name);
+    std::optional<TableSchema> readSchema(std::string_view name);
     // Runs what only reads, once more on a file that is back.
     template <class Read> auto repeatable(Read read);
     void makeReady();
     void openAgain();
     // Before a change that stands alone, or the first of several.
     void beforeChange();
-    Statement vorbereitet(const sql::Gerendert& gerendert);
-    std::unique_ptr<Zeilenleser> leser(sql::Gerendert gerendert, MitSchluessel schluessel);
-    std::int64_t aendereZeilen(const sql::Gerendert& gerendert);
+    Statement prepared(const sql::Rendered& rendered);
+    std::unique_ptr<RowReader> reader(sql::Rendered rendered, WithKey key);
+    std::int64_t updateRows(const sql::Rendered& rendered);
 
     Patience* patience_;
     std::shared_ptr<Handle> handle_;
-    Tabellenkatalog katalog_;
+    TableCatalog catalog_;
     // Asks for the write lock at once: two writers wait for one another instead of failing halfway.
-    Transaktionsfolge transaktion_{"BEGIN IMMEDIATE"};
+    TransactionSequence transaction_{"BEGIN IMMEDIATE"};
 };
 
 } // namespace quelvarn::sqlite

@@ -57,7 +57,7 @@ void ExclusiveFile::run(const char* sql, const std::filesystem::path& path)
 
 void ExclusiveFile::fail(int result, const std::filesystem::path& path)
 {
-    const DatabaseFault fault(kindOf(result), FEHLER_ALLGEMEIN, "SQLite", utf8FromPath(path),
+    const DatabaseFault fault(kindOf(result), FAULT_GENERAL, "SQLite", utf8FromPath(path),
                               database_ ? sqlite3_errmsg(database_) : sqlite3_errstr(result));
     sqlite3_close(database_); // The destructor does not run for what was never made.
     throw fault;

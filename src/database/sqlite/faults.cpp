@@ -77,7 +77,7 @@ FaultKind kindOf(const Failure& failure, const WatchedFile& file)
 DatabaseFault faultOf(const Failure& failure, const WatchedFile& file)
 {
     const FaultKind kind = kindOf(failure, file);
-    const int number = (failure.code & 0xFF) == SQLITE_ERROR ? FEHLER_ANWEISUNG : FEHLER_ALLGEMEIN;
+    const int number = (failure.code & 0xFF) == SQLITE_ERROR ? FAULT_STATEMENT : FAULT_GENERAL;
     if (kind == FaultKind::Other) // It has no sentence of its own.
         return {kind, number, "SQLite", fmt::format("Die Datenbank meldet einen Fehler.\n{}", file.text()),
                 failure.words};

@@ -12,62 +12,62 @@
 namespace quelvarn::sqlite {
 namespace {
 
-int vergleiche(void*, int linksLaenge, const void* links, int rechtsLaenge, const void* rechts)
+int compare(void*, int linksLength, const void* left, int rightLength, const void* right)
 {
-    return compareText({static_cast<const char*>(links), static_cast<std::size_t>(linksLaenge)},
-                       {static_cast<const char*>(rechts), static_cast<std::size_t>(rechtsLaenge)});
+    return compareText({static_cast<const char*>(left), static_cast<std::size_t>(linksLength)},
+                       {static_cast<const char*>(right), static_cast<std::size_t>(rightLength)});
 }
 
-std::string_view textAus(sqlite3_value* wert)
+std::string_view textFrom(sqlite3_value* value)
 {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(wert));
-    return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(wert))) : std::string_view();
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value))) : std::string_view();
 }
 
 // Most texts are short and plain: they are folded on the stack.
-bool trifft(const LikePattern& muster, std::string_view text)
+bool meets(const LikePattern& pattern, std::string_view text)
 {
-    std::array<char, 256> gefaltet;
-    if (text.size() > gefaltet.size())
-        return muster.matches(text);
+    std::array<char, 256> folded;
+    if (text.size() > folded.size())
+        return pattern.matches(text);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const char zeichen = text[i];
-        if (static_cast<unsigned char>(zeichen) >= 0x80)
-            return muster.matches(text);
-        gefaltet[i] = zeichen >= 'A' && zeichen <= 'Z' ? static_cast<char>(zeichen + ('a' - 'A')) : zeichen;
+        const char character = text[i];
+        if (static_cast<unsigned char>(character) >= 0x80)
+            return pattern.matches(text);
+        folded[i] = character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
     }
-    return muster.matchesFolded({gefaltet.data(), text.size()});
+    return pattern.matchesFolded({folded.data(), text.size()});
 }
 
-void loescheMuster(void* muster)
+void removePattern(void* pattern)
 {
-    delete static_cast<LikePattern*>(muster);
+    delete static_cast<LikePattern*>(pattern);
 }
 
 // Null when either side is Null, which is neither LIKE nor NOT LIKE.
-void qvLike(sqlite3_context* kontext, int, sqlite3_value** werte)
+void qvLike(sqlite3_context* context, int, sqlite3_value** values)
 {
-    if (sqlite3_value_type(werte[0]) == SQLITE_NULL || sqlite3_value_type(werte[1]) == SQLITE_NULL)
+    if (sqlite3_value_type(values[0]) == SQLITE_NULL || sqlite3_value_type(values[1]) == SQLITE_NULL)
         return;
     try {
-        if (const auto* muster = static_cast<const LikePattern*>(sqlite3_get_auxdata(kontext, 0))) {
-            sqlite3_result_int(kontext, trifft(*muster, textAus(werte[1])));
+        if (const auto* pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 0))) {
+            sqlite3_result_int(context, meets(*pattern, textFrom(values[1])));
             return;
         }
-        auto muster = std::make_unique<LikePattern>(textAus(werte[0]), Wildcards::Sql);
-        sqlite3_result_int(kontext, trifft(*muster, textAus(werte[1])));
-        sqlite3_set_auxdata(kontext, 0, muster.release(), loescheMuster);
+        auto pattern = std::make_unique<LikePattern>(textFrom(values[0]), Wildcards::Sql);
+        sqlite3_result_int(context, meets(*pattern, textFrom(values[1])));
+        sqlite3_set_auxdata(context, 0, pattern.release(), removePattern);
     } catch (const std::bad_alloc&) {
-        sqlite3_result_error_nomem(kontext);
+        sqlite3_result_error_nomem(context);
     }
 }
 
 } // namespace
 
-void registriereFunktionen(sqlite3* datenbank)
+void registerFunctions(sqlite3* database)
 {
-    sqlite3_create_collation_v2(datenbank, "QV", SQLITE_UTF8, nullptr, vergleiche, nullptr);
-    sqlite3_create_function_v2(datenbank, "qv_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, qvLike, nullptr,
+    sqlite3_create_collation_v2(database, "QV", SQLITE_UTF8, nullptr, compare, nullptr);
+    sqlite3_create_function_v2(database, "qv_like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, qvLike, nullptr,
                                nullptr, nullptr);
 }
 

@@ -22,7 +22,7 @@ class Statement;
 class Handle : public std::enable_shared_from_this<Handle>
 {
 public:
-    static std::shared_ptr<Handle> oeffne(const std::filesystem::path& pfad, bool neu, Patience* patience);
+    static std::shared_ptr<Handle> open(const std::filesystem::path& documentPath, bool fresh, Patience* patience);
     ~Handle();
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
@@ -32,30 +32,30 @@ public:
     // The file was not to be had in a statement; another handle must be opened.
     bool lost() const { return lost_; }
 
-    Statement bereite(std::string_view sql);
+    Statement prepare(std::string_view sql);
     // Statements without a result, prepared once only.
-    void fuehreAus(const std::string& sql);
+    void execute(const std::string& sql);
     // Around each change of the file. One who writes again and again leaves the others a gap.
-    void lasseVortritt();
-    void merkeSchreiben();
-    std::int64_t geaenderteZeilen() const;
-    std::int64_t letzteZeile() const;
+    void letOthersGoFirst();
+    void rememberWrite();
+    std::int64_t changedRows() const;
+    std::int64_t lastRow() const;
 
     // Throws DatabaseFault.
-    [[noreturn]] void melde(int nummer);
+    [[noreturn]] void notify(int number);
 
 private:
     friend class Statement;
 
-    struct Bereit
+    struct Ready
     {
         std::string sql;
         sqlite3_stmt* statement;
     };
 
-    explicit Handle(const std::filesystem::path& pfad) : file_(pfad) {}
-    void richteEin();
-    void gibZurueck(std::string sql, sqlite3_stmt* statement);
+    explicit Handle(const std::filesystem::path& documentPath) : file_(documentPath) {}
+    void setUp();
+    void giveBack(std::string sql, sqlite3_stmt* statement);
     // A call of the library that may wait for a lock.
     template <class Call> int call(Call call);
     void refuseNested() const;
@@ -63,9 +63,9 @@ private:
     WatchedFile file_;
     LockWait wait_;
     bool lost_ = false;
-    sqlite3* datenbank_ = nullptr;
-    std::vector<Bereit> bereit_; // Not in use; the latest at the end.
-    std::chrono::steady_clock::time_point geschriebenUm_;
+    sqlite3* database_ = nullptr;
+    std::vector<Ready> ready_; // Not in use; the latest at the end.
+    std::chrono::steady_clock::time_point writtenAt_;
 };
 
 template <class Call> int Handle::call(Call call)

@@ -17,13 +17,13 @@ namespace {
 void run(Handle& handle, const std::string& check, std::vector<std::string>& findings)
 {
     try {
-        Statement statement = handle.bereite(check);
+        Statement statement = handle.prepare(check);
         while (statement.step())
             for (const std::string& line : split(statement.text(0), '\n'))
                 if (!line.empty() && !line.starts_with("***") && line != "ok" &&
                     std::ranges::find(findings, line) == findings.end())
                     findings.push_back(line);
-    } catch (const Laufzeitfehler& fault) { // Damage that even the check cannot read through.
+    } catch (const RuntimeError& fault) { // Damage that even the check cannot read through.
         const auto* database = dynamic_cast<const DatabaseFault*>(&fault);
         if (database && database->kind() != FaultKind::Damaged)
             throw;
@@ -35,7 +35,7 @@ std::vector<std::string> tables(Handle& handle)
 {
     std::vector<std::string> names;
     Statement statement =
-        handle.bereite("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT GLOB 'sqlite_*'");
+        handle.prepare("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT GLOB 'sqlite_*'");
     while (statement.step())
         names.emplace_back(statement.text(0));
     return names;
@@ -50,7 +50,7 @@ DamageReport findDamage(Handle& handle, std::size_t limit)
     run(handle, fmt::format("PRAGMA quick_check({})", limit), report.findings);
     for (const std::string& table : tables(handle))
         if (report.findings.size() < limit)
-            run(handle, fmt::format("PRAGMA integrity_check({})", sql::Dialekt::bezeichner(table)), report.findings);
+            run(handle, fmt::format("PRAGMA integrity_check({})", sql::Dialect::identifier(table)), report.findings);
     return report;
 }
 

@@ -5,84 +5,84 @@
 
 namespace quelvarn::sqlite {
 
-Leser::Leser(Statement statement, std::vector<Spalte> spalten, MitSchluessel schluessel)
-    : statement_(std::move(statement)), roh_(statement_.roh()), spalten_(std::move(spalten)),
-      versatz_(schluessel == MitSchluessel::Ja ? 1 : 0)
+Reader::Reader(Statement statement, std::vector<ColumnInfo> columns, WithKey key)
+    : statement_(std::move(statement)), raw_(statement_.raw()), columns_(std::move(columns)),
+      offset_(key == WithKey::Yes ? 1 : 0)
 {}
 
-void Leser::begin()
+void Reader::begin()
 {
-    aufErster_ = next();
+    onFirst_ = next();
 }
 
-bool Leser::next()
+bool Reader::next()
 {
-    if (std::exchange(aufErster_, false))
+    if (std::exchange(onFirst_, false))
         return true;
-    if (zuEnde_)
+    if (atEnd_)
         return false;
     if (statement_.step())
         return true;
-    zuEnde_ = true;
-    statement_.setzeZurueck();
+    atEnd_ = true;
+    statement_.reset();
     return false;
 }
 
-Zeilenschluessel Leser::schluessel() const
+RowKey Reader::key() const
 {
-    return versatz_ ? sqlite3_column_int64(roh_, 0) : 0;
+    return offset_ ? sqlite3_column_int64(raw_, 0) : 0;
 }
 
-bool Leser::istNull(std::size_t spalte) const
+bool Reader::isNull(std::size_t column) const
 {
-    return sqlite3_column_type(roh_, stelle(spalte)) == SQLITE_NULL;
+    return sqlite3_column_type(raw_, position(column)) == SQLITE_NULL;
 }
 
-std::string_view Leser::text(std::size_t spalte) const
+std::string_view Reader::text(std::size_t column) const
 {
-    return statement_.text(stelle(spalte));
+    return statement_.text(position(column));
 }
 
-std::optional<std::string_view> Leser::findText(std::size_t spalte) const
+std::optional<std::string_view> Reader::findText(std::size_t column) const
 {
-    const auto* anfang = reinterpret_cast<const char*>(sqlite3_column_text(roh_, stelle(spalte)));
-    if (!anfang)
+    const auto* begin = reinterpret_cast<const char*>(sqlite3_column_text(raw_, position(column)));
+    if (!begin)
         return std::nullopt;
-    return std::string_view(anfang, static_cast<std::size_t>(sqlite3_column_bytes(roh_, stelle(spalte))));
+    return std::string_view(begin, static_cast<std::size_t>(sqlite3_column_bytes(raw_, position(column))));
 }
 
-std::int64_t Leser::ganzzahl(std::size_t spalte) const
+std::int64_t Reader::integer(std::size_t column) const
 {
-    return sqlite3_column_int64(roh_, stelle(spalte));
+    return sqlite3_column_int64(raw_, position(column));
 }
 
-double Leser::gleitkomma(std::size_t spalte) const
+double Reader::floatingPoint(std::size_t column) const
 {
-    return sqlite3_column_double(roh_, stelle(spalte));
+    return sqlite3_column_double(raw_, position(column));
 }
 
-Zeitpunkt Leser::datum(std::size_t spalte) const
+DateTime Reader::date(std::size_t column) const
 {
-    return parseIso(text(spalte)).value_or(Zeitpunkt{});
+    return parseIso(text(column)).value_or(DateTime{});
 }
 
-Value Leser::wert(std::size_t spalte) const
+Value Reader::value(std::size_t column) const
 {
-    const FeldTyp typ = spalten_[spalte].typ;
-    switch (sqlite3_column_type(roh_, stelle(spalte))) {
+    const FieldType type = columns_[column].type;
+    switch (sqlite3_column_type(raw_, position(column))) {
     case SQLITE_NULL:
         return {};
     case SQLITE_INTEGER:
-        if (typ == FeldTyp::Gleitkomma)
-            return gleitkomma(spalte);
-        return ganzzahl(spalte);
+        if (type == FieldType::FloatingPoint)
+            return floatingPoint(column);
+        return integer(column);
     case SQLITE_FLOAT:
-        return gleitkomma(spalte);
+        return floatingPoint(column);
     default:
-        if (typ == FeldTyp::Datum)
-            if (const auto zeit = parseIso(text(spalte)))
-                return *zeit;
-        return std::string(text(spalte));
+        if (type == FieldType::Date)
+            if (const auto time = parseIso(text(column)))
+                return *time;
+        return std::string(text(column));
     }
 }
 

@@ -14,61 +14,61 @@ Statement::Statement(std::shared_ptr<Handle> handle, std::string sql, sqlite3_st
 Statement::~Statement()
 {
     if (statement_)
-        handle_->gibZurueck(std::move(sql_), statement_);
+        handle_->giveBack(std::move(sql_), statement_);
 }
 
-Statement::Statement(Statement&& andere) noexcept
-    : handle_(std::move(andere.handle_)), sql_(std::move(andere.sql_)),
-      statement_(std::exchange(andere.statement_, nullptr))
+Statement::Statement(Statement&& other) noexcept
+    : handle_(std::move(other.handle_)), sql_(std::move(other.sql_)),
+      statement_(std::exchange(other.statement_, nullptr))
 {}
 
-void Statement::binde(int parameter, const Value& wert)
+void Statement::bind(int parameter, const Value& value)
 {
-    if (const auto* text = std::get_if<std::string>(&wert))
-        bindeText(parameter, *text, Textdauer::Kopie);
-    else if (const auto* zeit = std::get_if<Zeitpunkt>(&wert))
-        bindeText(parameter, formatIso(*zeit), Textdauer::Kopie);
-    else if (const auto* ganz = std::get_if<std::int64_t>(&wert))
-        pruefe(sqlite3_bind_int64(statement_, parameter, *ganz));
-    else if (const auto* zahl = std::get_if<double>(&wert))
-        pruefe(sqlite3_bind_double(statement_, parameter, *zahl));
+    if (const auto* text = std::get_if<std::string>(&value))
+        bindText(parameter, *text, TextDuration::Copy);
+    else if (const auto* time = std::get_if<DateTime>(&value))
+        bindText(parameter, formatIso(*time), TextDuration::Copy);
+    else if (const auto* whole = std::get_if<std::int64_t>(&value))
+        check(sqlite3_bind_int64(statement_, parameter, *whole));
+    else if (const auto* number = std::get_if<double>(&value))
+        check(sqlite3_bind_double(statement_, parameter, *number));
     else
-        pruefe(sqlite3_bind_null(statement_, parameter));
+        check(sqlite3_bind_null(statement_, parameter));
 }
 
-void Statement::bindeText(int parameter, std::string_view text, Textdauer dauer)
+void Statement::bindText(int parameter, std::string_view text, TextDuration duration)
 {
     // An empty view may point nowhere, which SQLite would take as Null.
-    const char* anfang = text.empty() ? "" : text.data();
-    pruefe(sqlite3_bind_text64(statement_, parameter, anfang, text.size(),
-                               dauer == Textdauer::Kopie ? SQLITE_TRANSIENT : SQLITE_STATIC, SQLITE_UTF8));
+    const char* begin = text.empty() ? "" : text.data();
+    check(sqlite3_bind_text64(statement_, parameter, begin, text.size(),
+                              duration == TextDuration::Copy ? SQLITE_TRANSIENT : SQLITE_STATIC, SQLITE_UTF8));
 }
 
-void Statement::pruefe(int ergebnis) const
+void Statement::check(int result) const
 {
-    if (ergebnis != SQLITE_OK)
-        handle_->melde(ergebnis);
+    if (result != SQLITE_OK)
+        handle_->notify(result);
 }
 
 bool Statement::step()
 {
-    const int ergebnis = handle_->call([this] { return sqlite3_step(statement_); });
-    if (ergebnis == SQLITE_ROW)
+    const int result = handle_->call([this] { return sqlite3_step(statement_); });
+    if (result == SQLITE_ROW)
         return true;
-    if (ergebnis != SQLITE_DONE)
-        handle_->melde(ergebnis);
+    if (result != SQLITE_DONE)
+        handle_->notify(result);
     return false;
 }
 
-std::string_view Statement::text(int spalte) const
+std::string_view Statement::text(int column) const
 {
-    const auto* anfang = reinterpret_cast<const char*>(sqlite3_column_text(statement_, spalte));
-    if (!anfang)
+    const auto* begin = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
+    if (!begin)
         return {};
-    return {anfang, static_cast<std::size_t>(sqlite3_column_bytes(statement_, spalte))};
+    return {begin, static_cast<std::size_t>(sqlite3_column_bytes(statement_, column))};
 }
 
-void Statement::setzeZurueck()
+void Statement::reset()
 {
     sqlite3_reset(statement_);
 }

@@ -21,22 +21,22 @@ public:
     Statement(Statement&&) noexcept;
     Statement& operator=(Statement&&) = delete;
 
-    enum class Textdauer { Kopie, UeberlebtSchritte };
+    enum class TextDuration { Copy, SurvivesSteps };
 
     // Parameters count from 1.
-    void binde(int parameter, const Value& wert);
-    void bindeText(int parameter, std::string_view text, Textdauer dauer);
+    void bind(int parameter, const Value& value);
+    void bindText(int parameter, std::string_view text, TextDuration duration);
     // True for a row, false behind the last one.
     bool step();
     // Column of the current row, counted from 0; "" for Null.
-    std::string_view text(int spalte) const;
+    std::string_view text(int column) const;
     // Ready for another run; frees the read lock.
-    void setzeZurueck();
+    void reset();
 
-    sqlite3_stmt* roh() const { return statement_; }
+    sqlite3_stmt* raw() const { return statement_; }
 
 private:
-    void pruefe(int ergebnis) const;
+    void check(int result) const;
 
     std::shared_ptr<Handle> handle_;
     std::string sql_;

@@ -83,39 +83,39 @@ fs::path appendParts(const fs::path& root, const std::vector<std::string>& parts
 
 } // namespace
 
-Laufwerksordner::Laufwerksordner(fs::path ordner) : ordner_(std::move(ordner))
+DriveFolder::DriveFolder(fs::path folder) : folder_(std::move(folder))
 {
     // A folder that cannot be made shows at the first use of its drive.
     std::error_code ignored;
-    if (laufwerk('c').empty())
-        fs::create_directories(ordner_ / "c", ignored);
+    if (drive('c').empty())
+        fs::create_directories(folder_ / "c", ignored);
 }
 
-std::vector<Laufwerk> Laufwerksordner::laufwerke() const
+std::vector<Drive> DriveFolder::drives() const
 {
-    std::vector<Laufwerk> result;
+    std::vector<Drive> result;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        if (!laufwerk(letter).empty())
-            result.push_back({std::string(1, letter) + ":", freigabeVon(letter)});
+        if (!drive(letter).empty())
+            result.push_back({std::string(1, letter) + ":", releaseOf(letter)});
     }
     return result;
 }
 
-fs::path Laufwerksordner::laufwerk(char buchstabe) const
+fs::path DriveFolder::drive(char driveLetter) const
 {
-    const std::string letter(1, buchstabe);
+    const std::string letter(1, driveLetter);
     for (const std::string& name : {toLower(letter), toUpper(letter)}) {
-        if (isThere(ordner_ / name))
-            return ordner_ / name;
+        if (isThere(folder_ / name))
+            return folder_ / name;
     }
     return {};
 }
 
-std::string Laufwerksordner::freigabeVon(char buchstabe) const
+std::string DriveFolder::releaseOf(char driveLetter) const
 {
-    const std::string letter(1, buchstabe);
+    const std::string letter(1, driveLetter);
     for (const std::string& name : {toLower(letter), toUpper(letter)}) {
-        std::ifstream file(ordner_ / (name + ".freigabe"));
+        std::ifstream file(folder_ / (name + ".freigabe"));
         std::string line;
         if (std::getline(file, line))
             return std::string(trim(line));
@@ -123,32 +123,32 @@ std::string Laufwerksordner::freigabeVon(char buchstabe) const
     return {};
 }
 
-fs::path Laufwerksordner::freigabe(const std::string& server, const std::string& name) const
+fs::path DriveFolder::release(const std::string& server, const std::string& name) const
 {
-    fs::path share = appendParts(ordner_ / "freigaben", {server, name});
+    fs::path share = appendParts(folder_ / "freigaben", {server, name});
     if (isThere(share))
         return share;
     const std::string wanted = foldCase("\\\\" + server + "\\" + name);
-    for (const Laufwerk& mapped : laufwerke()) {
-        if (foldCase(mapped.freigabe) == wanted)
-            return laufwerk(mapped.buchstabe.front());
+    for (const Drive& mapped : drives()) {
+        if (foldCase(mapped.release) == wanted)
+            return drive(mapped.letter.front());
     }
     return {};
 }
 
-fs::path Laufwerksordner::systempfad(std::string_view windowsPfad) const
+fs::path DriveFolder::systemPath(std::string_view windowsPath) const
 {
-    const std::string path = replaceAll(windowsPfad, "/", "\\");
+    const std::string path = replaceAll(windowsPath, "/", "\\");
     if (path.size() < 2 || path.find('\0') != std::string::npos)
         return {};
     std::vector<std::string> parts = split(std::string_view(path).substr(2), '\\');
     if (isLetter(path[0]) && path[1] == ':') {
-        const fs::path root = laufwerk(path[0]);
+        const fs::path root = drive(path[0]);
         return root.empty() ? root : appendParts(root, partsFrom(std::move(parts), 0));
     }
     if (!path.starts_with("\\\\") || parts.size() < 2 || !isName(parts[0]) || !isName(parts[1]))
         return {};
-    const fs::path root = freigabe(parts[0], parts[1]);
+    const fs::path root = release(parts[0], parts[1]);
     return root.empty() ? root : appendParts(root, partsFrom(std::move(parts), 2));
 }
 

@@ -25,23 +25,23 @@ std::error_code lastError()
     return {errno, std::generic_category()};
 }
 
-void check(int result, std::string_view pfad)
+void check(int result, std::string_view documentPath)
 {
     if (result != 0)
-        throw dateifehler(lastError(), pfad);
+        throw fileFault(lastError(), documentPath);
 }
 
 // An open file, closed when the object goes.
 class OpenFile
 {
 public:
-    OpenFile(const fs::path& path, std::string_view pfad)
+    OpenFile(const fs::path& path, std::string_view documentPath)
     {
-        check(stat(path.c_str(), &status_), pfad);
+        check(stat(path.c_str(), &status_), documentPath);
         if (S_ISDIR(status_.st_mode))
-            throw dateifehler(std::errc::is_a_directory, pfad);
+            throw fileFault(std::errc::is_a_directory, documentPath);
         handle_ = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-        check(handle_ < 0 ? -1 : 0, pfad);
+        check(handle_ < 0 ? -1 : 0, documentPath);
     }
     ~OpenFile() { close(handle_); }
     OpenFile(const OpenFile&) = delete;
@@ -55,121 +55,121 @@ private:
     struct stat status_ = {};
 };
 
-struct stat statusOf(const fs::path& path, std::string_view pfad)
+struct stat statusOf(const fs::path& path, std::string_view documentPath)
 {
     struct stat status = {};
-    check(stat(path.c_str(), &status), pfad);
+    check(stat(path.c_str(), &status), documentPath);
     return status;
 }
 
 // The mode of a file that is about to be replaced; nothing when there is none. Replacing a file asks nobody
 // whether it may be written, so it is asked here.
-std::optional<mode_t> modeOfReplaced(const fs::path& path, std::string_view pfad)
+std::optional<mode_t> modeOfReplaced(const fs::path& path, std::string_view documentPath)
 {
     struct stat status = {};
     if (stat(path.c_str(), &status) != 0)
         return std::nullopt;
     if (S_ISDIR(status.st_mode))
-        throw dateifehler(std::errc::is_a_directory, pfad);
+        throw fileFault(std::errc::is_a_directory, documentPath);
     if ((status.st_mode & writeBits) == 0)
-        throw dateifehler(std::errc::permission_denied, pfad);
-    check(access(path.c_str(), W_OK), pfad);
+        throw fileFault(std::errc::permission_denied, documentPath);
+    check(access(path.c_str(), W_OK), documentPath);
     return status.st_mode;
 }
 
 // Makes the file at `path` anew; `fill` writes it.
-template <typename Fill> void replaceFile(const fs::path& path, std::string_view pfad, Fill fill)
+template <typename Fill> void replaceFile(const fs::path& path, std::string_view documentPath, Fill fill)
 {
     try {
-        const auto mode = modeOfReplaced(path, pfad);
+        const auto mode = modeOfReplaced(path, documentPath);
         NewFile file(path);
         fill(file);
         if (mode)
             file.setMode(*mode);
         file.replaceTarget();
     } catch (const std::system_error& error) {
-        throw dateifehler(error.code(), pfad);
+        throw fileFault(error.code(), documentPath);
     }
 }
 
-Zeitpunkt timeOf(const statx_timestamp& time)
+DateTime timeOf(const statx_timestamp& time)
 {
     return localTime(static_cast<std::time_t>(time.tv_sec));
 }
 
 } // namespace
 
-bool LinuxDateien::dateiVorhanden(std::string_view pfad) const
+bool LinuxFiles::fileExists(std::string_view documentPath) const
 {
     std::error_code ignored;
-    const fs::file_status status = fs::status(systempfad(pfad), ignored);
+    const fs::file_status status = fs::status(systemPath(documentPath), ignored);
     return fs::exists(status) && !fs::is_directory(status);
 }
 
-bool LinuxDateien::ordnerVorhanden(std::string_view pfad) const
+bool LinuxFiles::folderExists(std::string_view documentPath) const
 {
     std::error_code ignored;
-    return fs::is_directory(systempfad(pfad), ignored);
+    return fs::is_directory(systemPath(documentPath), ignored);
 }
 
-void LinuxDateien::ordnerAnlegen(std::string_view pfad)
+void LinuxFiles::createFolder(std::string_view documentPath)
 {
     std::error_code error;
-    const bool made = fs::create_directory(pfadMitLaufwerk(pfad), error);
+    const bool made = fs::create_directory(pathWithDrive(documentPath), error);
     if (error)
-        throw dateifehler(error, pfad);
+        throw fileFault(error, documentPath);
     if (!made)
-        throw dateifehler(std::errc::file_exists, pfad);
+        throw fileFault(std::errc::file_exists, documentPath);
 }
 
-std::vector<Ordnereintrag> LinuxDateien::inhalt(std::string_view ordner) const
+std::vector<FolderEntry> LinuxFiles::content(std::string_view folder) const
 {
-    std::vector<Ordnereintrag> result;
+    std::vector<FolderEntry> result;
     std::error_code error;
-    fs::directory_iterator entry(pfadMitLaufwerk(ordner), error);
+    fs::directory_iterator entry(pathWithDrive(folder), error);
     for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
         std::error_code ignored;
         result.push_back({entry->path().filename().string(), entry->is_directory(ignored)});
     }
     if (error)
-        throw dateifehler(error, ordner);
-    std::sort(result.begin(), result.end(), [](const Ordnereintrag& left, const Ordnereintrag& right) {
+        throw fileFault(error, folder);
+    std::sort(result.begin(), result.end(), [](const FolderEntry& left, const FolderEntry& right) {
         const int order = compareText(left.name, right.name);
         return order != 0 ? order < 0 : left.name < right.name;
     });
     return result;
 }
 
-std::optional<Dateiattribute> LinuxDateien::attribute(std::string_view pfad) const
+std::optional<FileAttributes> LinuxFiles::attribute(std::string_view documentPath) const
 {
-    const fs::path path = systempfad(pfad);
+    const fs::path path = systemPath(documentPath);
     struct statx status = {};
     if (path.empty() || statx(AT_FDCWD, path.c_str(), 0, STATX_BASIC_STATS | STATX_BTIME, &status) != 0 ||
         S_ISDIR(status.stx_mode))
         return std::nullopt;
-    Dateiattribute result;
-    result.schreibgeschuetzt = (status.stx_mode & writeBits) == 0;
-    result.versteckt = path.filename().native().starts_with('.');
-    result.archiv = getxattr(path.c_str(), archiveAttribute, nullptr, 0) >= 0;
-    result.erstellt = timeOf((status.stx_mask & STATX_BTIME) ? status.stx_btime : status.stx_mtime);
-    result.geaendert = timeOf(status.stx_mtime);
-    result.zugriff = timeOf(status.stx_atime);
-    result.groesse = static_cast<std::int64_t>(status.stx_size);
+    FileAttributes result;
+    result.readOnly = (status.stx_mode & writeBits) == 0;
+    result.hidden = path.filename().native().starts_with('.');
+    result.archive = getxattr(path.c_str(), archiveAttribute, nullptr, 0) >= 0;
+    result.created = timeOf((status.stx_mask & STATX_BTIME) ? status.stx_btime : status.stx_mtime);
+    result.changed = timeOf(status.stx_mtime);
+    result.access = timeOf(status.stx_atime);
+    result.size = static_cast<std::int64_t>(status.stx_size);
     return result;
 }
 
-void LinuxDateien::setzeSchreibschutz(std::string_view pfad, bool gesetzt)
+void LinuxFiles::setReadOnly(std::string_view documentPath, bool set)
 {
-    const fs::path path = pfadMitLaufwerk(pfad);
-    const mode_t mode = statusOf(path, pfad).st_mode & 07777;
-    check(chmod(path.c_str(), gesetzt ? mode & ~writeBits : mode | S_IWUSR), pfad);
+    const fs::path path = pathWithDrive(documentPath);
+    const mode_t mode = statusOf(path, documentPath).st_mode & 07777;
+    check(chmod(path.c_str(), set ? mode & ~writeBits : mode | S_IWUSR), documentPath);
 }
 
-void LinuxDateien::setzeArchiv(std::string_view pfad, bool gesetzt)
+void LinuxFiles::setArchive(std::string_view documentPath, bool set)
 {
-    const fs::path path = pfadMitLaufwerk(pfad);
+    const fs::path path = pathWithDrive(documentPath);
     const auto change = [&] {
-        if (gesetzt)
+        if (set)
             return setxattr(path.c_str(), archiveAttribute, "1", 1, 0);
         const int result = removexattr(path.c_str(), archiveAttribute);
         return result != 0 && errno == ENODATA ? 0 : result;
@@ -177,29 +177,29 @@ void LinuxDateien::setzeArchiv(std::string_view pfad, bool gesetzt)
     if (change() == 0)
         return;
     if (errno != EACCES)
-        throw dateifehler(lastError(), pfad);
+        throw fileFault(lastError(), documentPath);
     // The system counts this as writing; a write-protected file is opened for it.
-    const mode_t mode = statusOf(path, pfad).st_mode & 07777;
-    check(chmod(path.c_str(), mode | S_IWUSR), pfad);
+    const mode_t mode = statusOf(path, documentPath).st_mode & 07777;
+    check(chmod(path.c_str(), mode | S_IWUSR), documentPath);
     const int result = change();
     const std::error_code error = lastError();
-    check(chmod(path.c_str(), mode), pfad);
+    check(chmod(path.c_str(), mode), documentPath);
     if (result != 0)
-        throw dateifehler(error, pfad);
+        throw fileFault(error, documentPath);
 }
 
-std::string LinuxDateien::lese(std::string_view pfad) const
+std::string LinuxFiles::read(std::string_view documentPath) const
 {
-    const OpenFile file(pfadMitLaufwerk(pfad), pfad);
+    const OpenFile file(pathWithDrive(documentPath), documentPath);
     std::string content(static_cast<std::size_t>(file.status().st_size), '\0');
     std::size_t length = 0;
     while (true) {
         if (length == content.size())
             content.resize(content.size() + 4096); // It may have grown meanwhile.
-        const ssize_t count = read(file.handle(), content.data() + length, content.size() - length);
+        const ssize_t count = ::read(file.handle(), content.data() + length, content.size() - length);
         if (count < 0 && errno == EINTR)
             continue;
-        check(count < 0 ? -1 : 0, pfad);
+        check(count < 0 ? -1 : 0, documentPath);
         if (count == 0)
             break;
         length += static_cast<std::size_t>(count);
@@ -208,42 +208,42 @@ std::string LinuxDateien::lese(std::string_view pfad) const
     return content;
 }
 
-void LinuxDateien::schreibe(std::string_view pfad, std::string_view inhalt)
+void LinuxFiles::write(std::string_view documentPath, std::string_view content)
 {
-    replaceFile(pfadMitLaufwerk(pfad), pfad, [&](NewFile& file) { file.write(inhalt); });
+    replaceFile(pathWithDrive(documentPath), documentPath, [&](NewFile& file) { file.write(content); });
 }
 
 // Like every copy of a file here: the time of its last change comes along, rights do not.
-void LinuxDateien::kopiere(std::string_view von, std::string_view nach)
+void LinuxFiles::copy(std::string_view from, std::string_view after)
 {
-    const OpenFile source(pfadMitLaufwerk(von), von);
-    replaceFile(pfadMitLaufwerk(nach), nach, [&](NewFile& file) {
+    const OpenFile source(pathWithDrive(from), from);
+    replaceFile(pathWithDrive(after), after, [&](NewFile& file) {
         file.copyFrom(source.handle());
         file.setModified(source.status().st_mtim);
     });
 }
 
-void LinuxDateien::loesche(std::string_view pfad)
+void LinuxFiles::remove(std::string_view documentPath)
 {
-    const fs::path path = pfadMitLaufwerk(pfad);
-    const mode_t mode = statusOf(path, pfad).st_mode;
+    const fs::path path = pathWithDrive(documentPath);
+    const mode_t mode = statusOf(path, documentPath).st_mode;
     if (S_ISDIR(mode))
-        throw dateifehler(std::errc::is_a_directory, pfad);
+        throw fileFault(std::errc::is_a_directory, documentPath);
     if ((mode & writeBits) == 0)
-        throw dateifehler(std::errc::permission_denied, pfad);
-    check(unlink(path.c_str()), pfad);
+        throw fileFault(std::errc::permission_denied, documentPath);
+    check(unlink(path.c_str()), documentPath);
 }
 
-fs::path LinuxDateien::systempfad(std::string_view pfad) const
+fs::path LinuxFiles::systemPath(std::string_view documentPath) const
 {
-    return laufwerke_.systempfad(pfad);
+    return drives_.systemPath(documentPath);
 }
 
-fs::path LinuxDateien::pfadMitLaufwerk(std::string_view pfad) const
+fs::path LinuxFiles::pathWithDrive(std::string_view documentPath) const
 {
-    fs::path path = systempfad(pfad);
+    fs::path path = systemPath(documentPath);
     if (path.empty())
-        throw dateifehler(std::errc::no_such_device, pfad);
+        throw fileFault(std::errc::no_such_device, documentPath);
     return path;
 }
 

@@ -7,32 +7,32 @@ namespace quelvarn {
 
 // Files under the folders that stand for the drives. Read-only is a file that nobody may write, hidden one whose
 // name begins with a point; the archive attribute is an extended attribute of the file.
-class LinuxDateien : public Dateien
+class LinuxFiles : public Files
 {
 public:
-    explicit LinuxDateien(const Laufwerksordner& laufwerke) : laufwerke_(laufwerke) {}
+    explicit LinuxFiles(const DriveFolder& drives) : drives_(drives) {}
 
-    bool dateiVorhanden(std::string_view pfad) const override;
-    bool ordnerVorhanden(std::string_view pfad) const override;
-    void ordnerAnlegen(std::string_view pfad) override;
-    std::vector<Ordnereintrag> inhalt(std::string_view ordner) const override;
+    bool fileExists(std::string_view documentPath) const override;
+    bool folderExists(std::string_view documentPath) const override;
+    void createFolder(std::string_view documentPath) override;
+    std::vector<FolderEntry> content(std::string_view folder) const override;
 
-    std::optional<Dateiattribute> attribute(std::string_view pfad) const override;
-    void setzeSchreibschutz(std::string_view pfad, bool gesetzt) override;
-    void setzeArchiv(std::string_view pfad, bool gesetzt) override;
+    std::optional<FileAttributes> attribute(std::string_view documentPath) const override;
+    void setReadOnly(std::string_view documentPath, bool set) override;
+    void setArchive(std::string_view documentPath, bool set) override;
 
-    std::string lese(std::string_view pfad) const override;
-    void schreibe(std::string_view pfad, std::string_view inhalt) override;
-    void kopiere(std::string_view von, std::string_view nach) override;
-    void loesche(std::string_view pfad) override;
+    std::string read(std::string_view documentPath) const override;
+    void write(std::string_view documentPath, std::string_view content) override;
+    void copy(std::string_view from, std::string_view after) override;
+    void remove(std::string_view documentPath) override;
 
-    std::filesystem::path systempfad(std::string_view pfad) const override;
+    std::filesystem::path systemPath(std::string_view documentPath) const override;
 
 private:
-    // As systempfad, but a missing drive is a fault.
-    std::filesystem::path pfadMitLaufwerk(std::string_view pfad) const;
+    // As systemPath, but a missing drive is a fault.
+    std::filesystem::path pathWithDrive(std::string_view documentPath) const;
 
-    const Laufwerksordner& laufwerke_;
+    const DriveFolder& drives_;
 };
 
 } // namespace quelvarn

@@ -7,13 +7,13 @@
 namespace quelvarn {
 
 // What the clock on the wall shows at this moment.
-inline Zeitpunkt localTime(std::time_t moment)
+inline DateTime localTime(std::time_t moment)
 {
     std::tm parts{};
     localtime_r(&moment, &parts);
     // A leap second counts as the one before it.
     const int second = parts.tm_sec > 59 ? 59 : parts.tm_sec;
-    return Zeitpunkt::aus({parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, second});
+    return DateTime::out({parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, second});
 }
 
 } // namespace quelvarn

@@ -13,18 +13,18 @@ namespace quelvarn {
 #ifdef QUELVARN_CUPS
 namespace {
 
-struct Papier
+struct Paper
 {
     std::string_view name;
     int code;
 };
 
 // Papers that have a code of their own; each name goes on with its size.
-constexpr Papier papiere[] = {
+constexpr Paper papers[] = {
     {"iso_a4", 9}, {"iso_a3", 8}, {"iso_a5", 11}, {"iso_a2", 66}, {"na_letter", 1}, {"na_legal", 5},
     {"A4", 9},     {"A3", 8},     {"A5", 11},     {"A2", 66},     {"Letter", 1},    {"Legal", 5},
 };
-constexpr int nichtGenannt = 256;
+constexpr int notNamed = 256;
 
 // The queues at the time of the question.
 class Queues
@@ -55,31 +55,31 @@ int numberOr(std::string_view text, int otherwise)
     return number;
 }
 
-int papiercode(std::string_view medium)
+int paperCode(std::string_view medium)
 {
-    for (const Papier& papier : papiere) {
-        const std::string_view rest = medium.substr(std::min(papier.name.size(), medium.size()));
-        if (medium.starts_with(papier.name) && (rest.empty() || rest.front() == '_' || rest.front() == '.'))
-            return papier.code;
+    for (const Paper& paper : papers) {
+        const std::string_view rest = medium.substr(std::min(paper.name.size(), medium.size()));
+        if (medium.starts_with(paper.name) && (rest.empty() || rest.front() == '_' || rest.front() == '.'))
+            return paper.code;
     }
-    return nichtGenannt;
+    return notNamed;
 }
 
-Standarddrucker settingsOf(const cups_dest_t& queue)
+DefaultPrinter settingsOf(const cups_dest_t& queue)
 {
-    Standarddrucker result;
+    DefaultPrinter result;
     result.name = queue.name;
-    result.papiercode = papiercode(optionOf(queue, "media"));
-    result.exemplare = numberOr(optionOf(queue, "copies"), 1);
+    result.paperCode = paperCode(optionOf(queue, "media"));
+    result.copies = numberOr(optionOf(queue, "copies"), 1);
     // 4 and 5 are the two ways across, 3 and 6 those upright.
     const int orientation = numberOr(optionOf(queue, "orientation-requested"), 3);
-    result.ausrichtung = orientation == 4 || orientation == 5 ? 2 : 1;
+    result.orientation = orientation == 4 || orientation == 5 ? 2 : 1;
     return result;
 }
 
 } // namespace
 
-std::vector<std::string> LinuxDrucker::namen() const
+std::vector<std::string> LinuxPrinters::names() const
 {
     std::vector<std::string> result;
     const Queues queues;
@@ -91,7 +91,7 @@ std::vector<std::string> LinuxDrucker::namen() const
 }
 
 // Without a chosen one the first queue stands in, as in other programs' print dialogs.
-std::optional<Standarddrucker> LinuxDrucker::standard() const
+std::optional<DefaultPrinter> LinuxPrinters::standard() const
 {
     const Queues queues;
     if (queues.all().empty())
@@ -105,12 +105,12 @@ std::optional<Standarddrucker> LinuxDrucker::standard() const
 
 #else
 
-std::vector<std::string> LinuxDrucker::namen() const
+std::vector<std::string> LinuxPrinters::names() const
 {
     return {};
 }
 
-std::optional<Standarddrucker> LinuxDrucker::standard() const
+std::optional<DefaultPrinter> LinuxPrinters::standard() const
 {
     return std::nullopt;
 }

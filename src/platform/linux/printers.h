@@ -5,11 +5,11 @@
 namespace quelvarn {
 
 // The print queues of CUPS; no printer at all in a build without it.
-class LinuxDrucker : public Drucker
+class LinuxPrinters : public Printers
 {
 public:
-    std::vector<std::string> namen() const override;
-    std::optional<Standarddrucker> standard() const override;
+    std::vector<std::string> names() const override;
+    std::optional<DefaultPrinter> standard() const override;
 };
 
 } // namespace quelvarn

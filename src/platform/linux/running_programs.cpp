@@ -65,16 +65,16 @@ bool writeWhole(const fs::path& path, const std::string& text)
 
 } // namespace
 
-LinuxLaufendeProgramme::LinuxLaufendeProgramme(std::vector<fs::path> folders) : folders_(std::move(folders)) {}
+LinuxRunningPrograms::LinuxRunningPrograms(std::vector<fs::path> folders) : folders_(std::move(folders)) {}
 
-LinuxLaufendeProgramme::~LinuxLaufendeProgramme()
+LinuxRunningPrograms::~LinuxRunningPrograms()
 {
     std::error_code ignored;
     if (!ownFile_.empty())
         fs::remove(ownFile_, ignored);
 }
 
-std::vector<std::string> LinuxLaufendeProgramme::fenstertitel() const
+std::vector<std::string> LinuxRunningPrograms::windowTitle() const
 {
     std::vector<std::string> result;
     for (const fs::path& folder : folders_) {
@@ -84,8 +84,8 @@ std::vector<std::string> LinuxLaufendeProgramme::fenstertitel() const
         for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
             if (!isProcessNumber(entry->path().filename().string()))
                 continue;
-            if (auto titel = titelAus(entry->path())) {
-                result.push_back(std::move(*titel));
+            if (auto title = titleFrom(entry->path())) {
+                result.push_back(std::move(*title));
             } else {
                 std::error_code ignored;
                 fs::remove(entry->path(), ignored);
@@ -95,22 +95,22 @@ std::vector<std::string> LinuxLaufendeProgramme::fenstertitel() const
     return result;
 }
 
-std::optional<std::string> LinuxLaufendeProgramme::titelAus(const fs::path& datei) const
+std::optional<std::string> LinuxRunningPrograms::titleFrom(const fs::path& path) const
 {
-    std::ifstream file(datei);
+    std::ifstream file(path);
     std::string start;
-    std::string titel;
+    std::string title;
     std::getline(file, start);
-    std::getline(file, titel);
-    if (start.empty() || start != startOf(datei.filename().string()))
+    std::getline(file, title);
+    if (start.empty() || start != startOf(path.filename().string()))
         return std::nullopt;
-    return titel;
+    return title;
 }
 
-void LinuxLaufendeProgramme::eigenerTitel(std::string_view titel)
+void LinuxRunningPrograms::ownTitle(std::string_view title)
 {
     const std::string process = std::to_string(getpid());
-    const std::string text = startOf(process) + "\n" + replaceAll(titel, "\n", " ") + "\n";
+    const std::string text = startOf(process) + "\n" + replaceAll(title, "\n", " ") + "\n";
     const fs::path before = std::exchange(ownFile_, {});
     for (const fs::path& folder : folders_) {
         if (makeOwnFolder(folder) && writeWhole(folder / process, text)) {
@@ -123,7 +123,7 @@ void LinuxLaufendeProgramme::eigenerTitel(std::string_view titel)
         fs::remove(before, ignored);
 }
 
-std::vector<fs::path> LinuxLaufendeProgramme::standardFolders()
+std::vector<fs::path> LinuxRunningPrograms::standardFolders()
 {
     std::vector<fs::path> folders;
     const char* runFolder = std::getenv("XDG_RUNTIME_DIR");

@@ -14,25 +14,25 @@ namespace {
 
 struct LinuxPorts : SystemPorts
 {
-    explicit LinuxPorts(const std::filesystem::path& laufwerkeOrdner) : ordner_(laufwerkeOrdner) {}
+    explicit LinuxPorts(const std::filesystem::path& drivesFolder) : folder_(drivesFolder) {}
 
-    Uhr& uhr() override { return uhr_; }
-    Umgebung& umgebung() override { return umgebung_; }
-    Dateien& dateien() override { return dateien_; }
-    Laufwerke& laufwerke() override { return laufwerke_; }
-    Drucker& drucker() override { return drucker_; }
-    LaufendeProgramme& programme() override { return programme_; }
-    Standardanwendung& standardanwendung() override { return standardanwendung_; }
+    Clock& clock() override { return clock_; }
+    Environment& environment() override { return environment_; }
+    Files& files() override { return files_; }
+    Drives& drives() override { return drives_; }
+    Printers& printers() override { return printers_; }
+    RunningPrograms& programs() override { return programs_; }
+    DefaultApplication& defaultApplication() override { return defaultApplication_; }
 
 private:
-    Laufwerksordner ordner_;
-    LinuxUhr uhr_;
-    LinuxUmgebung umgebung_;
-    LinuxDateien dateien_{ordner_};
-    LinuxLaufwerke laufwerke_{ordner_};
-    LinuxDrucker drucker_;
-    LinuxLaufendeProgramme programme_{LinuxLaufendeProgramme::standardFolders()};
-    LinuxStandardanwendung standardanwendung_{dateien_};
+    DriveFolder folder_;
+    LinuxClock clock_;
+    LinuxEnvironment environment_;
+    LinuxFiles files_{folder_};
+    LinuxDrives drives_{folder_};
+    LinuxPrinters printers_;
+    LinuxRunningPrograms programs_{LinuxRunningPrograms::standardFolders()};
+    LinuxDefaultApplication defaultApplication_{files_};
 };
 
 std::filesystem::path homeFolder()
@@ -46,12 +46,12 @@ std::filesystem::path homeFolder()
 
 } // namespace
 
-std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& laufwerkeOrdner)
+std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& drivesFolder)
 {
-    return std::make_unique<LinuxPorts>(laufwerkeOrdner);
+    return std::make_unique<LinuxPorts>(drivesFolder);
 }
 
-std::filesystem::path standardLaufwerkeOrdner()
+std::filesystem::path standardDrivesFolder()
 {
     const char* data = std::getenv("XDG_DATA_HOME");
     const std::filesystem::path base = data && *data == '/' ? data : homeFolder() / ".local/share";

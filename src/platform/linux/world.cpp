@@ -70,12 +70,12 @@ private:
 
 } // namespace
 
-Zeitpunkt LinuxUhr::jetzt() const
+DateTime LinuxClock::now() const
 {
     return localTime(std::time(nullptr));
 }
 
-std::string LinuxUmgebung::rechnername() const
+std::string LinuxEnvironment::computerName() const
 {
     utsname system{};
     uname(&system);
@@ -84,7 +84,7 @@ std::string LinuxUmgebung::rechnername() const
     return std::string(leftCharacters(name.substr(0, name.find('.')), longestName));
 }
 
-std::string LinuxUmgebung::anwendername() const
+std::string LinuxEnvironment::userName() const
 {
     std::vector<char> buffer(16384);
     passwd entry{};
@@ -95,22 +95,22 @@ std::string LinuxUmgebung::anwendername() const
     return std::string(leftCharacters(name, longestName));
 }
 
-Systemversion LinuxUmgebung::systemversion() const
+SystemVersion LinuxEnvironment::systemVersion() const
 {
     utsname system{};
     uname(&system);
     std::string_view release(system.release);
-    Systemversion version;
+    SystemVersion version;
     version.major = takeNumber(release);
     version.minor = takeNumber(release);
     return version;
 }
 
-bool LinuxStandardanwendung::oeffne(std::string_view pfad)
+bool LinuxDefaultApplication::open(std::string_view documentPath)
 {
-    if (!dateien_.dateiVorhanden(pfad) && !dateien_.ordnerVorhanden(pfad))
+    if (!files_.fileExists(documentPath) && !files_.folderExists(documentPath))
         return false;
-    const pid_t process = Detached().start(programm_, dateien_.systempfad(pfad).string());
+    const pid_t process = Detached().start(program_, files_.systemPath(documentPath).string());
     if (process < 0)
         return false;
     // Its end is only waited for so that no dead process stays in the list.

@@ -11,46 +11,46 @@
 
 namespace quelvarn {
 
-class Dateien;
+class Files;
 
-class LinuxUhr : public Uhr
+class LinuxClock : public Clock
 {
 public:
-    Zeitpunkt jetzt() const override;
+    DateTime now() const override;
 };
 
 // Names are cut at 25 characters, as they stand in the tables.
-class LinuxUmgebung : public Umgebung
+class LinuxEnvironment : public Environment
 {
 public:
-    std::string rechnername() const override;
-    std::string anwendername() const override;
-    Systemversion systemversion() const override;
-    std::string systemlaufwerk() const override { return "C:"; }
+    std::string computerName() const override;
+    std::string userName() const override;
+    SystemVersion systemVersion() const override;
+    std::string systemDrive() const override { return "C:"; }
 };
 
-class LinuxLaufwerke : public Laufwerke
+class LinuxDrives : public Drives
 {
 public:
-    explicit LinuxLaufwerke(const Laufwerksordner& laufwerke) : laufwerke_(laufwerke) {}
-    std::vector<Laufwerk> liste() const override { return laufwerke_.laufwerke(); }
+    explicit LinuxDrives(const DriveFolder& drives) : drives_(drives) {}
+    std::vector<Drive> list() const override { return drives_.drives(); }
 
 private:
-    const Laufwerksordner& laufwerke_;
+    const DriveFolder& drives_;
 };
 
 // Hands a file to the desktop's opener, which is left to itself.
-class LinuxStandardanwendung : public Standardanwendung
+class LinuxDefaultApplication : public DefaultApplication
 {
 public:
-    explicit LinuxStandardanwendung(const Dateien& dateien, std::string programm = "xdg-open")
-        : dateien_(dateien), programm_(std::move(programm))
+    explicit LinuxDefaultApplication(const Files& files, std::string program = "xdg-open")
+        : files_(files), program_(std::move(program))
     {}
-    bool oeffne(std::string_view pfad) override;
+    bool open(std::string_view documentPath) override;
 
 private:
-    const Dateien& dateien_;
-    std::string programm_;
+    const Files& files_;
+    std::string program_;
 };
 
 } // namespace quelvarn

@@ -11,13 +11,13 @@
 namespace quelvarn {
 namespace {
 
-struct Bedeutung
+struct Meaning
 {
-    DWORD fehler;
-    std::errc grund;
+    DWORD fault;
+    std::errc reason;
 };
 
-constexpr Bedeutung bedeutungen[] = {
+constexpr Meaning meanings[] = {
     {ERROR_FILE_NOT_FOUND, std::errc::no_such_file_or_directory},
     {ERROR_PATH_NOT_FOUND, std::errc::no_such_file_or_directory},
     {ERROR_DIRECTORY, std::errc::not_a_directory},
@@ -65,25 +65,25 @@ constexpr Bedeutung bedeutungen[] = {
 
 } // namespace
 
-std::string windowsMeldung(unsigned long fehler)
+std::string windowsMessage(unsigned long fault)
 {
     std::array<wchar_t, 1024> text{};
-    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, fehler, 0,
+    const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, fault, 0,
                                         text.data(), static_cast<DWORD>(text.size()), nullptr);
     if (length == 0)
-        return fmt::format("Fehler {}", fehler);
+        return fmt::format("Fehler {}", fault);
     std::string message = narrow({text.data(), length});
     message.erase(message.find_last_not_of("\r\n. ") + 1);
     return message;
 }
 
-Laufzeitfehler windowsDateifehler(unsigned long fehler, std::string_view pfad)
+RuntimeError windowsFileFault(unsigned long fault, std::string_view documentPath)
 {
-    for (const Bedeutung& bekannt : bedeutungen) {
-        if (bekannt.fehler == fehler)
-            return dateifehler(bekannt.grund, pfad);
+    for (const Meaning& known : meanings) {
+        if (known.fault == fault)
+            return fileFault(known.reason, documentPath);
     }
-    return {static_cast<int>(fehler), "Dateisystem", fmt::format("{}: {}", windowsMeldung(fehler), pfad)};
+    return {static_cast<int>(fault), "Dateisystem", fmt::format("{}: {}", windowsMessage(fault), documentPath)};
 }
 
 } // namespace quelvarn

@@ -8,9 +8,9 @@
 namespace quelvarn {
 
 // The system's own text for one of its error numbers (GetLastError), in the user's language, without a line end.
-std::string windowsMeldung(unsigned long fehler);
+std::string windowsMessage(unsigned long fault);
 
 // The fault of a file operation, with the numbers and reasons that it has on every system.
-Laufzeitfehler windowsDateifehler(unsigned long fehler, std::string_view pfad);
+RuntimeError windowsFileFault(unsigned long fault, std::string_view documentPath);
 
 } // namespace quelvarn

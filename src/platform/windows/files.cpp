@@ -19,10 +19,10 @@ namespace {
 // From here on the system wants the form for long paths; a folder must leave room for a short name in it.
 constexpr std::size_t longFrom = MAX_PATH - 12;
 
-void check(BOOL success, std::string_view pfad)
+void check(BOOL success, std::string_view documentPath)
 {
     if (!success)
-        throw windowsDateifehler(GetLastError(), pfad);
+        throw windowsFileFault(GetLastError(), documentPath);
 }
 
 bool isFolder(DWORD attributes)
@@ -30,10 +30,10 @@ bool isFolder(DWORD attributes)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-DWORD attributesOf(const std::wstring& path, std::string_view pfad)
+DWORD attributesOf(const std::wstring& path, std::string_view documentPath)
 {
     const DWORD attributes = GetFileAttributesW(path.c_str());
-    check(attributes != INVALID_FILE_ATTRIBUTES, pfad);
+    check(attributes != INVALID_FILE_ATTRIBUTES, documentPath);
     return attributes;
 }
 
@@ -51,7 +51,7 @@ bool isDriveMissing(const std::wstring& path)
 class Search
 {
 public:
-    Search(const std::wstring& folder, std::string_view pfad)
+    Search(const std::wstring& folder, std::string_view documentPath)
     {
         const std::wstring pattern = folder + (folder.ends_with(L'\\') ? L"*" : L"\\*");
         handle_ = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &entry_, FindExSearchNameMatch, nullptr,
@@ -61,7 +61,7 @@ public:
         // An empty drive has no entries at all, other folders have at least themselves.
         const DWORD error = GetLastError();
         if (error != ERROR_FILE_NOT_FOUND || !isFolder(GetFileAttributesW(folder.c_str())))
-            throw windowsDateifehler(error, pfad);
+            throw windowsFileFault(error, documentPath);
     }
     ~Search()
     {
@@ -73,10 +73,10 @@ public:
 
     bool any() const { return handle_ != INVALID_HANDLE_VALUE; }
     const WIN32_FIND_DATAW& entry() const { return entry_; }
-    bool next(std::string_view pfad)
+    bool next(std::string_view documentPath)
     {
         const BOOL found = FindNextFileW(handle_, &entry_);
-        check(found || GetLastError() == ERROR_NO_MORE_FILES, pfad);
+        check(found || GetLastError() == ERROR_NO_MORE_FILES, documentPath);
         return found;
     }
 
@@ -87,123 +87,123 @@ private:
 
 } // namespace
 
-bool WindowsDateien::dateiVorhanden(std::string_view pfad) const
+bool WindowsFiles::fileExists(std::string_view documentPath) const
 {
-    const DWORD attributes = GetFileAttributesW(systemname(pfad).c_str());
+    const DWORD attributes = GetFileAttributesW(systemName(documentPath).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && !isFolder(attributes);
 }
 
-bool WindowsDateien::ordnerVorhanden(std::string_view pfad) const
+bool WindowsFiles::folderExists(std::string_view documentPath) const
 {
-    return isFolder(GetFileAttributesW(systemname(pfad).c_str()));
+    return isFolder(GetFileAttributesW(systemName(documentPath).c_str()));
 }
 
-void WindowsDateien::ordnerAnlegen(std::string_view pfad)
+void WindowsFiles::createFolder(std::string_view documentPath)
 {
-    check(CreateDirectoryW(nameMitLaufwerk(pfad).c_str(), nullptr), pfad);
+    check(CreateDirectoryW(nameWithDrive(documentPath).c_str(), nullptr), documentPath);
 }
 
-std::vector<Ordnereintrag> WindowsDateien::inhalt(std::string_view ordner) const
+std::vector<FolderEntry> WindowsFiles::content(std::string_view folder) const
 {
-    std::vector<Ordnereintrag> result;
-    Search search(nameMitLaufwerk(ordner), ordner);
-    for (bool found = search.any(); found; found = search.next(ordner)) {
+    std::vector<FolderEntry> result;
+    Search search(nameWithDrive(folder), folder);
+    for (bool found = search.any(); found; found = search.next(folder)) {
         const std::wstring_view name = search.entry().cFileName;
         if (name != L"." && name != L"..")
             result.push_back({narrow(name), isFolder(search.entry().dwFileAttributes)});
     }
-    std::sort(result.begin(), result.end(), [](const Ordnereintrag& left, const Ordnereintrag& right) {
+    std::sort(result.begin(), result.end(), [](const FolderEntry& left, const FolderEntry& right) {
         const int order = compareText(left.name, right.name);
         return order != 0 ? order < 0 : left.name < right.name;
     });
     return result;
 }
 
-std::optional<Dateiattribute> WindowsDateien::attribute(std::string_view pfad) const
+std::optional<FileAttributes> WindowsFiles::attribute(std::string_view documentPath) const
 {
     WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!GetFileAttributesExW(systemname(pfad).c_str(), GetFileExInfoStandard, &data) ||
+    if (!GetFileAttributesExW(systemName(documentPath).c_str(), GetFileExInfoStandard, &data) ||
         isFolder(data.dwFileAttributes))
         return std::nullopt;
-    Dateiattribute result;
-    result.schreibgeschuetzt = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
-    result.versteckt = (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
-    result.archiv = (data.dwFileAttributes & FILE_ATTRIBUTE_ARCHIVE) != 0;
-    result.erstellt = localTime(data.ftCreationTime);
-    result.geaendert = localTime(data.ftLastWriteTime);
-    result.zugriff = localTime(data.ftLastAccessTime);
-    result.groesse = static_cast<std::int64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
+    FileAttributes result;
+    result.readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+    result.hidden = (data.dwFileAttributes & FILE_ATTRIBUTE_HIDDEN) != 0;
+    result.archive = (data.dwFileAttributes & FILE_ATTRIBUTE_ARCHIVE) != 0;
+    result.created = localTime(data.ftCreationTime);
+    result.changed = localTime(data.ftLastWriteTime);
+    result.access = localTime(data.ftLastAccessTime);
+    result.size = static_cast<std::int64_t>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
     return result;
 }
 
-void WindowsDateien::setzeSchreibschutz(std::string_view pfad, bool gesetzt)
+void WindowsFiles::setReadOnly(std::string_view documentPath, bool set)
 {
-    setzeAttribut(pfad, FILE_ATTRIBUTE_READONLY, gesetzt);
+    setAttribute(documentPath, FILE_ATTRIBUTE_READONLY, set);
 }
 
-void WindowsDateien::setzeArchiv(std::string_view pfad, bool gesetzt)
+void WindowsFiles::setArchive(std::string_view documentPath, bool set)
 {
-    setzeAttribut(pfad, FILE_ATTRIBUTE_ARCHIVE, gesetzt);
+    setAttribute(documentPath, FILE_ATTRIBUTE_ARCHIVE, set);
 }
 
-void WindowsDateien::setzeAttribut(std::string_view pfad, unsigned long attribut, bool gesetzt)
+void WindowsFiles::setAttribute(std::string_view documentPath, unsigned long attribute, bool set)
 {
-    const std::wstring path = nameMitLaufwerk(pfad);
-    const DWORD before = attributesOf(path, pfad);
-    const DWORD after = gesetzt ? before | attribut : before & ~attribut;
+    const std::wstring path = nameWithDrive(documentPath);
+    const DWORD before = attributesOf(path, documentPath);
+    const DWORD after = set ? before | attribute : before & ~attribute;
     if (after != before)
-        check(SetFileAttributesW(path.c_str(), after == 0 ? FILE_ATTRIBUTE_NORMAL : after), pfad);
+        check(SetFileAttributesW(path.c_str(), after == 0 ? FILE_ATTRIBUTE_NORMAL : after), documentPath);
 }
 
-std::string WindowsDateien::lese(std::string_view pfad) const
+std::string WindowsFiles::read(std::string_view documentPath) const
 {
-    return OpenFile(nameMitLaufwerk(pfad), OpenFile::Zugriff::Lesen, pfad).readAll();
+    return OpenFile(nameWithDrive(documentPath), OpenFile::Access::Read, documentPath).readAll();
 }
 
-void WindowsDateien::schreibe(std::string_view pfad, std::string_view inhalt)
+void WindowsFiles::write(std::string_view documentPath, std::string_view content)
 {
-    NewFile file(nameMitLaufwerk(pfad), pfad);
-    file.write(inhalt);
+    NewFile file(nameWithDrive(documentPath), documentPath);
+    file.write(content);
     file.replaceTarget();
 }
 
 // Like every copy of a file here: the time of its last change comes along, rights do not.
-void WindowsDateien::kopiere(std::string_view von, std::string_view nach)
+void WindowsFiles::copy(std::string_view from, std::string_view after)
 {
-    const std::wstring source = nameMitLaufwerk(von);
-    OpenFile(source, OpenFile::Zugriff::Lesen, von); // What keeps it from being read is its own fault.
-    NewFile file(nameMitLaufwerk(nach), nach);
+    const std::wstring source = nameWithDrive(from);
+    OpenFile(source, OpenFile::Access::Read, from); // What keeps it from being read is its own fault.
+    NewFile file(nameWithDrive(after), after);
     file.copyFrom(source);
     file.replaceTarget();
 }
 
-void WindowsDateien::loesche(std::string_view pfad)
+void WindowsFiles::remove(std::string_view documentPath)
 {
-    const std::wstring path = nameMitLaufwerk(pfad);
-    const DWORD attributes = attributesOf(path, pfad);
+    const std::wstring path = nameWithDrive(documentPath);
+    const DWORD attributes = attributesOf(path, documentPath);
     if (isFolder(attributes))
-        throw dateifehler(std::errc::is_a_directory, pfad);
+        throw fileFault(std::errc::is_a_directory, documentPath);
     if (attributes & FILE_ATTRIBUTE_READONLY)
-        throw dateifehler(std::errc::permission_denied, pfad);
-    check(DeleteFileW(path.c_str()), pfad);
+        throw fileFault(std::errc::permission_denied, documentPath);
+    check(DeleteFileW(path.c_str()), documentPath);
 }
 
-std::filesystem::path WindowsDateien::systempfad(std::string_view pfad) const
+std::filesystem::path WindowsFiles::systemPath(std::string_view documentPath) const
 {
-    std::wstring path = vollerPfad(pfad);
-    return path.size() < longFrom ? path : langerPfad(path);
+    std::wstring path = fullPath(documentPath);
+    return path.size() < longFrom ? path : longPath(path);
 }
 
-std::wstring WindowsDateien::systemname(std::string_view pfad) const
+std::wstring WindowsFiles::systemName(std::string_view documentPath) const
 {
-    return langerPfad(systempfad(pfad).native());
+    return longPath(systemPath(documentPath).native());
 }
 
-std::wstring WindowsDateien::nameMitLaufwerk(std::string_view pfad) const
+std::wstring WindowsFiles::nameWithDrive(std::string_view documentPath) const
 {
-    std::wstring path = systemname(pfad);
+    std::wstring path = systemName(documentPath);
     if (path.empty() || isDriveMissing(path))
-        throw dateifehler(std::errc::no_such_device, pfad);
+        throw fileFault(std::errc::no_such_device, documentPath);
     return path;
 }
 

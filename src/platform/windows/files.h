@@ -5,32 +5,32 @@
 namespace quelvarn {
 
 // The files of the system itself; paths may have any length.
-class WindowsDateien : public Dateien
+class WindowsFiles : public Files
 {
 public:
-    bool dateiVorhanden(std::string_view pfad) const override;
-    bool ordnerVorhanden(std::string_view pfad) const override;
-    void ordnerAnlegen(std::string_view pfad) override;
-    std::vector<Ordnereintrag> inhalt(std::string_view ordner) const override;
+    bool fileExists(std::string_view documentPath) const override;
+    bool folderExists(std::string_view documentPath) const override;
+    void createFolder(std::string_view documentPath) override;
+    std::vector<FolderEntry> content(std::string_view folder) const override;
 
-    std::optional<Dateiattribute> attribute(std::string_view pfad) const override;
-    void setzeSchreibschutz(std::string_view pfad, bool gesetzt) override;
-    void setzeArchiv(std::string_view pfad, bool gesetzt) override;
+    std::optional<FileAttributes> attribute(std::string_view documentPath) const override;
+    void setReadOnly(std::string_view documentPath, bool set) override;
+    void setArchive(std::string_view documentPath, bool set) override;
 
-    std::string lese(std::string_view pfad) const override;
-    void schreibe(std::string_view pfad, std::string_view inhalt) override;
-    void kopiere(std::string_view von, std::string_view nach) override;
-    void loesche(std::string_view pfad) override;
+    std::string read(std::string_view documentPath) const override;
+    void write(std::string_view documentPath, std::string_view content) override;
+    void copy(std::string_view from, std::string_view after) override;
+    void remove(std::string_view documentPath) override;
 
     // In the form for long paths only where it must be: other programs' libraries do not all know it.
-    std::filesystem::path systempfad(std::string_view pfad) const override;
+    std::filesystem::path systemPath(std::string_view documentPath) const override;
 
 private:
     // Empty when the path names neither drive nor share.
-    std::wstring systemname(std::string_view pfad) const;
-    // As systemname, but a missing drive is a fault.
-    std::wstring nameMitLaufwerk(std::string_view pfad) const;
-    void setzeAttribut(std::string_view pfad, unsigned long attribut, bool gesetzt);
+    std::wstring systemName(std::string_view documentPath) const;
+    // As systemName, but a missing drive is a fault.
+    std::wstring nameWithDrive(std::string_view documentPath) const;
+    void setAttribute(std::string_view documentPath, unsigned long attribute, bool set);
 };
 
 } // namespace quelvarn

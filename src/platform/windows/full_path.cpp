@@ -42,9 +42,9 @@ bool isServerOrShare(const std::string& part)
 
 } // namespace
 
-std::wstring vollerPfad(std::string_view pfad)
+std::wstring fullPath(std::string_view documentPath)
 {
-    const std::string path = replaceAll(pfad, "/", "\\");
+    const std::string path = replaceAll(documentPath, "/", "\\");
     if (path.size() < 2 || path.find('\0') != std::string::npos)
         return {};
     const std::vector<std::string> parts = split(std::string_view(path).substr(2), '\\');
@@ -55,11 +55,11 @@ std::wstring vollerPfad(std::string_view pfad)
     return wide("\\\\" + parts[0] + "\\" + parts[1] + "\\" + tailOf(parts, 2));
 }
 
-std::wstring langerPfad(const std::wstring& vollerPfad)
+std::wstring longPath(const std::wstring& fullPath)
 {
-    if (vollerPfad.empty() || vollerPfad.starts_with(L"\\\\?\\"))
-        return vollerPfad;
-    return vollerPfad.starts_with(L"\\\\") ? L"\\\\?\\UNC" + vollerPfad.substr(1) : L"\\\\?\\" + vollerPfad;
+    if (fullPath.empty() || fullPath.starts_with(L"\\\\?\\"))
+        return fullPath;
+    return fullPath.starts_with(L"\\\\") ? L"\\\\?\\UNC" + fullPath.substr(1) : L"\\\\?\\" + fullPath;
 }
 
 } // namespace quelvarn

@@ -7,9 +7,9 @@ namespace quelvarn {
 
 // A Windows path as the system takes it: drive or share first, backslashes, no "." and no ".." (which never lead
 // above drive or share), no parts that end with a blank or a point. Empty when it names neither drive nor share.
-std::wstring vollerPfad(std::string_view pfad);
+std::wstring fullPath(std::string_view documentPath);
 
 // The same path in the form that may have any length and in which no name stands for a device.
-std::wstring langerPfad(const std::wstring& vollerPfad);
+std::wstring longPath(const std::wstring& fullPath);
 
 } // namespace quelvarn

@@ -6,19 +6,19 @@
 
 namespace quelvarn {
 
-inline Zeitpunkt zeitpunktAus(const SYSTEMTIME& time)
+inline DateTime dateTimeFrom(const SYSTEMTIME& time)
 {
-    return Zeitpunkt::aus({time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond});
+    return DateTime::out({time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond});
 }
 
 // What the clock on the wall showed at this moment, by the summer time of that day.
-inline Zeitpunkt localTime(const FILETIME& moment)
+inline DateTime localTime(const FILETIME& moment)
 {
     SYSTEMTIME universal{};
     SYSTEMTIME local{};
     if (!FileTimeToSystemTime(&moment, &universal) || !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
         return {};
-    return zeitpunktAus(local);
+    return dateTimeFrom(local);
 }
 
 } // namespace quelvarn

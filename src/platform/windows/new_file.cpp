@@ -21,14 +21,14 @@ bool exists(const std::wstring& path)
 }
 
 // Replacing a file asks nobody whether it may be written, so it is asked here.
-void checkReplaceable(const std::wstring& path, std::string_view pfad)
+void checkReplaceable(const std::wstring& path, std::string_view documentPath)
 {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return;
     if (attributes & FILE_ATTRIBUTE_READONLY && !(attributes & FILE_ATTRIBUTE_DIRECTORY))
-        throw dateifehler(std::errc::permission_denied, pfad);
-    const OpenFile writable(path, OpenFile::Zugriff::Schreiben, pfad);
+        throw fileFault(std::errc::permission_denied, documentPath);
+    const OpenFile writable(path, OpenFile::Access::Write, documentPath);
 }
 
 // With the file's name as it is, whatever the case of the name by which it is called.
@@ -114,9 +114,10 @@ bool mayPass(DWORD error)
 
 } // namespace
 
-NewFile::NewFile(const std::wstring& target, std::string_view pfad) : target_(realPath(target)), pfad_(pfad)
+NewFile::NewFile(const std::wstring& target, std::string_view documentPath)
+    : target_(realPath(target)), documentPath_(documentPath)
 {
-    checkReplaceable(target_, pfad);
+    checkReplaceable(target_, documentPath);
 }
 
 NewFile::~NewFile()
@@ -128,7 +129,7 @@ NewFile::~NewFile()
 void NewFile::write(std::string_view bytes)
 {
     const std::wstring name = nameBeside(target_);
-    OpenFile file(name, OpenFile::Zugriff::NeuAnlegen, pfad_);
+    OpenFile file(name, OpenFile::Access::CreateNew, documentPath_);
     path_ = name;
     file.write(bytes);
     file.flush();
@@ -139,10 +140,10 @@ void NewFile::copyFrom(const std::wstring& source)
     // The system copies within a server without sending the bytes to and fro.
     const std::wstring name = nameBeside(target_);
     if (!CopyFileW(source.c_str(), name.c_str(), TRUE))
-        throw windowsDateifehler(GetLastError(), pfad_);
+        throw windowsFileFault(GetLastError(), documentPath_);
     path_ = name;
     SetFileAttributesW(path_.c_str(), FILE_ATTRIBUTE_ARCHIVE);
-    OpenFile(path_, OpenFile::Zugriff::Schreiben, pfad_).flush();
+    OpenFile(path_, OpenFile::Access::Write, documentPath_).flush();
 }
 
 void NewFile::replaceTarget()
@@ -152,7 +153,7 @@ void NewFile::replaceTarget()
         if (error == NO_ERROR)
             break;
         if (!mayPass(error) || attempt == attempts)
-            throw windowsDateifehler(error, pfad_);
+            throw windowsFileFault(error, documentPath_);
         Sleep(pause);
     }
     path_.clear();

@@ -7,11 +7,11 @@ namespace quelvarn {
 
 // A file that is made under a name of its own beside its target and takes the target's place when it is complete.
 // Until then the target stays as it was; when the object goes earlier, nothing is left behind. A target that may
-// not be written is a fault. Faults are those of `pfad`, the path that the user knows.
+// not be written is a fault. Faults are those of `documentPath`, the path that the user knows.
 class NewFile
 {
 public:
-    NewFile(const std::wstring& target, std::string_view pfad);
+    NewFile(const std::wstring& target, std::string_view documentPath);
     ~NewFile();
     NewFile(const NewFile&) = delete;
     NewFile& operator=(const NewFile&) = delete;
@@ -24,7 +24,7 @@ public:
 
 private:
     std::wstring target_;
-    std::string pfad_;
+    std::string documentPath_;
     std::wstring path_;
 };
 

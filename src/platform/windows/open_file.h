@@ -6,13 +6,13 @@
 namespace quelvarn {
 
 // An open file, closed when the object goes. Other programs may go on reading, writing and deleting it.
-// Faults are those of `pfad`, the path that the user knows.
+// Faults are those of `documentPath`, the path that the user knows.
 class OpenFile
 {
 public:
-    enum class Zugriff { Lesen, Schreiben, NeuAnlegen };
+    enum class Access { Read, Write, CreateNew };
 
-    OpenFile(const std::wstring& path, Zugriff zugriff, std::string_view pfad);
+    OpenFile(const std::wstring& path, Access access, std::string_view documentPath);
     ~OpenFile();
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
@@ -23,7 +23,7 @@ public:
     void flush();
 
 private:
-    std::string pfad_;
+    std::string documentPath_;
     void* handle_;
 };
 

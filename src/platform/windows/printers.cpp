@@ -15,142 +15,141 @@
 namespace quelvarn {
 namespace {
 
-constexpr int NICHT_GENANNT = 256;
+constexpr int NOT_NAMED = 256;
 // The server of a connected printer may be switched off; nobody waits for it at the start of the program.
-constexpr auto GEDULD = std::chrono::seconds(5);
+constexpr auto PATIENCE = std::chrono::seconds(5);
 
 // Room for structures of the spooler, aligned for them.
-using Puffer = std::vector<std::max_align_t>;
+using Buffer = std::vector<std::max_align_t>;
 
-Puffer puffer(DWORD bytes)
+Buffer buffer(DWORD bytes)
 {
-    return Puffer(bytes / sizeof(std::max_align_t) + 1);
+    return Buffer(bytes / sizeof(std::max_align_t) + 1);
 }
 
-BYTE* bytesIn(Puffer& inhalt)
+BYTE* bytesIn(Buffer& content)
 {
-    return reinterpret_cast<BYTE*>(inhalt.data());
+    return reinterpret_cast<BYTE*>(content.data());
 }
 
-class Verbindung
+class PrinterHandle
 {
 public:
-    explicit Verbindung(std::wstring name)
+    explicit PrinterHandle(std::wstring name)
     {
-        if (!OpenPrinterW(name.data(), &griff_, nullptr))
-            griff_ = nullptr;
+        if (!OpenPrinterW(name.data(), &handle_, nullptr))
+            handle_ = nullptr;
     }
-    ~Verbindung()
+    ~PrinterHandle()
     {
-        if (griff_)
-            ClosePrinter(griff_);
+        if (handle_)
+            ClosePrinter(handle_);
     }
-    Verbindung(const Verbindung&) = delete;
-    Verbindung& operator=(const Verbindung&) = delete;
+    PrinterHandle(const PrinterHandle&) = delete;
+    PrinterHandle& operator=(const PrinterHandle&) = delete;
 
     // What the spooler tells at this level; empty when it tells nothing.
-    Puffer auskunft(DWORD stufe) const
+    Buffer information(DWORD level) const
     {
         DWORD bytes = 0;
-        if (!griff_ || GetPrinterW(griff_, stufe, nullptr, 0, &bytes) || GetLastError() != ERROR_INSUFFICIENT_BUFFER)
+        if (!handle_ || GetPrinterW(handle_, level, nullptr, 0, &bytes) || GetLastError() != ERROR_INSUFFICIENT_BUFFER)
             return {};
-        Puffer inhalt = puffer(bytes);
-        if (!GetPrinterW(griff_, stufe, bytesIn(inhalt), bytes, &bytes))
+        Buffer content = buffer(bytes);
+        if (!GetPrinterW(handle_, level, bytesIn(content), bytes, &bytes))
             return {};
-        return inhalt;
+        return content;
     }
 
 private:
-    HANDLE griff_ = nullptr;
+    HANDLE handle_ = nullptr;
 };
 
-void uebernimm(Standarddrucker& drucker, const DEVMODEW& einstellung)
+void adopt(DefaultPrinter& printers, const DEVMODEW& setting)
 {
-    const auto gesetzt = [&](DWORD feld) { return (einstellung.dmFields & feld) != 0; };
-    drucker.papiercode = gesetzt(DM_PAPERSIZE) ? einstellung.dmPaperSize : NICHT_GENANNT;
-    if (gesetzt(DM_COPIES) && einstellung.dmCopies > 0)
-        drucker.exemplare = einstellung.dmCopies;
-    if (gesetzt(DM_ORIENTATION))
-        drucker.ausrichtung = einstellung.dmOrientation == DMORIENT_LANDSCAPE ? 2 : 1;
+    const auto set = [&](DWORD field) { return (setting.dmFields & field) != 0; };
+    printers.paperCode = set(DM_PAPERSIZE) ? setting.dmPaperSize : NOT_NAMED;
+    if (set(DM_COPIES) && setting.dmCopies > 0)
+        printers.copies = setting.dmCopies;
+    if (set(DM_ORIENTATION))
+        printers.orientation = setting.dmOrientation == DMORIENT_LANDSCAPE ? 2 : 1;
 }
 
 // True when the spooler has settings at this level, which are those of the printer then.
-template <typename Info> bool uebernimmStufe(Standarddrucker& drucker, const Verbindung& verbindung, DWORD stufe)
+template <typename Info> bool adoptLevel(DefaultPrinter& printers, const PrinterHandle& connection, DWORD level)
 {
-    Puffer inhalt = verbindung.auskunft(stufe);
-    if (inhalt.empty())
+    Buffer content = connection.information(level);
+    if (content.empty())
         return false;
-    const DEVMODEW* einstellung = reinterpret_cast<const Info*>(inhalt.data())->pDevMode;
-    if (!einstellung)
+    const DEVMODEW* setting = reinterpret_cast<const Info*>(content.data())->pDevMode;
+    if (!setting)
         return false;
-    uebernimm(drucker, *einstellung);
+    adopt(printers, *setting);
     return true;
 }
 
-Standarddrucker einstellungenVon(const std::wstring& name)
+DefaultPrinter settingsOf(const std::wstring& name)
 {
-    Standarddrucker result;
+    DefaultPrinter result;
     result.name = narrow(name);
-    const Verbindung verbindung(name);
+    const PrinterHandle connection(name);
     // The user's own settings, those of the computer, those of the driver.
-    if (!uebernimmStufe<PRINTER_INFO_9W>(result, verbindung, 9) &&
-        !uebernimmStufe<PRINTER_INFO_8W>(result, verbindung, 8))
-        uebernimmStufe<PRINTER_INFO_2W>(result, verbindung, 2);
+    if (!adoptLevel<PRINTER_INFO_9W>(result, connection, 9) && !adoptLevel<PRINTER_INFO_8W>(result, connection, 8))
+        adoptLevel<PRINTER_INFO_2W>(result, connection, 2);
     return result;
 }
 
 // Asked on a thread of its own, which is left behind when the spooler does not come back.
-Standarddrucker einstellungenBald(const std::wstring& name)
+DefaultPrinter settingsSoon(const std::wstring& name)
 {
-    std::packaged_task<Standarddrucker()> frage([name] { return einstellungenVon(name); });
-    std::future<Standarddrucker> antwort = frage.get_future();
-    std::thread(std::move(frage)).detach();
-    if (antwort.wait_for(GEDULD) == std::future_status::ready)
-        return antwort.get();
-    Standarddrucker stumm;
-    stumm.name = narrow(name);
-    return stumm;
+    std::packaged_task<DefaultPrinter()> ask([name] { return settingsOf(name); });
+    std::future<DefaultPrinter> answer = ask.get_future();
+    std::thread(std::move(ask)).detach();
+    if (answer.wait_for(PATIENCE) == std::future_status::ready)
+        return answer.get();
+    DefaultPrinter mute;
+    mute.name = narrow(name);
+    return mute;
 }
 
 std::wstring chosenName()
 {
-    DWORD laenge = 0;
-    GetDefaultPrinterW(nullptr, &laenge);
-    std::wstring name(laenge, L'\0');
-    if (laenge == 0 || !GetDefaultPrinterW(name.data(), &laenge))
+    DWORD length = 0;
+    GetDefaultPrinterW(nullptr, &length);
+    std::wstring name(length, L'\0');
+    if (length == 0 || !GetDefaultPrinterW(name.data(), &length))
         return {};
-    name.resize(laenge - 1); // Told with the end mark.
+    name.resize(length - 1); // Told with the end mark.
     return name;
 }
 
 } // namespace
 
-std::vector<std::string> WindowsDrucker::namen() const
+std::vector<std::string> WindowsPrinters::names() const
 {
-    constexpr DWORD WELCHE = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
-    constexpr DWORD STUFE = 4; // Read from the registry, so no print server is waited for.
+    constexpr DWORD WHICH = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+    constexpr DWORD LEVEL = 4; // Read from the registry, so no print server is waited for.
     DWORD bytes = 0;
-    DWORD anzahl = 0;
-    EnumPrintersW(WELCHE, nullptr, STUFE, nullptr, 0, &bytes, &anzahl);
-    Puffer inhalt = puffer(bytes);
-    if (!EnumPrintersW(WELCHE, nullptr, STUFE, bytesIn(inhalt), bytes, &bytes, &anzahl))
+    DWORD count = 0;
+    EnumPrintersW(WHICH, nullptr, LEVEL, nullptr, 0, &bytes, &count);
+    Buffer content = buffer(bytes);
+    if (!EnumPrintersW(WHICH, nullptr, LEVEL, bytesIn(content), bytes, &bytes, &count))
         return {};
     std::vector<std::string> result;
-    const auto* drucker = reinterpret_cast<const PRINTER_INFO_4W*>(inhalt.data());
-    for (DWORD i = 0; i < anzahl; ++i)
-        result.push_back(narrow(drucker[i].pPrinterName));
+    const auto* printers = reinterpret_cast<const PRINTER_INFO_4W*>(content.data());
+    for (DWORD i = 0; i < count; ++i)
+        result.push_back(narrow(printers[i].pPrinterName));
     return result;
 }
 
 // Without a chosen one the first stands in, as in other programs' print dialogs.
-std::optional<Standarddrucker> WindowsDrucker::standard() const
+std::optional<DefaultPrinter> WindowsPrinters::standard() const
 {
     if (const std::wstring name = chosenName(); !name.empty())
-        return einstellungenBald(name);
-    const std::vector<std::string> alle = namen();
-    if (alle.empty())
+        return settingsSoon(name);
+    const std::vector<std::string> all = names();
+    if (all.empty())
         return std::nullopt;
-    return einstellungenBald(wide(alle.front()));
+    return settingsSoon(wide(all.front()));
 }
 
 } // namespace quelvarn

@@ -5,12 +5,12 @@
 namespace quelvarn {
 
 // The printers of the print spooler. Only the spooler is asked, never a driver, whose own code could show boxes.
-class WindowsDrucker : public Drucker
+class WindowsPrinters : public Printers
 {
 public:
-    std::vector<std::string> namen() const override;
+    std::vector<std::string> names() const override;
     // A printer that keeps silent is told by its name alone.
-    std::optional<Standarddrucker> standard() const override;
+    std::optional<DefaultPrinter> standard() const override;
 };
 
 } // namespace quelvarn

@@ -12,33 +12,33 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::size_t GROESSTER_TITEL = 64 * 1024;
+constexpr std::size_t GREATEST_TITLE = 64 * 1024;
 
-Laufzeitfehler systemfehler(const char* vorgang)
+RuntimeError systemFault(const char* operation)
 {
-    const DWORD nummer = GetLastError();
-    return {static_cast<int>(nummer), "Fensterliste", fmt::format("{}: {}", vorgang, windowsMeldung(nummer))};
+    const DWORD number = GetLastError();
+    return {static_cast<int>(number), "Fensterliste", fmt::format("{}: {}", operation, windowsMessage(number))};
 }
 
-BOOL CALLBACK merke(HWND fenster, LPARAM liste) noexcept
+BOOL CALLBACK remember(HWND window, LPARAM list) noexcept
 {
-    reinterpret_cast<std::vector<HWND>*>(liste)->push_back(fenster);
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     return TRUE;
 }
 
 // Read from what the system keeps of the window, without a message to it: a program that hangs cannot hold us up,
 // which GetWindowText does not promise for the windows of one's own process.
-std::wstring titelVon(HWND fenster)
+std::wstring titleOf(HWND window)
 {
-    std::wstring titel(256, L'\0');
+    std::wstring title(256, L'\0');
     for (;;) {
-        const int laenge = InternalGetWindowText(fenster, titel.data(), static_cast<int>(titel.size()));
-        const std::size_t gelesen = laenge > 0 ? static_cast<std::size_t>(laenge) : 0;
-        if (gelesen + 1 < titel.size() || titel.size() >= GROESSTER_TITEL) {
-            titel.resize(gelesen);
-            return titel;
+        const int length = InternalGetWindowText(window, title.data(), static_cast<int>(title.size()));
+        const std::size_t read = length > 0 ? static_cast<std::size_t>(length) : 0;
+        if (read + 1 < title.size() || title.size() >= GREATEST_TITLE) {
+            title.resize(read);
+            return title;
         }
-        titel.resize(titel.size() * 2);
+        title.resize(title.size() * 2);
     }
 }
 
@@ -46,55 +46,55 @@ std::wstring titelVon(HWND fenster)
 
 // An invisible top-level window that bears the caption. It stands in the list from the first caption on, before the
 // program's real window is made, and goes with the process, however that ends.
-class WindowsLaufendeProgramme::Anzeige
+class WindowsRunningPrograms::Display
 {
 public:
-    explicit Anzeige(const std::wstring& titel)
-        : fenster_(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", titel.c_str(), WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                                   GetModuleHandleW(nullptr), nullptr))
+    explicit Display(const std::wstring& title)
+        : window_(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", title.c_str(), WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                  GetModuleHandleW(nullptr), nullptr))
     {
-        if (!fenster_)
-            throw systemfehler("Das Fenster für den Titel des Programms kann nicht angelegt werden");
+        if (!window_)
+            throw systemFault("Das Fenster für den Titel des Programms kann nicht angelegt werden");
     }
-    ~Anzeige() { DestroyWindow(fenster_); }
-    Anzeige(const Anzeige&) = delete;
-    Anzeige& operator=(const Anzeige&) = delete;
+    ~Display() { DestroyWindow(window_); }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
 
-    void setze(const std::wstring& titel) { SetWindowTextW(fenster_, titel.c_str()); }
+    void set(const std::wstring& title) { SetWindowTextW(window_, title.c_str()); }
 
 private:
-    HWND fenster_;
+    HWND window_;
 };
 
-WindowsLaufendeProgramme::WindowsLaufendeProgramme() = default;
-WindowsLaufendeProgramme::~WindowsLaufendeProgramme() = default;
+WindowsRunningPrograms::WindowsRunningPrograms() = default;
+WindowsRunningPrograms::~WindowsRunningPrograms() = default;
 
-std::vector<std::string> WindowsLaufendeProgramme::fenstertitel() const
+std::vector<std::string> WindowsRunningPrograms::windowTitle() const
 {
-    std::vector<HWND> fensterliste;
-    if (!EnumWindows(merke, reinterpret_cast<LPARAM>(&fensterliste)))
-        throw systemfehler("Die Fenster der laufenden Programme können nicht gelesen werden");
+    std::vector<HWND> windowList;
+    if (!EnumWindows(remember, reinterpret_cast<LPARAM>(&windowList)))
+        throw systemFault("Die Fenster der laufenden Programme können nicht gelesen werden");
 
     std::vector<std::string> result;
-    std::set<std::pair<DWORD, std::wstring>> genannt;
-    for (const HWND fenster : fensterliste) {
-        DWORD prozess = 0;
-        GetWindowThreadProcessId(fenster, &prozess);
-        std::wstring titel = titelVon(fenster);
-        if (titel.empty())
+    std::set<std::pair<DWORD, std::wstring>> named;
+    for (const HWND window : windowList) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        std::wstring title = titleOf(window);
+        if (title.empty())
             continue;
-        if (const auto [stelle, neu] = genannt.emplace(prozess, std::move(titel)); neu)
-            result.push_back(narrow(stelle->second));
+        if (const auto [position, fresh] = named.emplace(process, std::move(title)); fresh)
+            result.push_back(narrow(position->second));
     }
     return result;
 }
 
-void WindowsLaufendeProgramme::eigenerTitel(std::string_view titel)
+void WindowsRunningPrograms::ownTitle(std::string_view title)
 {
-    if (anzeige_)
-        anzeige_->setze(wide(titel));
+    if (display_)
+        display_->set(wide(title));
     else
-        anzeige_ = std::make_unique<Anzeige>(wide(titel));
+        display_ = std::make_unique<Display>(wide(title));
 }
 
 } // namespace quelvarn

@@ -15,32 +15,32 @@ struct WindowsPorts : SystemPorts
     // A drive without a disk is an answer, not a message box of the system.
     WindowsPorts() { SetErrorMode(GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX); }
 
-    Uhr& uhr() override { return uhr_; }
-    Umgebung& umgebung() override { return umgebung_; }
-    Dateien& dateien() override { return dateien_; }
-    Laufwerke& laufwerke() override { return laufwerke_; }
-    Drucker& drucker() override { return drucker_; }
-    LaufendeProgramme& programme() override { return programme_; }
-    Standardanwendung& standardanwendung() override { return standardanwendung_; }
+    Clock& clock() override { return clock_; }
+    Environment& environment() override { return environment_; }
+    Files& files() override { return files_; }
+    Drives& drives() override { return drives_; }
+    Printers& printers() override { return printers_; }
+    RunningPrograms& programs() override { return programs_; }
+    DefaultApplication& defaultApplication() override { return defaultApplication_; }
 
 private:
-    WindowsUhr uhr_;
-    WindowsUmgebung umgebung_;
-    WindowsDateien dateien_;
-    WindowsLaufwerke laufwerke_;
-    WindowsDrucker drucker_;
-    WindowsLaufendeProgramme programme_;
-    WindowsStandardanwendung standardanwendung_{dateien_};
+    WindowsClock clock_;
+    WindowsEnvironment environment_;
+    WindowsFiles files_;
+    WindowsDrives drives_;
+    WindowsPrinters printers_;
+    WindowsRunningPrograms programs_;
+    WindowsDefaultApplication defaultApplication_{files_};
 };
 
 } // namespace
 
-std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& /*laufwerkeOrdner*/)
+std::unique_ptr<SystemPorts> systemPorts(const std::filesystem::path& /*drivesFolder*/)
 {
     return std::make_unique<WindowsPorts>();
 }
 
-std::filesystem::path standardLaufwerkeOrdner()
+std::filesystem::path standardDrivesFolder()
 {
     return {};
 }

@@ -33,33 +33,33 @@ std::optional<std::string> shareOf(wchar_t letter)
 
 } // namespace
 
-std::string gekuerzterName(std::wstring_view name)
+std::string shortenedName(std::wstring_view name)
 {
     return std::string(leftCharacters(narrow(name), longestName));
 }
 
-Zeitpunkt WindowsUhr::jetzt() const
+DateTime WindowsClock::now() const
 {
     SYSTEMTIME now{};
     GetLocalTime(&now);
-    return zeitpunktAus(now);
+    return dateTimeFrom(now);
 }
 
-std::string WindowsUmgebung::rechnername() const
+std::string WindowsEnvironment::computerName() const
 {
     Buffer name{};
     auto length = static_cast<DWORD>(name.size());
-    return GetComputerNameW(name.data(), &length) ? gekuerzterName(name.data()) : "";
+    return GetComputerNameW(name.data(), &length) ? shortenedName(name.data()) : "";
 }
 
-std::string WindowsUmgebung::anwendername() const
+std::string WindowsEnvironment::userName() const
 {
     Buffer name{};
     auto length = static_cast<DWORD>(name.size());
-    return GetUserNameW(name.data(), &length) ? gekuerzterName(name.data()) : "";
+    return GetUserNameW(name.data(), &length) ? shortenedName(name.data()) : "";
 }
 
-Systemversion WindowsUmgebung::systemversion() const
+SystemVersion WindowsEnvironment::systemVersion() const
 {
     // GetVersionEx tells a program without a manifest an older version.
     using GetVersionFunction = LONG(WINAPI*)(OSVERSIONINFOW*);
@@ -72,16 +72,16 @@ Systemversion WindowsUmgebung::systemversion() const
     return {std::to_string(version.dwMajorVersion), std::to_string(version.dwMinorVersion), VER_PLATFORM_WIN32_NT};
 }
 
-std::string WindowsUmgebung::systemlaufwerk() const
+std::string WindowsEnvironment::systemDrive() const
 {
     Buffer folder{};
     GetSystemWindowsDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
     return narrow(std::wstring_view(folder.data()).substr(0, 2));
 }
 
-std::vector<Laufwerk> WindowsLaufwerke::liste() const
+std::vector<Drive> WindowsDrives::list() const
 {
-    std::vector<Laufwerk> result;
+    std::vector<Drive> result;
     const DWORD present = GetLogicalDrives();
     for (int i = 0; i < 26; ++i) {
         const auto letter = static_cast<char>('A' + i);
@@ -92,11 +92,11 @@ std::vector<Laufwerk> WindowsLaufwerke::liste() const
     return result;
 }
 
-bool WindowsStandardanwendung::oeffne(std::string_view pfad)
+bool WindowsDefaultApplication::open(std::string_view documentPath)
 {
-    if (!dateien_.dateiVorhanden(pfad) && !dateien_.ordnerVorhanden(pfad))
+    if (!files_.fileExists(documentPath) && !files_.folderExists(documentPath))
         return false;
-    const std::wstring path = dateien_.systempfad(pfad).native();
+    const std::wstring path = files_.systemPath(documentPath).native();
     SHELLEXECUTEINFOW order{};
     order.cbSize = sizeof order;
     order.fMask = SEE_MASK_FLAG_NO_UI;

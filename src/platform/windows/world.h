@@ -11,44 +11,44 @@
 
 namespace quelvarn {
 
-class Dateien;
+class Files;
 
-class WindowsUhr : public Uhr
+class WindowsClock : public Clock
 {
 public:
-    Zeitpunkt jetzt() const override;
+    DateTime now() const override;
 };
 
 // Names are cut at 25 characters, as they stand in the tables.
-class WindowsUmgebung : public Umgebung
+class WindowsEnvironment : public Environment
 {
 public:
-    std::string rechnername() const override;
-    std::string anwendername() const override;
-    Systemversion systemversion() const override;
-    std::string systemlaufwerk() const override;
+    std::string computerName() const override;
+    std::string userName() const override;
+    SystemVersion systemVersion() const override;
+    std::string systemDrive() const override;
 };
 
 // The drives that there are, and those remembered ones whose share is out of reach at the moment. No drive is
 // asked itself, so a dead one delays nothing.
-class WindowsLaufwerke : public Laufwerke
+class WindowsDrives : public Drives
 {
 public:
-    std::vector<Laufwerk> liste() const override;
+    std::vector<Drive> list() const override;
 };
 
 // Hands a file or folder to the shell, which says nothing when it cannot do it.
-class WindowsStandardanwendung : public Standardanwendung
+class WindowsDefaultApplication : public DefaultApplication
 {
 public:
-    explicit WindowsStandardanwendung(const Dateien& dateien) : dateien_(dateien) {}
-    bool oeffne(std::string_view pfad) override;
+    explicit WindowsDefaultApplication(const Files& files) : files_(files) {}
+    bool open(std::string_view documentPath) override;
 
 private:
-    const Dateien& dateien_;
+    const Files& files_;
 };
 
 // The name as it stands in the tables.
-std::string gekuerzterName(std::wstring_view name);
+std::string shortenedName(std::wstring_view name);
 
 } // namespace quelvarn

@@ -14,128 +14,127 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> FELDER{"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"};
+constexpr std::array<std::string_view, 5> FIELDS{"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"};
 
 } // namespace
 
-sql::AusdruckZeiger iniRows(std::string_view owner, std::string_view group, std::string_view key)
+sql::ExpressionPointer iniRows(std::string_view owner, std::string_view group, std::string_view key)
 {
     return sql::all(sql::equal("Feld1", owner), sql::equal("Feld2", group),
                     key.empty() ? nullptr : sql::equal("Feld3", key));
 }
 
-Recordset IniZeilen::lese(sql::Select select)
+Recordset IniRows::read(sql::Select select)
 {
-    Recordset zeilen;
-    zeilen.Open(std::move(select), verbindung_, CursorTyp::Statisch, SperrTyp::Optimistisch);
-    return zeilen;
+    Recordset rows;
+    rows.Open(std::move(select), connection_, CursorType::Static, LockType::Optimistic);
+    return rows;
 }
 
-Recordset IniZeilen::zeilen(std::string_view eigentuemer, std::string_view gruppe, std::string_view schluessel)
+Recordset IniRows::rows(std::string_view owner, std::string_view group, std::string_view key)
 {
-    return lese(sql::Query("Ini").where(iniRows(eigentuemer, gruppe, schluessel)));
+    return read(sql::Query("Ini").where(iniRows(owner, group, key)));
 }
 
-Recordset IniZeilen::verschiedene(std::initializer_list<std::string_view> spalten, std::string_view eigentuemer,
-                                  std::string_view gruppe, std::string_view schluessel)
+Recordset IniRows::distinct(std::initializer_list<std::string_view> columns, std::string_view owner,
+                            std::string_view group, std::string_view key)
 {
-    Recordset zeilen;
-    zeilen.Open(sql::Query("Ini").columns(spalten).distinct().where(iniRows(eigentuemer, gruppe, schluessel)),
-                verbindung_);
-    return zeilen;
+    Recordset rows;
+    rows.Open(sql::Query("Ini").columns(columns).distinct().where(iniRows(owner, group, key)), connection_);
+    return rows;
 }
 
-Recordset IniZeilen::activeQuelvarn(std::string_view user)
+Recordset IniRows::activeQuelvarn(std::string_view user)
 {
-    std::vector<sql::AusdruckZeiger> switches;
+    std::vector<sql::ExpressionPointer> switches;
     switches.push_back(sql::equal("Feld3", "0"));
     switches.push_back(sql::equal("Feld3", "1"));
-    return lese(sql::Query("Ini").where(sql::all(iniRows(user, "ActiveQuelvarn"), sql::any(std::move(switches)))));
+    return read(sql::Query("Ini").where(sql::all(iniRows(user, "ActiveQuelvarn"), sql::any(std::move(switches)))));
 }
 
-Recordset IniZeilen::suchtexte(std::string_view anwender)
+Recordset IniRows::searchTexts(std::string_view user)
 {
-    return lese(sql::Query("Ini").where(iniRows(anwender, "Suchen/Filtern")).sortedBy("Feld3")); // "Text0", ...
+    return read(sql::Query("Ini").where(iniRows(user, "Suchen/Filtern")).sortedBy("Feld3")); // "Text0", ...
 }
 
-bool IniZeilen::beginne()
+bool IniRows::begin()
 {
     wantsToWrite_ = true;
-    if (!lookOnly_ && !transaktion_)
-        transaktion_.emplace(verbindung_);
+    if (!lookOnly_ && !transaction_)
+        transaction_.emplace(connection_);
     return !lookOnly_;
 }
 
-void IniZeilen::lookOnly()
+void IniRows::lookOnly()
 {
     lookOnly_ = true;
     wantsToWrite_ = false;
 }
 
-void IniZeilen::writeAlone()
+void IniRows::writeAlone()
 {
     lookOnly_ = false;
-    transaktion_.emplace(verbindung_);
-    verbindung_.engine().lockForWriting("Ini");
+    transaction_.emplace(connection_);
+    connection_.engine().lockForWriting("Ini");
 }
 
-void IniZeilen::fuegeAn(std::initializer_list<std::string_view> felder)
+void IniRows::append(std::initializer_list<std::string_view> fields)
 {
-    if (!beginne())
+    if (!begin())
         return;
-    std::vector<sql::Zuweisung> werte;
-    for (const std::string_view feld : felder)
-        werte.push_back({std::string(FELDER.at(werte.size())), std::string(feld)});
-    verbindung_.engine().fuegeEin("Ini", werte);
+    std::vector<sql::Assignment> values;
+    for (const std::string_view field : fields)
+        values.push_back({std::string(FIELDS.at(values.size())), std::string(field)});
+    connection_.engine().insert("Ini", values);
 }
 
-void IniZeilen::aendere(Recordset& zeile, std::string_view feld, std::string_view wert)
+void IniRows::update(Recordset& row, std::string_view field, std::string_view value)
 {
-    if (zeile.Feld(feld) == Value(std::string(wert)) || !beginne())
+    if (row.field(field) == Value(std::string(value)) || !begin())
         return;
-    zeile.setzeFeld(feld, std::string(wert));
-    zeile.Update();
+    row.setField(field, std::string(value));
+    row.Update();
 }
 
-void IniZeilen::aendereAlle(Recordset& zeilen, std::string_view feld, std::string_view wert)
+void IniRows::updateAll(Recordset& rows, std::string_view field, std::string_view value)
 {
-    for (; !zeilen.Eof(); zeilen.MoveNext())
-        aendere(zeilen, feld, wert);
+    for (; !rows.Eof(); rows.MoveNext())
+        update(rows, field, value);
 }
 
-void IniZeilen::loesche(Recordset& zeilen)
+void IniRows::remove(Recordset& rows)
 {
-    if (zeilen.leer() || !beginne())
+    if (rows.empty() || !begin())
         return;
-    for (zeilen.MoveFirst(); !zeilen.Eof();)
-        zeilen.Delete(); // Moves to the next row.
+    for (rows.MoveFirst(); !rows.Eof();)
+        rows.Delete(); // Moves to the next row.
 }
 
-void IniZeilen::schliesseAb()
+void IniRows::commit()
 {
-    if (transaktion_)
-        transaktion_->schliesseAb();
-    transaktion_.reset();
+    if (transaction_)
+        transaction_->commit();
+    transaction_.reset();
 }
 
-std::string pflichttext(const Recordset& zeile, std::string_view feld)
+std::string requiredText(const Recordset& row, std::string_view field)
 {
-    const Value wert = zeile.Feld(feld);
-    if (istNull(wert))
-        throw Laufzeitfehler(94, "Quelvarn", fmt::format("Unzulässiger Wert Null in '{}'.", feld));
-    return alsText(wert);
+    const Value value = row.field(field);
+    if (isNull(value))
+        throw RuntimeError(94, "Quelvarn", fmt::format("Unzulässiger Wert Null in '{}'.", field));
+    return asText(value);
 }
 
-std::string textOderLeer(const Recordset& zeile, std::string_view feld)
+std::string textOrEmpty(const Recordset& row, std::string_view field)
 {
-    return alsText(zeile.Feld(feld));
+    return asText(row.field(field));
 }
 
-std::optional<int> findNumber(const Recordset& zeile, std::string_view feld)
+std::optional<int> findNumber(const Recordset& row, std::string_view field)
 {
     using Limits = std::numeric_limits<std::int16_t>;
-    const auto zahl = wholeNumber(zeile.Feld(feld), Limits::min(), Limits::max());
-    return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
+    const auto number = wholeNumber(row.field(field), Limits::min(), Limits::max());
+    return number ? std::optional(static_cast<int>(*number)) : std::nullopt;
 }
 
 std::string searchTextName(std::size_t number)
@@ -145,15 +144,15 @@ std::string searchTextName(std::size_t number)
 
 std::optional<std::size_t> searchTextKey(std::string_view name)
 {
-    for (std::size_t number = 0; number < ANZAHL_SUCHTEXTE; ++number)
+    for (std::size_t number = 0; number < SEARCH_TEXT_COUNT; ++number)
         if (equalText(name, searchTextName(number)))
             return number;
     return std::nullopt;
 }
 
-int zahlOderNull(const Recordset& zeile, std::string_view feld)
+int numberOrZero(const Recordset& row, std::string_view field)
 {
-    return findNumber(zeile, feld).value_or(0);
+    return findNumber(row, field).value_or(0);
 }
 
 } // namespace quelvarn

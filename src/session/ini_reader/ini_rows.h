@@ -11,39 +11,39 @@
 
 namespace quelvarn {
 
-inline constexpr std::string_view EIGENTUEMER_ALLE = "!QV_Ini"; // Feld1 of settings for the whole installation.
-inline constexpr std::string_view KEINE_ANGABE = "Keine Angabe";
+inline constexpr std::string_view OWNER_ALL = "!QV_Ini"; // Feld1 of settings for the whole installation.
+inline constexpr std::string_view NOT_GIVEN = "Keine Angabe";
 
 // The rows of an owner's group, or of one key in it.
-sql::AusdruckZeiger iniRows(std::string_view owner, std::string_view group, std::string_view key = {});
+sql::ExpressionPointer iniRows(std::string_view owner, std::string_view group, std::string_view key = {});
 
 // The rows of Ini as one step of the start reads and mends them. The first write opens a transaction, which
-// schliesseAb ends; without that call everything written since is taken back. What is written because rows were not
+// commit ends; without that call everything written since is taken back. What is written because rows were not
 // there, or were others, is looked at behind writeAlone: another copy of the same user may write them at this moment.
-class IniZeilen
+class IniRows
 {
 public:
-    explicit IniZeilen(Connection& verbindung) : verbindung_(verbindung) {}
+    explicit IniRows(Connection& connection) : connection_(connection) {}
 
     // The rows of an owner's group, or of one key in it; they can be changed.
-    Recordset zeilen(std::string_view eigentuemer, std::string_view gruppe, std::string_view schluessel = {});
+    Recordset rows(std::string_view owner, std::string_view group, std::string_view key = {});
     // The same rows, these columns of them only, each distinct row once.
-    Recordset verschiedene(std::initializer_list<std::string_view> spalten, std::string_view eigentuemer,
-                           std::string_view gruppe, std::string_view schluessel = {});
+    Recordset distinct(std::initializer_list<std::string_view> columns, std::string_view owner, std::string_view group,
+                       std::string_view key = {});
     // The row that holds the switch for events of the CAD program.
     Recordset activeQuelvarn(std::string_view user);
     // The rows of the user's search texts by their keys, the oldest first; also rows of no key.
-    Recordset suchtexte(std::string_view anwender);
+    Recordset searchTexts(std::string_view user);
     // Any SELECT.
-    Recordset lese(sql::Select select);
+    Recordset read(sql::Select select);
 
     // A new row with Feld1, Feld2, ... as far as given; the others stay Null.
-    void fuegeAn(std::initializer_list<std::string_view> felder);
+    void append(std::initializer_list<std::string_view> fields);
     // Writes one field of the current row, unless it says so already.
-    void aendere(Recordset& zeile, std::string_view feld, std::string_view wert);
-    void aendereAlle(Recordset& zeilen, std::string_view feld, std::string_view wert);
-    void loesche(Recordset& zeilen);
-    void schliesseAb();
+    void update(Recordset& row, std::string_view field, std::string_view value);
+    void updateAll(Recordset& rows, std::string_view field, std::string_view value);
+    void remove(Recordset& rows);
+    void commit();
 
     // From here on nothing is written, but wantsToWrite tells whether it would have been.
     void lookOnly();
@@ -53,24 +53,24 @@ public:
 
 private:
     // False when nothing is to be written.
-    bool beginne();
+    bool begin();
 
-    Connection& verbindung_;
-    std::optional<Transaktion> transaktion_;
+    Connection& connection_;
+    std::optional<Transaction> transaction_;
     bool lookOnly_ = false;
     bool wantsToWrite_ = false;
 };
 
-// A text that must be there: Null throws Laufzeitfehler 94.
-std::string pflichttext(const Recordset& zeile, std::string_view feld);
+// A text that must be there: Null throws RuntimeError 94.
+std::string requiredText(const Recordset& row, std::string_view field);
 // "" for Null.
-std::string textOderLeer(const Recordset& zeile, std::string_view feld);
-inline constexpr std::size_t ANZAHL_SUCHTEXTE = 8;
+std::string textOrEmpty(const Recordset& row, std::string_view field);
+inline constexpr std::size_t SEARCH_TEXT_COUNT = 8;
 // The key of a search text by its number, "Text0" to "Text7", and the number of a key; nothing for any other text.
 std::string searchTextName(std::size_t number);
 std::optional<std::size_t> searchTextKey(std::string_view name);
 // Numbers of settings are small ones, of 16 bits; others count as no number. Nothing, or 0, for what is none.
-std::optional<int> findNumber(const Recordset& zeile, std::string_view feld);
-int zahlOderNull(const Recordset& zeile, std::string_view feld);
+std::optional<int> findNumber(const Recordset& row, std::string_view field);
+int numberOrZero(const Recordset& row, std::string_view field);
 
 } // namespace quelvarn

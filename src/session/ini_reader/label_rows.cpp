@@ -12,9 +12,9 @@ namespace quelvarn {
 
 namespace {
 
-using Namen = std::map<std::string, std::string, std::less<>>;
+using Names = std::map<std::string, std::string, std::less<>>;
 
-const Namen BEZEICHNUNGEN{
+const Names LABELS{
     {"autor", "Autor"},
     {"bearbeiter", "Bearbeiter"},
     {"erstellt", "Erstellt"},
@@ -31,61 +31,61 @@ const Namen BEZEICHNUNGEN{
     {"stichwörter", "Stichwörter"},
 };
 
-const Namen SONDERTABELLEN{
+const Names SPECIAL_TABLES{
     {"sondertabelle1", "Sondertabelle1"},
     {"sondertabelle2", "Sondertabelle2"},
     {"sondertabelle3", "Sondertabelle3"},
 };
 
 // The names of a group of !QV_Ini rows; a key without a row, or with an empty name, keeps its default.
-Namen leseNamen(Startlauf& lauf, std::string_view gruppe, Namen namen)
+Names readNames(StartRun& run, std::string_view group, Names names)
 {
-    Recordset zeilen = lauf.ini.verschiedene({"Feld3", "Feld4"}, EIGENTUEMER_ALLE, gruppe);
-    if (zeilen.leer()) {
-        lauf.ports.meldungen.warnung("Modul: Falscher Eintrag Ini-Tabelle",
-                                     fmt::format("Falscher Eintrag bei '{}'in der Ini-Tabelle!\n"
-                                                 "Es werden die Defaultwerte eingetragen.",
-                                                 gruppe));
-        return namen;
+    Recordset rows = run.ini.distinct({"Feld3", "Feld4"}, OWNER_ALL, group);
+    if (rows.empty()) {
+        run.ports.boxes.warn("Modul: Falscher Eintrag Ini-Tabelle",
+                             fmt::format("Falscher Eintrag bei '{}'in der Ini-Tabelle!\n"
+                                         "Es werden die Defaultwerte eingetragen.",
+                                         group));
+        return names;
     }
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        const auto eintrag = namen.find(toLower(textOderLeer(zeilen, "Feld3")));
-        const std::string name = textOderLeer(zeilen, "Feld4");
-        if (eintrag != namen.end() && !name.empty())
-            eintrag->second = name;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const auto entry = names.find(toLower(textOrEmpty(rows, "Feld3")));
+        const std::string name = textOrEmpty(rows, "Feld4");
+        if (entry != names.end() && !name.empty())
+            entry->second = name;
     }
-    return namen;
+    return names;
 }
 
 } // namespace
 
-void leseBezeichnungen(Startlauf& lauf)
+void readLabels(StartRun& run)
 {
-    lauf.session.labels.Bezeichnungen = leseNamen(lauf, "Bezeichnung", BEZEICHNUNGEN);
+    run.session.labels.Bezeichnungen = readNames(run, "Bezeichnung", LABELS);
 }
 
-void leseSondertabellen(Startlauf& lauf)
+void readSpecialTables(StartRun& run)
 {
-    const Namen namen = leseNamen(lauf, "Tabelle", SONDERTABELLEN);
-    auto ziel = lauf.session.labels.SondertabelleName.begin();
-    for (const auto& [schluessel, name] : namen)
-        *ziel++ = name;
+    const Names names = readNames(run, "Tabelle", SPECIAL_TABLES);
+    auto target = run.session.labels.SondertabelleName.begin();
+    for (const auto& [key, name] : names)
+        *target++ = name;
 }
 
-void leseSuchtexte(Startlauf& lauf)
+void readSearchTexts(StartRun& run)
 {
-    auto& suchtexte = lauf.session.pages.Suchtexte;
-    suchtexte.clear();
+    auto& searchTexts = run.session.pages.SearchTexts;
+    searchTexts.clear();
     // One text a key, in the order of the keys: rows of other keys are none, and of twins the first counts.
-    std::array<std::optional<std::string>, ANZAHL_SUCHTEXTE> byKey;
-    for (Recordset zeilen = lauf.ini.suchtexte(lauf.session.user.Anwender); !zeilen.Eof(); zeilen.MoveNext()) {
-        const auto key = searchTextKey(textOderLeer(zeilen, "Feld3"));
+    std::array<std::optional<std::string>, SEARCH_TEXT_COUNT> byKey;
+    for (Recordset rows = run.ini.searchTexts(run.session.user.Anwender); !rows.Eof(); rows.MoveNext()) {
+        const auto key = searchTextKey(textOrEmpty(rows, "Feld3"));
         if (key && !byKey[*key])
-            byKey[*key] = pflichttext(zeilen, "Feld4");
+            byKey[*key] = requiredText(rows, "Feld4");
     }
     for (auto& text : byKey)
         if (text)
-            suchtexte.push_back(std::move(*text));
+            searchTexts.push_back(std::move(*text));
 }
 
 } // namespace quelvarn

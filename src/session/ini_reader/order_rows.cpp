@@ -9,65 +9,64 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> ZIP_STUFEN{"Normal", "Maximum", "Minimum", "Schnell"};
-constexpr std::string_view ZIP_PASSWORT = "Tarnwort";
-constexpr std::size_t LAENGSTES_PASSWORT = 16;
+constexpr std::array<std::string_view, 4> ZIP_LEVELS{"Normal", "Maximum", "Minimum", "Schnell"};
+constexpr std::string_view ZIP_PASSWORD = "Tarnwort";
+constexpr std::size_t LONGEST_PASSWORD = 16;
 
-bool istEinesVon(std::string_view wert, std::initializer_list<std::string_view> erlaubt)
+bool isOneOf(std::string_view value, std::initializer_list<std::string_view> allowed)
 {
-    return std::find(erlaubt.begin(), erlaubt.end(), wert) != erlaubt.end();
+    return std::find(allowed.begin(), allowed.end(), value) != allowed.end();
 }
 
 // The stored value where it counts as good, else the default, which is written back.
-std::string geheilt(Startlauf& lauf, Recordset& zeile, std::string_view feld, bool gut, std::string_view vorgabe)
+std::string mended(StartRun& run, Recordset& row, std::string_view field, bool good, std::string_view defaultValue)
 {
-    if (!gut)
-        lauf.ini.aendere(zeile, feld, vorgabe);
-    return gut ? pflichttext(zeile, feld) : std::string(vorgabe);
+    if (!good)
+        run.ini.update(row, field, defaultValue);
+    return good ? requiredText(row, field) : std::string(defaultValue);
 }
 
 } // namespace
 
-void leseOfflineDaten(Startlauf& lauf)
+void readOfflineData(StartRun& run)
 {
-    SessionState& session = lauf.session;
-    Recordset zeile = lauf.ini.zeilen(session.user.Anwender, "OfflineDaten");
-    if (zeile.leer()) {
+    SessionState& session = run.session;
+    Recordset row = run.ini.rows(session.user.Anwender, "OfflineDaten");
+    if (row.empty()) {
         session.orders.OfflineArt = "Plot";
         session.orders.OfflineNummer = "(1)";
         session.orders.OfflineExportArt = "Export";
-        return lauf.ini.fuegeAn({session.user.Anwender, "OfflineDaten", "Plot", "(1)", "Export"});
+        return run.ini.append({session.user.Anwender, "OfflineDaten", "Plot", "(1)", "Export"});
     }
-    const bool artGut =
-        istEinesVon(toUpper(pflichttext(zeile, "Feld3")), {"PLOT", "PDF", "TIFF", "EXPORT", "DIRECTMAIL"});
-    const bool nummerGut = istEinesVon(pflichttext(zeile, "Feld4"), {"(1)", "(2)"});
-    const bool exportGut = istEinesVon(toUpper(pflichttext(zeile, "Feld5")), {"EXPORT", "BOM"});
-    session.orders.OfflineArt = geheilt(lauf, zeile, "Feld3", artGut, "Plot");
-    session.orders.OfflineNummer = geheilt(lauf, zeile, "Feld4", nummerGut, "(1)");
-    session.orders.OfflineExportArt = geheilt(lauf, zeile, "Feld5", exportGut, "Export");
+    const bool kindGood = isOneOf(toUpper(requiredText(row, "Feld3")), {"PLOT", "PDF", "TIFF", "EXPORT", "DIRECTMAIL"});
+    const bool numberIsGood = isOneOf(requiredText(row, "Feld4"), {"(1)", "(2)"});
+    const bool exportGood = isOneOf(toUpper(requiredText(row, "Feld5")), {"EXPORT", "BOM"});
+    session.orders.OfflineArt = mended(run, row, "Feld3", kindGood, "Plot");
+    session.orders.OfflineNummer = mended(run, row, "Feld4", numberIsGood, "(1)");
+    session.orders.OfflineExportArt = mended(run, row, "Feld5", exportGood, "Export");
 }
 
-void leseZipDaten(Startlauf& lauf)
+void readZipData(StartRun& run)
 {
-    SessionState& session = lauf.session;
+    SessionState& session = run.session;
     session.orders.ZipStufe = 0;
-    session.orders.ZipPasswort = ZIP_PASSWORT;
-    Recordset zeile = lauf.ini.zeilen(session.user.Anwender, "ZipDaten");
-    if (zeile.leer())
-        return lauf.ini.fuegeAn({session.user.Anwender, "ZipDaten", ZIP_STUFEN[0], ZIP_PASSWORT});
+    session.orders.ZipPasswort = ZIP_PASSWORD;
+    Recordset row = run.ini.rows(session.user.Anwender, "ZipDaten");
+    if (row.empty())
+        return run.ini.append({session.user.Anwender, "ZipDaten", ZIP_LEVELS[0], ZIP_PASSWORD});
 
-    const auto stufe = std::find(ZIP_STUFEN.begin(), ZIP_STUFEN.end(), pflichttext(zeile, "Feld3"));
-    if (stufe != ZIP_STUFEN.end())
-        session.orders.ZipStufe = static_cast<int>(stufe - ZIP_STUFEN.begin());
+    const auto level = std::find(ZIP_LEVELS.begin(), ZIP_LEVELS.end(), requiredText(row, "Feld3"));
+    if (level != ZIP_LEVELS.end())
+        session.orders.ZipStufe = static_cast<int>(level - ZIP_LEVELS.begin());
     else
-        lauf.ini.aendere(zeile, "Feld3", ZIP_STUFEN[0]);
+        run.ini.update(row, "Feld3", ZIP_LEVELS[0]);
 
     // A password that is too long stays in the table.
-    const std::string passwort = pflichttext(zeile, "Feld4");
-    if (passwort.empty())
-        lauf.ini.aendere(zeile, "Feld4", ZIP_PASSWORT);
-    else if (countCharacters(passwort) <= LAENGSTES_PASSWORT)
-        session.orders.ZipPasswort = passwort;
+    const std::string password = requiredText(row, "Feld4");
+    if (password.empty())
+        run.ini.update(row, "Feld4", ZIP_PASSWORD);
+    else if (countCharacters(password) <= LONGEST_PASSWORD)
+        session.orders.ZipPasswort = password;
 }
 
 } // namespace quelvarn

@@ -10,95 +10,94 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::size_t ANZAHL_BLATTGROESSEN = 5;
-constexpr std::string_view PDF_SCHLUESSEL = "A0-A4/Color";
+constexpr std::size_t SHEET_SIZE_COUNT = 5;
+constexpr std::string_view PDF_KEY = "A0-A4/Color";
 
 // "A0/Color" to "A4/Color", then the same with "Mono".
-std::string blattschluessel(std::size_t index)
+std::string sheetKey(std::size_t index)
 {
-    return fmt::format("A{}/{}", index % ANZAHL_BLATTGROESSEN, index < ANZAHL_BLATTGROESSEN ? "Color" : "Mono");
+    return fmt::format("A{}/{}", index % SHEET_SIZE_COUNT, index < SHEET_SIZE_COUNT ? "Color" : "Mono");
 }
 
-void warneDruckertabelle(Meldungen& meldungen, std::string_view schluessel)
+void warnPrinterTable(Boxes& boxes, std::string_view key)
 {
-    meldungen.warnung("Plotter/Drucker ermitteln",
-                      fmt::format("Fehler bei den Angaben '{}' für 'Plotter/Drucker ermitteln'!\n"
-                                  "Überprüfen Sie die Angaben und Starten Sie 'Quelvarn' erneut.",
-                                  schluessel));
+    boxes.warn("Plotter/Drucker ermitteln", fmt::format("Fehler bei den Angaben '{}' für 'Plotter/Drucker ermitteln'!\n"
+                                                        "Überprüfen Sie die Angaben und Starten Sie 'Quelvarn' erneut.",
+                                                        key));
 }
 
-void uebernimmDrucker(SessionState& session, Recordset& zeilen)
+void adoptPrinters(SessionState& session, Recordset& rows)
 {
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        const std::string schluessel = pflichttext(zeilen, "Feld4");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::string key = requiredText(rows, "Feld4");
         for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index)
-            if (schluessel == blattschluessel(index))
-                session.orders.PlotDrucker[index] = pflichttext(zeilen, "Feld5");
+            if (key == sheetKey(index))
+                session.orders.PlotDrucker[index] = requiredText(rows, "Feld5");
     }
     session.orders.PlotDruckerKomplett =
         std::none_of(session.orders.PlotDrucker.begin(), session.orders.PlotDrucker.end(),
-                     [](const std::string& drucker) { return toUpper(drucker) == toUpper(KEINE_ANGABE); });
+                     [](const std::string& printers) { return toUpper(printers) == toUpper(NOT_GIVEN); });
 }
 
 } // namespace
 
-void lesePlotPfad(Startlauf& lauf)
+void readPlotPfad(StartRun& run)
 {
-    lauf.session.orders.PlotPfad.clear();
-    Recordset zeilen = lauf.ini.verschiedene({"Feld5"}, EIGENTUEMER_ALLE, "Plot", "Pfadname");
-    if (zeilen.leer()) {
-        lauf.ports.meldungen.warnung("Modul: Falscher Eintrag Ini-Tabelle",
-                                     "Falscher Eintrag bei 'Plot'u. 'Pfadname' in der Ini-Tabelle!");
+    run.session.orders.PlotPfad.clear();
+    Recordset rows = run.ini.distinct({"Feld5"}, OWNER_ALL, "Plot", "Pfadname");
+    if (rows.empty()) {
+        run.ports.boxes.warn("Modul: Falscher Eintrag Ini-Tabelle",
+                             "Falscher Eintrag bei 'Plot'u. 'Pfadname' in der Ini-Tabelle!");
         return;
     }
-    const std::string pfad = textOderLeer(zeilen, "Feld5");
-    if (!pfad.empty() && lauf.ports.dateien.ordnerVorhanden(pfad))
-        lauf.session.orders.PlotPfad = pfad;
+    const std::string documentPath = textOrEmpty(rows, "Feld5");
+    if (!documentPath.empty() && run.ports.files.folderExists(documentPath))
+        run.session.orders.PlotPfad = documentPath;
 }
 
-void leseOfflineTool(Startlauf& lauf)
+void readOfflineTool(StartRun& run)
 {
-    constexpr std::string_view VORGABE = "Talvik";
-    std::string& tool = lauf.session.orders.OfflineTool;
-    tool = VORGABE;
-    Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Offline");
-    if (zeilen.leer())
-        return lauf.ini.fuegeAn({EIGENTUEMER_ALLE, "Plot", "Offline", VORGABE});
+    constexpr std::string_view DEFAULT_VALUE = "Talvik";
+    std::string& tool = run.session.orders.OfflineTool;
+    tool = DEFAULT_VALUE;
+    Recordset rows = run.ini.rows(OWNER_ALL, "Plot", "Offline");
+    if (rows.empty())
+        return run.ini.append({OWNER_ALL, "Plot", "Offline", DEFAULT_VALUE});
 
-    if (pflichttext(zeilen, "Feld4") == "Druvik")
+    if (requiredText(rows, "Feld4") == "Druvik")
         tool = "Druvik";
-    lauf.ini.aendere(zeilen, "Feld4", tool);
+    run.ini.update(rows, "Feld4", tool);
 }
 
-void lesePlotDrucker(Startlauf& lauf)
+void readPlotDrucker(StartRun& run)
 {
-    SessionState& session = lauf.session;
+    SessionState& session = run.session;
     session.orders.PlotDrucker.fill("");
     session.orders.PlotDruckerKomplett = false;
-    Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "Printer");
-    if (zeilen.RecordCount() == session.orders.PlotDrucker.size())
-        return uebernimmDrucker(session, zeilen);
-    if (!zeilen.leer())
-        return warneDruckertabelle(lauf.ports.meldungen, "Printer");
+    Recordset rows = run.ini.rows(OWNER_ALL, "Plot", "Printer");
+    if (rows.RecordCount() == session.orders.PlotDrucker.size())
+        return adoptPrinters(session, rows);
+    if (!rows.empty())
+        return warnPrinterTable(run.ports.boxes, "Printer");
 
     for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index) {
-        lauf.ini.fuegeAn({EIGENTUEMER_ALLE, "Plot", "Printer", blattschluessel(index), KEINE_ANGABE});
-        session.orders.PlotDrucker[index] = KEINE_ANGABE;
+        run.ini.append({OWNER_ALL, "Plot", "Printer", sheetKey(index), NOT_GIVEN});
+        session.orders.PlotDrucker[index] = NOT_GIVEN;
     }
 }
 
-void lesePdfDrucker(Startlauf& lauf)
+void readPdfDrucker(StartRun& run)
 {
-    lauf.session.orders.PdfDrucker.clear();
-    Recordset zeilen = lauf.ini.zeilen(EIGENTUEMER_ALLE, "Plot", "PDF");
-    if (zeilen.RecordCount() > 1)
-        return warneDruckertabelle(lauf.ports.meldungen, "PDF");
-    if (!zeilen.leer()) {
-        lauf.session.orders.PdfDrucker = pflichttext(zeilen, "Feld5");
+    run.session.orders.PdfDrucker.clear();
+    Recordset rows = run.ini.rows(OWNER_ALL, "Plot", "PDF");
+    if (rows.RecordCount() > 1)
+        return warnPrinterTable(run.ports.boxes, "PDF");
+    if (!rows.empty()) {
+        run.session.orders.PdfDrucker = requiredText(rows, "Feld5");
         return;
     }
-    lauf.ini.fuegeAn({EIGENTUEMER_ALLE, "Plot", "PDF", PDF_SCHLUESSEL, KEINE_ANGABE});
-    lauf.session.orders.PdfDrucker = KEINE_ANGABE;
+    run.ini.append({OWNER_ALL, "Plot", "PDF", PDF_KEY, NOT_GIVEN});
+    run.session.orders.PdfDrucker = NOT_GIVEN;
 }
 
 } // namespace quelvarn

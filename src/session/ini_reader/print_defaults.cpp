@@ -6,183 +6,183 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::string_view WIE_IN_SOLID_EDGE = "Wie in Solid Edge";
-constexpr std::string_view SCHWARZ = "Schwarz";
-constexpr std::string_view IN_FARBE = "In Farbe";
-constexpr std::string_view ERMITTELN = "Ermitteln";
-constexpr int PDF_AUFLOESUNG = 300;
+constexpr std::string_view AS_IN_SOLID_EDGE = "Wie in Solid Edge";
+constexpr std::string_view BLACK = "Schwarz";
+constexpr std::string_view IN_COLOUR = "In Farbe";
+constexpr std::string_view DETERMINE = "Ermitteln";
+constexpr int PDF_RESOLUTION = 300;
 
 // Reads the user's rows of "Plot" or "PDF" into the record that new orders take. An empty or zero field of the
 // record is one for which no row spoke.
-class Vorgabeleser
+class DefaultsReader
 {
 public:
-    Vorgabeleser(Startlauf& lauf, bool pdf)
-        : lauf_(lauf), pdf_(pdf), gruppe_(pdf ? "PDF" : "Plot"),
-          vorgabe_(pdf ? lauf.session.orders.PdfVorgabe : lauf.session.orders.PlotVorgabe)
+    DefaultsReader(StartRun& run, bool pdf)
+        : run_(run), pdf_(pdf), group_(pdf ? "PDF" : "Plot"),
+          defaultValue_(pdf ? run.session.orders.PdfVorgabe : run.session.orders.PlotVorgabe)
     {}
 
     void lies();
 
 private:
-    void uebernimm(const Recordset& zeile);
-    void uebernimmPfad(const Recordset& zeile);
-    void ergaenze(bool neu);
-    void ergaenzePfad();
-    void fuegeAn(std::string_view schluessel, std::string_view wert);
-    std::string papier(const std::string& wert);
-    int exemplare(const Recordset& zeile);
-    std::string ausrichtung(const std::string& wert);
-    Standarddrucker drucker();
-    bool druckerVorhanden();
+    void adopt(const Recordset& row);
+    void adoptPath(const Recordset& row);
+    void complete(bool fresh);
+    void completePath();
+    void append(std::string_view key, std::string_view value);
+    std::string paper(const std::string& value);
+    int copies(const Recordset& row);
+    std::string orientation(const std::string& value);
+    DefaultPrinter printers();
+    bool printersExists();
 
-    Startlauf& lauf_;
+    StartRun& run_;
     bool pdf_;
-    std::string_view gruppe_;
-    Druckvorgabe& vorgabe_;
-    bool schreibt_ = true;
+    std::string_view group_;
+    PrintDefaults& defaultValue_;
+    bool writes_ = true;
 };
 
-void Vorgabeleser::lies()
+void DefaultsReader::lies()
 {
-    vorgabe_ = {};
-    Recordset zeilen = lauf_.ini.zeilen(lauf_.session.user.Anwender, gruppe_);
-    const bool neu = zeilen.leer();
-    for (; !zeilen.Eof(); zeilen.MoveNext())
-        uebernimm(zeilen);
+    defaultValue_ = {};
+    Recordset rows = run_.ini.rows(run_.session.user.Anwender, group_);
+    const bool fresh = rows.empty();
+    for (; !rows.Eof(); rows.MoveNext())
+        adopt(rows);
     // Without a printer a new user gets no rows yet; the next start tries again.
-    schreibt_ = !neu || druckerVorhanden();
-    ergaenze(neu);
+    writes_ = !fresh || printersExists();
+    complete(fresh);
 }
 
-void Vorgabeleser::uebernimm(const Recordset& zeile)
+void DefaultsReader::adopt(const Recordset& row)
 {
-    const std::string schluessel = pflichttext(zeile, "Feld3");
-    const Value wert = zeile.Feld("Feld4");
-    if (schluessel == "Printer") {
+    const std::string key = requiredText(row, "Feld3");
+    const Value value = row.field("Feld4");
+    if (key == "Printer") {
         // An empty row does not put out what another one told.
-        if (const std::string name = pflichttext(zeile, "Feld4"); !name.empty())
-            vorgabe_.Printer = name;
-    } else if (schluessel == "PaperSize") {
-        vorgabe_.PaperSize = papier(pflichttext(zeile, "Feld4"));
-    } else if (schluessel == "ColorMode") {
-        const bool farbig = pdf_ || pflichttext(zeile, "Feld4") == IN_FARBE;
-        vorgabe_.ColorMode = farbig ? IN_FARBE : SCHWARZ;
-    } else if (schluessel == "NumCopies") {
-        vorgabe_.NumCopies = exemplare(zeile);
-    } else if (schluessel == "Orientation") {
-        vorgabe_.Orientation = ausrichtung(pflichttext(zeile, "Feld4"));
-    } else if (schluessel == "PlotScale") {
-        vorgabe_.PlotScale = istNumerisch(wert) && alsZahl(wert) != 0 ? alsZahl(wert) : 1.0;
-    } else if (schluessel == "Pfadname" && pdf_) {
-        uebernimmPfad(zeile);
+        if (const std::string name = requiredText(row, "Feld4"); !name.empty())
+            defaultValue_.Printer = name;
+    } else if (key == "PaperSize") {
+        defaultValue_.PaperSize = paper(requiredText(row, "Feld4"));
+    } else if (key == "ColorMode") {
+        const bool coloured = pdf_ || requiredText(row, "Feld4") == IN_COLOUR;
+        defaultValue_.ColorMode = coloured ? IN_COLOUR : BLACK;
+    } else if (key == "NumCopies") {
+        defaultValue_.NumCopies = copies(row);
+    } else if (key == "Orientation") {
+        defaultValue_.Orientation = orientation(requiredText(row, "Feld4"));
+    } else if (key == "PlotScale") {
+        defaultValue_.PlotScale = isNumeric(value) && asNumber(value) != 0 ? asNumber(value) : 1.0;
+    } else if (key == "Pfadname" && pdf_) {
+        adoptPath(row);
     }
 }
 
-void Vorgabeleser::uebernimmPfad(const Recordset& zeile)
+void DefaultsReader::adoptPath(const Recordset& row)
 {
-    const int art = zahlOderNull(zeile, "Feld4");
-    vorgabe_.PfadArt = art >= 1 && art <= 3 ? art : 1;
-    const std::string pfad = textOderLeer(zeile, "Feld5");
-    vorgabe_.Pfad = pfad.empty() ? lauf_.session.folders.OrdnerSEDokumente : pfad;
+    const int kind = numberOrZero(row, "Feld4");
+    defaultValue_.PfadArt = kind >= 1 && kind <= 3 ? kind : 1;
+    const std::string documentPath = textOrEmpty(row, "Feld5");
+    defaultValue_.Pfad = documentPath.empty() ? run_.session.folders.OrdnerSEDokumente : documentPath;
 }
 
-std::string Vorgabeleser::papier(const std::string& wert)
+std::string DefaultsReader::paper(const std::string& value)
 {
-    return wert.empty() ? papierName(drucker().papiercode) : wert;
+    return value.empty() ? paperName(printers().paperCode) : value;
 }
 
-int Vorgabeleser::exemplare(const Recordset& zeile)
+int DefaultsReader::copies(const Recordset& row)
 {
-    const std::optional<int> zahl = findNumber(zeile, "Feld4");
+    const std::optional<int> number = findNumber(row, "Feld4");
     if (!pdf_)
-        return zahl ? *zahl : drucker().exemplare;
-    const std::string text = alsText(zeile.Feld("Feld4"));
-    return text == "150" || text == "600" ? *zahl : PDF_AUFLOESUNG;
+        return number ? *number : printers().copies;
+    const std::string text = asText(row.field("Feld4"));
+    return text == "150" || text == "600" ? *number : PDF_RESOLUTION;
 }
 
-std::string Vorgabeleser::ausrichtung(const std::string& wert)
+std::string DefaultsReader::orientation(const std::string& value)
 {
-    if (wert == "Hochformat" || wert == "Querformat" || wert == ERMITTELN)
-        return wert;
-    return drucker().ausrichtung == 1 ? "Hochformat" : "Querformat";
+    if (value == "Hochformat" || value == "Querformat" || value == DETERMINE)
+        return value;
+    return printers().orientation == 1 ? "Hochformat" : "Querformat";
 }
 
 // Fills what no row told, and adds its row.
-void Vorgabeleser::ergaenze(bool neu)
+void DefaultsReader::complete(bool fresh)
 {
-    if (vorgabe_.Printer.empty() && druckerVorhanden()) {
-        vorgabe_.Printer = drucker().name;
-        fuegeAn("Printer", vorgabe_.Printer);
+    if (defaultValue_.Printer.empty() && printersExists()) {
+        defaultValue_.Printer = printers().name;
+        append("Printer", defaultValue_.Printer);
     }
-    if (vorgabe_.PaperSize.empty()) {
-        vorgabe_.PaperSize = WIE_IN_SOLID_EDGE;
-        fuegeAn("PaperSize", WIE_IN_SOLID_EDGE);
+    if (defaultValue_.PaperSize.empty()) {
+        defaultValue_.PaperSize = AS_IN_SOLID_EDGE;
+        append("PaperSize", AS_IN_SOLID_EDGE);
     }
-    if (vorgabe_.ColorMode.empty()) {
-        vorgabe_.ColorMode = pdf_ ? IN_FARBE : SCHWARZ;
-        fuegeAn("ColorMode", SCHWARZ); // For PDF too: the row says so, the orders are coloured.
+    if (defaultValue_.ColorMode.empty()) {
+        defaultValue_.ColorMode = pdf_ ? IN_COLOUR : BLACK;
+        append("ColorMode", BLACK); // For PDF too: the row says so, the orders are coloured.
     }
-    if (vorgabe_.NumCopies == 0) {
-        vorgabe_.NumCopies = pdf_ ? PDF_AUFLOESUNG : 1;
+    if (defaultValue_.NumCopies == 0) {
+        defaultValue_.NumCopies = pdf_ ? PDF_RESOLUTION : 1;
         // A single missing row takes the printer's number for the next start.
-        const int zeilenwert = pdf_ || neu ? vorgabe_.NumCopies : drucker().exemplare;
-        fuegeAn("NumCopies", std::to_string(zeilenwert));
+        const int rowValue = pdf_ || fresh ? defaultValue_.NumCopies : printers().copies;
+        append("NumCopies", std::to_string(rowValue));
     }
-    if (vorgabe_.Orientation.empty()) {
-        vorgabe_.Orientation = ERMITTELN;
-        fuegeAn("Orientation", ERMITTELN);
+    if (defaultValue_.Orientation.empty()) {
+        defaultValue_.Orientation = DETERMINE;
+        append("Orientation", DETERMINE);
     }
-    if (vorgabe_.PlotScale == 0) {
-        vorgabe_.PlotScale = 1.0;
-        fuegeAn("PlotScale", zahlAlsText(vorgabe_.PlotScale));
+    if (defaultValue_.PlotScale == 0) {
+        defaultValue_.PlotScale = 1.0;
+        append("PlotScale", numberAsText(defaultValue_.PlotScale));
     }
     if (pdf_)
-        ergaenzePfad();
+        completePath();
 }
 
-void Vorgabeleser::ergaenzePfad()
+void DefaultsReader::completePath()
 {
-    if (!vorgabe_.Pfad.empty())
+    if (!defaultValue_.Pfad.empty())
         return;
-    vorgabe_.PfadArt = 1;
-    vorgabe_.Pfad = lauf_.session.folders.OrdnerSEDokumente;
-    if (schreibt_)
-        lauf_.ini.fuegeAn({lauf_.session.user.Anwender, gruppe_, "Pfadname", "1", vorgabe_.Pfad});
+    defaultValue_.PfadArt = 1;
+    defaultValue_.Pfad = run_.session.folders.OrdnerSEDokumente;
+    if (writes_)
+        run_.ini.append({run_.session.user.Anwender, group_, "Pfadname", "1", defaultValue_.Pfad});
 }
 
-void Vorgabeleser::fuegeAn(std::string_view schluessel, std::string_view wert)
+void DefaultsReader::append(std::string_view key, std::string_view value)
 {
-    if (schreibt_)
-        lauf_.ini.fuegeAn({lauf_.session.user.Anwender, gruppe_, schluessel, wert});
+    if (writes_)
+        run_.ini.append({run_.session.user.Anwender, group_, key, value});
 }
 
-bool Vorgabeleser::druckerVorhanden()
+bool DefaultsReader::printersExists()
 {
-    if (!lauf_.defaultPrinter)
-        lauf_.defaultPrinter = lauf_.ports.drucker.standard();
-    return lauf_.defaultPrinter->has_value();
+    if (!run_.defaultPrinter)
+        run_.defaultPrinter = run_.ports.printers.standard();
+    return run_.defaultPrinter->has_value();
 }
 
-Standarddrucker Vorgabeleser::drucker()
+DefaultPrinter DefaultsReader::printers()
 {
-    if (druckerVorhanden())
-        return **lauf_.defaultPrinter;
-    Standarddrucker keiner;
-    keiner.papiercode = PAPIERCODE_UNBEKANNT;
-    return keiner;
+    if (printersExists())
+        return **run_.defaultPrinter;
+    DefaultPrinter nobody;
+    nobody.paperCode = PAPER_CODE_UNKNOWN;
+    return nobody;
 }
 
 } // namespace
 
-void lesePlotVorgabe(Startlauf& lauf)
+void readPlotDefaults(StartRun& run)
 {
-    Vorgabeleser(lauf, false).lies();
+    DefaultsReader(run, false).lies();
 }
 
-void lesePdfVorgabe(Startlauf& lauf)
+void readPdfDefaults(StartRun& run)
 {
-    Vorgabeleser(lauf, true).lies();
+    DefaultsReader(run, true).lies();
 }
 
 } // namespace quelvarn

@@ -11,11 +11,11 @@ namespace quelvarn {
 namespace {
 
 // A new user sees released and frozen documents and may delete nothing.
-constexpr std::array<int, ANZAHL_STATUS> SICHTBAR_FUER_NEUE{0, 0, 0, 1, 1, 0};
+constexpr std::array<int, STATUS_COUNT> VISIBLE_FOR_NEW{0, 0, 0, 1, 1, 0};
 
-std::string willkommen(std::string_view anwender)
+std::string welcome(std::string_view user)
 {
-    return zeilen({
+    return lines({
         "*******************************",
         "",
         "                 W i l l k o m m e n",
@@ -28,7 +28,7 @@ std::string willkommen(std::string_view anwender)
         "",
         "Sie werden als Anwender:",
         "",
-        anwender,
+        user,
         "",
         "in Quelvarnis angemeldet.",
         "",
@@ -42,51 +42,51 @@ std::string willkommen(std::string_view anwender)
     });
 }
 
-void lies(SessionState& session, Recordset& zeilen)
+void lies(SessionState& session, Recordset& rows)
 {
-    for (zeilen.MoveFirst(); !zeilen.Eof(); zeilen.MoveNext()) {
-        const std::string schluessel = toLower(textOderLeer(zeilen, "Feld3"));
+    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+        const std::string key = toLower(textOrEmpty(rows, "Feld3"));
         for (std::size_t status = 0; status < session.rights.Sichtbar.size(); ++status) {
-            if (schluessel != fmt::format("{}_status", status))
+            if (key != fmt::format("{}_status", status))
                 continue;
-            session.rights.Sichtbar[status] = zahlOderNull(zeilen, "Feld4");
-            session.rights.LoeschRecht[status] = zahlOderNull(zeilen, "Feld5");
+            session.rights.Sichtbar[status] = numberOrZero(rows, "Feld4");
+            session.rights.LoeschRecht[status] = numberOrZero(rows, "Feld5");
         }
     }
 }
 
-void trageEin(Startlauf& lauf)
+void add(StartRun& run)
 {
-    const std::string& anwender = lauf.session.user.Anwender;
-    for (std::size_t status = 0; status < SICHTBAR_FUER_NEUE.size(); ++status)
-        lauf.ini.fuegeAn(
-            {anwender, "Berechtigung", fmt::format("{}_Status", status), SICHTBAR_FUER_NEUE[status] ? "1" : "0", "0"});
-    lauf.ini.fuegeAn({anwender, "Sicherung", "BearbeitenVon"});
-    lauf.ini.fuegeAn({anwender, "Sicherung", "SpeichernIn"});
-    lauf.session.rights.Sichtbar = SICHTBAR_FUER_NEUE;
+    const std::string& user = run.session.user.Anwender;
+    for (std::size_t status = 0; status < VISIBLE_FOR_NEW.size(); ++status)
+        run.ini.append(
+            {user, "Berechtigung", fmt::format("{}_Status", status), VISIBLE_FOR_NEW[status] ? "1" : "0", "0"});
+    run.ini.append({user, "Sicherung", "BearbeitenVon"});
+    run.ini.append({user, "Sicherung", "SpeichernIn"});
+    run.session.rights.Sichtbar = VISIBLE_FOR_NEW;
 }
 
 } // namespace
 
-void leseBerechtigung(Startlauf& lauf)
+void readRights(StartRun& run)
 {
-    lauf.session.rights.Sichtbar.fill(0);
-    lauf.session.rights.LoeschRecht.fill(0);
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Berechtigung");
-    lauf.newUser = zeilen.leer();
-    lauf.abschnitt = lauf.newUser ? "Berechtigung eintragen" : "Berechtigung lesen";
-    if (lauf.newUser)
-        trageEin(lauf);
+    run.session.rights.Sichtbar.fill(0);
+    run.session.rights.LoeschRecht.fill(0);
+    Recordset rows = run.ini.rows(run.session.user.Anwender, "Berechtigung");
+    run.newUser = rows.empty();
+    run.section = run.newUser ? "Berechtigung eintragen" : "Berechtigung lesen";
+    if (run.newUser)
+        add(run);
     else
-        lies(lauf.session, zeilen);
+        lies(run.session, rows);
 }
 
-void werteBerechtigungAus(Startlauf& lauf)
+void applyRights(StartRun& run)
 {
-    if (lauf.newUser)
-        lauf.ports.meldungen.hinweis("", willkommen(lauf.session.user.Anwender));
-    lauf.abschnitt = "Berechtigung auswerten";
-    bildeStatusbereich(lauf.session);
+    if (run.newUser)
+        run.ports.boxes.tell("", welcome(run.session.user.Anwender));
+    run.section = "Berechtigung auswerten";
+    formStatusSection(run.session);
 }
 
 } // namespace quelvarn

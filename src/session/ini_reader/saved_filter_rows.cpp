@@ -8,41 +8,40 @@ namespace quelvarn {
 
 namespace {
 
-Recordset leereFilterliste()
+Recordset clearFilterList()
 {
-    Recordset liste;
-    liste.FeldAnhaengen("Filtername", FeldTyp::Text);
-    liste.FeldAnhaengen("Filterstring", FeldTyp::Text);
-    liste.Open();
-    return liste;
+    Recordset list;
+    list.appendField("Filtername", FieldType::Text);
+    list.appendField("Filterstring", FieldType::Text);
+    list.Open();
+    return list;
 }
 
 } // namespace
 
-void leseGespeicherteFilter(Startlauf& lauf)
+void readSavedFilters(StartRun& run)
 {
-    auto& listen = lauf.session.pages.GespeicherteFilter;
-    std::generate(listen.begin(), listen.end(), leereFilterliste);
+    auto& lists = run.session.pages.GespeicherteFilter;
+    std::generate(lists.begin(), lists.end(), clearFilterList);
 
-    Recordset zeilen = lauf.ini.lese(sql::Query("Ini")
-                                         .columns({"Feld3", "Feld4", "Feld5"})
-                                         .where(iniRows(lauf.session.user.Anwender, "Filterwerte")));
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        const std::string schluessel = textOderLeer(zeilen, "Feld3");
-        const auto typ = std::find_if(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& kandidat) {
-            return equalText(kandidat.schluessel, schluessel);
-        });
-        if (typ == DOKUTYPEN.end())
+    Recordset rows = run.ini.read(sql::Query("Ini")
+                                      .columns({"Feld3", "Feld4", "Feld5"})
+                                      .where(iniRows(run.session.user.Anwender, "Filterwerte")));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const std::string key = textOrEmpty(rows, "Feld3");
+        const auto type = std::find_if(DOCUMENT_TYPES.begin(), DOCUMENT_TYPES.end(),
+                                       [&](const DocumentType& candidate) { return equalText(candidate.key, key); });
+        if (type == DOCUMENT_TYPES.end())
             continue;
-        Recordset& liste = listen[static_cast<std::size_t>(typ->tab)];
-        liste.AddNew();
-        liste.setzeFeld("Filtername", zeilen.Feld("Feld4"));
-        liste.setzeFeld("Filterstring", zeilen.Feld("Feld5"));
-        liste.Update();
+        Recordset& list = lists[static_cast<std::size_t>(type->tab)];
+        list.AddNew();
+        list.setField("Filtername", rows.field("Feld4"));
+        list.setField("Filterstring", rows.field("Feld5"));
+        list.Update();
     }
-    for (Recordset& liste : listen)
-        if (!liste.leer())
-            liste.MoveFirst();
+    for (Recordset& list : lists)
+        if (!list.empty())
+            list.MoveFirst();
 }
 
 } // namespace quelvarn

@@ -10,50 +10,50 @@
 
 namespace quelvarn {
 
-// One run of Hauptprogramm: what its steps share. `abschnitt` is the step that an error report names.
-struct Startlauf
+// One run of Hauptprogramm: what its steps share. `section` is the step that an error report names.
+struct StartRun
 {
     SessionState& session;
     Ports& ports;
-    std::string_view& abschnitt;
-    IniZeilen ini;
+    std::string_view& section;
+    IniRows ini;
     bool newUser = false;
     // Asked only when a row leaves it to the printer, and once: it may take its time.
-    std::optional<std::optional<Standarddrucker>> defaultPrinter;
+    std::optional<std::optional<DefaultPrinter>> defaultPrinter;
 };
 
 // The whole run over the register on the session's connection. False when there is none.
-bool readRegister(Startlauf& lauf);
+bool readRegister(StartRun& run);
 
 // Greets a new user; then the rights count.
-void werteBerechtigungAus(Startlauf& lauf);
+void applyRights(StartRun& run);
 
 // Each reads the rows of its group into the session and adds or mends what is missing or wrong. It may run twice: the
 // second time in a transaction, where others cannot write these rows. So it shows no box where it writes.
-void leseBerechtigung(Startlauf& lauf);
+void readRights(StartRun& run);
 
-void leseBezeichnungen(Startlauf& lauf);
-void leseSuchtexte(Startlauf& lauf);
-void leseSondertabellen(Startlauf& lauf);
+void readLabels(StartRun& run);
+void readSearchTexts(StartRun& run);
+void readSpecialTables(StartRun& run);
 
-void lesePlotPfad(Startlauf& lauf);
-void leseOfflineTool(Startlauf& lauf);
-void lesePlotDrucker(Startlauf& lauf);
-void lesePdfDrucker(Startlauf& lauf);
+void readPlotPfad(StartRun& run);
+void readOfflineTool(StartRun& run);
+void readPlotDrucker(StartRun& run);
+void readPdfDrucker(StartRun& run);
 
-void leseCheckInOut(Startlauf& lauf);
-void leseForward(Startlauf& lauf);
-void leseNachricht(Startlauf& lauf);
-void leseActiveQuelvarn(Startlauf& lauf);
-void leseZeitintervall(Startlauf& lauf);
-void setzeZeitintervall(SessionState& session, int millisekunden);
-void leseStarttabelle(Startlauf& lauf);
-void leseTreeview(Startlauf& lauf);
+void readCheckInOut(StartRun& run);
+void readForward(StartRun& run);
+void readMessageSwitches(StartRun& run);
+void readActiveQuelvarn(StartRun& run);
+void readZeitintervall(StartRun& run);
+void setZeitintervall(SessionState& session, int milliseconds);
+void readStarttabelle(StartRun& run);
+void readTreeview(StartRun& run);
 
-void leseOfflineDaten(Startlauf& lauf);
-void leseZipDaten(Startlauf& lauf);
-void lesePlotVorgabe(Startlauf& lauf);
-void lesePdfVorgabe(Startlauf& lauf);
-void leseGespeicherteFilter(Startlauf& lauf);
+void readOfflineData(StartRun& run);
+void readZipData(StartRun& run);
+void readPlotDefaults(StartRun& run);
+void readPdfDefaults(StartRun& run);
+void readSavedFilters(StartRun& run);
 
 } // namespace quelvarn

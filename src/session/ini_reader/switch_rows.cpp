@@ -16,154 +16,154 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::int64_t GROESSTES_INTERVALL = 65535;
-constexpr std::string_view DIESES_PROGRAMM = "Quelvarn";
+constexpr std::int64_t GREATEST_INTERVAL = 65535;
+constexpr std::string_view THIS_PROGRAM = "Quelvarn";
 
 // An OnOff row of the installation: on at 1, with a box and off where there is none.
-bool leseSchalter(Startlauf& lauf, std::string_view schluessel, std::string_view pruefung1, std::string_view pruefung2)
+bool readOption(StartRun& run, std::string_view key, std::string_view check1, std::string_view check2)
 {
-    Recordset zeilen = lauf.ini.verschiedene({"Feld4"}, EIGENTUEMER_ALLE, "OnOff", schluessel);
-    if (!zeilen.leer())
-        return zahlOderNull(zeilen, "Feld4") == 1;
+    Recordset rows = run.ini.distinct({"Feld4"}, OWNER_ALL, "OnOff", key);
+    if (!rows.empty())
+        return numberOrZero(rows, "Feld4") == 1;
 
-    lauf.ports.meldungen.warnung(
+    run.ports.boxes.warn(
         "Modul: Falscher oder fehlender Eintrag Ini-Tabelle",
-        quelvarn::zeilen({
-            fmt::format("Falscher oder fehlender Eintrag bei 'OnOff' u. '{}' in der Ini-Tabelle!", schluessel),
+        quelvarn::lines({
+            fmt::format("Falscher oder fehlender Eintrag bei 'OnOff' u. '{}' in der Ini-Tabelle!", key),
             "Die im Intervall vorgenommene Überprüfung von:",
-            pruefung1,
-            pruefung2,
+            check1,
+            check2,
             "wird nicht durchgeführt.",
             "Eintrag muss lauten:",
             "Spalte 'Feld1' = '!QV_Ini'",
             "Spalte 'Feld2' = 'OnOff'",
-            fmt::format("Spalte 'Feld3' = '{}'", schluessel),
+            fmt::format("Spalte 'Feld3' = '{}'", key),
             "Spalte 'Feld4' = '1' für Ja oder '0' für Nein",
         }));
     return false;
 }
 
-bool oeffneNutzungsregister(SessionState& session)
+bool openUseRegistry(SessionState& session)
 {
     try {
-        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.Verbindung, CursorTyp::Dynamisch,
-                                    SperrTyp::Optimistisch);
+        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.connection, CursorType::Dynamisch,
+                                    LockType::Optimistic);
         return true;
     } catch (const DatabaseFault& fault) {
         if (fault.kind() != FaultKind::Other)
             throw;
         return false;
-    } catch (const Laufzeitfehler&) {
+    } catch (const RuntimeError&) {
         return false; // A register without this table works, only nobody sees who uses what.
     }
 }
 
 // True when this program tells the user at once, and not the other one does already.
-bool meldetSofort(Startlauf& lauf, std::string_view schluessel)
+bool tellsAtOnce(StartRun& run, std::string_view key)
 {
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Nachricht", schluessel);
-    if (zeilen.leer()) {
-        lauf.ini.fuegeAn({lauf.session.user.Anwender, "Nachricht", schluessel, DIESES_PROGRAMM, "1"});
+    Recordset rows = run.ini.rows(run.session.user.Anwender, "Nachricht", key);
+    if (rows.empty()) {
+        run.ini.append({run.session.user.Anwender, "Nachricht", key, THIS_PROGRAM, "1"});
         return true;
     }
-    int eigener = 0;
-    int anderer = 0;
-    for (; !zeilen.Eof(); zeilen.MoveNext()) {
-        const bool eigeneZeile = equalText(pflichttext(zeilen, "Feld4"), DIESES_PROGRAMM);
-        (eigeneZeile ? eigener : anderer) = zahlOderNull(zeilen, "Feld5");
+    int own = 0;
+    int other = 0;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const bool ownRow = equalText(requiredText(rows, "Feld4"), THIS_PROGRAM);
+        (ownRow ? own : other) = numberOrZero(rows, "Feld5");
     }
-    return anderer != 1 && eigener != 0;
+    return other != 1 && own != 0;
 }
 
 } // namespace
 
-void leseCheckInOut(Startlauf& lauf)
+void readCheckInOut(StartRun& run)
 {
-    lauf.session.use.CheckInOutOn =
-        leseSchalter(lauf, "CheckInOut", "- Beendigung 'In Arbeit'", "- Beendigung 'In Durchsicht'") &&
-        oeffneNutzungsregister(lauf.session);
+    run.session.use.CheckInOutOn =
+        readOption(run, "CheckInOut", "- Beendigung 'In Arbeit'", "- Beendigung 'In Durchsicht'") &&
+        openUseRegistry(run.session);
 }
 
-void leseForward(Startlauf& lauf)
+void readForward(StartRun& run)
 {
     // Forwarding lives in the table of the use registry, whether or not that is kept itself.
-    lauf.session.use.ForwardOn = leseSchalter(lauf, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
-                                 (lauf.session.use.CheckInOutOn || oeffneNutzungsregister(lauf.session));
+    run.session.use.ForwardOn = readOption(run, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
+                                (run.session.use.CheckInOutOn || openUseRegistry(run.session));
 }
 
-void leseNachricht(Startlauf& lauf)
+void readMessageSwitches(StartRun& run)
 {
-    if (!lauf.session.use.ForwardOn)
+    if (!run.session.use.ForwardOn)
         return;
-    lauf.session.use.MeldenWeiterleiten = meldetSofort(lauf, "Weiterleiten");
-    lauf.session.use.MeldenWorkflow = meldetSofort(lauf, "Workflow");
+    run.session.use.MeldenWeiterleiten = tellsAtOnce(run, "Weiterleiten");
+    run.session.use.MeldenWorkflow = tellsAtOnce(run, "Workflow");
 }
 
-void leseActiveQuelvarn(Startlauf& lauf)
+void readActiveQuelvarn(StartRun& run)
 {
-    const std::string& anwender = lauf.session.user.Anwender;
-    Recordset zeilen = lauf.ini.activeQuelvarn(anwender);
-    lauf.session.pages.ActiveQuelvarn = !zeilen.leer() && pflichttext(zeilen, "Feld3") == "1";
-    if (zeilen.leer())
-        lauf.ini.fuegeAn({anwender, "ActiveQuelvarn", "0"});
+    const std::string& user = run.session.user.Anwender;
+    Recordset rows = run.ini.activeQuelvarn(user);
+    run.session.pages.ActiveQuelvarn = !rows.empty() && requiredText(rows, "Feld3") == "1";
+    if (rows.empty())
+        run.ini.append({user, "ActiveQuelvarn", "0"});
 }
 
-void setzeZeitintervall(SessionState& session, int millisekunden)
+void setZeitintervall(SessionState& session, int milliseconds)
 {
-    session.use.Zeitintervall = millisekunden;
-    session.use.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSekunden(millisekunden / 1000.0));
+    session.use.Zeitintervall = milliseconds;
+    session.use.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSeconds(milliseconds / 1000.0));
 }
 
-void leseZeitintervall(Startlauf& lauf)
+void readZeitintervall(StartRun& run)
 {
-    Recordset zeilen;
-    zeilen.Open("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
-                "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')",
-                lauf.session.database.Verbindung);
-    std::int64_t wert = 0;
-    if (!zeilen.leer())
-        wert = wholeNumber(zeilen.Feld("Feld4"), 0, std::numeric_limits<std::int32_t>::max()).value_or(0);
-    if (wert > GROESSTES_INTERVALL) {
-        lauf.ports.meldungen.warnung("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
-        wert = GROESSTES_INTERVALL;
+    Recordset rows;
+    rows.Open("SELECT DISTINCT Feld4 FROM Ini WHERE  Feld1 = '!QV_Ini' AND Feld2 = 'WriteDB' AND "
+              "(Feld3 = 'Zeitinterval' Or Feld3 = 'Timeinterval')",
+              run.session.database.connection);
+    std::int64_t value = 0;
+    if (!rows.empty())
+        value = wholeNumber(rows.field("Feld4"), 0, std::numeric_limits<std::int32_t>::max()).value_or(0);
+    if (value > GREATEST_INTERVAL) {
+        run.ports.boxes.warn("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
+        value = GREATEST_INTERVAL;
     }
-    setzeZeitintervall(lauf.session, static_cast<int>(wert));
+    setZeitintervall(run.session, static_cast<int>(value));
 }
 
-void leseStarttabelle(Startlauf& lauf)
+void readStarttabelle(StartRun& run)
 {
-    std::string& tabelle = lauf.session.pages.Starttabelle;
-    tabelle = DOKUTYPEN.front().mehrzahl;
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Starttabelle");
-    if (zeilen.leer())
-        return lauf.ini.fuegeAn({lauf.session.user.Anwender, "Starttabelle", tabelle});
+    std::string& table = run.session.pages.Starttabelle;
+    table = DOCUMENT_TYPES.front().plural;
+    Recordset rows = run.ini.rows(run.session.user.Anwender, "Starttabelle");
+    if (rows.empty())
+        return run.ini.append({run.session.user.Anwender, "Starttabelle", table});
 
-    const std::string wunsch = pflichttext(zeilen, "Feld3");
-    const bool bekannt = std::any_of(DOKUTYPEN.begin(), DOKUTYPEN.end(), [&](const DokuTyp& typ) {
-        return typ.sondertabelle == 0 && typ.mehrzahl == wunsch;
+    const std::string wish = requiredText(rows, "Feld3");
+    const bool known = std::any_of(DOCUMENT_TYPES.begin(), DOCUMENT_TYPES.end(), [&](const DocumentType& type) {
+        return type.specialTable == 0 && type.plural == wish;
     });
-    if (bekannt)
-        tabelle = wunsch;
+    if (known)
+        table = wish;
 }
 
-void leseTreeview(Startlauf& lauf)
+void readTreeview(StartRun& run)
 {
-    Recordset zeilen = lauf.ini.zeilen(lauf.session.user.Anwender, "Treeview");
-    lauf.session.Tree = {};
-    for (const Baumschalterzeile& schalter : BAUMSCHALTER) {
-        if (!zeilen.leer())
-            zeilen.MoveFirst();
-        while (!zeilen.Eof() && !equalText(textOderLeer(zeilen, "Feld3"), schalter.schluessel))
-            zeilen.MoveNext();
-        if (zeilen.Eof()) {
-            lauf.ini.fuegeAn({lauf.session.user.Anwender, "Treeview", schalter.schluessel, "1", schalter.notiz});
+    Recordset rows = run.ini.rows(run.session.user.Anwender, "Treeview");
+    run.session.Tree = {};
+    for (const TreeSwitchRow& option : TREE_SWITCHES) {
+        if (!rows.empty())
+            rows.MoveFirst();
+        while (!rows.Eof() && !equalText(textOrEmpty(rows, "Feld3"), option.key))
+            rows.MoveNext();
+        if (rows.Eof()) {
+            run.ini.append({run.session.user.Anwender, "Treeview", option.key, "1", option.note});
             continue;
         }
         // A wrong value is mended in the table, yet the switch stays on for this session.
-        const std::string wert = textOderLeer(zeilen, "Feld4");
-        lauf.session.Tree.*schalter.feld = wert != "0";
-        if (wert != "0" && wert != "1")
-            lauf.ini.aendere(zeilen, "Feld4", schalter.heilwert);
+        const std::string value = textOrEmpty(rows, "Feld4");
+        run.session.Tree.*option.field = value != "0";
+        if (value != "0" && value != "1")
+            run.ini.update(rows, "Feld4", option.mendedValue);
     }
 }
 

@@ -9,9 +9,9 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--files"}, Schalter{"--reparieren"}, Schalter{"--streng"}};
+constexpr std::array OPTION{Option{"--files"}, Option{"--reparieren"}, Option{"--streng"}};
 
-constexpr std::string_view HILFE = R"(Aufruf: qvadmin check ZIEL [--files] [--reparieren] [--streng]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin check ZIEL [--files] [--reparieren] [--streng]
 
 Prüft ein Register: ob die Datenbank beschädigt ist, Tabellen, Spalten und Indexe, Dokumente ohne Schlüssel, mit
 falschem Status oder doppelt, Verweise auf Dokumente, die es nicht gibt, und Einstellungen, die ein Start bemängelt
@@ -24,36 +24,35 @@ oder ersetzt. Solange ihre Seiten geprüft werden, warten in einer SQLite-Datei 
 Ergebnis: 0, wenn nichts fehlerhaft ist, sonst 1.
 )";
 
-int check(const Argumente& argumente, Konsole& konsole)
+int check(const Arguments& arguments, Console& console)
 {
-    Connection verbindung;
-    verbindung.OpenAdresse(argumente.stelle(0));
-    Engine& engine = verbindung.engine();
-    Befund befund(konsole.aus);
+    Connection connection;
+    connection.openAddress(arguments.position(0));
+    Engine& engine = connection.engine();
+    Findings findings(console.out);
     {
-        Verlaufsanzeige anzeige(konsole);
-        Dokumentschluessel schluessel;
-        const auto part = [&](std::string_view what, const auto& work) { attempt(what, befund, work); };
-        anzeige.schritt("Seiten und Indexe", 0, 0);
-        part("Seiten und Indexe", [&] { checkPages(engine, befund); });
-        part("Der Aufbau", [&] {
-            pruefeSchema(engine, argumente.gesetzt("--reparieren") ? Indexe::Bauen : Indexe::Pruefen, befund);
-        });
-        checkCells(engine, befund, anzeige);
-        part("Die Dokumente", [&] { pruefeDokumente(engine, befund, anzeige, schluessel); });
-        part("Die Verbindungen", [&] { pruefeVerbindungen(engine, befund, anzeige, schluessel); });
-        part("Die Tabelle Ini", [&] { pruefeIni(engine, befund); });
-        if (argumente.gesetzt("--files"))
-            part("Die Dateinamen", [&] { pruefeDateien(engine, befund, anzeige); });
+        ProgressLine display(console);
+        DocumentKey key;
+        const auto part = [&](std::string_view what, const auto& work) { attempt(what, findings, work); };
+        display.step("Seiten und Indexe", 0, 0);
+        part("Seiten und Indexe", [&] { checkPages(engine, findings); });
+        part("Der Aufbau",
+             [&] { checkSchema(engine, arguments.set("--reparieren") ? Indexes::Build : Indexes::Check, findings); });
+        checkCells(engine, findings, display);
+        part("Die Dokumente", [&] { checkDocuments(engine, findings, display, key); });
+        part("Die Verbindungen", [&] { checkLinks(engine, findings, display, key); });
+        part("Die Tabelle Ini", [&] { checkIni(engine, findings); });
+        if (arguments.set("--files"))
+            part("Die Dateinamen", [&] { checkFiles(engine, findings, display); });
     }
-    konsole.aus << fmt::format("{} Fehler, {} Warnungen\n", befund.anzahlFehler(), befund.anzahlWarnungen());
-    const bool gut = befund.anzahlFehler() == 0 && (befund.anzahlWarnungen() == 0 || !argumente.gesetzt("--streng"));
-    return gut ? GUT : FEHLGESCHLAGEN;
+    console.out << fmt::format("{} Fehler, {} Warnungen\n", findings.faultCount(), findings.warningCount());
+    const bool good = findings.faultCount() == 0 && (findings.warningCount() == 0 || !arguments.set("--streng"));
+    return good ? GOOD : FAILED;
 }
 
 } // namespace
 
-const Befehl BEFEHL_CHECK{
-    .name = "check", .kurz = "prüft ein Register", .hilfe = HILFE, .schalter = SCHALTER, .ausfuehren = check};
+const Command CHECK_COMMAND{
+    .name = "check", .shortText = "prüft ein Register", .help = HELP, .option = OPTION, .execute = check};
 
 } // namespace quelvarn::tools

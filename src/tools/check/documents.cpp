@@ -13,146 +13,143 @@ namespace quelvarn::tools {
 
 namespace {
 
-// A text of the current row; Null and "" are told apart by istNull.
-std::string name(const Zeilenleser& zeile)
+// A text of the current row; Null and "" are told apart by isNull.
+std::string name(const RowReader& row)
 {
-    const auto teil = [&](std::size_t spalte) {
-        return zeile.istNull(spalte) ? "Null" : std::string(zeile.text(spalte));
-    };
-    return fmt::format("{} ({})", teil(0), teil(1));
+    const auto part = [&](std::size_t column) { return row.isNull(column) ? "Null" : std::string(row.text(column)); };
+    return fmt::format("{} ({})", part(0), part(1));
 }
 
 // What can be wrong with a document.
-struct Dokumentfehler
+struct DocumentFault
 {
-    Vorkommen ohneSchluessel;
-    Vorkommen ohneDatei;
-    Vorkommen falscherStatus;
-    Vorkommen doppelt;
+    Occurrences withoutKey;
+    Occurrences withoutFile;
+    Occurrences wrongStatus;
+    Occurrences twice;
 
-    void melde(std::string_view tabelle, Befund& befund) const
+    void notify(std::string_view table, Findings& findings) const
     {
-        const auto fehler = [&](const Vorkommen& vorkommen, std::string_view was) {
-            if (vorkommen.anzahl() > 0)
-                befund.fehler(fmt::format("{}: {}", tabelle, vorkommen.text(was)));
+        const auto fault = [&](const Occurrences& occurrences, std::string_view what) {
+            if (occurrences.count() > 0)
+                findings.fault(fmt::format("{}: {}", table, occurrences.text(what)));
         };
-        fehler(ohneSchluessel, "Dokumente ohne DokuBez oder RevBez");
-        fehler(ohneDatei, "Dokumente ohne filename");
-        fehler(falscherStatus, "Dokumente mit einem Status außerhalb von 0 bis 5");
-        fehler(doppelt, "Dokumente, die es schon gibt");
+        fault(withoutKey, "Dokumente ohne DokuBez oder RevBez");
+        fault(withoutFile, "Dokumente ohne filename");
+        fault(wrongStatus, "Dokumente mit einem Status außerhalb von 0 bis 5");
+        fault(twice, "Dokumente, die es schon gibt");
     }
 };
 
 // The first of several equal keys is no fault, each further one is.
-void findeDoppelte(Engine& engine, const DokuTyp& typ, std::vector<std::uint64_t> schluessel, Vorkommen& doppelt)
+void findDuplicates(Engine& engine, const DocumentType& type, std::vector<std::uint64_t> key, Occurrences& twice)
 {
-    std::ranges::sort(schluessel);
-    std::vector<std::uint64_t> mehrfach;
-    for (std::size_t i = 1; i < schluessel.size(); ++i)
-        if (schluessel[i] == schluessel[i - 1])
-            mehrfach.push_back(schluessel[i]);
-    if (mehrfach.empty())
+    std::ranges::sort(key);
+    std::vector<std::uint64_t> multiple;
+    for (std::size_t i = 1; i < key.size(); ++i)
+        if (key[i] == key[i - 1])
+            multiple.push_back(key[i]);
+    if (multiple.empty())
         return;
-    const auto zeilen = findZeilen(engine, typ.tabelle, {"DokuBez", "RevBez"});
-    std::unordered_set<std::uint64_t> gesehen;
-    while (zeilen->next()) {
-        const auto nummer = Dokumentschluessel::aus(zeilen->text(0), zeilen->text(1));
-        if (!std::ranges::binary_search(mehrfach, nummer))
+    const auto rows = findRows(engine, type.table, {"DokuBez", "RevBez"});
+    std::unordered_set<std::uint64_t> seen;
+    while (rows->next()) {
+        const auto number = DocumentKey::out(rows->text(0), rows->text(1));
+        if (!std::ranges::binary_search(multiple, number))
             continue;
-        if (!gesehen.insert(nummer).second)
-            doppelt.merke(name(*zeilen));
+        if (!seen.insert(number).second)
+            twice.remember(name(*rows));
     }
 }
 
-void pruefeTabelle(Engine& engine, const DokuTyp& typ, Befund& befund, Verlaufsanzeige& anzeige,
-                   Dokumentschluessel& schluessel)
+void checkTable(Engine& engine, const DocumentType& type, Findings& findings, ProgressLine& display, DocumentKey& key)
 {
-    const auto zeilen = findZeilen(engine, typ.tabelle, {"DokuBez", "RevBez", "filename", "Status"});
-    if (!zeilen)
+    const auto rows = findRows(engine, type.table, {"DokuBez", "RevBez", "filename", "Status"});
+    if (!rows)
         return;
-    auto& dokumente = schluessel.dokumente[static_cast<std::size_t>(typ.tab)];
-    Dokumentfehler fehler;
-    std::uint64_t anzahl = 0;
-    while (zeilen->next()) {
-        anzeige.melde(typ.tabelle, ++anzahl);
-        if (zeilen->istNull(0) || zeilen->istNull(1) || zeilen->text(0).empty())
-            fehler.ohneSchluessel.merke(name(*zeilen));
+    auto& documents = key.documents[static_cast<std::size_t>(type.tab)];
+    DocumentFault fault;
+    std::uint64_t count = 0;
+    while (rows->next()) {
+        display.notify(type.table, ++count);
+        if (rows->isNull(0) || rows->isNull(1) || rows->text(0).empty())
+            fault.withoutKey.remember(name(*rows));
         else
-            dokumente.push_back(Dokumentschluessel::aus(zeilen->text(0), zeilen->text(1)));
-        if (zeilen->istNull(2) || zeilen->text(2).empty())
-            fehler.ohneDatei.merke(name(*zeilen));
+            documents.push_back(DocumentKey::out(rows->text(0), rows->text(1)));
+        if (rows->isNull(2) || rows->text(2).empty())
+            fault.withoutFile.remember(name(*rows));
         else
-            schluessel.dateien.push_back(Dokumentschluessel::aus(zeilen->text(2)));
-        const auto status = zeilen->istNull(3) ? -1 : zeilen->ganzzahl(3);
-        if (status < 0 || status >= ANZAHL_STATUS)
-            fehler.falscherStatus.merke(name(*zeilen));
+            key.files.push_back(DocumentKey::out(rows->text(2)));
+        const auto status = rows->isNull(3) ? -1 : rows->integer(3);
+        if (status < 0 || status >= STATUS_COUNT)
+            fault.wrongStatus.remember(name(*rows));
     }
-    findeDoppelte(engine, typ, dokumente, fehler.doppelt);
-    befund.zeile(fmt::format("{}: {} Dokumente", typ.tabelle, anzahl));
-    fehler.melde(typ.tabelle, befund);
+    findDuplicates(engine, type, documents, fault.twice);
+    findings.row(fmt::format("{}: {} Dokumente", type.table, count));
+    fault.notify(type.table, findings);
 }
 
 constexpr char BEHIND_A_NAME = '\0';
 
 // All at once: a drive may take hours for its answers, and nobody is to wait so long for the database.
-std::string fileNames(Engine& engine, const DokuTyp& typ)
+std::string fileNames(Engine& engine, const DocumentType& type)
 {
     std::string names;
-    const auto rows = findZeilen(engine, typ.tabelle, {"filename"});
+    const auto rows = findRows(engine, type.table, {"filename"});
     while (rows && rows->next())
-        if (!rows->istNull(0))
+        if (!rows->isNull(0))
             names.append(rows->text(0)) += BEHIND_A_NAME;
     return names;
 }
 
 } // namespace
 
-std::uint64_t Dokumentschluessel::aus(std::string_view text)
+std::uint64_t DocumentKey::out(std::string_view text)
 {
     return std::hash<std::string>{}(sortKey(text));
 }
 
-std::uint64_t Dokumentschluessel::aus(std::string_view dokuBez, std::string_view revBez)
+std::uint64_t DocumentKey::out(std::string_view documentName, std::string_view revisionName)
 {
-    return std::hash<std::string>{}(sortKey(dokuBez) + '\0' + sortKey(revBez));
+    return std::hash<std::string>{}(sortKey(documentName) + '\0' + sortKey(revisionName));
 }
 
-void Dokumentschluessel::sortiere()
+void DocumentKey::sort()
 {
-    std::ranges::sort(dateien);
-    for (auto& tabelle : dokumente)
-        std::ranges::sort(tabelle);
+    std::ranges::sort(files);
+    for (auto& table : documents)
+        std::ranges::sort(table);
 }
 
-bool Dokumentschluessel::enthaelt(const std::vector<std::uint64_t>& sortierte, std::uint64_t schluessel)
+bool DocumentKey::contains(const std::vector<std::uint64_t>& sorted, std::uint64_t key)
 {
-    return std::ranges::binary_search(sortierte, schluessel);
+    return std::ranges::binary_search(sorted, key);
 }
 
-void pruefeDokumente(Engine& engine, Befund& befund, Verlaufsanzeige& anzeige, Dokumentschluessel& schluessel)
+void checkDocuments(Engine& engine, Findings& findings, ProgressLine& display, DocumentKey& key)
 {
-    for (const DokuTyp& typ : DOKUTYPEN)
-        pruefeTabelle(engine, typ, befund, anzeige, schluessel);
-    schluessel.sortiere();
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        checkTable(engine, type, findings, display, key);
+    key.sort();
 }
 
-void pruefeDateien(Engine& engine, Befund& befund, Verlaufsanzeige& anzeige)
+void checkFiles(Engine& engine, Findings& findings, ProgressLine& display)
 {
-    const auto system = systemPorts(standardLaufwerkeOrdner());
-    for (const DokuTyp& typ : DOKUTYPEN) {
-        const std::string names = fileNames(engine, typ);
-        Vorkommen fehlt;
-        std::uint64_t anzahl = 0;
+    const auto system = systemPorts(standardDrivesFolder());
+    for (const DocumentType& type : DOCUMENT_TYPES) {
+        const std::string names = fileNames(engine, type);
+        Occurrences missing;
+        std::uint64_t count = 0;
         for (std::size_t begin = 0; begin < names.size();) {
             const auto end = names.find(BEHIND_A_NAME, begin);
             const auto file = std::string_view(names).substr(begin, end - begin);
             begin = end + 1;
-            anzeige.melde("Dateien", ++anzahl);
-            if (!system->dateien().dateiVorhanden(file))
-                fehlt.merke(file);
+            display.notify("Dateien", ++count);
+            if (!system->files().fileExists(file))
+                missing.remember(file);
         }
-        if (fehlt.anzahl() > 0)
-            befund.warnung(fmt::format("{}: {}", typ.tabelle, fehlt.text("Dokumente, deren Datei fehlt")));
+        if (missing.count() > 0)
+            findings.warn(fmt::format("{}: {}", type.table, missing.text("Dokumente, deren Datei fehlt")));
     }
 }
 

@@ -10,24 +10,24 @@
 
 namespace quelvarn::tools {
 
-void Befund::fehler(std::string_view text)
+void Findings::fault(std::string_view text)
 {
-    ++fehler_;
-    aus_ << "Fehler: " << text << '\n';
+    ++fault_;
+    out_ << "Fehler: " << text << '\n';
 }
 
-void Befund::warnung(std::string_view text)
+void Findings::warn(std::string_view text)
 {
-    ++warnungen_;
-    aus_ << "Warnung: " << text << '\n';
+    ++warnings_;
+    out_ << "Warnung: " << text << '\n';
 }
 
-void Befund::zeile(std::string_view text)
+void Findings::row(std::string_view text)
 {
-    aus_ << text << '\n';
+    out_ << text << '\n';
 }
 
-bool endsCheck(const Laufzeitfehler& fault)
+bool endsCheck(const RuntimeError& fault)
 {
     const auto* database = dynamic_cast<const DatabaseFault*>(&fault);
     if (!database)
@@ -49,21 +49,21 @@ std::string oneLine(std::string_view text)
     return join(split(text, '\n'), " ");
 }
 
-std::string Vorkommen::text(std::string_view was) const
+std::string Occurrences::text(std::string_view what) const
 {
-    return fmt::format("{}: {}, etwa {}", was, formatGanzzahl(static_cast<std::int64_t>(anzahl_)), beispiel_);
+    return fmt::format("{}: {}, etwa {}", what, formatInteger(static_cast<std::int64_t>(count_)), example_);
 }
 
-std::unique_ptr<Zeilenleser> findZeilen(Engine& engine, std::string_view tabelle, std::vector<std::string> spalten)
+std::unique_ptr<RowReader> findRows(Engine& engine, std::string_view table, std::vector<std::string> columns)
 {
-    const auto schema = engine.findTabelle(tabelle);
-    const bool alleDa =
-        schema && std::ranges::all_of(spalten, [&](const std::string& name) {
-            return std::ranges::any_of(schema->spalten, [&](const Spalte& s) { return equalText(s.name, name); });
+    const auto schema = engine.findTable(table);
+    const bool allThere =
+        schema && std::ranges::all_of(columns, [&](const std::string& name) {
+            return std::ranges::any_of(schema->columns, [&](const ColumnInfo& s) { return equalText(s.name, name); });
         });
-    if (!alleDa)
+    if (!allThere)
         return nullptr;
-    return std::make_unique<TableRows>(engine, schema->name, std::move(spalten));
+    return std::make_unique<TableRows>(engine, schema->name, std::move(columns));
 }
 
 } // namespace quelvarn::tools

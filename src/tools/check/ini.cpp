@@ -13,140 +13,138 @@ namespace quelvarn::tools {
 
 namespace {
 
-struct Zeile
+struct Row
 {
-    std::string feld1;
-    std::string feld2;
-    std::string feld3;
-    Value feld4;
-    Value feld5;
+    std::string field1;
+    std::string field2;
+    std::string field3;
+    Value field4;
+    Value field5;
 };
 
-using Zeilen = std::vector<Zeile>;
+using Rows = std::vector<Row>;
 
-Zeilen liesIni(Engine& engine)
+Rows liesIni(Engine& engine)
 {
-    Zeilen zeilen;
-    const auto leser = findZeilen(engine, "Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"});
-    while (leser && leser->next())
-        zeilen.push_back({alsText(leser->wert(0)), alsText(leser->wert(1)), alsText(leser->wert(2)), leser->wert(3),
-                          leser->wert(4)});
-    return zeilen;
+    Rows rows;
+    const auto reader = findRows(engine, "Ini", {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"});
+    while (reader && reader->next())
+        rows.push_back({asText(reader->value(0)), asText(reader->value(1)), asText(reader->value(2)), reader->value(3),
+                        reader->value(4)});
+    return rows;
 }
 
-Zeilen gruppe(const Zeilen& alle, std::string_view besitzer, std::string_view name, std::string_view feld3 = {})
+Rows group(const Rows& all, std::string_view owner, std::string_view name, std::string_view field3 = {})
 {
-    Zeilen ergebnis;
-    std::ranges::copy_if(alle, std::back_inserter(ergebnis), [&](const Zeile& zeile) {
-        return equalText(zeile.feld1, besitzer) && equalText(zeile.feld2, name) &&
-               (feld3.empty() || equalText(zeile.feld3, feld3));
+    Rows result;
+    std::ranges::copy_if(all, std::back_inserter(result), [&](const Row& row) {
+        return equalText(row.field1, owner) && equalText(row.field2, name) &&
+               (field3.empty() || equalText(row.field3, field3));
     });
-    return ergebnis;
+    return result;
 }
 
-bool istEines(std::string_view text, std::initializer_list<std::string_view> erlaubte)
+bool isOne(std::string_view text, std::initializer_list<std::string_view> allowed)
 {
-    return std::ranges::find(erlaubte, text) != erlaubte.end();
+    return std::ranges::find(allowed, text) != allowed.end();
 }
 
-void pruefeZeitintervall(const Zeilen& alle, Befund& befund)
+void checkZeitintervall(const Rows& all, Findings& findings)
 {
-    constexpr double HOECHSTENS = 65535; // milliseconds
-    Zeilen zeilen = gruppe(alle, INSTALLATION, "WriteDB", "Timeinterval");
-    if (zeilen.empty())
-        zeilen = gruppe(alle, INSTALLATION, "WriteDB", "Zeitinterval");
-    if (zeilen.empty() || !istNumerisch(zeilen.front().feld4))
-        befund.warnung("Ini: WriteDB/Timeinterval fehlt oder ist keine Zahl; es wird nicht regelmäßig geprüft.");
-    else if (alsZahl(zeilen.front().feld4) > HOECHSTENS)
-        befund.fehler("Ini: WriteDB/Timeinterval ist größer als 65535.");
+    constexpr double LIMIT = 65535; // milliseconds
+    Rows rows = group(all, INSTALLATION, "WriteDB", "Timeinterval");
+    if (rows.empty())
+        rows = group(all, INSTALLATION, "WriteDB", "Zeitinterval");
+    if (rows.empty() || !isNumeric(rows.front().field4))
+        findings.warn("Ini: WriteDB/Timeinterval fehlt oder ist keine Zahl; es wird nicht regelmäßig geprüft.");
+    else if (asNumber(rows.front().field4) > LIMIT)
+        findings.fault("Ini: WriteDB/Timeinterval ist größer als 65535.");
 }
 
-void pruefeStempel(const Zeilen& alle, Befund& befund)
+void checkStamp(const Rows& all, Findings& findings)
 {
-    for (const DokuTyp& typ : DOKUTYPEN)
-        if (typ.stempelNummer != 0 && gruppe(alle, INSTALLATION, "WriteDB", typ.stempel).empty())
-            befund.warnung(
-                fmt::format("Ini: WriteDB/{} fehlt; Änderungen an {} werden nicht bemerkt.", typ.stempel, typ.tabelle));
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        if (type.stampNumber != 0 && group(all, INSTALLATION, "WriteDB", type.stamp).empty())
+            findings.warn(
+                fmt::format("Ini: WriteDB/{} fehlt; Änderungen an {} werden nicht bemerkt.", type.stamp, type.table));
 }
 
 // What a start complains of is a fault; what it adds or mends without a word a warning.
-void pruefeInstallation(const Zeilen& alle, Befund& befund)
+void checkInstallation(const Rows& all, Findings& findings)
 {
     for (const auto name : {"Bezeichnung", "Tabelle"})
-        if (gruppe(alle, INSTALLATION, name).empty())
-            befund.fehler(fmt::format("Ini: es gibt keine Zeile '{}'.", name));
-    if (gruppe(alle, INSTALLATION, "Plot", "Pfadname").empty())
-        befund.fehler("Ini: die Zeile Plot/Pfadname fehlt.");
-    for (const auto schalter : {"CheckInOut", "Forward"})
-        if (gruppe(alle, INSTALLATION, "OnOff", schalter).empty())
-            befund.fehler(fmt::format("Ini: die Zeile OnOff/{} fehlt.", schalter));
-    const auto offline = gruppe(alle, INSTALLATION, "Plot", "Offline");
-    if (offline.empty() || !istEines(alsText(offline.front().feld4), {"Talvik", "Druvik"}))
-        befund.warnung("Ini: Plot/Offline fehlt oder nennt weder Talvik noch Druvik.");
-    const auto drucker = gruppe(alle, INSTALLATION, "Plot", "Printer").size();
-    if (drucker == 0)
-        befund.warnung("Ini: die zehn Zeilen Plot/Printer fehlen.");
-    else if (drucker != 10)
-        befund.fehler(fmt::format("Ini: es gibt {} Zeilen Plot/Printer, nicht zehn.", drucker));
-    const auto pdf = gruppe(alle, INSTALLATION, "Plot", "PDF").size();
+        if (group(all, INSTALLATION, name).empty())
+            findings.fault(fmt::format("Ini: es gibt keine Zeile '{}'.", name));
+    if (group(all, INSTALLATION, "Plot", "Pfadname").empty())
+        findings.fault("Ini: die Zeile Plot/Pfadname fehlt.");
+    for (const auto option : {"CheckInOut", "Forward"})
+        if (group(all, INSTALLATION, "OnOff", option).empty())
+            findings.fault(fmt::format("Ini: die Zeile OnOff/{} fehlt.", option));
+    const auto offline = group(all, INSTALLATION, "Plot", "Offline");
+    if (offline.empty() || !isOne(asText(offline.front().field4), {"Talvik", "Druvik"}))
+        findings.warn("Ini: Plot/Offline fehlt oder nennt weder Talvik noch Druvik.");
+    const auto printers = group(all, INSTALLATION, "Plot", "Printer").size();
+    if (printers == 0)
+        findings.warn("Ini: die zehn Zeilen Plot/Printer fehlen.");
+    else if (printers != 10)
+        findings.fault(fmt::format("Ini: es gibt {} Zeilen Plot/Printer, nicht zehn.", printers));
+    const auto pdf = group(all, INSTALLATION, "Plot", "PDF").size();
     if (pdf == 0)
-        befund.warnung("Ini: die Zeile Plot/PDF fehlt.");
+        findings.warn("Ini: die Zeile Plot/PDF fehlt.");
     else if (pdf > 1)
-        befund.fehler(fmt::format("Ini: es gibt {} Zeilen Plot/PDF, nicht eine.", pdf));
-    pruefeZeitintervall(alle, befund);
-    pruefeStempel(alle, befund);
+        findings.fault(fmt::format("Ini: es gibt {} Zeilen Plot/PDF, nicht eine.", pdf));
+    checkZeitintervall(all, findings);
+    checkStamp(all, findings);
 }
 
-void pruefeRechte(const Zeilen& alle, std::string_view anwender, Befund& befund)
+void checkRights(const Rows& all, std::string_view user, Findings& findings)
 {
-    const auto zeilen = gruppe(alle, anwender, "Berechtigung");
-    if (zeilen.empty()) // A user whose rights come with his first start.
+    const auto rows = group(all, user, "Berechtigung");
+    if (rows.empty()) // A user whose rights come with his first start.
         return;
-    const bool siehtEtwas = std::ranges::any_of(zeilen, [](const Zeile& z) { return alsZahl(z.feld4) == 1; });
-    if (!siehtEtwas)
-        befund.fehler(fmt::format("Ini: {} darf keinen Status sehen; jede Abfrage scheitert.", anwender));
-    for (const Zeile& zeile : zeilen)
-        if (!istNumerisch(zeile.feld4) || !istNumerisch(zeile.feld5) || alsZahl(zeile.feld5) < 0 ||
-            alsZahl(zeile.feld5) > 6)
-            befund.warnung(fmt::format("Ini: {}, Berechtigung/{}: '{}' und '{}' sind keine Rechte.", anwender,
-                                       zeile.feld3, alsText(zeile.feld4), alsText(zeile.feld5)));
+    const bool seesSomething = std::ranges::any_of(rows, [](const Row& z) { return asNumber(z.field4) == 1; });
+    if (!seesSomething)
+        findings.fault(fmt::format("Ini: {} darf keinen Status sehen; jede Abfrage scheitert.", user));
+    for (const Row& row : rows)
+        if (!isNumeric(row.field4) || !isNumeric(row.field5) || asNumber(row.field5) < 0 || asNumber(row.field5) > 6)
+            findings.warn(fmt::format("Ini: {}, Berechtigung/{}: '{}' und '{}' sind keine Rechte.", user, row.field3,
+                                      asText(row.field4), asText(row.field5)));
 }
 
-void pruefeAnwender(const Zeilen& alle, std::string_view anwender, Befund& befund)
+void checkUser(const Rows& all, std::string_view user, Findings& findings)
 {
-    const auto gemahnt = [&](std::string_view was) {
-        befund.warnung(fmt::format("Ini: {}, {}: der Wert wird beim Start ersetzt.", anwender, was));
+    const auto reminded = [&](std::string_view what) {
+        findings.warn(fmt::format("Ini: {}, {}: der Wert wird beim Start ersetzt.", user, what));
     };
-    pruefeRechte(alle, anwender, befund);
-    for (const Zeile& zeile : gruppe(alle, anwender, "Treeview"))
-        if (!istEines(alsText(zeile.feld4), {"0", "1"}))
-            gemahnt("Treeview/" + zeile.feld3);
-    for (const Zeile& zeile : gruppe(alle, anwender, "Starttabelle"))
-        if (!istEines(zeile.feld3, {"Bauteile", "Blechteile", "Baugruppen", "Zeichnungen", "Schweißteile"}))
-            gemahnt("Starttabelle");
-    for (const Zeile& zeile : gruppe(alle, anwender, "OfflineDaten"))
-        if (!istEines(toUpper(zeile.feld3), {"PLOT", "PDF", "TIFF", "EXPORT", "DIRECTMAIL"}) ||
-            !istEines(alsText(zeile.feld4), {"(1)", "(2)"}) ||
-            !istEines(toUpper(alsText(zeile.feld5)), {"EXPORT", "BOM"}))
-            gemahnt("OfflineDaten");
-    for (const Zeile& zeile : gruppe(alle, anwender, "ZipDaten"))
-        if (!istEines(zeile.feld3, {"Normal", "Maximum", "Minimum", "Schnell"}) || alsText(zeile.feld4).empty())
-            gemahnt("ZipDaten");
+    checkRights(all, user, findings);
+    for (const Row& row : group(all, user, "Treeview"))
+        if (!isOne(asText(row.field4), {"0", "1"}))
+            reminded("Treeview/" + row.field3);
+    for (const Row& row : group(all, user, "Starttabelle"))
+        if (!isOne(row.field3, {"Bauteile", "Blechteile", "Baugruppen", "Zeichnungen", "Schweißteile"}))
+            reminded("Starttabelle");
+    for (const Row& row : group(all, user, "OfflineDaten"))
+        if (!isOne(toUpper(row.field3), {"PLOT", "PDF", "TIFF", "EXPORT", "DIRECTMAIL"}) ||
+            !isOne(asText(row.field4), {"(1)", "(2)"}) || !isOne(toUpper(asText(row.field5)), {"EXPORT", "BOM"}))
+            reminded("OfflineDaten");
+    for (const Row& row : group(all, user, "ZipDaten"))
+        if (!isOne(row.field3, {"Normal", "Maximum", "Minimum", "Schnell"}) || asText(row.field4).empty())
+            reminded("ZipDaten");
 }
 
 } // namespace
 
-void pruefeIni(Engine& engine, Befund& befund)
+void checkIni(Engine& engine, Findings& findings)
 {
-    const Zeilen alle = liesIni(engine);
-    pruefeInstallation(alle, befund);
-    std::map<std::string, std::string> anwender;
-    for (const Zeile& zeile : alle)
-        if (!equalText(zeile.feld1, INSTALLATION))
-            anwender.try_emplace(sortKey(zeile.feld1), zeile.feld1);
-    for (const auto& [_, name] : anwender)
-        pruefeAnwender(alle, name, befund);
-    befund.zeile(fmt::format("Ini: {} Anwender", anwender.size()));
+    const Rows all = liesIni(engine);
+    checkInstallation(all, findings);
+    std::map<std::string, std::string> user;
+    for (const Row& row : all)
+        if (!equalText(row.field1, INSTALLATION))
+            user.try_emplace(sortKey(row.field1), row.field1);
+    for (const auto& [_, name] : user)
+        checkUser(all, name, findings);
+    findings.row(fmt::format("Ini: {} Anwender", user.size()));
 }
 
 } // namespace quelvarn::tools

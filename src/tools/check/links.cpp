@@ -8,13 +8,13 @@ namespace quelvarn::tools {
 namespace {
 
 // A column that names the file of a document.
-struct Verweis
+struct Reference
 {
-    std::string_view tabelle;
-    std::string_view spalte;
+    std::string_view table;
+    std::string_view column;
 };
 
-constexpr std::array<Verweis, 9> VERWEISE{{
+constexpr std::array<Reference, 9> REFERENCES{{
     {"ZusBauPart", "Assembfilename"},
     {"ZusBauPart", "Part"},
     {"ZusBauSubAss", "Assembfilename"},
@@ -26,44 +26,43 @@ constexpr std::array<Verweis, 9> VERWEISE{{
     {"VerbindungPartZusDoku", "Dokufilename"},
 }};
 
-void pruefeEigenschaften(Engine& engine, const DokuTyp& typ, Befund& befund, Verlaufsanzeige& anzeige,
-                         const Dokumentschluessel& schluessel)
+void checkProperties(Engine& engine, const DocumentType& type, Findings& findings, ProgressLine& display,
+                     const DocumentKey& key)
 {
-    const auto zeilen = findZeilen(engine, typ.tabelleBenutzDef, {"DokuBez", "RevBez"});
-    const auto& dokumente = schluessel.dokumente[static_cast<std::size_t>(typ.tab)];
-    Vorkommen verwaist;
-    std::uint64_t anzahl = 0;
-    while (zeilen && zeilen->next()) {
-        anzeige.melde(typ.tabelleBenutzDef, ++anzahl);
-        if (!Dokumentschluessel::enthaelt(dokumente, Dokumentschluessel::aus(zeilen->text(0), zeilen->text(1))))
-            verwaist.merke(fmt::format("{} ({})", zeilen->text(0), zeilen->text(1)));
+    const auto rows = findRows(engine, type.tableUserDef, {"DokuBez", "RevBez"});
+    const auto& documents = key.documents[static_cast<std::size_t>(type.tab)];
+    Occurrences orphaned;
+    std::uint64_t count = 0;
+    while (rows && rows->next()) {
+        display.notify(type.tableUserDef, ++count);
+        if (!DocumentKey::contains(documents, DocumentKey::out(rows->text(0), rows->text(1))))
+            orphaned.remember(fmt::format("{} ({})", rows->text(0), rows->text(1)));
     }
-    if (verwaist.anzahl() > 0)
-        befund.warnung(fmt::format("{}: {}", typ.tabelleBenutzDef, verwaist.text("Zeilen ohne ihr Dokument")));
+    if (orphaned.count() > 0)
+        findings.warn(fmt::format("{}: {}", type.tableUserDef, orphaned.text("Zeilen ohne ihr Dokument")));
 }
 
 } // namespace
 
-void pruefeVerbindungen(Engine& engine, Befund& befund, Verlaufsanzeige& anzeige, const Dokumentschluessel& schluessel)
+void checkLinks(Engine& engine, Findings& findings, ProgressLine& display, const DocumentKey& key)
 {
-    for (const Verweis& verweis : VERWEISE) {
-        const auto zeilen = findZeilen(engine, verweis.tabelle, {std::string(verweis.spalte)});
-        Vorkommen verwaist;
-        std::uint64_t anzahl = 0;
-        while (zeilen && zeilen->next()) {
-            anzeige.melde(verweis.tabelle, ++anzahl);
-            const bool da = !zeilen->istNull(0) &&
-                            Dokumentschluessel::enthaelt(schluessel.dateien, Dokumentschluessel::aus(zeilen->text(0)));
-            if (!da)
-                verwaist.merke(zeilen->istNull(0) ? "Null" : zeilen->text(0));
+    for (const Reference& reference : REFERENCES) {
+        const auto rows = findRows(engine, reference.table, {std::string(reference.column)});
+        Occurrences orphaned;
+        std::uint64_t count = 0;
+        while (rows && rows->next()) {
+            display.notify(reference.table, ++count);
+            const bool there = !rows->isNull(0) && DocumentKey::contains(key.files, DocumentKey::out(rows->text(0)));
+            if (!there)
+                orphaned.remember(rows->isNull(0) ? "Null" : rows->text(0));
         }
-        if (verwaist.anzahl() > 0)
-            befund.warnung(fmt::format(
-                "{}: {}", verweis.tabelle,
-                verwaist.text(fmt::format("Zeilen, deren {} in keiner Dokumenttabelle steht", verweis.spalte))));
+        if (orphaned.count() > 0)
+            findings.warn(fmt::format(
+                "{}: {}", reference.table,
+                orphaned.text(fmt::format("Zeilen, deren {} in keiner Dokumenttabelle steht", reference.column))));
     }
-    for (const DokuTyp& typ : DOKUTYPEN)
-        pruefeEigenschaften(engine, typ, befund, anzeige, schluessel);
+    for (const DocumentType& type : DOCUMENT_TYPES)
+        checkProperties(engine, type, findings, display, key);
 }
 
 } // namespace quelvarn::tools

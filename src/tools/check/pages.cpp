@@ -23,18 +23,18 @@ std::string kindOf(std::string_view finding)
 
 } // namespace
 
-void checkPages(Engine& engine, Befund& befund)
+void checkPages(Engine& engine, Findings& findings)
 {
     const DamageReport report = engine.findDamage(AT_MOST);
     if (!report.checked)
-        befund.zeile("Seiten und Indexe kann diese Datenbank nicht selbst prüfen; geprüft wird, was zu lesen ist.");
-    std::map<std::string, Vorkommen> kinds;
+        findings.row("Seiten und Indexe kann diese Datenbank nicht selbst prüfen; geprüft wird, was zu lesen ist.");
+    std::map<std::string, Occurrences> kinds;
     for (const std::string& finding : report.findings)
-        kinds[kindOf(finding)].merke(oneLine(finding));
+        kinds[kindOf(finding)].remember(oneLine(finding));
     for (const auto& [kind, found] : kinds)
-        befund.fehler(found.text(kind));
+        findings.fault(found.text(kind));
     if (report.findings.size() >= AT_MOST)
-        befund.zeile(fmt::format("Nach {} Befunden wurde die Prüfung der Seiten beendet.", formatGanzzahl(AT_MOST)));
+        findings.row(fmt::format("Nach {} Befunden wurde die Prüfung der Seiten beendet.", formatInteger(AT_MOST)));
 }
 
 } // namespace quelvarn::tools

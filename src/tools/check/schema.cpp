@@ -8,90 +8,91 @@ namespace quelvarn::tools {
 
 namespace {
 
-std::string_view typname(FeldTyp typ)
+std::string_view typeName(FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Text:
+    switch (type) {
+    case FieldType::Text:
         return "Text";
-    case FeldTyp::Ganzzahl:
+    case FieldType::Integer:
         return "Ganzzahl";
-    case FeldTyp::Gleitkomma:
+    case FieldType::FloatingPoint:
         return "Kommazahl";
-    case FeldTyp::Datum:
+    case FieldType::Date:
         break;
     }
     return "Datum";
 }
 
-const Spalte* findSpalte(const Tabellenschema& tabelle, std::string_view name)
+const ColumnInfo* findColumn(const TableSchema& table, std::string_view name)
 {
-    const auto spalte = std::ranges::find_if(tabelle.spalten, [&](const Spalte& s) { return equalText(s.name, name); });
-    return spalte == tabelle.spalten.end() ? nullptr : &*spalte;
+    const auto column =
+        std::ranges::find_if(table.columns, [&](const ColumnInfo& s) { return equalText(s.name, name); });
+    return column == table.columns.end() ? nullptr : &*column;
 }
 
 // A whole number does for any number, and the day of saving may be kept as a text.
-bool typPasst(const Spalte& soll, const Spalte& ist)
+bool typeFits(const ColumnInfo& should, const ColumnInfo& is)
 {
-    return soll.typ == ist.typ || (soll.typ == FeldTyp::Gleitkomma && ist.typ == FeldTyp::Ganzzahl) ||
-           (soll.name == "Gespeichert" && ist.typ == FeldTyp::Text);
+    return should.type == is.type || (should.type == FieldType::FloatingPoint && is.type == FieldType::Integer) ||
+           (should.name == "Gespeichert" && is.type == FieldType::Text);
 }
 
 // One row for each address, a column for each item.
-bool istBreiteAdresstabelle(const Tabellenschema& soll, const Tabellenschema& ist)
+bool isWideAdresstabelle(const TableSchema& should, const TableSchema& is)
 {
-    return soll.name == "Adresstabelle" && findSpalte(ist, "Kennung") && findSpalte(ist, "Firma");
+    return should.name == "Adresstabelle" && findColumn(is, "Kennung") && findColumn(is, "Firma");
 }
 
-void pruefeSpalten(const Tabellenschema& soll, const Tabellenschema& ist, Befund& befund)
+void checkColumns(const TableSchema& should, const TableSchema& is, Findings& findings)
 {
-    if (istBreiteAdresstabelle(soll, ist))
+    if (isWideAdresstabelle(should, is))
         return;
-    for (const Spalte& spalte : soll.spalten) {
-        const Spalte* vorhandene = findSpalte(ist, spalte.name);
-        if (!vorhandene)
-            befund.fehler(fmt::format("Die Spalte {}.{} fehlt.", soll.name, spalte.name));
-        else if (!typPasst(spalte, *vorhandene))
-            befund.fehler(fmt::format("Die Spalte {}.{} ist {}, nicht {}.", soll.name, spalte.name,
-                                      typname(vorhandene->typ), typname(spalte.typ)));
+    for (const ColumnInfo& column : should.columns) {
+        const ColumnInfo* existing = findColumn(is, column.name);
+        if (!existing)
+            findings.fault(fmt::format("Die Spalte {}.{} fehlt.", should.name, column.name));
+        else if (!typeFits(column, *existing))
+            findings.fault(fmt::format("Die Spalte {}.{} ist {}, nicht {}.", should.name, column.name,
+                                       typeName(existing->type), typeName(column.type)));
     }
 }
 
 // Only those that can be built on the columns that are there.
-Tabellenschema mitFehlendenIndexen(Engine& engine, const Tabellenschema& soll, const Tabellenschema& ist)
+TableSchema withMissingIndexes(Engine& engine, const TableSchema& should, const TableSchema& is)
 {
-    Tabellenschema tabelle{ist.name, soll.spalten, {}};
-    for (const auto& index : engine.fehlendeIndexe(soll)) {
-        const bool moeglich =
-            std::ranges::all_of(index, [&](const IndexSpalte& spalte) { return findSpalte(ist, spalte.name); });
-        if (moeglich)
-            tabelle.indexe.push_back(index);
+    TableSchema table{is.name, should.columns, {}};
+    for (const auto& index : engine.missingIndexes(should)) {
+        const bool possible =
+            std::ranges::all_of(index, [&](const IndexColumn& column) { return findColumn(is, column.name); });
+        if (possible)
+            table.indexes.push_back(index);
     }
-    return tabelle;
+    return table;
 }
 
 } // namespace
 
-void pruefeSchema(Engine& engine, Indexe indexe, Befund& befund)
+void checkSchema(Engine& engine, Indexes indexes, Findings& findings)
 {
-    for (const Tabellenschema& soll : registerschema()) {
-        const auto ist = engine.findTabelle(soll.name);
-        if (!ist) {
-            befund.fehler(fmt::format("Die Tabelle {} fehlt.", soll.name));
+    for (const TableSchema& should : registerSchema()) {
+        const auto is = engine.findTable(should.name);
+        if (!is) {
+            findings.fault(fmt::format("Die Tabelle {} fehlt.", should.name));
             continue;
         }
-        pruefeSpalten(soll, *ist, befund);
-        const Tabellenschema fehlende = mitFehlendenIndexen(engine, soll, *ist);
-        if (indexe == Indexe::Bauen && !fehlende.indexe.empty())
-            engine.legeIndexeAn(fehlende);
-        for (const auto& index : fehlende.indexe) {
-            std::string spalten;
-            for (const IndexSpalte& spalte : index)
-                spalten += (spalten.empty() ? "" : ", ") + spalte.name;
-            const std::string name = fmt::format("Index der Tabelle {} über {}", soll.name, spalten);
-            if (indexe == Indexe::Bauen)
-                befund.zeile(fmt::format("Gebaut: {}", name));
+        checkColumns(should, *is, findings);
+        const TableSchema missing = withMissingIndexes(engine, should, *is);
+        if (indexes == Indexes::Build && !missing.indexes.empty())
+            engine.createIndexes(missing);
+        for (const auto& index : missing.indexes) {
+            std::string columns;
+            for (const IndexColumn& column : index)
+                columns += (columns.empty() ? "" : ", ") + column.name;
+            const std::string name = fmt::format("Index der Tabelle {} über {}", should.name, columns);
+            if (indexes == Indexes::Build)
+                findings.row(fmt::format("Gebaut: {}", name));
             else
-                befund.fehler(fmt::format("Es fehlt der {}. Mit --reparieren wird er gebaut.", name));
+                findings.fault(fmt::format("Es fehlt der {}. Mit --reparieren wird er gebaut.", name));
         }
     }
 }

@@ -16,15 +16,15 @@ TableRows::TableRows(Engine& engine, std::string table, std::vector<std::string>
     : engine_(engine), table_(std::move(table)), columns_(std::move(columns))
 {
     sql::Select select;
-    select.tabelle = table_;
-    if (!engine_.faehigkeiten().spaltenNachladen) {
-        select.spalten = columns_;
-        portion_ = engine_.lese(select, MitSchluessel::Nein);
+    select.table = table_;
+    if (!engine_.capabilities().loadsColumnsLater) {
+        select.columns = columns_;
+        portion_ = engine_.read(select, WithKey::No);
         return;
     }
-    select.spalten = {columns_.front()};
-    for (const auto keys = engine_.lese(select, MitSchluessel::Ja); keys->next();)
-        keys_.push_back(keys->schluessel());
+    select.columns = {columns_.front()};
+    for (const auto keys = engine_.read(select, WithKey::Yes); keys->next();)
+        keys_.push_back(keys->key());
     readPortion();
 }
 
@@ -44,7 +44,7 @@ void TableRows::readPortion()
     const auto keys = rest.first(std::min(ROWS_A_PORTION, rest.size()));
     read_ += keys.size();
     portion_.reset(); // Before the next one begins.
-    portion_ = engine_.leseZeilen(table_, columns_, keys);
+    portion_ = engine_.readRows(table_, columns_, keys);
 }
 
 } // namespace quelvarn::tools

@@ -13,35 +13,34 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::size_t KOPFLAENGE = 24;
-constexpr std::size_t KENNUNG_AB = 4;
-constexpr std::size_t VERSION_AB = 20; // 0 is Jet 3, from 1 on pages are twice as long.
+constexpr std::size_t HEADER_LENGTH = 24;
+constexpr std::size_t ADDRESS_CODE_FROM = 4;
+constexpr std::size_t VERSION_FROM = 20; // 0 is Jet 3, from 1 on pages are twice as long.
 
 } // namespace
 
-void pruefeAccessKopf(const std::filesystem::path& datei)
+void checkAccessHeader(const std::filesystem::path& file)
 {
-    std::error_code fehler;
-    if (!std::filesystem::exists(datei, fehler))
-        throw werkzeugfehler(fmt::format("Die Quelle '{}' gibt es nicht.", utf8FromPath(datei)));
-    if (!std::filesystem::is_regular_file(datei, fehler))
-        throw werkzeugfehler(fmt::format("Die Quelle '{}' ist keine Datei.", utf8FromPath(datei)));
-    const auto groesse = std::filesystem::file_size(datei, fehler);
-    if (groesse == 0)
-        throw werkzeugfehler(fmt::format("Die Quelle '{}' ist leer.", utf8FromPath(datei)));
-    std::ifstream strom(datei, std::ios::binary);
-    if (!strom)
-        throw werkzeugfehler(fmt::format("Die Quelle '{}' lässt sich nicht lesen.", utf8FromPath(datei)));
-    std::string kopf(KOPFLAENGE, '\0');
-    strom.read(kopf.data(), static_cast<std::streamsize>(kopf.size()));
-    const std::string_view kennung = std::string_view(kopf).substr(KENNUNG_AB);
-    if (!kopf.starts_with(std::string_view("\0\1\0\0", 4)) ||
-        (!kennung.starts_with("Standard Jet DB") && !kennung.starts_with("Standard ACE DB")))
-        throw werkzeugfehler(fmt::format("'{}' ist keine Access-Datenbank.", utf8FromPath(datei)));
-    const std::uintmax_t seite = kopf[VERSION_AB] == 0 ? 2048 : 4096;
-    if (groesse % seite != 0)
-        throw werkzeugfehler(
-            fmt::format("Die Access-Datei '{}' ist abgeschnitten: ihr Ende fehlt.", utf8FromPath(datei)));
+    std::error_code fault;
+    if (!std::filesystem::exists(file, fault))
+        throw toolFault(fmt::format("Die Quelle '{}' gibt es nicht.", utf8FromPath(file)));
+    if (!std::filesystem::is_regular_file(file, fault))
+        throw toolFault(fmt::format("Die Quelle '{}' ist keine Datei.", utf8FromPath(file)));
+    const auto size = std::filesystem::file_size(file, fault);
+    if (size == 0)
+        throw toolFault(fmt::format("Die Quelle '{}' ist leer.", utf8FromPath(file)));
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream)
+        throw toolFault(fmt::format("Die Quelle '{}' lässt sich nicht lesen.", utf8FromPath(file)));
+    std::string heading(HEADER_LENGTH, '\0');
+    stream.read(heading.data(), static_cast<std::streamsize>(heading.size()));
+    const std::string_view addressCode = std::string_view(heading).substr(ADDRESS_CODE_FROM);
+    if (!heading.starts_with(std::string_view("\0\1\0\0", 4)) ||
+        (!addressCode.starts_with("Standard Jet DB") && !addressCode.starts_with("Standard ACE DB")))
+        throw toolFault(fmt::format("'{}' ist keine Access-Datenbank.", utf8FromPath(file)));
+    const std::uintmax_t page = heading[VERSION_FROM] == 0 ? 2048 : 4096;
+    if (size % page != 0)
+        throw toolFault(fmt::format("Die Access-Datei '{}' ist abgeschnitten: ihr Ende fehlt.", utf8FromPath(file)));
 }
 
 } // namespace quelvarn::tools

@@ -4,7 +4,7 @@
 
 namespace quelvarn::tools {
 
-// Throws Laufzeitfehler unless the file begins as an Access file does and ends with a whole page.
-void pruefeAccessKopf(const std::filesystem::path& datei);
+// Throws RuntimeError unless the file begins as an Access file does and ends with a whole page.
+void checkAccessHeader(const std::filesystem::path& file);
 
 } // namespace quelvarn::tools

@@ -13,27 +13,27 @@
 namespace quelvarn::tools {
 
 // A true Access file: on Windows read by the driver of Access, elsewhere by a process of our own. Every fault is one
-// Laufzeitfehler with a German sentence.
-class AccessQuelle
+// RuntimeError with a German sentence.
+class AccessSource
 {
 public:
-    // Looks at the file's head, starts the reading and waits for its catalog, no longer than `frist` where a process
+    // Looks at the file's head, starts the reading and waits for its catalog, no longer than `deadline` where a process
     // reads. Only the wanted tables are read; their names in any case.
-    AccessQuelle(const std::filesystem::path& datei, std::span<const std::string> gewuenscht,
-                 std::chrono::milliseconds frist = std::chrono::minutes(1));
-    ~AccessQuelle();
+    AccessSource(const std::filesystem::path& file, std::span<const std::string> wanted,
+                 std::chrono::milliseconds deadline = std::chrono::minutes(1));
+    ~AccessSource();
 
-    const Katalog& katalog() const { return katalog_; }
+    const Catalog& catalog() const { return catalog_; }
 
-    // Walks all rows: `tabelle` before the rows of each table, `zeile` with cells in the order of its columns,
+    // Walks all rows: `table` before the rows of each table, `row` with cells in the order of its columns,
     // which hold during the call.
-    void lies(const std::function<void(const Quelltabelle&)>& tabelle,
-              const std::function<void(std::span<const Zelle>)>& zeile);
+    void lies(const std::function<void(const SourceTable&)>& table,
+              const std::function<void(std::span<const Cell>)>& row);
 
 private:
-    struct Leser;
-    std::unique_ptr<Leser> leser_;
-    Katalog katalog_;
+    struct Reader;
+    std::unique_ptr<Reader> reader_;
+    Catalog catalog_;
 };
 
 } // namespace quelvarn::tools

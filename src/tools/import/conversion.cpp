@@ -8,111 +8,111 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::string_view KEINE_ZAHL = "keine Zahl";
-constexpr std::string_view KEINE_GANZE_ZAHL = "keine ganze Zahl";
-constexpr std::string_view KEIN_DATUM = "kein Datum von 100 bis 9999";
-constexpr std::string_view UNLESBAR = "in der Datei nicht lesbar";
+constexpr std::string_view NO_NUMBER = "keine Zahl";
+constexpr std::string_view NO_INTEGER = "keine ganze Zahl";
+constexpr std::string_view NO_DATE = "kein Datum von 100 bis 9999";
+constexpr std::string_view UNREADABLE = "in der Datei nicht lesbar";
 constexpr std::string_view FREMD = "diese Art von Inhalt kennt das Register nicht";
 
 // The first and the day behind the last that Access knows.
-constexpr double ERSTER_TAG = -657434;
-constexpr double HINTER_DEM_LETZTEN_TAG = 2958466;
-constexpr double GANZZAHL_GRENZE = 9007199254740992.0; // Up to here every whole number is exact.
+constexpr double FIRST_DAY = -657434;
+constexpr double BEHIND_LAST_DAY = 2958466;
+constexpr double INTEGER_LIMIT = 9007199254740992.0; // Up to here every whole number is exact.
 
-Value datum(double tage, std::string_view& grund)
+Value date(double days, std::string_view& reason)
 {
-    if (std::isfinite(tage) && tage >= ERSTER_TAG && tage < HINTER_DEM_LETZTEN_TAG)
-        return Zeitpunkt::ausTagen(tage);
-    grund = KEIN_DATUM;
+    if (std::isfinite(days) && days >= FIRST_DAY && days < BEHIND_LAST_DAY)
+        return DateTime::fromDays(days);
+    reason = NO_DATE;
     return {};
 }
 
-Value ausZahl(double zahl, FeldTyp typ, std::string_view& grund)
+Value fromNumber(double number, FieldType type, std::string_view& reason)
 {
-    if (!std::isfinite(zahl)) {
-        grund = KEINE_ZAHL;
+    if (!std::isfinite(number)) {
+        reason = NO_NUMBER;
         return {};
     }
-    switch (typ) {
-    case FeldTyp::Gleitkomma:
-        return zahl;
-    case FeldTyp::Datum:
-        return datum(zahl, grund);
-    case FeldTyp::Text:
-        return zahlAlsText(zahl);
-    case FeldTyp::Ganzzahl:
+    switch (type) {
+    case FieldType::FloatingPoint:
+        return number;
+    case FieldType::Date:
+        return date(number, reason);
+    case FieldType::Text:
+        return numberAsText(number);
+    case FieldType::Integer:
         break;
     }
-    if (zahl == std::floor(zahl) && std::abs(zahl) <= GANZZAHL_GRENZE)
-        return static_cast<std::int64_t>(zahl);
-    grund = KEINE_GANZE_ZAHL;
+    if (number == std::floor(number) && std::abs(number) <= INTEGER_LIMIT)
+        return static_cast<std::int64_t>(number);
+    reason = NO_INTEGER;
     return {};
 }
 
-Value ausGanzzahl(std::int64_t zahl, FeldTyp typ, std::string_view& grund)
+Value fromInteger(std::int64_t number, FieldType type, std::string_view& reason)
 {
-    if (typ == FeldTyp::Ganzzahl)
-        return zahl;
-    if (typ == FeldTyp::Text)
-        return std::to_string(zahl);
-    return ausZahl(static_cast<double>(zahl), typ, grund);
+    if (type == FieldType::Integer)
+        return number;
+    if (type == FieldType::Text)
+        return std::to_string(number);
+    return fromNumber(static_cast<double>(number), type, reason);
 }
 
-Value ausDatum(double tage, FeldTyp typ, std::string_view& grund)
+Value fromDate(double days, FieldType type, std::string_view& reason)
 {
-    if (typ == FeldTyp::Datum)
-        return datum(tage, grund);
-    if (typ != FeldTyp::Text)
-        return ausZahl(tage, typ, grund);
-    const Value wert = datum(tage, grund);
-    return istNull(wert) ? Value{} : Value{alsText(wert)};
+    if (type == FieldType::Date)
+        return date(days, reason);
+    if (type != FieldType::Text)
+        return fromNumber(days, type, reason);
+    const Value value = date(days, reason);
+    return isNull(value) ? Value{} : Value{asText(value)};
 }
 
-Value ausText(std::string_view text, FeldTyp typ, std::string_view& grund)
+Value fromText(std::string_view text, FieldType type, std::string_view& reason)
 {
-    if (typ == FeldTyp::Text) {
+    if (type == FieldType::Text) {
         if (text.find('\0') == std::string_view::npos)
             return std::string(text);
-        std::string ohneNull(text);
-        std::erase(ohneNull, '\0'); // No database keeps it inside a text.
-        return ohneNull;
+        std::string withoutNull(text);
+        std::erase(withoutNull, '\0'); // No database keeps it inside a text.
+        return withoutNull;
     }
     if (trim(text).empty())
         return {};
-    if (typ == FeldTyp::Datum) {
-        const auto zeit = parseDatum(text);
-        grund = zeit ? grund : KEIN_DATUM;
-        return zeit ? Value{*zeit} : Value{};
+    if (type == FieldType::Date) {
+        const auto time = parseDate(text);
+        reason = time ? reason : NO_DATE;
+        return time ? Value{*time} : Value{};
     }
-    const auto zahl = parseZahl(text);
-    if (zahl)
-        return ausZahl(*zahl, typ, grund);
-    grund = KEINE_ZAHL;
+    const auto number = parseNumber(text);
+    if (number)
+        return fromNumber(*number, type, reason);
+    reason = NO_NUMBER;
     return {};
 }
 
 } // namespace
 
-Value alsWert(const Zelle& zelle, FeldTyp typ, std::string_view& grund)
+Value asValue(const Cell& cell, FieldType type, std::string_view& reason)
 {
-    switch (zelle.art) {
-    case Zellart::Null:
+    switch (cell.kind) {
+    case CellKind::Null:
         return {};
-    case Zellart::Ganzzahl:
-        return ausGanzzahl(zelle.ganzzahl, typ, grund);
-    case Zellart::Gleitkomma:
-        return ausZahl(zelle.gleitkomma, typ, grund);
-    case Zellart::Text:
-        return ausText(zelle.text, typ, grund);
-    case Zellart::Datum:
-        return ausDatum(zelle.gleitkomma, typ, grund);
-    case Zellart::Unlesbar:
-        grund = UNLESBAR;
+    case CellKind::Integer:
+        return fromInteger(cell.integer, type, reason);
+    case CellKind::FloatingPoint:
+        return fromNumber(cell.floatingPoint, type, reason);
+    case CellKind::Text:
+        return fromText(cell.text, type, reason);
+    case CellKind::Date:
+        return fromDate(cell.floatingPoint, type, reason);
+    case CellKind::Unreadable:
+        reason = UNREADABLE;
         return {};
-    case Zellart::Fremd:
+    case CellKind::Fremd:
         break;
     }
-    grund = FREMD;
+    reason = FREMD;
     return {};
 }
 

@@ -16,9 +16,9 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array SCHALTER{Schalter{"--ersetzen"}};
+constexpr std::array OPTION{Option{"--ersetzen"}};
 
-constexpr std::string_view HILFE = R"(Aufruf: qvadmin import QUELLE.mdb ZIEL [--ersetzen]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin import QUELLE.mdb ZIEL [--ersetzen]
 
 Übernimmt ein Register aus einer Access-Datei (Access 97 bis 2003) in SQLite oder PostgreSQL. Die Quelle wird nur
 gelesen. Das Ziel entsteht ganz oder gar nicht.
@@ -31,133 +31,132 @@ Zusätzliche Spalten mit Text, Zahl oder Datum bleiben erhalten. Am Ende steht, 
 )";
 
 // What came over, and what did not.
-class Bericht
+class Report
 {
 public:
-    void verlust(std::string_view tabelle, std::string_view spalte, std::string_view grund)
+    void loss(std::string_view table, std::string_view column, std::string_view reason)
     {
-        ++verluste_[fmt::format("Werte in {}.{} ({})", tabelle, spalte, grund)];
+        ++losses_[fmt::format("Werte in {}.{} ({})", table, column, reason)];
     }
-    void tabelle(std::string_view name) { zeilen_.emplace_back(name, 0); }
-    void zeile() { ++zeilen_.back().second; }
-    void spalten(const Tabellenabbildung& abbildung)
+    void table(std::string_view name) { rows_.emplace_back(name, 0); }
+    void row() { ++rows_.back().second; }
+    void columns(const TableMapping& mapping)
     {
-        for (const auto& spalte : abbildung.zusaetzliche)
-            zusaetzliche_.push_back(fmt::format("{}.{}", abbildung.ziel.name, spalte));
-        for (const auto& spalte : abbildung.fehlende)
-            fehlende_.push_back(fmt::format("{}.{}", abbildung.ziel.name, spalte));
+        for (const auto& column : mapping.additional)
+            additional_.push_back(fmt::format("{}.{}", mapping.target.name, column));
+        for (const auto& column : mapping.missing)
+            missing_.push_back(fmt::format("{}.{}", mapping.target.name, column));
     }
-    void fehlendeTabelle(std::string_view name) { fehlende_.emplace_back(name); }
+    void missingTable(std::string_view name) { missing_.emplace_back(name); }
 
-    void gibAus(const std::vector<std::string>& uebrigeTabellen, std::ostream& aus) const
+    void print(const std::vector<std::string>& remainingTables, std::ostream& out) const
     {
-        std::int64_t summe = 0;
-        for (const auto& [name, anzahl] : zeilen_) {
-            aus << fmt::format("{:<24}{:>12} Zeilen\n", name, formatGanzzahl(anzahl));
-            summe += anzahl;
+        std::int64_t sum = 0;
+        for (const auto& [name, count] : rows_) {
+            out << fmt::format("{:<24}{:>12} Zeilen\n", name, formatInteger(count));
+            sum += count;
         }
-        aus << fmt::format("{:<24}{:>12} Zeilen übernommen\n", "Zusammen", formatGanzzahl(summe));
-        if (!zusaetzliche_.empty())
-            aus << fmt::format("Zusätzliche Spalten behalten: {}\n", fmt::join(zusaetzliche_, ", "));
-        if (!fehlende_.empty())
-            aus << fmt::format("Fehlt in der Quelle, leer angelegt: {}\n", fmt::join(fehlende_, ", "));
-        for (const auto& name : uebrigeTabellen)
-            aus << fmt::format("Nicht übernommen: Tabelle {}\n", name);
-        for (const auto& [was, anzahl] : verluste_)
-            aus << fmt::format("Nicht übernommen: {}: {}\n", was, formatGanzzahl(anzahl));
+        out << fmt::format("{:<24}{:>12} Zeilen übernommen\n", "Zusammen", formatInteger(sum));
+        if (!additional_.empty())
+            out << fmt::format("Zusätzliche Spalten behalten: {}\n", fmt::join(additional_, ", "));
+        if (!missing_.empty())
+            out << fmt::format("Fehlt in der Quelle, leer angelegt: {}\n", fmt::join(missing_, ", "));
+        for (const auto& name : remainingTables)
+            out << fmt::format("Nicht übernommen: Tabelle {}\n", name);
+        for (const auto& [what, count] : losses_)
+            out << fmt::format("Nicht übernommen: {}: {}\n", what, formatInteger(count));
     }
 
 private:
-    std::vector<std::pair<std::string, std::int64_t>> zeilen_;
-    std::vector<std::string> zusaetzliche_;
-    std::vector<std::string> fehlende_;
-    std::map<std::string, std::int64_t> verluste_;
+    std::vector<std::pair<std::string, std::int64_t>> rows_;
+    std::vector<std::string> additional_;
+    std::vector<std::string> missing_;
+    std::map<std::string, std::int64_t> losses_;
 };
 
 // Brings rows of the source into the form of the target.
-class Uebernahme
+class Takeover
 {
 public:
-    Uebernahme(NeuesRegister& ziel, Bericht& bericht) : ziel_(ziel), bericht_(bericht) {}
+    Takeover(NewRegister& target, Report& report) : target_(target), report_(report) {}
 
-    void tabelle(const Quelltabelle& quelle)
+    void table(const SourceTable& source)
     {
-        quelle_ = &quelle;
-        abbildung_ = bildeAb(quelle, *findTabelle(quelle.name));
-        werte_.resize(abbildung_.quelle.size());
-        ziel_.tabelle(abbildung_.ziel);
-        bericht_.tabelle(abbildung_.ziel.name);
-        bericht_.spalten(abbildung_);
+        source_ = &source;
+        mapping_ = mapTable(source, *findTable(source.name));
+        values_.resize(mapping_.source.size());
+        target_.table(mapping_.target);
+        report_.table(mapping_.target.name);
+        report_.columns(mapping_);
     }
 
-    void zeile(std::span<const Zelle> zellen)
+    void row(std::span<const Cell> cells)
     {
-        for (std::size_t i = 0; i < werte_.size(); ++i) {
-            const auto nummer = abbildung_.quelle[i];
-            std::string_view grund;
-            werte_[i] = nummer == NICHT_DA ? Value{} : alsWert(zellen[nummer], abbildung_.ziel.spalten[i].typ, grund);
-            if (!grund.empty())
-                bericht_.verlust(abbildung_.ziel.name, quelle_->spalten[nummer].name, grund);
+        for (std::size_t i = 0; i < values_.size(); ++i) {
+            const auto number = mapping_.source[i];
+            std::string_view reason;
+            values_[i] =
+                number == NOT_THERE ? Value{} : asValue(cells[number], mapping_.target.columns[i].type, reason);
+            if (!reason.empty())
+                report_.loss(mapping_.target.name, source_->columns[number].name, reason);
         }
-        for (const auto nummer : abbildung_.nichtGenommen) {
-            std::string_view grund;
-            (void)alsWert(zellen[nummer], FeldTyp::Text, grund);
-            if (!grund.empty())
-                bericht_.verlust(abbildung_.ziel.name, quelle_->spalten[nummer].name, grund);
+        for (const auto number : mapping_.notTaken) {
+            std::string_view reason;
+            (void)asValue(cells[number], FieldType::Text, reason);
+            if (!reason.empty())
+                report_.loss(mapping_.target.name, source_->columns[number].name, reason);
         }
-        ziel_.zeile(werte_);
-        bericht_.zeile();
+        target_.row(values_);
+        report_.row();
     }
 
 private:
-    NeuesRegister& ziel_;
-    Bericht& bericht_;
-    const Quelltabelle* quelle_ = nullptr;
-    Tabellenabbildung abbildung_;
-    std::vector<Value> werte_;
+    NewRegister& target_;
+    Report& report_;
+    const SourceTable* source_ = nullptr;
+    TableMapping mapping_;
+    std::vector<Value> values_;
 };
 
-std::vector<std::string> tabellennamen()
+std::vector<std::string> tableNames()
 {
-    std::vector<std::string> namen;
-    for (const Tabellenschema& tabelle : registerschema())
-        namen.push_back(tabelle.name);
-    return namen;
+    std::vector<std::string> names;
+    for (const TableSchema& table : registerSchema())
+        names.push_back(table.name);
+    return names;
 }
 
-int importiere(const Argumente& argumente, Konsole& konsole)
+int importFile(const Arguments& arguments, Console& console)
 {
-    fangeAbbruch();
-    const auto vorhandenes = argumente.gesetzt("--ersetzen") ? Vorhandenes::Ersetzen : Vorhandenes::Ablehnen;
-    AccessQuelle quelle(pathFromUtf8(argumente.stelle(0)), tabellennamen());
-    if (const auto einwand = findEinwand(quelle.katalog()))
-        throw werkzeugfehler(
-            fmt::format("'{}' ist kein Register dieses Programms: {}.", argumente.stelle(0), *einwand));
-    NeuesRegister ziel(argumente.stelle(1), vorhandenes, konsole);
-    Bericht bericht;
-    Uebernahme uebernahme(ziel, bericht);
-    quelle.lies([&](const Quelltabelle& tabelle) { uebernahme.tabelle(tabelle); },
-                [&](std::span<const Zelle> zeile) { uebernahme.zeile(zeile); });
-    for (const Tabellenschema& tabelle : registerschema()) {
-        if (std::ranges::any_of(quelle.katalog().tabellen,
-                                [&](const auto& t) { return equalText(t.name, tabelle.name); }))
+    catchCancel();
+    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    AccessSource source(pathFromUtf8(arguments.position(0)), tableNames());
+    if (const auto objection = findObjection(source.catalog()))
+        throw toolFault(fmt::format("'{}' ist kein Register dieses Programms: {}.", arguments.position(0), *objection));
+    NewRegister target(arguments.position(1), existing, console);
+    Report report;
+    Takeover takeover(target, report);
+    source.lies([&](const SourceTable& table) { takeover.table(table); },
+                [&](std::span<const Cell> row) { takeover.row(row); });
+    for (const TableSchema& table : registerSchema()) {
+        if (std::ranges::any_of(source.catalog().tables, [&](const auto& t) { return equalText(t.name, table.name); }))
             continue;
-        ziel.tabelle(tabelle);
-        bericht.fehlendeTabelle(tabelle.name);
+        target.table(table);
+        report.missingTable(table.name);
     }
-    ziel.schliesseAb();
-    bericht.gibAus(quelle.katalog().uebrige, konsole.aus);
-    return GUT;
+    target.commit();
+    report.print(source.catalog().remaining, console.out);
+    return GOOD;
 }
 
 } // namespace
 
-const Befehl BEFEHL_IMPORT{.name = "import",
-                           .kurz = "übernimmt ein Register aus einer Access-Datei",
-                           .hilfe = HILFE,
-                           .mindestens = 2,
-                           .hoechstens = 2,
-                           .schalter = SCHALTER,
-                           .ausfuehren = importiere};
+const Command IMPORT_COMMAND{.name = "import",
+                             .shortText = "übernimmt ein Register aus einer Access-Datei",
+                             .help = HELP,
+                             .atLeast = 2,
+                             .atMost = 2,
+                             .option = OPTION,
+                             .execute = importFile};
 
 } // namespace quelvarn::tools

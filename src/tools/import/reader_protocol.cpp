@@ -8,111 +8,111 @@ namespace quelvarn::tools {
 
 void Packer::text(std::string_view text)
 {
-    zahl32(static_cast<std::uint32_t>(text.size()));
+    number32(static_cast<std::uint32_t>(text.size()));
     bytes_.append(text);
 }
 
-void Packer::katalog(const Katalog& katalog)
+void Packer::catalog(const Catalog& catalog)
 {
-    zahl32(static_cast<std::uint32_t>(katalog.tabellen.size()));
-    for (const auto& tabelle : katalog.tabellen) {
-        text(tabelle.name);
-        zahl32(tabelle.zeilen);
-        zahl32(static_cast<std::uint32_t>(tabelle.spalten.size()));
-        for (const auto& spalte : tabelle.spalten) {
-            text(spalte.name);
-            zahl8(static_cast<std::uint8_t>(spalte.art));
+    number32(static_cast<std::uint32_t>(catalog.tables.size()));
+    for (const auto& table : catalog.tables) {
+        text(table.name);
+        number32(table.rows);
+        number32(static_cast<std::uint32_t>(table.columns.size()));
+        for (const auto& column : table.columns) {
+            text(column.name);
+            number8(static_cast<std::uint8_t>(column.kind));
         }
     }
-    zahl32(static_cast<std::uint32_t>(katalog.uebrige.size()));
-    for (const auto& name : katalog.uebrige)
+    number32(static_cast<std::uint32_t>(catalog.remaining.size()));
+    for (const auto& name : catalog.remaining)
         text(name);
 }
 
-void Packer::ganzzahl(std::int64_t wert)
+void Packer::integer(std::int64_t value)
 {
-    zelle(Zellart::Ganzzahl);
-    roh(&wert, sizeof wert);
+    cell(CellKind::Integer);
+    raw(&value, sizeof value);
 }
 
-void Packer::gleitkomma(Zellart art, double wert)
+void Packer::floatingPoint(CellKind kind, double value)
 {
-    zelle(art);
-    roh(&wert, sizeof wert);
+    cell(kind);
+    raw(&value, sizeof value);
 }
 
-void Packer::textzelle(std::string_view wert)
+void Packer::textCell(std::string_view value)
 {
-    zelle(Zellart::Text);
-    text(wert);
+    cell(CellKind::Text);
+    text(value);
 }
 
-std::string_view Entpacker::nimm(std::size_t anzahl)
+std::string_view Unpacker::take(std::size_t count)
 {
-    if (anzahl > rest_.size())
-        throw werkzeugfehler("Die Access-Datei ist beschädigt: ihr Inhalt kommt unvollständig an.");
-    const auto teil = rest_.substr(0, anzahl);
-    rest_.remove_prefix(anzahl);
-    return teil;
+    if (count > rest_.size())
+        throw toolFault("Die Access-Datei ist beschädigt: ihr Inhalt kommt unvollständig an.");
+    const auto part = rest_.substr(0, count);
+    rest_.remove_prefix(count);
+    return part;
 }
 
-template <typename Zahl> Zahl Entpacker::nimmZahl()
+template <typename Number> Number Unpacker::takeNumber()
 {
-    Zahl zahl;
-    std::memcpy(&zahl, nimm(sizeof zahl).data(), sizeof zahl);
-    return zahl;
+    Number number;
+    std::memcpy(&number, take(sizeof number).data(), sizeof number);
+    return number;
 }
 
-std::uint8_t Entpacker::zahl8()
+std::uint8_t Unpacker::number8()
 {
-    return nimmZahl<std::uint8_t>();
+    return takeNumber<std::uint8_t>();
 }
 
-std::uint32_t Entpacker::zahl32()
+std::uint32_t Unpacker::number32()
 {
-    return nimmZahl<std::uint32_t>();
+    return takeNumber<std::uint32_t>();
 }
 
-std::string_view Entpacker::text()
+std::string_view Unpacker::text()
 {
-    return nimm(zahl32());
+    return take(number32());
 }
 
-Katalog Entpacker::katalog()
+Catalog Unpacker::catalog()
 {
-    Katalog katalog;
-    for (auto tabellen = zahl32(); tabellen > 0; --tabellen) {
-        Quelltabelle tabelle{.name = std::string(text()), .spalten = {}, .zeilen = zahl32()};
-        for (auto spalten = zahl32(); spalten > 0; --spalten) {
-            Quellspalte spalte{.name = std::string(text())};
-            spalte.art = static_cast<Spaltenart>(zahl8());
-            tabelle.spalten.push_back(std::move(spalte));
+    Catalog catalog;
+    for (auto tables = number32(); tables > 0; --tables) {
+        SourceTable table{.name = std::string(text()), .columns = {}, .rows = number32()};
+        for (auto columns = number32(); columns > 0; --columns) {
+            SourceColumn column{.name = std::string(text())};
+            column.kind = static_cast<ColumnKind>(number8());
+            table.columns.push_back(std::move(column));
         }
-        katalog.tabellen.push_back(std::move(tabelle));
+        catalog.tables.push_back(std::move(table));
     }
-    for (auto namen = zahl32(); namen > 0; --namen)
-        katalog.uebrige.emplace_back(text());
-    return katalog;
+    for (auto names = number32(); names > 0; --names)
+        catalog.remaining.emplace_back(text());
+    return catalog;
 }
 
-Zelle Entpacker::zelle()
+Cell Unpacker::cell()
 {
-    Zelle zelle{.art = static_cast<Zellart>(zahl8())};
-    switch (zelle.art) {
-    case Zellart::Ganzzahl:
-        zelle.ganzzahl = nimmZahl<std::int64_t>();
+    Cell cell{.kind = static_cast<CellKind>(number8())};
+    switch (cell.kind) {
+    case CellKind::Integer:
+        cell.integer = takeNumber<std::int64_t>();
         break;
-    case Zellart::Gleitkomma:
-    case Zellart::Datum:
-        zelle.gleitkomma = nimmZahl<double>();
+    case CellKind::FloatingPoint:
+    case CellKind::Date:
+        cell.floatingPoint = takeNumber<double>();
         break;
-    case Zellart::Text:
-        zelle.text = text();
+    case CellKind::Text:
+        cell.text = text();
         break;
     default:
         break;
     }
-    return zelle;
+    return cell;
 }
 
 } // namespace quelvarn::tools

@@ -11,44 +11,44 @@
 // (1 byte) and its content. Both ends run on the same machine, so numbers stand as they lie in memory.
 namespace quelvarn::tools {
 
-enum class Nachrichtenart : std::uint8_t {
-    Katalog = 'K', // Tables with their columns; names of the tables that are left out.
-    Tabelle = 'T', // The rows that follow belong to the table of this number.
-    Zeilen = 'R',
-    Ende = 'Z',   // Everything was read.
-    Fehler = 'F', // A German sentence.
+enum class PacketKind : std::uint8_t {
+    Catalog = 'K', // Tables with their columns; names of the tables that are left out.
+    Table = 'T',   // The rows that follow belong to the table of this number.
+    Rows = 'R',
+    End = 'Z',   // Everything was read.
+    Fault = 'F', // A German sentence.
 };
 
-constexpr std::size_t NACHRICHT_HOECHSTENS = 96U << 20; // bytes; a longer one means that the sender went astray
-constexpr std::size_t TEXT_HOECHSTENS = 64U << 20;      // of one cell
+constexpr std::size_t PACKET_LIMIT = 96U << 20; // bytes; a longer one means that the sender went astray
+constexpr std::size_t TEXT_LIMIT = 64U << 20;   // of one cell
 
-enum class Spaltenart : std::uint8_t { Ganzzahl, Gleitkomma, Text, Datum, Fremd };
+enum class ColumnKind : std::uint8_t { Integer, FloatingPoint, Text, Date, Fremd };
 
-struct Quellspalte
+struct SourceColumn
 {
     std::string name;
-    Spaltenart art = Spaltenart::Text;
+    ColumnKind kind = ColumnKind::Text;
 };
-struct Quelltabelle
+struct SourceTable
 {
     std::string name;
-    std::vector<Quellspalte> spalten;
-    std::uint32_t zeilen = 0; // As the file's own head of the table says.
+    std::vector<SourceColumn> columns;
+    std::uint32_t rows = 0; // As the file's own head of the table says.
 };
-struct Katalog
+struct Catalog
 {
-    std::vector<Quelltabelle> tabellen; // The wanted ones, in the order in which their rows come.
-    std::vector<std::string> uebrige;   // Other tables of users, left out.
+    std::vector<SourceTable> tables;    // The wanted ones, in the order in which their rows come.
+    std::vector<std::string> remaining; // Other tables of users, left out.
 };
 
-// `Fremd` is a value of a kind that a register cannot hold, `Unlesbar` one that the file has lost.
-enum class Zellart : std::uint8_t { Null, Ganzzahl, Gleitkomma, Text, Datum, Fremd, Unlesbar };
+// `Fremd` is a value of a kind that a register cannot hold, `Unreadable` one that the file has lost.
+enum class CellKind : std::uint8_t { Null, Integer, FloatingPoint, Text, Date, Fremd, Unreadable };
 
-struct Zelle
+struct Cell
 {
-    Zellart art = Zellart::Null;
-    std::int64_t ganzzahl = 0;
-    double gleitkomma = 0; // Days for a date.
+    CellKind kind = CellKind::Null;
+    std::int64_t integer = 0;
+    double floatingPoint = 0; // Days for a date.
     std::string_view text;
 };
 
@@ -56,39 +56,39 @@ struct Zelle
 class Packer
 {
 public:
-    void zahl8(std::uint8_t wert) { bytes_.push_back(static_cast<char>(wert)); }
-    void zahl32(std::uint32_t wert) { roh(&wert, sizeof wert); }
+    void number8(std::uint8_t value) { bytes_.push_back(static_cast<char>(value)); }
+    void number32(std::uint32_t value) { raw(&value, sizeof value); }
     void text(std::string_view text);
-    void katalog(const Katalog& katalog);
+    void catalog(const Catalog& catalog);
 
-    void zelle(Zellart art) { zahl8(static_cast<std::uint8_t>(art)); }
-    void ganzzahl(std::int64_t wert);
-    void gleitkomma(Zellart art, double wert);
-    void textzelle(std::string_view wert);
+    void cell(CellKind kind) { number8(static_cast<std::uint8_t>(kind)); }
+    void integer(std::int64_t value);
+    void floatingPoint(CellKind kind, double value);
+    void textCell(std::string_view value);
 
     const std::string& bytes() const { return bytes_; }
-    void leere() { bytes_.clear(); }
+    void clear() { bytes_.clear(); }
 
 private:
-    void roh(const void* von, std::size_t laenge) { bytes_.append(static_cast<const char*>(von), laenge); }
+    void raw(const void* from, std::size_t length) { bytes_.append(static_cast<const char*>(from), length); }
     std::string bytes_;
 };
 
-// Reads them back. Throws Laufzeitfehler where the bytes end too early or make no sense.
-class Entpacker
+// Reads them back. Throws RuntimeError where the bytes end too early or make no sense.
+class Unpacker
 {
 public:
-    explicit Entpacker(std::string_view bytes) : rest_(bytes) {}
-    bool leer() const { return rest_.empty(); }
-    std::uint8_t zahl8();
-    std::uint32_t zahl32();
+    explicit Unpacker(std::string_view bytes) : rest_(bytes) {}
+    bool empty() const { return rest_.empty(); }
+    std::uint8_t number8();
+    std::uint32_t number32();
     std::string_view text();
-    Katalog katalog();
-    Zelle zelle();
+    Catalog catalog();
+    Cell cell();
 
 private:
-    std::string_view nimm(std::size_t anzahl);
-    template <typename Zahl> Zahl nimmZahl();
+    std::string_view take(std::size_t count);
+    template <typename Number> Number takeNumber();
     std::string_view rest_;
 };
 

@@ -11,103 +11,103 @@ namespace quelvarn::tools {
 
 namespace {
 
-std::size_t findSpalte(const Quelltabelle& tabelle, std::string_view name)
+std::size_t findColumn(const SourceTable& table, std::string_view name)
 {
-    const auto spalte = std::ranges::find_if(tabelle.spalten, [&](const auto& s) { return equalText(s.name, name); });
-    return spalte == tabelle.spalten.end() ? NICHT_DA : static_cast<std::size_t>(spalte - tabelle.spalten.begin());
+    const auto column = std::ranges::find_if(table.columns, [&](const auto& s) { return equalText(s.name, name); });
+    return column == table.columns.end() ? NOT_THERE : static_cast<std::size_t>(column - table.columns.begin());
 }
 
-bool hatSpalten(const Quelltabelle& tabelle, std::initializer_list<std::string_view> namen)
+bool hasColumns(const SourceTable& table, std::initializer_list<std::string_view> names)
 {
-    return std::ranges::all_of(namen, [&](auto name) { return findSpalte(tabelle, name) != NICHT_DA; });
+    return std::ranges::all_of(names, [&](auto name) { return findColumn(table, name) != NOT_THERE; });
 }
 
-FeldTyp feldTyp(Spaltenart art)
+FieldType fieldType(ColumnKind kind)
 {
-    switch (art) {
-    case Spaltenart::Ganzzahl:
-        return FeldTyp::Ganzzahl;
-    case Spaltenart::Gleitkomma:
-        return FeldTyp::Gleitkomma;
-    case Spaltenart::Datum:
-        return FeldTyp::Datum;
+    switch (kind) {
+    case ColumnKind::Integer:
+        return FieldType::Integer;
+    case ColumnKind::FloatingPoint:
+        return FieldType::FloatingPoint;
+    case ColumnKind::Date:
+        return FieldType::Date;
     default:
-        return FeldTyp::Text;
+        return FieldType::Text;
     }
 }
 
 // Scanners of different age write it as a text or as a date, and it is shown as it stands.
-FeldTyp zieltyp(const Spalte& vorgabe, Spaltenart quelle)
+FieldType targetType(const ColumnInfo& defaultValue, ColumnKind source)
 {
-    const bool wieQuelle =
-        equalText(vorgabe.name, "Gespeichert") && (quelle == Spaltenart::Text || quelle == Spaltenart::Datum);
-    return wieQuelle ? feldTyp(quelle) : vorgabe.typ;
+    const bool asSource =
+        equalText(defaultValue.name, "Gespeichert") && (source == ColumnKind::Text || source == ColumnKind::Date);
+    return asSource ? fieldType(source) : defaultValue.type;
 }
 
-bool istBreiteAdresstabelle(const Quelltabelle& quelle, const Tabellenschema& vorgabe)
+bool isWideAdresstabelle(const SourceTable& source, const TableSchema& defaultValue)
 {
-    return vorgabe.name == "Adresstabelle" && findSpalte(quelle, "Name") == NICHT_DA &&
-           findSpalte(quelle, "Wert") == NICHT_DA;
+    return defaultValue.name == "Adresstabelle" && findColumn(source, "Name") == NOT_THERE &&
+           findColumn(source, "Wert") == NOT_THERE;
 }
 
-bool alleSpaltenDa(const Tabellenschema& tabelle, const std::vector<IndexSpalte>& index)
+bool allColumnsLoaded(const TableSchema& table, const std::vector<IndexColumn>& index)
 {
-    return std::ranges::all_of(index, [&](const IndexSpalte& spalte) {
-        return std::ranges::any_of(tabelle.spalten, [&](const Spalte& s) { return equalText(s.name, spalte.name); });
+    return std::ranges::all_of(index, [&](const IndexColumn& column) {
+        return std::ranges::any_of(table.columns, [&](const ColumnInfo& s) { return equalText(s.name, column.name); });
     });
 }
 
 } // namespace
 
-Tabellenabbildung bildeAb(const Quelltabelle& quelle, const Tabellenschema& vorgabe)
+TableMapping mapTable(const SourceTable& source, const TableSchema& defaultValue)
 {
-    Tabellenabbildung ergebnis;
-    ergebnis.ziel.name = vorgabe.name;
-    std::vector<bool> benutzt(quelle.spalten.size());
-    const bool breit = istBreiteAdresstabelle(quelle, vorgabe);
-    for (const Spalte& spalte : vorgabe.spalten) {
-        const auto nummer = findSpalte(quelle, spalte.name);
-        if (nummer == NICHT_DA && breit)
+    TableMapping result;
+    result.target.name = defaultValue.name;
+    std::vector<bool> used(source.columns.size());
+    const bool wide = isWideAdresstabelle(source, defaultValue);
+    for (const ColumnInfo& column : defaultValue.columns) {
+        const auto number = findColumn(source, column.name);
+        if (number == NOT_THERE && wide)
             continue;
-        if (nummer == NICHT_DA)
-            ergebnis.fehlende.push_back(spalte.name);
+        if (number == NOT_THERE)
+            result.missing.push_back(column.name);
         else
-            benutzt[nummer] = true;
-        ergebnis.ziel.spalten.push_back(
-            {spalte.name, nummer == NICHT_DA ? spalte.typ : zieltyp(spalte, quelle.spalten[nummer].art)});
-        ergebnis.quelle.push_back(nummer);
+            used[number] = true;
+        result.target.columns.push_back(
+            {column.name, number == NOT_THERE ? column.type : targetType(column, source.columns[number].kind)});
+        result.source.push_back(number);
     }
-    for (std::size_t i = 0; i < quelle.spalten.size(); ++i) {
-        if (quelle.spalten[i].art == Spaltenart::Fremd)
-            ergebnis.nichtGenommen.push_back(i);
-        if (benutzt[i] || quelle.spalten[i].art == Spaltenart::Fremd)
+    for (std::size_t i = 0; i < source.columns.size(); ++i) {
+        if (source.columns[i].kind == ColumnKind::Fremd)
+            result.notTaken.push_back(i);
+        if (used[i] || source.columns[i].kind == ColumnKind::Fremd)
             continue;
-        ergebnis.ziel.spalten.push_back({quelle.spalten[i].name, feldTyp(quelle.spalten[i].art)});
-        ergebnis.quelle.push_back(i);
-        if (!breit)
-            ergebnis.zusaetzliche.push_back(quelle.spalten[i].name);
+        result.target.columns.push_back({source.columns[i].name, fieldType(source.columns[i].kind)});
+        result.source.push_back(i);
+        if (!wide)
+            result.additional.push_back(source.columns[i].name);
     }
-    for (const auto& index : vorgabe.indexe)
-        if (alleSpaltenDa(ergebnis.ziel, index))
-            ergebnis.ziel.indexe.push_back(index);
-    return ergebnis;
+    for (const auto& index : defaultValue.indexes)
+        if (allColumnsLoaded(result.target, index))
+            result.target.indexes.push_back(index);
+    return result;
 }
 
-std::optional<std::string> findEinwand(const Katalog& katalog)
+std::optional<std::string> findObjection(const Catalog& catalog)
 {
-    const auto finde = [&](std::string_view name) {
-        return std::ranges::find_if(katalog.tabellen, [&](const auto& t) { return equalText(t.name, name); });
+    const auto find = [&](std::string_view name) {
+        return std::ranges::find_if(catalog.tables, [&](const auto& t) { return equalText(t.name, name); });
     };
-    const auto ini = finde("Ini");
-    if (ini == katalog.tabellen.end())
+    const auto ini = find("Ini");
+    if (ini == catalog.tables.end())
         return "die Tabelle Ini fehlt";
-    if (!hatSpalten(*ini, {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}))
+    if (!hasColumns(*ini, {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"}))
         return "die Tabelle Ini hat nicht die Spalten Feld1 bis Feld5";
-    const bool mitDokumenten = std::ranges::any_of(DOKUTYPEN, [&](const DokuTyp& typ) {
-        const auto tabelle = finde(typ.tabelle);
-        return tabelle != katalog.tabellen.end() && hatSpalten(*tabelle, {"DokuBez", "RevBez", "filename", "Status"});
+    const bool withDocuments = std::ranges::any_of(DOCUMENT_TYPES, [&](const DocumentType& type) {
+        const auto table = find(type.table);
+        return table != catalog.tables.end() && hasColumns(*table, {"DokuBez", "RevBez", "filename", "Status"});
     });
-    if (!mitDokumenten)
+    if (!withDocuments)
         return "es fehlen die Tabellen der Dokumente";
     return std::nullopt;
 }

@@ -11,26 +11,26 @@
 
 namespace quelvarn::tools {
 
-constexpr std::size_t NICHT_DA = static_cast<std::size_t>(-1);
+constexpr std::size_t NOT_THERE = static_cast<std::size_t>(-1);
 
 // How a table of the source becomes one of the register.
-struct Tabellenabbildung
+struct TableMapping
 {
-    Tabellenschema ziel;
-    std::vector<std::size_t> quelle;        // For each column of the target: that of the source, or NICHT_DA.
-    std::vector<std::size_t> nichtGenommen; // Columns of the source whose kind a register cannot hold.
-    std::vector<std::string> zusaetzliche;  // Columns that the program does not know and keeps.
-    std::vector<std::string> fehlende;      // Columns that the program knows and the source lacks.
+    TableSchema target;
+    std::vector<std::size_t> source;     // For each column of the target: that of the source, or NOT_THERE.
+    std::vector<std::size_t> notTaken;   // Columns of the source whose kind a register cannot hold.
+    std::vector<std::string> additional; // Columns that the program does not know and keeps.
+    std::vector<std::string> missing;    // Columns that the program knows and the source lacks.
 };
 
 // Columns go together by their names in any case. The address table keeps its shape: rows of name and value, or
 // one row with many columns.
-Tabellenabbildung bildeAb(const Quelltabelle& quelle, const Tabellenschema& vorgabe);
+TableMapping mapTable(const SourceTable& source, const TableSchema& defaultValue);
 
 // Nothing when the tables are those of a register; otherwise the German sentence that says why not.
-std::optional<std::string> findEinwand(const Katalog& katalog);
+std::optional<std::string> findObjection(const Catalog& catalog);
 
-// The cell as a value of this type. Where it does not fit, Null, and `grund` says why.
-Value alsWert(const Zelle& zelle, FeldTyp typ, std::string_view& grund);
+// The cell as a value of this type. Where it does not fit, Null, and `reason` says why.
+Value asValue(const Cell& cell, FieldType type, std::string_view& reason);
 
 } // namespace quelvarn::tools

@@ -6,16 +6,16 @@
 
 namespace quelvarn::tools {
 
-Prozess::Prozess() : terminal_(isatty(STDERR_FILENO) != 0) {}
+Process::Process() : terminal_(isatty(STDERR_FILENO) != 0) {}
 
-Prozess::~Prozess() = default;
+Process::~Process() = default;
 
-std::vector<std::string> Prozess::worte(int anzahl, const char* const* argumente)
+std::vector<std::string> Process::words(int count, const char* const* arguments)
 {
-    return {argumente + 1, argumente + anzahl};
+    return {arguments + 1, arguments + count};
 }
 
-int prozessnummer()
+int processNumber()
 {
     return getpid();
 }

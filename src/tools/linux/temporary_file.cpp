@@ -19,8 +19,8 @@ TemporaryFile makeTemporaryFile()
     const int descriptor = mkstemp(name.data());
     TemporaryFile file(descriptor < 0 ? nullptr : fdopen(descriptor, "w+b"));
     if (!file)
-        throw werkzeugfehler(fmt::format("Die Zwischendatei '{}' lässt sich nicht anlegen: {}", name,
-                                         std::generic_category().message(errno)));
+        throw toolFault(fmt::format("Die Zwischendatei '{}' lässt sich nicht anlegen: {}", name,
+                                    std::generic_category().message(errno)));
     unlink(name.c_str()); // It lives as long as it is open.
     return file;
 }

@@ -14,45 +14,45 @@ namespace quelvarn::tools {
 namespace {
 
 // A console of old shows the signs for erasing a line as they are.
-bool loeschtZeilen(DWORD strom)
+bool removesRows(DWORD stream)
 {
-    const HANDLE konsole = GetStdHandle(strom);
-    DWORD art = 0;
-    return GetConsoleMode(konsole, &art) && SetConsoleMode(konsole, art | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+    const HANDLE console = GetStdHandle(stream);
+    DWORD kind = 0;
+    return GetConsoleMode(console, &kind) && SetConsoleMode(console, kind | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
 }
 
 } // namespace
 
-Prozess::Prozess()
+Process::Process()
 {
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
-    terminal_ = _isatty(_fileno(stderr)) && loeschtZeilen(STD_ERROR_HANDLE);
-    const UINT vorher = GetConsoleOutputCP();
-    if (vorher != 0 && vorher != CP_UTF8 && SetConsoleOutputCP(CP_UTF8))
-        zeichensatzVorher_ = vorher;
+    terminal_ = _isatty(_fileno(stderr)) && removesRows(STD_ERROR_HANDLE);
+    const UINT before = GetConsoleOutputCP();
+    if (before != 0 && before != CP_UTF8 && SetConsoleOutputCP(CP_UTF8))
+        charsetBefore_ = before;
 }
 
-Prozess::~Prozess()
+Process::~Process()
 {
-    if (zeichensatzVorher_ != 0) // The console outlives the program.
-        SetConsoleOutputCP(zeichensatzVorher_);
+    if (charsetBefore_ != 0) // The console outlives the program.
+        SetConsoleOutputCP(charsetBefore_);
 }
 
 // Asked of the system: what main gets may be in another encoding, with every "*" replaced by names of files.
-std::vector<std::string> Prozess::worte(int, const char* const*)
+std::vector<std::string> Process::words(int, const char* const*)
 {
-    std::vector<std::string> ergebnis;
-    int anzahl = 0;
-    if (LPWSTR* const worte = CommandLineToArgvW(GetCommandLineW(), &anzahl)) {
-        for (int i = 1; i < anzahl; ++i)
-            ergebnis.push_back(narrow(worte[i]));
-        LocalFree(worte);
+    std::vector<std::string> result;
+    int count = 0;
+    if (LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count)) {
+        for (int i = 1; i < count; ++i)
+            result.push_back(narrow(words[i]));
+        LocalFree(words);
     }
-    return ergebnis;
+    return result;
 }
 
-int prozessnummer()
+int processNumber()
 {
     return static_cast<int>(GetCurrentProcessId());
 }

@@ -17,56 +17,56 @@ namespace quelvarn {
 
 namespace {
 
-struct Antwortknopf
+struct AnswerButton
 {
-    Antwort antwort;
-    const char* beschriftung;
-    QMessageBox::ButtonRole rolle;
+    Answer answer;
+    const char* caption;
+    QMessageBox::ButtonRole textRole;
 };
 
-constexpr Antwortknopf OK{Antwort::Ok, "OK", QMessageBox::AcceptRole};
-constexpr Antwortknopf ABBRECHEN{Antwort::Abbrechen, "Abbrechen", QMessageBox::RejectRole};
-constexpr Antwortknopf JA{Antwort::Ja, "&Ja", QMessageBox::YesRole};
-constexpr Antwortknopf NEIN{Antwort::Nein, "&Nein", QMessageBox::NoRole};
+constexpr AnswerButton OK{Answer::Ok, "OK", QMessageBox::AcceptRole};
+constexpr AnswerButton CANCEL{Answer::Cancel, "Abbrechen", QMessageBox::RejectRole};
+constexpr AnswerButton Yes{Answer::Yes, "&Ja", QMessageBox::YesRole};
+constexpr AnswerButton NO{Answer::No, "&Nein", QMessageBox::NoRole};
 
 // In the order of their offer. The first one answers Enter, the last one Esc and the closing of the box.
-std::vector<Antwortknopf> antworten(Knoepfe knoepfe)
+std::vector<AnswerButton> answers(Buttons buttons)
 {
-    switch (knoepfe) {
-    case Knoepfe::OkAbbrechen:
-        return {OK, ABBRECHEN};
-    case Knoepfe::JaNein:
-        return {JA, NEIN};
-    case Knoepfe::JaNeinAbbrechen:
-        return {JA, NEIN, ABBRECHEN};
-    case Knoepfe::Ok:
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return {OK, CANCEL};
+    case Buttons::YesNo:
+        return {Yes, NO};
+    case Buttons::YesNoCancel:
+        return {Yes, NO, CANCEL};
+    case Buttons::Ok:
         break;
     }
     return {OK};
 }
 
 // OK goes on; no question is answered by a yes that nobody gave.
-Antwort answerWithoutPerson(const Meldung& box)
+Answer answerWithoutPerson(const Box& dialog)
 {
-    fmt::print(stderr, "{}: {}\n", box.titel, box.text);
-    const auto offered = antworten(box.knoepfe);
-    return offered.front().antwort == Antwort::Ok ? Antwort::Ok : offered.back().antwort;
+    fmt::print(stderr, "{}: {}\n", dialog.title, dialog.text);
+    const auto offered = answers(dialog.buttons);
+    return offered.front().answer == Answer::Ok ? Answer::Ok : offered.back().answer;
 }
 
-QPixmap bild(Symbol art, qreal dichte)
+QPixmap picture(Icon kind, qreal density)
 {
-    constexpr int SEITE = 32;
-    const Farbsatz& farben = farbsatz();
-    switch (art) {
-    case Symbol::Information:
-        return symbolbild("information", SEITE, farben.akzent, dichte);
-    case Symbol::Warnung:
-        return symbolbild("warning", SEITE, lesbar(farben.hinweis, farben.flaeche, 2.2), dichte);
-    case Symbol::Frage:
-        return symbolbild("question", SEITE, farben.akzent, dichte);
-    case Symbol::Kritisch:
-        return symbolbild("critical", SEITE, farben.warnung, dichte);
-    case Symbol::Keins:
+    constexpr int SIDE = 32;
+    const ColourSet& colours = colourSet();
+    switch (kind) {
+    case Icon::Information:
+        return iconPicture("information", SIDE, colours.accent, density);
+    case Icon::Warning:
+        return iconPicture("warning", SIDE, readable(colours.tell, colours.area, 2.2), density);
+    case Icon::Question:
+        return iconPicture("question", SIDE, colours.accent, density);
+    case Icon::Critical:
+        return iconPicture("critical", SIDE, colours.warn, density);
+    case Icon::None:
         break;
     }
     return {};
@@ -74,38 +74,38 @@ QPixmap bild(Symbol art, qreal dichte)
 
 } // namespace
 
-Antwort QtMeldungen::zeige(const Meldung& meldung)
+Answer QtBoxes::show(const Box& box)
 {
     if (alone_)
-        return answerWithoutPerson(meldung);
-    QMessageBox box(frontWindow());
-    box.setWindowTitle(meldung.titel.empty() ? QApplication::applicationName() : zuQt(meldung.titel));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(zuQt(meldung.text));
-    box.setIconPixmap(bild(meldung.symbol, box.devicePixelRatioF()));
+        return answerWithoutPerson(box);
+    QMessageBox dialog(frontWindow());
+    dialog.setWindowTitle(box.title.empty() ? QApplication::applicationName() : toQt(box.title));
+    dialog.setTextFormat(Qt::PlainText);
+    dialog.setText(toQt(box.text));
+    dialog.setIconPixmap(picture(box.icon, dialog.devicePixelRatioF()));
 
-    const auto angebot = antworten(meldung.knoepfe);
-    std::vector<QPushButton*> knoepfe;
-    knoepfe.reserve(angebot.size());
-    for (const auto& antwort : angebot)
-        knoepfe.push_back(box.addButton(QString::fromUtf8(antwort.beschriftung), antwort.rolle));
-    box.setDefaultButton(knoepfe.front());
-    box.setEscapeButton(knoepfe.back());
+    const auto offer = answers(box.buttons);
+    std::vector<QPushButton*> buttons;
+    buttons.reserve(offer.size());
+    for (const auto& answer : offer)
+        buttons.push_back(dialog.addButton(QString::fromUtf8(answer.caption), answer.textRole));
+    dialog.setDefaultButton(buttons.front());
+    dialog.setEscapeButton(buttons.back());
 
     // A busy pointer must not stand over a question.
-    const bool beschaeftigt = QApplication::overrideCursor() != nullptr;
-    if (beschaeftigt)
+    const bool busy = QApplication::overrideCursor() != nullptr;
+    if (busy)
         QApplication::setOverrideCursor(Qt::ArrowCursor);
-    box.exec();
-    if (beschaeftigt)
+    dialog.exec();
+    if (busy)
         QApplication::restoreOverrideCursor();
 
     if (alone_) // It was closed, and not by a person.
-        return answerWithoutPerson(meldung);
-    for (std::size_t i = 0; i < angebot.size(); ++i)
-        if (box.clickedButton() == knoepfe[i])
-            return angebot[i].antwort;
-    return angebot.back().antwort;
+        return answerWithoutPerson(box);
+    for (std::size_t i = 0; i < offer.size(); ++i)
+        if (dialog.clickedButton() == buttons[i])
+            return offer[i].answer;
+    return offer.back().answer;
 }
 
 } // namespace quelvarn

@@ -5,10 +5,10 @@
 namespace quelvarn {
 
 // Message boxes of the desktop, with German buttons on every system.
-class QtMeldungen final : public Meldungen
+class QtBoxes final : public Boxes
 {
 public:
-    Antwort zeige(const Meldung& meldung) override;
+    Answer show(const Box& box) override;
 
     // From now on nobody answers: boxes are written to the standard error output, and the program goes on. A box that
     // stands on the screen is answered so as well, when it is closed.

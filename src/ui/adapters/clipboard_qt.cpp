@@ -7,14 +7,14 @@
 
 namespace quelvarn {
 
-std::string QtZwischenablage::text() const
+std::string QtClipboard::text() const
 {
-    return ausQt(QGuiApplication::clipboard()->text());
+    return fromQt(QGuiApplication::clipboard()->text());
 }
 
-void QtZwischenablage::setzeText(std::string_view text)
+void QtClipboard::setText(std::string_view text)
 {
-    QGuiApplication::clipboard()->setText(zuQt(text));
+    QGuiApplication::clipboard()->setText(toQt(text));
 }
 
 } // namespace quelvarn

@@ -5,11 +5,11 @@
 namespace quelvarn {
 
 // The clipboard of the desktop.
-class QtZwischenablage final : public Zwischenablage
+class QtClipboard final : public Clipboard
 {
 public:
     std::string text() const override;
-    void setzeText(std::string_view text) override;
+    void setText(std::string_view text) override;
 };
 
 } // namespace quelvarn

@@ -69,7 +69,7 @@ bool QtPatience::keepWaiting(WaitReason reason, milliseconds waited)
     const Asking now;
     if (panel_ == nullptr)
         show(reason);
-    text_->setText(zuQt(waitingText(reason, waited)));
+    text_->setText(toQt(waitingText(reason, waited)));
     QApplication::processEvents();
     return !givenUp_;
 }
@@ -84,7 +84,7 @@ void QtPatience::show(WaitReason reason)
     givenUp_ = false;
     owner_ = frontWindow();
     freeze();
-    text_ = new QLabel(zuQt(waitingText(reason, milliseconds(59'000))));
+    text_ = new QLabel(toQt(waitingText(reason, milliseconds(59'000))));
     text_->setObjectName(QStringLiteral("LblWarten"));
     auto* giveUp = new QPushButton(QStringLiteral("Abbrechen"));
     giveUp->setObjectName(QStringLiteral("CmWartenAbbrechen"));

@@ -16,120 +16,120 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int UNGEZEIGT = 100;  // milliseconds; shorter work is never shown
-constexpr int BILDABSTAND = 40; // milliseconds between two looks at the event queue
-constexpr int TAFELBREITE = 420;
+constexpr int UNSHOWN = 100;         // milliseconds; shorter work is never shown
+constexpr int PICTURE_DISTANCE = 40; // milliseconds between two looks at the event queue
+constexpr int PANEL_WIDTH = 420;
 
-QFrame* neueTafel(QWidget& fenster, Fortschrittsfeld& feld)
+QFrame* newPanel(QWidget& window, ProgressField& field)
 {
-    auto* tafel = new QFrame(&fenster);
-    tafel->setObjectName(QStringLiteral("Fortschrittstafel"));
-    auto* aufbau = new QHBoxLayout(tafel);
-    aufbau->setContentsMargins(16, 12, 16, 12);
-    aufbau->addWidget(&feld);
-    feld.show();
-    const int breite = std::min(std::max(TAFELBREITE, tafel->sizeHint().width()), fenster.width());
-    tafel->resize(breite, tafel->sizeHint().height());
-    tafel->move((fenster.width() - tafel->width()) / 2, (fenster.height() - tafel->height()) / 3);
-    tafel->show();
-    return tafel;
+    auto* panel = new QFrame(&window);
+    panel->setObjectName(QStringLiteral("Fortschrittstafel"));
+    auto* layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(16, 12, 16, 12);
+    layout->addWidget(&field);
+    field.show();
+    const int width = std::min(std::max(PANEL_WIDTH, panel->sizeHint().width()), window.width());
+    panel->resize(width, panel->sizeHint().height());
+    panel->move((window.width() - panel->width()) / 2, (window.height() - panel->height()) / 3);
+    panel->show();
+    return panel;
 }
 
 } // namespace
 
-QtFortschritt::~QtFortschritt()
+QtProgress::~QtProgress()
 {
-    verberge();
+    hide();
 }
 
-void QtFortschritt::beginne(std::string_view text)
+void QtProgress::begin(std::string_view text)
 {
-    if (tiefe_++ > 0)
+    if (depth_++ > 0)
         return;
-    aufgegeben_ = false;
-    text_ = zuQt(text);
-    seitBeginn_.start();
+    abandoned_ = false;
+    text_ = toQt(text);
+    sinceStart_.start();
 }
 
-bool QtFortschritt::schritt(std::size_t getan, std::size_t gesamt)
+bool QtProgress::step(std::size_t done, std::size_t total)
 {
-    if (aufgegeben_ || seitBeginn_.elapsed() < UNGEZEIGT)
-        return !aufgegeben_;
-    if (feld_ != nullptr && seitBild_.elapsed() < BILDABSTAND)
+    if (abandoned_ || sinceStart_.elapsed() < UNSHOWN)
+        return !abandoned_;
+    if (field_ != nullptr && sincePicture_.elapsed() < PICTURE_DISTANCE)
         return true;
-    if (feld_ == nullptr)
-        zeige();
-    if (feld_ != nullptr && tiefe_ == 1)
-        feld_->zeigeStand(getan, gesamt);
+    if (field_ == nullptr)
+        show();
+    if (field_ != nullptr && depth_ == 1)
+        field_->showStand(done, total);
     QApplication::processEvents();
-    seitBild_.start();
-    return !aufgegeben_;
+    sincePicture_.start();
+    return !abandoned_;
 }
 
-void QtFortschritt::beende()
+void QtProgress::end()
 {
-    if (--tiefe_ == 0)
-        verberge();
+    if (--depth_ == 0)
+        hide();
 }
 
-void QtFortschritt::zeige()
+void QtProgress::show()
 {
-    feld_ = Fortschrittsfeld::geliehenes();
-    if (feld_ == nullptr) {
-        QWidget* fenster = frontWindow();
-        if (fenster == nullptr)
+    field_ = ProgressField::borrowed();
+    if (field_ == nullptr) {
+        QWidget* window = frontWindow();
+        if (window == nullptr)
             return;
-        feld_ = new Fortschrittsfeld("PrgBarFortschritt", "LblFortschritt", "CmAbbrechen");
-        feld_->setzeText(text_);
-        tafel_ = neueTafel(*fenster, *feld_);
+        field_ = new ProgressField("PrgBarFortschritt", "LblFortschritt", "CmAbbrechen");
+        field_->setText(text_);
+        panel_ = newPanel(*window, *field_);
     }
-    feld_->setzeText(text_);
-    feld_->show();
-    connect(&feld_->abbrechen(), &QAbstractButton::clicked, this, [this] { aufgegeben_ = true; });
+    field_->setText(text_);
+    field_->show();
+    connect(&field_->cancel(), &QAbstractButton::clicked, this, [this] { abandoned_ = true; });
     QApplication::setOverrideCursor(Qt::BusyCursor);
     qApp->installEventFilter(this);
 }
 
-void QtFortschritt::verberge()
+void QtProgress::hide()
 {
-    if (feld_ == nullptr)
+    if (field_ == nullptr)
         return;
     qApp->removeEventFilter(this);
     QApplication::restoreOverrideCursor();
-    disconnect(&feld_->abbrechen(), nullptr, this, nullptr);
-    feld_->hide();
-    feld_.clear();
-    delete tafel_;
+    disconnect(&field_->cancel(), nullptr, this, nullptr);
+    field_->hide();
+    field_.clear();
+    delete panel_;
 }
 
-bool QtFortschritt::istAbbrechen(const QObject* empfaenger) const
+bool QtProgress::isCancel(const QObject* receiver) const
 {
-    return feld_ != nullptr && empfaenger == &feld_->abbrechen();
+    return field_ != nullptr && receiver == &field_->cancel();
 }
 
-bool QtFortschritt::eventFilter(QObject* empfaenger, QEvent* ereignis)
+bool QtProgress::eventFilter(QObject* receiver, QEvent* event)
 {
     // A box within the work holds back everything else by itself.
     if (QApplication::activeModalWidget() != nullptr)
         return false;
     // Timers start operations too; they come again when the work is done.
-    if (ereignis->type() == QEvent::Timer)
-        return qobject_cast<QTimer*>(empfaenger) != nullptr;
-    if (isEscape(ereignis)) {
-        aufgegeben_ = true;
-        ereignis->accept();
+    if (event->type() == QEvent::Timer)
+        return qobject_cast<QTimer*>(receiver) != nullptr;
+    if (isEscape(event)) {
+        abandoned_ = true;
+        event->accept();
         return true;
     }
-    if (ereignis->type() == QEvent::Shortcut)
+    if (event->type() == QEvent::Shortcut)
         return true;
-    if (!empfaenger->isWidgetType() || istAbbrechen(empfaenger)) // A window passes on what its widgets are asked for.
+    if (!receiver->isWidgetType() || isCancel(receiver)) // A window passes on what its widgets are asked for.
         return false;
-    if (ereignis->type() == QEvent::Close) {
-        aufgegeben_ = true;
-        ereignis->ignore();
+    if (event->type() == QEvent::Close) {
+        abandoned_ = true;
+        event->ignore();
         return true;
     }
-    return isInput(ereignis->type());
+    return isInput(event->type());
 }
 
 } // namespace quelvarn

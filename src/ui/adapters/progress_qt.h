@@ -11,40 +11,40 @@ class QFrame;
 
 namespace quelvarn {
 
-class Fortschrittsfeld;
+class ProgressField;
 
 // Progress on the screen: in the field that the page in front lends, else in a panel over the window. The window is
 // drawn while the work runs; every input but giving up is held back, so that no operation starts within another.
-class QtFortschritt final : public QObject, public Fortschrittsanzeige
+class QtProgress final : public QObject, public ProgressDisplay
 {
     Q_OBJECT
 
 public:
-    QtFortschritt() = default;
-    ~QtFortschritt() override;
+    QtProgress() = default;
+    ~QtProgress() override;
 
-    void beginne(std::string_view text) override;
-    bool schritt(std::size_t getan, std::size_t gesamt) override;
-    void beende() override;
+    void begin(std::string_view text) override;
+    bool step(std::size_t done, std::size_t total) override;
+    void end() override;
 
-    bool atWork() const { return tiefe_ > 0; }
+    bool atWork() const { return depth_ > 0; }
     // As the person would by the button.
-    void giveUp() { aufgegeben_ = true; }
+    void giveUp() { abandoned_ = true; }
 
-    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    void zeige();
-    void verberge();
-    bool istAbbrechen(const QObject* empfaenger) const;
+    void show();
+    void hide();
+    bool isCancel(const QObject* receiver) const;
 
-    int tiefe_ = 0; // Work within work moves no bar of its own.
-    bool aufgegeben_ = false;
+    int depth_ = 0; // Work within work moves no bar of its own.
+    bool abandoned_ = false;
     QString text_;
-    QElapsedTimer seitBeginn_;
-    QElapsedTimer seitBild_;
-    QPointer<Fortschrittsfeld> feld_; // While it is shown.
-    QPointer<QFrame> tafel_;          // Around the field when it is no page's.
+    QElapsedTimer sinceStart_;
+    QElapsedTimer sincePicture_;
+    QPointer<ProgressField> field_; // While it is shown.
+    QPointer<QFrame> panel_;        // Around the field when it is no page's.
 };
 
 } // namespace quelvarn

@@ -17,75 +17,75 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int BILDSEITE = 64;
+constexpr int PICTURE_SIDE = 64;
 
 } // namespace
 
-Dokumentbild::Dokumentbild()
-    : bild_(new QLabel), name_(new KurzLabel(nullptr, Qt::ElideMiddle)),
-      ordner_(new KurzLabel(nullptr, Qt::ElideMiddle))
+DocumentPicture::DocumentPicture()
+    : picture_(new QLabel), name_(new ShortLabel(nullptr, Qt::ElideMiddle)),
+      folder_(new ShortLabel(nullptr, Qt::ElideMiddle))
 {
-    setzeRolle(*name_, Rolle::Kopf);
-    setzeRolle(*ordner_, Rolle::Beschriftung);
+    setRole(*name_, TextRole::Heading);
+    setRole(*folder_, TextRole::Caption);
     name_->setAlignment(Qt::AlignHCenter);
-    ordner_->setAlignment(Qt::AlignHCenter);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(12, 12, 12, 12);
-    aufbau->setSpacing(4);
-    aufbau->addStretch(1);
-    aufbau->addWidget(bild_, 0, Qt::AlignHCenter);
-    aufbau->addWidget(name_);
-    aufbau->addWidget(ordner_);
-    aufbau->addStretch(1);
+    folder_->setAlignment(Qt::AlignHCenter);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setSpacing(4);
+    layout->addStretch(1);
+    layout->addWidget(picture_, 0, Qt::AlignHCenter);
+    layout->addWidget(name_);
+    layout->addWidget(folder_);
+    layout->addStretch(1);
 }
 
-void Dokumentbild::zeige(std::string_view filename)
+void DocumentPicture::show(std::string_view filename)
 {
-    zeichen_ = filename.empty() ? std::string_view() : dokumentzeichen(filename);
-    name_->setText(zuQt(DateiName(filename)));
-    ordner_->setText(zuQt(Ordnername(filename)));
-    zeichne();
+    character_ = filename.empty() ? std::string_view() : documentSign(filename);
+    name_->setText(toQt(DateiName(filename)));
+    folder_->setText(toQt(Ordnername(filename)));
+    draw();
 }
 
-void Dokumentbild::zeichne()
+void DocumentPicture::draw()
 {
-    bild_->setPixmap(zeichen_.empty() ? QPixmap()
-                                      : symbolbild(zeichen_, BILDSEITE, farbsatz().gedaempft, devicePixelRatioF()));
+    picture_->setPixmap(
+        character_.empty() ? QPixmap() : iconPicture(character_, PICTURE_SIDE, colourSet().muted, devicePixelRatioF()));
 }
 
-void Dokumentbild::changeEvent(QEvent* ereignis)
+void DocumentPicture::changeEvent(QEvent* event)
 {
-    QWidget::changeEvent(ereignis);
-    if (ereignis->type() == QEvent::PaletteChange)
-        zeichne();
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        draw();
 }
 
-QtViewer::QtViewer(const Dateien& dateien) : dateien_(dateien) {}
+QtViewer::QtViewer(const Files& files) : files_(files) {}
 
-bool QtViewer::zeige(Ansicht ansicht, std::string_view filename)
+bool QtViewer::show(ViewerPlace view, std::string_view filename)
 {
-    const bool vorhanden = dateien_.dateiVorhanden(filename);
-    setze(ansicht, vorhanden ? filename : std::string_view());
-    return vorhanden;
+    const bool exists = files_.fileExists(filename);
+    set(view, exists ? filename : std::string_view());
+    return exists;
 }
 
-void QtViewer::leere(Ansicht ansicht)
+void QtViewer::clear(ViewerPlace view)
 {
-    setze(ansicht, {});
+    set(view, {});
 }
 
-void QtViewer::setze(Ansicht ansicht, std::string_view filename)
+void QtViewer::set(ViewerPlace view, std::string_view filename)
 {
-    if (const auto& platz = plaetze_[static_cast<std::size_t>(ansicht)])
-        platz->zeige(filename);
+    if (const auto& place = places_[static_cast<std::size_t>(view)])
+        place->show(filename);
 }
 
-QWidget& QtViewer::platz(Ansicht ansicht)
+QWidget& QtViewer::place(ViewerPlace view)
 {
-    auto& platz = plaetze_[static_cast<std::size_t>(ansicht)];
-    if (!platz)
-        platz = new Dokumentbild;
-    return *platz;
+    auto& place = places_[static_cast<std::size_t>(view)];
+    if (!place)
+        place = new DocumentPicture;
+    return *place;
 }
 
 } // namespace quelvarn

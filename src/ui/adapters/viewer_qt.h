@@ -11,49 +11,49 @@ class QLabel;
 
 namespace quelvarn {
 
-class Dateien;
-class KurzLabel;
+class Files;
+class ShortLabel;
 
 // The place of one document among the controls of a page: the sign of its type, its name and its folder.
-class Dokumentbild : public QWidget
+class DocumentPicture : public QWidget
 {
     Q_OBJECT
 
 public:
-    Dokumentbild();
+    DocumentPicture();
 
     // "" clears it.
-    void zeige(std::string_view filename);
+    void show(std::string_view filename);
 
 protected:
-    void changeEvent(QEvent* ereignis) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    void zeichne();
+    void draw();
 
-    std::string_view zeichen_;
-    QLabel* bild_;
-    KurzLabel* name_;
-    KurzLabel* ordner_;
+    std::string_view character_;
+    QLabel* picture_;
+    ShortLabel* name_;
+    ShortLabel* folder_;
 };
 
 // Names the documents shown and holds no file open.
 class QtViewer final : public Viewer
 {
 public:
-    explicit QtViewer(const Dateien& dateien);
+    explicit QtViewer(const Files& files);
 
-    bool zeige(Ansicht ansicht, std::string_view filename) override;
-    void leere(Ansicht ansicht) override;
+    bool show(ViewerPlace view, std::string_view filename) override;
+    void clear(ViewerPlace view) override;
 
     // Belongs to the page that takes it into its layout.
-    QWidget& platz(Ansicht ansicht);
+    QWidget& place(ViewerPlace view);
 
 private:
-    void setze(Ansicht ansicht, std::string_view filename);
+    void set(ViewerPlace view, std::string_view filename);
 
-    const Dateien& dateien_;
-    std::array<QPointer<Dokumentbild>, ANZAHL_ANSICHTEN> plaetze_;
+    const Files& files_;
+    std::array<QPointer<DocumentPicture>, VIEWER_PLACE_COUNT> places_;
 };
 
 } // namespace quelvarn

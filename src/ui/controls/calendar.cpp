@@ -13,11 +13,11 @@ namespace quelvarn {
 
 namespace {
 
-constexpr const char* ANSICHT = "qt_calendar_calendarview";
+constexpr const char* VIEWER = "qt_calendar_calendarview";
 
 } // namespace
 
-Kalender::Kalender(const char* name)
+Calendar::Calendar(const char* name)
 {
     setObjectName(QLatin1String(name));
     setLocale(QLocale(QLocale::German, QLocale::Germany));
@@ -25,53 +25,53 @@ Kalender::Kalender(const char* name)
     setVerticalHeaderFormat(NoVerticalHeader);
     setHorizontalHeaderFormat(ShortDayNames);
     setGridVisible(false);
-    faerbe();
+    paint();
     // Its own signal for Enter comes with a double click, too, which is two clicks already.
-    findChild<QTableView*>(QLatin1String(ANSICHT))->installEventFilter(this);
-    connect(this, &QCalendarWidget::clicked, this, bewacht([this](const QDate& tag) { melde(tag); }));
+    findChild<QTableView*>(QLatin1String(VIEWER))->installEventFilter(this);
+    connect(this, &QCalendarWidget::clicked, this, guardedSlot([this](const QDate& day) { notify(day); }));
 }
 
-void Kalender::melde(const QDate& tag)
+void Calendar::notify(const QDate& day)
 {
-    if (gewaehlt)
-        gewaehlt(tag);
+    if (chosen)
+        chosen(day);
 }
 
-void Kalender::faerbe()
+void Calendar::paint()
 {
-    QTextCharFormat tag;
-    tag.setForeground(farbsatz().text);
-    for (const auto wochentag : {Qt::Saturday, Qt::Sunday}) // Red is for warnings here.
-        setWeekdayTextFormat(wochentag, tag);
-    QTextCharFormat kopf;
-    kopf.setForeground(farbsatz().gedaempft);
-    kopf.setBackground(farbsatz().flaeche);
-    setHeaderTextFormat(kopf);
-    const auto pfeil = [this](const char* knopf, const char* bild) {
-        findChild<QToolButton*>(QLatin1String(knopf))->setIcon(symbol(bild));
+    QTextCharFormat day;
+    day.setForeground(colourSet().text);
+    for (const auto weekday : {Qt::Saturday, Qt::Sunday}) // Red is for warnings here.
+        setWeekdayTextFormat(weekday, day);
+    QTextCharFormat heading;
+    heading.setForeground(colourSet().muted);
+    heading.setBackground(colourSet().area);
+    setHeaderTextFormat(heading);
+    const auto arrow = [this](const char* button, const char* picture) {
+        findChild<QToolButton*>(QLatin1String(button))->setIcon(icon(picture));
     };
-    pfeil("qt_calendar_prevmonth", "left");
-    pfeil("qt_calendar_nextmonth", "right");
+    arrow("qt_calendar_prevmonth", "left");
+    arrow("qt_calendar_nextmonth", "right");
 }
 
-void Kalender::changeEvent(QEvent* ereignis)
+void Calendar::changeEvent(QEvent* event)
 {
-    QCalendarWidget::changeEvent(ereignis);
-    if (ereignis->type() == QEvent::PaletteChange)
-        faerbe();
+    QCalendarWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        paint();
 }
 
-bool Kalender::eventFilter(QObject* empfaenger, QEvent* ereignis)
+bool Calendar::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (ereignis->type() == QEvent::KeyPress) {
-        const auto* taste = static_cast<QKeyEvent*>(ereignis);
-        const bool enter = taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter;
-        if (enter && taste->modifiers() == Qt::NoModifier) {
-            Waechter::aktuell().fuehreAus([this] { melde(selectedDate()); });
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (enter && key->modifiers() == Qt::NoModifier) {
+            SlotGuard::current().execute([this] { notify(selectedDate()); });
             return true;
         }
     }
-    return QCalendarWidget::eventFilter(empfaenger, ereignis);
+    return QCalendarWidget::eventFilter(receiver, event);
 }
 
 } // namespace quelvarn

@@ -7,22 +7,22 @@
 namespace quelvarn {
 
 // A German month view in the program's look. A click on a day picks it, or Enter; moving about picks nothing.
-class Kalender : public QCalendarWidget
+class Calendar : public QCalendarWidget
 {
     Q_OBJECT
 
 public:
-    explicit Kalender(const char* name);
+    explicit Calendar(const char* name);
 
-    std::function<void(const QDate& tag)> gewaehlt;
+    std::function<void(const QDate& day)> chosen;
 
 protected:
-    void changeEvent(QEvent* ereignis) override;
-    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    void faerbe();
-    void melde(const QDate& tag);
+    void paint();
+    void notify(const QDate& day);
 };
 
 } // namespace quelvarn

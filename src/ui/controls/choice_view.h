@@ -12,95 +12,95 @@ namespace quelvarn {
 
 // A grid or tree that tells which entry a person chose, by mouse or keyboard, also the same one again. What the
 // program shows by itself is told to no one.
-template <typename Ansicht> class Wahlansicht : public Ansicht
+template <typename ViewerPlace> class ChoiceView : public ViewerPlace
 {
 public:
-    using Ansicht::Ansicht;
+    using ViewerPlace::ViewerPlace;
 
-    std::function<void(const QModelIndex&)> gewaehlt;
-    std::function<void(const QModelIndex&)> angeklickt; // Instead, where a choice by mouse means something else.
-    std::function<void(const QModelIndex&)> geoeffnet;  // Double click or Enter.
-    std::function<void(const QModelIndex&)> eingegeben; // Enter, where it is not the same as a double click.
+    std::function<void(const QModelIndex&)> chosen;
+    std::function<void(const QModelIndex&)> clicked; // Instead, where a choice by mouse means something else.
+    std::function<void(const QModelIndex&)> opened;  // Double click or Enter.
+    std::function<void(const QModelIndex&)> entered; // Enter, where it is not the same as a double click.
 
-    void zeigeGewaehlt(const QModelIndex& stelle)
+    void showChosen(const QModelIndex& position)
     {
-        if (this->currentIndex() == stelle)
+        if (this->currentIndex() == position)
             return;
-        still([&] { this->setCurrentIndex(stelle); });
+        still([&] { this->setCurrentIndex(position); });
     }
 
     // What happens in here is no choice of a person.
-    template <typename Schritt> void still(const Schritt& schritt)
+    template <typename Step> void still(const Step& step)
     {
-        const bool vorher = still_;
+        const bool before = still_;
         still_ = true;
-        schritt();
-        still_ = vorher;
+        step();
+        still_ = before;
     }
 
     // Typing must not walk through a million rows.
     void keyboardSearch(const QString& /*text*/) override {}
 
 protected:
-    void currentChanged(const QModelIndex& jetzt, const QModelIndex& vorher) override
+    void currentChanged(const QModelIndex& now, const QModelIndex& before) override
     {
-        Ansicht::currentChanged(jetzt, vorher);
-        if (!still_ && !maus_ && jetzt.isValid() && jetzt.siblingAtColumn(0) != vorher.siblingAtColumn(0))
-            melde(gewaehlt, jetzt);
+        ViewerPlace::currentChanged(now, before);
+        if (!still_ && !mouse_ && now.isValid() && now.siblingAtColumn(0) != before.siblingAtColumn(0))
+            notify(chosen, now);
     }
 
-    void mousePressEvent(QMouseEvent* ereignis) override
+    void mousePressEvent(QMouseEvent* event) override
     {
-        maus_ = ereignis->button() == Qt::LeftButton;
-        vorDemKlick_ = this->currentIndex();
-        Ansicht::mousePressEvent(ereignis);
+        mouse_ = event->button() == Qt::LeftButton;
+        beforeClick_ = this->currentIndex();
+        ViewerPlace::mousePressEvent(event);
     }
 
     // A choice by mouse counts when the button is up again: a message box must not hold it down.
-    void mouseReleaseEvent(QMouseEvent* ereignis) override
+    void mouseReleaseEvent(QMouseEvent* event) override
     {
-        Ansicht::mouseReleaseEvent(ereignis);
-        if (!maus_)
+        ViewerPlace::mouseReleaseEvent(event);
+        if (!mouse_)
             return;
-        maus_ = false;
-        const QModelIndex jetzt = this->currentIndex();
-        const bool getroffen = this->visualRect(jetzt).contains(ereignis->position().toPoint());
-        if (jetzt.isValid() && (getroffen || jetzt != vorDemKlick_))
-            melde(angeklickt ? angeklickt : gewaehlt, jetzt);
+        mouse_ = false;
+        const QModelIndex now = this->currentIndex();
+        const bool met = this->visualRect(now).contains(event->position().toPoint());
+        if (now.isValid() && (met || now != beforeClick_))
+            notify(clicked ? clicked : chosen, now);
     }
 
-    void mouseDoubleClickEvent(QMouseEvent* ereignis) override
+    void mouseDoubleClickEvent(QMouseEvent* event) override
     {
-        Ansicht::mouseDoubleClickEvent(ereignis);
-        const QModelIndex stelle = this->indexAt(ereignis->position().toPoint());
-        if (ereignis->button() == Qt::LeftButton && stelle.isValid())
-            melde(geoeffnet, stelle);
+        ViewerPlace::mouseDoubleClickEvent(event);
+        const QModelIndex position = this->indexAt(event->position().toPoint());
+        if (event->button() == Qt::LeftButton && position.isValid())
+            notify(opened, position);
     }
 
-    void keyPressEvent(QKeyEvent* ereignis) override
+    void keyPressEvent(QKeyEvent* event) override
     {
-        const bool eingabe = ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter;
-        if (!eingabe || !this->currentIndex().isValid())
-            return Ansicht::keyPressEvent(ereignis);
-        melde(eingegeben ? eingegeben : geoeffnet, this->currentIndex());
+        const bool input = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (!input || !this->currentIndex().isValid())
+            return ViewerPlace::keyPressEvent(event);
+        notify(entered ? entered : opened, this->currentIndex());
     }
 
     // The first focus makes the first entry current.
-    void focusInEvent(QFocusEvent* ereignis) override
+    void focusInEvent(QFocusEvent* event) override
     {
-        still([&] { Ansicht::focusInEvent(ereignis); });
+        still([&] { ViewerPlace::focusInEvent(event); });
     }
 
 private:
-    static void melde(const std::function<void(const QModelIndex&)>& wem, const QModelIndex& stelle)
+    static void notify(const std::function<void(const QModelIndex&)>& whom, const QModelIndex& position)
     {
-        if (wem)
-            Waechter::aktuell().fuehreAus([&] { wem(stelle); });
+        if (whom)
+            SlotGuard::current().execute([&] { whom(position); });
     }
 
     bool still_ = false;
-    bool maus_ = false;
-    QPersistentModelIndex vorDemKlick_;
+    bool mouse_ = false;
+    QPersistentModelIndex beforeClick_;
 };
 
 } // namespace quelvarn

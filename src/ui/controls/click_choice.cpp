@@ -10,36 +10,36 @@ namespace quelvarn {
 namespace {
 
 // Enter in a view; what else the view does with the key is of no use here.
-class Eingabetaste : public QObject
+class EnterKey : public QObject
 {
 public:
-    Eingabetaste(QAbstractItemView& ansicht, std::function<void(const QModelIndex&)> gewaehlt)
-        : QObject(&ansicht), ansicht_(ansicht), gewaehlt_(std::move(gewaehlt))
+    EnterKey(QAbstractItemView& view, std::function<void(const QModelIndex&)> chosen)
+        : QObject(&view), view_(view), chosen_(std::move(chosen))
     {}
 
-    bool eventFilter(QObject* /*empfaenger*/, QEvent* ereignis) override
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override
     {
-        if (ereignis->type() != QEvent::KeyPress || !ansicht_.currentIndex().isValid())
+        if (event->type() != QEvent::KeyPress || !view_.currentIndex().isValid())
             return false;
-        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
-        if (taste != Qt::Key_Return && taste != Qt::Key_Enter)
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter)
             return false;
-        Waechter::aktuell().fuehreAus([this] { gewaehlt_(ansicht_.currentIndex()); });
+        SlotGuard::current().execute([this] { chosen_(view_.currentIndex()); });
         return true;
     }
 
 private:
-    QAbstractItemView& ansicht_;
-    std::function<void(const QModelIndex&)> gewaehlt_;
+    QAbstractItemView& view_;
+    std::function<void(const QModelIndex&)> chosen_;
 };
 
 } // namespace
 
-void waehltPerKlick(QAbstractItemView& ansicht, std::function<void(const QModelIndex&)> gewaehlt)
+void choosesByClick(QAbstractItemView& view, std::function<void(const QModelIndex&)> chosen)
 {
-    QObject::connect(&ansicht, &QAbstractItemView::clicked, &ansicht,
-                     bewacht([gewaehlt](const QModelIndex& stelle) { gewaehlt(stelle); }));
-    ansicht.installEventFilter(new Eingabetaste(ansicht, std::move(gewaehlt)));
+    QObject::connect(&view, &QAbstractItemView::clicked, &view,
+                     guardedSlot([chosen](const QModelIndex& position) { chosen(position); }));
+    view.installEventFilter(new EnterKey(view, std::move(chosen)));
 }
 
 } // namespace quelvarn

@@ -12,13 +12,13 @@
 
 namespace quelvarn {
 
-KurzLabel::KurzLabel(QWidget* eltern, Qt::TextElideMode auslassung) : QLabel(eltern), auslassung_(auslassung)
+ShortLabel::ShortLabel(QWidget* parent, Qt::TextElideMode elision) : QLabel(parent), elision_(elision)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QSize KurzLabel::sizeHint() const
+QSize ShortLabel::sizeHint() const
 {
     ensurePolished();
     const QMargins edges = contentsMargins() + margin();
@@ -27,35 +27,35 @@ QSize KurzLabel::sizeHint() const
     return QSize(std::max(static_cast<int>(width), 1), fontMetrics().height()).grownBy(edges);
 }
 
-QSize KurzLabel::minimumSizeHint() const
+QSize ShortLabel::minimumSizeHint() const
 {
     const QSize whole = sizeHint();
     return {std::min(whole.width(), fontMetrics().averageCharWidth() * 3), whole.height()};
 }
 
-QString KurzLabel::shownText() const
+QString ShortLabel::shownText() const
 {
     const int room = contentsRect().width() - 2 * margin();
-    return QFontMetricsF(font()).elidedText(oneLine(text()), auslassung_, room);
+    return QFontMetricsF(font()).elidedText(oneLine(text()), elision_, room);
 }
 
-void KurzLabel::paintEvent(QPaintEvent* /*ereignis*/)
+void ShortLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     drawFrame(&painter);
-    const QRect platz = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
-    style()->drawItemText(&painter, platz, static_cast<int>(alignment()), palette(), isEnabled(), shownText(),
+    const QRect place = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
+    style()->drawItemText(&painter, place, static_cast<int>(alignment()), palette(), isEnabled(), shownText(),
                           foregroundRole());
 }
 
-bool KurzLabel::event(QEvent* ereignis)
+bool ShortLabel::event(QEvent* event)
 {
-    if (ereignis->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        const bool gekuerzt = shownText() != oneLine(text());
-        QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(), gekuerzt ? asTip(text()) : QString(), this);
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        const bool shortened = shownText() != oneLine(text());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shortened ? asTip(text()) : QString(), this);
         return true;
     }
-    return QLabel::event(ereignis);
+    return QLabel::event(event);
 }
 
 } // namespace quelvarn

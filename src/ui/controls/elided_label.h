@@ -6,12 +6,12 @@ namespace quelvarn {
 
 // A label of one line, also for a text of several, that shortens a text it has no room for; the tool tip then has the
 // whole one.
-class KurzLabel : public QLabel
+class ShortLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit KurzLabel(QWidget* eltern = nullptr, Qt::TextElideMode auslassung = Qt::ElideRight);
+    explicit ShortLabel(QWidget* parent = nullptr, Qt::TextElideMode elision = Qt::ElideRight);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -19,11 +19,11 @@ public:
 protected:
     // As much of the text as there is room for.
     QString shownText() const;
-    void paintEvent(QPaintEvent* ereignis) override;
-    bool event(QEvent* ereignis) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
-    Qt::TextElideMode auslassung_;
+    Qt::TextElideMode elision_;
 };
 
 } // namespace quelvarn

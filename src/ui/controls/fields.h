@@ -7,18 +7,18 @@
 namespace quelvarn {
 
 // A frame, a button or a box with its text, and with the name by which it is found.
-template <typename Feld> Feld* neuesFeld(QAnyStringView name, const QString& text)
+template <typename Field> Field* newField(QAnyStringView name, const QString& text)
 {
-    auto* feld = new Feld(text);
-    feld->setObjectName(name.toString());
-    return feld;
+    auto* field = new Field(text);
+    field->setObjectName(name.toString());
+    return field;
 }
 
 // As the state has it, not as a choice: no slot hears of it.
-inline void zeigeGesetzt(QAbstractButton& knopf, bool gesetzt)
+inline void showSet(QAbstractButton& button, bool set)
 {
-    const QSignalBlocker still(&knopf);
-    knopf.setChecked(gesetzt);
+    const QSignalBlocker still(&button);
+    button.setChecked(set);
 }
 
 } // namespace quelvarn

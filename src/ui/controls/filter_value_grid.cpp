@@ -12,116 +12,117 @@ namespace quelvarn {
 
 namespace {
 
-enum Wertspalte : int { Benennung = 0, Wert = 1, Anzahl = 2 };
-constexpr int ANTEIL_BENENNUNG = 40; // Percent of the width.
+enum ValueColumn : int { Benennung = 0, value = 1, Count = 2 };
+constexpr int CAPTION_SHARE = 40; // Percent of the width.
 
 } // namespace
 
-void Wertmodell::zeige(const std::vector<FilterRow>& werte)
+void FilterValueModel::display(const std::vector<FilterRow>& values)
 {
-    if (werte == werte_)
+    if (values == values_)
         return;
-    if (werte.size() == werte_.size()) { // The editor of a cell stays: the view closes it when it has written.
-        werte_ = werte;
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, Anzahl - 1));
+    if (values.size() == values_.size()) { // The editor of a cell stays: the view closes it when it has written.
+        values_ = values;
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, Count - 1));
         return;
     }
     beginResetModel();
-    werte_ = werte;
+    values_ = values;
     endResetModel();
 }
 
-void Wertmodell::setzeKopf(std::string_view text)
+void FilterValueModel::setHeading(std::string_view text)
 {
-    if (text == kopf_)
+    if (text == heading_)
         return;
-    kopf_ = text;
-    Q_EMIT headerDataChanged(Qt::Horizontal, Wert, Wert);
+    heading_ = text;
+    Q_EMIT headerDataChanged(Qt::Horizontal, value, value);
 }
 
-int Wertmodell::rowCount(const QModelIndex& eltern) const
+int FilterValueModel::rowCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : static_cast<int>(werte_.size());
+    return parent.isValid() ? 0 : static_cast<int>(values_.size());
 }
 
-int Wertmodell::columnCount(const QModelIndex& eltern) const
+int FilterValueModel::columnCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : Anzahl;
+    return parent.isValid() ? 0 : Count;
 }
 
-QVariant Wertmodell::data(const QModelIndex& stelle, int rolle) const
+QVariant FilterValueModel::data(const QModelIndex& position, int textRole) const
 {
-    if ((rolle != Qt::DisplayRole && rolle != Qt::EditRole) || !checkIndex(stelle, CheckIndexOption::IndexIsValid))
+    if ((textRole != Qt::DisplayRole && textRole != Qt::EditRole) ||
+        !checkIndex(position, CheckIndexOption::IndexIsValid))
         return {};
-    const FilterRow& zeile = werte_[static_cast<std::size_t>(stelle.row())];
-    return zuQt(stelle.column() == Benennung ? zeile.Benennung : zeile.Wert);
+    const FilterRow& row = values_[static_cast<std::size_t>(position.row())];
+    return toQt(position.column() == Benennung ? row.Benennung : row.value);
 }
 
-QVariant Wertmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
+QVariant FilterValueModel::headerData(int section, Qt::Orientation direction, int textRole) const
 {
-    if (richtung == Qt::Vertical)
-        return rolle == Qt::DisplayRole ? QVariant(abschnitt + 1) : QVariant();
-    if (abschnitt < 0 || abschnitt >= Anzahl)
+    if (direction == Qt::Vertical)
+        return textRole == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    if (section < 0 || section >= Count)
         return {};
-    if (rolle == Qt::DisplayRole)
-        return abschnitt == Benennung ? QStringLiteral("Benennung") : zuQt(kopf_);
-    if (rolle == Qt::TextAlignmentRole)
+    if (textRole == Qt::DisplayRole)
+        return section == Benennung ? QStringLiteral("Benennung") : toQt(heading_);
+    if (textRole == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
 }
 
-Qt::ItemFlags Wertmodell::flags(const QModelIndex& stelle) const
+Qt::ItemFlags FilterValueModel::flags(const QModelIndex& position) const
 {
-    const Qt::ItemFlags merkmale = QAbstractTableModel::flags(stelle);
-    return bearbeitet && stelle.column() == Wert ? merkmale | Qt::ItemIsEditable : merkmale;
+    const Qt::ItemFlags features = QAbstractTableModel::flags(position);
+    return edited && position.column() == value ? features | Qt::ItemIsEditable : features;
 }
 
 // The editor is closed by the time it is told: that may raise a box.
-Wertmodell::Wertmodell(QObject* parent) : QAbstractTableModel(parent)
+FilterValueModel::FilterValueModel(QObject* parent) : QAbstractTableModel(parent)
 {
-    connect(this, &Wertmodell::entered, this, &Wertmodell::tellEntered, Qt::QueuedConnection);
+    connect(this, &FilterValueModel::entered, this, &FilterValueModel::tellEntered, Qt::QueuedConnection);
 }
 
-bool Wertmodell::setData(const QModelIndex& stelle, const QVariant& wert, int rolle)
+bool FilterValueModel::setData(const QModelIndex& position, const QVariant& value, int textRole)
 {
-    if (rolle != Qt::EditRole || !bearbeitet || wert == data(stelle, rolle))
+    if (textRole != Qt::EditRole || !edited || value == data(position, textRole))
         return false;
-    entered_ = Entered{static_cast<std::size_t>(stelle.row()), ausQt(wert.toString())};
-    werte_[entered_->row].Wert = entered_->value;
-    Q_EMIT dataChanged(stelle, stelle);
+    entered_ = Entered{static_cast<std::size_t>(position.row()), fromQt(value.toString())};
+    values_[entered_->row].value = entered_->value;
+    Q_EMIT dataChanged(position, position);
     Q_EMIT entered();
     return true;
 }
 
-void Wertmodell::tellEntered()
+void FilterValueModel::tellEntered()
 {
     if (const auto entered = std::exchange(entered_, std::nullopt))
-        Waechter::aktuell().fuehreAus([&] { bearbeitet(entered->row, entered->value); });
+        SlotGuard::current().execute([&] { edited(entered->row, entered->value); });
 }
 
-Werttabelle::Werttabelle(const char* name) : modell_(new Wertmodell(this))
+ValueTable::ValueTable(const char* name) : model_(new FilterValueModel(this))
 {
     setObjectName(QLatin1String(name));
     setAccessibleName(QStringLiteral("Filterwerte"));
-    setModel(modell_);
-    stelleGitterEin(*this);
+    setModel(model_);
+    configureGrid(*this);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
 }
 
-void Werttabelle::takeInput()
+void ValueTable::takeInput()
 {
     if (QWidget* editor = indexWidget(currentIndex())) {
         commitData(editor);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
-    modell_->tellEntered();
+    model_->tellEntered();
 }
 
-void Werttabelle::resizeEvent(QResizeEvent* ereignis)
+void ValueTable::resizeEvent(QResizeEvent* event)
 {
-    QTableView::resizeEvent(ereignis);
-    if (ereignis->size().width() != ereignis->oldSize().width())
-        setColumnWidth(Benennung, viewport()->width() * ANTEIL_BENENNUNG / 100);
+    QTableView::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        setColumnWidth(Benennung, viewport()->width() * CAPTION_SHARE / 100);
 }
 
 } // namespace quelvarn

@@ -15,27 +15,27 @@
 namespace quelvarn {
 
 // The rows of a FilterWerteTabelle for a grid: Benennung and Wert.
-class Wertmodell : public QAbstractTableModel
+class FilterValueModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    explicit Wertmodell(QObject* parent);
+    explicit FilterValueModel(QObject* parent);
 
-    void zeige(const std::vector<FilterRow>& werte);
-    void setzeKopf(std::string_view text); // Of the column Wert.
+    void display(const std::vector<FilterRow>& values);
+    void setHeading(std::string_view text); // Of the column Wert.
     // Set: a Wert may be edited, and this is told of it when the editor is closed. The grid shows the new text until it
     // is shown another one.
-    std::function<void(std::size_t zeile, const std::string& wert)> bearbeitet;
+    std::function<void(std::size_t row, const std::string& value)> edited;
 
     void tellEntered(); // At once instead.
 
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
-    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override;
-    Qt::ItemFlags flags(const QModelIndex& stelle) const override;
-    bool setData(const QModelIndex& stelle, const QVariant& wert, int rolle) override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& position, int textRole) const override;
+    QVariant headerData(int section, Qt::Orientation direction, int textRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& position) const override;
+    bool setData(const QModelIndex& position, const QVariant& value, int textRole) override;
 
 Q_SIGNALS:
     void entered();
@@ -47,28 +47,28 @@ private:
         std::string value;
     };
 
-    std::vector<FilterRow> werte_;
+    std::vector<FilterRow> values_;
     std::optional<Entered> entered_; // Not told yet.
-    std::string kopf_ = "Filterwerte";
+    std::string heading_ = "Filterwerte";
 };
 
 // A grid of filter values, in the look of the others.
-class Werttabelle : public QTableView
+class ValueTable : public QTableView
 {
     Q_OBJECT
 
 public:
-    explicit Werttabelle(const char* name);
+    explicit ValueTable(const char* name);
 
-    Wertmodell& zeilen() { return *modell_; }
+    FilterValueModel& rows() { return *model_; }
     // What is being written counts: closes an open editor and tells its text.
     void takeInput();
 
 protected:
-    void resizeEvent(QResizeEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    Wertmodell* modell_;
+    FilterValueModel* model_;
 };
 
 } // namespace quelvarn

@@ -21,135 +21,135 @@ namespace {
 
 // Draws a cell as the style would, but lays its text out once only: moving through rows is mostly drawing cells.
 // Marks the row that the keyboard moves, and shows the whole text in the tool tip where it had to be shortened.
-class Zellenzeichner : public QStyledItemDelegate
+class CellPainter : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    QString displayText(const QVariant& wert, const QLocale& sprache) const override
+    QString displayText(const QVariant& value, const QLocale& language) const override
     {
-        return oneLine(QStyledItemDelegate::displayText(wert, sprache));
+        return oneLine(QStyledItemDelegate::displayText(value, language));
     }
 
-    bool helpEvent(QHelpEvent* ereignis, QAbstractItemView* ansicht, const QStyleOptionViewItem& option,
-                   const QModelIndex& stelle) override
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& position) override
     {
-        if (ereignis->type() != QEvent::ToolTip)
-            return QStyledItemDelegate::helpEvent(ereignis, ansicht, option, stelle);
-        const bool gekuerzt = sizeHint(option, stelle).width() > ansicht->visualRect(stelle).width();
-        QToolTip::showText(ereignis->globalPos(), gekuerzt ? asTip(stelle.data().toString()) : QString(), ansicht);
+        if (event->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(event, view, option, position);
+        const bool shortened = sizeHint(option, position).width() > view->visualRect(position).width();
+        QToolTip::showText(event->globalPos(), shortened ? asTip(position.data().toString()) : QString(), view);
         return true;
     }
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& stelle) const override
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& position) const override
     {
-        QStyleOptionViewItem zelle = option;
-        initStyleOption(&zelle, stelle);
-        const QStyle& stil = *zelle.widget->style();
-        stil.drawPrimitive(QStyle::PE_PanelItemViewItem, &zelle, painter, zelle.widget);
-        zeichneText(*painter, zelle, stil);
-        if (stelle.column() == 0 && option.state.testFlag(QStyle::State_Selected) && option.widget->hasFocus())
-            zeichneFokusmarke(*painter, option.rect);
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, position);
+        const QStyle& style = *cell.widget->style();
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+        drawText(*painter, cell, style);
+        if (position.column() == 0 && option.state.testFlag(QStyle::State_Selected) && option.widget->hasFocus())
+            drawFocusMark(*painter, option.rect);
     }
 
 protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& stelle) const override
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& position) const override
     {
-        QStyledItemDelegate::initStyleOption(option, stelle);
+        QStyledItemDelegate::initStyleOption(option, position);
         option->state.setFlag(QStyle::State_HasFocus, false); // The whole row is marked instead.
     }
 
 private:
-    static void zeichneText(QPainter& painter, const QStyleOptionViewItem& zelle, const QStyle& stil)
+    static void drawText(QPainter& painter, const QStyleOptionViewItem& cell, const QStyle& style)
     {
-        const int rand = stil.pixelMetric(QStyle::PM_FocusFrameHMargin, &zelle, zelle.widget) + 1;
-        const QRect platz = zelle.rect.adjusted(rand, 0, -rand, 0);
-        const bool gewaehlt = zelle.state.testFlag(QStyle::State_Selected);
-        const auto gruppe = zelle.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-        painter.setPen(zelle.palette.color(zelle.state.testFlag(QStyle::State_Enabled) ? gruppe : QPalette::Disabled,
-                                           gewaehlt ? QPalette::HighlightedText : QPalette::Text));
-        QTextLayout satz(zelle.text, zelle.font);
-        const QSizeF groesse = setze(satz);
-        if (groesse.width() > platz.width()) {
-            satz.setText(zelle.fontMetrics.elidedText(zelle.text, zelle.textElideMode, platz.width()));
-            setze(satz);
+        const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, cell.widget) + 1;
+        const QRect place = cell.rect.adjusted(margin, 0, -margin, 0);
+        const bool chosen = cell.state.testFlag(QStyle::State_Selected);
+        const auto group = cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+        painter.setPen(cell.palette.color(cell.state.testFlag(QStyle::State_Enabled) ? group : QPalette::Disabled,
+                                          chosen ? QPalette::HighlightedText : QPalette::Text));
+        QTextLayout line(cell.text, cell.font);
+        const QSizeF size = set(line);
+        if (size.width() > place.width()) {
+            line.setText(cell.fontMetrics.elidedText(cell.text, cell.textElideMode, place.width()));
+            set(line);
         }
-        satz.draw(&painter, QPointF(platz.left(), platz.top() + (platz.height() - groesse.height()) / 2));
+        line.draw(&painter, QPointF(place.left(), place.top() + (place.height() - size.height()) / 2));
     }
 
     // One line, as long as it needs.
-    static QSizeF setze(QTextLayout& satz)
+    static QSizeF set(QTextLayout& line)
     {
-        satz.setCacheEnabled(true);
-        satz.beginLayout();
-        QTextLine zeile = satz.createLine();
-        satz.endLayout();
-        return {zeile.naturalTextWidth(), zeile.height()};
+        line.setCacheEnabled(true);
+        line.beginLayout();
+        QTextLine row = line.createLine();
+        line.endLayout();
+        return {row.naturalTextWidth(), row.height()};
     }
 };
 
 } // namespace
 
-Gitter::Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile)
-    : modell_(new Gittermodell(std::move(spalten))), anteile_(std::move(anteile))
+Grid::Grid(std::string_view name, std::vector<GridColumn> columns, std::vector<int> shares)
+    : model_(new GridModel(std::move(columns))), shares_(std::move(shares))
 {
-    setObjectName(zuQt(name));
-    modell_->setParent(this);
-    setModel(modell_);
-    stelleGitterEin(*this);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int spalte) {
-        const bool letzte = spalte == modell_->columnCount() - 1; // It follows the others.
-        vonHand_ = vonHand_ || (!verteilt_ && !letzte && isVisible());
+    setObjectName(toQt(name));
+    model_->setParent(this);
+    setModel(model_);
+    configureGrid(*this);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        const bool last = column == model_->columnCount() - 1; // It follows the others.
+        byHand_ = byHand_ || (!distributed_ && !last && isVisible());
     });
 }
 
-void stelleGitterEin(QTableView& gitter)
+void configureGrid(QTableView& grid)
 {
-    gitter.setItemDelegate(new Zellenzeichner(&gitter));
-    gitter.setHorizontalHeader(new GridHead(&gitter));
-    gitter.setSelectionBehavior(QTableView::SelectRows);
-    gitter.setSelectionMode(QTableView::SingleSelection);
-    gitter.setEditTriggers(QTableView::NoEditTriggers);
-    gitter.setAlternatingRowColors(true);
-    gitter.setShowGrid(false);
-    gitter.setWordWrap(false);
-    gitter.setTabKeyNavigation(false);
-    gitter.setCornerButtonEnabled(false);
-    gitter.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    gitter.verticalHeader()->hide();
-    gitter.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    gitter.verticalHeader()->setDefaultSectionSize(gitter.fontMetrics().height() + 5);
+    grid.setItemDelegate(new CellPainter(&grid));
+    grid.setHorizontalHeader(new GridHead(&grid));
+    grid.setSelectionBehavior(QTableView::SelectRows);
+    grid.setSelectionMode(QTableView::SingleSelection);
+    grid.setEditTriggers(QTableView::NoEditTriggers);
+    grid.setAlternatingRowColors(true);
+    grid.setShowGrid(false);
+    grid.setWordWrap(false);
+    grid.setTabKeyNavigation(false);
+    grid.setCornerButtonEnabled(false);
+    grid.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid.verticalHeader()->hide();
+    grid.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid.verticalHeader()->setDefaultSectionSize(grid.fontMetrics().height() + 5);
 }
 
-void Gitter::zeige(const Recordset* zeilen, unsigned fassung)
+void Grid::display(const Recordset* rows, unsigned generation)
 {
-    still([&] { modell_->zeige(zeilen, fassung); });
-    if (zeilen == nullptr || zeilen->Bof() || zeilen->Eof())
+    still([&] { model_->display(rows, generation); });
+    if (rows == nullptr || rows->Bof() || rows->Eof())
         return;
-    const int zeile = static_cast<int>(zeilen->AbsolutePosition());
-    if (zeile != currentIndex().row())
-        zeigeGewaehlt(modell_->index(zeile, 0));
+    const int row = static_cast<int>(rows->AbsolutePosition());
+    if (row != currentIndex().row())
+        showChosen(model_->index(row, 0));
 }
 
-void Gitter::resizeEvent(QResizeEvent* ereignis)
+void Grid::resizeEvent(QResizeEvent* event)
 {
-    QTableView::resizeEvent(ereignis);
-    if (!vonHand_ && ereignis->size().width() != ereignis->oldSize().width())
-        verteileBreiten();
+    QTableView::resizeEvent(event);
+    if (!byHand_ && event->size().width() != event->oldSize().width())
+        distributeWidths();
 }
 
-void Gitter::verteileBreiten()
+void Grid::distributeWidths()
 {
-    verteilt_ = true;
-    const auto& kopf = static_cast<const GridHead&>(*horizontalHeader());
+    distributed_ = true;
+    const auto& heading = static_cast<const GridHead&>(*horizontalHeader());
     std::vector<int> least;
-    for (int i = 0; i < modell_->columnCount(); ++i)
-        least.push_back(kopf.leastWidth(i));
-    const std::vector<int> breiten = columnWidths(viewport()->width(), anteile_, least);
+    for (int i = 0; i < model_->columnCount(); ++i)
+        least.push_back(heading.leastWidth(i));
+    const std::vector<int> widths = columnWidths(viewport()->width(), shares_, least);
     // The head stretches the last one too, but not as long as the columns before were too wide.
-    for (std::size_t i = 0; i < breiten.size(); ++i)
-        setColumnWidth(static_cast<int>(i), breiten[i]);
-    verteilt_ = false;
+    for (std::size_t i = 0; i < widths.size(); ++i)
+        setColumnWidth(static_cast<int>(i), widths[i]);
+    distributed_ = false;
 }
 
 } // namespace quelvarn

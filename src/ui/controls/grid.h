@@ -10,30 +10,30 @@
 namespace quelvarn {
 
 // A grid of rows of one height, quick also with a million of them.
-class Gitter : public Wahlansicht<QTableView>
+class Grid : public ChoiceView<QTableView>
 {
     Q_OBJECT
 
 public:
     // The widths are shares of the whole; the last column takes what is left.
-    Gitter(std::string_view name, std::vector<Gitterspalte> spalten, std::vector<int> anteile);
+    Grid(std::string_view name, std::vector<GridColumn> columns, std::vector<int> shares);
 
-    Gittermodell& zeilen() { return *modell_; }
-    void zeige(const Recordset* zeilen, unsigned fassung);
+    GridModel& rows() { return *model_; }
+    void display(const Recordset* rows, unsigned generation);
 
 protected:
-    void resizeEvent(QResizeEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void verteileBreiten();
+    void distributeWidths();
 
-    Gittermodell* modell_;
-    std::vector<int> anteile_;
-    bool verteilt_ = false; // Widths are being set by the program now.
-    bool vonHand_ = false;  // A person has set a width: it stays.
+    GridModel* model_;
+    std::vector<int> shares_;
+    bool distributed_ = false; // Widths are being set by the program now.
+    bool byHand_ = false;      // A person has set a width: it stays.
 };
 
 // The look and the manners of every grid of the program.
-void stelleGitterEin(QTableView& gitter);
+void configureGrid(QTableView& grid);
 
 } // namespace quelvarn

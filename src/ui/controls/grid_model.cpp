@@ -14,89 +14,89 @@
 
 namespace quelvarn {
 
-Gittermodell::Gittermodell(std::vector<Gitterspalte> spalten) : spalten_(std::move(spalten)), melder_(new QTimer(this))
+GridModel::GridModel(std::vector<GridColumn> columns) : columns_(std::move(columns)), reporter_(new QTimer(this))
 {
-    melder_->setSingleShot(true);
-    connect(melder_, &QTimer::timeout, this, bewacht([this] {
-                if (fehler_)
-                    throw Laufzeitfehler(*fehler_);
+    reporter_->setSingleShot(true);
+    connect(reporter_, &QTimer::timeout, this, guardedSlot([this] {
+                if (fault_)
+                    throw RuntimeError(*fault_);
             }));
 }
 
-bool Gittermodell::zeige(const Recordset* zeilen, unsigned fassung)
+bool GridModel::display(const Recordset* rows, unsigned generation)
 {
-    if (zeilen == zeilen_ && fassung == fassung_) {
+    if (rows == rows_ && generation == generation_) {
         tryAgain();
         return false;
     }
     beginResetModel();
-    zeilen_ = zeilen;
-    fassung_ = fassung;
-    const std::size_t anzahl = zeilen != nullptr ? zeilen->RecordCount() : 0;
-    anzahl_ = static_cast<int>(std::min<std::size_t>(anzahl, std::numeric_limits<int>::max()));
-    fehler_.reset();
+    rows_ = rows;
+    generation_ = generation;
+    const std::size_t count = rows != nullptr ? rows->RecordCount() : 0;
+    count_ = static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max()));
+    fault_.reset();
     endResetModel();
     return true;
 }
 
-int Gittermodell::rowCount(const QModelIndex& eltern) const
+int GridModel::rowCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : anzahl_;
+    return parent.isValid() ? 0 : count_;
 }
 
-int Gittermodell::columnCount(const QModelIndex& eltern) const
+int GridModel::columnCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : static_cast<int>(spalten_.size());
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-QVariant Gittermodell::data(const QModelIndex& stelle, int rolle) const
+QVariant GridModel::data(const QModelIndex& position, int textRole) const
 {
-    if (rolle != Qt::DisplayRole || !checkIndex(stelle, CheckIndexOption::IndexIsValid))
+    if (textRole != Qt::DisplayRole || !checkIndex(position, CheckIndexOption::IndexIsValid))
         return {};
-    return zelle(stelle);
+    return cell(position);
 }
 
-QVariant Gittermodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
+QVariant GridModel::headerData(int section, Qt::Orientation direction, int textRole) const
 {
-    if (richtung != Qt::Horizontal || abschnitt < 0 || abschnitt >= columnCount())
+    if (direction != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
-    if (rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole)
-        return zuQt(spalten_[static_cast<std::size_t>(abschnitt)].titel);
-    if (rolle == Qt::TextAlignmentRole)
+    if (textRole == Qt::DisplayRole || textRole == Qt::ToolTipRole)
+        return toQt(columns_[static_cast<std::size_t>(section)].title);
+    if (textRole == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
 }
 
-QString Gittermodell::zelle(const QModelIndex& stelle) const
+QString GridModel::cell(const QModelIndex& position) const
 {
-    if (fehler_ || QtPatience::isAsking()) // The connection is at work; the window is drawn anew afterwards.
+    if (fault_ || QtPatience::isAsking()) // The connection is at work; the window is drawn anew afterwards.
         return {};
     try {
-        const auto& spalte = spalten_[static_cast<std::size_t>(stelle.column())];
-        QString text = zuQt(alsText(zeilen_->Zelle(static_cast<std::size_t>(stelle.row()), spalte.feld)));
+        const auto& column = columns_[static_cast<std::size_t>(position.column())];
+        QString text = toQt(asText(rows_->cell(static_cast<std::size_t>(position.row()), column.field)));
         told_.clear();
         return text;
-    } catch (const Laufzeitfehler& fehler) {
-        melde(fehler);
+    } catch (const RuntimeError& fault) {
+        notify(fault);
         return {};
     }
 }
 
 // A box must not come up in the middle of drawing.
-void Gittermodell::melde(const Laufzeitfehler& fehler) const
+void GridModel::notify(const RuntimeError& fault) const
 {
-    fehler_ = fehler;
-    if (std::exchange(told_, fehler.beschreibung()) != told_)
-        melder_->start();
+    fault_ = fault;
+    if (std::exchange(told_, fault.description()) != told_)
+        reporter_->start();
 }
 
 // What could not be read may be there again.
-void Gittermodell::tryAgain()
+void GridModel::tryAgain()
 {
-    if (!fehler_ || melder_->isActive() || anzahl_ == 0)
+    if (!fault_ || reporter_->isActive() || count_ == 0)
         return;
-    fehler_.reset();
-    Q_EMIT dataChanged(index(0, 0), index(anzahl_ - 1, columnCount() - 1));
+    fault_.reset();
+    Q_EMIT dataChanged(index(0, 0), index(count_ - 1, columnCount() - 1));
 }
 
 } // namespace quelvarn

@@ -15,40 +15,40 @@ namespace quelvarn {
 
 class Recordset;
 
-struct Gitterspalte
+struct GridColumn
 {
-    std::string_view titel;
-    std::string_view feld;
+    std::string_view title;
+    std::string_view field;
 };
 
 // The rows of a recordset for a grid. Nothing is copied: a cell is read when it is drawn.
-class Gittermodell : public QAbstractTableModel
+class GridModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    explicit Gittermodell(std::vector<Gitterspalte> spalten);
+    explicit GridModel(std::vector<GridColumn> columns);
 
     // nullptr for no rows. True when the grid was bound anew: other rows, or the same ones in another version.
-    bool zeige(const Recordset* zeilen, unsigned fassung);
+    bool display(const Recordset* rows, unsigned generation);
 
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
-    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& position, int textRole) const override;
+    QVariant headerData(int section, Qt::Orientation direction, int textRole) const override;
 
 private:
-    QString zelle(const QModelIndex& stelle) const;
-    void melde(const Laufzeitfehler& fehler) const;
+    QString cell(const QModelIndex& position) const;
+    void notify(const RuntimeError& fault) const;
     void tryAgain();
 
-    std::vector<Gitterspalte> spalten_;
-    const Recordset* zeilen_ = nullptr;
-    unsigned fassung_ = 0;
-    int anzahl_ = 0;
-    mutable std::optional<Laufzeitfehler> fehler_; // While drawing: cells are empty until the next operation.
-    mutable std::string told_;                     // What it said; not again before cells could be read.
-    QTimer* melder_;
+    std::vector<GridColumn> columns_;
+    const Recordset* rows_ = nullptr;
+    unsigned generation_ = 0;
+    int count_ = 0;
+    mutable std::optional<RuntimeError> fault_; // While drawing: cells are empty until the next operation.
+    mutable std::string told_;                  // What it said; not again before cells could be read.
+    QTimer* reporter_;
 };
 
 } // namespace quelvarn

@@ -5,20 +5,20 @@
 
 namespace quelvarn {
 
-void zeigeGesperrt(QWidget& feld, bool gesperrt)
+void showLocked(QWidget& field, bool locked)
 {
-    if (feld.property("gesperrt").toBool() == gesperrt)
+    if (field.property("gesperrt").toBool() == locked)
         return;
-    feld.setProperty("gesperrt", gesperrt);
-    feld.setAccessibleDescription(gesperrt ? QStringLiteral("gesperrt") : QString());
-    feld.style()->unpolish(&feld);
-    feld.style()->polish(&feld);
-    feld.update();
+    field.setProperty("gesperrt", locked);
+    field.setAccessibleDescription(locked ? QStringLiteral("gesperrt") : QString());
+    field.style()->unpolish(&field);
+    field.style()->polish(&field);
+    field.update();
 }
 
-void zeigeGesperrt(QGroupBox& rahmen, const QString& titel, bool gesperrt)
+void showLocked(QGroupBox& frame, const QString& title, bool locked)
 {
-    rahmen.setTitle(gesperrt ? titel + QStringLiteral(" (gesperrt)") : titel);
+    frame.setTitle(locked ? title + QStringLiteral(" (gesperrt)") : title);
 }
 
 } // namespace quelvarn

@@ -7,8 +7,8 @@ class QWidget;
 namespace quelvarn {
 
 // A field that takes no choice now looks so, but can still be clicked: the click tells why.
-void zeigeGesperrt(QWidget& feld, bool gesperrt);
+void showLocked(QWidget& field, bool locked);
 // The frame around such fields says it in its title.
-void zeigeGesperrt(QGroupBox& rahmen, const QString& titel, bool gesperrt);
+void showLocked(QGroupBox& frame, const QString& title, bool locked);
 
 } // namespace quelvarn

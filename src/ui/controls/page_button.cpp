@@ -11,48 +11,48 @@
 
 namespace quelvarn {
 
-Seitenknopf::Seitenknopf(std::string_view name, const QString& text, std::string_view bild)
-    : symbol_(bild), bild_(new QToolButton), text_(new QToolButton)
+PageButton::PageButton(std::string_view name, const QString& text, std::string_view picture)
+    : icon_(picture), picture_(new QToolButton), text_(new QToolButton)
 {
-    bild_->setObjectName(QStringLiteral("Img") + zuQt(name));
-    bild_->setIconSize({16, 16});
-    bild_->setFixedSize(16, 16);
-    bild_->setFocusPolicy(Qt::NoFocus);
-    bild_->setAccessibleName(text);
-    text_->setObjectName(QStringLiteral("Lbl") + zuQt(name));
+    picture_->setObjectName(QStringLiteral("Img") + toQt(name));
+    picture_->setIconSize({16, 16});
+    picture_->setFixedSize(16, 16);
+    picture_->setFocusPolicy(Qt::NoFocus);
+    picture_->setAccessibleName(text);
+    text_->setObjectName(QStringLiteral("Lbl") + toQt(name));
     text_->setText(text);
     text_->setFocusPolicy(Qt::TabFocus);
-    for (auto* taste : {bild_, text_}) {
-        taste->setAutoRaise(true);
-        connect(taste, &QToolButton::clicked, this, bewacht([this] {
-                    if (gewaehlt)
-                        gewaehlt();
+    for (auto* key : {picture_, text_}) {
+        key->setAutoRaise(true);
+        connect(key, &QToolButton::clicked, this, guardedSlot([this] {
+                    if (chosen)
+                        chosen();
                 }));
     }
-    auto* reihe = new QHBoxLayout(this);
-    reihe->setContentsMargins(9, 5, 6, 5);
-    reihe->setSpacing(1);
-    reihe->addWidget(bild_);
-    reihe->addWidget(text_);
+    auto* layoutRow = new QHBoxLayout(this);
+    layoutRow->setContentsMargins(9, 5, 6, 5);
+    layoutRow->setSpacing(1);
+    layoutRow->addWidget(picture_);
+    layoutRow->addWidget(text_);
     setCursor(Qt::PointingHandCursor);
-    zeigeAktiv(false);
+    showActive(false);
 }
 
-void Seitenknopf::zeigeAktiv(bool aktiv)
+void PageButton::showActive(bool active)
 {
-    if (property("aktiv").toBool() == aktiv && property("aktiv").isValid())
+    if (property("aktiv").toBool() == active && property("aktiv").isValid())
         return;
-    setProperty("aktiv", aktiv);
-    bild_->setIcon(symbol(symbol_, aktiv ? QPalette::Link : QPalette::PlaceholderText));
-    for (QWidget* teil : {static_cast<QWidget*>(this), static_cast<QWidget*>(bild_), static_cast<QWidget*>(text_)}) {
-        style()->unpolish(teil);
-        style()->polish(teil);
+    setProperty("aktiv", active);
+    picture_->setIcon(icon(icon_, active ? QPalette::Link : QPalette::PlaceholderText));
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(picture_), static_cast<QWidget*>(text_)}) {
+        style()->unpolish(part);
+        style()->polish(part);
     }
 }
 
-void Seitenknopf::mouseReleaseEvent(QMouseEvent* ereignis)
+void PageButton::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (ereignis->button() == Qt::LeftButton && rect().contains(ereignis->position().toPoint()))
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         text_->click();
 }
 

@@ -11,23 +11,23 @@ class QToolButton;
 namespace quelvarn {
 
 // The way to a page: a picture and a label that act as one.
-class Seitenknopf : public QFrame
+class PageButton : public QFrame
 {
     Q_OBJECT
 
 public:
     // The names end in `name`: "ImgStart" and "LblStart" for "Start".
-    Seitenknopf(std::string_view name, const QString& text, std::string_view bild);
+    PageButton(std::string_view name, const QString& text, std::string_view picture);
 
-    void zeigeAktiv(bool aktiv);
-    std::function<void()> gewaehlt;
+    void showActive(bool active);
+    std::function<void()> chosen;
 
 protected:
-    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    std::string symbol_;
-    QToolButton* bild_;
+    std::string icon_;
+    QToolButton* picture_;
     QToolButton* text_;
 };
 

@@ -12,178 +12,179 @@ namespace quelvarn {
 
 namespace {
 
-constexpr double SCHRITT = 1.25;         // Of the zoom
-constexpr double GROESSTER_MASSSTAB = 8; // Pixels of the screen for one of the picture
-constexpr double RASTE = 120;            // Of the wheel
-constexpr double PFEILSCHRITT = 0.1;     // Of the place
-constexpr double RAND = 8;               // Around a picture that fits
-constexpr double OHNE_GLAETTUNG_AB = 3;  // From here on the dots themselves are wanted.
+constexpr double STEP = 1.25;           // Of the zoom
+constexpr double GREATEST_SCALE = 8;    // Pixels of the screen for one of the picture
+constexpr double NOTCH = 120;           // Of the wheel
+constexpr double ARROW_STEP = 0.1;      // Of the place
+constexpr double MARGIN = 8;            // Around a picture that fits
+constexpr double NO_SMOOTHING_FROM = 3; // From here on the dots themselves are wanted.
 
 } // namespace
 
-Bildflaeche::Bildflaeche()
+PictureArea::PictureArea()
 {
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(80, 80);
 }
 
-void Bildflaeche::zeige(Bildseite seite)
+void PictureArea::display(PicturePage page)
 {
-    seite_ = std::move(seite);
+    page_ = std::move(page);
     text_.clear();
-    passeEin();
+    fit();
     setCursor(Qt::OpenHandCursor);
 }
 
-void Bildflaeche::zeigeText(const QString& text)
+void PictureArea::showText(const QString& text)
 {
-    seite_ = {};
+    page_ = {};
     text_ = text;
     unsetCursor();
     update();
 }
 
-double Bildflaeche::passenderMassstab() const
+double PictureArea::fittingScale() const
 {
-    const double breit = (width() - 2 * RAND) / std::max(1.0, seite_.masse.width());
-    const double hoch = (height() - 2 * RAND) / std::max(1.0, seite_.masse.height());
-    return std::clamp(std::min(breit, hoch), 1e-4, 1.0);
+    const double wide = (width() - 2 * MARGIN) / std::max(1.0, page_.sizes.width());
+    const double high = (height() - 2 * MARGIN) / std::max(1.0, page_.sizes.height());
+    return std::clamp(std::min(wide, high), 1e-4, 1.0);
 }
 
-void Bildflaeche::passeEin()
+void PictureArea::fit()
 {
-    eingepasst_ = true;
-    massstab_ = passenderMassstab();
-    halteImRahmen();
+    fitted_ = true;
+    scale_ = fittingScale();
+    holdInFrame();
 }
 
-void Bildflaeche::zoome(double faktor)
+void PictureArea::zoom(double factor)
 {
-    zoomeUm(QPointF(width() / 2.0, height() / 2.0), faktor);
+    zoomBy(QPointF(width() / 2.0, height() / 2.0), factor);
 }
 
-void Bildflaeche::zoomeUm(const QPointF& stelle, double faktor)
+void PictureArea::zoomBy(const QPointF& position, double factor)
 {
-    if (seite_.stufen.empty())
+    if (page_.levels.empty())
         return;
-    const double kleinster = passenderMassstab();
-    const double neu = std::clamp(massstab_ * faktor, kleinster, std::max(kleinster, GROESSTER_MASSSTAB));
-    ecke_ = stelle - (stelle - ecke_) * (neu / massstab_);
-    massstab_ = neu;
-    eingepasst_ = neu <= kleinster;
-    halteImRahmen();
+    const double smallest = fittingScale();
+    const double fresh = std::clamp(scale_ * factor, smallest, std::max(smallest, GREATEST_SCALE));
+    corner_ = position - (position - corner_) * (fresh / scale_);
+    scale_ = fresh;
+    fitted_ = fresh <= smallest;
+    holdInFrame();
 }
 
-void Bildflaeche::verschiebe(const QPointF& um)
+void PictureArea::move(const QPointF& around)
 {
-    ecke_ += um;
-    halteImRahmen();
+    corner_ += around;
+    holdInFrame();
 }
 
 // A picture smaller than the place stands in its middle; a larger one always fills it.
-void Bildflaeche::halteImRahmen()
+void PictureArea::holdInFrame()
 {
-    const auto halte = [](double lage, double bild, double platz) {
-        return bild <= platz ? (platz - bild) / 2 : std::clamp(lage, platz - bild, 0.0);
+    const auto hold = [](double position, double picture, double place) {
+        return picture <= place ? (place - picture) / 2 : std::clamp(position, place - picture, 0.0);
     };
-    ecke_ = {halte(ecke_.x(), seite_.masse.width() * massstab_, width()),
-             halte(ecke_.y(), seite_.masse.height() * massstab_, height())};
+    corner_ = {hold(corner_.x(), page_.sizes.width() * scale_, width()),
+               hold(corner_.y(), page_.sizes.height() * scale_, height())};
     update();
 }
 
 // The smallest level that still has a dot for each pixel of the screen.
-std::size_t Bildflaeche::stufe() const
+std::size_t PictureArea::level() const
 {
-    const double dichte = massstab_ * devicePixelRatioF() * seite_.masse.width() / seite_.stufen.front().width();
-    const double wunsch = std::floor(std::log2(1 / dichte));
-    return static_cast<std::size_t>(std::clamp(wunsch, 0.0, static_cast<double>(seite_.stufen.size() - 1)));
+    const double density = scale_ * devicePixelRatioF() * page_.sizes.width() / page_.levels.front().width();
+    const double wish = std::floor(std::log2(1 / density));
+    return static_cast<std::size_t>(std::clamp(wish, 0.0, static_cast<double>(page_.levels.size() - 1)));
 }
 
-void Bildflaeche::paintEvent(QPaintEvent* /*ereignis*/)
+void PictureArea::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), farbsatz().streifen);
-    if (!seite_.stufen.empty())
-        return zeichneBild(painter);
-    painter.setPen(farbsatz().gedaempft);
+    painter.fillRect(rect(), colourSet().strip);
+    if (!page_.levels.empty())
+        return drawPicture(painter);
+    painter.setPen(colourSet().muted);
     painter.drawText(rect().adjusted(12, 12, -12, -12), Qt::AlignCenter | Qt::TextWordWrap, text_);
 }
 
 // Only the part that is seen is turned into something that can be drawn.
-void Bildflaeche::zeichneBild(QPainter& painter) const
+void PictureArea::drawPicture(QPainter& painter) const
 {
-    const QImage& bild = seite_.stufen[stufe()];
-    const double quer = seite_.masse.width() * massstab_ / bild.width(); // Pixels of the screen for one of the level
-    const double hoch = seite_.masse.height() * massstab_ / bild.height();
-    const QRectF sichtbar((0 - ecke_.x()) / quer, (0 - ecke_.y()) / hoch, width() / quer, height() / hoch);
-    const QRect ausschnitt = sichtbar.toAlignedRect().adjusted(-1, -1, 1, 1).intersected(bild.rect());
-    if (ausschnitt.isEmpty())
+    const QImage& picture = page_.levels[level()];
+    const double landscape =
+        page_.sizes.width() * scale_ / picture.width(); // Pixels of the screen for one of the level
+    const double high = page_.sizes.height() * scale_ / picture.height();
+    const QRectF visible((0 - corner_.x()) / landscape, (0 - corner_.y()) / high, width() / landscape, height() / high);
+    const QRect crop = visible.toAlignedRect().adjusted(-1, -1, 1, 1).intersected(picture.rect());
+    if (crop.isEmpty())
         return;
-    QImage teil = bild.copy(ausschnitt);
-    if (teil.depth() == 1)
-        teil = std::move(teil).convertToFormat(QImage::Format_Grayscale8);
-    const QRectF ziel(ecke_.x() + ausschnitt.x() * quer, ecke_.y() + ausschnitt.y() * hoch, ausschnitt.width() * quer,
-                      ausschnitt.height() * hoch);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, quer * devicePixelRatioF() < OHNE_GLAETTUNG_AB);
-    painter.drawImage(ziel, teil);
+    QImage part = picture.copy(crop);
+    if (part.depth() == 1)
+        part = std::move(part).convertToFormat(QImage::Format_Grayscale8);
+    const QRectF target(corner_.x() + crop.x() * landscape, corner_.y() + crop.y() * high, crop.width() * landscape,
+                        crop.height() * high);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, landscape * devicePixelRatioF() < NO_SMOOTHING_FROM);
+    painter.drawImage(target, part);
 }
 
-void Bildflaeche::resizeEvent(QResizeEvent* ereignis)
+void PictureArea::resizeEvent(QResizeEvent* event)
 {
-    QWidget::resizeEvent(ereignis);
-    if (eingepasst_)
-        passeEin();
+    QWidget::resizeEvent(event);
+    if (fitted_)
+        fit();
     else
-        halteImRahmen();
+        holdInFrame();
 }
 
-void Bildflaeche::wheelEvent(QWheelEvent* ereignis)
+void PictureArea::wheelEvent(QWheelEvent* event)
 {
-    zoomeUm(ereignis->position(), std::pow(SCHRITT, ereignis->angleDelta().y() / RASTE));
-    ereignis->accept();
+    zoomBy(event->position(), std::pow(STEP, event->angleDelta().y() / NOTCH));
+    event->accept();
 }
 
-void Bildflaeche::mousePressEvent(QMouseEvent* ereignis)
+void PictureArea::mousePressEvent(QMouseEvent* event)
 {
-    if (ereignis->button() != Qt::LeftButton || seite_.stufen.empty())
-        return QWidget::mousePressEvent(ereignis);
-    gezogenAb_ = ereignis->position();
+    if (event->button() != Qt::LeftButton || page_.levels.empty())
+        return QWidget::mousePressEvent(event);
+    drawnFrom_ = event->position();
     setCursor(Qt::ClosedHandCursor);
 }
 
-void Bildflaeche::mouseMoveEvent(QMouseEvent* ereignis)
+void PictureArea::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!ereignis->buttons().testFlag(Qt::LeftButton))
-        return QWidget::mouseMoveEvent(ereignis);
-    verschiebe(ereignis->position() - gezogenAb_);
-    gezogenAb_ = ereignis->position();
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        return QWidget::mouseMoveEvent(event);
+    move(event->position() - drawnFrom_);
+    drawnFrom_ = event->position();
 }
 
-void Bildflaeche::mouseReleaseEvent(QMouseEvent* ereignis)
+void PictureArea::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (ereignis->button() == Qt::LeftButton && !seite_.stufen.empty())
+    if (event->button() == Qt::LeftButton && !page_.levels.empty())
         setCursor(Qt::OpenHandCursor);
 }
 
-void Bildflaeche::keyPressEvent(QKeyEvent* ereignis)
+void PictureArea::keyPressEvent(QKeyEvent* event)
 {
-    switch (ereignis->key()) {
+    switch (event->key()) {
     case Qt::Key_Plus:
-        return zoome(SCHRITT);
+        return zoom(STEP);
     case Qt::Key_Minus:
-        return zoome(1 / SCHRITT);
+        return zoom(1 / STEP);
     case Qt::Key_0:
-        return passeEin();
+        return fit();
     case Qt::Key_Left:
-        return verschiebe({width() * PFEILSCHRITT, 0});
+        return move({width() * ARROW_STEP, 0});
     case Qt::Key_Right:
-        return verschiebe({-width() * PFEILSCHRITT, 0});
+        return move({-width() * ARROW_STEP, 0});
     case Qt::Key_Up:
-        return verschiebe({0, height() * PFEILSCHRITT});
+        return move({0, height() * ARROW_STEP});
     case Qt::Key_Down:
-        return verschiebe({0, -height() * PFEILSCHRITT});
+        return move({0, -height() * ARROW_STEP});
     default:
-        QWidget::keyPressEvent(ereignis);
+        QWidget::keyPressEvent(event);
     }
 }
 

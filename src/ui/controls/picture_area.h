@@ -7,46 +7,46 @@
 namespace quelvarn {
 
 // A picture on a page: fits into its place until a person zooms with wheel or keys, and is moved by dragging.
-class Bildflaeche : public QWidget
+class PictureArea : public QWidget
 {
     Q_OBJECT
 
 public:
-    Bildflaeche();
+    PictureArea();
 
-    void zeige(Bildseite seite);
+    void display(PicturePage page);
     // No picture, but a word about it.
-    void zeigeText(const QString& text);
-    const Bildseite& seite() const { return seite_; }
+    void showText(const QString& text);
+    const PicturePage& page() const { return page_; }
 
-    void passeEin();
+    void fit();
     // About the middle of the place.
-    void zoome(double faktor);
-    double massstab() const { return massstab_; } // Pixels of the screen for one of the picture.
+    void zoom(double factor);
+    double scale() const { return scale_; } // Pixels of the screen for one of the picture.
 
 protected:
-    void paintEvent(QPaintEvent* ereignis) override;
-    void resizeEvent(QResizeEvent* ereignis) override;
-    void wheelEvent(QWheelEvent* ereignis) override;
-    void mousePressEvent(QMouseEvent* ereignis) override;
-    void mouseMoveEvent(QMouseEvent* ereignis) override;
-    void mouseReleaseEvent(QMouseEvent* ereignis) override;
-    void keyPressEvent(QKeyEvent* ereignis) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void zoomeUm(const QPointF& stelle, double faktor);
-    void verschiebe(const QPointF& um);
-    void halteImRahmen();
-    double passenderMassstab() const;
-    std::size_t stufe() const;
-    void zeichneBild(QPainter& painter) const;
+    void zoomBy(const QPointF& position, double factor);
+    void move(const QPointF& around);
+    void holdInFrame();
+    double fittingScale() const;
+    std::size_t level() const;
+    void drawPicture(QPainter& painter) const;
 
-    Bildseite seite_;
+    PicturePage page_;
     QString text_;
-    bool eingepasst_ = true;
-    double massstab_ = 1;
-    QPointF ecke_; // Where the picture's left upper corner stands.
-    QPointF gezogenAb_;
+    bool fitted_ = true;
+    double scale_ = 1;
+    QPointF corner_; // Where the picture's left upper corner stands.
+    QPointF drawnFrom_;
 };
 
 } // namespace quelvarn

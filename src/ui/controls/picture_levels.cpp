@@ -11,150 +11,150 @@ namespace quelvarn {
 
 namespace {
 
-constexpr qint64 SPEICHER_HOECHSTENS = qint64{1} << 30; // bytes of the picture itself
-constexpr int KLEINSTE_STUFE = 512;                     // Pixels of the longer side; smaller needs no further level.
-constexpr double KLEINSTES_VERHAELTNIS = 0.02;          // Of the resolutions; what lies beyond is no sensible file.
+constexpr qint64 MEMORY_LIMIT = qint64{1} << 30; // bytes of the picture itself
+constexpr int SMALLEST_LEVEL = 512;              // Pixels of the longer side; smaller needs no further level.
+constexpr double SMALLEST_RATIO = 0.02;          // Of the resolutions; what lies beyond is no sensible file.
 
 // The mean of an area, a little darker where something dark is in it: thin lines must not fade away.
-int verdunkelt(int mittel, int dunkelstes)
+int darkened(int medium, int darkest)
 {
-    return (3 * mittel + dunkelstes) / 4;
+    return (3 * medium + darkest) / 4;
 }
 
 // For each byte of a line of bits: how many are set in its four pairs, one in each byte of the number.
-std::array<std::uint32_t, 256> paarsummen()
+std::array<std::uint32_t, 256> pairSums()
 {
-    std::array<std::uint32_t, 256> summen{};
-    for (std::uint32_t byte = 0; byte < summen.size(); ++byte)
-        for (std::uint32_t paar = 0; paar < 4; ++paar) {
-            const std::uint32_t bits = (byte >> (6 - 2 * paar)) & 3U;
-            summen[byte] |= ((bits >> 1U) + (bits & 1U)) << (8 * paar);
+    std::array<std::uint32_t, 256> sums{};
+    for (std::uint32_t byte = 0; byte < sums.size(); ++byte)
+        for (std::uint32_t pair = 0; pair < 4; ++pair) {
+            const std::uint32_t bits = (byte >> (6 - 2 * pair)) & 3U;
+            sums[byte] |= ((bits >> 1U) + (bits & 1U)) << (8 * pair);
         }
-    return summen;
+    return sums;
 }
 
 // The grey of 0 to 4 set bits in a square of four.
-std::array<uchar, 5> grautoene(const QImage& bits)
+std::array<uchar, 5> greys(const QImage& bits)
 {
-    const int aus = qGray(bits.color(0));
-    const int an = qGray(bits.color(1));
-    std::array<uchar, 5> toene{};
-    for (int gesetzt = 0; gesetzt <= 4; ++gesetzt) {
-        const int dunkelstes = gesetzt == 0 ? aus : gesetzt == 4 ? an : std::min(an, aus);
-        toene[static_cast<std::size_t>(gesetzt)] =
-            static_cast<uchar>(verdunkelt((aus * (4 - gesetzt) + an * gesetzt) / 4, dunkelstes));
+    const int out = qGray(bits.color(0));
+    const int on = qGray(bits.color(1));
+    std::array<uchar, 5> tones{};
+    for (int set = 0; set <= 4; ++set) {
+        const int darkest = set == 0 ? out : set == 4 ? on : std::min(on, out);
+        tones[static_cast<std::size_t>(set)] = static_cast<uchar>(darkened((out * (4 - set) + on * set) / 4, darkest));
     }
-    return toene;
+    return tones;
 }
 
-QSize halb(const QSize& groesse)
+QSize half(const QSize& size)
 {
-    return {std::max(1, groesse.width() / 2), std::max(1, groesse.height() / 2)};
+    return {std::max(1, size.width() / 2), std::max(1, size.height() / 2)};
 }
 
-QImage halbiereBits(const QImage& bits)
+QImage halveBits(const QImage& bits)
 {
-    static const std::array<std::uint32_t, 256> SUMMEN = paarsummen();
-    const std::array<uchar, 5> toene = grautoene(bits);
-    QImage grau(halb(bits.size()), QImage::Format_Grayscale8);
-    for (int y = 0; y < grau.height(); ++y) {
-        const uchar* oben = bits.constScanLine(2 * y);
-        const uchar* unten = bits.constScanLine(std::min(2 * y + 1, bits.height() - 1));
-        uchar* ziel = grau.scanLine(y);
-        for (int x = 0; x < grau.width(); ++x) {
+    static const std::array<std::uint32_t, 256> SUMS = pairSums();
+    const std::array<uchar, 5> tones = greys(bits);
+    QImage grey(half(bits.size()), QImage::Format_Grayscale8);
+    for (int y = 0; y < grey.height(); ++y) {
+        const uchar* above = bits.constScanLine(2 * y);
+        const uchar* below = bits.constScanLine(std::min(2 * y + 1, bits.height() - 1));
+        uchar* target = grey.scanLine(y);
+        for (int x = 0; x < grey.width(); ++x) {
             const int byte = x / 4;
-            const std::uint32_t summe = SUMMEN[oben[byte]] + SUMMEN[unten[byte]];
-            ziel[x] = toene[(summe >> (8 * (x % 4))) & 0xFFU];
+            const std::uint32_t sum = SUMS[above[byte]] + SUMS[below[byte]];
+            target[x] = tones[(sum >> (8 * (x % 4))) & 0xFFU];
         }
     }
-    return grau;
+    return grey;
 }
 
 // Pixels of one byte, or of four with a colour in each.
-QImage halbiereBytes(const QImage& bild)
+QImage halveBytes(const QImage& picture)
 {
-    const int kanaele = bild.depth() / 8;
-    QImage ergebnis(halb(bild.size()), bild.format());
-    const int naechster = bild.width() > 1 ? kanaele : 0;
-    for (int y = 0; y < ergebnis.height(); ++y) {
-        const uchar* oben = bild.constScanLine(2 * y);
-        const uchar* unten = bild.constScanLine(std::min(2 * y + 1, bild.height() - 1));
-        uchar* ziel = ergebnis.scanLine(y);
-        for (int i = 0; i < ergebnis.width() * kanaele; ++i) {
-            const int k = 2 * (i / kanaele) * kanaele + i % kanaele;
-            const std::array vier{oben[k], oben[k + naechster], unten[k], unten[k + naechster]};
-            const int mittel = (vier[0] + vier[1] + vier[2] + vier[3]) / 4;
-            ziel[i] = static_cast<uchar>(verdunkelt(mittel, *std::min_element(vier.begin(), vier.end())));
+    const int channels = picture.depth() / 8;
+    QImage result(half(picture.size()), picture.format());
+    const int next = picture.width() > 1 ? channels : 0;
+    for (int y = 0; y < result.height(); ++y) {
+        const uchar* above = picture.constScanLine(2 * y);
+        const uchar* below = picture.constScanLine(std::min(2 * y + 1, picture.height() - 1));
+        uchar* target = result.scanLine(y);
+        for (int i = 0; i < result.width() * channels; ++i) {
+            const int k = 2 * (i / channels) * channels + i % channels;
+            const std::array four{above[k], above[k + next], below[k], below[k + next]};
+            const int medium = (four[0] + four[1] + four[2] + four[3]) / 4;
+            target[i] = static_cast<uchar>(darkened(medium, *std::min_element(four.begin(), four.end())));
         }
     }
-    return ergebnis;
+    return result;
 }
 
-QImage einfachesFormat(QImage bild)
+QImage plainFormat(QImage picture)
 {
-    if (bild.depth() == 1)
-        return std::move(bild).convertToFormat(QImage::Format_Mono);
-    return std::move(bild).convertToFormat(bild.isGrayscale() ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
+    if (picture.depth() == 1)
+        return std::move(picture).convertToFormat(QImage::Format_Mono);
+    return std::move(picture).convertToFormat(picture.isGrayscale() ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
 }
 
 // Fax machines scan with different resolutions across and down.
-QSizeF quadratisch(const QImage& bild, bool gedreht)
+QSizeF square(const QImage& picture, bool rotated)
 {
-    double quer = bild.dotsPerMeterX();
-    double hoch = bild.dotsPerMeterY();
-    if (gedreht) // The picture was turned, its resolutions were not.
-        std::swap(quer, hoch);
-    const bool brauchbar =
-        quer > 0 && hoch > 0 && quer / hoch > KLEINSTES_VERHAELTNIS && hoch / quer > KLEINSTES_VERHAELTNIS;
-    if (!brauchbar)
-        return bild.size();
-    const double feinste = std::max(quer, hoch);
-    return {bild.width() * feinste / quer, bild.height() * feinste / hoch};
+    double landscape = picture.dotsPerMeterX();
+    double high = picture.dotsPerMeterY();
+    if (rotated) // The picture was turned, its resolutions were not.
+        std::swap(landscape, high);
+    const bool usable =
+        landscape > 0 && high > 0 && landscape / high > SMALLEST_RATIO && high / landscape > SMALLEST_RATIO;
+    if (!usable)
+        return picture.size();
+    const double finest = std::max(landscape, high);
+    return {picture.width() * finest / landscape, picture.height() * finest / high};
 }
 
-bool zuGross(const QImageReader& leser)
+bool tooLarge(const QImageReader& reader)
 {
-    const QSize groesse = leser.size();
-    const int bits =
-        leser.imageFormat() == QImage::Format_Invalid ? 32 : QImage::toPixelFormat(leser.imageFormat()).bitsPerPixel();
-    return qint64{groesse.width()} * groesse.height() / 8 * bits > SPEICHER_HOECHSTENS;
+    const QSize size = reader.size();
+    const int bits = reader.imageFormat() == QImage::Format_Invalid
+                         ? 32
+                         : QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel();
+    return qint64{size.width()} * size.height() / 8 * bits > MEMORY_LIMIT;
 }
 
-Bildseite lade(const QString& datei, int nummer)
+PicturePage load(const QString& file, int number)
 {
-    QImageReader::setAllocationLimit(0); // It counts four bytes for each dot of a scan; zuGross knows better.
-    QImageReader leser(datei);
-    leser.setDecideFormatFromContent(true);
-    leser.setAutoTransform(true);
-    Bildseite seite{nummer, std::max(leser.imageCount(), 1), {}, {}};
-    if (nummer > 0 && !leser.jumpToImage(nummer))
-        return seite;
-    if (zuGross(leser))
-        return seite;
-    const bool gedreht = leser.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    QImage bild = leser.read();
-    if (bild.isNull())
-        return seite;
-    seite.masse = quadratisch(bild, gedreht);
-    seite.stufen.push_back(einfachesFormat(std::move(bild)));
-    while (std::max(seite.stufen.back().width(), seite.stufen.back().height()) > KLEINSTE_STUFE) {
-        const QImage& letzte = seite.stufen.back();
-        QImage kleiner = letzte.depth() == 1 ? halbiereBits(letzte) : halbiereBytes(letzte);
-        if (kleiner.isNull())
-            return {nummer, seite.anzahl, {}, {}};
-        seite.stufen.push_back(std::move(kleiner));
+    QImageReader::setAllocationLimit(0); // It counts four bytes for each dot of a scan; tooLarge knows better.
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    PicturePage page{number, std::max(reader.imageCount(), 1), {}, {}};
+    if (number > 0 && !reader.jumpToImage(number))
+        return page;
+    if (tooLarge(reader))
+        return page;
+    const bool rotated = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    QImage picture = reader.read();
+    if (picture.isNull())
+        return page;
+    page.sizes = square(picture, rotated);
+    page.levels.push_back(plainFormat(std::move(picture)));
+    while (std::max(page.levels.back().width(), page.levels.back().height()) > SMALLEST_LEVEL) {
+        const QImage& last = page.levels.back();
+        QImage less = last.depth() == 1 ? halveBits(last) : halveBytes(last);
+        if (less.isNull())
+            return {number, page.count, {}, {}};
+        page.levels.push_back(std::move(less));
     }
-    return seite;
+    return page;
 }
 
 } // namespace
 
-Bildseite ladeBildseite(const QString& datei, int nummer)
+PicturePage loadPicturePage(const QString& file, int number)
 {
     try {
-        return lade(datei, nummer);
+        return load(file, number);
     } catch (const std::bad_alloc&) {
-        return {nummer, 1, {}, {}};
+        return {number, 1, {}, {}};
     }
 }
 

@@ -9,16 +9,16 @@
 namespace quelvarn {
 
 // One page of a picture file, ready to be drawn at any zoom.
-struct Bildseite
+struct PicturePage
 {
-    int nummer = 0; // From 0
-    int anzahl = 0; // Pages of the file
+    int number = 0; // From 0
+    int count = 0;  // Pages of the file
     // The picture itself, then each in half the size of the one before, in grey or colour. Empty: it could not be read.
-    std::vector<QImage> stufen;
-    QSizeF masse; // The picture's size when its pixels are square.
+    std::vector<QImage> levels;
+    QSizeF sizes; // The picture's size when its pixels are square.
 };
 
 // Takes long for a large scan: for a worker thread. Whatever is wrong with the file, the answer is an empty page.
-Bildseite ladeBildseite(const QString& datei, int nummer);
+PicturePage loadPicturePage(const QString& file, int number);
 
 } // namespace quelvarn

@@ -14,58 +14,58 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int TEILSTRICHE = 1000;
+constexpr int TICKS = 1000;
 
-std::vector<Fortschrittsfeld*>& alleFelder()
+std::vector<ProgressField*>& allFields()
 {
-    static std::vector<Fortschrittsfeld*> felder;
-    return felder;
+    static std::vector<ProgressField*> fields;
+    return fields;
 }
 
 } // namespace
 
-Fortschrittsfeld::Fortschrittsfeld(const char* balken, const char* text, const char* abbrechen)
-    : text_(beschriftung({}, Rolle::Beschriftung, QLatin1String(text))), balken_(new QProgressBar),
-      abbrechen_(new QPushButton(QStringLiteral("Abbrechen")))
+ProgressField::ProgressField(const char* bar, const char* text, const char* cancel)
+    : text_(caption({}, TextRole::Caption, QLatin1String(text))), bar_(new QProgressBar),
+      cancel_(new QPushButton(QStringLiteral("Abbrechen")))
 {
-    balken_->setObjectName(QLatin1String(balken));
-    balken_->setRange(0, TEILSTRICHE);
-    balken_->setTextVisible(false);
-    balken_->setMinimumWidth(120);
-    abbrechen_->setObjectName(QLatin1String(abbrechen));
-    abbrechen_->setFocusPolicy(Qt::NoFocus); // Esc does the same, and the focus stays where it was.
-    auto* reihe = new QHBoxLayout(this);
-    reihe->setContentsMargins({});
-    reihe->addWidget(text_);
-    reihe->addWidget(balken_, 1);
-    reihe->addWidget(abbrechen_);
+    bar_->setObjectName(QLatin1String(bar));
+    bar_->setRange(0, TICKS);
+    bar_->setTextVisible(false);
+    bar_->setMinimumWidth(120);
+    cancel_->setObjectName(QLatin1String(cancel));
+    cancel_->setFocusPolicy(Qt::NoFocus); // Esc does the same, and the focus stays where it was.
+    auto* layoutRow = new QHBoxLayout(this);
+    layoutRow->setContentsMargins({});
+    layoutRow->addWidget(text_);
+    layoutRow->addWidget(bar_, 1);
+    layoutRow->addWidget(cancel_);
     hide();
-    alleFelder().push_back(this);
+    allFields().push_back(this);
 }
 
-Fortschrittsfeld::~Fortschrittsfeld()
+ProgressField::~ProgressField()
 {
-    std::erase(alleFelder(), this);
+    std::erase(allFields(), this);
 }
 
-Fortschrittsfeld* Fortschrittsfeld::geliehenes()
+ProgressField* ProgressField::borrowed()
 {
-    const auto& felder = alleFelder();
-    const auto feld = std::find_if(felder.begin(), felder.end(), [](const Fortschrittsfeld* kandidat) {
-        return kandidat->verliehen_ && kandidat->parentWidget() != nullptr && kandidat->parentWidget()->isVisible();
+    const auto& fields = allFields();
+    const auto field = std::find_if(fields.begin(), fields.end(), [](const ProgressField* candidate) {
+        return candidate->lent_ && candidate->parentWidget() != nullptr && candidate->parentWidget()->isVisible();
     });
-    return feld != felder.end() ? *feld : nullptr;
+    return field != fields.end() ? *field : nullptr;
 }
 
-void Fortschrittsfeld::setzeText(const QString& text)
+void ProgressField::setText(const QString& text)
 {
     text_->setText(text);
 }
 
-void Fortschrittsfeld::zeigeStand(std::size_t getan, std::size_t gesamt)
+void ProgressField::showStand(std::size_t done, std::size_t total)
 {
-    const double anteil = gesamt > 0 ? static_cast<double>(std::min(getan, gesamt)) / static_cast<double>(gesamt) : 0;
-    balken_->setValue(static_cast<int>(anteil * TEILSTRICHE));
+    const double share = total > 0 ? static_cast<double>(std::min(done, total)) / static_cast<double>(total) : 0;
+    bar_->setValue(static_cast<int>(share * TICKS));
 }
 
 } // namespace quelvarn

@@ -12,27 +12,27 @@ namespace quelvarn {
 
 // What a piece of work is, how far it has come, and a button that gives it up. Hidden while nothing runs. A page that
 // has such a field lends it to the work started there.
-class Fortschrittsfeld : public QWidget
+class ProgressField : public QWidget
 {
     Q_OBJECT
 
 public:
-    Fortschrittsfeld(const char* balken, const char* text, const char* abbrechen);
-    ~Fortschrittsfeld() override;
+    ProgressField(const char* bar, const char* text, const char* cancel);
+    ~ProgressField() override;
 
     // The field lent by the page in front, nullptr for none.
-    static Fortschrittsfeld* geliehenes();
-    void setzeVerliehen(bool verliehen) { verliehen_ = verliehen; }
+    static ProgressField* borrowed();
+    void setLent(bool lent) { lent_ = lent; }
 
-    void setzeText(const QString& text);
-    void zeigeStand(std::size_t getan, std::size_t gesamt);
-    QAbstractButton& abbrechen() { return *abbrechen_; }
+    void setText(const QString& text);
+    void showStand(std::size_t done, std::size_t total);
+    QAbstractButton& cancel() { return *cancel_; }
 
 private:
     QLabel* text_;
-    QProgressBar* balken_;
-    QAbstractButton* abbrechen_;
-    bool verliehen_ = false;
+    QProgressBar* bar_;
+    QAbstractButton* cancel_;
+    bool lent_ = false;
 };
 
 } // namespace quelvarn

@@ -6,28 +6,28 @@
 
 namespace quelvarn {
 
-void Statuspunkt::setzeFarbe(unsigned rgb)
+void StatusDot::setColour(unsigned rgb)
 {
     rgb_ = rgb;
     update();
 }
 
-void Statuspunkt::paintEvent(QPaintEvent* /*ereignis*/)
+void StatusDot::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(statusPunkt(rgb_));
+    painter.setBrush(statusDot(rgb_));
     painter.drawEllipse(QRectF(1, (height() - 8) / 2.0, 8, 8));
 }
 
-void Statustext::setzeFarbe(unsigned rgb)
+void StatusCaption::setColour(unsigned rgb)
 {
     rgb_ = rgb;
     update();
 }
 
-void Statustext::paintEvent(QPaintEvent* /*ereignis*/)
+void StatusCaption::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setPen(statusText(rgb_));

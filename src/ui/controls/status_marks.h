@@ -5,35 +5,35 @@
 namespace quelvarn {
 
 // A filled dot in the colour of a document's status.
-class Statuspunkt : public QWidget
+class StatusDot : public QWidget
 {
     Q_OBJECT
 
 public:
     using QWidget::QWidget;
 
-    void setzeFarbe(unsigned rgb);
+    void setColour(unsigned rgb);
     QSize sizeHint() const override { return {10, 10}; }
 
 protected:
-    void paintEvent(QPaintEvent* ereignis) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     unsigned rgb_ = 0;
 };
 
 // A text in the colour of a document's status, as readable as the appearance of the moment needs it.
-class Statustext : public KurzLabel
+class StatusCaption : public ShortLabel
 {
     Q_OBJECT
 
 public:
-    using KurzLabel::KurzLabel;
+    using ShortLabel::ShortLabel;
 
-    void setzeFarbe(unsigned rgb);
+    void setColour(unsigned rgb);
 
 protected:
-    void paintEvent(QPaintEvent* ereignis) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     unsigned rgb_ = 0;

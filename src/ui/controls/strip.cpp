@@ -6,36 +6,36 @@
 
 namespace quelvarn {
 
-Streifen::Streifen(Art art, const char* name, QWidget* eltern) : QFrame(eltern), reihe_(new QHBoxLayout(this))
+Strip::Strip(Kind kind, const char* name, QWidget* parent) : QFrame(parent), layoutRow_(new QHBoxLayout(this))
 {
     setObjectName(QLatin1String(name));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setProperty("lage", art == Art::Statuszeile ? QStringLiteral("unten") : QStringLiteral("oben"));
-    setProperty("art", art == Art::Leiste ? QStringLiteral("leiste") : QStringLiteral("zeile"));
-    setMinimumHeight(art == Art::Leiste ? 33 : art == Art::Kopfzeile ? 28 : 25);
-    reihe_->setContentsMargins(art == Art::Leiste ? 4 : 10, 0, art == Art::Leiste ? 4 : 10, 0);
-    reihe_->setSpacing(art == Art::Leiste ? 2 : 8);
+    setProperty("lage", kind == Kind::StatusRow ? QStringLiteral("unten") : QStringLiteral("oben"));
+    setProperty("art", kind == Kind::Bar ? QStringLiteral("leiste") : QStringLiteral("zeile"));
+    setMinimumHeight(kind == Kind::Bar ? 33 : kind == Kind::HeadingRow ? 28 : 25);
+    layoutRow_->setContentsMargins(kind == Kind::Bar ? 4 : 10, 0, kind == Kind::Bar ? 4 : 10, 0);
+    layoutRow_->setSpacing(kind == Kind::Bar ? 2 : 8);
 }
 
-QLabel* beschriftung(const QString& text, Rolle rolle, const QString& name)
+QLabel* caption(const QString& text, TextRole textRole, const QString& name)
 {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
     label->setObjectName(name);
-    setzeRolle(*label, rolle);
+    setRole(*label, textRole);
     return label;
 }
 
-void setzeRolle(QLabel& label, Rolle rolle)
+void setRole(QLabel& label, TextRole textRole)
 {
-    switch (rolle) {
-    case Rolle::Titel:
+    switch (textRole) {
+    case TextRole::Titel:
         return void(label.setProperty("rolle", QStringLiteral("titel")));
-    case Rolle::Kopf:
+    case TextRole::Heading:
         return void(label.setProperty("rolle", QStringLiteral("kopf")));
-    case Rolle::Beschriftung:
+    case TextRole::Caption:
         return void(label.setProperty("rolle", QStringLiteral("beschriftung")));
-    case Rolle::Klein:
+    case TextRole::Small:
         return void(label.setProperty("rolle", QStringLiteral("klein")));
     }
 }
@@ -50,11 +50,11 @@ void showNote(QLabel& label, bool note)
     label.update();
 }
 
-QFrame* trennlinie()
+QFrame* separatorLine()
 {
-    auto* linie = new QFrame;
-    linie->setProperty("rolle", QStringLiteral("linie"));
-    return linie;
+    auto* line = new QFrame;
+    line->setProperty("rolle", QStringLiteral("linie"));
+    return line;
 }
 
 } // namespace quelvarn

@@ -8,27 +8,27 @@ class QLabel;
 namespace quelvarn {
 
 // A horizontal band with a line at its edge: head line, tool bar or status bar.
-class Streifen : public QFrame
+class Strip : public QFrame
 {
     Q_OBJECT
 
 public:
-    enum class Art { Kopfzeile, Leiste, Statuszeile };
+    enum class Kind { HeadingRow, Bar, StatusRow };
 
-    Streifen(Art art, const char* name, QWidget* eltern = nullptr);
+    Strip(Kind kind, const char* name, QWidget* parent = nullptr);
 
-    QHBoxLayout& reihe() { return *reihe_; }
+    QHBoxLayout& layoutRow() { return *layoutRow_; }
 
 private:
-    QHBoxLayout* reihe_;
+    QHBoxLayout* layoutRow_;
 };
 
 // What a label is for; the style sheet knows the look of each.
-enum class Rolle { Titel, Kopf, Beschriftung, Klein };
-QLabel* beschriftung(const QString& text, Rolle rolle, const QString& name = {});
-void setzeRolle(QLabel& label, Rolle rolle);
+enum class TextRole { Titel, Heading, Caption, Small };
+QLabel* caption(const QString& text, TextRole textRole, const QString& name = {});
+void setRole(QLabel& label, TextRole textRole);
 // What the label says now is out of the ordinary: it stands on the ground of notes.
 void showNote(QLabel& label, bool note);
-QFrame* trennlinie();
+QFrame* separatorLine();
 
 } // namespace quelvarn

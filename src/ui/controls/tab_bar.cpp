@@ -10,58 +10,58 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int RAND = 12;
-constexpr int MINDESTBREITE = 44;
+constexpr int MARGIN = 12;
+constexpr int MINIMUM_WIDTH = 44;
 
 // The width at which cutting every wider one makes all of them fit.
-int gemeinsameGrenze(std::vector<int> breiten, int platz)
+int commonLimit(std::vector<int> widths, int place)
 {
-    std::sort(breiten.begin(), breiten.end());
-    for (std::size_t i = 0; i < breiten.size(); ++i) {
-        const int anteil = platz / static_cast<int>(breiten.size() - i);
-        if (breiten[i] > anteil)
-            return std::max(anteil, MINDESTBREITE);
-        platz -= breiten[i];
+    std::sort(widths.begin(), widths.end());
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const int share = place / static_cast<int>(widths.size() - i);
+        if (widths[i] > share)
+            return std::max(share, MINIMUM_WIDTH);
+        place -= widths[i];
     }
-    return breiten.empty() ? 0 : breiten.back();
+    return widths.empty() ? 0 : widths.back();
 }
 
 } // namespace
 
-Reiterleiste::Reiterleiste(int nachgiebigAb, QWidget* eltern) : QTabBar(eltern), nachgiebigAb_(nachgiebigAb) {}
+TabBar::TabBar(int yieldingFrom, QWidget* parent) : QTabBar(parent), yieldingFrom_(yieldingFrom) {}
 
-QSize Reiterleiste::minimumSizeHint() const
+QSize TabBar::minimumSizeHint() const
 {
-    return {MINDESTBREITE * count(), QTabBar::minimumSizeHint().height()};
+    return {MINIMUM_WIDTH * count(), QTabBar::minimumSizeHint().height()};
 }
 
-int Reiterleiste::wunschbreite(int index) const
+int TabBar::wishedWidth(int index) const
 {
     const QString shown = tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"));
-    return fontMetrics().horizontalAdvance(shown) + RAND;
+    return fontMetrics().horizontalAdvance(shown) + MARGIN;
 }
 
-QSize Reiterleiste::tabSizeHint(int index) const
+QSize TabBar::tabSizeHint(int index) const
 {
-    return {std::min(wunschbreite(index), hoechstbreite(index)), QTabBar::tabSizeHint(index).height()};
+    return {std::min(wishedWidth(index), greatestWidth(index)), QTabBar::tabSizeHint(index).height()};
 }
 
-int Reiterleiste::hoechstbreite(int index) const
+int TabBar::greatestWidth(int index) const
 {
     std::vector<int> fest;
-    std::vector<int> nachgiebig;
+    std::vector<int> yielding;
     for (int i = 0; i < count(); ++i)
-        (i < nachgiebigAb_ ? fest : nachgiebig).push_back(wunschbreite(i));
-    const int platz = parentWidget() != nullptr ? parentWidget()->width() : width();
-    if (index < nachgiebigAb_)
-        return gemeinsameGrenze(fest, platz - MINDESTBREITE * static_cast<int>(nachgiebig.size()));
-    return gemeinsameGrenze(nachgiebig, platz - std::accumulate(fest.begin(), fest.end(), 0));
+        (i < yieldingFrom_ ? fest : yielding).push_back(wishedWidth(i));
+    const int place = parentWidget() != nullptr ? parentWidget()->width() : width();
+    if (index < yieldingFrom_)
+        return commonLimit(fest, place - MINIMUM_WIDTH * static_cast<int>(yielding.size()));
+    return commonLimit(yielding, place - std::accumulate(fest.begin(), fest.end(), 0));
 }
 
-void Reiterleiste::resizeEvent(QResizeEvent* ereignis)
+void TabBar::resizeEvent(QResizeEvent* event)
 {
-    QTabBar::resizeEvent(ereignis);
-    if (ereignis->size().width() != ereignis->oldSize().width())
+    QTabBar::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
         setIconSize(iconSize()); // Measures the tabs anew.
 }
 

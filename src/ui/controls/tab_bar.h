@@ -7,37 +7,37 @@ namespace quelvarn {
 
 // Tabs that all stay in sight: where they need more room than there is, the yielding ones are
 // shortened first, the widest of them before the others.
-class Reiterleiste : public QTabBar
+class TabBar : public QTabBar
 {
     Q_OBJECT
 
 public:
     // Tabs from this one on yield.
-    explicit Reiterleiste(int nachgiebigAb, QWidget* eltern = nullptr);
+    explicit TabBar(int yieldingFrom, QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
 
 protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
-    void resizeEvent(QResizeEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int wunschbreite(int index) const;
-    int hoechstbreite(int index) const;
+    int wishedWidth(int index) const;
+    int greatestWidth(int index) const;
 
-    int nachgiebigAb_;
+    int yieldingFrom_;
 };
 
 // A tab control with such a bar.
-class Reiter : public QTabWidget
+class TabWidget : public QTabWidget
 {
     Q_OBJECT
 
 public:
-    explicit Reiter(int nachgiebigAb, QWidget* eltern = nullptr) : QTabWidget(eltern)
+    explicit TabWidget(int yieldingFrom, QWidget* parent = nullptr) : QTabWidget(parent)
     {
-        setTabBar(new Reiterleiste(nachgiebigAb, this));
+        setTabBar(new TabBar(yieldingFrom, this));
     }
 };
 

@@ -19,119 +19,118 @@ namespace quelvarn {
 
 namespace {
 
-constexpr double SCHRITT = 1.25; // Of the zoom
+constexpr double STEP = 1.25; // Of the zoom
 
-QFuture<Bildseite> ladeImHintergrund(const QString& datei, int nummer, std::function<bool()> nochGewuenscht)
+QFuture<PicturePage> loadInBackground(const QString& file, int number, std::function<bool()> stillWanted)
 {
-    auto zusage = std::make_shared<QPromise<Bildseite>>();
-    QFuture<Bildseite> ergebnis = zusage->future();
-    zusage->start();
-    QThreadPool::globalInstance()->start([zusage, datei, nummer, nochGewuenscht = std::move(nochGewuenscht)] {
-        zusage->addResult(nochGewuenscht() ? ladeBildseite(datei, nummer) : Bildseite());
-        zusage->finish();
+    auto promise = std::make_shared<QPromise<PicturePage>>();
+    QFuture<PicturePage> result = promise->future();
+    promise->start();
+    QThreadPool::globalInstance()->start([promise, file, number, stillWanted = std::move(stillWanted)] {
+        promise->addResult(stillWanted() ? loadPicturePage(file, number) : PicturePage());
+        promise->finish();
     });
-    return ergebnis;
+    return result;
 }
 
 } // namespace
 
-TiffAnsicht::TiffAnsicht(const char* name) : flaeche_(new Bildflaeche), LblSeite_(new QLabel)
+TiffView::TiffView(const char* name) : area_(new PictureArea), LblSeite_(new QLabel)
 {
     setObjectName(QLatin1String(name));
-    flaeche_->setObjectName(QLatin1String(name) + QStringLiteral("Flaeche"));
-    leiste_ = neueKnoepfe(name);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(leiste_);
-    aufbau->addWidget(flaeche_, 1);
-    setFocusProxy(flaeche_);
-    connect(&lader_, &QFutureWatcherBase::finished, this, bewacht([this] { geladen(); }));
-    zeige({});
+    area_->setObjectName(QLatin1String(name) + QStringLiteral("Flaeche"));
+    bar_ = newButtons(name);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(bar_);
+    layout->addWidget(area_, 1);
+    setFocusProxy(area_);
+    connect(&loader_, &QFutureWatcherBase::finished, this, guardedSlot([this] { loaded(); }));
+    display({});
 }
 
-TiffAnsicht::~TiffAnsicht()
+TiffView::~TiffView()
 {
-    ++*gewuenscht_;
+    ++*wanted_;
 }
 
-QToolBar* TiffAnsicht::neueKnoepfe(const char* name)
+QToolBar* TiffView::newButtons(const char* name)
 {
-    auto* leiste = neueLeiste(std::string("Tlb") + name, Knopfart::NurSymbol);
-    const auto knopf = [&](const Leistenknopf& beschreibung, std::function<void()> tun) {
-        QAction* aktion = fuegeKnopfHinzu(*leiste, beschreibung);
-        connect(aktion, &QAction::triggered, this, bewacht([tun = std::move(tun)] { tun(); }));
-        return aktion;
+    auto* bar = newBar(std::string("Tlb") + name, ButtonKind::IconOnly);
+    const auto button = [&](const BarButton& description, std::function<void()> act) {
+        QAction* action = addBarButton(*bar, description);
+        connect(action, &QAction::triggered, this, guardedSlot([act = std::move(act)] { act(); }));
+        return action;
     };
-    knopf({"Vergrößern", "Vergrößern", "Vergrößern (+)", "plus"}, [this] { flaeche_->zoome(SCHRITT); });
-    knopf({"Verkleinern", "Verkleinern", "Verkleinern (-)", "minus"}, [this] { flaeche_->zoome(1 / SCHRITT); });
-    knopf({"Einpassen", "Einpassen", "Ganze Seite (0)", "fit"}, [this] { flaeche_->passeEin(); });
-    fuegeDehnerHinzu(*leiste);
-    zurueck_ = knopf({"Seite zurück", "Seite zurück", "Vorige Seite (Bild auf)", "left"}, [this] { blaettere(-1); });
+    button({"Vergrößern", "Vergrößern", "Vergrößern (+)", "plus"}, [this] { area_->zoom(STEP); });
+    button({"Verkleinern", "Verkleinern", "Verkleinern (-)", "minus"}, [this] { area_->zoom(1 / STEP); });
+    button({"Einpassen", "Einpassen", "Ganze Seite (0)", "fit"}, [this] { area_->fit(); });
+    addStretcher(*bar);
+    back_ = button({"Seite zurück", "Seite zurück", "Vorige Seite (Bild auf)", "left"}, [this] { turnPage(-1); });
     LblSeite_->setObjectName(QStringLiteral("LblSeite") + QLatin1String(name));
-    setzeRolle(*LblSeite_, Rolle::Klein);
-    seitenfeld_ = leiste->addWidget(LblSeite_);
-    vor_ = knopf({"Seite vor", "Seite vor", "Nächste Seite (Bild ab)", "right"}, [this] { blaettere(1); });
-    return leiste;
+    setRole(*LblSeite_, TextRole::Small);
+    pageField_ = bar->addWidget(LblSeite_);
+    before_ = button({"Seite vor", "Seite vor", "Nächste Seite (Bild ab)", "right"}, [this] { turnPage(1); });
+    return bar;
 }
 
-void TiffAnsicht::zeige(const QString& datei)
+void TiffView::display(const QString& file)
 {
-    if (datei == datei_ && !datei.isEmpty())
+    if (file == file_ && !file.isEmpty())
         return;
-    datei_ = datei;
-    for (QAction* aktion : {zurueck_, seitenfeld_, vor_})
-        aktion->setVisible(false);
-    leiste_->setEnabled(false);
-    if (!datei.isEmpty())
-        return ladeSeite(0);
-    ++*gewuenscht_;
-    lader_.setFuture({});
-    flaeche_->zeigeText({});
+    file_ = file;
+    for (QAction* action : {back_, pageField_, before_})
+        action->setVisible(false);
+    bar_->setEnabled(false);
+    if (!file.isEmpty())
+        return loadPage(0);
+    ++*wanted_;
+    loader_.setFuture({});
+    area_->showText({});
 }
 
-void TiffAnsicht::ladeSeite(int nummer)
+void TiffView::loadPage(int number)
 {
-    flaeche_->zeigeText(QStringLiteral("Die Datei wird geladen ..."));
-    const int auftrag = ++*gewuenscht_;
-    lader_.setFuture(
-        ladeImHintergrund(datei_, nummer, [auftrag, stand = gewuenscht_] { return stand->load() == auftrag; }));
+    area_->showText(QStringLiteral("Die Datei wird geladen ..."));
+    const int order = ++*wanted_;
+    loader_.setFuture(loadInBackground(file_, number, [order, state = wanted_] { return state->load() == order; }));
 }
 
-void TiffAnsicht::geladen()
+void TiffView::loaded()
 {
-    if (datei_.isEmpty() || lader_.future().resultCount() == 0)
+    if (file_.isEmpty() || loader_.future().resultCount() == 0)
         return;
-    Bildseite seite = lader_.result();
-    lader_.setFuture({}); // It would keep the picture as well.
-    if (seite.stufen.empty()) {
-        zeige({});
-        if (nichtGeladen)
-            nichtGeladen();
+    PicturePage page = loader_.result();
+    loader_.setFuture({}); // It would keep the picture as well.
+    if (page.levels.empty()) {
+        display({});
+        if (notLoaded)
+            notLoaded();
         return;
     }
-    leiste_->setEnabled(true);
-    for (QAction* aktion : {zurueck_, seitenfeld_, vor_})
-        aktion->setVisible(seite.anzahl > 1);
-    zurueck_->setEnabled(seite.nummer > 0);
-    vor_->setEnabled(seite.nummer + 1 < seite.anzahl);
-    LblSeite_->setText(QStringLiteral("Seite %1 von %2").arg(seite.nummer + 1).arg(seite.anzahl));
-    flaeche_->zeige(std::move(seite));
+    bar_->setEnabled(true);
+    for (QAction* action : {back_, pageField_, before_})
+        action->setVisible(page.count > 1);
+    back_->setEnabled(page.number > 0);
+    before_->setEnabled(page.number + 1 < page.count);
+    LblSeite_->setText(QStringLiteral("Seite %1 von %2").arg(page.number + 1).arg(page.count));
+    area_->display(std::move(page));
 }
 
-void TiffAnsicht::blaettere(int um)
+void TiffView::turnPage(int around)
 {
-    const Bildseite& seite = flaeche_->seite();
-    const int nummer = seite.nummer + um;
-    if (!seite.stufen.empty() && nummer >= 0 && nummer < seite.anzahl)
-        ladeSeite(nummer);
+    const PicturePage& page = area_->page();
+    const int number = page.number + around;
+    if (!page.levels.empty() && number >= 0 && number < page.count)
+        loadPage(number);
 }
 
-void TiffAnsicht::keyPressEvent(QKeyEvent* ereignis)
+void TiffView::keyPressEvent(QKeyEvent* event)
 {
-    if (ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown)
-        return blaettere(ereignis->key() == Qt::Key_PageUp ? -1 : 1);
-    QWidget::keyPressEvent(ereignis);
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
+        return turnPage(event->key() == Qt::Key_PageUp ? -1 : 1);
+    QWidget::keyPressEvent(event);
 }
 
 } // namespace quelvarn

@@ -15,41 +15,41 @@ class QToolBar;
 
 namespace quelvarn {
 
-class Bildflaeche;
+class PictureArea;
 
 // Shows the pages of a TIFF or another picture file. Loading runs beside the window; a file that is none is told.
-class TiffAnsicht : public QWidget
+class TiffView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit TiffAnsicht(const char* name);
-    ~TiffAnsicht() override;
+    explicit TiffView(const char* name);
+    ~TiffView() override;
 
     // The system's path; "" for no picture. The file that is shown already is not loaded again.
-    void zeige(const QString& datei);
+    void display(const QString& file);
     // The file could not be read; nothing is shown by then.
-    std::function<void()> nichtGeladen;
+    std::function<void()> notLoaded;
 
 protected:
-    void keyPressEvent(QKeyEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QToolBar* neueKnoepfe(const char* name);
-    void ladeSeite(int nummer);
-    void geladen();
-    void blaettere(int um);
+    QToolBar* newButtons(const char* name);
+    void loadPage(int number);
+    void loaded();
+    void turnPage(int around);
 
-    Bildflaeche* flaeche_;
-    QToolBar* leiste_;
-    QAction* zurueck_ = nullptr;
-    QAction* vor_ = nullptr;
+    PictureArea* area_;
+    QToolBar* bar_;
+    QAction* back_ = nullptr;
+    QAction* before_ = nullptr;
     QLabel* LblSeite_;
-    QAction* seitenfeld_ = nullptr;
-    QString datei_;
-    QFutureWatcher<Bildseite> lader_;
+    QAction* pageField_ = nullptr;
+    QString file_;
+    QFutureWatcher<PicturePage> loader_;
     // The number of the page wanted last; what a worker was asked before that is not worth the time any more.
-    std::shared_ptr<std::atomic<int>> gewuenscht_ = std::make_shared<std::atomic<int>>(0);
+    std::shared_ptr<std::atomic<int>> wanted_ = std::make_shared<std::atomic<int>>(0);
 };
 
 } // namespace quelvarn

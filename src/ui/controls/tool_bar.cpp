@@ -13,14 +13,14 @@ namespace quelvarn {
 
 namespace {
 
-Qt::ToolButtonStyle stil(Knopfart art)
+Qt::ToolButtonStyle style(ButtonKind kind)
 {
-    switch (art) {
-    case Knopfart::NurSymbol:
+    switch (kind) {
+    case ButtonKind::IconOnly:
         return Qt::ToolButtonIconOnly;
-    case Knopfart::NurText:
+    case ButtonKind::TextOnly:
         return Qt::ToolButtonTextOnly;
-    case Knopfart::TextNebenSymbol:
+    case ButtonKind::TextBesideIcon:
         break;
     }
     return Qt::ToolButtonTextBesideIcon;
@@ -28,50 +28,50 @@ Qt::ToolButtonStyle stil(Knopfart art)
 
 } // namespace
 
-QToolBar* neueLeiste(std::string_view name, Knopfart art, Qt::Orientation richtung)
+QToolBar* newBar(std::string_view name, ButtonKind kind, Qt::Orientation direction)
 {
-    auto* leiste = new QToolBar;
-    leiste->setObjectName(zuQt(name));
-    leiste->setOrientation(richtung);
-    leiste->setMovable(false);
-    leiste->setToolButtonStyle(stil(art));
-    leiste->setIconSize({16, 16});
-    leiste->setContextMenuPolicy(Qt::PreventContextMenu);
-    return leiste;
+    auto* bar = new QToolBar;
+    bar->setObjectName(toQt(name));
+    bar->setOrientation(direction);
+    bar->setMovable(false);
+    bar->setToolButtonStyle(style(kind));
+    bar->setIconSize({16, 16});
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    return bar;
 }
 
-QAction* fuegeKnopfHinzu(QToolBar& leiste, const Leistenknopf& knopf)
+QAction* addBarButton(QToolBar& bar, const BarButton& button)
 {
-    auto* aktion = leiste.addAction(zuQt(knopf.beschriftung));
-    aktion->setIconText(zuQt(knopf.beschriftung)); // Otherwise its dots are taken away.
-    aktion->setObjectName(zuQt(knopf.schluessel));
-    aktion->setToolTip(zuQt(knopf.tooltip));
-    aktion->setCheckable(knopf.umschalter);
-    if (!knopf.symbol.empty())
-        aktion->setIcon(symbol(knopf.symbol));
-    if (auto* taste = qobject_cast<QToolButton*>(leiste.widgetForAction(aktion))) {
-        taste->setFocusPolicy(Qt::TabFocus);
-        taste->setAccessibleName(zuQt(knopf.schluessel));
-        taste->setAccessibleDescription(zuQt(knopf.tooltip));
+    auto* action = bar.addAction(toQt(button.caption));
+    action->setIconText(toQt(button.caption)); // Otherwise its dots are taken away.
+    action->setObjectName(toQt(button.key));
+    action->setToolTip(toQt(button.tooltip));
+    action->setCheckable(button.toggle);
+    if (!button.icon.empty())
+        action->setIcon(icon(button.icon));
+    if (auto* key = qobject_cast<QToolButton*>(bar.widgetForAction(action))) {
+        key->setFocusPolicy(Qt::TabFocus);
+        key->setAccessibleName(toQt(button.key));
+        key->setAccessibleDescription(toQt(button.tooltip));
     }
-    return aktion;
+    return action;
 }
 
-void fuegeDehnerHinzu(QToolBar& leiste)
+void addStretcher(QToolBar& bar)
 {
-    auto* dehner = new QWidget;
-    dehner->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    leiste.addWidget(dehner);
+    auto* stretcher = new QWidget;
+    stretcher->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(stretcher);
 }
 
-QAction& knopfVon(const QToolBar& leiste, std::string_view schluessel)
+QAction& buttonOf(const QToolBar& bar, std::string_view key)
 {
-    const auto aktionen = leiste.actions();
-    for (auto* aktion : aktionen)
-        if (aktion->objectName() == zuQt(schluessel))
-            return *aktion;
+    const auto actions = bar.actions();
+    for (auto* action : actions)
+        if (action->objectName() == toQt(key))
+            return *action;
     assert(false && "no such button");
-    return *aktionen.front();
+    return *actions.front();
 }
 
 } // namespace quelvarn

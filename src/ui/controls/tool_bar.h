@@ -10,22 +10,22 @@ class QToolBar;
 namespace quelvarn {
 
 // A button of a tool bar. Its key is the name of its action.
-struct Leistenknopf
+struct BarButton
 {
-    std::string_view schluessel;
-    std::string_view beschriftung;
+    std::string_view key;
+    std::string_view caption;
     std::string_view tooltip;
-    std::string_view symbol;
-    bool umschalter = false;
+    std::string_view icon;
+    bool toggle = false;
 };
 
-enum class Knopfart { NurSymbol, NurText, TextNebenSymbol };
+enum class ButtonKind { IconOnly, TextOnly, TextBesideIcon };
 
-QToolBar* neueLeiste(std::string_view name, Knopfart art, Qt::Orientation richtung = Qt::Horizontal);
-QAction* fuegeKnopfHinzu(QToolBar& leiste, const Leistenknopf& knopf);
+QToolBar* newBar(std::string_view name, ButtonKind kind, Qt::Orientation direction = Qt::Horizontal);
+QAction* addBarButton(QToolBar& bar, const BarButton& button);
 // What follows stands at the far end.
-void fuegeDehnerHinzu(QToolBar& leiste);
+void addStretcher(QToolBar& bar);
 // By key; the button must be there.
-QAction& knopfVon(const QToolBar& leiste, std::string_view schluessel);
+QAction& buttonOf(const QToolBar& bar, std::string_view key);
 
 } // namespace quelvarn

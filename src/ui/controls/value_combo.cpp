@@ -13,111 +13,111 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int SICHTBARE_ZEILEN = 18;
+constexpr int VISIBLE_ROWS = 18;
 
-QListView* neueListe(QWidget* eltern = nullptr)
+QListView* newList(QWidget* parent = nullptr)
 {
-    auto* liste = new QListView(eltern);
-    liste->setUniformItemSizes(true); // Otherwise every value is measured before the list opens.
-    liste->setTextElideMode(Qt::ElideRight);
-    return liste;
+    auto* list = new QListView(parent);
+    list->setUniformItemSizes(true); // Otherwise every value is measured before the list opens.
+    list->setTextElideMode(Qt::ElideRight);
+    return list;
 }
 
 } // namespace
 
-Wertekombo::Wertekombo(const QString& name) : modell_(new Wertemodell(this))
+ValueCombo::ValueCombo(const QString& name) : model_(new ValueModel(this))
 {
     setObjectName(name);
     setEditable(true);
     setInsertPolicy(NoInsert);
-    setView(neueListe());
-    setModel(modell_);
-    setMaxVisibleItems(SICHTBARE_ZEILEN);
+    setView(newList());
+    setModel(model_);
+    setMaxVisibleItems(VISIBLE_ROWS);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(10);
-    auto* ergaenzer = new QCompleter(modell_, this);
-    ergaenzer->setFilterMode(Qt::MatchContains);
-    ergaenzer->setCaseSensitivity(Qt::CaseInsensitive);
-    ergaenzer->setMaxVisibleItems(SICHTBARE_ZEILEN);
-    ergaenzer->setPopup(neueListe());
-    setCompleter(ergaenzer);
-    connect(this, &QComboBox::activated, this, bewacht([this](int index) { melde(index); }));
+    auto* completer = new QCompleter(model_, this);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setMaxVisibleItems(VISIBLE_ROWS);
+    completer->setPopup(newList());
+    setCompleter(completer);
+    connect(this, &QComboBox::activated, this, guardedSlot([this](int index) { notify(index); }));
 }
 
-void Wertekombo::zeige(const std::vector<std::string>& werte, unsigned fassung)
+void ValueCombo::display(const std::vector<std::string>& values, unsigned generation)
 {
     const QSignalBlocker still(this);
-    const bool andere = modell_->zeige(werte);
-    if (!andere && fassung == fassung_)
+    const bool other = model_->display(values);
+    if (!other && generation == generation_)
         return;
-    fassung_ = fassung;
+    generation_ = generation;
     setCurrentIndex(-1);
     clearEditText();
 }
 
-void Wertekombo::zeigeGewaehlt(const std::string& wert)
+void ValueCombo::showChosen(const std::string& value)
 {
-    if (currentText() == zuQt(wert))
+    if (currentText() == toQt(value))
         return;
     const QSignalBlocker still(this);
-    setCurrentIndex(wert.empty() ? -1 : findText(zuQt(wert)));
-    setEditText(zuQt(wert)); // Also a pattern that is in no list.
+    setCurrentIndex(value.empty() ? -1 : findText(toQt(value)));
+    setEditText(toQt(value)); // Also a pattern that is in no list.
 }
 
-void Wertekombo::melde(int index)
+void ValueCombo::notify(int index)
 {
-    if (gewaehlt && index >= 0 && index < modell_->rowCount())
-        gewaehlt(std::string(modell_->wert(index))); // A copy: the pick may fill the list anew.
+    if (chosen && index >= 0 && index < model_->rowCount())
+        chosen(std::string(model_->value(index))); // A copy: the pick may fill the list anew.
 }
 
-void Wertekombo::showPopup()
+void ValueCombo::showPopup()
 {
-    verwirfEingabe();
+    discardInput();
     QComboBox::showPopup();
 }
 
-void Wertekombo::verwirfEingabe()
+void ValueCombo::discardInput()
 {
     setEditText(currentIndex() < 0 ? QString() : itemText(currentIndex()));
 }
 
 // Keys and the wheel would walk through the values, and each step would be a pick.
-void Wertekombo::keyPressEvent(QKeyEvent* ereignis)
+void ValueCombo::keyPressEvent(QKeyEvent* event)
 {
-    switch (ereignis->key()) {
+    switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         return showPopup();
     case Qt::Key_Escape:
-        return verwirfEingabe();
+        return discardInput();
     default:
-        QComboBox::keyPressEvent(ereignis);
+        QComboBox::keyPressEvent(event);
     }
 }
 
-void Wertekombo::wheelEvent(QWheelEvent* ereignis)
+void ValueCombo::wheelEvent(QWheelEvent* event)
 {
-    ereignis->ignore();
+    event->ignore();
 }
 
-void Wertekombo::focusOutEvent(QFocusEvent* ereignis)
+void ValueCombo::focusOutEvent(QFocusEvent* event)
 {
-    QComboBox::focusOutEvent(ereignis);
-    const bool liste = ereignis->reason() == Qt::PopupFocusReason;
-    if (!liste)
-        verwirfEingabe();
+    QComboBox::focusOutEvent(event);
+    const bool list = event->reason() == Qt::PopupFocusReason;
+    if (!list)
+        discardInput();
 }
 
 // Esc first takes back what was typed; only then does it mean the page.
-bool Wertekombo::event(QEvent* ereignis)
+bool ValueCombo::event(QEvent* event)
 {
     const bool esc =
-        ereignis->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Escape;
+        event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!esc || currentText() == itemText(currentIndex()))
-        return QComboBox::event(ereignis);
-    ereignis->accept();
+        return QComboBox::event(event);
+    event->accept();
     return true;
 }
 

@@ -8,37 +8,37 @@
 
 namespace quelvarn {
 
-class Wertemodell;
+class ValueModel;
 
 // A combo of existing values, quick also with a hundred thousand of them: typing narrows the list to the values that
 // hold the text. Only a pick by a person is told, also the same value again.
-class Wertekombo : public QComboBox
+class ValueCombo : public QComboBox
 {
     Q_OBJECT
 
 public:
-    explicit Wertekombo(const QString& name);
+    explicit ValueCombo(const QString& name);
 
     // Other values, or the same ones of another time, empty the text.
-    void zeige(const std::vector<std::string>& werte, unsigned fassung = 0);
+    void display(const std::vector<std::string>& values, unsigned generation = 0);
     // The value that was taken over, "" for none; a pick that was refused does not stay.
-    void zeigeGewaehlt(const std::string& wert);
-    std::function<void(const std::string& wert)> gewaehlt;
+    void showChosen(const std::string& value);
+    std::function<void(const std::string& value)> chosen;
 
     void showPopup() override;
 
 protected:
-    bool event(QEvent* ereignis) override;
-    void keyPressEvent(QKeyEvent* ereignis) override;
-    void wheelEvent(QWheelEvent* ereignis) override;
-    void focusOutEvent(QFocusEvent* ereignis) override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void melde(int index);
-    void verwirfEingabe();
+    void notify(int index);
+    void discardInput();
 
-    Wertemodell* modell_;
-    unsigned fassung_ = 0;
+    ValueModel* model_;
+    unsigned generation_ = 0;
 };
 
 } // namespace quelvarn

@@ -5,32 +5,32 @@
 
 namespace quelvarn {
 
-Wertefeld::Wertefeld(const QString& name) : modell_(new Wertemodell(this))
+ValueField::ValueField(const QString& name) : model_(new ValueModel(this))
 {
     setObjectName(name);
-    setModel(modell_);
+    setModel(model_);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setProperty("rahmen", true);
-    waehltPerKlick(*this, [this](const QModelIndex& stelle) {
-        if (gewaehlt)
-            gewaehlt(std::string(modell_->wert(stelle.row()))); // A copy: the pick may fill the list anew.
+    choosesByClick(*this, [this](const QModelIndex& position) {
+        if (chosen)
+            chosen(std::string(model_->value(position.row()))); // A copy: the pick may fill the list anew.
     });
 }
 
-void Wertefeld::zeige(const std::vector<std::string>& werte)
+void ValueField::display(const std::vector<std::string>& values)
 {
-    modell_->zeige(werte);
+    model_->display(values);
 }
 
-void Wertefeld::markiere(const std::string& wert)
+void ValueField::mark(const std::string& value)
 {
-    const QModelIndex stelle = modell_->index(modell_->zeile(wert));
-    if (stelle != currentIndex())
-        setCurrentIndex(stelle);
-    if (!stelle.isValid())
+    const QModelIndex position = model_->index(model_->row(value));
+    if (position != currentIndex())
+        setCurrentIndex(position);
+    if (!position.isValid())
         clearSelection();
 }
 

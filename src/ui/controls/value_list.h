@@ -8,24 +8,24 @@
 
 namespace quelvarn {
 
-class Wertemodell;
+class ValueModel;
 
 // A list of existing values, quick also with a hundred thousand of them. Typing goes to the first value that begins
 // so; a click or Enter picks.
-class Wertefeld : public QListView
+class ValueField : public QListView
 {
     Q_OBJECT
 
 public:
-    explicit Wertefeld(const QString& name);
+    explicit ValueField(const QString& name);
 
-    void zeige(const std::vector<std::string>& werte);
+    void display(const std::vector<std::string>& values);
     // Marks a value, or none.
-    void markiere(const std::string& wert);
-    std::function<void(const std::string& wert)> gewaehlt;
+    void mark(const std::string& value);
+    std::function<void(const std::string& value)> chosen;
 
 private:
-    Wertemodell* modell_;
+    ValueModel* model_;
 };
 
 } // namespace quelvarn

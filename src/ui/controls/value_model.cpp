@@ -7,35 +7,35 @@
 
 namespace quelvarn {
 
-bool Wertemodell::zeige(const std::vector<std::string>& werte)
+bool ValueModel::display(const std::vector<std::string>& values)
 {
-    if (werte == werte_)
+    if (values == values_)
         return false;
     beginResetModel();
-    werte_ = werte;
+    values_ = values;
     endResetModel();
     return true;
 }
 
-int Wertemodell::zeile(const std::string& wert) const
+int ValueModel::row(const std::string& value) const
 {
-    const auto stelle = std::find(werte_.begin(), werte_.end(), wert);
-    return stelle != werte_.end() ? static_cast<int>(stelle - werte_.begin()) : -1;
+    const auto position = std::find(values_.begin(), values_.end(), value);
+    return position != values_.end() ? static_cast<int>(position - values_.begin()) : -1;
 }
 
-int Wertemodell::rowCount(const QModelIndex& eltern) const
+int ValueModel::rowCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : static_cast<int>(werte_.size());
+    return parent.isValid() ? 0 : static_cast<int>(values_.size());
 }
 
-QVariant Wertemodell::data(const QModelIndex& stelle, int rolle) const
+QVariant ValueModel::data(const QModelIndex& position, int textRole) const
 {
-    if (!stelle.isValid() || stelle.row() >= rowCount()) // Combos ask for no entry, too.
+    if (!position.isValid() || position.row() >= rowCount()) // Combos ask for no entry, too.
         return {};
-    if (rolle == Qt::ToolTipRole)
-        return asTip(zuQt(wert(stelle.row())));
-    const bool text = rolle == Qt::DisplayRole || rolle == Qt::EditRole;
-    return text ? QVariant(zuQt(wert(stelle.row()))) : QVariant();
+    if (textRole == Qt::ToolTipRole)
+        return asTip(toQt(value(position.row())));
+    const bool text = textRole == Qt::DisplayRole || textRole == Qt::EditRole;
+    return text ? QVariant(toQt(value(position.row()))) : QVariant();
 }
 
 } // namespace quelvarn

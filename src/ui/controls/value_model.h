@@ -8,7 +8,7 @@
 namespace quelvarn {
 
 // Existing values for a list or combo; the text of one is made when it is drawn.
-class Wertemodell : public QAbstractListModel
+class ValueModel : public QAbstractListModel
 {
     Q_OBJECT
 
@@ -16,16 +16,16 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     // True when other values stand there now.
-    bool zeige(const std::vector<std::string>& werte);
-    const std::string& wert(int zeile) const { return werte_[static_cast<std::size_t>(zeile)]; }
+    bool display(const std::vector<std::string>& values);
+    const std::string& value(int row) const { return values_[static_cast<std::size_t>(row)]; }
     // -1 for none.
-    int zeile(const std::string& wert) const;
+    int row(const std::string& value) const;
 
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& position, int textRole) const override;
 
 private:
-    std::vector<std::string> werte_;
+    std::vector<std::string> values_;
 };
 
 } // namespace quelvarn

@@ -13,68 +13,68 @@ namespace quelvarn {
 namespace {
 
 // Lines may end behind the backslashes of a path, but not before them.
-QString mitBruchstellen(QString text)
+QString withBreaks(QString text)
 {
     return text.replace(u'\\', QStringLiteral("\u2060\\\u200B"));
 }
 
 // Breaks the text into lines of this width; its height is the answer.
-qreal brichUm(QTextLayout& satz, int breite)
+qreal wrap(QTextLayout& set, int width)
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    satz.setTextOption(option);
-    qreal hoehe = 0;
-    satz.beginLayout();
-    for (QTextLine zeile = satz.createLine(); zeile.isValid(); zeile = satz.createLine()) {
-        zeile.setLineWidth(breite);
-        zeile.setPosition({0, hoehe});
-        hoehe += zeile.height();
+    set.setTextOption(option);
+    qreal height = 0;
+    set.beginLayout();
+    for (QTextLine row = set.createLine(); row.isValid(); row = set.createLine()) {
+        row.setLineWidth(width);
+        row.setPosition({0, height});
+        height += row.height();
     }
-    satz.endLayout();
-    return hoehe;
+    set.endLayout();
+    return height;
 }
 
 } // namespace
 
-Umbruchlabel::Umbruchlabel(qsizetype letters) : letters_(letters)
+WrappingLabel::WrappingLabel(qsizetype letters) : letters_(letters)
 {
     setTextFormat(Qt::PlainText);
-    QSizePolicy regel(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    regel.setHeightForWidth(true);
-    setSizePolicy(regel);
-    setContentsMargins(UEBERHANG, 0, 0, 0);
+    QSizePolicy rule(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    rule.setHeightForWidth(true);
+    setSizePolicy(rule);
+    setContentsMargins(OVERHANG, 0, 0, 0);
 }
 
-QString Umbruchlabel::shownText() const
+QString WrappingLabel::shownText() const
 {
-    return mitBruchstellen(asLines(beginning(text(), letters_)));
+    return withBreaks(asLines(beginning(text(), letters_)));
 }
 
-int Umbruchlabel::heightForWidth(int breite) const
+int WrappingLabel::heightForWidth(int width) const
 {
-    QTextLayout satz(shownText(), font());
-    const int platz = breite - contentsMargins().left() - contentsMargins().right();
-    return std::max(static_cast<int>(std::ceil(brichUm(satz, platz))), fontMetrics().height());
+    QTextLayout set(shownText(), font());
+    const int place = width - contentsMargins().left() - contentsMargins().right();
+    return std::max(static_cast<int>(std::ceil(wrap(set, place))), fontMetrics().height());
 }
 
-QSize Umbruchlabel::sizeHint() const
+QSize WrappingLabel::sizeHint() const
 {
     return {fontMetrics().averageCharWidth() * 24, fontMetrics().height()};
 }
 
-QSize Umbruchlabel::minimumSizeHint() const
+QSize WrappingLabel::minimumSizeHint() const
 {
     return {fontMetrics().averageCharWidth() * 8, fontMetrics().height()};
 }
 
-void Umbruchlabel::paintEvent(QPaintEvent* /*ereignis*/)
+void WrappingLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
-    QTextLayout satz(shownText(), font(), this);
-    brichUm(satz, contentsRect().width());
-    satz.draw(&painter, contentsRect().topLeft());
+    QTextLayout set(shownText(), font(), this);
+    wrap(set, contentsRect().width());
+    set.draw(&painter, contentsRect().topLeft());
 }
 
 } // namespace quelvarn

@@ -16,29 +16,29 @@ constexpr int STATUS_LETTERS = 50; // A user's name and a status; a longer one i
 } // namespace
 
 StatusBarDatei::StatusBarDatei()
-    : Streifen(Art::Statuszeile, "StatusBarDatei"), dateiname_(new KurzLabel),
-      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)), LblKopfStatus_(new Statustext)
+    : Strip(Kind::StatusRow, "StatusBarDatei"), fileName_(new ShortLabel),
+      pathName_(new ShortLabel(nullptr, Qt::ElideMiddle)), LblKopfStatus_(new StatusCaption)
 {
-    dateiname_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
+    fileName_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
     LblKopfStatus_->setObjectName(QStringLiteral("LblKopfStatus"));
-    setzeRolle(*LblKopfStatus_, Rolle::Kopf);
+    setRole(*LblKopfStatus_, TextRole::Heading);
     LblKopfStatus_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // The path gives way first.
     LblKopfStatus_->setMaximumWidth(LblKopfStatus_->fontMetrics().averageCharWidth() * STATUS_LETTERS);
-    pfadname_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
-    reihe().addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDatei(1)")));
-    reihe().addWidget(dateiname_);
-    reihe().addSpacing(8);
-    reihe().addWidget(beschriftung(QStringLiteral("Pfadname"), Rolle::Klein, QStringLiteral("StatusBarDatei(3)")));
-    reihe().addWidget(pfadname_, 1);
-    reihe().addWidget(LblKopfStatus_);
+    pathName_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
+    layoutRow().addWidget(caption(QStringLiteral("Dateiname"), TextRole::Small, QStringLiteral("StatusBarDatei(1)")));
+    layoutRow().addWidget(fileName_);
+    layoutRow().addSpacing(8);
+    layoutRow().addWidget(caption(QStringLiteral("Pfadname"), TextRole::Small, QStringLiteral("StatusBarDatei(3)")));
+    layoutRow().addWidget(pathName_, 1);
+    layoutRow().addWidget(LblKopfStatus_);
 }
 
-void StatusBarDatei::zeigen(const DocumentPanels& modell)
+void StatusBarDatei::refresh(const DocumentPanels& model)
 {
-    dateiname_->setText(zuQt(modell.fileName()));
-    pfadname_->setText(zuQt(modell.folder()));
-    LblKopfStatus_->setText(zuQt(modell.status().text));
-    LblKopfStatus_->setzeFarbe(modell.status().farbe);
+    fileName_->setText(toQt(model.fileName()));
+    pathName_->setText(toQt(model.folder()));
+    LblKopfStatus_->setText(toQt(model.status().text));
+    LblKopfStatus_->setColour(model.status().colour);
 }
 
 } // namespace quelvarn

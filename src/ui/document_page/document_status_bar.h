@@ -5,23 +5,23 @@
 namespace quelvarn {
 
 class DocumentPanels;
-class KurzLabel;
-class Statustext;
+class ShortLabel;
+class StatusCaption;
 
 // File name, folder and status of the document shown. The panels are named "StatusBarDatei(1)" and so on.
-class StatusBarDatei : public Streifen
+class StatusBarDatei : public Strip
 {
     Q_OBJECT
 
 public:
     StatusBarDatei();
 
-    void zeigen(const DocumentPanels& modell);
+    void refresh(const DocumentPanels& model);
 
 private:
-    KurzLabel* dateiname_;
-    KurzLabel* pfadname_;
-    Statustext* LblKopfStatus_;
+    ShortLabel* fileName_;
+    ShortLabel* pathName_;
+    StatusCaption* LblKopfStatus_;
 };
 
 } // namespace quelvarn

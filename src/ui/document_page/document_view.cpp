@@ -29,168 +29,168 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int ERSTE_SONDERTABELLE = 5;
+constexpr int FIRST_SPECIAL_TABLE = 5;
 
 } // namespace
 
 FormSEDoku::FormSEDoku(Program& program, QtViewer& viewer)
-    : program_(program), viewer_(viewer), LabelSEDoku_(new KurzLabel), LblZugriffSEDoku_(new KurzLabel),
-      oben_(new ObereLeistenansicht(program.topBar, this)),
-      links_(new LinkeLeistenansicht(program.leftBar, program.tabs, program.heading)),
-      info_(new Infobereich(program.info, program.relationActions, viewer)), status_(new StatusBarDatei)
+    : program_(program), viewer_(viewer), LabelSEDoku_(new ShortLabel), LblZugriffSEDoku_(new ShortLabel),
+      above_(new TopBarView(program.topBar, this)),
+      left_(new LeftBarView(program.leftBar, program.tabs, program.heading)),
+      info_(new InfoArea(program.info, program.relationActions, viewer)), status_(new StatusBarDatei)
 {
     setObjectName(QStringLiteral("FormSEDoku"));
-    SSTabDGDoku_ = neueReiter();
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(neueKopfzeile());
-    aufbau->addWidget(neueLeiste());
-    aufbau->addWidget(neueMitte(), 1);
-    aufbau->addWidget(status_);
-    baueTasten();
+    SSTabDGDoku_ = newTabs();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(newHeadingRow());
+    layout->addWidget(newBar());
+    layout->addWidget(newMiddle(), 1);
+    layout->addWidget(status_);
+    buildShortcuts();
 }
 
-QWidget* FormSEDoku::neueKopfzeile()
+QWidget* FormSEDoku::newHeadingRow()
 {
-    auto* zeile = new Streifen(Streifen::Art::Kopfzeile, "KopfSEDoku");
+    auto* row = new Strip(Strip::Kind::HeadingRow, "KopfSEDoku");
     LabelSEDoku_->setObjectName(QStringLiteral("LabelSEDoku"));
-    setzeRolle(*LabelSEDoku_, Rolle::Titel);
+    setRole(*LabelSEDoku_, TextRole::Titel);
     LblZugriffSEDoku_->setObjectName(QStringLiteral("LblZugriffSEDoku"));
     LblZugriffSEDoku_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setzeRolle(*LblZugriffSEDoku_, Rolle::Klein);
-    zeile->reihe().setContentsMargins(4, 0, 10, 0);
-    zeile->reihe().addWidget(LabelSEDoku_);
-    zeile->reihe().addWidget(LblZugriffSEDoku_, 1);
-    return zeile;
+    setRole(*LblZugriffSEDoku_, TextRole::Small);
+    row->layoutRow().setContentsMargins(4, 0, 10, 0);
+    row->layoutRow().addWidget(LabelSEDoku_);
+    row->layoutRow().addWidget(LblZugriffSEDoku_, 1);
+    return row;
 }
 
-QWidget* FormSEDoku::neueLeiste()
+QWidget* FormSEDoku::newBar()
 {
-    auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteSEDoku");
-    auto* ToolbarSEDok3 = neueToolbarSEDok3();
+    auto* row = new Strip(Strip::Kind::Bar, "LeisteSEDoku");
+    auto* ToolbarSEDok3 = newToolbarSEDok3();
     ToolbarSEDok3->hide();
-    zeile->reihe().addWidget(oben_->ToolbarSEDokTop(), 1);
-    zeile->reihe().addWidget(ToolbarSEDok3);
-    zeile->reihe().addWidget(neueToolbarSEDok4());
-    return zeile;
+    row->layoutRow().addWidget(above_->ToolbarSEDokTop(), 1);
+    row->layoutRow().addWidget(ToolbarSEDok3);
+    row->layoutRow().addWidget(newToolbarSEDok4());
+    return row;
 }
 
-QWidget* FormSEDoku::neueMitte()
+QWidget* FormSEDoku::newMiddle()
 {
-    auto* teiler = new QSplitter;
-    teiler->setObjectName(QStringLiteral("FrmDokuSmartView_Doku"));
-    teiler->setChildrenCollapsible(false);
-    teiler->addWidget(neueTabellenseite());
-    teiler->addWidget(info_);
-    teiler->setStretchFactor(0, 3);
-    teiler->setStretchFactor(1, 2);
-    teiler->setSizes({604, 335});
+    auto* splitter = new QSplitter;
+    splitter->setObjectName(QStringLiteral("FrmDokuSmartView_Doku"));
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(newTablePage());
+    splitter->addWidget(info_);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    splitter->setSizes({604, 335});
 
-    FrmDokuSmartView_Doku_ = teiler;
+    FrmDokuSmartView_Doku_ = splitter;
     FrmDokuSmartView_SmartView_ = new QWidget;
     FrmDokuSmartView_SmartView_->setObjectName(QStringLiteral("FrmDokuSmartView_SmartView"));
-    auto* viewerplatz = new QVBoxLayout(FrmDokuSmartView_SmartView_);
-    viewerplatz->addWidget(&viewer_.platz(Ansicht::Dokument));
+    auto* viewerPlace = new QVBoxLayout(FrmDokuSmartView_SmartView_);
+    viewerPlace->addWidget(&viewer_.place(ViewerPlace::Document));
     FrmDokuSmartView_SmartView_->setFocusPolicy(Qt::ClickFocus);
     FrmDokuSmartView_SmartView_->hide();
-    auto* mitte = new QWidget;
-    auto* reihe = new QHBoxLayout(mitte);
-    reihe->setContentsMargins({});
-    reihe->setSpacing(0);
-    reihe->addWidget(teiler);
-    reihe->addWidget(FrmDokuSmartView_SmartView_);
-    reihe->addWidget(neueAuftragsliste());
-    return mitte;
+    auto* middle = new QWidget;
+    auto* layoutRow = new QHBoxLayout(middle);
+    layoutRow->setContentsMargins({});
+    layoutRow->setSpacing(0);
+    layoutRow->addWidget(splitter);
+    layoutRow->addWidget(FrmDokuSmartView_SmartView_);
+    layoutRow->addWidget(newOrderList());
+    return middle;
 }
 
-QWidget* FormSEDoku::neueTabellenseite()
+QWidget* FormSEDoku::newTablePage()
 {
-    auto* tabellen = new QVBoxLayout;
-    tabellen->setSpacing(0);
-    tabellen->addWidget(links_->ueberTabellen());
-    tabellen->addWidget(neuesFrmDelete());
-    tabellen->addWidget(SSTabDGDoku_, 1);
-    tabellen->addWidget(links_->unterTabellen());
+    auto* tables = new QVBoxLayout;
+    tables->setSpacing(0);
+    tables->addWidget(left_->overTables());
+    tables->addWidget(newFrmDelete());
+    tables->addWidget(SSTabDGDoku_, 1);
+    tables->addWidget(left_->belowTables());
     for (QWidget* panel :
-         std::initializer_list<QWidget*>{oben_->FrmFavoriten(), neuesFrmNutzer(), neuesFrmForwardMessage()})
-        tabellen->addWidget(panel, 1);
+         std::initializer_list<QWidget*>{above_->FrmFavoriten(), newFrmNutzer(), newFrmForwardMessage()})
+        tables->addWidget(panel, 1);
 
-    auto* seite = new QWidget;
-    auto* aufbau = new QHBoxLayout(seite);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(links_);
-    aufbau->addLayout(tabellen, 1);
-    return seite;
+    auto* page = new QWidget;
+    auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(left_);
+    layout->addLayout(tables, 1);
+    return page;
 }
 
-QTabWidget* FormSEDoku::neueReiter()
+QTabWidget* FormSEDoku::newTabs()
 {
-    auto* reiter = new Reiter(ERSTE_SONDERTABELLE);
-    reiter->setObjectName(QStringLiteral("SSTabDGDoku"));
-    reiter->setDocumentMode(true);
-    reiter->tabBar()->setElideMode(Qt::ElideMiddle);
-    reiter->tabBar()->setUsesScrollButtons(false);
-    reiter->tabBar()->setExpanding(false);
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        auto* tabelle = new Tabellenansicht(program_, tab);
-        tabelle->geoeffnet = [this] { program_.frame.edit(); };
-        tabellen_.push_back(tabelle);
-        reiter->addTab(tabelle, {});
+    auto* tabs = new TabWidget(FIRST_SPECIAL_TABLE);
+    tabs->setObjectName(QStringLiteral("SSTabDGDoku"));
+    tabs->setDocumentMode(true);
+    tabs->tabBar()->setElideMode(Qt::ElideMiddle);
+    tabs->tabBar()->setUsesScrollButtons(false);
+    tabs->tabBar()->setExpanding(false);
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab) {
+        auto* table = new TableView(program_, tab);
+        table->opened = [this] { program_.frame.edit(); };
+        tables_.push_back(table);
+        tabs->addTab(table, {});
     }
-    connect(reiter, &QTabWidget::currentChanged, this, bewacht([this](int tab) {
-                const Sanduhr warten;
+    connect(tabs, &QTabWidget::currentChanged, this, guardedSlot([this](int tab) {
+                const BusyCursor wait;
                 program_.tabs.chooseTab(tab);
                 if (!SSTabDGDoku_->tabBar()->hasFocus()) // There the arrow keys go on from tab to tab.
                     setFocus();
             }));
-    connect(reiter, &QTabWidget::tabBarClicked, this, bewacht([this](int tab) {
+    connect(tabs, &QTabWidget::tabBarClicked, this, guardedSlot([this](int tab) {
                 if (tab == program_.tables.tab()) // Nothing changes, and the keyboard is wanted here all the same.
                     setFocus();
             }));
-    return reiter;
+    return tabs;
 }
 
-void FormSEDoku::baueTasten()
+void FormSEDoku::buildShortcuts()
 {
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
-        connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
-                    const Sanduhr warten;
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab) {
+        auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
+        connect(key, &QShortcut::activated, this, guardedSlot([this, tab] {
+                    const BusyCursor wait;
                     program_.tabs.chooseTab(tab);
                     setFocus();
                 }));
     }
     // Back from wherever the focus went, and from what the upper bar has brought up.
-    auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    const auto zurTabelle = [this] {
-        oben_->schliesse();
-        tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter().setFocus();
+    auto* back = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    const auto toTable = [this] {
+        above_->close();
+        tables_[static_cast<std::size_t>(program_.tables.tab())]->grid().setFocus();
     };
-    connect(zurueck, &QShortcut::activated, this, bewacht(zurTabelle));
-    info_->zurTabelle = zurTabelle;
+    connect(back, &QShortcut::activated, this, guardedSlot(toTable));
+    info_->toTable = toTable;
 }
 
-void FormSEDoku::zeigen()
+void FormSEDoku::refresh()
 {
-    LabelSEDoku_->setText(zuQt(program_.heading.countText()));
-    LblZugriffSEDoku_->setText(zuQt(program_.heading.accessText()));
+    LabelSEDoku_->setText(toQt(program_.heading.countText()));
+    LblZugriffSEDoku_->setText(toQt(program_.heading.accessText()));
     showNote(*LblZugriffSEDoku_, program_.heading.isStatusLimited());
-    zeigeReiter();
-    zeigeLinks();
-    zeigeOben();
+    showTab();
+    showLeft();
+    showAbove();
     refreshRows();
-    info_->zeigen();
-    zeigeViewerseite();
-    status_->zeigen(program_.panels);
+    info_->refresh();
+    showViewerPage();
+    status_->refresh(program_.panels);
 }
 
-void FormSEDoku::zeigeReiter()
+void FormSEDoku::showTab()
 {
     const QSignalBlocker still(SSTabDGDoku_);
-    for (int tab = 0; tab < ANZAHL_DOKUTYPEN; ++tab) {
-        const QString name = zuQt(program_.session.mehrzahl(tab));
+    for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab) {
+        const QString name = toQt(program_.session.plural(tab));
         const QString text = asCaption(name);
         if (SSTabDGDoku_->tabText(tab) == text)
             continue;
@@ -205,10 +205,10 @@ QWidget& FormSEDoku::mainControl() const
 {
     if (program_.viewer.isInFront())
         return *FrmDokuSmartView_SmartView_;
-    return tabellen_[static_cast<std::size_t>(program_.tables.tab())]->gitter();
+    return tables_[static_cast<std::size_t>(program_.tables.tab())]->grid();
 }
 
-void FormSEDoku::zeigeViewerseite()
+void FormSEDoku::showViewerPage()
 {
     QWidget& behind = program_.viewer.isInFront() ? *FrmDokuSmartView_Doku_ : *FrmDokuSmartView_SmartView_;
     QWidget& front = program_.viewer.isInFront() ? *FrmDokuSmartView_SmartView_ : *FrmDokuSmartView_Doku_;
@@ -223,18 +223,18 @@ void FormSEDoku::zeigeViewerseite()
 
 void FormSEDoku::refreshRows()
 {
-    for (auto* tabelle : tabellen_)
-        tabelle->zeigen();
+    for (auto* table : tables_)
+        table->refresh();
 }
 
-void FormSEDoku::zeigeLinks()
+void FormSEDoku::showLeft()
 {
-    links_->zeigen();
+    left_->refresh();
 }
 
-void FormSEDoku::zeigeOben()
+void FormSEDoku::showAbove()
 {
-    oben_->zeigen();
+    above_->refresh();
 }
 
 } // namespace quelvarn

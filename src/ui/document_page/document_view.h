@@ -9,13 +9,13 @@ class QTabWidget;
 
 namespace quelvarn {
 
-class Infobereich;
-class KurzLabel;
-class LinkeLeistenansicht;
-class ObereLeistenansicht;
+class InfoArea;
+class ShortLabel;
+class LeftBarView;
+class TopBarView;
 class QtViewer;
 class StatusBarDatei;
-class Tabellenansicht;
+class TableView;
 struct Program;
 
 // The document page: tables with their property trees on the left, one information page on the right.
@@ -26,22 +26,22 @@ class FormSEDoku : public QWidget
 public:
     FormSEDoku(Program& program, QtViewer& viewer);
 
-    void zeigen();
+    void refresh();
     void refreshRows(); // The tables with their trees alone.
     // The bar at the left with its panels alone.
-    void zeigeLinks();
+    void showLeft();
     // The bar over the tables with the list of favourites alone.
-    void zeigeOben();
+    void showAbove();
 
 private:
-    QWidget* neueKopfzeile();
-    QWidget* neueLeiste();
-    QWidget* neueMitte();
-    QWidget* neueTabellenseite();
-    QTabWidget* neueReiter();
-    void baueTasten();
-    void zeigeReiter();
-    void zeigeViewerseite();
+    QWidget* newHeadingRow();
+    QWidget* newBar();
+    QWidget* newMiddle();
+    QWidget* newTablePage();
+    QTabWidget* newTabs();
+    void buildShortcuts();
+    void showTab();
+    void showViewerPage();
     // What the keyboard is for: the table, or the viewer in its place.
     QWidget& mainControl() const;
 
@@ -49,13 +49,13 @@ private:
     QtViewer& viewer_;
     QWidget* FrmDokuSmartView_Doku_ = nullptr;
     QWidget* FrmDokuSmartView_SmartView_ = nullptr;
-    KurzLabel* LabelSEDoku_;
-    KurzLabel* LblZugriffSEDoku_;
-    ObereLeistenansicht* oben_;
-    LinkeLeistenansicht* links_;
+    ShortLabel* LabelSEDoku_;
+    ShortLabel* LblZugriffSEDoku_;
+    TopBarView* above_;
+    LeftBarView* left_;
     QTabWidget* SSTabDGDoku_;
-    std::vector<Tabellenansicht*> tabellen_;
-    Infobereich* info_;
+    std::vector<TableView*> tables_;
+    InfoArea* info_;
     StatusBarDatei* status_;
 };
 

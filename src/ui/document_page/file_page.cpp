@@ -15,69 +15,68 @@ namespace quelvarn {
 
 namespace {
 
-struct Zeile
+struct Row
 {
-    const char* kopf;
-    std::string DateiSeite::*feld;
+    const char* heading;
+    std::string FileProperties::*field;
 };
 
 // LblDat(0) is the first caption, LblDat(1) its value, and so on.
-constexpr std::array<Zeile, 6> ZEILEN{{
-    {"Name", &DateiSeite::Name},
-    {"Ordner", &DateiSeite::Ordner},
-    {"Größe", &DateiSeite::Groesse},
-    {"Erstellt", &DateiSeite::Erstellt},
-    {"Geändert", &DateiSeite::Geaendert},
-    {"Letzter Zugriff", &DateiSeite::Zugriff},
+constexpr std::array<Row, 6> ROWS{{
+    {"Name", &FileProperties::name},
+    {"Ordner", &FileProperties::folder},
+    {"Größe", &FileProperties::size},
+    {"Erstellt", &FileProperties::created},
+    {"Geändert", &FileProperties::changed},
+    {"Letzter Zugriff", &FileProperties::accessed},
 }};
 
 } // namespace
 
-Dateiansicht::Dateiansicht(InfoPanel& modell)
-    : modell_(modell),
-      ChDatReadOnly_(neuerKasten("ChDatReadOnly", QStringLiteral("Schreibgeschützt"), &InfoPanel::setReadOnly)),
-      ChDatArchiv_(neuerKasten("ChDatArchiv", QStringLiteral("Archiv"), &InfoPanel::setArchive))
+FileView::FileView(InfoPanel& model)
+    : model_(model),
+      ChDatReadOnly_(newBox("ChDatReadOnly", QStringLiteral("Schreibgeschützt"), &InfoPanel::setReadOnly)),
+      ChDatArchiv_(newBox("ChDatArchiv", QStringLiteral("Archiv"), &InfoPanel::setArchive))
 {
-    auto* gitter = new QGridLayout(this);
-    gitter->setContentsMargins(12, 8, 12, 8);
-    gitter->setHorizontalSpacing(12);
-    gitter->setVerticalSpacing(3);
-    gitter->setColumnStretch(1, 1);
-    gitter->addWidget(beschriftung(QStringLiteral("Dateieigenschaften"), Rolle::Kopf), 0, 0, 1, 2);
-    gitter->setRowMinimumHeight(1, 5);
-    int reihe = 2;
-    for (std::size_t i = 0; i < ZEILEN.size(); ++i, ++reihe) {
-        auto* kopf = beschriftung(QString::fromUtf8(ZEILEN[i].kopf), Rolle::Beschriftung,
-                                  QStringLiteral("LblDat(%1)").arg(2 * i));
-        werte_[i] = new Umbruchlabel;
-        werte_[i]->setObjectName(QStringLiteral("LblDat(%1)").arg(2 * i + 1));
-        gitter->addWidget(kopf, reihe, 0, Qt::AlignTop);
-        gitter->addWidget(werte_[i], reihe, 1);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(12, 8, 12, 8);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(3);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(caption(QStringLiteral("Dateieigenschaften"), TextRole::Heading), 0, 0, 1, 2);
+    grid->setRowMinimumHeight(1, 5);
+    int layoutRow = 2;
+    for (std::size_t i = 0; i < ROWS.size(); ++i, ++layoutRow) {
+        auto* heading =
+            caption(QString::fromUtf8(ROWS[i].heading), TextRole::Caption, QStringLiteral("LblDat(%1)").arg(2 * i));
+        values_[i] = new WrappingLabel;
+        values_[i]->setObjectName(QStringLiteral("LblDat(%1)").arg(2 * i + 1));
+        grid->addWidget(heading, layoutRow, 0, Qt::AlignTop);
+        grid->addWidget(values_[i], layoutRow, 1);
     }
-    gitter->setRowMinimumHeight(reihe, 13);
-    gitter->addWidget(trennlinie(), reihe++, 0, 1, 2, Qt::AlignVCenter);
-    gitter->addWidget(beschriftung(QStringLiteral("Attribute"), Rolle::Beschriftung), reihe, 0);
-    gitter->addWidget(ChDatReadOnly_, reihe++, 1);
-    gitter->addWidget(ChDatArchiv_, reihe++, 1);
-    gitter->setRowStretch(reihe, 1);
+    grid->setRowMinimumHeight(layoutRow, 13);
+    grid->addWidget(separatorLine(), layoutRow++, 0, 1, 2, Qt::AlignVCenter);
+    grid->addWidget(caption(QStringLiteral("Attribute"), TextRole::Caption), layoutRow, 0);
+    grid->addWidget(ChDatReadOnly_, layoutRow++, 1);
+    grid->addWidget(ChDatArchiv_, layoutRow++, 1);
+    grid->setRowStretch(layoutRow, 1);
 }
 
-QCheckBox* Dateiansicht::neuerKasten(const char* name, const QString& text, void (InfoPanel::*setze)(bool))
+QCheckBox* FileView::newBox(const char* name, const QString& text, void (InfoPanel::*set)(bool))
 {
-    auto* kasten = neuesFeld<QCheckBox>(name, text);
-    connect(kasten, &QCheckBox::clicked, this, bewacht([&modell = modell_, setze](bool an) { (modell.*setze)(an); }));
-    return kasten;
+    auto* box = newField<QCheckBox>(name, text);
+    connect(box, &QCheckBox::clicked, this, guardedSlot([&model = model_, set](bool on) { (model.*set)(on); }));
+    return box;
 }
 
-void Dateiansicht::zeigen()
+void FileView::refresh()
 {
-    const DateiSeite& seite = modell_.file();
-    for (std::size_t i = 0; i < ZEILEN.size(); ++i)
-        werte_[i]->setText(zuQt(seite.*ZEILEN[i].feld));
-    for (const auto& [kasten, an] :
-         {std::pair(ChDatReadOnly_, seite.schreibgeschuetzt), {ChDatArchiv_, seite.archiv}}) {
-        kasten->setEnabled(seite.vorhanden);
-        zeigeGesetzt(*kasten, an);
+    const FileProperties& page = model_.file();
+    for (std::size_t i = 0; i < ROWS.size(); ++i)
+        values_[i]->setText(toQt(page.*ROWS[i].field));
+    for (const auto& [box, on] : {std::pair(ChDatReadOnly_, page.readOnly), {ChDatArchiv_, page.archive}}) {
+        box->setEnabled(page.exists);
+        showSet(*box, on);
     }
 }
 

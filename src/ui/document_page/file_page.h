@@ -12,20 +12,20 @@ namespace quelvarn {
 class InfoPanel;
 
 // The file properties page (FrmInfoDoku 10). Its labels are the array LblDat.
-class Dateiansicht : public QWidget
+class FileView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Dateiansicht(InfoPanel& modell);
+    explicit FileView(InfoPanel& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QCheckBox* neuerKasten(const char* name, const QString& text, void (InfoPanel::*setze)(bool));
+    QCheckBox* newBox(const char* name, const QString& text, void (InfoPanel::*set)(bool));
 
-    InfoPanel& modell_;
-    std::array<QLabel*, 6> werte_{};
+    InfoPanel& model_;
+    std::array<QLabel*, 6> values_{};
     QCheckBox* ChDatReadOnly_;
     QCheckBox* ChDatArchiv_;
 };

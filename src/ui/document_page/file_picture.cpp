@@ -13,49 +13,49 @@ namespace quelvarn {
 
 namespace {
 
-QString systempfad(const Detailseiten& details, const std::string& pfad)
+QString systemPath(const DetailPages& details, const std::string& documentPath)
 {
-    return pfad.empty() ? QString() : QString::fromStdU16String(details.systempfad(pfad).u16string());
+    return documentPath.empty() ? QString() : QString::fromStdU16String(details.systemPath(documentPath).u16string());
 }
 
 } // namespace
 
-Dateibildansicht::Dateibildansicht(Detailseiten& details)
-    : details_(details), PicZusDoku_(new TiffAnsicht("PicZusDoku")), OLEAppZusDoku_(new LongText("OLEAppZusDoku"))
+FilePictureView::FilePictureView(DetailPages& details)
+    : details_(details), PicZusDoku_(new TiffView("PicZusDoku")), OLEAppZusDoku_(new LongText("OLEAppZusDoku"))
 {
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->addWidget(PicZusDoku_);
-    aufbau->addWidget(OLEAppZusDoku_);
-    PicZusDoku_->nichtGeladen = [this] { details_.bildNichtGeladen(InfoSeite::ZusDoku); };
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(PicZusDoku_);
+    layout->addWidget(OLEAppZusDoku_);
+    PicZusDoku_->notLoaded = [this] { details_.pictureNotLoaded(InfoPageId::ZusDoku); };
     hide();
 }
 
-void Dateibildansicht::zeigen()
+void FilePictureView::refresh()
 {
-    const Dateibild& bild = details_.grafikZusDoku();
-    PicZusDoku_->zeige(systempfad(details_, bild.datei));
-    PicZusDoku_->setVisible(bild.art == Dateibild::Art::Bild);
-    OLEAppZusDoku_->showValue(zuQt(bild.text));
-    OLEAppZusDoku_->setVisible(bild.art == Dateibild::Art::Text);
-    setVisible(bild.art != Dateibild::Art::Keins);
+    const FilePicture& picture = details_.graphicAdditionalDocument();
+    PicZusDoku_->display(systemPath(details_, picture.file));
+    PicZusDoku_->setVisible(picture.kind == FilePicture::Kind::Picture);
+    OLEAppZusDoku_->showValue(toQt(picture.text));
+    OLEAppZusDoku_->setVisible(picture.kind == FilePicture::Kind::Text);
+    setVisible(picture.kind != FilePicture::Kind::None);
 }
 
-Tiffseite::Tiffseite(Detailseiten& details) : details_(details), bild_(new TiffAnsicht("PicTiff"))
+TiffPage::TiffPage(DetailPages& details) : details_(details), picture_(new TiffView("PicTiff"))
 {
-    auto* kopf = beschriftung(QStringLiteral("TIFF-Dokument"), Rolle::Kopf);
-    kopf->setContentsMargins(12, 8, 12, 4);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(kopf);
-    aufbau->addWidget(bild_, 1);
-    bild_->nichtGeladen = [this] { details_.bildNichtGeladen(InfoSeite::Tiff); };
+    auto* heading = caption(QStringLiteral("TIFF-Dokument"), TextRole::Heading);
+    heading->setContentsMargins(12, 8, 12, 4);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(heading);
+    layout->addWidget(picture_, 1);
+    picture_->notLoaded = [this] { details_.pictureNotLoaded(InfoPageId::Tiff); };
 }
 
-void Tiffseite::zeigen()
+void TiffPage::refresh()
 {
-    bild_->zeige(systempfad(details_, details_.tiff()));
+    picture_->display(systemPath(details_, details_.tiff()));
 }
 
 } // namespace quelvarn

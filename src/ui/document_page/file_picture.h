@@ -4,39 +4,39 @@
 
 namespace quelvarn {
 
-class Detailseiten;
+class DetailPages;
 class LongText;
-class TiffAnsicht;
+class TiffView;
 
 // An additional document shown on its page: a picture (PicZusDoku), or a text or hint (OLEAppZusDoku).
-class Dateibildansicht : public QWidget
+class FilePictureView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Dateibildansicht(Detailseiten& details);
+    explicit FilePictureView(DetailPages& details);
 
-    void zeigen();
+    void refresh();
 
 private:
-    Detailseiten& details_;
-    TiffAnsicht* PicZusDoku_;
+    DetailPages& details_;
+    TiffView* PicZusDoku_;
     LongText* OLEAppZusDoku_;
 };
 
 // The page of a drawing's TIFF.
-class Tiffseite : public QWidget
+class TiffPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Tiffseite(Detailseiten& details);
+    explicit TiffPage(DetailPages& details);
 
-    void zeigen();
+    void refresh();
 
 private:
-    Detailseiten& details_;
-    TiffAnsicht* bild_;
+    DetailPages& details_;
+    TiffView* picture_;
 };
 
 } // namespace quelvarn

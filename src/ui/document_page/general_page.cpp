@@ -17,21 +17,21 @@ namespace quelvarn {
 
 namespace {
 
-struct Zeile
+struct Row
 {
     int index; // Of the caption in LblInfo; the value is the next one.
-    const char* kopf;
-    std::string AllgemeineSeite::*feld;
+    const char* heading;
+    std::string GeneralPage::*field;
 };
 
-constexpr Zeile DOKUMENT[]{{1, "Dokumentname", &AllgemeineSeite::DokuBez}, {3, "Revision", &AllgemeineSeite::RevBez}};
-constexpr Zeile EIGENSCHAFTEN[]{
-    {10, "Titel", &AllgemeineSeite::Titel},     {12, "Thema", &AllgemeineSeite::Thema},
-    {14, "Projekt", &AllgemeineSeite::Projekt}, {16, "Material", &AllgemeineSeite::Material},
-    {18, "Firma", &AllgemeineSeite::Firma},     {20, "Kategorie", &AllgemeineSeite::Kategorie},
-    {22, "Manager", &AllgemeineSeite::Manager},
+constexpr Row DOCUMENT[]{{1, "Dokumentname", &GeneralPage::DokuBez}, {3, "Revision", &GeneralPage::RevBez}};
+constexpr Row PROPERTIES[]{
+    {10, "Titel", &GeneralPage::Titel},     {12, "Thema", &GeneralPage::Thema},
+    {14, "Projekt", &GeneralPage::Projekt}, {16, "Material", &GeneralPage::Material},
+    {18, "Firma", &GeneralPage::Firma},     {20, "Kategorie", &GeneralPage::Kategorie},
+    {22, "Manager", &GeneralPage::Manager},
 };
-constexpr Zeile DATEI[]{{30, "Dateiname", &AllgemeineSeite::Dateiname}, {32, "Pfad", &AllgemeineSeite::filename}};
+constexpr Row FILE[]{{30, "Dateiname", &GeneralPage::Dateiname}, {32, "Pfad", &GeneralPage::filename}};
 
 QString name(int index)
 {
@@ -39,136 +39,134 @@ QString name(int index)
 }
 
 // With its distances, so that it can go without leaving them.
-QWidget* trenne(QGridLayout& gitter, int zeile)
+QWidget* separate(QGridLayout& grid, int row)
 {
-    auto* platz = new QWidget;
-    auto* aufbau = new QVBoxLayout(platz);
-    aufbau->setContentsMargins(0, 6, 0, 6);
-    aufbau->addWidget(trennlinie());
-    gitter.addWidget(platz, zeile, 0, 1, 2);
-    return platz;
+    auto* place = new QWidget;
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 6, 0, 6);
+    layout->addWidget(separatorLine());
+    grid.addWidget(place, row, 0, 1, 2);
+    return place;
 }
 
 } // namespace
 
-Allgemeinansicht::Allgemeinansicht() : punkt_(new Statuspunkt), inhalt_(new QWidget)
+GeneralView::GeneralView() : point_(new StatusDot), content_(new QWidget)
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
-    auto* gitter = new QGridLayout(inhalt_);
-    gitter->setContentsMargins(12, 8, 12, 8);
-    gitter->setHorizontalSpacing(12);
-    gitter->setVerticalSpacing(3);
-    gitter->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Dokumentname")));
-    gitter->setColumnStretch(1, 1);
+    auto* grid = new QGridLayout(content_);
+    grid->setContentsMargins(12, 8, 12, 8);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(3);
+    grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Dokumentname")));
+    grid->setColumnStretch(1, 1);
 
-    int zeile = 0;
-    for (const Zeile& teil : DOKUMENT)
-        baueZeile(*gitter, zeile++, teil.index, QString::fromUtf8(teil.kopf), teil.feld);
-    setzeRolle(*werte_.front().label, Rolle::Kopf);
-    baueStatus(*gitter, zeile++);
-    trenne(*gitter, zeile++);
-    for (const Zeile& teil : EIGENSCHAFTEN)
-        baueZeile(*gitter, zeile++, teil.index, QString::fromUtf8(teil.kopf), teil.feld);
-    trenne(*gitter, zeile++);
-    baueAenderung(*gitter, zeile++, 24, QStringLiteral("Geändert"), &AllgemeineSeite::Geaendert,
-                  &AllgemeineSeite::Bearbeiter);
-    baueAenderung(*gitter, zeile++, 27, QStringLiteral("Erstellt"), &AllgemeineSeite::Erstellt,
-                  &AllgemeineSeite::Autor);
-    baueVerwendung(*gitter, zeile);
-    zeile += 3;
-    trenne(*gitter, zeile++);
-    for (const Zeile& teil : DATEI)
-        baueZeile(*gitter, zeile++, teil.index, QString::fromUtf8(teil.kopf), teil.feld);
-    gitter->setRowStretch(zeile, 1);
-    setWidget(inhalt_);
+    int row = 0;
+    for (const Row& part : DOCUMENT)
+        buildRow(*grid, row++, part.index, QString::fromUtf8(part.heading), part.field);
+    setRole(*values_.front().label, TextRole::Heading);
+    buildStatus(*grid, row++);
+    separate(*grid, row++);
+    for (const Row& part : PROPERTIES)
+        buildRow(*grid, row++, part.index, QString::fromUtf8(part.heading), part.field);
+    separate(*grid, row++);
+    buildChange(*grid, row++, 24, QStringLiteral("Geändert"), &GeneralPage::Geaendert, &GeneralPage::Bearbeiter);
+    buildChange(*grid, row++, 27, QStringLiteral("Erstellt"), &GeneralPage::Erstellt, &GeneralPage::Autor);
+    buildRelation(*grid, row);
+    row += 3;
+    separate(*grid, row++);
+    for (const Row& part : FILE)
+        buildRow(*grid, row++, part.index, QString::fromUtf8(part.heading), part.field);
+    grid->setRowStretch(row, 1);
+    setWidget(content_);
 }
 
-QLabel* Allgemeinansicht::neuerKopf(int index, const QString& text)
+QLabel* GeneralView::newHeading(int index, const QString& text)
 {
-    auto* kopf = beschriftung(text, Rolle::Beschriftung, name(index));
-    kopf->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    return kopf;
+    auto* heading = caption(text, TextRole::Caption, name(index));
+    heading->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return heading;
 }
 
-QLabel* Allgemeinansicht::neuerWert(int index, std::string AllgemeineSeite::*feld, bool umbrechen)
+QLabel* GeneralView::newValue(int index, std::string GeneralPage::*field, bool wrap)
 {
-    QLabel* wert = umbrechen ? static_cast<QLabel*>(new Umbruchlabel) : new KurzLabel;
-    wert->setObjectName(name(index));
-    if (!umbrechen)
-        wert->setContentsMargins(UEBERHANG, 0, 0, 0);
-    werte_.push_back({wert, feld});
-    return wert;
+    QLabel* value = wrap ? static_cast<QLabel*>(new WrappingLabel) : new ShortLabel;
+    value->setObjectName(name(index));
+    if (!wrap)
+        value->setContentsMargins(OVERHANG, 0, 0, 0);
+    values_.push_back({value, field});
+    return value;
 }
 
-void Allgemeinansicht::baueZeile(QGridLayout& gitter, int zeile, int index, const QString& kopf,
-                                 std::string AllgemeineSeite::*feld)
+void GeneralView::buildRow(QGridLayout& grid, int row, int index, const QString& heading,
+                           std::string GeneralPage::*field)
 {
-    gitter.addWidget(neuerKopf(index, kopf), zeile, 0);
-    gitter.addWidget(neuerWert(index + 1, feld, true), zeile, 1);
+    grid.addWidget(newHeading(index, heading), row, 0);
+    grid.addWidget(newValue(index + 1, field, true), row, 1);
 }
 
-void Allgemeinansicht::baueStatus(QGridLayout& gitter, int zeile)
+void GeneralView::buildStatus(QGridLayout& grid, int row)
 {
-    auto* reihe = new QHBoxLayout;
-    reihe->setSpacing(5);
-    reihe->addWidget(punkt_);
-    reihe->addWidget(neuerWert(6, &AllgemeineSeite::Status));
-    statusName_ = new Statustext;
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setSpacing(5);
+    layoutRow->addWidget(point_);
+    layoutRow->addWidget(newValue(6, &GeneralPage::Status));
+    statusName_ = new StatusCaption;
     statusName_->setObjectName(name(7));
-    reihe->addWidget(statusName_);
-    reihe->addStretch(1);
-    gitter.addWidget(neuerKopf(5, QStringLiteral("Status")), zeile, 0);
-    gitter.addLayout(reihe, zeile, 1);
+    layoutRow->addWidget(statusName_);
+    layoutRow->addStretch(1);
+    grid.addWidget(newHeading(5, QStringLiteral("Status")), row, 0);
+    grid.addLayout(layoutRow, row, 1);
 }
 
-void Allgemeinansicht::baueAenderung(QGridLayout& gitter, int zeile, int index, const QString& kopf,
-                                     std::string AllgemeineSeite::*datum, std::string AllgemeineSeite::*wer)
+void GeneralView::buildChange(QGridLayout& grid, int row, int index, const QString& heading,
+                              std::string GeneralPage::*date, std::string GeneralPage::*who)
 {
-    auto* reihe = new QHBoxLayout;
-    reihe->setSpacing(12);
-    reihe->addWidget(neuerWert(index + 1, datum), 0, Qt::AlignTop);
-    reihe->addWidget(neuerWert(index + 2, wer, true), 1);
-    gitter.addWidget(neuerKopf(index, kopf), zeile, 0);
-    gitter.addLayout(reihe, zeile, 1);
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setSpacing(12);
+    layoutRow->addWidget(newValue(index + 1, date), 0, Qt::AlignTop);
+    layoutRow->addWidget(newValue(index + 2, who, true), 1);
+    grid.addWidget(newHeading(index, heading), row, 0);
+    grid.addLayout(layoutRow, row, 1);
 }
 
 // What stands there, and whether anything does, depends on the kind of document.
-void Allgemeinansicht::baueVerwendung(QGridLayout& gitter, int zeile)
+void GeneralView::buildRelation(QGridLayout& grid, int row)
 {
-    const auto zeige = [&, this](int index, std::string AllgemeineSeite::*kopf, std::string AllgemeineSeite::*wert) {
-        auto* label = neuerWert(index, kopf);
+    const auto display = [&, this](int index, std::string GeneralPage::*heading, std::string GeneralPage::*value) {
+        auto* label = newValue(index, heading);
         label->setContentsMargins({});
-        setzeRolle(*label, Rolle::Beschriftung);
-        gitter.addWidget(label, zeile, 0, Qt::AlignTop);
-        gitter.addWidget(neuerWert(index + 1, wert, true), zeile++, 1);
+        setRole(*label, TextRole::Caption);
+        grid.addWidget(label, row, 0, Qt::AlignTop);
+        grid.addWidget(newValue(index + 1, value, true), row++, 1);
     };
-    verwendung_ = trenne(gitter, zeile++);
-    zeige(8, &AllgemeineSeite::kopf8, &AllgemeineSeite::wert9);
-    zeige(39, &AllgemeineSeite::kopf39, &AllgemeineSeite::wert40);
+    relation_ = separate(grid, row++);
+    display(8, &GeneralPage::heading8, &GeneralPage::value9);
+    display(39, &GeneralPage::heading39, &GeneralPage::value40);
 }
 
 // A line without a caption takes no room.
-void Allgemeinansicht::zeigeVerwendung(const AllgemeineSeite& seite)
+void GeneralView::showRelation(const GeneralPage& page)
 {
-    const std::pair<int, bool> zeilen[]{{8, !seite.kopf8.empty()}, {39, !seite.kopf39.empty()}};
-    for (const auto& [index, da] : zeilen)
-        for (const int stelle : {index, index + 1})
-            inhalt_->findChild<QLabel*>(name(stelle))->setVisible(da);
-    verwendung_->setVisible(zeilen[0].second || zeilen[1].second);
+    const std::pair<int, bool> rows[]{{8, !page.heading8.empty()}, {39, !page.heading39.empty()}};
+    for (const auto& [index, there] : rows)
+        for (const int position : {index, index + 1})
+            content_->findChild<QLabel*>(name(position))->setVisible(there);
+    relation_->setVisible(rows[0].second || rows[1].second);
 }
 
-void Allgemeinansicht::zeigen(const AllgemeineSeite& seite)
+void GeneralView::refresh(const GeneralPage& page)
 {
-    for (const Wert& wert : werte_)
-        wert.label->setText(zuQt(seite.*wert.feld));
-    zeigeVerwendung(seite);
-    punkt_->setVisible(!seite.leer);
-    punkt_->setzeFarbe(seite.statusfarbe);
-    statusName_->setText(zuQt(seite.StatusName));
-    statusName_->setzeFarbe(seite.statusfarbe);
+    for (const ShownValue& value : values_)
+        value.label->setText(toQt(page.*value.field));
+    showRelation(page);
+    point_->setVisible(!page.empty);
+    point_->setColour(page.statusColour);
+    statusName_->setText(toQt(page.StatusName));
+    statusName_->setColour(page.statusColour);
 }
 
 } // namespace quelvarn

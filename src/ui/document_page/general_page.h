@@ -9,41 +9,41 @@ class QLabel;
 
 namespace quelvarn {
 
-class Statuspunkt;
-class Statustext;
-struct AllgemeineSeite;
+class StatusDot;
+class StatusCaption;
+struct GeneralPage;
 
 // The general page (FrmInfoDoku 1): captions and values of the document. Its labels are the array LblInfo.
-class Allgemeinansicht : public QScrollArea
+class GeneralView : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    Allgemeinansicht();
+    GeneralView();
 
-    void zeigen(const AllgemeineSeite& seite);
+    void refresh(const GeneralPage& page);
 
 private:
-    struct Wert
+    struct ShownValue
     {
         QLabel* label;
-        std::string AllgemeineSeite::*feld;
+        std::string GeneralPage::*field;
     };
 
-    void baueZeile(QGridLayout& gitter, int zeile, int index, const QString& kopf, std::string AllgemeineSeite::*feld);
-    void baueStatus(QGridLayout& gitter, int zeile);
-    void baueAenderung(QGridLayout& gitter, int zeile, int index, const QString& kopf,
-                       std::string AllgemeineSeite::*datum, std::string AllgemeineSeite::*name);
-    void baueVerwendung(QGridLayout& gitter, int zeile);
-    void zeigeVerwendung(const AllgemeineSeite& seite);
-    QLabel* neuerKopf(int index, const QString& text);
-    QLabel* neuerWert(int index, std::string AllgemeineSeite::*feld, bool umbrechen = false);
+    void buildRow(QGridLayout& grid, int row, int index, const QString& heading, std::string GeneralPage::*field);
+    void buildStatus(QGridLayout& grid, int row);
+    void buildChange(QGridLayout& grid, int row, int index, const QString& heading, std::string GeneralPage::*date,
+                     std::string GeneralPage::*name);
+    void buildRelation(QGridLayout& grid, int row);
+    void showRelation(const GeneralPage& page);
+    QLabel* newHeading(int index, const QString& text);
+    QLabel* newValue(int index, std::string GeneralPage::*field, bool wrap = false);
 
-    std::vector<Wert> werte_;
-    Statuspunkt* punkt_;
-    Statustext* statusName_;
-    QWidget* inhalt_;
-    QWidget* verwendung_ = nullptr; // The line over where-used.
+    std::vector<ShownValue> values_;
+    StatusDot* point_;
+    StatusCaption* statusName_;
+    QWidget* content_;
+    QWidget* relation_ = nullptr; // The line over where-used.
 };
 
 } // namespace quelvarn

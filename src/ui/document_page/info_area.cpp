@@ -23,18 +23,18 @@ namespace quelvarn {
 namespace {
 
 // "FrmInfoDoku(1)"; the page of the sent-to list has a name of its own.
-QString rahmenname(InfoSeite seite)
+QString frameName(InfoPageId page)
 {
-    if (seite == InfoSeite::SendTo)
+    if (page == InfoPageId::SendTo)
         return QStringLiteral("FrmSendTo");
-    if (seite == InfoSeite::Tiff)
+    if (page == InfoPageId::Tiff)
         return QStringLiteral("FrmTiff");
-    return QStringLiteral("FrmInfoDoku(%1)").arg(static_cast<int>(seite));
+    return QStringLiteral("FrmInfoDoku(%1)").arg(static_cast<int>(page));
 }
 
-QLabel* neueWarnung(const char* name, const QString& text)
+QLabel* newWarning(const char* name, const QString& text)
 {
-    auto* label = beschriftung(text, Rolle::Beschriftung, QLatin1String(name));
+    auto* label = caption(text, TextRole::Caption, QLatin1String(name));
     label->setProperty("rolle", QStringLiteral("warnung"));
     label->hide();
     return label;
@@ -42,110 +42,109 @@ QLabel* neueWarnung(const char* name, const QString& text)
 
 } // namespace
 
-Infobereich::Infobereich(InfoPanel& modell, RelationActions& relationActions, QtViewer& viewer)
-    : modell_(modell), kopf_(new KurzLabel),
-      LblNichtVorhanden_(neueWarnung("LblNichtVorhanden", QStringLiteral("Datei fehlt"))),
-      LblAchtungRev_(neueWarnung("LblAchtungRev", QStringLiteral("neuere Revision"))), seiten_(new QStackedWidget),
-      leer_(new QWidget), allgemein_(new Allgemeinansicht), datei_(new Dateiansicht(modell)),
-      tiff_(new Tiffseite(modell.details())), TextKeywords_(new LongText("TextKeywords")),
-      TextComments_(new LongText("TextComments"))
+InfoArea::InfoArea(InfoPanel& model, RelationActions& relationActions, QtViewer& viewer)
+    : model_(model), heading_(new ShortLabel),
+      LblNichtVorhanden_(newWarning("LblNichtVorhanden", QStringLiteral("Datei fehlt"))),
+      LblAchtungRev_(newWarning("LblAchtungRev", QStringLiteral("neuere Revision"))), pages_(new QStackedWidget),
+      empty_(new QWidget), general_(new GeneralView), file_(new FileView(model)), tiff_(new TiffPage(model.details())),
+      TextKeywords_(new LongText("TextKeywords")), TextComments_(new LongText("TextComments"))
 {
-    baueSeiten(relationActions, viewer);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(neuerKopf());
-    aufbau->addWidget(seiten_, 1);
+    buildPages(relationActions, viewer);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(newHeading());
+    layout->addWidget(pages_, 1);
 }
 
-QWidget* Infobereich::neuerKopf()
+QWidget* InfoArea::newHeading()
 {
-    auto* kopf = new Streifen(Streifen::Art::Kopfzeile, "KopfInfo");
-    kopf_->setObjectName(QStringLiteral("LblInfo(0)"));
-    setzeRolle(*kopf_, Rolle::Kopf);
-    kopf->setMinimumHeight(30); // As high as the tabs beside it.
-    kopf->reihe().setContentsMargins(4, 0, 12, 0);
-    kopf->reihe().addWidget(kopf_, 1);
+    auto* heading = new Strip(Strip::Kind::HeadingRow, "KopfInfo");
+    heading_->setObjectName(QStringLiteral("LblInfo(0)"));
+    setRole(*heading_, TextRole::Heading);
+    heading->setMinimumHeight(30); // As high as the tabs beside it.
+    heading->layoutRow().setContentsMargins(4, 0, 12, 0);
+    heading->layoutRow().addWidget(heading_, 1);
     auto* warnings = new QVBoxLayout; // One above the other: the head beside them stays whole.
     warnings->setSpacing(0);
     for (QLabel* warning : {LblNichtVorhanden_, LblAchtungRev_})
         warnings->addWidget(warning, 0, Qt::AlignRight);
-    kopf->reihe().addLayout(warnings);
-    return kopf;
+    heading->layoutRow().addLayout(warnings);
+    return heading;
 }
 
-void Infobereich::baueSeiten(RelationActions& relationActions, QtViewer& viewer)
+void InfoArea::buildPages(RelationActions& relationActions, QtViewer& viewer)
 {
-    seiten_->addWidget(leer_);
-    fuegeSeiteHinzu(InfoSeite::Allgemein, allgemein_);
-    fuegeSeiteHinzu(InfoSeite::Datei, datei_);
-    fuegeSeiteHinzu(InfoSeite::StichKomm, neueStichKommSeite());
-    for (auto* neueSeite :
-         {neueRevisionsseite, neueBenutzDefSeite, neueHauptmerkmalseite, neueZusDokuSeite, neueSendToSeite}) {
-        listen_.push_back(neueSeite(modell_));
-        fuegeSeiteHinzu(listen_.back()->seite(), listen_.back());
+    pages_->addWidget(empty_);
+    addPage(InfoPageId::General, general_);
+    addPage(InfoPageId::File, file_);
+    addPage(InfoPageId::StichKomm, newKeywordsPage());
+    for (auto* newPage :
+         {newRevisionPage, newUserDefPage, newStructureFeaturePage, newAdditionalDocumentPage, newSendToPage}) {
+        lists_.push_back(newPage(model_));
+        addPage(lists_.back()->page(), lists_.back());
     }
-    fuegeSeiteHinzu(InfoSeite::Tiff, tiff_);
-    fuegeSeiteHinzu(InfoSeite::Viewer, &viewer.platz(Ansicht::Eigenschaften));
-    for (const Verwendungsnamen& namen : VERWENDUNGSNAMEN) {
-        QWidget& vorschau = viewer.platz(verwendungsartVon(namen.seite).ansicht);
-        auto* ansicht = new Verwendungsansicht(modell_.relation(), relationActions, namen, vorschau);
-        ansicht->verlassen = [this] {
-            if (zurTabelle)
-                zurTabelle();
+    addPage(InfoPageId::Tiff, tiff_);
+    addPage(InfoPageId::Viewer, &viewer.place(ViewerPlace::Properties));
+    for (const RelationNames& names : RELATION_NAMES) {
+        QWidget& preview = viewer.place(relationKindOf(names.page).view);
+        auto* view = new RelationView(model_.relation(), relationActions, names, preview);
+        view->leave = [this] {
+            if (toTable)
+                toTable();
         };
-        verwendung_.push_back(ansicht);
-        fuegeSeiteHinzu(namen.seite, ansicht);
+        relation_.push_back(view);
+        addPage(names.page, view);
     }
 }
 
-void Infobereich::fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt)
+void InfoArea::addPage(InfoPageId page, QWidget* content)
 {
-    auto* rahmen = new QWidget;
-    rahmen->setObjectName(rahmenname(seite));
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->setContentsMargins({});
-    aufbau->addWidget(inhalt);
-    seite_[seite] = rahmen;
-    seiten_->addWidget(rahmen);
+    auto* frame = new QWidget;
+    frame->setObjectName(frameName(page));
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins({});
+    layout->addWidget(content);
+    page_[page] = frame;
+    pages_->addWidget(frame);
 }
 
-QWidget* Infobereich::neueStichKommSeite()
+QWidget* InfoArea::newKeywordsPage()
 {
-    auto* seite = new QWidget;
-    auto* aufbau = new QVBoxLayout(seite);
-    aufbau->setContentsMargins(12, 8, 12, 8);
-    aufbau->setSpacing(4);
-    aufbau->addWidget(beschriftung(QStringLiteral("Stichwörter"), Rolle::Kopf));
-    aufbau->addWidget(TextKeywords_, 1);
-    aufbau->addSpacing(4);
-    aufbau->addWidget(beschriftung(QStringLiteral("Kommentar"), Rolle::Kopf));
-    aufbau->addWidget(TextComments_, 2);
-    return seite;
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(12, 8, 12, 8);
+    layout->setSpacing(4);
+    layout->addWidget(caption(QStringLiteral("Stichwörter"), TextRole::Heading));
+    layout->addWidget(TextKeywords_, 1);
+    layout->addSpacing(4);
+    layout->addWidget(caption(QStringLiteral("Kommentar"), TextRole::Heading));
+    layout->addWidget(TextComments_, 2);
+    return page;
 }
 
-void Infobereich::zeigen()
+void InfoArea::refresh()
 {
-    zeigeKopf();
-    allgemein_->zeigen(modell_.general());
-    datei_->zeigen();
-    for (auto* ansicht : verwendung_)
-        ansicht->zeigen();
-    TextKeywords_->showValue(zuQt(modell_.keywords().TextKeywords));
-    TextComments_->showValue(zuQt(modell_.keywords().TextComments));
-    for (Listenseite* liste : listen_)
-        liste->zeigen();
-    tiff_->zeigen();
-    const auto seite = seite_.find(modell_.page());
-    seiten_->setCurrentWidget(seite != seite_.end() ? seite->second : leer_);
+    showHeading();
+    general_->refresh(model_.general());
+    file_->refresh();
+    for (auto* view : relation_)
+        view->refresh();
+    TextKeywords_->showValue(toQt(model_.keywords().TextKeywords));
+    TextComments_->showValue(toQt(model_.keywords().TextComments));
+    for (ListPage* list : lists_)
+        list->refresh();
+    tiff_->refresh();
+    const auto page = page_.find(model_.page());
+    pages_->setCurrentWidget(page != page_.end() ? page->second : empty_);
 }
 
-void Infobereich::zeigeKopf()
+void InfoArea::showHeading()
 {
-    kopf_->setText(zuQt(modell_.heading()));
-    const bool datei = modell_.page() == InfoSeite::Datei;
-    LblNichtVorhanden_->setVisible(datei ? !modell_.file().vorhanden : modell_.general().nichtVorhanden);
-    LblAchtungRev_->setVisible(modell_.general().neuereRevision);
+    heading_->setText(toQt(model_.heading()));
+    const bool file = model_.page() == InfoPageId::File;
+    LblNichtVorhanden_->setVisible(file ? !model_.file().exists : model_.general().missing);
+    LblAchtungRev_->setVisible(model_.general().newerRevision);
 }
 
 } // namespace quelvarn

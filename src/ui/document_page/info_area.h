@@ -11,49 +11,49 @@ class QStackedWidget;
 
 namespace quelvarn {
 
-class Allgemeinansicht;
-class Dateiansicht;
+class GeneralView;
+class FileView;
 class InfoPanel;
 class RelationActions;
-class KurzLabel;
-class Listenseite;
+class ShortLabel;
+class ListPage;
 class LongText;
 class QtViewer;
-class Tiffseite;
-class Verwendungsansicht;
-enum class InfoSeite : int;
+class TiffPage;
+class RelationView;
+enum class InfoPageId : int;
 
 // The right-hand side of the document page: one information page at a time under the head of the document type.
-class Infobereich : public QWidget
+class InfoArea : public QWidget
 {
     Q_OBJECT
 
 public:
-    Infobereich(InfoPanel& modell, RelationActions& relationActions, QtViewer& viewer);
+    InfoArea(InfoPanel& model, RelationActions& relationActions, QtViewer& viewer);
 
-    void zeigen();
+    void refresh();
     // A page has led to a document of a table: the keyboard goes there.
-    std::function<void()> zurTabelle;
+    std::function<void()> toTable;
 
 private:
-    QWidget* neuerKopf();
-    QWidget* neueStichKommSeite();
-    void baueSeiten(RelationActions& relationActions, QtViewer& viewer);
-    void fuegeSeiteHinzu(InfoSeite seite, QWidget* inhalt);
-    void zeigeKopf();
+    QWidget* newHeading();
+    QWidget* newKeywordsPage();
+    void buildPages(RelationActions& relationActions, QtViewer& viewer);
+    void addPage(InfoPageId page, QWidget* content);
+    void showHeading();
 
-    InfoPanel& modell_;
-    KurzLabel* kopf_;
+    InfoPanel& model_;
+    ShortLabel* heading_;
     QLabel* LblNichtVorhanden_;
     QLabel* LblAchtungRev_;
-    QStackedWidget* seiten_;
-    std::map<InfoSeite, QWidget*> seite_;
-    QWidget* leer_;
-    Allgemeinansicht* allgemein_;
-    Dateiansicht* datei_;
-    Tiffseite* tiff_;
-    std::vector<Listenseite*> listen_;
-    std::vector<Verwendungsansicht*> verwendung_;
+    QStackedWidget* pages_;
+    std::map<InfoPageId, QWidget*> page_;
+    QWidget* empty_;
+    GeneralView* general_;
+    FileView* file_;
+    TiffPage* tiff_;
+    std::vector<ListPage*> lists_;
+    std::vector<RelationView*> relation_;
     LongText* TextKeywords_;
     LongText* TextComments_;
 };

@@ -27,167 +27,167 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int HOEHE_WERTE = 120;
+constexpr int HEIGHT_VALUES = 120;
 
 } // namespace
 
-LinkeLeistenansicht::LinkeLeistenansicht(LinkeLeiste& modell, TableTabs& tabs, const TableHeading& heading)
-    : modell_(modell), tabs_(tabs), heading_(heading), ToolbarSEDok2_(neueToolbarSEDok2()),
-      FrmSuchenFiltern_(new Suchpanel(modell)), FrmFilternDatum_(new Datumspanel(modell)), favoriten_(new QMenu(this)),
-      LblFilter_(new QToolButton), FrmFilterFavo_(neuesFrmFilterFavo()),
-      DataGridFilterEigenMerk_(new Werttabelle("DataGridFilterEigenMerk")), FrmInfoFilter_(neuesFrmInfoFilter()),
-      oben_(neuesOben())
+LeftBarView::LeftBarView(LeftBar& model, TableTabs& tabs, const TableHeading& heading)
+    : model_(model), tabs_(tabs), heading_(heading), ToolbarSEDok2_(newToolbarSEDok2()),
+      FrmSuchenFiltern_(new SearchPanel(model)), FrmFilternDatum_(new DatePanel(model)), favourites_(new QMenu(this)),
+      LblFilter_(new QToolButton), FrmFilterFavo_(newFrmFilterFavo()),
+      DataGridFilterEigenMerk_(new ValueTable("DataGridFilterEigenMerk")), FrmInfoFilter_(newFrmInfoFilter()),
+      above_(newAbove())
 {
     setObjectName(QStringLiteral("RandSEDoku"));
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(3, 4, 3, 4);
-    aufbau->addWidget(ToolbarSEDok2_);
-    aufbau->addStretch(1);
-    verbindeKnoepfe();
-    baueTasten();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(3, 4, 3, 4);
+    layout->addWidget(ToolbarSEDok2_);
+    layout->addStretch(1);
+    connectButtons();
+    buildShortcuts();
 }
 
-QWidget* LinkeLeistenansicht::neuesOben()
+QWidget* LeftBarView::newAbove()
 {
-    auto* oben = new QWidget;
-    auto* aufbau = new QVBoxLayout(oben);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
+    auto* above = new QWidget;
+    auto* layout = new QVBoxLayout(above);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
     for (QWidget* panel : std::initializer_list<QWidget*>{FrmSuchenFiltern_, FrmFilternDatum_, FrmFilterFavo_})
-        aufbau->addWidget(panel);
-    return oben;
+        layout->addWidget(panel);
+    return above;
 }
 
-QWidget* LinkeLeistenansicht::neuesFrmFilterFavo()
+QWidget* LeftBarView::newFrmFilterFavo()
 {
-    auto* panel = neuesPanel("FrmFilterFavo");
-    favoriten_->setObjectName(QStringLiteral("MenuFilternFavo"));
-    connect(favoriten_, &QMenu::aboutToShow, this, bewacht([this] { fuelleFavoriten(); }));
+    auto* panel = newFramedPanel("FrmFilterFavo");
+    favourites_->setObjectName(QStringLiteral("MenuFilternFavo"));
+    connect(favourites_, &QMenu::aboutToShow, this, guardedSlot([this] { fillFavourites(); }));
     LblFilter_->setObjectName(QStringLiteral("LblFilter"));
     LblFilter_->setAccessibleName(QStringLiteral("Filterfavorit anwenden"));
     LblFilter_->setToolTip(QStringLiteral("Diesen Filter auf die Tabelle anwenden"));
     LblFilter_->setPopupMode(QToolButton::MenuButtonPopup);
-    LblFilter_->setMenu(favoriten_);
+    LblFilter_->setMenu(favourites_);
     LblFilter_->setMinimumWidth(180);
     LblFilter_->setProperty("rahmen", true);
-    connect(LblFilter_, &QToolButton::clicked, this, bewacht([this] {
-                const Sanduhr warten;
-                modell_.nutzeFavorit();
+    connect(LblFilter_, &QToolButton::clicked, this, guardedSlot([this] {
+                const BusyCursor wait;
+                model_.useFavourite();
             }));
-    auto* reihe = new QHBoxLayout(panel);
-    reihe->setContentsMargins(8, 6, 8, 6);
-    reihe->addWidget(beschriftung(QStringLiteral("Filterfavorit"), Rolle::Beschriftung));
-    reihe->addWidget(LblFilter_);
-    reihe->addStretch(1);
+    auto* layoutRow = new QHBoxLayout(panel);
+    layoutRow->setContentsMargins(8, 6, 8, 6);
+    layoutRow->addWidget(caption(QStringLiteral("Filterfavorit"), TextRole::Caption));
+    layoutRow->addWidget(LblFilter_);
+    layoutRow->addStretch(1);
     return panel;
 }
 
-QWidget* LinkeLeistenansicht::neuesFrmInfoFilter()
+QWidget* LeftBarView::newFrmInfoFilter()
 {
-    auto* panel = neuesPanel("FrmInfoFilter");
-    auto* aufbau = new QVBoxLayout(panel);
-    aufbau->setContentsMargins({});
-    aufbau->addWidget(DataGridFilterEigenMerk_);
-    panel->setFixedHeight(HOEHE_WERTE);
+    auto* panel = newFramedPanel("FrmInfoFilter");
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins({});
+    layout->addWidget(DataGridFilterEigenMerk_);
+    panel->setFixedHeight(HEIGHT_VALUES);
     return panel;
 }
 
-void LinkeLeistenansicht::beiKnopf(std::string_view schluessel, const std::function<void(bool gedrueckt)>& tue)
+void LeftBarView::atButton(std::string_view key, const std::function<void(bool pressed)>& tue)
 {
-    connect(&knopfVon(*ToolbarSEDok2_, schluessel), &QAction::triggered, this,
-            bewacht([tue](bool gedrueckt) { tue(gedrueckt); }));
+    connect(&buttonOf(*ToolbarSEDok2_, key), &QAction::triggered, this,
+            guardedSlot([tue](bool pressed) { tue(pressed); }));
 }
 
-void LinkeLeistenansicht::verbindeKnoepfe()
+void LeftBarView::connectButtons()
 {
-    beiKnopf("Suche/Filtern", [this](bool gedrueckt) {
-        modell_.zeigeSuchen(gedrueckt);
-        if (gedrueckt)
-            FrmSuchenFiltern_->nimmFokus();
+    atButton("Suche/Filtern", [this](bool pressed) {
+        model_.showSearch(pressed);
+        if (pressed)
+            FrmSuchenFiltern_->takeFocus();
     });
-    beiKnopf("Filtern Datum", [this](bool gedrueckt) { modell_.zeigeDatum(gedrueckt); });
-    beiKnopf("Filtern Favo.", [this](bool gedrueckt) { oeffneFavoriten(gedrueckt); });
-    beiKnopf("Filterwerte", [this](bool gedrueckt) { modell_.zeigeWerte(gedrueckt); });
-    beiKnopf("Zurück", [this](bool) {
-        const Sanduhr warten;
+    atButton("Filtern Datum", [this](bool pressed) { model_.showDate(pressed); });
+    atButton("Filtern Favo.", [this](bool pressed) { openFavourites(pressed); });
+    atButton("Filterwerte", [this](bool pressed) { model_.showValues(pressed); });
+    atButton("Zurück", [this](bool) {
+        const BusyCursor wait;
         tabs_.back();
     });
 }
 
-void LinkeLeistenansicht::baueTasten()
+void LeftBarView::buildShortcuts()
 {
-    auto* suchen = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
-    connect(suchen, &QShortcut::activated, this, bewacht([this] {
-                modell_.zeigeSuchen(true);
-                FrmSuchenFiltern_->nimmFokus();
+    auto* search = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+    connect(search, &QShortcut::activated, this, guardedSlot([this] {
+                model_.showSearch(true);
+                FrmSuchenFiltern_->takeFocus();
             }));
-    auto* weiter = new QShortcut(QKeySequence(Qt::Key_F3), this);
-    connect(weiter, &QShortcut::activated, this, bewacht([this] {
-                modell_.zeigeSuchen(true);
-                FrmSuchenFiltern_->weitersuchen();
+    auto* further = new QShortcut(QKeySequence(Qt::Key_F3), this);
+    connect(further, &QShortcut::activated, this, guardedSlot([this] {
+                model_.showSearch(true);
+                FrmSuchenFiltern_->searchOn();
             }));
 }
 
-void LinkeLeistenansicht::oeffneFavoriten(bool gedrueckt)
+void LeftBarView::openFavourites(bool pressed)
 {
-    if (!gedrueckt)
-        return modell_.schliesseFavoriten();
-    if (!modell_.zeigeFavoriten())
+    if (!pressed)
+        return model_.closeFavourites();
+    if (!model_.showFavourites())
         return;
-    QWidget* knopf = ToolbarSEDok2_->widgetForAction(&knopfVon(*ToolbarSEDok2_, "Filtern Favo."));
-    favoriten_->popup(knopf->mapToGlobal(knopf->rect().topRight()));
+    QWidget* button = ToolbarSEDok2_->widgetForAction(&buttonOf(*ToolbarSEDok2_, "Filtern Favo."));
+    favourites_->popup(button->mapToGlobal(button->rect().topRight()));
 }
 
-void LinkeLeistenansicht::fuelleFavoriten()
+void LeftBarView::fillFavourites()
 {
-    favoriten_->clear();
-    for (const std::string& name : modell_.favoritennamen()) {
-        QAction* eintrag = favoriten_->addAction(asCaption(zuQt(name)));
-        connect(eintrag, &QAction::triggered, this, bewacht([this, name] {
-                    favoriten_->close();
-                    modell_.waehleFavorit(name);
+    favourites_->clear();
+    for (const std::string& name : model_.favouriteNames()) {
+        QAction* entry = favourites_->addAction(asCaption(toQt(name)));
+        connect(entry, &QAction::triggered, this, guardedSlot([this, name] {
+                    favourites_->close();
+                    model_.chooseFavourite(name);
                 }));
     }
 }
 
-void LinkeLeistenansicht::zeigen()
+void LeftBarView::refresh()
 {
-    FrmSuchenFiltern_->setVisible(modell_.zeigtSuchen());
-    FrmFilternDatum_->setVisible(modell_.zeigtDatum());
-    FrmFilterFavo_->setVisible(modell_.zeigtFavorit());
-    FrmInfoFilter_->setVisible(modell_.zeigtWerte());
-    if (modell_.zeigtSuchen())
-        FrmSuchenFiltern_->zeigen();
-    if (modell_.zeigtDatum())
-        FrmFilternDatum_->zeigen();
-    LblFilter_->setText(asCaption(zuQt(modell_.LblFilter())));
-    DataGridFilterEigenMerk_->zeilen().zeige(modell_.gezeigteWerte());
-    zeigeKnoepfe();
-    zeigeZurueck();
+    FrmSuchenFiltern_->setVisible(model_.showsSearch());
+    FrmFilternDatum_->setVisible(model_.showsDate());
+    FrmFilterFavo_->setVisible(model_.showsFavourite());
+    FrmInfoFilter_->setVisible(model_.showsValues());
+    if (model_.showsSearch())
+        FrmSuchenFiltern_->refresh();
+    if (model_.showsDate())
+        FrmFilternDatum_->refresh();
+    LblFilter_->setText(asCaption(toQt(model_.LblFilter())));
+    DataGridFilterEigenMerk_->rows().display(model_.shownValues());
+    showButtons();
+    showBack();
 }
 
-void LinkeLeistenansicht::zeigeKnoepfe()
+void LeftBarView::showButtons()
 {
-    knopfVon(*ToolbarSEDok2_, "Suche/Filtern").setChecked(modell_.zeigtSuchen());
-    knopfVon(*ToolbarSEDok2_, "Filtern Datum").setChecked(modell_.zeigtDatum());
-    knopfVon(*ToolbarSEDok2_, "Filtern Favo.").setChecked(modell_.zeigtFavorit());
-    QAction& werte = knopfVon(*ToolbarSEDok2_, "Filterwerte");
-    werte.setChecked(modell_.zeigtWerte());
-    const QString text = zuQt(modell_.knopfWerte());
-    if (werte.toolTip() == text)
+    buttonOf(*ToolbarSEDok2_, "Suche/Filtern").setChecked(model_.showsSearch());
+    buttonOf(*ToolbarSEDok2_, "Filtern Datum").setChecked(model_.showsDate());
+    buttonOf(*ToolbarSEDok2_, "Filtern Favo.").setChecked(model_.showsFavourite());
+    QAction& values = buttonOf(*ToolbarSEDok2_, "Filterwerte");
+    values.setChecked(model_.showsValues());
+    const QString text = toQt(model_.valuesButton());
+    if (values.toolTip() == text)
         return;
-    werte.setText(text);
-    werte.setToolTip(text);
+    values.setText(text);
+    values.setToolTip(text);
 }
 
-void LinkeLeistenansicht::zeigeZurueck()
+void LeftBarView::showBack()
 {
-    if (filterKnopf_ == heading_.showsFilterButton()) // A new icon makes the whole page lay itself out again.
+    if (filterButton_ == heading_.showsFilterButton()) // A new icon makes the whole page lay itself out again.
         return;
-    filterKnopf_ = heading_.showsFilterButton();
-    QAction& knopf = knopfVon(*ToolbarSEDok2_, "Zurück");
-    knopf.setToolTip(zuQt(heading_.backTip()));
-    knopf.setIcon(symbol(heading_.showsFilterButton() ? "filter-lift" : "first"));
+    filterButton_ = heading_.showsFilterButton();
+    QAction& button = buttonOf(*ToolbarSEDok2_, "Zurück");
+    button.setToolTip(toQt(heading_.backTip()));
+    button.setIcon(icon(heading_.showsFilterButton() ? "filter-lift" : "first"));
 }
 
 } // namespace quelvarn

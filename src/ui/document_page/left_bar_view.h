@@ -12,50 +12,50 @@ class QToolButton;
 
 namespace quelvarn {
 
-class Datumspanel;
-class LinkeLeiste;
+class DatePanel;
+class LeftBar;
 class TableHeading;
 class TableTabs;
-class Suchpanel;
-class Werttabelle;
+class SearchPanel;
+class ValueTable;
 
 // The bar at the left of the tables, with the panels that its buttons bring up over and under them.
-class LinkeLeistenansicht : public QFrame
+class LeftBarView : public QFrame
 {
     Q_OBJECT
 
 public:
-    LinkeLeistenansicht(LinkeLeiste& modell, TableTabs& tabs, const TableHeading& heading);
+    LeftBarView(LeftBar& model, TableTabs& tabs, const TableHeading& heading);
 
-    void zeigen();
-    QWidget* ueberTabellen() { return oben_; }
-    QWidget* unterTabellen() { return FrmInfoFilter_; }
+    void refresh();
+    QWidget* overTables() { return above_; }
+    QWidget* belowTables() { return FrmInfoFilter_; }
 
 private:
-    QWidget* neuesOben();
-    QWidget* neuesFrmFilterFavo();
-    QWidget* neuesFrmInfoFilter();
-    void verbindeKnoepfe();
-    void baueTasten();
-    void beiKnopf(std::string_view schluessel, const std::function<void(bool gedrueckt)>& tue);
-    void oeffneFavoriten(bool gedrueckt);
-    void fuelleFavoriten();
-    void zeigeKnoepfe();
-    void zeigeZurueck();
+    QWidget* newAbove();
+    QWidget* newFrmFilterFavo();
+    QWidget* newFrmInfoFilter();
+    void connectButtons();
+    void buildShortcuts();
+    void atButton(std::string_view key, const std::function<void(bool pressed)>& tue);
+    void openFavourites(bool pressed);
+    void fillFavourites();
+    void showButtons();
+    void showBack();
 
-    LinkeLeiste& modell_;
+    LeftBar& model_;
     TableTabs& tabs_;
     const TableHeading& heading_;
     QToolBar* ToolbarSEDok2_;
-    Suchpanel* FrmSuchenFiltern_;
-    Datumspanel* FrmFilternDatum_;
-    QMenu* favoriten_;
+    SearchPanel* FrmSuchenFiltern_;
+    DatePanel* FrmFilternDatum_;
+    QMenu* favourites_;
     QToolButton* LblFilter_;
     QWidget* FrmFilterFavo_;
-    Werttabelle* DataGridFilterEigenMerk_;
+    ValueTable* DataGridFilterEigenMerk_;
     QWidget* FrmInfoFilter_;
-    QWidget* oben_;
-    std::optional<bool> filterKnopf_; // As shown.
+    QWidget* above_;
+    std::optional<bool> filterButton_; // As shown.
 };
 
 } // namespace quelvarn

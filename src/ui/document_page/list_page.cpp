@@ -17,58 +17,58 @@ constexpr qsizetype WHOLE_CELL_LETTERS = 600; // The grid above needs room, too.
 
 } // namespace
 
-Listenseite::Listenseite(InfoPanel& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
-                         std::vector<Gitterspalte> spalten, std::vector<int> anteile)
-    : modell_(modell), seite_(seite), gitter_(new Gitter(gitter, std::move(spalten), std::move(anteile))),
-      aufbau_(new QVBoxLayout(this))
+ListPage::ListPage(InfoPanel& model, InfoPageId page, const QString& title, std::string_view grid,
+                   std::vector<GridColumn> columns, std::vector<int> shares)
+    : model_(model), page_(page), grid_(new Grid(grid, std::move(columns), std::move(shares))),
+      layout_(new QVBoxLayout(this))
 {
-    aufbau_->setContentsMargins({});
-    aufbau_->setSpacing(0);
-    auto* kopf = beschriftung(titel, Rolle::Kopf);
-    kopf->setContentsMargins(12, 8, 12, 4);
-    aufbau_->addWidget(kopf);
-    aufbau_->addWidget(gitter_, 1);
-    gitter_->setAccessibleName(titel);
-    gitter_->gewaehlt = [this](const QModelIndex& stelle) {
-        modell_.details().zeileGewaehlt(seite_, static_cast<std::size_t>(stelle.row()));
+    layout_->setContentsMargins({});
+    layout_->setSpacing(0);
+    auto* heading = caption(title, TextRole::Heading);
+    heading->setContentsMargins(12, 8, 12, 4);
+    layout_->addWidget(heading);
+    layout_->addWidget(grid_, 1);
+    grid_->setAccessibleName(title);
+    grid_->chosen = [this](const QModelIndex& position) {
+        model_.details().rowChosen(page_, static_cast<std::size_t>(position.row()));
     };
 }
 
-QHBoxLayout& Listenseite::neueReihe()
+QHBoxLayout& ListPage::newStripRow()
 {
-    auto* reihe = new QHBoxLayout;
-    reihe->setContentsMargins(12, 8, 12, 8);
-    reihe->setSpacing(12);
-    aufbau_->addLayout(reihe);
-    return *reihe;
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setContentsMargins(12, 8, 12, 8);
+    layoutRow->setSpacing(12);
+    layout_->addLayout(layoutRow);
+    return *layoutRow;
 }
 
-void Listenseite::zeigeGanz(std::string_view feld)
+void ListPage::showWhole(std::string_view field)
 {
-    auto* ganz = new Umbruchlabel(WHOLE_CELL_LETTERS);
-    auto* reihe = new QHBoxLayout;
-    reihe->setContentsMargins(10, 6, 12, 4);
-    reihe->addWidget(ganz);
-    aufbau_->addLayout(reihe);
-    folge([this, ganz, feld] {
-        const Recordset* liste = modell_.details().liste(seite_);
-        const bool zeile = liste != nullptr && !liste->Bof() && !liste->Eof();
-        ganz->setText(zeile ? zuQt(liste->Text(feld)) : QString());
-        ganz->setVisible(!ganz->text().isEmpty());
+    auto* whole = new WrappingLabel(WHOLE_CELL_LETTERS);
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setContentsMargins(10, 6, 12, 4);
+    layoutRow->addWidget(whole);
+    layout_->addLayout(layoutRow);
+    sequence([this, whole, field] {
+        const Recordset* list = model_.details().list(page_);
+        const bool row = list != nullptr && !list->Bof() && !list->Eof();
+        whole->setText(row ? toQt(list->Text(field)) : QString());
+        whole->setVisible(!whole->text().isEmpty());
     });
 }
 
-void Listenseite::setzeOeffnen(std::function<void()> oeffnen)
+void ListPage::setOpen(std::function<void()> open)
 {
-    gitter_->geoeffnet = [oeffnen = std::move(oeffnen)](const QModelIndex& /*stelle*/) { oeffnen(); };
+    grid_->opened = [open = std::move(open)](const QModelIndex& /*position*/) { open(); };
 }
 
-void Listenseite::zeigen()
+void ListPage::refresh()
 {
-    const Detailseiten& details = modell_.details();
-    gitter_->zeige(details.liste(seite_), details.fassung());
-    for (const auto& schritt : schritte_)
-        schritt();
+    const DetailPages& details = model_.details();
+    grid_->display(details.list(page_), details.generation());
+    for (const auto& step : steps_)
+        step();
 }
 
 } // namespace quelvarn

@@ -14,36 +14,36 @@ class QVBoxLayout;
 namespace quelvarn {
 
 class InfoPanel;
-class Gitter;
-enum class InfoSeite : int;
+class Grid;
+enum class InfoPageId : int;
 
 // An information page that is a titled grid over a list of the model, with little around it.
-class Listenseite : public QWidget
+class ListPage : public QWidget
 {
     Q_OBJECT
 
 public:
     // The grid: its name, columns and their shares of the width.
-    Listenseite(InfoPanel& modell, InfoSeite seite, const QString& titel, std::string_view gitter,
-                std::vector<Gitterspalte> spalten, std::vector<int> anteile);
+    ListPage(InfoPanel& model, InfoPageId page, const QString& title, std::string_view grid,
+             std::vector<GridColumn> columns, std::vector<int> shares);
 
-    InfoSeite seite() const { return seite_; }
-    QVBoxLayout& aufbau() { return *aufbau_; }
-    QHBoxLayout& neueReihe();
+    InfoPageId page() const { return page_; }
+    QVBoxLayout& layout() { return *layout_; }
+    QHBoxLayout& newStripRow();
     // Each brings a control around the grid up to date.
-    void folge(std::function<void()> schritt) { schritte_.push_back(std::move(schritt)); }
+    void sequence(std::function<void()> step) { steps_.push_back(std::move(step)); }
     // A long cell of the current row stands under the grid as a whole.
-    void zeigeGanz(std::string_view feld);
+    void showWhole(std::string_view field);
     // What a double click on a row does.
-    void setzeOeffnen(std::function<void()> oeffnen);
-    void zeigen();
+    void setOpen(std::function<void()> open);
+    void refresh();
 
 private:
-    InfoPanel& modell_;
-    InfoSeite seite_;
-    Gitter* gitter_;
-    QVBoxLayout* aufbau_;
-    std::vector<std::function<void()>> schritte_;
+    InfoPanel& model_;
+    InfoPageId page_;
+    Grid* grid_;
+    QVBoxLayout* layout_;
+    std::vector<std::function<void()>> steps_;
 };
 
 } // namespace quelvarn

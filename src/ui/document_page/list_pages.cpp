@@ -22,125 +22,126 @@ namespace quelvarn {
 namespace {
 
 // With the hourglass, since a program or a database may take its time.
-QPushButton* neueTaste(const char* name, const QString& text, std::function<void()> tun)
+QPushButton* newPushButton(const char* name, const QString& text, std::function<void()> act)
 {
-    auto* taste = neuesFeld<QPushButton>(name, text);
-    QObject::connect(taste, &QPushButton::clicked, taste, bewacht([tun = std::move(tun)] {
-                         const Sanduhr warten;
-                         tun();
+    auto* key = newField<QPushButton>(name, text);
+    QObject::connect(key, &QPushButton::clicked, key, guardedSlot([act = std::move(act)] {
+                         const BusyCursor wait;
+                         act();
                      }));
-    return taste;
+    return key;
 }
 
-bool hatZeilen(const Detailseiten& details, InfoSeite seite)
+bool hasRows(const DetailPages& details, InfoPageId page)
 {
-    const Recordset* liste = details.liste(seite);
-    return liste != nullptr && !liste->leer();
+    const Recordset* list = details.list(page);
+    return list != nullptr && !list->empty();
 }
 
 } // namespace
 
-Listenseite* neueRevisionsseite(InfoPanel& modell)
+ListPage* newRevisionPage(InfoPanel& model)
 {
-    auto* seite = new Listenseite(
-        modell, InfoSeite::Revisionen, QStringLiteral("Revision"), "DataGridRevision",
+    auto* page = new ListPage(
+        model, InfoPageId::Revisions, QStringLiteral("Revision"), "DataGridRevision",
         {{"Revision", "RevBez"}, {"Datum", "Geaendert"}, {"Name", "Bearbeiter"}, {"Änderung", "Aenderung"}},
         {17, 19, 24, 40});
-    seite->zeigeGanz("Aenderung");
-    QHBoxLayout& reihe = seite->neueReihe();
-    constexpr std::array ANSICHTEN{std::pair("OpRevErstBearb(0)", "Erstellt"),
-                                   std::pair("OpRevErstBearb(1)", "Bearbeitet")};
-    for (std::size_t i = 0; i < ANSICHTEN.size(); ++i) {
-        auto* knopf = neuesFeld<QRadioButton>(ANSICHTEN[i].first, QLatin1String(ANSICHTEN[i].second));
-        const auto ansicht = static_cast<RevErstBearb>(i);
-        QObject::connect(knopf, &QRadioButton::clicked, knopf,
-                         bewacht([&modell, ansicht] { modell.details().setzeRevErstBearb(ansicht); }));
-        seite->folge([knopf, ansicht, &modell] { zeigeGesetzt(*knopf, modell.details().OpRevErstBearb() == ansicht); });
-        reihe.addWidget(knopf);
+    page->showWhole("Aenderung");
+    QHBoxLayout& layoutRow = page->newStripRow();
+    constexpr std::array VIEWER_PLACES{std::pair("OpRevErstBearb(0)", "Erstellt"),
+                                       std::pair("OpRevErstBearb(1)", "Bearbeitet")};
+    for (std::size_t i = 0; i < VIEWER_PLACES.size(); ++i) {
+        auto* button = newField<QRadioButton>(VIEWER_PLACES[i].first, QLatin1String(VIEWER_PLACES[i].second));
+        const auto view = static_cast<revisionFilter>(i);
+        QObject::connect(button, &QRadioButton::clicked, button,
+                         guardedSlot([&model, view] { model.details().setRevisionFilter(view); }));
+        page->sequence([button, view, &model] { showSet(*button, model.details().OpRevErstBearb() == view); });
+        layoutRow.addWidget(button);
     }
-    reihe.addStretch(1);
-    return seite;
+    layoutRow.addStretch(1);
+    return page;
 }
 
-Listenseite* neueBenutzDefSeite(InfoPanel& modell)
+ListPage* newUserDefPage(InfoPanel& model)
 {
-    auto* seite = new Listenseite(modell, InfoSeite::BenutzDef, QStringLiteral("Benutzerdef. Eigenschaften"),
-                                  "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
-    seite->zeigeGanz("Wert");
-    return seite;
+    auto* page = new ListPage(model, InfoPageId::UserDefined, QStringLiteral("Benutzerdef. Eigenschaften"),
+                              "DataGridBenutzDef", {{"Name", "Name"}, {"Wert", "Wert"}}, {40, 60});
+    page->showWhole("Wert");
+    return page;
 }
 
-Listenseite* neueHauptmerkmalseite(InfoPanel& modell)
+ListPage* newStructureFeaturePage(InfoPanel& model)
 {
-    auto* seite =
-        new Listenseite(modell, InfoSeite::Hauptmerkmale, QStringLiteral("Hauptmerkmale / -werte"), "DataGridMerkWert",
-                        {{"Bezeichn.", "Bezeichn"}, {"Inhalt", "Inhalt"}, {"Benennung", "Benennung"}}, {22, 42, 36});
-    auto* vorlage = new KurzLabel(nullptr, Qt::ElideMiddle);
-    vorlage->setObjectName(QStringLiteral("LblPfadDateiVorlage"));
-    auto* anschauen = neueTaste("CmViewVorlage", QStringLiteral("Anschauen"), [&modell] { modell.showTemplate(); });
-    QHBoxLayout& reihe = seite->neueReihe();
-    reihe.addWidget(beschriftung(QStringLiteral("Vorlage"), Rolle::Beschriftung));
-    reihe.addWidget(vorlage, 1);
-    reihe.addWidget(anschauen);
-    seite->folge([vorlage, anschauen, &modell] {
-        const std::string& pfad = modell.details().LblPfadDateiVorlage();
-        vorlage->setText(zuQt(pfad));
-        anschauen->setEnabled(!pfad.empty());
+    auto* page =
+        new ListPage(model, InfoPageId::StructureFeatures, QStringLiteral("Hauptmerkmale / -werte"), "DataGridMerkWert",
+                     {{"Bezeichn.", "Bezeichn"}, {"Inhalt", "Inhalt"}, {"Benennung", "Benennung"}}, {22, 42, 36});
+    auto* drawingTemplate = new ShortLabel(nullptr, Qt::ElideMiddle);
+    drawingTemplate->setObjectName(QStringLiteral("LblPfadDateiVorlage"));
+    auto* openInViewer =
+        newPushButton("CmViewVorlage", QStringLiteral("Anschauen"), [&model] { model.showTemplate(); });
+    QHBoxLayout& layoutRow = page->newStripRow();
+    layoutRow.addWidget(caption(QStringLiteral("Vorlage"), TextRole::Caption));
+    layoutRow.addWidget(drawingTemplate, 1);
+    layoutRow.addWidget(openInViewer);
+    page->sequence([drawingTemplate, openInViewer, &model] {
+        const std::string& documentPath = model.details().LblPfadDateiVorlage();
+        drawingTemplate->setText(toQt(documentPath));
+        openInViewer->setEnabled(!documentPath.empty());
     });
-    return seite;
+    return page;
 }
 
-Listenseite* neueZusDokuSeite(InfoPanel& modell)
+ListPage* newAdditionalDocumentPage(InfoPanel& model)
 {
-    auto* seite = new Listenseite(modell, InfoSeite::ZusDoku, QStringLiteral("Zusätzl. Dokumente"), "DataGridZusDoku",
-                                  {{"Datum/Uhrzeit", "ZusDokuDatum"},
-                                   {"Objekt ", "ZusDokuDateiname"},
-                                   {"Senden", "ZusDokuSenden"},
-                                   {"Pfad- u. Dateiname", "ZusDokufilename"}},
-                                  {33, 28, 18, 21});
-    seite->zeigeGanz("ZusDokufilename");
-    auto* info = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoZusDoku"));
+    auto* page = new ListPage(model, InfoPageId::ZusDoku, QStringLiteral("Zusätzl. Dokumente"), "DataGridZusDoku",
+                              {{"Datum/Uhrzeit", "ZusDokuDatum"},
+                               {"Objekt ", "ZusDokuDateiname"},
+                               {"Senden", "ZusDokuSenden"},
+                               {"Pfad- u. Dateiname", "ZusDokufilename"}},
+                              {33, 28, 18, 21});
+    page->showWhole("ZusDokufilename");
+    auto* info = caption({}, TextRole::Caption, QStringLiteral("LblInfoZusDoku"));
     info->setContentsMargins(12, 6, 12, 0);
-    auto* bild = new Dateibildansicht(modell.details());
-    auto* grafik = neuesFeld<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
-    QObject::connect(grafik, &QCheckBox::clicked, grafik,
-                     bewacht([&modell](bool an) { modell.details().setzeViewGrafikZusDoku(an); }));
-    auto* starten =
-        neueTaste("CmStartZusDoku", QStringLiteral("Anschauen"), [&modell] { modell.details().oeffneZusDoku(); });
-    seite->setzeOeffnen([&modell] { modell.details().oeffneZusDoku(); });
-    seite->aufbau().addWidget(info);
-    QHBoxLayout& reihe = seite->neueReihe();
-    reihe.addWidget(grafik, 1);
-    reihe.addWidget(starten);
-    seite->aufbau().addWidget(bild, 2);
-    seite->folge([=, &modell] {
-        const Detailseiten& details = modell.details();
-        const bool zeilen = hatZeilen(details, InfoSeite::ZusDoku);
-        info->setText(zuQt(details.LblInfoZusDoku()));
-        grafik->setEnabled(zeilen);
-        zeigeGesetzt(*grafik, details.ChViewGrafikZusDoku());
-        starten->setEnabled(zeilen);
-        bild->zeigen();
+    auto* picture = new FilePictureView(model.details());
+    auto* graphic = newField<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
+    QObject::connect(graphic, &QCheckBox::clicked, graphic,
+                     guardedSlot([&model](bool on) { model.details().setViewGrafikZusDoku(on); }));
+    auto* start = newPushButton("CmStartZusDoku", QStringLiteral("Anschauen"),
+                                [&model] { model.details().openAdditionalDocument(); });
+    page->setOpen([&model] { model.details().openAdditionalDocument(); });
+    page->layout().addWidget(info);
+    QHBoxLayout& layoutRow = page->newStripRow();
+    layoutRow.addWidget(graphic, 1);
+    layoutRow.addWidget(start);
+    page->layout().addWidget(picture, 2);
+    page->sequence([=, &model] {
+        const DetailPages& details = model.details();
+        const bool rows = hasRows(details, InfoPageId::ZusDoku);
+        info->setText(toQt(details.LblInfoZusDoku()));
+        graphic->setEnabled(rows);
+        showSet(*graphic, details.ChViewGrafikZusDoku());
+        start->setEnabled(rows);
+        picture->refresh();
     });
-    return seite;
+    return page;
 }
 
-Listenseite* neueSendToSeite(InfoPanel& modell)
+ListPage* newSendToPage(InfoPanel& model)
 {
-    auto* seite = new Listenseite(modell, InfoSeite::SendTo, QStringLiteral("Versendet an"), "DataGridSendTo",
-                                  {{"Datum/Uhrzeit", "SendToDatum"},
-                                   {"Versendet an", "Kennung"},
-                                   {"Auftrag / Protokoll", "OrderDateiname"},
-                                   {"Pfad- u. Dateiname Speicherort", "Orderfilename"}},
-                                  {34, 24, 22, 20});
-    seite->zeigeGanz("Orderfilename");
-    auto* oeffnen = neueTaste("CmSendTo", QStringLiteral("Öffnen"), [&modell] { modell.details().oeffneAuftrag(); });
-    seite->setzeOeffnen([&modell] { modell.details().oeffneAuftrag(); });
-    QHBoxLayout& reihe = seite->neueReihe();
-    reihe.addStretch(1);
-    reihe.addWidget(oeffnen);
-    seite->folge([oeffnen, &modell] { oeffnen->setEnabled(hatZeilen(modell.details(), InfoSeite::SendTo)); });
-    return seite;
+    auto* page = new ListPage(model, InfoPageId::SendTo, QStringLiteral("Versendet an"), "DataGridSendTo",
+                              {{"Datum/Uhrzeit", "SendToDatum"},
+                               {"Versendet an", "Kennung"},
+                               {"Auftrag / Protokoll", "OrderDateiname"},
+                               {"Pfad- u. Dateiname Speicherort", "Orderfilename"}},
+                              {34, 24, 22, 20});
+    page->showWhole("Orderfilename");
+    auto* open = newPushButton("CmSendTo", QStringLiteral("Öffnen"), [&model] { model.details().openOrder(); });
+    page->setOpen([&model] { model.details().openOrder(); });
+    QHBoxLayout& layoutRow = page->newStripRow();
+    layoutRow.addStretch(1);
+    layoutRow.addWidget(open);
+    page->sequence([open, &model] { open->setEnabled(hasRows(model.details(), InfoPageId::SendTo)); });
+    return page;
 }
 
 } // namespace quelvarn

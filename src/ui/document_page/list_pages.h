@@ -5,12 +5,12 @@ class QWidget;
 namespace quelvarn {
 
 class InfoPanel;
-class Listenseite;
+class ListPage;
 
-Listenseite* neueRevisionsseite(InfoPanel& modell);    // FrmInfoDoku 0
-Listenseite* neueBenutzDefSeite(InfoPanel& modell);    // FrmInfoDoku 2
-Listenseite* neueHauptmerkmalseite(InfoPanel& modell); // FrmInfoDoku 3
-Listenseite* neueZusDokuSeite(InfoPanel& modell);      // FrmInfoDoku 4
-Listenseite* neueSendToSeite(InfoPanel& modell);       // FrmSendTo
+ListPage* newRevisionPage(InfoPanel& model);           // FrmInfoDoku 0
+ListPage* newUserDefPage(InfoPanel& model);            // FrmInfoDoku 2
+ListPage* newStructureFeaturePage(InfoPanel& model);   // FrmInfoDoku 3
+ListPage* newAdditionalDocumentPage(InfoPanel& model); // FrmInfoDoku 4
+ListPage* newSendToPage(InfoPanel& model);             // FrmSendTo
 
 } // namespace quelvarn

@@ -25,229 +25,226 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::string_view TABELLE_TEIL = "Wechseln zur Tabelle des markierten Teils.";
-constexpr std::string_view TABELLE_MODELL = "Wechseln zur Tabelle des markierten Modells.";
-constexpr std::string_view MODELL = "Anschauen des Solid Edge-Modells";
+constexpr std::string_view TABLE_PART = "Wechseln zur Tabelle des markierten Teils.";
+constexpr std::string_view TABLE_MODEL = "Wechseln zur Tabelle des markierten Modells.";
+constexpr std::string_view MODEL = "Anschauen des Solid Edge-Modells";
 
-struct Feld
+struct Field
 {
-    const char* titel;
-    std::string AllgemeineSeite::*wert;
+    const char* title;
+    std::string GeneralPage::*value;
 };
 
 // Of a component the grid has only the file.
-constexpr std::array NAME{Feld{"Dokumentname", &AllgemeineSeite::DokuBez}, Feld{"Revision", &AllgemeineSeite::RevBez}};
-constexpr std::array FELDER{
-    Feld{"Titel", &AllgemeineSeite::Titel},           Feld{"Thema", &AllgemeineSeite::Thema},
-    Feld{"Projekt", &AllgemeineSeite::Projekt},       Feld{"Material", &AllgemeineSeite::Material},
-    Feld{"Firma", &AllgemeineSeite::Firma},           Feld{"Kategorie", &AllgemeineSeite::Kategorie},
-    Feld{"Manager", &AllgemeineSeite::Manager},       Feld{"Geändert", &AllgemeineSeite::Geaendert},
-    Feld{"Bearbeiter", &AllgemeineSeite::Bearbeiter}, Feld{"Erstellt", &AllgemeineSeite::Erstellt},
-    Feld{"Autor", &AllgemeineSeite::Autor},
+constexpr std::array NAME{Field{"Dokumentname", &GeneralPage::DokuBez}, Field{"Revision", &GeneralPage::RevBez}};
+constexpr std::array FIELDS{
+    Field{"Titel", &GeneralPage::Titel},           Field{"Thema", &GeneralPage::Thema},
+    Field{"Projekt", &GeneralPage::Projekt},       Field{"Material", &GeneralPage::Material},
+    Field{"Firma", &GeneralPage::Firma},           Field{"Kategorie", &GeneralPage::Kategorie},
+    Field{"Manager", &GeneralPage::Manager},       Field{"Geändert", &GeneralPage::Geaendert},
+    Field{"Bearbeiter", &GeneralPage::Bearbeiter}, Field{"Erstellt", &GeneralPage::Erstellt},
+    Field{"Autor", &GeneralPage::Autor},
 };
 
-std::vector<Gitterspalte> spalten(const Verwendungsart& art)
+std::vector<GridColumn> columns(const RelationKind& kind)
 {
-    const Dokumentfelder& felder = art.felder;
-    if (art.bestandteile())
-        return {{"Dateiname", felder.Dateiname}, {"Pfad- u. Dateiname", felder.filename}};
-    return {{"Dokumentname", felder.DokuBez},
-            {"Revision", felder.RevBez},
-            {"Dateiname", felder.Dateiname},
-            {"Pfad- u. Dateiname", felder.filename}};
+    const DocumentFields& fields = kind.fields;
+    if (kind.components())
+        return {{"Dateiname", fields.Dateiname}, {"Pfad- u. Dateiname", fields.filename}};
+    return {{"Dokumentname", fields.DokuBez},
+            {"Revision", fields.RevBez},
+            {"Dateiname", fields.Dateiname},
+            {"Pfad- u. Dateiname", fields.filename}};
 }
 
-std::vector<int> anteile(const Verwendungsart& art)
+std::vector<int> shares(const RelationKind& kind)
 {
-    return art.bestandteile() ? std::vector{40, 60} : std::vector{31, 18, 24, 27};
+    return kind.components() ? std::vector{40, 60} : std::vector{31, 18, 24, 27};
 }
 
 } // namespace
 
-const std::array<Verwendungsnamen, 6> VERWENDUNGSNAMEN{{
-    {InfoSeite::InBaugruppe, "", "InfoAssembDG", "TlbPartInAssemb", "Anschauen Baugruppe", TABELLE_TEIL,
-     "SVPEnthaltenIn", "LblInfoAssemb", 0},
-    {InfoSeite::InZeichnung, "", "InfoDraftDG", "TlbModellInDraft", "Anschauen Zeichnung.", TABELLE_TEIL,
-     "SVDEnthaltenIn", "LblInfoDraft", 1},
-    {InfoSeite::BestehtAus, "FrmInfoBestehtAus", "DGAssembBestehtAus", "TlbAssembMadeOf", "Anschauen Teil.",
-     TABELLE_TEIL, "SVPartBestehtAus", "LblInfoBestehtAus", 2},
-    {InfoSeite::Enthaelt, "FrmInfoEnthaelt", "DGDraftEnthaelt", "TlbDrawingMadeOf", MODELL, TABELLE_MODELL,
+const std::array<RelationNames, 6> RELATION_NAMES{{
+    {InfoPageId::InAssembly, "", "InfoAssembDG", "TlbPartInAssemb", "Anschauen Baugruppe", TABLE_PART, "SVPEnthaltenIn",
+     "LblInfoAssemb", 0},
+    {InfoPageId::InDrawing, "", "InfoDraftDG", "TlbModellInDraft", "Anschauen Zeichnung.", TABLE_PART, "SVDEnthaltenIn",
+     "LblInfoDraft", 1},
+    {InfoPageId::ConsistsOf, "FrmInfoBestehtAus", "DGAssembBestehtAus", "TlbAssembMadeOf", "Anschauen Teil.",
+     TABLE_PART, "SVPartBestehtAus", "LblInfoBestehtAus", 2},
+    {InfoPageId::Contains, "FrmInfoEnthaelt", "DGDraftEnthaelt", "TlbDrawingMadeOf", MODEL, TABLE_MODEL,
      "SVPartEnthaelt", "LblInfoEnthaelt", 3},
-    {InfoSeite::InSchweissteil, "", "InfoAssembWeldDG", "TlbAssembInWeld", "Anschauen Baugruppe", TABELLE_TEIL,
+    {InfoPageId::InWeldment, "", "InfoAssembWeldDG", "TlbAssembInWeld", "Anschauen Baugruppe", TABLE_PART,
      "SVPEnthaltenInWeld", "LblInfoAssembWeld", 4},
-    {InfoSeite::EnthaeltBaugruppe, "", "DGWeldEnthaelt", "TlbWeldMadeOf", MODELL, TABELLE_MODELL, "SVWeldEnthaelt",
+    {InfoPageId::ContainsAssembly, "", "DGWeldEnthaelt", "TlbWeldMadeOf", MODEL, TABLE_MODEL, "SVWeldEnthaelt",
      "LblInfoWeldEnthaelt", 5},
 }};
 
-Verwendungsansicht::Verwendungsansicht(Verwendungsseite& modell, RelationActions& actions,
-                                       const Verwendungsnamen& namen, QWidget& vorschau)
-    : modell_(modell), actions_(actions), namen_(namen), art_(verwendungsartVon(namen.seite)),
-      gitter_(new Gitter(namen.gitter, spalten(art_), anteile(art_))),
-      leiste_(quelvarn::neueLeiste(namen.leiste, Knopfart::NurText)),
-      ChViewGrafik_(new QCheckBox(QStringLiteral("Graphik anzeigen"))), leer_(new QLabel), vorschau_(&vorschau)
+RelationView::RelationView(RelationPage& model, RelationActions& actions, const RelationNames& names, QWidget& preview)
+    : model_(model), actions_(actions), names_(names), kind_(relationKindOf(names.page)),
+      grid_(new Grid(names.grid, columns(kind_), shares(kind_))),
+      bar_(quelvarn::newBar(names.bar, ButtonKind::TextOnly)),
+      ChViewGrafik_(new QCheckBox(QStringLiteral("Graphik anzeigen"))), empty_(new QLabel), preview_(&preview)
 {
-    setObjectName(zuQt(namen.rahmen));
-    auto* titel = beschriftung(zuQt(art_.knoten), Rolle::Kopf);
-    titel->setContentsMargins(12, 8, 12, 4);
-    baueGitter();
-    felder_ = neueFelder();
-    vorschau_->setObjectName(zuQt(namen.vorschau));
-    vorschau_->hide();
-    leer_->setText(QStringLiteral("Keine Einträge"));
-    leer_->setAlignment(Qt::AlignCenter);
-    setzeRolle(*leer_, Rolle::Beschriftung);
+    setObjectName(toQt(names.frame));
+    auto* title = caption(toQt(kind_.node), TextRole::Heading);
+    title->setContentsMargins(12, 8, 12, 4);
+    buildGrid();
+    fields_ = newFields();
+    preview_->setObjectName(toQt(names.preview));
+    preview_->hide();
+    empty_->setText(QStringLiteral("Keine Einträge"));
+    empty_->setAlignment(Qt::AlignCenter);
+    setRole(*empty_, TextRole::Caption);
 
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(titel);
-    aufbau->addWidget(gitter_, 3);
-    aufbau->addWidget(leer_, 3);
-    aufbau->addWidget(neueLeiste());
-    aufbau->addWidget(felder_, 4);
-    aufbau->addWidget(vorschau_, 4);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(title);
+    layout->addWidget(grid_, 3);
+    layout->addWidget(empty_, 3);
+    layout->addWidget(newBar());
+    layout->addWidget(fields_, 4);
+    layout->addWidget(preview_, 4);
 }
 
-void Verwendungsansicht::baueGitter()
+void RelationView::buildGrid()
 {
-    gitter_->setAccessibleName(zuQt(art_.knoten));
-    gitter_->gewaehlt = [this](const QModelIndex& stelle) {
-        modell_.zeileGewaehlt(static_cast<std::size_t>(stelle.row()));
+    grid_->setAccessibleName(toQt(kind_.node));
+    grid_->chosen = [this](const QModelIndex& position) { model_.rowChosen(static_cast<std::size_t>(position.row())); };
+    grid_->opened = [this](const QModelIndex&) { perform([this] { actions_.open(); }); };
+    grid_->entered = [this](const QModelIndex&) { perform([this] { actions_.goToTable(); }); };
+}
+
+QAction* RelationView::addButton(std::string_view key, std::string_view caption, std::string_view tip,
+                                 const std::function<void()>& operation)
+{
+    auto* button = addBarButton(*bar_, {key, caption, tip, ""});
+    connect(button, &QAction::triggered, this, guardedSlot([this, operation] { perform(operation); }));
+    return button;
+}
+
+QWidget* RelationView::newBar()
+{
+    openInViewer_ = addButton("Anschauen", "Anschauen", names_.tipView, [this] { model_.openInViewer(); });
+    addButton("Pfad in ZwSp", "   Pfad in ZwSp", "Pfad-/Dateiname in Zwischenspeicher.",
+              [this] { model_.pathToClipboard(); });
+    addButton("Zu Favoriten", "Zu Favoriten", "Zu Favoriten hinzufügen.", [this] { actions_.addToFavourites(); });
+    addButton("Wechseln zu", "Wechseln zu", names_.tipSwitch, [this] { actions_.goToTable(); });
+    bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bar_->setProperty("schmal", true);
+    ChViewGrafik_->setObjectName(QStringLiteral("ChViewGrafik(%1)").arg(names_.graphic));
+    connect(ChViewGrafik_, &QCheckBox::clicked, this, guardedSlot([this](bool set) { model_.setGraphic(set); }));
+
+    auto* below = new QWidget;
+    auto* layout = new QVBoxLayout(below);
+    layout->setContentsMargins(0, 4, 0, 4);
+    layout->setSpacing(2);
+    layout->addWidget(bar_);
+    auto* graphic = new QHBoxLayout;
+    graphic->setContentsMargins(8, 0, 8, 0);
+    graphic->addWidget(ChViewGrafik_);
+    layout->addLayout(graphic);
+    return below;
+}
+
+QWidget* RelationView::newFields()
+{
+    auto* content = new QWidget;
+    auto* grid = new QGridLayout(content);
+    grid->setContentsMargins(12, 4, 12, 8);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(2);
+    grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Dokumentname")));
+    grid->setColumnStretch(1, 1);
+    int row = 0;
+    const auto add = [&](const Field& field) {
+        auto* heading = caption(QString::fromUtf8(field.title), TextRole::Caption);
+        heading->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        auto* value = new WrappingLabel;
+        value->setObjectName(QStringLiteral("%1(%2)").arg(toQt(names_.fields)).arg(row));
+        grid->addWidget(heading, row, 0);
+        grid->addWidget(value, row++, 1);
+        values_.push_back({value, field.value});
     };
-    gitter_->geoeffnet = [this](const QModelIndex&) { bediene([this] { actions_.open(); }); };
-    gitter_->eingegeben = [this](const QModelIndex&) { bediene([this] { actions_.goToTable(); }); };
+    buildStatus(*grid, row++);
+    if (kind_.components())
+        std::ranges::for_each(NAME, add);
+    std::ranges::for_each(FIELDS, add);
+    grid->setRowStretch(row, 1);
+
+    auto* scrollArea = new QScrollArea;
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrollArea->setFocusPolicy(Qt::NoFocus);
+    scrollArea->setWidget(content);
+    return scrollArea;
 }
 
-QAction* Verwendungsansicht::fuegeKnopf(std::string_view schluessel, std::string_view beschriftung,
-                                        std::string_view tipp, const std::function<void()>& operation)
+void RelationView::buildStatus(QGridLayout& grid, int row)
 {
-    auto* knopf = fuegeKnopfHinzu(*leiste_, {schluessel, beschriftung, tipp, ""});
-    connect(knopf, &QAction::triggered, this, bewacht([this, operation] { bediene(operation); }));
-    return knopf;
+    point_ = new StatusDot;
+    statusName_ = new StatusCaption;
+    statusName_->setObjectName(toQt(names_.fields) + QStringLiteral("Status"));
+    auto* number = new ShortLabel;
+    number->setObjectName(QStringLiteral("%1(%2)").arg(toQt(names_.fields)).arg(row));
+    values_.push_back({number, &GeneralPage::Status});
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setSpacing(5);
+    layoutRow->setContentsMargins(OVERHANG, 0, 0, 0);
+    layoutRow->addWidget(point_);
+    layoutRow->addWidget(number);
+    layoutRow->addWidget(statusName_);
+    layoutRow->addStretch(1);
+    grid.addWidget(caption(QStringLiteral("Status"), TextRole::Caption), row, 0);
+    grid.addLayout(layoutRow, row, 1);
 }
 
-QWidget* Verwendungsansicht::neueLeiste()
+bool RelationView::isInFront() const
 {
-    anschauen_ = fuegeKnopf("Anschauen", "Anschauen", namen_.tippAnschauen, [this] { modell_.anschauen(); });
-    fuegeKnopf("Pfad in ZwSp", "   Pfad in ZwSp", "Pfad-/Dateiname in Zwischenspeicher.",
-               [this] { modell_.pfadInZwSp(); });
-    fuegeKnopf("Zu Favoriten", "Zu Favoriten", "Zu Favoriten hinzufügen.", [this] { actions_.addToFavourites(); });
-    fuegeKnopf("Wechseln zu", "Wechseln zu", namen_.tippWechseln, [this] { actions_.goToTable(); });
-    leiste_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    leiste_->setProperty("schmal", true);
-    ChViewGrafik_->setObjectName(QStringLiteral("ChViewGrafik(%1)").arg(namen_.grafik));
-    connect(ChViewGrafik_, &QCheckBox::clicked, this, bewacht([this](bool gesetzt) { modell_.setzeGrafik(gesetzt); }));
-
-    auto* unten = new QWidget;
-    auto* aufbau = new QVBoxLayout(unten);
-    aufbau->setContentsMargins(0, 4, 0, 4);
-    aufbau->setSpacing(2);
-    aufbau->addWidget(leiste_);
-    auto* grafik = new QHBoxLayout;
-    grafik->setContentsMargins(8, 0, 8, 0);
-    grafik->addWidget(ChViewGrafik_);
-    aufbau->addLayout(grafik);
-    return unten;
+    return model_.kind() == &kind_;
 }
 
-QWidget* Verwendungsansicht::neueFelder()
+void RelationView::perform(const std::function<void()>& operation)
 {
-    auto* inhalt = new QWidget;
-    auto* gitter = new QGridLayout(inhalt);
-    gitter->setContentsMargins(12, 4, 12, 8);
-    gitter->setHorizontalSpacing(12);
-    gitter->setVerticalSpacing(2);
-    gitter->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Dokumentname")));
-    gitter->setColumnStretch(1, 1);
-    int zeile = 0;
-    const auto fuege = [&](const Feld& feld) {
-        auto* kopf = beschriftung(QString::fromUtf8(feld.titel), Rolle::Beschriftung);
-        kopf->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        auto* wert = new Umbruchlabel;
-        wert->setObjectName(QStringLiteral("%1(%2)").arg(zuQt(namen_.felder)).arg(zeile));
-        gitter->addWidget(kopf, zeile, 0);
-        gitter->addWidget(wert, zeile++, 1);
-        werte_.push_back({wert, feld.wert});
-    };
-    baueStatus(*gitter, zeile++);
-    if (art_.bestandteile())
-        std::ranges::for_each(NAME, fuege);
-    std::ranges::for_each(FELDER, fuege);
-    gitter->setRowStretch(zeile, 1);
-
-    auto* rollbereich = new QScrollArea;
-    rollbereich->setFrameShape(QFrame::NoFrame);
-    rollbereich->setWidgetResizable(true);
-    rollbereich->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rollbereich->setFocusPolicy(Qt::NoFocus);
-    rollbereich->setWidget(inhalt);
-    return rollbereich;
-}
-
-void Verwendungsansicht::baueStatus(QGridLayout& gitter, int zeile)
-{
-    punkt_ = new Statuspunkt;
-    statusName_ = new Statustext;
-    statusName_->setObjectName(zuQt(namen_.felder) + QStringLiteral("Status"));
-    auto* nummer = new KurzLabel;
-    nummer->setObjectName(QStringLiteral("%1(%2)").arg(zuQt(namen_.felder)).arg(zeile));
-    werte_.push_back({nummer, &AllgemeineSeite::Status});
-    auto* reihe = new QHBoxLayout;
-    reihe->setSpacing(5);
-    reihe->setContentsMargins(UEBERHANG, 0, 0, 0);
-    reihe->addWidget(punkt_);
-    reihe->addWidget(nummer);
-    reihe->addWidget(statusName_);
-    reihe->addStretch(1);
-    gitter.addWidget(beschriftung(QStringLiteral("Status"), Rolle::Beschriftung), zeile, 0);
-    gitter.addLayout(reihe, zeile, 1);
-}
-
-bool Verwendungsansicht::istVorn() const
-{
-    return modell_.art() == &art_;
-}
-
-void Verwendungsansicht::bediene(const std::function<void()>& operation)
-{
-    const Sanduhr warten;
+    const BusyCursor wait;
     operation();
-    if (!istVorn() && verlassen)
-        verlassen();
+    if (!isInFront() && leave)
+        leave();
 }
 
-void Verwendungsansicht::zeigen()
+void RelationView::refresh()
 {
-    if (!istVorn())
-        return gitter_->zeige(nullptr, modell_.fassung());
-    const bool voll = modell_.hatZeilen();
-    gitter_->zeige(voll ? &modell_.zeilen() : nullptr, modell_.fassung());
-    gitter_->setVisible(voll);
-    leer_->setVisible(!voll);
-    for (QAction* knopf : leiste_->actions())
-        knopf->setEnabled(modell_.bedienbar());
-    ChViewGrafik_->setEnabled(voll);
-    ChViewGrafik_->setChecked(modell_.ChViewGrafik());
-    vorschau_->setVisible(modell_.zeigtVorschau());
-    felder_->setVisible(!modell_.zeigtVorschau());
-    zeigeDetails();
+    if (!isInFront())
+        return grid_->display(nullptr, model_.generation());
+    const bool full = model_.hasRows();
+    grid_->display(full ? &model_.rows() : nullptr, model_.generation());
+    grid_->setVisible(full);
+    empty_->setVisible(!full);
+    for (QAction* button : bar_->actions())
+        button->setEnabled(model_.usable());
+    ChViewGrafik_->setEnabled(full);
+    ChViewGrafik_->setChecked(model_.ChViewGrafik());
+    preview_->setVisible(model_.showsPreview());
+    fields_->setVisible(!model_.showsPreview());
+    showDetails();
 }
 
-void Verwendungsansicht::zeigeDetails()
+void RelationView::showDetails()
 {
-    const AllgemeineSeite& details = modell_.details();
-    for (const Wert& wert : werte_)
-        wert.label->setText(zuQt(details.*wert.feld));
-    punkt_->setVisible(!details.leer);
-    punkt_->setzeFarbe(details.statusfarbe);
-    statusName_->setText(zuQt(details.StatusName));
-    statusName_->setzeFarbe(details.statusfarbe);
-    const std::string_view zeichen =
-        modell_.SondertabelleNr() != 0 ? ZEICHEN_SONDERTABELLE : dokumentzeichen(modell_.filename());
-    if (zeichen == zeichen_)
+    const GeneralPage& details = model_.details();
+    for (const ShownValue& value : values_)
+        value.label->setText(toQt(details.*value.field));
+    point_->setVisible(!details.empty);
+    point_->setColour(details.statusColour);
+    statusName_->setText(toQt(details.StatusName));
+    statusName_->setColour(details.statusColour);
+    const std::string_view character =
+        model_.SondertabelleNr() != 0 ? SPECIAL_TABLE_SIGN : documentSign(model_.filename());
+    if (character == character_)
         return;
-    zeichen_ = zeichen;
-    anschauen_->setIcon(symbol(zeichen));
+    character_ = character;
+    openInViewer_->setIcon(icon(character));
 }
 
 } // namespace quelvarn

@@ -17,75 +17,74 @@ class QToolBar;
 
 namespace quelvarn {
 
-class Gitter;
+class Grid;
 class RelationActions;
-class Statuspunkt;
-class Statustext;
-class Verwendungsseite;
-struct Verwendungsart;
+class StatusDot;
+class StatusCaption;
+class RelationPage;
+struct RelationKind;
 
 // The names of the controls of a page, and what stands on them.
-struct Verwendungsnamen
+struct RelationNames
 {
-    InfoSeite seite;
-    std::string_view rahmen; // A frame of its own inside FrmInfoDoku, "" for none.
-    std::string_view gitter;
-    std::string_view leiste;
-    std::string_view tippAnschauen;
-    std::string_view tippWechseln;
-    std::string_view vorschau;
-    std::string_view felder; // The array of labels with the details of a row.
-    int grafik;              // Index in ChViewGrafik.
+    InfoPageId page;
+    std::string_view frame; // A frame of its own inside FrmInfoDoku, "" for none.
+    std::string_view grid;
+    std::string_view bar;
+    std::string_view tipView;
+    std::string_view tipSwitch;
+    std::string_view preview;
+    std::string_view fields; // The array of labels with the details of a row.
+    int graphic;             // Index in ChViewGrafik.
 };
 
-extern const std::array<Verwendungsnamen, 6> VERWENDUNGSNAMEN;
+extern const std::array<RelationNames, 6> RELATION_NAMES;
 
 // A page of composition or where-used: grid, tool bar, details of the row or its preview.
-class Verwendungsansicht : public QWidget
+class RelationView : public QWidget
 {
     Q_OBJECT
 
 public:
-    // `vorschau` is the place of the page's viewer.
-    Verwendungsansicht(Verwendungsseite& modell, RelationActions& actions, const Verwendungsnamen& namen,
-                       QWidget& vorschau);
+    // `preview` is the place of the page's viewer.
+    RelationView(RelationPage& model, RelationActions& actions, const RelationNames& names, QWidget& preview);
 
-    void zeigen();
+    void refresh();
     // The page has led to another document.
-    std::function<void()> verlassen;
+    std::function<void()> leave;
 
 private:
-    struct Wert
+    struct ShownValue
     {
         QLabel* label;
-        std::string AllgemeineSeite::*feld;
+        std::string GeneralPage::*field;
     };
 
-    void baueGitter();
-    QWidget* neueLeiste();
-    QWidget* neueFelder();
-    void baueStatus(QGridLayout& gitter, int zeile);
-    QAction* fuegeKnopf(std::string_view schluessel, std::string_view beschriftung, std::string_view tipp,
-                        const std::function<void()>& operation);
-    void bediene(const std::function<void()>& operation);
-    void zeigeDetails();
-    bool istVorn() const;
+    void buildGrid();
+    QWidget* newBar();
+    QWidget* newFields();
+    void buildStatus(QGridLayout& grid, int row);
+    QAction* addButton(std::string_view key, std::string_view caption, std::string_view tip,
+                       const std::function<void()>& operation);
+    void perform(const std::function<void()>& operation);
+    void showDetails();
+    bool isInFront() const;
 
-    Verwendungsseite& modell_;
+    RelationPage& model_;
     RelationActions& actions_;
-    const Verwendungsnamen& namen_;
-    const Verwendungsart& art_;
-    Gitter* gitter_;
-    QToolBar* leiste_;
-    QAction* anschauen_ = nullptr;
-    std::string_view zeichen_; // On "Anschauen" now.
+    const RelationNames& names_;
+    const RelationKind& kind_;
+    Grid* grid_;
+    QToolBar* bar_;
+    QAction* openInViewer_ = nullptr;
+    std::string_view character_; // On "Anschauen" now.
     QCheckBox* ChViewGrafik_;
-    QLabel* leer_;
-    std::vector<Wert> werte_;
-    Statuspunkt* punkt_ = nullptr;
-    Statustext* statusName_ = nullptr;
-    QWidget* felder_ = nullptr;
-    QWidget* vorschau_;
+    QLabel* empty_;
+    std::vector<ShownValue> values_;
+    StatusDot* point_ = nullptr;
+    StatusCaption* statusName_ = nullptr;
+    QWidget* fields_ = nullptr;
+    QWidget* preview_;
 };
 
 } // namespace quelvarn

@@ -13,80 +13,82 @@ namespace quelvarn {
 
 namespace {
 
-const std::vector<Gitterspalte> SPALTEN{{"Dokumentname", "DokuBez"},
-                                        {"Revision", "RevBez"},
-                                        {"Dateiname", "Dateiname"},
-                                        {"Pfad- und Dateiname", "filename"}};
-const std::vector<int> ANTEILE{26, 11, 24, 39};
+const std::vector<GridColumn> COLUMNS{{"Dokumentname", "DokuBez"},
+                                      {"Revision", "RevBez"},
+                                      {"Dateiname", "Dateiname"},
+                                      {"Pfad- und Dateiname", "filename"}};
+const std::vector<int> SHARES{26, 11, 24, 39};
 
 } // namespace
 
-Tabellenansicht::Tabellenansicht(Program& program, int tab)
+TableView::TableView(Program& program, int tab)
     : program_(program), tab_(tab),
-      gitter_(new Gitter(DOKUTYPEN[static_cast<std::size_t>(tab)].grid, SPALTEN, ANTEILE)),
-      baum_(new Wahlansicht<QTreeView>), knoten_(new Baummodell(this))
+      grid_(new Grid(DOCUMENT_TYPES[static_cast<std::size_t>(tab)].grid, COLUMNS, SHARES)),
+      tree_(new ChoiceView<QTreeView>), node_(new TreeModel(this))
 {
-    baueGitter();
-    baueBaum();
-    auto* teiler = new QSplitter(Qt::Vertical);
-    teiler->setObjectName(QStringLiteral("TeilerGitterBaum"));
-    teiler->setChildrenCollapsible(false);
-    teiler->addWidget(gitter_);
-    teiler->addWidget(baum_);
-    teiler->setStretchFactor(0, 5);
-    teiler->setStretchFactor(1, 3);
-    teiler->setSizes({285, 190});
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->addWidget(teiler);
+    buildGrid();
+    buildTree();
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->setObjectName(QStringLiteral("TeilerGitterBaum"));
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(grid_);
+    splitter->addWidget(tree_);
+    splitter->setStretchFactor(0, 5);
+    splitter->setStretchFactor(1, 3);
+    splitter->setSizes({285, 190});
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(splitter);
 }
 
-void Tabellenansicht::baueGitter()
+void TableView::buildGrid()
 {
-    gitter_->setAccessibleName(QStringLiteral("Dokumente"));
-    gitter_->gewaehlt = [this](const QModelIndex& stelle) {
-        program_.tabs.chooseRow(static_cast<std::size_t>(stelle.row()));
+    grid_->setAccessibleName(QStringLiteral("Dokumente"));
+    grid_->chosen = [this](const QModelIndex& position) {
+        program_.tabs.chooseRow(static_cast<std::size_t>(position.row()));
     };
-    gitter_->geoeffnet = [this](const QModelIndex&) {
-        if (geoeffnet)
-            geoeffnet();
+    grid_->opened = [this](const QModelIndex&) {
+        if (opened)
+            opened();
     };
 }
 
-void Tabellenansicht::baueBaum()
+void TableView::buildTree()
 {
-    baum_->setObjectName(zuQt(DOKUTYPEN[static_cast<std::size_t>(tab_)].baum));
-    baum_->setAccessibleName(QStringLiteral("Eigenschaften"));
-    baum_->setModel(knoten_);
-    baum_->setHeaderHidden(true);
-    baum_->setUniformRowHeights(true);
-    baum_->setExpandsOnDoubleClick(false);
-    baum_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    baum_->gewaehlt = [this](const QModelIndex& stelle) { program_.info.chooseNode(ausQt(stelle.data().toString())); };
-    baum_->geoeffnet = baum_->gewaehlt;
-    connect(baum_, &QTreeView::expanded, this, bewacht([this](const QModelIndex&) { program_.tree.unfold(); }));
-    connect(baum_, &QTreeView::collapsed, this, bewacht([this](const QModelIndex&) { program_.tree.fold(); }));
+    tree_->setObjectName(toQt(DOCUMENT_TYPES[static_cast<std::size_t>(tab_)].tree));
+    tree_->setAccessibleName(QStringLiteral("Eigenschaften"));
+    tree_->setModel(node_);
+    tree_->setHeaderHidden(true);
+    tree_->setUniformRowHeights(true);
+    tree_->setExpandsOnDoubleClick(false);
+    tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tree_->chosen = [this](const QModelIndex& position) {
+        program_.info.chooseNode(fromQt(position.data().toString()));
+    };
+    tree_->opened = tree_->chosen;
+    connect(tree_, &QTreeView::expanded, this, guardedSlot([this](const QModelIndex&) { program_.tree.unfold(); }));
+    connect(tree_, &QTreeView::collapsed, this, guardedSlot([this](const QModelIndex&) { program_.tree.fold(); }));
 }
 
-void Tabellenansicht::zeigen()
+void TableView::refresh()
 {
     const DocumentTable& table = program_.tables[tab_];
-    gitter_->zeige(table.visible().offen() ? &table.visible() : nullptr, table.generation());
-    zeigeBaum();
+    grid_->display(table.visible().open() ? &table.visible() : nullptr, table.generation());
+    showTree();
 }
 
-void Tabellenansicht::zeigeBaum()
+void TableView::showTree()
 {
-    const Eigenschaftsbaum& baum = program_.tree.tree(tab_);
-    const QSignalBlocker ohneAufklappen(baum_);
-    baum_->still([&] { knoten_->zeige(baum.wurzeln); });
-    for (int i = 0; i < knoten_->rowCount(); ++i) {
-        const QModelIndex stelle = knoten_->index(i, 0);
-        const bool offen = baum.wurzeln[static_cast<std::size_t>(i)].offen;
-        if (baum_->isExpanded(stelle) != offen)
-            baum_->setExpanded(stelle, offen);
+    const PropertyTree& tree = program_.tree.tree(tab_);
+    const QSignalBlocker withoutUnfold(tree_);
+    tree_->still([&] { node_->display(tree.roots); });
+    for (int i = 0; i < node_->rowCount(); ++i) {
+        const QModelIndex position = node_->index(i, 0);
+        const bool open = tree.roots[static_cast<std::size_t>(i)].open;
+        if (tree_->isExpanded(position) != open)
+            tree_->setExpanded(position, open);
     }
-    baum_->zeigeGewaehlt(knoten_->finde(baum.gewaehlt));
+    tree_->showChosen(node_->find(tree.chosen));
 }
 
 } // namespace quelvarn

@@ -7,33 +7,33 @@
 
 namespace quelvarn {
 
-class Baummodell;
+class TreeModel;
 struct Program;
-class Gitter;
+class Grid;
 
 // The page of one document type on the tab control: grid above, property tree below.
-class Tabellenansicht : public QWidget
+class TableView : public QWidget
 {
     Q_OBJECT
 
 public:
-    Tabellenansicht(Program& program, int tab);
+    TableView(Program& program, int tab);
 
-    void zeigen();
-    Gitter& gitter() { return *gitter_; }
+    void refresh();
+    Grid& grid() { return *grid_; }
     // A row was double-clicked, or Enter pressed on it.
-    std::function<void()> geoeffnet;
+    std::function<void()> opened;
 
 private:
-    void baueGitter();
-    void baueBaum();
-    void zeigeBaum();
+    void buildGrid();
+    void buildTree();
+    void showTree();
 
     Program& program_;
     int tab_;
-    Gitter* gitter_;
-    Wahlansicht<QTreeView>* baum_;
-    Baummodell* knoten_;
+    Grid* grid_;
+    ChoiceView<QTreeView>* tree_;
+    TreeModel* node_;
 };
 
 } // namespace quelvarn

@@ -11,7 +11,7 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<Leistenknopf, 7> OBEN{{
+constexpr std::array<BarButton, 7> ABOVE{{
     {"Neuaufbau", "Neuaufbau", "Neuaufbau der Tabelle u. Auswahlfelder", "rebuild"},
     {"Anschauen", "Anschauen", "Anschauen des aktuellen SE-Dokuments", "", true},
     {"Pfad in ZwSp", "Pfad in ZwSp", "Pfad- u. Dateiname aktuelles SE-Doku. in Zw-Spch.", ""},
@@ -21,7 +21,7 @@ constexpr std::array<Leistenknopf, 7> OBEN{{
     {"In Benutzung..", "In Benutzung..", "Dokumente In Arbeit/In Durchsicht von Benutzer(n).", "", true},
 }};
 
-constexpr std::array<Leistenknopf, 5> LINKS{{
+constexpr std::array<BarButton, 5> LINKS{{
     {"Suche/Filtern", "Suche/Filtern", "Nach Zeichenfolge suchen / filtern in Spalte...", "search", true},
     {"Filtern Datum", "Filtern Datum", "Filtern Heute / Filter zurückliegende Tage...", "date", true},
     {"Filtern Favo.", "Filtern Favo.", "Liste der gespeicherte Filterfavoriten anzeigen.", "bookmark", true},
@@ -29,49 +29,49 @@ constexpr std::array<Leistenknopf, 5> LINKS{{
     {"Zurück", "Zurück", "Zum Anfang der Tabelle", "first"},
 }};
 
-constexpr std::array<Leistenknopf, 2> AUFTRAG{{
+constexpr std::array<BarButton, 2> ORDER{{
     {"Zu Auftragslst", "Zu Auftragslst", "Aktuelles Dokument zur Auftragsliste hinzufügen", "plus"},
     {"Auftragsliste", "Auftragsliste", "Auftragsliste anzeigen", "list", true},
 }};
 
-QToolBar* neueAuftragsleiste(std::string_view name)
+QToolBar* newOrderBar(std::string_view name)
 {
-    auto* leiste = neueLeiste(name, Knopfart::TextNebenSymbol);
-    for (const Leistenknopf& knopf : AUFTRAG)
-        fuegeKnopfHinzu(*leiste, knopf)->setEnabled(false);
-    return leiste;
+    auto* bar = newBar(name, ButtonKind::TextBesideIcon);
+    for (const BarButton& button : ORDER)
+        addBarButton(*bar, button)->setEnabled(false);
+    return bar;
 }
 
 } // namespace
 
-QToolBar* neueToolbarSEDokTop()
+QToolBar* newToolbarSEDokTop()
 {
-    auto* leiste = neueLeiste("ToolbarSEDokTop", Knopfart::TextNebenSymbol);
-    for (const Leistenknopf& knopf : OBEN) {
-        if (knopf.schluessel == "Pfad in ZwSp" || knopf.schluessel == "Zu Favoriten")
-            leiste->addSeparator();
-        fuegeKnopfHinzu(*leiste, knopf);
+    auto* bar = newBar("ToolbarSEDokTop", ButtonKind::TextBesideIcon);
+    for (const BarButton& button : ABOVE) {
+        if (button.key == "Pfad in ZwSp" || button.key == "Zu Favoriten")
+            bar->addSeparator();
+        addBarButton(*bar, button);
     }
-    knopfVon(*leiste, "Neuaufbau").setShortcut(QKeySequence(Qt::Key_F5));
-    return leiste;
+    buttonOf(*bar, "Neuaufbau").setShortcut(QKeySequence(Qt::Key_F5));
+    return bar;
 }
 
-QToolBar* neueToolbarSEDok2()
+QToolBar* newToolbarSEDok2()
 {
-    auto* leiste = neueLeiste("ToolbarSEDok2", Knopfart::NurSymbol, Qt::Vertical);
-    for (const Leistenknopf& knopf : LINKS)
-        fuegeKnopfHinzu(*leiste, knopf);
-    return leiste;
+    auto* bar = newBar("ToolbarSEDok2", ButtonKind::IconOnly, Qt::Vertical);
+    for (const BarButton& button : LINKS)
+        addBarButton(*bar, button);
+    return bar;
 }
 
-QToolBar* neueToolbarSEDok3()
+QToolBar* newToolbarSEDok3()
 {
-    return neueAuftragsleiste("ToolbarSEDok3");
+    return newOrderBar("ToolbarSEDok3");
 }
 
-QToolBar* neueToolbarSEDok4()
+QToolBar* newToolbarSEDok4()
 {
-    return neueAuftragsleiste("ToolbarSEDok4");
+    return newOrderBar("ToolbarSEDok4");
 }
 
 } // namespace quelvarn

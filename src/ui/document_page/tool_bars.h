@@ -5,9 +5,9 @@ class QToolBar;
 namespace quelvarn {
 
 // The tool bars of the document page, by their names. Buttons without work are disabled.
-QToolBar* neueToolbarSEDokTop();
-QToolBar* neueToolbarSEDok2();
-QToolBar* neueToolbarSEDok3();
-QToolBar* neueToolbarSEDok4();
+QToolBar* newToolbarSEDokTop();
+QToolBar* newToolbarSEDok2();
+QToolBar* newToolbarSEDok3();
+QToolBar* newToolbarSEDok4();
 
 } // namespace quelvarn

@@ -12,41 +12,41 @@
 
 namespace quelvarn {
 
-ObereLeistenansicht::ObereLeistenansicht(ObereLeiste& modell, QObject* eltern)
-    : QObject(eltern), modell_(modell), ToolbarSEDokTop_(neueToolbarSEDokTop()),
-      FrmFavoriten_(new Favoritenpanel(modell.favoriten()))
+TopBarView::TopBarView(TopBar& model, QObject* parent)
+    : QObject(parent), model_(model), ToolbarSEDokTop_(newToolbarSEDokTop()),
+      FrmFavoriten_(new FavouritesPanel(model.favourites()))
 {
-    for (QAction* knopf : ToolbarSEDokTop_->actions())
-        connect(knopf, &QAction::triggered, this,
-                bewacht([this, knopf](bool gedrueckt) { klick(knopf->objectName(), gedrueckt); }));
+    for (QAction* button : ToolbarSEDokTop_->actions())
+        connect(button, &QAction::triggered, this,
+                guardedSlot([this, button](bool pressed) { click(button->objectName(), pressed); }));
 }
 
-void ObereLeistenansicht::klick(const QString& schluessel, bool gedrueckt)
+void TopBarView::click(const QString& key, bool pressed)
 {
-    const Sanduhr warten;
-    modell_.klick(ausQt(schluessel), gedrueckt);
-    zeigen(); // A toggle that the operation refused is up again.
-    if (FrmFavoriten_->isVisible() && gedrueckt && schluessel == QStringLiteral("Favoriten...."))
-        FrmFavoriten_->nimmFokus();
+    const BusyCursor wait;
+    model_.click(fromQt(key), pressed);
+    refresh(); // A toggle that the operation refused is up again.
+    if (FrmFavoriten_->isVisible() && pressed && key == QStringLiteral("Favoriten...."))
+        FrmFavoriten_->takeFocus();
 }
 
-void ObereLeistenansicht::zeigen()
+void TopBarView::refresh()
 {
-    for (QAction* knopf : ToolbarSEDokTop_->actions()) {
-        if (knopf->isSeparator())
+    for (QAction* button : ToolbarSEDokTop_->actions()) {
+        if (button->isSeparator())
             continue;
-        const std::string schluessel = ausQt(knopf->objectName());
-        knopf->setEnabled(modell_.bedienbar(schluessel));
-        knopf->setChecked(modell_.gedrueckt(schluessel));
+        const std::string key = fromQt(button->objectName());
+        button->setEnabled(model_.usable(key));
+        button->setChecked(model_.pressed(key));
     }
-    FrmFavoriten_->zeigen();
+    FrmFavoriten_->refresh();
 }
 
-void ObereLeistenansicht::schliesse()
+void TopBarView::close()
 {
-    for (const char* schluessel : {"Anschauen", "Favoriten...."})
-        if (modell_.gedrueckt(schluessel))
-            modell_.klick(schluessel, false);
+    for (const char* key : {"Anschauen", "Favoriten...."})
+        if (model_.pressed(key))
+            model_.click(key, false);
 }
 
 } // namespace quelvarn

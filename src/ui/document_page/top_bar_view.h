@@ -6,29 +6,29 @@ class QToolBar;
 
 namespace quelvarn {
 
-class Favoritenpanel;
-class ObereLeiste;
+class FavouritesPanel;
+class TopBar;
 
 // The bar over the tables, with the list of favourites that one of its buttons brings up.
-class ObereLeistenansicht : public QObject
+class TopBarView : public QObject
 {
     Q_OBJECT
 
 public:
-    ObereLeistenansicht(ObereLeiste& modell, QObject* eltern);
+    TopBarView(TopBar& model, QObject* parent);
 
-    void zeigen();
+    void refresh();
     // What the bar has brought up goes away.
-    void schliesse();
+    void close();
     QToolBar* ToolbarSEDokTop() { return ToolbarSEDokTop_; }
-    Favoritenpanel* FrmFavoriten() { return FrmFavoriten_; }
+    FavouritesPanel* FrmFavoriten() { return FrmFavoriten_; }
 
 private:
-    void klick(const QString& schluessel, bool gedrueckt);
+    void click(const QString& key, bool pressed);
 
-    ObereLeiste& modell_;
+    TopBar& model_;
     QToolBar* ToolbarSEDokTop_;
-    Favoritenpanel* FrmFavoriten_;
+    FavouritesPanel* FrmFavoriten_;
 };
 
 } // namespace quelvarn

@@ -10,92 +10,93 @@ namespace quelvarn {
 namespace {
 
 // An index carries the row of its parent plus one; 0 stands for a top node. So an index outlives its node.
-constexpr quintptr OHNE_ELTERN = 0;
+constexpr quintptr WITHOUT_PARENT = 0;
 
-bool gleicheKnoten(const std::vector<Knoten>& a, const std::vector<Knoten>& b)
+bool sameNodes(const std::vector<Node>& a, const std::vector<Node>& b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Knoten& x, const Knoten& y) {
-        return x.text == y.text && x.rot == y.rot && gleicheKnoten(x.kinder, y.kinder);
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Node& x, const Node& y) {
+        return x.text == y.text && x.red == y.red && sameNodes(x.children, y.children);
     });
 }
 
 } // namespace
 
-bool Baummodell::zeige(const std::vector<Knoten>& wurzeln)
+bool TreeModel::display(const std::vector<Node>& roots)
 {
-    if (gleicheKnoten(wurzeln, wurzeln_))
+    if (sameNodes(roots, roots_))
         return false;
     beginResetModel();
-    wurzeln_ = wurzeln;
+    roots_ = roots;
     endResetModel();
     return true;
 }
 
-QModelIndex Baummodell::finde(std::string_view text) const
+QModelIndex TreeModel::find(std::string_view text) const
 {
-    for (int zeile = 0; zeile < rowCount(); ++zeile) {
-        const QModelIndex wurzel = index(zeile, 0);
-        if (knoten(wurzel)->text == text)
-            return wurzel;
-        for (int kind = 0; kind < rowCount(wurzel); ++kind)
-            if (const QModelIndex stelle = index(kind, 0, wurzel); knoten(stelle)->text == text)
-                return stelle;
+    for (int row = 0; row < rowCount(); ++row) {
+        const QModelIndex root = index(row, 0);
+        if (node(root)->text == text)
+            return root;
+        for (int kind = 0; kind < rowCount(root); ++kind)
+            if (const QModelIndex position = index(kind, 0, root); node(position)->text == text)
+                return position;
     }
     return {};
 }
 
-QModelIndex Baummodell::index(int zeile, int spalte, const QModelIndex& eltern) const
+QModelIndex TreeModel::index(int row, int column, const QModelIndex& parent) const
 {
-    if (!hasIndex(zeile, spalte, eltern))
+    if (!hasIndex(row, column, parent))
         return {};
-    return createIndex(zeile, spalte, eltern.isValid() ? static_cast<quintptr>(eltern.row()) + 1 : OHNE_ELTERN);
+    return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : WITHOUT_PARENT);
 }
 
-QModelIndex Baummodell::parent(const QModelIndex& kind) const
+QModelIndex TreeModel::parent(const QModelIndex& kind) const
 {
-    if (!kind.isValid() || kind.internalId() == OHNE_ELTERN)
+    if (!kind.isValid() || kind.internalId() == WITHOUT_PARENT)
         return {};
-    return createIndex(static_cast<int>(kind.internalId()) - 1, 0, OHNE_ELTERN);
+    return createIndex(static_cast<int>(kind.internalId()) - 1, 0, WITHOUT_PARENT);
 }
 
-int Baummodell::rowCount(const QModelIndex& eltern) const
+int TreeModel::rowCount(const QModelIndex& parent) const
 {
-    if (!eltern.isValid())
-        return static_cast<int>(wurzeln_.size());
-    if (eltern.column() != 0 || eltern.internalId() != OHNE_ELTERN)
+    if (!parent.isValid())
+        return static_cast<int>(roots_.size());
+    if (parent.column() != 0 || parent.internalId() != WITHOUT_PARENT)
         return 0;
-    const Knoten* wurzel = knoten(eltern);
-    return wurzel != nullptr ? static_cast<int>(wurzel->kinder.size()) : 0;
+    const Node* root = node(parent);
+    return root != nullptr ? static_cast<int>(root->children.size()) : 0;
 }
 
-int Baummodell::columnCount(const QModelIndex& /*eltern*/) const
+int TreeModel::columnCount(const QModelIndex& /*parent*/) const
 {
     return 1;
 }
 
-const Knoten* Baummodell::knoten(const QModelIndex& stelle) const
+const Node* TreeModel::node(const QModelIndex& position) const
 {
-    const bool wurzel = stelle.internalId() == OHNE_ELTERN;
-    const auto oben = wurzel ? static_cast<std::size_t>(stelle.row()) : stelle.internalId() - 1;
-    if (!stelle.isValid() || oben >= wurzeln_.size())
+    const bool root = position.internalId() == WITHOUT_PARENT;
+    const auto above = root ? static_cast<std::size_t>(position.row()) : position.internalId() - 1;
+    if (!position.isValid() || above >= roots_.size())
         return nullptr;
-    if (wurzel)
-        return &wurzeln_[oben];
-    const auto& kinder = wurzeln_[oben].kinder;
-    return static_cast<std::size_t>(stelle.row()) < kinder.size() ? &kinder[static_cast<std::size_t>(stelle.row())]
-                                                                  : nullptr;
+    if (root)
+        return &roots_[above];
+    const auto& children = roots_[above].children;
+    return static_cast<std::size_t>(position.row()) < children.size()
+               ? &children[static_cast<std::size_t>(position.row())]
+               : nullptr;
 }
 
-QVariant Baummodell::data(const QModelIndex& stelle, int rolle) const
+QVariant TreeModel::data(const QModelIndex& position, int textRole) const
 {
-    const Knoten* eintrag = knoten(stelle);
-    if (eintrag == nullptr)
+    const Node* entry = node(position);
+    if (entry == nullptr)
         return {};
-    if (rolle == Qt::DisplayRole)
-        return zuQt(eintrag->text);
-    if (rolle == Qt::ForegroundRole && eintrag->rot)
-        return farbsatz().warnung;
-    if (rolle == Qt::ToolTipRole && eintrag->rot)
+    if (textRole == Qt::DisplayRole)
+        return toQt(entry->text);
+    if (textRole == Qt::ForegroundRole && entry->red)
+        return colourSet().warn;
+    if (textRole == Qt::ToolTipRole && entry->red)
         return QStringLiteral("Es gibt eine neuere Revision");
     return {};
 }

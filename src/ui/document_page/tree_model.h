@@ -7,7 +7,7 @@
 namespace quelvarn {
 
 // The property tree of a document for a view: top nodes and their children.
-class Baummodell : public QAbstractItemModel
+class TreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
@@ -15,19 +15,19 @@ public:
     using QAbstractItemModel::QAbstractItemModel;
 
     // True when other nodes stand there now.
-    bool zeige(const std::vector<Knoten>& wurzeln);
-    QModelIndex finde(std::string_view text) const;
+    bool display(const std::vector<Node>& roots);
+    QModelIndex find(std::string_view text) const;
 
-    QModelIndex index(int zeile, int spalte, const QModelIndex& eltern = {}) const override;
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& kind) const override;
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& position, int textRole) const override;
 
 private:
-    const Knoten* knoten(const QModelIndex& stelle) const;
+    const Node* node(const QModelIndex& position) const;
 
-    std::vector<Knoten> wurzeln_;
+    std::vector<Node> roots_;
 };
 
 } // namespace quelvarn

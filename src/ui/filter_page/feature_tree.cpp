@@ -8,112 +8,112 @@
 
 namespace quelvarn {
 
-bool Merkmalbaum::passt(const Ast& ast, const Strukturknoten& knoten)
+bool FeatureTree::fits(const Ast& ast, const StructureNode& node)
 {
-    return ast.kinder.empty() || std::equal(ast.kinder.begin(), ast.kinder.end(), knoten.kinder.begin(),
-                                            knoten.kinder.end(), [](const Ast& kind, const Strukturknoten& wie) {
-                                                return kind.wert == wie.wert && passt(kind, wie);
-                                            });
+    return ast.children.empty() || std::equal(ast.children.begin(), ast.children.end(), node.children.begin(),
+                                              node.children.end(), [](const Ast& kind, const StructureNode& pattern) {
+                                                  return kind.value == pattern.value && fits(kind, pattern);
+                                              });
 }
 
-void Merkmalbaum::fuelle(Ast& ast, const Strukturknoten& knoten)
+void FeatureTree::fill(Ast& ast, const StructureNode& node)
 {
-    ast.kinder.reserve(knoten.kinder.size());
-    for (const Strukturknoten& kind : knoten.kinder)
-        ast.kinder.push_back({&ast, static_cast<int>(ast.kinder.size()), kind.wert, kind.statuszeile, {}});
-    for (std::size_t i = 0; i < ast.kinder.size(); ++i)
-        fuelle(ast.kinder[i], knoten.kinder[i]);
+    ast.children.reserve(node.children.size());
+    for (const StructureNode& kind : node.children)
+        ast.children.push_back({&ast, static_cast<int>(ast.children.size()), kind.value, kind.statusRow, {}});
+    for (std::size_t i = 0; i < ast.children.size(); ++i)
+        fill(ast.children[i], node.children[i]);
 }
 
-void Merkmalbaum::ergaenze(Ast& ast, const Strukturknoten& knoten)
+void FeatureTree::complete(Ast& ast, const StructureNode& node)
 {
-    ast.statuszeile = knoten.statuszeile;
-    if (ast.kinder.empty() && !knoten.kinder.empty()) {
-        beginInsertRows(stelle(ast), 0, static_cast<int>(knoten.kinder.size()) - 1);
-        fuelle(ast, knoten);
+    ast.statusRow = node.statusRow;
+    if (ast.children.empty() && !node.children.empty()) {
+        beginInsertRows(position(ast), 0, static_cast<int>(node.children.size()) - 1);
+        fill(ast, node);
         endInsertRows();
         return;
     }
-    for (std::size_t i = 0; i < ast.kinder.size(); ++i)
-        ergaenze(ast.kinder[i], knoten.kinder[i]);
+    for (std::size_t i = 0; i < ast.children.size(); ++i)
+        complete(ast.children[i], node.children[i]);
 }
 
-void Merkmalbaum::zeige(const Strukturknoten& wurzel)
+void FeatureTree::display(const StructureNode& root)
 {
-    if (passt(wurzel_, wurzel))
-        return ergaenze(wurzel_, wurzel);
+    if (fits(root_, root))
+        return complete(root_, root);
     beginResetModel();
-    wurzel_ = {};
-    fuelle(wurzel_, wurzel);
+    root_ = {};
+    fill(root_, root);
     endResetModel();
 }
 
-std::vector<std::string> Merkmalbaum::pfad(const QModelIndex& stelle) const
+std::vector<std::string> FeatureTree::documentPath(const QModelIndex& position) const
 {
-    std::vector<std::string> werte;
-    for (const Ast* knoten = ast(stelle); knoten != nullptr && knoten->eltern != nullptr; knoten = knoten->eltern)
-        werte.insert(werte.begin(), knoten->wert);
-    return werte;
+    std::vector<std::string> values;
+    for (const Ast* node = ast(position); node != nullptr && node->parent != nullptr; node = node->parent)
+        values.insert(values.begin(), node->value);
+    return values;
 }
 
-QModelIndex Merkmalbaum::finde(const std::vector<std::string>& pfad) const
+QModelIndex FeatureTree::find(const std::vector<std::string>& documentPath) const
 {
-    const Ast* knoten = &wurzel_;
-    for (const std::string& wert : pfad) {
-        const auto kind = std::find_if(knoten->kinder.begin(), knoten->kinder.end(),
-                                       [&wert](const Ast& kandidat) { return kandidat.wert == wert; });
-        if (kind == knoten->kinder.end())
+    const Ast* node = &root_;
+    for (const std::string& value : documentPath) {
+        const auto kind = std::find_if(node->children.begin(), node->children.end(),
+                                       [&value](const Ast& candidate) { return candidate.value == value; });
+        if (kind == node->children.end())
             return {};
-        knoten = &*kind;
+        node = &*kind;
     }
-    return stelle(*knoten);
+    return position(*node);
 }
 
-QString Merkmalbaum::statuszeile(const QModelIndex& stelle) const
+QString FeatureTree::statusRow(const QModelIndex& position) const
 {
-    const Ast* knoten = ast(stelle);
-    return knoten != nullptr ? zuQt(knoten->statuszeile) : QString();
+    const Ast* node = ast(position);
+    return node != nullptr ? toQt(node->statusRow) : QString();
 }
 
-QModelIndex Merkmalbaum::stelle(const Ast& ast) const
+QModelIndex FeatureTree::position(const Ast& ast) const
 {
-    return createIndex(ast.zeile, 0, &ast);
+    return createIndex(ast.row, 0, &ast);
 }
 
-const Merkmalbaum::Ast* Merkmalbaum::ast(const QModelIndex& stelle) const
+const FeatureTree::Ast* FeatureTree::ast(const QModelIndex& position) const
 {
-    return static_cast<const Ast*>(stelle.constInternalPointer());
+    return static_cast<const Ast*>(position.constInternalPointer());
 }
 
-QModelIndex Merkmalbaum::index(int zeile, int spalte, const QModelIndex& eltern) const
+QModelIndex FeatureTree::index(int row, int column, const QModelIndex& parent) const
 {
-    if (!hasIndex(zeile, spalte, eltern))
+    if (!hasIndex(row, column, parent))
         return {};
-    return stelle(eltern.isValid() ? ast(eltern)->kinder[static_cast<std::size_t>(zeile)] : wurzel_);
+    return position(parent.isValid() ? ast(parent)->children[static_cast<std::size_t>(row)] : root_);
 }
 
-QModelIndex Merkmalbaum::parent(const QModelIndex& kind) const
+QModelIndex FeatureTree::parent(const QModelIndex& kind) const
 {
-    const Ast* knoten = ast(kind);
-    return knoten != nullptr && knoten->eltern != nullptr ? stelle(*knoten->eltern) : QModelIndex();
+    const Ast* node = ast(kind);
+    return node != nullptr && node->parent != nullptr ? position(*node->parent) : QModelIndex();
 }
 
-int Merkmalbaum::rowCount(const QModelIndex& eltern) const
+int FeatureTree::rowCount(const QModelIndex& parent) const
 {
-    if (!eltern.isValid())
+    if (!parent.isValid())
         return 1;
-    return eltern.column() == 0 ? static_cast<int>(ast(eltern)->kinder.size()) : 0;
+    return parent.column() == 0 ? static_cast<int>(ast(parent)->children.size()) : 0;
 }
 
-QVariant Merkmalbaum::data(const QModelIndex& stelle, int rolle) const
+QVariant FeatureTree::data(const QModelIndex& position, int textRole) const
 {
-    const Ast* knoten = ast(stelle);
-    if (knoten == nullptr)
+    const Ast* node = ast(position);
+    if (node == nullptr)
         return {};
-    if (rolle == Qt::DisplayRole)
-        return knoten == &wurzel_ ? QStringLiteral("Root") : zuQt(knoten->wert);
-    if (rolle == Qt::ToolTipRole && !knoten->statuszeile.empty())
-        return asTip(zuQt(knoten->statuszeile));
+    if (textRole == Qt::DisplayRole)
+        return node == &root_ ? QStringLiteral("Root") : toQt(node->value);
+    if (textRole == Qt::ToolTipRole && !node->statusRow.empty())
+        return asTip(toQt(node->statusRow));
     return {};
 }
 

@@ -7,10 +7,10 @@
 
 namespace quelvarn {
 
-struct Strukturknoten;
+struct StructureNode;
 
 // The tree of the structure features for a view: "Root" and what has been read below it.
-class Merkmalbaum : public QAbstractItemModel
+class FeatureTree : public QAbstractItemModel
 {
     Q_OBJECT
 
@@ -18,36 +18,36 @@ public:
     using QAbstractItemModel::QAbstractItemModel;
 
     // A level read meanwhile is added; the view keeps what is unfolded unless other nodes stand there now.
-    void zeige(const Strukturknoten& wurzel);
+    void display(const StructureNode& root);
     // The values from level C down; empty for "Root".
-    std::vector<std::string> pfad(const QModelIndex& stelle) const;
-    QModelIndex finde(const std::vector<std::string>& pfad) const;
-    QString statuszeile(const QModelIndex& stelle) const;
+    std::vector<std::string> documentPath(const QModelIndex& position) const;
+    QModelIndex find(const std::vector<std::string>& documentPath) const;
+    QString statusRow(const QModelIndex& position) const;
 
-    QModelIndex index(int zeile, int spalte, const QModelIndex& eltern = {}) const override;
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& kind) const override;
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& /*eltern*/ = {}) const override { return 1; }
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& /*parent*/ = {}) const override { return 1; }
+    QVariant data(const QModelIndex& position, int textRole) const override;
 
 private:
     // The view's own copy: a node stays in its place until the view knows better.
     struct Ast
     {
-        Ast* eltern = nullptr;
-        int zeile = 0;
-        std::string wert;
-        std::string statuszeile;
-        std::vector<Ast> kinder; // Filled once.
+        Ast* parent = nullptr;
+        int row = 0;
+        std::string value;
+        std::string statusRow;
+        std::vector<Ast> children; // Filled once.
     };
 
-    static bool passt(const Ast& ast, const Strukturknoten& knoten);
-    static void fuelle(Ast& ast, const Strukturknoten& knoten);
-    void ergaenze(Ast& ast, const Strukturknoten& knoten);
-    QModelIndex stelle(const Ast& ast) const;
-    const Ast* ast(const QModelIndex& stelle) const;
+    static bool fits(const Ast& ast, const StructureNode& node);
+    static void fill(Ast& ast, const StructureNode& node);
+    void complete(Ast& ast, const StructureNode& node);
+    QModelIndex position(const Ast& ast) const;
+    const Ast* ast(const QModelIndex& position) const;
 
-    Ast wurzel_;
+    Ast root_;
 };
 
 } // namespace quelvarn

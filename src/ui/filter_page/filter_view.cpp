@@ -27,218 +27,219 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<const char*, 3> REITER{"Eigenschaften und Datum", "Hauptmerkmale und Hauptwerte",
-                                            "Benutzerdefinierte Eigenschaften"};
-constexpr int HOEHE_FILTER = 160; // Head, five steps and the statuses.
-constexpr int BREITE_GESPEICHERTE = 262;
+constexpr std::array<const char*, 3> TAB{"Eigenschaften und Datum", "Hauptmerkmale und Hauptwerte",
+                                         "Benutzerdefinierte Eigenschaften"};
+constexpr int HEIGHT_FILTER = 160; // Head, five steps and the statuses.
+constexpr int WIDTH_SAVED = 262;
 
-QWidget* neuerVorlagenrahmen(QWidget& vorlage)
+QWidget* newTemplateFrame(QWidget& drawingTemplate)
 {
-    auto* rahmen = new QWidget;
-    rahmen->setObjectName(QStringLiteral("FrmVorlageSmartViewDraft"));
-    vorlage.setObjectName(QStringLiteral("SEDraftVorlage"));
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->addWidget(&vorlage);
-    return rahmen;
+    auto* frame = new QWidget;
+    frame->setObjectName(QStringLiteral("FrmVorlageSmartViewDraft"));
+    drawingTemplate.setObjectName(QStringLiteral("SEDraftVorlage"));
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(&drawingTemplate);
+    return frame;
 }
 
 } // namespace
 
-FormSEFiltern::FormSEFiltern(FilterPage& modell, QWidget& vorlage)
-    : modell_(modell), LblKopfSEFiltern_(new KurzLabel), LblZugriffSEFiltern_(new KurzLabel),
-      ToolbarSEFilter_(quelvarn::neueLeiste("ToolbarSEFilter", Knopfart::TextNebenSymbol)),
-      FrmGesamtFilter_(new QStackedWidget), SSTabDGFilter_(new Reiter(static_cast<int>(REITER.size()))),
-      eigenschaften_(new Eigenschaftsreiter(modell)), struktur_(new Strukturreiter(modell)),
-      benutzDef_(new BenutzDefReiter(modell)), filter_(new LaufenderFilter(modell)),
-      gespeicherte_(new GespeicherteFilterRahmen(modell)), vorlage_(neuerVorlagenrahmen(vorlage)),
-      dateiname_(new KurzLabel), pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle)),
-      fortschritt_(new Fortschrittsfeld("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef"))
+FormSEFiltern::FormSEFiltern(FilterPage& model, QWidget& drawingTemplate)
+    : model_(model), LblKopfSEFiltern_(new ShortLabel), LblZugriffSEFiltern_(new ShortLabel),
+      ToolbarSEFilter_(quelvarn::newBar("ToolbarSEFilter", ButtonKind::TextBesideIcon)),
+      FrmGesamtFilter_(new QStackedWidget), SSTabDGFilter_(new TabWidget(static_cast<int>(TAB.size()))),
+      properties_(new PropertyTab(model)), structure_(new StructureTab(model)), userDefined_(new UserDefinedTab(model)),
+      filter_(new RunningFilter(model)), saved_(new SavedFilterFrame(model)),
+      drawingTemplate_(newTemplateFrame(drawingTemplate)), fileName_(new ShortLabel),
+      pathName_(new ShortLabel(nullptr, Qt::ElideMiddle)),
+      progress_(new ProgressField("PrgBarBenutzDef", "LblProgBar", "CmAbbrechenBenutzDef"))
 {
     setObjectName(QStringLiteral("FormSEFiltern"));
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(neueKopfzeile());
-    aufbau->addWidget(neueLeiste());
-    aufbau->addWidget(neuerInhalt(), 1);
-    aufbau->addWidget(neueStatuszeile());
-    baueTasten();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(newHeadingRow());
+    layout->addWidget(newBar());
+    layout->addWidget(newContent(), 1);
+    layout->addWidget(newStatusRow());
+    buildShortcuts();
     setFocusProxy(SSTabDGFilter_);
 }
 
-QWidget* FormSEFiltern::neueKopfzeile()
+QWidget* FormSEFiltern::newHeadingRow()
 {
-    auto* zeile = new Streifen(Streifen::Art::Kopfzeile, "KopfSEFiltern");
+    auto* row = new Strip(Strip::Kind::HeadingRow, "KopfSEFiltern");
     LblKopfSEFiltern_->setObjectName(QStringLiteral("LblKopfSEFiltern"));
-    setzeRolle(*LblKopfSEFiltern_, Rolle::Titel);
+    setRole(*LblKopfSEFiltern_, TextRole::Titel);
     LblZugriffSEFiltern_->setObjectName(QStringLiteral("LblZugriffSEFiltern"));
     LblZugriffSEFiltern_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setzeRolle(*LblZugriffSEFiltern_, Rolle::Klein);
-    zeile->reihe().setContentsMargins(4, 0, 10, 0);
-    zeile->reihe().addWidget(LblKopfSEFiltern_);
-    zeile->reihe().addWidget(LblZugriffSEFiltern_, 1);
-    return zeile;
+    setRole(*LblZugriffSEFiltern_, TextRole::Small);
+    row->layoutRow().setContentsMargins(4, 0, 10, 0);
+    row->layoutRow().addWidget(LblKopfSEFiltern_);
+    row->layoutRow().addWidget(LblZugriffSEFiltern_, 1);
+    return row;
 }
 
-QWidget* FormSEFiltern::neueLeiste()
+QWidget* FormSEFiltern::newBar()
 {
-    auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteSEFilter");
-    QToolBar& leiste = *ToolbarSEFilter_;
-    const auto fuege = [this, &leiste](const Leistenknopf& knopf) {
-        auto* aktion = fuegeKnopfHinzu(leiste, knopf);
-        aktion->setShortcutContext(Qt::WindowShortcut);
-        return aktion;
+    auto* row = new Strip(Strip::Kind::Bar, "LeisteSEFilter");
+    QToolBar& bar = *ToolbarSEFilter_;
+    const auto add = [this, &bar](const BarButton& button) {
+        auto* action = addBarButton(bar, button);
+        action->setShortcutContext(Qt::WindowShortcut);
+        return action;
     };
-    auto* filtern = fuege({"Filtern", "Filtern", "Filtern der Tabelle (Strg+Eingabe)", ""});
-    leiste.widgetForAction(filtern)->setProperty("haupt", true);
-    filtern->setShortcuts(
+    auto* filter = add({"Filtern", "Filtern", "Filtern der Tabelle (Strg+Eingabe)", ""});
+    bar.widgetForAction(filter)->setProperty("haupt", true);
+    filter->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter), QKeySequence(Qt::Key_F5)});
-    auto* zurueck = fuege({"Zurück", "Zurück", "Filterwerte zurücksetzen", "filter-lift"});
-    auto* werte = fuege({"Werte", "Werte", "Grenzen der Hauptwerte a bis g zurücksetzen", "values"});
-    auto* vorlage = fuege({"Vorlage", "Vorlage", "Zeichnungsvorlage des Strukturmerkmals anzeigen", "eye", true});
-    fuegeDehnerHinzu(leiste);
-    auto* verlassen =
-        fuege({"Verlassen", "Verlassen", "Zurück zu den Dokumenten; die Tabelle bleibt gefiltert", "back"});
-    connect(filtern, &QAction::triggered, this, bewacht([this] { this->filtern(); }));
-    connect(zurueck, &QAction::triggered, this, bewacht([this] {
-                const Sanduhr warten;
-                modell_.zurueck();
+    auto* back = add({"Zurück", "Zurück", "Filterwerte zurücksetzen", "filter-lift"});
+    auto* values = add({"Werte", "Werte", "Grenzen der Hauptwerte a bis g zurücksetzen", "values"});
+    auto* drawingTemplate = add({"Vorlage", "Vorlage", "Zeichnungsvorlage des Strukturmerkmals anzeigen", "eye", true});
+    addStretcher(bar);
+    auto* leave = add({"Verlassen", "Verlassen", "Zurück zu den Dokumenten; die Tabelle bleibt gefiltert", "back"});
+    connect(filter, &QAction::triggered, this, guardedSlot([this] { this->filter(); }));
+    connect(back, &QAction::triggered, this, guardedSlot([this] {
+                const BusyCursor wait;
+                model_.back();
             }));
-    connect(werte, &QAction::triggered, this, bewacht([this] { modell_.werte(); }));
-    connect(vorlage, &QAction::triggered, this, bewacht([this](bool gedrueckt) { modell_.vorlage(gedrueckt); }));
-    connect(verlassen, &QAction::triggered, this, bewacht([this] {
+    connect(values, &QAction::triggered, this, guardedSlot([this] { model_.values(); }));
+    connect(drawingTemplate, &QAction::triggered, this,
+            guardedSlot([this](bool pressed) { model_.drawingTemplate(pressed); }));
+    connect(leave, &QAction::triggered, this, guardedSlot([this] {
                 filter_->takeInput();
-                modell_.verlassen();
+                model_.leave();
             }));
-    zeile->reihe().addWidget(ToolbarSEFilter_);
-    return zeile;
+    row->layoutRow().addWidget(ToolbarSEFilter_);
+    return row;
 }
 
-QWidget* FormSEFiltern::neuerInhalt()
+QWidget* FormSEFiltern::newContent()
 {
-    baueReiter();
+    buildTabs();
     auto* FrmFilterSmart = new QWidget;
     FrmFilterSmart->setObjectName(QStringLiteral("FrmFilterSmart"));
-    filter_->filtern = [this] { Waechter::aktuell().fuehreAus([this] { filtern(); }); };
-    gespeicherte_->beforeSaving = [this] { filter_->takeInput(); };
-    filter_->setFixedHeight(HOEHE_FILTER);
-    gespeicherte_->setFixedWidth(BREITE_GESPEICHERTE);
-    auto* unten = new QHBoxLayout;
-    unten->setContentsMargins(12, 4, 12, 8);
-    unten->setSpacing(12);
-    unten->addWidget(filter_, 1);
-    unten->addWidget(gespeicherte_);
-    auto* aufbau = new QVBoxLayout(FrmFilterSmart);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(SSTabDGFilter_, 1);
-    aufbau->addLayout(unten);
+    filter_->filter = [this] { SlotGuard::current().execute([this] { filter(); }); };
+    saved_->beforeSaving = [this] { filter_->takeInput(); };
+    filter_->setFixedHeight(HEIGHT_FILTER);
+    saved_->setFixedWidth(WIDTH_SAVED);
+    auto* below = new QHBoxLayout;
+    below->setContentsMargins(12, 4, 12, 8);
+    below->setSpacing(12);
+    below->addWidget(filter_, 1);
+    below->addWidget(saved_);
+    auto* layout = new QVBoxLayout(FrmFilterSmart);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(SSTabDGFilter_, 1);
+    layout->addLayout(below);
 
     FrmGesamtFilter_->setObjectName(QStringLiteral("FrmGesamtFilter"));
     FrmGesamtFilter_->addWidget(FrmFilterSmart);
-    FrmGesamtFilter_->addWidget(vorlage_);
+    FrmGesamtFilter_->addWidget(drawingTemplate_);
     return FrmGesamtFilter_;
 }
 
-void FormSEFiltern::baueReiter()
+void FormSEFiltern::buildTabs()
 {
     SSTabDGFilter_->setObjectName(QStringLiteral("SSTabDGFilter"));
     SSTabDGFilter_->setDocumentMode(true);
     SSTabDGFilter_->tabBar()->setExpanding(false);
-    const std::array<QWidget*, 3> seiten{eigenschaften_, struktur_, benutzDef_};
-    for (std::size_t i = 0; i < REITER.size(); ++i)
-        SSTabDGFilter_->addTab(seiten[i], QString::fromUtf8(REITER[i]));
-    connect(SSTabDGFilter_, &QTabWidget::currentChanged, this, bewacht([this](int tab) {
-                const Sanduhr warten;
-                modell_.bereichGewaehlt(static_cast<Filterbereich>(tab));
+    const std::array<QWidget*, 3> pages{properties_, structure_, userDefined_};
+    for (std::size_t i = 0; i < TAB.size(); ++i)
+        SSTabDGFilter_->addTab(pages[i], QString::fromUtf8(TAB[i]));
+    connect(SSTabDGFilter_, &QTabWidget::currentChanged, this, guardedSlot([this](int tab) {
+                const BusyCursor wait;
+                model_.sectionChosen(static_cast<FilterSection>(tab));
             }));
-    eigenschaften_->datumUebernommen = [this] { SSTabDGFilter_->tabBar()->setFocus(); };
+    properties_->dateAdopted = [this] { SSTabDGFilter_->tabBar()->setFocus(); };
 }
 
-QWidget* FormSEFiltern::neueStatuszeile()
+QWidget* FormSEFiltern::newStatusRow()
 {
-    auto* zeile = new Streifen(Streifen::Art::Statuszeile, "StatusBarDatei");
-    dateiname_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
-    pfadname_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
-    QHBoxLayout& reihe = zeile->reihe();
-    reihe.addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDatei(1)")));
-    reihe.addWidget(dateiname_);
-    reihe.addSpacing(8);
-    reihe.addWidget(beschriftung(QStringLiteral("Pfadname"), Rolle::Klein, QStringLiteral("StatusBarDatei(3)")));
-    reihe.addWidget(pfadname_, 1);
-    fortschritt_->abbrechen().setProperty("flach", true);
-    reihe.addWidget(fortschritt_);
-    return zeile;
+    auto* row = new Strip(Strip::Kind::StatusRow, "StatusBarDatei");
+    fileName_->setObjectName(QStringLiteral("StatusBarDatei(2)"));
+    pathName_->setObjectName(QStringLiteral("StatusBarDatei(4)"));
+    QHBoxLayout& layoutRow = row->layoutRow();
+    layoutRow.addWidget(caption(QStringLiteral("Dateiname"), TextRole::Small, QStringLiteral("StatusBarDatei(1)")));
+    layoutRow.addWidget(fileName_);
+    layoutRow.addSpacing(8);
+    layoutRow.addWidget(caption(QStringLiteral("Pfadname"), TextRole::Small, QStringLiteral("StatusBarDatei(3)")));
+    layoutRow.addWidget(pathName_, 1);
+    progress_->cancel().setProperty("flach", true);
+    layoutRow.addWidget(progress_);
+    return row;
 }
 
-void FormSEFiltern::baueTasten()
+void FormSEFiltern::buildShortcuts()
 {
-    auto* verlassen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    verlassen->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(verlassen, &QShortcut::activated, this, bewacht([this] { modell_.verlassen(); }));
+    auto* leave = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    leave->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(leave, &QShortcut::activated, this, guardedSlot([this] { model_.leave(); }));
     for (int tab = 0; tab < SSTabDGFilter_->count(); ++tab) {
-        auto* taste = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
-        taste->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(taste, &QShortcut::activated, this, bewacht([this, tab] {
+        auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab)), this);
+        key->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(key, &QShortcut::activated, this, guardedSlot([this, tab] {
                     if (SSTabDGFilter_->isTabVisible(tab))
                         SSTabDGFilter_->setCurrentIndex(tab);
                 }));
     }
 }
 
-void FormSEFiltern::filtern()
+void FormSEFiltern::filter()
 {
     filter_->takeInput();
-    const Sanduhr warten;
-    modell_.filtern();
+    const BusyCursor wait;
+    model_.filter();
 }
 
-void FormSEFiltern::showEvent(QShowEvent* ereignis)
+void FormSEFiltern::showEvent(QShowEvent* event)
 {
-    QWidget::showEvent(ereignis);
-    eigenschaften_->zeigeHeute();
+    QWidget::showEvent(event);
+    properties_->showToday();
 }
 
 // --- projection ------------------------------------------------------------------------------------------------
 
-void FormSEFiltern::zeigen()
+void FormSEFiltern::refresh()
 {
-    LblKopfSEFiltern_->setText(zuQt(modell_.titel()));
-    LblZugriffSEFiltern_->setText(zuQt(modell_.zugriffText()));
-    zeigeLeiste();
-    zeigeReiter();
-    filter_->zeigen();
-    gespeicherte_->zeigen();
-    const bool vorlage = modell_.zeigtVorlage();
-    FrmGesamtFilter_->setCurrentIndex(vorlage ? 1 : 0);
-    dateiname_->setText(vorlage ? zuQt(DateiName(modell_.vorlagePfad())) : QString());
-    pfadname_->setText(vorlage ? zuQt(Ordnername(modell_.vorlagePfad())) : QString());
+    LblKopfSEFiltern_->setText(toQt(model_.title()));
+    LblZugriffSEFiltern_->setText(toQt(model_.accessDateText()));
+    showBar();
+    showTab();
+    filter_->refresh();
+    saved_->refresh();
+    const bool drawingTemplate = model_.showsTemplate();
+    FrmGesamtFilter_->setCurrentIndex(drawingTemplate ? 1 : 0);
+    fileName_->setText(drawingTemplate ? toQt(DateiName(model_.templatePath())) : QString());
+    pathName_->setText(drawingTemplate ? toQt(Ordnername(model_.templatePath())) : QString());
 }
 
-void FormSEFiltern::zeigeLeiste()
+void FormSEFiltern::showBar()
 {
-    const bool vorlage = modell_.zeigtVorlage();
-    for (const char* knopf : {"Filtern", "Zurück"})
-        knopfVon(*ToolbarSEFilter_, knopf).setEnabled(!vorlage);
-    knopfVon(*ToolbarSEFilter_, "Werte").setEnabled(!vorlage && modell_.kontext().bereich() == Filterbereich::Struktur);
-    knopfVon(*ToolbarSEFilter_, "Vorlage").setChecked(vorlage);
+    const bool drawingTemplate = model_.showsTemplate();
+    for (const char* button : {"Filtern", "Zurück"})
+        buttonOf(*ToolbarSEFilter_, button).setEnabled(!drawingTemplate);
+    buttonOf(*ToolbarSEFilter_, "Werte")
+        .setEnabled(!drawingTemplate && model_.context().section() == FilterSection::Structure);
+    buttonOf(*ToolbarSEFilter_, "Vorlage").setChecked(drawingTemplate);
 }
 
-void FormSEFiltern::zeigeReiter()
+void FormSEFiltern::showTab()
 {
-    const Filterbereich bereich = modell_.kontext().bereich();
+    const FilterSection section = model_.context().section();
     const QSignalBlocker still(SSTabDGFilter_);
-    constexpr int BENUTZDEF = static_cast<int>(Filterbereich::BenutzDef);
-    SSTabDGFilter_->setTabVisible(BENUTZDEF, modell_.bereichVorhanden(Filterbereich::BenutzDef));
-    SSTabDGFilter_->setCurrentIndex(static_cast<int>(bereich));
-    fortschritt_->setzeVerliehen(bereich == Filterbereich::BenutzDef);
-    switch (bereich) {
-    case Filterbereich::Eigenschaften:
-        return eigenschaften_->zeigen();
-    case Filterbereich::Struktur:
-        return struktur_->zeigen();
-    case Filterbereich::BenutzDef:
-        return benutzDef_->zeigen();
+    constexpr int USER_DEFINED = static_cast<int>(FilterSection::UserDefined);
+    SSTabDGFilter_->setTabVisible(USER_DEFINED, model_.sectionExists(FilterSection::UserDefined));
+    SSTabDGFilter_->setCurrentIndex(static_cast<int>(section));
+    progress_->setLent(section == FilterSection::UserDefined);
+    switch (section) {
+    case FilterSection::Properties:
+        return properties_->refresh();
+    case FilterSection::Structure:
+        return structure_->refresh();
+    case FilterSection::UserDefined:
+        return userDefined_->refresh();
     }
 }
 

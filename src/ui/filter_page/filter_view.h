@@ -8,14 +8,14 @@ class QToolBar;
 
 namespace quelvarn {
 
-class BenutzDefReiter;
-class Eigenschaftsreiter;
+class UserDefinedTab;
+class PropertyTab;
 class FilterPage;
-class Fortschrittsfeld;
-class GespeicherteFilterRahmen;
-class KurzLabel;
-class LaufenderFilter;
-class Strukturreiter;
+class ProgressField;
+class SavedFilterFrame;
+class ShortLabel;
+class RunningFilter;
+class StructureTab;
 
 // The filter page: three parts for what is to be filtered, below them the running filter and the saved ones.
 class FormSEFiltern : public QWidget
@@ -24,39 +24,39 @@ class FormSEFiltern : public QWidget
 
 public:
     // `vorlage` is the place where a viewer shows the template of a branch.
-    FormSEFiltern(FilterPage& modell, QWidget& vorlage);
+    FormSEFiltern(FilterPage& model, QWidget& drawingTemplate);
 
-    void zeigen();
+    void refresh();
 
 protected:
-    void showEvent(QShowEvent* ereignis) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
-    QWidget* neueKopfzeile();
-    QWidget* neueLeiste();
-    QWidget* neuerInhalt();
-    QWidget* neueStatuszeile();
-    void baueReiter();
-    void baueTasten();
-    void filtern();
-    void zeigeLeiste();
-    void zeigeReiter();
+    QWidget* newHeadingRow();
+    QWidget* newBar();
+    QWidget* newContent();
+    QWidget* newStatusRow();
+    void buildTabs();
+    void buildShortcuts();
+    void filter();
+    void showBar();
+    void showTab();
 
-    FilterPage& modell_;
-    KurzLabel* LblKopfSEFiltern_;
-    KurzLabel* LblZugriffSEFiltern_;
+    FilterPage& model_;
+    ShortLabel* LblKopfSEFiltern_;
+    ShortLabel* LblZugriffSEFiltern_;
     QToolBar* ToolbarSEFilter_;
     QStackedWidget* FrmGesamtFilter_;
     QTabWidget* SSTabDGFilter_;
-    Eigenschaftsreiter* eigenschaften_;
-    Strukturreiter* struktur_;
-    BenutzDefReiter* benutzDef_;
-    LaufenderFilter* filter_;
-    GespeicherteFilterRahmen* gespeicherte_;
-    QWidget* vorlage_;
-    KurzLabel* dateiname_;
-    KurzLabel* pfadname_;
-    Fortschrittsfeld* fortschritt_;
+    PropertyTab* properties_;
+    StructureTab* structure_;
+    UserDefinedTab* userDefined_;
+    RunningFilter* filter_;
+    SavedFilterFrame* saved_;
+    QWidget* drawingTemplate_;
+    ShortLabel* fileName_;
+    ShortLabel* pathName_;
+    ProgressField* progress_;
 };
 
 } // namespace quelvarn

@@ -25,166 +25,163 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int NAMENSLAENGE = 22; // Letters of a value's name; a longer one is shortened.
+constexpr int NAME_LENGTH = 22; // Letters of a value's name; a longer one is shortened.
 
-QLabel* neueAnzahl(const char* name, const QString& wovon)
+QLabel* newCount(const char* name, const QString& ofWhich)
 {
-    auto* anzahl = beschriftung({}, Rolle::Beschriftung, QLatin1String(name));
-    anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    anzahl->setAccessibleName(wovon);
-    return anzahl;
+    auto* count = caption({}, TextRole::Caption, QLatin1String(name));
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setAccessibleName(ofWhich);
+    return count;
 }
 
-void zeigeName(QRadioButton& knopf, const QString& name)
+void showName(QRadioButton& button, const QString& name)
 {
-    if (knopf.property("vollerText").toString() == name)
+    if (button.property("vollerText").toString() == name)
         return;
-    knopf.setProperty("vollerText", name);
-    const QFontMetrics mass = knopf.fontMetrics();
-    const QString kurz = mass.elidedText(oneLine(name), Qt::ElideRight, mass.averageCharWidth() * NAMENSLAENGE);
-    knopf.setText(asCaption(kurz));
-    knopf.setToolTip(kurz == name ? QString() : asTip(name));
-    knopf.setAccessibleName(name);
+    button.setProperty("vollerText", name);
+    const QFontMetrics mass = button.fontMetrics();
+    const QString shortText = mass.elidedText(oneLine(name), Qt::ElideRight, mass.averageCharWidth() * NAME_LENGTH);
+    button.setText(asCaption(shortText));
+    button.setToolTip(shortText == name ? QString() : asTip(name));
+    button.setAccessibleName(name);
 }
 
 } // namespace
 
-Hauptwertrahmen::Hauptwertrahmen(Strukturbereich& modell)
-    : modell_(modell), auswahl_(new QButtonGroup(this)), CbHW_(new QComboBox), werte_(new Wertemodell(this)),
-      ChShowAnzWerte_(neuesFeld<QCheckBox>("ChShowAnzWerte", QStringLiteral("Werte auflisten"))),
-      LblAnzWert_(neueAnzahl("LblAnzWert", QStringLiteral("Anzahl Werte"))), TextBB_(new QLineEdit),
+MainValueFrame::MainValueFrame(StructureSection& model)
+    : model_(model), selection_(new QButtonGroup(this)), CbHW_(new QComboBox), values_(new ValueModel(this)),
+      ChShowAnzWerte_(newField<QCheckBox>("ChShowAnzWerte", QStringLiteral("Werte auflisten"))),
+      LblAnzWert_(newCount("LblAnzWert", QStringLiteral("Anzahl Werte"))), TextBB_(new QLineEdit),
       CmHwOK_(new QPushButton(QStringLiteral("Übernehmen"))),
-      ChShowAnzAlias_(neuesFeld<QCheckBox>("ChShowAnzAlias", QStringLiteral("Aliasse auflisten"))),
-      LblAnzAlias_(neueAnzahl("LblAnzAlias", QStringLiteral("Anzahl Aliasse"))),
-      LstHW_(new Wertefeld(QStringLiteral("LstHW")))
+      ChShowAnzAlias_(newField<QCheckBox>("ChShowAnzAlias", QStringLiteral("Aliasse auflisten"))),
+      LblAnzAlias_(newCount("LblAnzAlias", QStringLiteral("Anzahl Aliasse"))),
+      LstHW_(new ValueField(QStringLiteral("LstHW")))
 {
     setObjectName(QStringLiteral("FrmHWag"));
-    auto* rechts = new QVBoxLayout;
-    rechts->setSpacing(4);
-    baueWert(*rechts);
-    baueAlias(*rechts);
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setSpacing(16);
-    aufbau->addWidget(neueHauptwerte(), 1);
-    aufbau->addLayout(rechts, 1);
-    verbinde();
+    auto* right = new QVBoxLayout;
+    right->setSpacing(4);
+    buildValue(*right);
+    buildAlias(*right);
+    auto* layout = new QHBoxLayout(this);
+    layout->setSpacing(16);
+    layout->addWidget(newMainValues(), 1);
+    layout->addLayout(right, 1);
+    connectControls();
 }
 
-QWidget* Hauptwertrahmen::neueHauptwerte()
+QWidget* MainValueFrame::newMainValues()
 {
-    auto* teil = new QWidget;
-    auto* gitter = new QGridLayout(teil);
-    gitter->setContentsMargins({});
-    gitter->setColumnStretch(1, 1);
-    for (int i = 0; i < ANZAHL_HAUPTWERTE; ++i) {
-        const auto stelle = static_cast<std::size_t>(i);
-        const QChar buchstabe(u'a' + i);
-        LblHW_[stelle] = new QRadioButton;
-        LblHW_[stelle]->setObjectName(QStringLiteral("LblHW") + buchstabe);
-        auswahl_->addButton(LblHW_[stelle], i);
-        Lbl_hw_[stelle] = new KurzLabel;
-        Lbl_hw_[stelle]->setObjectName(QStringLiteral("Lbl_hw") + buchstabe);
-        Lbl_hw_[stelle]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        gitter->addWidget(LblHW_[stelle], i, 0, Qt::AlignLeft);
-        gitter->addWidget(Lbl_hw_[stelle], i, 1);
+    auto* part = new QWidget;
+    auto* grid = new QGridLayout(part);
+    grid->setContentsMargins({});
+    grid->setColumnStretch(1, 1);
+    for (int i = 0; i < MAIN_VALUE_COUNT; ++i) {
+        const auto position = static_cast<std::size_t>(i);
+        const QChar letter(u'a' + i);
+        LblHW_[position] = new QRadioButton;
+        LblHW_[position]->setObjectName(QStringLiteral("LblHW") + letter);
+        selection_->addButton(LblHW_[position], i);
+        Lbl_hw_[position] = new ShortLabel;
+        Lbl_hw_[position]->setObjectName(QStringLiteral("Lbl_hw") + letter);
+        Lbl_hw_[position]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(LblHW_[position], i, 0, Qt::AlignLeft);
+        grid->addWidget(Lbl_hw_[position], i, 1);
     }
-    gitter->setRowStretch(ANZAHL_HAUPTWERTE, 1);
-    return teil;
+    grid->setRowStretch(MAIN_VALUE_COUNT, 1);
+    return part;
 }
 
-void Hauptwertrahmen::baueWert(QVBoxLayout& aufbau)
+void MainValueFrame::buildValue(QVBoxLayout& layout)
 {
     CbHW_->setObjectName(QStringLiteral("CbHW"));
     CbHW_->setAccessibleName(QStringLiteral("Hauptwert"));
     CbHW_->setEditable(true);
     CbHW_->setInsertPolicy(QComboBox::NoInsert);
     CbHW_->setCompleter(nullptr);
-    auto* liste = new QListView;
-    liste->setUniformItemSizes(true);
-    CbHW_->setView(liste);
-    CbHW_->setModel(werte_);
+    auto* list = new QListView;
+    list->setUniformItemSizes(true);
+    CbHW_->setView(list);
+    CbHW_->setModel(values_);
     CbHW_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     TextBB_->setObjectName(QStringLiteral("TextBB"));
     TextBB_->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
     CmHwOK_->setObjectName(QStringLiteral("CmHwOK"));
-    auto* LblBandBreite =
-        beschriftung(QStringLiteral("&Bandbreite ±"), Rolle::Beschriftung, QStringLiteral("LblBandBreite"));
+    auto* LblBandBreite = caption(QStringLiteral("&Bandbreite ±"), TextRole::Caption, QStringLiteral("LblBandBreite"));
     LblBandBreite->setBuddy(TextBB_);
 
-    auto* kopf = new QHBoxLayout;
-    kopf->addWidget(ChShowAnzWerte_);
-    kopf->addWidget(LblAnzWert_, 1);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(ChShowAnzWerte_);
+    heading->addWidget(LblAnzWert_, 1);
     auto* band = new QHBoxLayout;
     band->addWidget(LblBandBreite);
     band->addWidget(TextBB_, 1);
     band->addStretch();
     band->addWidget(CmHwOK_);
-    aufbau.addLayout(kopf);
-    aufbau.addWidget(CbHW_);
-    aufbau.addLayout(band);
+    layout.addLayout(heading);
+    layout.addWidget(CbHW_);
+    layout.addLayout(band);
 }
 
-void Hauptwertrahmen::baueAlias(QVBoxLayout& aufbau)
+void MainValueFrame::buildAlias(QVBoxLayout& layout)
 {
     LstHW_->setAccessibleName(QStringLiteral("Aliasse des Hauptwerts"));
-    auto* kopf = new QHBoxLayout;
-    kopf->addWidget(ChShowAnzAlias_);
-    kopf->addWidget(LblAnzAlias_, 1);
-    aufbau.addLayout(kopf);
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(ChShowAnzAlias_);
+    heading->addWidget(LblAnzAlias_, 1);
+    layout.addLayout(heading);
     LstHW_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // What the fields above leave.
-    aufbau.addWidget(LstHW_, 1);
+    layout.addWidget(LstHW_, 1);
 }
 
-void Hauptwertrahmen::verbinde()
+void MainValueFrame::connectControls()
 {
-    connect(auswahl_, &QButtonGroup::idClicked, this,
-            bewacht([this](int hauptwert) { modell_.hauptwertGewaehlt(hauptwert); }));
-    connect(ChShowAnzWerte_, &QCheckBox::clicked, this,
-            bewacht([this](bool an) { modell_.setzeAnzahlWerteZeigen(an); }));
-    connect(ChShowAnzAlias_, &QCheckBox::clicked, this,
-            bewacht([this](bool an) { modell_.setzeAnzahlAliasZeigen(an); }));
-    connect(CbHW_, &QComboBox::editTextChanged, this, [this] { zeigeBereit(); });
-    connect(CmHwOK_, &QPushButton::clicked, this, bewacht([this] { uebernehmen(); }));
+    connect(selection_, &QButtonGroup::idClicked, this,
+            guardedSlot([this](int mainValue) { model_.mainValueChosen(mainValue); }));
+    connect(ChShowAnzWerte_, &QCheckBox::clicked, this, guardedSlot([this](bool on) { model_.showValueCount(on); }));
+    connect(ChShowAnzAlias_, &QCheckBox::clicked, this, guardedSlot([this](bool on) { model_.showAliasCount(on); }));
+    connect(CbHW_, &QComboBox::editTextChanged, this, [this] { showReady(); });
+    connect(CmHwOK_, &QPushButton::clicked, this, guardedSlot([this] { adopt(); }));
     connect(CbHW_->lineEdit(), &QLineEdit::returnPressed, CmHwOK_, &QPushButton::click);
     connect(TextBB_, &QLineEdit::returnPressed, CmHwOK_, &QPushButton::click);
 }
 
-void Hauptwertrahmen::uebernehmen()
+void MainValueFrame::adopt()
 {
-    modell_.hauptwertUebernehmen(ausQt(CbHW_->currentText()), ausQt(TextBB_->text()));
+    model_.adoptMainValue(fromQt(CbHW_->currentText()), fromQt(TextBB_->text()));
 }
 
-void Hauptwertrahmen::zeigen()
+void MainValueFrame::refresh()
 {
-    zeigeGesperrt(*this, QStringLiteral("Hauptwerte"), !modell_.SperreHauptwert());
-    zeigeHauptwerte();
+    showLocked(*this, QStringLiteral("Hauptwerte"), !model_.SperreHauptwert());
+    showMainValues();
     {
         const QSignalBlocker still(CbHW_);
-        if (werte_->zeige(modell_.werte().werte))
+        if (values_->display(model_.values().values))
             CbHW_->setCurrentIndex(-1);
     }
-    CbHW_->setEnabled(modell_.SperreHauptwert());
-    zeigeGesetzt(*ChShowAnzWerte_, modell_.zeigtAnzahlWerte());
-    zeigeGesetzt(*ChShowAnzAlias_, modell_.zeigtAnzahlAlias());
-    LblAnzWert_->setText(zuQt(modell_.werte().anzahl));
-    LblAnzAlias_->setText(zuQt(modell_.alias().anzahl));
-    LstHW_->zeige(modell_.alias().werte);
-    zeigeBereit();
+    CbHW_->setEnabled(model_.SperreHauptwert());
+    showSet(*ChShowAnzWerte_, model_.showsValueCount());
+    showSet(*ChShowAnzAlias_, model_.showsAliasCount());
+    LblAnzWert_->setText(toQt(model_.values().count));
+    LblAnzAlias_->setText(toQt(model_.alias().count));
+    LstHW_->display(model_.alias().values);
+    showReady();
 }
 
-void Hauptwertrahmen::zeigeHauptwerte()
+void MainValueFrame::showMainValues()
 {
-    for (int i = 0; i < ANZAHL_HAUPTWERTE; ++i) {
-        const auto stelle = static_cast<std::size_t>(i);
-        zeigeName(*LblHW_[stelle], zuQt(modell_.hauptwertName(i)));
-        zeigeGesetzt(*LblHW_[stelle], modell_.hauptwert() == i);
-        Lbl_hw_[stelle]->setText(zuQt(modell_.hauptwertBand(i)));
+    for (int i = 0; i < MAIN_VALUE_COUNT; ++i) {
+        const auto position = static_cast<std::size_t>(i);
+        showName(*LblHW_[position], toQt(model_.mainValueName(i)));
+        showSet(*LblHW_[position], model_.mainValue() == i);
+        Lbl_hw_[position]->setText(toQt(model_.mainValueBand(i)));
     }
 }
 
-void Hauptwertrahmen::zeigeBereit()
+void MainValueFrame::showReady()
 {
-    CmHwOK_->setEnabled(modell_.SperreHauptwert() && !CbHW_->currentText().trimmed().isEmpty());
+    CmHwOK_->setEnabled(model_.SperreHauptwert() && !CbHW_->currentText().trimmed().isEmpty());
 }
 
 } // namespace quelvarn

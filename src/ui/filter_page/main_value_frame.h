@@ -17,43 +17,43 @@ class QVBoxLayout;
 
 namespace quelvarn {
 
-class KurzLabel;
-class Strukturbereich;
-class Wertefeld;
-class Wertemodell;
+class ShortLabel;
+class StructureSection;
+class ValueField;
+class ValueModel;
 
 // FrmHWag: the main values a to g with their bands, and what the one chosen is to be.
-class Hauptwertrahmen : public QGroupBox
+class MainValueFrame : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    explicit Hauptwertrahmen(Strukturbereich& modell);
+    explicit MainValueFrame(StructureSection& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neueHauptwerte();
-    void baueWert(QVBoxLayout& aufbau);
-    void baueAlias(QVBoxLayout& aufbau);
-    void verbinde();
-    void uebernehmen();
-    void zeigeHauptwerte();
-    void zeigeBereit();
+    QWidget* newMainValues();
+    void buildValue(QVBoxLayout& layout);
+    void buildAlias(QVBoxLayout& layout);
+    void connectControls();
+    void adopt();
+    void showMainValues();
+    void showReady();
 
-    Strukturbereich& modell_;
-    QButtonGroup* auswahl_;
-    std::array<QRadioButton*, ANZAHL_HAUPTWERTE> LblHW_{};
-    std::array<KurzLabel*, ANZAHL_HAUPTWERTE> Lbl_hw_{};
+    StructureSection& model_;
+    QButtonGroup* selection_;
+    std::array<QRadioButton*, MAIN_VALUE_COUNT> LblHW_{};
+    std::array<ShortLabel*, MAIN_VALUE_COUNT> Lbl_hw_{};
     QComboBox* CbHW_;
-    Wertemodell* werte_;
+    ValueModel* values_;
     QCheckBox* ChShowAnzWerte_;
     QLabel* LblAnzWert_;
     QLineEdit* TextBB_;
     QPushButton* CmHwOK_;
     QCheckBox* ChShowAnzAlias_;
     QLabel* LblAnzAlias_;
-    Wertefeld* LstHW_;
+    ValueField* LstHW_;
 };
 
 } // namespace quelvarn

@@ -7,47 +7,47 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<const char*, 3> SPALTEN{"HW", "MinWert", "MaxWert"};
+constexpr std::array<const char*, 3> COLUMNS{"HW", "MinWert", "MaxWert"};
 
 } // namespace
 
-void Hauptwertmodell::zeige(const Grenzen& grenzen)
+void MainValueModel::display(const Bounds& bounds)
 {
-    if (grenzen == grenzen_)
+    if (bounds == bounds_)
         return;
-    grenzen_ = grenzen;
+    bounds_ = bounds;
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-int Hauptwertmodell::rowCount(const QModelIndex& eltern) const
+int MainValueModel::rowCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : ANZAHL_HAUPTWERTE;
+    return parent.isValid() ? 0 : MAIN_VALUE_COUNT;
 }
 
-int Hauptwertmodell::columnCount(const QModelIndex& eltern) const
+int MainValueModel::columnCount(const QModelIndex& parent) const
 {
-    return eltern.isValid() ? 0 : static_cast<int>(SPALTEN.size());
+    return parent.isValid() ? 0 : static_cast<int>(COLUMNS.size());
 }
 
-QVariant Hauptwertmodell::data(const QModelIndex& stelle, int rolle) const
+QVariant MainValueModel::data(const QModelIndex& position, int textRole) const
 {
-    if (rolle == Qt::TextAlignmentRole && stelle.column() > 0)
+    if (textRole == Qt::TextAlignmentRole && position.column() > 0)
         return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
-    if (rolle != Qt::DisplayRole || !checkIndex(stelle, CheckIndexOption::IndexIsValid))
+    if (textRole != Qt::DisplayRole || !checkIndex(position, CheckIndexOption::IndexIsValid))
         return {};
-    if (stelle.column() == 0)
-        return QStringLiteral("  ") + QChar(u'a' + stelle.row());
-    const Hauptwertgrenzen& grenzen = grenzen_[static_cast<std::size_t>(stelle.row())];
-    if (!grenzen.gesetzt())
+    if (position.column() == 0)
+        return QStringLiteral("  ") + QChar(u'a' + position.row());
+    const MainValueBand& bounds = bounds_[static_cast<std::size_t>(position.row())];
+    if (!bounds.set())
         return {};
-    return zuQt((stelle.column() == 1 ? grenzen.MinWert : grenzen.MaxWert).text());
+    return toQt((position.column() == 1 ? bounds.MinWert : bounds.MaxWert).text());
 }
 
-QVariant Hauptwertmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
+QVariant MainValueModel::headerData(int section, Qt::Orientation direction, int textRole) const
 {
-    if (richtung != Qt::Horizontal || rolle != Qt::DisplayRole)
+    if (direction != Qt::Horizontal || textRole != Qt::DisplayRole)
         return {};
-    return QLatin1String(SPALTEN[static_cast<std::size_t>(abschnitt)]);
+    return QLatin1String(COLUMNS[static_cast<std::size_t>(section)]);
 }
 
 } // namespace quelvarn

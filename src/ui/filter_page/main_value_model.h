@@ -7,23 +7,23 @@
 namespace quelvarn {
 
 // HauptwertTabelle for a grid: the values a to g with their bounds.
-class Hauptwertmodell : public QAbstractTableModel
+class MainValueModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
     using QAbstractTableModel::QAbstractTableModel;
-    using Grenzen = std::array<Hauptwertgrenzen, ANZAHL_HAUPTWERTE>;
+    using Bounds = std::array<MainValueBand, MAIN_VALUE_COUNT>;
 
-    void zeige(const Grenzen& grenzen);
+    void display(const Bounds& bounds);
 
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& stelle, int rolle) const override;
-    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& position, int textRole) const override;
+    QVariant headerData(int section, Qt::Orientation direction, int textRole) const override;
 
 private:
-    Grenzen grenzen_;
+    Bounds bounds_;
 };
 
 } // namespace quelvarn

@@ -20,196 +20,195 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<const char*, ANZAHL_EIGENSCHAFTEN> BEZEICHNUNGEN{
+constexpr std::array<const char*, PROPERTY_COUNT> LABELS{
     "LblProjektCb", "LblTitelCb",   "LblThemaCb",      "LblFirmaCb",    "LblKategorieCb", "LblMaterialCb",
     "LblAutorCb",   "LblManagerCb", "LblBearbeiterCb", "LblHauptMerkA", "LblHauptMerkB",  "LblKeywordCb",
 };
-constexpr std::array<const char*, 2> DATUMSARTEN{"&Erstellt", "&Geändert"};
-constexpr std::array<const char*, 3> BEGRENZUNGEN{">=  a&b dem Datum", "=  a&m Datum", "<=  b&is zum Datum"};
+constexpr std::array<const char*, 2> DATE_KINDS{"&Erstellt", "&Geändert"};
+constexpr std::array<const char*, 3> BOUNDS{">=  a&b dem Datum", "=  a&m Datum", "<=  b&is zum Datum"};
 
 // Options of one frame, one below the other.
-template <std::size_t Anzahl, typename Wahl>
-void fuelleOptionen(QGroupBox& rahmen, const char* name, const std::array<const char*, Anzahl>& texte,
-                    std::array<QAbstractButton*, Anzahl>& knoepfe, const Wahl& wahl)
+template <std::size_t Count, typename Choice>
+void fillOptions(QGroupBox& frame, const char* name, const std::array<const char*, Count>& texts,
+                 std::array<QAbstractButton*, Count>& buttons, const Choice& choice)
 {
-    auto* aufbau = new QVBoxLayout(&rahmen);
-    aufbau->setContentsMargins(10, 4, 10, 6);
-    aufbau->setSpacing(4);
-    for (std::size_t i = 0; i < Anzahl; ++i) {
-        auto* knopf = neuesFeld<QRadioButton>(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i),
-                                              QString::fromUtf8(texte[i]));
-        QObject::connect(knopf, &QRadioButton::clicked, &rahmen, bewacht([wahl, i] { wahl(static_cast<int>(i)); }));
-        knoepfe[i] = knopf;
-        aufbau->addWidget(knopf);
+    auto* layout = new QVBoxLayout(&frame);
+    layout->setContentsMargins(10, 4, 10, 6);
+    layout->setSpacing(4);
+    for (std::size_t i = 0; i < Count; ++i) {
+        auto* button = newField<QRadioButton>(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i),
+                                              QString::fromUtf8(texts[i]));
+        QObject::connect(button, &QRadioButton::clicked, &frame,
+                         guardedSlot([choice, i] { choice(static_cast<int>(i)); }));
+        buttons[i] = button;
+        layout->addWidget(button);
     }
 }
 
 } // namespace
 
-Eigenschaftsreiter::Eigenschaftsreiter(FilterPage& modell) : modell_(modell)
+PropertyTab::PropertyTab(FilterPage& model) : model_(model)
 {
-    auto* links = neueEigenschaften();
-    auto* mitte = new QVBoxLayout;
-    mitte->setSpacing(6);
-    mitte->addWidget(neueStati());
-    mitte->addWidget(neueDatumsart());
-    mitte->addStretch(1);
-    auto* rechts = new QVBoxLayout;
-    rechts->setSpacing(6);
-    rechts->addWidget(neuerKalender());
-    rechts->addWidget(neueBegrenzung());
-    rechts->addStretch(1);
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins(12, 4, 12, 0);
-    aufbau->setSpacing(12);
-    aufbau->addWidget(links, 1);
-    aufbau->addLayout(mitte);
-    aufbau->addLayout(rechts);
+    auto* left = newProperties();
+    auto* middle = new QVBoxLayout;
+    middle->setSpacing(6);
+    middle->addWidget(newStatuses());
+    middle->addWidget(newDateKind());
+    middle->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(6);
+    right->addWidget(newCalendar());
+    right->addWidget(newBound());
+    right->addStretch(1);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 4, 12, 0);
+    layout->setSpacing(12);
+    layout->addWidget(left, 1);
+    layout->addLayout(middle);
+    layout->addLayout(right);
     setFocusProxy(CbEigen_.front());
 }
 
 // --- properties ------------------------------------------------------------------------------------------------
 
-QWidget* Eigenschaftsreiter::neueEigenschaften()
+QWidget* PropertyTab::newProperties()
 {
-    auto* teil = new QWidget;
-    teil->setObjectName(QStringLiteral("FrmTabEigen"));
-    auto* gitter = new QGridLayout(teil);
-    gitter->setContentsMargins(0, 4, 0, 0);
-    gitter->setHorizontalSpacing(8);
-    gitter->setVerticalSpacing(3);
-    gitter->setColumnStretch(1, 1);
-    for (int index = 1; index <= ANZAHL_EIGENSCHAFTEN; ++index)
-        neueEigenschaft(index, *gitter);
-    gitter->setRowStretch(ANZAHL_EIGENSCHAFTEN + 1, 1);
-    return teil;
+    auto* part = new QWidget;
+    part->setObjectName(QStringLiteral("FrmTabEigen"));
+    auto* grid = new QGridLayout(part);
+    grid->setContentsMargins(0, 4, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(3);
+    grid->setColumnStretch(1, 1);
+    for (int index = 1; index <= PROPERTY_COUNT; ++index)
+        newProperty(index, *grid);
+    grid->setRowStretch(PROPERTY_COUNT + 1, 1);
+    return part;
 }
 
-void Eigenschaftsreiter::neueEigenschaft(int index, QGridLayout& gitter)
+void PropertyTab::newProperty(int index, QGridLayout& grid)
 {
-    const auto stelle = static_cast<std::size_t>(index - 1);
-    auto* caption = new KurzLabel;
-    caption->setObjectName(QLatin1String(BEZEICHNUNGEN[stelle]));
-    caption->setFixedWidth(caption->fontMetrics().horizontalAdvance(QStringLiteral("Hauptmerkmal A")) + 8);
-    setzeRolle(*caption, Rolle::Beschriftung);
-    auto* kombo = new Wertekombo(QStringLiteral("CbEigen(%1)").arg(index));
-    kombo->gewaehlt = [this, index](const std::string& wert) { modell_.eigenschaften().wertGewaehlt(index, wert); };
-    auto* anzahl = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblAnzEigen(%1)").arg(index));
-    anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    anzahl->setMinimumWidth(anzahl->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
-    gitter.addWidget(captions_[stelle] = caption, index, 0);
-    gitter.addWidget(CbEigen_[stelle] = kombo, index, 1);
-    gitter.addWidget(LblAnzEigen_[stelle] = anzahl, index, 2);
+    const auto position = static_cast<std::size_t>(index - 1);
+    auto* label = new ShortLabel;
+    label->setObjectName(QLatin1String(LABELS[position]));
+    label->setFixedWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("Hauptmerkmal A")) + 8);
+    setRole(*label, TextRole::Caption);
+    auto* combo = new ValueCombo(QStringLiteral("CbEigen(%1)").arg(index));
+    combo->chosen = [this, index](const std::string& value) { model_.properties().valueChosen(index, value); };
+    auto* count = caption({}, TextRole::Caption, QStringLiteral("LblAnzEigen(%1)").arg(index));
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
+    grid.addWidget(captions_[position] = label, index, 0);
+    grid.addWidget(CbEigen_[position] = combo, index, 1);
+    grid.addWidget(LblAnzEigen_[position] = count, index, 2);
 }
 
-void Eigenschaftsreiter::zeigeEigenschaften()
+void PropertyTab::showProperties()
 {
-    const Eigenschaftsbereich& bereich = modell_.eigenschaften();
-    for (int index = 1; index <= ANZAHL_EIGENSCHAFTEN; ++index) {
-        const auto stelle = static_cast<std::size_t>(index - 1);
-        const QString bezeichnung = zuQt(bereich.bezeichnung(index));
-        captions_[stelle]->setText(bezeichnung);
-        CbEigen_[stelle]->setAccessibleName(bezeichnung);
-        CbEigen_[stelle]->zeige(bereich.liste(index).werte, modell_.listenfassung());
-        LblAnzEigen_[stelle]->setText(zuQt(bereich.liste(index).anzahl));
+    const PropertySection& section = model_.properties();
+    for (int index = 1; index <= PROPERTY_COUNT; ++index) {
+        const auto position = static_cast<std::size_t>(index - 1);
+        const QString label = toQt(section.label(index));
+        captions_[position]->setText(label);
+        CbEigen_[position]->setAccessibleName(label);
+        CbEigen_[position]->display(section.list(index).values, model_.listGeneration());
+        LblAnzEigen_[position]->setText(toQt(section.list(index).count));
     }
 }
 
 // --- statuses --------------------------------------------------------------------------------------------------
 
-QWidget* Eigenschaftsreiter::neueStati()
+QWidget* PropertyTab::newStatuses()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("FrmChStatus", QStringLiteral("Status"));
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->setContentsMargins(10, 4, 10, 6);
-    aufbau->setSpacing(4);
+    auto* frame = newField<QGroupBox>("FrmChStatus", QStringLiteral("Status"));
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(10, 4, 10, 6);
+    layout->setSpacing(4);
     for (std::size_t status = 0; status < ChFilterStat_.size(); ++status) {
-        auto* kasten = new QCheckBox(QStringLiteral("%1 %2").arg(status).arg(zuQt(STATUS[status].name)));
-        connect(kasten, &QCheckBox::clicked, this, bewacht([this, status](bool an) {
-                    modell_.eigenschaften().statusGewaehlt(static_cast<int>(status), an);
+        auto* box = new QCheckBox(QStringLiteral("%1 %2").arg(status).arg(toQt(STATUS[status].name)));
+        connect(box, &QCheckBox::clicked, this, guardedSlot([this, status](bool on) {
+                    model_.properties().statusChosen(static_cast<int>(status), on);
                 }));
-        aufbau->addWidget(ChFilterStat_[status] = kasten);
+        layout->addWidget(ChFilterStat_[status] = box);
     }
     auto* FrmStatLeg = new QWidget;
     FrmStatLeg->setObjectName(QStringLiteral("FrmStatLeg"));
-    auto* reihe = new QHBoxLayout(FrmStatLeg);
-    reihe->setContentsMargins({});
-    reihe->addWidget(legende_ = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblStatLeg")));
-    aufbau->addWidget(FrmStatLeg);
-    return rahmen;
+    auto* layoutRow = new QHBoxLayout(FrmStatLeg);
+    layoutRow->setContentsMargins({});
+    layoutRow->addWidget(legend_ = caption({}, TextRole::Caption, QStringLiteral("LblStatLeg")));
+    layout->addWidget(FrmStatLeg);
+    return frame;
 }
 
-void Eigenschaftsreiter::zeigeStati()
+void PropertyTab::showStatuses()
 {
-    const int tab = modell_.kontext().tab;
-    const auto& haken = modell_.kontext().zustand().ChFilterStat;
+    const int tab = model_.context().tab;
+    const auto& tick = model_.context().state().ChFilterStat;
     for (std::size_t status = 0; status < ChFilterStat_.size(); ++status) {
-        QCheckBox& kasten = *ChFilterStat_[status];
-        kasten.setObjectName(QStringLiteral("ChFilterStat(%1)").arg(tab * 10 + static_cast<int>(status)));
-        kasten.setEnabled(modell_.eigenschaften().statusVorhanden(static_cast<int>(status)));
-        zeigeGesetzt(kasten, haken[status]);
+        QCheckBox& box = *ChFilterStat_[status];
+        box.setObjectName(QStringLiteral("ChFilterStat(%1)").arg(tab * 10 + static_cast<int>(status)));
+        box.setEnabled(model_.properties().statusExists(static_cast<int>(status)));
+        showSet(box, tick[status]);
     }
-    const StatusCondition& bedingung = modell_.kontext().filter.status;
-    legende_->setText(bedingung.kurz.empty() ? QStringLiteral("Alle Stati") : zuQt("Status" + bedingung.kurz));
-    showNote(*legende_, bedingung.isSet());
+    const StatusCondition& condition = model_.context().filter.status;
+    legend_->setText(condition.shortText.empty() ? QStringLiteral("Alle Stati") : toQt("Status" + condition.shortText));
+    showNote(*legend_, condition.isSet());
 }
 
 // --- dates -----------------------------------------------------------------------------------------------------
 
-QWidget* Eigenschaftsreiter::neueDatumsart()
+QWidget* PropertyTab::newDateKind()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("frmDatum", QStringLiteral("Datum"));
-    fuelleOptionen(*rahmen, "OpDat", DATUMSARTEN, OpDat_,
-                   [this](int feld) { modell_.eigenschaften().setzeDatumsfeld(feld); });
-    return rahmen;
+    auto* frame = newField<QGroupBox>("frmDatum", QStringLiteral("Datum"));
+    fillOptions(*frame, "OpDat", DATE_KINDS, OpDat_, [this](int field) { model_.properties().setDateField(field); });
+    return frame;
 }
 
-QWidget* Eigenschaftsreiter::neueBegrenzung()
+QWidget* PropertyTab::newBound()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("frmDatumBegr", QStringLiteral("Begrenzung"));
-    fuelleOptionen(*rahmen, "OpDatBegr", BEGRENZUNGEN, OpDatBegr_,
-                   [this](int begrenzung) { modell_.eigenschaften().setzeBegrenzung(begrenzung); });
-    return rahmen;
+    auto* frame = newField<QGroupBox>("frmDatumBegr", QStringLiteral("Begrenzung"));
+    fillOptions(*frame, "OpDatBegr", BOUNDS, OpDatBegr_, [this](int bound) { model_.properties().setBound(bound); });
+    return frame;
 }
 
-QWidget* Eigenschaftsreiter::neuerKalender()
+QWidget* PropertyTab::newCalendar()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("FrmKalender", QStringLiteral("Tag wählen"));
-    MonthViewEigen_ = new Kalender("MonthViewEigen");
-    MonthViewEigen_->gewaehlt = [this](const QDate& tag) { datumGewaehlt(tag); };
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->setContentsMargins(4, 2, 4, 4);
-    aufbau->addWidget(MonthViewEigen_);
-    return rahmen;
+    auto* frame = newField<QGroupBox>("FrmKalender", QStringLiteral("Tag wählen"));
+    MonthViewEigen_ = new Calendar("MonthViewEigen");
+    MonthViewEigen_->chosen = [this](const QDate& day) { dateChosen(day); };
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(4, 2, 4, 4);
+    layout->addWidget(MonthViewEigen_);
+    return frame;
 }
 
-void Eigenschaftsreiter::datumGewaehlt(const QDate& tag)
+void PropertyTab::dateChosen(const QDate& day)
 {
-    modell_.eigenschaften().datumGewaehlt(Zeitpunkt::aus({tag.year(), tag.month(), tag.day()}));
-    if (datumUebernommen)
-        datumUebernommen();
+    model_.properties().dateChosen(DateTime::out({day.year(), day.month(), day.day()}));
+    if (dateAdopted)
+        dateAdopted();
 }
 
-void Eigenschaftsreiter::zeigeDatum()
+void PropertyTab::showDate()
 {
     for (std::size_t i = 0; i < OpDat_.size(); ++i)
-        zeigeGesetzt(*OpDat_[i], modell_.eigenschaften().OpDat() == static_cast<int>(i));
+        showSet(*OpDat_[i], model_.properties().OpDat() == static_cast<int>(i));
     for (std::size_t i = 0; i < OpDatBegr_.size(); ++i)
-        zeigeGesetzt(*OpDatBegr_[i], modell_.eigenschaften().OpDatBegr() == static_cast<int>(i));
+        showSet(*OpDatBegr_[i], model_.properties().OpDatBegr() == static_cast<int>(i));
 }
 
-void Eigenschaftsreiter::zeigeHeute()
+void PropertyTab::showToday()
 {
-    const Kalenderzeit heute = modell_.heute().kalender();
+    const CalendarTime today = model_.today().calendar();
     const QSignalBlocker still(MonthViewEigen_);
-    MonthViewEigen_->setSelectedDate({heute.jahr, heute.monat, heute.tag});
+    MonthViewEigen_->setSelectedDate({today.year, today.month, today.day});
 }
 
-void Eigenschaftsreiter::zeigen()
+void PropertyTab::refresh()
 {
-    zeigeEigenschaften();
-    zeigeStati();
-    zeigeDatum();
+    showProperties();
+    showStatuses();
+    showDate();
 }
 
 } // namespace quelvarn

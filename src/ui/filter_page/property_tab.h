@@ -15,45 +15,45 @@ class QLabel;
 namespace quelvarn {
 
 class FilterPage;
-class Kalender;
-class KurzLabel;
-class Wertekombo;
+class Calendar;
+class ShortLabel;
+class ValueCombo;
 
 // Tab 0 of the filter page: twelve properties, statuses, dates.
-class Eigenschaftsreiter : public QWidget
+class PropertyTab : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Eigenschaftsreiter(FilterPage& modell);
+    explicit PropertyTab(FilterPage& model);
 
-    void zeigen();
+    void refresh();
     // The calendar goes to today's month.
-    void zeigeHeute();
+    void showToday();
     // A day was picked: the focus goes to the tabs.
-    std::function<void()> datumUebernommen;
+    std::function<void()> dateAdopted;
 
 private:
-    QWidget* neueEigenschaften();
-    void neueEigenschaft(int index, QGridLayout& gitter);
-    QWidget* neueStati();
-    QWidget* neueDatumsart();
-    QWidget* neueBegrenzung();
-    QWidget* neuerKalender();
-    void datumGewaehlt(const QDate& tag);
-    void zeigeEigenschaften();
-    void zeigeStati();
-    void zeigeDatum();
+    QWidget* newProperties();
+    void newProperty(int index, QGridLayout& grid);
+    QWidget* newStatuses();
+    QWidget* newDateKind();
+    QWidget* newBound();
+    QWidget* newCalendar();
+    void dateChosen(const QDate& day);
+    void showProperties();
+    void showStatuses();
+    void showDate();
 
-    FilterPage& modell_;
-    std::array<KurzLabel*, ANZAHL_EIGENSCHAFTEN> captions_{};
-    std::array<Wertekombo*, ANZAHL_EIGENSCHAFTEN> CbEigen_{};
-    std::array<QLabel*, ANZAHL_EIGENSCHAFTEN> LblAnzEigen_{};
-    std::array<QCheckBox*, ANZAHL_STATUS> ChFilterStat_{};
-    QLabel* legende_ = nullptr;
+    FilterPage& model_;
+    std::array<ShortLabel*, PROPERTY_COUNT> captions_{};
+    std::array<ValueCombo*, PROPERTY_COUNT> CbEigen_{};
+    std::array<QLabel*, PROPERTY_COUNT> LblAnzEigen_{};
+    std::array<QCheckBox*, STATUS_COUNT> ChFilterStat_{};
+    QLabel* legend_ = nullptr;
     std::array<QAbstractButton*, 2> OpDat_{};
     std::array<QAbstractButton*, 3> OpDatBegr_{};
-    Kalender* MonthViewEigen_ = nullptr;
+    Calendar* MonthViewEigen_ = nullptr;
 };
 
 } // namespace quelvarn

@@ -18,122 +18,121 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int BREITE_HAUPTWERTE = 210;
-constexpr int BREITE_NUMMER = 26;
+constexpr int WIDTH_MAIN_VALUES = 210;
+constexpr int WIDTH_NUMBER = 26;
 
 } // namespace
 
-LaufenderFilter::LaufenderFilter(FilterPage& modell)
-    : modell_(modell), LblKopfFilterWerte_(beschriftung({}, Rolle::Kopf, QStringLiteral("LblKopfFilterWerte"))),
+RunningFilter::RunningFilter(FilterPage& model)
+    : model_(model), LblKopfFilterWerte_(caption({}, TextRole::Heading, QStringLiteral("LblKopfFilterWerte"))),
       CmChangeStar_(new QPushButton(QStringLiteral("Sterne ergän&zen"))),
-      DataGridFilterEigenMerk_(new Werttabelle("DataGridFilterEigenMerk")),
-      DataGridStatus_(new Werttabelle("DataGridStatus")), DGFilternWerte_(new QTableView),
-      hauptwerte_(new Hauptwertmodell(this))
+      DataGridFilterEigenMerk_(new ValueTable("DataGridFilterEigenMerk")),
+      DataGridStatus_(new ValueTable("DataGridStatus")), DGFilternWerte_(new QTableView),
+      mainValues_(new MainValueModel(this))
 {
-    baueSchritte();
-    baueHauptwerte();
-    auto* schritte = new QFrame;
-    schritte->setProperty("rahmen", true);
+    buildSteps();
+    buildMainValues();
+    auto* steps = new QFrame;
+    steps->setProperty("rahmen", true);
     auto* status = new QHBoxLayout;
-    status->setContentsMargins(BREITE_NUMMER, 0, 0, 0); // Below the names of the steps.
+    status->setContentsMargins(WIDTH_NUMBER, 0, 0, 0); // Below the names of the steps.
     status->addWidget(DataGridStatus_);
-    auto* senkrecht = new QVBoxLayout(schritte);
-    senkrecht->setContentsMargins(1, 1, 1, 1);
-    senkrecht->setSpacing(0);
-    senkrecht->addWidget(neuerKopf());
-    senkrecht->addWidget(DataGridFilterEigenMerk_, 1);
-    senkrecht->addWidget(trennlinie());
-    senkrecht->addLayout(status);
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->addWidget(schritte, 1);
-    aufbau->addWidget(DGFilternWerte_);
+    auto* vertical = new QVBoxLayout(steps);
+    vertical->setContentsMargins(1, 1, 1, 1);
+    vertical->setSpacing(0);
+    vertical->addWidget(newHeading());
+    vertical->addWidget(DataGridFilterEigenMerk_, 1);
+    vertical->addWidget(separatorLine());
+    vertical->addLayout(status);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(steps, 1);
+    layout->addWidget(DGFilternWerte_);
 }
 
-QWidget* LaufenderFilter::neuerKopf()
+QWidget* RunningFilter::newHeading()
 {
-    auto* kopf = new Streifen(Streifen::Art::Kopfzeile, "KopfFilterWerte");
-    kopf->reihe().setContentsMargins(2, 1, 2, 1);
+    auto* heading = new Strip(Strip::Kind::HeadingRow, "KopfFilterWerte");
+    heading->layoutRow().setContentsMargins(2, 1, 2, 1);
     CmChangeStar_->setObjectName(QStringLiteral("CmChangeStar"));
     CmChangeStar_->setToolTip(QStringLiteral("Geänderte Werte mit * am Ende in den Filter übernehmen"));
     CmChangeStar_->setProperty("flach", true);
-    connect(CmChangeStar_, &QPushButton::clicked, this, bewacht([this] {
+    connect(CmChangeStar_, &QPushButton::clicked, this, guardedSlot([this] {
                 takeInput();
-                modell_.sterneErgaenzen();
+                model_.starsComplete();
             }));
-    kopf->reihe().addWidget(LblKopfFilterWerte_, 1);
-    kopf->reihe().addWidget(CmChangeStar_);
-    return kopf;
+    heading->layoutRow().addWidget(LblKopfFilterWerte_, 1);
+    heading->layoutRow().addWidget(CmChangeStar_);
+    return heading;
 }
 
-void LaufenderFilter::baueSchritte()
+void RunningFilter::buildSteps()
 {
-    DataGridFilterEigenMerk_->zeilen().bearbeitet = [this](std::size_t zeile, const std::string& wert) {
-        modell_.wertGeaendert(zeile, wert);
+    DataGridFilterEigenMerk_->rows().edited = [this](std::size_t row, const std::string& value) {
+        model_.valueChanged(row, value);
     };
     DataGridFilterEigenMerk_->verticalHeader()->show();
     DataGridFilterEigenMerk_->installEventFilter(this);
-    for (Werttabelle* tabelle : {DataGridFilterEigenMerk_, DataGridStatus_})
-        tabelle->horizontalHeader()->hide();
-    DataGridFilterEigenMerk_->verticalHeader()->setFixedWidth(BREITE_NUMMER);
+    for (ValueTable* table : {DataGridFilterEigenMerk_, DataGridStatus_})
+        table->horizontalHeader()->hide();
+    DataGridFilterEigenMerk_->verticalHeader()->setFixedWidth(WIDTH_NUMBER);
     DataGridStatus_->setFixedHeight(DataGridStatus_->verticalHeader()->defaultSectionSize());
     DataGridStatus_->setFocusPolicy(Qt::NoFocus);
     DataGridStatus_->setSelectionMode(QAbstractItemView::NoSelection);
     DataGridStatus_->setAccessibleName(QStringLiteral("Status"));
 }
 
-void LaufenderFilter::baueHauptwerte()
+void RunningFilter::buildMainValues()
 {
     DGFilternWerte_->setObjectName(QStringLiteral("DGFilternWerte"));
     DGFilternWerte_->setAccessibleName(QStringLiteral("Grenzen der Hauptwerte"));
     DGFilternWerte_->setProperty("rahmen", true);
-    DGFilternWerte_->setModel(hauptwerte_);
-    stelleGitterEin(*DGFilternWerte_);
-    DGFilternWerte_->setFixedWidth(BREITE_HAUPTWERTE);
+    DGFilternWerte_->setModel(mainValues_);
+    configureGrid(*DGFilternWerte_);
+    DGFilternWerte_->setFixedWidth(WIDTH_MAIN_VALUES);
     DGFilternWerte_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     DGFilternWerte_->verticalHeader()->setMinimumSectionSize(DGFilternWerte_->fontMetrics().height());
     DGFilternWerte_->verticalHeader()->setDefaultSectionSize(DGFilternWerte_->fontMetrics().height() + 2);
-    DGFilternWerte_->setColumnWidth(0, BREITE_HAUPTWERTE / 5);
-    DGFilternWerte_->setColumnWidth(1, BREITE_HAUPTWERTE * 2 / 5);
+    DGFilternWerte_->setColumnWidth(0, WIDTH_MAIN_VALUES / 5);
+    DGFilternWerte_->setColumnWidth(1, WIDTH_MAIN_VALUES * 2 / 5);
 }
 
 // Enter runs the filter; F2 and typing edit a value.
-bool LaufenderFilter::eventFilter(QObject* empfaenger, QEvent* ereignis)
+bool RunningFilter::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (empfaenger == DataGridFilterEigenMerk_ && ereignis->type() == QEvent::KeyPress) {
-        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
+    if (receiver == DataGridFilterEigenMerk_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
         // The key that ends the editing of a value comes here as well, before the value is taken.
-        const bool schreibt =
-            DataGridFilterEigenMerk_->isPersistentEditorOpen(DataGridFilterEigenMerk_->currentIndex());
-        if ((taste == Qt::Key_Return || taste == Qt::Key_Enter) && filtern && !schreibt) {
-            filtern();
+        const bool writes = DataGridFilterEigenMerk_->isPersistentEditorOpen(DataGridFilterEigenMerk_->currentIndex());
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && filter && !writes) {
+            filter();
             return true;
         }
     }
-    return QWidget::eventFilter(empfaenger, ereignis);
+    return QWidget::eventFilter(receiver, event);
 }
 
-void LaufenderFilter::takeInput()
+void RunningFilter::takeInput()
 {
     DataGridFilterEigenMerk_->takeInput();
 }
 
-void LaufenderFilter::zeigen()
+void RunningFilter::refresh()
 {
-    const Filterkontext& kontext = modell_.kontext();
-    LblKopfFilterWerte_->setText(zuQt(modell_.kopfFilterwerte()));
-    CmChangeStar_->setEnabled(!kontext.FilterWerteTabelle().empty());
-    DataGridFilterEigenMerk_->zeilen().zeige(kontext.FilterWerteTabelle());
-    zeigeStatus();
-    hauptwerte_->zeige(kontext.zustand().HauptwertBereich);
-    DGFilternWerte_->setVisible(kontext.bereich() == Filterbereich::Struktur);
+    const FilterContext& context = model_.context();
+    LblKopfFilterWerte_->setText(toQt(model_.headingFilterValues()));
+    CmChangeStar_->setEnabled(!context.FilterWerteTabelle().empty());
+    DataGridFilterEigenMerk_->rows().display(context.FilterWerteTabelle());
+    showStatus();
+    mainValues_->display(context.state().HauptwertBereich);
+    DGFilternWerte_->setVisible(context.section() == FilterSection::Structure);
 }
 
-void LaufenderFilter::zeigeStatus()
+void RunningFilter::showStatus()
 {
-    const std::string& kurz = modell_.kontext().filter.status.kurz;
-    DataGridStatus_->zeilen().zeige(kurz.empty() ? std::vector<FilterRow>{}
-                                                 : std::vector<FilterRow>{{"", "Status", kurz}});
+    const std::string& shortText = model_.context().filter.status.shortText;
+    DataGridStatus_->rows().display(shortText.empty() ? std::vector<FilterRow>{}
+                                                      : std::vector<FilterRow>{{"", "Status", shortText}});
 }
 
 } // namespace quelvarn

@@ -11,36 +11,36 @@ class QTableView;
 namespace quelvarn {
 
 class FilterPage;
-class Hauptwertmodell;
-class Werttabelle;
+class MainValueModel;
+class ValueTable;
 
 // The running filter: its steps, the statuses, and the bounds of the main values while their tab is in front.
-class LaufenderFilter : public QWidget
+class RunningFilter : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit LaufenderFilter(FilterPage& modell);
+    explicit RunningFilter(FilterPage& model);
 
-    void zeigen();
-    void takeInput();              // A value that is being written counts.
-    std::function<void()> filtern; // Enter on a step.
+    void refresh();
+    void takeInput();             // A value that is being written counts.
+    std::function<void()> filter; // Enter on a step.
 
-    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    QWidget* neuerKopf();
-    void baueSchritte();
-    void baueHauptwerte();
-    void zeigeStatus();
+    QWidget* newHeading();
+    void buildSteps();
+    void buildMainValues();
+    void showStatus();
 
-    FilterPage& modell_;
+    FilterPage& model_;
     QLabel* LblKopfFilterWerte_;
     QPushButton* CmChangeStar_;
-    Werttabelle* DataGridFilterEigenMerk_;
-    Werttabelle* DataGridStatus_;
+    ValueTable* DataGridFilterEigenMerk_;
+    ValueTable* DataGridStatus_;
     QTableView* DGFilternWerte_;
-    Hauptwertmodell* hauptwerte_;
+    MainValueModel* mainValues_;
 };
 
 } // namespace quelvarn

@@ -17,81 +17,81 @@ namespace quelvarn {
 
 namespace {
 
-QHBoxLayout* neueReihe(QWidget& teil)
+QHBoxLayout* newStripRow(QWidget& part)
 {
-    auto* reihe = new QHBoxLayout(&teil);
-    reihe->setContentsMargins({});
-    return reihe;
+    auto* layoutRow = new QHBoxLayout(&part);
+    layoutRow->setContentsMargins({});
+    return layoutRow;
 }
 
 } // namespace
 
-GespeicherteFilterRahmen::GespeicherteFilterRahmen(FilterPage& modell)
-    : QGroupBox(QStringLiteral("Filter sichern")), modell_(modell),
-      LblAnzFilterwerte_(beschriftung({}, Rolle::Klein, QStringLiteral("LblAnzFilterwerte"))),
-      CbFilterSave_(new Wertekombo(QStringLiteral("CbFilterSave"))), TxtFilterSave_(new QLineEdit)
+SavedFilterFrame::SavedFilterFrame(FilterPage& model)
+    : QGroupBox(QStringLiteral("Filter sichern")), model_(model),
+      LblAnzFilterwerte_(caption({}, TextRole::Small, QStringLiteral("LblAnzFilterwerte"))),
+      CbFilterSave_(new ValueCombo(QStringLiteral("CbFilterSave"))), TxtFilterSave_(new QLineEdit)
 {
     setObjectName(QStringLiteral("FrmFilterSave"));
     CbFilterSave_->setAccessibleName(QStringLiteral("Gespeicherte Filter"));
-    auto* auswahl = new QWidget;
-    auto* reihe = neueReihe(*auswahl);
-    reihe->addWidget(CbFilterSave_, 1);
-    reihe->addWidget(LblAnzFilterwerte_);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(10, 4, 10, 8);
-    aufbau->setSpacing(6);
-    aufbau->addWidget(auswahl);
-    aufbau->addWidget(neueAuswahl());
-    aufbau->addWidget(neuesSpeichern());
-    aufbau->addStretch(1);
+    auto* selection = new QWidget;
+    auto* layoutRow = newStripRow(*selection);
+    layoutRow->addWidget(CbFilterSave_, 1);
+    layoutRow->addWidget(LblAnzFilterwerte_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(10, 4, 10, 8);
+    layout->setSpacing(6);
+    layout->addWidget(selection);
+    layout->addWidget(newSelection());
+    layout->addWidget(newSave());
+    layout->addStretch(1);
 }
 
-QWidget* GespeicherteFilterRahmen::neueAuswahl()
+QWidget* SavedFilterFrame::newSelection()
 {
-    auto* teil = new QWidget;
-    auto* verwenden = neuesFeld<QPushButton>("CmFilterUse", QStringLiteral("Ver&wenden"));
-    auto* loeschen = neuesFeld<QPushButton>("CmFilterDelete", QStringLiteral("&Löschen"));
-    connect(verwenden, &QPushButton::clicked, this, bewacht([this] {
-                const Sanduhr warten;
-                modell_.filterVerwenden(gewaehlter());
+    auto* part = new QWidget;
+    auto* apply = newField<QPushButton>("CmFilterUse", QStringLiteral("Ver&wenden"));
+    auto* remove = newField<QPushButton>("CmFilterDelete", QStringLiteral("&Löschen"));
+    connect(apply, &QPushButton::clicked, this, guardedSlot([this] {
+                const BusyCursor wait;
+                model_.applySavedFilter(chosen());
             }));
-    connect(loeschen, &QPushButton::clicked, this, bewacht([this] { modell_.filterLoeschen(gewaehlter()); }));
-    auto* reihe = neueReihe(*teil);
-    reihe->addWidget(verwenden, 1);
-    reihe->addWidget(loeschen, 1);
-    return teil;
+    connect(remove, &QPushButton::clicked, this, guardedSlot([this] { model_.deleteSavedFilter(chosen()); }));
+    auto* layoutRow = newStripRow(*part);
+    layoutRow->addWidget(apply, 1);
+    layoutRow->addWidget(remove, 1);
+    return part;
 }
 
-QWidget* GespeicherteFilterRahmen::neuesSpeichern()
+QWidget* SavedFilterFrame::newSave()
 {
-    auto* teil = new QWidget;
+    auto* part = new QWidget;
     TxtFilterSave_->setObjectName(QStringLiteral("TxtFilterSave"));
     TxtFilterSave_->setPlaceholderText(QStringLiteral("Name des Filters"));
     TxtFilterSave_->setAccessibleName(QStringLiteral("Name des Filters"));
-    auto* speichern = neuesFeld<QPushButton>("CmFilterSave", QStringLiteral("&Speichern"));
-    connect(speichern, &QPushButton::clicked, this, bewacht([this] {
+    auto* save = newField<QPushButton>("CmFilterSave", QStringLiteral("&Speichern"));
+    connect(save, &QPushButton::clicked, this, guardedSlot([this] {
                 if (beforeSaving)
                     beforeSaving();
-                if (modell_.filterSpeichern(ausQt(TxtFilterSave_->text())))
+                if (model_.saveCurrentFilter(fromQt(TxtFilterSave_->text())))
                     TxtFilterSave_->clear();
             }));
-    connect(TxtFilterSave_, &QLineEdit::returnPressed, speichern, &QPushButton::click);
-    auto* reihe = neueReihe(*teil);
-    reihe->addWidget(TxtFilterSave_, 1);
-    reihe->addWidget(speichern);
-    return teil;
+    connect(TxtFilterSave_, &QLineEdit::returnPressed, save, &QPushButton::click);
+    auto* layoutRow = newStripRow(*part);
+    layoutRow->addWidget(TxtFilterSave_, 1);
+    layoutRow->addWidget(save);
+    return part;
 }
 
-std::string GespeicherteFilterRahmen::gewaehlter() const
+std::string SavedFilterFrame::chosen() const
 {
-    return CbFilterSave_->currentIndex() < 0 ? std::string() : ausQt(CbFilterSave_->currentText());
+    return CbFilterSave_->currentIndex() < 0 ? std::string() : fromQt(CbFilterSave_->currentText());
 }
 
-void GespeicherteFilterRahmen::zeigen()
+void SavedFilterFrame::refresh()
 {
-    const auto namen = modell_.gespeicherteFilter();
-    CbFilterSave_->zeige(namen);
-    LblAnzFilterwerte_->setText(QString::number(namen.size()));
+    const auto names = model_.savedFilter();
+    CbFilterSave_->display(names);
+    LblAnzFilterwerte_->setText(QString::number(names.size()));
 }
 
 } // namespace quelvarn

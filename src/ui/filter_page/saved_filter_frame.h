@@ -8,27 +8,27 @@ class QLineEdit;
 namespace quelvarn {
 
 class FilterPage;
-class Wertekombo;
+class ValueCombo;
 
 // FrmFilterSave: saved filters of the document type, and the field that names a new one.
-class GespeicherteFilterRahmen : public QGroupBox
+class SavedFilterFrame : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    explicit GespeicherteFilterRahmen(FilterPage& modell);
+    explicit SavedFilterFrame(FilterPage& model);
 
-    void zeigen();
+    void refresh();
     std::function<void()> beforeSaving;
 
 private:
-    QWidget* neueAuswahl();
-    QWidget* neuesSpeichern();
-    std::string gewaehlter() const;
+    QWidget* newSelection();
+    QWidget* newSave();
+    std::string chosen() const;
 
-    FilterPage& modell_;
+    FilterPage& model_;
     QLabel* LblAnzFilterwerte_;
-    Wertekombo* CbFilterSave_;
+    ValueCombo* CbFilterSave_;
     QLineEdit* TxtFilterSave_;
 };
 

@@ -22,52 +22,52 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int EIGENSCHAFT_FIRMA = 4; // Places in the captions of tab 0.
-constexpr int EIGENSCHAFT_MATERIAL = 6;
+constexpr int PROPERTY_COMPANY = 4; // Places in the captions of tab 0.
+constexpr int PROPERTY_MATERIAL = 6;
 
-QLabel* neueAnzahl(const char* name)
+QLabel* newCount(const char* name)
 {
-    auto* anzahl = beschriftung({}, Rolle::Beschriftung, QLatin1String(name));
-    anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    anzahl->setMinimumWidth(anzahl->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
-    return anzahl;
+    auto* count = caption({}, TextRole::Caption, QLatin1String(name));
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
+    return count;
 }
 
 // The value of the step of a column, "" when there is none.
-std::string wertVon(const Filterkontext& kontext, std::string_view Feldname)
+std::string valueOf(const FilterContext& context, std::string_view Feldname)
 {
-    const auto steps = filledSteps(kontext.zustand());
-    const auto step = std::ranges::find(steps, Feldname, &FilterSchritt::Feldname);
-    return step != steps.end() ? step->Wert : std::string();
+    const auto steps = filledSteps(context.state());
+    const auto step = std::ranges::find(steps, Feldname, &FilterStep::Feldname);
+    return step != steps.end() ? step->value : std::string();
 }
 
 } // namespace
 
-Strukturreiter::Strukturreiter(FilterPage& modell)
-    : modell_(modell), struktur_(modell.struktur()), FrmTreeViemerk_(new QGroupBox), TreeViewStrukMerk_(new QTreeView),
-      knoten_(new Merkmalbaum(this)), statuszeile_(new KurzLabel), FrmMarterialFirma_(new QGroupBox),
-      CbMaterialMW_(new Wertekombo(QStringLiteral("CbMaterialMW"))),
-      CbFirmaMW_(new Wertekombo(QStringLiteral("CbFirmaMW"))), LblMaterialMW_(beschriftung({}, Rolle::Beschriftung)),
-      LblFirmaMW_(beschriftung({}, Rolle::Beschriftung)), LblAnzMaterialMW_(neueAnzahl("LblAnzMaterialMW")),
-      LblAnzFirmaMW_(neueAnzahl("LblAnzFirmaMW")), FrmHWag_(new Hauptwertrahmen(struktur_)),
-      TxtPfadDateiVorlage_(new KurzLabel(nullptr, Qt::ElideMiddle))
+StructureTab::StructureTab(FilterPage& model)
+    : model_(model), structure_(model.structure()), FrmTreeViemerk_(new QGroupBox), TreeViewStrukMerk_(new QTreeView),
+      node_(new FeatureTree(this)), statusRow_(new ShortLabel), FrmMarterialFirma_(new QGroupBox),
+      CbMaterialMW_(new ValueCombo(QStringLiteral("CbMaterialMW"))),
+      CbFirmaMW_(new ValueCombo(QStringLiteral("CbFirmaMW"))), LblMaterialMW_(caption({}, TextRole::Caption)),
+      LblFirmaMW_(caption({}, TextRole::Caption)), LblAnzMaterialMW_(newCount("LblAnzMaterialMW")),
+      LblAnzFirmaMW_(newCount("LblAnzFirmaMW")), FrmHWag_(new MainValueFrame(structure_)),
+      TxtPfadDateiVorlage_(new ShortLabel(nullptr, Qt::ElideMiddle))
 {
-    auto* rechts = new QVBoxLayout;
-    rechts->addWidget(neuesMaterialFirma());
-    rechts->addWidget(FrmHWag_, 1);
-    auto* aufbau = new QGridLayout(this);
-    aufbau->setContentsMargins(12, 4, 12, 8);
-    aufbau->setHorizontalSpacing(16);
-    aufbau->addWidget(neuerBaum(), 0, 0);
-    aufbau->addLayout(rechts, 0, 1);
-    aufbau->addWidget(neueVorlage(), 1, 0, 1, 2);
-    aufbau->setColumnStretch(0, 2);
-    aufbau->setColumnStretch(1, 3);
-    aufbau->setRowStretch(0, 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(newMaterialFirma());
+    right->addWidget(FrmHWag_, 1);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(12, 4, 12, 8);
+    layout->setHorizontalSpacing(16);
+    layout->addWidget(newTree(), 0, 0);
+    layout->addLayout(right, 0, 1);
+    layout->addWidget(newTemplate(), 1, 0, 1, 2);
+    layout->setColumnStretch(0, 2);
+    layout->setColumnStretch(1, 3);
+    layout->setRowStretch(0, 1);
     setFocusProxy(TreeViewStrukMerk_);
 }
 
-QWidget* Strukturreiter::neuerBaum()
+QWidget* StructureTab::newTree()
 {
     FrmTreeViemerk_->setObjectName(QStringLiteral("FrmTreeViemerk"));
     TreeViewStrukMerk_->setObjectName(QStringLiteral("TreeViewStrukMerk"));
@@ -77,107 +77,107 @@ QWidget* Strukturreiter::neuerBaum()
     TreeViewStrukMerk_->setUniformRowHeights(true);
     TreeViewStrukMerk_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     TreeViewStrukMerk_->setExpandsOnDoubleClick(false);
-    TreeViewStrukMerk_->setModel(knoten_);
-    TreeViewStrukMerk_->expand(knoten_->finde({}));
-    statuszeile_->setObjectName(QStringLiteral("LblStatusStrukMerk"));
-    setzeRolle(*statuszeile_, Rolle::Klein);
-    waehltPerKlick(*TreeViewStrukMerk_, [this](const QModelIndex& stelle) { knotenGewaehlt(stelle); });
-    auto* aufbau = new QVBoxLayout(FrmTreeViemerk_);
-    aufbau->setSpacing(4);
-    aufbau->addWidget(TreeViewStrukMerk_, 1);
-    aufbau->addWidget(statuszeile_);
+    TreeViewStrukMerk_->setModel(node_);
+    TreeViewStrukMerk_->expand(node_->find({}));
+    statusRow_->setObjectName(QStringLiteral("LblStatusStrukMerk"));
+    setRole(*statusRow_, TextRole::Small);
+    choosesByClick(*TreeViewStrukMerk_, [this](const QModelIndex& position) { nodeChosen(position); });
+    auto* layout = new QVBoxLayout(FrmTreeViemerk_);
+    layout->setSpacing(4);
+    layout->addWidget(TreeViewStrukMerk_, 1);
+    layout->addWidget(statusRow_);
     return FrmTreeViemerk_;
 }
 
-QWidget* Strukturreiter::neuesMaterialFirma()
+QWidget* StructureTab::newMaterialFirma()
 {
     FrmMarterialFirma_->setObjectName(QStringLiteral("FrmMarterialFirma"));
-    auto* gitter = new QGridLayout(FrmMarterialFirma_);
-    gitter->setColumnStretch(1, 1);
-    auto zeile = [gitter, nummer = 0](QLabel* text, Wertekombo* kombo, QLabel* anzahl) mutable {
-        text->setBuddy(kombo);
-        gitter->addWidget(text, nummer, 0);
-        gitter->addWidget(kombo, nummer, 1);
-        gitter->addWidget(anzahl, nummer++, 2);
+    auto* grid = new QGridLayout(FrmMarterialFirma_);
+    grid->setColumnStretch(1, 1);
+    auto row = [grid, number = 0](QLabel* text, ValueCombo* combo, QLabel* count) mutable {
+        text->setBuddy(combo);
+        grid->addWidget(text, number, 0);
+        grid->addWidget(combo, number, 1);
+        grid->addWidget(count, number++, 2);
     };
-    zeile(LblMaterialMW_, CbMaterialMW_, LblAnzMaterialMW_);
-    zeile(LblFirmaMW_, CbFirmaMW_, LblAnzFirmaMW_);
-    CbMaterialMW_->gewaehlt = [this](const std::string& wert) {
-        struktur_.materialGewaehlt(wert);
-        zeigen();
+    row(LblMaterialMW_, CbMaterialMW_, LblAnzMaterialMW_);
+    row(LblFirmaMW_, CbFirmaMW_, LblAnzFirmaMW_);
+    CbMaterialMW_->chosen = [this](const std::string& value) {
+        structure_.materialChosen(value);
+        refresh();
     };
-    CbFirmaMW_->gewaehlt = [this](const std::string& wert) {
-        struktur_.firmaGewaehlt(wert);
-        zeigen();
+    CbFirmaMW_->chosen = [this](const std::string& value) {
+        structure_.companyChosen(value);
+        refresh();
     };
     return FrmMarterialFirma_;
 }
 
-QWidget* Strukturreiter::neueVorlage()
+QWidget* StructureTab::newTemplate()
 {
-    auto* teil = new QWidget;
+    auto* part = new QWidget;
     TxtPfadDateiVorlage_->setObjectName(QStringLiteral("TxtPfadDateiVorlage"));
     TxtPfadDateiVorlage_->setAccessibleName(QStringLiteral("Pfad der Vorlage"));
-    auto* reihe = new QHBoxLayout(teil);
-    reihe->setContentsMargins({});
-    reihe->addWidget(beschriftung(QStringLiteral("Vorlage"), Rolle::Beschriftung));
-    reihe->addWidget(TxtPfadDateiVorlage_, 1);
-    return teil;
+    auto* layoutRow = new QHBoxLayout(part);
+    layoutRow->setContentsMargins({});
+    layoutRow->addWidget(caption(QStringLiteral("Vorlage"), TextRole::Caption));
+    layoutRow->addWidget(TxtPfadDateiVorlage_, 1);
+    return part;
 }
 
-void Strukturreiter::knotenGewaehlt(const QModelIndex& stelle)
+void StructureTab::nodeChosen(const QModelIndex& position)
 {
-    const Sanduhr warten;
-    const auto pfad = knoten_->pfad(stelle);
-    gezeigterPfad_.reset(); // A refused choice goes back to the node before.
-    if (pfad.empty())
-        TreeViewStrukMerk_->expand(stelle);
-    struktur_.knotenGewaehlt(pfad);
-    zeigen();
+    const BusyCursor wait;
+    const auto documentPath = node_->documentPath(position);
+    shownPath_.reset(); // A refused choice goes back to the node before.
+    if (documentPath.empty())
+        TreeViewStrukMerk_->expand(position);
+    structure_.nodeChosen(documentPath);
+    refresh();
 }
 
-void Strukturreiter::zeigen()
+void StructureTab::refresh()
 {
-    zeigeBaum();
-    zeigeMaterialFirma();
-    FrmHWag_->zeigen();
-    TxtPfadDateiVorlage_->setText(zuQt(modell_.vorlagePfad()));
+    showTree();
+    showMaterialCompany();
+    FrmHWag_->refresh();
+    TxtPfadDateiVorlage_->setText(toQt(model_.templatePath()));
 }
 
-void Strukturreiter::zeigeBaum()
+void StructureTab::showTree()
 {
-    zeigeGesperrt(*FrmTreeViemerk_, QStringLiteral("Strukturmerkmale"), !struktur_.SperreBaum());
-    zeigeGesperrt(*TreeViewStrukMerk_, !struktur_.SperreBaum());
-    knoten_->zeige(struktur_.wurzel());
-    TreeViewStrukMerk_->expand(knoten_->finde({}));
-    const auto& pfad = struktur_.letzterPfad();
-    const QModelIndex stelle = knoten_->finde(pfad);
-    statuszeile_->setText(knoten_->statuszeile(stelle));
-    if (gezeigterPfad_ == pfad && TreeViewStrukMerk_->currentIndex().isValid())
+    showLocked(*FrmTreeViemerk_, QStringLiteral("Strukturmerkmale"), !structure_.SperreBaum());
+    showLocked(*TreeViewStrukMerk_, !structure_.SperreBaum());
+    node_->display(structure_.root());
+    TreeViewStrukMerk_->expand(node_->find({}));
+    const auto& documentPath = structure_.lastPath();
+    const QModelIndex position = node_->find(documentPath);
+    statusRow_->setText(node_->statusRow(position));
+    if (shownPath_ == documentPath && TreeViewStrukMerk_->currentIndex().isValid())
         return;
-    gezeigterPfad_ = pfad;
-    TreeViewStrukMerk_->setCurrentIndex(stelle);
-    TreeViewStrukMerk_->expand(stelle);
+    shownPath_ = documentPath;
+    TreeViewStrukMerk_->setCurrentIndex(position);
+    TreeViewStrukMerk_->expand(position);
     // The next choice is among the children: as many of them in sight as there is room for.
-    TreeViewStrukMerk_->scrollTo(knoten_->index(knoten_->rowCount(stelle) - 1, 0, stelle));
-    TreeViewStrukMerk_->scrollTo(stelle);
+    TreeViewStrukMerk_->scrollTo(node_->index(node_->rowCount(position) - 1, 0, position));
+    TreeViewStrukMerk_->scrollTo(position);
 }
 
-void Strukturreiter::zeigeMaterialFirma()
+void StructureTab::showMaterialCompany()
 {
-    const bool material = struktur_.SperreMaterial();
-    const bool firma = struktur_.SperreFirma();
-    zeigeGesperrt(*FrmMarterialFirma_, QStringLiteral("Innerhalb der Struktur"), !material && !firma);
-    zeigeGesperrt(*CbMaterialMW_, !material);
-    zeigeGesperrt(*CbFirmaMW_, !firma);
-    LblMaterialMW_->setText(zuQt(modell_.eigenschaften().bezeichnung(EIGENSCHAFT_MATERIAL)));
-    LblFirmaMW_->setText(zuQt(modell_.eigenschaften().bezeichnung(EIGENSCHAFT_FIRMA)));
-    CbMaterialMW_->zeige(struktur_.material().werte);
-    CbFirmaMW_->zeige(struktur_.firma().werte);
-    CbMaterialMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "Material"));
-    CbFirmaMW_->zeigeGewaehlt(wertVon(modell_.kontext(), "Firma"));
-    LblAnzMaterialMW_->setText(zuQt(struktur_.material().anzahl));
-    LblAnzFirmaMW_->setText(zuQt(struktur_.firma().anzahl));
+    const bool material = structure_.SperreMaterial();
+    const bool company = structure_.SperreFirma();
+    showLocked(*FrmMarterialFirma_, QStringLiteral("Innerhalb der Struktur"), !material && !company);
+    showLocked(*CbMaterialMW_, !material);
+    showLocked(*CbFirmaMW_, !company);
+    LblMaterialMW_->setText(toQt(model_.properties().label(PROPERTY_MATERIAL)));
+    LblFirmaMW_->setText(toQt(model_.properties().label(PROPERTY_COMPANY)));
+    CbMaterialMW_->display(structure_.material().values);
+    CbFirmaMW_->display(structure_.company().values);
+    CbMaterialMW_->showChosen(valueOf(model_.context(), "Material"));
+    CbFirmaMW_->showChosen(valueOf(model_.context(), "Firma"));
+    LblAnzMaterialMW_->setText(toQt(structure_.material().count));
+    LblAnzFirmaMW_->setText(toQt(structure_.company().count));
 }
 
 } // namespace quelvarn

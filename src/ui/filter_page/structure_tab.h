@@ -13,46 +13,46 @@ class QTreeView;
 namespace quelvarn {
 
 class FilterPage;
-class Hauptwertrahmen;
-class KurzLabel;
-class Merkmalbaum;
-class Strukturbereich;
-class Wertekombo;
+class MainValueFrame;
+class ShortLabel;
+class FeatureTree;
+class StructureSection;
+class ValueCombo;
 
 // Tab 1 of the filter page: the tree of the structure features, Material and Firma of the branch, main values.
-class Strukturreiter : public QWidget
+class StructureTab : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Strukturreiter(FilterPage& modell);
+    explicit StructureTab(FilterPage& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neuerBaum();
-    QWidget* neuesMaterialFirma();
-    QWidget* neueVorlage();
-    void knotenGewaehlt(const QModelIndex& stelle);
-    void zeigeBaum();
-    void zeigeMaterialFirma();
+    QWidget* newTree();
+    QWidget* newMaterialFirma();
+    QWidget* newTemplate();
+    void nodeChosen(const QModelIndex& position);
+    void showTree();
+    void showMaterialCompany();
 
-    FilterPage& modell_;
-    Strukturbereich& struktur_;
+    FilterPage& model_;
+    StructureSection& structure_;
     QGroupBox* FrmTreeViemerk_;
     QTreeView* TreeViewStrukMerk_;
-    Merkmalbaum* knoten_;
-    KurzLabel* statuszeile_;
-    std::optional<std::vector<std::string>> gezeigterPfad_; // None: the mark must be set again.
+    FeatureTree* node_;
+    ShortLabel* statusRow_;
+    std::optional<std::vector<std::string>> shownPath_; // None: the mark must be set again.
     QGroupBox* FrmMarterialFirma_;
-    Wertekombo* CbMaterialMW_;
-    Wertekombo* CbFirmaMW_;
+    ValueCombo* CbMaterialMW_;
+    ValueCombo* CbFirmaMW_;
     QLabel* LblMaterialMW_;
     QLabel* LblFirmaMW_;
     QLabel* LblAnzMaterialMW_;
     QLabel* LblAnzFirmaMW_;
-    Hauptwertrahmen* FrmHWag_;
-    KurzLabel* TxtPfadDateiVorlage_;
+    MainValueFrame* FrmHWag_;
+    ShortLabel* TxtPfadDateiVorlage_;
 };
 
 } // namespace quelvarn

@@ -21,141 +21,141 @@ namespace quelvarn {
 namespace {
 
 // Places of Autor, Bearbeiter, Material and Projekt in the captions of tab 0.
-constexpr std::array<int, ANZAHL_ZUSBENUTZDEF> EIGENSCHAFTEN{7, 9, 6, 1};
+constexpr std::array<int, ADDITIONAL_VALUE_COUNT> PROPERTIES{7, 9, 6, 1};
 
-QLabel* neueAnzahl(const QString& name)
+QLabel* newCount(const QString& name)
 {
-    auto* anzahl = beschriftung({}, Rolle::Beschriftung, name);
-    anzahl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    anzahl->setMinimumWidth(anzahl->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
-    return anzahl;
+    auto* count = caption({}, TextRole::Caption, name);
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
+    return count;
 }
 
 } // namespace
 
-BenutzDefReiter::BenutzDefReiter(FilterPage& modell)
-    : modell_(modell), benutzDef_(modell.benutzDef()), FrmBenutzDef_(new QGroupBox),
-      LblAnzEigenBenutzDef_(neueAnzahl(QStringLiteral("LblAnzEigenBenutzDef"))),
-      DLstBenutzDefName_(new Wertefeld(QStringLiteral("DLstBenutzDefName"))), LblNaemWert_(new KurzLabel),
+UserDefinedTab::UserDefinedTab(FilterPage& model)
+    : model_(model), userDefined_(model.userDefined()), FrmBenutzDef_(new QGroupBox),
+      LblAnzEigenBenutzDef_(newCount(QStringLiteral("LblAnzEigenBenutzDef"))),
+      DLstBenutzDefName_(new ValueField(QStringLiteral("DLstBenutzDefName"))), LblNaemWert_(new ShortLabel),
       ChReceiver_(new QCheckBox(QStringLiteral("Empfänger"))),
-      DLstBenutzDefWert_(new Wertefeld(QStringLiteral("DLstBenutzDefWert")))
+      DLstBenutzDefWert_(new ValueField(QStringLiteral("DLstBenutzDefWert")))
 {
     FrmBenutzDef_->setObjectName(QStringLiteral("FrmBenutzDef"));
-    auto* listen = new QHBoxLayout(FrmBenutzDef_);
-    listen->setSpacing(16);
-    listen->addWidget(neueNamen(), 2);
-    listen->addWidget(neueWerte(), 3);
+    auto* lists = new QHBoxLayout(FrmBenutzDef_);
+    lists->setSpacing(16);
+    lists->addWidget(newNames(), 2);
+    lists->addWidget(newValues(), 3);
 
-    auto* rechts = new QVBoxLayout;
-    rechts->addWidget(neueZusaetze());
-    rechts->addStretch(1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(newAdditions());
+    right->addStretch(1);
 
-    auto* aufbau = new QHBoxLayout(this);
-    aufbau->setContentsMargins(12, 4, 12, 8);
-    aufbau->setSpacing(16);
-    aufbau->addWidget(FrmBenutzDef_, 2);
-    aufbau->addLayout(rechts, 1);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 4, 12, 8);
+    layout->setSpacing(16);
+    layout->addWidget(FrmBenutzDef_, 2);
+    layout->addLayout(right, 1);
     setFocusProxy(DLstBenutzDefName_);
 }
 
-QWidget* BenutzDefReiter::neueNamen()
+QWidget* UserDefinedTab::newNames()
 {
-    auto* teil = new QWidget;
+    auto* part = new QWidget;
     auto* LblEigenBenutzDef =
-        beschriftung(QStringLiteral("Eigenschaft"), Rolle::Beschriftung, QStringLiteral("LblEigenBenutzDef"));
+        caption(QStringLiteral("Eigenschaft"), TextRole::Caption, QStringLiteral("LblEigenBenutzDef"));
     DLstBenutzDefName_->setAccessibleName(LblEigenBenutzDef->text());
-    DLstBenutzDefName_->gewaehlt = [this](const std::string& name) {
-        const Sanduhr warten;
-        benutzDef_.nameGewaehlt(name);
-        zeigen();
+    DLstBenutzDefName_->chosen = [this](const std::string& name) {
+        const BusyCursor wait;
+        userDefined_.nameChosen(name);
+        refresh();
     };
-    auto* aufbau = new QGridLayout(teil);
-    aufbau->setContentsMargins({});
-    aufbau->setVerticalSpacing(4);
-    aufbau->setRowMinimumHeight(0, ChReceiver_->sizeHint().height()); // Both lists begin on one line.
-    aufbau->addWidget(LblEigenBenutzDef, 0, 0);
-    aufbau->addWidget(LblAnzEigenBenutzDef_, 0, 1);
-    aufbau->addWidget(DLstBenutzDefName_, 1, 0, 1, 2);
-    aufbau->setColumnStretch(0, 1);
-    return teil;
+    auto* layout = new QGridLayout(part);
+    layout->setContentsMargins({});
+    layout->setVerticalSpacing(4);
+    layout->setRowMinimumHeight(0, ChReceiver_->sizeHint().height()); // Both lists begin on one line.
+    layout->addWidget(LblEigenBenutzDef, 0, 0);
+    layout->addWidget(LblAnzEigenBenutzDef_, 0, 1);
+    layout->addWidget(DLstBenutzDefName_, 1, 0, 1, 2);
+    layout->setColumnStretch(0, 1);
+    return part;
 }
 
-QWidget* BenutzDefReiter::neueWerte()
+QWidget* UserDefinedTab::newValues()
 {
-    auto* teil = new QWidget;
+    auto* part = new QWidget;
     LblNaemWert_->setObjectName(QStringLiteral("LblNaemWert"));
-    setzeRolle(*LblNaemWert_, Rolle::Kopf);
+    setRole(*LblNaemWert_, TextRole::Heading);
     ChReceiver_->setObjectName(QStringLiteral("ChReceiver"));
     ChReceiver_->setToolTip(QStringLiteral("Empfänger statt ihrer Kennung auflisten"));
-    connect(ChReceiver_, &QCheckBox::clicked, this, bewacht([this](bool an) {
-                const Sanduhr warten;
-                benutzDef_.setzeEmpfaenger(an);
-                zeigen();
+    connect(ChReceiver_, &QCheckBox::clicked, this, guardedSlot([this](bool on) {
+                const BusyCursor wait;
+                userDefined_.setReceiver(on);
+                refresh();
             }));
     DLstBenutzDefWert_->setAccessibleName(QStringLiteral("Wert"));
-    DLstBenutzDefWert_->gewaehlt = [this](const std::string& wert) {
-        benutzDef_.wertGewaehlt(wert);
-        DLstBenutzDefWert_->markiere({}); // The grid of the filter values has it now, or it was refused.
-        zeigen();
+    DLstBenutzDefWert_->chosen = [this](const std::string& value) {
+        userDefined_.valueChosen(value);
+        DLstBenutzDefWert_->mark({}); // The grid of the filter values has it now, or it was refused.
+        refresh();
     };
-    auto* aufbau = new QGridLayout(teil);
-    aufbau->setContentsMargins({});
-    aufbau->setVerticalSpacing(4);
-    aufbau->addWidget(beschriftung(QStringLiteral("Werte"), Rolle::Beschriftung), 0, 0);
-    aufbau->addWidget(LblNaemWert_, 0, 1);
-    aufbau->addWidget(ChReceiver_, 0, 2);
-    aufbau->addWidget(DLstBenutzDefWert_, 1, 0, 1, 3);
-    aufbau->setColumnStretch(1, 1);
-    return teil;
+    auto* layout = new QGridLayout(part);
+    layout->setContentsMargins({});
+    layout->setVerticalSpacing(4);
+    layout->addWidget(caption(QStringLiteral("Werte"), TextRole::Caption), 0, 0);
+    layout->addWidget(LblNaemWert_, 0, 1);
+    layout->addWidget(ChReceiver_, 0, 2);
+    layout->addWidget(DLstBenutzDefWert_, 1, 0, 1, 3);
+    layout->setColumnStretch(1, 1);
+    return part;
 }
 
-QWidget* BenutzDefReiter::neueZusaetze()
+QWidget* UserDefinedTab::newAdditions()
 {
-    auto* rahmen = new QGroupBox(QStringLiteral("Zusätzlich, höchstens zwei"));
-    auto* gitter = new QGridLayout(rahmen);
-    gitter->setColumnStretch(1, 1);
-    for (int i = 0; i < ANZAHL_ZUSBENUTZDEF; ++i) {
-        const auto stelle = static_cast<std::size_t>(i);
-        LblEigenZus_[stelle] = beschriftung({}, Rolle::Beschriftung);
-        LblAnzZus_[stelle] = neueAnzahl({});
-        CbEigenBenutzDef_[stelle] = new Wertekombo(QStringLiteral("CbEigenBenutzDef(%1)").arg(i));
-        CbEigenBenutzDef_[stelle]->gewaehlt = [this, i](const std::string& wert) {
-            benutzDef_.zusatzGewaehlt(i, wert);
-            zeigen();
+    auto* frame = new QGroupBox(QStringLiteral("Zusätzlich, höchstens zwei"));
+    auto* grid = new QGridLayout(frame);
+    grid->setColumnStretch(1, 1);
+    for (int i = 0; i < ADDITIONAL_VALUE_COUNT; ++i) {
+        const auto position = static_cast<std::size_t>(i);
+        LblEigenZus_[position] = caption({}, TextRole::Caption);
+        LblAnzZus_[position] = newCount({});
+        CbEigenBenutzDef_[position] = new ValueCombo(QStringLiteral("CbEigenBenutzDef(%1)").arg(i));
+        CbEigenBenutzDef_[position]->chosen = [this, i](const std::string& value) {
+            userDefined_.additionChosen(i, value);
+            refresh();
         };
-        LblEigenZus_[stelle]->setBuddy(CbEigenBenutzDef_[stelle]);
-        gitter->addWidget(LblEigenZus_[stelle], i, 0);
-        gitter->addWidget(CbEigenBenutzDef_[stelle], i, 1);
-        gitter->addWidget(LblAnzZus_[stelle], i, 2);
+        LblEigenZus_[position]->setBuddy(CbEigenBenutzDef_[position]);
+        grid->addWidget(LblEigenZus_[position], i, 0);
+        grid->addWidget(CbEigenBenutzDef_[position], i, 1);
+        grid->addWidget(LblAnzZus_[position], i, 2);
     }
-    return rahmen;
+    return frame;
 }
 
-void BenutzDefReiter::zeigen()
+void UserDefinedTab::refresh()
 {
-    const bool gesperrt = !benutzDef_.SperreBenutzDef();
-    zeigeGesperrt(*FrmBenutzDef_, QStringLiteral("Benutzerdefinierte Eigenschaften"), gesperrt);
-    zeigeGesperrt(*DLstBenutzDefName_, gesperrt);
-    zeigeGesperrt(*DLstBenutzDefWert_, gesperrt);
-    LblAnzEigenBenutzDef_->setText(zuQt(benutzDef_.namen().anzahl));
-    DLstBenutzDefName_->zeige(benutzDef_.namen().werte);
-    DLstBenutzDefName_->markiere(benutzDef_.name());
-    LblNaemWert_->setText(zuQt(benutzDef_.name()));
-    zeigeGesetzt(*ChReceiver_, benutzDef_.ChReceiver());
-    DLstBenutzDefWert_->zeige(benutzDef_.werte().werte);
-    zeigeZusaetze();
+    const bool locked = !userDefined_.SperreBenutzDef();
+    showLocked(*FrmBenutzDef_, QStringLiteral("Benutzerdefinierte Eigenschaften"), locked);
+    showLocked(*DLstBenutzDefName_, locked);
+    showLocked(*DLstBenutzDefWert_, locked);
+    LblAnzEigenBenutzDef_->setText(toQt(userDefined_.names().count));
+    DLstBenutzDefName_->display(userDefined_.names().values);
+    DLstBenutzDefName_->mark(userDefined_.name());
+    LblNaemWert_->setText(toQt(userDefined_.name()));
+    showSet(*ChReceiver_, userDefined_.ChReceiver());
+    DLstBenutzDefWert_->display(userDefined_.values().values);
+    showAdditions();
 }
 
-void BenutzDefReiter::zeigeZusaetze()
+void UserDefinedTab::showAdditions()
 {
-    for (int i = 0; i < ANZAHL_ZUSBENUTZDEF; ++i) {
-        const auto stelle = static_cast<std::size_t>(i);
-        const QString text = zuQt(modell_.eigenschaften().bezeichnung(EIGENSCHAFTEN[stelle]));
-        LblEigenZus_[stelle]->setText(text);
-        CbEigenBenutzDef_[stelle]->setAccessibleName(text);
-        CbEigenBenutzDef_[stelle]->zeige(benutzDef_.zusatz(i).werte);
-        CbEigenBenutzDef_[stelle]->zeigeGewaehlt(additionalValue(modell_.kontext().zustand(), stelle));
-        LblAnzZus_[stelle]->setText(zuQt(benutzDef_.zusatz(i).anzahl));
+    for (int i = 0; i < ADDITIONAL_VALUE_COUNT; ++i) {
+        const auto position = static_cast<std::size_t>(i);
+        const QString text = toQt(model_.properties().label(PROPERTIES[position]));
+        LblEigenZus_[position]->setText(text);
+        CbEigenBenutzDef_[position]->setAccessibleName(text);
+        CbEigenBenutzDef_[position]->display(userDefined_.addition(i).values);
+        CbEigenBenutzDef_[position]->showChosen(additionalValue(model_.context().state(), position));
+        LblAnzZus_[position]->setText(toQt(userDefined_.addition(i).count));
     }
 }
 

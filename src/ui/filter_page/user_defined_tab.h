@@ -12,39 +12,39 @@ class QLabel;
 
 namespace quelvarn {
 
-class BenutzDefBereich;
+class UserDefinedSection;
 class FilterPage;
-class KurzLabel;
-class Wertefeld;
-class Wertekombo;
+class ShortLabel;
+class ValueField;
+class ValueCombo;
 
 // Tab 2 of the filter page: names and values of the user-defined properties, and the four additional filters.
-class BenutzDefReiter : public QWidget
+class UserDefinedTab : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit BenutzDefReiter(FilterPage& modell);
+    explicit UserDefinedTab(FilterPage& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neueNamen();
-    QWidget* neueWerte();
-    QWidget* neueZusaetze();
-    void zeigeZusaetze();
+    QWidget* newNames();
+    QWidget* newValues();
+    QWidget* newAdditions();
+    void showAdditions();
 
-    FilterPage& modell_;
-    BenutzDefBereich& benutzDef_;
+    FilterPage& model_;
+    UserDefinedSection& userDefined_;
     QGroupBox* FrmBenutzDef_;
     QLabel* LblAnzEigenBenutzDef_;
-    Wertefeld* DLstBenutzDefName_;
-    KurzLabel* LblNaemWert_;
+    ValueField* DLstBenutzDefName_;
+    ShortLabel* LblNaemWert_;
     QCheckBox* ChReceiver_;
-    Wertefeld* DLstBenutzDefWert_;
-    std::array<QLabel*, ANZAHL_ZUSBENUTZDEF> LblEigenZus_{};
-    std::array<QLabel*, ANZAHL_ZUSBENUTZDEF> LblAnzZus_{};
-    std::array<Wertekombo*, ANZAHL_ZUSBENUTZDEF> CbEigenBenutzDef_{};
+    ValueField* DLstBenutzDefWert_;
+    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> LblEigenZus_{};
+    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> LblAnzZus_{};
+    std::array<ValueCombo*, ADDITIONAL_VALUE_COUNT> CbEigenBenutzDef_{};
 };
 
 } // namespace quelvarn

@@ -13,76 +13,74 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<std::string_view, ANZAHL_WERKZEUGE> SYMBOLE{"edit", "insert",  "place",   "eye",
-                                                                 "down", "forward", "message", "quit"};
+constexpr std::array<std::string_view, TOOL_COUNT> ICONS{"edit", "insert",  "place",   "eye",
+                                                         "down", "forward", "message", "quit"};
 
 // In this order they do without their captions when there is no room.
-constexpr std::array ENTBEHRLICH{Werkzeug::Weiterleiten, Werkzeug::Nachrichten,   Werkzeug::SmartViewer,
-                                 Werkzeug::Beenden,      Werkzeug::PlazierenZchn, Werkzeug::EinfuegenBaugr};
-constexpr int ABSTAND = 2;
-constexpr int RAND = 8;
+constexpr std::array DISPENSABLE{Tool::Forward, Tool::Messages,       Tool::SmartViewer,
+                                 Tool::Quit,    Tool::PlaceInDrawing, Tool::InsertInAssembly};
+constexpr int INTERVAL = 2;
+constexpr int MARGIN = 8;
 
-std::size_t stelle(Werkzeug werkzeug)
+std::size_t position(Tool tool)
 {
-    return static_cast<std::size_t>(werkzeug);
+    return static_cast<std::size_t>(tool);
 }
 
 } // namespace
 
-ToolbarMidiFrm::ToolbarMidiFrm(MainWindow& modell) : modell_(modell)
+ToolbarMidiFrm::ToolbarMidiFrm(MainWindow& model) : model_(model)
 {
     setObjectName(QStringLiteral("ToolbarMidiFrm"));
     setMovable(false);
     setIconSize({16, 16});
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    fuegeDehnerHinzu(*this);
-    for (int i = 0; i < ANZAHL_WERKZEUGE; ++i) {
-        const auto werkzeug = static_cast<Werkzeug>(i);
-        if (werkzeug == Werkzeug::Extras || werkzeug == Werkzeug::Beenden)
-            trenner_[werkzeug == Werkzeug::Beenden] = addSeparator();
-        baueKnopf(werkzeug);
+    addStretcher(*this);
+    for (int i = 0; i < TOOL_COUNT; ++i) {
+        const auto tool = static_cast<Tool>(i);
+        if (tool == Tool::Extras || tool == Tool::Quit)
+            separator_[tool == Tool::Quit] = addSeparator();
+        buildButton(tool);
     }
-    knoepfe_[stelle(Werkzeug::Beenden)]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    buttons_[position(Tool::Quit)]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
-void ToolbarMidiFrm::baueKnopf(Werkzeug werkzeug)
+void ToolbarMidiFrm::buildButton(Tool tool)
 {
-    const Werkzeugknopf& knopf = modell_.knopf(werkzeug);
-    auto* aktion =
-        fuegeKnopfHinzu(*this, {knopf.beschriftung, knopf.beschriftung, knopf.tooltip, SYMBOLE[stelle(werkzeug)]});
-    knoepfe_[stelle(werkzeug)] = aktion;
-    if (werkzeug == Werkzeug::Extras)
-        return baueExtras(*aktion);
-    connect(aktion, &QAction::triggered, this, bewacht([this, werkzeug](bool) { modell_.werkzeugGewaehlt(werkzeug); }));
+    const ToolButton& button = model_.button(tool);
+    auto* action = addBarButton(*this, {button.caption, button.caption, button.tooltip, ICONS[position(tool)]});
+    buttons_[position(tool)] = action;
+    if (tool == Tool::Extras)
+        return buildExtras(*action);
+    connect(action, &QAction::triggered, this, guardedSlot([this, tool](bool) { model_.toolChosen(tool); }));
 }
 
-void ToolbarMidiFrm::baueExtras(QAction& knopf)
+void ToolbarMidiFrm::buildExtras(QAction& button)
 {
-    auto* menue = new QMenu(this);
-    weiterleitenInExtras_ = menue->addAction(symbol("forward"), QStringLiteral("Weiterleiten"));
-    connect(weiterleitenInExtras_, &QAction::triggered, this,
-            bewacht([this] { modell_.werkzeugGewaehlt(Werkzeug::Weiterleiten); }));
-    knopf.setMenu(menue);
-    if (auto* taste = qobject_cast<QToolButton*>(widgetForAction(&knopf))) {
-        taste->setPopupMode(QToolButton::InstantPopup);
-        taste->setLayoutDirection(Qt::RightToLeft); // The arrow stands behind the caption.
+    auto* menu = new QMenu(this);
+    forwardInExtras_ = menu->addAction(icon("forward"), QStringLiteral("Weiterleiten"));
+    connect(forwardInExtras_, &QAction::triggered, this, guardedSlot([this] { model_.toolChosen(Tool::Forward); }));
+    button.setMenu(menu);
+    if (auto* key = qobject_cast<QToolButton*>(widgetForAction(&button))) {
+        key->setPopupMode(QToolButton::InstantPopup);
+        key->setLayoutDirection(Qt::RightToLeft); // The arrow stands behind the caption.
     }
 }
 
-void ToolbarMidiFrm::zeigen()
+void ToolbarMidiFrm::refresh()
 {
-    for (int i = 0; i < ANZAHL_WERKZEUGE; ++i) {
-        const auto werkzeug = static_cast<Werkzeug>(i);
-        const Werkzeugknopf& soll = modell_.knopf(werkzeug);
-        QAction& aktion = *knoepfe_[stelle(werkzeug)];
-        aktion.setToolTip(zuQt(soll.tooltip));
-        aktion.setVisible(soll.sichtbar);
-        aktion.setEnabled(werkzeug == Werkzeug::Extras || modell_.hatAktion(werkzeug));
+    for (int i = 0; i < TOOL_COUNT; ++i) {
+        const auto tool = static_cast<Tool>(i);
+        const ToolButton& should = model_.button(tool);
+        QAction& action = *buttons_[position(tool)];
+        action.setToolTip(toQt(should.tooltip));
+        action.setVisible(should.visible);
+        action.setEnabled(tool == Tool::Extras || model_.hasAction(tool));
     }
-    weiterleitenInExtras_->setEnabled(modell_.hatAktion(Werkzeug::Weiterleiten));
-    trenner_[0]->setVisible(modell_.knopf(Werkzeug::Extras).sichtbar);
-    passeAn();
+    forwardInExtras_->setEnabled(model_.hasAction(Tool::Forward));
+    separator_[0]->setVisible(model_.button(Tool::Extras).visible);
+    adjust();
 }
 
 QSize ToolbarMidiFrm::minimumSizeHint() const
@@ -90,37 +88,37 @@ QSize ToolbarMidiFrm::minimumSizeHint() const
     return {0, QToolBar::minimumSizeHint().height()};
 }
 
-void ToolbarMidiFrm::resizeEvent(QResizeEvent* ereignis)
+void ToolbarMidiFrm::resizeEvent(QResizeEvent* event)
 {
-    QToolBar::resizeEvent(ereignis);
-    passeAn();
+    QToolBar::resizeEvent(event);
+    adjust();
 }
 
-void ToolbarMidiFrm::passeAn()
+void ToolbarMidiFrm::adjust()
 {
-    int breite = 2 * RAND;
-    for (const QAction* trenner : trenner_)
-        breite += trenner->isVisible() ? widgetForAction(const_cast<QAction*>(trenner))->sizeHint().width() : 0;
-    for (const Werkzeug werkzeug : ENTBEHRLICH)
-        taste(werkzeug).setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    for (const QAction* knopf : knoepfe_)
-        if (knopf->isVisible())
-            breite += widgetForAction(const_cast<QAction*>(knopf))->sizeHint().width() + ABSTAND;
-    for (const Werkzeug werkzeug : ENTBEHRLICH) {
-        if (breite <= width())
+    int needed = 2 * MARGIN;
+    for (const QAction* separator : separator_)
+        needed += separator->isVisible() ? widgetForAction(const_cast<QAction*>(separator))->sizeHint().width() : 0;
+    for (const Tool tool : DISPENSABLE)
+        key(tool).setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    for (const QAction* button : buttons_)
+        if (button->isVisible())
+            needed += widgetForAction(const_cast<QAction*>(button))->sizeHint().width() + INTERVAL;
+    for (const Tool tool : DISPENSABLE) {
+        if (needed <= width())
             return;
-        QToolButton& knopf = taste(werkzeug);
-        if (!knoepfe_[stelle(werkzeug)]->isVisible())
+        QToolButton& button = key(tool);
+        if (!buttons_[position(tool)]->isVisible())
             continue;
-        breite -= knopf.sizeHint().width();
-        knopf.setToolButtonStyle(Qt::ToolButtonIconOnly);
-        breite += knopf.sizeHint().width();
+        needed -= button.sizeHint().width();
+        button.setToolButtonStyle(Qt::ToolButtonIconOnly);
+        needed += button.sizeHint().width();
     }
 }
 
-QToolButton& ToolbarMidiFrm::taste(Werkzeug werkzeug)
+QToolButton& ToolbarMidiFrm::key(Tool tool)
 {
-    return *qobject_cast<QToolButton*>(widgetForAction(knoepfe_[stelle(werkzeug)]));
+    return *qobject_cast<QToolButton*>(widgetForAction(buttons_[position(tool)]));
 }
 
 } // namespace quelvarn

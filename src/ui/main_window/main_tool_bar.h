@@ -16,24 +16,24 @@ class ToolbarMidiFrm : public QToolBar
     Q_OBJECT
 
 public:
-    explicit ToolbarMidiFrm(MainWindow& modell);
+    explicit ToolbarMidiFrm(MainWindow& model);
 
-    void zeigen();
+    void refresh();
     QSize minimumSizeHint() const override;
 
 protected:
-    void resizeEvent(QResizeEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void baueKnopf(Werkzeug werkzeug);
-    void baueExtras(QAction& knopf);
-    void passeAn();
-    QToolButton& taste(Werkzeug werkzeug);
+    void buildButton(Tool tool);
+    void buildExtras(QAction& button);
+    void adjust();
+    QToolButton& key(Tool tool);
 
-    MainWindow& modell_;
-    std::array<QAction*, ANZAHL_WERKZEUGE> knoepfe_{};
-    QAction* weiterleitenInExtras_ = nullptr;
-    std::array<QAction*, 2> trenner_{};
+    MainWindow& model_;
+    std::array<QAction*, TOOL_COUNT> buttons_{};
+    QAction* forwardInExtras_ = nullptr;
+    std::array<QAction*, 2> separator_{};
 };
 
 } // namespace quelvarn

@@ -23,141 +23,142 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int FENSTERBREITE = 14085; // twips
+constexpr int WINDOW_WIDTH = 14085; // twips
 
-struct Seitenweg
+struct PageRoute
 {
-    Seite ziel;
+    Page target;
     const char* name;
     const char* text;
-    const char* bild;
+    const char* picture;
 };
 
-constexpr std::array<Seitenweg, 3> SEITENWEGE{{
-    {Seite::Start, "Start", "Startseite", "start"},
-    {Seite::Filter, "SEFilter", "SE-Filter", "filter"},
-    {Seite::Dokumente, "SEDoku", "SE-Doku", "document"},
+constexpr std::array<PageRoute, 3> PAGE_ROUTES{{
+    {Page::Start, "Start", "Startseite", "start"},
+    {Page::Filter, "SEFilter", "SE-Filter", "filter"},
+    {Page::Documents, "SEDoku", "SE-Doku", "document"},
 }};
 
 } // namespace
 
-MDIForm1::MDIForm1(MainWindow& modell, const SessionState& session, const Darstellung& darstellung)
-    : modell_(modell), session_(session), darstellung_(darstellung), werkzeuge_(new ToolbarMidiFrm(modell)),
-      seiten_(new QStackedWidget), status_(new StatusBarUpdate),
-      timerDBUpdate_(neuerZeitgeber("TimerDBUpdate", [this] { modell_.tickDBUpdate(); })),
-      timerCheckInOut_(neuerZeitgeber("TimerCheckInOut", {}))
+MDIForm1::MDIForm1(MainWindow& model, const SessionState& session, const Appearance& appearance)
+    : model_(model), session_(session), appearance_(appearance), tools_(new ToolbarMidiFrm(model)),
+      pages_(new QStackedWidget), status_(new StatusBarUpdate),
+      timerDBUpdate_(newTimerSetting("TimerDBUpdate", [this] { model_.tickDBUpdate(); })),
+      timerCheckInOut_(newTimerSetting("TimerCheckInOut", {}))
 {
     setObjectName(QStringLiteral("MDIForm1"));
-    setWindowIcon(programmsymbol());
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(neuerKopf());
-    aufbau->addWidget(seiten_, 1);
-    aufbau->addWidget(status_);
-    stelleGroesseEin();
+    setWindowIcon(programIcon());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(newHeading());
+    layout->addWidget(pages_, 1);
+    layout->addWidget(status_);
+    configureSize();
 }
 
-QWidget* MDIForm1::neuerKopf()
+QWidget* MDIForm1::newHeading()
 {
-    auto* kopf = new QFrame;
-    kopf->setObjectName(QStringLiteral("Kopf"));
-    auto* reihe = new QHBoxLayout(kopf);
-    reihe->setContentsMargins(8, 6, 4, 6);
-    reihe->setSpacing(4);
-    for (std::size_t i = 0; i < SEITENWEGE.size(); ++i) {
-        const Seitenweg& weg = SEITENWEGE[i];
-        auto* knopf = new Seitenknopf(weg.name, QLatin1String(weg.text), weg.bild);
-        knopf->gewaehlt = [this, ziel = weg.ziel] { modell_.zuSeite(ziel); };
-        auto* taste = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)), this);
-        connect(taste, &QShortcut::activated, this, bewacht([this, ziel = weg.ziel] { modell_.zuSeite(ziel); }));
-        seitenknoepfe_[i] = knopf;
-        reihe->addWidget(knopf);
+    auto* heading = new QFrame;
+    heading->setObjectName(QStringLiteral("Kopf"));
+    auto* layoutRow = new QHBoxLayout(heading);
+    layoutRow->setContentsMargins(8, 6, 4, 6);
+    layoutRow->setSpacing(4);
+    for (std::size_t i = 0; i < PAGE_ROUTES.size(); ++i) {
+        const PageRoute& route = PAGE_ROUTES[i];
+        auto* button = new PageButton(route.name, QLatin1String(route.text), route.picture);
+        button->chosen = [this, target = route.target] { model_.toPage(target); };
+        auto* key = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i)), this);
+        connect(key, &QShortcut::activated, this,
+                guardedSlot([this, target = route.target] { model_.toPage(target); }));
+        pageButtons_[i] = button;
+        layoutRow->addWidget(button);
     }
-    reihe->addSpacing(8);
-    reihe->addWidget(werkzeuge_, 1);
-    return kopf;
+    layoutRow->addSpacing(8);
+    layoutRow->addWidget(tools_, 1);
+    return heading;
 }
 
-QTimer* MDIForm1::neuerZeitgeber(const char* name, std::function<void()> tick)
+QTimer* MDIForm1::newTimerSetting(const char* name, std::function<void()> tick)
 {
-    auto* zeitgeber = new QTimer(this);
-    zeitgeber->setObjectName(QLatin1String(name));
+    auto* timerSetting = new QTimer(this);
+    timerSetting->setObjectName(QLatin1String(name));
     // One-shot: a tick that takes long, or shows a box, cannot be overtaken by the next one.
-    zeitgeber->setSingleShot(true);
-    connect(zeitgeber, &QTimer::timeout, this, bewacht([this, tick = std::move(tick)] {
+    timerSetting->setSingleShot(true);
+    connect(timerSetting, &QTimer::timeout, this, guardedSlot([this, tick = std::move(tick)] {
                 if (tick)
-                    Waechter::aktuell().fuehreAus(tick);
-                zeigeZeitgeber();
+                    SlotGuard::current().execute(tick);
+                showTimers();
             }));
-    return zeitgeber;
+    return timerSetting;
 }
 
-void MDIForm1::setzeSeiten(QWidget& start, QWidget& filter, QWidget& dokumente)
+void MDIForm1::setPages(QWidget& start, QWidget& filter, QWidget& documents)
 {
-    seiten_->addWidget(new QWidget); // Until the first page is there.
-    for (QWidget* seite : {&start, &filter, &dokumente})
-        seiten_->addWidget(seite);
+    pages_->addWidget(new QWidget); // Until the first page is there.
+    for (QWidget* page : {&start, &filter, &documents})
+        pages_->addWidget(page);
 }
 
-void MDIForm1::stelleGroesseEin()
+void MDIForm1::configureSize()
 {
-    const QSize groesse = ausTwips(FENSTERBREITE, session_.user.FensterHoehe, *screen());
-    const bool frei = darstellung_.fensterFrei();
-    setWindowFlag(Qt::WindowMaximizeButtonHint, frei);
-    setMinimumSize(frei ? groesse * 0.8 : groesse);
-    setMaximumSize(frei ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : groesse);
-    if (!frei || !isVisible())
-        resize(groesse);
+    const QSize size = fromTwips(WINDOW_WIDTH, session_.user.FensterHoehe, *screen());
+    const bool free = appearance_.windowFree();
+    setWindowFlag(Qt::WindowMaximizeButtonHint, free);
+    setMinimumSize(free ? size * 0.8 : size);
+    setMaximumSize(free ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : size);
+    if (!free || !isVisible())
+        resize(size);
 }
 
-void MDIForm1::zeigen()
+void MDIForm1::refresh()
 {
-    setWindowTitle(zuQt(modell_.titel()));
-    for (std::size_t i = 0; i < SEITENWEGE.size(); ++i) {
-        const bool vorn = modell_.seite() == SEITENWEGE[i].ziel;
-        seitenknoepfe_[i]->zeigeAktiv(vorn);
-        const int stelle = static_cast<int>(i) + 1;
-        if (vorn && seiten_->currentIndex() != stelle) {
-            seiten_->setCurrentIndex(stelle);
-            seiten_->currentWidget()->setFocus();
+    setWindowTitle(toQt(model_.title()));
+    for (std::size_t i = 0; i < PAGE_ROUTES.size(); ++i) {
+        const bool front = model_.page() == PAGE_ROUTES[i].target;
+        pageButtons_[i]->showActive(front);
+        const int position = static_cast<int>(i) + 1;
+        if (front && pages_->currentIndex() != position) {
+            pages_->setCurrentIndex(position);
+            pages_->currentWidget()->setFocus();
         }
     }
-    werkzeuge_->zeigen();
-    status_->zeigen(modell_);
-    zeigeZeitgeber();
+    tools_->refresh();
+    status_->refresh(model_);
+    showTimers();
 }
 
-void MDIForm1::zeigeAenderungen(const std::array<std::string, 5>& texte)
+void MDIForm1::showChanges(const std::array<std::string, 5>& texts)
 {
-    status_->zeigeAenderungen(texte);
+    status_->showChanges(texts);
 }
 
-void MDIForm1::zeigeZeitgeber()
+void MDIForm1::showTimers()
 {
-    const auto stelle = [](QTimer& zeitgeber, const Zeitgeber& soll) {
-        if (!soll.an)
-            zeitgeber.stop();
-        else if (!zeitgeber.isActive() || zeitgeber.interval() != soll.intervall)
-            zeitgeber.start(soll.intervall);
+    const auto position = [](QTimer& timerSetting, const TimerSetting& should) {
+        if (!should.on)
+            timerSetting.stop();
+        else if (!timerSetting.isActive() || timerSetting.interval() != should.interval)
+            timerSetting.start(should.interval);
     };
-    stelle(*timerDBUpdate_, modell_.TimerDBUpdate());
-    stelle(*timerCheckInOut_, modell_.TimerCheckInOut());
+    position(*timerDBUpdate_, model_.TimerDBUpdate());
+    position(*timerCheckInOut_, model_.TimerCheckInOut());
 }
 
-void MDIForm1::changeEvent(QEvent* ereignis)
+void MDIForm1::changeEvent(QEvent* event)
 {
-    QWidget::changeEvent(ereignis);
+    QWidget::changeEvent(event);
     // Some window managers maximise a window of fixed size all the same.
-    const bool gross = windowState().testFlag(Qt::WindowMaximized) || windowState().testFlag(Qt::WindowFullScreen);
-    if (ereignis->type() == QEvent::WindowStateChange && gross && !darstellung_.fensterFrei())
+    const bool large = windowState().testFlag(Qt::WindowMaximized) || windowState().testFlag(Qt::WindowFullScreen);
+    if (event->type() == QEvent::WindowStateChange && large && !appearance_.windowFree())
         showNormal();
 }
 
-void MDIForm1::closeEvent(QCloseEvent* ereignis)
+void MDIForm1::closeEvent(QCloseEvent* event)
 {
-    ereignis->ignore();
-    Waechter::aktuell().fuehreAus([this] { modell_.entladen(); });
+    event->ignore();
+    SlotGuard::current().execute([this] { model_.unload(); });
 }
 
 } // namespace quelvarn

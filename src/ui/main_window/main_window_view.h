@@ -10,9 +10,9 @@ class QTimer;
 
 namespace quelvarn {
 
-class Darstellung;
+class Appearance;
 class MainWindow;
-class Seitenknopf;
+class PageButton;
 class StatusBarUpdate;
 class ToolbarMidiFrm;
 struct SessionState;
@@ -23,32 +23,32 @@ class MDIForm1 : public QWidget
     Q_OBJECT
 
 public:
-    MDIForm1(MainWindow& modell, const SessionState& session, const Darstellung& darstellung);
+    MDIForm1(MainWindow& model, const SessionState& session, const Appearance& appearance);
 
     // In the order start page, filter page, document page.
-    void setzeSeiten(QWidget& start, QWidget& filter, QWidget& dokumente);
-    void zeigen();
+    void setPages(QWidget& start, QWidget& filter, QWidget& documents);
+    void refresh();
     // The dates of the last scans, by tab of the five file types.
-    void zeigeAenderungen(const std::array<std::string, 5>& texte);
+    void showChanges(const std::array<std::string, 5>& texts);
     // Fixed or free, as the appearance says now.
-    void stelleGroesseEin();
+    void configureSize();
 
 protected:
-    void changeEvent(QEvent* ereignis) override;
-    void closeEvent(QCloseEvent* ereignis) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
-    QWidget* neuerKopf();
+    QWidget* newHeading();
     // Guarded, and started again behind each tick.
-    QTimer* neuerZeitgeber(const char* name, std::function<void()> tick);
-    void zeigeZeitgeber();
+    QTimer* newTimerSetting(const char* name, std::function<void()> tick);
+    void showTimers();
 
-    MainWindow& modell_;
+    MainWindow& model_;
     const SessionState& session_;
-    const Darstellung& darstellung_;
-    std::array<Seitenknopf*, 3> seitenknoepfe_{};
-    ToolbarMidiFrm* werkzeuge_;
-    QStackedWidget* seiten_;
+    const Appearance& appearance_;
+    std::array<PageButton*, 3> pageButtons_{};
+    ToolbarMidiFrm* tools_;
+    QStackedWidget* pages_;
     StatusBarUpdate* status_;
     QTimer* timerDBUpdate_;
     QTimer* timerCheckInOut_;

@@ -13,65 +13,65 @@ namespace quelvarn {
 namespace {
 
 // An indicator stands behind each text but the first.
-bool istAnzeige(std::size_t stelle)
+bool isDisplay(std::size_t position)
 {
-    return stelle >= 2 && stelle % 2 == 0;
+    return position >= 2 && position % 2 == 0;
 }
 
 } // namespace
 
-StatusBarUpdate::StatusBarUpdate() : Streifen(Art::Statuszeile, "StatusBarUpdate") {}
+StatusBarUpdate::StatusBarUpdate() : Strip(Kind::StatusRow, "StatusBarUpdate") {}
 
-void StatusBarUpdate::zeigen(const MainWindow& modell)
+void StatusBarUpdate::refresh(const MainWindow& model)
 {
-    if (gebaut_ == modell.statuspanel())
+    if (built_ == model.statusPanel())
         return;
-    baue(modell.statuspanel());
-    zeigeAenderungen(aenderungen_);
+    build(model.statusPanel());
+    showChanges(changes_);
 }
 
-void StatusBarUpdate::baue(const std::vector<std::string>& texte)
+void StatusBarUpdate::build(const std::vector<std::string>& texts)
 {
-    gebaut_ = texte;
-    panele_.clear();
-    while (auto* teil = reihe().takeAt(0)) {
-        delete teil->widget();
-        delete teil;
+    built_ = texts;
+    panels_.clear();
+    while (auto* part = layoutRow().takeAt(0)) {
+        delete part->widget();
+        delete part;
     }
-    const bool mitAnzeigen = texte.size() > 2;
-    for (std::size_t i = 0; i < texte.size(); ++i) {
-        const bool anzeige = mitAnzeigen && istAnzeige(i);
-        auto* panel = beschriftung(zuQt(texte[i]), Rolle::Klein, QStringLiteral("StatusBarUpdate(%1)").arg(i + 1));
-        if (anzeige) {
+    const bool withDisplays = texts.size() > 2;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const bool display = withDisplays && isDisplay(i);
+        auto* panel = caption(toQt(texts[i]), TextRole::Small, QStringLiteral("StatusBarUpdate(%1)").arg(i + 1));
+        if (display) {
             panel->setProperty("rolle", QStringLiteral("anzeige"));
             panel->setFixedHeight(15);
             panel->setMinimumWidth(32);
             panel->setAlignment(Qt::AlignCenter);
-            panel->setAccessibleName(zuQt(texte[0]) + zuQt(texte[i - 1]));
+            panel->setAccessibleName(toQt(texts[0]) + toQt(texts[i - 1]));
         } else if (i > 0) {
-            reihe().addSpacing(8);
+            layoutRow().addSpacing(8);
         }
-        panele_.push_back(panel);
-        reihe().addWidget(panel);
+        panels_.push_back(panel);
+        layoutRow().addWidget(panel);
     }
-    reihe().addStretch(1);
+    layoutRow().addStretch(1);
 }
 
-void StatusBarUpdate::zeigeAenderungen(const std::array<std::string, 5>& texte)
+void StatusBarUpdate::showChanges(const std::array<std::string, 5>& texts)
 {
-    aenderungen_ = texte;
-    for (std::size_t tab = 0; tab < texte.size(); ++tab) {
-        const auto stelle = static_cast<std::size_t>(DOKUTYPEN[tab].aenderungspanel) - 1;
-        if (stelle >= panele_.size())
+    changes_ = texts;
+    for (std::size_t tab = 0; tab < texts.size(); ++tab) {
+        const auto position = static_cast<std::size_t>(DOCUMENT_TYPES[tab].indicatorPanel) - 1;
+        if (position >= panels_.size())
             return;
-        QLabel& anzeige = *panele_[stelle];
-        anzeige.setText(zuQt(texte[tab]));
-        const bool voll = !texte[tab].empty();
-        if (anzeige.property("voll").toBool() == voll)
+        QLabel& display = *panels_[position];
+        display.setText(toQt(texts[tab]));
+        const bool full = !texts[tab].empty();
+        if (display.property("voll").toBool() == full)
             continue;
-        anzeige.setProperty("voll", voll);
-        style()->unpolish(&anzeige);
-        style()->polish(&anzeige);
+        display.setProperty("voll", full);
+        style()->unpolish(&display);
+        style()->polish(&display);
     }
 }
 

@@ -13,22 +13,22 @@ namespace quelvarn {
 class MainWindow;
 
 // Whether the scanner changed a table since it was opened. The panels are named "StatusBarUpdate(1)" and so on.
-class StatusBarUpdate : public Streifen
+class StatusBarUpdate : public Strip
 {
     Q_OBJECT
 
 public:
     StatusBarUpdate();
 
-    void zeigen(const MainWindow& modell);
-    void zeigeAenderungen(const std::array<std::string, 5>& texte);
+    void refresh(const MainWindow& model);
+    void showChanges(const std::array<std::string, 5>& texts);
 
 private:
-    void baue(const std::vector<std::string>& texte);
+    void build(const std::vector<std::string>& texts);
 
-    std::vector<std::string> gebaut_;
-    std::vector<QLabel*> panele_;
-    std::array<std::string, 5> aenderungen_;
+    std::vector<std::string> built_;
+    std::vector<QLabel*> panels_;
+    std::array<std::string, 5> changes_;
 };
 
 } // namespace quelvarn

@@ -12,36 +12,36 @@
 
 namespace quelvarn {
 
-Darstellungsrahmen::Darstellungsrahmen(Darstellung& darstellung)
-    : QGroupBox(QStringLiteral("Darstellung auf diesem Rechner")), darstellung_(darstellung)
+AppearanceFrame::AppearanceFrame(Appearance& appearance)
+    : QGroupBox(QStringLiteral("Darstellung auf diesem Rechner")), appearance_(appearance)
 {
     setObjectName(QStringLiteral("FrmDarstellung"));
-    auto* farben = new QComboBox;
-    farben->setObjectName(QStringLiteral("CbDarstellung"));
-    farben->addItems({QStringLiteral("Automatisch"), QStringLiteral("Hell"), QStringLiteral("Dunkel")});
-    farben->setCurrentIndex(static_cast<int>(darstellung.modus()));
-    auto* frei = neuesFeld<QCheckBox>("ChFensterFrei", QStringLiteral("Fenstergröße frei"));
-    frei->setChecked(darstellung.fensterFrei());
-    auto* text = beschriftung(QStringLiteral("&Farben"), Rolle::Beschriftung);
-    text->setBuddy(farben);
+    auto* colours = new QComboBox;
+    colours->setObjectName(QStringLiteral("CbDarstellung"));
+    colours->addItems({QStringLiteral("Automatisch"), QStringLiteral("Hell"), QStringLiteral("Dunkel")});
+    colours->setCurrentIndex(static_cast<int>(appearance.mode()));
+    auto* free = newField<QCheckBox>("ChFensterFrei", QStringLiteral("Fenstergröße frei"));
+    free->setChecked(appearance.windowFree());
+    auto* text = caption(QStringLiteral("&Farben"), TextRole::Caption);
+    text->setBuddy(colours);
 
-    auto* reihe = new QHBoxLayout(this);
-    reihe->addWidget(text);
-    reihe->addWidget(farben);
-    reihe->addStretch(1);
-    reihe->addWidget(frei);
+    auto* layoutRow = new QHBoxLayout(this);
+    layoutRow->addWidget(text);
+    layoutRow->addWidget(colours);
+    layoutRow->addStretch(1);
+    layoutRow->addWidget(free);
 
-    const auto melde = [this] {
-        if (geaendert)
-            geaendert();
+    const auto notify = [this] {
+        if (changed)
+            changed();
     };
-    connect(farben, &QComboBox::activated, this, bewacht([this, melde](int index) {
-                darstellung_.setzeModus(static_cast<Modus>(index));
-                melde();
+    connect(colours, &QComboBox::activated, this, guardedSlot([this, notify](int index) {
+                appearance_.setMode(static_cast<Mode>(index));
+                notify();
             }));
-    connect(frei, &QCheckBox::clicked, this, bewacht([this, melde](bool an) {
-                darstellung_.setzeFensterFrei(an);
-                melde();
+    connect(free, &QCheckBox::clicked, this, guardedSlot([this, notify](bool on) {
+                appearance_.setWindowFree(on);
+                notify();
             }));
 }
 

@@ -6,20 +6,20 @@
 
 namespace quelvarn {
 
-class Darstellung;
+class Appearance;
 
 // How the program looks on this computer: colours, and whether its window can be resized.
-class Darstellungsrahmen : public QGroupBox
+class AppearanceFrame : public QGroupBox
 {
     Q_OBJECT
 
 public:
-    explicit Darstellungsrahmen(Darstellung& darstellung);
+    explicit AppearanceFrame(Appearance& appearance);
 
-    std::function<void()> geaendert;
+    std::function<void()> changed;
 
 private:
-    Darstellung& darstellung_;
+    Appearance& appearance_;
 };
 
 } // namespace quelvarn

@@ -20,33 +20,33 @@ namespace quelvarn {
 
 namespace {
 
-constexpr int ROLLE_PFAD = Qt::UserRole;
+constexpr int ROLE_PATH = Qt::UserRole;
 
-QString verbunden(const QString& ordner, const QString& name)
+QString connected(const QString& folder, const QString& name)
 {
-    return ordner.endsWith(u'\\') ? ordner + name : ordner + u'\\' + name;
+    return folder.endsWith(u'\\') ? folder + name : folder + u'\\' + name;
 }
 
-QTreeWidgetItem* neuerOrdner(const QString& name, const QString& pfad, const char* bild)
+QTreeWidgetItem* newFolder(const QString& name, const QString& documentPath, const char* picture)
 {
-    auto* eintrag = new QTreeWidgetItem({name});
-    eintrag->setData(0, ROLLE_PFAD, pfad);
-    eintrag->setIcon(0, symbol(bild, QPalette::PlaceholderText));
-    eintrag->setToolTip(0, asTip(pfad));
-    return eintrag;
+    auto* entry = new QTreeWidgetItem({name});
+    entry->setData(0, ROLE_PATH, documentPath);
+    entry->setIcon(0, icon(picture, QPalette::PlaceholderText));
+    entry->setToolTip(0, asTip(documentPath));
+    return entry;
 }
 
 } // namespace
 
-Dateiwaehler::Dateiwaehler(StartPage& modell)
-    : modell_(modell), DriveDB_(new QComboBox), TbUpDB_(new QToolButton), DirDB_(new QTreeWidget),
+FileChooser::FileChooser(StartPage& model)
+    : model_(model), DriveDB_(new QComboBox), TbUpDB_(new QToolButton), DirDB_(new QTreeWidget),
       FileDB_(new QListWidget)
 {
     DriveDB_->setObjectName(QStringLiteral("DriveDB"));
     DriveDB_->setAccessibleName(QStringLiteral("Laufwerk"));
     TbUpDB_->setObjectName(QStringLiteral("TbUpDB"));
     TbUpDB_->setText(QStringLiteral("Nach oben"));
-    TbUpDB_->setIcon(symbol("folder-up"));
+    TbUpDB_->setIcon(icon("folder-up"));
     TbUpDB_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     DirDB_->setObjectName(QStringLiteral("DirDB"));
     DirDB_->setAccessibleName(QStringLiteral("Ordner"));
@@ -59,104 +59,104 @@ Dateiwaehler::Dateiwaehler(StartPage& modell)
     FileDB_->setProperty("rahmen", true);
     FileDB_->setIconSize({16, 16});
 
-    auto* aufbau = new QGridLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setVerticalSpacing(6);
-    aufbau->addWidget(DriveDB_, 0, 0);
-    aufbau->addWidget(TbUpDB_, 0, 1);
-    aufbau->addWidget(DirDB_, 1, 0, 1, 2);
-    aufbau->addWidget(FileDB_, 2, 0, 1, 2);
-    aufbau->setColumnStretch(0, 1);
-    aufbau->setRowStretch(1, 3);
-    aufbau->setRowStretch(2, 2);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins({});
+    layout->setVerticalSpacing(6);
+    layout->addWidget(DriveDB_, 0, 0);
+    layout->addWidget(TbUpDB_, 0, 1);
+    layout->addWidget(DirDB_, 1, 0, 1, 2);
+    layout->addWidget(FileDB_, 2, 0, 1, 2);
+    layout->setColumnStretch(0, 1);
+    layout->setRowStretch(1, 3);
+    layout->setRowStretch(2, 2);
     setFocusProxy(FileDB_);
-    verbinde();
+    connectControls();
 }
 
-void Dateiwaehler::verbinde()
+void FileChooser::connectControls()
 {
     connect(DriveDB_, &QComboBox::textActivated, this,
-            bewacht([this](const QString& eintrag) { modell_.laufwerkGewaehlt(ausQt(eintrag)); }));
-    connect(TbUpDB_, &QToolButton::clicked, this, bewacht([this] { modell_.nachOben(); }));
-    connect(DirDB_, &QTreeWidget::itemActivated, this, bewacht([this](QTreeWidgetItem* eintrag, int) {
-                modell_.ordnerGewaehlt(ausQt(eintrag->data(0, ROLLE_PFAD).toString()));
+            guardedSlot([this](const QString& entry) { model_.driveChosen(fromQt(entry)); }));
+    connect(TbUpDB_, &QToolButton::clicked, this, guardedSlot([this] { model_.upwards(); }));
+    connect(DirDB_, &QTreeWidget::itemActivated, this, guardedSlot([this](QTreeWidgetItem* entry, int) {
+                model_.folderChosen(fromQt(entry->data(0, ROLE_PATH).toString()));
             }));
     // A click picks a file, and so does Enter; a double click is not two picks.
     connect(FileDB_, &QListWidget::itemClicked, this,
-            bewacht([this](QListWidgetItem* eintrag) { modell_.dateiGewaehlt(ausQt(eintrag->text())); }));
-    auto* eingabe = new QAction(FileDB_);
-    eingabe->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
-    eingabe->setShortcutContext(Qt::WidgetShortcut);
-    FileDB_->addAction(eingabe);
-    connect(eingabe, &QAction::triggered, this, bewacht([this] {
-                if (const auto* eintrag = FileDB_->currentItem())
-                    modell_.dateiGewaehlt(ausQt(eintrag->text()));
+            guardedSlot([this](QListWidgetItem* entry) { model_.fileChosen(fromQt(entry->text())); }));
+    auto* input = new QAction(FileDB_);
+    input->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
+    input->setShortcutContext(Qt::WidgetShortcut);
+    FileDB_->addAction(input);
+    connect(input, &QAction::triggered, this, guardedSlot([this] {
+                if (const auto* entry = FileDB_->currentItem())
+                    model_.fileChosen(fromQt(entry->text()));
             }));
 }
 
-void Dateiwaehler::zeigen()
+void FileChooser::refresh()
 {
-    zeigeLaufwerke();
-    zeigeOrdner();
-    zeigeDateien();
+    showDrives();
+    showFolder();
+    showFiles();
 }
 
-void Dateiwaehler::zeigeLaufwerke()
+void FileChooser::showDrives()
 {
     const QSignalBlocker still(DriveDB_);
-    const auto& auswahl = modell_.auswahl();
-    if (laufwerke_ != auswahl.laufwerke()) {
-        laufwerke_ = auswahl.laufwerke();
+    const auto& selection = model_.selection();
+    if (drives_ != selection.drives()) {
+        drives_ = selection.drives();
         DriveDB_->clear();
-        for (const auto& eintrag : laufwerke_)
-            DriveDB_->addItem(symbol("drive", QPalette::PlaceholderText), zuQt(eintrag));
+        for (const auto& entry : drives_)
+            DriveDB_->addItem(icon("drive", QPalette::PlaceholderText), toQt(entry));
     }
-    DriveDB_->setCurrentIndex(DriveDB_->findText(zuQt(auswahl.laufwerk())));
+    DriveDB_->setCurrentIndex(DriveDB_->findText(toQt(selection.drive())));
 }
 
 // The folders above the one that is open, and those in it.
-void Dateiwaehler::zeigeOrdner()
+void FileChooser::showFolder()
 {
-    const auto& auswahl = modell_.auswahl();
-    if (ordner_ == auswahl.ordner() && unterordner_ == auswahl.unterordner())
+    const auto& selection = model_.selection();
+    if (folder_ == selection.folder() && subfolder_ == selection.subfolder())
         return;
-    ordner_ = auswahl.ordner();
-    unterordner_ = auswahl.unterordner();
+    folder_ = selection.folder();
+    subfolder_ = selection.subfolder();
     const QSignalBlocker still(DirDB_);
     DirDB_->clear();
-    QTreeWidgetItem* offen = nullptr;
-    QString pfad;
-    const auto teile = zuQt(ordner_).split(u'\\', Qt::SkipEmptyParts);
-    for (const QString& teil : teile) {
-        pfad = pfad.isEmpty() ? teil + u'\\' : verbunden(pfad, teil);
-        auto* eintrag = neuerOrdner(offen == nullptr ? pfad : teil, pfad, "folder-open");
-        if (offen == nullptr)
-            DirDB_->addTopLevelItem(eintrag);
+    QTreeWidgetItem* open = nullptr;
+    QString documentPath;
+    const auto parts = toQt(folder_).split(u'\\', Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        documentPath = documentPath.isEmpty() ? part + u'\\' : connected(documentPath, part);
+        auto* entry = newFolder(open == nullptr ? documentPath : part, documentPath, "folder-open");
+        if (open == nullptr)
+            DirDB_->addTopLevelItem(entry);
         else
-            offen->addChild(eintrag);
-        offen = eintrag;
+            open->addChild(entry);
+        open = entry;
     }
-    if (offen == nullptr)
+    if (open == nullptr)
         return;
-    for (const auto& name : unterordner_)
-        offen->addChild(neuerOrdner(zuQt(name), verbunden(pfad, zuQt(name)), "folder"));
+    for (const auto& name : subfolder_)
+        open->addChild(newFolder(toQt(name), connected(documentPath, toQt(name)), "folder"));
     DirDB_->expandAll();
-    DirDB_->setCurrentItem(offen);
-    DirDB_->scrollToItem(offen, QAbstractItemView::PositionAtTop);
+    DirDB_->setCurrentItem(open);
+    DirDB_->scrollToItem(open, QAbstractItemView::PositionAtTop);
 }
 
-void Dateiwaehler::zeigeDateien()
+void FileChooser::showFiles()
 {
     const QSignalBlocker still(FileDB_);
-    const auto& auswahl = modell_.auswahl();
-    if (dateien_ != auswahl.dateien()) {
-        dateien_ = auswahl.dateien();
+    const auto& selection = model_.selection();
+    if (files_ != selection.files()) {
+        files_ = selection.files();
         FileDB_->clear();
-        for (const auto& name : dateien_)
-            new QListWidgetItem(symbol("database", QPalette::PlaceholderText), zuQt(name), FileDB_);
+        for (const auto& name : files_)
+            new QListWidgetItem(icon("database", QPalette::PlaceholderText), toQt(name), FileDB_);
     }
-    const auto gewaehlt = std::find(dateien_.begin(), dateien_.end(), auswahl.datei());
-    FileDB_->setCurrentRow(gewaehlt == dateien_.end() ? -1 : static_cast<int>(gewaehlt - dateien_.begin()));
+    const auto chosen = std::find(files_.begin(), files_.end(), selection.file());
+    FileDB_->setCurrentRow(chosen == files_.end() ? -1 : static_cast<int>(chosen - files_.begin()));
 }
 
 } // namespace quelvarn

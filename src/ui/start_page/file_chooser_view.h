@@ -15,31 +15,31 @@ namespace quelvarn {
 class StartPage;
 
 // The way to a database file: drive list, folder list, file list.
-class Dateiwaehler : public QWidget
+class FileChooser : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit Dateiwaehler(StartPage& modell);
+    explicit FileChooser(StartPage& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    void verbinde();
-    void zeigeLaufwerke();
-    void zeigeOrdner();
-    void zeigeDateien();
+    void connectControls();
+    void showDrives();
+    void showFolder();
+    void showFiles();
 
-    StartPage& modell_;
+    StartPage& model_;
     QComboBox* DriveDB_;
     QToolButton* TbUpDB_;
     QTreeWidget* DirDB_;
     QListWidget* FileDB_;
     // What stands in the lists now; they are filled anew only when it changed.
-    std::vector<std::string> laufwerke_;
-    std::string ordner_;
-    std::vector<std::string> unterordner_;
-    std::vector<std::string> dateien_;
+    std::vector<std::string> drives_;
+    std::string folder_;
+    std::vector<std::string> subfolder_;
+    std::vector<std::string> files_;
 };
 
 } // namespace quelvarn

@@ -18,137 +18,137 @@
 
 namespace quelvarn {
 
-// A frame with switches of the property tree, which stand in BAUMSCHALTER from `erster` on.
-struct Schaltergruppe
+// A frame with switches of the property tree, which stand in TREE_SWITCHES from `first` on.
+struct OptionGroup
 {
-    const char* rahmen;
-    const char* titel;
-    const char* feld;
-    int erster;
-    int anzahl;
-    int spalten;
-    void (StartPage::*setze)(int, bool);
+    const char* frame;
+    const char* title;
+    const char* field;
+    int first;
+    int count;
+    int columns;
+    void (StartPage::*set)(int, bool);
 };
 
 namespace {
 
-constexpr std::array<Schaltergruppe, 2> SCHALTERGRUPPEN{{
-    {"Frame1", "Informationseinstellungen der TREEVIEW", "ChInfoPrio1", 0, ANZAHL_INFOPRIO1, 1,
-     &StartPage::setzeInfoPrio1},
-    {"Frame2", "Informationen in der TREEVIEW anzeigen (sofern vorhanden)", "ChInfoPrio2", ANZAHL_INFOPRIO1,
-     static_cast<int>(BAUMSCHALTER.size()) - ANZAHL_INFOPRIO1, 2, &StartPage::setzeInfoPrio2},
+constexpr std::array<OptionGroup, 2> OPTION_GROUPS{{
+    {"Frame1", "Informationseinstellungen der TREEVIEW", "ChInfoPrio1", 0, INFO_PRIO_1_COUNT, 1,
+     &StartPage::setInfoPrio1},
+    {"Frame2", "Informationen in der TREEVIEW anzeigen (sofern vorhanden)", "ChInfoPrio2", INFO_PRIO_1_COUNT,
+     static_cast<int>(TREE_SWITCHES.size()) - INFO_PRIO_1_COUNT, 2, &StartPage::setInfoPrio2},
 }};
 
 } // namespace
 
-Einstellungen::Einstellungen(StartPage& modell, QWidget* darstellung)
-    : modell_(modell), version_(new KurzLabel), pfad_(new KurzLabel(nullptr, Qt::ElideMiddle)),
-      FrmActiveSE_(neuesActiveSE())
+Settings::Settings(StartPage& model, QWidget* appearance)
+    : model_(model), version_(new ShortLabel), path_(new ShortLabel(nullptr, Qt::ElideMiddle)),
+      FrmActiveSE_(newActiveSE())
 {
-    auto* unten = new QHBoxLayout;
-    unten->addWidget(neuesOfflinePlot(), 1);
-    unten->addWidget(neuesOfflineOrder(), 1);
+    auto* below = new QHBoxLayout;
+    below->addWidget(newOfflinePlot(), 1);
+    below->addWidget(newOfflineOrder(), 1);
 
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(6);
-    aufbau->addWidget(neuesSolidEdge());
-    aufbau->addWidget(FrmActiveSE_);
-    aufbau->addWidget(neueSchalter(SCHALTERGRUPPEN[0], ChInfoPrio1_));
-    aufbau->addWidget(neueSchalter(SCHALTERGRUPPEN[1], ChInfoPrio2_));
-    aufbau->addLayout(unten);
-    aufbau->addWidget(darstellung);
-    aufbau->addStretch(1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(6);
+    layout->addWidget(newSolidEdge());
+    layout->addWidget(FrmActiveSE_);
+    layout->addWidget(newSwitches(OPTION_GROUPS[0], ChInfoPrio1_));
+    layout->addWidget(newSwitches(OPTION_GROUPS[1], ChInfoPrio2_));
+    layout->addLayout(below);
+    layout->addWidget(appearance);
+    layout->addStretch(1);
 }
 
-QWidget* Einstellungen::neuesSolidEdge()
+QWidget* Settings::newSolidEdge()
 {
-    auto* teil = new QWidget;
-    auto* aufbau = new QVBoxLayout(teil);
-    aufbau->setContentsMargins(2, 0, 2, 2);
-    aufbau->setSpacing(2);
+    auto* part = new QWidget;
+    auto* layout = new QVBoxLayout(part);
+    layout->setContentsMargins(2, 0, 2, 2);
+    layout->setSpacing(2);
     version_->setObjectName(QStringLiteral("LblSolidEdgeVersion"));
-    setzeRolle(*version_, Rolle::Kopf);
-    pfad_->setObjectName(QStringLiteral("LblSolidEdgePfad"));
-    setzeRolle(*pfad_, Rolle::Beschriftung);
-    aufbau->addWidget(version_);
-    aufbau->addWidget(pfad_);
-    return teil;
+    setRole(*version_, TextRole::Heading);
+    path_->setObjectName(QStringLiteral("LblSolidEdgePfad"));
+    setRole(*path_, TextRole::Caption);
+    layout->addWidget(version_);
+    layout->addWidget(path_);
+    return part;
 }
 
-QGroupBox* Einstellungen::neuesActiveSE()
+QGroupBox* Settings::newActiveSE()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("FrmActiveSE", QStringLiteral("Einfügen Baugr./Plazieren Zchn. ist aktiv?"));
-    TggBtActiveSE_ = neuesFeld<QPushButton>("TggBtActiveSE", QStringLiteral("Ereignis"));
+    auto* frame = newField<QGroupBox>("FrmActiveSE", QStringLiteral("Einfügen Baugr./Plazieren Zchn. ist aktiv?"));
+    TggBtActiveSE_ = newField<QPushButton>("TggBtActiveSE", QStringLiteral("Ereignis"));
     TggBtActiveSE_->setCheckable(true);
-    LblActiveSE_ = beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblActiveSE"));
-    auto* reihe = new QHBoxLayout(rahmen);
-    reihe->addWidget(TggBtActiveSE_);
-    reihe->addWidget(LblActiveSE_, 1);
-    connect(TggBtActiveSE_, &QPushButton::clicked, this, bewacht([this](bool an) { modell_.setzeActiveSE(an); }));
-    return rahmen;
+    LblActiveSE_ = caption({}, TextRole::Caption, QStringLiteral("LblActiveSE"));
+    auto* layoutRow = new QHBoxLayout(frame);
+    layoutRow->addWidget(TggBtActiveSE_);
+    layoutRow->addWidget(LblActiveSE_, 1);
+    connect(TggBtActiveSE_, &QPushButton::clicked, this, guardedSlot([this](bool on) { model_.setActiveSE(on); }));
+    return frame;
 }
 
-QGroupBox* Einstellungen::neueSchalter(const Schaltergruppe& gruppe, std::vector<QCheckBox*>& kaesten)
+QGroupBox* Settings::newSwitches(const OptionGroup& group, std::vector<QCheckBox*>& boxes)
 {
-    auto* rahmen = neuesFeld<QGroupBox>(gruppe.rahmen, QLatin1String(gruppe.titel));
-    auto* aufbau = new QGridLayout(rahmen);
-    aufbau->setVerticalSpacing(4);
-    const int reihen = (gruppe.anzahl + gruppe.spalten - 1) / gruppe.spalten;
-    for (int i = 0; i < gruppe.anzahl; ++i) {
-        const int zeile = gruppe.erster + i;
-        auto* kasten = neuesFeld<QCheckBox>(QStringLiteral("%1(%2)").arg(QLatin1String(gruppe.feld)).arg(i),
-                                            zuQt(BAUMSCHALTER[static_cast<std::size_t>(zeile)].beschriftung));
-        connect(kasten, &QCheckBox::clicked, this,
-                bewacht([&modell = modell_, i, setze = gruppe.setze](bool an) { (modell.*setze)(i, an); }));
-        kaesten.push_back(kasten);
-        aufbau->addWidget(kasten, i % reihen, i / reihen);
+    auto* frame = newField<QGroupBox>(group.frame, QLatin1String(group.title));
+    auto* layout = new QGridLayout(frame);
+    layout->setVerticalSpacing(4);
+    const int rows = (group.count + group.columns - 1) / group.columns;
+    for (int i = 0; i < group.count; ++i) {
+        const int row = group.first + i;
+        auto* box = newField<QCheckBox>(QStringLiteral("%1(%2)").arg(QLatin1String(group.field)).arg(i),
+                                        toQt(TREE_SWITCHES[static_cast<std::size_t>(row)].caption));
+        connect(box, &QCheckBox::clicked, this,
+                guardedSlot([&model = model_, i, set = group.set](bool on) { (model.*set)(i, on); }));
+        boxes.push_back(box);
+        layout->addWidget(box, i % rows, i / rows);
     }
-    return rahmen;
+    return frame;
 }
 
-QGroupBox* Einstellungen::neuesOfflinePlot()
+QGroupBox* Settings::newOfflinePlot()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
-    auto* aufbau = new QHBoxLayout;
+    auto* frame = newField<QGroupBox>("FrmOfflinePlot", QStringLiteral("Offline-Plotten"));
+    auto* layout = new QHBoxLayout;
     for (std::size_t i = 0; i < OFFLINE_TOOLS.size(); ++i) {
-        auto* option = neuesFeld<QRadioButton>(QStringLiteral("OpOfflinePlot(%1)").arg(i),
-                                               QStringLiteral("mit ") + zuQt(OFFLINE_TOOLS[i]));
+        auto* option = newField<QRadioButton>(QStringLiteral("OpOfflinePlot(%1)").arg(i),
+                                              QStringLiteral("mit ") + toQt(OFFLINE_TOOLS[i]));
         const int index = static_cast<int>(i);
         connect(option, &QRadioButton::clicked, this,
-                bewacht([this, index](bool) { modell_.offlineToolGewaehlt(index); }));
+                guardedSlot([this, index](bool) { model_.offlineToolChosen(index); }));
         OpOfflinePlot_.push_back(option);
-        aufbau->addWidget(option);
+        layout->addWidget(option);
     }
-    rahmen->setLayout(aufbau);
-    return rahmen;
+    frame->setLayout(layout);
+    return frame;
 }
 
-QGroupBox* Einstellungen::neuesOfflineOrder()
+QGroupBox* Settings::newOfflineOrder()
 {
-    auto* rahmen = neuesFeld<QGroupBox>("FrmOfflineOrder", QStringLiteral("Offline/Versenden"));
-    ChLocalOrder_ = neuesFeld<QCheckBox>("ChLocalOrder", QStringLiteral("Aufträge lokal speichern"));
-    connect(ChLocalOrder_, &QCheckBox::clicked, this, bewacht([this](bool an) { modell_.setzeLokaleAuftraege(an); }));
-    auto* aufbau = new QVBoxLayout(rahmen);
-    aufbau->addWidget(ChLocalOrder_);
-    return rahmen;
+    auto* frame = newField<QGroupBox>("FrmOfflineOrder", QStringLiteral("Offline/Versenden"));
+    ChLocalOrder_ = newField<QCheckBox>("ChLocalOrder", QStringLiteral("Aufträge lokal speichern"));
+    connect(ChLocalOrder_, &QCheckBox::clicked, this, guardedSlot([this](bool on) { model_.setLocalOrders(on); }));
+    auto* layout = new QVBoxLayout(frame);
+    layout->addWidget(ChLocalOrder_);
+    return frame;
 }
 
-void Einstellungen::zeigen()
+void Settings::refresh()
 {
-    version_->setText(zuQt(modell_.LblSolidEdgeVersion()));
-    pfad_->setText(zuQt(modell_.LblSolidEdgePfad()));
-    FrmActiveSE_->setVisible(modell_.activeSESichtbar());
-    FrmActiveSE_->setEnabled(modell_.activeSEBereit());
-    zeigeGesetzt(*TggBtActiveSE_, modell_.activeSE());
-    LblActiveSE_->setText(zuQt(modell_.LblActiveSE()));
+    version_->setText(toQt(model_.LblSolidEdgeVersion()));
+    path_->setText(toQt(model_.LblSolidEdgePfad()));
+    FrmActiveSE_->setVisible(model_.cadEventsVisible());
+    FrmActiveSE_->setEnabled(model_.cadEventsReady());
+    showSet(*TggBtActiveSE_, model_.activeSE());
+    LblActiveSE_->setText(toQt(model_.LblActiveSE()));
     for (std::size_t i = 0; i < ChInfoPrio1_.size(); ++i)
-        zeigeGesetzt(*ChInfoPrio1_[i], modell_.infoPrio1(static_cast<int>(i)));
+        showSet(*ChInfoPrio1_[i], model_.infoPrio1(static_cast<int>(i)));
     for (std::size_t i = 0; i < ChInfoPrio2_.size(); ++i)
-        zeigeGesetzt(*ChInfoPrio2_[i], modell_.infoPrio2(static_cast<int>(i)));
+        showSet(*ChInfoPrio2_[i], model_.infoPrio2(static_cast<int>(i)));
     for (std::size_t i = 0; i < OpOfflinePlot_.size(); ++i)
-        zeigeGesetzt(*OpOfflinePlot_[i], modell_.offlineTool() == static_cast<int>(i));
-    zeigeGesetzt(*ChLocalOrder_, modell_.lokaleAuftraege());
+        showSet(*OpOfflinePlot_[i], model_.offlineTool() == static_cast<int>(i));
+    showSet(*ChLocalOrder_, model_.localOrders());
 }
 
 } // namespace quelvarn

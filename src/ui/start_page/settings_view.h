@@ -12,30 +12,30 @@ class QRadioButton;
 
 namespace quelvarn {
 
-class KurzLabel;
+class ShortLabel;
 class StartPage;
-struct Schaltergruppe;
+struct OptionGroup;
 
 // The settings of the user on the start page.
-class Einstellungen : public QWidget
+class Settings : public QWidget
 {
     Q_OBJECT
 
 public:
-    Einstellungen(StartPage& modell, QWidget* darstellung);
+    Settings(StartPage& model, QWidget* appearance);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neuesSolidEdge();
-    QGroupBox* neuesActiveSE();
-    QGroupBox* neueSchalter(const Schaltergruppe& gruppe, std::vector<QCheckBox*>& kaesten);
-    QGroupBox* neuesOfflinePlot();
-    QGroupBox* neuesOfflineOrder();
+    QWidget* newSolidEdge();
+    QGroupBox* newActiveSE();
+    QGroupBox* newSwitches(const OptionGroup& group, std::vector<QCheckBox*>& boxes);
+    QGroupBox* newOfflinePlot();
+    QGroupBox* newOfflineOrder();
 
-    StartPage& modell_;
-    KurzLabel* version_;
-    KurzLabel* pfad_;
+    StartPage& model_;
+    ShortLabel* version_;
+    ShortLabel* path_;
     QGroupBox* FrmActiveSE_;
     QPushButton* TggBtActiveSE_;
     QLabel* LblActiveSE_;

@@ -16,78 +16,78 @@
 
 namespace quelvarn {
 
-FormDB::FormDB(StartPage& modell, QWidget* darstellung)
-    : modell_(modell), LabelDB_(new KurzLabel), waehler_(new Dateiwaehler(modell)),
-      einstellungen_(new Einstellungen(modell, darstellung)), dateiname_(new KurzLabel),
-      pfadname_(new KurzLabel(nullptr, Qt::ElideMiddle))
+FormDB::FormDB(StartPage& model, QWidget* appearance)
+    : model_(model), LabelDB_(new ShortLabel), chooser_(new FileChooser(model)),
+      settings_(new Settings(model, appearance)), fileName_(new ShortLabel),
+      pathName_(new ShortLabel(nullptr, Qt::ElideMiddle))
 {
     setObjectName(QStringLiteral("FormDB"));
-    auto* mitte = new QHBoxLayout;
-    mitte->setContentsMargins(16, 12, 16, 12);
-    mitte->setSpacing(16);
-    mitte->addWidget(waehler_, 9);
-    mitte->addWidget(einstellungen_, 10);
+    auto* middle = new QHBoxLayout;
+    middle->setContentsMargins(16, 12, 16, 12);
+    middle->setSpacing(16);
+    middle->addWidget(chooser_, 9);
+    middle->addWidget(settings_, 10);
 
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(neueKopfzeile());
-    aufbau->addWidget(neueLeiste());
-    aufbau->addLayout(mitte, 1);
-    aufbau->addWidget(neueStatuszeile());
-    setFocusProxy(waehler_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(newHeadingRow());
+    layout->addWidget(newBar());
+    layout->addLayout(middle, 1);
+    layout->addWidget(newStatusRow());
+    setFocusProxy(chooser_);
 }
 
-QWidget* FormDB::neueKopfzeile()
+QWidget* FormDB::newHeadingRow()
 {
-    auto* zeile = new Streifen(Streifen::Art::Kopfzeile, "KopfDB");
+    auto* row = new Strip(Strip::Kind::HeadingRow, "KopfDB");
     LabelDB_->setObjectName(QStringLiteral("LabelDB"));
-    setzeRolle(*LabelDB_, Rolle::Titel);
-    zeile->reihe().setContentsMargins(4, 0, 16, 0);
-    zeile->reihe().addWidget(LabelDB_, 1);
-    zeile->reihe().addWidget(beschriftung(QStringLiteral("Laufwerk, Ordner und Datei wählen, dann <Öffnen>"),
-                                          Rolle::Klein, QStringLiteral("LblAuswahlDB")));
-    return zeile;
+    setRole(*LabelDB_, TextRole::Titel);
+    row->layoutRow().setContentsMargins(4, 0, 16, 0);
+    row->layoutRow().addWidget(LabelDB_, 1);
+    row->layoutRow().addWidget(caption(QStringLiteral("Laufwerk, Ordner und Datei wählen, dann <Öffnen>"),
+                                       TextRole::Small, QStringLiteral("LblAuswahlDB")));
+    return row;
 }
 
-QWidget* FormDB::neueLeiste()
+QWidget* FormDB::newBar()
 {
-    auto* zeile = new Streifen(Streifen::Art::Leiste, "LeisteDB");
-    auto* leiste = quelvarn::neueLeiste("ToolbarDB", Knopfart::TextNebenSymbol);
-    auto* oeffnen = fuegeKnopfHinzu(*leiste, {"Öffnen", "Öffnen", "Öffnen der Datenbank", ""});
-    leiste->widgetForAction(oeffnen)->setProperty("haupt", true);
-    oeffnen->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
-    oeffnen->setShortcutContext(Qt::WindowShortcut);
-    connect(oeffnen, &QAction::triggered, this, bewacht([this] {
-                const Sanduhr warten;
-                modell_.oeffnen();
+    auto* row = new Strip(Strip::Kind::Bar, "LeisteDB");
+    auto* bar = quelvarn::newBar("ToolbarDB", ButtonKind::TextBesideIcon);
+    auto* open = addBarButton(*bar, {"Öffnen", "Öffnen", "Öffnen der Datenbank", ""});
+    bar->widgetForAction(open)->setProperty("haupt", true);
+    open->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
+    open->setShortcutContext(Qt::WindowShortcut);
+    connect(open, &QAction::triggered, this, guardedSlot([this] {
+                const BusyCursor wait;
+                model_.open();
             }));
-    auto* verlassen = fuegeKnopfHinzu(*leiste, {"Verlassen", "Verlassen", "Zurück zur Hauptform", "back"});
-    connect(verlassen, &QAction::triggered, this, bewacht([this] { modell_.verlassen(); }));
-    zeile->reihe().addWidget(leiste);
-    return zeile;
+    auto* leave = addBarButton(*bar, {"Verlassen", "Verlassen", "Zurück zur Hauptform", "back"});
+    connect(leave, &QAction::triggered, this, guardedSlot([this] { model_.leave(); }));
+    row->layoutRow().addWidget(bar);
+    return row;
 }
 
-QWidget* FormDB::neueStatuszeile()
+QWidget* FormDB::newStatusRow()
 {
-    auto* zeile = new Streifen(Streifen::Art::Statuszeile, "StatusBarDB");
-    dateiname_->setObjectName(QStringLiteral("StatusBarDB(2)"));
-    pfadname_->setObjectName(QStringLiteral("StatusBarDB(4)"));
-    zeile->reihe().addWidget(beschriftung(QStringLiteral("Dateiname"), Rolle::Klein, QStringLiteral("StatusBarDB(1)")));
-    zeile->reihe().addWidget(dateiname_);
-    zeile->reihe().addSpacing(8);
-    zeile->reihe().addWidget(beschriftung(QStringLiteral("Pfadname"), Rolle::Klein, QStringLiteral("StatusBarDB(3)")));
-    zeile->reihe().addWidget(pfadname_, 1);
-    return zeile;
+    auto* row = new Strip(Strip::Kind::StatusRow, "StatusBarDB");
+    fileName_->setObjectName(QStringLiteral("StatusBarDB(2)"));
+    pathName_->setObjectName(QStringLiteral("StatusBarDB(4)"));
+    row->layoutRow().addWidget(caption(QStringLiteral("Dateiname"), TextRole::Small, QStringLiteral("StatusBarDB(1)")));
+    row->layoutRow().addWidget(fileName_);
+    row->layoutRow().addSpacing(8);
+    row->layoutRow().addWidget(caption(QStringLiteral("Pfadname"), TextRole::Small, QStringLiteral("StatusBarDB(3)")));
+    row->layoutRow().addWidget(pathName_, 1);
+    return row;
 }
 
-void FormDB::zeigen()
+void FormDB::refresh()
 {
-    LabelDB_->setText(zuQt(modell_.LabelDB()));
-    dateiname_->setText(zuQt(modell_.dateinamePanel()));
-    pfadname_->setText(zuQt(modell_.pfadnamePanel()));
-    waehler_->zeigen();
-    einstellungen_->zeigen();
+    LabelDB_->setText(toQt(model_.LabelDB()));
+    fileName_->setText(toQt(model_.fileNamePanel()));
+    pathName_->setText(toQt(model_.pathNamePanel()));
+    chooser_->refresh();
+    settings_->refresh();
 }
 
 } // namespace quelvarn

@@ -4,9 +4,9 @@
 
 namespace quelvarn {
 
-class Dateiwaehler;
-class Einstellungen;
-class KurzLabel;
+class FileChooser;
+class Settings;
+class ShortLabel;
 class StartPage;
 
 // The start page: choosing the database, and the settings of the user.
@@ -15,22 +15,22 @@ class FormDB : public QWidget
     Q_OBJECT
 
 public:
-    // `darstellung` is the frame with this computer's appearance; the page takes it over.
-    FormDB(StartPage& modell, QWidget* darstellung);
+    // `appearance` is the frame with this computer's appearance; the page takes it over.
+    FormDB(StartPage& model, QWidget* appearance);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neueKopfzeile();
-    QWidget* neueLeiste();
-    QWidget* neueStatuszeile();
+    QWidget* newHeadingRow();
+    QWidget* newBar();
+    QWidget* newStatusRow();
 
-    StartPage& modell_;
-    KurzLabel* LabelDB_;
-    Dateiwaehler* waehler_;
-    Einstellungen* einstellungen_;
-    KurzLabel* dateiname_;
-    KurzLabel* pfadname_;
+    StartPage& model_;
+    ShortLabel* LabelDB_;
+    FileChooser* chooser_;
+    Settings* settings_;
+    ShortLabel* fileName_;
+    ShortLabel* pathName_;
 };
 
 } // namespace quelvarn

@@ -15,112 +15,111 @@ namespace quelvarn {
 
 namespace {
 
-constexpr auto SCHLUESSEL_MODUS = "Darstellung";
-constexpr auto SCHLUESSEL_FREI = "FensterFrei";
-constexpr std::array MODUSNAMEN{"Automatisch", "Hell", "Dunkel"};
+constexpr auto KEY_MODE = "Darstellung";
+constexpr auto KEY_FREE = "FensterFrei";
+constexpr std::array MODE_NAMES{"Automatisch", "Hell", "Dunkel"};
 
-bool dunkel = false;
+bool dark = false;
 
 // Taken once, before the program's own palette hides it.
-bool systemIstDunkel()
+bool systemIsDark()
 {
-    static const bool antwort = [] {
+    static const bool answer = [] {
 #ifdef Q_OS_WIN
-        const QSettings thema(
+        const QSettings topic(
             QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize"),
             QSettings::NativeFormat);
-        return thema.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0;
+        return topic.value(QStringLiteral("AppsUseLightTheme"), 1).toInt() == 0;
 #else
         return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 #endif
     }();
-    return antwort;
+    return answer;
 }
 
-QFont programmschrift()
+QFont programFont()
 {
-    QFont schrift;
+    QFont font;
 #ifdef Q_OS_WIN
-    schrift.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma")});
+    font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Tahoma")});
 #else
-    schrift.setFamilies(
-        {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
+    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
 #endif
-    schrift.setPointSizeF(9);
-    return schrift;
+    font.setPointSizeF(9);
+    return font;
 }
 
 // The style sheet with the names of colours filled in.
-QString stylesheet(const Farbsatz& farben)
+QString stylesheet(const ColourSet& colours)
 {
-    QFile datei(QStringLiteral(":/quelvarn/style.qss"));
-    if (!datei.open(QIODevice::ReadOnly))
+    QFile file(QStringLiteral(":/quelvarn/style.qss"));
+    if (!file.open(QIODevice::ReadOnly))
         return {};
-    QString text = QString::fromUtf8(datei.readAll());
+    QString text = QString::fromUtf8(file.readAll());
     // A name that begins another one comes after it.
-    const std::array<std::pair<const char*, QColor>, 14> namen{{{"@akzentTief", farben.akzentTief},
-                                                                {"@akzentFlaeche", farben.akzentFlaeche},
-                                                                {"@akzent", farben.akzent},
-                                                                {"@auswahl", farben.auswahl},
-                                                                {"@flaeche", farben.flaeche},
-                                                                {"@gedaempft", farben.gedaempft},
-                                                                {"@hinweis", farben.hinweis},
-                                                                {"@inaktiv", farben.inaktiv},
-                                                                {"@linie", farben.linie},
-                                                                {"@rand", farben.rand},
-                                                                {"@streifen", farben.streifen},
-                                                                {"@text", farben.text},
-                                                                {"@ueberfahren", farben.ueberfahren},
-                                                                {"@warnung", farben.warnung}}};
-    for (const auto& [name, farbe] : namen)
-        text.replace(QLatin1String(name), farbe.name());
+    const std::array<std::pair<const char*, QColor>, 14> names{{{"@akzentTief", colours.accentDeep},
+                                                                {"@akzentFlaeche", colours.accentArea},
+                                                                {"@akzent", colours.accent},
+                                                                {"@auswahl", colours.selection},
+                                                                {"@flaeche", colours.area},
+                                                                {"@gedaempft", colours.muted},
+                                                                {"@hinweis", colours.tell},
+                                                                {"@inaktiv", colours.inactive},
+                                                                {"@linie", colours.line},
+                                                                {"@rand", colours.margin},
+                                                                {"@streifen", colours.strip},
+                                                                {"@text", colours.text},
+                                                                {"@ueberfahren", colours.hovered},
+                                                                {"@warnung", colours.warn}}};
+    for (const auto& [name, colour] : names)
+        text.replace(QLatin1String(name), colour.name());
     return text;
 }
 
 } // namespace
 
-Darstellung::Darstellung(QString datei) : datei_(std::move(datei))
+Appearance::Appearance(QString file) : file_(std::move(file))
 {
-    if (datei_.isEmpty())
-        datei_ = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                 QStringLiteral("/Quelvarn/Darstellung.ini");
-    const QSettings gespeichert(datei_, QSettings::IniFormat);
-    const QString name = gespeichert.value(QLatin1String(SCHLUESSEL_MODUS)).toString();
-    for (std::size_t i = 0; i < MODUSNAMEN.size(); ++i)
-        if (name == QLatin1String(MODUSNAMEN[i]))
-            modus_ = static_cast<Modus>(i);
-    fensterFrei_ = gespeichert.value(QLatin1String(SCHLUESSEL_FREI), false).toBool();
+    if (file_.isEmpty())
+        file_ = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                QStringLiteral("/Quelvarn/Darstellung.ini");
+    const QSettings saved(file_, QSettings::IniFormat);
+    const QString name = saved.value(QLatin1String(KEY_MODE)).toString();
+    for (std::size_t i = 0; i < MODE_NAMES.size(); ++i)
+        if (name == QLatin1String(MODE_NAMES[i]))
+            mode_ = static_cast<Mode>(i);
+    windowFree_ = saved.value(QLatin1String(KEY_FREE), false).toBool();
 }
 
-void Darstellung::setzeModus(Modus modus)
+void Appearance::setMode(Mode mode)
 {
-    modus_ = modus;
-    sichere(QLatin1String(SCHLUESSEL_MODUS), QLatin1String(MODUSNAMEN[static_cast<std::size_t>(modus)]));
+    mode_ = mode;
+    save(QLatin1String(KEY_MODE), QLatin1String(MODE_NAMES[static_cast<std::size_t>(mode)]));
 }
 
-void Darstellung::setzeFensterFrei(bool frei)
+void Appearance::setWindowFree(bool free)
 {
-    fensterFrei_ = frei;
-    sichere(QLatin1String(SCHLUESSEL_FREI), frei ? QStringLiteral("true") : QStringLiteral("false"));
+    windowFree_ = free;
+    save(QLatin1String(KEY_FREE), free ? QStringLiteral("true") : QStringLiteral("false"));
 }
 
-void Darstellung::sichere(const QString& name, const QString& wert) const
+void Appearance::save(const QString& name, const QString& value) const
 {
-    QSettings(datei_, QSettings::IniFormat).setValue(name, wert);
+    QSettings(file_, QSettings::IniFormat).setValue(name, value);
 }
 
-void Darstellung::wendeAn(QApplication& programm) const
+void Appearance::apply(QApplication& program) const
 {
-    dunkel = modus_ == Modus::Dunkel || (modus_ == Modus::Automatisch && systemIstDunkel());
-    programm.setStyle(neuerProgrammstil());
-    programm.setFont(programmschrift());
-    programm.setPalette(palette(farbsatz()));
-    programm.setStyleSheet(stylesheet(farbsatz()));
+    dark = mode_ == Mode::Dark || (mode_ == Mode::Automatic && systemIsDark());
+    program.setStyle(newProgramStyle());
+    program.setFont(programFont());
+    program.setPalette(palette(colourSet()));
+    program.setStyleSheet(stylesheet(colourSet()));
 }
 
-bool Darstellung::dunkelAngewendet()
+bool Appearance::darkApplied()
 {
-    return dunkel;
+    return dark;
 }
 
 } // namespace quelvarn

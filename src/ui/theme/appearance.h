@@ -6,31 +6,31 @@ class QApplication;
 
 namespace quelvarn {
 
-enum class Modus { Automatisch, Hell, Dunkel };
+enum class Mode { Automatic, Light, Dark };
 
 // How the program looks on this computer: light or dark, fixed or free window. Kept in a file of this user.
-class Darstellung
+class Appearance
 {
 public:
     // "" for the file in the user's configuration folder.
-    explicit Darstellung(QString datei = {});
+    explicit Appearance(QString file = {});
 
-    Modus modus() const { return modus_; }
-    void setzeModus(Modus modus);
-    bool fensterFrei() const { return fensterFrei_; }
-    void setzeFensterFrei(bool frei);
+    Mode mode() const { return mode_; }
+    void setMode(Mode mode);
+    bool windowFree() const { return windowFree_; }
+    void setWindowFree(bool free);
 
     // Style, palette, fonts and style sheet of the whole program.
-    void wendeAn(QApplication& programm) const;
+    void apply(QApplication& program) const;
 
-    static bool dunkelAngewendet();
+    static bool darkApplied();
 
 private:
-    void sichere(const QString& name, const QString& wert) const;
+    void save(const QString& name, const QString& value) const;
 
-    QString datei_;
-    Modus modus_ = Modus::Automatisch;
-    bool fensterFrei_ = false;
+    QString file_;
+    Mode mode_ = Mode::Automatic;
+    bool windowFree_ = false;
 };
 
 } // namespace quelvarn

@@ -7,143 +7,143 @@
 
 namespace quelvarn {
 
-const Farbsatz& hellerFarbsatz()
+const ColourSet& lightColourSet()
 {
-    static const Farbsatz farben{
-        .dunkel = false,
-        .flaeche = QColor(0xFFFFFF),
-        .streifen = QColor(0xF3F4F7),
-        .zeile2 = QColor(0xF8F9FB),
-        .linie = QColor(0xDCE0E6),
-        .rand = QColor(0xB9C0CB),
+    static const ColourSet colours{
+        .dark = false,
+        .area = QColor(0xFFFFFF),
+        .strip = QColor(0xF3F4F7),
+        .row2 = QColor(0xF8F9FB),
+        .line = QColor(0xDCE0E6),
+        .margin = QColor(0xB9C0CB),
         .text = QColor(0x1B1F26),
-        .gedaempft = QColor(0x5C6675),
-        .inaktiv = QColor(0x9DA5B1),
-        .akzent = QColor(0x1A66DB),
-        .akzentTief = QColor(0x1453B5),
-        .akzentFlaeche = QColor(0xE4EEFD),
-        .ueberfahren = QColor(0xEDEFF3),
-        .auswahl = QColor(0xD3E4FC),
-        .warnung = QColor(0xB42318),
-        .hinweis = QColor(0xF5B301),
-        .hinweisText = QColor(0x1B1F26),
+        .muted = QColor(0x5C6675),
+        .inactive = QColor(0x9DA5B1),
+        .accent = QColor(0x1A66DB),
+        .accentDeep = QColor(0x1453B5),
+        .accentArea = QColor(0xE4EEFD),
+        .hovered = QColor(0xEDEFF3),
+        .selection = QColor(0xD3E4FC),
+        .warn = QColor(0xB42318),
+        .tell = QColor(0xF5B301),
+        .hintText = QColor(0x1B1F26),
     };
-    return farben;
+    return colours;
 }
 
-const Farbsatz& dunklerFarbsatz()
+const ColourSet& darkColourSet()
 {
-    static const Farbsatz farben{
-        .dunkel = true,
-        .flaeche = QColor(0x262B32),
-        .streifen = QColor(0x1F2329),
-        .zeile2 = QColor(0x2A3038),
-        .linie = QColor(0x3A424D),
-        .rand = QColor(0x566070),
+    static const ColourSet colours{
+        .dark = true,
+        .area = QColor(0x262B32),
+        .strip = QColor(0x1F2329),
+        .row2 = QColor(0x2A3038),
+        .line = QColor(0x3A424D),
+        .margin = QColor(0x566070),
         .text = QColor(0xE6E9EE),
-        .gedaempft = QColor(0xA3ACB9),
-        .inaktiv = QColor(0x6B7583),
-        .akzent = QColor(0x7AB0FF),
-        .akzentTief = QColor(0x9CC4FF),
-        .akzentFlaeche = QColor(0x2A3D5B),
-        .ueberfahren = QColor(0x323942),
-        .auswahl = QColor(0x2F4F7D),
-        .warnung = QColor(0xFF9B8E),
-        .hinweis = QColor(0xF5B301),
-        .hinweisText = QColor(0x1B1F26),
+        .muted = QColor(0xA3ACB9),
+        .inactive = QColor(0x6B7583),
+        .accent = QColor(0x7AB0FF),
+        .accentDeep = QColor(0x9CC4FF),
+        .accentArea = QColor(0x2A3D5B),
+        .hovered = QColor(0x323942),
+        .selection = QColor(0x2F4F7D),
+        .warn = QColor(0xFF9B8E),
+        .tell = QColor(0xF5B301),
+        .hintText = QColor(0x1B1F26),
     };
-    return farben;
+    return colours;
 }
 
-const Farbsatz& farbsatz()
+const ColourSet& colourSet()
 {
-    return Darstellung::dunkelAngewendet() ? dunklerFarbsatz() : hellerFarbsatz();
+    return Appearance::darkApplied() ? darkColourSet() : lightColourSet();
 }
 
-QPalette palette(const Farbsatz& farben)
+QPalette palette(const ColourSet& colours)
 {
-    QPalette ergebnis;
-    ergebnis.setColor(QPalette::Window, farben.flaeche);
-    ergebnis.setColor(QPalette::WindowText, farben.text);
-    ergebnis.setColor(QPalette::Base, farben.flaeche);
-    ergebnis.setColor(QPalette::AlternateBase, farben.zeile2);
-    ergebnis.setColor(QPalette::Text, farben.text);
-    ergebnis.setColor(QPalette::Button, farben.dunkel ? QColor(0x343B45) : QColor(0xF3F4F7));
-    ergebnis.setColor(QPalette::ButtonText, farben.text);
-    ergebnis.setColor(QPalette::BrightText, farben.warnung);
-    ergebnis.setColor(QPalette::PlaceholderText, farben.gedaempft);
-    ergebnis.setColor(QPalette::Highlight, farben.auswahl);
-    ergebnis.setColor(QPalette::HighlightedText, farben.text);
-    ergebnis.setColor(QPalette::Link, farben.akzent);
-    ergebnis.setColor(QPalette::LinkVisited, farben.akzent);
-    ergebnis.setColor(QPalette::ToolTipBase, farben.dunkel ? QColor(0x3A424D) : QColor(0x2A2F38));
-    ergebnis.setColor(QPalette::ToolTipText, QColor(0xF4F5F7));
-    ergebnis.setColor(QPalette::Light, farben.dunkel ? farben.rand : QColor(0xFFFFFF));
-    ergebnis.setColor(QPalette::Midlight, farben.linie);
-    ergebnis.setColor(QPalette::Mid, farben.rand);
-    ergebnis.setColor(QPalette::Dark, farben.rand);
-    ergebnis.setColor(QPalette::Shadow, farben.dunkel ? QColor(0x14171B) : QColor(0x8A93A1));
-    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
-        ergebnis.setColor(QPalette::Disabled, rolle, farben.inaktiv);
-    ergebnis.setColor(QPalette::Disabled, QPalette::Base, farben.streifen);
-    ergebnis.setColor(QPalette::Disabled, QPalette::Highlight, farben.linie);
-    return ergebnis;
+    QPalette result;
+    result.setColor(QPalette::Window, colours.area);
+    result.setColor(QPalette::WindowText, colours.text);
+    result.setColor(QPalette::Base, colours.area);
+    result.setColor(QPalette::AlternateBase, colours.row2);
+    result.setColor(QPalette::Text, colours.text);
+    result.setColor(QPalette::Button, colours.dark ? QColor(0x343B45) : QColor(0xF3F4F7));
+    result.setColor(QPalette::ButtonText, colours.text);
+    result.setColor(QPalette::BrightText, colours.warn);
+    result.setColor(QPalette::PlaceholderText, colours.muted);
+    result.setColor(QPalette::Highlight, colours.selection);
+    result.setColor(QPalette::HighlightedText, colours.text);
+    result.setColor(QPalette::Link, colours.accent);
+    result.setColor(QPalette::LinkVisited, colours.accent);
+    result.setColor(QPalette::ToolTipBase, colours.dark ? QColor(0x3A424D) : QColor(0x2A2F38));
+    result.setColor(QPalette::ToolTipText, QColor(0xF4F5F7));
+    result.setColor(QPalette::Light, colours.dark ? colours.margin : QColor(0xFFFFFF));
+    result.setColor(QPalette::Midlight, colours.line);
+    result.setColor(QPalette::Mid, colours.margin);
+    result.setColor(QPalette::Dark, colours.margin);
+    result.setColor(QPalette::Shadow, colours.dark ? QColor(0x14171B) : QColor(0x8A93A1));
+    for (const auto textRole : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
+        result.setColor(QPalette::Disabled, textRole, colours.inactive);
+    result.setColor(QPalette::Disabled, QPalette::Base, colours.strip);
+    result.setColor(QPalette::Disabled, QPalette::Highlight, colours.line);
+    return result;
 }
 
 namespace {
 
-double leuchtdichte(const QColor& farbe)
+double luminance(const QColor& colour)
 {
-    const auto anteil = [](double wert) {
-        return wert <= 0.03928 ? wert / 12.92 : std::pow((wert + 0.055) / 1.055, 2.4);
+    const auto share = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
+    return 0.2126 * share(colour.redF()) + 0.7152 * share(colour.greenF()) + 0.0722 * share(colour.blueF());
 }
 
 } // namespace
 
-double kontrast(const QColor& a, const QColor& b)
+double contrast(const QColor& a, const QColor& b)
 {
-    const auto [dunkler, heller] = std::minmax({leuchtdichte(a), leuchtdichte(b)});
-    return (heller + 0.05) / (dunkler + 0.05);
+    const auto [darker, heller] = std::minmax({luminance(a), luminance(b)});
+    return (heller + 0.05) / (darker + 0.05);
 }
 
-QColor lesbar(const QColor& farbe, const QColor& grund, double mindestkontrast)
+QColor readable(const QColor& colour, const QColor& reason, double minimumContrast)
 {
-    const float schritt = leuchtdichte(grund) > 0.2 ? -0.02F : 0.02F;
-    float farbton = 0;
-    float saettigung = 0;
-    float helligkeit = 0;
-    farbe.getHslF(&farbton, &saettigung, &helligkeit);
-    QColor ergebnis = farbe;
-    while (kontrast(ergebnis, grund) < mindestkontrast && helligkeit + schritt >= 0 && helligkeit + schritt <= 1) {
-        helligkeit += schritt;
-        ergebnis = QColor::fromHslF(farbton, saettigung, helligkeit);
+    const float step = luminance(reason) > 0.2 ? -0.02F : 0.02F;
+    float hue = 0;
+    float saturation = 0;
+    float lightness = 0;
+    colour.getHslF(&hue, &saturation, &lightness);
+    QColor result = colour;
+    while (contrast(result, reason) < minimumContrast && lightness + step >= 0 && lightness + step <= 1) {
+        lightness += step;
+        result = QColor::fromHslF(hue, saturation, lightness);
     }
-    return ergebnis;
+    return result;
 }
 
 namespace {
 
 // The full tones of the standard colours are too loud for text.
-QColor gedeckt(unsigned rgb)
+QColor covered(unsigned rgb)
 {
-    const QColor farbe(rgb);
-    if (farbe.saturation() == 0)
-        return farbsatz().text;
-    return QColor::fromHslF(farbe.hslHueF(), std::min(farbe.hslSaturationF(), 0.78F), farbe.lightnessF());
+    const QColor colour(rgb);
+    if (colour.saturation() == 0)
+        return colourSet().text;
+    return QColor::fromHslF(colour.hslHueF(), std::min(colour.hslSaturationF(), 0.78F), colour.lightnessF());
 }
 
 } // namespace
 
 QColor statusText(unsigned rgb)
 {
-    return lesbar(gedeckt(rgb), farbsatz().flaeche, 4.5);
+    return readable(covered(rgb), colourSet().area, 4.5);
 }
 
-QColor statusPunkt(unsigned rgb)
+QColor statusDot(unsigned rgb)
 {
-    return lesbar(gedeckt(rgb), farbsatz().flaeche, 2.2);
+    return readable(covered(rgb), colourSet().area, 2.2);
 }
 
 } // namespace quelvarn

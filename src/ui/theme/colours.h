@@ -6,41 +6,41 @@
 namespace quelvarn {
 
 // The colours of one appearance, by what they are for.
-struct Farbsatz
+struct ColourSet
 {
-    bool dunkel;
-    QColor flaeche;  // Pages
-    QColor streifen; // Head lines, column heads, status bars
-    QColor zeile2;   // Every second row of a grid
-    QColor linie;    // Separators
-    QColor rand;     // Outlines of fields
+    bool dark;
+    QColor area;   // Pages
+    QColor strip;  // Head lines, column heads, status bars
+    QColor row2;   // Every second row of a grid
+    QColor line;   // Separators
+    QColor margin; // Outlines of fields
     QColor text;
-    QColor gedaempft; // Captions beside values
-    QColor inaktiv;
-    QColor akzent;
-    QColor akzentTief;    // The accent under the mouse
-    QColor akzentFlaeche; // Behind the page that is shown, pressed buttons
-    QColor ueberfahren;   // Under the mouse
-    QColor auswahl;
-    QColor warnung;
-    QColor hinweis; // Fill of a change indicator
-    QColor hinweisText;
+    QColor muted; // Captions beside values
+    QColor inactive;
+    QColor accent;
+    QColor accentDeep; // The accent under the mouse
+    QColor accentArea; // Behind the page that is shown, pressed buttons
+    QColor hovered;    // Under the mouse
+    QColor selection;
+    QColor warn;
+    QColor tell; // Fill of a change indicator
+    QColor hintText;
 };
 
-const Farbsatz& hellerFarbsatz();
-const Farbsatz& dunklerFarbsatz();
+const ColourSet& lightColourSet();
+const ColourSet& darkColourSet();
 // The one that is applied to the program now.
-const Farbsatz& farbsatz();
+const ColourSet& colourSet();
 
-QPalette palette(const Farbsatz& farben);
+QPalette palette(const ColourSet& colours);
 
 // 1 to 21, as accessibility guidelines measure it.
-double kontrast(const QColor& a, const QColor& b);
+double contrast(const QColor& a, const QColor& b);
 // The same hue, darker or lighter until it stands out from the ground.
-QColor lesbar(const QColor& farbe, const QColor& grund, double mindestkontrast);
+QColor readable(const QColor& colour, const QColor& reason, double minimumContrast);
 
 // A colour of the core (RGB) as text and as a filled dot on the page of today's appearance.
 QColor statusText(unsigned rgb);
-QColor statusPunkt(unsigned rgb);
+QColor statusDot(unsigned rgb);
 
 } // namespace quelvarn

@@ -4,9 +4,9 @@
 
 namespace quelvarn {
 
-std::string_view dokumentzeichen(std::string_view filename)
+std::string_view documentSign(std::string_view filename)
 {
-    switch (dateiTypCode(filename)) {
+    switch (fileTypeCode(filename)) {
     case 1:
         return "part";
     case 2:

@@ -5,7 +5,7 @@
 namespace quelvarn {
 
 // The picture of a document's type, by the ending of its file.
-std::string_view dokumentzeichen(std::string_view filename);
-inline constexpr std::string_view ZEICHEN_SONDERTABELLE = "special-part";
+std::string_view documentSign(std::string_view filename);
+inline constexpr std::string_view SPECIAL_TABLE_SIGN = "special-part";
 
 } // namespace quelvarn

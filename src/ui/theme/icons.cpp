@@ -9,7 +9,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
-static void ladeRessourcen()
+static void loadResources()
 {
     Q_INIT_RESOURCE(quelvarn);
 }
@@ -18,89 +18,89 @@ namespace quelvarn {
 
 namespace {
 
-QByteArray bildtext(const QString& name)
+QByteArray pictureText(const QString& name)
 {
-    static const bool geladen = (ladeRessourcen(), true);
-    Q_UNUSED(geladen)
-    QFile datei(QStringLiteral(":/quelvarn/icons/%1.svg").arg(name));
-    if (!datei.open(QIODevice::ReadOnly))
+    static const bool loaded = (loadResources(), true);
+    Q_UNUSED(loaded)
+    QFile file(QStringLiteral(":/quelvarn/icons/%1.svg").arg(name));
+    if (!file.open(QIODevice::ReadOnly))
         qWarning("no picture named %s", qUtf8Printable(name));
-    return datei.readAll();
+    return file.readAll();
 }
 
-QPixmap gezeichnet(const QString& name, const QSize& groesse, const QColor& farbe)
+QPixmap drawn(const QString& name, const QSize& size, const QColor& colour)
 {
-    const QString schluessel =
-        QStringLiteral("quelvarn/%1/%2x%3/%4").arg(name).arg(groesse.width()).arg(groesse.height()).arg(farbe.name());
-    QPixmap bild;
-    if (QPixmapCache::find(schluessel, &bild))
-        return bild;
-    QSvgRenderer zeichner(bildtext(name).replace("currentColor", farbe.name().toLatin1()));
-    bild = QPixmap(groesse);
-    bild.fill(Qt::transparent);
-    QPainter painter(&bild);
-    zeichner.render(&painter, QRectF({0, 0}, groesse));
-    QPixmapCache::insert(schluessel, bild);
-    return bild;
+    const QString key =
+        QStringLiteral("quelvarn/%1/%2x%3/%4").arg(name).arg(size.width()).arg(size.height()).arg(colour.name());
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    QSvgRenderer renderer(pictureText(name).replace("currentColor", colour.name().toLatin1()));
+    picture = QPixmap(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    renderer.render(&painter, QRectF({0, 0}, size));
+    QPixmapCache::insert(key, picture);
+    return picture;
 }
 
 // Draws a picture of the set in the colour that the control's state asks for.
-class Symbolzeichner : public QIconEngine
+class IconPainter : public QIconEngine
 {
 public:
-    Symbolzeichner(QString name, QPalette::ColorRole rolle) : name_(std::move(name)), rolle_(rolle) {}
+    IconPainter(QString name, QPalette::ColorRole textRole) : name_(std::move(name)), role_(textRole) {}
 
-    void paint(QPainter* painter, const QRect& platz, QIcon::Mode modus, QIcon::State zustand) override
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override
     {
-        const qreal dichte = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-        painter->drawPixmap(platz, scaledPixmap(platz.size() * dichte, modus, zustand, dichte));
+        const qreal density = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        painter->drawPixmap(place, scaledPixmap(place.size() * density, mode, state, density));
     }
 
-    QPixmap pixmap(const QSize& groesse, QIcon::Mode modus, QIcon::State zustand) override
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        return scaledPixmap(groesse, modus, zustand, 1.0);
+        return scaledPixmap(size, mode, state, 1.0);
     }
 
-    QPixmap scaledPixmap(const QSize& groesse, QIcon::Mode modus, QIcon::State zustand, qreal /*dichte*/) override
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal /*density*/) override
     {
-        return gezeichnet(name_, groesse, farbe(modus, zustand));
+        return drawn(name_, size, colour(mode, state));
     }
 
-    QIconEngine* clone() const override { return new Symbolzeichner(*this); }
+    QIconEngine* clone() const override { return new IconPainter(*this); }
 
 private:
-    QColor farbe(QIcon::Mode modus, QIcon::State zustand) const
+    QColor colour(QIcon::Mode mode, QIcon::State state) const
     {
-        const QPalette farben = QGuiApplication::palette();
-        if (modus == QIcon::Disabled)
-            return farben.color(QPalette::Disabled, QPalette::ButtonText);
-        return farben.color(zustand == QIcon::On && rolle_ == QPalette::ButtonText ? QPalette::Link : rolle_);
+        const QPalette colours = QGuiApplication::palette();
+        if (mode == QIcon::Disabled)
+            return colours.color(QPalette::Disabled, QPalette::ButtonText);
+        return colours.color(state == QIcon::On && role_ == QPalette::ButtonText ? QPalette::Link : role_);
     }
 
     QString name_;
-    QPalette::ColorRole rolle_;
+    QPalette::ColorRole role_;
 };
 
 } // namespace
 
-QIcon symbol(std::string_view name, QPalette::ColorRole farbe)
+QIcon icon(std::string_view name, QPalette::ColorRole colour)
 {
-    return QIcon(new Symbolzeichner(zuQt(name), farbe));
+    return QIcon(new IconPainter(toQt(name), colour));
 }
 
-QPixmap symbolbild(std::string_view name, int seite, const QColor& farbe, qreal dichte)
+QPixmap iconPicture(std::string_view name, int page, const QColor& colour, qreal density)
 {
-    QPixmap bild = gezeichnet(zuQt(name), QSize(seite, seite) * dichte, farbe);
-    bild.setDevicePixelRatio(dichte);
-    return bild;
+    QPixmap picture = drawn(toQt(name), QSize(page, page) * density, colour);
+    picture.setDevicePixelRatio(density);
+    return picture;
 }
 
-QIcon programmsymbol()
+QIcon programIcon()
 {
-    QIcon ergebnis;
-    for (const int seite : {16, 24, 32, 48, 64})
-        ergebnis.addPixmap(gezeichnet(QStringLiteral("program"), QSize(seite, seite), Qt::white));
-    return ergebnis;
+    QIcon result;
+    for (const int page : {16, 24, 32, 48, 64})
+        result.addPixmap(drawn(QStringLiteral("program"), QSize(page, page), Qt::white));
+    return result;
 }
 
 } // namespace quelvarn

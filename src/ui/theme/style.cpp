@@ -26,9 +26,9 @@ QStyleOptionViewItem ofOneLine(const QStyleOptionViewItem& entry)
 
 } // namespace
 
-Programmstil::Programmstil() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+ProgramStyle::ProgramStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-int Programmstil::pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const
+int ProgramStyle::pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const
 {
     switch (mass) {
     case PM_LayoutHorizontalSpacing:
@@ -56,22 +56,22 @@ int Programmstil::pixelMetric(PixelMetric mass, const QStyleOption* option, cons
     }
 }
 
-QSize Programmstil::sizeFromContents(ContentsType art, const QStyleOption* option, const QSize& inhalt,
+QSize ProgramStyle::sizeFromContents(ContentsType kind, const QStyleOption* option, const QSize& content,
                                      const QWidget* widget) const
 {
-    const auto* eintrag = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-    if (art != CT_ItemViewItem || eintrag == nullptr)
-        return QProxyStyle::sizeFromContents(art, option, inhalt, widget);
-    const QStyleOptionViewItem einzeilig = ofOneLine(*eintrag);
-    QSize groesse = QProxyStyle::sizeFromContents(art, &einzeilig, inhalt, widget);
-    groesse.setHeight(std::max(groesse.height(), option->fontMetrics.height() + 3));
-    return groesse;
+    const auto* entry = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (kind != CT_ItemViewItem || entry == nullptr)
+        return QProxyStyle::sizeFromContents(kind, option, content, widget);
+    const QStyleOptionViewItem oneLine = ofOneLine(*entry);
+    QSize size = QProxyStyle::sizeFromContents(kind, &oneLine, content, widget);
+    size.setHeight(std::max(size.height(), option->fontMetrics.height() + 3));
+    return size;
 }
 
-int Programmstil::styleHint(StyleHint frage, const QStyleOption* option, const QWidget* widget,
-                            QStyleHintReturn* antwort) const
+int ProgramStyle::styleHint(StyleHint ask, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* answer) const
 {
-    switch (frage) {
+    switch (ask) {
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
     case SH_ItemView_ActivateItemOnSingleClick:
@@ -79,185 +79,186 @@ int Programmstil::styleHint(StyleHint frage, const QStyleOption* option, const Q
     case SH_ToolTip_WakeUpDelay:
         return 500;
     default:
-        return QProxyStyle::styleHint(frage, option, widget, antwort);
+        return QProxyStyle::styleHint(ask, option, widget, answer);
     }
 }
 
 namespace {
 
 // The box of a check box or the ring of an option: an outline, filled with the accent when it is set.
-void zeichneRahmen(QPainter& painter, const QRectF& platz, const QStyleOption& option, bool rund)
+void drawFrame(QPainter& painter, const QRectF& place, const QStyleOption& option, bool round)
 {
-    const Farbsatz& farben = farbsatz();
-    const bool an = option.state.testFlag(QStyle::State_On);
-    const bool bereit = option.state.testFlag(QStyle::State_Enabled);
-    const bool hervor = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
-    const QColor strich = !bereit ? farben.linie : an || hervor ? farben.akzent : farben.rand;
+    const ColourSet& colours = colourSet();
+    const bool on = option.state.testFlag(QStyle::State_On);
+    const bool ready = option.state.testFlag(QStyle::State_Enabled);
+    const bool out = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
+    const QColor stroke = !ready ? colours.line : on || out ? colours.accent : colours.margin;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(strich, 1));
-    painter.setBrush(!an ? farben.flaeche : bereit ? farben.akzent : farben.linie);
-    const qreal bogen = rund ? platz.height() / 2 : 3;
-    painter.drawRoundedRect(platz, bogen, bogen);
+    painter.setPen(QPen(stroke, 1));
+    painter.setBrush(!on ? colours.area : ready ? colours.accent : colours.line);
+    const qreal arc = round ? place.height() / 2 : 3;
+    painter.drawRoundedRect(place, arc, arc);
 }
 
-void zeichneMarke(QPainter& painter, const QRectF& platz, const QStyleOption& option, bool rund)
+void drawMark(QPainter& painter, const QRectF& place, const QStyleOption& option, bool round)
 {
     if (!option.state.testFlag(QStyle::State_On))
         return;
-    const QColor farbe = option.state.testFlag(QStyle::State_Enabled) ? farbsatz().flaeche : farbsatz().inaktiv;
-    if (rund) {
+    const QColor colour = option.state.testFlag(QStyle::State_Enabled) ? colourSet().area : colourSet().inactive;
+    if (round) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(farbe);
-        painter.drawEllipse(platz.center(), platz.width() / 5, platz.width() / 5);
+        painter.setBrush(colour);
+        painter.drawEllipse(place.center(), place.width() / 5, place.width() / 5);
         return;
     }
-    const qreal einheit = platz.width() / 12;
-    const auto punkt = [&](qreal x, qreal y) { return platz.topLeft() + QPointF(x, y) * einheit; };
+    const qreal unit = place.width() / 12;
+    const auto point = [&](qreal x, qreal y) { return place.topLeft() + QPointF(x, y) * unit; };
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(farbe, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF({punkt(2.8, 6.2), punkt(5.1, 8.5), punkt(9.4, 3.8)}));
+    painter.setPen(QPen(colour, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({point(2.8, 6.2), point(5.1, 8.5), point(9.4, 3.8)}));
 }
 
 } // namespace
 
 namespace {
 
-void zeichneMarkierbares(QPainter& painter, const QStyleOption& option, bool rund)
+void drawMarkable(QPainter& painter, const QStyleOption& option, bool round)
 {
-    const int seite = std::min(option.rect.width(), option.rect.height()) - 1;
-    QRectF platz(0, 0, seite, seite);
-    platz.moveCenter(QRectF(option.rect).center());
-    zeichneRahmen(painter, platz, option, rund);
-    zeichneMarke(painter, platz, option, rund);
+    const int page = std::min(option.rect.width(), option.rect.height()) - 1;
+    QRectF place(0, 0, page, page);
+    place.moveCenter(QRectF(option.rect).center());
+    drawFrame(painter, place, option, round);
+    drawMark(painter, place, option, round);
 }
 
-void zeichneKnopf(QPainter& painter, const QStyleOption& option)
+void drawButton(QPainter& painter, const QStyleOption& option)
 {
-    const Farbsatz& farben = farbsatz();
-    const auto ist = [&option](QStyle::StateFlag zustand) { return option.state.testFlag(zustand); };
-    const auto* knopf = qstyleoption_cast<const QStyleOptionButton*>(&option);
-    const bool vorgabe = knopf != nullptr && knopf->features.testFlag(QStyleOptionButton::DefaultButton);
-    const bool gedrueckt = ist(QStyle::State_Sunken) || ist(QStyle::State_On);
-    const bool hervor = gedrueckt || vorgabe || ist(QStyle::State_HasFocus);
+    const ColourSet& colours = colourSet();
+    const auto is = [&option](QStyle::StateFlag state) { return option.state.testFlag(state); };
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool defaultValue = button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool pressed = is(QStyle::State_Sunken) || is(QStyle::State_On);
+    const bool out = pressed || defaultValue || is(QStyle::State_HasFocus);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(!ist(QStyle::State_Enabled) ? farben.linie : hervor ? farben.akzent : farben.rand);
-    painter.setBrush(gedrueckt                                                    ? farben.akzentFlaeche
-                     : ist(QStyle::State_MouseOver) && ist(QStyle::State_Enabled) ? farben.ueberfahren
-                                                                                  : farben.streifen);
+    painter.setPen(!is(QStyle::State_Enabled) ? colours.line : out ? colours.accent : colours.margin);
+    painter.setBrush(pressed                                                    ? colours.accentArea
+                     : is(QStyle::State_MouseOver) && is(QStyle::State_Enabled) ? colours.hovered
+                                                                                : colours.strip);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }
 
 // Fields to type in: an outline that shows the focus.
-void zeichneFeld(QPainter& painter, const QRect& rand, bool bereit, bool fokus, const QColor& grund)
+void drawField(QPainter& painter, const QRect& margin, bool ready, bool focus, const QColor& reason)
 {
-    const Farbsatz& farben = farbsatz();
+    const ColourSet& colours = colourSet();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(!bereit ? farben.linie : fokus ? farben.akzent : farben.rand);
-    painter.setBrush(grund);
-    painter.drawRoundedRect(QRectF(rand).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    painter.setPen(!ready ? colours.line : focus ? colours.accent : colours.margin);
+    painter.setBrush(reason);
+    painter.drawRoundedRect(QRectF(margin).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
 }
 
-void zeichneAuswahlfeld(QPainter& painter, const QStyleOptionComboBox& option, const QRect& pfeil)
+void drawChoiceField(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow)
 {
-    const Farbsatz& farben = farbsatz();
-    const bool bereit = option.state.testFlag(QStyle::State_Enabled);
-    const bool hervor = option.state & (QStyle::State_HasFocus | QStyle::State_On);
-    zeichneFeld(painter, option.rect, bereit, bereit && hervor, option.editable ? farben.flaeche : farben.streifen);
-    const QPointF mitte = QRectF(pfeil).center();
-    painter.setPen(QPen(bereit ? farben.gedaempft : farben.inaktiv, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const ColourSet& colours = colourSet();
+    const bool ready = option.state.testFlag(QStyle::State_Enabled);
+    const bool out = option.state & (QStyle::State_HasFocus | QStyle::State_On);
+    drawField(painter, option.rect, ready, ready && out, option.editable ? colours.area : colours.strip);
+    const QPointF middle = QRectF(arrow).center();
+    painter.setPen(QPen(ready ? colours.muted : colours.inactive, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPolyline(QPolygonF({mitte + QPointF(-3.5, -1.5), mitte + QPointF(0, 2), mitte + QPointF(3.5, -1.5)}));
+    painter.drawPolyline(
+        QPolygonF({middle + QPointF(-3.5, -1.5), middle + QPointF(0, 2), middle + QPointF(3.5, -1.5)}));
 }
 
 } // namespace
 
-void zeichneFokusmarke(QPainter& painter, const QRect& eintrag)
+void drawFocusMark(QPainter& painter, const QRect& entry)
 {
-    painter.fillRect(QRect(0, eintrag.top(), 3, eintrag.height()), farbsatz().akzent);
+    painter.fillRect(QRect(0, entry.top(), 3, entry.height()), colourSet().accent);
 }
 
 // A value with signs of a markup language is shown as it is, on every label and in every tool tip, which is a label
 // of the toolkit.
-void Programmstil::polish(QWidget* widget)
+void ProgramStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && label->textFormat() == Qt::AutoText)
         label->setTextFormat(Qt::PlainText);
 }
 
-void Programmstil::drawControl(ControlElement teil, const QStyleOption* option, QPainter* painter,
+void ProgramStyle::drawControl(ControlElement part, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
     if (const auto* entry = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-        teil == CE_ItemViewItem && entry != nullptr) {
+        part == CE_ItemViewItem && entry != nullptr) {
         const QStyleOptionViewItem changed = ofOneLine(*entry);
-        return QProxyStyle::drawControl(teil, &changed, painter, widget);
+        return QProxyStyle::drawControl(part, &changed, painter, widget);
     }
-    QProxyStyle::drawControl(teil, option, painter, widget);
+    QProxyStyle::drawControl(part, option, painter, widget);
 }
 
-void Programmstil::drawPrimitive(PrimitiveElement teil, const QStyleOption* option, QPainter* painter,
+void ProgramStyle::drawPrimitive(PrimitiveElement part, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const
 {
     painter->save();
-    switch (teil) {
+    switch (part) {
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
-        zeichneMarkierbares(*painter, *option, teil == PE_IndicatorRadioButton);
+        drawMarkable(*painter, *option, part == PE_IndicatorRadioButton);
         break;
     case PE_PanelButtonCommand:
-        zeichneKnopf(*painter, *option);
+        drawButton(*painter, *option);
         break;
     case PE_FrameLineEdit:
-        zeichneFeld(*painter, option->rect, option->state.testFlag(State_Enabled),
-                    option->state.testFlag(State_HasFocus), farbsatz().flaeche);
+        drawField(*painter, option->rect, option->state.testFlag(State_Enabled), option->state.testFlag(State_HasFocus),
+                  colourSet().area);
         break;
     case PE_FrameFocusRect:
         if (qobject_cast<const QAbstractItemView*>(widget) != nullptr)
-            zeichneFokusmarke(*painter, option->rect);
+            drawFocusMark(*painter, option->rect);
         break; // Other controls show the focus in their outline.
     default:
-        QProxyStyle::drawPrimitive(teil, option, painter, widget);
+        QProxyStyle::drawPrimitive(part, option, painter, widget);
     }
     painter->restore();
 }
 
-void Programmstil::drawComplexControl(ComplexControl art, const QStyleOptionComplex* option, QPainter* painter,
+void ProgramStyle::drawComplexControl(ComplexControl kind, const QStyleOptionComplex* option, QPainter* painter,
                                       const QWidget* widget) const
 {
-    const auto* auswahl = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (art != CC_ComboBox || auswahl == nullptr)
-        return QProxyStyle::drawComplexControl(art, option, painter, widget);
+    const auto* selection = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (kind != CC_ComboBox || selection == nullptr)
+        return QProxyStyle::drawComplexControl(kind, option, painter, widget);
     painter->save();
-    zeichneAuswahlfeld(*painter, *auswahl, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+    drawChoiceField(*painter, *selection, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
     painter->restore();
 }
 
-QRect Programmstil::subElementRect(SubElement teil, const QStyleOption* option, const QWidget* widget) const
+QRect ProgramStyle::subElementRect(SubElement part, const QStyleOption* option, const QWidget* widget) const
 {
-    const QRect platz = QProxyStyle::subElementRect(teil, option, widget);
-    return teil == SE_LineEditContents ? platz.adjusted(2, 0, -2, 0) : platz;
+    const QRect place = QProxyStyle::subElementRect(part, option, widget);
+    return part == SE_LineEditContents ? place.adjusted(2, 0, -2, 0) : place;
 }
 
-QIcon Programmstil::standardIcon(StandardPixmap bild, const QStyleOption* option, const QWidget* widget) const
+QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
 {
-    switch (bild) {
+    switch (picture) {
     case SP_MessageBoxInformation:
-        return symbol("information");
+        return icon("information");
     case SP_MessageBoxWarning:
-        return symbol("warning");
+        return icon("warning");
     case SP_MessageBoxCritical:
-        return symbol("critical");
+        return icon("critical");
     case SP_MessageBoxQuestion:
-        return symbol("question");
+        return icon("question");
     default:
-        return QProxyStyle::standardIcon(bild, option, widget);
+        return QProxyStyle::standardIcon(picture, option, widget);
     }
 }
 
-QStyle* neuerProgrammstil()
+QStyle* newProgramStyle()
 {
-    return new Programmstil;
+    return new ProgramStyle;
 }
 
 } // namespace quelvarn

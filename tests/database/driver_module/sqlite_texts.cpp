@@ -3,8 +3,8 @@
 struct sqlite3_api_routines;
 
 // What SQLite calls in a module that it loads: the order of our texts for its ODBC driver.
-extern "C" int sqlite3_extension_init(sqlite3* datenbank, char**, const sqlite3_api_routines*)
+extern "C" int sqlite3_extension_init(sqlite3* database, char**, const sqlite3_api_routines*)
 {
-    quelvarn::sqlite::registriereFunktionen(datenbank);
+    quelvarn::sqlite::registerFunctions(database);
     return 0;
 }

@@ -28,18 +28,18 @@ public:
     // Null where none is installed.
     static std::unique_ptr<PostgresServer> find()
     {
-        std::filesystem::path programme = findProgramme();
-        if (programme.empty())
+        std::filesystem::path programs = findPrograms();
+        if (programs.empty())
             return nullptr;
-        return std::unique_ptr<PostgresServer>(new PostgresServer(std::move(programme)));
+        return std::unique_ptr<PostgresServer>(new PostgresServer(std::move(programs)));
     }
 
     ~PostgresServer()
     {
         resume();
         stop();
-        std::error_code fehler;
-        std::filesystem::remove_all(ordner_, fehler);
+        std::error_code fault;
+        std::filesystem::remove_all(folder_, fault);
     }
     PostgresServer(const PostgresServer&) = delete;
     PostgresServer& operator=(const PostgresServer&) = delete;
@@ -54,35 +54,35 @@ public:
         if (server_ != 0)
             return;
         std::error_code none;
-        std::filesystem::remove(ordner_ / "daten/postmaster.pid", none); // Left by a crash, it would say "ready".
-        server_ = starte({"postgres", "-D", (ordner_ / "daten").string(), "-k", ordner_.string(), "-c",
-                          "listen_addresses=", "-c", "fsync=off", "-c", "full_page_writes=off", "-c",
-                          "log_min_messages=fatal"});
-        warteAufBereitschaft();
+        std::filesystem::remove(folder_ / "daten/postmaster.pid", none); // Left by a crash, it would say "ready".
+        server_ = start({"postgres", "-D", (folder_ / "daten").string(), "-k", folder_.string(), "-c",
+                         "listen_addresses=", "-c", "fsync=off", "-c", "full_page_writes=off", "-c",
+                         "log_min_messages=fatal"});
+        waitUntilReady();
     }
     // It hangs: sockets stay open, nothing answers.
     void pause() { signalAll(SIGSTOP); }
     void resume() { signalAll(SIGCONT); }
 
     // The part of an address behind "?".
-    std::string zugang() const { return "host=" + ordner_.string() + "&port=5432&user=quelvarn"; }
+    std::string access() const { return "host=" + folder_.string() + "&port=5432&user=quelvarn"; }
 
 private:
-    static constexpr std::string_view vorsilbe = "qv-postgres-";
+    static constexpr std::string_view prefix = "qv-postgres-";
 
-    explicit PostgresServer(std::filesystem::path programme) : programme_(std::move(programme))
+    explicit PostgresServer(std::filesystem::path programs) : programs_(std::move(programs))
     {
-        raeumeAuf();
-        std::string vorlage =
-            (std::filesystem::temp_directory_path() / vorsilbe).string() + std::to_string(getpid()) + "-XXXXXX";
-        ordner_ = mkdtemp(vorlage.data());
-        if (const passwd* nutzer = serverNutzer())
-            if (chown(ordner_.c_str(), nutzer->pw_uid, nutzer->pw_gid) != 0)
-                throw std::runtime_error("chown " + ordner_.string());
-        const std::string daten = (ordner_ / "daten").string();
-        const int ergebnis = warteAuf(starte({"initdb", "-D", daten, "-U", "quelvarn", "--auth=trust", "-E", "UTF8",
-                                              "--locale=C.UTF-8", "--no-sync", "--no-instructions"}));
-        if (ergebnis != 0)
+        cleanUp();
+        std::string drawingTemplate =
+            (std::filesystem::temp_directory_path() / prefix).string() + std::to_string(getpid()) + "-XXXXXX";
+        folder_ = mkdtemp(drawingTemplate.data());
+        if (const passwd* users = serverUsers())
+            if (chown(folder_.c_str(), users->pw_uid, users->pw_gid) != 0)
+                throw std::runtime_error("chown " + folder_.string());
+        const std::string data = (folder_ / "daten").string();
+        const int result = waitFor(start({"initdb", "-D", data, "-U", "quelvarn", "--auth=trust", "-E", "UTF8",
+                                          "--locale=C.UTF-8", "--no-sync", "--no-instructions"}));
+        if (result != 0)
             throw std::runtime_error("initdb");
         start();
     }
@@ -108,61 +108,61 @@ private:
             ::kill(child, signal);
     }
 
-    static std::filesystem::path findProgramme()
+    static std::filesystem::path findPrograms()
     {
-        std::filesystem::path neueste;
-        std::error_code fehler;
-        for (const auto& eintrag : std::filesystem::directory_iterator("/usr/lib/postgresql", fehler))
-            if (exists(eintrag.path() / "bin/initdb") && eintrag.path() / "bin" > neueste)
-                neueste = eintrag.path() / "bin";
-        return neueste;
+        std::filesystem::path newest;
+        std::error_code fault;
+        for (const auto& entry : std::filesystem::directory_iterator("/usr/lib/postgresql", fault))
+            if (exists(entry.path() / "bin/initdb") && entry.path() / "bin" > newest)
+                newest = entry.path() / "bin";
+        return newest;
     }
 
     // The server refuses to run as root.
-    static const passwd* serverNutzer()
+    static const passwd* serverUsers()
     {
         if (geteuid() != 0)
             return nullptr;
-        const passwd* nutzer = getpwnam("postgres");
-        return nutzer ? nutzer : getpwnam("nobody");
+        const passwd* users = getpwnam("postgres");
+        return users ? users : getpwnam("nobody");
     }
 
-    pid_t starte(const std::vector<std::string>& befehl) const
+    pid_t start(const std::vector<std::string>& command) const
     {
         // The server's programs look for one another beside the path that they are called by.
-        const std::string programm = (programme_ / befehl.front()).string();
-        std::vector<char*> argumente{const_cast<char*>(programm.c_str())};
-        for (std::size_t i = 1; i < befehl.size(); ++i)
-            argumente.push_back(const_cast<char*>(befehl[i].c_str()));
-        argumente.push_back(nullptr);
-        const passwd* nutzer = serverNutzer();
+        const std::string program = (programs_ / command.front()).string();
+        std::vector<char*> arguments{const_cast<char*>(program.c_str())};
+        for (std::size_t i = 1; i < command.size(); ++i)
+            arguments.push_back(const_cast<char*>(command[i].c_str()));
+        arguments.push_back(nullptr);
+        const passwd* users = serverUsers();
         const pid_t kind = fork();
         if (kind != 0)
             return kind;
-        if (nutzer && (setgroups(0, nullptr) != 0 || setgid(nutzer->pw_gid) != 0 || setuid(nutzer->pw_uid) != 0))
+        if (users && (setgroups(0, nullptr) != 0 || setgid(users->pw_gid) != 0 || setuid(users->pw_uid) != 0))
             _exit(126);
         prctl(PR_SET_PDEATHSIG, SIGINT); // The server must not outlive a crashed test.
         constexpr mode_t mode = 0600;
-        const int log = chdir(ordner_.c_str()) == 0 ? open("protokoll.txt", O_WRONLY | O_CREAT | O_APPEND, mode) : -1;
+        const int log = chdir(folder_.c_str()) == 0 ? open("protokoll.txt", O_WRONLY | O_CREAT | O_APPEND, mode) : -1;
         if (log < 0 || dup2(log, 1) < 0 || dup2(log, 2) < 0)
             _exit(126);
-        execv(programm.c_str(), argumente.data());
+        execv(program.c_str(), arguments.data());
         _exit(127);
     }
 
-    static int warteAuf(pid_t kind)
+    static int waitFor(pid_t kind)
     {
-        int ergebnis = 0;
-        waitpid(kind, &ergebnis, 0);
-        return ergebnis;
+        int result = 0;
+        waitpid(kind, &result, 0);
+        return result;
     }
 
-    void warteAufBereitschaft() const
+    void waitUntilReady() const
     {
-        for (int versuch = 0; versuch < 600; ++versuch) {
-            std::ifstream datei(ordner_ / "daten/postmaster.pid");
-            for (std::string zeile; std::getline(datei, zeile);)
-                if (zeile.starts_with("ready"))
+        for (int attempt = 0; attempt < 600; ++attempt) {
+            std::ifstream file(folder_ / "daten/postmaster.pid");
+            for (std::string row; std::getline(file, row);)
+                if (row.starts_with("ready"))
                     return;
             std::this_thread::sleep_for(std::chrono::milliseconds(50));
         }
@@ -170,22 +170,21 @@ private:
     }
 
     // Folders of test programs that were killed.
-    static void raeumeAuf()
+    static void cleanUp()
     {
-        std::error_code fehler;
-        for (const auto& eintrag :
-             std::filesystem::directory_iterator(std::filesystem::temp_directory_path(), fehler)) {
-            const std::string name = eintrag.path().filename().string();
-            if (!name.starts_with(vorsilbe))
+        std::error_code fault;
+        for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::temp_directory_path(), fault)) {
+            const std::string name = entry.path().filename().string();
+            if (!name.starts_with(prefix))
                 continue;
-            const pid_t besitzer = std::atoi(name.c_str() + vorsilbe.size());
-            if (besitzer > 0 && ::kill(besitzer, 0) != 0 && errno == ESRCH)
-                std::filesystem::remove_all(eintrag.path(), fehler);
+            const pid_t owner = std::atoi(name.c_str() + prefix.size());
+            if (owner > 0 && ::kill(owner, 0) != 0 && errno == ESRCH)
+                std::filesystem::remove_all(entry.path(), fault);
         }
     }
 
-    std::filesystem::path programme_;
-    std::filesystem::path ordner_;
+    std::filesystem::path programs_;
+    std::filesystem::path folder_;
     pid_t server_ = 0;
 };
 

@@ -32,11 +32,11 @@ protected:
 
     static void make(const fs::path& file, const char* word)
     {
-        const auto engine = oeffneSqlite(file, true);
-        engine->legeTabelleAn({"Tafel", {{"Wort"}, {"Bild"}}, {}});
-        const sql::Zuweisung values[] = {{"Wort", word}, {"Bild", "b"}};
+        const auto engine = openSqlite(file, true);
+        engine->createTable({"Tafel", {{"Wort"}, {"Bild"}}, {}});
+        const sql::Assignment values[] = {{"Wort", word}, {"Bild", "b"}};
         for (int i = 0; i < 20; ++i)
-            engine->fuegeEin("Tafel", values);
+            engine->insert("Tafel", values);
     }
     // Every handle on the file reads nothing any more, as those of a share that is gone.
     void breakHandles()
@@ -69,7 +69,7 @@ protected:
         try {
             call();
         } catch (const DatabaseFault& fault) {
-            return {fault.kind(), fault.beschreibung()};
+            return {fault.kind(), fault.description()};
         }
         ADD_FAILURE() << "no fault";
         return {FaultKind::Other, ""};
@@ -85,7 +85,7 @@ protected:
 TEST_F(SqliteFile, AShareThatGoesAndComesBackIsOpenedAgainByTheNextStatement)
 {
     Recordset open;
-    open.setzeGanzGrenze(1); // Columns are read later.
+    open.setWholeLimit(1); // Columns are read later.
     open.Open("Select * From Tafel Order By Wort", connection_);
     fs::rename(share_, folder_ / "weg");
     breakHandles();
@@ -93,16 +93,16 @@ TEST_F(SqliteFile, AShareThatGoesAndComesBackIsOpenedAgainByTheNextStatement)
     const std::string away = "Die Verbindung zur Datenbank ist unterbrochen.\n" + path();
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(faultOf([&] { word(); }), std::pair(FaultKind::ConnectionLost, away));
-        EXPECT_EQ(faultOf([&] { open.Zelle(3, "Bild"); }), std::pair(FaultKind::ConnectionLost, away));
+        EXPECT_EQ(faultOf([&] { open.cell(3, "Bild"); }), std::pair(FaultKind::ConnectionLost, away));
         EXPECT_EQ(faultOf([&] { setWord(); }), std::pair(FaultKind::ConnectionLost, away));
-        EXPECT_EQ(faultOf([&] { const Transaktion t(connection_); }), std::pair(FaultKind::ConnectionLost, away));
+        EXPECT_EQ(faultOf([&] { const Transaction t(connection_); }), std::pair(FaultKind::ConnectionLost, away));
     }
     fs::rename(folder_ / "weg", share_);
     EXPECT_EQ(connection_.fileState(), FileState::Same);
-    EXPECT_EQ(open.Zelle(3, "Bild"), Value("b")) << "its rows are known by their keys";
+    EXPECT_EQ(open.cell(3, "Bild"), Value("b")) << "its rows are known by their keys";
     setWord();
     EXPECT_EQ(word(), "neu");
-    EXPECT_TRUE(open.ladeSpalte("Bild"));
+    EXPECT_TRUE(open.loadColumn("Bild"));
 }
 
 TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)
@@ -112,9 +112,9 @@ TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)
     EXPECT_EQ(word(), "alt");
     breakHandles();
     {
-        Transaktion together(connection_);
+        Transaction together(connection_);
         setWord();
-        together.schliesseAb();
+        together.commit();
     }
     EXPECT_EQ(word(), "neu") << "nothing was written when the transaction began";
     connection_.Execute("Update Tafel Set Wort = 'alt'");
@@ -124,10 +124,10 @@ TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)
     setWord();
     EXPECT_EQ(word(), "neu");
     {
-        Transaktion together(connection_);
+        Transaction together(connection_);
         connection_.Execute("Update Tafel Set Wort = 'halb'");
         breakHandles();
-        faultOf([&] { together.schliesseAb(); });
+        faultOf([&] { together.commit(); });
     }
     EXPECT_EQ(word(), "neu") << "all or nothing";
 }
@@ -136,7 +136,7 @@ TEST_F(SqliteFile, ADeletedOrReplacedFileTakesNoChanges)
 {
     const auto deleted = [&](FaultKind kind, const std::string& sentence) {
         EXPECT_EQ(faultOf([&] { setWord(); }), std::pair(kind, sentence + "\n" + path()));
-        EXPECT_EQ(faultOf([&] { const Transaktion t(connection_); }).first, kind);
+        EXPECT_EQ(faultOf([&] { const Transaction t(connection_); }).first, kind);
         EXPECT_EQ(word(), "alt") << "what was read can still be shown";
     };
     fs::rename(file_, folder_ / "aside");
@@ -171,9 +171,9 @@ TEST_F(SqliteFile, WhatTheEngineSaysIsToldInGerman)
     try {
         word();
         ADD_FAILURE();
-    } catch (const Laufzeitfehler& fault) {
-        EXPECT_EQ(fault.nummer(), FEHLER_ANWEISUNG);
-        EXPECT_THAT(fault.beschreibung(), HasSubstr("no such table"));
+    } catch (const RuntimeError& fault) {
+        EXPECT_EQ(fault.number(), FAULT_STATEMENT);
+        EXPECT_THAT(fault.description(), HasSubstr("no such table"));
     }
     sqlite3_close(other);
     connection_.Close();

@@ -22,14 +22,14 @@ void writeText(const fs::path& path, const std::string& text)
     std::ofstream(path) << text;
 }
 
-struct AufDerPlatte : DateienWelt
+struct OnDisk : FileWorld
 {
-    AufDerPlatte() { fs::create_directory(folder / "w"); }
-    Dateien& dateien() override { return eigene; }
+    OnDisk() { fs::create_directory(folder / "w"); }
+    Files& files() override { return own; }
 
     TempFolder folder;
-    Laufwerksordner laufwerke{folder.path()};
-    LinuxDateien eigene{laufwerke};
+    DriveFolder drives{folder.path()};
+    LinuxFiles own{drives};
 };
 
 // Files may grow to so many bytes only, as on a full disk.
@@ -60,9 +60,9 @@ std::size_t countEntries(const fs::path& folder)
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(AufDerPlatte, DateienRegeln, testing::Values([] { return std::make_unique<AufDerPlatte>(); }));
+INSTANTIATE_TEST_SUITE_P(OnDisk, FileRules, testing::Values([] { return std::make_unique<OnDisk>(); }));
 
-TEST(Laufwerksordner, ListsDrivesWithTheirShares)
+TEST(DriveFolder, ListsDrivesWithTheirShares)
 {
     TempFolder folder;
     fs::create_directory(folder / "W");
@@ -70,15 +70,15 @@ TEST(Laufwerksordner, ListsDrivesWithTheirShares)
     writeText(folder / "w.freigabe", "\\\\server\\konstruktion  \r\n");
     writeText(folder / "notiz.txt", "");
     std::string entries;
-    for (const Laufwerk& laufwerk : Laufwerksordner(folder.path()).laufwerke())
-        entries += laufwerk.buchstabe + laufwerk.eintrag() + "|";
+    for (const Drive& drive : DriveFolder(folder.path()).drives())
+        entries += drive.letter + drive.entry() + "|";
     EXPECT_EQ(entries, "C:c:|P:p:|W:w: [\\\\server\\konstruktion]|");
 }
 
-TEST(Laufwerksordner, FindsTheRealPath)
+TEST(DriveFolder, FindsTheRealPath)
 {
     TempFolder folder;
-    const Laufwerksordner laufwerke(folder.path());
+    const DriveFolder drives(folder.path());
     writeText(folder / "w/Konstruktion/Welle Ä.par", "");
     writeText(folder / "w/doppelt/a.par", "");
     writeText(folder / "w/doppelt/A.PAR", "");
@@ -86,8 +86,8 @@ TEST(Laufwerksordner, FindsTheRealPath)
     writeText(folder / "freigaben/archiv/Alt/x.dft", "");
     struct
     {
-        const char* pfad;
-        const char* systempfad; // beneath the folder; "" none
+        const char* documentPath;
+        const char* systemPath; // beneath the folder; "" none
     } const cases[] = {
         {"W:\\Konstruktion\\Welle Ä.par", "w/Konstruktion/Welle Ä.par"},
         {"w:\\KONSTRUKTION\\welle ä.PAR", "w/Konstruktion/Welle Ä.par"},
@@ -110,72 +110,72 @@ TEST(Laufwerksordner, FindsTheRealPath)
         {"", ""},
     };
     for (const auto& c : cases) {
-        const fs::path expected = *c.systempfad ? folder / c.systempfad : fs::path();
-        EXPECT_EQ(laufwerke.systempfad(c.pfad), expected) << c.pfad;
+        const fs::path expected = *c.systemPath ? folder / c.systemPath : fs::path();
+        EXPECT_EQ(drives.systemPath(c.documentPath), expected) << c.documentPath;
     }
-    EXPECT_EQ(laufwerke.systempfad(std::string_view("W:\\a\0b", 6)), fs::path());
+    EXPECT_EQ(drives.systemPath(std::string_view("W:\\a\0b", 6)), fs::path());
 }
 
-TEST(LinuxDateien, AFailedWriteLeavesTheOldFileAndNothingElse)
+TEST(LinuxFiles, AFailedWriteLeavesTheOldFileAndNothingElse)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\liste.txt", "alt");
+    OnDisk world;
+    world.own.write("W:\\liste.txt", "alt");
     {
         const SizeLimit limit(100);
-        EXPECT_THROW(welt.eigene.schreibe("W:\\liste.txt", std::string(1000, 'x')), Laufzeitfehler);
-        EXPECT_THROW(welt.eigene.schreibe("W:\\neu.txt", std::string(1000, 'x')), Laufzeitfehler);
+        EXPECT_THROW(world.own.write("W:\\liste.txt", std::string(1000, 'x')), RuntimeError);
+        EXPECT_THROW(world.own.write("W:\\neu.txt", std::string(1000, 'x')), RuntimeError);
     }
-    EXPECT_EQ(welt.eigene.lese("W:\\liste.txt"), "alt");
-    EXPECT_EQ(countEntries(welt.folder / "w"), 1U);
+    EXPECT_EQ(world.own.read("W:\\liste.txt"), "alt");
+    EXPECT_EQ(countEntries(world.folder / "w"), 1U);
 }
 
-TEST(LinuxDateien, WritingKeepsRightsAndLinks)
+TEST(LinuxFiles, WritingKeepsRightsAndLinks)
 {
-    AufDerPlatte welt;
-    writeText(welt.folder / "echt.txt", "alt");
-    fs::permissions(welt.folder / "echt.txt", fs::perms(0640));
-    fs::create_symlink("../echt.txt", welt.folder / "w/link.txt");
-    welt.eigene.schreibe("W:\\LINK.txt", "neu");
-    EXPECT_TRUE(fs::is_symlink(welt.folder / "w/link.txt"));
-    EXPECT_EQ(fs::status(welt.folder / "echt.txt").permissions(), fs::perms(0640));
-    EXPECT_EQ(fs::file_size(welt.folder / "echt.txt"), 3U);
+    OnDisk world;
+    writeText(world.folder / "echt.txt", "alt");
+    fs::permissions(world.folder / "echt.txt", fs::perms(0640));
+    fs::create_symlink("../echt.txt", world.folder / "w/link.txt");
+    world.own.write("W:\\LINK.txt", "neu");
+    EXPECT_TRUE(fs::is_symlink(world.folder / "w/link.txt"));
+    EXPECT_EQ(fs::status(world.folder / "echt.txt").permissions(), fs::perms(0640));
+    EXPECT_EQ(fs::file_size(world.folder / "echt.txt"), 3U);
 }
 
-TEST(LinuxDateien, TellsAttributesInLocalTime)
+TEST(LinuxFiles, TellsAttributesInLocalTime)
 {
     setenv("TZ", "Europe/Berlin", 1);
     tzset();
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\.versteckt.par", "12345");
+    OnDisk world;
+    world.own.write("W:\\.versteckt.par", "12345");
     const auto changed =
         fs::file_time_type::clock::from_sys(std::chrono::sys_seconds(std::chrono::seconds(1088676000)));
-    fs::last_write_time(welt.folder / "w/.versteckt.par", changed);
-    welt.eigene.kopiere("W:\\.versteckt.par", "W:\\kopie.par");
+    fs::last_write_time(world.folder / "w/.versteckt.par", changed);
+    world.own.copy("W:\\.versteckt.par", "W:\\kopie.par");
 
-    const auto original = welt.eigene.attribute("W:\\.versteckt.par");
-    const auto copy = welt.eigene.attribute("W:\\kopie.par");
+    const auto original = world.own.attribute("W:\\.versteckt.par");
+    const auto copy = world.own.attribute("W:\\kopie.par");
     unsetenv("TZ");
     tzset();
     ASSERT_TRUE(original && copy);
-    EXPECT_EQ(formatIso(original->geaendert), "2004-07-01 12:00:00");
-    EXPECT_EQ(copy->geaendert, original->geaendert);
-    EXPECT_EQ(original->groesse, 5);
-    EXPECT_TRUE(original->versteckt);
-    EXPECT_FALSE(copy->versteckt);
+    EXPECT_EQ(formatIso(original->changed), "2004-07-01 12:00:00");
+    EXPECT_EQ(copy->changed, original->changed);
+    EXPECT_EQ(original->size, 5);
+    EXPECT_TRUE(original->hidden);
+    EXPECT_FALSE(copy->hidden);
 }
 
-TEST(LinuxDateien, KeepsTheArchiveAttributeOfWriteProtectedFilesToo)
+TEST(LinuxFiles, KeepsTheArchiveAttributeOfWriteProtectedFilesToo)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\x.par", "");
-    if (setxattr((welt.folder / "w").c_str(), "user.quelvarn.probe", "1", 1, 0) != 0)
+    OnDisk world;
+    world.own.write("W:\\x.par", "");
+    if (setxattr((world.folder / "w").c_str(), "user.quelvarn.probe", "1", 1, 0) != 0)
         GTEST_SKIP() << "this file system has no extended attributes";
-    welt.eigene.setzeSchreibschutz("W:\\x.par", true);
-    EXPECT_FALSE(welt.eigene.attribute("W:\\x.par")->archiv);
-    welt.eigene.setzeArchiv("W:\\x.par", true);
-    EXPECT_TRUE(welt.eigene.attribute("W:\\x.par")->archiv);
-    EXPECT_TRUE(welt.eigene.attribute("W:\\x.par")->schreibgeschuetzt);
-    welt.eigene.setzeArchiv("W:\\x.par", false);
-    welt.eigene.setzeArchiv("W:\\x.par", false);
-    EXPECT_FALSE(welt.eigene.attribute("W:\\x.par")->archiv);
+    world.own.setReadOnly("W:\\x.par", true);
+    EXPECT_FALSE(world.own.attribute("W:\\x.par")->archive);
+    world.own.setArchive("W:\\x.par", true);
+    EXPECT_TRUE(world.own.attribute("W:\\x.par")->archive);
+    EXPECT_TRUE(world.own.attribute("W:\\x.par")->readOnly);
+    world.own.setArchive("W:\\x.par", false);
+    world.own.setArchive("W:\\x.par", false);
+    EXPECT_FALSE(world.own.attribute("W:\\x.par")->archive);
 }

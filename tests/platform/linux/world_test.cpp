@@ -37,40 +37,40 @@ std::string firstLine(const fs::path& path)
 
 } // namespace
 
-TEST(LaufendeProgramme, KnowEachOtherAsLongAsTheyLive)
+TEST(RunningPrograms, KnowEachOtherAsLongAsTheyLive)
 {
     TempFolder folder;
     const fs::path captions = folder / "run/quelvarn";
-    LinuxLaufendeProgramme own({captions});
-    EXPECT_THAT(own.fenstertitel(), UnorderedElementsAre());
-    own.eigenerTitel("noch keiner");
-    own.eigenerTitel("W:\\x.mdb    Quelvarn Version 2.0");
+    LinuxRunningPrograms own({captions});
+    EXPECT_THAT(own.windowTitle(), UnorderedElementsAre());
+    own.ownTitle("noch keiner");
+    own.ownTitle("W:\\x.mdb    Quelvarn Version 2.0");
 
     const pid_t child = fork();
     if (child == 0) {
-        LinuxLaufendeProgramme other({captions});
-        other.eigenerTitel("Harvel Version 2.1");
+        LinuxRunningPrograms other({captions});
+        other.ownTitle("Harvel Version 2.1");
         pause();
         _exit(0);
     }
-    EXPECT_TRUE(comesTrue([&] { return own.fenstertitel().size() == 2; }));
-    EXPECT_THAT(own.fenstertitel(), UnorderedElementsAre("W:\\x.mdb    Quelvarn Version 2.0", "Harvel Version 2.1"));
+    EXPECT_TRUE(comesTrue([&] { return own.windowTitle().size() == 2; }));
+    EXPECT_THAT(own.windowTitle(), UnorderedElementsAre("W:\\x.mdb    Quelvarn Version 2.0", "Harvel Version 2.1"));
     kill(child, SIGKILL);
     // Dead, though its number is still taken until it has been waited for.
-    EXPECT_TRUE(comesTrue([&] { return own.fenstertitel().size() == 1; }));
+    EXPECT_TRUE(comesTrue([&] { return own.windowTitle().size() == 1; }));
     EXPECT_FALSE(fs::exists(captions / std::to_string(child)));
     waitpid(child, nullptr, 0);
 }
 
-TEST(LaufendeProgramme, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
+TEST(RunningPrograms, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
 {
     TempFolder folder;
     {
-        LinuxLaufendeProgramme own({folder.path()});
-        own.eigenerTitel("Quelvarn Version 2.0");
+        LinuxRunningPrograms own({folder.path()});
+        own.ownTitle("Quelvarn Version 2.0");
         std::ofstream(folder / "1") << "99999999999999\nTalvik Version 2.0\n";
         std::ofstream(folder / "notiz") << "kein Programm\n";
-        EXPECT_THAT(own.fenstertitel(), UnorderedElementsAre("Quelvarn Version 2.0"));
+        EXPECT_THAT(own.windowTitle(), UnorderedElementsAre("Quelvarn Version 2.0"));
     }
     EXPECT_FALSE(fs::exists(folder / std::to_string(getpid())));
     EXPECT_FALSE(fs::exists(folder / "1"));
@@ -78,45 +78,45 @@ TEST(LaufendeProgramme, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
 }
 
 // A run folder may be full, missing, or somebody else's.
-TEST(LaufendeProgramme, GoOnWithTheNextFolderOrUnseen)
+TEST(RunningPrograms, GoOnWithTheNextFolderOrUnseen)
 {
     TempFolder folder;
     const fs::path file = folder / "file";
     std::ofstream(file) << "in the way";
     const fs::path full = "/dev/full/quelvarn";
-    LinuxLaufendeProgramme own({full, file / "quelvarn", file, folder / "second"});
-    own.eigenerTitel("Quelvarn Version 2.0");
-    LinuxLaufendeProgramme other({folder / "first", folder / "second"});
-    EXPECT_THAT(other.fenstertitel(), UnorderedElementsAre("Quelvarn Version 2.0"));
-    other.eigenerTitel("Harvel Version 2.1");
-    EXPECT_EQ(other.fenstertitel().size(), 2U);
+    LinuxRunningPrograms own({full, file / "quelvarn", file, folder / "second"});
+    own.ownTitle("Quelvarn Version 2.0");
+    LinuxRunningPrograms other({folder / "first", folder / "second"});
+    EXPECT_THAT(other.windowTitle(), UnorderedElementsAre("Quelvarn Version 2.0"));
+    other.ownTitle("Harvel Version 2.1");
+    EXPECT_EQ(other.windowTitle().size(), 2U);
 
-    LinuxLaufendeProgramme nowhere({full});
-    nowhere.eigenerTitel("Talvik Version 2.0");
-    EXPECT_THAT(nowhere.fenstertitel(), UnorderedElementsAre());
+    LinuxRunningPrograms nowhere({full});
+    nowhere.ownTitle("Talvik Version 2.0");
+    EXPECT_THAT(nowhere.windowTitle(), UnorderedElementsAre());
 }
 
-TEST(Standardanwendung, HandsOverThePathAsOneWord)
+TEST(DefaultApplication, HandsOverThePathAsOneWord)
 {
     TempFolder folder;
-    const Laufwerksordner laufwerke(folder.path());
-    LinuxDateien dateien(laufwerke);
-    dateien.schreibe("C:\\Zusatz; $(x) ä.txt", "");
+    const DriveFolder drives(folder.path());
+    LinuxFiles files(drives);
+    files.write("C:\\Zusatz; $(x) ä.txt", "");
     const fs::path script = folder / "opener";
     const fs::path told = folder / "told";
     std::ofstream(script) << "#!/bin/sh\nprintf '%s' \"$1\" > '" << told.string() << ".neu'\nmv '" << told.string()
                           << ".neu' '" << told.string() << "'\n";
     fs::permissions(script, fs::perms::owner_all);
 
-    EXPECT_TRUE(LinuxStandardanwendung(dateien, script.string()).oeffne("c:\\zusatz; $(x) ä.TXT"));
+    EXPECT_TRUE(LinuxDefaultApplication(files, script.string()).open("c:\\zusatz; $(x) ä.TXT"));
     EXPECT_TRUE(comesTrue([&] { return fs::exists(told); }));
     EXPECT_EQ(firstLine(told), (folder / "c/Zusatz; $(x) ä.txt").string());
-    EXPECT_FALSE(LinuxStandardanwendung(dateien, script.string()).oeffne("C:\\fehlt.txt"));
-    EXPECT_FALSE(LinuxStandardanwendung(dateien, (folder / "kein programm").string()).oeffne("C:\\Zusatz; $(x) ä.txt"));
+    EXPECT_FALSE(LinuxDefaultApplication(files, script.string()).open("C:\\fehlt.txt"));
+    EXPECT_FALSE(LinuxDefaultApplication(files, (folder / "kein programm").string()).open("C:\\Zusatz; $(x) ä.txt"));
 }
 
-TEST(Drucker, ThereIsAStandardWheneverThereIsAPrinter)
+TEST(Printers, ThereIsAStandardWheneverThereIsAPrinter)
 {
-    const LinuxDrucker drucker;
-    EXPECT_EQ(drucker.standard().has_value(), !drucker.namen().empty());
+    const LinuxPrinters printers;
+    EXPECT_EQ(printers.standard().has_value(), !printers.names().empty());
 }

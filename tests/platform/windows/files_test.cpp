@@ -19,68 +19,69 @@ namespace fs = std::filesystem;
 namespace {
 
 // Files whose drives C: and W: are folders of a temporary one.
-class DateienImOrdner : public WindowsDateien
+class FilesInFolder : public WindowsFiles
 {
 public:
-    fs::path systempfad(std::string_view pfad) const override
+    fs::path systemPath(std::string_view documentPath) const override
     {
-        const char letter = pfad.size() > 1 && pfad[1] == ':' ? static_cast<char>(pfad[0] | 0x20) : ' ';
+        const char letter =
+            documentPath.size() > 1 && documentPath[1] == ':' ? static_cast<char>(documentPath[0] | 0x20) : ' ';
         if (letter != 'c' && letter != 'w')
-            return WindowsDateien::systempfad(pfad);
-        return WindowsDateien::systempfad(ordner() + "\\" + letter + "\\" + std::string(pfad.substr(2)));
+            return WindowsFiles::systemPath(documentPath);
+        return WindowsFiles::systemPath(folder() + "\\" + letter + "\\" + std::string(documentPath.substr(2)));
     }
-    std::string ordner() const { return narrow(folder_.path().native()); }
+    std::string folder() const { return narrow(folder_.path().native()); }
 
 private:
     TempFolder folder_;
 };
 
-struct AufDerPlatte : DateienWelt
+struct OnDisk : FileWorld
 {
-    AufDerPlatte()
+    OnDisk()
     {
-        for (const char* laufwerk : {"C:", "W:"})
-            eigene.ordnerAnlegen(laufwerk);
+        for (const char* drive : {"C:", "W:"})
+            own.createFolder(drive);
     }
-    ~AufDerPlatte() override
+    ~OnDisk() override
     {
-        for (const char* laufwerk : {"C:", "W:"})
-            leere(laufwerk);
+        for (const char* drive : {"C:", "W:"})
+            clear(drive);
     }
-    Dateien& dateien() override { return eigene; }
-    std::wstring name(std::string_view pfad) const { return langerPfad(eigene.systempfad(pfad).native()); }
+    Files& files() override { return own; }
+    std::wstring name(std::string_view documentPath) const { return longPath(own.systemPath(documentPath).native()); }
 
-    DateienImOrdner eigene;
+    FilesInFolder own;
 
 private:
     // The standard library cannot remove long paths.
-    void leere(const std::string& ordner)
+    void clear(const std::string& folder)
     {
-        for (const Ordnereintrag& eintrag : eigene.inhalt(ordner)) {
-            const std::string pfad = ordner + "\\" + eintrag.name;
-            if (eintrag.ordner) {
-                leere(pfad);
-                RemoveDirectoryW(name(pfad).c_str());
+        for (const FolderEntry& entry : own.content(folder)) {
+            const std::string documentPath = folder + "\\" + entry.name;
+            if (entry.folder) {
+                clear(documentPath);
+                RemoveDirectoryW(name(documentPath).c_str());
             } else {
-                eigene.setzeSchreibschutz(pfad, false);
-                eigene.loesche(pfad);
+                own.setReadOnly(documentPath, false);
+                own.remove(documentPath);
             }
         }
     }
 };
 
 // A file that another program has open.
-class Geoeffnet
+class Opened
 {
 public:
-    Geoeffnet(const std::wstring& path, DWORD zugriff, DWORD erlaubt)
-        : handle_(CreateFileW(path.c_str(), zugriff, erlaubt, nullptr, OPEN_EXISTING, 0, nullptr))
+    Opened(const std::wstring& path, DWORD access, DWORD allowed)
+        : handle_(CreateFileW(path.c_str(), access, allowed, nullptr, OPEN_EXISTING, 0, nullptr))
     {
         EXPECT_NE(handle_, INVALID_HANDLE_VALUE) << GetLastError();
     }
-    ~Geoeffnet() { CloseHandle(handle_); }
-    Geoeffnet(const Geoeffnet&) = delete;
-    Geoeffnet& operator=(const Geoeffnet&) = delete;
+    ~Opened() { CloseHandle(handle_); }
+    Opened(const Opened&) = delete;
+    Opened& operator=(const Opened&) = delete;
 
     void setTimes(const FILETIME& created, const FILETIME& changed)
     {
@@ -99,34 +100,34 @@ FILETIME universal(const SYSTEMTIME& time)
 }
 
 // What the clock on the wall shows, told by the zone itself.
-Zeitpunkt localWinterTime(Zeitpunkt universal)
+DateTime localWinterTime(DateTime universal)
 {
     TIME_ZONE_INFORMATION zone{};
     GetTimeZoneInformation(&zone);
-    return universal.plusSekunden(-60 * (zone.Bias + (zone.StandardDate.wMonth != 0 ? zone.StandardBias : 0)));
+    return universal.plusSeconds(-60 * (zone.Bias + (zone.StandardDate.wMonth != 0 ? zone.StandardBias : 0)));
 }
 
-int nummerVon(const std::function<void()>& arbeit)
+int numberOf(const std::function<void()>& work)
 {
     try {
-        arbeit();
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler.nummer();
+        work();
+    } catch (const RuntimeError& fault) {
+        return fault.number();
     }
     return 0;
 }
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(AufDerPlatte, DateienRegeln, testing::Values([] { return std::make_unique<AufDerPlatte>(); }));
+INSTANTIATE_TEST_SUITE_P(OnDisk, FileRules, testing::Values([] { return std::make_unique<OnDisk>(); }));
 
 TEST(FullPath, IsWhatTheSystemTakes)
 {
     struct
     {
-        const char* pfad;
-        const wchar_t* voll;
-        const wchar_t* lang;
+        const char* documentPath;
+        const wchar_t* full;
+        const wchar_t* longText;
     } const cases[] = {
         {"W:", L"W:\\", L"\\\\?\\W:\\"},
         {"w:/Konstruktion//./neu\\Tief.par", L"w:\\Konstruktion\\neu\\Tief.par",
@@ -146,127 +147,126 @@ TEST(FullPath, IsWhatTheSystemTakes)
         {"", L"", L""},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(vollerPfad(c.pfad), c.voll) << c.pfad;
-        EXPECT_EQ(langerPfad(vollerPfad(c.pfad)), c.lang) << c.pfad;
+        EXPECT_EQ(fullPath(c.documentPath), c.full) << c.documentPath;
+        EXPECT_EQ(longPath(fullPath(c.documentPath)), c.longText) << c.documentPath;
     }
-    EXPECT_EQ(vollerPfad(std::string_view("W:\\a\0b", 6)), L"");
-    EXPECT_EQ(langerPfad(L"\\\\?\\W:\\x"), L"\\\\?\\W:\\x");
+    EXPECT_EQ(fullPath(std::string_view("W:\\a\0b", 6)), L"");
+    EXPECT_EQ(longPath(L"\\\\?\\W:\\x"), L"\\\\?\\W:\\x");
 }
 
-TEST(WindowsDateien, PathsMayBeLongAndHaveUmlauts)
+TEST(WindowsFiles, PathsMayBeLongAndHaveUmlauts)
 {
-    AufDerPlatte welt;
-    std::string ordner = "W:";
+    OnDisk world;
+    std::string folder = "W:";
     for (const char* umlaut : {"ä", "Ö", "ß", "€"}) {
-        ordner += "\\";
+        folder += "\\";
         for (int i = 0; i < 80; ++i)
-            ordner += umlaut;
-        welt.eigene.ordnerAnlegen(ordner);
-        EXPECT_TRUE(welt.eigene.ordnerVorhanden(ordner));
+            folder += umlaut;
+        world.own.createFolder(folder);
+        EXPECT_TRUE(world.own.folderExists(folder));
     }
-    const std::string datei = ordner + "\\Wellenträger.par";
-    const std::string kopie = ordner + "\\Kopie.par";
-    ASSERT_GT(wide(datei).size(), 330U);
-    welt.eigene.schreibe(datei, "alt");
-    welt.eigene.schreibe(datei, "neu");
-    welt.eigene.kopiere(datei, kopie);
-    welt.eigene.setzeSchreibschutz(datei, true);
-    EXPECT_TRUE(welt.eigene.attribute(datei)->schreibgeschuetzt);
-    EXPECT_EQ(welt.eigene.lese(kopie), "neu");
-    ASSERT_EQ(welt.eigene.inhalt(ordner).size(), 2U);
-    EXPECT_EQ(welt.eigene.inhalt(ordner)[1].name, "Wellenträger.par");
-    welt.eigene.loesche(kopie);
-    EXPECT_FALSE(welt.eigene.dateiVorhanden(kopie));
+    const std::string file = folder + "\\Wellenträger.par";
+    const std::string copy = folder + "\\Kopie.par";
+    ASSERT_GT(wide(file).size(), 330U);
+    world.own.write(file, "alt");
+    world.own.write(file, "neu");
+    world.own.copy(file, copy);
+    world.own.setReadOnly(file, true);
+    EXPECT_TRUE(world.own.attribute(file)->readOnly);
+    EXPECT_EQ(world.own.read(copy), "neu");
+    ASSERT_EQ(world.own.content(folder).size(), 2U);
+    EXPECT_EQ(world.own.content(folder)[1].name, "Wellenträger.par");
+    world.own.remove(copy);
+    EXPECT_FALSE(world.own.fileExists(copy));
     // The standard library takes this path as well.
-    EXPECT_EQ(fs::file_size(welt.eigene.systempfad(datei)), 3U);
+    EXPECT_EQ(fs::file_size(world.own.systemPath(file)), 3U);
 }
 
-TEST(WindowsDateien, TellsAttributesInLocalTimeAndKeepsThemWhenWriting)
+TEST(WindowsFiles, TellsAttributesInLocalTimeAndKeepsThemWhenWriting)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\x.par", "alt");
-    Geoeffnet(welt.name("W:\\x.par"), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ)
+    OnDisk world;
+    world.own.write("W:\\x.par", "alt");
+    Opened(world.name("W:\\x.par"), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ)
         .setTimes(universal({2004, 1, 0, 15, 10, 30, 59, 900}), universal({2005, 12, 0, 31, 23, 59, 58, 0}));
-    SetFileAttributesW(welt.name("W:\\x.par").c_str(), FILE_ATTRIBUTE_HIDDEN);
-    welt.eigene.kopiere("W:\\x.par", "W:\\kopie.par");
+    SetFileAttributesW(world.name("W:\\x.par").c_str(), FILE_ATTRIBUTE_HIDDEN);
+    world.own.copy("W:\\x.par", "W:\\kopie.par");
 
-    const Zeitpunkt created = localWinterTime(*parseIso("2004-01-15 10:30:59"));
-    const Zeitpunkt changed = localWinterTime(*parseIso("2005-12-31 23:59:58"));
-    auto original = *welt.eigene.attribute("W:\\x.par");
-    const auto copy = *welt.eigene.attribute("W:\\kopie.par");
+    const DateTime created = localWinterTime(*parseIso("2004-01-15 10:30:59"));
+    const DateTime changed = localWinterTime(*parseIso("2005-12-31 23:59:58"));
+    auto original = *world.own.attribute("W:\\x.par");
+    const auto copy = *world.own.attribute("W:\\kopie.par");
     // Wine keeps neither the time of creation nor the archive attribute.
-    EXPECT_EQ(formatIso(original.erstellt), formatIso(unterWine() ? changed : created));
-    EXPECT_EQ(formatIso(original.geaendert), formatIso(changed));
-    EXPECT_TRUE(original.versteckt);
-    EXPECT_EQ(formatIso(copy.geaendert), formatIso(changed));
-    EXPECT_FALSE(copy.versteckt);
+    EXPECT_EQ(formatIso(original.created), formatIso(underWine() ? changed : created));
+    EXPECT_EQ(formatIso(original.changed), formatIso(changed));
+    EXPECT_TRUE(original.hidden);
+    EXPECT_EQ(formatIso(copy.changed), formatIso(changed));
+    EXPECT_FALSE(copy.hidden);
 
-    for (const bool gesetzt : {true, false}) {
-        welt.eigene.setzeArchiv("W:\\x.par", gesetzt);
-        EXPECT_EQ(welt.eigene.attribute("W:\\x.par")->archiv, gesetzt || unterWine());
+    for (const bool set : {true, false}) {
+        world.own.setArchive("W:\\x.par", set);
+        EXPECT_EQ(world.own.attribute("W:\\x.par")->archive, set || underWine());
     }
-    welt.eigene.schreibe("W:\\x.par", "neuer");
-    original = *welt.eigene.attribute("W:\\x.par");
-    EXPECT_EQ(original.groesse, 5);
-    EXPECT_TRUE(original.versteckt);
-    EXPECT_LE(std::abs(original.geaendert.sekunden - WindowsUhr().jetzt().sekunden), 60);
+    world.own.write("W:\\x.par", "neuer");
+    original = *world.own.attribute("W:\\x.par");
+    EXPECT_EQ(original.size, 5);
+    EXPECT_TRUE(original.hidden);
+    EXPECT_LE(std::abs(original.changed.seconds - WindowsClock().now().seconds), 60);
 }
 
-TEST(WindowsDateien, AFailedWriteLeavesTheOldFileAndNothingElse)
+TEST(WindowsFiles, AFailedWriteLeavesTheOldFileAndNothingElse)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\liste.txt", "alt");
-    for (const DWORD erlaubt : {FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE}) {
-        const Geoeffnet held(welt.name("W:\\liste.txt"), GENERIC_READ, erlaubt);
-        EXPECT_EQ(nummerVon([&] { welt.eigene.schreibe("W:\\liste.txt", "neu"); }), 55);
-        EXPECT_EQ(nummerVon([&] { welt.eigene.kopiere("W:\\liste.txt", "W:\\liste.txt"); }), 55);
-        EXPECT_EQ(welt.eigene.lese("W:\\liste.txt"), "alt");
-        EXPECT_EQ(welt.eigene.inhalt("W:").size(), 1U);
+    OnDisk world;
+    world.own.write("W:\\liste.txt", "alt");
+    for (const DWORD allowed : {FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE}) {
+        const Opened held(world.name("W:\\liste.txt"), GENERIC_READ, allowed);
+        EXPECT_EQ(numberOf([&] { world.own.write("W:\\liste.txt", "neu"); }), 55);
+        EXPECT_EQ(numberOf([&] { world.own.copy("W:\\liste.txt", "W:\\liste.txt"); }), 55);
+        EXPECT_EQ(world.own.read("W:\\liste.txt"), "alt");
+        EXPECT_EQ(world.own.content("W:").size(), 1U);
     }
 }
 
-TEST(WindowsDateien, WritesWhenAnotherProgramOnlyGlancesAtTheFile)
+TEST(WindowsFiles, WritesWhenAnotherProgramOnlyGlancesAtTheFile)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\liste.txt", "alt");
-    auto held =
-        std::make_unique<Geoeffnet>(welt.name("W:\\liste.txt"), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    OnDisk world;
+    world.own.write("W:\\liste.txt", "alt");
+    auto held = std::make_unique<Opened>(world.name("W:\\liste.txt"), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
     std::thread glance([&] {
         Sleep(30);
         held.reset();
     });
-    welt.eigene.schreibe("W:\\liste.txt", "neu");
+    world.own.write("W:\\liste.txt", "neu");
     glance.join();
-    EXPECT_EQ(welt.eigene.lese("W:\\liste.txt"), "neu");
+    EXPECT_EQ(world.own.read("W:\\liste.txt"), "neu");
 }
 
-TEST(WindowsDateien, ReadsWhatAnotherProgramIsWriting)
+TEST(WindowsFiles, ReadsWhatAnotherProgramIsWriting)
 {
-    AufDerPlatte welt;
-    welt.eigene.schreibe("W:\\x.dft", "halb");
+    OnDisk world;
+    world.own.write("W:\\x.dft", "halb");
     {
-        const Geoeffnet held(welt.name("W:\\x.dft"), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
-        EXPECT_EQ(welt.eigene.lese("W:\\x.dft"), "halb");
-        welt.eigene.kopiere("W:\\x.dft", "W:\\kopie.dft");
-        EXPECT_EQ(welt.eigene.lese("W:\\kopie.dft"), "halb");
+        const Opened held(world.name("W:\\x.dft"), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE);
+        EXPECT_EQ(world.own.read("W:\\x.dft"), "halb");
+        world.own.copy("W:\\x.dft", "W:\\kopie.dft");
+        EXPECT_EQ(world.own.read("W:\\kopie.dft"), "halb");
     }
-    const Geoeffnet alone(welt.name("W:\\x.dft"), GENERIC_WRITE, 0);
-    EXPECT_TRUE(welt.eigene.attribute("W:\\x.dft"));
-    EXPECT_EQ(nummerVon([&] { welt.eigene.lese("W:\\x.dft"); }), 55);
-    EXPECT_EQ(nummerVon([&] { welt.eigene.schreibe("W:\\x.dft", ""); }), 55);
+    const Opened alone(world.name("W:\\x.dft"), GENERIC_WRITE, 0);
+    EXPECT_TRUE(world.own.attribute("W:\\x.dft"));
+    EXPECT_EQ(numberOf([&] { world.own.read("W:\\x.dft"); }), 55);
+    EXPECT_EQ(numberOf([&] { world.own.write("W:\\x.dft", ""); }), 55);
 }
 
-TEST(WindowsDateien, NamesTheReasonOfAFault)
+TEST(WindowsFiles, NamesTheReasonOfAFault)
 {
-    AufDerPlatte welt;
-    welt.eigene.ordnerAnlegen("W:\\Ordner");
-    EXPECT_EQ(nummerVon([&] { welt.eigene.lese("W:\\Ordner"); }), 75);
-    EXPECT_EQ(nummerVon([&] { welt.eigene.loesche("W:\\Ordner"); }), 75);
-    EXPECT_EQ(nummerVon([&] { welt.eigene.ordnerAnlegen("W:\\Ordner"); }), 58);
-    EXPECT_EQ(nummerVon([&] { welt.eigene.inhalt("Q:\\"); }), 68);
-    EXPECT_EQ(nummerVon([&] { welt.eigene.lese("ohne Laufwerk.par"); }), 68);
-    EXPECT_NE(nummerVon([&] { welt.eigene.schreibe("W:\\a*b?.txt", ""); }), 0);
+    OnDisk world;
+    world.own.createFolder("W:\\Ordner");
+    EXPECT_EQ(numberOf([&] { world.own.read("W:\\Ordner"); }), 75);
+    EXPECT_EQ(numberOf([&] { world.own.remove("W:\\Ordner"); }), 75);
+    EXPECT_EQ(numberOf([&] { world.own.createFolder("W:\\Ordner"); }), 58);
+    EXPECT_EQ(numberOf([&] { world.own.content("Q:\\"); }), 68);
+    EXPECT_EQ(numberOf([&] { world.own.read("ohne Laufwerk.par"); }), 68);
+    EXPECT_NE(numberOf([&] { world.own.write("W:\\a*b?.txt", ""); }), 0);
     // A name that stands for a device elsewhere is a name like any other.
-    EXPECT_FALSE(welt.eigene.dateiVorhanden("W:\\con.par"));
-    EXPECT_EQ(nummerVon([&] { welt.eigene.lese("W:\\nul"); }), 53);
+    EXPECT_FALSE(world.own.fileExists("W:\\con.par"));
+    EXPECT_EQ(numberOf([&] { world.own.read("W:\\nul"); }), 53);
 }

@@ -34,14 +34,14 @@ struct Setting
 };
 
 // Printers put into the registry, which is all that Wine has of them. It must not happen to a real workstation.
-class WindowsPrinters : public testing::Test
+class ChosenPrinter : public testing::Test
 {
 protected:
     void SetUp() override
     {
         if (!GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version"))
             GTEST_SKIP() << "writes printers into the registry";
-        ASSERT_THAT(drucker.namen(), ElementsAre()) << "there are printers already";
+        ASSERT_THAT(printers.names(), ElementsAre()) << "there are printers already";
     }
     void TearDown() override
     {
@@ -74,7 +74,7 @@ protected:
         setText(HKEY_CURRENT_USER, CHOSEN, L"Device", wide(name) + L",winspool,FILE:");
     }
 
-    WindowsDrucker drucker;
+    WindowsPrinters printers;
     std::vector<std::wstring> made;
 };
 
@@ -82,22 +82,22 @@ constexpr DWORD ALL = DM_PAPERSIZE | DM_COPIES | DM_ORIENTATION;
 
 } // namespace
 
-TEST_F(WindowsPrinters, NoneIsNothing)
+TEST_F(ChosenPrinter, NoneIsNothing)
 {
-    EXPECT_FALSE(drucker.standard());
+    EXPECT_FALSE(printers.standard());
     choose("Längst entfernt");
-    const auto standard = drucker.standard();
+    const auto standard = printers.standard();
     ASSERT_TRUE(standard);
     EXPECT_EQ(standard->name, "Längst entfernt");
-    EXPECT_EQ(standard->papiercode, 9);
+    EXPECT_EQ(standard->paperCode, 9);
 }
 
-TEST_F(WindowsPrinters, TheChosenOneTellsItsSettings)
+TEST_F(ChosenPrinter, TheChosenOneTellsItsSettings)
 {
     const struct
     {
         Setting setting;
-        int papiercode, exemplare, ausrichtung;
+        int paperCode, copies, orientation;
     } cases[] = {
         {{ALL, DMPAPER_A3, 3, DMORIENT_LANDSCAPE}, 8, 3, 2},
         {{ALL, DMPAPER_A4, 1, DMORIENT_PORTRAIT}, 9, 1, 1},
@@ -108,21 +108,21 @@ TEST_F(WindowsPrinters, TheChosenOneTellsItsSettings)
     for (const auto& c : cases) {
         makePrinter("Plotter Übergröße", c.setting);
         choose("Plotter Übergröße");
-        const auto standard = drucker.standard();
+        const auto standard = printers.standard();
         ASSERT_TRUE(standard);
         EXPECT_EQ(standard->name, "Plotter Übergröße");
-        EXPECT_EQ(standard->papiercode, c.papiercode);
-        EXPECT_EQ(standard->exemplare, c.exemplare);
-        EXPECT_EQ(standard->ausrichtung, c.ausrichtung);
+        EXPECT_EQ(standard->paperCode, c.paperCode);
+        EXPECT_EQ(standard->copies, c.copies);
+        EXPECT_EQ(standard->orientation, c.orientation);
     }
-    EXPECT_THAT(drucker.namen(), UnorderedElementsAre("Büro", "Plotter Übergröße"));
+    EXPECT_THAT(printers.names(), UnorderedElementsAre("Büro", "Plotter Übergröße"));
 }
 
-TEST_F(WindowsPrinters, WithoutAChoiceTheFirstStandsIn)
+TEST_F(ChosenPrinter, WithoutAChoiceTheFirstStandsIn)
 {
     makePrinter("Büro", {ALL, DMPAPER_A5, 1, DMORIENT_PORTRAIT});
-    const auto standard = drucker.standard();
+    const auto standard = printers.standard();
     ASSERT_TRUE(standard);
     EXPECT_EQ(standard->name, "Büro");
-    EXPECT_EQ(standard->papiercode, 11);
+    EXPECT_EQ(standard->paperCode, 11);
 }

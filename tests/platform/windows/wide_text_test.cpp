@@ -30,9 +30,9 @@ TEST(WindowsError, HasTheNumbersAndReasonsOfEverySystem)
 {
     struct
     {
-        DWORD fehler;
-        int nummer;
-        const char* beschreibung;
+        DWORD fault;
+        int number;
+        const char* description;
     } const cases[] = {
         {ERROR_PATH_NOT_FOUND, 53, "Datei oder Ordner nicht gefunden: W:\\x"},
         {ERROR_SHARING_VIOLATION, 55, "Datei ist in Benutzung: W:\\x"},
@@ -43,11 +43,11 @@ TEST(WindowsError, HasTheNumbersAndReasonsOfEverySystem)
         {ERROR_INVALID_NAME, 52, "Dateiname ist ungültig: W:\\x"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(windowsDateifehler(c.fehler, "W:\\x").nummer(), c.nummer);
-        EXPECT_EQ(windowsDateifehler(c.fehler, "W:\\x").beschreibung(), c.beschreibung);
+        EXPECT_EQ(windowsFileFault(c.fault, "W:\\x").number(), c.number);
+        EXPECT_EQ(windowsFileFault(c.fault, "W:\\x").description(), c.description);
     }
-    const Laufzeitfehler other = windowsDateifehler(ERROR_ARENA_TRASHED, "W:\\x");
-    EXPECT_EQ(other.nummer(), ERROR_ARENA_TRASHED);
-    EXPECT_EQ(other.beschreibung(), windowsMeldung(ERROR_ARENA_TRASHED) + ": W:\\x");
-    EXPECT_EQ(windowsMeldung(0xE0001234), "Fehler 3758101044");
+    const RuntimeError other = windowsFileFault(ERROR_ARENA_TRASHED, "W:\\x");
+    EXPECT_EQ(other.number(), ERROR_ARENA_TRASHED);
+    EXPECT_EQ(other.description(), windowsMessage(ERROR_ARENA_TRASHED) + ": W:\\x");
+    EXPECT_EQ(windowsMessage(0xE0001234), "Fehler 3758101044");
 }

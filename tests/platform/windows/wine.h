@@ -5,7 +5,7 @@
 namespace quelvarn {
 
 // Some of the system's services are there in name only.
-inline bool unterWine()
+inline bool underWine()
 {
     return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }

@@ -15,17 +15,17 @@ using namespace quelvarn;
 namespace {
 
 // A text of the registry, and whatever stood there before when the object goes.
-class Registrywert
+class RegistryValue
 {
 public:
-    Registrywert(const std::wstring& key, const wchar_t* name, const std::wstring& value) : name_(name)
+    RegistryValue(const std::wstring& key, const wchar_t* name, const std::wstring& value) : name_(name)
     {
         RegCreateKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, nullptr);
         DWORD bytes = sizeof before_;
         had_ = RegGetValueW(key_, nullptr, name, RRF_RT_REG_SZ, nullptr, before_, &bytes) == ERROR_SUCCESS;
         set(value.c_str());
     }
-    ~Registrywert()
+    ~RegistryValue()
     {
         if (had_)
             set(before_);
@@ -33,8 +33,8 @@ public:
             RegDeleteValueW(key_, name_);
         RegCloseKey(key_);
     }
-    Registrywert(const Registrywert&) = delete;
-    Registrywert& operator=(const Registrywert&) = delete;
+    RegistryValue(const RegistryValue&) = delete;
+    RegistryValue& operator=(const RegistryValue&) = delete;
 
 private:
     void set(const wchar_t* value)
@@ -51,56 +51,56 @@ private:
 
 } // namespace
 
-TEST(WindowsUmgebung, CutsNamesByCharacters)
+TEST(WindowsEnvironment, CutsNamesByCharacters)
 {
-    EXPECT_EQ(gekuerzterName(L"müller"), "müller");
-    EXPECT_EQ(gekuerzterName(L"Anwender_mit_\u00E4\u00F6\u00FC_zu_langem_Namen"), "Anwender_mit_äöü_zu_lange");
+    EXPECT_EQ(shortenedName(L"müller"), "müller");
+    EXPECT_EQ(shortenedName(L"Anwender_mit_\u00E4\u00F6\u00FC_zu_langem_Namen"), "Anwender_mit_äöü_zu_lange");
     const std::wstring face = L"\xD83D\xDE00";
-    EXPECT_EQ(gekuerzterName(L"123456789012345678901234" + face + L"x"), "123456789012345678901234\U0001F600");
+    EXPECT_EQ(shortenedName(L"123456789012345678901234" + face + L"x"), "123456789012345678901234\U0001F600");
 
-    if (!unterWine())
+    if (!underWine())
         GTEST_SKIP() << "here the names of computer and user cannot be changed";
-    const Registrywert computer(L"System\\CurrentControlSet\\Control\\ComputerName\\ActiveComputerName",
-                                L"ComputerName", L"ZEICHENSAAL-RECHNER-NUMMER-27");
+    const RegistryValue computer(L"System\\CurrentControlSet\\Control\\ComputerName\\ActiveComputerName",
+                                 L"ComputerName", L"ZEICHENSAAL-RECHNER-NUMMER-27");
     wchar_t before[300] = {};
     GetEnvironmentVariableW(L"WINEUSERNAME", before, 300);
     SetEnvironmentVariableW(L"WINEUSERNAME", L"Konstrukteur J\u00F6rg von und zu Ahnenfels");
-    EXPECT_EQ(WindowsUmgebung().rechnername(), "ZEICHENSAAL-RECHNER-NUMME");
-    EXPECT_EQ(WindowsUmgebung().anwendername(), "Konstrukteur Jörg von und");
+    EXPECT_EQ(WindowsEnvironment().computerName(), "ZEICHENSAAL-RECHNER-NUMME");
+    EXPECT_EQ(WindowsEnvironment().userName(), "Konstrukteur Jörg von und");
     SetEnvironmentVariableW(L"WINEUSERNAME", before);
 }
 
-TEST(WindowsUmgebung, KnowsTheSystem)
+TEST(WindowsEnvironment, KnowsTheSystem)
 {
-    const Systemversion version = WindowsUmgebung().systemversion();
+    const SystemVersion version = WindowsEnvironment().systemVersion();
     EXPECT_GE(std::stoi(version.major), 10);
     EXPECT_FALSE(version.minor.empty());
-    EXPECT_EQ(version.plattform, 2);
+    EXPECT_EQ(version.platform, 2);
 
-    const std::string drive = WindowsUmgebung().systemlaufwerk();
-    const std::vector<Laufwerk> drives = WindowsLaufwerke().liste();
-    EXPECT_TRUE(WindowsDateien().ordnerVorhanden(drive));
-    EXPECT_TRUE(std::any_of(drives.begin(), drives.end(), [&](const Laufwerk& one) { return one.buchstabe == drive; }));
+    const std::string drive = WindowsEnvironment().systemDrive();
+    const std::vector<Drive> drives = WindowsDrives().list();
+    EXPECT_TRUE(WindowsFiles().folderExists(drive));
+    EXPECT_TRUE(std::any_of(drives.begin(), drives.end(), [&](const Drive& one) { return one.letter == drive; }));
 }
 
-TEST(WindowsStandardanwendung, HandsOverThePathAsOneWord)
+TEST(WindowsDefaultApplication, HandsOverThePathAsOneWord)
 {
-    TempFolder folder;
-    WindowsDateien dateien;
-    WindowsStandardanwendung shell(dateien);
-    const std::string ordner = narrow(folder.path().native());
-    const std::string pfad = ordner + "\\Welle & Träger €.qvpruef";
-    dateien.schreibe(pfad, "1");
-    EXPECT_FALSE(shell.oeffne(pfad)) << "nobody opens such files";
-    EXPECT_FALSE(shell.oeffne(ordner + "\\fehlt.qvpruef"));
+    TempFolder temporary;
+    WindowsFiles files;
+    WindowsDefaultApplication shell(files);
+    const std::string folder = narrow(temporary.path().native());
+    const std::string documentPath = folder + "\\Welle & Träger €.qvpruef";
+    files.write(documentPath, "1");
+    EXPECT_FALSE(shell.open(documentPath)) << "nobody opens such files";
+    EXPECT_FALSE(shell.open(folder + "\\fehlt.qvpruef"));
 
     // The program for these files copies them to a name of its own.
-    const Registrywert ending(L"Software\\Classes\\.qvpruef", nullptr, L"Quelvarn.Pruefdatei");
-    const Registrywert opener(L"Software\\Classes\\Quelvarn.Pruefdatei\\shell\\open\\command", nullptr,
-                              L"cmd.exe /d /c copy \"%1\" \"" + (folder / "geoeffnet").native() + L"\"");
-    EXPECT_TRUE(shell.oeffne(pfad));
+    const RegistryValue ending(L"Software\\Classes\\.qvpruef", nullptr, L"Quelvarn.Pruefdatei");
+    const RegistryValue opener(L"Software\\Classes\\Quelvarn.Pruefdatei\\shell\\open\\command", nullptr,
+                               L"cmd.exe /d /c copy \"%1\" \"" + (temporary / "geoeffnet").native() + L"\"");
+    EXPECT_TRUE(shell.open(documentPath));
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!dateien.dateiVorhanden(ordner + "\\geoeffnet") && std::chrono::steady_clock::now() < end)
+    while (!files.fileExists(folder + "\\geoeffnet") && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    EXPECT_TRUE(dateien.dateiVorhanden(ordner + "\\geoeffnet"));
+    EXPECT_TRUE(files.fileExists(folder + "\\geoeffnet"));
 }

@@ -16,13 +16,13 @@ protected:
         cluster_ = test::PostgresCluster::find();
         if (!cluster_ || !cluster_->server())
             GTEST_SKIP() << "no PostgreSQL server of its own can be started here";
-        address_ = cluster_->neueDatenbank();
-        engine_ = oeffnePostgres(address_);
-        legeRegisterAn(*engine_);
-        session_.database.Verbindung = Connection(oeffnePostgres(address_));
+        address_ = cluster_->newDatabase();
+        engine_ = openPostgres(address_);
+        createRegister(*engine_);
+        session_.database.connection = Connection(openPostgres(address_));
         for (const char* name : {"A", "B", "C"})
-            dokument(0, name);
-        zeigeDokument(0, "B");
+            addDocument(0, name);
+        showDocument(0, "B");
     }
     void TearDown() override
     {
@@ -30,25 +30,25 @@ protected:
             return;
         cluster_->start();
         engine_.reset();
-        page_.datenbankWechselt();
-        session_.database.Verbindung.Close();
-        cluster_->gibFrei(address_);
+        page_.databaseChanges();
+        session_.database.connection.Close();
+        cluster_->release(address_);
     }
 
     void rebuildFails()
     {
-        welt_.meldungen.erwarte("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!");
-        welt_.meldungen.antworte(); // Fehlermeldung
+        world_.boxes.expect("Neuaufbau der Tabelle", "Fehler beim Neuaufbau der Tabelle!");
+        world_.boxes.answer(); // Fehlermeldung
         tabs_.rebuild();
-        EXPECT_THAT(welt_.meldungen.letzte().text, HasSubstr("Die Verbindung zur Datenbank ist unterbrochen.\n"));
+        EXPECT_THAT(world_.boxes.last().text, HasSubstr("Die Verbindung zur Datenbank ist unterbrochen.\n"));
     }
     // All that a person sees of the table.
     std::string shown() const
     {
         const DocumentTable& table = tables_.current();
-        return liste() + "|" + std::to_string(static_cast<int>(table.state())) + "|" + std::to_string(table.count()) +
+        return list() + "|" + std::to_string(static_cast<int>(table.state())) + "|" + std::to_string(table.count()) +
                "|" + session_.AktDoku.DokuBez + "|" + panels_.fileName() + "|" + panels_.folder() + "|" +
-               panels_.status().text + "|" + table.narrowing().quickFilter + "|" + baum();
+               panels_.status().text + "|" + table.narrowing().quickFilter + "|" + tree();
     }
 
     test::PostgresCluster* cluster_ = nullptr;
@@ -59,12 +59,12 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
 {
     const auto asItIs = [] {};
     const auto filtered = [&] {
-        filtere(0, "DokuBez = 'B'");
+        filter(0, "DokuBez = 'B'");
         tables_[0].showFiltered({{}, {}, "Text"});
     };
     const auto result = [&] {
         Recordset rows;
-        rows.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.database.Verbindung);
+        rows.Open("Select * From PartTabelle Where DokuBez = 'B'", session_.database.connection);
         tables_[0].showResult(std::move(rows), {});
     };
     const auto newer = [&] { tables_[0].markNewer(); };
@@ -83,9 +83,9 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
         }
         cluster_->start();
         const std::string name = "D" + std::to_string(++added);
-        dokument(0, name);
+        addDocument(0, name);
         tabs_.rebuild();
-        EXPECT_EQ(liste(), all += name + "/0 ");
+        EXPECT_EQ(list(), all += name + "/0 ");
         EXPECT_EQ(tables_.current().state(), TableState::Open);
         EXPECT_EQ(session_.AktDoku.DokuBez, "B");
     }
@@ -93,17 +93,17 @@ TEST_F(ServerAway, AFailedRebuildKeepsTheListAndTheNextOneWorks)
 
 TEST_F(ServerAway, ATableThatCouldNotBeOpenedIsOpenedNextTime)
 {
-    dokument(1, "S");
+    addDocument(1, "S");
     cluster_->stop();
-    welt_.meldungen.erwarte("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!");
-    welt_.meldungen.antworte();
+    world_.boxes.expect("Wechsel der Tabelle", "Fehler beim Wechsel der Tabelle!");
+    world_.boxes.answer();
     tabs_.chooseTab(1);
-    EXPECT_EQ(liste(), "");
+    EXPECT_EQ(list(), "");
     cluster_->start();
     tabs_.chooseTab(1);
-    EXPECT_EQ(liste(), "S/0 ");
+    EXPECT_EQ(list(), "S/0 ");
     tabs_.chooseTab(0);
-    EXPECT_EQ(liste(), "A/0 B/0 C/0 ");
+    EXPECT_EQ(list(), "A/0 B/0 C/0 ");
 }
 
 } // namespace quelvarn

@@ -20,31 +20,31 @@ class DatabaseWatching : public RegisterTest
 protected:
     DatabaseWatching()
     {
-        meldeAn();
+        addListener();
         EXPECT_TRUE(frame.laden());
         frame.watchDatabase = [this] { watch.tick(); };
     }
     void expectGone()
     {
-        world.meldungen.erwarte("Datenbank", zeilen({"Die Datenbank ist nicht mehr vorhanden.", REGISTERPFAD, "",
-                                                     "Angezeigt wird, was schon gelesen ist.",
-                                                     "Sobald die Datei wieder da ist, geht es ohne Neustart weiter."}));
+        world.boxes.expect("Datenbank", lines({"Die Datenbank ist nicht mehr vorhanden.", REGISTER_PATH, "",
+                                               "Angezeigt wird, was schon gelesen ist.",
+                                               "Sobald die Datei wieder da ist, geht es ohne Neustart weiter."}));
     }
     void expectReplaced()
     {
-        world.meldungen.erwarte("Datenbank", zeilen({"Die Datenbank wurde durch eine andere Datei ersetzt.",
-                                                     REGISTERPFAD, "", "Sie wird neu geöffnet."}));
+        world.boxes.expect("Datenbank", lines({"Die Datenbank wurde durch eine andere Datei ersetzt.", REGISTER_PATH,
+                                               "", "Sie wird neu geöffnet."}));
     }
     // Another register in the place of the open one, as a fresh takeover leaves it.
     void replace(sql::FixedText change)
     {
-        const auto other = ordner / "neu.db";
-        fs::copy_file(datei, other);
+        const auto other = folder / "neu.db";
+        fs::copy_file(file, other);
         Connection connection;
         connection.Open(other);
         connection.Execute(change);
         connection.Close();
-        fs::rename(other, datei);
+        fs::rename(other, file);
     }
     FaultKind faultBeforeRebuild()
     {
@@ -65,13 +65,13 @@ TEST_F(DatabaseWatching, AFileThatIsGoneIsToldOnceUntilItIsBack)
 {
     frame.tickDBUpdate();
     for (int time = 0; time < 2; ++time) {
-        fs::rename(datei, ordner / "weg");
+        fs::rename(file, folder / "weg");
         expectGone();
         frame.tickDBUpdate();
         frame.tickDBUpdate();
         EXPECT_EQ(faultBeforeRebuild(), FaultKind::FileGone);
-        EXPECT_TRUE(session.database.Verbindung.offen());
-        fs::rename(ordner / "weg", datei);
+        EXPECT_TRUE(session.database.connection.open());
+        fs::rename(folder / "weg", file);
         frame.tickDBUpdate();
         EXPECT_TRUE(watch.stillOpen());
     }
@@ -83,7 +83,7 @@ TEST_F(DatabaseWatching, AnotherRegisterIsOpenedByItself)
     expectReplaced();
     frame.tickDBUpdate();
     EXPECT_EQ(session.use.Zeitintervall, 12000);
-    EXPECT_EQ(frame.TimerDBUpdate().intervall, 12000);
+    EXPECT_EQ(frame.TimerDBUpdate().interval, 12000);
     EXPECT_TRUE(session.database.DatenbankOk);
     frame.tickDBUpdate();
 
@@ -96,15 +96,15 @@ TEST_F(DatabaseWatching, AnotherRegisterIsOpenedByItself)
 
 TEST_F(DatabaseWatching, AFileThatIsNoRegisterIsToldOnceAndTriedAgain)
 {
-    fs::rename(datei, ordner / "gut");
-    std::ofstream(datei) << "halb kopiert";
-    world.meldungen.antworte();
+    fs::rename(file, folder / "gut");
+    std::ofstream(file) << "halb kopiert";
+    world.boxes.answer();
     frame.tickDBUpdate();
-    EXPECT_THAT(world.meldungen.letzte().text, HasSubstr("Sie lässt sich nicht öffnen:"));
+    EXPECT_THAT(world.boxes.last().text, HasSubstr("Sie lässt sich nicht öffnen:"));
     frame.tickDBUpdate();
-    EXPECT_THROW(watch.stillOpen(), Laufzeitfehler);
-    EXPECT_TRUE(session.database.Verbindung.offen());
-    fs::copy_file(ordner / "gut", datei, fs::copy_options::overwrite_existing);
+    EXPECT_THROW(watch.stillOpen(), RuntimeError);
+    EXPECT_TRUE(session.database.connection.open());
+    fs::copy_file(folder / "gut", file, fs::copy_options::overwrite_existing);
     expectReplaced();
     frame.tickDBUpdate();
     EXPECT_TRUE(session.database.DatenbankOk);
@@ -112,12 +112,12 @@ TEST_F(DatabaseWatching, AFileThatIsNoRegisterIsToldOnceAndTriedAgain)
 
 TEST_F(DatabaseWatching, SettingsGoIntoTheRegisterThatTheNextStartOpens)
 {
-    frame.zuSeite(Seite::Start);
-    start.setzeInfoPrio1(0, false);
+    frame.toPage(Page::Start);
+    start.setInfoPrio1(0, false);
     replace("Update Ini Set Feld4 = '12000' Where Feld3 = 'Zeitinterval'");
-    frame.entladen();
-    db.Open(datei);
-    EXPECT_THAT(iniZeilen("Feld2 = 'Treeview' And Feld3 = 'Knoten'"),
+    frame.unload();
+    db.Open(file);
+    EXPECT_THAT(iniRows("Feld2 = 'Treeview' And Feld3 = 'Knoten'"),
                 ElementsAre(HasSubstr("mueller|Treeview|Knoten|0|")));
 }
 

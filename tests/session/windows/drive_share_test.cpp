@@ -10,31 +10,31 @@
 using namespace quelvarn;
 
 // scripts/wine_world.sh maps the share.
-TEST(WindowsLaufwerke, AShareAndItsLetterAreTheSamePlace)
+TEST(WindowsDrives, AShareAndItsLetterAreTheSamePlace)
 {
-    const std::string freigabe = "\\\\server\\konstruktion";
-    FakePorts welt;
-    std::vector<Laufwerk>& liste = welt.laufwerke.laufwerke;
-    liste = WindowsLaufwerke().liste();
-    const auto netz =
-        std::find_if(liste.begin(), liste.end(), [&](const auto& one) { return one.freigabe == freigabe; });
-    if (netz == liste.end())
-        GTEST_SKIP() << "no drive is mapped to " << freigabe;
-    EXPECT_EQ(netz->eintrag(), "x: [" + freigabe + "]");
-    std::string pfad = "\\\\SERVER\\Konstruktion\\Größe 1\\Welle.par";
-    UniversalNachLaufwerk(pfad, welt.ports());
-    EXPECT_EQ(pfad, "X:\\Größe 1\\Welle.par");
+    const std::string release = "\\\\server\\konstruktion";
+    FakePorts world;
+    std::vector<Drive>& list = world.drives.drives;
+    list = WindowsDrives().list();
+    const auto network =
+        std::find_if(list.begin(), list.end(), [&](const auto& one) { return one.release == release; });
+    if (network == list.end())
+        GTEST_SKIP() << "no drive is mapped to " << release;
+    EXPECT_EQ(network->entry(), "x: [" + release + "]");
+    std::string documentPath = "\\\\SERVER\\Konstruktion\\Größe 1\\Welle.par";
+    UniversalNachLaufwerk(documentPath, world.ports());
+    EXPECT_EQ(documentPath, "X:\\Größe 1\\Welle.par");
 
-    WindowsDateien dateien;
-    dateien.schreibe(freigabe + "\\Welle ä.par", "1");
-    EXPECT_EQ(dateien.lese("X:\\welle Ä.PAR"), "1");
-    dateien.setzeSchreibschutz("X:\\Welle ä.par", true);
-    EXPECT_THROW(dateien.loesche(freigabe + "\\Welle ä.par"), Laufzeitfehler);
-    dateien.setzeSchreibschutz("X:\\Welle ä.par", false);
-    dateien.kopiere("//server/konstruktion/Welle ä.par", "X:\\Kopie.par");
-    EXPECT_EQ(dateien.inhalt(freigabe).size(), 2U);
+    WindowsFiles files;
+    files.write(release + "\\Welle ä.par", "1");
+    EXPECT_EQ(files.read("X:\\welle Ä.PAR"), "1");
+    files.setReadOnly("X:\\Welle ä.par", true);
+    EXPECT_THROW(files.remove(release + "\\Welle ä.par"), RuntimeError);
+    files.setReadOnly("X:\\Welle ä.par", false);
+    files.copy("//server/konstruktion/Welle ä.par", "X:\\Kopie.par");
+    EXPECT_EQ(files.content(release).size(), 2U);
     for (const char* name : {"\\Welle ä.par", "\\Kopie.par"})
-        dateien.loesche(freigabe + name);
-    EXPECT_FALSE(dateien.dateiVorhanden("X:\\Kopie.par"));
-    EXPECT_THROW(dateien.lese("\\\\server\\gibt es nicht\\x.par"), Laufzeitfehler);
+        files.remove(release + name);
+    EXPECT_FALSE(files.fileExists("X:\\Kopie.par"));
+    EXPECT_THROW(files.read("\\\\server\\gibt es nicht\\x.par"), RuntimeError);
 }

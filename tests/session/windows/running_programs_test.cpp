@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const std::string EIGENER = "C:\\Büro\\werk.mdb    Quelvarn Version 2.0.0";
+const std::string OWN = "C:\\Büro\\werk.mdb    Quelvarn Version 2.0.0";
 const wchar_t* const CAPTION = L"QUELVARN_TEST_CAPTION";
 const wchar_t* const HUNG = L"QUELVARN_TEST_HUNG";
 constexpr DWORD WATCHDOG = 60'000; // milliseconds
@@ -77,9 +77,9 @@ private:
     PROCESS_INFORMATION it_ = {};
 };
 
-std::ptrdiff_t times(const LaufendeProgramme& programme, const std::string& caption)
+std::ptrdiff_t times(const RunningPrograms& programs, const std::string& caption)
 {
-    const std::vector<std::string> all = programme.fenstertitel();
+    const std::vector<std::string> all = programs.windowTitle();
     return std::count(all.begin(), all.end(), caption);
 }
 
@@ -99,8 +99,8 @@ TEST(OtherProgram, DISABLED_ShowsItsCaption)
     const std::wstring caption = environment(CAPTION);
     if (caption.empty())
         GTEST_SKIP() << "is run by the tests below";
-    WindowsLaufendeProgramme programme;
-    programme.eigenerTitel(narrow(caption));
+    WindowsRunningPrograms programs;
+    programs.ownTitle(narrow(caption));
     const Window window(caption);
     if (environment(HUNG) == L"1") {
         Sleep(WATCHDOG);
@@ -113,55 +113,55 @@ TEST(OtherProgram, DISABLED_ShowsItsCaption)
 
 TEST(RunningPrograms, OnesOwnCaptionCountsOnce)
 {
-    WindowsLaufendeProgramme programme;
-    EXPECT_EQ(times(programme, EIGENER), 0);
+    WindowsRunningPrograms programs;
+    EXPECT_EQ(times(programs, OWN), 0);
     {
-        WindowsLaufendeProgramme early;
-        early.eigenerTitel("noch keiner");
-        early.eigenerTitel(EIGENER);
-        EXPECT_EQ(times(programme, "noch keiner"), 0);
-        EXPECT_EQ(times(programme, EIGENER), 1);
-        const Window window(wide(EIGENER));
-        EXPECT_EQ(times(programme, EIGENER), 1);
+        WindowsRunningPrograms early;
+        early.ownTitle("noch keiner");
+        early.ownTitle(OWN);
+        EXPECT_EQ(times(programs, "noch keiner"), 0);
+        EXPECT_EQ(times(programs, OWN), 1);
+        const Window window(wide(OWN));
+        EXPECT_EQ(times(programs, OWN), 1);
     }
-    EXPECT_EQ(times(programme, EIGENER), 0);
+    EXPECT_EQ(times(programs, OWN), 0);
 
     const std::string longOne = "W:\\" + std::string(3000, 'x') + "    Quelvarn Version 2.0.0";
-    programme.eigenerTitel(longOne);
-    EXPECT_EQ(times(programme, longOne), 1);
+    programs.ownTitle(longOne);
+    EXPECT_EQ(times(programs, longOne), 1);
 }
 
 TEST(RunningPrograms, OthersAreSeenAsLongAsTheyLiveEvenWhenTheyHang)
 {
-    const WindowsLaufendeProgramme programme;
+    const WindowsRunningPrograms programs;
     for (const bool hung : {false, true}) {
         const std::string caption =
             hung ? "Prüfung hängt    Harvel Version 2.1" : "Prüfung läuft    Harvel Version 2.1";
         {
             const OtherProgram other(caption, hung);
-            EXPECT_TRUE(comesTrue([&] { return times(programme, caption) > 0; }));
+            EXPECT_TRUE(comesTrue([&] { return times(programs, caption) > 0; }));
             const auto start = std::chrono::steady_clock::now();
-            EXPECT_EQ(times(programme, caption), 1) << "its real window and its early one are one program";
+            EXPECT_EQ(times(programs, caption), 1) << "its real window and its early one are one program";
             EXPECT_LT(std::chrono::steady_clock::now() - start, 2s);
         }
-        EXPECT_TRUE(comesTrue([&] { return times(programme, caption) == 0; }));
+        EXPECT_TRUE(comesTrue([&] { return times(programs, caption) == 0; }));
     }
 }
 
 TEST(RunningPrograms, TheSecondCopyAsks)
 {
     FakePorts world;
-    WindowsLaufendeProgramme programme;
-    const Ports ports = {world.meldungen, world.uhr, world.umgebung,       world.dateien,           world.laufwerke,
-                         world.drucker,   programme, world.zwischenablage, world.standardanwendung, world.fortschritt};
-    programme.eigenerTitel(EIGENER);
+    WindowsRunningPrograms programs;
+    const Ports ports = {
+        world.boxes, world.clock,     world.environment,        world.files,   world.drives, world.printers,
+        programs,    world.clipboard, world.defaultApplication, world.progress};
+    programs.ownTitle(OWN);
     EXPECT_TRUE(CheckAlreadyRunning(ports));
     EXPECT_FALSE(CheckSiblingsRunning(ports));
 
     const OtherProgram other("W:\\werk.mdb    Quelvarn Version 2.0.0");
-    ASSERT_TRUE(comesTrue([&] { return laufendeKopien(ports) == 2; }));
-    world.meldungen.erwarte("'Quelvarn' ist bereits gestartet",
-                            "'Quelvarn' ist bereits gestartet!\n\nMöchten Sie 'Quelvarn' erneut öffnen?.",
-                            Antwort::Nein);
+    ASSERT_TRUE(comesTrue([&] { return runningCopies(ports) == 2; }));
+    world.boxes.expect("'Quelvarn' ist bereits gestartet",
+                       "'Quelvarn' ist bereits gestartet!\n\nMöchten Sie 'Quelvarn' erneut öffnen?.", Answer::No);
     EXPECT_FALSE(CheckAlreadyRunning(ports));
 }

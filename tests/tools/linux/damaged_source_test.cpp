@@ -8,8 +8,8 @@
 namespace quelvarn::test {
 namespace {
 
-constexpr std::size_t SEITE = 4096;
-constexpr char DATENSEITE = 1; // First byte of a page with rows.
+constexpr std::size_t SIDE = 4096;
+constexpr char DATA_PAGE = 1; // First byte of a page with rows.
 
 // Root may write everywhere: for a while its files are opened as by somebody else.
 class WithoutRootsRights
@@ -26,55 +26,55 @@ public:
     WithoutRootsRights& operator=(const WithoutRootsRights&) = delete;
 };
 
-TEST_F(ImportDerProbe, RefusesADamagedFileWhereverItIsDamaged)
+TEST_F(ImportOfTheSample, RefusesADamagedFileWhereverItIsDamaged)
 {
-    erwarteAbsage(std::string_view(inhalt_).substr(0, inhalt_.size() - 100), "ist abgeschnitten");
-    for (std::size_t seiten = 1; seiten < inhalt_.size() / SEITE - 1; seiten += 97)
-        erwarteAbsage(std::string_view(inhalt_).substr(0, seiten * SEITE), "Access-Datei ist");
-    int versuche = 0;
-    for (std::size_t seite = 20; seite < inhalt_.size() / SEITE; seite += 67) {
-        if (inhalt_[seite * SEITE] != DATENSEITE)
+    expectRefusal(std::string_view(content_).substr(0, content_.size() - 100), "ist abgeschnitten");
+    for (std::size_t pages = 1; pages < content_.size() / SIDE - 1; pages += 97)
+        expectRefusal(std::string_view(content_).substr(0, pages * SIDE), "Access-Datei ist");
+    int attempts = 0;
+    for (std::size_t page = 20; page < content_.size() / SIDE; page += 67) {
+        if (content_[page * SIDE] != DATA_PAGE)
             continue;
-        std::string beschaedigt = inhalt_;
-        std::fill_n(beschaedigt.begin() + static_cast<std::ptrdiff_t>(seite * SEITE), SEITE, '\0');
-        erwarteAbsage(beschaedigt, "Access-Datei ist beschädigt");
-        ++versuche;
+        std::string damaged = content_;
+        std::fill_n(damaged.begin() + static_cast<std::ptrdiff_t>(page * SIDE), SIDE, '\0');
+        expectRefusal(damaged, "Access-Datei ist beschädigt");
+        ++attempts;
     }
-    EXPECT_GT(versuche, 5);
+    EXPECT_GT(attempts, 5);
 }
 
-TEST_F(ImportDerProbe, RefusesADatabaseOfAnotherKind)
+TEST_F(ImportOfTheSample, RefusesADatabaseOfAnotherKind)
 {
     using namespace std::string_view_literals;
-    const std::string fremd = replaceAll(inhalt_, "I\0n\0i\0"sv, "X\0y\0z\0"sv); // In the catalog.
-    ASSERT_NE(fremd, inhalt_);
-    erwarteAbsage(fremd, "ist kein Register dieses Programms: die Tabelle Ini fehlt");
+    const std::string fremd = replaceAll(content_, "I\0n\0i\0"sv, "X\0y\0z\0"sv); // In the catalog.
+    ASSERT_NE(fremd, content_);
+    expectRefusal(fremd, "ist kein Register dieses Programms: die Tabelle Ini fehlt");
 }
 
-TEST_F(ImportDerProbe, LeavesNothingInAFolderThatMayNotBeWritten)
+TEST_F(ImportOfTheSample, LeavesNothingInAFolderThatMayNotBeWritten)
 {
-    std::filesystem::copy_file(PROBE, quelle_);
-    std::filesystem::create_directory(ordner_ / "nurlesen");
-    std::filesystem::permissions(ordner_ / "nurlesen", std::filesystem::perms(0555));
+    std::filesystem::copy_file(PROBE, source_);
+    std::filesystem::create_directory(folder_ / "nurlesen");
+    std::filesystem::permissions(folder_ / "nurlesen", std::filesystem::perms(0555));
     const WithoutRootsRights stranger;
-    test::erwarteAbsage({"import", pfad(quelle_), pfad(ordner_ / "nurlesen/ziel.qv")},
-                        "lässt sich nicht anlegen: In den Ordner", ordner_ / "nurlesen");
+    test::expectRefusal({"import", path(source_), path(folder_ / "nurlesen/ziel.qv")},
+                        "lässt sich nicht anlegen: In den Ordner", folder_ / "nurlesen");
 }
 
-class BeschaedigteQuelle : public Befehle
+class DamagedSource : public Commands
 {};
-INSTANTIATE_TEST_SUITE_P(Engines, BeschaedigteQuelle, eigeneEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, DamagedSource, ownEngines, engineName);
 
-TEST_P(BeschaedigteQuelle, KeepsTheOldRegisterWhenReplacingItFails)
+TEST_P(DamagedSource, KeepsTheOldRegisterWhenReplacingItFails)
 {
-    ASSERT_EQ(rufe({"sample", ziel_, "--documents", "100"}).ergebnis, tools::GUT);
-    const std::string vorher = rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus;
-    const auto abgeschnitten = ordner_ / "quelle.mdb";
-    std::filesystem::copy_file(PROBE, abgeschnitten);
-    std::filesystem::resize_file(abgeschnitten, 1930 * SEITE); // Only pages of the last tables are missing.
-    EXPECT_EQ(rufe({"import", pfad(abgeschnitten), ziel_, "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
-    EXPECT_EQ(rufe({"query", ziel_, "Select * From PartTabelle Order By DokuBez, RevBez"}).aus, vorher);
-    EXPECT_EQ(rufe({"check", ziel_}).ergebnis, tools::GUT);
+    ASSERT_EQ(runCommand({"sample", target_, "--documents", "100"}).result, tools::GOOD);
+    const std::string before = runCommand({"query", target_, "Select * From PartTabelle Order By DokuBez, RevBez"}).out;
+    const auto cut = folder_ / "quelle.mdb";
+    std::filesystem::copy_file(PROBE, cut);
+    std::filesystem::resize_file(cut, 1930 * SIDE); // Only pages of the last tables are missing.
+    EXPECT_EQ(runCommand({"import", path(cut), target_, "--ersetzen"}).result, tools::FAILED);
+    EXPECT_EQ(runCommand({"query", target_, "Select * From PartTabelle Order By DokuBez, RevBez"}).out, before);
+    EXPECT_EQ(runCommand({"check", target_}).result, tools::GOOD);
 }
 
 } // namespace

@@ -14,55 +14,55 @@ namespace {
 using namespace std::chrono_literals;
 
 // Reads to the end and returns the contents, or what was said instead.
-std::string ausgang(const Leseprozess::Arbeit& arbeit)
+std::string outcome(const ReaderProcess::Work& work)
 {
-    std::string gelesen;
+    std::string read;
     try {
-        Leseprozess prozess(arbeit, 300ms);
-        for (Nachricht n = prozess.naechste(); n.art != Nachrichtenart::Ende; n = prozess.naechste())
-            gelesen += n.inhalt;
-    } catch (const Laufzeitfehler& fehler) {
-        return fehler.what();
+        ReaderProcess process(work, 300ms);
+        for (Packet n = process.next(); n.kind != PacketKind::End; n = process.next())
+            read += n.content;
+    } catch (const RuntimeError& fault) {
+        return fault.what();
     }
-    return gelesen;
+    return read;
 }
 
-TEST(Leseprozess, HandsMessagesOverWhole)
+TEST(ReaderProcess, HandsMessagesOverWhole)
 {
-    const std::string gross(5U << 20, 'x');
-    EXPECT_EQ(ausgang([&](Sender& sender) {
-                  sender.sende(Nachrichtenart::Zeilen, "a");
-                  sender.sende(Nachrichtenart::Zeilen, "");
-                  sender.sende(Nachrichtenart::Zeilen, gross);
+    const std::string large(5U << 20, 'x');
+    EXPECT_EQ(outcome([&](Sender& sender) {
+                  sender.send(PacketKind::Rows, "a");
+                  sender.send(PacketKind::Rows, "");
+                  sender.send(PacketKind::Rows, large);
               }),
-              "a" + gross);
+              "a" + large);
 }
 
-TEST(Leseprozess, TurnsWhateverGoesWrongIntoOneSentence)
+TEST(ReaderProcess, TurnsWhateverGoesWrongIntoOneSentence)
 {
-    const auto enthaelt = [](const std::string& text, std::string_view teil) {
-        EXPECT_NE(text.find(teil), std::string::npos) << text;
+    const auto contains = [](const std::string& text, std::string_view part) {
+        EXPECT_NE(text.find(part), std::string::npos) << text;
     };
-    enthaelt(ausgang([](Sender&) { throw werkzeugfehler("Die Seite fehlt."); }), "Die Seite fehlt.");
-    enthaelt(ausgang([](Sender&) { raise(SIGKILL); }), "gescheitert");
-    enthaelt(ausgang([](Sender&) { _exit(0); }), "gescheitert");
-    enthaelt(ausgang([](Sender&) { std::this_thread::sleep_for(1h); }), "kommt seit 1 Sekunden nicht voran");
-    enthaelt(ausgang([](Sender& sender) {
+    contains(outcome([](Sender&) { throw toolFault("Die Seite fehlt."); }), "Die Seite fehlt.");
+    contains(outcome([](Sender&) { raise(SIGKILL); }), "gescheitert");
+    contains(outcome([](Sender&) { _exit(0); }), "gescheitert");
+    contains(outcome([](Sender&) { std::this_thread::sleep_for(1h); }), "kommt seit 1 Sekunden nicht voran");
+    contains(outcome([](Sender& sender) {
                  // A length beyond every bound.
-                 sender.sende(Nachrichtenart::Zeilen, "a");
+                 sender.send(PacketKind::Rows, "a");
                  (void)!write(3, "\xFF\xFF\xFF\xFFR", 5);
                  std::this_thread::sleep_for(1h);
              }),
              "gescheitert");
 }
 
-TEST(Leseprozess, KeepsNothingOfTheParentOpen)
+TEST(ReaderProcess, KeepsNothingOfTheParentOpen)
 {
-    EXPECT_EQ(ausgang([](Sender& sender) {
-                  int offene = 0;
-                  for (int kanal = 4; kanal < 64; ++kanal)
-                      offene += lseek(kanal, 0, SEEK_CUR) >= 0 || errno != EBADF ? 1 : 0;
-                  sender.sende(Nachrichtenart::Zeilen, std::to_string(offene));
+    EXPECT_EQ(outcome([](Sender& sender) {
+                  int open = 0;
+                  for (int channel = 4; channel < 64; ++channel)
+                      open += lseek(channel, 0, SEEK_CUR) >= 0 || errno != EBADF ? 1 : 0;
+                  sender.send(PacketKind::Rows, std::to_string(open));
               }),
               "0");
 }
@@ -70,7 +70,7 @@ TEST(Leseprozess, KeepsNothingOfTheParentOpen)
 TEST(JetText, DecodesPlainAndCompressedTexts)
 {
     using namespace std::string_view_literals;
-    const std::pair<std::string_view, std::string_view> faelle[] = {
+    const std::pair<std::string_view, std::string_view> cases[] = {
         {""sv, ""},
         {"A\0\xFC\0"sv, "Aü"},
         {"\xFF\xFE"
@@ -84,10 +84,10 @@ TEST(JetText, DecodesPlainAndCompressedTexts)
         {"\x3D\xD8!\0"sv, "\uFFFD!"},
         {"A\0B"sv, "A"}, // Half a character at the end.
     };
-    for (const auto& [bytes, erwartet] : faelle) {
+    for (const auto& [bytes, expected] : cases) {
         std::string utf8 = "alt";
-        dekodiereJet4(bytes, utf8);
-        EXPECT_EQ(utf8, erwartet);
+        decodeJet4(bytes, utf8);
+        EXPECT_EQ(utf8, expected);
     }
 }
 

@@ -49,12 +49,12 @@ class Replacing : public ::testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_EQ(rufe({"sample", target(), "--documents", "500"}).ergebnis, tools::GUT);
+        ASSERT_EQ(runCommand({"sample", target(), "--documents", "500"}).result, tools::GOOD);
         documents_ = documents();
     }
 
-    std::string target() const { return pfad(file_); }
-    std::string documents() const { return rufe({"query", target(), "Select * From PartTabelle"}).aus; }
+    std::string target() const { return path(file_); }
+    std::string documents() const { return runCommand({"query", target(), "Select * From PartTabelle"}).out; }
     std::filesystem::path beside(const std::string& suffix) const { return std::filesystem::path(file_) += suffix; }
 
     // A program that is killed while it writes: half of it stands in the file, the way back in the journal.
@@ -83,24 +83,24 @@ TEST_F(Replacing, LosesNothingOfARegisterWhoseWriterBrokeDownWhereverItIsKilled)
     letAWriterBreakDown();
     const int signal = inAProcessOfItsOwn([&] {
         killedAtRename = true;
-        rufe({"create", target(), "--ersetzen"});
+        runCommand({"create", target(), "--ersetzen"});
     });
     ASSERT_EQ(signal, SIGKILL);
-    EXPECT_EQ(eintraege(folder_.path()), 2U) << "what was begun is still there";
+    EXPECT_EQ(entries(folder_.path()), 2U) << "what was begun is still there";
     EXPECT_EQ(documents(), documents_);
-    EXPECT_EQ(rufe({"check", target()}).ergebnis, tools::GUT);
+    EXPECT_EQ(runCommand({"check", target()}).result, tools::GOOD);
 
     letAWriterBreakDown();
-    ASSERT_EQ(rufe({"create", target(), "--ersetzen"}).ergebnis, tools::GUT);
-    EXPECT_EQ(eintraege(folder_.path()), 1U) << "neither the journal nor the draft of the killed run is left";
-    EXPECT_EQ(rufe({"check", target(), "--streng"}).ergebnis, tools::GUT);
+    ASSERT_EQ(runCommand({"create", target(), "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(entries(folder_.path()), 1U) << "neither the journal nor the draft of the killed run is left";
+    EXPECT_EQ(runCommand({"check", target(), "--streng"}).result, tools::GOOD);
 }
 
 TEST_F(Replacing, LeavesTheWayBackToARegisterThatIsNotReplacedAfterAll)
 {
     letAWriterBreakDown();
-    schreibe(folder_ / "quelle.mdb", lies(PROBE).substr(0, 1930 * 4096)); // Only pages of the last tables are missing.
-    ASSERT_EQ(rufe({"import", pfad(folder_ / "quelle.mdb"), target(), "--ersetzen"}).ergebnis, tools::FEHLGESCHLAGEN);
+    write(folder_ / "quelle.mdb", lies(PROBE).substr(0, 1930 * 4096)); // Only pages of the last tables are missing.
+    ASSERT_EQ(runCommand({"import", path(folder_ / "quelle.mdb"), target(), "--ersetzen"}).result, tools::FAILED);
     EXPECT_EQ(documents(), documents_);
 }
 
@@ -111,14 +111,14 @@ TEST_F(Replacing, FollowsALinkToTheRegisterBehindIt)
     std::filesystem::create_symlink("../zweiter.qv", link);
     std::filesystem::create_symlink("register.qv", folder_ / "zweiter.qv");
     letAWriterBreakDown();
-    ASSERT_EQ(rufe({"create", pfad(link), "--ersetzen"}).ergebnis, tools::GUT);
+    ASSERT_EQ(runCommand({"create", path(link), "--ersetzen"}).result, tools::GOOD);
     EXPECT_TRUE(std::filesystem::is_symlink(link));
-    EXPECT_EQ(rufe({"query", target(), "Select Count(*) From PartTabelle"}).aus, "Anzahl\n0\n");
+    EXPECT_EQ(runCommand({"query", target(), "Select Count(*) From PartTabelle"}).out, "Anzahl\n0\n");
     std::filesystem::remove(file_);
-    ASSERT_EQ(rufe({"create", pfad(link)}).ergebnis, tools::GUT) << "a link to nothing yet";
+    ASSERT_EQ(runCommand({"create", path(link)}).result, tools::GOOD) << "a link to nothing yet";
     EXPECT_TRUE(std::filesystem::is_regular_file(file_));
-    EXPECT_EQ(eintraege(folder_ / "hier"), 1U);
-    EXPECT_EQ(eintraege(folder_.path()), 3U);
+    EXPECT_EQ(entries(folder_ / "hier"), 1U);
+    EXPECT_EQ(entries(folder_.path()), 3U);
 }
 
 TEST_F(Replacing, RemovesWhatKilledRunsLeftAndNothingElse)
@@ -129,21 +129,21 @@ TEST_F(Replacing, RemovesWhatKilledRunsLeftAndNothingElse)
         fmt::format(".neu-{}", getppid()),    ".neu-", ".neu-7x", ".neu--7", "2.neu-999999999",
         fmt::format(".neu-{}.sicher", NOBODY)};
     for (const std::string& name : left)
-        schreibe(beside(name), "angefangen");
+        write(beside(name), "angefangen");
     for (const std::string& name : others)
-        schreibe(beside(name), "fremd");
+        write(beside(name), "fremd");
     // Made by a process of another computer, which has the file open.
     const std::string elsewhere = fmt::format(".neu-{}", NOBODY - 2);
-    const auto writer = oeffneSqlite(beside(elsewhere), true);
-    writer->beginne();
-    writer->legeTabelleAn({"Tafel", {{"Wort", FeldTyp::Text}}, {}});
-    ASSERT_EQ(rufe({"create", target(), "--ersetzen"}).ergebnis, tools::GUT);
+    const auto writer = openSqlite(beside(elsewhere), true);
+    writer->begin();
+    writer->createTable({"Tafel", {{"Wort", FieldType::Text}}, {}});
+    ASSERT_EQ(runCommand({"create", target(), "--ersetzen"}).result, tools::GOOD);
     for (const std::string& name : left)
         EXPECT_FALSE(std::filesystem::exists(beside(name))) << name;
     for (const std::string& name : others)
         EXPECT_EQ(lies(beside(name)), "fremd") << name;
-    writer->schliesseAb();
-    EXPECT_EQ(writer->tabellen().size(), 1U);
+    writer->commit();
+    EXPECT_EQ(writer->tables().size(), 1U);
 }
 
 TEST_F(Replacing, WaitsForOthersAndKeepsThemOut)
@@ -158,10 +158,10 @@ TEST_F(Replacing, WaitsForOthersAndKeepsThemOut)
         return FaultKind::Other;
     };
     {
-        const auto other = oeffneSqlite(file_, false);
+        const auto other = openSqlite(file_, false);
         sql::Select all;
-        all.tabelle = "PartTabelle";
-        const auto rows = other->lese(all, MitSchluessel::Nein);
+        all.table = "PartTabelle";
+        const auto rows = other->read(all, WithKey::No);
         ASSERT_TRUE(rows->next());
         EXPECT_EQ(kindOf(file_), FaultKind::Locked) << "while another one reads";
     }
@@ -169,10 +169,10 @@ TEST_F(Replacing, WaitsForOthersAndKeepsThemOut)
         const ExclusiveFile held(file_, 20ms);
         EXPECT_EQ(kindOf(file_), FaultKind::Locked) << "while another one replaces it";
     }
-    schreibe(folder_ / "unsinn.qv", std::string("SQLite format 3\0", 16) + std::string(5000, 'x'));
+    write(folder_ / "unsinn.qv", std::string("SQLite format 3\0", 16) + std::string(5000, 'x'));
     EXPECT_EQ(kindOf(folder_ / "unsinn.qv"), FaultKind::Damaged);
-    EXPECT_EQ(rufe({"create", pfad(folder_ / "unsinn.qv"), "--ersetzen"}).ergebnis, tools::GUT);
-    EXPECT_EQ(rufe({"check", pfad(folder_ / "unsinn.qv"), "--streng"}).ergebnis, tools::GUT);
+    EXPECT_EQ(runCommand({"create", path(folder_ / "unsinn.qv"), "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"check", path(folder_ / "unsinn.qv"), "--streng"}).result, tools::GOOD);
 }
 
 } // namespace

@@ -8,20 +8,20 @@
 namespace quelvarn::test {
 namespace {
 
-TEST(Ersetzen, LeavesARegisterAloneThatAProgramHasOpen)
+TEST(Replace, LeavesARegisterAloneThatAProgramHasOpen)
 {
-    TempFolder ordner;
-    const std::string ziel = pfad(ordner / "Büro Süd.qv");
-    ASSERT_EQ(rufe({"sample", ziel, "--documents", "20"}).ergebnis, tools::GUT);
-    const std::string vorher = rufe({"query", ziel, "Select * From PartTabelle"}).aus;
-    auto offen = oeffneSqlite(ordner / "Büro Süd.qv", false);
-    const Aufruf versuch = rufe({"create", ziel, "--ersetzen"});
-    EXPECT_EQ(versuch.ergebnis, tools::FEHLGESCHLAGEN);
-    EXPECT_NE(versuch.meldungen.find("Büro Süd.qv' lässt sich nicht ersetzen"), std::string::npos) << versuch.meldungen;
-    EXPECT_EQ(rufe({"query", ziel, "Select * From PartTabelle"}).aus, vorher);
-    offen.reset();
-    EXPECT_EQ(rufe({"create", ziel, "--ersetzen"}).ergebnis, tools::GUT);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner.path()), {}), 1);
+    TempFolder folder;
+    const std::string target = path(folder / "Büro Süd.qv");
+    ASSERT_EQ(runCommand({"sample", target, "--documents", "20"}).result, tools::GOOD);
+    const std::string before = runCommand({"query", target, "Select * From PartTabelle"}).out;
+    auto open = openSqlite(folder / "Büro Süd.qv", false);
+    const Call attempt = runCommand({"create", target, "--ersetzen"});
+    EXPECT_EQ(attempt.result, tools::FAILED);
+    EXPECT_NE(attempt.log.find("Büro Süd.qv' lässt sich nicht ersetzen"), std::string::npos) << attempt.log;
+    EXPECT_EQ(runCommand({"query", target, "Select * From PartTabelle"}).out, before);
+    open.reset();
+    EXPECT_EQ(runCommand({"create", target, "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 
 } // namespace

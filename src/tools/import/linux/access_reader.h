@@ -9,7 +9,7 @@
 namespace quelvarn::tools {
 
 // Reads the wanted tables of an Access file with libmdb and sends its catalog and then every row. Runs in the
-// reading process: the library trusts its input. Throws Laufzeitfehler where the file is damaged.
-void liesAccessDatei(const std::filesystem::path& datei, std::span<const std::string> gewuenscht, Sender& sender);
+// reading process: the library trusts its input. Throws RuntimeError where the file is damaged.
+void readAccessFile(const std::filesystem::path& file, std::span<const std::string> wanted, Sender& sender);
 
 } // namespace quelvarn::tools

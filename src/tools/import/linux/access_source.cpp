@@ -6,42 +6,42 @@
 
 namespace quelvarn::tools {
 
-struct AccessQuelle::Leser : Leseprozess
+struct AccessSource::Reader : ReaderProcess
 {
-    using Leseprozess::Leseprozess;
+    using ReaderProcess::ReaderProcess;
 };
 
-AccessQuelle::AccessQuelle(const std::filesystem::path& datei, std::span<const std::string> gewuenscht,
-                           std::chrono::milliseconds frist)
+AccessSource::AccessSource(const std::filesystem::path& file, std::span<const std::string> wanted,
+                           std::chrono::milliseconds deadline)
 {
-    pruefeAccessKopf(datei);
-    leser_ = std::make_unique<Leser>([&](Sender& sender) { liesAccessDatei(datei, gewuenscht, sender); }, frist);
-    katalog_ = Entpacker(leser_->naechste().inhalt).katalog();
+    checkAccessHeader(file);
+    reader_ = std::make_unique<Reader>([&](Sender& sender) { readAccessFile(file, wanted, sender); }, deadline);
+    catalog_ = Unpacker(reader_->next().content).catalog();
 }
 
-AccessQuelle::~AccessQuelle() = default;
+AccessSource::~AccessSource() = default;
 
-void AccessQuelle::lies(const std::function<void(const Quelltabelle&)>& tabelle,
-                        const std::function<void(std::span<const Zelle>)>& zeile)
+void AccessSource::lies(const std::function<void(const SourceTable&)>& table,
+                        const std::function<void(std::span<const Cell>)>& row)
 {
-    std::vector<Zelle> zellen;
+    std::vector<Cell> cells;
     for (;;) {
-        const Nachricht nachricht = leser_->naechste();
-        Entpacker inhalt(nachricht.inhalt);
-        switch (nachricht.art) {
-        case Nachrichtenart::Ende:
+        const Packet packet = reader_->next();
+        Unpacker content(packet.content);
+        switch (packet.kind) {
+        case PacketKind::End:
             return;
-        case Nachrichtenart::Tabelle: {
-            const Quelltabelle& naechste = katalog_.tabellen.at(inhalt.zahl32());
-            zellen.assign(naechste.spalten.size(), {});
-            tabelle(naechste);
+        case PacketKind::Table: {
+            const SourceTable& next = catalog_.tables.at(content.number32());
+            cells.assign(next.columns.size(), {});
+            table(next);
             break;
         }
         default:
-            while (!inhalt.leer() && !zellen.empty()) {
-                for (Zelle& zelle : zellen)
-                    zelle = inhalt.zelle();
-                zeile(zellen);
+            while (!content.empty() && !cells.empty()) {
+                for (Cell& cell : cells)
+                    cell = content.cell();
+                row(cells);
             }
         }
     }

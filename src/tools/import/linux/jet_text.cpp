@@ -8,30 +8,30 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::string_view KOMPRIMIERT = "\xFF\xFE";
-constexpr char16_t HOHE_HAELFTE = 0xD800;
-constexpr char16_t NIEDRIGE_HAELFTE = 0xDC00;
-constexpr char16_t HINTER_DEN_HAELFTEN = 0xE000;
-constexpr char32_t ERSATZ = 0xFFFD;
+constexpr std::string_view COMPRESSED = "\xFF\xFE";
+constexpr char16_t HIGH_HALF = 0xD800;
+constexpr char16_t LOW_HALF = 0xDC00;
+constexpr char16_t BEHIND_THE_HALVES = 0xE000;
+constexpr char32_t REPLACEMENT = 0xFFFD;
 
-char16_t zeichenBei(std::string_view bytes, std::size_t stelle)
+char16_t characterAt(std::string_view bytes, std::size_t position)
 {
-    return static_cast<char16_t>(static_cast<std::uint8_t>(bytes[stelle]) |
-                                 (static_cast<std::uint8_t>(bytes[stelle + 1]) << 8));
+    return static_cast<char16_t>(static_cast<std::uint8_t>(bytes[position]) |
+                                 (static_cast<std::uint8_t>(bytes[position + 1]) << 8));
 }
 
 // A zero byte switches between one and two bytes a character.
-void entpacke(std::string_view bytes, std::u16string& zeichen)
+void unpack(std::string_view bytes, std::u16string& character)
 {
-    bool einByte = true;
+    bool oneByte = true;
     for (std::size_t i = 0; i < bytes.size();) {
         if (bytes[i] == '\0') {
-            einByte = !einByte;
+            oneByte = !oneByte;
             ++i;
-        } else if (einByte) {
-            zeichen += static_cast<std::uint8_t>(bytes[i++]);
+        } else if (oneByte) {
+            character += static_cast<std::uint8_t>(bytes[i++]);
         } else if (i + 1 < bytes.size()) {
-            zeichen += zeichenBei(bytes, i);
+            character += characterAt(bytes, i);
             i += 2;
         } else {
             break;
@@ -41,26 +41,26 @@ void entpacke(std::string_view bytes, std::u16string& zeichen)
 
 } // namespace
 
-void dekodiereJet4(std::string_view bytes, std::string& utf8)
+void decodeJet4(std::string_view bytes, std::string& utf8)
 {
     utf8.clear();
-    thread_local std::u16string zeichen;
-    zeichen.clear();
-    if (bytes.starts_with(KOMPRIMIERT)) {
-        entpacke(bytes.substr(KOMPRIMIERT.size()), zeichen);
+    thread_local std::u16string character;
+    character.clear();
+    if (bytes.starts_with(COMPRESSED)) {
+        unpack(bytes.substr(COMPRESSED.size()), character);
     } else {
         for (std::size_t i = 0; i + 1 < bytes.size(); i += 2)
-            zeichen += zeichenBei(bytes, i);
+            character += characterAt(bytes, i);
     }
-    for (std::size_t i = 0; i < zeichen.size(); ++i) {
-        const char16_t z = zeichen[i];
-        if (z < HOHE_HAELFTE || z >= HINTER_DEN_HAELFTEN) {
+    for (std::size_t i = 0; i < character.size(); ++i) {
+        const char16_t z = character[i];
+        if (z < HIGH_HALF || z >= BEHIND_THE_HALVES) {
             appendUtf8(utf8, z);
-        } else if (z < NIEDRIGE_HAELFTE && i + 1 < zeichen.size() && zeichen[i + 1] >= NIEDRIGE_HAELFTE &&
-                   zeichen[i + 1] < HINTER_DEN_HAELFTEN) {
-            appendUtf8(utf8, 0x10000 + ((char32_t{z} - HOHE_HAELFTE) << 10) + (zeichen[++i] - NIEDRIGE_HAELFTE));
+        } else if (z < LOW_HALF && i + 1 < character.size() && character[i + 1] >= LOW_HALF &&
+                   character[i + 1] < BEHIND_THE_HALVES) {
+            appendUtf8(utf8, 0x10000 + ((char32_t{z} - HIGH_HALF) << 10) + (character[++i] - LOW_HALF));
         } else {
-            appendUtf8(utf8, ERSATZ);
+            appendUtf8(utf8, REPLACEMENT);
         }
     }
 }

@@ -8,6 +8,6 @@ namespace quelvarn::tools {
 
 // A text as Access 2000 and later store it, as UTF-8: UTF-16, or compressed to one byte a character where the
 // bytes begin with FF FE. Half a surrogate pair becomes U+FFFD.
-void dekodiereJet4(std::string_view bytes, std::string& utf8);
+void decodeJet4(std::string_view bytes, std::string& utf8);
 
 } // namespace quelvarn::tools

@@ -18,165 +18,164 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::size_t PUFFER = 1U << 20;
-constexpr int PIPE_DES_KINDES = 3;
-constexpr auto BLICK_AUF_ABBRUCH = std::chrono::milliseconds(200);
+constexpr std::size_t BUFFER = 1U << 20;
+constexpr int PIPE_OF_THE_CHILD = 3;
+constexpr auto LOOK_FOR_CANCEL = std::chrono::milliseconds(200);
 
 // The reading process keeps nothing of ours but the pipe: no database, no terminal. Its memory is limited,
 // since a damaged file may ask for any amount.
-void richteKindEin(int pipe, pid_t eltern)
+void setUpChild(int pipe, pid_t parent)
 {
     std::signal(SIGINT, SIG_IGN); // The parent decides.
     std::signal(SIGTERM, SIG_DFL);
     std::signal(SIGPIPE, SIG_DFL);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (getppid() != eltern)
+    if (getppid() != parent)
         _exit(1);
-    const int nichts = open("/dev/null", O_RDWR);
-    for (int kanal = 0; kanal < PIPE_DES_KINDES; ++kanal)
-        dup2(nichts, kanal);
-    dup2(pipe, PIPE_DES_KINDES);
-    close_range(PIPE_DES_KINDES + 1, ~0U, 0);
-    const rlimit keinAbbild{0, 0};
-    setrlimit(RLIMIT_CORE, &keinAbbild);
+    const int nothing = open("/dev/null", O_RDWR);
+    for (int channel = 0; channel < PIPE_OF_THE_CHILD; ++channel)
+        dup2(nothing, channel);
+    dup2(pipe, PIPE_OF_THE_CHILD);
+    close_range(PIPE_OF_THE_CHILD + 1, ~0U, 0);
+    const rlimit noPicture{0, 0};
+    setrlimit(RLIMIT_CORE, &noPicture);
 #ifndef __SANITIZE_ADDRESS__ // Its shadow memory alone is larger.
-    const rlimit speicher{rlim_t{2} << 30, rlim_t{2} << 30};
-    setrlimit(RLIMIT_AS, &speicher);
+    const rlimit memory{rlim_t{2} << 30, rlim_t{2} << 30};
+    setrlimit(RLIMIT_AS, &memory);
 #endif
 }
 
-[[noreturn]] void laufeAlsKind(const Leseprozess::Arbeit& arbeit, int pipe, pid_t eltern)
+[[noreturn]] void runAsKind(const ReaderProcess::Work& work, int pipe, pid_t parent)
 {
-    richteKindEin(pipe, eltern);
-    Sender sender(PIPE_DES_KINDES);
+    setUpChild(pipe, parent);
+    Sender sender(PIPE_OF_THE_CHILD);
     try {
-        arbeit(sender);
-        sender.sende(Nachrichtenart::Ende, {});
-    } catch (const std::exception& fehler) {
-        sender.sende(Nachrichtenart::Fehler, fehler.what());
+        work(sender);
+        sender.send(PacketKind::End, {});
+    } catch (const std::exception& fault) {
+        sender.send(PacketKind::Fault, fault.what());
     }
     _exit(0); // No destructor of the parent's objects may run here.
 }
 
 } // namespace
 
-void Sender::sende(Nachrichtenart art, std::string_view inhalt)
+void Sender::send(PacketKind kind, std::string_view content)
 {
-    char kopf[5];
-    const auto laenge = static_cast<std::uint32_t>(inhalt.size());
-    std::memcpy(kopf, &laenge, sizeof laenge);
-    kopf[4] = static_cast<char>(art);
-    schreibe(kopf, sizeof kopf);
-    schreibe(inhalt.data(), inhalt.size());
+    char heading[5];
+    const auto length = static_cast<std::uint32_t>(content.size());
+    std::memcpy(heading, &length, sizeof length);
+    heading[4] = static_cast<char>(kind);
+    write(heading, sizeof heading);
+    write(content.data(), content.size());
 }
 
-void Sender::schreibe(const char* daten, std::size_t laenge) const
+void Sender::write(const char* data, std::size_t length) const
 {
-    while (laenge > 0) {
-        const ssize_t geschrieben = write(pipe_, daten, laenge);
-        if (geschrieben < 0 && errno == EINTR)
+    while (length > 0) {
+        const ssize_t written = ::write(pipe_, data, length);
+        if (written < 0 && errno == EINTR)
             continue;
-        if (geschrieben <= 0)
+        if (written <= 0)
             _exit(1);
-        daten += geschrieben;
-        laenge -= static_cast<std::size_t>(geschrieben);
+        data += written;
+        length -= static_cast<std::size_t>(written);
     }
 }
 
-Leseprozess::Leseprozess(const Arbeit& arbeit, std::chrono::milliseconds frist) : frist_(frist)
+ReaderProcess::ReaderProcess(const Work& work, std::chrono::milliseconds deadline) : deadline_(deadline)
 {
-    int enden[2];
-    if (pipe2(enden, O_CLOEXEC) != 0)
-        throw werkzeugfehler("Das System gibt keine Leitung zum Leseprozess her.");
-    const pid_t eltern = getpid();
-    prozess_ = fork();
-    if (prozess_ == 0)
-        laufeAlsKind(arbeit, enden[1], eltern);
-    close(enden[1]);
-    pipe_ = enden[0];
-    if (prozess_ < 0) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        throw toolFault("Das System gibt keine Leitung zum Leseprozess her.");
+    const pid_t parent = getpid();
+    process_ = fork();
+    if (process_ == 0)
+        runAsKind(work, ends[1], parent);
+    close(ends[1]);
+    pipe_ = ends[0];
+    if (process_ < 0) {
         close(pipe_);
-        throw werkzeugfehler("Das System startet keinen Leseprozess.");
+        throw toolFault("Das System startet keinen Leseprozess.");
     }
-    fcntl(pipe_, F_SETPIPE_SZ, static_cast<int>(PUFFER)); // Only quicker; the default does too.
-    puffer_.resize(PUFFER);
+    fcntl(pipe_, F_SETPIPE_SZ, static_cast<int>(BUFFER)); // Only quicker; the default does too.
+    buffer_.resize(BUFFER);
 }
 
-Leseprozess::~Leseprozess()
+ReaderProcess::~ReaderProcess()
 {
-    beende();
+    end();
     close(pipe_);
 }
 
-void Leseprozess::beende()
+void ReaderProcess::end()
 {
-    if (prozess_ <= 0)
+    if (process_ <= 0)
         return;
-    kill(prozess_, SIGKILL);
-    while (waitpid(prozess_, nullptr, 0) < 0 && errno == EINTR) {
+    kill(process_, SIGKILL);
+    while (waitpid(process_, nullptr, 0) < 0 && errno == EINTR) {
     }
-    prozess_ = -1;
+    process_ = -1;
 }
 
-Nachricht Leseprozess::naechste()
+Packet ReaderProcess::next()
 {
-    char kopf[5];
-    lies(kopf, sizeof kopf);
-    std::uint32_t laenge = 0;
-    std::memcpy(&laenge, kopf, sizeof laenge);
-    if (laenge > NACHRICHT_HOECHSTENS)
-        gescheitert();
-    nachricht_.resize(laenge);
-    lies(nachricht_.data(), laenge);
-    const auto art = static_cast<Nachrichtenart>(kopf[4]);
-    if (art == Nachrichtenart::Fehler)
-        throw werkzeugfehler(nachricht_);
-    return {art, nachricht_};
+    char heading[5];
+    lies(heading, sizeof heading);
+    std::uint32_t length = 0;
+    std::memcpy(&length, heading, sizeof length);
+    if (length > PACKET_LIMIT)
+        failed();
+    packet_.resize(length);
+    lies(packet_.data(), length);
+    const auto kind = static_cast<PacketKind>(heading[4]);
+    if (kind == PacketKind::Fault)
+        throw toolFault(packet_);
+    return {kind, packet_};
 }
 
-void Leseprozess::lies(char* ziel, std::size_t laenge)
+void ReaderProcess::lies(char* target, std::size_t length)
 {
-    while (laenge > 0) {
-        if (gelesen_ == gefuellt_)
-            fuelle();
-        const auto teil = std::min(laenge, gefuellt_ - gelesen_);
-        std::memcpy(ziel, puffer_.data() + gelesen_, teil);
-        gelesen_ += teil;
-        ziel += teil;
-        laenge -= teil;
+    while (length > 0) {
+        if (read_ == filled_)
+            fill();
+        const auto part = std::min(length, filled_ - read_);
+        std::memcpy(target, buffer_.data() + read_, part);
+        read_ += part;
+        target += part;
+        length -= part;
     }
 }
 
-void Leseprozess::fuelle()
+void ReaderProcess::fill()
 {
-    const auto ende = std::chrono::steady_clock::now() + frist_;
+    const auto end = std::chrono::steady_clock::now() + deadline_;
     for (;;) {
-        pruefeAbbruch();
-        const auto rest =
-            std::chrono::duration_cast<std::chrono::milliseconds>(ende - std::chrono::steady_clock::now());
+        checkCancel();
+        const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
         if (rest.count() <= 0)
-            throw werkzeugfehler(fmt::format("Die Access-Datei ist beschädigt: das Lesen kommt seit {} Sekunden nicht "
-                                             "voran und wurde beendet.",
-                                             std::max<std::int64_t>(1, frist_.count() / 1000)));
-        pollfd warten{pipe_, POLLIN, 0};
-        if (poll(&warten, 1, static_cast<int>(std::min(rest, BLICK_AUF_ABBRUCH).count())) <= 0)
+            throw toolFault(fmt::format("Die Access-Datei ist beschädigt: das Lesen kommt seit {} Sekunden nicht "
+                                        "voran und wurde beendet.",
+                                        std::max<std::int64_t>(1, deadline_.count() / 1000)));
+        pollfd wait{pipe_, POLLIN, 0};
+        if (poll(&wait, 1, static_cast<int>(std::min(rest, LOOK_FOR_CANCEL).count())) <= 0)
             continue;
-        const ssize_t anzahl = read(pipe_, puffer_.data(), puffer_.size());
-        if (anzahl < 0 && errno == EINTR)
+        const ssize_t count = read(pipe_, buffer_.data(), buffer_.size());
+        if (count < 0 && errno == EINTR)
             continue;
-        if (anzahl <= 0)
-            gescheitert();
-        gelesen_ = 0;
-        gefuellt_ = static_cast<std::size_t>(anzahl);
+        if (count <= 0)
+            failed();
+        read_ = 0;
+        filled_ = static_cast<std::size_t>(count);
         return;
     }
 }
 
-void Leseprozess::gescheitert()
+void ReaderProcess::failed()
 {
-    beende();
-    throw werkzeugfehler("Die Access-Datei ist beschädigt: das Lesen ist daran gescheitert. "
-                         "Lassen Sie sie in Access komprimieren und reparieren.");
+    end();
+    throw toolFault("Die Access-Datei ist beschädigt: das Lesen ist daran gescheitert. "
+                    "Lassen Sie sie in Access komprimieren und reparieren.");
 }
 
 } // namespace quelvarn::tools

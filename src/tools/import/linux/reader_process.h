@@ -16,47 +16,47 @@ class Sender
 public:
     explicit Sender(int pipe) : pipe_(pipe) {}
     // Ends the process when nobody listens any more.
-    void sende(Nachrichtenart art, std::string_view inhalt);
+    void send(PacketKind kind, std::string_view content);
 
 private:
-    void schreibe(const char* daten, std::size_t laenge) const;
+    void write(const char* data, std::size_t length) const;
     int pipe_;
 };
 
-struct Nachricht
+struct Packet
 {
-    Nachrichtenart art = Nachrichtenart::Ende;
-    std::string_view inhalt; // Until the next one.
+    PacketKind kind = PacketKind::End;
+    std::string_view content; // Until the next one.
 };
 
 // Runs a function in a process of its own, which sends messages and may crash, hang or run wild without harm
-// to this one: each of these becomes one Laufzeitfehler. The process ends with this object.
-class Leseprozess
+// to this one: each of these becomes one RuntimeError. The process ends with this object.
+class ReaderProcess
 {
 public:
-    using Arbeit = std::function<void(Sender&)>;
+    using Work = std::function<void(Sender&)>;
 
-    // `frist`: so long may the process be silent.
-    Leseprozess(const Arbeit& arbeit, std::chrono::milliseconds frist);
-    ~Leseprozess();
-    Leseprozess(const Leseprozess&) = delete;
-    Leseprozess& operator=(const Leseprozess&) = delete;
+    // `deadline`: so long may the process be silent.
+    ReaderProcess(const Work& work, std::chrono::milliseconds deadline);
+    ~ReaderProcess();
+    ReaderProcess(const ReaderProcess&) = delete;
+    ReaderProcess& operator=(const ReaderProcess&) = delete;
 
-    Nachricht naechste();
+    Packet next();
 
 private:
-    void lies(char* ziel, std::size_t laenge);
-    void fuelle();
-    [[noreturn]] void gescheitert();
-    void beende();
+    void lies(char* target, std::size_t length);
+    void fill();
+    [[noreturn]] void failed();
+    void end();
 
-    int prozess_ = -1;
+    int process_ = -1;
     int pipe_ = -1;
-    std::chrono::milliseconds frist_;
-    std::string puffer_;
-    std::size_t gelesen_ = 0; // of the buffer
-    std::size_t gefuellt_ = 0;
-    std::string nachricht_;
+    std::chrono::milliseconds deadline_;
+    std::string buffer_;
+    std::size_t read_ = 0; // of the buffer
+    std::size_t filled_ = 0;
+    std::string packet_;
 };
 
 } // namespace quelvarn::tools

@@ -13,93 +13,92 @@ namespace quelvarn::tools {
 
 namespace {
 
-Spaltenart spaltenart(FeldTyp typ)
+ColumnKind columnKind(FieldType type)
 {
-    switch (typ) {
-    case FeldTyp::Ganzzahl:
-        return Spaltenart::Ganzzahl;
-    case FeldTyp::Gleitkomma:
-        return Spaltenart::Gleitkomma;
-    case FeldTyp::Datum:
-        return Spaltenart::Datum;
-    case FeldTyp::Text:
+    switch (type) {
+    case FieldType::Integer:
+        return ColumnKind::Integer;
+    case FieldType::FloatingPoint:
+        return ColumnKind::FloatingPoint;
+    case FieldType::Date:
+        return ColumnKind::Date;
+    case FieldType::Text:
         break;
     }
-    return Spaltenart::Text;
+    return ColumnKind::Text;
 }
 
-Quelltabelle beschreibung(const Tabellenschema& tabelle)
+SourceTable description(const TableSchema& table)
 {
-    Quelltabelle ergebnis{tabelle.name, {}, 0};
-    for (const Spalte& spalte : tabelle.spalten)
-        ergebnis.spalten.push_back({spalte.name, spaltenart(spalte.typ)});
-    return ergebnis;
+    SourceTable result{table.name, {}, 0};
+    for (const ColumnInfo& column : table.columns)
+        result.columns.push_back({column.name, columnKind(column.type)});
+    return result;
 }
 
 // A text of the reader stays where it is until its next row.
-Zelle zelleOf(const Zeilenleser& zeilen, std::size_t spalte)
+Cell cellOf(const RowReader& rows, std::size_t column)
 {
-    Zelle zelle;
-    if (zeilen.istNull(spalte))
-        return zelle;
-    const Value wert = zeilen.wert(spalte);
-    if (const auto* zahl = std::get_if<std::int64_t>(&wert)) {
-        zelle.art = Zellart::Ganzzahl;
-        zelle.ganzzahl = *zahl;
-    } else if (const auto* bruch = std::get_if<double>(&wert)) {
-        zelle.art = Zellart::Gleitkomma;
-        zelle.gleitkomma = *bruch;
-    } else if (const auto* zeit = std::get_if<Zeitpunkt>(&wert)) {
-        zelle.art = Zellart::Datum;
-        zelle.gleitkomma = zeit->alsTage();
+    Cell cell;
+    if (rows.isNull(column))
+        return cell;
+    const Value value = rows.value(column);
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
+        cell.kind = CellKind::Integer;
+        cell.integer = *number;
+    } else if (const auto* bruch = std::get_if<double>(&value)) {
+        cell.kind = CellKind::FloatingPoint;
+        cell.floatingPoint = *bruch;
+    } else if (const auto* time = std::get_if<DateTime>(&value)) {
+        cell.kind = CellKind::Date;
+        cell.floatingPoint = time->asDays();
     } else {
-        zelle.art = Zellart::Text;
-        zelle.text = zeilen.text(spalte);
+        cell.kind = CellKind::Text;
+        cell.text = rows.text(column);
     }
-    return zelle;
+    return cell;
 }
 
 } // namespace
 
-struct AccessQuelle::Leser
+struct AccessSource::Reader
 {
     std::shared_ptr<Engine> engine;
 };
 
-AccessQuelle::AccessQuelle(const std::filesystem::path& datei, std::span<const std::string> gewuenscht,
+AccessSource::AccessSource(const std::filesystem::path& file, std::span<const std::string> wanted,
                            std::chrono::milliseconds)
 {
-    pruefeAccessKopf(datei);
-    leser_ = std::make_unique<Leser>(Leser{oeffneAccess(datei)});
-    if (!leser_->engine)
-        throw werkzeugfehler(
-            "Auf diesem Rechner fehlt der ODBC-Treiber \"Microsoft Access Driver (*.mdb, *.accdb)\" in der "
-            "64-Bit-Fassung. Er kommt mit Access oder mit der \"Microsoft Access Database Engine\".");
-    for (const std::string& name : leser_->engine->tabellen()) {
-        const bool gesucht = std::ranges::any_of(gewuenscht, [&](const auto& w) { return equalText(w, name); });
-        const auto tabelle = gesucht ? leser_->engine->findTabelle(name) : std::nullopt;
-        if (tabelle)
-            katalog_.tabellen.push_back(beschreibung(*tabelle));
+    checkAccessHeader(file);
+    reader_ = std::make_unique<Reader>(Reader{openAccess(file)});
+    if (!reader_->engine)
+        throw toolFault("Auf diesem Rechner fehlt der ODBC-Treiber \"Microsoft Access Driver (*.mdb, *.accdb)\" in der "
+                        "64-Bit-Fassung. Er kommt mit Access oder mit der \"Microsoft Access Database Engine\".");
+    for (const std::string& name : reader_->engine->tables()) {
+        const bool sought = std::ranges::any_of(wanted, [&](const auto& w) { return equalText(w, name); });
+        const auto table = sought ? reader_->engine->findTable(name) : std::nullopt;
+        if (table)
+            catalog_.tables.push_back(description(*table));
         else if (!name.starts_with('~')) // Leavings of a table that is being deleted.
-            katalog_.uebrige.push_back(name);
+            catalog_.remaining.push_back(name);
     }
 }
 
-AccessQuelle::~AccessQuelle() = default;
+AccessSource::~AccessSource() = default;
 
-void AccessQuelle::lies(const std::function<void(const Quelltabelle&)>& tabelle,
-                        const std::function<void(std::span<const Zelle>)>& zeile)
+void AccessSource::lies(const std::function<void(const SourceTable&)>& table,
+                        const std::function<void(std::span<const Cell>)>& row)
 {
-    std::vector<Zelle> zellen;
-    for (const Quelltabelle& naechste : katalog_.tabellen) {
-        tabelle(naechste);
-        zellen.assign(naechste.spalten.size(), {});
-        sql::Select alles;
-        alles.tabelle = naechste.name;
-        for (const auto zeilen = leser_->engine->lese(alles, MitSchluessel::Nein); zeilen->next();) {
-            for (std::size_t i = 0; i < zellen.size(); ++i)
-                zellen[i] = zelleOf(*zeilen, i);
-            zeile(zellen);
+    std::vector<Cell> cells;
+    for (const SourceTable& next : catalog_.tables) {
+        table(next);
+        cells.assign(next.columns.size(), {});
+        sql::Select everything;
+        everything.table = next.name;
+        for (const auto rows = reader_->engine->read(everything, WithKey::No); rows->next();) {
+            for (std::size_t i = 0; i < cells.size(); ++i)
+                cells[i] = cellOf(*rows, i);
+            row(cells);
         }
     }
 }

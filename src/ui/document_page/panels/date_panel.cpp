@@ -18,89 +18,88 @@
 
 namespace quelvarn {
 
-Datumspanel::Datumspanel(LinkeLeiste& modell)
-    : modell_(modell), OpErstAend_(new QButtonGroup(this)), ChAnwender_(neuesChAnwender()),
-      SliderTage_(neuerSliderTage()), LblTage_(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblTage"))),
-      LblZeitRaum_(beschriftung({}, Rolle::Kopf, QStringLiteral("LblZeitRaum")))
+DatePanel::DatePanel(LeftBar& model)
+    : model_(model), OpErstAend_(new QButtonGroup(this)), ChAnwender_(newChAnwender()), SliderTage_(newSliderTage()),
+      LblTage_(caption({}, TextRole::Caption, QStringLiteral("LblTage"))),
+      LblZeitRaum_(caption({}, TextRole::Heading, QStringLiteral("LblZeitRaum")))
 {
-    richtePanelEin(*this, "FrmFilternDatum");
+    setUpPanel(*this, "FrmFilternDatum");
     LblTage_->setMinimumWidth(LblTage_->fontMetrics().horizontalAdvance(QStringLiteral("365 Tage")));
-    auto* oben = new QHBoxLayout;
-    oben->addWidget(neuesFrmErstAend());
-    oben->addSpacing(12);
-    oben->addWidget(ChAnwender_);
-    oben->addStretch(1);
-    oben->addWidget(LblZeitRaum_);
-    auto* unten = new QHBoxLayout;
-    unten->addWidget(neuerKnopf("CmHeute", QStringLiteral("&Heute"), [this] { modell_.filter().heute(); }));
-    unten->addWidget(
-        neuerKnopf("CmNeu", QStringLiteral("&Zurückliegende Tage"), [this] { modell_.filter().letzteTage(); }));
-    unten->addSpacing(4);
-    unten->addWidget(SliderTage_, 1);
-    unten->addWidget(LblTage_);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(8, 8, 8, 8);
-    aufbau->setSpacing(6);
-    aufbau->addLayout(oben);
-    aufbau->addLayout(unten);
+    auto* above = new QHBoxLayout;
+    above->addWidget(newFrmErstAend());
+    above->addSpacing(12);
+    above->addWidget(ChAnwender_);
+    above->addStretch(1);
+    above->addWidget(LblZeitRaum_);
+    auto* below = new QHBoxLayout;
+    below->addWidget(newButton("CmHeute", QStringLiteral("&Heute"), [this] { model_.filter().today(); }));
+    below->addWidget(
+        newButton("CmNeu", QStringLiteral("&Zurückliegende Tage"), [this] { model_.filter().lastDays(); }));
+    below->addSpacing(4);
+    below->addWidget(SliderTage_, 1);
+    below->addWidget(LblTage_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(6);
+    layout->addLayout(above);
+    layout->addLayout(below);
 }
 
-QWidget* Datumspanel::neuesFrmErstAend()
+QWidget* DatePanel::newFrmErstAend()
 {
     auto* FrmErstAend = new QWidget;
     FrmErstAend->setObjectName(QStringLiteral("FrmErstAend"));
-    auto* reihe = new QHBoxLayout(FrmErstAend);
-    reihe->setContentsMargins({});
-    for (const int feld : {0, 1}) {
-        auto* option = neuesFeld<QRadioButton>(QStringLiteral("OpErstAend(%1)").arg(feld),
-                                               feld == 0 ? QStringLiteral("Erstellt") : QStringLiteral("Geändert"));
-        OpErstAend_->addButton(option, feld);
-        reihe->addWidget(option);
+    auto* layoutRow = new QHBoxLayout(FrmErstAend);
+    layoutRow->setContentsMargins({});
+    for (const int field : {0, 1}) {
+        auto* option = newField<QRadioButton>(QStringLiteral("OpErstAend(%1)").arg(field),
+                                              field == 0 ? QStringLiteral("Erstellt") : QStringLiteral("Geändert"));
+        OpErstAend_->addButton(option, field);
+        layoutRow->addWidget(option);
     }
     connect(OpErstAend_, &QButtonGroup::idClicked, this,
-            bewacht([this](int feld) { modell_.filter().setzeDatumsfeld(feld); }));
+            guardedSlot([this](int field) { model_.filter().setDateField(field); }));
     return FrmErstAend;
 }
 
-QCheckBox* Datumspanel::neuesChAnwender()
+QCheckBox* DatePanel::newChAnwender()
 {
-    auto* kasten = neuesFeld<QCheckBox>("ChAnwender", QStringLiteral("nur &eigene Dokumente"));
-    connect(kasten, &QCheckBox::clicked, this,
-            bewacht([this](bool gesetzt) { modell_.filter().setzeNurEigene(gesetzt); }));
-    return kasten;
+    auto* box = newField<QCheckBox>("ChAnwender", QStringLiteral("nur &eigene Dokumente"));
+    connect(box, &QCheckBox::clicked, this, guardedSlot([this](bool set) { model_.filter().setOwnOnly(set); }));
+    return box;
 }
 
-QSlider* Datumspanel::neuerSliderTage()
+QSlider* DatePanel::newSliderTage()
 {
-    auto* schieber = new QSlider(Qt::Horizontal);
-    schieber->setObjectName(QStringLiteral("SliderTage"));
-    schieber->setAccessibleName(QStringLiteral("Zurückliegende Tage"));
-    schieber->setRange(1, Schnellfilter::MAX_TAGE);
-    schieber->setPageStep(7);
-    connect(schieber, &QSlider::valueChanged, this, bewacht([this](int tage) { modell_.filter().setzeTage(tage); }));
-    return schieber;
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setObjectName(QStringLiteral("SliderTage"));
+    slider->setAccessibleName(QStringLiteral("Zurückliegende Tage"));
+    slider->setRange(1, QuickFilter::MAX_DAYS);
+    slider->setPageStep(7);
+    connect(slider, &QSlider::valueChanged, this, guardedSlot([this](int days) { model_.filter().setDays(days); }));
+    return slider;
 }
 
-QWidget* Datumspanel::neuerKnopf(const char* name, const QString& text, const std::function<void()>& tue)
+QWidget* DatePanel::newButton(const char* name, const QString& text, const std::function<void()>& tue)
 {
-    auto* knopf = neuesFeld<QPushButton>(name, text);
-    connect(knopf, &QPushButton::clicked, this, bewacht([tue] {
-                const Sanduhr warten;
+    auto* button = newField<QPushButton>(name, text);
+    connect(button, &QPushButton::clicked, this, guardedSlot([tue] {
+                const BusyCursor wait;
                 tue();
             }));
-    return knopf;
+    return button;
 }
 
-void Datumspanel::zeigen()
+void DatePanel::refresh()
 {
-    const Schnellfilter& filter = modell_.filter();
+    const QuickFilter& filter = model_.filter();
     OpErstAend_->button(filter.OpErstAend())->setChecked(true);
     ChAnwender_->setChecked(filter.ChAnwender());
     const QSignalBlocker still(SliderTage_);
     SliderTage_->setValue(filter.SliderTage());
     LblTage_->setText(filter.SliderTage() == 1 ? QStringLiteral("1 Tag")
                                                : QStringLiteral("%1 Tage").arg(filter.SliderTage()));
-    LblZeitRaum_->setText(zuQt(filter.LblZeitRaum()));
+    LblZeitRaum_->setText(toQt(filter.LblZeitRaum()));
 }
 
 } // namespace quelvarn

@@ -9,25 +9,25 @@ class QSlider;
 
 namespace quelvarn {
 
-class LinkeLeiste;
+class LeftBar;
 
 // The panel that narrows the table by date (FrmFilternDatum).
-class Datumspanel : public QFrame
+class DatePanel : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit Datumspanel(LinkeLeiste& modell);
+    explicit DatePanel(LeftBar& model);
 
-    void zeigen();
+    void refresh();
 
 private:
-    QWidget* neuesFrmErstAend();
-    QCheckBox* neuesChAnwender();
-    QSlider* neuerSliderTage();
-    QWidget* neuerKnopf(const char* name, const QString& text, const std::function<void()>& tue);
+    QWidget* newFrmErstAend();
+    QCheckBox* newChAnwender();
+    QSlider* newSliderTage();
+    QWidget* newButton(const char* name, const QString& text, const std::function<void()>& tue);
 
-    LinkeLeiste& modell_;
+    LeftBar& model_;
     QButtonGroup* OpErstAend_;
     QCheckBox* ChAnwender_;
     QSlider* SliderTage_;

@@ -15,92 +15,91 @@
 
 namespace quelvarn {
 
-Favoritenpanel::Favoritenpanel(Favoriten& modell)
-    : modell_(modell), DGFavoriten_(new Gitter("DGFavoriten",
-                                               {{"Dokumentenbezeichnung ", "DokuBezFavoriten"},
-                                                {"Revision", "RevBezFavoriten"},
-                                                {"Dateiname", "DateinameFavoriten"},
-                                                {"Pfad- und Dateiname", "filenameFavoriten"}},
-                                               {30, 11, 24, 35})),
-      leer_(beschriftung(QStringLiteral("Keine Favoriten. \"Zu Favoriten\" fügt das gezeigte Dokument hinzu."),
-                         Rolle::Beschriftung, QStringLiteral("LblKeineFavoriten"))),
-      TBarFavVerlassen_(neueLeiste("TBarFavVerlassen", Knopfart::TextNebenSymbol)),
-      TBarFavVerwalten_(neueLeiste("TBarFavVerwalten", Knopfart::TextNebenSymbol))
+FavouritesPanel::FavouritesPanel(Favourites& model)
+    : model_(model), DGFavoriten_(new Grid("DGFavoriten",
+                                           {{"Dokumentenbezeichnung ", "DokuBezFavoriten"},
+                                            {"Revision", "RevBezFavoriten"},
+                                            {"Dateiname", "DateinameFavoriten"},
+                                            {"Pfad- und Dateiname", "filenameFavoriten"}},
+                                           {30, 11, 24, 35})),
+      empty_(caption(QStringLiteral("Keine Favoriten. \"Zu Favoriten\" fügt das gezeigte Dokument hinzu."),
+                     TextRole::Caption, QStringLiteral("LblKeineFavoriten"))),
+      TBarFavVerlassen_(newBar("TBarFavVerlassen", ButtonKind::TextBesideIcon)),
+      TBarFavVerwalten_(newBar("TBarFavVerwalten", ButtonKind::TextBesideIcon))
 {
-    richtePanelEin(*this, "FrmFavoriten");
-    baueGitter();
-    baueLeisten();
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    aufbau->addWidget(DGFavoriten_, 1);
-    aufbau->addWidget(leer_);
-    aufbau->addWidget(TBarFavVerlassen_);
-    aufbau->addWidget(TBarFavVerwalten_);
+    setUpPanel(*this, "FrmFavoriten");
+    buildGrid();
+    buildBars();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(DGFavoriten_, 1);
+    layout->addWidget(empty_);
+    layout->addWidget(TBarFavVerlassen_);
+    layout->addWidget(TBarFavVerwalten_);
 }
 
-void Favoritenpanel::baueGitter()
+void FavouritesPanel::buildGrid()
 {
-    leer_->setMargin(8);
-    leer_->setWordWrap(true);
+    empty_->setMargin(8);
+    empty_->setWordWrap(true);
     DGFavoriten_->setAccessibleName(QStringLiteral("Favoriten"));
-    DGFavoriten_->gewaehlt = [this](const QModelIndex& stelle) {
-        modell_.zeileGewechselt(static_cast<std::size_t>(stelle.row()));
+    DGFavoriten_->chosen = [this](const QModelIndex& position) {
+        model_.rowChanged(static_cast<std::size_t>(position.row()));
     };
-    DGFavoriten_->angeklickt = [this](const QModelIndex& stelle) {
-        const Sanduhr warten;
-        modell_.FavoritAuswaehlen(static_cast<std::size_t>(stelle.row()));
+    DGFavoriten_->clicked = [this](const QModelIndex& position) {
+        const BusyCursor wait;
+        model_.FavoritAuswaehlen(static_cast<std::size_t>(position.row()));
     };
-    DGFavoriten_->geoeffnet = DGFavoriten_->angeklickt;
-    auto* entfernen = new QShortcut(QKeySequence(Qt::Key_Delete), this);
-    entfernen->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(entfernen, &QShortcut::activated, this, bewacht([this] {
-                if (modell_.verwaltung())
-                    modell_.FavoritLoeschen();
+    DGFavoriten_->opened = DGFavoriten_->clicked;
+    auto* remove = new QShortcut(QKeySequence(Qt::Key_Delete), this);
+    remove->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(remove, &QShortcut::activated, this, guardedSlot([this] {
+                if (model_.management())
+                    model_.FavoritLoeschen();
             }));
 }
 
-void Favoritenpanel::baueLeisten()
+void FavouritesPanel::buildBars()
 {
-    fuegeKnopfHinzu(*TBarFavVerlassen_,
-                    {"Verwalten.....", "Verwalten.....", "Verwaltung der Favoriten öffnen", "manage"});
-    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Alle löschen", "Alle löschen", "Alle Favoriten löschen", "delete"});
-    fuegeKnopfHinzu(*TBarFavVerwalten_,
-                    {"Zeile löschen", "Zeile löschen", "Ausgewählten Favoriten löschen", "row-delete"});
-    fuegeKnopfHinzu(*TBarFavVerwalten_, {"Verlassen", "Verlassen", "Verwaltung der Favoriten verlassen", "back"});
-    connect(&knopfVon(*TBarFavVerlassen_, "Verwalten....."), &QAction::triggered, this,
-            bewacht([this] { oeffneVerwaltung(); }));
-    beiKnopf(*TBarFavVerwalten_, "Alle löschen", &Favoriten::AlleFavoritenLoeschen);
-    beiKnopf(*TBarFavVerwalten_, "Zeile löschen", &Favoriten::FavoritLoeschen);
-    beiKnopf(*TBarFavVerwalten_, "Verlassen", &Favoriten::verlasseVerwaltung);
+    addBarButton(*TBarFavVerlassen_, {"Verwalten.....", "Verwalten.....", "Verwaltung der Favoriten öffnen", "manage"});
+    addBarButton(*TBarFavVerwalten_, {"Alle löschen", "Alle löschen", "Alle Favoriten löschen", "delete"});
+    addBarButton(*TBarFavVerwalten_,
+                 {"Zeile löschen", "Zeile löschen", "Ausgewählten Favoriten löschen", "row-delete"});
+    addBarButton(*TBarFavVerwalten_, {"Verlassen", "Verlassen", "Verwaltung der Favoriten verlassen", "back"});
+    connect(&buttonOf(*TBarFavVerlassen_, "Verwalten....."), &QAction::triggered, this,
+            guardedSlot([this] { openManagement(); }));
+    atButton(*TBarFavVerwalten_, "Alle löschen", &Favourites::AlleFavoritenLoeschen);
+    atButton(*TBarFavVerwalten_, "Zeile löschen", &Favourites::FavoritLoeschen);
+    atButton(*TBarFavVerwalten_, "Verlassen", &Favourites::leaveManagement);
 }
 
-void Favoritenpanel::beiKnopf(QToolBar& leiste, const char* schluessel, void (Favoriten::*tue)())
+void FavouritesPanel::atButton(QToolBar& bar, const char* key, void (Favourites::*tue)())
 {
-    connect(&knopfVon(leiste, schluessel), &QAction::triggered, this, bewacht([&modell = modell_, tue] {
-        const Sanduhr warten;
-        (modell.*tue)();
+    connect(&buttonOf(bar, key), &QAction::triggered, this, guardedSlot([&model = model_, tue] {
+        const BusyCursor wait;
+        (model.*tue)();
     }));
 }
 
 // The focus is on the one button that Enter may press without harm.
-void Favoritenpanel::oeffneVerwaltung()
+void FavouritesPanel::openManagement()
 {
-    modell_.oeffneVerwaltung();
-    TBarFavVerwalten_->widgetForAction(&knopfVon(*TBarFavVerwalten_, "Verlassen"))->setFocus();
+    model_.openManagement();
+    TBarFavVerwalten_->widgetForAction(&buttonOf(*TBarFavVerwalten_, "Verlassen"))->setFocus();
 }
 
-void Favoritenpanel::zeigen()
+void FavouritesPanel::refresh()
 {
-    setVisible(modell_.zeigtFavoriten());
-    DGFavoriten_->zeige(modell_.liste(), modell_.fassung());
-    leer_->setVisible(!modell_.hatZeilen());
-    TBarFavVerwalten_->setVisible(modell_.verwaltung());
-    knopfVon(*TBarFavVerwalten_, "Alle löschen").setEnabled(modell_.hatZeilen());
-    knopfVon(*TBarFavVerwalten_, "Zeile löschen").setEnabled(modell_.hatZeilen());
+    setVisible(model_.showsFavourites());
+    DGFavoriten_->display(model_.list(), model_.generation());
+    empty_->setVisible(!model_.hasRows());
+    TBarFavVerwalten_->setVisible(model_.management());
+    buttonOf(*TBarFavVerwalten_, "Alle löschen").setEnabled(model_.hasRows());
+    buttonOf(*TBarFavVerwalten_, "Zeile löschen").setEnabled(model_.hasRows());
 }
 
-void Favoritenpanel::nimmFokus()
+void FavouritesPanel::takeFocus()
 {
     DGFavoriten_->setFocus();
 }

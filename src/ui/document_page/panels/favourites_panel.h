@@ -7,30 +7,30 @@ class QToolBar;
 
 namespace quelvarn {
 
-class Favoriten;
-class Gitter;
+class Favourites;
+class Grid;
 
 // The list of favourites over the tables (FrmFavoriten).
-class Favoritenpanel : public QFrame
+class FavouritesPanel : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit Favoritenpanel(Favoriten& modell);
+    explicit FavouritesPanel(Favourites& model);
 
-    void zeigen();
+    void refresh();
     // Where the keyboard moves the rows.
-    void nimmFokus();
+    void takeFocus();
 
 private:
-    void baueGitter();
-    void baueLeisten();
-    void beiKnopf(QToolBar& leiste, const char* schluessel, void (Favoriten::*tue)());
-    void oeffneVerwaltung();
+    void buildGrid();
+    void buildBars();
+    void atButton(QToolBar& bar, const char* key, void (Favourites::*tue)());
+    void openManagement();
 
-    Favoriten& modell_;
-    Gitter* DGFavoriten_;
-    QLabel* leer_;
+    Favourites& model_;
+    Grid* DGFavoriten_;
+    QLabel* empty_;
     QToolBar* TBarFavVerlassen_;
     QToolBar* TBarFavVerwalten_;
 };

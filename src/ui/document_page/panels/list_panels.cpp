@@ -14,93 +14,92 @@ namespace quelvarn {
 
 namespace {
 
-constexpr Leistenknopf VERWALTEN{"Verwalten.....", "Verwalten.....", "", "manage"};
-constexpr Leistenknopf ALLE_LOESCHEN{"Alle löschen", "Alle löschen", "", "delete"};
-constexpr Leistenknopf ZEILE_LOESCHEN{"Zeile löschen", "Zeile löschen", "", "row-delete"};
-constexpr Leistenknopf VERLASSEN{"Verlassen", "Verlassen", "", "back"};
+constexpr BarButton MANAGE{"Verwalten.....", "Verwalten.....", "", "manage"};
+constexpr BarButton DELETE_ALL{"Alle löschen", "Alle löschen", "", "delete"};
+constexpr BarButton DELETE_ROW{"Zeile löschen", "Zeile löschen", "", "row-delete"};
+constexpr BarButton LEAVE{"Verlassen", "Verlassen", "", "back"};
 
-QVBoxLayout* neuerAufbau(QWidget* panel)
+QVBoxLayout* newLayout(QWidget* panel)
 {
-    auto* aufbau = new QVBoxLayout(panel);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(0);
-    return aufbau;
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    return layout;
 }
 
-QHBoxLayout* neueReihe(QVBoxLayout& aufbau)
+QHBoxLayout* newStripRow(QVBoxLayout& layout)
 {
-    auto* reihe = new QHBoxLayout;
-    reihe->setContentsMargins(8, 4, 8, 4);
-    aufbau.addLayout(reihe);
-    return reihe;
+    auto* layoutRow = new QHBoxLayout;
+    layoutRow->setContentsMargins(8, 4, 8, 4);
+    layout.addLayout(layoutRow);
+    return layoutRow;
 }
 
 } // namespace
 
-QWidget* neuesFrmNutzer()
+QWidget* newFrmNutzer()
 {
-    auto* panel = neuesPanel("FrmNutzer");
-    auto* aufbau = neuerAufbau(panel);
-    auto* kopf = neueReihe(*aufbau);
-    kopf->addWidget(
-        beschriftung(QStringLiteral("In Solid Edge geöffnete Dateien."), Rolle::Kopf, QStringLiteral("LblKopfNutzer")),
+    auto* panel = newFramedPanel("FrmNutzer");
+    auto* layout = newLayout(panel);
+    auto* heading = newStripRow(*layout);
+    heading->addWidget(
+        caption(QStringLiteral("In Solid Edge geöffnete Dateien."), TextRole::Heading, QStringLiteral("LblKopfNutzer")),
         1);
-    kopf->addWidget(ruhend<QCheckBox>("ChBenutzEigen", QStringLiteral("auch eigene")));
-    kopf->addWidget(ruhend<QCheckBox>("ChBenutzInArbeit", QStringLiteral("In Arbeit")));
-    kopf->addWidget(ruhend<QCheckBox>("ChBenutzInDurchsicht", QStringLiteral("In Durchsicht")));
-    aufbau->addWidget(new Gitter("DGNutzer",
-                                 {{"Dokumentname", "DokuBezNutzer"},
-                                  {"Revision", "RevBezNutzer"},
-                                  {"Dateiname", "DateinameNutzer"},
-                                  {"Anwender", "AnwenderNutzer"},
-                                  {"Rechner", "RechnerNutzer"},
-                                  {"Seit", "DateTimeNutzer"}},
-                                 {24, 10, 22, 14, 14, 16}));
-    auto* fuss = neueReihe(*aufbau);
-    fuss->addWidget(ruhend<QPushButton>("CmListBenutzer", QStringLiteral("Ende melden")));
-    fuss->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblMyDocuOpenBy")), 1);
-    aufbau->addWidget(ruhendeLeiste(
-        "TbarNutzVerwalten",
-        {{"Geöffnet", "Geöffnet", "", "edit"}, {"In Durchsicht", "In Durchsicht", "", "eye"}, VERWALTEN}));
-    aufbau->addWidget(ruhendeLeiste("TbarNutzVerlassen", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
+    heading->addWidget(resting<QCheckBox>("ChBenutzEigen", QStringLiteral("auch eigene")));
+    heading->addWidget(resting<QCheckBox>("ChBenutzInArbeit", QStringLiteral("In Arbeit")));
+    heading->addWidget(resting<QCheckBox>("ChBenutzInDurchsicht", QStringLiteral("In Durchsicht")));
+    layout->addWidget(new Grid("DGNutzer",
+                               {{"Dokumentname", "DokuBezNutzer"},
+                                {"Revision", "RevBezNutzer"},
+                                {"Dateiname", "DateinameNutzer"},
+                                {"Anwender", "AnwenderNutzer"},
+                                {"Rechner", "RechnerNutzer"},
+                                {"Seit", "DateTimeNutzer"}},
+                               {24, 10, 22, 14, 14, 16}));
+    auto* fuss = newStripRow(*layout);
+    fuss->addWidget(resting<QPushButton>("CmListBenutzer", QStringLiteral("Ende melden")));
+    fuss->addWidget(caption({}, TextRole::Caption, QStringLiteral("LblMyDocuOpenBy")), 1);
+    layout->addWidget(
+        restingBar("TbarNutzVerwalten",
+                   {{"Geöffnet", "Geöffnet", "", "edit"}, {"In Durchsicht", "In Durchsicht", "", "eye"}, MANAGE}));
+    layout->addWidget(restingBar("TbarNutzVerlassen", {DELETE_ALL, DELETE_ROW, LEAVE}));
     return panel;
 }
 
-QWidget* neuesFrmForwardMessage()
+QWidget* newFrmForwardMessage()
 {
-    auto* panel = neuesPanel("FrmForwardMessage");
-    auto* aufbau = neuerAufbau(panel);
-    auto* kopf = neueReihe(*aufbau);
-    kopf->addWidget(ruhend<QPushButton>("TggBtForward(0)", QStringLiteral("Workflow")));
-    kopf->addWidget(ruhend<QPushButton>("TggBtForward(1)", QStringLiteral("Weiterleiten")));
-    kopf->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblMsgForward")), 1);
-    kopf->addWidget(ruhend<QCheckBox>("ChForwardAll", QStringLiteral("Alle Nachrichten")));
-    aufbau->addWidget(new Gitter("DGForward",
-                                 {{"Art", "ArtForward"},
-                                  {"Dokumentname", "DokuBezForward"},
-                                  {"Revision", "RevBezForward"},
-                                  {"Absender", "SenderForward"},
-                                  {"Datum/Uhrzeit", "DateTimeForward"}},
-                                 {28, 24, 10, 18, 20}),
+    auto* panel = newFramedPanel("FrmForwardMessage");
+    auto* layout = newLayout(panel);
+    auto* heading = newStripRow(*layout);
+    heading->addWidget(resting<QPushButton>("TggBtForward(0)", QStringLiteral("Workflow")));
+    heading->addWidget(resting<QPushButton>("TggBtForward(1)", QStringLiteral("Weiterleiten")));
+    heading->addWidget(caption({}, TextRole::Caption, QStringLiteral("LblMsgForward")), 1);
+    heading->addWidget(resting<QCheckBox>("ChForwardAll", QStringLiteral("Alle Nachrichten")));
+    layout->addWidget(new Grid("DGForward",
+                               {{"Art", "ArtForward"},
+                                {"Dokumentname", "DokuBezForward"},
+                                {"Revision", "RevBezForward"},
+                                {"Absender", "SenderForward"},
+                                {"Datum/Uhrzeit", "DateTimeForward"}},
+                               {28, 24, 10, 18, 20}),
                       2);
-    aufbau->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblInfoMessage")));
+    layout->addWidget(caption({}, TextRole::Caption, QStringLiteral("LblInfoMessage")));
     auto* TxtMessageKomm = new QPlainTextEdit;
     TxtMessageKomm->setObjectName(QStringLiteral("TxtMessageKomm"));
     TxtMessageKomm->setReadOnly(true);
-    aufbau->addWidget(TxtMessageKomm, 1);
-    aufbau->addWidget(
-        ruhendeLeiste("TbarForwardVerl", {VERWALTEN, VERLASSEN, {"Wechseln zu", "Wechseln zu", "", "switch"}}));
-    aufbau->addWidget(ruhendeLeiste("TbarForwardVerw", {ALLE_LOESCHEN, ZEILE_LOESCHEN, VERLASSEN}));
+    layout->addWidget(TxtMessageKomm, 1);
+    layout->addWidget(restingBar("TbarForwardVerl", {MANAGE, LEAVE, {"Wechseln zu", "Wechseln zu", "", "switch"}}));
+    layout->addWidget(restingBar("TbarForwardVerw", {DELETE_ALL, DELETE_ROW, LEAVE}));
     return panel;
 }
 
-QWidget* neuesFrmDelete()
+QWidget* newFrmDelete()
 {
-    auto* panel = neuesPanel("FrmDelete");
-    auto* reihe = new QHBoxLayout(panel);
-    reihe->addWidget(ruhend<QPushButton>("LblDeleteRecordDB", QStringLiteral("Datensatz löschen")));
-    reihe->addWidget(ruhend<QPushButton>("LblDeleteDateiAndDB", QStringLiteral("Datensatz und Datei löschen")));
-    reihe->addStretch(1);
+    auto* panel = newFramedPanel("FrmDelete");
+    auto* layoutRow = new QHBoxLayout(panel);
+    layoutRow->addWidget(resting<QPushButton>("LblDeleteRecordDB", QStringLiteral("Datensatz löschen")));
+    layoutRow->addWidget(resting<QPushButton>("LblDeleteDateiAndDB", QStringLiteral("Datensatz und Datei löschen")));
+    layoutRow->addStretch(1);
     return panel;
 }
 

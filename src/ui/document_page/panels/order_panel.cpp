@@ -16,13 +16,13 @@ namespace quelvarn {
 
 namespace {
 
-struct Reduktion
+struct Reduction
 {
     std::string_view text;
     std::string_view tooltip;
 };
 
-constexpr std::array<Reduktion, 6> REDUKTIONEN{{
+constexpr std::array<Reduction, 6> REDUCTIONS{{
     {"Nur Status 2", "Nur Status 2. Restliche Stati werden gelöscht."},
     {"Nur Status 3", "Nur Status 3 u. 4. Restliche Stati werden gelöscht."},
     {"Nur höchste Revision.", "Nur höchste Revision. Niederere Revisionen werden glöscht."},
@@ -31,81 +31,81 @@ constexpr std::array<Reduktion, 6> REDUKTIONEN{{
     {"TIFF-Datei verwenden", "Statt der Solid Edge-Datei wird die TIFF-Datei ausgegeben."},
 }};
 
-constexpr std::array<std::string_view, 9> ZEICHNUNGSAUFTRAEGE{
+constexpr std::array<std::string_view, 9> DRAWING_ORDERS{
     "Offline Plotauftrag", "Offline PDF-Auftrag",         "Offline TIFF-Auftrag",
     "Offline Übersetzung", "Offline Plot-Versandauftrag", "E-Mail direkt versenden",
     "Versandauftrag",      "Plotauftrag bearbeiten",      "Verwalten..."};
 
-constexpr std::array<std::string_view, 6> MODELLAUFTRAEGE{"Offline Auszüge",         "Offline Übersetzung",
-                                                          "E-Mail direkt versenden", "Versandauftrag",
-                                                          "Übersetzung bearbeiten",  "Verwalten..."};
+constexpr std::array<std::string_view, 6> MODEL_ORDERS{"Offline Auszüge",         "Offline Übersetzung",
+                                                       "E-Mail direkt versenden", "Versandauftrag",
+                                                       "Übersetzung bearbeiten",  "Verwalten..."};
 
 // The entries of LblPlotTask or LblModellTask; the last two work on an order that is there already.
-template <std::size_t N> QWidget* neueAuftragswahl(const QString& name, const std::array<std::string_view, N>& texte)
+template <std::size_t N> QWidget* newOrderChoice(const QString& name, const std::array<std::string_view, N>& texts)
 {
-    auto* wahl = new QWidget;
-    auto* aufbau = new QVBoxLayout(wahl);
-    aufbau->setContentsMargins({});
-    aufbau->setSpacing(2);
+    auto* choice = new QWidget;
+    auto* layout = new QVBoxLayout(choice);
+    layout->setContentsMargins({});
+    layout->setSpacing(2);
     for (std::size_t i = 0; i < N; ++i) {
         if (i == 0)
-            aufbau->addWidget(beschriftung(QStringLiteral("Auftrag anlegen/umwandeln:"), Rolle::Beschriftung));
+            layout->addWidget(caption(QStringLiteral("Auftrag anlegen/umwandeln:"), TextRole::Caption));
         if (i == N - 2)
-            aufbau->addWidget(beschriftung(QStringLiteral("Auftrag bearbeiten:"), Rolle::Beschriftung));
-        aufbau->addWidget(ruhend<QPushButton>(QStringLiteral("%1(%2)").arg(name).arg(i), zuQt(texte[i])));
+            layout->addWidget(caption(QStringLiteral("Auftrag bearbeiten:"), TextRole::Caption));
+        layout->addWidget(resting<QPushButton>(QStringLiteral("%1(%2)").arg(name).arg(i), toQt(texts[i])));
     }
-    aufbau->addStretch(1);
-    return wahl;
+    layout->addStretch(1);
+    return choice;
 }
 
-QGridLayout* neueReduktionen()
+QGridLayout* newReductions()
 {
-    auto* gitter = new QGridLayout;
-    gitter->setVerticalSpacing(2);
-    for (std::size_t i = 0; i < REDUKTIONEN.size(); ++i) {
-        auto* kasten = ruhend<QCheckBox>(QStringLiteral("ChPlotSendTo(%1)").arg(i), zuQt(REDUKTIONEN[i].text));
-        kasten->setToolTip(zuQt(REDUKTIONEN[i].tooltip));
-        gitter->addWidget(kasten, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    for (std::size_t i = 0; i < REDUCTIONS.size(); ++i) {
+        auto* box = resting<QCheckBox>(QStringLiteral("ChPlotSendTo(%1)").arg(i), toQt(REDUCTIONS[i].text));
+        box->setToolTip(toQt(REDUCTIONS[i].tooltip));
+        grid->addWidget(box, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
     }
-    return gitter;
+    return grid;
 }
 
 } // namespace
 
-QWidget* neueAuftragsliste()
+QWidget* newOrderList()
 {
-    auto* panel = neuesPanel("FrmListPlot");
-    auto* kopf = new QHBoxLayout;
-    kopf->addWidget(beschriftung(QStringLiteral("    Liste Plot-/PDF-/TIFF-/Übersetzungs- / Versandauftrag"),
-                                 Rolle::Kopf, QStringLiteral("LblKopfListPlot")),
-                    1);
-    kopf->addWidget(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblCount")));
+    auto* panel = newFramedPanel("FrmListPlot");
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(caption(QStringLiteral("    Liste Plot-/PDF-/TIFF-/Übersetzungs- / Versandauftrag"),
+                               TextRole::Heading, QStringLiteral("LblKopfListPlot")),
+                       1);
+    heading->addWidget(caption({}, TextRole::Caption, QStringLiteral("LblCount")));
 
-    auto* liste = new QVBoxLayout;
-    liste->addWidget(new Gitter("DataGridPlot",
-                                {{"Dokumentname", "DokuBez"},
-                                 {"Revision", "RevBez"},
-                                 {"Dateiname", "Dateiname"},
-                                 {"Status", "Status"},
-                                 {"Plotter/Drucker", "Printer"},
-                                 {"Papierformat", "PaperSize"},
-                                 {"Farbe", "ColorMode"},
-                                 {"Anzahl", "NumCopies"},
-                                 {"Ausrichtung", "Orientation"},
-                                 {"Skalierung", "Plotscale"}},
-                                {17, 8, 15, 7, 15, 10, 8, 6, 8, 6}));
-    liste->addWidget(ruhendeLeiste("TlbPlotauftrag", {{"Übernehmen", "Übernehmen", "", "tick"},
-                                                      {"Zeile löschen", "Zeile löschen", "", "row-delete"},
-                                                      {"Liste löschen", "Liste löschen", "", "delete"},
-                                                      {"Verwalten.....", "Verwalten.....", "", "manage"}}));
-    liste->addLayout(neueReduktionen());
+    auto* list = new QVBoxLayout;
+    list->addWidget(new Grid("DataGridPlot",
+                             {{"Dokumentname", "DokuBez"},
+                              {"Revision", "RevBez"},
+                              {"Dateiname", "Dateiname"},
+                              {"Status", "Status"},
+                              {"Plotter/Drucker", "Printer"},
+                              {"Papierformat", "PaperSize"},
+                              {"Farbe", "ColorMode"},
+                              {"Anzahl", "NumCopies"},
+                              {"Ausrichtung", "Orientation"},
+                              {"Skalierung", "Plotscale"}},
+                             {17, 8, 15, 7, 15, 10, 8, 6, 8, 6}));
+    list->addWidget(restingBar("TlbPlotauftrag", {{"Übernehmen", "Übernehmen", "", "tick"},
+                                                  {"Zeile löschen", "Zeile löschen", "", "row-delete"},
+                                                  {"Liste löschen", "Liste löschen", "", "delete"},
+                                                  {"Verwalten.....", "Verwalten.....", "", "manage"}}));
+    list->addLayout(newReductions());
 
-    auto* gitter = new QGridLayout(panel);
-    gitter->addLayout(kopf, 0, 0, 1, 3);
-    gitter->addWidget(neueAuftragswahl(QStringLiteral("LblPlotTask"), ZEICHNUNGSAUFTRAEGE), 1, 0);
-    gitter->addWidget(neueAuftragswahl(QStringLiteral("LblModellTask"), MODELLAUFTRAEGE), 1, 1);
-    gitter->addLayout(liste, 1, 2);
-    gitter->setColumnStretch(2, 1);
+    auto* grid = new QGridLayout(panel);
+    grid->addLayout(heading, 0, 0, 1, 3);
+    grid->addWidget(newOrderChoice(QStringLiteral("LblPlotTask"), DRAWING_ORDERS), 1, 0);
+    grid->addWidget(newOrderChoice(QStringLiteral("LblModellTask"), MODEL_ORDERS), 1, 1);
+    grid->addLayout(list, 1, 2);
+    grid->setColumnStretch(2, 1);
     return panel;
 }
 

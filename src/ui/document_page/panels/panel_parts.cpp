@@ -6,25 +6,25 @@
 
 namespace quelvarn {
 
-QToolBar* ruhendeLeiste(std::string_view name, std::initializer_list<Leistenknopf> knoepfe)
+QToolBar* restingBar(std::string_view name, std::initializer_list<BarButton> buttons)
 {
-    auto* leiste = neueLeiste(name, Knopfart::TextNebenSymbol);
-    for (const Leistenknopf& knopf : knoepfe)
-        fuegeKnopfHinzu(*leiste, knopf)->setEnabled(false);
-    return leiste;
+    auto* bar = newBar(name, ButtonKind::TextBesideIcon);
+    for (const BarButton& button : buttons)
+        addBarButton(*bar, button)->setEnabled(false);
+    return bar;
 }
 
-void richtePanelEin(QFrame& panel, const char* name)
+void setUpPanel(QFrame& panel, const char* name)
 {
     panel.setObjectName(QLatin1String(name));
     panel.setProperty("rolle", QStringLiteral("panel"));
     panel.hide();
 }
 
-QWidget* neuesPanel(const char* name)
+QWidget* newFramedPanel(const char* name)
 {
     auto* panel = new QFrame;
-    richtePanelEin(*panel, name);
+    setUpPanel(*panel, name);
     return panel;
 }
 

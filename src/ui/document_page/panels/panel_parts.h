@@ -14,16 +14,16 @@ class QWidget;
 namespace quelvarn {
 
 // A control of a panel whose work is not there yet: named, and disabled.
-template <typename Knopf> Knopf* ruhend(QAnyStringView name, const QString& text)
+template <typename Button> Button* resting(QAnyStringView name, const QString& text)
 {
-    auto* knopf = neuesFeld<Knopf>(name, text);
-    knopf->setEnabled(false);
-    return knopf;
+    auto* button = newField<Button>(name, text);
+    button->setEnabled(false);
+    return button;
 }
 
-QToolBar* ruhendeLeiste(std::string_view name, std::initializer_list<Leistenknopf> knoepfe);
+QToolBar* restingBar(std::string_view name, std::initializer_list<BarButton> buttons);
 // A panel over or under the tables; hidden until it is asked for.
-void richtePanelEin(QFrame& panel, const char* name);
-QWidget* neuesPanel(const char* name);
+void setUpPanel(QFrame& panel, const char* name);
+QWidget* newFramedPanel(const char* name);
 
 } // namespace quelvarn

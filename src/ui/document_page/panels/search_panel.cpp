@@ -25,212 +25,212 @@ namespace quelvarn {
 
 namespace {
 
-constexpr std::array<const char*, 3> FELDNAMEN{"OpDokuBez", "OpDatei", "OpPfadDatei"};
-constexpr std::array<const char*, 2> VERFAHREN{"am Anfang", "beliebig"};
+constexpr std::array<const char*, 3> FIELD_NAMES{"OpDokuBez", "OpDatei", "OpPfadDatei"};
+constexpr std::array<const char*, 2> METHOD{"am Anfang", "beliebig"};
 
 } // namespace
 
-Suchpanel::Suchpanel(LinkeLeiste& modell)
-    : modell_(modell), felder_(new QButtonGroup(this)), verfahren_(new QButtonGroup(this)),
-      CombSuchStr_(neuesCombSuchStr()), TextDocuBez_(neuesTextDocuBez()), ChDynSuchen_(neuesChDynSuchen()),
-      LblFilterStep1_(beschriftung({}, Rolle::Beschriftung, QStringLiteral("LblFilterStep1")))
+SearchPanel::SearchPanel(LeftBar& model)
+    : model_(model), fields_(new QButtonGroup(this)), method_(new QButtonGroup(this)), CombSuchStr_(newCombSuchStr()),
+      TextDocuBez_(newTextDocuBez()), ChDynSuchen_(newChDynSuchen()),
+      LblFilterStep1_(caption({}, TextRole::Caption, QStringLiteral("LblFilterStep1")))
 {
-    richtePanelEin(*this, "FrmSuchenFiltern");
-    auto* texte = new QHBoxLayout;
-    texte->addWidget(CombSuchStr_, 1);
-    texte->addWidget(TextDocuBez_, 1);
-    texte->addWidget(neuerKnopf("CmBeginnSuchen", QStringLiteral("&Suchen"), &Suchpanel::suchen));
-    texte->addWidget(neuerKnopf("CmWeiterSuchen", QStringLiteral("&Weitersuchen"), &Suchpanel::weitersuchen));
-    CmDokuDateiFiltern_ = neuerKnopf("CmDokuDateiFiltern", QStringLiteral("&Filtern"), &Suchpanel::filtern);
-    texte->addWidget(CmDokuDateiFiltern_);
-    auto* optionen = new QHBoxLayout;
-    baueOptionen(*optionen);
-    auto* unten = new QHBoxLayout;
-    unten->addWidget(ChDynSuchen_);
-    unten->addStretch(1);
-    unten->addWidget(LblFilterStep1_);
-    auto* aufbau = new QVBoxLayout(this);
-    aufbau->setContentsMargins(8, 8, 8, 8);
-    aufbau->setSpacing(6);
-    for (QHBoxLayout* reihe : {texte, optionen, unten})
-        aufbau->addLayout(reihe);
+    setUpPanel(*this, "FrmSuchenFiltern");
+    auto* texts = new QHBoxLayout;
+    texts->addWidget(CombSuchStr_, 1);
+    texts->addWidget(TextDocuBez_, 1);
+    texts->addWidget(newButton("CmBeginnSuchen", QStringLiteral("&Suchen"), &SearchPanel::search));
+    texts->addWidget(newButton("CmWeiterSuchen", QStringLiteral("&Weitersuchen"), &SearchPanel::searchOn));
+    CmDokuDateiFiltern_ = newButton("CmDokuDateiFiltern", QStringLiteral("&Filtern"), &SearchPanel::filter);
+    texts->addWidget(CmDokuDateiFiltern_);
+    auto* options = new QHBoxLayout;
+    buildOptions(*options);
+    auto* below = new QHBoxLayout;
+    below->addWidget(ChDynSuchen_);
+    below->addStretch(1);
+    below->addWidget(LblFilterStep1_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(6);
+    for (QHBoxLayout* layoutRow : {texts, options, below})
+        layout->addLayout(layoutRow);
 }
 
-QComboBox* Suchpanel::neuesCombSuchStr()
+QComboBox* SearchPanel::newCombSuchStr()
 {
-    auto* kombo = new QComboBox;
-    kombo->setObjectName(QStringLiteral("CombSuchStr"));
-    kombo->setAccessibleName(QStringLiteral("Suchtext"));
-    kombo->setEditable(true);
-    kombo->setInsertPolicy(QComboBox::NoInsert);
-    kombo->setCompleter(nullptr);
-    kombo->setMinimumContentsLength(10);
-    kombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    kombo->lineEdit()->setObjectName(QStringLiteral("TextFocus"));
-    kombo->lineEdit()->setPlaceholderText(QStringLiteral("Suchtext"));
-    connect(kombo->lineEdit(), &QLineEdit::textEdited, this,
-            bewacht([this](const QString& text) { textGetippt(text); }));
-    connect(kombo->lineEdit(), &QLineEdit::returnPressed, this,
-            bewacht([this] { sucheText(CombSuchStr_->currentText()); }));
-    connect(kombo, &QComboBox::textActivated, this, bewacht([this](const QString& text) { sucheText(text); }));
-    return kombo;
+    auto* combo = new QComboBox;
+    combo->setObjectName(QStringLiteral("CombSuchStr"));
+    combo->setAccessibleName(QStringLiteral("Suchtext"));
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    combo->setMinimumContentsLength(10);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->lineEdit()->setObjectName(QStringLiteral("TextFocus"));
+    combo->lineEdit()->setPlaceholderText(QStringLiteral("Suchtext"));
+    connect(combo->lineEdit(), &QLineEdit::textEdited, this,
+            guardedSlot([this](const QString& text) { textTyped(text); }));
+    connect(combo->lineEdit(), &QLineEdit::returnPressed, this,
+            guardedSlot([this] { searchText(CombSuchStr_->currentText()); }));
+    connect(combo, &QComboBox::textActivated, this, guardedSlot([this](const QString& text) { searchText(text); }));
+    return combo;
 }
 
-QLineEdit* Suchpanel::neuesTextDocuBez()
+QLineEdit* SearchPanel::newTextDocuBez()
 {
-    auto* feld = new QLineEdit;
-    feld->setObjectName(QStringLiteral("TextDocuBez"));
-    feld->setAccessibleName(QStringLiteral("Suchen beim Tippen"));
-    feld->setPlaceholderText(QStringLiteral("Suchen beim Tippen"));
-    connect(feld, &QLineEdit::textEdited, this,
-            bewacht([this](const QString& text) { modell_.suche().tippe(ausQt(text)); }));
-    return feld;
+    auto* field = new QLineEdit;
+    field->setObjectName(QStringLiteral("TextDocuBez"));
+    field->setAccessibleName(QStringLiteral("Suchen beim Tippen"));
+    field->setPlaceholderText(QStringLiteral("Suchen beim Tippen"));
+    connect(field, &QLineEdit::textEdited, this,
+            guardedSlot([this](const QString& text) { model_.search().type(fromQt(text)); }));
+    return field;
 }
 
-QCheckBox* Suchpanel::neuesChDynSuchen()
+QCheckBox* SearchPanel::newChDynSuchen()
 {
-    auto* kasten = neuesFeld<QCheckBox>("ChDynSuchen", QStringLiteral("Beim &Tippen suchen"));
-    connect(kasten, &QCheckBox::clicked, this, bewacht([this](bool gesetzt) {
+    auto* box = newField<QCheckBox>("ChDynSuchen", QStringLiteral("Beim &Tippen suchen"));
+    connect(box, &QCheckBox::clicked, this, guardedSlot([this](bool set) {
                 {
-                    const Sanduhr warten;
-                    modell_.suche().setzeBeimTippen(gesetzt);
+                    const BusyCursor wait;
+                    model_.search().setAtTyping(set);
                 }
-                zeigen();
-                nimmFokus();
+                refresh();
+                takeFocus();
             }));
-    return kasten;
+    return box;
 }
 
-QPushButton* Suchpanel::neuerKnopf(const char* name, const QString& text, void (Suchpanel::*tue)())
+QPushButton* SearchPanel::newButton(const char* name, const QString& text, void (SearchPanel::*tue)())
 {
-    auto* knopf = neuesFeld<QPushButton>(name, text);
-    connect(knopf, &QPushButton::clicked, this, bewacht([this, tue] { (this->*tue)(); }));
-    return knopf;
+    auto* button = newField<QPushButton>(name, text);
+    connect(button, &QPushButton::clicked, this, guardedSlot([this, tue] { (this->*tue)(); }));
+    return button;
 }
 
-void Suchpanel::baueOptionen(QHBoxLayout& reihe)
+void SearchPanel::buildOptions(QHBoxLayout& layoutRow)
 {
-    for (std::size_t feld = 0; feld < SUCHFELDER.size(); ++feld) {
-        auto* option = neuesFeld<QRadioButton>(FELDNAMEN[feld], zuQt(SUCHFELDER[feld].benennung));
-        felder_->addButton(option, static_cast<int>(feld));
-        reihe.addWidget(option);
+    for (std::size_t field = 0; field < SEARCH_FIELDS.size(); ++field) {
+        auto* option = newField<QRadioButton>(FIELD_NAMES[field], toQt(SEARCH_FIELDS[field].caption));
+        fields_->addButton(option, static_cast<int>(field));
+        layoutRow.addWidget(option);
     }
-    reihe.addSpacing(12);
-    reihe.addStretch(1);
-    for (std::size_t art = 0; art < VERFAHREN.size(); ++art) {
+    layoutRow.addSpacing(12);
+    layoutRow.addStretch(1);
+    for (std::size_t kind = 0; kind < METHOD.size(); ++kind) {
         auto* option =
-            neuesFeld<QRadioButton>(QStringLiteral("OptSuchPos(%1)").arg(art), QString::fromUtf8(VERFAHREN[art]));
-        verfahren_->addButton(option, static_cast<int>(art));
-        reihe.addWidget(option);
+            newField<QRadioButton>(QStringLiteral("OptSuchPos(%1)").arg(kind), QString::fromUtf8(METHOD[kind]));
+        method_->addButton(option, static_cast<int>(kind));
+        layoutRow.addWidget(option);
     }
-    connect(felder_, &QButtonGroup::idClicked, this, bewacht([this](int feld) {
-                const Sanduhr warten;
-                modell_.suche().setzeFeld(static_cast<std::size_t>(feld));
+    connect(fields_, &QButtonGroup::idClicked, this, guardedSlot([this](int field) {
+                const BusyCursor wait;
+                model_.search().setField(static_cast<std::size_t>(field));
             }));
-    connect(verfahren_, &QButtonGroup::idClicked, this, bewacht([this](int art) {
-                modell_.suche().setzeVerfahren(static_cast<Suchverfahren>(art));
-                nimmFokus();
+    connect(method_, &QButtonGroup::idClicked, this, guardedSlot([this](int kind) {
+                model_.search().setMethod(static_cast<SearchMethod>(kind));
+                takeFocus();
             }));
 }
 
-void Suchpanel::suchen()
+void SearchPanel::search()
 {
     {
-        const Sanduhr warten;
-        modell_.suche().beginne();
+        const BusyCursor wait;
+        model_.search().begin();
     }
-    nimmFokus();
+    takeFocus();
 }
 
-void Suchpanel::weitersuchen()
+void SearchPanel::searchOn()
 {
     {
-        const Sanduhr warten;
-        modell_.suche().suche();
+        const BusyCursor wait;
+        model_.search().search();
     }
-    nimmFokus();
+    takeFocus();
 }
 
-void Suchpanel::filtern()
+void SearchPanel::filter()
 {
-    const Sanduhr warten;
-    modell_.filter().textFiltern();
+    const BusyCursor wait;
+    model_.filter().textFilter();
 }
 
-void Suchpanel::sucheText(const QString& text)
+void SearchPanel::searchText(const QString& text)
 {
     {
-        const Sanduhr warten;
-        modell_.suche().sucheText(ausQt(text));
+        const BusyCursor wait;
+        model_.search().searchText(fromQt(text));
     }
-    nimmFokus();
+    takeFocus();
 }
 
 // A typed text that stands in the list is its entry, or the combo would tell a choice when it loses the focus.
-void Suchpanel::textGetippt(const QString& text)
+void SearchPanel::textTyped(const QString& text)
 {
-    modell_.suche().setzeSuchtext(ausQt(text));
+    model_.search().setSearchText(fromQt(text));
     const QSignalBlocker still(CombSuchStr_);
-    const int stelle = CombSuchStr_->lineEdit()->cursorPosition();
+    const int position = CombSuchStr_->lineEdit()->cursorPosition();
     CombSuchStr_->setCurrentIndex(CombSuchStr_->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
     CombSuchStr_->setEditText(text);
-    CombSuchStr_->lineEdit()->setCursorPosition(stelle);
+    CombSuchStr_->lineEdit()->setCursorPosition(position);
 }
 
-void Suchpanel::nimmFokus()
+void SearchPanel::takeFocus()
 {
-    if (!modell_.suche().beimTippen())
+    if (!model_.search().atTyping())
         CombSuchStr_->setFocus();
     else
         TextDocuBez_->setFocus();
 }
 
-void Suchpanel::zeigen()
+void SearchPanel::refresh()
 {
-    Schnellsuche& suche = modell_.suche();
-    const bool beimTippen = suche.beimTippen();
-    zeigeSuchtexte();
-    if (TextDocuBez_->text() != zuQt(suche.TextDocuBez()))
-        TextDocuBez_->setText(zuQt(suche.TextDocuBez()));
-    CombSuchStr_->setEnabled(!beimTippen);
-    CombSuchStr_->setVisible(!beimTippen);
-    TextDocuBez_->setEnabled(beimTippen);
-    TextDocuBez_->setVisible(beimTippen);
-    CmDokuDateiFiltern_->setEnabled(!beimTippen);
-    ChDynSuchen_->setChecked(beimTippen);
-    felder_->button(static_cast<int>(suche.suchfeld()))->setChecked(true);
-    verfahren_->button(suche.verfahren())->setChecked(true);
-    zeigeSchritt();
+    QuickSearch& search = model_.search();
+    const bool atTyping = search.atTyping();
+    showSearchTexts();
+    if (TextDocuBez_->text() != toQt(search.TextDocuBez()))
+        TextDocuBez_->setText(toQt(search.TextDocuBez()));
+    CombSuchStr_->setEnabled(!atTyping);
+    CombSuchStr_->setVisible(!atTyping);
+    TextDocuBez_->setEnabled(atTyping);
+    TextDocuBez_->setVisible(atTyping);
+    CmDokuDateiFiltern_->setEnabled(!atTyping);
+    ChDynSuchen_->setChecked(atTyping);
+    fields_->button(static_cast<int>(search.searchField()))->setChecked(true);
+    method_->button(search.method())->setChecked(true);
+    showStep();
 }
 
-void Suchpanel::zeigeSuchtexte()
+void SearchPanel::showSearchTexts()
 {
     const QSignalBlocker still(CombSuchStr_);
-    const std::vector<std::string>& texte = modell_.suche().suchtexte();
-    bool dieselben = CombSuchStr_->count() == static_cast<int>(texte.size());
-    for (std::size_t i = 0; dieselben && i < texte.size(); ++i)
-        dieselben = CombSuchStr_->itemText(static_cast<int>(i)) == zuQt(texte[i]);
-    if (!dieselben) {
+    const std::vector<std::string>& texts = model_.search().searchTexts();
+    bool same = CombSuchStr_->count() == static_cast<int>(texts.size());
+    for (std::size_t i = 0; same && i < texts.size(); ++i)
+        same = CombSuchStr_->itemText(static_cast<int>(i)) == toQt(texts[i]);
+    if (!same) {
         CombSuchStr_->clear();
-        for (const std::string& text : texte)
-            CombSuchStr_->addItem(zuQt(text));
+        for (const std::string& text : texts)
+            CombSuchStr_->addItem(toQt(text));
     }
-    const QString text = zuQt(modell_.suche().CombSuchStr());
-    const int eintrag = CombSuchStr_->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (CombSuchStr_->currentIndex() != eintrag)
-        CombSuchStr_->setCurrentIndex(eintrag);
+    const QString text = toQt(model_.search().CombSuchStr());
+    const int entry = CombSuchStr_->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (CombSuchStr_->currentIndex() != entry)
+        CombSuchStr_->setCurrentIndex(entry);
     if (CombSuchStr_->currentText() != text)
         CombSuchStr_->setEditText(text);
 }
 
 // The open question stands out, the answer does not.
-void Suchpanel::zeigeSchritt()
+void SearchPanel::showStep()
 {
-    LblFilterStep1_->setText(zuQt(modell_.filter().LblFilterStep1()));
-    const QString rolle = modell_.filter().schritt() == 1 ? QStringLiteral("warnung") : QStringLiteral("wert");
-    if (LblFilterStep1_->property("rolle").toString() == rolle)
+    LblFilterStep1_->setText(toQt(model_.filter().LblFilterStep1()));
+    const QString textRole = model_.filter().step() == 1 ? QStringLiteral("warnung") : QStringLiteral("wert");
+    if (LblFilterStep1_->property("rolle").toString() == textRole)
         return;
-    LblFilterStep1_->setProperty("rolle", rolle);
+    LblFilterStep1_->setProperty("rolle", textRole);
     LblFilterStep1_->style()->unpolish(LblFilterStep1_);
     LblFilterStep1_->style()->polish(LblFilterStep1_);
 }

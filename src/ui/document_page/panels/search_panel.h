@@ -14,37 +14,37 @@ class QPushButton;
 
 namespace quelvarn {
 
-class LinkeLeiste;
+class LeftBar;
 
 // The panel that finds rows, or narrows the table, by a piece of text (FrmSuchenFiltern).
-class Suchpanel : public QFrame
+class SearchPanel : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit Suchpanel(LinkeLeiste& modell);
+    explicit SearchPanel(LeftBar& model);
 
-    void zeigen();
+    void refresh();
     // Where the next text is typed.
-    void nimmFokus();
-    void weitersuchen();
+    void takeFocus();
+    void searchOn();
 
 private:
-    QComboBox* neuesCombSuchStr();
-    QLineEdit* neuesTextDocuBez();
-    QCheckBox* neuesChDynSuchen();
-    QPushButton* neuerKnopf(const char* name, const QString& text, void (Suchpanel::*tue)());
-    void baueOptionen(QHBoxLayout& reihe);
-    void suchen();
-    void filtern();
-    void sucheText(const QString& text);
-    void textGetippt(const QString& text);
-    void zeigeSuchtexte();
-    void zeigeSchritt();
+    QComboBox* newCombSuchStr();
+    QLineEdit* newTextDocuBez();
+    QCheckBox* newChDynSuchen();
+    QPushButton* newButton(const char* name, const QString& text, void (SearchPanel::*tue)());
+    void buildOptions(QHBoxLayout& layoutRow);
+    void search();
+    void filter();
+    void searchText(const QString& text);
+    void textTyped(const QString& text);
+    void showSearchTexts();
+    void showStep();
 
-    LinkeLeiste& modell_;
-    QButtonGroup* felder_;
-    QButtonGroup* verfahren_;
+    LeftBar& model_;
+    QButtonGroup* fields_;
+    QButtonGroup* method_;
     QComboBox* CombSuchStr_;
     QLineEdit* TextDocuBez_;
     QCheckBox* ChDynSuchen_;
