@@ -3,6 +3,7 @@
 #include "bench/bare_sqlite.h"
 #include "database/connection.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 #include "database/sql/parser.h"
 
 #include <stdexcept>
@@ -35,7 +36,7 @@ std::size_t measureOpen(Measurements& layoutRow, const std::string& name, const 
                        [&] { rs.Close(); }},
                       "sqlite3_step, same order", {[&] { listed = sqlite.listAll(bare); }});
     require(rs.RecordCount() == listed, "the recordset and the peer list different rows");
-    return rs.memoryNeed() / rs.RecordCount();
+    return memoryNeed(rs) / rs.RecordCount();
 }
 
 void measureFirstFilter(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite, const std::string& column,

@@ -57,7 +57,7 @@ Value SampleDocument::value(const ColumnInfo& column, std::mt19937& source) cons
     case FieldType::FloatingPoint:
         return source() % 3 == 0 ? Value{} : Value{static_cast<double>(source() % 20000) / 4};
     case FieldType::Date:
-        return DateTime::out({2004, 1, 1}).plusSeconds(static_cast<std::int64_t>(source() % 600'000'000));
+        return DateTime::from({2004, 1, 1}).plusSeconds(static_cast<std::int64_t>(source() % 600'000'000));
     case FieldType::Text:
         break;
     }

@@ -1,8 +1,10 @@
 #include "bench/user_defined_measures.h"
 
 #include "bench/bare_sqlite.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
+#include "filter/steps.h"
 #include "filter/user_defined_lists.h"
+#include "filter/user_defined_run.h"
 #include "platform/boxes.h"
 #include "platform/clipboard.h"
 #include "platform/progress.h"

@@ -3,6 +3,8 @@
 #include "bench/bare_sqlite.h"
 #include "database/connection.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_lists.h"
 
 #include <fmt/format.h>
 #include <stdexcept>
@@ -25,11 +27,11 @@ void require(bool condition, const char* otherwise)
 
 std::size_t countLists(Recordset& rs, const std::string& condition)
 {
-    rs.loadColumns(COLUMNS);
-    const auto rows = rs.choose(condition);
+    loadColumns(rs, COLUMNS);
+    const auto rows = choose(rs, condition);
     std::size_t values = 0;
     for (const std::string& column : COLUMNS)
-        values += rs.distinctTexts(column, *rows, [](std::string_view text) { return !text.empty(); }).size();
+        values += distinctTexts(rs, column, *rows, [](std::string_view text) { return !text.empty(); }).size();
     return values;
 }
 
@@ -71,13 +73,13 @@ void measureTree(Measurements& layoutRow, Connection& connection, BareSqlite& sq
     std::size_t ours = 0;
     std::size_t other = 0;
     const auto level = [&](const std::string& column, const std::string& condition) {
-        const auto rows = rs.choose(condition);
-        ours = rs.distinctTexts(column, *rows, [](std::string_view text) { return !text.empty(); }).size();
+        const auto rows = choose(rs, condition);
+        ours = distinctTexts(rs, column, *rows, [](std::string_view text) { return !text.empty(); }).size();
     };
     layoutRow.limit("first level of the tree, no column read", 1000,
                     {[&] { level("Hauptmerkmal_C", ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
     layoutRow.limit("reading the columns of the tree", 1500,
-                    {[&] { rs.loadColumns(features); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
+                    {[&] { loadColumns(rs, features); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
     layoutRow.limit("first level of the tree", 30, {[&] { level("Hauptmerkmal_C", ""); }});
     layoutRow.compare("second level of the tree", std::nullopt, {[&] { level("Hauptmerkmal_D", branch); }},
                       "SELECT DISTINCT, by the index",

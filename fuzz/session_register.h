@@ -11,16 +11,19 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_world.h"
 #include "fakes/temp_folder.h"
-#include "filter/execution.h"
 #include "filter/filter_context.h"
+#include "filter/run_filter.h"
 #include "filter/saved_filters.h"
+#include "filter/steps.h"
 #include "filter/template_lookup.h"
+#include "filter/user_defined_run.h"
 #include "platform/boxes.h"
 #include "register/detail_lists.h"
 #include "register/document_questions.h"
 #include "register/favourite_rows.h"
 #include "register/quick_search.h"
 #include "register/relation_rows.h"
+#include "register/user_defined_rows.h"
 #include "session/ini_reader/start_run.h"
 #include "session/settings_writer.h"
 
@@ -152,7 +155,7 @@ public:
         record.DokuBez = input.DokuBez;
         record.RevBez = input.value;
         record.filename = input.value;
-        require(InfoRevision(database, "PartTabelle", input.DokuBez, revisionFilter::Erstellt).empty());
+        require(InfoRevision(database, "PartTabelle", input.DokuBez, RevisionFilter::Erstellt).empty());
         require(userDefinedList(database, "PartTabelleBenutzDef", record).empty());
         require(!hasAdditionalDocuments(database, input.value) &&
                 !findDocument(database, DOCUMENT_TYPES[0], input.value));

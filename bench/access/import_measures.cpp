@@ -45,7 +45,7 @@ private:
 void importFile(const fs::path& source, const fs::path& target)
 {
     const std::string command =
-        fmt::format("'{}' import '{}' '{}' --ersetzen >/dev/null", QVADMIN, source.string(), target.string());
+        fmt::format("'{}' import '{}' '{}' --replace >/dev/null", QVADMIN, source.string(), target.string());
     if (std::system(command.c_str()) != 0)
         throw std::runtime_error("qvadmin does not import " + source.string());
 }

@@ -3,7 +3,7 @@
 #include "bench/register_data.h"
 #include "database/document_types.h"
 #include "platform/files.h"
-#include "session/program.h"
+#include "session/database_start.h"
 #include "ui/main_view.h"
 #include "ui/main_window/main_window_view.h"
 #include "ui/text.h"

@@ -1,6 +1,6 @@
 #include "app/command_line.h"
 
-#include "session/program.h"
+#include "session/program_caption.h"
 
 #include <QCommandLineParser>
 

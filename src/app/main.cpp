@@ -3,7 +3,7 @@
 #include "app/end_signals.h"
 #include "app/screen_watch.h"
 #include "platform/system_ports.h"
-#include "session/program.h"
+#include "session/program_start.h"
 #include "ui/adapters/boxes_qt.h"
 #include "ui/adapters/clipboard_qt.h"
 #include "ui/adapters/patience_qt.h"

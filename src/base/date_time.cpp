@@ -105,12 +105,12 @@ bool readFraction(Reader& reader, bool& roundUp)
 
 std::optional<DateTime> whenValid(const CalendarTime& time)
 {
-    return isValid(time) ? std::optional(DateTime::out(time)) : std::nullopt;
+    return isValid(time) ? std::optional(DateTime::from(time)) : std::nullopt;
 }
 
 } // namespace
 
-DateTime DateTime::out(const CalendarTime& time)
+DateTime DateTime::from(const CalendarTime& time)
 {
     const std::int64_t day = dayNumber(time.year, static_cast<unsigned>(time.month), static_cast<unsigned>(time.day));
     const int timeOfDay = time.hour * 3600 + time.minute * 60 + time.second;

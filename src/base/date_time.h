@@ -23,7 +23,7 @@ struct DateTime
 {
     std::int64_t seconds = 0;
 
-    static DateTime out(const CalendarTime& time);
+    static DateTime from(const CalendarTime& time);
     // The database's own number: days, the fraction is the time of day and counts forward on negative days too.
     static DateTime fromDays(double days);
 

@@ -57,7 +57,7 @@ DateTime now()
 {
     const std::time_t time = std::time(nullptr);
     const std::tm local = *std::localtime(&time);
-    return DateTime::out(
+    return DateTime::from(
         {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec});
 }
 

@@ -15,6 +15,8 @@ enum class DatabaseKind { Unknown, SQLite, PostgreSQL, Access };
 // By the first bytes of what lies there, not by the ending. Throws RuntimeError when it cannot be read.
 DatabaseKind recognizeDatabase(const std::filesystem::path& documentPath);
 
+class Recordset;
+
 // The one connection of a session; shared by its recordsets.
 class Connection
 {
@@ -55,6 +57,8 @@ private:
     std::shared_ptr<Engine> engine_;
     Patience* patience_ = nullptr;
     friend class Recordset;
+    friend void openRows(Recordset& recordset, std::string_view table, std::vector<RowKey> keys,
+                         Connection& connection);
     friend class Transaction;
 };
 

@@ -34,13 +34,13 @@ std::string comparisonKey(const RowReader& row)
 DistinctReader::DistinctReader(RowReader& server, const std::vector<sql::Sort>& rowOrder, std::size_t limit)
     : columns_(server.columns())
 {
-    lies(server);
+    read(server);
     sort(rowOrder);
     if (limit > 0 && rows_.size() > limit)
         rows_.resize(limit);
 }
 
-void DistinctReader::lies(RowReader& server)
+void DistinctReader::read(RowReader& server)
 {
     std::unordered_set<std::string> known;
     while (server.next()) {

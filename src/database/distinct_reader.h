@@ -24,7 +24,7 @@ public:
 private:
     using Row = std::vector<Value>;
 
-    void lies(RowReader& server);
+    void read(RowReader& server);
     void sort(const std::vector<sql::Sort>& rowOrder);
     const Value& cell(std::size_t column) const { return rows_[next_ - 1][column]; }
 

@@ -8,15 +8,20 @@
 
 namespace quelvarn {
 
-RuntimeError recordsetFault(int number, const std::string& description)
-{
-    return {number, "Recordset", description};
-}
-
 Recordset::Recordset() : core_(std::make_unique<Core>()) {}
 Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+
+Recordset::Core& coreOf(Recordset& recordset)
+{
+    return *recordset.core_;
+}
+
+const Recordset::Core& coreOf(const Recordset& recordset)
+{
+    return *recordset.core_;
+}
 
 void Recordset::Open(sql::FixedText select, Connection& connection, CursorType cursor, LockType lock)
 {
@@ -69,11 +74,6 @@ void Recordset::Close()
     core_ = std::move(fresh);
 }
 
-void Recordset::setWholeLimit(std::size_t rows)
-{
-    core_->small = std::max<std::size_t>(rows, 1);
-}
-
 bool Recordset::open() const
 {
     return core_->open;
@@ -82,11 +82,6 @@ bool Recordset::open() const
 const std::vector<ColumnInfo>& Recordset::fields() const
 {
     return core_->rows.fields();
-}
-
-bool Recordset::hasField(std::string_view name) const
-{
-    return core_->rows.findField(name).has_value();
 }
 
 bool Recordset::Bof() const
@@ -184,64 +179,6 @@ Value Recordset::cell(std::size_t position, std::string_view name) const
     if (core_->rows.loaded(field))
         return core_->rows.column(field).value(core_->view.row(position));
     return core_->buffer.cell(core_->rows, core_->view, position, field);
-}
-
-bool Recordset::loadColumns(std::span<const std::string> names, const Progress& progress)
-{
-    core_->requireOpen();
-    std::vector<std::size_t> fields;
-    for (const std::string& name : names)
-        fields.push_back(core_->rows.fieldOf(name));
-    return core_->rows.load(fields, progress);
-}
-
-bool Recordset::loadColumn(std::string_view name, const Progress& progress)
-{
-    const std::string one(name);
-    return loadColumns({&one, 1}, progress);
-}
-
-bool Recordset::columnLoaded(std::string_view name) const
-{
-    return core_->rows.loaded(core_->rows.fieldOf(name));
-}
-
-std::size_t Recordset::memoryNeed() const
-{
-    return sizeof(Core) + core_->rows.memory() + core_->view.memory() +
-           (core_->rowOrder.capacity() + core_->removed.capacity()) * sizeof(RowNumber);
-}
-
-void Recordset::Core::requireOpen() const
-{
-    if (!open)
-        throw recordsetFault(3704, "Das Recordset ist nicht geöffnet.");
-}
-
-std::size_t Recordset::Core::currentPosition() const
-{
-    requireOpen();
-    if (!onRow())
-        throw recordsetFault(3021, "Es gibt keinen aktuellen Datensatz.");
-    return static_cast<std::size_t>(position);
-}
-
-Value Recordset::Core::fieldValue(std::size_t field) const
-{
-    if (pendingEdit && pendingEdit->values[field])
-        return *pendingEdit->values[field];
-    if (pendingEdit && pendingEdit->fresh)
-        return {};
-    const std::size_t place = currentPosition();
-    if (rows.loaded(field))
-        return rows.column(field).value(view.row(place));
-    return buffer.rowValue(rows, view, place, field);
-}
-
-void Recordset::Core::goTo(std::ptrdiff_t newPosition)
-{
-    requireOpen();
-    position = newPosition;
 }
 
 } // namespace quelvarn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/row_filter.h"
 #include "database/schema.h"
 #include "database/sql/ast.h"
 #include "database/sql/fixed_text.h"
@@ -19,30 +20,15 @@ namespace quelvarn {
 
 class Connection;
 
-enum class CursorType { ForwardOnly = 0, KeySet = 1, Dynamisch = 2, Static = 3 };
+enum class CursorType { ForwardOnly = 0, KeySet = 1, Dynamic = 2, Static = 3 };
 enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, Batch = 4 };
 enum class SearchDirection { Forward, Backwards };
-
-// A row of a recordset, whatever filter or order is on it. Valid until the recordset is closed.
-using Bookmark = std::uint32_t;
-
-// Long work of a recordset tells its progress here (done, total); false gives up, and the recordset stays as
-// it was.
-using Progress = std::function<bool(std::size_t, std::size_t)>;
-
-using SharedCondition = std::shared_ptr<const sql::Expression>;
-
-// What a recordset is narrowed to: rows that meet every condition. The text stands for it where it is shown or
-// compared.
-struct RowFilter
-{
-    std::string text;
-    std::vector<SharedCondition> conditions = {};
-};
 
 // A client-side cursor over columns. Opening a large result reads the keys of its rows and the columns of the
 // sort order; every other column is read when first asked for. RecordCount is that of the opening; rows that
 // vanished since read as empty. Also a recordset in memory, with fields of its own.
+//
+// Lists of what occurs in it are in recordset_lists.h, its columns in recordset_columns.h.
 //
 // Where there is no current row (Bof or Eof), reading or writing a field throws RuntimeError 3021.
 class Recordset
@@ -58,8 +44,6 @@ public:
               LockType lock = LockType::ReadOnly);
     void Open(sql::FixedText select, Connection& connection, CursorType cursor = CursorType::Static,
               LockType lock = LockType::ReadOnly);
-    // These rows of one table with all its columns, in this order, read as those of a query are; not to be changed.
-    void openRows(std::string_view table, std::vector<std::int64_t> key, Connection& connection);
     // In memory: append fields, then open.
     void appendField(std::string_view name, FieldType type);
     void Open();
@@ -67,7 +51,6 @@ public:
     bool open() const;
 
     const std::vector<ColumnInfo>& fields() const;
-    bool hasField(std::string_view name) const; // In any case.
 
     bool Bof() const;
     bool Eof() const;
@@ -97,7 +80,6 @@ public:
     void Filter(std::string_view expression, const Progress& progress = {});
     void Filter(RowFilter filter, const Progress& progress = {});
     const RowFilter& filter() const;
-    const std::string& filterText() const { return filter().text; }
     // "Feld [ASC|DESC], ...", "" for the order of opening.
     void Sort(std::string_view expression);
     // Moves to the first row that meets the criterion ("Feld LIKE 'x%'"), starting `skip` rows behind the
@@ -119,28 +101,12 @@ public:
     // in memory.
     Value cell(std::size_t position, std::string_view field) const;
 
-    // What occurs in the rows of the opening. Filter, order and place stay as they are.
-    // The rows that meet a condition as it stands behind WHERE (month first), "" for all. Nothing when given up.
-    std::optional<std::vector<Bookmark>> choose(std::string_view text, const Progress& progress = {});
-    std::optional<std::vector<Bookmark>> choose(const RowFilter& filter, const Progress& progress = {});
-    // The distinct texts of a column in these rows, sorted; no Null, and only those that `gilt` accepts. Of texts that
-    // differ in case or trailing blanks alone, the spelling stored first, without such blanks where there is one.
-    std::vector<std::string> distinctTexts(std::string_view field, std::span<const Bookmark> rows,
-                                           const std::function<bool(std::string_view)>& counts = {});
-    // The same for a column of numbers.
-    std::vector<double> distinctNumbers(std::string_view field, std::span<const Bookmark> rows);
-
-    // Results up to this many rows are read whole at the opening; 2,048 unless told. Set it before.
-    void setWholeLimit(std::size_t rows);
-    // Reads whole columns into memory in one pass, which filters, searches and lists over them do by themselves.
-    // False when it was given up: then none of them is there.
-    bool loadColumns(std::span<const std::string> fields, const Progress& progress = {});
-    bool loadColumn(std::string_view field, const Progress& progress = {});
-    bool columnLoaded(std::string_view field) const;
-    std::size_t memoryNeed() const; // bytes
+    struct Core;
 
 private:
-    struct Core;
+    friend Core& coreOf(Recordset& recordset);
+    friend const Core& coreOf(const Recordset& recordset);
+
     std::unique_ptr<Core> core_;
 };
 

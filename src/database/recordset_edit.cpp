@@ -1,4 +1,5 @@
-#include "database/recordset.h"
+#include "database/recordset_edit.h"
+
 #include "database/recordset_core.h"
 #include "database/sql/column_value.h"
 
@@ -90,14 +91,14 @@ void Recordset::UpdateBatch()
     core.waiting.clear();
 }
 
-void Recordset::Core::requireWritable() const
+void RecordsetEdit::requireWritable() const
 {
     requireOpen();
     if (lock == LockType::ReadOnly || (rows.engine() && !rows.hasKey()))
         throw recordsetFault(3251, "Das Recordset ist nur zum Lesen geöffnet.");
 }
 
-void Recordset::Core::endEdit()
+void RecordsetEdit::endEdit()
 {
     requireOpen();
     // A row that could not be written is as it was before.
@@ -111,7 +112,7 @@ void Recordset::Core::endEdit()
     buffer.clear();
 }
 
-void Recordset::Core::writeNew(const PendingEdit& fresh)
+void RecordsetEdit::writeNew(const PendingEdit& fresh)
 {
     RowKey key = 0;
     if (rows.engine() && !batch())
@@ -128,10 +129,10 @@ void Recordset::Core::writeNew(const PendingEdit& fresh)
     position = static_cast<std::ptrdiff_t>(view.count()) - 1;
 }
 
-void Recordset::Core::writeChanged(const PendingEdit& changed)
+void RecordsetEdit::writeChanged(const PendingEdit& changed)
 {
     const RowNumber row = currentRow();
-    WaitingChange change{WaitingChange::Kind::Geaendert, row, assignments(changed)};
+    WaitingChange change{WaitingChange::Kind::Changed, row, assignments(changed)};
     if (batch())
         waiting.push_back(std::move(change));
     else if (rows.engine())
@@ -139,7 +140,7 @@ void Recordset::Core::writeChanged(const PendingEdit& changed)
     adopt(row, changed);
 }
 
-std::vector<sql::Assignment> Recordset::Core::assignments(const PendingEdit& source) const
+std::vector<sql::Assignment> RecordsetEdit::assignments(const PendingEdit& source) const
 {
     std::vector<sql::Assignment> result;
     for (std::size_t field = 0; field < source.values.size(); ++field)
@@ -148,14 +149,14 @@ std::vector<sql::Assignment> Recordset::Core::assignments(const PendingEdit& sou
     return result;
 }
 
-void Recordset::Core::adopt(RowNumber row, const PendingEdit& source)
+void RecordsetEdit::adopt(RowNumber row, const PendingEdit& source)
 {
     for (std::size_t field = 0; field < source.values.size(); ++field)
         if (source.values[field])
             rows.set(row, field, *source.values[field]);
 }
 
-void Recordset::Core::execute(const WaitingChange& change)
+void RecordsetEdit::execute(const WaitingChange& change)
 {
     Engine& engine = *rows.engine();
     const RowKey key = rows.key(change.row);
@@ -163,7 +164,7 @@ void Recordset::Core::execute(const WaitingChange& change)
     case WaitingChange::Kind::Fresh:
         rows.setKey(change.row, engine.insert(rows.table(), change.values));
         return;
-    case WaitingChange::Kind::Geaendert:
+    case WaitingChange::Kind::Changed:
         if (!engine.update(rows.table(), key, change.values))
             throw recordsetFault(ROW_MISSING,
                                  "Der Datensatz wurde inzwischen von einem anderen Anwender geändert oder gelöscht.");
@@ -171,6 +172,18 @@ void Recordset::Core::execute(const WaitingChange& change)
     case WaitingChange::Kind::Removed:
         engine.remove(rows.table(), key);
     }
+}
+
+Value RecordsetEdit::fieldValue(std::size_t field) const
+{
+    if (pendingEdit && pendingEdit->values[field])
+        return *pendingEdit->values[field];
+    if (pendingEdit && pendingEdit->fresh)
+        return {};
+    const std::size_t place = currentPosition();
+    if (rows.loaded(field))
+        return rows.column(field).value(view.row(place));
+    return buffer.rowValue(rows, view, place, field);
 }
 
 } // namespace quelvarn

@@ -1,5 +1,6 @@
+#include "database/recordset_find.h"
+
 #include "database/filter_evaluator.h"
-#include "database/recordset.h"
 #include "database/recordset_core.h"
 #include "database/recordset_sort.h"
 #include "database/sql/parser.h"
@@ -17,6 +18,11 @@ constexpr std::size_t GREATEST_STEP = 1 << 16;
 constexpr std::ptrdiff_t QUESTION_FROM_STEP = 16 * FIRST_STEP;
 
 } // namespace
+
+RuntimeError recordsetFault(int number, const std::string& description)
+{
+    return {number, "Recordset", description};
+}
 
 void Recordset::Filter(std::string_view expression, const Progress& progress)
 {
@@ -58,25 +64,25 @@ void Recordset::Sort(std::string_view expression)
     std::vector<bool> shown(core.rows.count());
     for (const RowNumber row : core.view.crop(0, core.view.count()))
         shown[row] = true;
-    auto layoutRow = core.setRowOrder(fields);
-    std::erase_if(layoutRow, [&](RowNumber row) { return !shown[row]; });
-    if (layoutRow.size() == core.rows.count())
+    auto ordered = core.setRowOrder(fields);
+    std::erase_if(ordered, [&](RowNumber row) { return !shown[row]; });
+    if (ordered.size() == core.rows.count())
         core.showAll();
     else
-        core.show(std::move(layoutRow));
+        core.show(std::move(ordered));
 }
 
-std::vector<RowNumber> Recordset::Core::setRowOrder(const std::vector<SortField>& fields)
+std::vector<RowNumber> RecordsetRows::setRowOrder(const std::vector<SortField>& fields)
 {
     sorted = false;
     rowOrder = {};
-    auto layoutRow = allRows();
+    auto ordered = allRows();
     if (!fields.empty()) {
-        sort(layoutRow, fields, [&](std::size_t field) -> const Column& { return rows.column(field); });
-        rowOrder = layoutRow;
+        sort(ordered, fields, [&](std::size_t field) -> const Column& { return rows.column(field); });
+        rowOrder = ordered;
         sorted = true;
     }
-    return layoutRow;
+    return ordered;
 }
 
 bool Recordset::Find(std::string_view criterion, std::size_t skip, SearchDirection direction, bool fromStart,
@@ -101,8 +107,8 @@ bool Recordset::Find(std::string_view criterion, std::size_t skip, SearchDirecti
     return found.has_value();
 }
 
-std::optional<std::ptrdiff_t> Recordset::Core::findPosition(Selection& selection, std::ptrdiff_t start,
-                                                            bool forward) const
+std::optional<std::ptrdiff_t> RecordsetRows::findPosition(Selection& selection, std::ptrdiff_t start,
+                                                          bool forward) const
 {
     const auto count = static_cast<std::ptrdiff_t>(view.count());
     start = std::clamp<std::ptrdiff_t>(start, forward ? 0 : -1, forward ? count : count - 1);
@@ -124,7 +130,7 @@ std::optional<std::ptrdiff_t> Recordset::Core::findPosition(Selection& selection
     return std::nullopt;
 }
 
-std::vector<RowNumber> Recordset::Core::allRows() const
+std::vector<RowNumber> RecordsetRows::allRows() const
 {
     if (sorted)
         return rowOrder;
@@ -135,7 +141,7 @@ std::vector<RowNumber> Recordset::Core::allRows() const
     return all;
 }
 
-void Recordset::Core::showAll()
+void RecordsetRows::showAll()
 {
     if (sorted || !removed.empty())
         show(allRows());
@@ -145,20 +151,20 @@ void Recordset::Core::showAll()
     buffer.clear();
 }
 
-void Recordset::Core::show(std::vector<RowNumber> found)
+void RecordsetRows::show(std::vector<RowNumber> found)
 {
     view.show(std::move(found), !sorted);
     position = 0;
     buffer.clear();
 }
 
-std::unique_ptr<Selection> Recordset::Core::buildSelectionOf(const sql::Expression& expression) const
+std::unique_ptr<Selection> RecordsetRows::buildSelectionOf(const sql::Expression& expression) const
 {
     return buildSelection(expression,
                           [this](std::string_view name) -> const Column& { return rows.column(rows.fieldOf(name)); });
 }
 
-std::optional<std::vector<RowNumber>> Recordset::Core::choose(const RowFilter& filter, const Progress& progress)
+std::optional<std::vector<RowNumber>> RecordsetRows::choose(const RowFilter& filter, const Progress& progress)
 {
     if (!loadNamed(filter.conditions, progress))
         return std::nullopt;
@@ -168,7 +174,7 @@ std::optional<std::vector<RowNumber>> Recordset::Core::choose(const RowFilter& f
     return chosen;
 }
 
-bool Recordset::Core::loadNamed(std::span<const SharedCondition> conditions, const Progress& progress)
+bool RecordsetRows::loadNamed(std::span<const SharedCondition> conditions, const Progress& progress)
 {
     std::vector<std::size_t> fields;
     for (const SharedCondition& condition : conditions)
@@ -176,6 +182,26 @@ bool Recordset::Core::loadNamed(std::span<const SharedCondition> conditions, con
             if (const std::size_t field = rows.fieldOf(name); std::ranges::find(fields, field) == fields.end())
                 fields.push_back(field);
     return rows.load(fields, progress);
+}
+
+void RecordsetRows::requireOpen() const
+{
+    if (!open)
+        throw recordsetFault(3704, "Das Recordset ist nicht geöffnet.");
+}
+
+std::size_t RecordsetRows::currentPosition() const
+{
+    requireOpen();
+    if (!onRow())
+        throw recordsetFault(3021, "Es gibt keinen aktuellen Datensatz.");
+    return static_cast<std::size_t>(position);
+}
+
+void RecordsetRows::goTo(std::ptrdiff_t newPosition)
+{
+    requireOpen();
+    position = newPosition;
 }
 
 } // namespace quelvarn

@@ -1,6 +1,8 @@
+#include "database/recordset_lists.h"
+
 #include "base/collation.h"
 #include "database/filter_evaluator.h"
-#include "database/recordset.h"
+#include "database/recordset_columns.h"
 #include "database/recordset_core.h"
 #include "database/sql/parser.h"
 
@@ -37,37 +39,39 @@ std::vector<RowNumber> firstRows(const TextColumn& column, const RowStore& memor
 
 } // namespace
 
-std::optional<std::vector<Bookmark>> Recordset::choose(std::string_view text, const Progress& progress)
+std::optional<std::vector<Bookmark>> choose(Recordset& recordset, std::string_view text, const Progress& progress)
 {
     RowFilter filter;
     if (SharedCondition condition = sql::parseCondition(text, sql::DateOrder::MonthFirst))
         filter.conditions.push_back(std::move(condition));
-    return choose(filter, progress);
+    return choose(recordset, filter, progress);
 }
 
-std::optional<std::vector<Bookmark>> Recordset::choose(const RowFilter& filter, const Progress& progress)
+std::optional<std::vector<Bookmark>> choose(Recordset& recordset, const RowFilter& filter, const Progress& progress)
 {
-    core_->requireOpen();
-    return core_->choose(filter, progress);
+    coreOf(recordset).requireOpen();
+    return coreOf(recordset).choose(filter, progress);
 }
 
-std::vector<std::string> Recordset::distinctTexts(std::string_view name, std::span<const Bookmark> rows,
-                                                  const std::function<bool(std::string_view)>& counts)
+std::vector<std::string> distinctTexts(Recordset& recordset, std::string_view name, std::span<const Bookmark> rows,
+                                       const std::function<bool(std::string_view)>& counts)
 {
-    loadColumn(name);
-    const auto* column = dynamic_cast<const TextColumn*>(&core_->rows.column(core_->rows.fieldOf(name)));
+    loadColumn(recordset, name);
+    const auto* column =
+        dynamic_cast<const TextColumn*>(&coreOf(recordset).rows.column(coreOf(recordset).rows.fieldOf(name)));
     if (!column)
         throw recordsetFault(3421, "Das Feld '" + std::string(name) + "' enthält keine Texte.");
-    const std::vector<RowNumber> first = firstRows(*column, core_->rows, rows);
+    const std::vector<RowNumber> first = firstRows(*column, coreOf(recordset).rows, rows);
     std::vector<FoundText> foundTexts;
     for (TextCode code = 1; code < first.size(); ++code) {
         const std::string_view text = column->texts().text(code);
         if (first[code] != NONE && (!counts || counts(text)))
-            foundTexts.push_back({sortKey(text), text.ends_with(' '), core_->rows.sequence(first[code]), code});
+            foundTexts.push_back(
+                {sortKey(text), text.ends_with(' '), coreOf(recordset).rows.sequence(first[code]), code});
     }
     std::sort(foundTexts.begin(), foundTexts.end(), [](const FoundText& left, const FoundText& right) {
-        const int rowOrder = left.key.compare(right.key);
-        return rowOrder != 0 ? rowOrder < 0 : std::tie(left.blanks, left.row) < std::tie(right.blanks, right.row);
+        const int order = left.key.compare(right.key);
+        return order != 0 ? order < 0 : std::tie(left.blanks, left.row) < std::tie(right.blanks, right.row);
     });
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < foundTexts.size(); ++i)
@@ -76,10 +80,10 @@ std::vector<std::string> Recordset::distinctTexts(std::string_view name, std::sp
     return texts;
 }
 
-std::vector<double> Recordset::distinctNumbers(std::string_view name, std::span<const Bookmark> rows)
+std::vector<double> distinctNumbers(Recordset& recordset, std::string_view name, std::span<const Bookmark> rows)
 {
-    loadColumn(name);
-    const Column& column = core_->rows.column(core_->rows.fieldOf(name));
+    loadColumn(recordset, name);
+    const Column& column = coreOf(recordset).rows.column(coreOf(recordset).rows.fieldOf(name));
     std::vector<double> numbers;
     const auto collect = [&](const auto& columnOfNumbers) {
         for (const RowNumber row : rows) {

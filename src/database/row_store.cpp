@@ -2,6 +2,8 @@
 
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "database/catalog.h"
+#include "database/recordset_find.h"
 #include "database/recordset_keys.h"
 #include "database/recordset_sort.h"
 
@@ -255,6 +257,36 @@ std::size_t RowStore::memory() const
     for (const auto& column : columns_)
         bytes += column ? column->memory() : 0;
     return bytes;
+}
+
+void RowStore::openRows(std::shared_ptr<Engine> engine, std::string_view table, std::vector<RowKey> key,
+                        std::size_t small)
+{
+    const auto schema = engine->findTable(table);
+    if (!schema)
+        throw recordsetFault(FAULT_MISSING_TABLE, "Die Tabelle '" + std::string(table) + "' gibt es nicht.");
+    *this = {};
+    engine_ = std::move(engine);
+    query_.table = schema->name;
+    fields_ = schema->columns;
+    columns_.resize(fields_.size());
+    hasKey_ = true;
+    count_ = key.size();
+    key_ = std::move(key);
+    if (count_ > small)
+        return;
+
+    std::vector<RowNumber> rows(count_);
+    std::iota(rows.begin(), rows.end(), RowNumber{0});
+    std::vector<std::size_t> all(fields_.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const std::vector<Value> values = readCells(rows, all);
+    for (std::size_t field = 0; field < fields_.size(); ++field) {
+        columns_[field] = newColumn(fields_[field].type);
+        for (std::size_t row = 0; row < count_; ++row)
+            columns_[field]->append(values[row * fields_.size() + field]);
+        columns_[field]->commit();
+    }
 }
 
 } // namespace quelvarn

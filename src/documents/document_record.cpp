@@ -2,6 +2,7 @@
 
 #include "database/document_types.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 #include "session/session_state.h"
 
 #include <algorithm>
@@ -65,7 +66,7 @@ DokuRecord readDocumentRecord(const Recordset& row, const DocumentType& type)
     record.Erstellt = asDate(row.field("Erstellt"));
     record.Geaendert = asDate(row.field("Geaendert"));
     readFeatures(row, record);
-    if (type.key == "Draft" && row.hasField("F_05_leer")) // Older databases lack the column.
+    if (type.key == "Draft" && hasField(row, "F_05_leer")) // Older databases lack the column.
         record.F_05_leer = row.Text("F_05_leer");
     return record;
 }

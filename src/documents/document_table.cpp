@@ -37,7 +37,7 @@ void DocumentTable::showAll(const StatusCondition& stays)
 {
     result_ = Recordset();
     state_ = count_ > 0 ? TableState::Open : TableState::Empty;
-    if (rows_.filterText() != stays.StatusFilter)
+    if (rows_.filter().text != stays.StatusFilter)
         rows_.Filter(stays.StatusFilter);
     narrowing_ = {{}, stays, {}};
     rowsChanged();

@@ -1,5 +1,6 @@
 #include "documents/document_tables.h"
 
+#include "database/recordset_columns.h"
 #include "database/sql/conditions.h"
 #include "platform/clock.h"
 #include "session/operations.h"
@@ -28,9 +29,9 @@ Recordset DocumentTables::OpenDokuTabelle(const DocumentType& type) const
         type.statusScope ? std::string_view(session_.rights.WhereStatus) : std::string_view();
     Recordset rows;
     if (wholeLimit_)
-        rows.setWholeLimit(*wholeLimit_);
+        quelvarn::setWholeLimit(rows, *wholeLimit_);
     rows.Open(sql::Query(type.table).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
-              session_.database.connection, CursorType::Dynamisch, LockType::ReadOnly);
+              session_.database.connection, CursorType::Dynamic, LockType::ReadOnly);
     if (!rows.empty())
         rows.MoveFirst();
     return rows;

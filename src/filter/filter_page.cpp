@@ -2,9 +2,12 @@
 
 #include "base/text.h"
 #include "base/windows_path.h"
-#include "filter/execution.h"
+#include "filter/lift_filter.h"
+#include "filter/run_filter.h"
 #include "filter/saved_filters.h"
+#include "filter/steps.h"
 #include "platform/clock.h"
+#include "session/access_line.h"
 #include "session/error_report.h"
 
 #include <algorithm>

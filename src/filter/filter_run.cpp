@@ -1,7 +1,7 @@
 #include "filter/filter_run.h"
 
 #include "database/sql/conditions.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "platform/progress.h"
 
 #include <functional>
@@ -76,7 +76,7 @@ bool runOrKeep(FilterContext& context, const std::function<bool()>& run)
     const auto row = table.Bof() || table.Eof() ? std::nullopt : std::optional(table.bookmark());
     const auto moveBack = [&] {
         context.state() = before;
-        if (table.filterText() != filter.text)
+        if (table.filter().text != filter.text)
             table.Filter(filter);
         if (row)
             table.setBookmark(*row);

@@ -1,4 +1,7 @@
-#include "filter/execution.h"
+#include "filter/lift_filter.h"
+
+#include "filter/filter_context.h"
+#include "filter/steps.h"
 
 namespace quelvarn {
 

@@ -1,6 +1,8 @@
 #include "base/number_format.h"
 #include "base/text.h"
-#include "filter/execution.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_lists.h"
+#include "filter/steps.h"
 #include "filter/structure_section.h"
 #include "platform/progress.h"
 #include "session/error_report.h"
@@ -73,16 +75,16 @@ void StructureSection::fillMainValues()
     const std::string alias = fmt::format("Alias_{}", letter(mainValue_));
     std::optional<std::vector<Bookmark>> rows;
     guarded(boxes, "SE-Filtern: ComboBoxen für Hauptwerte a bis g", FAULT_LISTS, [&] {
-        if (!table().loadColumns(std::vector{value, alias}, std::ref(work)))
+        if (!loadColumns(table(), std::vector{value, alias}, std::ref(work)))
             return;
-        rows = table().choose(StrukturBedingung_, std::ref(work));
+        rows = choose(table(), StrukturBedingung_, std::ref(work));
         if (rows && ChShowAnzWerte_)
-            values_ = numberList(table().distinctNumbers(value, *rows));
+            values_ = numberList(distinctNumbers(table(), value, *rows));
     });
     if (!rows)
         return;
     guarded(boxes, "SE-Filtern: Listen für Alias a bis g", FAULT_LISTS, [&] {
-        alias_ = valueList(table().distinctTexts(alias, *rows, [](std::string_view text) { return !text.empty(); }));
+        alias_ = valueList(distinctTexts(table(), alias, *rows, [](std::string_view text) { return !text.empty(); }));
         if (!ChShowAnzAlias_)
             alias_.count.clear();
     });

@@ -1,5 +1,7 @@
+#include "filter/no_records.h"
+
 #include "base/text.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "platform/boxes.h"
 
 #include <fmt/format.h>

@@ -3,9 +3,13 @@
 #include "base/date_time.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_lists.h"
 #include "database/sql/conditions.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "filter/fragments.h"
+#include "filter/status_filter.h"
+#include "filter/steps.h"
 #include "platform/progress.h"
 
 #include <exception>
@@ -43,7 +47,7 @@ std::vector<std::string> columnsOfLists(const Recordset& table)
     std::vector<std::string> columns{"Status"};
     for (const Property& property : PROPERTIES)
         columns.emplace_back(property.field);
-    std::erase_if(columns, [&](const std::string& name) { return !table.hasField(name); });
+    std::erase_if(columns, [&](const std::string& name) { return !hasField(table, name); });
     return columns;
 }
 
@@ -94,7 +98,7 @@ void PropertySection::FilterListenSchmal(std::string_view FilterString)
     clear();
     Recordset& table = context_.table().rows();
     LongWork work(context_.ports().progress, "Filterlisten werden gefüllt ...");
-    if (!table.loadColumns(columnsOfLists(table), std::ref(work)))
+    if (!loadColumns(table, columnsOfLists(table), std::ref(work)))
         return;
     RowFilter filter;
     if (SharedCondition condition = filterCondition(FilterString))
@@ -102,7 +106,7 @@ void PropertySection::FilterListenSchmal(std::string_view FilterString)
     fillStatus(table, filter);
     if (SharedCondition status = sql::statusScope(context_.filter.status.StatusFilterWhere))
         filter.conditions.push_back(std::move(status));
-    const auto rows = table.choose(filter, std::ref(work));
+    const auto rows = choose(table, filter, std::ref(work));
     if (!rows)
         return;
     std::exception_ptr first;
@@ -119,9 +123,9 @@ void PropertySection::FilterListenSchmal(std::string_view FilterString)
 
 void PropertySection::fillStatus(Recordset& table, const RowFilter& filter)
 {
-    const auto rows = table.choose(filter);
+    const auto rows = choose(table, filter);
     statusExists_.fill(false);
-    for (const double status : table.distinctNumbers("Status", *rows))
+    for (const double status : distinctNumbers(table, "Status", *rows))
         if (status >= 0 && status < STATUS_COUNT)
             statusExists_[static_cast<std::size_t>(status)] = true;
 }
@@ -132,7 +136,7 @@ void PropertySection::fillList(std::size_t number, Recordset& table, std::span<c
     const auto counts = [onlyBlankCounts = onlyBlankCounts](std::string_view text) {
         return !(onlyBlankCounts ? text : trimRightBlanks(text)).empty();
     };
-    lists_[number] = valueList(table.distinctTexts(field, rows, counts));
+    lists_[number] = valueList(distinctTexts(table, field, rows, counts));
 }
 
 } // namespace quelvarn

@@ -1,5 +1,12 @@
-#include "filter/execution.h"
+#include "filter/run_filter.h"
+
+#include "filter/filter_context.h"
 #include "filter/filter_run.h"
+#include "filter/lift_filter.h"
+#include "filter/no_records.h"
+#include "filter/property_run.h"
+#include "filter/structure_run.h"
+#include "filter/user_defined_run.h"
 
 #include <utility>
 

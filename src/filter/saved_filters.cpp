@@ -1,9 +1,11 @@
 #include "filter/saved_filters.h"
 
 #include "base/utf8.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "filter/filter_rows.h"
 #include "filter/filter_string.h"
+#include "filter/status_filter.h"
+#include "filter/steps.h"
 #include "session/error_report.h"
 #include "session/ini_reader/ini_rows.h"
 

@@ -1,4 +1,4 @@
-#include "filter/execution.h"
+#include "filter/status_filter.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,4 +1,6 @@
-#include "filter/execution.h"
+#include "filter/steps.h"
+
+#include "filter/filter_context.h"
 #include "platform/boxes.h"
 
 #include <utility>

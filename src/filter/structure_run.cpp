@@ -1,4 +1,6 @@
-#include "filter/execution.h"
+#include "filter/structure_run.h"
+
+#include "filter/filter_context.h"
 #include "filter/filter_run.h"
 
 #include <algorithm>

@@ -3,8 +3,10 @@
 #include "base/collation.h"
 #include "base/like_pattern.h"
 #include "base/text.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_lists.h"
 #include "database/sql/conditions.h"
-#include "filter/execution.h"
+#include "filter/steps.h"
 #include "filter/template_lookup.h"
 #include "platform/progress.h"
 #include "session/error_report.h"
@@ -168,14 +170,14 @@ std::optional<StructureSection::Branch> StructureSection::readBranch(const Struc
     for (std::size_t level = 0; level < LEVELS.size(); ++level)
         columns.push_back(feature(level));
     LongWork work(context_.ports().progress, "Strukturmerkmale werden gelesen ...");
-    if (!table().loadColumns(columns, std::ref(work)))
+    if (!loadColumns(table(), columns, std::ref(work)))
         return std::nullopt;
-    const auto rows = table().choose(conditionOf(documentPath));
+    const auto rows = choose(table(), conditionOf(documentPath));
     Branch branch;
     if (documentPath.size() < LEVELS.size())
-        branch.children = nodeOf(table().distinctTexts(feature(documentPath.size()), *rows, notEmpty));
-    branch.material = valueList(table().distinctTexts("Material", *rows, notOnlyBlanks));
-    branch.company = valueList(table().distinctTexts("Firma", *rows, notOnlyBlanks));
+        branch.children = nodeOf(distinctTexts(table(), feature(documentPath.size()), *rows, notEmpty));
+    branch.material = valueList(distinctTexts(table(), "Material", *rows, notOnlyBlanks));
+    branch.company = valueList(distinctTexts(table(), "Firma", *rows, notOnlyBlanks));
     branch.drawingTemplate = VorlageSuchen(context_.session.database.connection, documentPath);
     return branch;
 }
@@ -211,10 +213,10 @@ StructureNode* StructureSection::findNode(const StructurePath& documentPath)
 void StructureSection::BaumAufbauen()
 {
     LongWork work(context_.ports().progress, "Strukturmerkmale werden gelesen ...");
-    if (!table().loadColumn(feature(0), std::ref(work)))
+    if (!loadColumn(table(), feature(0), std::ref(work)))
         return;
-    const auto rows = table().choose("");
-    root_ = {"Root", {}, true, nodeOf(table().distinctTexts(feature(0), *rows, notEmpty))};
+    const auto rows = choose(table(), "");
+    root_ = {"Root", {}, true, nodeOf(distinctTexts(table(), feature(0), *rows, notEmpty))};
     root_.statusRow = fmt::format("Root; Anz. {}; ", root_.children.size());
     StrukturLetzterPfad_.clear();
 }
@@ -223,13 +225,13 @@ void StructureSection::FilterEigenMWMitFi(std::string_view condition)
 {
     LongWork work(context_.ports().progress, "Filterlisten werden gefüllt ...");
     const std::vector<std::string> columns{"Material", "Firma"};
-    if (!table().loadColumns(columns, std::ref(work)))
+    if (!loadColumns(table(), columns, std::ref(work)))
         return;
-    const auto rows = table().choose(condition, std::ref(work));
+    const auto rows = choose(table(), condition, std::ref(work));
     if (!rows)
         return;
-    material_ = valueList(table().distinctTexts("Material", *rows, notOnlyBlanks));
-    company_ = valueList(table().distinctTexts("Firma", *rows, notOnlyBlanks));
+    material_ = valueList(distinctTexts(table(), "Material", *rows, notOnlyBlanks));
+    company_ = valueList(distinctTexts(table(), "Firma", *rows, notOnlyBlanks));
 }
 
 void StructureSection::reset()

@@ -1,7 +1,11 @@
+#include "filter/user_defined_run.h"
+
 #include "base/collation.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_selection.h"
 #include "database/sql/conditions.h"
 #include "filter/document_counter.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "filter/fragments.h"
 #include "filter/user_defined_match.h"
 #include "platform/progress.h"
@@ -206,7 +210,7 @@ private:
         Recordset recordset;
         if (own != 0 && own != found_.size())
             return mixed();
-        recordset.openRows(hitPlaces_[own == 0 ? 0 : 1].table, std::move(key), connection());
+        openRows(recordset, hitPlaces_[own == 0 ? 0 : 1].table, std::move(key), connection());
         return recordset;
     }
 
@@ -219,11 +223,11 @@ private:
             for (const DocumentCounter::Number number : found_)
                 if (hits_[number].hitPlace == hitPlace)
                     key.push_back(hits_[number].row);
-            sources[hitPlace].openRows(hitPlaces_[hitPlace].table, std::move(key), connection());
+            openRows(sources[hitPlace], hitPlaces_[hitPlace].table, std::move(key), connection());
         }
         Recordset target;
         for (const ColumnInfo& field : sources[1].fields())
-            if (sources[0].hasField(field.name))
+            if (hasField(sources[0], field.name))
                 target.appendField(field.name, field.type);
         target.Open();
         for (const DocumentCounter::Number number : found_) {

@@ -7,7 +7,8 @@
 #include "platform/files.h"
 #include "platform/running_programs.h"
 #include "session/error_report.h"
-#include "session/program.h"
+#include "session/program_caption.h"
+#include "session/sibling_programs.h"
 
 #include <fmt/format.h>
 #include <utility>

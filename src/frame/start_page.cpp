@@ -4,10 +4,11 @@
 #include "base/windows_path.h"
 #include "platform/boxes.h"
 #include "platform/environment.h"
+#include "session/database_start.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
-#include "session/program.h"
 #include "session/settings_writer.h"
+#include "session/sibling_programs.h"
 #include "session/tree_switches.h"
 
 #include <algorithm>

@@ -1,9 +1,11 @@
+#include "register/detail_files.h"
+
 #include "base/text.h"
 #include "base/windows_path.h"
 #include "platform/boxes.h"
 #include "platform/clipboard.h"
 #include "platform/files.h"
-#include "register/detail_pages.h"
+#include "platform/ports.h"
 #include "register/file_boxes.h"
 #include "session/session_state.h"
 
@@ -34,73 +36,49 @@ bool searchesArchive(Boxes& boxes, const std::string& documentPath)
 
 } // namespace
 
-std::filesystem::path DetailPages::systemPath(std::string_view documentPath) const
+void openOrderFile(const Ports& ports, const SessionState& session, const std::string& documentPath)
 {
-    return ports_.files.systemPath(documentPath);
+    if (ports.files.fileExists(documentPath))
+        return openFile(ports, "Versendet an", documentPath);
+    if (!searchesArchive(ports.boxes, documentPath))
+        return;
+    const std::string inArchive = archiveFolder(session) + "\\" + DateiName(documentPath);
+    if (ports.files.fileExists(inArchive))
+        return openFile(ports, "Versendet an", inArchive);
+    ports.boxes.warn("Im Archiv nicht vorhanden", lines({
+                                                      "Die Datei",
+                                                      inArchive,
+                                                      "ist im Archiv nicht vorhanden!",
+                                                      "Mögliche Ursache:",
+                                                      "- Versandauftrag wurde auch im Archiv gelöscht.",
+                                                  }));
 }
 
-void DetailPages::openOrder()
+void openFile(const Ports& ports, std::string_view title, const std::string& documentPath)
 {
-    operations_.perform(Part::Document, "Versendet an", "Fehler beim Öffnen der Datei!", [&] {
-        const std::string documentPath = fieldOfRow(InfoPageId::SendTo, "Orderfilename");
-        if (documentPath.empty())
-            return;
-        if (ports_.files.fileExists(documentPath))
-            return open("Versendet an", documentPath);
-        if (!searchesArchive(ports_.boxes, documentPath))
-            return;
-        const std::string inArchive = archiveFolder(session_) + "\\" + DateiName(documentPath);
-        if (ports_.files.fileExists(inArchive))
-            return open("Versendet an", inArchive);
-        ports_.boxes.warn("Im Archiv nicht vorhanden", lines({
-                                                           "Die Datei",
-                                                           inArchive,
-                                                           "ist im Archiv nicht vorhanden!",
-                                                           "Mögliche Ursache:",
-                                                           "- Versandauftrag wurde auch im Archiv gelöscht.",
-                                                       }));
-    });
+    if (!ports.defaultApplication.open(documentPath))
+        ports.boxes.warn(title, lines({"Fehler beim Öffnen der Datei:", documentPath}));
 }
 
-void DetailPages::openAdditionalDocument()
+bool existsOrBox(const Ports& ports, const std::string& documentPath)
 {
-    operations_.perform(Part::Document, "Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
-        const std::string documentPath = fieldOfRow(InfoPageId::ZusDoku, "ZusDokufilename");
-        if (!documentPath.empty() && existsOrBox(documentPath))
-            open("Zusätzl. Dokumente", documentPath);
-    });
-}
-
-void DetailPages::open(std::string_view title, const std::string& documentPath)
-{
-    if (!ports_.defaultApplication.open(documentPath))
-        ports_.boxes.warn(title, lines({"Fehler beim Öffnen der Datei:", documentPath}));
-}
-
-bool DetailPages::existsOrBox(const std::string& documentPath)
-{
-    if (ports_.files.fileExists(documentPath))
+    if (ports.files.fileExists(documentPath))
         return true;
-    tellFileMissing(ports_.boxes, documentPath, "Löschen Sie den Verweis auf diese Datei in 'Harvel'.");
+    tellFileMissing(ports.boxes, documentPath, "Löschen Sie den Verweis auf diese Datei in 'Harvel'.");
     return false;
 }
 
-void DetailPages::pictureNotLoaded(InfoPageId page)
+void tellPictureNotLoaded(Boxes& boxes)
 {
-    if (page == InfoPageId::Tiff)
-        tiff_.clear();
-    else
-        graphic_ = {};
     constexpr std::string_view NOT_LOADED = "Die TIFF-Datei konnte nicht geladen werden";
-    ports_.boxes.warn(NOT_LOADED, lines({
-                                      "Die TIFF-Datei konnte nicht geladen werden!",
-                                      "Mögliche Ursache:",
-                                      "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
-                                      "Empfehlung:",
-                                      "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
-                                      "Kontrollkästchen 'Graphik anzeigen'.",
-                                  }));
-    operations_.changed(Part::Document);
+    boxes.warn(NOT_LOADED, lines({
+                               "Die TIFF-Datei konnte nicht geladen werden!",
+                               "Mögliche Ursache:",
+                               "Wenden Sie sich an ihren Systemadministrator für Quelvarnis.",
+                               "Empfehlung:",
+                               "Entfernen Sie bei TIFF-Dateien die Markierung aus dem",
+                               "Kontrollkästchen 'Graphik anzeigen'.",
+                           }));
 }
 
 } // namespace quelvarn

@@ -45,9 +45,9 @@ void separate(TextList& list)
 
 } // namespace
 
-Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, revisionFilter view)
+Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, RevisionFilter view)
 {
-    const bool created = view == revisionFilter::Erstellt;
+    const bool created = view == RevisionFilter::Erstellt;
     const std::string_view date = created ? "Erstellt" : "Geaendert";
     const std::string_view name = created ? "Autor" : "Bearbeiter";
     Recordset rows;

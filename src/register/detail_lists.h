@@ -15,17 +15,10 @@ struct SessionState;
 // The rows of the information pages that are lists, in recordsets in memory. A fault of the database throws.
 
 // OpRevErstBearb: who made each revision, or who changed it last.
-enum class revisionFilter : int { Erstellt = 0, Edited = 1 };
+enum class RevisionFilter : int { Erstellt = 0, Edited = 1 };
 
 // RevBez, Geaendert, Bearbeiter, Aenderung. Revisions without a text of change are left out.
-Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, revisionFilter view);
-// Name, Wert: the user-defined rows that are no sent-to notes.
-Recordset userDefinedList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record);
-// SendToDatum, Kennung, OrderDateiname, Orderfilename: the sent-to notes.
-Recordset sendToList(Connection& connection, std::string_view tableUserDef, const DokuRecord& record);
-// "14.02.11  10:30" from the twelve digits before the ending of an order file; "" without them.
-std::string SendToDatum(std::string_view OrderDateiname);
-
+Recordset InfoRevision(Connection& connection, std::string_view table, std::string_view DokuBez, RevisionFilter view);
 // The branch of the classification that a document stands in, as VorlageSuchen asks for it: the values of
 // Hauptmerkmal_C and below, up to the first empty one.
 std::span<const std::string> templateBranch(const DokuRecord& record);

@@ -5,7 +5,9 @@
 #include "database/document_types.h"
 #include "filter/template_lookup.h"
 #include "platform/files.h"
+#include "register/detail_files.h"
 #include "register/document_questions.h"
+#include "register/user_defined_rows.h"
 #include "session/error_report.h"
 #include "session/session_state.h"
 
@@ -41,7 +43,7 @@ void DetailPages::fill(InfoPageId page, const DocumentType& type, const DokuReco
     Connection& connection = session_.database.connection;
     switch (page) {
     case InfoPageId::Revisions:
-        revisionFilter_ = revisionFilter::Erstellt;
+        revisionFilter_ = RevisionFilter::Erstellt;
         lists_[page] = InfoRevision(connection, type.table, record.DokuBez, revisionFilter_);
         break;
     case InfoPageId::UserDefined:
@@ -87,7 +89,7 @@ void DetailPages::fillStructureFeatures()
     lists_[InfoPageId::StructureFeatures] = structureFeatureList(record_, session_, !LblPfadDateiVorlage_.empty());
 }
 
-void DetailPages::setRevisionFilter(revisionFilter view)
+void DetailPages::setRevisionFilter(RevisionFilter view)
 {
     operations_.perform(Part::Document, "Revision", "Fehler beim Lesen der Revisionen!", [&] {
         if (type_ == nullptr)
@@ -124,7 +126,7 @@ void DetailPages::showAdditionalDocument()
     LblInfoZusDoku_ = additionalDocumentInfo(lists_[InfoPageId::ZusDoku]);
     graphic_ = {};
     const std::string documentPath = fieldOfRow(InfoPageId::ZusDoku, "ZusDokufilename");
-    if (viewGraphic_ && !documentPath.empty() && existsOrBox(documentPath))
+    if (viewGraphic_ && !documentPath.empty() && existsOrBox(ports_, documentPath))
         graphic_ = pictureOf(documentPath);
 }
 
@@ -144,7 +146,7 @@ void DetailPages::showTiff()
     std::string documentPath = findTiff(session_.database.connection, ports_.files, record_);
     if (documentPath.empty())
         documentPath = withExtension(record_.filename, "tif"); // It was there when the tree was built.
-    if (existsOrBox(documentPath))
+    if (existsOrBox(ports_, documentPath))
         tiff_ = documentPath;
 }
 
@@ -158,6 +160,38 @@ std::string DetailPages::fieldOfRow(InfoPageId page, std::string_view field) con
 {
     const Recordset* rows = list(page);
     return rows == nullptr || rows->Bof() || rows->Eof() ? std::string() : rows->Text(field);
+}
+
+std::filesystem::path DetailPages::systemPath(std::string_view documentPath) const
+{
+    return ports_.files.systemPath(documentPath);
+}
+
+void DetailPages::openOrder()
+{
+    operations_.perform(Part::Document, "Versendet an", "Fehler beim Öffnen der Datei!", [&] {
+        if (const std::string order = fieldOfRow(InfoPageId::SendTo, "Orderfilename"); !order.empty())
+            openOrderFile(ports_, session_, order);
+    });
+}
+
+void DetailPages::openAdditionalDocument()
+{
+    operations_.perform(Part::Document, "Zusätzl. Dokumente", "Fehler beim Öffnen der Datei!", [&] {
+        const std::string document = fieldOfRow(InfoPageId::ZusDoku, "ZusDokufilename");
+        if (!document.empty() && existsOrBox(ports_, document))
+            openFile(ports_, "Zusätzl. Dokumente", document);
+    });
+}
+
+void DetailPages::pictureNotLoaded(InfoPageId page)
+{
+    if (page == InfoPageId::Tiff)
+        tiff_.clear();
+    else
+        graphic_ = {};
+    tellPictureNotLoaded(ports_.boxes);
+    operations_.changed(Part::Document);
 }
 
 } // namespace quelvarn

@@ -39,7 +39,7 @@ public:
     void clear();
 
     // --- operations, one for each thing a person can do ---
-    void setRevisionFilter(revisionFilter view); // OpRevErstBearb
+    void setRevisionFilter(RevisionFilter view); // OpRevErstBearb
     void rowChosen(InfoPageId page, std::size_t position);
     void openOrder();                       // CmSendTo
     void setViewGrafikZusDoku(bool on);     // ChViewGrafikZusDoku
@@ -50,7 +50,7 @@ public:
     // nullptr for no rows; another `generation` means other rows.
     const Recordset* list(InfoPageId page) const;
     unsigned generation() const { return generation_; }
-    revisionFilter OpRevErstBearb() const { return revisionFilter_; }
+    RevisionFilter OpRevErstBearb() const { return revisionFilter_; }
     const std::string& LblPfadDateiVorlage() const { return LblPfadDateiVorlage_; }
     const std::string& LblInfoZusDoku() const { return LblInfoZusDoku_; }
     bool ChViewGrafikZusDoku() const { return viewGraphic_; }
@@ -63,8 +63,6 @@ private:
     void showTiff();
     void showAdditionalDocument();
     FilePicture pictureOf(const std::string& documentPath) const;
-    void open(std::string_view title, const std::string& documentPath);
-    bool existsOrBox(const std::string& documentPath);
     std::string fieldOfRow(InfoPageId page, std::string_view field) const;
 
     SessionState& session_;
@@ -74,7 +72,7 @@ private:
     DokuRecord record_;
     std::map<InfoPageId, Recordset> lists_;
     unsigned generation_ = 0;
-    revisionFilter revisionFilter_ = revisionFilter::Erstellt;
+    RevisionFilter revisionFilter_ = RevisionFilter::Erstellt;
     std::string LblPfadDateiVorlage_;
     std::string LblInfoZusDoku_;
     bool viewGraphic_ = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "register/general_page.h"
 #include "register/info_pages.h"
 
 #include <string>

@@ -8,6 +8,19 @@
 
 namespace quelvarn {
 
+struct FileInfo;
+
+// The file properties page (FrmInfoDoku 10), ready to show.
+struct FileProperties
+{
+    bool exists = false; // Without a file the two boxes are disabled and LblNichtVorhanden shows.
+    bool readOnly = false;
+    bool archive = false;
+    std::string name, folder, size, created, changed, accessed;
+};
+
+FileProperties fileProperties(const FileInfo& info);
+
 struct SessionState;
 
 // The file properties page: reads what stands in the folder, and sets the two attributes that a person may change. A

@@ -1,3 +1,5 @@
+#include "register/general_page.h"
+
 #include "base/collation.h"
 #include "database/document_types.h"
 #include "documents/document_record.h"

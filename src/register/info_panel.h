@@ -2,6 +2,7 @@
 
 #include "register/detail_pages.h"
 #include "register/file_page.h"
+#include "register/general_page.h"
 #include "register/info_pages.h"
 #include "register/relation_page.h"
 #include "session/operations.h"

@@ -1,8 +1,10 @@
 #include "register/quick_filter.h"
 
 #include "documents/document_tables.h"
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "filter/filter_run.h"
+#include "filter/no_records.h"
+#include "filter/steps.h"
 #include "platform/boxes.h"
 #include "platform/clock.h"
 #include "register/quick_search.h"
@@ -83,7 +85,7 @@ void QuickFilter::filterText()
 bool QuickFilter::runs() const
 {
     return tables_.tab() == tab_ && tables_.current().state() == TableState::Filtered &&
-           tables_.current().rows().filterText() == filterText_;
+           tables_.current().rows().filter().text == filterText_;
 }
 
 int QuickFilter::step() const
@@ -162,7 +164,7 @@ bool QuickFilter::apply(std::vector<FilterStep> steps, std::vector<FilterRow> va
     steps_ = std::move(steps);
     period_.clear();
     tab_ = context.tab;
-    filterText_ = table.rows().filterText();
+    filterText_ = table.rows().filter().text;
     std::string told = description(values);
     table.showFiltered({std::move(values), filter_.status, std::move(told)});
     context.tables.announceRows(context.tab);

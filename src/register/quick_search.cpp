@@ -1,5 +1,6 @@
 #include "register/quick_search.h"
 
+#include "database/recordset_columns.h"
 #include "database/sql/conditions.h"
 #include "platform/boxes.h"
 #include "platform/progress.h"
@@ -142,10 +143,10 @@ Recordset& QuickSearch::rows()
 // The first search of a column reads it, which takes its time in a large table. False: given up.
 bool QuickSearch::columnReady()
 {
-    if (!rows().open() || rows().columnLoaded(field().field))
+    if (!rows().open() || columnLoaded(rows(), field().field))
         return true;
     LongWork work(ports_.progress, "Die Tabelle wird gelesen");
-    rows().loadColumn(field().field, std::ref(work));
+    loadColumn(rows(), field().field, std::ref(work));
     return !work.abandoned();
 }
 

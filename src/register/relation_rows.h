@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/recordset.h"
+#include "register/general_page.h"
 #include "register/info_pages.h"
 
 #include <optional>

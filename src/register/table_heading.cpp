@@ -1,5 +1,6 @@
 #include "register/table_heading.h"
 
+#include "session/access_line.h"
 #include "session/rights.h"
 #include "session/session_state.h"
 

@@ -1,7 +1,7 @@
 #include "register/table_tabs.h"
 
 #include "documents/row_memory.h"
-#include "filter/execution.h"
+#include "filter/lift_filter.h"
 #include "register/shown_document.h"
 #include "session/database_watch.h"
 #include "session/session_state.h"

@@ -1,3 +1,5 @@
+#include "register/user_defined_rows.h"
+
 #include "base/collation.h"
 #include "base/windows_path.h"
 #include "database/connection.h"

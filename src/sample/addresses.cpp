@@ -1,3 +1,6 @@
+#include "sample/addresses.h"
+
+#include "sample/document_row.h"
 #include "sample/sample_register.h"
 
 #include <array>

@@ -1,6 +1,10 @@
+#include "sample/document_row.h"
+
 #include "sample/documents.h"
 #include "sample/random.h"
 #include "sample/vocabulary.h"
+#include "sample/vocabulary_machines.h"
+#include "sample/vocabulary_parts.h"
 
 #include <charconv>
 #include <cmath>
@@ -180,7 +184,7 @@ void Documents::appendMainValues(const Part& part, Random& random, std::vector<V
             alias[i] = boughtSeries()[part.design].alias;
             value = number(random.part(boughtSeries()[part.design].sizes));
         } else if (design && !design->sizes[i].alias.empty()) {
-            const Mass& mass = design->sizes[i];
+            const Measure& mass = design->sizes[i];
             alias[i] = mass.alias;
             value = rounded(mass.from + mass.step * random.below(static_cast<std::uint32_t>(mass.levels)));
         }

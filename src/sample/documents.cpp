@@ -2,6 +2,8 @@
 
 #include "sample/random.h"
 #include "sample/vocabulary.h"
+#include "sample/vocabulary_machines.h"
+#include "sample/vocabulary_parts.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -48,16 +50,16 @@ bool isFile(const Part& part)
 
 DateTime keyDate()
 {
-    return DateTime::out({2025, 12, 19, 17, 0, 0});
+    return DateTime::from({2025, 12, 19, 17, 0, 0});
 }
 
-std::uint32_t Documents::model(std::uint32_t part) const
+std::uint32_t DocumentNames::model(std::uint32_t part) const
 {
     const Part& entry = plan_.part(part);
     return entry.tab == Tab::Draft && entry.parent != NONE ? entry.parent : part;
 }
 
-std::string Documents::documentName(std::uint32_t part) const
+std::string DocumentNames::documentName(std::uint32_t part) const
 {
     const Part& t = plan_.part(part);
     switch (t.section) {
@@ -87,7 +89,7 @@ std::string Documents::documentName(std::uint32_t part) const
     return fmt::format("VL-{:03}", t.number);
 }
 
-std::string Documents::project(std::uint32_t part) const
+std::string DocumentNames::project(std::uint32_t part) const
 {
     const Part& t = plan_.part(part);
     switch (t.section) {
@@ -110,14 +112,14 @@ std::string Documents::project(std::uint32_t part) const
 }
 
 // Each project keeps to one way of counting revisions.
-std::string Documents::revisionName(std::uint32_t part, int revision) const
+std::string DocumentNames::revisionName(std::uint32_t part, int revision) const
 {
     const Part& t = plan_.part(part);
     Random random{plan_.start(), NAMES, static_cast<std::uint64_t>(t.section), t.project};
     return revisionLabel(t.section <= Section::Frame ? random.below(4) : 0, revision);
 }
 
-std::string_view Documents::extension(std::uint32_t part) const
+std::string_view DocumentNames::extension(std::uint32_t part) const
 {
     const Part& t = plan_.part(part);
     if (isFile(t))
@@ -127,7 +129,7 @@ std::string_view Documents::extension(std::uint32_t part) const
     return t.number == 0 ? "asm" : t.number == 10 ? "par" : "dft";
 }
 
-std::string Documents::stemName(const Part& part) const
+std::string DocumentNames::stemName(const Part& part) const
 {
     const auto number = static_cast<std::uint32_t>(&part - plan_.parts().data());
     return part.section == Section::Template
@@ -135,7 +137,7 @@ std::string Documents::stemName(const Part& part) const
                : documentName(number);
 }
 
-std::string Documents::fileName(std::uint32_t part, int revision) const
+std::string DocumentNames::fileName(std::uint32_t part, int revision) const
 {
     std::string stem = stemName(plan_.part(part));
     std::ranges::replace(stem, '/', '_'); // Windows has no such file names.
@@ -144,12 +146,12 @@ std::string Documents::fileName(std::uint32_t part, int revision) const
     return fmt::format("{}.{}", stem, extension(part));
 }
 
-std::string Documents::filename(std::uint32_t part, int revision) const
+std::string DocumentNames::filename(std::uint32_t part, int revision) const
 {
     return fmt::format("{}{}\\{}", FOLDER, folder(plan_.part(part)), fileName(part, revision));
 }
 
-std::string Documents::folder(const Part& part) const
+std::string DocumentNames::folder(const Part& part) const
 {
     const auto number = static_cast<std::uint32_t>(&part - plan_.parts().data());
     const auto group = [&] {
@@ -182,13 +184,13 @@ std::string Documents::folder(const Part& part) const
     return "Vorlagen\\Zeichnungen";
 }
 
-std::string_view Documents::groupName(const Part& part) const
+std::string_view DocumentNames::groupName(const Part& part) const
 {
     return plan_.machine(part.section, part.project).groups[part.number / 100 - 1].name;
 }
 
 // Old revisions are void or frozen; a drawing stands where its model stands.
-int Documents::status(std::uint32_t part, int revision) const
+int DocumentNames::status(std::uint32_t part, int revision) const
 {
     const auto source = model(part);
     const Part& t = plan_.part(source);
@@ -200,7 +202,7 @@ int Documents::status(std::uint32_t part, int revision) const
     return newestStatus(random.below(100));
 }
 
-Value Documents::author(std::uint32_t part) const
+Value DocumentNames::author(std::uint32_t part) const
 {
     const Part& t = plan_.part(part);
     Random random{plan_.start(), PERSONS, static_cast<std::uint64_t>(t.section), t.project,
@@ -208,7 +210,7 @@ Value Documents::author(std::uint32_t part) const
     return std::string(random.out(DESIGNERS));
 }
 
-Value Documents::editor(std::uint32_t part, int revision) const
+Value DocumentNames::editor(std::uint32_t part, int revision) const
 {
     Random random{plan_.start(), PERSONS, part, static_cast<std::uint64_t>(revision)};
     const auto draw = random.below(100);
@@ -219,7 +221,7 @@ Value Documents::editor(std::uint32_t part, int revision) const
     return draw < 96 ? Value{} : Value{std::string(draw < 98 ? "" : " ")};
 }
 
-DateTime Documents::created(std::uint32_t part, int revision) const
+DateTime DocumentNames::created(std::uint32_t part, int revision) const
 {
     const auto source = model(part);
     const Part& t = plan_.part(source);
@@ -232,7 +234,7 @@ DateTime Documents::created(std::uint32_t part, int revision) const
 }
 
 // What is being worked on was changed lately.
-DateTime Documents::changed(std::uint32_t part, int revision) const
+DateTime DocumentNames::changed(std::uint32_t part, int revision) const
 {
     Random random{plan_.start(), TIMES, part, static_cast<std::uint64_t>(revision)};
     const DateTime begin = created(part, revision);

@@ -1,6 +1,10 @@
+#include "sample/links.h"
+
+#include "sample/document_row.h"
 #include "sample/random.h"
 #include "sample/sample_register.h"
 #include "sample/vocabulary.h"
+#include "sample/vocabulary_machines.h"
 
 #include <algorithm>
 #include <fmt/format.h>

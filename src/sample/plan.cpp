@@ -2,6 +2,8 @@
 
 #include "sample/random.h"
 #include "sample/vocabulary.h"
+#include "sample/vocabulary_machines.h"
+#include "sample/vocabulary_parts.h"
 
 #include <algorithm>
 

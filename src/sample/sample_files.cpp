@@ -3,7 +3,11 @@
 #include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "sample/document_row.h"
+#include "sample/links.h"
+#include "sample/properties.h"
 #include "sample/sample_register.h"
+#include "sample/sheets.h"
 #include "sample/vocabulary.h"
 
 #include <ctime>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sample/documents.h"
+#include "sample/document_row.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -15,10 +15,5 @@ constexpr std::uint64_t DOCUMENTS_WITH_FILE = 5000;
 // `progress` is told how many documents are done; what it throws ends the work. A file that cannot be written throws.
 std::uint64_t writeFiles(const Documents& documents, const std::filesystem::path& folder,
                          const std::function<void(std::uint64_t)>& progress);
-
-// One page with a title, as a whole PDF file.
-std::string pdfSheet(std::string_view title);
-// A sheet with a frame, as a whole TIFF file (black and white, not compressed).
-std::string tiffSheet();
 
 } // namespace quelvarn::sample

@@ -1,6 +1,12 @@
 #include "sample/sample_register.h"
 
 #include "database/schema.h"
+#include "sample/addresses.h"
+#include "sample/document_row.h"
+#include "sample/links.h"
+#include "sample/properties.h"
+#include "sample/settings.h"
+#include "sample/uses.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,7 @@
+#include "sample/settings.h"
+
 #include "database/base_rows.h"
+#include "sample/document_row.h"
 #include "sample/sample_register.h"
 #include "sample/vocabulary.h"
 

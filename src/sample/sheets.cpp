@@ -1,5 +1,8 @@
+#include "sample/sheets.h"
+
 #include "base/utf8.h"
 #include "sample/sample_files.h"
+#include "sample/vocabulary_machines.h"
 
 #include <array>
 #include <fmt/format.h>

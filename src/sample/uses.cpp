@@ -1,3 +1,7 @@
+#include "sample/uses.h"
+
+#include "sample/addresses.h"
+#include "sample/document_row.h"
 #include "sample/random.h"
 #include "sample/sample_register.h"
 #include "sample/vocabulary.h"

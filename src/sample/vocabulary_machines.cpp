@@ -1,3 +1,5 @@
+#include "sample/vocabulary_machines.h"
+
 #include "sample/vocabulary.h"
 
 namespace quelvarn::sample {

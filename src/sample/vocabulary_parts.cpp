@@ -1,15 +1,17 @@
+#include "sample/vocabulary_parts.h"
+
 #include "sample/vocabulary.h"
 
 namespace quelvarn::sample {
 
 namespace {
 
-constexpr Mass LENGTH{"Länge", 100, 20, 110};
-constexpr Mass WIDTH{"Breite", 40, 10, 60};
-constexpr Mass HEIGHT{"Höhe", 20, 10, 60};
-constexpr Mass SHEET_THICKNESS{"Blechdicke", 1, 0.5, 13};
-constexpr Mass BORE{"Bohrung H7", 10, 5, 20};
-constexpr Mass WEIGHT{"Gewicht kg", 4.5, 7.25, 90};
+constexpr Measure LENGTH{"Länge", 100, 20, 110};
+constexpr Measure WIDTH{"Breite", 40, 10, 60};
+constexpr Measure HEIGHT{"Höhe", 20, 10, 60};
+constexpr Measure SHEET_THICKNESS{"Blechdicke", 1, 0.5, 13};
+constexpr Measure BORE{"Bohrung H7", 10, 5, 20};
+constexpr Measure WEIGHT{"Gewicht kg", 4.5, 7.25, 90};
 
 constexpr std::array<Design, 18> PARTS{{
     {"Antriebswelle",
@@ -106,11 +108,11 @@ constexpr std::array<Design, 18> PARTS{{
      {{LENGTH, {"Abgänge", 2, 1, 8}}}},
 }};
 
-constexpr Mass MODULE{"Modul", 1, 0.5, 14};
-constexpr Mass TEETH{"Zähnezahl", 14, 1, 90};
-constexpr Mass TOOTH_WIDTH{"Zahnbreite", 20, 5, 15};
-constexpr Mass SLANT{"Schrägungswinkel", 0, 2.5, 9};
-constexpr Mass PROFILE{"Profilverschiebung", -0.5, 0.05, 21};
+constexpr Measure MODULE{"Modul", 1, 0.5, 14};
+constexpr Measure TEETH{"Zähnezahl", 14, 1, 90};
+constexpr Measure TOOTH_WIDTH{"Zahnbreite", 20, 5, 15};
+constexpr Measure SLANT{"Schrägungswinkel", 0, 2.5, 9};
+constexpr Measure PROFILE{"Profilverschiebung", -0.5, 0.05, 21};
 
 constexpr std::array<Design, 8> GEAR_PARTS{{
     {"Ritzelwelle",

@@ -1,3 +1,5 @@
+#include "session/access_line.h"
+
 #include "session/session_state.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+#include "session/database_start.h"
+
 #include "base/text.h"
 #include "database/connection.h"
 #include "database/faults.h"
@@ -5,8 +7,14 @@
 #include "platform/boxes.h"
 #include "platform/files.h"
 #include "session/error_report.h"
+#include "session/ini_reader/label_rows.h"
+#include "session/ini_reader/order_rows.h"
+#include "session/ini_reader/plot_rows.h"
+#include "session/ini_reader/print_defaults.h"
+#include "session/ini_reader/rights_rows.h"
+#include "session/ini_reader/saved_filter_rows.h"
 #include "session/ini_reader/start_run.h"
-#include "session/program.h"
+#include "session/ini_reader/switch_rows.h"
 
 #include <array>
 #include <span>

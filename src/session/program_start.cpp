@@ -1,11 +1,13 @@
+#include "session/program_start.h"
+
 #include "base/text.h"
 #include "base/utf8.h"
 #include "platform/boxes.h"
 #include "platform/environment.h"
 #include "platform/files.h"
+#include "session/database_start.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
-#include "session/program.h"
 
 namespace quelvarn {
 

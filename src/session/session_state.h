@@ -107,7 +107,4 @@ struct SessionState
     std::string plural(int tab) const;
 };
 
-// The text of LblZugriffSEDoku for these rights.
-std::string accessLine(const SessionState& session);
-
 } // namespace quelvarn

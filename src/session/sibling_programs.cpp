@@ -1,8 +1,10 @@
+#include "session/sibling_programs.h"
+
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/boxes.h"
 #include "platform/running_programs.h"
-#include "session/program.h"
+#include "session/program_caption.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -21,16 +23,6 @@ bool contains(std::string_view title, std::string_view addressCode)
 }
 
 } // namespace
-
-std::string versionText()
-{
-    return fmt::format("    Quelvarn Version {}.{}.{}", VERSION_MAJOR, VERSION_MINOR, VERSION_REVISION);
-}
-
-std::string windowTitle(const SessionState& session)
-{
-    return session.database.DatenbankPfad + versionText();
-}
 
 int runningCopies(const Ports& ports)
 {

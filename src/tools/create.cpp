@@ -8,20 +8,20 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array OPTION{Option{"--ersetzen"}};
+constexpr std::array OPTION{Option{"--replace"}};
 
-constexpr std::string_view HELP = R"(Aufruf: qvadmin create ZIEL [--ersetzen]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin create ZIEL [--replace]
 
 Legt ein leeres Register an: alle Tabellen mit ihren Indexen und die Einstellungen, die für das ganze Büro gelten.
 
   ZIEL         Pfad der neuen Datenbank oder Adresse postgresql://... einer Datenbank ohne Register
-  --ersetzen   Ein vorhandenes Register an dieser Stelle wird ersetzt.
+  --replace    Ein vorhandenes Register an dieser Stelle wird ersetzt.
 )";
 
 int create(const Arguments& arguments, Console& console)
 {
     catchCancel();
-    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    const auto existing = arguments.set("--replace") ? Existing::Replace : Existing::Refuse;
     NewRegister reg(arguments.position(0), existing, console);
     for (const TableSchema& table : registerSchema()) {
         reg.table(table);

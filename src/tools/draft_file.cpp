@@ -40,7 +40,7 @@ void checkTarget(const std::filesystem::path& target, Existing existing)
         throw toolFault(fmt::format("Das Ziel '{}' ist keine Datei.", utf8FromPath(target)));
     if (existing == Existing::Refuse)
         throw toolFault(
-            fmt::format("Das Ziel '{}' gibt es schon. Mit --ersetzen wird es ersetzt.", utf8FromPath(target)));
+            fmt::format("Das Ziel '{}' gibt es schon. Mit --replace wird es ersetzt.", utf8FromPath(target)));
     if (recognizeDatabase(target) != DatabaseKind::SQLite)
         throw toolFault(fmt::format("Das Ziel '{}' ist kein Register und wird nicht ersetzt.", utf8FromPath(target)));
 }

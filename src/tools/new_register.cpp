@@ -62,7 +62,7 @@ void NewRegister::prepareDatabase(std::string_view target, Existing existing)
         if (!engine().findTable(table.name))
             continue;
         if (existing == Existing::Refuse)
-            throw toolFault("In der Datenbank liegt schon ein Register. Mit --ersetzen wird es ersetzt.");
+            throw toolFault("In der Datenbank liegt schon ein Register. Mit --replace wird es ersetzt.");
         engine().removeTable(table.name);
     }
 }

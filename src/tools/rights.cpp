@@ -17,21 +17,21 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array OPTION{Option{"--sehen", OptionValue::Needed}, Option{"--loeschen", OptionValue::Needed},
-                            Option{"--neu"}};
+constexpr std::array OPTION{Option{"--see", OptionValue::Needed}, Option{"--delete", OptionValue::Needed},
+                            Option{"--new"}};
 
 constexpr std::string_view HELP =
-    R"(Aufruf: qvadmin rights ZIEL [ANWENDER] [--sehen STATI] [--loeschen STATUS=CODE,...] [--neu]
+    R"(Aufruf: qvadmin rights ZIEL [ANWENDER] [--see STATI] [--delete STATUS=CODE,...] [--new]
 
 Zeigt die Rechte der Anwender oder setzt die eines Anwenders. Sie gelten ab seinem nächsten Start.
 
   ANWENDER     Anmeldename; ohne ihn werden alle gezeigt
-  --sehen      die sichtbaren Stati, etwa 0,1,2,3; alle anderen werden unsichtbar
-  --loeschen   Löschcode je Status, etwa 0=5,1=1; nicht genannte bleiben
+  --see        die sichtbaren Stati, etwa 0,1,2,3; alle anderen werden unsichtbar
+  --delete     Löschcode je Status, etwa 0=5,1=1; nicht genannte bleiben
                0 nichts, 1 eigene Datensätze, 2 fremde Datensätze, 5 eigene Datensätze und Dateien, 6 alles
                (3 und 4 gibt es, sie erlauben nichts)
-  --neu        legt einen Anwender an, den das Register noch nicht kennt; er sieht die Stati 3 und 4,
-               wenn --sehen nichts anderes sagt
+  --new        legt einen Anwender an, den das Register noch nicht kennt; er sieht die Stati 3 und 4,
+               wenn --see nichts anderes sagt
 
 Stati: 0 Verfügbar, 1 In Arbeit, 2 Wird geprüft, 3 Freigegeben, 4 Festgeschrieben, 5 Ungültig
 )";
@@ -158,15 +158,15 @@ int set(const Arguments& arguments, Connection& connection, Console& console)
     const std::string& sought = arguments.position(1);
     const auto found = all.find(sortKey(sought));
     const bool fresh = found == all.end();
-    if (fresh && !arguments.set("--neu"))
-        throw toolFault(fmt::format("Den Anwender '{}' kennt das Register nicht. Mit --neu wird er angelegt.", sought));
+    if (fresh && !arguments.set("--new"))
+        throw toolFault(fmt::format("Den Anwender '{}' kennt das Register nicht. Mit --new wird er angelegt.", sought));
     const std::string user = fresh ? sought : found->second.first;
     UserRights rights = fresh ? UserRights{} : found->second.second;
-    if (const auto list = arguments.findValue("--sehen"))
+    if (const auto list = arguments.findValue("--see"))
         setVisible(rights, *list);
-    if (const auto list = arguments.findValue("--loeschen"))
+    if (const auto list = arguments.findValue("--delete"))
         setDeletionRight(rights, *list);
-    if (fresh || arguments.set("--sehen") || arguments.set("--loeschen"))
+    if (fresh || arguments.set("--see") || arguments.set("--delete"))
         write(connection, user, rights, fresh);
     show(user, rights, console);
     return GOOD;
@@ -174,7 +174,7 @@ int set(const Arguments& arguments, Connection& connection, Console& console)
 
 int rights(const Arguments& arguments, Console& console)
 {
-    const bool changes = arguments.set("--sehen") || arguments.set("--loeschen") || arguments.set("--neu");
+    const bool changes = arguments.set("--see") || arguments.set("--delete") || arguments.set("--new");
     if (changes && arguments.count() < 2)
         throw UsageFault("Wessen Rechte? Es fehlt der Anwender.");
     Connection connection;

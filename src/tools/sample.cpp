@@ -1,5 +1,6 @@
 #include "base/file_path.h"
 #include "base/number_format.h"
+#include "sample/document_row.h"
 #include "sample/sample_files.h"
 #include "sample/sample_register.h"
 #include "tools/commands.h"
@@ -13,10 +14,10 @@ namespace quelvarn::tools {
 namespace {
 
 constexpr std::array OPTION{Option{"--documents", OptionValue::Needed}, Option{"--files", OptionValue::Needed},
-                            Option{"--seed", OptionValue::Needed}, Option{"--ersetzen"}};
+                            Option{"--seed", OptionValue::Needed}, Option{"--replace"}};
 
 constexpr std::string_view HELP =
-    R"(Aufruf: qvadmin sample ZIEL [--documents ANZAHL] [--files ORDNER] [--seed ZAHL] [--ersetzen]
+    R"(Aufruf: qvadmin sample ZIEL [--documents ANZAHL] [--files ORDNER] [--seed ZAHL] [--replace]
 
 Legt ein Register zum Ausprobieren an: Förderanlagen, Getriebe und Rahmen eines erfundenen Büros mit Stücklisten,
 Zeichnungen, Normteilen, den Anwendern Meier, Schröder und Weber, ihren Filtern, Favoriten und Nachrichten.
@@ -25,7 +26,7 @@ Zeichnungen, Normteilen, den Anwendern Meier, Schröder und Weber, ihren Filtern
   --documents   Anzahl der Dokumente aller acht Tabellen zusammen (2000)
   --files       schreibt zu den ersten 5.000 Dokumenten kleine Dateien; der Ordner steht für Laufwerk W:
   --seed        Startzahl (1); dieselbe Zahl ergibt dasselbe Register
-  --ersetzen    Ein vorhandenes Register an dieser Stelle wird ersetzt.
+  --replace     Ein vorhandenes Register an dieser Stelle wird ersetzt.
 )";
 
 constexpr std::int64_t DEFAULT_COUNT = 2000;
@@ -43,7 +44,7 @@ int makeSample(const Arguments& arguments, Console& console)
     const auto count = arguments.findNumber("--documents", 1, COUNT_LIMIT).value_or(DEFAULT_COUNT);
     const auto start = arguments.findNumber("--seed", 0, INT64_MAX).value_or(1);
     catchCancel();
-    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    const auto existing = arguments.set("--replace") ? Existing::Replace : Existing::Refuse;
     NewRegister reg(arguments.position(0), existing, console);
     const sample::Plan plan(static_cast<std::uint64_t>(count), static_cast<std::uint64_t>(start));
     const sample::Documents documents(plan);

@@ -34,7 +34,7 @@ TEST(DateTime, KeepsEverySecondThroughTheNumberOfDays)
         const auto time = parseIso(iso);
         ASSERT_TRUE(time) << iso;
         EXPECT_EQ(formatIso(DateTime::fromDays(time->asDays())), iso);
-        EXPECT_EQ(formatIso(DateTime::out(time->calendar())), iso);
+        EXPECT_EQ(formatIso(DateTime::from(time->calendar())), iso);
     }
     EXPECT_DOUBLE_EQ(parseIso("1899-12-29 06:00:00")->asDays(), -1.25);
     EXPECT_EQ(formatIso(parseIso("1899-12-29 06:00:00")->startOfDay()), "1899-12-29 00:00:00");

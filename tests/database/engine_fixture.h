@@ -55,7 +55,7 @@ protected:
     static sql::Select select(std::string_view text) { return std::get<sql::Select>(sql::parseStatement(text)); }
 
     // The rows of a SELECT, columns divided by "|", Null as "Null".
-    std::vector<std::string> lies(std::string_view text) const { return rows(*engine_->read(select(text), {})); }
+    std::vector<std::string> read(std::string_view text) const { return rows(*engine_->read(select(text), {})); }
 
     std::int64_t execute(std::string_view text) { return engine_->execute(sql::parseStatement(text)); }
 

@@ -65,7 +65,7 @@ TEST_P(EngineMeaning, ConditionsFindTheSameRowsOnEveryEngine)
         {"Nr = 1 Or (Nr = 2 And Wort = 'x')", {"1"}},
     };
     for (const TestCase& testCase : cases)
-        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + testCase.condition + " Order By Nr"),
+        EXPECT_EQ(read(std::string("Select Nr From Tafel Where ") + testCase.condition + " Order By Nr"),
                   testCase.numbers)
             << testCase.condition;
 }
@@ -99,7 +99,7 @@ TEST_P(EngineMeaning, DistinctTakesOneOfEqualTexts)
     if (!engine_->capabilities().distinctBlind)
         GTEST_SKIP() << "this engine leaves equal texts of different case to the caller";
     fillWords({"Welle", "WELLE", "welle ", "Öl", "öl", Value{}, Value{}, ""});
-    std::vector<std::string> words = lies("Select Distinct Wort From Tafel");
+    std::vector<std::string> words = read("Select Distinct Wort From Tafel");
     for (std::string& word : words)
         word = sortKey(word);
     EXPECT_THAT(words, UnorderedElementsAre("welle", sortKey("Öl"), "null", ""));
@@ -115,23 +115,23 @@ TEST_P(EngineMeaning, OrderPutsNullFirstAndFollowsTheSortKeys)
     std::vector<std::string> expected = inOrder;
     std::ranges::sort(expected, {}, sortKey);
     expected.insert(expected.begin(), "Null");
-    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort"), expected);
+    EXPECT_EQ(read("Select Wort From Tafel Order By Wort"), expected);
     std::ranges::reverse(expected);
-    EXPECT_EQ(lies("Select Wort From Tafel Order By Wort Desc"), expected);
+    EXPECT_EQ(read("Select Wort From Tafel Order By Wort Desc"), expected);
 }
 
 TEST_P(EngineMeaning, NewestRevisionComesFirstAndNullRevisionLast)
 {
     fill({{"DokuBez", FieldType::Text}, {"RevBez", FieldType::Text}},
          {{"b", "A"}, {"A ", "0"}, {"a", Value{}}, {"a", "B"}, {Value{}, "C"}, {"B", "b"}});
-    EXPECT_THAT(lies("Select DokuBez, RevBez From Tafel Order By DokuBez, RevBez Desc"),
+    EXPECT_THAT(read("Select DokuBez, RevBez From Tafel Order By DokuBez, RevBez Desc"),
                 ElementsAre("Null|C", "a|B", "A |0", "a|Null", "B|b", "b|A"));
 }
 
 TEST_P(EngineMeaning, DatesAndNumbersCompareByValueWhateverTheyAreComparedWith)
 {
     const auto at = [](int year, int month, int day, int hour) {
-        return DateTime::out({year, month, day, hour, 30, 15});
+        return DateTime::from({year, month, day, hour, 30, 15});
     };
     fill({{"Nr", FieldType::Integer},
           {"Tag", FieldType::Date},
@@ -165,8 +165,8 @@ TEST_P(EngineMeaning, DatesAndNumbersCompareByValueWhateverTheyAreComparedWith)
         {"(Nr = 1 Or Nr = 2) And Not (Nr = 2 And Wort Is Null) Order By Nr", {"1", "2"}},
     };
     for (const auto& [condition, numbers] : cases)
-        EXPECT_EQ(lies(std::string("Select Nr From Tafel Where ") + condition), numbers) << condition;
-    EXPECT_THAT(lies("Select Count(*) From Tafel Where Nr < 3"), ElementsAre("2"));
+        EXPECT_EQ(read(std::string("Select Nr From Tafel Where ") + condition), numbers) << condition;
+    EXPECT_THAT(read("Select Count(*) From Tafel Where Nr < 3"), ElementsAre("2"));
 }
 
 } // namespace

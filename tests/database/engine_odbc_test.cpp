@@ -36,8 +36,8 @@ INSTANTIATE_TEST_SUITE_P(, EngineOdbc, ::testing::Values("OdbcSQLite", "OdbcPost
 // Each row differs from another in one cell alone, in a way that an equality of the program would pass over.
 TEST_P(EngineOdbc, ARowWithoutAKeyIsHitAloneOrNotAtAll)
 {
-    const Value day = DateTime::out({2006, 3, 7, 13, 59, 1});
-    const Value later = DateTime::out({2006, 3, 7, 13, 59, 4});
+    const Value day = DateTime::from({2006, 3, 7, 13, 59, 1});
+    const Value later = DateTime::from({2006, 3, 7, 13, 59, 4});
     const std::string longText = std::string(3000, 'x') + "ä";
     const std::vector<std::vector<Value>> rows{
         {"Welle", "kurz", 1, 0.1, day},
@@ -68,16 +68,16 @@ TEST_P(EngineOdbc, ARowWithoutAKeyIsHitAloneOrNotAtAll)
     const sql::Assignment fresh[] = {{"Nr", std::int64_t{50}}, {"Notiz", Value{}}};
     for (std::size_t i = 0; i + 2 < all.size(); ++i) {
         EXPECT_TRUE(engine_->update("Tafel", all[i], fresh)) << i;
-        EXPECT_THAT(lies("Select Count(*) From Tafel Where Nr = 50"), ElementsAre("1")) << i;
+        EXPECT_THAT(read("Select Count(*) From Tafel Where Nr = 50"), ElementsAre("1")) << i;
         EXPECT_TRUE(engine_->remove("Tafel", all[i])) << i;
         EXPECT_FALSE(engine_->remove("Tafel", all[i])) << i;
-        EXPECT_THAT(lies("Select Count(*) From Tafel"), ElementsAre(std::to_string(all.size() - 1 - i)));
+        EXPECT_THAT(read("Select Count(*) From Tafel"), ElementsAre(std::to_string(all.size() - 1 - i)));
     }
     for (const RowKey twice : {all.back(), all[all.size() - 2]}) {
         EXPECT_THROW(engine_->remove("Tafel", twice), RuntimeError);
         EXPECT_THROW(engine_->update("Tafel", twice, fresh), RuntimeError);
     }
-    EXPECT_THAT(lies("Select Wort, Nr From Tafel"), ElementsAre("doppelt|3", "doppelt|3"));
+    EXPECT_THAT(read("Select Wort, Nr From Tafel"), ElementsAre("doppelt|3", "doppelt|3"));
 }
 
 TEST_P(EngineOdbc, WhatAnotherProgramChangedIsNotWrittenOver)
@@ -89,7 +89,7 @@ TEST_P(EngineOdbc, WhatAnotherProgramChangedIsNotWrittenOver)
     const sql::Assignment fresh[] = {{"Nr", std::int64_t{50}}};
     EXPECT_FALSE(engine_->update("Tafel", all[1], fresh));
     EXPECT_FALSE(engine_->remove("Tafel", all[1]));
-    EXPECT_THAT(lies("Select Nr From Tafel Where Wort = 'b'"), ElementsAre("20"));
+    EXPECT_THAT(read("Select Nr From Tafel Where Wort = 'b'"), ElementsAre("20"));
 
     const std::string columns[] = {"Nr", "Wort"};
     EXPECT_THAT(rows(*engine_->readRows("Tafel", columns, all)), UnorderedElementsAre("1|a", "3|c", "4|d", "5|e"));
@@ -108,9 +108,9 @@ TEST_P(EngineOdbc, ANewRowIsWrittenAgainByItsKey)
         rs.setField("Nr", number);
         rs.Update();
     }
-    EXPECT_THAT(lies("Select Wort, Nr From Tafel Order By Wort"), ElementsAre("a|1", "neu|9"));
+    EXPECT_THAT(read("Select Wort, Nr From Tafel Order By Wort"), ElementsAre("a|1", "neu|9"));
     rs.Delete();
-    EXPECT_THAT(lies("Select Wort, Nr From Tafel"), ElementsAre("a|1"));
+    EXPECT_THAT(read("Select Wort, Nr From Tafel"), ElementsAre("a|1"));
 }
 
 TEST_P(EngineOdbc, AChangeTakenBackLeavesTheKeysGood)
@@ -127,14 +127,14 @@ TEST_P(EngineOdbc, AChangeTakenBackLeavesTheKeysGood)
     engine_->rollBack();
     EXPECT_TRUE(engine_->remove("Tafel", all[1]));
     engine_->commit();
-    EXPECT_THAT(lies("Select Wort, Nr From Tafel"), UnorderedElementsAre("a|50", "c|3"));
+    EXPECT_THAT(read("Select Wort, Nr From Tafel"), UnorderedElementsAre("a|50", "c|3"));
     engine_->begin();
     EXPECT_TRUE(engine_->remove("Tafel", all[0]));
     EXPECT_TRUE(engine_->update("Tafel", all[2], fresh));
     engine_->rollBack();
     EXPECT_TRUE(engine_->update("Tafel", all[0], other));
     EXPECT_TRUE(engine_->remove("Tafel", all[2]));
-    EXPECT_THAT(lies("Select Wort, Nr From Tafel"), ElementsAre("a|60"));
+    EXPECT_THAT(read("Select Wort, Nr From Tafel"), ElementsAre("a|60"));
 }
 
 const std::filesystem::path PROBE = QUELVARN_TEST_DATA "/werk-a.mdb";
@@ -163,7 +163,7 @@ TEST(EngineAccess, ReadsARealFileThroughTheDriverOfMdbtools)
     EXPECT_EQ(rs.RecordCount(), 1402U);
     rs.Filter("DokuBez = 'FA-1280-413'");
     ASSERT_GE(rs.RecordCount(), 1U);
-    EXPECT_EQ(rs.field("Erstellt"), Value(DateTime::out({1998, 1, 12, 14, 26, 42})));
+    EXPECT_EQ(rs.field("Erstellt"), Value(DateTime::from({1998, 1, 12, 14, 26, 42})));
     rs.Open("Select Feld4 From Ini", connection);
     rs.Filter("Feld4 = 'Geändert am'");
     EXPECT_EQ(rs.RecordCount(), 1U);

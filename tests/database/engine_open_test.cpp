@@ -110,7 +110,7 @@ TEST(DatabaseFile, TakesCellsAndColumnsOfAnotherMakersFile)
     EXPECT_EQ(reader->value(2), Value("gestern"));
     EXPECT_EQ(reader->value(3), Value(3.0));
     ASSERT_TRUE(reader->next());
-    EXPECT_EQ(reader->value(2), Value(DateTime::out({2006, 3, 7})));
+    EXPECT_EQ(reader->value(2), Value(DateTime::from({2006, 3, 7})));
 }
 
 class EngineWriters : public EngineTest
@@ -150,7 +150,7 @@ TEST_P(EngineWriters, ManyAtOnceLoseNothing)
     places.clear();
     EXPECT_EQ(fault, 0);
     EXPECT_GT(written, 20);
-    EXPECT_EQ(lies("Select Count(*) From Tafel").front(), std::to_string(written));
+    EXPECT_EQ(read("Select Count(*) From Tafel").front(), std::to_string(written));
 }
 
 } // namespace

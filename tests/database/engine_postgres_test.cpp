@@ -68,17 +68,17 @@ TEST_P(EnginePostgres, LongTextsAndALargeResultPassThrough)
     for (int i = 0; i < 20000; ++i)
         longText += fmt::format("{} ", i * 7919 % 10007);
     EXPECT_EQ(execute("Insert Into PartTabelleBenutzDef (Name, Wert) Values ('Notiz', '" + longText + "')"), 1);
-    EXPECT_EQ(lies("Select Wert From PartTabelleBenutzDef Where Name = 'notiz'").front(), longText);
+    EXPECT_EQ(read("Select Wert From PartTabelleBenutzDef Where Name = 'notiz'").front(), longText);
 
     // A reader that is left halfway, and another one started meanwhile, disturb nobody.
     fill({{"Nr", FieldType::Integer}}, std::vector<std::vector<Value>>(5000, {std::int64_t{3}}));
     auto half = engine_->read(select("Select Nr From Tafel"), WithKey::Yes);
     ASSERT_TRUE(half->next());
-    EXPECT_EQ(lies("Select Nr From Tafel").size(), 5000U);
+    EXPECT_EQ(read("Select Nr From Tafel").size(), 5000U);
     EXPECT_EQ(rows(*half).size(), 4999U);
     half = engine_->read(select("Select Nr From Tafel"), WithKey::Yes);
     half.reset();
-    EXPECT_EQ(lies("Select Count(*) From Tafel").front(), "5000");
+    EXPECT_EQ(read("Select Count(*) From Tafel").front(), "5000");
 }
 
 TEST_P(EnginePostgres, ConnectionFaultsAreToldInGerman)

@@ -31,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(, EngineRows, allEngines, engineName);
 
 TEST_P(EngineRows, EveryValueComesBackAsItWentIn)
 {
-    const auto day = [](int year, int month, int t, int hour) { return DateTime::out({year, month, t, hour, 59, 1}); };
+    const auto day = [](int year, int month, int t, int hour) { return DateTime::from({year, month, t, hour, 59, 1}); };
     const std::vector<std::vector<Value>> rows{
         {"O'Neill \"GmbH\"", std::int64_t{0}, 0.1, day(2024, 2, 29, 13)},
         {"C:\\Teile\\n\t50%\n;--", std::numeric_limits<std::int64_t>::max(), -1e-300, day(1899, 12, 29, 6)},
@@ -81,7 +81,7 @@ TEST_P(EngineRows, RowsAreWrittenByTheirKeysAndAKeyIsNeverGivenTwice)
     const RowKey bolt = insert("Bolzen");
     const sql::Assignment fresh[] = {{"Name", std::string("Stift")}};
     EXPECT_TRUE(engine_->update("Tafel", bolt, fresh));
-    EXPECT_THAT(lies("Select * From Tafel Where Anzahl = 7"), ElementsAre("Stift|7"));
+    EXPECT_THAT(read("Select * From Tafel Where Anzahl = 7"), ElementsAre("Stift|7"));
 
     EXPECT_TRUE(engine_->remove("Tafel", bolt));
     EXPECT_FALSE(engine_->remove("Tafel", bolt));
@@ -109,7 +109,7 @@ TEST_P(EngineRows, StatementsTellHowManyRowsTheyTouched)
     EXPECT_EQ(execute("Insert Into Tafel (Name, Anzahl) Values ('Welle ', 3)"), 1);
     EXPECT_EQ(execute("Update Tafel Set Anzahl = 9, Name = 'O''Neill' Where Name = 'WELLE'"), 2);
     EXPECT_EQ(execute("Delete From Tafel Where Anzahl = 4"), 0);
-    EXPECT_THAT(lies("Select Name From Tafel Where Anzahl = 9"), ElementsAre("O'Neill", "O'Neill"));
+    EXPECT_THAT(read("Select Name From Tafel Where Anzahl = 9"), ElementsAre("O'Neill", "O'Neill"));
     EXPECT_EQ(execute("Delete From Tafel"), 3);
 }
 
@@ -147,7 +147,7 @@ TEST_P(EngineRows, ATransactionHoldsAllOrNothing)
                 ElementsAre("Bolzen", "Keil", "Nabe", "Welle"));
 
     engine_->bulkWriter("Tafel", engine_->findTable("Tafel")->columns)->row(std::vector<Value>{"x", 1});
-    EXPECT_THAT(lies("Select Count(*) From Tafel"), ElementsAre("4")) << "an unfinished bulk insert leaves nothing";
+    EXPECT_THAT(read("Select Count(*) From Tafel"), ElementsAre("4")) << "an unfinished bulk insert leaves nothing";
 }
 
 TEST_P(EngineRows, SeveralReadersAndWritesMayOverlap)
@@ -187,7 +187,7 @@ TEST_P(EngineRows, FaultsCarryNumberSourceAndText)
     fillParts();
     const auto fault = [&](std::string_view text) {
         try {
-            lies(text);
+            read(text);
         } catch (const RuntimeError& caught) {
             return std::to_string(caught.number()) + " " + caught.source() + ": " + caught.description();
         }
@@ -198,7 +198,7 @@ TEST_P(EngineRows, FaultsCarryNumberSourceAndText)
     EXPECT_THAT(fault("Select Farbe From Tafel"), HasSubstr("-2147217904"));
     EXPECT_THAT(fault("Select Name From Tafel Where Farbe = 1"), HasSubstr("-2147217904"));
     EXPECT_THROW(engine_->createTable({"Tafel", {{"x"}}, {}}), RuntimeError);
-    EXPECT_THAT(lies("Select Name From Tafel Where Anzahl = 2"), ElementsAre("Nabe")) << "the connection still works";
+    EXPECT_THAT(read("Select Name From Tafel Where Anzahl = 2"), ElementsAre("Nabe")) << "the connection still works";
 }
 
 } // namespace

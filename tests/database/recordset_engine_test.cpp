@@ -2,6 +2,8 @@
 #include "base/runtime_error.h"
 #include "database/connection.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
+#include "database/recordset_lists.h"
 #include "engine_fixture.h"
 #include "recordset_reference.h"
 
@@ -42,7 +44,7 @@ protected:
         else if (!connection_.open()) // An empty file is no database yet.
             connection_.openAddress(isPostgres() ? address_ : utf8FromPath(folder_ / "test.qv"));
         Recordset rs;
-        rs.setWholeLimit(wholeUntil);
+        setWholeLimit(rs, wholeUntil);
         rs.Open(select(sql), connection_, CursorType::Static, lock);
         return rs;
     }
@@ -96,9 +98,9 @@ TEST_P(RecordsetWithRowKeys, ReadsLaterWhatItWouldHaveReadAtOnce)
     const auto* sql = "SELECT * FROM Tafel WHERE Nr >= 0 ORDER BY Titel, Nr DESC";
     Recordset whole = openRs(sql, LockType::Optimistic);
     Recordset late = openRs(sql, LockType::Optimistic, 10);
-    ASSERT_TRUE(whole.columnLoaded("Thema"));
-    ASSERT_FALSE(late.columnLoaded("Thema"));
-    ASSERT_TRUE(late.columnLoaded("Titel"));
+    ASSERT_TRUE(columnLoaded(whole, "Thema"));
+    ASSERT_FALSE(columnLoaded(late, "Thema"));
+    ASSERT_TRUE(columnLoaded(late, "Titel"));
     // The order of rows that are equal in the sort columns is the engine's own.
     const std::vector<std::function<void(Recordset&)>> actions{
         [](Recordset& rs) { rs.Sort("Titel, Nr, Id"); },
@@ -143,20 +145,20 @@ TEST_P(RecordsetOnEngine, TellsWhatOccursAmongTheRowsOfACondition)
         std::vector<std::string> expected;
         for (const auto& [key, text] : texts)
             expected.push_back(text);
-        const auto chosen = rs.choose(condition.asSql);
+        const auto chosen = choose(rs, condition.asSql);
         ASSERT_TRUE(chosen);
         std::vector<std::string> found =
-            rs.distinctTexts("Thema", *chosen, [](std::string_view text) { return text != "a"; });
+            distinctTexts(rs, "Thema", *chosen, [](std::string_view text) { return text != "a"; });
         if (isOdbc()) { // Which spelling was stored first is not known.
             std::ranges::transform(found, found.begin(), sortKey);
             std::ranges::transform(expected, expected.begin(), sortKey);
         }
         EXPECT_EQ(found, expected) << condition.asSql;
-        EXPECT_THAT(rs.distinctNumbers("Wert", *chosen), testing::ElementsAreArray(numbers)) << condition.asSql;
+        EXPECT_THAT(distinctNumbers(rs, "Wert", *chosen), testing::ElementsAreArray(numbers)) << condition.asSql;
     }
     EXPECT_EQ(picture(rs), before);
-    EXPECT_EQ(faultNumber([&] { rs.distinctNumbers("Thema", {}); }), 3421);
-    EXPECT_EQ(faultNumber([&] { rs.distinctTexts("Wert", {}); }), 3421);
+    EXPECT_EQ(faultNumber([&] { distinctNumbers(rs, "Thema", {}); }), 3421);
+    EXPECT_EQ(faultNumber([&] { distinctTexts(rs, "Wert", {}); }), 3421);
 }
 
 TEST_P(RecordsetWithRowKeys, GivingUpLeavesRowsPlaceAndColumnsAsTheyWere)
@@ -166,12 +168,12 @@ TEST_P(RecordsetWithRowKeys, GivingUpLeavesRowsPlaceAndColumnsAsTheyWere)
     rs.setAbsolutePosition(7);
     const auto never = [](std::size_t, std::size_t) { return false; };
     EXPECT_FALSE(rs.Find("Thema LIKE '%a%'", 0, SearchDirection::Forward, true, never));
-    EXPECT_FALSE(rs.loadColumns(std::vector<std::string>{"Titel", "Thema", "Nr"}, never));
-    EXPECT_FALSE(rs.choose("Thema = 'a'", never));
-    EXPECT_FALSE(rs.columnLoaded("Thema") || rs.columnLoaded("Nr"));
+    EXPECT_FALSE(loadColumns(rs, std::vector<std::string>{"Titel", "Thema", "Nr"}, never));
+    EXPECT_FALSE(choose(rs, "Thema = 'a'", never));
+    EXPECT_FALSE(columnLoaded(rs, "Thema") || columnLoaded(rs, "Nr"));
     EXPECT_EQ(rs.AbsolutePosition(), 7u);
-    EXPECT_TRUE(rs.loadColumns(std::vector<std::string>{"Titel", "Thema", "Nr"}));
-    EXPECT_TRUE(rs.columnLoaded("Thema") && rs.columnLoaded("Nr"));
+    EXPECT_TRUE(loadColumns(rs, std::vector<std::string>{"Titel", "Thema", "Nr"}));
+    EXPECT_TRUE(columnLoaded(rs, "Thema") && columnLoaded(rs, "Nr"));
 }
 
 TEST_P(RecordsetOnEngine, WalksThroughUnreadRowsInBothDirections)
@@ -225,17 +227,17 @@ TEST_P(RecordsetWithRowKeys, EditsReachExactlyOneOfEqualRows)
     rs.MoveNext();
     rs.setField("Nr", "7");
     rs.Update();
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort, Nr"), ElementsAre("a|1", "a|1", "a|7", "b|2"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel ORDER BY Wort, Nr"), ElementsAre("a|1", "a|1", "a|7", "b|2"));
     rs.MoveFirst();
     rs.Delete();
     EXPECT_EQ(rs.Text("Nr"), "7");
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort, Nr"), ElementsAre("a|1", "a|7", "b|2"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel ORDER BY Wort, Nr"), ElementsAre("a|1", "a|7", "b|2"));
     rs.AddNew();
     rs.setField("Wort", "c");
     rs.Update();
     rs.setField("Nr", 9);
     rs.Update();
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel WHERE Wort = 'c'"), ElementsAre("c|9"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel WHERE Wort = 'c'"), ElementsAre("c|9"));
     EXPECT_THAT(column(rs, "Nr"), ElementsAre("7", "1", "9"));
 }
 
@@ -251,9 +253,9 @@ TEST_P(RecordsetOnEngine, AWritableDistinctHoldsTheFirstOfEqualRowsAndWritesOnly
     ASSERT_EQ(rs.RecordCount(), 1u);
     rs.setField("Nr", 5);
     rs.Update();
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel WHERE Wort = 'a' ORDER BY Nr"), ElementsAre("A |1", "a|5"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel WHERE Wort = 'a' ORDER BY Nr"), ElementsAre("A |1", "a|5"));
     rs.Delete();
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel WHERE Wort = 'a'"), ElementsAre("A |1"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel WHERE Wort = 'a'"), ElementsAre("A |1"));
 }
 
 TEST_P(RecordsetOnEngine, DistinctListsAreBlindToCaseAndSorted)
@@ -315,16 +317,16 @@ TEST_P(RecordsetOnEngine, ABatchIsWrittenAtOnceOrNotAtAll)
     rs.setField("Nr", 4);
     rs.Update();
     EXPECT_THAT(column(rs, "Nr"), ElementsAre("20", "3", "4"));
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("a|1", "b|2", "c|3"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("a|1", "b|2", "c|3"));
     rs.UpdateBatch();
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("b|20", "c|3", "d|4"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("b|20", "c|3", "d|4"));
 
     rs.MoveFirst();
     rs.Delete();
     rs.setField("Nr", 30);
     execute("DELETE FROM Tafel WHERE Wort = 'c'");
     EXPECT_EQ(faultNumber([&] { rs.UpdateBatch(); }), -2147217864);
-    EXPECT_THAT(lies("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("b|20", "d|4"));
+    EXPECT_THAT(read("SELECT Wort, Nr FROM Tafel ORDER BY Wort"), ElementsAre("b|20", "d|4"));
     EXPECT_THAT(column(openRs("SELECT * FROM Tafel ORDER BY Wort"), "Nr"), ElementsAre("20", "4"));
 }
 
@@ -347,13 +349,13 @@ TEST_P(RecordsetWithRowKeys, LongReadingCanBeGivenUp)
     rs.Filter("Nr = 1");
     const auto before = column(rs, "Id");
     rs.Filter("Thema LIKE '*'", [](std::size_t, std::size_t) { return false; });
-    EXPECT_EQ(rs.filterText(), "Nr = 1");
+    EXPECT_EQ(rs.filter().text, "Nr = 1");
     EXPECT_EQ(column(rs, "Id"), before);
-    EXPECT_FALSE(rs.columnLoaded("Thema"));
+    EXPECT_FALSE(columnLoaded(rs, "Thema"));
     std::size_t inAll = 0;
     rs.Filter("Thema LIKE '*'", [&](std::size_t, std::size_t rows) { return inAll = rows, true; });
     EXPECT_EQ(inAll, 50u);
-    EXPECT_TRUE(rs.columnLoaded("Thema"));
+    EXPECT_TRUE(columnLoaded(rs, "Thema"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -267,7 +268,7 @@ TEST(Recordset, ABadFilterLeavesTheOldOne)
     rs.Filter("Nr = 2");
     for (const auto* bad : {"Nr = ", "Nr = 2 OR", "Weg = 1", "DROP TABLE x"})
         EXPECT_NE(faultNumber([&] { rs.Filter(bad); }), 0) << bad;
-    EXPECT_EQ(rs.filterText(), "Nr = 2");
+    EXPECT_EQ(rs.filter().text, "Nr = 2");
     EXPECT_THAT(names(rs), ElementsAre("B"));
     rs.Filter("Nr > 5");
     EXPECT_TRUE(rs.empty());
@@ -282,7 +283,7 @@ TEST(Recordset, CloseAndOpenEmptyARecordsetInMemory)
     EXPECT_FALSE(rs.open());
     rs.Open();
     EXPECT_TRUE(rs.empty());
-    EXPECT_TRUE(rs.hasField("WERT"));
+    EXPECT_TRUE(hasField(rs, "WERT"));
 }
 
 } // namespace

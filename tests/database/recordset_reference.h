@@ -132,7 +132,8 @@ private:
 
     DateTime day()
     {
-        return DateTime::out({2024, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), below(2) ? 12 : 0});
+        return DateTime::from(
+            {2024, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), below(2) ? 12 : 0});
     }
 
     Condition sheet()

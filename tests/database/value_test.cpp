@@ -8,7 +8,7 @@
 namespace quelvarn {
 namespace {
 
-const DateTime march = DateTime::out({2006, 3, 7, 13, 5, 0});
+const DateTime march = DateTime::from({2006, 3, 7, 13, 5, 0});
 
 TEST(Value, ConvertsAsTheDatabaseDoes)
 {

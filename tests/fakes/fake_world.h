@@ -22,7 +22,7 @@ public:
     DateTime now() const override { return time; }
     void before(std::int64_t seconds) { time = time.plusSeconds(seconds); }
 
-    DateTime time = DateTime::out({2004, 3, 1, 8, 30, 0});
+    DateTime time = DateTime::from({2004, 3, 1, 8, 30, 0});
 };
 
 class FakeEnvironment : public Environment

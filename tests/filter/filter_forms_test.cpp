@@ -5,9 +5,10 @@
 #include "base/utf8.h"
 #include "database/connection.h"
 #include "database/engine_fixture.h"
+#include "database/recordset_columns.h"
 #include "database/sql/conditions.h"
-#include "filter/execution.h"
 #include "filter/filter_run.h"
+#include "filter/status_filter.h"
 #include "filter/user_defined_match.h"
 
 #include <array>
@@ -53,8 +54,8 @@ public:
     {
         static constexpr int HOURS[]{0, 12, 23};
         const int hour = out(HOURS);
-        return DateTime::out({2026, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), hour,
-                              hour == 23 ? 59 : 0, hour == 23 ? 59 : 0});
+        return DateTime::from({2026, 1 + static_cast<int>(below(3)), 1 + static_cast<int>(below(3)), hour,
+                               hour == 23 ? 59 : 0, hour == 23 ? 59 : 0});
     }
 
 private:
@@ -86,7 +87,7 @@ protected:
         }
         writer->end();
         connection_.openAddress(isPostgres() ? address_ : utf8FromPath(folder_ / "test.qv"));
-        table_.setWholeLimit(1);
+        setWholeLimit(table_, 1);
         table_.Open("Select * From PartTabelle ORDER BY DokuBez", connection_);
     }
 

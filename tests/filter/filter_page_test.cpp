@@ -1,5 +1,5 @@
-#include "filter/execution.h"
 #include "filter/filter_page.h"
+#include "filter/lift_filter.h"
 #include "filter_fixture.h"
 #include "session/error_report.h"
 

@@ -136,10 +136,10 @@ TEST_P(FilterRows, OfTheStructureChangeTheBranchAsWell)
 
 TEST_P(FilterRows, OfDatesTakeDatesAlone)
 {
-    addDocument("A", {{"Erstellt", DateTime::out({2026, 10, 1})}});
-    addDocument("B", {{"Erstellt", DateTime::out({2026, 11, 1})}});
+    addDocument("A", {{"Erstellt", DateTime::from({2026, 10, 1})}});
+    addDocument("B", {{"Erstellt", DateTime::from({2026, 11, 1})}});
     open(FilterSection::Properties);
-    page_.properties().dateChosen(DateTime::out({2026, 11, 1}));
+    page_.properties().dateChosen(DateTime::from({2026, 11, 1}));
     EXPECT_EQ(run(), "B");
     page_.valueChanged(0, "<= 15.10.2026");
     EXPECT_THAT(rows(), ElementsAre("Erstellt: <= 15.10.26"));

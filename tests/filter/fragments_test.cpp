@@ -1,7 +1,7 @@
 #include "base/runtime_error.h"
-#include "filter/execution.h"
 #include "filter/filter_run.h"
 #include "filter/fragments.h"
+#include "filter/status_filter.h"
 
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,5 +1,4 @@
 #include "base/text.h"
-#include "filter/execution.h"
 #include "filter/filter_fixture.h"
 #include "filter/property_section.h"
 
@@ -68,7 +67,7 @@ TEST_F(Properties, RunningFilterAndStatusNarrowTheLists)
     addDocument("1", {{"Projekt", "A100"}, {"Autor", "Meier"}, {"Status", 0}});
     addDocument("2", {{"Projekt", "A100"}, {"Autor", "Ober"}, {"Status", 3}});
     addDocument("3", {{"Projekt", "A200"}, {"Autor", "Ulm"}, {"Status", 4}});
-    addDocument("4", {{"Projekt", "B"}, {"Status", 7}, {"Geaendert", DateTime::out({2026, 11, 3})}});
+    addDocument("4", {{"Projekt", "B"}, {"Status", 7}, {"Geaendert", DateTime::from({2026, 11, 3})}});
     table().Filter("DokuBez = '1'");
 
     struct TestCase
@@ -107,7 +106,7 @@ TEST_F(Properties, ChoicesBecomeSteps)
         FilterRow row;
     };
     session_.labels.Bezeichnungen = {{"projekt", "Vorhaben"}, {"stichwörter", "Worte"}, {"hauptmerkmal a", "Klasse"}};
-    const DateTime day = DateTime::out({2026, 11, 5});
+    const DateTime day = DateTime::from({2026, 11, 5});
     const TestCase cases[]{
         {[](auto& b) { b.valueChosen(1, "A100"); }, {"Projekt", "A100", 0, ""}, {"Projekt", "Vorhaben", "A100"}},
         {[](auto& b) { b.valueChosen(10, "x"); }, {"Hauptmerkmal_A", "x", 0, ""}, {"Hauptmerkmal_A", "Klasse", "x"}},

@@ -1,6 +1,11 @@
 #include "base/runtime_error.h"
-#include "filter/execution.h"
 #include "filter/filter_fixture.h"
+#include "filter/lift_filter.h"
+#include "filter/property_run.h"
+#include "filter/run_filter.h"
+#include "filter/status_filter.h"
+#include "filter/steps.h"
+#include "filter/structure_run.h"
 
 namespace quelvarn {
 namespace {
@@ -14,7 +19,7 @@ class FilterRunTest : public FilterTest
 protected:
     FilterRunTest()
     {
-        const auto day = [](int t) { return DateTime::out({2026, 11, t, 23, 59, 59}); };
+        const auto day = [](int t) { return DateTime::from({2026, 11, t, 23, 59, 59}); };
         part("A", "Meier", "Welle 1", 0, day(3));
         part("B", "Meier", "Welle 2", 1, day(4));
         part("C", "Meier", "Achse", 2, day(11));
@@ -63,7 +68,7 @@ TEST_F(FilterRunTest, StepsNarrowTogetherAndTheStatusConditionStandsBeforeThem)
     steps({MEIER, SHAFT, {"Erstellt", "04.11.26", CodeCreated + 1, {}}});
     EXPECT_TRUE(ApplyPropertyFilter(context_));
     EXPECT_EQ(shown(), "B");
-    EXPECT_EQ(table().filterText(),
+    EXPECT_EQ(table().filter().text,
               " ( Status >= 1  AND Status <= 3) AND Autor Like 'meier' AND Titel Like 'Welle*' AND "
               "Erstellt >= #04/11/26 00:00:00# AND Erstellt <= #04/11/26 23:59:59#");
     EXPECT_EQ(state().FilterString, "Autor Like 'meier' AND Titel Like 'Welle*' AND "
@@ -154,7 +159,7 @@ TEST_F(FilterRunTest, MainValuesNarrowTheRowsAndLeaveTheFilterStringAlone)
     context_.state().section = FilterSection::Structure;
     state().HauptwertBereich[1] = {Decimal::ofUnits(15000), Decimal::ofUnits(20000)};
     ASSERT_TRUE(ApplyStructureFilter(context_) && ApplyHauptwertFilter(context_));
-    EXPECT_EQ(table().filterText(), "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
+    EXPECT_EQ(table().filter().text, "Hauptwert_b >= 1.5 AND Hauptwert_b <= 2");
     EXPECT_EQ(shown(), "A H");
     steps({{"Hauptmerkmal_D", "Welle*", CodeText, {}}});
     ASSERT_TRUE(ApplyStructureFilter(context_) && ApplyHauptwertFilter(context_));
@@ -177,7 +182,7 @@ TEST_F(FilterRunTest, MainValuesAreComparedInFourPlaces)
     reopen();
     state().HauptwertBereich[0] = {Decimal::ofUnits(6000), Decimal::ofUnits(8000)};
     ASSERT_TRUE(ApplyStructureFilter(context_) && ApplyHauptwertFilter(context_));
-    EXPECT_EQ(table().filterText(), "Hauptwert_a >= 0.6 AND Hauptwert_a <= 0.8");
+    EXPECT_EQ(table().filter().text, "Hauptwert_a >= 0.6 AND Hauptwert_a <= 0.8");
     EXPECT_EQ(shown(), "N1 N2 N3 N5 N6 N7");
 }
 
@@ -187,10 +192,10 @@ TEST_F(FilterRunTest, AFaultOrGivingUpLeavesRowsAndFilterAsTheyWere)
     steps({MEIER});
     ASSERT_TRUE(ApplyPropertyFilter(context_));
     table().MoveLast();
-    const std::string expression = table().filterText();
+    const std::string expression = table().filter().text;
     const auto stays = [&](const char* run) {
         EXPECT_EQ(shown(), "A B C") << run;
-        EXPECT_EQ(table().filterText(), expression) << run;
+        EXPECT_EQ(table().filter().text, expression) << run;
         EXPECT_EQ(table().Text("DokuBez"), "C") << run;
         EXPECT_EQ(state().FilterString, "Autor Like 'meier'") << run;
         EXPECT_EQ(state().FilterAnzahl, 2) << run;

@@ -1,7 +1,7 @@
-#include "filter/execution.h"
 #include "filter/filter_fixture.h"
 #include "filter/filter_string.h"
 #include "filter/saved_filters.h"
+#include "filter/steps.h"
 
 #include <gmock/gmock.h>
 

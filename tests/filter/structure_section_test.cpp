@@ -1,6 +1,6 @@
 #include "base/text.h"
-#include "filter/execution.h"
 #include "filter/filter_fixture.h"
+#include "filter/steps.h"
 #include "filter/structure_section.h"
 #include "filter/template_lookup.h"
 

@@ -1,5 +1,7 @@
-#include "filter/execution.h"
 #include "filter/filter_fixture.h"
+#include "filter/run_filter.h"
+#include "filter/steps.h"
+#include "filter/user_defined_run.h"
 #include "filter/user_defined_section.h"
 
 #include <gmock/gmock.h>

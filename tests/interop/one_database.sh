@@ -64,7 +64,7 @@ same() { # lines arguments of qvadmin
 }
 
 clean() { # register
-  same 10 check "$1" --streng
+  same 10 check "$1" --strict
   grep -q '^0 Fehler, 0 Warnungen$' windows.txt || fault "$1 is not clean: $(grep -v Dokumente windows.txt | head -n 3)"
 }
 
@@ -95,8 +95,8 @@ change() { # program register
     >/dev/null
   "$1" query "$2" "UPDATE PartTabelle SET Titel = 'Ähnlich wie ''früher''' WHERE DokuBez = 'ß-104'" >/dev/null
   "$1" query "$2" "DELETE FROM PartTabelle WHERE DokuBez = 'ß-105'" >/dev/null
-  "$1" rights "$2" "Groß'mann" --neu --sehen 0,5 --loeschen 5=6 >/dev/null
-  "$1" rights "$2" SCHRÖDER --sehen 1,2,3 >/dev/null
+  "$1" rights "$2" "Groß'mann" --new --see 0,5 --delete 5=6 >/dev/null
+  "$1" rights "$2" SCHRÖDER --see 1,2,3 >/dev/null
 }
 
 # Each system makes a register in which the other one writes.

@@ -38,9 +38,9 @@ TEST_F(DetailPagesTest, RevisionsComeInTheTwoViewsWithoutThoseThatChangedNothing
         row("SheetMTabelle", {{"DokuBez", "O'Neil"},
                               {"RevBez", RevBez},
                               {"filename", documentPath(RevBez)},
-                              {"Erstellt", DateTime::out({2004, 2, 9, 7, 5, 0})},
+                              {"Erstellt", DateTime::from({2004, 2, 9, 7, 5, 0})},
                               {"Autor", author},
-                              {"Geaendert", DateTime::out({2011, 12, 24, 0, 0, 0})},
+                              {"Geaendert", DateTime::from({2011, 12, 24, 0, 0, 0})},
                               {"Bearbeiter", "Weber"},
                               {"Aenderung", change}});
     };
@@ -52,11 +52,11 @@ TEST_F(DetailPagesTest, RevisionsComeInTheTwoViewsWithoutThoseThatChangedNothing
     info_.chooseNode(nodes::REVISION);
     const Rows created{"A|09.02.04|Meier|Werkstoff", "B|09.02.04||Maß korrigiert"};
     EXPECT_EQ(rowsOf(InfoPageId::Revisions), created);
-    details_.setRevisionFilter(revisionFilter::Edited);
+    details_.setRevisionFilter(RevisionFilter::Edited);
     const Rows edited{"A|24.12.11|Weber|Werkstoff", "B|24.12.11|Weber|Maß korrigiert"};
     EXPECT_EQ(rowsOf(InfoPageId::Revisions), edited);
     info_.chooseNode(nodes::REVISION); // Begins with the first view again.
-    EXPECT_EQ(details_.OpRevErstBearb(), revisionFilter::Erstellt);
+    EXPECT_EQ(details_.OpRevErstBearb(), RevisionFilter::Erstellt);
     EXPECT_EQ(rowsOf(InfoPageId::Revisions), created);
 }
 

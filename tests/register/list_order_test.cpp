@@ -5,6 +5,7 @@
 #include "filter/template_lookup.h"
 #include "register/detail_lists.h"
 #include "register/document_questions.h"
+#include "register/user_defined_rows.h"
 
 #include <gmock/gmock.h>
 

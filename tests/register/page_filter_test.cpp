@@ -1,5 +1,9 @@
-#include "filter/execution.h"
+#include "filter/filter_context.h"
 #include "filter/filter_page.h"
+#include "filter/lift_filter.h"
+#include "filter/run_filter.h"
+#include "filter/status_filter.h"
+#include "filter/steps.h"
 #include "register_fixture.h"
 
 namespace quelvarn {

@@ -44,7 +44,7 @@ TEST_F(PagesTest, GeneralPageShowsTheRow)
     row("PartTabelle", {{"DokuBez", "P-1"},
                         {"filename", "W:\\Teile\\P-1.par"},
                         {"Status", 4},
-                        {"Erstellt", DateTime::out({2004, 2, 9, 7, 5, 0})}});
+                        {"Erstellt", DateTime::from({2004, 2, 9, 7, 5, 0})}});
     tabs_.chooseTab(0);
     const GeneralPage& page = info_.general();
     EXPECT_EQ(info_.page(), InfoPageId::General);

@@ -1,3 +1,4 @@
+#include "filter/status_filter.h"
 #include "quick_fixture.h"
 
 namespace quelvarn {
@@ -19,7 +20,7 @@ protected:
     void document(const char* name, const char* file, int status, CalendarTime made, const char* author,
                   const char* editor)
     {
-        const DateTime created = DateTime::out(made);
+        const DateTime created = DateTime::from(made);
         row("PartTabelle", {{"DokuBez", name},
                             {"RevBez", "0"},
                             {"Dateiname", file},
@@ -39,7 +40,7 @@ protected:
         quick_.textFilter();
     }
 
-    const std::string& expression() const { return tables_.current().rows().filterText(); }
+    const std::string& expression() const { return tables_.current().rows().filter().text; }
 };
 
 TEST_F(QuickFilterTest, AListOfSavedFiltersThatCannotBeReadHasItsBoxes)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "filter/execution.h"
 #include "register/left_bar.h"
 #include "register_fixture.h"
 

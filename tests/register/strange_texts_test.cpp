@@ -16,8 +16,9 @@
 #include "register/quick_search.h"
 #include "register/relation_kinds.h"
 #include "register/relation_rows.h"
+#include "register/user_defined_rows.h"
+#include "session/database_start.h"
 #include "session/ini_reader/ini_rows.h"
-#include "session/program.h"
 #include "session/settings_writer.h"
 
 #include <gmock/gmock.h>
@@ -221,7 +222,7 @@ TEST_P(StrangeTexts, AsNamesOfDocumentsFindWhatBelongsToThem)
     for (const std::string& text : texts) {
         SCOPED_TRACE(text);
         const DokuRecord record = recordOf(text);
-        EXPECT_THAT(column(InfoRevision(database, "PartTabelle", text, revisionFilter::Erstellt), "RevBez"),
+        EXPECT_THAT(column(InfoRevision(database, "PartTabelle", text, RevisionFilter::Erstellt), "RevBez"),
                     ElementsAre(text));
         EXPECT_THAT(column(userDefinedList(database, "PartTabelleBenutzDef", record), "Wert"), ElementsAre(text));
         EXPECT_THAT(column(additionalDocumentList(database, world_.files, record.filename), "ZusDokuDateiname"),

@@ -9,7 +9,7 @@
 #include "scenario_runner/controls.h"
 #include "scenario_runner/disk.h"
 #include "scenario_runner/lock_holder.h"
-#include "session/program.h"
+#include "session/program_start.h"
 #include "ui/adapters/progress_qt.h"
 #include "ui/guard.h"
 #include "ui/main_view.h"
@@ -56,7 +56,7 @@ World::World(std::string pictureFolder) : parts_(std::make_unique<Parts>()), pic
     std::filesystem::create_directories(parts_->drives());
     parts_->environment.computer = "CAD-WS01";
     parts_->environment.user = "Meier";
-    parts_->clock.time = DateTime::out({2026, 11, 22, 8, 0, 0});
+    parts_->clock.time = DateTime::from({2026, 11, 22, 8, 0, 0});
     parts_->printers.defaultPrinter = DefaultPrinter{"Buero"};
     parts_->system = systemPorts(parts_->drives());
     parts_->ports = std::make_unique<Ports>(Ports{boxes, parts_->clock, parts_->environment, parts_->system->files(),

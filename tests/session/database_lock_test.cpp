@@ -1,7 +1,7 @@
 #include "fakes/fake_patience.h"
 #include "frame/main_window.h"
 #include "frame/start_page.h"
-#include "session/program.h"
+#include "session/database_start.h"
 #include "session/register_fixture.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,10 @@
 #include "base/text.h"
 #include "fakes/fake_ports.h"
+#include "session/database_start.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
-#include "session/program.h"
+#include "session/program_start.h"
+#include "session/sibling_programs.h"
 
 #include <gmock/gmock.h>
 

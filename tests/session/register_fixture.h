@@ -7,8 +7,8 @@
 #include "fakes/fake_ports.h"
 #include "fakes/statements.h"
 #include "fakes/temp_folder.h"
+#include "session/database_start.h"
 #include "session/operations.h"
-#include "session/program.h"
 #include "session/session_state.h"
 
 #include <algorithm>

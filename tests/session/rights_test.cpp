@@ -1,4 +1,5 @@
 #include "fakes/fake_boxes.h"
+#include "session/access_line.h"
 #include "session/rights.h"
 
 #include <gtest/gtest.h>

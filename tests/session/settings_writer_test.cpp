@@ -63,8 +63,8 @@ TEST_F(SettingsWriter, DocumentPageLeavesSearchTextsTableAndOrderOptions)
 
 TEST_F(SettingsWriter, StampsAreSetOneMinuteAheadAndNeedFiveRows)
 {
-    const DateTime now = DateTime::out({2004, 3, 2, 23, 59, 30});
-    EXPECT_EQ(readStamp(db, "PART"), DateTime::out({2004, 3, 1, 8, 0, 0}));
+    const DateTime now = DateTime::from({2004, 3, 2, 23, 59, 30});
+    EXPECT_EQ(readStamp(db, "PART"), DateTime::from({2004, 3, 1, 8, 0, 0}));
     EXPECT_EQ(readStamp(db, "DRAFT"), DateTime{}); // "gestern"
     EXPECT_EQ(readStamp(db, "ASSEMB"), DateTime{});
     EXPECT_EQ(readStamp(db, "SHEETM"), std::nullopt);

@@ -13,14 +13,14 @@ TEST(Commands, AnswersACallThatIsWrongWithItsUsage)
         {"loesche"},
         {"create"},
         {"create", "a", "b"},
-        {"create", "a", "--neu"},
+        {"create", "a", "--new"},
         {"sample", "a", "--documents"},
         {"sample", "a", "--documents", "viele"},
         {"sample", "a", "--documents=0"},
         {"sample", "a", "--seed", "1", "--seed", "2"},
-        {"create", "a", "--ersetzen=ja"},
+        {"create", "a", "--replace=ja"},
         {"query", "a"},
-        {"rights", "a", "--sehen", "1"},
+        {"rights", "a", "--see", "1"},
     };
     for (const auto& words : wrong) {
         const Call call = runCommand(words);
@@ -34,11 +34,11 @@ TEST(Commands, AnswersACallThatIsWrongWithItsUsage)
 TEST_P(Commands, CreatesARegisterThatNeedsNoRepair)
 {
     ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
-    const Call check = runCommand({"check", target_, "--streng"});
+    const Call check = runCommand({"check", target_, "--strict"});
     EXPECT_EQ(check.result, tools::GOOD) << check.out;
     EXPECT_EQ(runCommand({"create", target_}).result, tools::FAILED);
     EXPECT_EQ(runCommand({"query", target_, "DELETE FROM Ini"}).result, tools::GOOD);
-    EXPECT_EQ(runCommand({"create", target_, "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"create", target_, "--replace"}).result, tools::GOOD);
     EXPECT_EQ(rows(target_, "Select Feld5 From Ini Where Feld2 = 'Plot' And Feld3 = 'Printer'").size(), 11U);
 }
 
@@ -93,10 +93,9 @@ TEST_P(Commands, PrintsRowsForPeopleAndForPrograms)
 TEST_P(Commands, SetsAndShowsTheRightsOfAUser)
 {
     ASSERT_EQ(runCommand({"create", target_}).result, tools::GOOD);
-    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--sehen", "1"}).result, tools::FAILED); // Not there yet.
-    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--neu"}).result, tools::GOOD);
-    EXPECT_EQ(runCommand({"rights", target_, "o'neill", "--sehen", "0, 5", "--loeschen", "5=6,0=2"}).result,
-              tools::GOOD);
+    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--see", "1"}).result, tools::FAILED); // Not there yet.
+    EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--new"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"rights", target_, "o'neill", "--see", "0, 5", "--delete", "5=6,0=2"}).result, tools::GOOD);
     std::vector<nlohmann::json> rights =
         rows(target_, "Select Feld1, Feld3, Feld4, Feld5 From Ini Where Feld2 = 'Berechtigung' Order By Feld3");
     const nlohmann::json expected = {{"Feld1", "Feld3", "Feld4", "Feld5"}, {"O'Neill", "0_Status", "1", "2"},
@@ -106,10 +105,9 @@ TEST_P(Commands, SetsAndShowsTheRightsOfAUser)
     EXPECT_EQ(nlohmann::json(rights), expected);
     EXPECT_EQ(runCommand({"rights", target_}).out, runCommand({"rights", target_, "O'NEILL"}).out);
     for (const std::string value : {"", "6", "1;2", "x"})
-        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--sehen", value}).result, tools::WRONG_OPERATED) << value;
+        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--see", value}).result, tools::WRONG_OPERATED) << value;
     for (const std::string value : {"0", "0=7", "6=1", "0=-1"})
-        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--loeschen", value}).result, tools::WRONG_OPERATED)
-            << value;
+        EXPECT_EQ(runCommand({"rights", target_, "O'Neill", "--delete", value}).result, tools::WRONG_OPERATED) << value;
 }
 
 TEST_P(Commands, FindsWhatIsWrongWithARegister)
@@ -136,12 +134,12 @@ TEST_P(Commands, FindsWhatIsWrongWithARegister)
          "Warnung: Ini: Weber, Treeview/Knoten: der Wert wird beim Start ersetzt.", 0},
     };
     for (const auto& testCase : cases) {
-        ASSERT_EQ(runCommand({"sample", target_, "--documents", "500", "--ersetzen"}).result, tools::GOOD);
+        ASSERT_EQ(runCommand({"sample", target_, "--documents", "500", "--replace"}).result, tools::GOOD);
         ASSERT_EQ(runCommand({"query", target_, testCase.statement}).result, tools::GOOD) << testCase.statement;
         const Call check = runCommand({"check", target_});
         EXPECT_EQ(check.result, testCase.result) << testCase.statement;
         EXPECT_NE(check.out.find(testCase.findings), std::string::npos) << check.out;
-        EXPECT_EQ(runCommand({"check", target_, "--streng"}).result, tools::FAILED) << testCase.statement;
+        EXPECT_EQ(runCommand({"check", target_, "--strict"}).result, tools::FAILED) << testCase.statement;
     }
 }
 
@@ -155,7 +153,7 @@ TEST_P(Commands, BuildsMissingIndexesWhenTold)
     EXPECT_NE(
         runCommand({"check", target_}).out.find("Fehler: Es fehlt der Index der Tabelle TIFFTabelle über Dateiname"),
         std::string::npos);
-    EXPECT_EQ(runCommand({"check", target_, "--reparieren"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"check", target_, "--repair"}).result, tools::GOOD);
     EXPECT_EQ(runCommand({"check", target_}).result, tools::GOOD);
     engine->removeTable("TIFFTabelle");
     EXPECT_NE(runCommand({"check", target_}).out.find("Fehler: Die Tabelle TIFFTabelle fehlt."), std::string::npos);

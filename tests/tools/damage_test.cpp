@@ -26,8 +26,8 @@ protected:
     void SetUp() override
     {
         ASSERT_EQ(runCommand({"sample", path(file_), "--documents", "400"}).result, tools::GOOD);
-        whole_ = lies(file_);
-        ASSERT_EQ(runCommand({"check", path(file_), "--streng"}).result, tools::GOOD);
+        whole_ = read(file_);
+        ASSERT_EQ(runCommand({"check", path(file_), "--strict"}).result, tools::GOOD);
     }
 
     // True when check tells a person of it, in German, and ends with 1.

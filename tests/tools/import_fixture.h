@@ -18,7 +18,7 @@ inline void write(const std::filesystem::path& file, std::string_view content)
     std::ofstream(file, std::ios::binary) << content;
 }
 
-inline std::string lies(const std::filesystem::path& file)
+inline std::string read(const std::filesystem::path& file)
 {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
@@ -64,7 +64,7 @@ protected:
         if (!openAccess(path(PROBE)))
             GTEST_SKIP() << "no ODBC driver of Access is here";
 #endif
-        content_ = lies(PROBE);
+        content_ = read(PROBE);
     }
 
     std::string content_;

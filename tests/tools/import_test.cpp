@@ -19,8 +19,8 @@ TEST_F(ImportOfTheSample, LeavesATargetAloneThatItMayNotReplace)
     const auto target = folder_ / "ziel.qv";
     write(target, "wichtig");
     test::expectRefusal({"import", path(PROBE), path(target)}, "gibt es schon", folder_.path());
-    test::expectRefusal({"import", path(PROBE), path(target), "--ersetzen"}, "ist kein Register", folder_.path());
-    EXPECT_EQ(lies(target), "wichtig");
+    test::expectRefusal({"import", path(PROBE), path(target), "--replace"}, "ist kein Register", folder_.path());
+    EXPECT_EQ(read(target), "wichtig");
     test::expectRefusal({"import", path(PROBE), path(folder_ / "fehlt/ziel.qv")}, "lässt sich nicht anlegen",
                         folder_.path());
 }
@@ -29,7 +29,7 @@ TEST_F(ImportOfTheSample, ReplacesARegisterWhenTold)
 {
     const std::string target = path(folder_ / "ziel.qv");
     ASSERT_EQ(runCommand({"create", target}).result, tools::GOOD);
-    ASSERT_EQ(runCommand({"import", path(PROBE), target, "--ersetzen"}).result, tools::GOOD);
+    ASSERT_EQ(runCommand({"import", path(PROBE), target, "--replace"}).result, tools::GOOD);
     const auto truth = nlohmann::json::parse(std::ifstream(SAMPLES / "werk-a.truth.json"));
     for (const auto& [table, should] : truth["tables"].items())
         EXPECT_EQ(rows(target, "Select Count(*) From " + table)[1][0], should["rows"]) << table;

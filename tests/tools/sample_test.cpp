@@ -24,7 +24,7 @@ TEST(SampleRegister, HasExactlyTheWantedNumberOfDocumentsAndNoFault)
         for (const DocumentType& type : DOCUMENT_TYPES)
             sum += count(target, type.table);
         EXPECT_EQ(sum, documents);
-        const Call check = runCommand({"check", target, "--streng"});
+        const Call check = runCommand({"check", target, "--strict"});
         EXPECT_EQ(check.result, tools::GOOD) << check.out;
     }
 }

@@ -1,4 +1,5 @@
 #include "base/date_time.h"
+#include "tools/import/conversion.h"
 #include "tools/import/table_mapping.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ Cell cell(std::string_view text)
 
 TEST(Conversion, KeepsWhatFitsAndNamesWhatDoesNot)
 {
-    const DateTime noon = DateTime::out({1899, 12, 29, 12, 0, 0});
+    const DateTime noon = DateTime::from({1899, 12, 29, 12, 0, 0});
     const struct
     {
         Cell cell;

@@ -26,7 +26,7 @@ protected:
                             {"RevBez", "0"},
                             {"Status", 3},
                             {"Projekt", "P1"},
-                            {"Geaendert", DateTime::out({2026, 11, 2})}});
+                            {"Geaendert", DateTime::from({2026, 11, 2})}});
         program_.tabs.StartTabelleZeigen();
         program_.operations.show = [this](const Parts& parts) {
             if (!contains(parts, Part::FilterPage))
@@ -35,7 +35,7 @@ protected:
             page_.refresh();
         };
         model_.toDocumentPage = [this] { ++leave_; };
-        world_.clock.time = DateTime::out({2026, 11, 22});
+        world_.clock.time = DateTime::from({2026, 11, 22});
         model_.OpenFilterPage();
         page_.resize(939, 600);
         page_.show();

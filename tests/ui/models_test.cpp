@@ -1,6 +1,7 @@
 #include "database/connection.h"
 #include "database/new_database.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 #include "fakes/fake_boxes.h"
 #include "fakes/temp_folder.h"
 #include "ui/controls/grid_model.h"
@@ -70,7 +71,7 @@ TEST(GridModel, AFaultIsToldOnceAndTheNextOperationReadsAgain)
     Connection connection;
     connection.Open(folder / "test.qv");
     Recordset rows;
-    rows.setWholeLimit(1);
+    setWholeLimit(rows, 1);
     rows.Open("Select * From Tafel Order By Wort", connection);
     GridModel model(std::vector<GridColumn>{{"Bild", "Bild"}});
     model.display(&rows, 1);

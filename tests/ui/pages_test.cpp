@@ -28,8 +28,8 @@ protected:
                         {"Dateiname", std::string(name) + ".par"},
                         {"filename", "W:\\" + std::string(name) + ".par"},
                         {"Status", 3},
-                        {"Erstellt", DateTime::out({2010, 1, 25})},
-                        {"Geaendert", DateTime::out({2011, 2, 14})}});
+                        {"Erstellt", DateTime::from({2010, 1, 25})},
+                        {"Geaendert", DateTime::from({2011, 2, 14})}});
     }
 
     QtViewer viewer_{world_.files};

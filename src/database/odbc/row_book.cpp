@@ -13,7 +13,7 @@ template <class Number> void write(std::string& picture, Number number)
     picture.append(bytes, sizeof number);
 }
 
-template <class Number> Number lies(std::string_view& picture)
+template <class Number> Number read(std::string_view& picture)
 {
     Number number;
     assert(picture.size() >= sizeof number);
@@ -46,13 +46,13 @@ Value readCell(std::string_view& picture)
     picture.remove_prefix(1);
     switch (kind) {
     case Whole:
-        return lies<std::int64_t>(picture);
+        return read<std::int64_t>(picture);
     case Number:
-        return lies<double>(picture);
+        return read<double>(picture);
     case Time:
-        return DateTime{lies<std::int64_t>(picture)};
+        return DateTime{read<std::int64_t>(picture)};
     case Text: {
-        const auto length = lies<std::size_t>(picture);
+        const auto length = read<std::size_t>(picture);
         std::string text(picture.substr(0, length));
         picture.remove_prefix(length);
         return text;

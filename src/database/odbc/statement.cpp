@@ -57,7 +57,7 @@ SQLWCHAR* wide(std::u16string& text)
 DateTime fromStamp(const SQL_TIMESTAMP_STRUCT& stamp)
 {
     constexpr SQLUINTEGER halfSecond = 500'000'000;
-    const DateTime time = DateTime::out({stamp.year, stamp.month, stamp.day, stamp.hour, stamp.minute, stamp.second});
+    const DateTime time = DateTime::from({stamp.year, stamp.month, stamp.day, stamp.hour, stamp.minute, stamp.second});
     return time.plusSeconds(stamp.fraction >= halfSecond ? 1 : 0);
 }
 

@@ -54,7 +54,7 @@ void PostgresEngine::setPatience(Patience* patience)
 std::vector<std::string> PostgresEngine::tables()
 {
     const Result result =
-        handle_->lies(fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(visibleTables, "'r', 'p', 'f'")));
+        handle_->read(fmt::format("SELECT c.relname {} ORDER BY 1", fmt::format(visibleTables, "'r', 'p', 'f'")));
     std::vector<std::string> names;
     for (int row = 0; row < PQntuples(result.get()); ++row)
         names.emplace_back(cell(result, row, 0));
@@ -77,7 +77,7 @@ std::optional<TableSchema> PostgresEngine::readSchema(std::string_view name)
                                         "WHERE a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum",
                                         fmt::format(visibleTables, "'r', 'p', 'f', 'v', 'm'"));
     const Value sought = std::string(name);
-    const Result result = handle_->lies(sql, {&sought, 1});
+    const Result result = handle_->read(sql, {&sought, 1});
     if (PQntuples(result.get()) == 0)
         return std::nullopt;
     TableSchema table{std::string(cell(result, 0, 0)), {}, {}};
@@ -97,16 +97,16 @@ std::unique_ptr<RowReader> PostgresEngine::read(const sql::Select& select, WithK
 std::unique_ptr<RowReader> PostgresEngine::readDistinct(const sql::Select& select, const sql::Rendered& rendered,
                                                         std::size_t limit)
 {
-    const auto lies = [&] {
+    const auto read = [&] {
         return std::make_unique<DistinctReader>(*reader(rendered, WithKey::No), select.orderBy, limit);
     };
     try {
-        return lies();
+        return read();
     } catch (const DatabaseFault& fault) { // Nobody has seen a row yet.
         if (!handle_->mayRepeat(fault))
             throw;
     }
-    return lies();
+    return read();
 }
 
 std::unique_ptr<RowReader> PostgresEngine::readRows(std::string_view table, std::span<const std::string> columns,
@@ -126,7 +126,7 @@ std::string PostgresEngine::executionPlan(const sql::Select& select)
 {
     const TableSchema& table = catalog_.tableOf(select.table, name());
     const sql::Rendered rendered = sql::postgresDialect().select(select, table, WithKey::No);
-    const Result result = handle_->lies("EXPLAIN " + rendered.text, rendered.parameter);
+    const Result result = handle_->read("EXPLAIN " + rendered.text, rendered.parameter);
     std::string plan;
     for (int row = 0; row < PQntuples(result.get()); ++row)
         plan += std::string(cell(result, row, 0)) + '\n';
@@ -188,7 +188,7 @@ std::vector<std::vector<IndexColumn>> PostgresEngine::missingIndexes(const Table
     std::vector<std::vector<IndexColumn>> missing;
     for (const auto& index : table.indexes) {
         const Value name = sql::Dialect::identifier(indexName(table, index));
-        const Result result = handle_->lies("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
+        const Result result = handle_->read("SELECT 1 WHERE to_regclass($1) IS NOT NULL", {&name, 1});
         if (PQntuples(result.get()) == 0)
             missing.push_back(index);
     }
@@ -216,7 +216,7 @@ void PostgresEngine::createFunctions()
     if (encoding != "UTF8")
         throw RuntimeError(FAULT_GENERAL, "PostgreSQL",
                            fmt::format("Die PostgreSQL-Datenbank muss die Kodierung UTF8 haben, nicht {}.", encoding));
-    const Result schema = handle_->lies("SELECT current_schema()");
+    const Result schema = handle_->read("SELECT current_schema()");
     handle_->execute(createFunctionsStatement(cell(schema, 0, 0)));
     functionsCreated_ = true;
 }

@@ -60,7 +60,7 @@ template <class Run> Result Handle::repeatable(Run run)
     return run();
 }
 
-Result Handle::lies(const std::string& sql, std::span<const Value> parameter)
+Result Handle::read(const std::string& sql, std::span<const Value> parameter)
 {
     return repeatable([&] {
         link_.send(sql, parameter, transaction_.open() ? TRANSACTION_LOST : "");

@@ -28,7 +28,7 @@ public:
     std::function<void()> connectedDifferently;
 
     // One statement that only reads. When the connection ends before the answer it runs once more on a new one.
-    Result lies(const std::string& sql, std::span<const Value> parameter = {});
+    Result read(const std::string& sql, std::span<const Value> parameter = {});
     // Statements without parameters, one or several. Never repeated.
     Result execute(const std::string& sql);
     Result execute(const std::string& sql, std::span<const Value> parameter);

@@ -29,7 +29,7 @@ template <class T> ExpressionPointer connected(T connection)
 
 } // namespace
 
-ExpressionPointer ConditionParser::lies()
+ExpressionPointer ConditionParser::read()
 {
     return either();
 }
@@ -121,7 +121,7 @@ ExpressionPointer ConditionParser::list(const std::string& column)
     Or values;
     reader_.requireCharacter("(");
     do {
-        values.parts.push_back(compare(column, Comparison::Equal, literals_.lies(Place::List, brackets_)));
+        values.parts.push_back(compare(column, Comparison::Equal, literals_.read(Place::List, brackets_)));
     } while (reader_.takeCharacter(","));
     reader_.requireCharacter(")");
     return connected(std::move(values));
@@ -130,7 +130,7 @@ ExpressionPointer ConditionParser::list(const std::string& column)
 ExpressionPointer ConditionParser::section(const std::string& column)
 {
     And bounds;
-    bounds.parts.push_back(compare(column, Comparison::GreaterEqual, literals_.lies(Place::FirstLimit, brackets_)));
+    bounds.parts.push_back(compare(column, Comparison::GreaterEqual, literals_.read(Place::FirstLimit, brackets_)));
     reader_.requireWord("AND");
     bounds.parts.push_back(compare(column, Comparison::LessEqual, literal()));
     return expression(std::move(bounds));

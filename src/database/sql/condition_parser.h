@@ -17,7 +17,7 @@ public:
         : reader_(reader), literals_(literals), position_(position), wildcards_(wildcards)
     {}
 
-    ExpressionPointer lies();
+    ExpressionPointer read();
     // The tables that stood in front of columns.
     const std::vector<std::string>& tables() const { return tables_; }
 
@@ -31,7 +31,7 @@ private:
     ExpressionPointer list(const std::string& column);
     ExpressionPointer section(const std::string& column);
     ExpressionPointer pattern(const std::string& column, Comparison comparison);
-    Value literal() { return literals_.lies(position_, brackets_); }
+    Value literal() { return literals_.read(position_, brackets_); }
 
     Reader& reader_;
     LiteralReader& literals_;

@@ -60,7 +60,7 @@ std::string swapped(std::string_view date)
 
 } // namespace
 
-Value LiteralReader::lies(Place place, int brackets)
+Value LiteralReader::read(Place place, int brackets)
 {
     const char character = reader_.preview();
     if (character == '\'')

@@ -26,7 +26,7 @@ public:
     LiteralReader(Reader& reader, DateOrder sequence) : reader_(reader), sequence_(sequence) {}
 
     // A text, number or date. `brackets` brackets are open here.
-    Value lies(Place place, int brackets);
+    Value read(Place place, int brackets);
 
 private:
     std::string text(Place place, int brackets);

@@ -17,7 +17,7 @@ class StatementParser
 public:
     explicit StatementParser(std::string_view text) : reader_(text), literals_(reader_, DateOrder::MonthFirst) {}
 
-    Statement lies()
+    Statement read()
     {
         Statement statement = any();
         reader_.requireEnd();
@@ -69,7 +69,7 @@ private:
         for (Assignment& assignment : statement.values) {
             if (&assignment != &statement.values.front())
                 reader_.requireCharacter(",");
-            assignment.value = literals_.lies(Place::InsertedValue, 0);
+            assignment.value = literals_.read(Place::InsertedValue, 0);
         }
         reader_.requireCharacter(")");
         checkTables(statement.table);
@@ -84,7 +84,7 @@ private:
         do {
             std::string name = column();
             reader_.requireCharacter("=");
-            statement.values.push_back({std::move(name), literals_.lies(Place::Assignment, 0)});
+            statement.values.push_back({std::move(name), literals_.read(Place::Assignment, 0)});
         } while (reader_.takeCharacter(","));
         statement.where = where(Place::FilterCondition);
         checkTables(statement.table);
@@ -126,7 +126,7 @@ private:
         if (!reader_.takeWord("WHERE"))
             return nullptr;
         ConditionParser condition(reader_, literals_, position);
-        ExpressionPointer read = condition.lies();
+        ExpressionPointer read = condition.read();
         tables_.insert(tables_.end(), condition.tables().begin(), condition.tables().end());
         return read;
     }
@@ -183,7 +183,7 @@ private:
 
 Statement parseStatement(std::string_view text)
 {
-    return StatementParser(text).lies();
+    return StatementParser(text).read();
 }
 
 ExpressionPointer parseCondition(std::string_view text, DateOrder sequence, Wildcards wildcards)
@@ -193,7 +193,7 @@ ExpressionPointer parseCondition(std::string_view text, DateOrder sequence, Wild
         return nullptr;
     LiteralReader literals(reader, sequence);
     ConditionParser parser(reader, literals, Place::FilterCondition, wildcards);
-    ExpressionPointer condition = parser.lies();
+    ExpressionPointer condition = parser.read();
     reader.requireEnd();
     if (!parser.tables().empty())
         throw RuntimeError(FAULT_SYNTAX, "Datenbank",

@@ -154,8 +154,8 @@ private:
             return section(column, std::max(*number - slack, -greatest), std::min(*number + slack, greatest));
         }
         if (const auto* time = std::get_if<DateTime>(&value)) {
-            static const DateTime first = DateTime::out({100, 1, 1});
-            static const DateTime last = DateTime::out({9999, 12, 31, 23, 59, 59});
+            static const DateTime first = DateTime::from({100, 1, 1});
+            static const DateTime last = DateTime::from({9999, 12, 31, 23, 59, 59});
             return section(column, std::max(time->plusSeconds(-1), first), std::min(time->plusSeconds(1), last));
         }
         return fmt::format("{} = {}", name(column), parameter(value, column.type));

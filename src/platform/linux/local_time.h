@@ -13,7 +13,7 @@ inline DateTime localTime(std::time_t moment)
     localtime_r(&moment, &parts);
     // A leap second counts as the one before it.
     const int second = parts.tm_sec > 59 ? 59 : parts.tm_sec;
-    return DateTime::out({parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, second});
+    return DateTime::from({parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, second});
 }
 
 } // namespace quelvarn

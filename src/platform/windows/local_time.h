@@ -8,7 +8,7 @@ namespace quelvarn {
 
 inline DateTime dateTimeFrom(const SYSTEMTIME& time)
 {
-    return DateTime::out({time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond});
+    return DateTime::from({time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond});
 }
 
 // What the clock on the wall showed at this moment, by the summer time of that day.

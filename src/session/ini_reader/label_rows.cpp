@@ -1,3 +1,5 @@
+#include "session/ini_reader/label_rows.h"
+
 #include "base/collation.h"
 #include "base/text.h"
 #include "platform/boxes.h"

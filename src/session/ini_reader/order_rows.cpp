@@ -1,3 +1,5 @@
+#include "session/ini_reader/order_rows.h"
+
 #include "base/collation.h"
 #include "base/utf8.h"
 #include "session/ini_reader/start_run.h"

@@ -1,3 +1,5 @@
+#include "session/ini_reader/plot_rows.h"
+
 #include "base/collation.h"
 #include "platform/boxes.h"
 #include "platform/files.h"

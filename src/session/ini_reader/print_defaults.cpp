@@ -1,3 +1,5 @@
+#include "session/ini_reader/print_defaults.h"
+
 #include "base/number_format.h"
 #include "session/ini_reader/start_run.h"
 #include "session/paper_sizes.h"
@@ -22,7 +24,7 @@ public:
           defaultValue_(pdf ? run.session.orders.PdfVorgabe : run.session.orders.PlotVorgabe)
     {}
 
-    void lies();
+    void read();
 
 private:
     void adopt(const Recordset& row);
@@ -43,7 +45,7 @@ private:
     bool writes_ = true;
 };
 
-void DefaultsReader::lies()
+void DefaultsReader::read()
 {
     defaultValue_ = {};
     Recordset rows = run_.ini.rows(run_.session.user.Anwender, group_);
@@ -177,12 +179,12 @@ DefaultPrinter DefaultsReader::printers()
 
 void readPlotDefaults(StartRun& run)
 {
-    DefaultsReader(run, false).lies();
+    DefaultsReader(run, false).read();
 }
 
 void readPdfDefaults(StartRun& run)
 {
-    DefaultsReader(run, true).lies();
+    DefaultsReader(run, true).read();
 }
 
 } // namespace quelvarn

@@ -1,3 +1,5 @@
+#include "session/ini_reader/rights_rows.h"
+
 #include "base/collation.h"
 #include "base/text.h"
 #include "platform/boxes.h"
@@ -42,7 +44,7 @@ std::string welcome(std::string_view user)
     });
 }
 
-void lies(SessionState& session, Recordset& rows)
+void read(SessionState& session, Recordset& rows)
 {
     for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
         const std::string key = toLower(textOrEmpty(rows, "Feld3"));
@@ -78,7 +80,7 @@ void readRights(StartRun& run)
     if (run.newUser)
         add(run);
     else
-        lies(run.session, rows);
+        read(run.session, rows);
 }
 
 void applyRights(StartRun& run)

@@ -1,3 +1,5 @@
+#include "session/ini_reader/saved_filter_rows.h"
+
 #include "base/collation.h"
 #include "database/sql/conditions.h"
 #include "session/ini_reader/start_run.h"

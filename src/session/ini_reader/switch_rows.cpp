@@ -1,3 +1,5 @@
+#include "session/ini_reader/switch_rows.h"
+
 #include "base/collation.h"
 #include "base/number_format.h"
 #include "base/runtime_error.h"
@@ -46,7 +48,7 @@ bool readOption(StartRun& run, std::string_view key, std::string_view check1, st
 bool openUseRegistry(SessionState& session)
 {
     try {
-        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.connection, CursorType::Dynamisch,
+        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.connection, CursorType::Dynamic,
                                     LockType::Optimistic);
         return true;
     } catch (const DatabaseFault& fault) {

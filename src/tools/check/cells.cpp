@@ -1,5 +1,8 @@
+#include "tools/check/cells.h"
+
 #include "base/utf8.h"
-#include "tools/check/checks.h"
+#include "tools/check/findings.h"
+#include "tools/console.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,8 +1,11 @@
+#include "tools/check/documents.h"
+
 #include "base/collation.h"
 #include "database/document_types.h"
 #include "platform/files.h"
 #include "platform/system_ports.h"
-#include "tools/check/checks.h"
+#include "tools/check/findings.h"
+#include "tools/console.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -54,7 +57,7 @@ void findDuplicates(Engine& engine, const DocumentType& type, std::vector<std::u
     const auto rows = findRows(engine, type.table, {"DokuBez", "RevBez"});
     std::unordered_set<std::uint64_t> seen;
     while (rows->next()) {
-        const auto number = DocumentKey::out(rows->text(0), rows->text(1));
+        const auto number = DocumentKey::from(rows->text(0), rows->text(1));
         if (!std::ranges::binary_search(multiple, number))
             continue;
         if (!seen.insert(number).second)
@@ -75,11 +78,11 @@ void checkTable(Engine& engine, const DocumentType& type, Findings& findings, Pr
         if (rows->isNull(0) || rows->isNull(1) || rows->text(0).empty())
             fault.withoutKey.remember(name(*rows));
         else
-            documents.push_back(DocumentKey::out(rows->text(0), rows->text(1)));
+            documents.push_back(DocumentKey::from(rows->text(0), rows->text(1)));
         if (rows->isNull(2) || rows->text(2).empty())
             fault.withoutFile.remember(name(*rows));
         else
-            key.files.push_back(DocumentKey::out(rows->text(2)));
+            key.files.push_back(DocumentKey::from(rows->text(2)));
         const auto status = rows->isNull(3) ? -1 : rows->integer(3);
         if (status < 0 || status >= STATUS_COUNT)
             fault.wrongStatus.remember(name(*rows));
@@ -104,12 +107,12 @@ std::string fileNames(Engine& engine, const DocumentType& type)
 
 } // namespace
 
-std::uint64_t DocumentKey::out(std::string_view text)
+std::uint64_t DocumentKey::from(std::string_view text)
 {
     return std::hash<std::string>{}(sortKey(text));
 }
 
-std::uint64_t DocumentKey::out(std::string_view documentName, std::string_view revisionName)
+std::uint64_t DocumentKey::from(std::string_view documentName, std::string_view revisionName)
 {
     return std::hash<std::string>{}(sortKey(documentName) + '\0' + sortKey(revisionName));
 }

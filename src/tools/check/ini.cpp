@@ -1,8 +1,10 @@
+#include "tools/check/ini.h"
+
 #include "base/collation.h"
 #include "base/number_format.h"
 #include "database/base_rows.h"
 #include "database/document_types.h"
-#include "tools/check/checks.h"
+#include "tools/check/findings.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,5 +1,9 @@
+#include "tools/check/links.h"
+
 #include "database/document_types.h"
-#include "tools/check/checks.h"
+#include "tools/check/documents.h"
+#include "tools/check/findings.h"
+#include "tools/console.h"
 
 #include <fmt/format.h>
 
@@ -35,7 +39,7 @@ void checkProperties(Engine& engine, const DocumentType& type, Findings& finding
     std::uint64_t count = 0;
     while (rows && rows->next()) {
         display.notify(type.tableUserDef, ++count);
-        if (!DocumentKey::contains(documents, DocumentKey::out(rows->text(0), rows->text(1))))
+        if (!DocumentKey::contains(documents, DocumentKey::from(rows->text(0), rows->text(1))))
             orphaned.remember(fmt::format("{} ({})", rows->text(0), rows->text(1)));
     }
     if (orphaned.count() > 0)
@@ -52,7 +56,7 @@ void checkLinks(Engine& engine, Findings& findings, ProgressLine& display, const
         std::uint64_t count = 0;
         while (rows && rows->next()) {
             display.notify(reference.table, ++count);
-            const bool there = !rows->isNull(0) && DocumentKey::contains(key.files, DocumentKey::out(rows->text(0)));
+            const bool there = !rows->isNull(0) && DocumentKey::contains(key.files, DocumentKey::from(rows->text(0)));
             if (!there)
                 orphaned.remember(rows->isNull(0) ? "Null" : rows->text(0));
         }

@@ -1,5 +1,7 @@
+#include "tools/check/pages.h"
+
 #include "base/number_format.h"
-#include "tools/check/checks.h"
+#include "tools/check/findings.h"
 
 #include <fmt/format.h>
 #include <map>

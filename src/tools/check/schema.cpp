@@ -1,5 +1,7 @@
+#include "tools/check/schema.h"
+
 #include "base/collation.h"
-#include "tools/check/checks.h"
+#include "tools/check/findings.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -92,7 +94,7 @@ void checkSchema(Engine& engine, Indexes indexes, Findings& findings)
             if (indexes == Indexes::Build)
                 findings.row(fmt::format("Gebaut: {}", name));
             else
-                findings.fault(fmt::format("Es fehlt der {}. Mit --reparieren wird er gebaut.", name));
+                findings.fault(fmt::format("Es fehlt der {}. Mit --repair wird er gebaut.", name));
         }
     }
 }

@@ -27,7 +27,7 @@ public:
 
     // Walks all rows: `table` before the rows of each table, `row` with cells in the order of its columns,
     // which hold during the call.
-    void lies(const std::function<void(const SourceTable&)>& table,
+    void read(const std::function<void(const SourceTable&)>& table,
               const std::function<void(std::span<const Cell>)>& row);
 
 private:

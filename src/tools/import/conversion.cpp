@@ -1,3 +1,5 @@
+#include "tools/import/conversion.h"
+
 #include "base/number_format.h"
 #include "base/text.h"
 #include "tools/import/table_mapping.h"

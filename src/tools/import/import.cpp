@@ -3,6 +3,7 @@
 #include "base/number_format.h"
 #include "tools/commands.h"
 #include "tools/import/access_source.h"
+#include "tools/import/conversion.h"
 #include "tools/import/table_mapping.h"
 #include "tools/new_register.h"
 
@@ -16,16 +17,16 @@ namespace quelvarn::tools {
 
 namespace {
 
-constexpr std::array OPTION{Option{"--ersetzen"}};
+constexpr std::array OPTION{Option{"--replace"}};
 
-constexpr std::string_view HELP = R"(Aufruf: qvadmin import QUELLE.mdb ZIEL [--ersetzen]
+constexpr std::string_view HELP = R"(Aufruf: qvadmin import QUELLE.mdb ZIEL [--replace]
 
 Übernimmt ein Register aus einer Access-Datei (Access 97 bis 2003) in SQLite oder PostgreSQL. Die Quelle wird nur
 gelesen. Das Ziel entsteht ganz oder gar nicht.
 
   QUELLE.mdb   die Access-Datei
   ZIEL         Pfad der neuen Datenbank oder Adresse postgresql://... einer Datenbank ohne Register
-  --ersetzen   Ein vorhandenes Register an dieser Stelle wird ersetzt.
+  --replace    Ein vorhandenes Register an dieser Stelle wird ersetzt.
 
 Zusätzliche Spalten mit Text, Zahl oder Datum bleiben erhalten. Am Ende steht, was nicht übernommen wurde.
 )";
@@ -129,14 +130,14 @@ std::vector<std::string> tableNames()
 int importFile(const Arguments& arguments, Console& console)
 {
     catchCancel();
-    const auto existing = arguments.set("--ersetzen") ? Existing::Replace : Existing::Refuse;
+    const auto existing = arguments.set("--replace") ? Existing::Replace : Existing::Refuse;
     AccessSource source(pathFromUtf8(arguments.position(0)), tableNames());
     if (const auto objection = findObjection(source.catalog()))
         throw toolFault(fmt::format("'{}' ist kein Register dieses Programms: {}.", arguments.position(0), *objection));
     NewRegister target(arguments.position(1), existing, console);
     Report report;
     Takeover takeover(target, report);
-    source.lies([&](const SourceTable& table) { takeover.table(table); },
+    source.read([&](const SourceTable& table) { takeover.table(table); },
                 [&](std::span<const Cell> row) { takeover.row(row); });
     for (const TableSchema& table : registerSchema()) {
         if (std::ranges::any_of(source.catalog().tables, [&](const auto& t) { return equalText(t.name, table.name); }))

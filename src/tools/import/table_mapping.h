@@ -30,7 +30,4 @@ TableMapping mapTable(const SourceTable& source, const TableSchema& defaultValue
 // Nothing when the tables are those of a register; otherwise the German sentence that says why not.
 std::optional<std::string> findObjection(const Catalog& catalog);
 
-// The cell as a value of this type. Where it does not fit, Null, and `reason` says why.
-Value asValue(const Cell& cell, FieldType type, std::string_view& reason);
-
 } // namespace quelvarn::tools

@@ -1,5 +1,6 @@
 #include "ui/document_page/general_page.h"
 
+#include "register/general_page.h"
 #include "register/info_pages.h"
 #include "ui/controls/elided_label.h"
 #include "ui/controls/status_marks.h"

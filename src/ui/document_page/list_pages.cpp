@@ -52,7 +52,7 @@ ListPage* newRevisionPage(InfoPanel& model)
                                        std::pair("OpRevErstBearb(1)", "Bearbeitet")};
     for (std::size_t i = 0; i < VIEWER_PLACES.size(); ++i) {
         auto* button = newField<QRadioButton>(VIEWER_PLACES[i].first, QLatin1String(VIEWER_PLACES[i].second));
-        const auto view = static_cast<revisionFilter>(i);
+        const auto view = static_cast<RevisionFilter>(i);
         QObject::connect(button, &QRadioButton::clicked, button,
                          guardedSlot([&model, view] { model.details().setRevisionFilter(view); }));
         page->sequence([button, view, &model] { showSet(*button, model.details().OpRevErstBearb() == view); });

@@ -184,7 +184,7 @@ QWidget* PropertyTab::newCalendar()
 
 void PropertyTab::dateChosen(const QDate& day)
 {
-    model_.properties().dateChosen(DateTime::out({day.year(), day.month(), day.day()}));
+    model_.properties().dateChosen(DateTime::from({day.year(), day.month(), day.day()}));
     if (dateAdopted)
         dateAdopted();
 }

@@ -2,6 +2,7 @@
 #include "database/engine_transaction.h"
 #include "database/linux/postgres_outage.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 
 #include <gmock/gmock.h>
 
@@ -72,7 +73,7 @@ protected:
         return cluster_->ask(address_, "SELECT \"Wort\" FROM \"Tafel\" WHERE \"Nr\" > 3 ORDER BY \"Nr\", qv_id");
     }
     void insert(const std::string& number) { execute("Insert Into Tafel (Nr, Wort) Values (" + number + ", 'neu')"); }
-    std::string all() { return lies("Select Wort From Tafel Order By Nr").at(0); }
+    std::string all() { return read("Select Wort From Tafel Order By Nr").at(0); }
 
     PostgresCluster* cluster_ = nullptr;
 };
@@ -91,17 +92,17 @@ TEST_P(PostgresOutage, TheNextOperationConnectsAgain)
         SCOPED_TRACE(name);
         Connection connection(engine_);
         Recordset rows;
-        rows.setWholeLimit(1);
+        setWholeLimit(rows, 1);
         rows.Open("Select * From Tafel Where Nr < 4 Order By Nr", connection);
-        ASSERT_FALSE(rows.columnLoaded("Wort"));
+        ASSERT_FALSE(columnLoaded(rows, "Wort"));
 
         outage();
         EXPECT_EQ(rows.cell(1, "Wort"), Value("zwei")); // By the row's key.
         outage();
-        EXPECT_TRUE(rows.loadColumn("Wort"));
+        EXPECT_TRUE(loadColumn(rows, "Wort"));
         EXPECT_EQ(rows.cell(2, "Wort"), Value("drei"));
         outage();
-        EXPECT_EQ(lies("Select Distinct Wort From Tafel Where Nr < 4 Order By Wort").size(), 3U);
+        EXPECT_EQ(read("Select Distinct Wort From Tafel Where Nr < 4 Order By Wort").size(), 3U);
         outage();
         insert(std::to_string(++number)); // Known dead before anything was sent.
         EXPECT_EQ(stored(), expected += "neu\n");
@@ -121,15 +122,15 @@ TEST_P(PostgresOutage, WhileTheServerIsAwayEveryOperationFailsAndNothingIsLost)
 {
     Connection connection(engine_);
     Recordset rows;
-    rows.setWholeLimit(1);
-    rows.Open("Select * From Tafel Order By Nr", connection, CursorType::Dynamisch, LockType::Optimistic);
+    setWholeLimit(rows, 1);
+    rows.Open("Select * From Tafel Order By Nr", connection, CursorType::Dynamic, LockType::Optimistic);
     cluster_->stop();
     for (int round = 0; round < 2; ++round) {
         const std::vector<std::pair<const char*, std::function<void()>>> operations{
-            {"read", [&] { lies("Select Nr From Tafel"); }},
-            {"distinct", [&] { lies("Select Distinct Nr From Tafel"); }},
+            {"read", [&] { read("Select Nr From Tafel"); }},
+            {"distinct", [&] { read("Select Distinct Nr From Tafel"); }},
             {"cell", [&] { rows.cell(0, "Wort"); }},
-            {"column", [&] { rows.loadColumn("Wort"); }},
+            {"column", [&] { loadColumn(rows, "Wort"); }},
             {"row", [&] { rows.MoveFirst(), rows.setField("Wort", "anders"), rows.Update(); }},
             {"write", [&] { insert("4"); }},
             {"begin", [&] { const EngineTransaction together(*engine_); }},
@@ -154,9 +155,9 @@ TEST_P(PostgresOutage, WhileTheServerIsAwayEveryOperationFailsAndNothingIsLost)
     }
     cluster_->start();
     EXPECT_EQ(stored(), "");
-    EXPECT_TRUE(rows.loadColumn("Wort"));
+    EXPECT_TRUE(loadColumn(rows, "Wort"));
     EXPECT_EQ(rows.Text("Wort"), "eins");
-    EXPECT_EQ(lies("Select Wort From Tafel Order By Nr"), (std::vector<std::string>{"eins", "zwei", "drei"}));
+    EXPECT_EQ(read("Select Wort From Tafel Order By Nr"), (std::vector<std::string>{"eins", "zwei", "drei"}));
 }
 
 TEST_P(PostgresOutage, AReadThatIsBrokenOffRunsOnceMoreAndAWriteDoesNot)
@@ -167,7 +168,7 @@ TEST_P(PostgresOutage, AReadThatIsBrokenOffRunsOnceMoreAndAWriteDoesNot)
     for (const char* text : {"Select Wort From Langsam", "Select Distinct Wort From Langsam"}) {
         engine_->findTable("Langsam");
         const auto helper = terminateDuring("Langsam");
-        EXPECT_THAT(lies(text), ElementsAre("eins"));
+        EXPECT_THAT(read(text), ElementsAre("eins"));
     }
 
     cluster_->ask(address_, "CREATE FUNCTION langsam() RETURNS trigger LANGUAGE plpgsql AS "
@@ -209,7 +210,7 @@ TEST_P(PostgresOutage, ATransactionIsOverWithItsConnection)
                 }
                 EXPECT_TRUE(faultOf([&] { inner.commit(); }));
             }
-            EXPECT_TRUE(faultOf([&] { lies("Select Nr From Tafel"); }));
+            EXPECT_TRUE(faultOf([&] { read("Select Nr From Tafel"); }));
             EXPECT_TRUE(faultOf([&] { const EngineTransaction next(*engine_); }));
             EXPECT_TRUE(faultOf([&] { outer.commit(); }));
         }
@@ -253,13 +254,13 @@ TEST_P(PostgresOutage, AReaderHalfwayFailsAndNeverEndsEarly)
 
     // Another statement is not troubled by what befell the reader.
     const auto pushed = halfway();
-    EXPECT_EQ(lies("Select Wort From Tafel Where Nr = 1").at(0), "eins");
+    EXPECT_EQ(read("Select Wort From Tafel Where Nr = 1").at(0), "eins");
     EXPECT_TRUE(faultOf([&] { rows(*pushed); }));
     EXPECT_TRUE(faultOf([&] { pushed->next(); }));
 
     const auto left = halfway();
     halfway().reset();
-    EXPECT_EQ(lies("Select Wort From Tafel Where Nr = 1").at(0), "eins");
+    EXPECT_EQ(read("Select Wort From Tafel Where Nr = 1").at(0), "eins");
 }
 
 TEST_P(PostgresOutage, ABulkInsertFailsWhenItsServerGoesAway)
@@ -292,7 +293,7 @@ TEST_P(PostgresOutage, WhoeverWaitsForAHungServerMayGiveUp)
         std::function<void()> before, operation;
     };
     const std::vector<Case> cases{
-        {"read", {}, [&] { lies("Select Nr From Tafel"); }},
+        {"read", {}, [&] { read("Select Nr From Tafel"); }},
         {"write", {}, [&] { insert("4"); }},
         {"begin", {}, [&] { engine_->begin(); }},
         {"commit", [&] { together.emplace(*engine_), insert("4"); }, [&] { together->commit(); }},
@@ -303,13 +304,13 @@ TEST_P(PostgresOutage, WhoeverWaitsForAHungServerMayGiveUp)
              for (int i = 0; i < 2000; ++i) // More than the sockets hold.
                  writer->row(row);
          }},
-        {"connect", [&] { terminate(); }, [&] { lies("Select Nr From Tafel"); }},
+        {"connect", [&] { terminate(); }, [&] { read("Select Nr From Tafel"); }},
         {"open", {}, [&] { openPostgres(address_, &patience); }},
     };
     engine_->setPatience(&patience);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        std::ignore = lies("Select Nr From Tafel");
+        std::ignore = read("Select Nr From Tafel");
         if (c.before)
             c.before();
         patience.asked = patience.ended = 0;
@@ -326,7 +327,7 @@ TEST_P(PostgresOutage, WhoeverWaitsForAHungServerMayGiveUp)
         EXPECT_LT(seconds, 3);
         EXPECT_GE(patience.asked, 3);
         EXPECT_GE(patience.ended, 1);
-        EXPECT_EQ(lies("Select Wort From Tafel Where Nr = 1").at(0), "eins");
+        EXPECT_EQ(read("Select Wort From Tafel Where Nr = 1").at(0), "eins");
     }
     std::this_thread::sleep_for(200ms);
     // What was given up may have been written, but never twice.
@@ -350,7 +351,7 @@ TEST_P(PostgresOutage, AServerThatNeverAnswersIsLeftAfterItsTime)
     EXPECT_LT(seconds, 1);
 
     engine_ = openPostgres(addressWith("connect_timeout=1"));
-    EXPECT_EQ(lies("Select Nr From Tafel").size(), 3U);
+    EXPECT_EQ(read("Select Nr From Tafel").size(), 3U);
     cluster_->server()->pause();
     seconds = secondsOf([&] { fault = faultOf([&] { insert("4"); }); });
     cluster_->server()->resume();
@@ -364,7 +365,7 @@ TEST_P(PostgresOutage, LongWorkIsNotTakenForAServerThatHangs)
 {
     engine_ = openPostgres(addressWith("connect_timeout=1"));
     cluster_->ask(address_, "CREATE VIEW \"Langsam\" AS SELECT pg_sleep(2.5)::text AS \"Wort\"");
-    EXPECT_EQ(lies("Select Wort From Langsam").size(), 1U);
+    EXPECT_EQ(read("Select Wort From Langsam").size(), 1U);
 }
 
 TEST_P(PostgresOutage, NoStatementRunsWhileTheAnswerToAnotherIsWaitedFor)
@@ -374,13 +375,13 @@ TEST_P(PostgresOutage, NoStatementRunsWhileTheAnswerToAnotherIsWaitedFor)
     int refused = 0;
     patience.meanwhile = [&] {
         try {
-            lies("Select Nr From Tafel");
+            read("Select Nr From Tafel");
         } catch (const RuntimeError&) {
             ++refused;
         }
     };
     engine_->setPatience(&patience);
-    EXPECT_THAT(lies("Select Wort From Langsam"), ElementsAre("fertig"));
+    EXPECT_THAT(read("Select Wort From Langsam"), ElementsAre("fertig"));
     EXPECT_GE(refused, 3);
     EXPECT_LE(refused, patience.asked);
     EXPECT_EQ(patience.ended, 1);

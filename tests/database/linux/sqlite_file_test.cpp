@@ -4,6 +4,7 @@
 #include "database/faults.h"
 #include "database/new_database.h"
 #include "database/recordset.h"
+#include "database/recordset_columns.h"
 #include "fakes/temp_folder.h"
 
 #include <fcntl.h>
@@ -85,7 +86,7 @@ protected:
 TEST_F(SqliteFile, AShareThatGoesAndComesBackIsOpenedAgainByTheNextStatement)
 {
     Recordset open;
-    open.setWholeLimit(1); // Columns are read later.
+    setWholeLimit(open, 1); // Columns are read later.
     open.Open("Select * From Tafel Order By Wort", connection_);
     fs::rename(share_, folder_ / "weg");
     breakHandles();
@@ -102,7 +103,7 @@ TEST_F(SqliteFile, AShareThatGoesAndComesBackIsOpenedAgainByTheNextStatement)
     EXPECT_EQ(open.cell(3, "Bild"), Value("b")) << "its rows are known by their keys";
     setWord();
     EXPECT_EQ(word(), "neu");
-    EXPECT_TRUE(open.loadColumn("Bild"));
+    EXPECT_TRUE(loadColumn(open, "Bild"));
 }
 
 TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)

@@ -2,7 +2,6 @@
 #include "frame/main_window.h"
 #include "frame/start_page.h"
 #include "session/database_watch.h"
-#include "session/program.h"
 #include "session/register_fixture.h"
 
 #include <fstream>

@@ -1,7 +1,8 @@
 #include "fakes/fake_ports.h"
 #include "platform/windows/running_programs.h"
 #include "platform/windows/wide_text.h"
-#include "session/program.h"
+#include "session/program_caption.h"
+#include "session/sibling_programs.h"
 
 #include <algorithm>
 #include <chrono>

@@ -72,7 +72,7 @@ TEST_P(DamagedSource, KeepsTheOldRegisterWhenReplacingItFails)
     const auto cut = folder_ / "quelle.mdb";
     std::filesystem::copy_file(PROBE, cut);
     std::filesystem::resize_file(cut, 1930 * SIDE); // Only pages of the last tables are missing.
-    EXPECT_EQ(runCommand({"import", path(cut), target_, "--ersetzen"}).result, tools::FAILED);
+    EXPECT_EQ(runCommand({"import", path(cut), target_, "--replace"}).result, tools::FAILED);
     EXPECT_EQ(runCommand({"query", target_, "Select * From PartTabelle Order By DokuBez, RevBez"}).out, before);
     EXPECT_EQ(runCommand({"check", target_}).result, tools::GOOD);
 }

@@ -60,7 +60,7 @@ protected:
     // A program that is killed while it writes: half of it stands in the file, the way back in the journal.
     void letAWriterBreakDown() const
     {
-        const std::string before = lies(file_);
+        const std::string before = read(file_);
         inAProcessOfItsOwn([&] {
             sqlite3* database = nullptr;
             sqlite3_open(file_.c_str(), &database);
@@ -70,7 +70,7 @@ protected:
             raise(SIGKILL);
         });
         ASSERT_GT(std::filesystem::file_size(beside("-journal")), 1000U);
-        ASSERT_NE(lies(file_), before);
+        ASSERT_NE(read(file_), before);
     }
 
     TempFolder folder_;
@@ -83,7 +83,7 @@ TEST_F(Replacing, LosesNothingOfARegisterWhoseWriterBrokeDownWhereverItIsKilled)
     letAWriterBreakDown();
     const int signal = inAProcessOfItsOwn([&] {
         killedAtRename = true;
-        runCommand({"create", target(), "--ersetzen"});
+        runCommand({"create", target(), "--replace"});
     });
     ASSERT_EQ(signal, SIGKILL);
     EXPECT_EQ(entries(folder_.path()), 2U) << "what was begun is still there";
@@ -91,16 +91,16 @@ TEST_F(Replacing, LosesNothingOfARegisterWhoseWriterBrokeDownWhereverItIsKilled)
     EXPECT_EQ(runCommand({"check", target()}).result, tools::GOOD);
 
     letAWriterBreakDown();
-    ASSERT_EQ(runCommand({"create", target(), "--ersetzen"}).result, tools::GOOD);
+    ASSERT_EQ(runCommand({"create", target(), "--replace"}).result, tools::GOOD);
     EXPECT_EQ(entries(folder_.path()), 1U) << "neither the journal nor the draft of the killed run is left";
-    EXPECT_EQ(runCommand({"check", target(), "--streng"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"check", target(), "--strict"}).result, tools::GOOD);
 }
 
 TEST_F(Replacing, LeavesTheWayBackToARegisterThatIsNotReplacedAfterAll)
 {
     letAWriterBreakDown();
-    write(folder_ / "quelle.mdb", lies(PROBE).substr(0, 1930 * 4096)); // Only pages of the last tables are missing.
-    ASSERT_EQ(runCommand({"import", path(folder_ / "quelle.mdb"), target(), "--ersetzen"}).result, tools::FAILED);
+    write(folder_ / "quelle.mdb", read(PROBE).substr(0, 1930 * 4096)); // Only pages of the last tables are missing.
+    ASSERT_EQ(runCommand({"import", path(folder_ / "quelle.mdb"), target(), "--replace"}).result, tools::FAILED);
     EXPECT_EQ(documents(), documents_);
 }
 
@@ -111,7 +111,7 @@ TEST_F(Replacing, FollowsALinkToTheRegisterBehindIt)
     std::filesystem::create_symlink("../zweiter.qv", link);
     std::filesystem::create_symlink("register.qv", folder_ / "zweiter.qv");
     letAWriterBreakDown();
-    ASSERT_EQ(runCommand({"create", path(link), "--ersetzen"}).result, tools::GOOD);
+    ASSERT_EQ(runCommand({"create", path(link), "--replace"}).result, tools::GOOD);
     EXPECT_TRUE(std::filesystem::is_symlink(link));
     EXPECT_EQ(runCommand({"query", target(), "Select Count(*) From PartTabelle"}).out, "Anzahl\n0\n");
     std::filesystem::remove(file_);
@@ -137,11 +137,11 @@ TEST_F(Replacing, RemovesWhatKilledRunsLeftAndNothingElse)
     const auto writer = openSqlite(beside(elsewhere), true);
     writer->begin();
     writer->createTable({"Tafel", {{"Wort", FieldType::Text}}, {}});
-    ASSERT_EQ(runCommand({"create", target(), "--ersetzen"}).result, tools::GOOD);
+    ASSERT_EQ(runCommand({"create", target(), "--replace"}).result, tools::GOOD);
     for (const std::string& name : left)
         EXPECT_FALSE(std::filesystem::exists(beside(name))) << name;
     for (const std::string& name : others)
-        EXPECT_EQ(lies(beside(name)), "fremd") << name;
+        EXPECT_EQ(read(beside(name)), "fremd") << name;
     writer->commit();
     EXPECT_EQ(writer->tables().size(), 1U);
 }
@@ -171,8 +171,8 @@ TEST_F(Replacing, WaitsForOthersAndKeepsThemOut)
     }
     write(folder_ / "unsinn.qv", std::string("SQLite format 3\0", 16) + std::string(5000, 'x'));
     EXPECT_EQ(kindOf(folder_ / "unsinn.qv"), FaultKind::Damaged);
-    EXPECT_EQ(runCommand({"create", path(folder_ / "unsinn.qv"), "--ersetzen"}).result, tools::GOOD);
-    EXPECT_EQ(runCommand({"check", path(folder_ / "unsinn.qv"), "--streng"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"create", path(folder_ / "unsinn.qv"), "--replace"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"check", path(folder_ / "unsinn.qv"), "--strict"}).result, tools::GOOD);
 }
 
 } // namespace

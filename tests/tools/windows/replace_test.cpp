@@ -15,12 +15,12 @@ TEST(Replace, LeavesARegisterAloneThatAProgramHasOpen)
     ASSERT_EQ(runCommand({"sample", target, "--documents", "20"}).result, tools::GOOD);
     const std::string before = runCommand({"query", target, "Select * From PartTabelle"}).out;
     auto open = openSqlite(folder / "Büro Süd.qv", false);
-    const Call attempt = runCommand({"create", target, "--ersetzen"});
+    const Call attempt = runCommand({"create", target, "--replace"});
     EXPECT_EQ(attempt.result, tools::FAILED);
     EXPECT_NE(attempt.log.find("Büro Süd.qv' lässt sich nicht ersetzen"), std::string::npos) << attempt.log;
     EXPECT_EQ(runCommand({"query", target, "Select * From PartTabelle"}).out, before);
     open.reset();
-    EXPECT_EQ(runCommand({"create", target, "--ersetzen"}).result, tools::GOOD);
+    EXPECT_EQ(runCommand({"create", target, "--replace"}).result, tools::GOOD);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 

@@ -248,7 +248,7 @@ public:
         : mdb_(mdb), table_(table), sender_(sender), cells_(mdb), fields_(table.num_cols)
     {}
 
-    void lies()
+    void read()
     {
         checkPages(mdb_, table_);
         mdb_rewind_table(&table_);
@@ -374,7 +374,7 @@ void readAccessFile(const std::filesystem::path& file, std::span<const std::stri
         packet.clear();
         packet.number32(static_cast<std::uint32_t>(i));
         sender.send(PacketKind::Table, packet.bytes());
-        TableReader(*mdb, *tables[i], sender).lies();
+        TableReader(*mdb, *tables[i], sender).read();
     }
 }
 

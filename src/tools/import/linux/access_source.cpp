@@ -21,7 +21,7 @@ AccessSource::AccessSource(const std::filesystem::path& file, std::span<const st
 
 AccessSource::~AccessSource() = default;
 
-void AccessSource::lies(const std::function<void(const SourceTable&)>& table,
+void AccessSource::read(const std::function<void(const SourceTable&)>& table,
                         const std::function<void(std::span<const Cell>)>& row)
 {
     std::vector<Cell> cells;

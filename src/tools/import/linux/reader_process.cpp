@@ -121,20 +121,20 @@ void ReaderProcess::end()
 Packet ReaderProcess::next()
 {
     char heading[5];
-    lies(heading, sizeof heading);
+    read(heading, sizeof heading);
     std::uint32_t length = 0;
     std::memcpy(&length, heading, sizeof length);
     if (length > PACKET_LIMIT)
         failed();
     packet_.resize(length);
-    lies(packet_.data(), length);
+    read(packet_.data(), length);
     const auto kind = static_cast<PacketKind>(heading[4]);
     if (kind == PacketKind::Fault)
         throw toolFault(packet_);
     return {kind, packet_};
 }
 
-void ReaderProcess::lies(char* target, std::size_t length)
+void ReaderProcess::read(char* target, std::size_t length)
 {
     while (length > 0) {
         if (read_ == filled_)
@@ -160,7 +160,7 @@ void ReaderProcess::fill()
         pollfd wait{pipe_, POLLIN, 0};
         if (poll(&wait, 1, static_cast<int>(std::min(rest, LOOK_FOR_CANCEL).count())) <= 0)
             continue;
-        const ssize_t count = read(pipe_, buffer_.data(), buffer_.size());
+        const ssize_t count = ::read(pipe_, buffer_.data(), buffer_.size());
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)

@@ -45,7 +45,7 @@ public:
     Packet next();
 
 private:
-    void lies(char* target, std::size_t length);
+    void read(char* target, std::size_t length);
     void fill();
     [[noreturn]] void failed();
     void end();

@@ -1,7 +1,8 @@
+#include "ui/document_page/panels/order_panel.h"
+
 #include "ui/controls/grid.h"
 #include "ui/controls/strip.h"
 #include "ui/document_page/panels/panel_parts.h"
-#include "ui/document_page/panels/panels.h"
 #include "ui/text.h"
 
 #include <QCheckBox>
