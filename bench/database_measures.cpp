@@ -99,7 +99,7 @@ void measureRowChange(Measurements& layoutRow, Recordset& rs)
     std::size_t length = 0;
     layoutRow.limit("row change: move and read all fields", 5, {[&] {
                         position = (position + 314'159) % rs.RecordCount();
-                        rs.setAbsolutePosition(position);
+                        rs.setPosition(position);
                         for (const ColumnInfo& field : rs.fields())
                             length += rs.Text(field.name).size();
                     }});

@@ -109,7 +109,7 @@ void measureKeyPress(Measurements& layoutRow, Connection& connection, BareSqlite
         rs.Find(criterion);
         layoutRow.limit(name, 16, {search(criterion)});
     }
-    require(rs.Eof(), "what is not there was found");
+    require(rs.eof(), "what is not there was found");
     layoutRow.compare("key press, filename, anywhere, not there", std::nullopt, {search("filename LIKE '%9-9-9%'")},
                       "SELECT ... LIKE",
                       {[&] {

@@ -90,7 +90,7 @@ public:
             session.pages.ActiveQuelvarn = true;
             writeStartPage(session);
             save(session, {.search = "geheim", .name = "geheim", .value = "geheim", .DokuBez = "Geheim"});
-            connection_.Execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
+            connection_.execute("UPDATE Ini SET Feld4 = '1' WHERE Feld2 = 'Berechtigung'");
         }
         rememberRows();
     }
@@ -186,7 +186,7 @@ public:
     // Takes away what the input left; all others' rows are there, each cell as it was.
     void requireRestored(sql::ExpressionPointer left)
     {
-        connection_.Execute(sql::Delete{"Ini", std::move(left)});
+        connection_.execute(sql::Delete{"Ini", std::move(left)});
         require(rows() == rows_);
     }
 

@@ -65,7 +65,7 @@ std::vector<Table> liesRegister(const fs::path& file)
         Table table{*connection.engine().findTable(name), {}};
         Recordset rows;
         rows.Open(sql::Query(name), connection);
-        for (; !rows.Eof(); rows.MoveNext()) {
+        for (; !rows.eof(); rows.MoveNext()) {
             std::vector<Value>& values = table.rows.emplace_back();
             for (const ColumnInfo& column : table.schema.columns)
                 values.push_back(rows.field(column.name));

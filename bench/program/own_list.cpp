@@ -43,7 +43,7 @@ void OwnList::sort(const std::string& column)
 
 void OwnList::showRow(int row)
 {
-    rows_.setAbsolutePosition(static_cast<std::size_t>(row));
+    rows_.setPosition(static_cast<std::size_t>(row));
     std::size_t length = 0;
     for (const ColumnInfo& field : rows_.fields())
         length += rows_.Text(field.name).size();

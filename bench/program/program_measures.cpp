@@ -36,7 +36,7 @@ private:
     std::size_t prepare(std::size_t position)
     {
         position_ = position;
-        list_.setAbsolutePosition(position);
+        list_.setPosition(position);
         program_.createFile(list_.Text("filename"));
         return position;
     }

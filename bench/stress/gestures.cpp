@@ -80,7 +80,7 @@ void saveSwitches(SessionState& session, long turn)
     Recordset rows = ini.rows(session.user.Anwender, SWITCH_GROUP);
     for (int i = 0; rows.empty() && i < SWITCHES; ++i)
         ini.append({session.user.Anwender, SWITCH_GROUP, fmt::format("Schalter{}", i), std::to_string(turn)});
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         ini.update(rows, "Feld4", std::to_string(turn));
     ini.commit();
 }

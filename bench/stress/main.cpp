@@ -93,8 +93,8 @@ void removeMade(const Options& options)
 void removeTraces(const Options& options)
 {
     Connection connection = open(options);
-    connection.Execute("DELETE FROM CheckInOut WHERE AnwenderNutzer Like '!Last-%'");
-    connection.Execute("DELETE FROM Ini WHERE Feld1 Like '!Last-%'");
+    connection.execute("DELETE FROM CheckInOut WHERE AnwenderNutzer Like '!Last-%'");
+    connection.execute("DELETE FROM Ini WHERE Feld1 Like '!Last-%'");
 }
 
 // What was found wrong, told line by line.

@@ -19,7 +19,7 @@ std::string Ordnername(std::string_view documentPath)
     return backslash == std::string_view::npos ? std::string() : std::string(documentPath.substr(0, backslash));
 }
 
-std::string Extension(std::string_view documentPath)
+std::string extensionOf(std::string_view documentPath)
 {
     return countCharacters(documentPath) < 3 ? std::string() : toLower(rightCharacters(documentPath, 3));
 }
@@ -34,7 +34,7 @@ int fileTypeCode(std::string_view documentPath)
 {
     constexpr std::array<std::pair<std::string_view, int>, 5> codes = {
         {{"par", 1}, {"dft", 2}, {"asm", 3}, {"psm", 4}, {"pwd", 6}}};
-    const std::string extension = Extension(documentPath);
+    const std::string extension = extensionOf(documentPath);
     for (const auto& [known, code] : codes) {
         if (extension == known)
             return code;

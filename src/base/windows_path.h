@@ -12,7 +12,7 @@ std::string DateiName(std::string_view documentPath);
 // The part before the last backslash, when that is beyond the first character; otherwise "".
 std::string Ordnername(std::string_view documentPath);
 // The last three letters in lower case; "" for a shorter text.
-std::string Extension(std::string_view documentPath);
+std::string extensionOf(std::string_view documentPath);
 // The path with its last three letters replaced.
 std::string withExtension(std::string_view documentPath, std::string_view extension);
 

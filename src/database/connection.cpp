@@ -131,12 +131,12 @@ void Connection::Close()
     engine_.reset();
 }
 
-std::int64_t Connection::Execute(sql::FixedText statement)
+std::int64_t Connection::execute(sql::FixedText statement)
 {
-    return Execute(sql::parseStatement(statement.text()));
+    return execute(sql::parseStatement(statement.text()));
 }
 
-std::int64_t Connection::Execute(const sql::Statement& statement)
+std::int64_t Connection::execute(const sql::Statement& statement)
 {
     if (std::holds_alternative<sql::Select>(statement))
         throw RuntimeError(FAULT_STATEMENT, "Datenbank", "Eine Auswahlabfrage kann nicht ausgeführt werden.");

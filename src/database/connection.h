@@ -46,8 +46,8 @@ public:
 
     // One INSERT, UPDATE or DELETE: a tree, or text of the program's dialect without a value from outside. Rows
     // affected.
-    std::int64_t Execute(const sql::Statement& statement);
-    std::int64_t Execute(sql::FixedText statement);
+    std::int64_t execute(const sql::Statement& statement);
+    std::int64_t execute(sql::FixedText statement);
 
     Engine& engine() const;
 

@@ -84,13 +84,13 @@ const std::vector<ColumnInfo>& Recordset::fields() const
     return core_->rows.fields();
 }
 
-bool Recordset::Bof() const
+bool Recordset::bof() const
 {
     const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
     return !newRow && (core_->position < 0 || core_->view.count() == 0);
 }
 
-bool Recordset::Eof() const
+bool Recordset::eof() const
 {
     const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
     return !newRow && !core_->onRow() && (core_->position >= 0 || core_->view.count() == 0);
@@ -120,15 +120,15 @@ void Recordset::MoveLast()
 void Recordset::MoveNext()
 {
     core_->endEdit();
-    if (Eof())
+    if (eof())
         throw recordsetFault(3021, "Hinter dem letzten Datensatz gibt es keinen weiteren.");
     core_->goTo(core_->position + 1);
 }
 
-void Recordset::MovePrevious()
+void Recordset::movePrevious()
 {
     core_->endEdit();
-    if (Bof())
+    if (bof())
         throw recordsetFault(3021, "Vor dem ersten Datensatz gibt es keinen weiteren.");
     core_->goTo(core_->position - 1);
 }
@@ -158,12 +158,12 @@ bool Recordset::setBookmark(Bookmark row)
     return position.has_value();
 }
 
-std::size_t Recordset::AbsolutePosition() const
+std::size_t Recordset::absolutePosition() const
 {
     return core_->onRow() ? static_cast<std::size_t>(core_->position) : RecordCount();
 }
 
-void Recordset::setAbsolutePosition(std::size_t position)
+void Recordset::setPosition(std::size_t position)
 {
     core_->endEdit();
     if (position >= RecordCount())

@@ -52,15 +52,15 @@ public:
 
     const std::vector<ColumnInfo>& fields() const;
 
-    bool Bof() const;
-    bool Eof() const;
-    bool empty() const { return Bof() && Eof(); }
+    bool bof() const;
+    bool eof() const;
+    bool empty() const { return bof() && eof(); }
     std::size_t RecordCount() const; // Rows that the filter leaves.
 
     void MoveFirst();
     void MoveLast();
     void MoveNext();
-    void MovePrevious();
+    void movePrevious();
 
     // Field of the current row; names in any case, an unknown one throws RuntimeError 3265.
     Value field(std::string_view name) const;
@@ -95,8 +95,8 @@ public:
 
     // Position of the current row among the rows left, and the other way round; for grids. RecordCount() where
     // there is no current row.
-    std::size_t AbsolutePosition() const;
-    void setAbsolutePosition(std::size_t position);
+    std::size_t absolutePosition() const;
+    void setPosition(std::size_t position);
     // A cell of any row left, without moving. Reads a block of neighbouring rows at once when the column is not
     // in memory.
     Value cell(std::size_t position, std::string_view field) const;

@@ -24,13 +24,13 @@ std::optional<Hit> findDocument(Recordset& table, const RowMemory& row)
         table.MoveFirst();
     else
         table.Find("DokuBez = " + sql::quoted(row.DokuBez), 0, SearchDirection::Forward, true);
-    for (; !table.Eof() && equalText(table.Text("DokuBez"), row.DokuBez); table.MoveNext()) {
+    for (; !table.eof() && equalText(table.Text("DokuBez"), row.DokuBez); table.MoveNext()) {
         if (!equalText(table.Text("RevBez"), row.RevBez))
             continue;
         if (equalText(table.Text("filename"), row.filename))
-            return Hit{table.AbsolutePosition(), true};
+            return Hit{table.absolutePosition(), true};
         if (!secondBest)
-            secondBest = Hit{table.AbsolutePosition()};
+            secondBest = Hit{table.absolutePosition()};
     }
     return secondBest;
 }
@@ -39,14 +39,14 @@ bool moveToHit(Recordset& table, const RowMemory& row, bool onlyThisPath)
 {
     if (!table.open() || table.empty())
         return false;
-    const std::size_t before = table.AbsolutePosition();
+    const std::size_t before = table.absolutePosition();
     const auto found = findDocument(table, row);
     if (found && (found->samePath || !onlyThisPath)) {
-        table.setAbsolutePosition(found->position);
+        table.setPosition(found->position);
         return true;
     }
     if (before < table.RecordCount())
-        table.setAbsolutePosition(before);
+        table.setPosition(before);
     return false;
 }
 
@@ -57,8 +57,8 @@ RowMemory rememberRow(const DocumentTable& table)
     const DokuRecord& record = table.record();
     RowMemory row{record.DokuBez, record.RevBez, record.filename, 0};
     const Recordset& rows = table.rows();
-    if (!table.isFiltered() && table.hasRows() && !rows.Eof() && !rows.Bof())
-        row.position = rows.AbsolutePosition();
+    if (!table.isFiltered() && table.hasRows() && !rows.eof() && !rows.bof())
+        row.position = rows.absolutePosition();
     return row;
 }
 
@@ -66,7 +66,7 @@ void moveTo(Recordset& table, const RowMemory& row)
 {
     const std::size_t last = table.RecordCount() - 1;
     const auto found = findDocument(table, row);
-    table.setAbsolutePosition(found ? found->position : std::min(row.position, last));
+    table.setPosition(found ? found->position : std::min(row.position, last));
 }
 
 bool moveToFile(Recordset& table, const RowMemory& row)

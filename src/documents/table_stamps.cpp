@@ -18,9 +18,9 @@ bool openOnRow(Recordset& rows, Connection& connection, std::string_view key, Lo
               CursorType::Static, lock);
     if (rows.RecordCount() < MINIMUM_ROWS)
         return false;
-    while (!rows.Eof() && toUpper(rows.Text("Feld3")) != key)
+    while (!rows.eof() && toUpper(rows.Text("Feld3")) != key)
         rows.MoveNext();
-    return !rows.Eof();
+    return !rows.eof();
 }
 
 } // namespace

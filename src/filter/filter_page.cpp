@@ -174,7 +174,7 @@ void FilterPage::drawingTemplate(bool pressed)
 void FilterPage::openTemplate()
 {
     const std::string documentPath = templatePath();
-    showsTemplate_ = Extension(documentPath) == "dft" && viewer && viewer(documentPath);
+    showsTemplate_ = extensionOf(documentPath) == "dft" && viewer && viewer(documentPath);
     if (showsTemplate_)
         return;
     context_.ports().boxes.warn("Anzeigen im Viewer", lines({

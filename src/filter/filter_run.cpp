@@ -73,7 +73,7 @@ bool runOrKeep(FilterContext& context, const std::function<bool()>& run)
     const TypeFilter before = context.state();
     Recordset& table = context.table().rows();
     const RowFilter filter = table.filter();
-    const auto row = table.Bof() || table.Eof() ? std::nullopt : std::optional(table.bookmark());
+    const auto row = table.bof() || table.eof() ? std::nullopt : std::optional(table.bookmark());
     const auto moveBack = [&] {
         context.state() = before;
         if (table.filter().text != filter.text)

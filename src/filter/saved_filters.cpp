@@ -160,7 +160,7 @@ void removeFilter(FilterContext& context, std::string_view CbFilterSave)
     const auto row = filter ? findRow(*filter, CbFilterSave) : std::nullopt;
     if (!row)
         return;
-    filter->setAbsolutePosition(*row);
+    filter->setPosition(*row);
     filter->Delete();
 }
 

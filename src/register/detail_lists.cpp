@@ -59,7 +59,7 @@ Recordset InfoRevision(Connection& connection, std::string_view table, std::stri
             .sortedBy("RevBez"),
         connection);
     TextList list{"RevBez", "Geaendert", "Bearbeiter", "Aenderung"};
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         list.row({{"RevBez", rows.Text("RevBez")},
                   {"Geaendert", dateOrEmpty(rows.field(date))},
                   {"Bearbeiter", rows.Text(name)},
@@ -107,7 +107,7 @@ Recordset additionalDocumentList(Connection& connection, const Files& files, std
               connection);
     TextList list{"ZusDokuDatum", "ZusDokuDateiname", "ZusDokuSenden", "ZusDokufilename"};
     list.with("ZusDokuCreated", FieldType::Date).with("ZusDokuFileSize", FieldType::Integer);
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         std::string documentPath = rows.Text("ZusDokufilename");
         const bool sendAlong = documentPath.ends_with(SEND_ALONG);
         if (sendAlong)
@@ -125,7 +125,7 @@ Recordset additionalDocumentList(Connection& connection, const Files& files, std
 
 std::string additionalDocumentInfo(const Recordset& row)
 {
-    if (row.Bof() || row.Eof() || isNull(row.field("ZusDokuFileSize")))
+    if (row.bof() || row.eof() || isNull(row.field("ZusDokuFileSize")))
         return {};
     return fmt::format("{}   {} Byte", row.Text("ZusDokuDatum"),
                        formatInteger(asInteger(row.field("ZusDokuFileSize"))));

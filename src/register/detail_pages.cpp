@@ -107,7 +107,7 @@ void DetailPages::rowChosen(InfoPageId page, std::size_t position)
         const auto list = lists_.find(page);
         if (list == lists_.end() || position >= list->second.RecordCount())
             return;
-        list->second.setAbsolutePosition(position);
+        list->second.setPosition(position);
         if (page == InfoPageId::ZusDoku)
             showAdditionalDocument();
     });
@@ -132,7 +132,7 @@ void DetailPages::showAdditionalDocument()
 
 FilePicture DetailPages::pictureOf(const std::string& documentPath) const
 {
-    const std::string extension = Extension(documentPath);
+    const std::string extension = extensionOf(documentPath);
     if (contains(PICTURE_EXTENSIONS, extension))
         return {FilePicture::Kind::Picture, documentPath, {}};
     const auto attribute = ports_.files.attribute(documentPath);
@@ -159,7 +159,7 @@ const Recordset* DetailPages::list(InfoPageId page) const
 std::string DetailPages::fieldOfRow(InfoPageId page, std::string_view field) const
 {
     const Recordset* rows = list(page);
-    return rows == nullptr || rows->Bof() || rows->Eof() ? std::string() : rows->Text(field);
+    return rows == nullptr || rows->bof() || rows->eof() ? std::string() : rows->Text(field);
 }
 
 std::filesystem::path DetailPages::systemPath(std::string_view documentPath) const

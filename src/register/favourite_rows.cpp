@@ -32,7 +32,7 @@ void readFiles(Connection& connection, const DocumentType& type, sql::Expression
 {
     Recordset rows;
     rows.Open(sql::Query(type.table).columns({"DokuBez", "RevBez", "filename"}).where(std::move(some)), connection);
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         files.try_emplace(key(rows.Text("DokuBez"), rows.Text("RevBez")), rows.Text("filename"));
 }
 
@@ -51,7 +51,7 @@ std::vector<Favourite> readFavourites(SessionState& session, const DocumentType&
                                        .where(iniRows(session.user.Anwender, GROUP, type.key))
                                        .sortedBy("Feld4")
                                        .sortedBy("Feld5"));
-         !rows.Eof(); rows.MoveNext())
+         !rows.eof(); rows.MoveNext())
         favourites.push_back(favouriteOf(rows));
     favourites.erase(std::unique(favourites.begin(), favourites.end(), same), favourites.end());
     return favourites;
@@ -63,7 +63,7 @@ void writeFavourite(SessionState& session, const DocumentType& type, const Favou
     ini.writeAlone();
     for (Recordset rows = ini.read(sql::Query("Ini").where(
              sql::all(iniRows(session.user.Anwender, GROUP, type.key), sql::equal("Feld4", favourite.DokuBez))));
-         !rows.Eof(); rows.MoveNext())
+         !rows.eof(); rows.MoveNext())
         if (same(favouriteOf(rows), favourite))
             return;
     ini.append({session.user.Anwender, GROUP, type.key, favourite.DokuBez, favourite.RevBez});
@@ -80,7 +80,7 @@ void removeFavourites(SessionState& session, const DocumentType& type, std::span
     IniRows ini(session.database.connection);
     Recordset rows = ini.rows(session.user.Anwender, GROUP, type.key);
     Transaction transaction(session.database.connection);
-    while (!rows.Eof()) {
+    while (!rows.eof()) {
         const Favourite favourite = favouriteOf(rows);
         if (std::ranges::binary_search(intended, key(favourite.DokuBez, favourite.RevBez)))
             rows.Delete(); // Moves to the next row.

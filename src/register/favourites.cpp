@@ -151,7 +151,7 @@ bool Favourites::moveTo(std::size_t position)
     Recordset& rows = current().rows;
     if (!rows.open() || position >= rows.RecordCount())
         return false;
-    rows.setAbsolutePosition(position);
+    rows.setPosition(position);
     return true;
 }
 
@@ -190,12 +190,12 @@ void Favourites::FavoritLoeschen()
 {
     perform("Fehler beim Löschen des Favoriten!", [&] {
         Recordset& rows = current().rows;
-        if (!rows.open() || rows.Eof() || rows.Bof())
+        if (!rows.open() || rows.eof() || rows.bof())
             return;
         const std::array favourite{favouriteOf(rows)};
         removeFavourites(session_, type(), favourite);
         rows.Delete();
-        if (rows.Eof() && !rows.empty())
+        if (rows.eof() && !rows.empty())
             rows.MoveLast();
         ++generation_;
     });

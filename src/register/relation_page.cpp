@@ -100,7 +100,7 @@ void RelationPage::rowChosen(std::size_t position)
     perform([&] {
         if (position >= rows_.RecordCount())
             return;
-        rows_.setAbsolutePosition(position);
+        rows_.setPosition(position);
         clearPreview();
         readRow();
         if (kind_->page == InfoPageId::ConsistsOf)

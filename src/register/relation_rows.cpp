@@ -59,7 +59,7 @@ Recordset united(Connection& connection, const RelationKind& kind, const DokuRec
     all.Open();
     for (const LinkTable& table : kind.tables) {
         Recordset part = open(connection, table, condition(table, record, documentPath));
-        for (; !part.Eof(); part.MoveNext()) {
+        for (; !part.eof(); part.MoveNext()) {
             std::string filename = part.Text(table.columns);
             all.AddNew();
             all.setField(kind.fields.Dateiname, DateiName(filename));

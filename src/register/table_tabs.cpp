@@ -83,7 +83,7 @@ void TableTabs::showRows()
 void TableTabs::ZeileAktualisieren(int tab)
 {
     Recordset& rows = tables_[tab].visible();
-    if (rows.open() && !rows.empty() && (rows.Eof() || rows.Bof()))
+    if (rows.open() && !rows.empty() && (rows.eof() || rows.bof()))
         rows.MoveFirst();
     shown_.show(tab);
 }
@@ -95,7 +95,7 @@ void TableTabs::chooseRow(std::size_t position)
         Recordset& rows = tables_.current().visible();
         if (!rows.open() || position >= rows.RecordCount())
             return;
-        rows.setAbsolutePosition(position);
+        rows.setPosition(position);
         ZeileAktualisieren(tables_.tab());
     });
 }
@@ -104,7 +104,7 @@ void TableTabs::nextRow()
 {
     operations_.report(Part::Document, [&] {
         Recordset& rows = tables_.current().visible();
-        if (rows.open() && !rows.Eof())
+        if (rows.open() && !rows.eof())
             rows.MoveNext();
         ZeileAktualisieren(tables_.tab());
     });

@@ -116,7 +116,7 @@ void TopBar::pathFromClipboard(bool /*an*/)
 
 void TopBar::switchTo(const std::string& documentPath)
 {
-    const DocumentType& type = *std::ranges::find(DOCUMENT_TYPES, Extension(documentPath), &DocumentType::extension);
+    const DocumentType& type = *std::ranges::find(DOCUMENT_TYPES, extensionOf(documentPath), &DocumentType::extension);
     jump_.prepare(type, HINT_DOCUMENT);
     const bool found = jump_.searchFile(type, documentPath);
     tabs_.chooseTab(type.tab);

@@ -33,7 +33,7 @@ std::vector<ValuePair> readRows(Connection& connection, std::string_view table, 
               connection);
     std::vector<ValuePair> all;
     std::vector<std::string> names;
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         all.emplace_back(rows.Text("Name"), rows.Text("Wert"));
         names.push_back(all.back().first);
     }

@@ -184,9 +184,9 @@ void Documents::appendMainValues(const Part& part, Random& random, std::vector<V
             alias[i] = boughtSeries()[part.design].alias;
             value = number(random.part(boughtSeries()[part.design].sizes));
         } else if (design && !design->sizes[i].alias.empty()) {
-            const Measure& mass = design->sizes[i];
-            alias[i] = mass.alias;
-            value = rounded(mass.from + mass.step * random.below(static_cast<std::uint32_t>(mass.levels)));
+            const Measure& metric = design->sizes[i];
+            alias[i] = metric.alias;
+            value = rounded(metric.from + metric.step * random.below(static_cast<std::uint32_t>(metric.levels)));
         }
         values.push_back(std::move(value));
     }

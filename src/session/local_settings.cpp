@@ -57,7 +57,7 @@ int DateiTyp(std::string_view documentPath, Boxes& boxes)
 {
     const int code = fileTypeCode(documentPath);
     if (code == 0)
-        boxes.warn("File-Endung", "File-Endung " + Extension(documentPath) + " ist nicht zulässig!");
+        boxes.warn("File-Endung", "File-Endung " + extensionOf(documentPath) + " ist nicht zulässig!");
     return code;
 }
 

@@ -20,7 +20,7 @@ constexpr std::string_view EMPTY = "Leer"; // The next start replaces it by the 
 void writeTreeSwitches(IniRows& ini, const SessionState& session)
 {
     Recordset rows = ini.rows(session.user.Anwender, "Treeview");
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         const std::string key = textOrEmpty(rows, "Feld3");
         const auto option = std::find_if(TREE_SWITCHES.begin(), TREE_SWITCHES.end(),
                                          [&](const TreeSwitchRow& candidate) { return equalText(candidate.key, key); });
@@ -32,7 +32,7 @@ void writeTreeSwitches(IniRows& ini, const SessionState& session)
 bool standsSoInTable(Recordset& rows, const std::vector<std::string>& texts)
 {
     std::size_t count = 0;
-    for (; !rows.Eof(); rows.MoveNext(), ++count)
+    for (; !rows.eof(); rows.MoveNext(), ++count)
         if (count >= texts.size() || searchTextKey(textOrEmpty(rows, "Feld3")) != count ||
             textOrEmpty(rows, "Feld4") != texts[count])
             return false;
@@ -98,7 +98,7 @@ void writeDocumentPage(SessionState& session, int tab)
         ini.updateAll(start, "Feld3", type.plural);
 
     Recordset offline = ini.rows(session.user.Anwender, "OfflineDaten");
-    for (; !offline.Eof(); offline.MoveNext()) {
+    for (; !offline.eof(); offline.MoveNext()) {
         ini.update(offline, "Feld3", session.orders.OfflineArt.empty() ? EMPTY : session.orders.OfflineArt);
         ini.update(offline, "Feld4", session.orders.OfflineNummer);
         ini.update(offline, "Feld5", session.orders.OfflineExportArt.empty() ? EMPTY : session.orders.OfflineExportArt);

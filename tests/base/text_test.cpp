@@ -103,7 +103,7 @@ TEST(WindowsPath, CutsAtTheLastBackslash)
     for (const auto& c : cases) {
         EXPECT_EQ(Ordnername(c.documentPath), c.folder) << c.documentPath;
         EXPECT_EQ(DateiName(c.documentPath), c.name) << c.documentPath;
-        EXPECT_EQ(Extension(c.documentPath), c.extension) << c.documentPath;
+        EXPECT_EQ(extensionOf(c.documentPath), c.extension) << c.documentPath;
         EXPECT_EQ(fileTypeCode(c.documentPath), c.code) << c.documentPath;
     }
     EXPECT_EQ(withExtension("W:\\Größe.dft", "tif"), "W:\\Größe.tif");

@@ -11,12 +11,12 @@ void ask(Recordset& rows, Connection& connection, const std::string& user)
 {
     rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Plot'", connection);
     rows.Open(sql::Query("Ini").where(sql::equal("Feld1", user)), connection);
-    connection.Execute("DELETE FROM Ini");
-    connection.Execute(sql::Delete{"Ini", sql::equal("Feld1", user)});
+    connection.execute("DELETE FROM Ini");
+    connection.execute(sql::Delete{"Ini", sql::equal("Feld1", user)});
 #ifdef PASTED_QUERY
     rows.Open("SELECT * FROM Ini WHERE Feld1 = '" + user + "'", connection);
 #endif
 #ifdef PASTED_CHANGE
-    connection.Execute("DELETE FROM Ini WHERE Feld1 = '" + user + "'");
+    connection.execute("DELETE FROM Ini WHERE Feld1 = '" + user + "'");
 #endif
 }

@@ -66,21 +66,21 @@ TEST(DatabaseFile, ConnectionExecutesChangesButNoQueries)
     createRegister(*openSqlite(documentPath, true));
 
     Connection connection;
-    EXPECT_THAT(faultText([&] { connection.Execute("Delete From Ini"); }), HasSubstr("nicht geöffnet"));
+    EXPECT_THAT(faultText([&] { connection.execute("Delete From Ini"); }), HasSubstr("nicht geöffnet"));
     connection.openAddress(utf8FromPath(documentPath));
-    EXPECT_EQ(connection.Execute("Insert Into Ini (Feld1, Feld2) Values ('mm', 'Plot')"), 1);
+    EXPECT_EQ(connection.execute("Insert Into Ini (Feld1, Feld2) Values ('mm', 'Plot')"), 1);
     {
         Transaction discarded(connection);
-        EXPECT_EQ(connection.Execute("Delete From Ini"), 1);
+        EXPECT_EQ(connection.execute("Delete From Ini"), 1);
     }
     {
         Transaction valid(connection);
-        EXPECT_EQ(connection.Execute("Update Ini Set Feld3 = 'x' Where Feld1 = 'MM'"), 1);
+        EXPECT_EQ(connection.execute("Update Ini Set Feld3 = 'x' Where Feld1 = 'MM'"), 1);
         valid.commit();
     }
-    EXPECT_EQ(connection.Execute("Delete From Ini Where Feld3 = 'x'"), 1);
-    EXPECT_NE(faultText([&] { connection.Execute("Select * From Ini"); }), "no fault");
-    EXPECT_NE(faultText([&] { connection.Execute("Delete From Ini; Delete From Ini"); }), "no fault");
+    EXPECT_EQ(connection.execute("Delete From Ini Where Feld3 = 'x'"), 1);
+    EXPECT_NE(faultText([&] { connection.execute("Select * From Ini"); }), "no fault");
+    EXPECT_NE(faultText([&] { connection.execute("Delete From Ini; Delete From Ini"); }), "no fault");
 }
 
 TEST(DatabaseFile, TakesCellsAndColumnsOfAnotherMakersFile)

@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(, RecordsetWithRowKeys, test::ownEngines, engineName);
 // Everything a user of a recordset sees, in one text.
 std::string picture(const Recordset& rs)
 {
-    std::string text = std::to_string(rs.AbsolutePosition()) + (rs.Bof() ? " bof\n" : rs.Eof() ? " eof\n" : "\n");
+    std::string text = std::to_string(rs.absolutePosition()) + (rs.bof() ? " bof\n" : rs.eof() ? " eof\n" : "\n");
     for (std::size_t i = 0; i < rs.RecordCount(); ++i) {
         for (const ColumnInfo& field : rs.fields())
             text += asText(rs.cell(i, field.name)) + "|";
@@ -104,7 +104,7 @@ TEST_P(RecordsetWithRowKeys, ReadsLaterWhatItWouldHaveReadAtOnce)
     // The order of rows that are equal in the sort columns is the engine's own.
     const std::vector<std::function<void(Recordset&)>> actions{
         [](Recordset& rs) { rs.Sort("Titel, Nr, Id"); },
-        [](Recordset& rs) { rs.setAbsolutePosition(17); },
+        [](Recordset& rs) { rs.setPosition(17); },
         [](Recordset& rs) { rs.Find("Thema LIKE '%ä%'", 1); },
         [](Recordset& rs) { rs.Find("Thema LIKE 'zz%'"); },
         [](Recordset& rs) { rs.Filter("Wert > 0 OR Tag >= #02/01/24#"); },
@@ -165,13 +165,13 @@ TEST_P(RecordsetWithRowKeys, GivingUpLeavesRowsPlaceAndColumnsAsTheyWere)
 {
     fillRandomly(50);
     Recordset rs = openRs("SELECT * FROM Tafel ORDER BY Titel", LockType::ReadOnly, 10);
-    rs.setAbsolutePosition(7);
+    rs.setPosition(7);
     const auto never = [](std::size_t, std::size_t) { return false; };
     EXPECT_FALSE(rs.Find("Thema LIKE '%a%'", 0, SearchDirection::Forward, true, never));
     EXPECT_FALSE(loadColumns(rs, std::vector<std::string>{"Titel", "Thema", "Nr"}, never));
     EXPECT_FALSE(choose(rs, "Thema = 'a'", never));
     EXPECT_FALSE(columnLoaded(rs, "Thema") || columnLoaded(rs, "Nr"));
-    EXPECT_EQ(rs.AbsolutePosition(), 7u);
+    EXPECT_EQ(rs.absolutePosition(), 7u);
     EXPECT_TRUE(loadColumns(rs, std::vector<std::string>{"Titel", "Thema", "Nr"}));
     EXPECT_TRUE(columnLoaded(rs, "Thema") && columnLoaded(rs, "Nr"));
 }
@@ -182,14 +182,14 @@ TEST_P(RecordsetOnEngine, WalksThroughUnreadRowsInBothDirections)
     Recordset whole = openRs("SELECT * FROM Tafel ORDER BY Titel, Nr DESC");
     Recordset late = openRs("SELECT * FROM Tafel ORDER BY Titel, Nr DESC", LockType::ReadOnly, 10);
     std::vector<std::int64_t> there;
-    for (; !late.Eof(); late.MoveNext()) {
+    for (; !late.eof(); late.MoveNext()) {
         const auto number = static_cast<std::size_t>(asInteger(late.field("Id")));
         there.push_back(static_cast<std::int64_t>(number));
         for (std::size_t field = 0; field < FIELDS.size(); ++field)
             ASSERT_EQ(late.field(FIELDS[field].name), rows_[number][field]);
     }
     std::vector<std::int64_t> back;
-    for (late.MoveLast(); !late.Bof(); late.MovePrevious())
+    for (late.MoveLast(); !late.bof(); late.movePrevious())
         back.push_back(asInteger(late.field("Id")));
     std::reverse(back.begin(), back.end());
     EXPECT_EQ(there, back);
@@ -273,7 +273,7 @@ TEST_P(RecordsetWithRowKeys, RowsThatVanishedReadAsEmpty)
     execute("DELETE FROM Tafel WHERE Id = 3");
     execute("INSERT INTO Tafel (Id, Thema) VALUES (99, 'neu')");
     EXPECT_EQ(rs.RecordCount(), 50u);
-    rs.setAbsolutePosition(3);
+    rs.setPosition(3);
     EXPECT_TRUE(isNull(rs.field("Thema")));
     EXPECT_TRUE(isNull(rs.cell(3, "Titel")));
     rs.Filter("Thema = 'neu'");

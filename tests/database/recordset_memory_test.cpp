@@ -54,7 +54,7 @@ std::string position(const Recordset& rs)
 {
     if (rs.empty())
         return "leer";
-    return rs.Bof() ? "bof" : rs.Eof() ? "eof" : rs.Text("name");
+    return rs.bof() ? "bof" : rs.eof() ? "eof" : rs.Text("name");
 }
 
 struct Movement
@@ -77,7 +77,7 @@ TEST_P(RecordsetCursor, StandsWhereAdoWouldStand)
         else if (step == 'n')
             rs.MoveNext();
         else if (step == 'p')
-            rs.MovePrevious();
+            rs.movePrevious();
         else if (step == 'd')
             rs.Delete();
         else {
@@ -169,19 +169,19 @@ TEST(Recordset, BookmarksOutliveFilterSortAndDeletion)
     const Bookmark c = rs.bookmark();
     rs.Sort("Name");
     ASSERT_TRUE(rs.setBookmark(b));
-    EXPECT_EQ(rs.AbsolutePosition(), 1u);
+    EXPECT_EQ(rs.absolutePosition(), 1u);
     rs.Filter("Nr < 3");
     EXPECT_TRUE(rs.setBookmark(b));
     EXPECT_FALSE(rs.setBookmark(c));
     EXPECT_EQ(rs.Text("Name"), "B");
     rs.Delete();
-    EXPECT_TRUE(rs.Eof());
-    EXPECT_EQ(rs.AbsolutePosition(), rs.RecordCount());
+    EXPECT_TRUE(rs.eof());
+    EXPECT_EQ(rs.absolutePosition(), rs.RecordCount());
     rs.Filter("");
     EXPECT_FALSE(rs.setBookmark(b));
     rs.Sort("");
     EXPECT_THAT(names(rs), ElementsAre("C", "A", "D"));
-    rs.setAbsolutePosition(2);
+    rs.setPosition(2);
     EXPECT_EQ(rs.Text("Name"), "D");
 }
 
@@ -251,7 +251,7 @@ TEST(Recordset, FindGoesBothWaysAndEndsBehindTheRows)
         {"Name LIKE 'achse%'", 0, 9, before, false, "eof"},
     };
     for (const TestCase& testCase : cases) {
-        rs.setAbsolutePosition(testCase.start);
+        rs.setPosition(testCase.start);
         const bool found = rs.Find(testCase.criterion, testCase.skip, testCase.direction, testCase.fromStart);
         EXPECT_EQ(position(rs), testCase.position) << testCase.criterion;
         EXPECT_EQ(found, testCase.position != "eof" && testCase.position != "bof") << testCase.criterion;

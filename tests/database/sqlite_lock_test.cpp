@@ -43,7 +43,7 @@ protected:
         rows.Open("Select Wort From Tafel", connection);
         return rows.Text("Wort");
     }
-    static void setWord(Connection& connection) { connection.Execute("Update Tafel Set Wort = 'neu'"); }
+    static void setWord(Connection& connection) { connection.execute("Update Tafel Set Wort = 'neu'"); }
 
     TempFolder folder_;
     std::filesystem::path file_ = folder_ / "test.qv";

@@ -185,7 +185,7 @@ TEST_F(SavedFilterTest, RowsAreWrittenPerUserAndTypeAndOnlyWhenTheyDiffer)
         Recordset rows;
         rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Filterwerte' ORDER BY Feld1", session_.database.connection);
         std::string text;
-        for (; !rows.Eof(); rows.MoveNext())
+        for (; !rows.eof(); rows.MoveNext())
             text += rows.Text("Feld1") + "/" + rows.Text("Feld3") + "/" + rows.Text("Feld4") + "/" +
                     rows.Text("Feld5") + "\n";
         return text;

@@ -28,7 +28,7 @@ protected:
         rows.Open("SELECT * FROM Ini WHERE Feld2 = 'Favoriten' ORDER BY Feld1, Feld3, Feld4, Feld5",
                   session_.database.connection);
         std::string text;
-        for (; !rows.Eof(); rows.MoveNext())
+        for (; !rows.eof(); rows.MoveNext())
             text += rows.Text("Feld1") + "|" + rows.Text("Feld3") + "|" + rows.Text("Feld4") + "|" +
                     rows.Text("Feld5") + "\n";
         return text;

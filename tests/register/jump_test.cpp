@@ -46,7 +46,7 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
         EXPECT_EQ(place(), std::to_string(tab) + "B");
     }
     addDocument(0, "A1", "0");
-    session_.database.connection.Execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
+    session_.database.connection.execute("UPDATE PartTabelle SET filename = 'W:\\Teile\\B_0.parx' WHERE DokuBez = 'A'");
     tabs_.rebuild();
     EXPECT_TRUE(jump(0, "B_0.par")); // Not the longer path in the row before.
     EXPECT_EQ(place(), "0B");
@@ -55,7 +55,7 @@ TEST_F(JumpTest, AnUnopenedTableIsOpenedAndADocumentIsFoundByItsWholePath)
 TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
 {
     Connection& database = session_.database.connection;
-    database.Execute(
+    database.execute(
         "UPDATE PartTabelle SET filename = '\\\\server\\konstruktion\\Teile\\B_0.par' WHERE DokuBez = 'B'");
     tabs_.rebuild();
     EXPECT_TRUE(jump(0, "B_0.par")); // Stored by the share that W: stands for.
@@ -63,7 +63,7 @@ TEST_F(JumpTest, ADocumentIsFoundByEachOfItsPathsWhateverItsNameAndItsTwins)
     EXPECT_TRUE(sprung_.ZuDokumentWechseln(DOCUMENT_TYPES[2], "\\\\server\\konstruktion\\Teile\\C_0.asm"));
     EXPECT_EQ(place(), "2C"); // Stored by the letter.
 
-    database.Execute("UPDATE DraftTabelle SET DokuBez = Null, RevBez = Null WHERE DokuBez = 'B'");
+    database.execute("UPDATE DraftTabelle SET DokuBez = Null, RevBez = Null WHERE DokuBez = 'B'");
     tabs_.chooseTab(3);
     tabs_.rebuild();
     tabs_.chooseRow(2);

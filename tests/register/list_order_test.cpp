@@ -28,7 +28,7 @@ protected:
     static std::vector<std::string> texts(Recordset rows, std::string_view first, std::string_view second)
     {
         std::vector<std::string> texts;
-        for (; !rows.Eof(); rows.MoveNext())
+        for (; !rows.eof(); rows.MoveNext())
             texts.push_back(rows.Text(first) + "|" + rows.Text(second));
         return texts;
     }

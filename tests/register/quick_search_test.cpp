@@ -59,9 +59,9 @@ TEST_F(QuickSearchTest, RefusesWhatIsNoKindOfSearchAndTakesTheTextAsAText)
     world_.boxes.expect("Suchverfahren", "Falsches Suchverfahren!");
     EXPECT_FALSE(SuchenImRecordset(parts, "B", "DokuBez", 2, SearchStart::Above, world_.boxes));
     EXPECT_FALSE(SuchenImRecordset(parts, "", "DokuBez", 7, SearchStart::Above, world_.boxes));
-    EXPECT_EQ(parts.AbsolutePosition(), 0U);
+    EXPECT_EQ(parts.absolutePosition(), 0U);
     EXPECT_FALSE(SuchenImRecordset(parts, "Zahnrad", "DokuBez", 0, SearchStart::Above, world_.boxes));
-    EXPECT_TRUE(parts.Eof());
+    EXPECT_TRUE(parts.eof());
 
     tabs_.chooseRow(2);
     for (const char* text : {"x' OR DokuBez LIKE 'Wink", "x' AND Status = ", "'", "''", "O''N"}) {

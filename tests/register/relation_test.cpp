@@ -178,7 +178,7 @@ TEST_F(UsageTest, TheToolBarActsOnTheRow)
     actions_.addToFavourites();
     EXPECT_EQ(favourites("STbl2"), "N/0");
 
-    session_.database.connection.Execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
+    session_.database.connection.execute("DELETE FROM AssembTabelle WHERE DokuBez = 'U'");
     choose("U_0.asm");
     world_.boxes.expect("Favoriten", "Der Eintrag bei Favoriten konnte\nnicht erfolgreich durchgeführt werden!\n"
                                      "Mögliche Ursache:\n- Datei ist in der Tabelle nicht vorhanden.\n"

@@ -167,7 +167,7 @@ protected:
     static std::vector<std::string> column(Recordset rows, std::string_view field)
     {
         std::vector<std::string> texts;
-        for (; !rows.Eof(); rows.MoveNext())
+        for (; !rows.eof(); rows.MoveNext())
             texts.push_back(rows.Text(field));
         return texts;
     }
@@ -273,7 +273,7 @@ TEST_P(StrangeTexts, AsSearchTextsFindNothingElse)
         if (text.find_first_of("%_[") != std::string::npos)
             continue;
         EXPECT_TRUE(SuchenImRecordset(parts, text, "DokuBez", TextAtBegin, SearchStart::Above, world_.boxes));
-        ASSERT_FALSE(parts.Eof()) << text;
+        ASSERT_FALSE(parts.eof()) << text;
         EXPECT_TRUE(parts.Text("DokuBez").starts_with(text)) << text << " / " << parts.Text("DokuBez");
     }
 }

@@ -158,7 +158,7 @@ TEST_F(TableTest, RebuildReadsTheTableAnewAndStaysOnTheDocument)
     tabs_.rebuild();
     EXPECT_EQ(list(), "A/0 B/0 C/a E'1/b E'1/a "); // The higher revision first.
     EXPECT_EQ(session_.AktDoku.filename, documentPath("E'1_a.par"));
-    EXPECT_EQ(tables_[0].rows().AbsolutePosition(), 4u);
+    EXPECT_EQ(tables_[0].rows().absolutePosition(), 4u);
     EXPECT_EQ(tables_.indicators()[0], "");
 
     engine_->remove("PartTabelle", last);

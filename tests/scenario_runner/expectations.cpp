@@ -91,7 +91,7 @@ std::string rowAsText(const Recordset& rows)
 std::vector<std::string> rowsAsText(Recordset& rows)
 {
     std::vector<std::string> lines;
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         lines.push_back(rowAsText(rows));
     return lines;
 }

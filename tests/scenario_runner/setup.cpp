@@ -114,7 +114,7 @@ void addSetupVerbs(Verbs& verbs)
     verbs["remove"] = [](World& world, const Step& step) { world.files().remove(step.word(1)); };
     verbs["sql"] = [](World& world, const Step& step) {
         const std::string more = step.text.empty() ? "" : "\n" + step.joinedText();
-        world.connect().Execute(test::statement(step.word(1) + more));
+        world.connect().execute(test::statement(step.word(1) + more));
     };
     verbs["printer"] = [](World& world, const Step& step) {
         world.setPrinter(step.word(1), std::stoi(step.word(2)), std::stoi(step.word(3)), std::stoi(step.word(4)));

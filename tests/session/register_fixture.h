@@ -59,7 +59,7 @@ protected:
         }
         together.commit();
     }
-    void remove(const std::string& condition) { db.Execute(test::statement("DELETE FROM Ini WHERE " + condition)); }
+    void remove(const std::string& condition) { db.execute(test::statement("DELETE FROM Ini WHERE " + condition)); }
 
     // Sorted: rows come in no order of their own.
     std::vector<std::string> iniRows(const std::string& condition)
@@ -67,7 +67,7 @@ protected:
         Recordset rows;
         rows.Open(test::query("SELECT * FROM Ini WHERE " + condition), db);
         std::vector<std::string> texts;
-        for (; !rows.Eof(); rows.MoveNext()) {
+        for (; !rows.eof(); rows.MoveNext()) {
             std::vector<std::string> fields;
             for (const char* field : {"Feld1", "Feld2", "Feld3", "Feld4", "Feld5"})
                 fields.push_back(isNull(rows.field(field)) ? "~" : rows.Text(field));

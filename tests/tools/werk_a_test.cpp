@@ -225,7 +225,7 @@ TEST_P(WerkA, FiltersARecordsetLikeTheSource)
         rs.Filter(ask["recordset_filter"].get<std::string>());
         EXPECT_EQ(rs.RecordCount(), ask["result"]["count"]) << ask["id"];
         std::vector<json> is;
-        for (; !rs.Eof(); rs.MoveNext()) {
+        for (; !rs.eof(); rs.MoveNext()) {
             json row = json::array();
             for (const std::string column : ask["result"]["columns"])
                 row.push_back(asStored(rs.field(column)));

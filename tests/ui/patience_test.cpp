@@ -66,7 +66,7 @@ protected:
         QMetaObject::invokeMethod(&window_, meanwhile, Qt::QueuedConnection);
         bool givenUp = false;
         try {
-            connection_.Execute("Update Tafel Set Bild = 'neu' Where Wort = '10000'");
+            connection_.execute("Update Tafel Set Bild = 'neu' Where Wort = '10000'");
         } catch (const DatabaseFault& fault) {
             givenUp = fault.kind() == FaultKind::GivenUp;
         }
@@ -82,7 +82,7 @@ protected:
     static QDialog* panel()
     {
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->objectName() == u"Wartetafel" && window->isVisible())
+            if (window->objectName() == u"WaitPanel" && window->isVisible())
                 return qobject_cast<QDialog*>(window);
         return nullptr;
     }

@@ -33,7 +33,7 @@ TEST_P(AppearanceTest, TextsStandOutFromTheirGround)
 {
     const ColourSet& colours = colourSet();
     EXPECT_EQ(colours.dark, GetParam() == Mode::Dark);
-    for (const QColor& text : {colours.text, colours.muted, colours.accent, colours.warn}) {
+    for (const QColor& text : {colours.text, colours.muted, colours.accent, colours.warning}) {
         EXPECT_GE(contrast(text, colours.area), 4.5) << text.name().toStdString();
         EXPECT_GE(contrast(text, colours.strip), 4.5) << text.name().toStdString();
     }

@@ -98,7 +98,7 @@ void IniRows::update(Recordset& row, std::string_view field, std::string_view va
 
 void IniRows::updateAll(Recordset& rows, std::string_view field, std::string_view value)
 {
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         update(rows, field, value);
 }
 
@@ -106,7 +106,7 @@ void IniRows::remove(Recordset& rows)
 {
     if (rows.empty() || !begin())
         return;
-    for (rows.MoveFirst(); !rows.Eof();)
+    for (rows.MoveFirst(); !rows.eof();)
         rows.Delete(); // Moves to the next row.
 }
 

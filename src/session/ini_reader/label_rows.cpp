@@ -50,7 +50,7 @@ Names readNames(StartRun& run, std::string_view group, Names names)
                                          group));
         return names;
     }
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         const auto entry = names.find(toLower(textOrEmpty(rows, "Feld3")));
         const std::string name = textOrEmpty(rows, "Feld4");
         if (entry != names.end() && !name.empty())
@@ -80,7 +80,7 @@ void readSearchTexts(StartRun& run)
     searchTexts.clear();
     // One text a key, in the order of the keys: rows of other keys are none, and of twins the first counts.
     std::array<std::optional<std::string>, SEARCH_TEXT_COUNT> byKey;
-    for (Recordset rows = run.ini.searchTexts(run.session.user.Anwender); !rows.Eof(); rows.MoveNext()) {
+    for (Recordset rows = run.ini.searchTexts(run.session.user.Anwender); !rows.eof(); rows.MoveNext()) {
         const auto key = searchTextKey(textOrEmpty(rows, "Feld3"));
         if (key && !byKey[*key])
             byKey[*key] = requiredText(rows, "Feld4");

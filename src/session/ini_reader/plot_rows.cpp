@@ -30,7 +30,7 @@ void warnPrinterTable(Boxes& boxes, std::string_view key)
 
 void adoptPrinters(SessionState& session, Recordset& rows)
 {
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         const std::string key = requiredText(rows, "Feld4");
         for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index)
             if (key == sheetKey(index))

@@ -50,7 +50,7 @@ void DefaultsReader::read()
     defaultValue_ = {};
     Recordset rows = run_.ini.rows(run_.session.user.Anwender, group_);
     const bool fresh = rows.empty();
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.eof(); rows.MoveNext())
         adopt(rows);
     // Without a printer a new user gets no rows yet; the next start tries again.
     writes_ = !fresh || printersExists();

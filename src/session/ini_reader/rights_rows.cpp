@@ -46,7 +46,7 @@ std::string welcome(std::string_view user)
 
 void read(SessionState& session, Recordset& rows)
 {
-    for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext()) {
+    for (rows.MoveFirst(); !rows.eof(); rows.MoveNext()) {
         const std::string key = toLower(textOrEmpty(rows, "Feld3"));
         for (std::size_t status = 0; status < session.rights.Sichtbar.size(); ++status) {
             if (key != fmt::format("{}_status", status))

@@ -29,7 +29,7 @@ void readSavedFilters(StartRun& run)
     Recordset rows = run.ini.read(sql::Query("Ini")
                                       .columns({"Feld3", "Feld4", "Feld5"})
                                       .where(iniRows(run.session.user.Anwender, "Filterwerte")));
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         const std::string key = textOrEmpty(rows, "Feld3");
         const auto type = std::find_if(DOCUMENT_TYPES.begin(), DOCUMENT_TYPES.end(),
                                        [&](const DocumentType& candidate) { return equalText(candidate.key, key); });

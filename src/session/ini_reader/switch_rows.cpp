@@ -70,7 +70,7 @@ bool tellsAtOnce(StartRun& run, std::string_view key)
     }
     int own = 0;
     int other = 0;
-    for (; !rows.Eof(); rows.MoveNext()) {
+    for (; !rows.eof(); rows.MoveNext()) {
         const bool ownRow = equalText(requiredText(rows, "Feld4"), THIS_PROGRAM);
         (ownRow ? own : other) = numberOrZero(rows, "Feld5");
     }
@@ -155,9 +155,9 @@ void readTreeview(StartRun& run)
     for (const TreeSwitchRow& option : TREE_SWITCHES) {
         if (!rows.empty())
             rows.MoveFirst();
-        while (!rows.Eof() && !equalText(textOrEmpty(rows, "Feld3"), option.key))
+        while (!rows.eof() && !equalText(textOrEmpty(rows, "Feld3"), option.key))
             rows.MoveNext();
-        if (rows.Eof()) {
+        if (rows.eof()) {
             run.ini.append({run.session.user.Anwender, "Treeview", option.key, "1", option.note});
             continue;
         }

@@ -61,11 +61,11 @@ QPixmap picture(Icon kind, qreal density)
     case Icon::Information:
         return iconPicture("information", SIDE, colours.accent, density);
     case Icon::Warning:
-        return iconPicture("warning", SIDE, readable(colours.tell, colours.area, 2.2), density);
+        return iconPicture("warning", SIDE, readable(colours.indicator, colours.area, 2.2), density);
     case Icon::Question:
         return iconPicture("question", SIDE, colours.accent, density);
     case Icon::Critical:
-        return iconPicture("critical", SIDE, colours.warn, density);
+        return iconPicture("critical", SIDE, colours.warning, density);
     case Icon::None:
         break;
     }

@@ -36,7 +36,7 @@ QDialog* newPanel(QWidget* owner, QLabel& text, QPushButton& giveUp)
 {
     // Over a window it looks like a part of it; alone it needs a title to be found.
     auto* panel = new QDialog(owner, owner ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog);
-    panel->setObjectName(QStringLiteral("Wartetafel"));
+    panel->setObjectName(QStringLiteral("WaitPanel"));
     panel->setWindowTitle(QApplication::applicationName());
     panel->setWindowModality(Qt::ApplicationModal);
     panel->setAttribute(Qt::WA_QuitOnClose, false); // It may be the only window.

@@ -23,7 +23,7 @@ constexpr int PANEL_WIDTH = 420;
 QFrame* newPanel(QWidget& window, ProgressField& field)
 {
     auto* panel = new QFrame(&window);
-    panel->setObjectName(QStringLiteral("Fortschrittstafel"));
+    panel->setObjectName(QStringLiteral("ProgressPanel"));
     auto* layout = new QHBoxLayout(panel);
     layout->setContentsMargins(16, 12, 16, 12);
     layout->addWidget(&field);

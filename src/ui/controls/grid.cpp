@@ -124,9 +124,9 @@ void configureGrid(QTableView& grid)
 void Grid::display(const Recordset* rows, unsigned generation)
 {
     still([&] { model_->display(rows, generation); });
-    if (rows == nullptr || rows->Bof() || rows->Eof())
+    if (rows == nullptr || rows->bof() || rows->eof())
         return;
-    const int row = static_cast<int>(rows->AbsolutePosition());
+    const int row = static_cast<int>(rows->absolutePosition());
     if (row != currentIndex().row())
         showChosen(model_->index(row, 0));
 }

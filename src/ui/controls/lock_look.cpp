@@ -7,9 +7,9 @@ namespace quelvarn {
 
 void showLocked(QWidget& field, bool locked)
 {
-    if (field.property("gesperrt").toBool() == locked)
+    if (field.property("locked").toBool() == locked)
         return;
-    field.setProperty("gesperrt", locked);
+    field.setProperty("locked", locked);
     field.setAccessibleDescription(locked ? QStringLiteral("gesperrt") : QString());
     field.style()->unpolish(&field);
     field.style()->polish(&field);

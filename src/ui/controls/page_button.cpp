@@ -40,9 +40,9 @@ PageButton::PageButton(std::string_view name, const QString& text, std::string_v
 
 void PageButton::showActive(bool active)
 {
-    if (property("aktiv").toBool() == active && property("aktiv").isValid())
+    if (property("active").toBool() == active && property("active").isValid())
         return;
-    setProperty("aktiv", active);
+    setProperty("active", active);
     picture_->setIcon(icon(icon_, active ? QPalette::Link : QPalette::PlaceholderText));
     for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(picture_), static_cast<QWidget*>(text_)}) {
         style()->unpolish(part);

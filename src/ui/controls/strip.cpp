@@ -10,8 +10,8 @@ Strip::Strip(Kind kind, const char* name, QWidget* parent) : QFrame(parent), lay
 {
     setObjectName(QLatin1String(name));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setProperty("lage", kind == Kind::StatusRow ? QStringLiteral("unten") : QStringLiteral("oben"));
-    setProperty("art", kind == Kind::Bar ? QStringLiteral("leiste") : QStringLiteral("zeile"));
+    setProperty("place", kind == Kind::StatusRow ? QStringLiteral("bottom") : QStringLiteral("top"));
+    setProperty("kind", kind == Kind::Bar ? QStringLiteral("bar") : QStringLiteral("row"));
     setMinimumHeight(kind == Kind::Bar ? 33 : kind == Kind::HeadingRow ? 28 : 25);
     layoutRow_->setContentsMargins(kind == Kind::Bar ? 4 : 10, 0, kind == Kind::Bar ? 4 : 10, 0);
     layoutRow_->setSpacing(kind == Kind::Bar ? 2 : 8);
@@ -30,21 +30,21 @@ void setRole(QLabel& label, TextRole textRole)
 {
     switch (textRole) {
     case TextRole::Titel:
-        return void(label.setProperty("rolle", QStringLiteral("titel")));
+        return void(label.setProperty("role", QStringLiteral("title")));
     case TextRole::Heading:
-        return void(label.setProperty("rolle", QStringLiteral("kopf")));
+        return void(label.setProperty("role", QStringLiteral("heading")));
     case TextRole::Caption:
-        return void(label.setProperty("rolle", QStringLiteral("beschriftung")));
+        return void(label.setProperty("role", QStringLiteral("caption")));
     case TextRole::Small:
-        return void(label.setProperty("rolle", QStringLiteral("klein")));
+        return void(label.setProperty("role", QStringLiteral("small")));
     }
 }
 
 void showNote(QLabel& label, bool note)
 {
-    if (label.property("hinweis").toBool() == note)
+    if (label.property("note").toBool() == note)
         return;
-    label.setProperty("hinweis", note);
+    label.setProperty("note", note);
     label.style()->unpolish(&label);
     label.style()->polish(&label);
     label.update();
@@ -53,7 +53,7 @@ void showNote(QLabel& label, bool note)
 QFrame* separatorLine()
 {
     auto* line = new QFrame;
-    line->setProperty("rolle", QStringLiteral("linie"));
+    line->setProperty("role", QStringLiteral("line"));
     return line;
 }
 

@@ -13,7 +13,7 @@ ValueField::ValueField(const QString& name) : model_(new ValueModel(this))
     setEditTriggers(NoEditTriggers);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setProperty("rahmen", true);
+    setProperty("framed", true);
     choosesByClick(*this, [this](const QModelIndex& position) {
         if (chosen)
             chosen(std::string(model_->value(position.row()))); // A copy: the pick may fill the list anew.

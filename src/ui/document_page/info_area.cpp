@@ -35,7 +35,7 @@ QString frameName(InfoPageId page)
 QLabel* newWarning(const char* name, const QString& text)
 {
     auto* label = caption(text, TextRole::Caption, QLatin1String(name));
-    label->setProperty("rolle", QStringLiteral("warnung"));
+    label->setProperty("role", QStringLiteral("warning"));
     label->hide();
     return label;
 }
@@ -59,7 +59,7 @@ InfoArea::InfoArea(InfoPanel& model, RelationActions& relationActions, QtViewer&
 
 QWidget* InfoArea::newHeading()
 {
-    auto* heading = new Strip(Strip::Kind::HeadingRow, "KopfInfo");
+    auto* heading = new Strip(Strip::Kind::HeadingRow, "InfoHead");
     heading_->setObjectName(QStringLiteral("LblInfo(0)"));
     setRole(*heading_, TextRole::Heading);
     heading->setMinimumHeight(30); // As high as the tabs beside it.

@@ -69,7 +69,7 @@ QWidget* LeftBarView::newFrmFilterFavo()
     LblFilter_->setPopupMode(QToolButton::MenuButtonPopup);
     LblFilter_->setMenu(favourites_);
     LblFilter_->setMinimumWidth(180);
-    LblFilter_->setProperty("rahmen", true);
+    LblFilter_->setProperty("framed", true);
     connect(LblFilter_, &QToolButton::clicked, this, guardedSlot([this] {
                 const BusyCursor wait;
                 model_.useFavourite();

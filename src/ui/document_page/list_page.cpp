@@ -52,7 +52,7 @@ void ListPage::showWhole(std::string_view field)
     layout_->addLayout(layoutRow);
     sequence([this, whole, field] {
         const Recordset* list = model_.details().list(page_);
-        const bool row = list != nullptr && !list->Bof() && !list->Eof();
+        const bool row = list != nullptr && !list->bof() && !list->eof();
         whole->setText(row ? toQt(list->Text(field)) : QString());
         whole->setVisible(!whole->text().isEmpty());
     });

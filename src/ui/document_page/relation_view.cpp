@@ -131,7 +131,7 @@ QWidget* RelationView::newBar()
     addButton("Zu Favoriten", "Zu Favoriten", "Zu Favoriten hinzufügen.", [this] { actions_.addToFavourites(); });
     addButton("Wechseln zu", "Wechseln zu", names_.tipSwitch, [this] { actions_.goToTable(); });
     bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    bar_->setProperty("schmal", true);
+    bar_->setProperty("narrow", true);
     ChViewGrafik_->setObjectName(QStringLiteral("ChViewGrafik(%1)").arg(names_.graphic));
     connect(ChViewGrafik_, &QCheckBox::clicked, this, guardedSlot([this](bool set) { model_.setGraphic(set); }));
 

@@ -95,7 +95,7 @@ QVariant TreeModel::data(const QModelIndex& position, int textRole) const
     if (textRole == Qt::DisplayRole)
         return toQt(entry->text);
     if (textRole == Qt::ForegroundRole && entry->red)
-        return colourSet().warn;
+        return colourSet().warning;
     if (textRole == Qt::ToolTipRole && entry->red)
         return QStringLiteral("Es gibt eine neuere Revision");
     return {};

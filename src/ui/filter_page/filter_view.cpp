@@ -90,7 +90,7 @@ QWidget* FormSEFiltern::newBar()
         return action;
     };
     auto* filter = add({"Filtern", "Filtern", "Filtern der Tabelle (Strg+Eingabe)", ""});
-    bar.widgetForAction(filter)->setProperty("haupt", true);
+    bar.widgetForAction(filter)->setProperty("primary", true);
     filter->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter), QKeySequence(Qt::Key_F5)});
     auto* back = add({"Zurück", "Zurück", "Filterwerte zurücksetzen", "filter-lift"});
@@ -166,7 +166,7 @@ QWidget* FormSEFiltern::newStatusRow()
     layoutRow.addSpacing(8);
     layoutRow.addWidget(caption(QStringLiteral("Pfadname"), TextRole::Small, QStringLiteral("StatusBarDatei(3)")));
     layoutRow.addWidget(pathName_, 1);
-    progress_->cancel().setProperty("flach", true);
+    progress_->cancel().setProperty("flat", true);
     layoutRow.addWidget(progress_);
     return row;
 }

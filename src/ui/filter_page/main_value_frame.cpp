@@ -37,11 +37,11 @@ QLabel* newCount(const char* name, const QString& ofWhich)
 
 void showName(QRadioButton& button, const QString& name)
 {
-    if (button.property("vollerText").toString() == name)
+    if (button.property("fullText").toString() == name)
         return;
-    button.setProperty("vollerText", name);
-    const QFontMetrics mass = button.fontMetrics();
-    const QString shortText = mass.elidedText(oneLine(name), Qt::ElideRight, mass.averageCharWidth() * NAME_LENGTH);
+    button.setProperty("fullText", name);
+    const QFontMetrics metric = button.fontMetrics();
+    const QString shortText = metric.elidedText(oneLine(name), Qt::ElideRight, metric.averageCharWidth() * NAME_LENGTH);
     button.setText(asCaption(shortText));
     button.setToolTip(shortText == name ? QString() : asTip(name));
     button.setAccessibleName(name);

@@ -33,7 +33,7 @@ RunningFilter::RunningFilter(FilterPage& model)
     buildSteps();
     buildMainValues();
     auto* steps = new QFrame;
-    steps->setProperty("rahmen", true);
+    steps->setProperty("framed", true);
     auto* status = new QHBoxLayout;
     status->setContentsMargins(WIDTH_NUMBER, 0, 0, 0); // Below the names of the steps.
     status->addWidget(DataGridStatus_);
@@ -56,7 +56,7 @@ QWidget* RunningFilter::newHeading()
     heading->layoutRow().setContentsMargins(2, 1, 2, 1);
     CmChangeStar_->setObjectName(QStringLiteral("CmChangeStar"));
     CmChangeStar_->setToolTip(QStringLiteral("Geänderte Werte mit * am Ende in den Filter übernehmen"));
-    CmChangeStar_->setProperty("flach", true);
+    CmChangeStar_->setProperty("flat", true);
     connect(CmChangeStar_, &QPushButton::clicked, this, guardedSlot([this] {
                 takeInput();
                 model_.starsComplete();
@@ -86,7 +86,7 @@ void RunningFilter::buildMainValues()
 {
     DGFilternWerte_->setObjectName(QStringLiteral("DGFilternWerte"));
     DGFilternWerte_->setAccessibleName(QStringLiteral("Grenzen der Hauptwerte"));
-    DGFilternWerte_->setProperty("rahmen", true);
+    DGFilternWerte_->setProperty("framed", true);
     DGFilternWerte_->setModel(mainValues_);
     configureGrid(*DGFilternWerte_);
     DGFilternWerte_->setFixedWidth(WIDTH_MAIN_VALUES);

@@ -72,7 +72,7 @@ QWidget* StructureTab::newTree()
     FrmTreeViemerk_->setObjectName(QStringLiteral("FrmTreeViemerk"));
     TreeViewStrukMerk_->setObjectName(QStringLiteral("TreeViewStrukMerk"));
     TreeViewStrukMerk_->setAccessibleName(QStringLiteral("Strukturmerkmale"));
-    TreeViewStrukMerk_->setProperty("rahmen", true);
+    TreeViewStrukMerk_->setProperty("framed", true);
     TreeViewStrukMerk_->setHeaderHidden(true);
     TreeViewStrukMerk_->setUniformRowHeights(true);
     TreeViewStrukMerk_->setEditTriggers(QAbstractItemView::NoEditTriggers);

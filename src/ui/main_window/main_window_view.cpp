@@ -61,7 +61,7 @@ MDIForm1::MDIForm1(MainWindow& model, const SessionState& session, const Appeara
 QWidget* MDIForm1::newHeading()
 {
     auto* heading = new QFrame;
-    heading->setObjectName(QStringLiteral("Kopf"));
+    heading->setObjectName(QStringLiteral("FrameHead"));
     auto* layoutRow = new QHBoxLayout(heading);
     layoutRow->setContentsMargins(8, 6, 4, 6);
     layoutRow->setSpacing(4);

@@ -43,7 +43,7 @@ void StatusBarUpdate::build(const std::vector<std::string>& texts)
         const bool display = withDisplays && isDisplay(i);
         auto* panel = caption(toQt(texts[i]), TextRole::Small, QStringLiteral("StatusBarUpdate(%1)").arg(i + 1));
         if (display) {
-            panel->setProperty("rolle", QStringLiteral("anzeige"));
+            panel->setProperty("role", QStringLiteral("indicator"));
             panel->setFixedHeight(15);
             panel->setMinimumWidth(32);
             panel->setAlignment(Qt::AlignCenter);
@@ -67,9 +67,9 @@ void StatusBarUpdate::showChanges(const std::array<std::string, 5>& texts)
         QLabel& display = *panels_[position];
         display.setText(toQt(texts[tab]));
         const bool full = !texts[tab].empty();
-        if (display.property("voll").toBool() == full)
+        if (display.property("full").toBool() == full)
             continue;
-        display.setProperty("voll", full);
+        display.setProperty("full", full);
         style()->unpolish(&display);
         style()->polish(&display);
     }

@@ -53,10 +53,10 @@ FileChooser::FileChooser(StartPage& model)
     DirDB_->setHeaderHidden(true);
     DirDB_->setRootIsDecorated(false);
     DirDB_->setItemsExpandable(false);
-    DirDB_->setProperty("rahmen", true);
+    DirDB_->setProperty("framed", true);
     FileDB_->setObjectName(QStringLiteral("FileDB"));
     FileDB_->setAccessibleName(QStringLiteral("Datenbank"));
-    FileDB_->setProperty("rahmen", true);
+    FileDB_->setProperty("framed", true);
     FileDB_->setIconSize({16, 16});
 
     auto* layout = new QGridLayout(this);

@@ -55,7 +55,7 @@ QWidget* FormDB::newBar()
     auto* row = new Strip(Strip::Kind::Bar, "LeisteDB");
     auto* bar = quelvarn::newBar("ToolbarDB", ButtonKind::TextBesideIcon);
     auto* open = addBarButton(*bar, {"Öffnen", "Öffnen", "Öffnen der Datenbank", ""});
-    bar->widgetForAction(open)->setProperty("haupt", true);
+    bar->widgetForAction(open)->setProperty("primary", true);
     open->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
     open->setShortcutContext(Qt::WindowShortcut);
     connect(open, &QAction::triggered, this, guardedSlot([this] {

@@ -57,20 +57,20 @@ QString stylesheet(const ColourSet& colours)
         return {};
     QString text = QString::fromUtf8(file.readAll());
     // A name that begins another one comes after it.
-    const std::array<std::pair<const char*, QColor>, 14> names{{{"@akzentTief", colours.accentDeep},
-                                                                {"@akzentFlaeche", colours.accentArea},
-                                                                {"@akzent", colours.accent},
-                                                                {"@auswahl", colours.selection},
-                                                                {"@flaeche", colours.area},
-                                                                {"@gedaempft", colours.muted},
-                                                                {"@hinweis", colours.tell},
-                                                                {"@inaktiv", colours.inactive},
-                                                                {"@linie", colours.line},
-                                                                {"@rand", colours.margin},
-                                                                {"@streifen", colours.strip},
+    const std::array<std::pair<const char*, QColor>, 14> names{{{"@accentDeep", colours.accentDeep},
+                                                                {"@accentArea", colours.accentArea},
+                                                                {"@accent", colours.accent},
+                                                                {"@selection", colours.selection},
+                                                                {"@area", colours.area},
+                                                                {"@muted", colours.muted},
+                                                                {"@indicator", colours.indicator},
+                                                                {"@inactive", colours.inactive},
+                                                                {"@line", colours.line},
+                                                                {"@outline", colours.outline},
+                                                                {"@strip", colours.strip},
                                                                 {"@text", colours.text},
-                                                                {"@ueberfahren", colours.hovered},
-                                                                {"@warnung", colours.warn}}};
+                                                                {"@hovered", colours.hovered},
+                                                                {"@warning", colours.warning}}};
     for (const auto& [name, colour] : names)
         text.replace(QLatin1String(name), colour.name());
     return text;

@@ -15,7 +15,7 @@ const ColourSet& lightColourSet()
         .strip = QColor(0xF3F4F7),
         .row2 = QColor(0xF8F9FB),
         .line = QColor(0xDCE0E6),
-        .margin = QColor(0xB9C0CB),
+        .outline = QColor(0xB9C0CB),
         .text = QColor(0x1B1F26),
         .muted = QColor(0x5C6675),
         .inactive = QColor(0x9DA5B1),
@@ -24,9 +24,9 @@ const ColourSet& lightColourSet()
         .accentArea = QColor(0xE4EEFD),
         .hovered = QColor(0xEDEFF3),
         .selection = QColor(0xD3E4FC),
-        .warn = QColor(0xB42318),
-        .tell = QColor(0xF5B301),
-        .hintText = QColor(0x1B1F26),
+        .warning = QColor(0xB42318),
+        .indicator = QColor(0xF5B301),
+        .indicatorText = QColor(0x1B1F26),
     };
     return colours;
 }
@@ -39,7 +39,7 @@ const ColourSet& darkColourSet()
         .strip = QColor(0x1F2329),
         .row2 = QColor(0x2A3038),
         .line = QColor(0x3A424D),
-        .margin = QColor(0x566070),
+        .outline = QColor(0x566070),
         .text = QColor(0xE6E9EE),
         .muted = QColor(0xA3ACB9),
         .inactive = QColor(0x6B7583),
@@ -48,9 +48,9 @@ const ColourSet& darkColourSet()
         .accentArea = QColor(0x2A3D5B),
         .hovered = QColor(0x323942),
         .selection = QColor(0x2F4F7D),
-        .warn = QColor(0xFF9B8E),
-        .tell = QColor(0xF5B301),
-        .hintText = QColor(0x1B1F26),
+        .warning = QColor(0xFF9B8E),
+        .indicator = QColor(0xF5B301),
+        .indicatorText = QColor(0x1B1F26),
     };
     return colours;
 }
@@ -70,7 +70,7 @@ QPalette palette(const ColourSet& colours)
     result.setColor(QPalette::Text, colours.text);
     result.setColor(QPalette::Button, colours.dark ? QColor(0x343B45) : QColor(0xF3F4F7));
     result.setColor(QPalette::ButtonText, colours.text);
-    result.setColor(QPalette::BrightText, colours.warn);
+    result.setColor(QPalette::BrightText, colours.warning);
     result.setColor(QPalette::PlaceholderText, colours.muted);
     result.setColor(QPalette::Highlight, colours.selection);
     result.setColor(QPalette::HighlightedText, colours.text);
@@ -78,10 +78,10 @@ QPalette palette(const ColourSet& colours)
     result.setColor(QPalette::LinkVisited, colours.accent);
     result.setColor(QPalette::ToolTipBase, colours.dark ? QColor(0x3A424D) : QColor(0x2A2F38));
     result.setColor(QPalette::ToolTipText, QColor(0xF4F5F7));
-    result.setColor(QPalette::Light, colours.dark ? colours.margin : QColor(0xFFFFFF));
+    result.setColor(QPalette::Light, colours.dark ? colours.outline : QColor(0xFFFFFF));
     result.setColor(QPalette::Midlight, colours.line);
-    result.setColor(QPalette::Mid, colours.margin);
-    result.setColor(QPalette::Dark, colours.margin);
+    result.setColor(QPalette::Mid, colours.outline);
+    result.setColor(QPalette::Dark, colours.outline);
     result.setColor(QPalette::Shadow, colours.dark ? QColor(0x14171B) : QColor(0x8A93A1));
     for (const auto textRole : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         result.setColor(QPalette::Disabled, textRole, colours.inactive);

@@ -9,11 +9,11 @@ namespace quelvarn {
 struct ColourSet
 {
     bool dark;
-    QColor area;   // Pages
-    QColor strip;  // Head lines, column heads, status bars
-    QColor row2;   // Every second row of a grid
-    QColor line;   // Separators
-    QColor margin; // Outlines of fields
+    QColor area;    // Pages
+    QColor strip;   // Head lines, column heads, status bars
+    QColor row2;    // Every second row of a grid
+    QColor line;    // Separators
+    QColor outline; // Outlines of fields
     QColor text;
     QColor muted; // Captions beside values
     QColor inactive;
@@ -22,9 +22,9 @@ struct ColourSet
     QColor accentArea; // Behind the page that is shown, pressed buttons
     QColor hovered;    // Under the mouse
     QColor selection;
-    QColor warn;
-    QColor tell; // Fill of a change indicator
-    QColor hintText;
+    QColor warning;
+    QColor indicator; // Fill of a change indicator
+    QColor indicatorText;
 };
 
 const ColourSet& lightColourSet();

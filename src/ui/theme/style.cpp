@@ -28,9 +28,9 @@ QStyleOptionViewItem ofOneLine(const QStyleOptionViewItem& entry)
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-int ProgramStyle::pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
-    switch (mass) {
+    switch (metric) {
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
     case PM_LayoutLeftMargin:
@@ -52,7 +52,7 @@ int ProgramStyle::pixelMetric(PixelMetric mass, const QStyleOption* option, cons
     case PM_TabBarTabHSpace:
         return 4;
     default:
-        return QProxyStyle::pixelMetric(mass, option, widget);
+        return QProxyStyle::pixelMetric(metric, option, widget);
     }
 }
 
@@ -92,7 +92,7 @@ void drawFrame(QPainter& painter, const QRectF& place, const QStyleOption& optio
     const bool on = option.state.testFlag(QStyle::State_On);
     const bool ready = option.state.testFlag(QStyle::State_Enabled);
     const bool out = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
-    const QColor stroke = !ready ? colours.line : on || out ? colours.accent : colours.margin;
+    const QColor stroke = !ready ? colours.line : on || out ? colours.accent : colours.outline;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(stroke, 1));
     painter.setBrush(!on ? colours.area : ready ? colours.accent : colours.line);
@@ -140,7 +140,7 @@ void drawButton(QPainter& painter, const QStyleOption& option)
     const bool pressed = is(QStyle::State_Sunken) || is(QStyle::State_On);
     const bool out = pressed || defaultValue || is(QStyle::State_HasFocus);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(!is(QStyle::State_Enabled) ? colours.line : out ? colours.accent : colours.margin);
+    painter.setPen(!is(QStyle::State_Enabled) ? colours.line : out ? colours.accent : colours.outline);
     painter.setBrush(pressed                                                    ? colours.accentArea
                      : is(QStyle::State_MouseOver) && is(QStyle::State_Enabled) ? colours.hovered
                                                                                 : colours.strip);
@@ -152,7 +152,7 @@ void drawField(QPainter& painter, const QRect& margin, bool ready, bool focus, c
 {
     const ColourSet& colours = colourSet();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(!ready ? colours.line : focus ? colours.accent : colours.margin);
+    painter.setPen(!ready ? colours.line : focus ? colours.accent : colours.outline);
     painter.setBrush(reason);
     painter.drawRoundedRect(QRectF(margin).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
 }

@@ -10,7 +10,7 @@ class ProgramStyle : public QProxyStyle
 public:
     ProgramStyle();
 
-    int pixelMetric(PixelMetric mass, const QStyleOption* option, const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType kind, const QStyleOption* option, const QSize& content,
                            const QWidget* widget) const override;
     int styleHint(StyleHint ask, const QStyleOption* option, const QWidget* widget,

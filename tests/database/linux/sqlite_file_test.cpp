@@ -62,7 +62,7 @@ protected:
         rows.Open("Select Wort From Tafel", connection_);
         return rows.Text("Wort");
     }
-    void setWord() { connection_.Execute("Update Tafel Set Wort = 'neu'"); }
+    void setWord() { connection_.execute("Update Tafel Set Wort = 'neu'"); }
 
     // The kind of the call's fault, and its text.
     static std::pair<FaultKind, std::string> faultOf(const std::function<void()>& call)
@@ -118,7 +118,7 @@ TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)
         together.commit();
     }
     EXPECT_EQ(word(), "neu") << "nothing was written when the transaction began";
-    connection_.Execute("Update Tafel Set Wort = 'alt'");
+    connection_.execute("Update Tafel Set Wort = 'alt'");
     breakHandles();
     EXPECT_EQ(faultOf([&] { setWord(); }).first, FaultKind::ConnectionLost);
     EXPECT_EQ(word(), "alt");
@@ -126,7 +126,7 @@ TEST_F(SqliteFile, AReadIsRepeatedAChangeNever)
     EXPECT_EQ(word(), "neu");
     {
         Transaction together(connection_);
-        connection_.Execute("Update Tafel Set Wort = 'halb'");
+        connection_.execute("Update Tafel Set Wort = 'halb'");
         breakHandles();
         faultOf([&] { together.commit(); });
     }

@@ -41,7 +41,7 @@ protected:
         fs::copy_file(file, other);
         Connection connection;
         connection.Open(other);
-        connection.Execute(change);
+        connection.execute(change);
         connection.Close();
         fs::rename(other, file);
     }

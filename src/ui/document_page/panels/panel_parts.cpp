@@ -17,7 +17,7 @@ QToolBar* restingBar(std::string_view name, std::initializer_list<BarButton> but
 void setUpPanel(QFrame& panel, const char* name)
 {
     panel.setObjectName(QLatin1String(name));
-    panel.setProperty("rolle", QStringLiteral("panel"));
+    panel.setProperty("role", QStringLiteral("panel"));
     panel.hide();
 }
 

@@ -227,10 +227,10 @@ void SearchPanel::showSearchTexts()
 void SearchPanel::showStep()
 {
     LblFilterStep1_->setText(toQt(model_.filter().LblFilterStep1()));
-    const QString textRole = model_.filter().step() == 1 ? QStringLiteral("warnung") : QStringLiteral("wert");
-    if (LblFilterStep1_->property("rolle").toString() == textRole)
+    const QString textRole = model_.filter().step() == 1 ? QStringLiteral("warning") : QStringLiteral("value");
+    if (LblFilterStep1_->property("role").toString() == textRole)
         return;
-    LblFilterStep1_->setProperty("rolle", textRole);
+    LblFilterStep1_->setProperty("role", textRole);
     LblFilterStep1_->style()->unpolish(LblFilterStep1_);
     LblFilterStep1_->style()->polish(LblFilterStep1_);
 }
