@@ -161,6 +161,8 @@ command_lint() { # [--quick]: without clang-tidy
   mapfile -t files < <(git ls-files '*.cpp' '*.h')
   say "Layering ..."
   python3 scripts/check_layering.py
+  say "Names ..."
+  python3 scripts/check_names.py
   say "Format ..."
   clang-format --dry-run --Werror "${files[@]}"
   [[ "${1:-}" == --quick ]] && return
@@ -236,7 +238,7 @@ usage() {
 ./qv test --windows          build the core for Windows and run its tests under Wine
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
-./qv lint [--quick]          layering, clang-format, clang-tidy
+./qv lint [--quick]          layering, names, clang-format, clang-tidy (not with --quick)
 ./qv fuzz [SECONDS [SEED]]   random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)

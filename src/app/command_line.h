@@ -15,8 +15,4 @@ struct Reply
 // Reads the call before there is a screen. Empty when the program is to start; options of Qt are left to Qt.
 std::optional<Reply> answerTo(int argc, char** argv);
 
-// To whoever called the program: on the terminal, faults on its error output. On Windows in a box when there is no
-// terminal.
-void tellCaller(const Reply& reply);
-
 } // namespace quelvarn

@@ -2,6 +2,7 @@
 #include "app/command_line.h"
 #include "app/end_signals.h"
 #include "app/screen_watch.h"
+#include "app/tell_caller.h"
 #include "platform/system_ports.h"
 #include "session/program_start.h"
 #include "ui/adapters/boxes_qt.h"

@@ -1,6 +1,7 @@
 #include "app/screen_watch.h"
 
 #include "app/command_line.h"
+#include "app/tell_caller.h"
 
 #include <QString>
 

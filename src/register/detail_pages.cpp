@@ -113,7 +113,7 @@ void DetailPages::rowChosen(InfoPageId page, std::size_t position)
     });
 }
 
-void DetailPages::setViewGrafikZusDoku(bool on)
+void DetailPages::setChViewGrafikZusDoku(bool on)
 {
     operations_.perform(Part::Document, "Graphik anzeigen", "Fehler beim Anzeigen der Datei!", [&] {
         viewGraphic_ = on;

@@ -42,7 +42,7 @@ public:
     void setRevisionFilter(RevisionFilter view); // OpRevErstBearb
     void rowChosen(InfoPageId page, std::size_t position);
     void openOrder();                       // CmSendTo
-    void setViewGrafikZusDoku(bool on);     // ChViewGrafikZusDoku
+    void setChViewGrafikZusDoku(bool on);   // ChViewGrafikZusDoku
     void openAdditionalDocument();          // CmStartZusDoku
     void pictureNotLoaded(InfoPageId page); // The picture on this page turned out to be none.
 

@@ -191,7 +191,7 @@ TEST_F(DetailPagesTest, AdditionalDocumentsAreShownAndOpened)
     EXPECT_EQ(details_.LblInfoZusDoku(), state + "   12.345 Byte");
     EXPECT_EQ(details_.graphicAdditionalDocument(), FilePicture());
 
-    details_.setViewGrafikZusDoku(true);
+    details_.setChViewGrafikZusDoku(true);
     EXPECT_EQ(details_.graphicAdditionalDocument().file, "W:\\Zus\\Blatt.tif");
     details_.rowChosen(InfoPageId::ZusDoku, 3);
     EXPECT_EQ(details_.graphicAdditionalDocument().text, "Maß");

@@ -50,7 +50,7 @@ json asStored(const Value& value)
 }
 
 // The real Access file of an office, brought over once for each engine, against the figures of its generator.
-class WerkA : public ::testing::TestWithParam<std::string_view>
+class OfficeSample : public ::testing::TestWithParam<std::string_view>
 {
 protected:
     void SetUp() override
@@ -150,7 +150,7 @@ protected:
     std::string target_;
 };
 
-TEST_P(WerkA, HoldsEveryCellOfTheSource)
+TEST_P(OfficeSample, HoldsEveryCellOfTheSource)
 {
     for (const auto& [table, should] : (*truth_)["tables"].items()) {
         EXPECT_EQ(count(table), should["rows"]) << table;
@@ -163,7 +163,7 @@ TEST_P(WerkA, HoldsEveryCellOfTheSource)
     }
 }
 
-TEST_P(WerkA, CountsStatusesScopesOwnersAndCodesAsTheOfficeDoes)
+TEST_P(OfficeSample, CountsStatusesScopesOwnersAndCodesAsTheOfficeDoes)
 {
     const json& w = *truth_;
     for (const auto& [table, should] : w["tables"].items()) {
@@ -194,7 +194,7 @@ TEST_P(WerkA, CountsStatusesScopesOwnersAndCodesAsTheOfficeDoes)
         EXPECT_EQ(count("CheckInOut", " WHERE ADNutzer = " + code), should) << code;
 }
 
-TEST_P(WerkA, AnswersEveryQueryLikeTheSource)
+TEST_P(OfficeSample, AnswersEveryQueryLikeTheSource)
 {
     for (const json& ask : (*truth_)["queries"]) {
         const std::string number = ask["id"];
@@ -211,7 +211,7 @@ TEST_P(WerkA, AnswersEveryQueryLikeTheSource)
     }
 }
 
-TEST_P(WerkA, FiltersARecordsetLikeTheSource)
+TEST_P(OfficeSample, FiltersARecordsetLikeTheSource)
 {
     Connection connection;
     connection.openAddress(target_);
@@ -235,7 +235,7 @@ TEST_P(WerkA, FiltersARecordsetLikeTheSource)
     }
 }
 
-TEST_P(WerkA, ListsTablesInTheOrderOfTheSource)
+TEST_P(OfficeSample, ListsTablesInTheOrderOfTheSource)
 {
     for (const auto& [table, should] : (*truth_)["table_order"]["tables"].items()) {
         std::vector<json> is =
@@ -246,7 +246,7 @@ TEST_P(WerkA, ListsTablesInTheOrderOfTheSource)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, WerkA, ownEngines, engineName);
+INSTANTIATE_TEST_SUITE_P(Engines, OfficeSample, ownEngines, engineName);
 
 } // namespace
 } // namespace quelvarn::test

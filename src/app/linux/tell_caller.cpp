@@ -1,3 +1,5 @@
+#include "app/tell_caller.h"
+
 #include "app/command_line.h"
 
 #include <cstdio>

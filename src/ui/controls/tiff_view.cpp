@@ -35,7 +35,7 @@ QFuture<PicturePage> loadInBackground(const QString& file, int number, std::func
 
 } // namespace
 
-TiffView::TiffView(const char* name) : area_(new PictureArea), LblSeite_(new QLabel)
+TiffView::TiffView(const char* name) : area_(new PictureArea), pageLabel_(new QLabel)
 {
     setObjectName(QLatin1String(name));
     area_->setObjectName(QLatin1String(name) + QStringLiteral("Flaeche"));
@@ -68,9 +68,9 @@ QToolBar* TiffView::newButtons(const char* name)
     button({"Einpassen", "Einpassen", "Ganze Seite (0)", "fit"}, [this] { area_->fit(); });
     addStretcher(*bar);
     back_ = button({"Seite zurück", "Seite zurück", "Vorige Seite (Bild auf)", "left"}, [this] { turnPage(-1); });
-    LblSeite_->setObjectName(QStringLiteral("LblSeite") + QLatin1String(name));
-    setRole(*LblSeite_, TextRole::Small);
-    pageField_ = bar->addWidget(LblSeite_);
+    pageLabel_->setObjectName(QStringLiteral("LblSeite") + QLatin1String(name));
+    setRole(*pageLabel_, TextRole::Small);
+    pageField_ = bar->addWidget(pageLabel_);
     before_ = button({"Seite vor", "Seite vor", "Nächste Seite (Bild ab)", "right"}, [this] { turnPage(1); });
     return bar;
 }
@@ -114,7 +114,7 @@ void TiffView::loaded()
         action->setVisible(page.count > 1);
     back_->setEnabled(page.number > 0);
     before_->setEnabled(page.number + 1 < page.count);
-    LblSeite_->setText(QStringLiteral("Seite %1 von %2").arg(page.number + 1).arg(page.count));
+    pageLabel_->setText(QStringLiteral("Seite %1 von %2").arg(page.number + 1).arg(page.count));
     area_->display(std::move(page));
 }
 

@@ -44,7 +44,7 @@ private:
     QToolBar* bar_;
     QAction* back_ = nullptr;
     QAction* before_ = nullptr;
-    QLabel* LblSeite_;
+    QLabel* pageLabel_;
     QAction* pageField_ = nullptr;
     QString file_;
     QFutureWatcher<PicturePage> loader_;

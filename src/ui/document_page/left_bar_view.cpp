@@ -34,7 +34,7 @@ constexpr int HEIGHT_VALUES = 120;
 LeftBarView::LeftBarView(LeftBar& model, TableTabs& tabs, const TableHeading& heading)
     : model_(model), tabs_(tabs), heading_(heading), ToolbarSEDok2_(newToolbarSEDok2()),
       FrmSuchenFiltern_(new SearchPanel(model)), FrmFilternDatum_(new DatePanel(model)), favourites_(new QMenu(this)),
-      LblFilter_(new QToolButton), FrmFilterFavo_(newFrmFilterFavo()),
+      LblFilter_(new QToolButton), savedFilterPanel_(newSavedFilterPanel()),
       DataGridFilterEigenMerk_(new ValueTable("DataGridFilterEigenMerk")), FrmInfoFilter_(newFrmInfoFilter()),
       above_(newAbove())
 {
@@ -53,12 +53,12 @@ QWidget* LeftBarView::newAbove()
     auto* layout = new QVBoxLayout(above);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    for (QWidget* panel : std::initializer_list<QWidget*>{FrmSuchenFiltern_, FrmFilternDatum_, FrmFilterFavo_})
+    for (QWidget* panel : std::initializer_list<QWidget*>{FrmSuchenFiltern_, FrmFilternDatum_, savedFilterPanel_})
         layout->addWidget(panel);
     return above;
 }
 
-QWidget* LeftBarView::newFrmFilterFavo()
+QWidget* LeftBarView::newSavedFilterPanel()
 {
     auto* panel = newFramedPanel("FrmFilterFavo");
     favourites_->setObjectName(QStringLiteral("MenuFilternFavo"));
@@ -154,7 +154,7 @@ void LeftBarView::refresh()
 {
     FrmSuchenFiltern_->setVisible(model_.showsSearch());
     FrmFilternDatum_->setVisible(model_.showsDate());
-    FrmFilterFavo_->setVisible(model_.showsFavourite());
+    savedFilterPanel_->setVisible(model_.showsFavourite());
     FrmInfoFilter_->setVisible(model_.showsValues());
     if (model_.showsSearch())
         FrmSuchenFiltern_->refresh();

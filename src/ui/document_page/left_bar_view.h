@@ -33,7 +33,7 @@ public:
 
 private:
     QWidget* newAbove();
-    QWidget* newFrmFilterFavo();
+    QWidget* newSavedFilterPanel();
     QWidget* newFrmInfoFilter();
     void connectButtons();
     void buildShortcuts();
@@ -51,7 +51,7 @@ private:
     DatePanel* FrmFilternDatum_;
     QMenu* favourites_;
     QToolButton* LblFilter_;
-    QWidget* FrmFilterFavo_;
+    QWidget* savedFilterPanel_;
     ValueTable* DataGridFilterEigenMerk_;
     QWidget* FrmInfoFilter_;
     QWidget* above_;

@@ -105,7 +105,7 @@ ListPage* newAdditionalDocumentPage(InfoPanel& model)
     auto* picture = new FilePictureView(model.details());
     auto* graphic = newField<QCheckBox>("ChViewGrafikZusDoku", QStringLiteral("Graphik anzeigen"));
     QObject::connect(graphic, &QCheckBox::clicked, graphic,
-                     guardedSlot([&model](bool on) { model.details().setViewGrafikZusDoku(on); }));
+                     guardedSlot([&model](bool on) { model.details().setChViewGrafikZusDoku(on); }));
     auto* start = newPushButton("CmStartZusDoku", QStringLiteral("Anschauen"),
                                 [&model] { model.details().openAdditionalDocument(); });
     page->setOpen([&model] { model.details().openAdditionalDocument(); });

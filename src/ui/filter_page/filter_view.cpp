@@ -45,7 +45,7 @@ QWidget* newTemplateFrame(QWidget& drawingTemplate)
 } // namespace
 
 FormSEFiltern::FormSEFiltern(FilterPage& model, QWidget& drawingTemplate)
-    : model_(model), LblKopfSEFiltern_(new ShortLabel), LblZugriffSEFiltern_(new ShortLabel),
+    : model_(model), pageHeading_(new ShortLabel), LblZugriffSEFiltern_(new ShortLabel),
       ToolbarSEFilter_(quelvarn::newBar("ToolbarSEFilter", ButtonKind::TextBesideIcon)),
       FrmGesamtFilter_(new QStackedWidget), SSTabDGFilter_(new TabWidget(static_cast<int>(TAB.size()))),
       properties_(new PropertyTab(model)), structure_(new StructureTab(model)), userDefined_(new UserDefinedTab(model)),
@@ -69,13 +69,13 @@ FormSEFiltern::FormSEFiltern(FilterPage& model, QWidget& drawingTemplate)
 QWidget* FormSEFiltern::newHeadingRow()
 {
     auto* row = new Strip(Strip::Kind::HeadingRow, "KopfSEFiltern");
-    LblKopfSEFiltern_->setObjectName(QStringLiteral("LblKopfSEFiltern"));
-    setRole(*LblKopfSEFiltern_, TextRole::Titel);
+    pageHeading_->setObjectName(QStringLiteral("LblKopfSEFiltern"));
+    setRole(*pageHeading_, TextRole::Titel);
     LblZugriffSEFiltern_->setObjectName(QStringLiteral("LblZugriffSEFiltern"));
     LblZugriffSEFiltern_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setRole(*LblZugriffSEFiltern_, TextRole::Small);
     row->layoutRow().setContentsMargins(4, 0, 10, 0);
-    row->layoutRow().addWidget(LblKopfSEFiltern_);
+    row->layoutRow().addWidget(pageHeading_);
     row->layoutRow().addWidget(LblZugriffSEFiltern_, 1);
     return row;
 }
@@ -203,7 +203,7 @@ void FormSEFiltern::showEvent(QShowEvent* event)
 
 void FormSEFiltern::refresh()
 {
-    LblKopfSEFiltern_->setText(toQt(model_.title()));
+    pageHeading_->setText(toQt(model_.title()));
     LblZugriffSEFiltern_->setText(toQt(model_.accessDateText()));
     showBar();
     showTab();

@@ -43,7 +43,7 @@ private:
     void showTab();
 
     FilterPage& model_;
-    ShortLabel* LblKopfSEFiltern_;
+    ShortLabel* pageHeading_;
     ShortLabel* LblZugriffSEFiltern_;
     QToolBar* ToolbarSEFilter_;
     QStackedWidget* FrmGesamtFilter_;

@@ -116,17 +116,17 @@ QWidget* UserDefinedTab::newAdditions()
     grid->setColumnStretch(1, 1);
     for (int i = 0; i < ADDITIONAL_VALUE_COUNT; ++i) {
         const auto position = static_cast<std::size_t>(i);
-        LblEigenZus_[position] = caption({}, TextRole::Caption);
-        LblAnzZus_[position] = newCount({});
+        additionalLabels_[position] = caption({}, TextRole::Caption);
+        additionalCounts_[position] = newCount({});
         CbEigenBenutzDef_[position] = new ValueCombo(QStringLiteral("CbEigenBenutzDef(%1)").arg(i));
         CbEigenBenutzDef_[position]->chosen = [this, i](const std::string& value) {
             userDefined_.additionChosen(i, value);
             refresh();
         };
-        LblEigenZus_[position]->setBuddy(CbEigenBenutzDef_[position]);
-        grid->addWidget(LblEigenZus_[position], i, 0);
+        additionalLabels_[position]->setBuddy(CbEigenBenutzDef_[position]);
+        grid->addWidget(additionalLabels_[position], i, 0);
         grid->addWidget(CbEigenBenutzDef_[position], i, 1);
-        grid->addWidget(LblAnzZus_[position], i, 2);
+        grid->addWidget(additionalCounts_[position], i, 2);
     }
     return frame;
 }
@@ -151,11 +151,11 @@ void UserDefinedTab::showAdditions()
     for (int i = 0; i < ADDITIONAL_VALUE_COUNT; ++i) {
         const auto position = static_cast<std::size_t>(i);
         const QString text = toQt(model_.properties().label(PROPERTIES[position]));
-        LblEigenZus_[position]->setText(text);
+        additionalLabels_[position]->setText(text);
         CbEigenBenutzDef_[position]->setAccessibleName(text);
         CbEigenBenutzDef_[position]->display(userDefined_.addition(i).values);
         CbEigenBenutzDef_[position]->showChosen(additionalValue(model_.context().state(), position));
-        LblAnzZus_[position]->setText(toQt(userDefined_.addition(i).count));
+        additionalCounts_[position]->setText(toQt(userDefined_.addition(i).count));
     }
 }
 

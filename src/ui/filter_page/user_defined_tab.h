@@ -42,8 +42,8 @@ private:
     ShortLabel* LblNaemWert_;
     QCheckBox* ChReceiver_;
     ValueField* DLstBenutzDefWert_;
-    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> LblEigenZus_{};
-    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> LblAnzZus_{};
+    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> additionalLabels_{};
+    std::array<QLabel*, ADDITIONAL_VALUE_COUNT> additionalCounts_{};
     std::array<ValueCombo*, ADDITIONAL_VALUE_COUNT> CbEigenBenutzDef_{};
 };
 

@@ -20,11 +20,11 @@ namespace quelvarn {
 
 DatePanel::DatePanel(LeftBar& model)
     : model_(model), OpErstAend_(new QButtonGroup(this)), ChAnwender_(newChAnwender()), SliderTage_(newSliderTage()),
-      LblTage_(caption({}, TextRole::Caption, QStringLiteral("LblTage"))),
+      dayCount_(caption({}, TextRole::Caption, QStringLiteral("LblTage"))),
       LblZeitRaum_(caption({}, TextRole::Heading, QStringLiteral("LblZeitRaum")))
 {
     setUpPanel(*this, "FrmFilternDatum");
-    LblTage_->setMinimumWidth(LblTage_->fontMetrics().horizontalAdvance(QStringLiteral("365 Tage")));
+    dayCount_->setMinimumWidth(dayCount_->fontMetrics().horizontalAdvance(QStringLiteral("365 Tage")));
     auto* above = new QHBoxLayout;
     above->addWidget(newFrmErstAend());
     above->addSpacing(12);
@@ -37,7 +37,7 @@ DatePanel::DatePanel(LeftBar& model)
         newButton("CmNeu", QStringLiteral("&Zurückliegende Tage"), [this] { model_.filter().lastDays(); }));
     below->addSpacing(4);
     below->addWidget(SliderTage_, 1);
-    below->addWidget(LblTage_);
+    below->addWidget(dayCount_);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->setSpacing(6);
@@ -97,8 +97,8 @@ void DatePanel::refresh()
     ChAnwender_->setChecked(filter.ChAnwender());
     const QSignalBlocker still(SliderTage_);
     SliderTage_->setValue(filter.SliderTage());
-    LblTage_->setText(filter.SliderTage() == 1 ? QStringLiteral("1 Tag")
-                                               : QStringLiteral("%1 Tage").arg(filter.SliderTage()));
+    dayCount_->setText(filter.SliderTage() == 1 ? QStringLiteral("1 Tag")
+                                                : QStringLiteral("%1 Tage").arg(filter.SliderTage()));
     LblZeitRaum_->setText(toQt(filter.LblZeitRaum()));
 }
 

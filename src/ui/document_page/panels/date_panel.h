@@ -31,7 +31,7 @@ private:
     QButtonGroup* OpErstAend_;
     QCheckBox* ChAnwender_;
     QSlider* SliderTage_;
-    QLabel* LblTage_;
+    QLabel* dayCount_;
     QLabel* LblZeitRaum_;
 };
 
