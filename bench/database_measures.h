@@ -7,6 +7,6 @@
 namespace quelvarn::bench {
 
 // Opening, filtering, searching and moving in a recordset over the PartTabelle of this register.
-void measureDatabase(Measurements& layoutRow, const std::filesystem::path& file);
+void measureDatabase(Measurements& series, const std::filesystem::path& file);
 
 } // namespace quelvarn::bench

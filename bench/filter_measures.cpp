@@ -33,7 +33,7 @@ constexpr const char* KEY_OF_THE_PEER =
 
 } // namespace
 
-void measureFilterPage(Measurements& layoutRow, const std::filesystem::path& file)
+void measureFilterPage(Measurements& series, const std::filesystem::path& file)
 {
     Connection connection;
     connection.Open(file);
@@ -45,13 +45,13 @@ void measureFilterPage(Measurements& layoutRow, const std::filesystem::path& fil
     const Work peer{[&] { listed = sqlite.listAll(KEY_OF_THE_PEER); }, [] {}, RUNS_UNREAD};
     const Work unread{filter, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD};
 
-    layoutRow.limit("five filter steps, no column read", 1500, unread);
-    layoutRow.compare("five filter steps, no column read", std::nullopt, unread, "SELECT rowid ... WHERE", peer);
+    series.limit("five filter steps, no column read", 1500, unread);
+    series.compare("five filter steps, no column read", std::nullopt, unread, "SELECT rowid ... WHERE", peer);
     if (rs.RecordCount() != listed || listed == 0)
         throw std::runtime_error("the filter steps and the peer find different rows");
-    layoutRow.limit("five filter steps, columns read", 30, {filter, [&] { rs.Filter(""); }});
-    layoutRow.compare("five filter steps, columns read", layoutRow.atMany(0.1),
-                      {filter, [&] { rs.Filter(""); }, RUNS_UNREAD}, "SELECT rowid ... WHERE", peer);
+    series.limit("five filter steps, columns read", 30, {filter, [&] { rs.Filter(""); }});
+    series.compare("five filter steps, columns read", series.atMany(0.1), {filter, [&] { rs.Filter(""); }, RUNS_UNREAD},
+                   "SELECT rowid ... WHERE", peer);
 }
 
 } // namespace quelvarn::bench

@@ -80,27 +80,27 @@ Order readOrder(int count, char** arguments)
     return order;
 }
 
-void measureCore(Measurements& layoutRow, const Order& order)
+void measureCore(Measurements& series, const Order& order)
 {
 #ifdef QUELVARN_BENCH_ACCESS
     const auto access = order.access.empty() ? std::filesystem::path(QUELVARN_TEST_DATA) / "werk-a.mdb" : order.access;
     if (std::filesystem::exists(access))
-        measureImport(layoutRow, access);
+        measureImport(series, access);
 #endif
-    measureDatabase(layoutRow, order.database);
-    measureFilterPage(layoutRow, order.database);
-    measureUserDef(layoutRow, order.database);
-    measureRelation(layoutRow, order.database);
-    measureLists(layoutRow, order.database);
+    measureDatabase(series, order.database);
+    measureFilterPage(series, order.database);
+    measureUserDef(series, order.database);
+    measureRelation(series, order.database);
+    measureLists(series, order.database);
 }
 
-void measure(Measurements& layoutRow, const Order& order)
+void measure(Measurements& series, const Order& order)
 {
     if (order.core)
-        measureCore(layoutRow, order);
+        measureCore(series, order);
 #ifdef QUELVARN_BENCH_UI
     if (order.program)
-        measureWindow(layoutRow, order.database, order.qtRuns);
+        measureWindow(series, order.database, order.qtRuns);
 #endif
 }
 
@@ -112,12 +112,12 @@ int main(int count, char** arguments)
     try {
         const Order order = readOrder(count, arguments);
         prepareRegister(order.database, order.documents);
-        Measurements layoutRow(order.runs, order.documents >= DOCUMENTS_OF_BOUNDS);
-        measure(layoutRow, order);
-        showTable(layoutRow.measurements());
+        Measurements series(order.runs, order.documents >= DOCUMENTS_OF_BOUNDS);
+        measure(series, order);
+        showTable(series.measurements());
         if (!order.json.empty())
-            writeJson(order.json, layoutRow.measurements());
-        const bool held = std::all_of(layoutRow.measurements().begin(), layoutRow.measurements().end(),
+            writeJson(order.json, series.measurements());
+        const bool held = std::all_of(series.measurements().begin(), series.measurements().end(),
                                       [](const Measurement& measurement) { return measurement.held(); });
         return held ? 0 : 1;
     } catch (const std::exception& fault) {

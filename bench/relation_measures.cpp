@@ -72,19 +72,19 @@ void askTree(Connection& connection, const std::string& path)
         hasRelation(connection, relationKindOf(page), part, path);
 }
 
-void measureList(Measurements& layoutRow, const char* name, double limitMs, const std::function<std::size_t()>& ours,
+void measureList(Measurements& series, const char* name, double limitMs, const std::function<std::size_t()>& ours,
                  BareSqlite& sqlite, const std::function<std::string()>& sql)
 {
     if (ours() != sqlite.listAll(sql()))
         throw std::runtime_error(std::string("another number of rows: ") + name);
     const Work list{[&] { ours(); }, [] {}, RUNS};
-    layoutRow.limit(name, limitMs, list);
-    layoutRow.compare(name, std::nullopt, list, "the same SELECT", {[&] { sqlite.listAll(sql()); }, [] {}, RUNS});
+    series.limit(name, limitMs, list);
+    series.compare(name, std::nullopt, list, "the same SELECT", {[&] { sqlite.listAll(sql()); }, [] {}, RUNS});
 }
 
 } // namespace
 
-void measureRelation(Measurements& layoutRow, const std::filesystem::path& file)
+void measureRelation(Measurements& series, const std::filesystem::path& file)
 {
     BareSqlite register_(file);
     const std::size_t parts = partCount(register_);
@@ -99,14 +99,13 @@ void measureRelation(Measurements& layoutRow, const std::filesystem::path& file)
         number = (number + 314'159) % parts;
         return SampleDocument(DOCUMENT_TYPES[0], number).path();
     };
-    layoutRow.limit("link tables: questions of a row's tree", 2,
-                    {[&] { askTree(connection, nextPath()); }, [] {}, RUNS});
+    series.limit("link tables: questions of a row's tree", 2, {[&] { askTree(connection, nextPath()); }, [] {}, RUNS});
 
     DokuRecord part;
     part.DokuArt = 1;
     const std::string path = nextPath();
     measureList(
-        layoutRow, "link tables: a part in assemblies, listed", 5,
+        series, "link tables: a part in assemblies, listed", 5,
         [&] { return relationRows(connection, relationKindOf(InfoPageId::InAssembly), part, path).RecordCount(); },
         sqlite,
         [&] {
@@ -118,7 +117,7 @@ void measureRelation(Measurements& layoutRow, const std::filesystem::path& file)
     assembly.DokuBez = LARGE;
     assembly.RevBez = "A";
     measureList(
-        layoutRow, "link tables: 2,000 components, listed", 50,
+        series, "link tables: 2,000 components, listed", 50,
         [&] { return relationRows(connection, relationKindOf(InfoPageId::ConsistsOf), assembly, "").RecordCount(); },
         sqlite,
         [] {

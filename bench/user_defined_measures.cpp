@@ -68,7 +68,7 @@ void set(TypeFilter& state, const TestCase& testCase)
     }
 }
 
-void measureCase(Measurements& layoutRow, FilterContext& context, BareSqlite& sqlite, const TestCase& testCase)
+void measureCase(Measurements& series, FilterContext& context, BareSqlite& sqlite, const TestCase& testCase)
 {
     set(context.state(), testCase);
     const std::string peer = fmt::format("SELECT COUNT(*) FROM PartTabelle AS d JOIN (SELECT DokuBez, RevBez FROM {} "
@@ -78,9 +78,9 @@ void measureCase(Measurements& layoutRow, FilterContext& context, BareSqlite& sq
     std::int64_t counted = 0;
     std::optional<Recordset> result;
     const Work ours{[&] { result = ApplyBenutzDefFilter(context); }, [] {}, RUNS};
-    layoutRow.limit(testCase.name, testCase.limitMs, ours);
-    layoutRow.compare(testCase.name, std::nullopt, ours, "GROUP BY ... HAVING",
-                      {[&] { counted = sqlite.number(peer); }, [] {}, 1});
+    series.limit(testCase.name, testCase.limitMs, ours);
+    series.compare(testCase.name, std::nullopt, ours, "GROUP BY ... HAVING",
+                   {[&] { counted = sqlite.number(peer); }, [] {}, 1});
     const auto found = static_cast<std::int64_t>(result ? result->RecordCount() : 0);
     if (found != counted || found == 0)
         throw std::runtime_error("the user-defined filter and the peer find different documents");
@@ -88,7 +88,7 @@ void measureCase(Measurements& layoutRow, FilterContext& context, BareSqlite& sq
 
 } // namespace
 
-void measureUserDef(Measurements& layoutRow, const std::filesystem::path& file)
+void measureUserDef(Measurements& series, const std::filesystem::path& file)
 {
     SessionState session;
     session.database.connection.Open(file);
@@ -104,15 +104,14 @@ void measureUserDef(Measurements& layoutRow, const std::filesystem::path& file)
     DocumentTables tables(session, operations);
     FilterContext context{session, operations, filter, tables};
     for (const TestCase& testCase : CASES)
-        measureCase(layoutRow, context, sqlite, testCase);
+        measureCase(series, context, sqlite, testCase);
 
     LongWork work(display, "");
-    layoutRow.limit("user-defined names", 300,
-                    {[&] { readNames(session.database.connection, TABLE, ""); }, [] {}, RUNS});
-    layoutRow.limit("user-defined values of a name", 300,
-                    {[&] { readValues(session.database.connection, TABLE, "Gewicht"); }, [] {}, RUNS});
-    layoutRow.limit("user-defined, four additional lists", 5000,
-                    {[&] { readAdditions(session.database.connection, TABLE, 0, work); }, [] {}, RUNS});
+    series.limit("user-defined names", 300, {[&] { readNames(session.database.connection, TABLE, ""); }, [] {}, RUNS});
+    series.limit("user-defined values of a name", 300,
+                 {[&] { readValues(session.database.connection, TABLE, "Gewicht"); }, [] {}, RUNS});
+    series.limit("user-defined, four additional lists", 5000,
+                 {[&] { readAdditions(session.database.connection, TABLE, 0, work); }, [] {}, RUNS});
 }
 
 } // namespace quelvarn::bench

@@ -7,6 +7,6 @@
 namespace quelvarn::bench {
 
 // The filter for user-defined properties and its lists, over five properties of each part.
-void measureUserDef(Measurements& layoutRow, const std::filesystem::path& file);
+void measureUserDef(Measurements& series, const std::filesystem::path& file);
 
 } // namespace quelvarn::bench

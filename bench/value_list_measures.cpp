@@ -49,22 +49,22 @@ std::size_t countLists(BareSqlite& sqlite)
     return values;
 }
 
-void measureTwelveLists(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
+void measureTwelveLists(Measurements& series, Connection& connection, BareSqlite& sqlite)
 {
     Recordset rs;
     std::size_t ours = 0;
     std::size_t other = 0;
     const Work peer{[&] { other = countLists(sqlite); }, [] {}, RUNS_UNREAD};
     const Work unread{[&] { ours = countLists(rs, ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD};
-    layoutRow.limit("twelve lists, no column read", 2000, unread);
-    layoutRow.compare("twelve lists, no column read", std::nullopt, unread, "12 SELECT DISTINCT", peer);
+    series.limit("twelve lists, no column read", 2000, unread);
+    series.compare("twelve lists, no column read", std::nullopt, unread, "12 SELECT DISTINCT", peer);
     require(ours > 0 && ours == other, "the lists and the peer hold different values");
-    layoutRow.limit("twelve lists, columns read", 100, {[&] { countLists(rs, ""); }});
-    layoutRow.limit("twelve lists, columns read, under a filter", 100,
-                    {[&] { countLists(rs, "Titel LIKE 'Welle%' AND ( Status >= 1  AND Status <= 3)"); }});
+    series.limit("twelve lists, columns read", 100, {[&] { countLists(rs, ""); }});
+    series.limit("twelve lists, columns read, under a filter", 100,
+                 {[&] { countLists(rs, "Titel LIKE 'Welle%' AND ( Status >= 1  AND Status <= 3)"); }});
 }
 
-void measureTree(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
+void measureTree(Measurements& series, Connection& connection, BareSqlite& sqlite)
 {
     const std::string branch = "Hauptmerkmal_C = 'Welle 1'";
     const std::vector<std::string> features{"Hauptmerkmal_C", "Hauptmerkmal_D", "Hauptmerkmal_E", "Hauptmerkmal_F",
@@ -76,20 +76,20 @@ void measureTree(Measurements& layoutRow, Connection& connection, BareSqlite& sq
         const auto rows = choose(rs, condition);
         ours = distinctTexts(rs, column, *rows, [](std::string_view text) { return !text.empty(); }).size();
     };
-    layoutRow.limit("first level of the tree, no column read", 1000,
-                    {[&] { level("Hauptmerkmal_C", ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
-    layoutRow.limit("reading the columns of the tree", 1500,
-                    {[&] { loadColumns(rs, features); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
-    layoutRow.limit("first level of the tree", 30, {[&] { level("Hauptmerkmal_C", ""); }});
-    layoutRow.compare("second level of the tree", std::nullopt, {[&] { level("Hauptmerkmal_D", branch); }},
-                      "SELECT DISTINCT, by the index",
-                      {[&] { other = countDistinct(sqlite, "Hauptmerkmal_D", branch + " AND "); }});
+    series.limit("first level of the tree, no column read", 1000,
+                 {[&] { level("Hauptmerkmal_C", ""); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
+    series.limit("reading the columns of the tree", 1500,
+                 {[&] { loadColumns(rs, features); }, [&] { rs.Open(LIST, connection); }, RUNS_UNREAD});
+    series.limit("first level of the tree", 30, {[&] { level("Hauptmerkmal_C", ""); }});
+    series.compare("second level of the tree", std::nullopt, {[&] { level("Hauptmerkmal_D", branch); }},
+                   "SELECT DISTINCT, by the index",
+                   {[&] { other = countDistinct(sqlite, "Hauptmerkmal_D", branch + " AND "); }});
     require(ours > 0 && ours == other, "the level and the peer hold different values");
-    layoutRow.limit("second level of the tree", 30, {[&] { level("Hauptmerkmal_D", branch); }});
+    series.limit("second level of the tree", 30, {[&] { level("Hauptmerkmal_D", branch); }});
 }
 
 // Where every text differs, and nothing is found: the worst a key press can meet.
-void measureKeyPress(Measurements& layoutRow, Connection& connection, BareSqlite& sqlite)
+void measureKeyPress(Measurements& series, Connection& connection, BareSqlite& sqlite)
 {
     Recordset rs;
     rs.Open(LIST, connection);
@@ -107,29 +107,29 @@ void measureKeyPress(Measurements& layoutRow, Connection& connection, BareSqlite
     };
     for (const auto& [name, criterion] : searches) {
         rs.Find(criterion);
-        layoutRow.limit(name, 16, {search(criterion)});
+        series.limit(name, 16, {search(criterion)});
     }
     require(rs.eof(), "what is not there was found");
-    layoutRow.compare("key press, filename, anywhere, not there", std::nullopt, {search("filename LIKE '%9-9-9%'")},
-                      "SELECT ... LIKE",
-                      {[&] {
-                           require(sqlite.listAll("SELECT rowid FROM PartTabelle WHERE filename LIKE '%9-9-9%'") == 0,
-                                   "the peer finds what is not there");
-                       },
-                       [] {}, RUNS_UNREAD});
+    series.compare("key press, filename, anywhere, not there", std::nullopt, {search("filename LIKE '%9-9-9%'")},
+                   "SELECT ... LIKE",
+                   {[&] {
+                        require(sqlite.listAll("SELECT rowid FROM PartTabelle WHERE filename LIKE '%9-9-9%'") == 0,
+                                "the peer finds what is not there");
+                    },
+                    [] {}, RUNS_UNREAD});
 }
 
 } // namespace
 
-void measureLists(Measurements& layoutRow, const std::filesystem::path& file)
+void measureLists(Measurements& series, const std::filesystem::path& file)
 {
     Connection connection;
     connection.Open(file);
     BareSqlite sqlite(file);
-    measureTwelveLists(layoutRow, connection, sqlite);
+    measureTwelveLists(series, connection, sqlite);
     BareSqlite plain(preparePlainCopy(file));
-    measureTree(layoutRow, connection, plain);
-    measureKeyPress(layoutRow, connection, sqlite);
+    measureTree(series, connection, plain);
+    measureKeyPress(series, connection, sqlite);
 }
 
 } // namespace quelvarn::bench

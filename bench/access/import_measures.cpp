@@ -93,18 +93,17 @@ void write(const std::vector<Table>& tables, const fs::path& file)
 
 } // namespace
 
-void measureImport(Measurements& layoutRow, const fs::path& accessFile)
+void measureImport(Measurements& series, const fs::path& accessFile)
 {
     const MeasureFolder folder;
     const fs::path target = folder / "import.qv";
     importFile(accessFile, target);
     const std::vector<Table> tables = liesRegister(target);
     std::size_t bytes = 0;
-    layoutRow.compare("qvadmin import", 3.0, {[&] { importFile(accessFile, target); }}, "libmdb read + bulk insert",
-                      {[&] {
-                          bytes += readAllCells(accessFile);
-                          write(tables, folder / "peer.qv");
-                      }});
+    series.compare("qvadmin import", 3.0, {[&] { importFile(accessFile, target); }}, "libmdb read + bulk insert", {[&] {
+                       bytes += readAllCells(accessFile);
+                       write(tables, folder / "peer.qv");
+                   }});
     if (bytes == 0)
         throw std::runtime_error("libmdb reads nothing");
 }

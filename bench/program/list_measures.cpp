@@ -28,9 +28,9 @@ double taken() // MB
 class ListComparison
 {
 public:
-    ListComparison(Measurements& layoutRow, const std::filesystem::path& file, const std::filesystem::path& copy,
+    ListComparison(Measurements& series, const std::filesystem::path& file, const std::filesystem::path& copy,
                    int qtRuns)
-        : layoutRow_(layoutRow), ours_(file), other_(copy), qtRuns_(qtRuns)
+        : layoutRow_(series), ours_(file), other_(copy), qtRuns_(qtRuns)
     {}
 
     void measure()
@@ -111,13 +111,13 @@ bool memorySuffices(std::int64_t documents)
 
 } // namespace
 
-void measureLists(Measurements& layoutRow, const std::filesystem::path& file, int qtRuns)
+void measureLists(Measurements& series, const std::filesystem::path& file, int qtRuns)
 {
     if (!QtList::existsIn() || !memorySuffices(BareSqlite(file).number("SELECT COUNT(*) FROM PartTabelle"))) {
         fmt::print("without the peer of ready-made parts: its driver or memory for it is missing\n");
         return;
     }
-    ListComparison(layoutRow, file, preparePlainCopy(file), qtRuns).measure();
+    ListComparison(series, file, preparePlainCopy(file), qtRuns).measure();
 }
 
 } // namespace quelvarn::bench

@@ -47,31 +47,31 @@ private:
     std::size_t position_ = 0;
 };
 
-void measureOpen(Measurements& layoutRow, RunningProgram& program, const std::filesystem::path& file)
+void measureOpen(Measurements& series, RunningProgram& program, const std::filesystem::path& file)
 {
     BareSqlite sqlite(file);
-    layoutRow.compare(
-        "program: open a table, rows painted", layoutRow.atMany(1.5),
-        {[&] {
-             program.click("ImgSEDoku");
-             PaintWatch(program.grid(PARTS)).wait();
-         },
-         [&] { program.showStartPage(); }},
-        "sqlite3_step, same order",
-        {[&] { sqlite.listAll("SELECT rowid, DokuBez, RevBez FROM PartTabelle ORDER BY DokuBez, RevBez DESC"); }});
+    series.compare("program: open a table, rows painted", series.atMany(1.5),
+                   {[&] {
+                        program.click("ImgSEDoku");
+                        PaintWatch(program.grid(PARTS)).wait();
+                    },
+                    [&] { program.showStartPage(); }},
+                   "sqlite3_step, same order", {[&] {
+                       sqlite.listAll("SELECT rowid, DokuBez, RevBez FROM PartTabelle ORDER BY DokuBez, RevBez DESC");
+                   }});
 }
 
-void measureTabChange(Measurements& layoutRow, RunningProgram& program)
+void measureTabChange(Measurements& series, RunningProgram& program)
 {
     const auto showTab = [&](int tab) {
         program.press(Qt::Key_1 + tab, Qt::ControlModifier);
         PaintWatch(program.grid(tab)).wait();
     };
-    layoutRow.limit("program: tab switch back, painted", 20,
-                    {[&] { showTab(PARTS); }, [&] { showTab(PARTS + 1); }, TAB_CHANGE});
+    series.limit("program: tab switch back, painted", 20,
+                 {[&] { showTab(PARTS); }, [&] { showTab(PARTS + 1); }, TAB_CHANGE});
 }
 
-void measureRowChange(Measurements& layoutRow, RunningProgram& program, RowWay& route, bool node)
+void measureRowChange(Measurements& series, RunningProgram& program, RowWay& route, bool node)
 {
     const std::string at = node ? "Knoten on" : "Knoten off";
     program.session().Tree.Node = node;
@@ -88,30 +88,30 @@ void measureRowChange(Measurements& layoutRow, RunningProgram& program, RowWay& 
     };
     target = route.any();
     toRow();
-    layoutRow.limit("program: next row by key, painted, " + at, 5,
-                    {[&] {
-                         program.press(Qt::Key_Down);
-                         slotGuard.wait();
-                     },
-                     [&] {
-                         check();
-                         target = route.next();
-                     },
-                     ROW_CHANGE});
+    series.limit("program: next row by key, painted, " + at, 5,
+                 {[&] {
+                      program.press(Qt::Key_Down);
+                      slotGuard.wait();
+                  },
+                  [&] {
+                      check();
+                      target = route.next();
+                  },
+                  ROW_CHANGE});
     check();
-    layoutRow.limit("program: row anywhere, painted, " + at, 5, {toRow, [&] { target = route.any(); }, ROW_CHANGE});
+    series.limit("program: row anywhere, painted, " + at, 5, {toRow, [&] { target = route.any(); }, ROW_CHANGE});
 }
 
 } // namespace
 
-void measureProgram(Measurements& layoutRow, const std::filesystem::path& file)
+void measureProgram(Measurements& series, const std::filesystem::path& file)
 {
     RunningProgram program(file);
-    measureOpen(layoutRow, program, file);
-    measureTabChange(layoutRow, program);
+    measureOpen(series, program, file);
+    measureTabChange(series, program);
     RowWay route(program, file);
     for (const bool node : {true, false})
-        measureRowChange(layoutRow, program, route, node);
+        measureRowChange(series, program, route, node);
 }
 
 } // namespace quelvarn::bench

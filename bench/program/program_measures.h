@@ -7,6 +7,6 @@
 namespace quelvarn::bench {
 
 // Opening, tabs and rows of the program itself, from the gesture to the painted window. Needs a QApplication.
-void measureProgram(Measurements& layoutRow, const std::filesystem::path& file);
+void measureProgram(Measurements& series, const std::filesystem::path& file);
 
 } // namespace quelvarn::bench

@@ -8,7 +8,7 @@
 
 namespace quelvarn::bench {
 
-void measureWindow(Measurements& layoutRow, const std::filesystem::path& file, int qtRuns)
+void measureWindow(Measurements& series, const std::filesystem::path& file, int qtRuns)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -16,9 +16,9 @@ void measureWindow(Measurements& layoutRow, const std::filesystem::path& file, i
     char* arguments[] = {name, nullptr};
     int count = 1;
     const QApplication application(count, arguments);
-    measureProgram(layoutRow, file);
+    measureProgram(series, file);
     if (qtRuns > 0)
-        measureLists(layoutRow, file, qtRuns);
+        measureLists(series, file, qtRuns);
 }
 
 } // namespace quelvarn::bench

@@ -7,6 +7,6 @@
 namespace quelvarn::bench {
 
 // The measures of the windows, drawn without a screen, with so many runs of the ready-made Qt table (0: none).
-void measureWindow(Measurements& layoutRow, const std::filesystem::path& file, int qtRuns);
+void measureWindow(Measurements& series, const std::filesystem::path& file, int qtRuns);
 
 } // namespace quelvarn::bench

@@ -44,14 +44,13 @@ std::vector<std::int64_t> TextColumn::rankValues() const
     std::vector<std::string> key(texts_.count());
     for (TextCode code = 1; code < key.size(); ++code)
         key[code] = sortKey(texts_.text(code));
-    std::vector<TextCode> layoutRow(texts_.count());
-    std::iota(layoutRow.begin(), layoutRow.end(), TextCode{0});
-    std::sort(layoutRow.begin() + 1, layoutRow.end(),
-              [&](TextCode left, TextCode right) { return key[left] < key[right]; });
-    std::vector<std::int64_t> rank(layoutRow.size(), 0);
-    for (std::size_t i = 1; i < layoutRow.size(); ++i) {
-        const bool equal = i > 1 && key[layoutRow[i]] == key[layoutRow[i - 1]];
-        rank[layoutRow[i]] = equal ? rank[layoutRow[i - 1]] : static_cast<std::int64_t>(i);
+    std::vector<TextCode> ranked(texts_.count());
+    std::iota(ranked.begin(), ranked.end(), TextCode{0});
+    std::sort(ranked.begin() + 1, ranked.end(), [&](TextCode left, TextCode right) { return key[left] < key[right]; });
+    std::vector<std::int64_t> rank(ranked.size(), 0);
+    for (std::size_t i = 1; i < ranked.size(); ++i) {
+        const bool equal = i > 1 && key[ranked[i]] == key[ranked[i - 1]];
+        rank[ranked[i]] = equal ? rank[ranked[i - 1]] : static_cast<std::int64_t>(i);
     }
     std::vector<std::int64_t> values(codes_.size());
     std::transform(codes_.begin(), codes_.end(), values.begin(), [&](TextCode code) { return rank[code]; });

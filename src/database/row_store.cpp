@@ -89,12 +89,12 @@ void RowStore::rearrange()
     std::vector<SortField> fields;
     for (const sql::Sort& sort : query_.orderBy)
         fields.push_back({fieldOf(sort.column), sort.descending});
-    std::vector<RowNumber> layoutRow(count_);
-    std::iota(layoutRow.begin(), layoutRow.end(), RowNumber{0});
-    sort(layoutRow, fields, [&](std::size_t field) -> const Column& { return column(field); });
+    std::vector<RowNumber> ranked(count_);
+    std::iota(ranked.begin(), ranked.end(), RowNumber{0});
+    sort(ranked, fields, [&](std::size_t field) -> const Column& { return column(field); });
     for (auto& old : columns_) {
         auto fresh = newColumn(old->type());
-        for (const RowNumber row : layoutRow)
+        for (const RowNumber row : ranked)
             fresh->append(old->value(row));
         old = std::move(fresh);
     }

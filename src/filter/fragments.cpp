@@ -132,14 +132,14 @@ std::string GeaendertSqlFragment(std::string_view Date, int code)
     return DateFragment("Geaendert", Date, code, DateOrder::MonthFirst);
 }
 
-std::string mainValueFragments(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds, bool hinterFilter)
+std::string mainValueFragments(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds, bool behindFilter)
 {
     const auto number = [](Decimal value) { return replaceAll(value.text(), ",", "."); };
     std::string text;
     for (std::size_t i = 0; i < bounds.size(); ++i) {
         if (!bounds[i].set())
             continue;
-        text += hinterFilter || !text.empty() ? " AND " : "";
+        text += behindFilter || !text.empty() ? " AND " : "";
         text += fmt::format("{0} >= {1} AND {0} <= {2}", mainValueColumn(i), number(bounds[i].MinWert),
                             number(bounds[i].MaxWert));
     }

@@ -26,7 +26,7 @@ std::string GeaendertFilterFragment(std::string_view Date, int code);
 std::string GeaendertSqlFragment(std::string_view Date, int code);
 
 // The bounds of all main values that have some; " AND " in front where a filter stands before them.
-std::string mainValueFragments(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds, bool hinterFilter);
+std::string mainValueFragments(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds, bool behindFilter);
 // The same as conditions. A stored number counts as it reads with four places.
 std::vector<sql::ExpressionPointer> mainValueConditions(const std::array<MainValueBand, MAIN_VALUE_COUNT>& bounds);
 

@@ -46,7 +46,7 @@ std::string notFound(const std::string& documentPath, const DocumentType& type)
 struct TopBar::Command
 {
     std::string_view key;
-    void (TopBar::*tue)(bool on);
+    void (TopBar::*act)(bool on);
     bool needsDocument = false;
 };
 
@@ -65,7 +65,7 @@ void TopBar::click(std::string_view key, bool on)
 {
     const auto* command = std::ranges::find(COMMANDS, key, &Command::key);
     if (command != std::end(COMMANDS))
-        (this->*command->tue)(on);
+        (this->*command->act)(on);
 }
 
 bool TopBar::usable(std::string_view key) const

@@ -228,9 +228,9 @@ TEST_P(FilterForms, AValueMeansItselfAndTheStarAnyRun)
         writer->row(std::vector<Value>{std::to_string(i), values[i]});
     writer->end();
     table_.Open(sql::Query("PartTabelle").sortedBy("DokuBez"), connection_);
-    std::vector<std::size_t> layoutRow;
+    std::vector<std::size_t> sequence;
     for (std::size_t i = 0; i < table_.RecordCount(); ++i)
-        layoutRow.push_back(std::stoul(asText(table_.cell(i, "DokuBez"))));
+        sequence.push_back(std::stoul(asText(table_.cell(i, "DokuBez"))));
 
     for (std::size_t i = 0; i < 2 * values.size(); ++i) {
         const std::string pattern = i < values.size() ? values[i] : dice_.pattern(values[i - values.size()]);
@@ -244,7 +244,7 @@ TEST_P(FilterForms, AValueMeansItselfAndTheStarAnyRun)
         const UserDefinedSteps userDefined(state);
 
         std::string intended, atUserDefined;
-        for (const std::size_t n : layoutRow) {
+        for (const std::size_t n : sequence) {
             intended += means(pattern, values[n]) ? std::to_string(n) + " " : "";
             atUserDefined += userDefined.meets("Name", values[n]) ? std::to_string(n) + " " : "";
         }

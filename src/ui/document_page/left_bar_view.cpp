@@ -92,10 +92,10 @@ QWidget* LeftBarView::newFrmInfoFilter()
     return panel;
 }
 
-void LeftBarView::atButton(std::string_view key, const std::function<void(bool pressed)>& tue)
+void LeftBarView::atButton(std::string_view key, const std::function<void(bool pressed)>& act)
 {
     connect(&buttonOf(*ToolbarSEDok2_, key), &QAction::triggered, this,
-            guardedSlot([tue](bool pressed) { tue(pressed); }));
+            guardedSlot([act](bool pressed) { act(pressed); }));
 }
 
 void LeftBarView::connectButtons()

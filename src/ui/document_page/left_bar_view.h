@@ -37,7 +37,7 @@ private:
     QWidget* newFrmInfoFilter();
     void connectButtons();
     void buildShortcuts();
-    void atButton(std::string_view key, const std::function<void(bool pressed)>& tue);
+    void atButton(std::string_view key, const std::function<void(bool pressed)>& act);
     void openFavourites(bool pressed);
     void fillFavourites();
     void showButtons();

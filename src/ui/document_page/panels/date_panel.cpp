@@ -80,12 +80,12 @@ QSlider* DatePanel::newSliderTage()
     return slider;
 }
 
-QWidget* DatePanel::newButton(const char* name, const QString& text, const std::function<void()>& tue)
+QWidget* DatePanel::newButton(const char* name, const QString& text, const std::function<void()>& act)
 {
     auto* button = newField<QPushButton>(name, text);
-    connect(button, &QPushButton::clicked, this, guardedSlot([tue] {
+    connect(button, &QPushButton::clicked, this, guardedSlot([act] {
                 const BusyCursor wait;
-                tue();
+                act();
             }));
     return button;
 }

@@ -25,7 +25,7 @@ private:
     QWidget* newFrmErstAend();
     QCheckBox* newChAnwender();
     QSlider* newSliderTage();
-    QWidget* newButton(const char* name, const QString& text, const std::function<void()>& tue);
+    QWidget* newButton(const char* name, const QString& text, const std::function<void()>& act);
 
     LeftBar& model_;
     QButtonGroup* OpErstAend_;

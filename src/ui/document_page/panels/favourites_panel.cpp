@@ -74,11 +74,11 @@ void FavouritesPanel::buildBars()
     atButton(*TBarFavVerwalten_, "Verlassen", &Favourites::leaveManagement);
 }
 
-void FavouritesPanel::atButton(QToolBar& bar, const char* key, void (Favourites::*tue)())
+void FavouritesPanel::atButton(QToolBar& bar, const char* key, void (Favourites::*act)())
 {
-    connect(&buttonOf(bar, key), &QAction::triggered, this, guardedSlot([&model = model_, tue] {
+    connect(&buttonOf(bar, key), &QAction::triggered, this, guardedSlot([&model = model_, act] {
         const BusyCursor wait;
-        (model.*tue)();
+        (model.*act)();
     }));
 }
 

@@ -25,7 +25,7 @@ public:
 private:
     void buildGrid();
     void buildBars();
-    void atButton(QToolBar& bar, const char* key, void (Favourites::*tue)());
+    void atButton(QToolBar& bar, const char* key, void (Favourites::*act)());
     void openManagement();
 
     Favourites& model_;

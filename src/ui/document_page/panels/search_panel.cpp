@@ -101,10 +101,10 @@ QCheckBox* SearchPanel::newChDynSuchen()
     return box;
 }
 
-QPushButton* SearchPanel::newButton(const char* name, const QString& text, void (SearchPanel::*tue)())
+QPushButton* SearchPanel::newButton(const char* name, const QString& text, void (SearchPanel::*act)())
 {
     auto* button = newField<QPushButton>(name, text);
-    connect(button, &QPushButton::clicked, this, guardedSlot([this, tue] { (this->*tue)(); }));
+    connect(button, &QPushButton::clicked, this, guardedSlot([this, act] { (this->*act)(); }));
     return button;
 }
 

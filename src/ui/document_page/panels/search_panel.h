@@ -33,7 +33,7 @@ private:
     QComboBox* newCombSuchStr();
     QLineEdit* newTextDocuBez();
     QCheckBox* newChDynSuchen();
-    QPushButton* newButton(const char* name, const QString& text, void (SearchPanel::*tue)());
+    QPushButton* newButton(const char* name, const QString& text, void (SearchPanel::*act)());
     void buildOptions(QHBoxLayout& layoutRow);
     void search();
     void filter();
