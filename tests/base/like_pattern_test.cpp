@@ -130,24 +130,24 @@ TEST(LikePattern, TellsShapesThatAnIndexCanAnswer)
 // runs tried in every length.
 TEST(LikePattern, LongTextsAndPatternsTakeTimeByTheirLength)
 {
-    constexpr std::size_t MEGABYTE = 1 << 20;
+    constexpr std::size_t LENGTH = 1 << 18;
     const auto repeated = [](std::string_view part, std::size_t bytes) {
         std::string text;
         while (text.size() < bytes)
             text += part;
         return text;
     };
-    const std::string as(MEGABYTE, 'a');
-    const std::string brackets = repeated("[", MEGABYTE);
+    const std::string as(LENGTH, 'a');
+    const std::string brackets = repeated("[", LENGTH);
     const auto start = std::chrono::steady_clock::now();
     for (const Wildcards wildcards : {Wildcards::Sql, Wildcards::Star, Wildcards::Percent}) {
         EXPECT_TRUE(LikePattern(brackets, wildcards).matches(brackets));
         EXPECT_FALSE(LikePattern(brackets + "]", wildcards).matches(as));
         const std::string run = wildcards == Wildcards::Star ? "*" : "%";
-        EXPECT_TRUE(LikePattern(repeated(run + "a", MEGABYTE), wildcards).matches(as));
-        EXPECT_FALSE(LikePattern(repeated(run + "a", MEGABYTE) + run + "b", wildcards).matches(as));
-        EXPECT_FALSE(LikePattern(repeated(run + "a", MEGABYTE) + run + "b" + run, wildcards).matches(as));
-        const std::string half(MEGABYTE / 2, 'a');
+        EXPECT_TRUE(LikePattern(repeated(run + "a", LENGTH), wildcards).matches(as));
+        EXPECT_FALSE(LikePattern(repeated(run + "a", LENGTH) + run + "b", wildcards).matches(as));
+        EXPECT_FALSE(LikePattern(repeated(run + "a", LENGTH) + run + "b" + run, wildcards).matches(as));
+        const std::string half(LENGTH / 2, 'a');
         EXPECT_FALSE(LikePattern(run + half + "b" + run, wildcards).matches(as));
         EXPECT_FALSE(LikePattern(run + "b" + half + run, wildcards).matches(as));
         EXPECT_FALSE(LikePattern(run + half + "b" + half + run + "a", wildcards).matches(as));
