@@ -1,6 +1,8 @@
 // Any text, line by line, as what a person types who has been there for long: he filters, asks, saves, and finds it
 // again. No row of anybody else is read or changed. Names are tried by fuzz_login, whose whole starts take three times
 // as long.
+#include "session/ini_reader/label_rows.h"
+#include "session/ini_reader/saved_filter_rows.h"
 #include "session_register.h"
 
 using namespace quelvarn;

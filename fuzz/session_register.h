@@ -24,6 +24,7 @@
 #include "register/quick_search.h"
 #include "register/relation_rows.h"
 #include "register/user_defined_rows.h"
+#include "session/database_start.h"
 #include "session/ini_reader/start_run.h"
 #include "session/settings_writer.h"
 
@@ -42,7 +43,7 @@ inline void require(bool condition)
         std::abort();
 }
 
-class Boxes final : public Boxes
+class ShownBoxes final : public Boxes
 {
 public:
     Answer show(const Box& box) override
@@ -56,7 +57,7 @@ public:
 // The outside world of one person; it is the same for everybody.
 struct World
 {
-    Boxes boxes;
+    ShownBoxes boxes;
     FakeClock clock;
     FakeEnvironment environment;
     FakeFiles files{clock};
