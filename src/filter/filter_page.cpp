@@ -173,7 +173,7 @@ void FilterPage::drawingTemplate(bool pressed)
 
 void FilterPage::openTemplate()
 {
-    const std::string documentPath = templatePath();
+    const std::string documentPath = structure_.drawingTemplate();
     showsTemplate_ = extensionOf(documentPath) == "dft" && viewer && viewer(documentPath);
     if (showsTemplate_)
         return;
@@ -302,11 +302,6 @@ std::vector<std::string> FilterPage::savedFilter() const
 bool FilterPage::sectionExists(FilterSection section) const
 {
     return section != FilterSection::UserDefined || userDefinedExists_;
-}
-
-std::string FilterPage::templatePath() const
-{
-    return structure_.drawingTemplate();
 }
 
 DateTime FilterPage::today() const

@@ -20,8 +20,7 @@ public:
     FilterPage(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables);
 
     // --- operations, one for each thing a person can do ---
-    void OpenFilterPage(); // For the table that the document page shows.
-    void CloseFilterPage();
+    void OpenFilterPage();                                      // For the table that the document page shows.
     void sectionChosen(FilterSection section);                  // SSTabDGFilter
     void filter();                                              // "Filtern"
     void back();                                                // "Zurück"
@@ -53,7 +52,6 @@ public:
     std::vector<std::string> savedFilter() const; // CbFilterSave; LblAnzFilterwerte is their number
     bool sectionExists(FilterSection section) const;
     bool showsTemplate() const { return showsTemplate_; }
-    std::string templatePath() const; // TxtPfadDateiVorlage
     // Rises when the lists were read anew: what was picked in them is no longer shown.
     unsigned listGeneration() const { return listGeneration_; }
     DateTime today() const; // Where the calendar opens.
@@ -63,6 +61,7 @@ public:
     std::function<bool(const std::string& filename)> viewer;
 
 private:
+    void CloseFilterPage();
     void perform(std::string_view title, std::string_view text, const std::function<void()>& operation);
     void restoreState();
     void clear();

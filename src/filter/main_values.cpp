@@ -1,9 +1,10 @@
+#include "filter/main_values.h"
+
 #include "base/number_format.h"
 #include "base/text.h"
 #include "database/recordset_columns.h"
 #include "database/recordset_lists.h"
 #include "filter/steps.h"
-#include "filter/structure_section.h"
 #include "platform/progress.h"
 #include "session/error_report.h"
 
@@ -44,40 +45,40 @@ std::optional<Decimal> decimalFrom(std::string_view text)
 
 } // namespace
 
-void StructureSection::mainValueChosen(int mainValue)
+void MainValues::chooseLabel(int mainValue)
 {
-    mainValue_ = mainValue;
-    fillMainValues();
+    chosen_ = mainValue;
+    fillLists();
     context_.operations.changed(Part::FilterPage);
 }
 
-void StructureSection::showValueCount(bool set)
+void MainValues::showValueCount(bool set)
 {
     ChShowAnzWerte_ = set;
-    fillMainValues();
+    fillLists();
     context_.operations.changed(Part::FilterPage);
 }
 
-void StructureSection::showAliasCount(bool set)
+void MainValues::showAliasCount(bool set)
 {
     ChShowAnzAlias_ = set;
-    fillMainValues();
+    fillLists();
     context_.operations.changed(Part::FilterPage);
 }
 
 // Each list by itself: one that cannot be filled stays empty.
-void StructureSection::fillMainValues()
+void MainValues::fillLists()
 {
-    values_ = alias_ = {};
+    clearLists();
     Boxes& boxes = context_.ports().boxes;
     LongWork work(context_.ports().progress, "Hauptwerte werden gelesen ...");
-    const std::string value = fmt::format("Hauptwert_{}", letter(mainValue_));
-    const std::string alias = fmt::format("Alias_{}", letter(mainValue_));
+    const std::string value = fmt::format("Hauptwert_{}", letter(chosen_));
+    const std::string alias = fmt::format("Alias_{}", letter(chosen_));
     std::optional<std::vector<Bookmark>> rows;
     guarded(boxes, "SE-Filtern: ComboBoxen für Hauptwerte a bis g", FAULT_LISTS, [&] {
         if (!loadColumns(table(), std::vector{value, alias}, std::ref(work)))
             return;
-        rows = choose(table(), StrukturBedingung_, std::ref(work));
+        rows = choose(table(), branch_, std::ref(work));
         if (rows && ChShowAnzWerte_)
             values_ = numberList(distinctNumbers(table(), value, *rows));
     });
@@ -90,38 +91,34 @@ void StructureSection::fillMainValues()
     });
 }
 
-void StructureSection::adoptMainValue(std::string_view CbHW, std::string_view TextBB)
+bool MainValues::setBounds(std::string_view CbHW, std::string_view TextBB)
 {
-    if (!SperreHauptwert_)
-        return;
     const auto value = decimalFrom(CbHW);
     const auto band = trim(TextBB).empty() ? std::optional(Decimal()) : decimalFrom(TextBB);
     const auto MinWert = value && band ? value->minus(*band) : std::nullopt;
     const auto MaxWert = value && band ? value->plus(*band) : std::nullopt;
     if (!MinWert || !MaxWert) {
         context_.ports().boxes.warn("Zahlenwerte", fmt::format("Kein Zahlenwert: {}", value ? TextBB : CbHW));
-        return;
+        return false;
     }
     TypeFilter& state = context_.state();
-    state.HauptwertBereich[static_cast<std::size_t>(mainValue_)] = {*MinWert, *MaxWert};
+    state.HauptwertBereich[static_cast<std::size_t>(chosen_)] = {*MinWert, *MaxWert};
     state.HauptwertAktiv = true;
-    SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
-    context_.operations.changed(Part::FilterPage);
+    return true;
 }
 
-void StructureSection::clearMainValues()
+void MainValues::clearBounds()
 {
     ClearHauptwertBereich(context_.state());
     context_.state().HauptwertAktiv = false;
-    context_.operations.changed(Part::FilterPage);
 }
 
-std::string StructureSection::mainValueName(int mainValue) const
+std::string MainValues::name(int mainValue) const
 {
     return fmt::format("Hauptwert {}", letter(mainValue));
 }
 
-std::string StructureSection::mainValueBand(int mainValue) const
+std::string MainValues::band(int mainValue) const
 {
     const MainValueBand& bounds = context_.state().HauptwertBereich[static_cast<std::size_t>(mainValue)];
     if (!bounds.set())

@@ -123,7 +123,7 @@ void StructureSection::nodeChosen(const StructurePath& documentPath)
         adoptBranch(documentPath, std::move(*branch));
     });
     if (ran && StrukturLetzterPfad_ == documentPath)
-        fillMainValues();
+        mainValues_.fillLists();
     context_.operations.changed(Part::FilterPage);
 }
 
@@ -150,7 +150,21 @@ void StructureSection::chooseInBranch(std::string_view Feldname, std::string_vie
                   {fmt::format("StrukturMerk{}", Feldname), displayName(context_.session, Feldname)});
     SperreBaum_ = false;
     StrukturBedingung_ = extended(StrukturBedingung_, Feldname, value);
-    fillMainValues();
+    mainValues_.fillLists();
+    context_.operations.changed(Part::FilterPage);
+}
+
+void StructureSection::adoptMainValue(std::string_view CbHW, std::string_view TextBB)
+{
+    if (!SperreHauptwert_ || !mainValues_.setBounds(CbHW, TextBB))
+        return;
+    SperreBaum_ = SperreMaterial_ = SperreFirma_ = false;
+    context_.operations.changed(Part::FilterPage);
+}
+
+void StructureSection::clearMainValues()
+{
+    mainValues_.clearBounds();
     context_.operations.changed(Part::FilterPage);
 }
 
@@ -239,12 +253,13 @@ void StructureSection::reset()
     root_ = {"Root", {}, false, {}};
     StrukturLetzterPfad_.clear();
     StrukturBedingung_.clear();
-    material_ = company_ = values_ = alias_ = {};
+    material_ = company_ = {};
+    mainValues_.clearLists();
     SperreHauptwert_ = true;
     SperreBaum_ = SperreMaterial_ = SperreFirma_ = !context_.state().HauptwertAktiv;
     BaumAufbauen();
     FilterEigenMWMitFi({});
-    fillMainValues();
+    mainValues_.fillLists();
 }
 
 void StructureSection::restore(std::span<const FilterStep> steps)
@@ -265,7 +280,7 @@ void StructureSection::restore(std::span<const FilterStep> steps)
         StrukturBedingung_ = extended(StrukturBedingung_, step.Feldname, step.value);
         SperreBaum_ = false;
     }
-    fillMainValues();
+    mainValues_.fillLists();
 }
 
 } // namespace quelvarn

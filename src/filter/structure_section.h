@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filter/filter_context.h"
+#include "filter/main_values.h"
 #include "filter/value_list.h"
 
 #include <optional>
@@ -28,16 +29,16 @@ using StructurePath = std::vector<std::string>;
 class StructureSection
 {
 public:
-    explicit StructureSection(FilterContext& context) : context_(context) {}
+    explicit StructureSection(FilterContext& context) : context_(context), mainValues_(context, StrukturBedingung_) {}
+    StructureSection(const StructureSection&) = delete;
+    StructureSection& operator=(const StructureSection&) = delete;
 
     // --- operations ---
     void nodeChosen(const StructurePath& documentPath); // Empty for "Root".
     void materialChosen(std::string_view value);        // CbMaterialMW
     void companyChosen(std::string_view value);         // CbFirmaMW
-    void mainValueChosen(int mainValue);                // Label a (0) to g (6): whose lists are shown
-    void showValueCount(bool set);                      // ChShowAnzWerte; without it there is no list of values either.
-    void showAliasCount(bool set);                      // ChShowAnzAlias
-    void adoptMainValue(std::string_view CbHW, std::string_view TextBB); // CmHwOK
+    // CmHwOK: bounds for the main value chosen, which lock tree, Material and Firma.
+    void adoptMainValue(std::string_view CbHW, std::string_view TextBB);
 
     // --- mechanisms of the page; faults pass through. Reading given up leaves tree and lists as they were ---
     void BaumAufbauen();                                 // Level C; forgets the paths.
@@ -55,14 +56,8 @@ public:
     const std::string& StrukturBedingung() const { return StrukturBedingung_; }
     const ValueList& material() const { return material_; }
     const ValueList& company() const { return company_; }
-    int mainValue() const { return mainValue_; }
-    const ValueList& values() const { return values_; } // CbHW, LblAnzWert
-    const ValueList& alias() const { return alias_; }   // LstHW, LblAnzAlias
-    bool showsValueCount() const { return ChShowAnzWerte_; }
-    bool showsAliasCount() const { return ChShowAnzAlias_; }
-    // LblHWa and Lbl_hwa: name of the value, and its band "10 - 12", "10" for a band of 0, "" for none.
-    std::string mainValueName(int mainValue) const;
-    std::string mainValueBand(int mainValue) const;
+    MainValues& mainValues() { return mainValues_; }
+    const MainValues& mainValues() const { return mainValues_; }
     bool SperreBaum() const { return SperreBaum_; } // Each true when selection is allowed.
     bool SperreMaterial() const { return SperreMaterial_; }
     bool SperreFirma() const { return SperreFirma_; }
@@ -75,7 +70,6 @@ private:
     void adoptBranch(const StructurePath& documentPath, Branch branch);
     StructureNode* findNode(const StructurePath& documentPath);
     void chooseInBranch(std::string_view Feldname, std::string_view value, bool allowed);
-    void fillMainValues();
     void tellLocked(std::string_view text);
     Recordset& table() { return context_.table().rows(); }
 
@@ -83,10 +77,8 @@ private:
     StructureNode root_;
     StructurePath StrukturLetzterPfad_;
     std::string StrukturBedingung_;
-    ValueList material_, company_, values_, alias_;
-    int mainValue_ = 0;
-    bool ChShowAnzWerte_ = true;
-    bool ChShowAnzAlias_ = true;
+    ValueList material_, company_;
+    MainValues mainValues_;
     bool SperreBaum_ = true, SperreMaterial_ = true, SperreFirma_ = true, SperreHauptwert_ = true;
     std::string drawingTemplate_;
 };

@@ -272,7 +272,7 @@ TEST_F(FilterPageTest, TheTemplateIsADrawing)
         page_.sectionChosen(FilterSection::Structure);
         page_.back();
         page_.structure().nodeChosen({testCase.feature});
-        ASSERT_EQ(page_.templatePath(), testCase.drawingTemplate);
+        ASSERT_EQ(page_.structure().drawingTemplate(), testCase.drawingTemplate);
         if (!testCase.shown)
             world_.boxes.expect("Anzeigen im Viewer", box(testCase.drawingTemplate));
         page_.drawingTemplate(true);

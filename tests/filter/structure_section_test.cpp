@@ -75,8 +75,8 @@ TEST_F(StructureFeatures, TreeIsWalkedDownwardsAndEachStepNarrows)
     EXPECT_EQ(section_.root().children[2].statusRow, "Welle; Anz. 2; ");
     EXPECT_EQ(asText(section_.material()), "C45|St 37 (2)");
     EXPECT_EQ(asText(section_.company()), "Meier|Ober (2)");
-    EXPECT_EQ(asText(section_.values()), "2,5|10 (2)");
-    EXPECT_EQ(asText(section_.alias()), "alias 1|alias 2|alias 3 (3)");
+    EXPECT_EQ(asText(section_.mainValues().values()), "2,5|10 (2)");
+    EXPECT_EQ(asText(section_.mainValues().alias()), "alias 1|alias 2|alias 3 (3)");
 
     StructurePath documentPath{"Welle"};
     for (const char* value : {"lang", "glatt", "hart", "neu"}) {
@@ -119,7 +119,7 @@ TEST_F(StructureFeatures, ApostrophesBelongToTheValue)
     section_.nodeChosen({"Bob's"});
     section_.nodeChosen({"Bob's", "5'' Zoll"});
     EXPECT_EQ(asText(section_.material()), "Alu (1)");
-    EXPECT_EQ(asText(section_.values()), "1 (1)");
+    EXPECT_EQ(asText(section_.mainValues().values()), "1 (1)");
     EXPECT_EQ(context_.state().FilterSchritte[1].value, "5'' Zoll");
 }
 
@@ -128,7 +128,7 @@ TEST_F(StructureFeatures, LaterChoicesLockEarlierOnes)
     const std::string end = "\n\nDie Auswahl ist wieder entsperrt, wenn\nalle Filterwerte zurückgesetzt werden.";
     section_.materialChosen("C45");
     EXPECT_EQ(section_.StrukturBedingung(), " Material = 'C45'");
-    EXPECT_EQ(asText(section_.values()), "10 (1)");
+    EXPECT_EQ(asText(section_.mainValues().values()), "10 (1)");
     world_.boxes.expect(LOCK_TITLE, "Nach Auswahl\n - Werkstoff / Kunde\noder\n- Hauptwerte a bis g\nist die "
                                     "Auswahl weiterer Strukturmerkmale\nC bis G gesperrt!" +
                                         end);
@@ -179,30 +179,30 @@ TEST_F(StructureFeatures, MainValuesTakeAnAbsoluteBand)
         {"0,7", "0,1", "", bounds(6000, 8000), "0,6 - 0,8"},
         {"0,3", "0,2", "", bounds(1000, 5000), "0,1 - 0,5"},
     };
-    section_.mainValueChosen(2);
+    section_.mainValues().chooseLabel(2);
     for (const TestCase& testCase : cases) {
         if (*testCase.noNumber != '\0')
             world_.boxes.expect("Zahlenwerte", testCase.noNumber);
         section_.adoptMainValue(testCase.CbHW, testCase.TextBB);
         EXPECT_EQ(context_.state().HauptwertBereich[2], testCase.bounds) << testCase.CbHW;
-        EXPECT_EQ(section_.mainValueBand(2), testCase.band) << testCase.CbHW;
+        EXPECT_EQ(section_.mainValues().band(2), testCase.band) << testCase.CbHW;
         EXPECT_EQ(context_.state().HauptwertAktiv, testCase.bounds.set());
     }
     section_.clearMainValues();
-    EXPECT_EQ(section_.mainValueBand(2), "");
+    EXPECT_EQ(section_.mainValues().band(2), "");
     EXPECT_FALSE(context_.state().HauptwertAktiv);
     EXPECT_FALSE(section_.SperreBaum()) << "the locks stay";
 }
 
 TEST_F(StructureFeatures, BoxesDecideWhatIsCounted)
 {
-    section_.showValueCount(false);
-    section_.showAliasCount(false);
+    section_.mainValues().showValueCount(false);
+    section_.mainValues().showAliasCount(false);
     section_.nodeChosen({"Rohr"});
-    EXPECT_EQ(asText(section_.values()), " ()");
-    EXPECT_EQ(asText(section_.alias()), "alias 4 ()");
-    section_.showValueCount(true);
-    EXPECT_EQ(asText(section_.values()), "7 (1)");
+    EXPECT_EQ(asText(section_.mainValues().values()), " ()");
+    EXPECT_EQ(asText(section_.mainValues().alias()), "alias 4 ()");
+    section_.mainValues().showValueCount(true);
+    EXPECT_EQ(asText(section_.mainValues().values()), "7 (1)");
 }
 
 TEST_F(StructureFeatures, SavedChoicesComeBackWithTheirLocks)

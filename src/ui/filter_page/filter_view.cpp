@@ -211,8 +211,8 @@ void FormSEFiltern::refresh()
     saved_->refresh();
     const bool drawingTemplate = model_.showsTemplate();
     FrmGesamtFilter_->setCurrentIndex(drawingTemplate ? 1 : 0);
-    fileName_->setText(drawingTemplate ? toQt(DateiName(model_.templatePath())) : QString());
-    pathName_->setText(drawingTemplate ? toQt(Ordnername(model_.templatePath())) : QString());
+    fileName_->setText(drawingTemplate ? toQt(DateiName(model_.structure().drawingTemplate())) : QString());
+    pathName_->setText(drawingTemplate ? toQt(Ordnername(model_.structure().drawingTemplate())) : QString());
 }
 
 void FormSEFiltern::showBar()

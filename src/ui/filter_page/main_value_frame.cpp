@@ -137,9 +137,11 @@ void MainValueFrame::buildAlias(QVBoxLayout& layout)
 void MainValueFrame::connectControls()
 {
     connect(selection_, &QButtonGroup::idClicked, this,
-            guardedSlot([this](int mainValue) { model_.mainValueChosen(mainValue); }));
-    connect(ChShowAnzWerte_, &QCheckBox::clicked, this, guardedSlot([this](bool on) { model_.showValueCount(on); }));
-    connect(ChShowAnzAlias_, &QCheckBox::clicked, this, guardedSlot([this](bool on) { model_.showAliasCount(on); }));
+            guardedSlot([this](int mainValue) { model_.mainValues().chooseLabel(mainValue); }));
+    connect(ChShowAnzWerte_, &QCheckBox::clicked, this,
+            guardedSlot([this](bool on) { model_.mainValues().showValueCount(on); }));
+    connect(ChShowAnzAlias_, &QCheckBox::clicked, this,
+            guardedSlot([this](bool on) { model_.mainValues().showAliasCount(on); }));
     connect(CbHW_, &QComboBox::editTextChanged, this, [this] { showReady(); });
     connect(CmHwOK_, &QPushButton::clicked, this, guardedSlot([this] { adopt(); }));
     connect(CbHW_->lineEdit(), &QLineEdit::returnPressed, CmHwOK_, &QPushButton::click);
@@ -157,15 +159,15 @@ void MainValueFrame::refresh()
     showMainValues();
     {
         const QSignalBlocker still(CbHW_);
-        if (values_->display(model_.values().values))
+        if (values_->display(model_.mainValues().values().values))
             CbHW_->setCurrentIndex(-1);
     }
     CbHW_->setEnabled(model_.SperreHauptwert());
-    showSet(*ChShowAnzWerte_, model_.showsValueCount());
-    showSet(*ChShowAnzAlias_, model_.showsAliasCount());
-    LblAnzWert_->setText(toQt(model_.values().count));
-    LblAnzAlias_->setText(toQt(model_.alias().count));
-    LstHW_->display(model_.alias().values);
+    showSet(*ChShowAnzWerte_, model_.mainValues().showsValueCount());
+    showSet(*ChShowAnzAlias_, model_.mainValues().showsAliasCount());
+    LblAnzWert_->setText(toQt(model_.mainValues().values().count));
+    LblAnzAlias_->setText(toQt(model_.mainValues().alias().count));
+    LstHW_->display(model_.mainValues().alias().values);
     showReady();
 }
 
@@ -173,9 +175,9 @@ void MainValueFrame::showMainValues()
 {
     for (int i = 0; i < MAIN_VALUE_COUNT; ++i) {
         const auto position = static_cast<std::size_t>(i);
-        showName(*LblHW_[position], toQt(model_.mainValueName(i)));
-        showSet(*LblHW_[position], model_.mainValue() == i);
-        Lbl_hw_[position]->setText(toQt(model_.mainValueBand(i)));
+        showName(*LblHW_[position], toQt(model_.mainValues().name(i)));
+        showSet(*LblHW_[position], model_.mainValues().chosen() == i);
+        Lbl_hw_[position]->setText(toQt(model_.mainValues().band(i)));
     }
 }
 

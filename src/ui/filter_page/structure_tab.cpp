@@ -141,7 +141,7 @@ void StructureTab::refresh()
     showTree();
     showMaterialCompany();
     FrmHWag_->refresh();
-    TxtPfadDateiVorlage_->setText(toQt(model_.templatePath()));
+    TxtPfadDateiVorlage_->setText(toQt(structure_.drawingTemplate()));
 }
 
 void StructureTab::showTree()
