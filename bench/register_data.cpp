@@ -2,7 +2,7 @@
 
 #include "bench/sample_document.h"
 #include "database/connection.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "database/sql/conditions.h"
 

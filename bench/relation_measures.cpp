@@ -4,6 +4,7 @@
 #include "bench/sample_document.h"
 #include "database/connection.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "documents/document_record.h"
 #include "register/relation_kinds.h"

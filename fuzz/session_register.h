@@ -6,6 +6,7 @@
 #include "base/runtime_error.h"
 #include "base/utf8.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/sql/conditions.h"
 #include "documents/document_record.h"
 #include "fakes/fake_files.h"

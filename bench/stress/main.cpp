@@ -1,6 +1,7 @@
 #include "base/collation.h"
 #include "database/connection.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "stress/accounting.h"
 #include "stress/gestures.h"
 #include "stress/processes.h"

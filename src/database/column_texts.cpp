@@ -65,24 +65,24 @@ std::size_t nextHigh(const std::string& bytes, std::size_t from)
 
 } // namespace
 
-TextCode TextPool::codeOf(std::string_view fresh)
+TextCode TextPool::codeOf(std::string_view newText)
 {
-    if (last_ != 0 && text(last_) == fresh)
+    if (last_ != 0 && text(last_) == newText)
         return last_;
     if (!searches_)
-        return last_ = append(fresh);
+        return last_ = append(newText);
     if (count() * 2 >= places_.size())
         enlarge();
-    const std::uint32_t scatterValue = scatterValueOf(fresh);
+    const std::uint32_t scatterValue = scatterValueOf(newText);
     const std::size_t mask = places_.size() - 1;
     std::size_t place = scatterValue & mask;
     for (; places_[place].code != 0; place = (place + 1) & mask) {
-        if (places_[place].scatterValue == scatterValue && text(places_[place].code) == fresh) {
+        if (places_[place].scatterValue == scatterValue && text(places_[place].code) == newText) {
             ++found_;
             return last_ = places_[place].code;
         }
     }
-    last_ = append(fresh);
+    last_ = append(newText);
     places_[place] = {scatterValue, last_};
     if (last_ % PROBE == 0 && !paysSearch()) {
         searches_ = false;
@@ -91,9 +91,9 @@ TextCode TextPool::codeOf(std::string_view fresh)
     return last_;
 }
 
-TextCode TextPool::append(std::string_view fresh)
+TextCode TextPool::append(std::string_view newText)
 {
-    bytes_.append(fresh);
+    bytes_.append(newText);
     beginnings_.push_back(bytes_.size());
     return static_cast<TextCode>(beginnings_.size() - 2);
 }

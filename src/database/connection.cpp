@@ -4,7 +4,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "database/catalog.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/sql/parser.h"
 
 #include <array>
@@ -16,19 +16,18 @@ namespace quelvarn {
 namespace {
 
 // The first bytes of a file; enough for a postgresql:// address.
-std::string readBegin(const std::filesystem::path& documentPath)
+std::string readBegin(const std::filesystem::path& path)
 {
     constexpr std::streamsize length = 4096;
     std::error_code fault;
-    if (!std::filesystem::exists(documentPath, fault))
-        throw RuntimeError(53, "Datenbank",
-                           fmt::format("Die Datei '{}' wurde nicht gefunden.", utf8FromPath(documentPath)));
-    std::ifstream file(documentPath, std::ios::binary);
+    if (!std::filesystem::exists(path, fault))
+        throw RuntimeError(53, "Datenbank", fmt::format("Die Datei '{}' wurde nicht gefunden.", utf8FromPath(path)));
+    std::ifstream file(path, std::ios::binary);
     std::string begin(length, '\0');
     file.read(begin.data(), length);
-    if (!file.is_open() || file.bad() || std::filesystem::is_directory(documentPath, fault))
+    if (!file.is_open() || file.bad() || std::filesystem::is_directory(path, fault))
         throw RuntimeError(75, "Datenbank",
-                           fmt::format("Die Datei '{}' kann nicht gelesen werden.", utf8FromPath(documentPath)));
+                           fmt::format("Die Datei '{}' kann nicht gelesen werden.", utf8FromPath(path)));
     begin.resize(static_cast<std::size_t>(file.gcount()));
     return begin;
 }
@@ -66,43 +65,43 @@ constexpr std::string_view ACCESS_MISSING = "Dieses System hat keinen Treiber f√
                                             "Der Administrator √ºbernimmt die Datei einmalig mit \"qvadmin import\".";
 #endif
 
-[[noreturn]] void tellAccess(const std::filesystem::path& documentPath)
+[[noreturn]] void tellAccess(const std::filesystem::path& path)
 {
     throw RuntimeError(FAULT_GENERAL, "Datenbank",
-                       fmt::format("'{}' ist eine Access-Datenbank.\n{}", utf8FromPath(documentPath), ACCESS_MISSING));
+                       fmt::format("'{}' ist eine Access-Datenbank.\n{}", utf8FromPath(path), ACCESS_MISSING));
 }
 
 } // namespace
 
-DatabaseKind recognizeDatabase(const std::filesystem::path& documentPath)
+DatabaseKind recognizeDatabase(const std::filesystem::path& path)
 {
-    return kindFromStart(readBegin(documentPath));
+    return kindFromStart(readBegin(path));
 }
 
 Connection::~Connection() = default;
 Connection::Connection(Connection&&) noexcept = default;
 Connection& Connection::operator=(Connection&&) noexcept = default;
 
-void Connection::Open(const std::filesystem::path& documentPath)
+void Connection::Open(const std::filesystem::path& path)
 {
-    const std::string begin = readBegin(documentPath);
+    const std::string begin = readBegin(path);
     switch (kindFromStart(begin)) {
     case DatabaseKind::SQLite:
-        use(openSqlite(documentPath, false, patience_));
+        use(openSqlite(path, false, patience_));
         return;
     case DatabaseKind::PostgreSQL:
         use(openPostgres(firstRow(begin), patience_));
         return;
     case DatabaseKind::Access:
-        use(openAccess(documentPath));
+        use(openAccess(path));
         if (!engine_)
-            tellAccess(documentPath);
+            tellAccess(path);
         return;
     case DatabaseKind::Unknown:
         break;
     }
     throw RuntimeError(FAULT_GENERAL, "Datenbank",
-                       fmt::format("'{}' ist keine Datenbank dieses Programms.", utf8FromPath(documentPath)));
+                       fmt::format("'{}' ist keine Datenbank dieses Programms.", utf8FromPath(path)));
 }
 
 void Connection::openAddress(std::string_view pathOrAddress)

@@ -13,7 +13,7 @@ namespace quelvarn {
 enum class DatabaseKind { Unknown, SQLite, PostgreSQL, Access };
 
 // By the first bytes of what lies there, not by the ending. Throws RuntimeError when it cannot be read.
-DatabaseKind recognizeDatabase(const std::filesystem::path& documentPath);
+DatabaseKind recognizeDatabase(const std::filesystem::path& path);
 
 class Recordset;
 
@@ -29,7 +29,7 @@ public:
 
     // A SQLite file, an Access file where a driver for it is installed, or a text file whose first line is a
     // postgresql:// address. Anything else throws RuntimeError with a German description.
-    void Open(const std::filesystem::path& documentPath);
+    void Open(const std::filesystem::path& path);
     // A path, or a postgresql:// address itself.
     void openAddress(std::string_view pathOrAddress);
     void Close();

@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/catalog.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 
 // In place of postgresql/ where its library was not there when the program was built.
 namespace quelvarn {

@@ -34,17 +34,17 @@ void Recordset::Open(sql::FixedText select, Connection& connection, CursorType c
 
 void Recordset::Open(sql::Select select, Connection& connection, CursorType, LockType lock)
 {
-    auto fresh = std::make_unique<Core>();
-    fresh->small = core_->small;
-    fresh->lock = lock;
+    auto opened = std::make_unique<Core>();
+    opened->small = core_->small;
+    opened->lock = lock;
     if (!connection.open())
         throw recordsetFault(3709, "Die Verbindung zur Datenbank ist nicht geöffnet.");
-    fresh->rows.open(
+    opened->rows.open(
         connection.engine_, std::move(select),
-        {.writable = lock != LockType::ReadOnly, .readWhole = lock == LockType::Batch, .small = fresh->small});
-    fresh->view.showAll(fresh->rows.count());
-    fresh->open = true;
-    core_ = std::move(fresh);
+        {.writable = lock != LockType::ReadOnly, .readWhole = lock == LockType::Batch, .small = opened->small});
+    opened->view.showAll(opened->rows.count());
+    opened->open = true;
+    core_ = std::move(opened);
 }
 
 void Recordset::appendField(std::string_view name, FieldType type)
@@ -56,22 +56,22 @@ void Recordset::appendField(std::string_view name, FieldType type)
 
 void Recordset::Open()
 {
-    auto fresh = std::make_unique<Core>();
+    auto opened = std::make_unique<Core>();
     for (const ColumnInfo& field : core_->rows.fields())
-        fresh->rows.appendField(field);
-    fresh->lock = LockType::Optimistic;
-    fresh->open = true;
-    core_ = std::move(fresh);
+        opened->rows.appendField(field);
+    opened->lock = LockType::Optimistic;
+    opened->open = true;
+    core_ = std::move(opened);
 }
 
 void Recordset::Close()
 {
-    auto fresh = std::make_unique<Core>();
+    auto opened = std::make_unique<Core>();
     if (!core_->rows.engine())
         for (const ColumnInfo& field : core_->rows.fields())
-            fresh->rows.appendField(field);
-    fresh->small = core_->small;
-    core_ = std::move(fresh);
+            opened->rows.appendField(field);
+    opened->small = core_->small;
+    core_ = std::move(opened);
 }
 
 bool Recordset::open() const
@@ -86,13 +86,13 @@ const std::vector<ColumnInfo>& Recordset::fields() const
 
 bool Recordset::bof() const
 {
-    const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
+    const bool newRow = core_->pendingEdit && core_->pendingEdit->isNew;
     return !newRow && (core_->position < 0 || core_->view.count() == 0);
 }
 
 bool Recordset::eof() const
 {
-    const bool newRow = core_->pendingEdit && core_->pendingEdit->fresh;
+    const bool newRow = core_->pendingEdit && core_->pendingEdit->isNew;
     return !newRow && !core_->onRow() && (core_->position >= 0 || core_->view.count() == 0);
 }
 

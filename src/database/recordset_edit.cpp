@@ -57,11 +57,11 @@ void Recordset::Delete()
 {
     Core& core = *core_;
     core.requireWritable();
-    if (const auto pendingEdit = std::exchange(core.pendingEdit, {}); pendingEdit && pendingEdit->fresh)
+    if (const auto pendingEdit = std::exchange(core.pendingEdit, {}); pendingEdit && pendingEdit->isNew)
         return;
     const RowNumber row = core.currentRow();
     if (core.batch())
-        core.waiting.push_back({WaitingChange::Kind::Removed, row, {}});
+        core.waiting.push_back({WaitingChange::Kind::Remove, row, {}});
     else if (core.rows.engine())
         core.rows.engine()->remove(core.rows.table(), core.rows.key(row));
 
@@ -105,24 +105,24 @@ void RecordsetEdit::endEdit()
     const auto finished = std::exchange(pendingEdit, {});
     if (!finished)
         return;
-    if (finished->fresh)
+    if (finished->isNew)
         writeNew(*finished);
     else
         writeChanged(*finished);
     buffer.clear();
 }
 
-void RecordsetEdit::writeNew(const PendingEdit& fresh)
+void RecordsetEdit::writeNew(const PendingEdit& edit)
 {
     RowKey key = 0;
     if (rows.engine() && !batch())
-        key = rows.engine()->insert(rows.table(), assignments(fresh));
+        key = rows.engine()->insert(rows.table(), assignments(edit));
     const RowNumber row = rows.appendRow();
     if (rows.engine())
         rows.setKey(row, key);
     if (batch())
-        waiting.push_back({WaitingChange::Kind::Fresh, row, assignments(fresh)});
-    adopt(row, fresh);
+        waiting.push_back({WaitingChange::Kind::Insert, row, assignments(edit)});
+    adopt(row, edit);
     view.append(row);
     if (sorted)
         rowOrder.push_back(row);
@@ -132,7 +132,7 @@ void RecordsetEdit::writeNew(const PendingEdit& fresh)
 void RecordsetEdit::writeChanged(const PendingEdit& changed)
 {
     const RowNumber row = currentRow();
-    WaitingChange change{WaitingChange::Kind::Changed, row, assignments(changed)};
+    WaitingChange change{WaitingChange::Kind::Change, row, assignments(changed)};
     if (batch())
         waiting.push_back(std::move(change));
     else if (rows.engine())
@@ -161,15 +161,15 @@ void RecordsetEdit::execute(const WaitingChange& change)
     Engine& engine = *rows.engine();
     const RowKey key = rows.key(change.row);
     switch (change.kind) {
-    case WaitingChange::Kind::Fresh:
+    case WaitingChange::Kind::Insert:
         rows.setKey(change.row, engine.insert(rows.table(), change.values));
         return;
-    case WaitingChange::Kind::Changed:
+    case WaitingChange::Kind::Change:
         if (!engine.update(rows.table(), key, change.values))
             throw recordsetFault(ROW_MISSING,
                                  "Der Datensatz wurde inzwischen von einem anderen Anwender geändert oder gelöscht.");
         return;
-    case WaitingChange::Kind::Removed:
+    case WaitingChange::Kind::Remove:
         engine.remove(rows.table(), key);
     }
 }
@@ -178,7 +178,7 @@ Value RecordsetEdit::fieldValue(std::size_t field) const
 {
     if (pendingEdit && pendingEdit->values[field])
         return *pendingEdit->values[field];
-    if (pendingEdit && pendingEdit->fresh)
+    if (pendingEdit && pendingEdit->isNew)
         return {};
     const std::size_t place = currentPosition();
     if (rows.loaded(field))

@@ -11,14 +11,14 @@ namespace quelvarn {
 // A row that is being changed, or a new one: the values set so far, by field.
 struct PendingEdit
 {
-    bool fresh = false;
+    bool isNew = false;
     std::vector<std::optional<Value>> values;
 };
 
 // A change that waits for UpdateBatch.
 struct WaitingChange
 {
-    enum class Kind { Fresh, Changed, Removed } kind;
+    enum class Kind { Insert, Change, Remove } kind;
     RowNumber row;
     std::vector<sql::Assignment> values;
 };
@@ -32,7 +32,7 @@ struct RecordsetEdit : RecordsetRows
     Value fieldValue(std::size_t field) const;
     // Writes what is being changed, as every move of the cursor does.
     void endEdit();
-    void writeNew(const PendingEdit& fresh);
+    void writeNew(const PendingEdit& edit);
     void writeChanged(const PendingEdit& changed);
     std::vector<sql::Assignment> assignments(const PendingEdit& source) const;
     void adopt(RowNumber row, const PendingEdit& source);

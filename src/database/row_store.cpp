@@ -93,10 +93,10 @@ void RowStore::rearrange()
     std::iota(ranked.begin(), ranked.end(), RowNumber{0});
     sort(ranked, fields, [&](std::size_t field) -> const Column& { return column(field); });
     for (auto& old : columns_) {
-        auto fresh = newColumn(old->type());
+        auto converted = newColumn(old->type());
         for (const RowNumber row : ranked)
-            fresh->append(old->value(row));
-        old = std::move(fresh);
+            converted->append(old->value(row));
+        old = std::move(converted);
     }
 }
 

@@ -21,11 +21,11 @@ std::vector<ChainLink> formChain(const TypeFilter& state, const FragmentMaker& f
     std::vector<ChainLink> chain;
     ChainLink soFar;
     for (int number = 0; number < state.FilterAnzahl; ++number) {
-        const StepFragment fresh = fragment(state.FilterSchritte[static_cast<std::size_t>(number)], number);
-        soFar.filterForm = withAnd(soFar.filterForm, fresh.filterForm);
-        soFar.sqlForm = withAnd(soFar.sqlForm, fresh.sqlForm);
-        if (fresh.condition)
-            soFar.conditions.push_back(fresh.condition);
+        const StepFragment added = fragment(state.FilterSchritte[static_cast<std::size_t>(number)], number);
+        soFar.filterForm = withAnd(soFar.filterForm, added.filterForm);
+        soFar.sqlForm = withAnd(soFar.sqlForm, added.sqlForm);
+        if (added.condition)
+            soFar.conditions.push_back(added.condition);
         chain.push_back(soFar);
     }
     return chain;

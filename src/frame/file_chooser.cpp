@@ -28,12 +28,12 @@ void FileSelection::setDrive(std::string_view entry)
 
 void FileSelection::setFolder(std::string_view folder)
 {
-    std::string fresh(folder);
-    if (fresh.size() == 2 && fresh[1] == ':')
-        fresh += '\\'; // A bare "W:" would be the current folder of that drive.
+    std::string target(folder);
+    if (target.size() == 2 && target[1] == ':')
+        target += '\\'; // A bare "W:" would be the current folder of that drive.
 
     std::vector<std::string> subfolder, files;
-    for (const FolderEntry& entry : ports_.files.content(fresh)) {
+    for (const FolderEntry& entry : ports_.files.content(target)) {
         if (entry.folder)
             subfolder.push_back(entry.name);
         else if (toLower(rightCharacters(entry.name, extension_.size())) == extension_)
@@ -41,7 +41,7 @@ void FileSelection::setFolder(std::string_view folder)
     }
     subfolder_ = std::move(subfolder);
     files_ = std::move(files);
-    folder_ = std::move(fresh);
+    folder_ = std::move(target);
     file_.clear();
 
     const auto sameLetter = [this](const std::string& entry) {

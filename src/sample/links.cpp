@@ -146,12 +146,13 @@ std::vector<AdditionalDocument> additionalDocuments(const Documents& documents, 
     if (!random.percent(6))
         return result;
     for (auto count = random.between(1, 3); count > 0; --count) {
-        AdditionalDocument fresh{.fileName = fmt::format("{} {}", documents.documentName(part), random.part(KINDS)),
-                                 .filename = {},
-                                 .sendAlong = random.percent(40)};
-        fresh.filename = fmt::format("{}Zusatzdokumente\\{}\\{}", FOLDER, documents.project(part), fresh.fileName);
-        if (std::ranges::none_of(result, [&](const auto& d) { return d.fileName == fresh.fileName; }))
-            result.push_back(std::move(fresh));
+        AdditionalDocument candidate{.fileName = fmt::format("{} {}", documents.documentName(part), random.part(KINDS)),
+                                     .filename = {},
+                                     .sendAlong = random.percent(40)};
+        candidate.filename =
+            fmt::format("{}Zusatzdokumente\\{}\\{}", FOLDER, documents.project(part), candidate.fileName);
+        if (std::ranges::none_of(result, [&](const auto& d) { return d.fileName == candidate.fileName; }))
+            result.push_back(std::move(candidate));
     }
     return result;
 }

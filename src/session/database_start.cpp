@@ -58,10 +58,10 @@ void tellNoRegister(Boxes& boxes)
                                            "oder es fehlt die Ini-Tabelle in der Datenbank!");
 }
 
-std::string faultText(std::string_view documentPath, std::string_view section)
+std::string faultText(std::string_view path, std::string_view section)
 {
     return lines({
-        documentPath,
+        path,
         "",
         "Fehler beim Öffnen, Lesen oder Bearbeiten der Datenbank!",
         "",
@@ -88,10 +88,10 @@ void separate(SessionState& session)
 bool connect(SessionState& session, const Files& files)
 {
     separate(session);
-    const std::filesystem::path documentPath = files.systemPath(session.database.DatenbankPfad);
-    if (recognizeDatabase(documentPath) == DatabaseKind::Unknown)
+    const std::filesystem::path path = files.systemPath(session.database.DatenbankPfad);
+    if (recognizeDatabase(path) == DatabaseKind::Unknown)
         return false;
-    session.database.connection.Open(documentPath);
+    session.database.connection.Open(path);
     return true;
 }
 
@@ -170,11 +170,11 @@ bool readRegister(StartRun& run)
 
 bool Hauptprogramm(SessionState& session, Ports& ports)
 {
-    const std::string documentPath = session.database.DatenbankPfad;
+    const std::string path = session.database.DatenbankPfad;
     std::string_view section;
     bool isRegister = false;
     const bool read = guarded(
-        ports.boxes, "Fehler beim Öffnen der Datenbank", [&] { return faultText(documentPath, section); },
+        ports.boxes, "Fehler beim Öffnen der Datenbank", [&] { return faultText(path, section); },
         [&] {
             try {
                 isRegister = liesRegister(session, ports, section);

@@ -3,7 +3,7 @@
 #include "base/file_path.h"
 #include "base/text.h"
 #include "database/faults.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 
 #include <fmt/format.h>
 

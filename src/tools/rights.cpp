@@ -130,7 +130,7 @@ void setDeletionRight(UserRights& rights, std::string_view list)
     }
 }
 
-void write(Connection& connection, const std::string& user, const UserRights& rights, bool fresh)
+void write(Connection& connection, const std::string& user, const UserRights& rights, bool isNew)
 {
     Transaction transaction(connection);
     Engine& engine = connection.engine();
@@ -146,7 +146,7 @@ void write(Connection& connection, const std::string& user, const UserRights& ri
     for (int status = 0; status < STATUS_COUNT; ++status)
         insert(GROUP, key(status), std::to_string(rights.visible[status]),
                std::to_string(rights.deletionRight[status]));
-    if (fresh) // A first start would write these with the rights and passes them over when those are there.
+    if (isNew) // A first start would write these with the rights and passes them over when those are there.
         for (const char* field3 : {"BearbeitenVon", "SpeichernIn"})
             insert("Sicherung", field3, {}, {});
     transaction.commit();
@@ -157,17 +157,17 @@ int set(const Arguments& arguments, Connection& connection, Console& console)
     const auto all = readRights(connection.engine());
     const std::string& sought = arguments.position(1);
     const auto found = all.find(sortKey(sought));
-    const bool fresh = found == all.end();
-    if (fresh && !arguments.set("--new"))
+    const bool isNew = found == all.end();
+    if (isNew && !arguments.set("--new"))
         throw toolFault(fmt::format("Den Anwender '{}' kennt das Register nicht. Mit --new wird er angelegt.", sought));
-    const std::string user = fresh ? sought : found->second.first;
-    UserRights rights = fresh ? UserRights{} : found->second.second;
+    const std::string user = isNew ? sought : found->second.first;
+    UserRights rights = isNew ? UserRights{} : found->second.second;
     if (const auto list = arguments.findValue("--see"))
         setVisible(rights, *list);
     if (const auto list = arguments.findValue("--delete"))
         setDeletionRight(rights, *list);
-    if (fresh || arguments.set("--see") || arguments.set("--delete"))
-        write(connection, user, rights, fresh);
+    if (isNew || arguments.set("--see") || arguments.set("--delete"))
+        write(connection, user, rights, isNew);
     show(user, rights, console);
     return GOOD;
 }

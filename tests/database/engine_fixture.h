@@ -1,8 +1,8 @@
 #pragma once
 
 #include "database/engine.h"
-#include "database/new_database.h"
 #include "database/odbc_drivers.h"
+#include "database/open_engine.h"
 #include "database/postgres_cluster.h"
 #include "database/sql/parser.h"
 #include "fakes/temp_folder.h"

@@ -1,4 +1,5 @@
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 #include "database/sql/conditions.h"
 
 #include <fmt/format.h>

@@ -7,6 +7,7 @@
 
 #ifndef QUELVARN_NO_ODBC
 #include "database/odbc/faults.h"
+#include "database/open_engine.h"
 #endif
 
 #include <chrono>

@@ -3,6 +3,7 @@
 #include "database/connection.h"
 #include "database/engine_fixture.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "fakes/temp_folder.h"
 
 #include <atomic>

@@ -4,6 +4,8 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
+#include "database/open_engine.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>

@@ -1,6 +1,7 @@
 #include "base/collation.h"
 #include "base/runtime_error.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 
 #include <gmock/gmock.h>
 #include <limits>

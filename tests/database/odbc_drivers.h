@@ -2,7 +2,7 @@
 
 #include "database/driver_path.h"
 #include "database/engine.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 
 #ifndef QUELVARN_NO_ODBC
 #include "database/odbc/api.h"

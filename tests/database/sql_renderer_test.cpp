@@ -1,7 +1,8 @@
 #include "base/runtime_error.h"
+#include "database/sql/access_dialect.h"
 #include "database/sql/conditions.h"
+#include "database/sql/engine_dialects.h"
 #include "database/sql/parser.h"
-#include "database/sql/renderer.h"
 
 #include <gtest/gtest.h>
 #include <string>

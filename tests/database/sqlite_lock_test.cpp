@@ -1,7 +1,7 @@
 #include "base/file_path.h"
 #include "database/connection.h"
 #include "database/faults.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "fakes/fake_patience.h"
 #include "fakes/temp_folder.h"

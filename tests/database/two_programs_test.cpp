@@ -1,6 +1,6 @@
 #include "base/runtime_error.h"
 #include "database/engine_fixture.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 
 #include <chrono>
 #include <cstdlib>

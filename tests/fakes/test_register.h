@@ -2,6 +2,7 @@
 
 #include "database/engine.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
 #include "session/rights.h"

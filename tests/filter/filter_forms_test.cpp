@@ -5,6 +5,7 @@
 #include "base/utf8.h"
 #include "database/connection.h"
 #include "database/engine_fixture.h"
+#include "database/new_database.h"
 #include "database/recordset_columns.h"
 #include "database/sql/conditions.h"
 #include "filter/filter_run.h"

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "database/connection.h"
 #include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "fakes/fake_ports.h"
 #include "fakes/statements.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "fakes/temp_folder.h"
 #include "tools/command_call.h"
 

@@ -1,4 +1,4 @@
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "tools/commands_fixture.h"
 #include "tools/result_buffer.h"
 

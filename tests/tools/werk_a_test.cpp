@@ -3,7 +3,7 @@
 #include "base/utf8.h"
 #include "database/connection.h"
 #include "database/engine_fixture.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "fakes/sha256.h"
 #include "fakes/statements.h"

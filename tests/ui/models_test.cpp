@@ -1,5 +1,5 @@
 #include "database/connection.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "database/recordset_columns.h"
 #include "fakes/fake_boxes.h"

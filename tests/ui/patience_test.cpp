@@ -1,6 +1,6 @@
 #include "database/connection.h"
 #include "database/faults.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "fakes/fake_boxes.h"
 #include "fakes/temp_folder.h"

@@ -4,6 +4,8 @@
 #include <windows.h>
 #endif
 #include "base/text.h"
+#include "database/sql/access_dialect.h"
+#include "database/sql/engine_dialects.h"
 
 #include <algorithm>
 #include <array>

@@ -289,9 +289,9 @@ bool OdbcEngine::update(std::string_view table, RowKey row, std::span<const sql:
     const auto old = asAssignments(schema, content);
     if (!writeOne(schema, old, kind_->dialect().updateRow(schema, old, values)))
         return false;
-    for (const sql::Assignment& fresh : values) {
-        const std::size_t position = positionOf(schema.columns, fresh.column);
-        content[position] = sql::storedValue(fresh.value, schema.columns[position].type);
+    for (const sql::Assignment& assignment : values) {
+        const std::size_t position = positionOf(schema.columns, assignment.column);
+        content[position] = sql::storedValue(assignment.value, schema.columns[position].type);
     }
     rememberState(book, row);
     book->replace(row, RowBook::pictureOf(content));

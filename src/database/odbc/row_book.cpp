@@ -99,10 +99,10 @@ const std::string* RowBook::findPicture(RowKey key) const
 
 void RowBook::replace(RowKey key, const std::string& newPicture)
 {
-    const auto fresh = key_.try_emplace(newPicture).first;
+    const auto entry = key_.try_emplace(newPicture).first;
     remove(key);
-    fresh->second.push_back(key);
-    pictures_.emplace(key, &fresh->first);
+    entry->second.push_back(key);
+    pictures_.emplace(key, &entry->first);
 }
 
 void RowBook::remove(RowKey key)

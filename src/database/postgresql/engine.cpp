@@ -11,7 +11,7 @@
 #include "database/postgresql/integrity.h"
 #include "database/postgresql/reader.h"
 #include "database/postgresql/text_values.h"
-#include "database/sql/renderer.h"
+#include "database/sql/engine_dialects.h"
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -258,12 +258,3 @@ void PostgresEngine::rollBack()
 }
 
 } // namespace quelvarn::postgresql
-
-namespace quelvarn {
-
-std::shared_ptr<Engine> openPostgres(std::string_view address, Patience* patience)
-{
-    return std::make_shared<postgresql::PostgresEngine>(address, patience);
-}
-
-} // namespace quelvarn

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "database/catalog.h"
 #include "database/postgresql/cancel.h"
+#include "database/postgresql/connect_start.h"
 #include "database/postgresql/server_faults.h"
 #include "database/sql/column_value.h"
 
@@ -13,6 +14,13 @@
 
 namespace quelvarn::postgresql {
 namespace {
+
+// Results come as the program reads them. Compiling plans would take longer than the register's queries.
+constexpr const char* settings = "SET client_min_messages = warning;"
+                                 "SET datestyle = 'ISO, YMD';"
+                                 "SET extra_float_digits = 1;"
+                                 "SET standard_conforming_strings = on;"
+                                 "SET jit = off";
 
 // Parameters as the driver takes them: texts, with a null pointer for Null.
 class Parameter
@@ -46,6 +54,61 @@ bool isFault(const PGresult* answer)
 void DeleteResult::operator()(pg_result* result) const
 {
     PQclear(result);
+}
+
+void CloseConnection::operator()(pg_conn* connection) const
+{
+    PQfinish(connection);
+}
+
+Link::Link(std::string_view address, Patience* patience) : address_(address)
+{
+    rules_.patience = patience;
+}
+
+void Link::connect()
+{
+    ifLost_ = {};
+    connection_.reset(startConnection(address_));
+    where_ = addressOf(connection_.get());
+    rules_.limit = silenceLimit(connection_.get());
+    PQsetErrorVerbosity(connection_.get(), PQERRORS_VERBOSE);
+    auto state = PQstatus(connection_.get()) == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
+    while (state != PGRES_POLLING_OK) {
+        if (state == PGRES_POLLING_FAILED) {
+            const DatabaseFault fault = connectFault(connection_.get());
+            drop();
+            throw fault;
+        }
+        awaitConnecting(state == PGRES_POLLING_READING ? SocketEvent::Readable : SocketEvent::Writable);
+        state = PQconnectPoll(connection_.get());
+    }
+    PQsetErrorVerbosity(connection_.get(), PQERRORS_DEFAULT);
+    PQsetnonblocking(connection_.get(), 1);
+    PQsetNoticeProcessor(
+        connection_.get(), [](void*, const char*) {}, nullptr);
+    send(settings, "");
+    answer();
+}
+
+void Link::awaitConnecting(SocketEvent event)
+{
+    WaitEnd end = WaitEnd::GivenUp;
+    try {
+        end = ServerWait(rules_).wait(PQsocket(connection_.get()), event);
+    } catch (...) {
+        drop();
+        throw;
+    }
+    if (end == WaitEnd::Ready)
+        return;
+    drop();
+    if (end == WaitEnd::GivenUp)
+        throw DatabaseFault(FaultKind::GivenUp, FAULT_GENERAL, "PostgreSQL", where_, "");
+    throw ServerSilent(FaultKind::ConnectionLost, FAULT_GENERAL, "PostgreSQL", where_,
+                       fmt::format("Die Verbindung zur PostgreSQL-Datenbank kann nicht hergestellt werden.\n"
+                                   "Der Server antwortet nicht (gewartet: {} s).",
+                                   rules_.limit.count() / 1000));
 }
 
 bool Link::alive()

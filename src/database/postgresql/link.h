@@ -61,7 +61,6 @@ public:
     [[noreturn]] void throwLost(std::string_view words) const;
 
 private:
-    void readLimit();
     void awaitConnecting(SocketEvent event);
     void sent(int accepted, std::string_view ifLost);
     void flush();

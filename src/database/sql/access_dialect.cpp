@@ -1,7 +1,8 @@
+#include "database/sql/access_dialect.h"
+
 #include "base/like_pattern.h"
 #include "base/utf8.h"
 #include "database/sql/access_text.h"
-#include "database/sql/renderer.h"
 
 #include <fmt/format.h>
 

@@ -1,9 +1,10 @@
+#include "database/sql/engine_dialects.h"
+
 #include "base/collation.h"
 #include "base/like_pattern.h"
 #include "base/text.h"
 #include "base/utf8.h"
 #include "database/schema.h"
-#include "database/sql/renderer.h"
 
 #include <algorithm>
 #include <fmt/format.h>

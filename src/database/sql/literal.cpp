@@ -144,8 +144,8 @@ bool LiteralReader::isStillClosing(std::size_t position, Place place, int bracke
     }
     if (oddRun_ == std::string_view::npos)
         return false;
-    const auto [entry, fresh] = endsThere_.try_emplace({place, brackets}, false);
-    if (fresh)
+    const auto [entry, isNew] = endsThere_.try_emplace({place, brackets}, false);
+    if (isNew)
         entry->second = canEnds(oddRun_, place, brackets);
     return entry->second;
 }

@@ -316,8 +316,8 @@ Rendered Dialect::insert(const TableSchema& table, std::span<const Assignment> v
 Rendered Dialect::update(const TableSchema& table, RowKey row, std::span<const Assignment> values) const
 {
     Writer writer(*this, table);
-    const std::string fresh = assignments(writer, values);
-    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), fresh, writer.row(row)));
+    const std::string newValues = assignments(writer, values);
+    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), newValues, writer.row(row)));
 }
 
 Rendered Dialect::remove(const TableSchema& table, RowKey row) const
@@ -343,8 +343,8 @@ Rendered Dialect::countRow(const TableSchema& table, RowImage picture) const
 Rendered Dialect::updateRow(const TableSchema& table, RowImage picture, std::span<const Assignment> values) const
 {
     Writer writer(*this, table);
-    const std::string fresh = assignments(writer, values);
-    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), fresh, writer.row(picture)));
+    const std::string newValues = assignments(writer, values);
+    return writer.finish(fmt::format("UPDATE {} SET {}{}", writer.table(), newValues, writer.row(picture)));
 }
 
 Rendered Dialect::removeRow(const TableSchema& table, RowImage picture) const

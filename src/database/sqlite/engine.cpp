@@ -1,7 +1,7 @@
 #include "database/sqlite/engine.h"
 
 #include "database/new_database.h"
-#include "database/sql/renderer.h"
+#include "database/sql/engine_dialects.h"
 #include "database/sqlite/bulk_writer.h"
 #include "database/sqlite/ddl.h"
 #include "database/sqlite/faults.h"
@@ -29,8 +29,8 @@ std::string insertStatement(std::string_view table, std::span<const ColumnInfo> 
 
 } // namespace
 
-SqliteEngine::SqliteEngine(const std::filesystem::path& documentPath, bool fresh, Patience* patience)
-    : patience_(patience), handle_(Handle::open(documentPath, fresh, patience)),
+SqliteEngine::SqliteEngine(const std::filesystem::path& path, bool create, Patience* patience)
+    : patience_(patience), handle_(Handle::open(path, create, patience)),
       catalog_([this](std::string_view name) { return readSchema(name); })
 {}
 
@@ -276,12 +276,3 @@ void SqliteEngine::rollBack()
 }
 
 } // namespace quelvarn::sqlite
-
-namespace quelvarn {
-
-std::shared_ptr<Engine> openSqlite(const std::filesystem::path& documentPath, bool fresh, Patience* patience)
-{
-    return std::make_shared<sqlite::SqliteEngine>(documentPath, fresh, patience);
-}
-
-} // namespace quelvarn

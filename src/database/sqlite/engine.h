@@ -20,7 +20,7 @@ class Statement;
 class SqliteEngine final : public Engine
 {
 public:
-    SqliteEngine(const std::filesystem::path& documentPath, bool fresh, Patience* patience);
+    SqliteEngine(const std::filesystem::path& path, bool create, Patience* patience);
 
     std::string_view name() const override { return "SQLite"; }
     EngineCapabilities capabilities() const override { return {}; }

@@ -26,17 +26,17 @@ constexpr const char* settings = "PRAGMA journal_mode=DELETE;"
 
 } // namespace
 
-std::shared_ptr<Handle> Handle::open(const std::filesystem::path& documentPath, bool fresh, Patience* patience)
+std::shared_ptr<Handle> Handle::open(const std::filesystem::path& path, bool create, Patience* patience)
 {
-    std::shared_ptr<Handle> handle(new Handle(documentPath));
+    std::shared_ptr<Handle> handle(new Handle(path));
     handle->setPatience(patience);
-    const int mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (fresh ? SQLITE_OPEN_CREATE : 0);
-    const int result = sqlite3_open_v2(utf8FromPath(documentPath).c_str(), &handle->database_, mode, nullptr);
+    const int mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
+    const int result = sqlite3_open_v2(utf8FromPath(path).c_str(), &handle->database_, mode, nullptr);
     if (result != SQLITE_OK)
         handle->notify(result);
     handle->setUp();
-    if (fresh)
-        handle->file_ = WatchedFile(documentPath); // It is there only now.
+    if (create)
+        handle->file_ = WatchedFile(path); // It is there only now.
     return handle;
 }
 

@@ -22,7 +22,7 @@ class Statement;
 class Handle : public std::enable_shared_from_this<Handle>
 {
 public:
-    static std::shared_ptr<Handle> open(const std::filesystem::path& documentPath, bool fresh, Patience* patience);
+    static std::shared_ptr<Handle> open(const std::filesystem::path& path, bool create, Patience* patience);
     ~Handle();
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
@@ -53,7 +53,7 @@ private:
         sqlite3_stmt* statement;
     };
 
-    explicit Handle(const std::filesystem::path& documentPath) : file_(documentPath) {}
+    explicit Handle(const std::filesystem::path& path) : file_(path) {}
     void setUp();
     void giveBack(std::string sql, sqlite3_stmt* statement);
     // A call of the library that may wait for a lock.

@@ -171,7 +171,7 @@ void WindowsFiles::write(std::string_view documentPath, std::string_view content
 void WindowsFiles::copy(std::string_view from, std::string_view after)
 {
     const std::wstring source = nameWithDrive(from);
-    OpenFile(source, OpenFile::Access::Read, from); // What keeps it from being read is its own fault.
+    const OpenFile readable(source, OpenFile::Access::Read, from); // What keeps it from being read is its own fault.
     NewFile file(nameWithDrive(after), after);
     file.copyFrom(source);
     file.replaceTarget();

@@ -12,7 +12,7 @@
 namespace quelvarn {
 namespace {
 
-constexpr std::size_t GREATEST_TITLE = 64 * 1024;
+constexpr std::size_t GREATEST_TITLE = std::size_t{64} * 1024;
 
 RuntimeError systemFault(const char* operation)
 {
@@ -22,6 +22,7 @@ RuntimeError systemFault(const char* operation)
 
 BOOL CALLBACK remember(HWND window, LPARAM list) noexcept
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the system hands the pointer through as a number.
     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     return TRUE;
 }
@@ -83,7 +84,7 @@ std::vector<std::string> WindowsRunningPrograms::windowTitle() const
         std::wstring title = titleOf(window);
         if (title.empty())
             continue;
-        if (const auto [position, fresh] = named.emplace(process, std::move(title)); fresh)
+        if (const auto [position, inserted] = named.emplace(process, std::move(title)); inserted)
             result.push_back(narrow(position->second));
     }
     return result;

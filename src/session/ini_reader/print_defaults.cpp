@@ -29,7 +29,7 @@ public:
 private:
     void adopt(const Recordset& row);
     void adoptPath(const Recordset& row);
-    void complete(bool fresh);
+    void complete(bool isNew);
     void completePath();
     void append(std::string_view key, std::string_view value);
     std::string paper(const std::string& value);
@@ -49,12 +49,12 @@ void DefaultsReader::read()
 {
     defaultValue_ = {};
     Recordset rows = run_.ini.rows(run_.session.user.Anwender, group_);
-    const bool fresh = rows.empty();
+    const bool isNew = rows.empty();
     for (; !rows.eof(); rows.MoveNext())
         adopt(rows);
     // Without a printer a new user gets no rows yet; the next start tries again.
-    writes_ = !fresh || printersExists();
-    complete(fresh);
+    writes_ = !isNew || printersExists();
+    complete(isNew);
 }
 
 void DefaultsReader::adopt(const Recordset& row)
@@ -111,7 +111,7 @@ std::string DefaultsReader::orientation(const std::string& value)
 }
 
 // Fills what no row told, and adds its row.
-void DefaultsReader::complete(bool fresh)
+void DefaultsReader::complete(bool isNew)
 {
     if (defaultValue_.Printer.empty() && printersExists()) {
         defaultValue_.Printer = printers().name;
@@ -128,7 +128,7 @@ void DefaultsReader::complete(bool fresh)
     if (defaultValue_.NumCopies == 0) {
         defaultValue_.NumCopies = pdf_ ? PDF_RESOLUTION : 1;
         // A single missing row takes the printer's number for the next start.
-        const int rowValue = pdf_ || fresh ? defaultValue_.NumCopies : printers().copies;
+        const int rowValue = pdf_ || isNew ? defaultValue_.NumCopies : printers().copies;
         append("NumCopies", std::to_string(rowValue));
     }
     if (defaultValue_.Orientation.empty()) {

@@ -67,10 +67,10 @@ void PictureArea::zoomBy(const QPointF& position, double factor)
     if (page_.levels.empty())
         return;
     const double smallest = fittingScale();
-    const double fresh = std::clamp(scale_ * factor, smallest, std::max(smallest, GREATEST_SCALE));
-    corner_ = position - (position - corner_) * (fresh / scale_);
-    scale_ = fresh;
-    fitted_ = fresh <= smallest;
+    const double newScale = std::clamp(scale_ * factor, smallest, std::max(smallest, GREATEST_SCALE));
+    corner_ = position - (position - corner_) * (newScale / scale_);
+    scale_ = newScale;
+    fitted_ = newScale <= smallest;
     holdInFrame();
 }
 

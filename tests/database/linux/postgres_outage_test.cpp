@@ -3,6 +3,7 @@
 #include "database/linux/postgres_outage.h"
 #include "database/recordset.h"
 #include "database/recordset_columns.h"
+#include "database/open_engine.h"
 
 #include <gmock/gmock.h>
 

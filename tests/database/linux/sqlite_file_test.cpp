@@ -2,7 +2,7 @@
 #include "database/catalog.h"
 #include "database/connection.h"
 #include "database/faults.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "database/recordset_columns.h"
 #include "fakes/temp_folder.h"

@@ -1,3 +1,5 @@
+#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "database/postgres_cluster.h"
 #include "register/register_fixture.h"
 

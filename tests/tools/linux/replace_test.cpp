@@ -3,7 +3,7 @@
 #include "database/engine.h"
 #include "database/exclusive_file.h"
 #include "database/faults.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "tools/import_fixture.h"
 
 #include <csignal>

@@ -1,5 +1,5 @@
 #include "database/engine.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "fakes/temp_folder.h"
 #include "tools/command_call.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/collation.h"
 #include "database/engine.h"
-#include "database/new_database.h"
+#include "database/open_engine.h"
 #include "tools/console.h"
 #include "tools/import/access_header.h"
 

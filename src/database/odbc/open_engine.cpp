@@ -1,7 +1,8 @@
+#include "database/open_engine.h"
+
 #include "base/file_path.h"
 #include "base/runtime_error.h"
 #include "database/catalog.h"
-#include "database/new_database.h"
 #include "database/odbc/engine.h"
 
 #include <algorithm>
@@ -31,19 +32,18 @@ std::shared_ptr<Engine> openOdbc(std::string_view connectionText)
     return std::make_shared<odbc::OdbcEngine>(connectionText);
 }
 
-std::shared_ptr<Engine> openAccess(const std::filesystem::path& documentPath)
+std::shared_ptr<Engine> openAccess(const std::filesystem::path& path)
 {
     const std::string driver = accessDriver();
     if (driver.empty())
         return nullptr;
-    const std::string file = utf8FromPath(documentPath);
+    const std::string file = utf8FromPath(path);
     if (file.find_first_of(";{}") != std::string::npos) // They would end the path, or begin another entry.
         throw RuntimeError(FAULT_GENERAL, "Access",
                            fmt::format("Der Pfad '{}' darf für den Treiber von Access weder \";\" noch geschweifte "
                                        "Klammern enthalten.",
                                        file));
-    return std::make_shared<odbc::OdbcEngine>(fmt::format("DRIVER={{{}}};DBQ={}", driver, file),
-                                              WatchedFile(documentPath));
+    return std::make_shared<odbc::OdbcEngine>(fmt::format("DRIVER={{{}}};DBQ={}", driver, file), WatchedFile(path));
 }
 
 } // namespace quelvarn
