@@ -155,7 +155,7 @@ command_bench() {
   exec build/release/bin/quelvarn-bench "$@"
 }
 
-command_lint() { # [--quick]: without clang-tidy
+command_lint() { # [--quick]: without clang-tidy; [--since COMMIT] [--seconds N]: clang-tidy on what changed
   need "${LINT_PACKAGES[@]}"
   local files
   mapfile -t files < <(git ls-files '*.cpp' '*.h')
@@ -169,8 +169,7 @@ command_lint() { # [--quick]: without clang-tidy
   need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
   configure lint
   say "clang-tidy ..."
-  # No source includes what moc makes; those for Windows alone are not compiled here.
-  git ls-files 'src/*.cpp' ':!src/*/windows/*' | xargs -P "$JOBS" -n 4 clang-tidy -p build/lint --quiet 2> >(grep -v 'warnings generated' >&2)
+  python3 scripts/tidy.py --jobs "$JOBS" "$@"
   say "Clean."
 }
 
@@ -239,6 +238,7 @@ usage() {
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, names, clang-format, clang-tidy (not with --quick)
+./qv lint --since COMMIT     clang-tidy only on what changed since
 ./qv fuzz [SECONDS [SEED]]   random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)

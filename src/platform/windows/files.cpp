@@ -171,7 +171,8 @@ void WindowsFiles::write(std::string_view documentPath, std::string_view content
 void WindowsFiles::copy(std::string_view from, std::string_view after)
 {
     const std::wstring source = nameWithDrive(from);
-    const OpenFile readable(source, OpenFile::Access::Read, from); // What keeps it from being read is its own fault.
+    // What keeps it from being read is its own fault.
+    static_cast<void>(OpenFile(source, OpenFile::Access::Read, from));
     NewFile file(nameWithDrive(after), after);
     file.copyFrom(source);
     file.replaceTarget();

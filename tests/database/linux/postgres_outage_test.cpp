@@ -1,9 +1,9 @@
 #include "database/connection.h"
 #include "database/engine_transaction.h"
 #include "database/linux/postgres_outage.h"
+#include "database/open_engine.h"
 #include "database/recordset.h"
 #include "database/recordset_columns.h"
-#include "database/open_engine.h"
 
 #include <gmock/gmock.h>
 
