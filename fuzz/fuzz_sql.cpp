@@ -2,6 +2,7 @@
 #include "base/runtime_error.h"
 #include "database/schema.h"
 #include "database/sql/access_text.h"
+#include "database/sql/engine_dialects.h"
 #include "database/sql/parser.h"
 #include "database/sql/renderer.h"
 
