@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Checks the language of the code: German words only in given names, a capital first letter on a function only where
-its name is given, and a header for each source."""
+its name is given, a header for each source, and no class with too many public functions."""
 
 import pathlib
 import re
@@ -10,6 +10,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 SCRIPTS = ROOT / "scripts"
 FOLDERS = ("src", "tests", "bench", "fuzz")
 LONGEST_HEADER = 120
+MOST_PUBLIC_FUNCTIONS = 30
 
 TOKEN = re.compile(
     r'^[ \t]*#[^\n]*|//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'|[A-Za-z_]\w*',
@@ -17,6 +18,10 @@ TOKEN = re.compile(
 WORD = re.compile(r"[A-Z]+(?![a-z])|[A-Z]?[a-z]+")
 TYPE = re.compile(r"\b(?:class|struct|enum class|enum|using|typename)\s+(?:\[\[\w+\]\]\s*)?(\w+)")
 FUNCTION = re.compile(r"[\w>&*]\s+([A-Z]\w*)\(")
+CLASS = re.compile(r"^(?:class|struct) (?:\[\[\w+\]\] )?(\w+)[^;{]*\n\{\n(.*?)^\};", re.S | re.M)
+ACCESS = re.compile(r"^(public|protected|private):$")
+# A function declared directly in its class, four blanks deep; its own name only, so overloads count once.
+MEMBER = re.compile(r"^    (?!friend |using )[^\s/(][^(=]*?[\s&*](\w+)\(")
 # A source that stands for a command or a missing driver, or has one twin for each system or engine.
 WITHOUT_HEADER = re.compile(
     r"/main\.cpp$|/no_\w+\.cpp$|^src/tools/(create|query|rights|sample|check/check|import/import)\.cpp$")
@@ -88,6 +93,25 @@ def header_faults() -> list[str]:
     return faults
 
 
+def class_faults(headers: list[pathlib.Path]) -> list[str]:
+    faults = []
+    for path in headers:
+        for match in CLASS.finditer(path.read_text(encoding="utf-8")):
+            name, body = match.groups()
+            public = match.group(0).startswith("struct")
+            functions: set[str] = set()
+            for line in body.splitlines():
+                if access := ACCESS.match(line):
+                    public = access.group(1) == "public"
+                elif public and (member := MEMBER.match(line)):
+                    functions.add(member.group(1))
+            functions -= {name, "operator"}
+            if len(functions) > MOST_PUBLIC_FUNCTIONS:
+                faults.append(f"{path.relative_to(ROOT)}: {name} has {len(functions)} public functions, "
+                              f"more than {MOST_PUBLIC_FUNCTIONS}")
+    return faults
+
+
 def main() -> int:
     language = Language()
     used: set[str] = set()
@@ -95,7 +119,7 @@ def main() -> int:
     for path in sources(".cpp", ".h"):
         faults += language_faults(path, language, used)
     headers = [path for path in sources(".h") if path.is_relative_to(ROOT / "src")]
-    faults += function_faults(headers, language) + header_faults()
+    faults += function_faults(headers, language) + header_faults() + class_faults(headers)
     for name in sorted(language.given):
         if name not in used and name + "_" not in used and not any(name in token for token in used):
             faults.append(f"scripts/given_names.txt: {name} is used nowhere")
