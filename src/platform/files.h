@@ -48,7 +48,7 @@ public:
     virtual std::string read(std::string_view documentPath) const = 0;
     // The file appears whole or not at all. A write-protected file is neither written over nor deleted.
     virtual void write(std::string_view documentPath, std::string_view content) = 0;
-    virtual void copy(std::string_view from, std::string_view after) = 0;
+    virtual void copy(std::string_view from, std::string_view to) = 0;
     virtual void remove(std::string_view documentPath) = 0;
 
     // The path that the operating system takes for this Windows path, whether or not it exists.

@@ -106,10 +106,10 @@ public:
         fresh.content = content;
         put(documentPath, std::move(fresh));
     }
-    void copy(std::string_view from, std::string_view after) override
+    void copy(std::string_view from, std::string_view to) override
     {
-        write(after, read(from));
-        entry(after).attribute.changed = entry(from).attribute.changed;
+        write(to, read(from));
+        entry(to).attribute.changed = entry(from).attribute.changed;
     }
     void remove(std::string_view documentPath) override
     {

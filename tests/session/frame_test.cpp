@@ -51,11 +51,11 @@ protected:
                 text += frame.button(static_cast<Tool>(i)).caption.substr(0, 2);
         return text + "/" + std::string(frame.button(Tool::Edit).tooltip);
     }
-    void choose(const std::string& name, Answer answer, const std::string& from, const std::string& after)
+    void choose(const std::string& name, Answer answer, const std::string& from, const std::string& to)
     {
         world.boxes.expect("Wechsel der Datenbank",
                            "Nach Drücken der Schaltfläche <Öffnen> wechselt die Datenbank\n\nvon:    " + from +
-                               "\nnach:  " + after + "\n\nMöchten Sie fortfahren?",
+                               "\nnach:  " + to + "\n\nMöchten Sie fortfahren?",
                            answer);
         start.fileChosen(name);
     }

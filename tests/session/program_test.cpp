@@ -131,7 +131,7 @@ TEST_F(Program, NetworkPathsBecomeDrivePathsWhereTheShareIsMapped)
 {
     const struct
     {
-        std::string from, after;
+        std::string from, to;
     } cases[] = {
         {"\\\\server\\konstruktion\\a\\b.par", "W:\\a\\b.par"},
         {"\\\\SERVER\\Konstruktion\\b.par", "W:\\b.par"},
@@ -141,7 +141,7 @@ TEST_F(Program, NetworkPathsBecomeDrivePathsWhereTheShareIsMapped)
     for (const auto& testCase : cases) {
         std::string documentPath = testCase.from;
         UniversalNachLaufwerk(documentPath, ports);
-        EXPECT_EQ(documentPath, testCase.after);
+        EXPECT_EQ(documentPath, testCase.to);
     }
     world.boxes.expect("Universalname nach Laufwerksnamen",
                        "Dem Universal-Laufwerksnamen:\n\\\\server\\konstruktion2\nkonnte kein lokales Laufwerk "

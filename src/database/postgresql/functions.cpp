@@ -43,9 +43,9 @@ char32_t weightOf(char ascii)
     return toUtf32(sortKey({std::string(1, ascii) + "x"})).front();
 }
 
-std::string replaced(std::string expression, char32_t from, char32_t after)
+std::string replaced(std::string expression, char32_t from, char32_t to)
 {
-    return fmt::format("replace({}, {}, {})", expression, constant(from), constant(after));
+    return fmt::format("replace({}, {}, {})", expression, constant(from), constant(to));
 }
 
 // The weights of a text in small letters of which all are letters, digits or frequent punctuation.
@@ -60,15 +60,15 @@ std::string weightsMoreFrequent(std::string expression)
 std::string weightsAll(std::string_view expression)
 {
     std::u32string from;
-    std::u32string after;
+    std::u32string to;
     for (char character = 1; character > 0; ++character) {
         const char32_t weight = weightOf(character);
         if (weight == static_cast<char32_t>(character) || (character >= 'A' && character <= 'Z'))
             continue;
         from += static_cast<char32_t>(character);
-        after += weight;
+        to += weight;
     }
-    return fmt::format("translate({}, {}, {})", expression, constant(from), constant(after));
+    return fmt::format("translate({}, {}, {})", expression, constant(from), constant(to));
 }
 
 // A regular expression for texts of these characters alone.

@@ -214,10 +214,10 @@ void LinuxFiles::write(std::string_view documentPath, std::string_view content)
 }
 
 // Like every copy of a file here: the time of its last change comes along, rights do not.
-void LinuxFiles::copy(std::string_view from, std::string_view after)
+void LinuxFiles::copy(std::string_view from, std::string_view to)
 {
     const OpenFile source(pathWithDrive(from), from);
-    replaceFile(pathWithDrive(after), after, [&](NewFile& file) {
+    replaceFile(pathWithDrive(to), to, [&](NewFile& file) {
         file.copyFrom(source.handle());
         file.setModified(source.status().st_mtim);
     });

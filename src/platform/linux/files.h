@@ -23,7 +23,7 @@ public:
 
     std::string read(std::string_view documentPath) const override;
     void write(std::string_view documentPath, std::string_view content) override;
-    void copy(std::string_view from, std::string_view after) override;
+    void copy(std::string_view from, std::string_view to) override;
     void remove(std::string_view documentPath) override;
 
     std::filesystem::path systemPath(std::string_view documentPath) const override;

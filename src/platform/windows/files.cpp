@@ -168,12 +168,12 @@ void WindowsFiles::write(std::string_view documentPath, std::string_view content
 }
 
 // Like every copy of a file here: the time of its last change comes along, rights do not.
-void WindowsFiles::copy(std::string_view from, std::string_view after)
+void WindowsFiles::copy(std::string_view from, std::string_view to)
 {
     const std::wstring source = nameWithDrive(from);
-    // What keeps it from being read is its own fault.
-    static_cast<void>(OpenFile(source, OpenFile::Access::Read, from));
-    NewFile file(nameWithDrive(after), after);
+    // What keeps it from being read is its own fault, and it stays until it is copied.
+    [[maybe_unused]] const OpenFile readable(source, OpenFile::Access::Read, from);
+    NewFile file(nameWithDrive(to), to);
     file.copyFrom(source);
     file.replaceTarget();
 }

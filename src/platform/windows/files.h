@@ -19,7 +19,7 @@ public:
 
     std::string read(std::string_view documentPath) const override;
     void write(std::string_view documentPath, std::string_view content) override;
-    void copy(std::string_view from, std::string_view after) override;
+    void copy(std::string_view from, std::string_view to) override;
     void remove(std::string_view documentPath) override;
 
     // In the form for long paths only where it must be: other programs' libraries do not all know it.
