@@ -238,7 +238,8 @@ usage() {
 ./qv bench [--documents N] [--json FILE]
                              measure against peers in the same run
 ./qv lint [--quick]          layering, names, clang-format, clang-tidy (not with --quick)
-./qv lint --since COMMIT     clang-tidy only on what changed since
+./qv lint --since COMMIT [--seconds N]
+                             clang-tidy only on what changed since, begun within N seconds
 ./qv fuzz [SECONDS [SEED]]   random texts for parsers and sessions, with sanitizers (Clang); 20 seconds unless told
 ./qv pictures [FOLDER]       pictures of every page, light and dark
 ./qv admin ...               the administrator's tool (./qv admin --help)
