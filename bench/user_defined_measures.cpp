@@ -101,7 +101,7 @@ void measureUserDef(Measurements& series, const std::filesystem::path& file)
     Operations operations(ports);
     FilterState filter;
     filter.types[0].section = FilterSection::UserDefined;
-    DocumentTables tables(session, operations);
+    DocumentTables tables(session.database.connection, session.rights, operations);
     FilterContext context{session, operations, filter, tables};
     for (const TestCase& testCase : CASES)
         measureCase(series, context, sqlite, testCase);

@@ -15,7 +15,8 @@ void playFirstDay(Register& office, std::string_view user, const Input& input)
     require(session.rights.WhereStatus == " WHERE ( Status = 3 OR Status = 4)" && !session.pages.ActiveQuelvarn);
     require(session.pages.SearchTexts.empty() && session.pages.Starttabelle == "Bauteile");
     for (const DocumentType& type : DOCUMENT_TYPES)
-        require(savedNames(session, type.tab).empty() && readFavourites(session, type).empty());
+        require(savedNames(session.pages, type.tab).empty() &&
+                readFavourites(session.database.connection, session.user, type).empty());
     Register::filter(session, world, input);
     Register::ask(session, input);
     session.pages.ActiveQuelvarn = true;

@@ -24,7 +24,7 @@ public:
     void play(const Input& input)
     {
         readAgain();
-        require(session_.pages.SearchTexts.empty() && savedNames(session_, 0).empty());
+        require(session_.pages.SearchTexts.empty() && savedNames(session_.pages, 0).empty());
         world_.boxes.shown.clear();
         Register::filter(session_, world_, input);
         Register::ask(session_, input);

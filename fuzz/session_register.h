@@ -120,7 +120,7 @@ public:
         filters.setField("Filterstring", input.value);
         filters.Update();
         SaveFilterRows(session, 0);
-        writeFavourite(session, DOCUMENT_TYPES[0], {input.DokuBez, input.value});
+        writeFavourite(session.database.connection, session.user, DOCUMENT_TYPES[0], {input.DokuBez, input.value});
     }
 
     // Whatever he looks for, he sees released and frozen documents alone.
@@ -128,7 +128,7 @@ public:
     {
         Operations operations(world.ports);
         FilterState state;
-        DocumentTables tables(session, operations);
+        DocumentTables tables(session.database.connection, session.rights, operations);
         FilterContext context{session, operations, state, tables};
         AddFilterStep(context, input.value, "Projekt", 0);
         AddFilterStep(context, input.search, "Autor", 0);
@@ -174,12 +174,12 @@ public:
     {
         const std::string text(rightCharacters(input.search, 50));
         require(session.pages.SearchTexts == (text.empty() ? std::vector<std::string>{} : std::vector{text}));
-        require(savedNames(session, 0) == std::vector{input.name});
-        require(SavedFilterString(session, 0, input.name) == input.value);
-        const auto favourites = readFavourites(session, DOCUMENT_TYPES[0]);
+        require(savedNames(session.pages, 0) == std::vector{input.name});
+        require(SavedFilterString(session.pages, 0, input.name) == input.value);
+        const auto favourites = readFavourites(session.database.connection, session.user, DOCUMENT_TYPES[0]);
         require(favourites.size() == 1 && same(favourites.front(), {input.DokuBez, input.value}));
-        removeFavourites(session, DOCUMENT_TYPES[0], favourites);
-        require(readFavourites(session, DOCUMENT_TYPES[0]).empty());
+        removeFavourites(session.database.connection, session.user, DOCUMENT_TYPES[0], favourites);
+        require(readFavourites(session.database.connection, session.user, DOCUMENT_TYPES[0]).empty());
     }
 
     // How the settings stand now is how they must stand after each input.

@@ -89,7 +89,7 @@ void addFavourites(SessionState& session, long turn)
 {
     Transaction transaction(session.database.connection);
     for (int i = 0; i < FAVOURITES; ++i)
-        writeFavourite(session, DOCUMENT_TYPES[0], {favouriteOf(turn, i), "0"});
+        writeFavourite(session.database.connection, session.user, DOCUMENT_TYPES[0], {favouriteOf(turn, i), "0"});
     transaction.commit();
 }
 
@@ -98,7 +98,7 @@ void removeFavourites(SessionState& session, long turn)
     std::vector<Favourite> favourites;
     for (int i = 0; i < FAVOURITES; ++i)
         favourites.push_back({favouriteOf(turn, i), "0"});
-    removeFavourites(session, DOCUMENT_TYPES[0], favourites);
+    removeFavourites(session.database.connection, session.user, DOCUMENT_TYPES[0], favourites);
 }
 
 } // namespace

@@ -15,8 +15,8 @@ constexpr std::int64_t SECONDS_UNTIL_CHECK = 60;
 
 } // namespace
 
-DocumentTables::DocumentTables(SessionState& session, Operations& operations)
-    : session_(session), ports_(operations.ports())
+DocumentTables::DocumentTables(Connection& connection, const Rights& rights, Operations& operations)
+    : connection_(connection), rights_(rights), ports_(operations.ports())
 {
     for (const DocumentType& type : DOCUMENT_TYPES)
         tables_.emplace_back(type, operations);
@@ -25,13 +25,12 @@ DocumentTables::DocumentTables(SessionState& session, Operations& operations)
 // On its first row. A revision that sorts higher stands before the older ones of its document.
 Recordset DocumentTables::OpenDokuTabelle(const DocumentType& type) const
 {
-    const std::string_view scope =
-        type.statusScope ? std::string_view(session_.rights.WhereStatus) : std::string_view();
+    const std::string_view scope = type.statusScope ? std::string_view(rights_.WhereStatus) : std::string_view();
     Recordset rows;
     if (wholeLimit_)
         quelvarn::setWholeLimit(rows, *wholeLimit_);
     rows.Open(sql::Query(type.table).where(sql::statusScope(scope)).sortedBy("DokuBez").sortedDownBy("RevBez"),
-              session_.database.connection, CursorType::Dynamic, LockType::ReadOnly);
+              connection_, CursorType::Dynamic, LockType::ReadOnly);
     if (!rows.empty())
         rows.MoveFirst();
     return rows;

@@ -11,7 +11,8 @@
 namespace quelvarn {
 
 struct Ports;
-struct SessionState;
+struct Rights;
+class Connection;
 
 // Follows what is shown of the tables.
 class TableFollower
@@ -28,7 +29,7 @@ public:
 class DocumentTables
 {
 public:
-    DocumentTables(SessionState& session, Operations& operations);
+    DocumentTables(Connection& connection, const Rights& rights, Operations& operations);
 
     int tab() const { return tab_; }
     void bringToFront(int tab) { tab_ = tab; }
@@ -60,7 +61,8 @@ public:
 private:
     Recordset OpenDokuTabelle(const DocumentType& type) const;
 
-    SessionState& session_;
+    Connection& connection_;
+    const Rights& rights_;
     Ports& ports_;
     std::vector<DocumentTable> tables_;
     std::vector<TableFollower*> followers_;

@@ -229,7 +229,7 @@ void FilterPage::useSaved(std::string_view Filtername)
 {
     perform("Filterfavoriten", "Fehler beim Filtern nach Standard!", [&] {
         context_.tab = context_.tables.tab();
-        const std::string text = SavedFilterString(context_.session, context_.tab, Filtername);
+        const std::string text = SavedFilterString(context_.session.pages, context_.tab, Filtername);
         if (text.empty())
             return;
         UseSavedFilter(context_, text);
@@ -272,7 +272,7 @@ std::string FilterPage::title() const
     const int tab = context_.tab;
     const bool singular = tab == ASSEMBLY || tab == DRAWING;
     return fmt::format("    Solid Edge - Filterwerte für {}",
-                       singular ? context_.session.singular(tab) : context_.session.plural(tab));
+                       singular ? context_.session.labels.singular(tab) : context_.session.labels.plural(tab));
 }
 
 std::string FilterPage::headingFilterValues() const
@@ -284,19 +284,19 @@ std::string FilterPage::headingFilterValues() const
 
 std::string FilterPage::accessDateText() const
 {
-    const SessionState& session = context_.session;
-    if (session.rights.seesAllStatuses())
-        return accessLine(session);
+    const Rights& rights = context_.session.rights;
+    if (rights.seesAllStatuses())
+        return accessLine(rights);
     std::string text = "Berechtigung:"; // No short form for a single status, unlike the document page.
     for (std::size_t status = 0; status < STATUS.size(); ++status)
-        if (session.rights.Sichtbar[status] == 1)
+        if (rights.Sichtbar[status] == 1)
             text += STATUS[status].shortText;
     return text;
 }
 
 std::vector<std::string> FilterPage::savedFilter() const
 {
-    return savedNames(context_.session, context_.tab);
+    return savedNames(context_.session.pages, context_.tab);
 }
 
 bool FilterPage::sectionExists(FilterSection section) const

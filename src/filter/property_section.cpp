@@ -60,7 +60,7 @@ PropertySection::PropertySection(FilterContext& context) : context_(context)
 
 std::string PropertySection::label(int index) const
 {
-    return displayName(context_.session, PROPERTIES[static_cast<std::size_t>(index - 1)].field);
+    return displayName(context_.session.labels, PROPERTIES[static_cast<std::size_t>(index - 1)].field);
 }
 
 void PropertySection::valueChosen(int index, std::string_view value)

@@ -20,9 +20,9 @@ constexpr std::string_view TITLE = "Filterwerte";
 constexpr std::string_view GROUP = "Filterwerte"; // Feld2 of the rows.
 constexpr std::size_t LONGEST_NAME = 50;
 
-const Recordset& list(const SessionState& session, int tab)
+const Recordset& list(const PageSettings& pages, int tab)
 {
-    return session.pages.GespeicherteFilter[static_cast<std::size_t>(tab)];
+    return pages.GespeicherteFilter[static_cast<std::size_t>(tab)];
 }
 
 std::size_t count(const Recordset& list)
@@ -93,23 +93,23 @@ std::optional<std::string> withStar(std::string_view value)
 
 } // namespace
 
-std::vector<std::string> savedNames(const SessionState& session, int tab)
+std::vector<std::string> savedNames(const PageSettings& pages, int tab)
 {
     std::vector<std::string> names;
-    for (std::size_t row = 0; row < count(list(session, tab)); ++row)
-        names.push_back(text(list(session, tab), row, "Filtername"));
+    for (std::size_t row = 0; row < count(list(pages, tab)); ++row)
+        names.push_back(text(list(pages, tab), row, "Filtername"));
     return names;
 }
 
-std::string SavedFilterString(const SessionState& session, int tab, std::string_view Filtername)
+std::string SavedFilterString(const PageSettings& pages, int tab, std::string_view Filtername)
 {
-    const auto row = findRow(list(session, tab), Filtername);
-    return row ? text(list(session, tab), *row, "Filterstring") : "";
+    const auto row = findRow(list(pages, tab), Filtername);
+    return row ? text(list(pages, tab), *row, "Filterstring") : "";
 }
 
 void SaveFilterRows(SessionState& session, int tab)
 {
-    const Recordset& filter = list(session, tab);
+    const Recordset& filter = list(session.pages, tab);
     if (!filter.open())
         return;
     const std::string_view key = DOCUMENT_TYPES[static_cast<std::size_t>(tab)].key;
@@ -170,7 +170,7 @@ std::optional<std::string> chosenFilter(FilterContext& context, std::string_view
         context.ports().boxes.warn(TITLE, "Es ist kein Filterwert ausgewählt!");
         return std::nullopt;
     }
-    return SavedFilterString(context.session, context.tab, CbFilterSave);
+    return SavedFilterString(context.session.pages, context.tab, CbFilterSave);
 }
 
 void UseSavedFilter(FilterContext& context, std::string_view Filterstring)
@@ -194,14 +194,14 @@ void completeStars(FilterContext& context)
             setRowValue(context.state(), i, *value);
 }
 
-FilterFavourites favouriteList(const SessionState& session, int tab)
+FilterFavourites favouriteList(const PageSettings& pages, const Labels& labels, int tab)
 {
-    FilterFavourites favourites{savedNames(session, tab), std::nullopt};
+    FilterFavourites favourites{savedNames(pages, tab), std::nullopt};
     const auto warn = [](std::string text) {
         return Box{std::string(TITLE_FAVOURITE_MENU), std::move(text), Icon::Warning};
     };
     if (favourites.names.empty())
-        favourites.box = warn(fmt::format("Es sind keine gespeicherten Filter für {} vorhanden!", session.plural(tab)));
+        favourites.box = warn(fmt::format("Es sind keine gespeicherten Filter für {} vorhanden!", labels.plural(tab)));
     if (favourites.names.size() > MAX_FILTER_FAVOURITES) {
         favourites.names.resize(MAX_FILTER_FAVOURITES);
         favourites.box = warn("Das Formular ist auf max. 25 Filter ausgelegt!");
@@ -209,14 +209,13 @@ FilterFavourites favouriteList(const SessionState& session, int tab)
     return favourites;
 }
 
-std::optional<std::string> chosenFavourite(const SessionState& session, Boxes& boxes, int tab,
-                                           std::string_view LblFilter)
+std::optional<std::string> chosenFavourite(const PageSettings& pages, Boxes& boxes, int tab, std::string_view LblFilter)
 {
     if (LblFilter.empty()) {
         boxes.warn("Filterfavoriten", "Es ist kein Filtername eingetragen!");
         return std::nullopt;
     }
-    return SavedFilterString(session, tab, LblFilter);
+    return SavedFilterString(pages, tab, LblFilter);
 }
 
 } // namespace quelvarn

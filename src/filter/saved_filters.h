@@ -12,9 +12,9 @@ namespace quelvarn {
 
 // --- lists of saved filters, one a document type ---
 // The names of a type's saved filters, in their order.
-std::vector<std::string> savedNames(const SessionState& session, int tab);
+std::vector<std::string> savedNames(const PageSettings& pages, int tab);
 // "" where there is none of this name; the comparison is exact.
-std::string SavedFilterString(const SessionState& session, int tab, std::string_view Filtername);
+std::string SavedFilterString(const PageSettings& pages, int tab, std::string_view Filtername);
 // Writes the rows of one type in one transaction, where they differ from those stored.
 void SaveFilterRows(SessionState& session, int tab);
 // All eight types in their order; a fault of one has its box, and the others go on.
@@ -44,9 +44,9 @@ struct FilterFavourites
     std::vector<std::string> names;
     std::optional<Box> box; // To be shown: there is none, or there are more than the menu takes.
 };
-FilterFavourites favouriteList(const SessionState& session, int tab);
+FilterFavourites favouriteList(const PageSettings& pages, const Labels& labels, int tab);
 // The stored text for the name in LblFilter; nothing, after a box, when it is empty.
-std::optional<std::string> chosenFavourite(const SessionState& session, Boxes& boxes, int tab,
+std::optional<std::string> chosenFavourite(const PageSettings& pages, Boxes& boxes, int tab,
                                            std::string_view LblFilter);
 
 } // namespace quelvarn

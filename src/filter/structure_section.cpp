@@ -104,7 +104,8 @@ void StructureSection::nodeChosen(const StructurePath& documentPath)
     if (!SperreBaum_) {
         tellLocked(fmt::format("Nach Auswahl\n - {} / {}\noder\n- Hauptwerte a bis g\n"
                                "ist die Auswahl weiterer Strukturmerkmale\nC bis G gesperrt!",
-                               displayName(context_.session, "Material"), displayName(context_.session, "Firma")));
+                               displayName(context_.session.labels, "Material"),
+                               displayName(context_.session.labels, "Firma")));
         return;
     }
     if (!std::equal(documentPath.begin(), documentPath.end() - 1, StrukturLetzterPfad_.begin(),
@@ -143,11 +144,12 @@ void StructureSection::chooseInBranch(std::string_view Feldname, std::string_vie
         return;
     if (!allowed) {
         tellLocked(fmt::format("Nach Auswahl\n- Hauptwerte a bis g\nist die Auswahl {} / {} gesperrt!",
-                               displayName(context_.session, "Material"), displayName(context_.session, "Firma")));
+                               displayName(context_.session.labels, "Material"),
+                               displayName(context_.session.labels, "Firma")));
         return;
     }
     AddFilterStep(context_, value, Feldname, 0,
-                  {fmt::format("StrukturMerk{}", Feldname), displayName(context_.session, Feldname)});
+                  {fmt::format("StrukturMerk{}", Feldname), displayName(context_.session.labels, Feldname)});
     SperreBaum_ = false;
     StrukturBedingung_ = extended(StrukturBedingung_, Feldname, value);
     mainValues_.fillLists();

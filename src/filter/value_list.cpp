@@ -12,15 +12,15 @@ ValueList valueList(std::vector<std::string> values)
     return {std::move(values), std::move(count)};
 }
 
-std::string displayName(const SessionState& session, std::string_view Feldname)
+std::string displayName(const Labels& labels, std::string_view Feldname)
 {
     std::string key = replaceAll(toLower(Feldname), "_", " ");
     if (Feldname == "Stichwoerter")
         key = "stichwörter";
     else if (Feldname == "Geaendert")
         key = "geändert";
-    const auto name = session.labels.Bezeichnungen.find(key);
-    return name == session.labels.Bezeichnungen.end() ? std::string(Feldname) : name->second;
+    const auto name = labels.Bezeichnungen.find(key);
+    return name == labels.Bezeichnungen.end() ? std::string(Feldname) : name->second;
 }
 
 } // namespace quelvarn

@@ -18,6 +18,6 @@ struct ValueList
 ValueList valueList(std::vector<std::string> values);
 
 // The name that the office gave a column: of "Hauptmerkmal_A" that of "hauptmerkmal a".
-std::string displayName(const SessionState& session, std::string_view Feldname);
+std::string displayName(const Labels& labels, std::string_view Feldname);
 
 } // namespace quelvarn

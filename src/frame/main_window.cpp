@@ -37,10 +37,10 @@ std::string secondsText(int milliseconds)
 
 } // namespace
 
-std::string notificationText(const SessionState& session)
+std::string notificationText(const UseSettings& use)
 {
-    if (session.use.Zeitintervall > 0 && session.use.ForwardOn)
-        return "Innerhalb " + secondsText(session.use.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
+    if (use.Zeitintervall > 0 && use.ForwardOn)
+        return "Innerhalb " + secondsText(use.Zeitintervall) + " Sek. benachrichtigen Ja/Nein.";
     return "Zeitintervall = 0. Es erfogt keine Benachrichtigung.";
 }
 

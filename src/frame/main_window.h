@@ -31,7 +31,7 @@ struct TimerSetting
 };
 
 // "Innerhalb 30,0 Sek. benachrichtigen Ja/Nein.", or that nobody is told.
-std::string notificationText(const SessionState& session);
+std::string notificationText(const UseSettings& use);
 
 // State and operations of the frame MDIForm1: which page is in front, tool bar, caption, status bar, timers.
 class MainWindow

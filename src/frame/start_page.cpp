@@ -179,7 +179,7 @@ void StartPage::open()
             return;
         }
         session_.database.DatenbankPfad = chosenPath_;
-        SchreibeDatenbankPfad(session_, ports_, chosenPath_);
+        SchreibeDatenbankPfad(session_.folders, ports_, chosenPath_);
         frame_.notify([](SessionListener& listener) { listener.databaseChanges(); });
         if (Hauptprogramm(session_, ports_))
             adoptDatabase();

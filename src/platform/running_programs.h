@@ -13,7 +13,7 @@ class RunningPrograms
 public:
     virtual ~RunningPrograms() = default;
     // The captions of all top-level windows, this program's own among them.
-    virtual std::vector<std::string> windowTitle() const = 0;
+    virtual std::vector<std::string> windowTitles() const = 0;
     // Tells the caption of this program's own window, from now until the object goes.
     virtual void ownTitle(std::string_view title) = 0;
 };

@@ -8,6 +8,7 @@
 #include "register/document_jump.h"
 #include "register/document_page.h"
 #include "register/document_panels.h"
+#include "register/favourites.h"
 #include "register/info_panel.h"
 #include "register/left_bar.h"
 #include "register/relation_actions.h"
@@ -52,6 +53,7 @@ struct Program
     TableHeading heading;
     DocumentPage documentPage;
     DocumentJump jump;
+    Favourites favourites;
     LeftBar leftBar;
     TopBar topBar;
     RelationActions relationActions;

@@ -13,10 +13,10 @@ namespace quelvarn {
 namespace {
 
 // Where the finished orders of this session go in the end.
-std::string archiveFolder(const SessionState& session)
+std::string archiveFolder(const OrderSettings& orders, const SessionFolders& folders)
 {
-    const bool local = session.orders.OrdersLocal || session.orders.PlotPfad.empty();
-    return (local ? session.folders.OrdnerOfflineVersand : session.orders.PlotPfad) + "\\Auftragsarchiv";
+    const bool local = orders.OrdersLocal || orders.PlotPfad.empty();
+    return (local ? folders.OrdnerOfflineVersand : orders.PlotPfad) + "\\Auftragsarchiv";
 }
 
 bool searchesArchive(Boxes& boxes, const std::string& documentPath)
@@ -36,13 +36,14 @@ bool searchesArchive(Boxes& boxes, const std::string& documentPath)
 
 } // namespace
 
-void openOrderFile(const Ports& ports, const SessionState& session, const std::string& documentPath)
+void openOrderFile(const Ports& ports, const OrderSettings& orders, const SessionFolders& folders,
+                   const std::string& documentPath)
 {
     if (ports.files.fileExists(documentPath))
         return openFile(ports, "Versendet an", documentPath);
     if (!searchesArchive(ports.boxes, documentPath))
         return;
-    const std::string inArchive = archiveFolder(session) + "\\" + DateiName(documentPath);
+    const std::string inArchive = archiveFolder(orders, folders) + "\\" + DateiName(documentPath);
     if (ports.files.fileExists(inArchive))
         return openFile(ports, "Versendet an", inArchive);
     ports.boxes.warn("Im Archiv nicht vorhanden", lines({

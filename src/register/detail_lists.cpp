@@ -30,10 +30,10 @@ std::string dateOrEmpty(const Value& date)
     return isNull(date) ? std::string() : formatDate(asDate(date));
 }
 
-std::string featureName(const SessionState& session, std::size_t number)
+std::string featureName(const Labels& labels, std::size_t number)
 {
-    const auto name = session.labels.Bezeichnungen.find(fmt::format("hauptmerkmal {}", letter('a', number)));
-    return name == session.labels.Bezeichnungen.end() ? std::string() : name->second;
+    const auto name = labels.Bezeichnungen.find(fmt::format("hauptmerkmal {}", letter('a', number)));
+    return name == labels.Bezeichnungen.end() ? std::string() : name->second;
 }
 
 void separate(TextList& list)
@@ -74,7 +74,7 @@ std::span<const std::string> templateBranch(const DokuRecord& record)
     return features.first(static_cast<std::size_t>(behind - features.begin()));
 }
 
-Recordset structureFeatureList(const DokuRecord& record, const SessionState& session, bool withTemplate)
+Recordset structureFeatureList(const DokuRecord& record, const Labels& labels, bool withTemplate)
 {
     TextList list{"Bezeichn", "Inhalt", "Benennung"};
     const std::size_t level = withTemplate ? templateBranch(record).size() : 0;
@@ -84,7 +84,7 @@ Recordset structureFeatureList(const DokuRecord& record, const SessionState& ses
         const bool drawingTemplate = level > 0 && i == FIRST_STRUCTURE_FEATURE + level - 1;
         list.row({{"Bezeichn", fmt::format("{}{}", PARAGRAPH, letter('A', i))},
                   {"Inhalt", record.StructureFeature[i]},
-                  {"Benennung", drawingTemplate ? "Vorlage" : featureName(session, i)}});
+                  {"Benennung", drawingTemplate ? "Vorlage" : featureName(labels, i)}});
     }
     separate(list);
     for (std::size_t i = 0; i < record.Hauptwert.size(); ++i)

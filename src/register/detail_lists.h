@@ -10,7 +10,7 @@ namespace quelvarn {
 class Connection;
 class Files;
 struct DokuRecord;
-struct SessionState;
+struct Labels;
 
 // The rows of the information pages that are lists, in recordsets in memory. A fault of the database throws.
 
@@ -23,7 +23,7 @@ Recordset InfoRevision(Connection& connection, std::string_view table, std::stri
 // Hauptmerkmal_C and below, up to the first empty one.
 std::span<const std::string> templateBranch(const DokuRecord& record);
 // Bezeichn, Inhalt, Benennung. With a template the row of the branch's last feature is named so.
-Recordset structureFeatureList(const DokuRecord& record, const SessionState& session, bool withTemplate);
+Recordset structureFeatureList(const DokuRecord& record, const Labels& labels, bool withTemplate);
 
 // ZusDokuDatum, ZusDokuDateiname, ZusDokuSenden, ZusDokufilename, ZusDokuCreated, ZusDokuFileSize. A document that is
 // missing has neither dates nor a size.

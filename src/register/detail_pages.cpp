@@ -86,7 +86,8 @@ void DetailPages::fillStructureFeatures()
 {
     LblPfadDateiVorlage_.clear();
     LblPfadDateiVorlage_ = VorlageSuchen(session_.database.connection, templateBranch(record_));
-    lists_[InfoPageId::StructureFeatures] = structureFeatureList(record_, session_, !LblPfadDateiVorlage_.empty());
+    lists_[InfoPageId::StructureFeatures] =
+        structureFeatureList(record_, session_.labels, !LblPfadDateiVorlage_.empty());
 }
 
 void DetailPages::setRevisionFilter(RevisionFilter view)
@@ -171,7 +172,7 @@ void DetailPages::openOrder()
 {
     operations_.perform(Part::Document, "Versendet an", "Fehler beim Öffnen der Datei!", [&] {
         if (const std::string order = fieldOfRow(InfoPageId::SendTo, "Orderfilename"); !order.empty())
-            openOrderFile(ports_, session_, order);
+            openOrderFile(ports_, session_.orders, session_.folders, order);
     });
 }
 

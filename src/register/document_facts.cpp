@@ -35,40 +35,39 @@ bool DocumentFacts::has(InfoPageId relation) const
     return std::ranges::find(relations, relation) != relations.end();
 }
 
-void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session,
-               const Ports& ports)
+void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, Connection& connection,
+               const TreeSwitches& switches, const Ports& ports)
 {
-    const RevisionState state = revisionState(session.database.connection, type.table, record.DokuBez);
+    const RevisionState state = revisionState(connection, type.table, record.DokuBez);
     facts.severalRevisions = state.several;
     facts.newerRevision = newerRevision(state, record);
     if (type.key == "Draft") {
-        facts.tiff = session.Tree.TIFFDoku && !findTiff(session.database.connection, ports.files, record).empty();
-        facts.pdf = session.Tree.PDFDoku && !findPdf(ports.files, record).empty();
+        facts.tiff = switches.TIFFDoku && !findTiff(connection, ports.files, record).empty();
+        facts.pdf = switches.PDFDoku && !findPdf(ports.files, record).empty();
     }
-    if (!session.Tree.Verwendung)
+    if (!switches.Verwendung)
         return;
     std::string path = record.filename;
     UniversalNachLaufwerk(path, ports);
     for (const InfoPageId relation : relationsOf(type))
-        if (hasRelation(session.database.connection, relationKindOf(relation), record, path))
+        if (hasRelation(connection, relationKindOf(relation), record, path))
             facts.relations.push_back(relation);
     facts.relationsAsked = true;
 }
 
-void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session)
+void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, Connection& connection,
+                       const TreeSwitches& switches)
 {
     if (facts.properties)
         return;
     PropertyFacts& found = facts.properties.emplace();
-    const TreeSwitches& switches = session.Tree;
     const bool ofFiles = type.specialTable == 0;
     if (switches.BenutzDef || (switches.Versendet && ofFiles)) {
-        const UserDefinedRows rows = userDefinedRows(session.database.connection, type.tableUserDef, record);
+        const UserDefinedRows rows = userDefinedRows(connection, type.tableUserDef, record);
         found.userDefined = rows.properties;
         found.sent = rows.sent;
     }
-    found.additionalDocuments =
-        switches.ZusDoku && ofFiles && hasAdditionalDocuments(session.database.connection, record.filename);
+    found.additionalDocuments = switches.ZusDoku && ofFiles && hasAdditionalDocuments(connection, record.filename);
 }
 
 } // namespace quelvarn

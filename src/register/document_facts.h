@@ -10,7 +10,8 @@ namespace quelvarn {
 
 struct DokuRecord;
 struct DocumentType;
-struct SessionState;
+class Connection;
+struct TreeSwitches;
 
 // What the user-defined rows and the link table of additional documents tell.
 struct PropertyFacts
@@ -35,9 +36,10 @@ struct DocumentFacts
 };
 
 // Fact by fact: after a fault those found before it stay.
-void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session,
-               const Ports& ports);
+void findFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, Connection& connection,
+               const TreeSwitches& switches, const Ports& ports);
 // The same; a fault is not met again.
-void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, SessionState& session);
+void findPropertyFacts(DocumentFacts& facts, const DokuRecord& record, const DocumentType& type, Connection& connection,
+                       const TreeSwitches& switches);
 
 } // namespace quelvarn

@@ -34,7 +34,7 @@ void DocumentJump::prepare(const DocumentType& type, std::string_view tell)
 
 void DocumentJump::askAfterFilter(const DocumentType& type, std::string_view tell)
 {
-    const std::string name = session_.plural(type.tab);
+    const std::string name = labels_.plural(type.tab);
     if (!ports_.boxes.ask(
             "Filterung der Tabelle '" + name + "' aufheben?",
             lines({"ACHTUNG: Tabelle '" + name + "' ist gefiltert!", tell, "Soll der Filter aufgehoben werden?"})))
@@ -60,10 +60,9 @@ bool DocumentJump::searchFile(const DocumentType& type, const std::string& filen
 bool DocumentJump::moveTo(const DocumentType& type, const std::string& filename)
 {
     Recordset& rows = tables_[type.tab].visible();
-    return std::ranges::any_of(documentsWithPath(session_.database.connection, type, filename),
-                               [&](const DocumentName& name) {
-                                   return moveToFile(rows, {name.DokuBez, name.RevBez, filename, 0});
-                               });
+    return std::ranges::any_of(documentsWithPath(connection_, type, filename), [&](const DocumentName& name) {
+        return moveToFile(rows, {name.DokuBez, name.RevBez, filename, 0});
+    });
 }
 
 bool DocumentJump::jump(const DocumentType& type, const std::string& filename, const Questions& questions)

@@ -7,10 +7,11 @@
 
 namespace quelvarn {
 
+class Connection;
 class DocumentTables;
 class TableTabs;
 struct DocumentType;
-struct SessionState;
+struct Labels;
 
 // What may not be seen while a table is filtered.
 inline constexpr std::string_view HINT_DOCUMENT = "Das zugehörige Dokument kann eventuell nicht angezeigt werden.";
@@ -20,8 +21,9 @@ inline constexpr std::string_view HINT_DOCUMENT = "Das zugehörige Dokument kann
 class DocumentJump
 {
 public:
-    DocumentJump(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
-        : session_(session), ports_(operations.ports()), tables_(tables), tabs_(tabs)
+    DocumentJump(Connection& connection, const Labels& labels, Operations& operations, DocumentTables& tables,
+                 TableTabs& tabs)
+        : connection_(connection), labels_(labels), ports_(operations.ports()), tables_(tables), tabs_(tabs)
     {}
 
     // True when the document was found; it is the current row of the table shown then.
@@ -50,7 +52,8 @@ private:
     bool jump(const DocumentType& type, const std::string& filename, const Questions& questions);
     bool afterRebuild(const DocumentType& type, const std::string& filename);
 
-    SessionState& session_;
+    Connection& connection_;
+    const Labels& labels_;
     Ports& ports_;
     DocumentTables& tables_;
     TableTabs& tabs_;

@@ -12,7 +12,7 @@ void DocumentPanels::showDocument(const DokuRecord& record)
 {
     fileName_ = record.Dateiname;
     folder_ = Ordnername(record.filename);
-    status_ = statusHeading(record, session_.user.Anwender, status_.colour);
+    status_ = statusHeading(record, user_.Anwender, status_.colour);
 }
 
 void DocumentPanels::showFile(const std::string& filename)

@@ -7,13 +7,13 @@
 
 namespace quelvarn {
 
-struct SessionState;
+struct SessionUser;
 
 // What StatusBarDatei tells of the document shown, or of one related to it.
 class DocumentPanels
 {
 public:
-    explicit DocumentPanels(const SessionState& session) : session_(session) {}
+    explicit DocumentPanels(const SessionUser& user) : user_(user) {}
 
     void showDocument(const DokuRecord& record);
     // A file without a status, such as that of a component.
@@ -27,7 +27,7 @@ public:
     const StatusHeading& status() const { return status_; }
 
 private:
-    const SessionState& session_;
+    const SessionUser& user_;
     std::string fileName_;
     std::string folder_;
     StatusHeading status_;

@@ -43,43 +43,43 @@ bool same(const Favourite& left, const Favourite& right)
     return equalText(left.DokuBez, right.DokuBez) && equalText(left.RevBez, right.RevBez);
 }
 
-std::vector<Favourite> readFavourites(SessionState& session, const DocumentType& type)
+std::vector<Favourite> readFavourites(Connection& connection, const SessionUser& user, const DocumentType& type)
 {
-    IniRows ini(session.database.connection);
+    IniRows ini(connection);
     std::vector<Favourite> favourites;
-    for (Recordset rows = ini.read(sql::Query("Ini")
-                                       .where(iniRows(session.user.Anwender, GROUP, type.key))
-                                       .sortedBy("Feld4")
-                                       .sortedBy("Feld5"));
+    for (Recordset rows = ini.read(
+             sql::Query("Ini").where(iniRows(user.Anwender, GROUP, type.key)).sortedBy("Feld4").sortedBy("Feld5"));
          !rows.eof(); rows.MoveNext())
         favourites.push_back(favouriteOf(rows));
     favourites.erase(std::unique(favourites.begin(), favourites.end(), same), favourites.end());
     return favourites;
 }
 
-void writeFavourite(SessionState& session, const DocumentType& type, const Favourite& favourite)
+void writeFavourite(Connection& connection, const SessionUser& user, const DocumentType& type,
+                    const Favourite& favourite)
 {
-    IniRows ini(session.database.connection);
+    IniRows ini(connection);
     ini.writeAlone();
     for (Recordset rows = ini.read(sql::Query("Ini").where(
-             sql::all(iniRows(session.user.Anwender, GROUP, type.key), sql::equal("Feld4", favourite.DokuBez))));
+             sql::all(iniRows(user.Anwender, GROUP, type.key), sql::equal("Feld4", favourite.DokuBez))));
          !rows.eof(); rows.MoveNext())
         if (same(favouriteOf(rows), favourite))
             return;
-    ini.append({session.user.Anwender, GROUP, type.key, favourite.DokuBez, favourite.RevBez});
+    ini.append({user.Anwender, GROUP, type.key, favourite.DokuBez, favourite.RevBez});
     ini.commit();
 }
 
-void removeFavourites(SessionState& session, const DocumentType& type, std::span<const Favourite> favourites)
+void removeFavourites(Connection& connection, const SessionUser& user, const DocumentType& type,
+                      std::span<const Favourite> favourites)
 {
     std::vector<Key> intended;
     for (const Favourite& favourite : favourites)
         intended.push_back(key(favourite.DokuBez, favourite.RevBez));
     std::ranges::sort(intended);
 
-    IniRows ini(session.database.connection);
-    Recordset rows = ini.rows(session.user.Anwender, GROUP, type.key);
-    Transaction transaction(session.database.connection);
+    IniRows ini(connection);
+    Recordset rows = ini.rows(user.Anwender, GROUP, type.key);
+    Transaction transaction(connection);
     while (!rows.eof()) {
         const Favourite favourite = favouriteOf(rows);
         if (std::ranges::binary_search(intended, key(favourite.DokuBez, favourite.RevBez)))

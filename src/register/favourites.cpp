@@ -52,9 +52,10 @@ std::vector<Favourite> all(const Recordset& rows)
 
 } // namespace
 
-Favourites::Favourites(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
-                       DocumentJump& jump)
-    : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs), jump_(jump)
+Favourites::Favourites(Connection& connection, const SessionUser& user, Operations& operations, DocumentTables& tables,
+                       TableTabs& tabs, DocumentJump& jump)
+    : connection_(connection), user_(user), operations_(operations), ports_(operations.ports()), tables_(tables),
+      tabs_(tabs), jump_(jump)
 {
     tables_.follow(*this);
 }
@@ -80,11 +81,11 @@ Favourites::List& Favourites::current()
 // Without their files the favourites stand all the same, and are read again next time.
 void Favourites::FavoritLaden(const DocumentType& type, List& list)
 {
-    const std::vector<Favourite> favourites = readFavourites(session_, type);
+    const std::vector<Favourite> favourites = readFavourites(connection_, user_, type);
     std::vector<std::string> files(favourites.size());
     list.FavoritenGeladen = guarded(ports_.boxes, "Modul: Ermitteln filename für DokuBez und RevBez",
                                     "Fehler beim Ermitteln filename für DokuBez und RevBez!",
-                                    [&] { files = filesOf(session_.database.connection, type, favourites); });
+                                    [&] { files = filesOf(connection_, type, favourites); });
     list.rows = newList();
     for (std::size_t i = 0; i < favourites.size(); ++i)
         append(list.rows, favourites[i], files[i]);
@@ -103,7 +104,7 @@ void Favourites::FavoritHinzufuegen(const std::string& DokuBez, const std::strin
     for (const Favourite& exists : all(list.rows))
         if (same(exists, favourite))
             return;
-    writeFavourite(session_, *documentType, favourite);
+    writeFavourite(connection_, user_, *documentType, favourite);
     append(list.rows, favourite, filename);
     ++generation_;
     operations_.changed(Part::TopBar);
@@ -193,7 +194,7 @@ void Favourites::FavoritLoeschen()
         if (!rows.open() || rows.eof() || rows.bof())
             return;
         const std::array favourite{favouriteOf(rows)};
-        removeFavourites(session_, type(), favourite);
+        removeFavourites(connection_, user_, type(), favourite);
         rows.Delete();
         if (rows.eof() && !rows.empty())
             rows.MoveLast();
@@ -207,7 +208,7 @@ void Favourites::AlleFavoritenLoeschen()
         Recordset& rows = current().rows;
         if (!rows.open())
             return;
-        removeFavourites(session_, type(), all(rows));
+        removeFavourites(connection_, user_, type(), all(rows));
         rows = newList();
         ++generation_;
     });

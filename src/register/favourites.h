@@ -14,18 +14,19 @@
 
 namespace quelvarn {
 
+class Connection;
 class DocumentTables;
 class DocumentJump;
 class TableTabs;
-struct SessionState;
+struct SessionUser;
 
 // The user's favourite documents of each type, and their list over the tables (FrmFavoriten). Follows the frame once it
 // is registered there.
 class Favourites : public SessionListener, public TableFollower
 {
 public:
-    Favourites(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs,
-               DocumentJump& jump);
+    Favourites(Connection& connection, const SessionUser& user, Operations& operations, DocumentTables& tables,
+               TableTabs& tabs, DocumentJump& jump);
 
     // --- operations, one for each thing a person can do ---
     void FavoritenZeigen(bool on);
@@ -71,7 +72,8 @@ private:
     void switchToFavourite();
     void perform(std::string_view text, const std::function<void()>& operation);
 
-    SessionState& session_;
+    Connection& connection_;
+    const SessionUser& user_;
     Operations& operations_;
     Ports& ports_;
     DocumentTables& tables_;

@@ -41,14 +41,14 @@ bool withFileBox(Boxes& boxes, const std::function<void()>& operation)
 
 void FilePage::read(const std::string& filename)
 {
-    session_.Dateiinfo = {};
-    withFileBox(ports_.boxes, [&] { session_.Dateiinfo = LeseDateiinfo(filename, ports_); });
-    shown_ = fileProperties(session_.Dateiinfo);
+    Dateiinfo_ = {};
+    withFileBox(ports_.boxes, [&] { Dateiinfo_ = LeseDateiinfo(filename, ports_); });
+    shown_ = fileProperties(Dateiinfo_);
 }
 
 void FilePage::setAttribute(bool on, void (Files::*set)(std::string_view, bool), bool FileAttributes::*attribute)
 {
-    const std::string filename = session_.AktDoku.filename;
+    const std::string filename = AktDoku_.filename;
     withFileBox(ports_.boxes, [&] {
         const auto attributes = ports_.files.attribute(filename);
         if (attributes && (*attributes).*attribute != on)
@@ -69,7 +69,7 @@ void FilePage::setArchive(bool on)
 
 void FilePage::clear()
 {
-    session_.Dateiinfo = {};
+    Dateiinfo_ = {};
     shown_ = {};
 }
 

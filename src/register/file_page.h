@@ -21,14 +21,16 @@ struct FileProperties
 
 FileProperties fileProperties(const FileInfo& info);
 
-struct SessionState;
+struct CurrentDocument;
 
 // The file properties page: reads what stands in the folder, and sets the two attributes that a person may change. A
 // fault has a box of its own.
 class FilePage
 {
 public:
-    FilePage(SessionState& session, Ports& ports) : session_(session), ports_(ports) {}
+    FilePage(const CurrentDocument& AktDoku, FileInfo& Dateiinfo, Ports& ports)
+        : AktDoku_(AktDoku), Dateiinfo_(Dateiinfo), ports_(ports)
+    {}
 
     void read(const std::string& filename);
     void setReadOnly(bool on);
@@ -40,7 +42,8 @@ public:
 private:
     void setAttribute(bool on, void (Files::*set)(std::string_view, bool), bool FileAttributes::*attribute);
 
-    SessionState& session_;
+    const CurrentDocument& AktDoku_;
+    FileInfo& Dateiinfo_;
     Ports& ports_;
     FileProperties shown_;
 };

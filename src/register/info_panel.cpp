@@ -61,13 +61,13 @@ int keepMark(int tab, InfoPageId page)
 InfoPanel::InfoPanel(SessionState& session, Operations& operations, DocumentTables& tables, TreePanel& tree,
                      ViewerArea& viewer, DocumentPanels& panels, ShownFiles& files)
     : session_(session), operations_(operations), tables_(tables), tree_(tree), viewer_(viewer), panels_(panels),
-      files_(files), file_(session, operations.ports()), details_(session, operations),
-      relation_(session, operations, tables, panels, files)
+      files_(files), file_(session.AktDoku, session.Dateiinfo, operations.ports()), details_(session, operations),
+      relation_(session.database.connection, session.rights, operations, tables, panels, files)
 {}
 
 std::string InfoPanel::heading() const
 {
-    return "  Eigenschaften " + session_.singular(tables_.tab());
+    return "  Eigenschaften " + session_.labels.singular(tables_.tab());
 }
 
 void InfoPanel::chooseNode(std::string_view text)

@@ -10,7 +10,8 @@ namespace quelvarn {
 LeftBar::LeftBar(SessionState& session, Operations& operations, FilterState& filter, DocumentTables& tables,
                  TableTabs& tabs, FilterPage& filterPage)
     : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), filterPage_(filterPage),
-      search_(session, operations, tables, tabs), filter_(session, operations, filter, tables, search_)
+      search_(session.pages.SearchTexts, operations, tables, tabs),
+      filter_(session, operations, filter, tables, search_)
 {
     tables_.follow(*this);
 }
@@ -39,7 +40,7 @@ bool LeftBar::showFavourites()
 {
     showsFavourite_ = false;
     operations_.perform(Part::LeftBar, TITLE_FILTER_FAVOURITES, FAULT_FILTER_FAVOURITES, [&] {
-        const FilterFavourites list = favouriteList(session_, tables_.tab());
+        const FilterFavourites list = favouriteList(session_.pages, session_.labels, tables_.tab());
         if (list.box)
             ports_.boxes.show(*list.box);
         showsFavourite_ = !list.names.empty();
@@ -51,7 +52,7 @@ std::vector<std::string> LeftBar::favouriteNames()
 {
     std::vector<std::string> names;
     guarded(ports_.boxes, TITLE_FAVOURITE_MENU, FAULT_FAVOURITE_MENU,
-            [&] { names = favouriteList(session_, tables_.tab()).names; });
+            [&] { names = favouriteList(session_.pages, session_.labels, tables_.tab()).names; });
     return names;
 }
 
@@ -71,7 +72,7 @@ void LeftBar::closeFavourites()
 void LeftBar::useFavourite()
 {
     const std::string name = LblFilter_; // The run may show another tab.
-    if (chosenFavourite(session_, ports_.boxes, tables_.tab(), name))
+    if (chosenFavourite(session_.pages, ports_.boxes, tables_.tab(), name))
         filterPage_.useSaved(name);
     operations_.changed(Part::LeftBar);
 }
@@ -93,7 +94,7 @@ std::vector<FilterRow> LeftBar::shownValues() const
 {
     if (const std::vector<FilterRow>* sought = search_.soughtValues())
         return *sought;
-    return TableHeading(session_, tables_).filterRows();
+    return TableHeading(session_.labels, session_.rights, tables_).filterRows();
 }
 
 } // namespace quelvarn

@@ -39,8 +39,9 @@ void SuchTextMerken(std::vector<std::string>& searchTexts, std::string_view text
     searchTexts.emplace_back(text);
 }
 
-QuickSearch::QuickSearch(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs)
-    : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs)
+QuickSearch::QuickSearch(std::vector<std::string>& SearchTexts, Operations& operations, DocumentTables& tables,
+                         TableTabs& tabs)
+    : SearchTexts_(SearchTexts), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs)
 {}
 
 void QuickSearch::searchText(std::string_view CombSuchStr)
@@ -94,11 +95,6 @@ void QuickSearch::setField(std::size_t searchField)
     operations_.changed(Part::LeftBar);
 }
 
-const std::vector<std::string>& QuickSearch::searchTexts() const
-{
-    return session_.pages.SearchTexts;
-}
-
 const std::vector<FilterRow>* QuickSearch::soughtValues() const
 {
     const bool same = tabOfValues_ == tables_.tab() && generationOfValues_ == tables_.current().generation();
@@ -109,7 +105,7 @@ const std::string& QuickSearch::takeText()
 {
     if (ChDynSuchen_)
         return TextDocuBez_;
-    SuchTextMerken(session_.pages.SearchTexts, CombSuchStr_);
+    SuchTextMerken(SearchTexts_, CombSuchStr_);
     return CombSuchStr_;
 }
 

@@ -14,7 +14,6 @@ namespace quelvarn {
 class DocumentTables;
 class TableTabs;
 class Recordset;
-struct SessionState;
 
 // The column that is searched: OpDokuBez, OpDatei or OpPfadDatei.
 struct SearchField
@@ -44,7 +43,7 @@ void SuchTextMerken(std::vector<std::string>& searchTexts, std::string_view text
 class QuickSearch
 {
 public:
-    QuickSearch(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs);
+    QuickSearch(std::vector<std::string>& SearchTexts, Operations& operations, DocumentTables& tables, TableTabs& tabs);
 
     // --- operations ---
     void setSearchText(std::string_view CombSuchStr) { CombSuchStr_ = CombSuchStr; } // Typed; searches nothing.
@@ -57,7 +56,7 @@ public:
     void setMethod(SearchMethod OptSuchPos) { OptSuchPos_ = OptSuchPos; }
 
     // --- state ---
-    const std::vector<std::string>& searchTexts() const;
+    const std::vector<std::string>& searchTexts() const { return SearchTexts_; }
     const std::string& CombSuchStr() const { return CombSuchStr_; }
     const std::string& TextDocuBez() const { return TextDocuBez_; }
     bool atTyping() const { return ChDynSuchen_; }
@@ -75,7 +74,7 @@ private:
     Recordset& rows();
     bool columnReady();
 
-    SessionState& session_;
+    std::vector<std::string>& SearchTexts_;
     Operations& operations_;
     Ports& ports_;
     DocumentTables& tables_;

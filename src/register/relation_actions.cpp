@@ -43,7 +43,7 @@ void RelationActions::addToFavourites()
     page_.perform([&] {
         if (!page_.usable())
             return;
-        const auto document = findDocument(session_.database.connection, *page_.type(), page_.filename());
+        const auto document = findDocument(connection_, *page_.type(), page_.filename());
         if (!document)
             return tellNoFavourite(ports_.boxes);
         favourites_.FavoritHinzufuegen(document->DokuBez, document->RevBez, page_.type()->key, page_.filename());

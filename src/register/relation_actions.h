@@ -6,6 +6,7 @@
 
 namespace quelvarn {
 
+class Connection;
 class DocumentJump;
 class Favourites;
 class MainWindow;
@@ -14,9 +15,9 @@ class MainWindow;
 class RelationActions
 {
 public:
-    RelationActions(SessionState& session, Ports& ports, RelationPage& page, DocumentJump& jump, Favourites& favourites,
-                    MainWindow& frame)
-        : session_(session), ports_(ports), page_(page), jump_(jump), favourites_(favourites), frame_(frame)
+    RelationActions(Connection& connection, Ports& ports, RelationPage& page, DocumentJump& jump,
+                    Favourites& favourites, MainWindow& frame)
+        : connection_(connection), ports_(ports), page_(page), jump_(jump), favourites_(favourites), frame_(frame)
     {}
 
     void open(); // Double click: to the document's table, and into the CAD program.
@@ -27,7 +28,7 @@ private:
     bool fileMissing();
     bool jump();
 
-    SessionState& session_;
+    Connection& connection_;
     Ports& ports_;
     RelationPage& page_;
     DocumentJump& jump_;

@@ -46,10 +46,10 @@ void tellNoPreview(Boxes& boxes, const std::string& filename)
 
 } // namespace
 
-RelationPage::RelationPage(SessionState& session, Operations& operations, const DocumentTables& tables,
-                           DocumentPanels& panels, ShownFiles& shown)
-    : session_(session), operations_(operations), ports_(operations.ports()), shown_(shown), tables_(tables),
-      panels_(panels)
+RelationPage::RelationPage(Connection& connection, const Rights& rights, Operations& operations,
+                           const DocumentTables& tables, DocumentPanels& panels, ShownFiles& shown)
+    : connection_(connection), rights_(rights), operations_(operations), ports_(operations.ports()), shown_(shown),
+      tables_(tables), panels_(panels)
 {}
 
 void RelationPage::perform(const std::function<void()>& operation)
@@ -68,7 +68,7 @@ void RelationPage::fill(const RelationKind& kind)
     const DokuRecord& record = tables_.current().record();
     std::string documentPath = record.filename;
     UniversalNachLaufwerk(documentPath, ports_);
-    rows_ = relationRows(session_.database.connection, kind, record, documentPath);
+    rows_ = relationRows(connection_, kind, record, documentPath);
     readRow();
 }
 
@@ -90,7 +90,7 @@ void RelationPage::readRow()
     if (!hasRows())
         return;
     filename_ = rows_.Text(kind_->fields.filename);
-    document_ = documentAt(session_.database.connection, *kind_, rows_);
+    document_ = documentAt(connection_, *kind_, rows_);
 }
 
 // --- the current row -------------------------------------------------------------------------------------------
@@ -115,7 +115,7 @@ void RelationPage::rowChosen(std::size_t position)
 bool RelationPage::liesInStatusRange() const
 {
     return !document_.type || document_.SondertabelleNr != 0 ||
-           isVisible(session_.database.connection, *document_.type, filename_, session_.rights.WhereStatus);
+           isVisible(connection_, *document_.type, filename_, rights_.WhereStatus);
 }
 
 // Tells that a component lies outside the statuses of the user, and lets him see it all the same.

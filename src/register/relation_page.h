@@ -10,10 +10,11 @@
 
 namespace quelvarn {
 
+class Connection;
 class DocumentPanels;
 class DocumentTables;
 class ShownFiles;
-struct SessionState;
+struct Rights;
 struct RelationKind;
 
 // One of the six pages of composition and where-used: the rows of the document shown, the document of the current
@@ -21,8 +22,8 @@ struct RelationKind;
 class RelationPage
 {
 public:
-    RelationPage(SessionState& session, Operations& operations, const DocumentTables& tables, DocumentPanels& panels,
-                 ShownFiles& shown);
+    RelationPage(Connection& connection, const Rights& rights, Operations& operations, const DocumentTables& tables,
+                 DocumentPanels& panels, ShownFiles& shown);
 
     // --- operations ---
     void rowChosen(std::size_t position);
@@ -61,7 +62,8 @@ private:
     bool loadPreview();
     void clearPreview();
 
-    SessionState& session_;
+    Connection& connection_;
+    const Rights& rights_;
     Operations& operations_;
     Ports& ports_;
     ShownFiles& shown_;

@@ -18,8 +18,8 @@ void ShownDocument::show(int tab)
         return;
     if (!table.hasRows())
         return clear(tab);
-    session_.AktDoku = table.readRecord().asAktDoku(table.type().typeAfterRow);
-    if (session_.Tree.Node)
+    AktDoku_ = table.readRecord().asAktDoku(table.type().typeAfterRow);
+    if (switches_.Node)
         info_.readFile();
     tree_.BaumAufbauen(tab);
     info_.showRow();
@@ -30,7 +30,7 @@ void ShownDocument::clear(int tab)
     viewer_.leave();
     tree_.clear(tab);
     tables_[tab].forgetRecord();
-    session_.AktDoku = {};
+    AktDoku_ = {};
     info_.clear();
     panels_.clear();
 }

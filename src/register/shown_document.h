@@ -7,15 +7,17 @@ class DocumentPanels;
 class InfoPanel;
 class TreePanel;
 class ViewerArea;
-struct SessionState;
+struct CurrentDocument;
+struct TreeSwitches;
 
 // The document of the current row, in all places that tell of it: tree, pages, viewers, status bar.
 class ShownDocument
 {
 public:
-    ShownDocument(SessionState& session, DocumentTables& tables, TreePanel& tree, InfoPanel& info, ViewerArea& viewer,
-                  DocumentPanels& panels)
-        : session_(session), tables_(tables), tree_(tree), info_(info), viewer_(viewer), panels_(panels)
+    ShownDocument(CurrentDocument& AktDoku, const TreeSwitches& switches, DocumentTables& tables, TreePanel& tree,
+                  InfoPanel& info, ViewerArea& viewer, DocumentPanels& panels)
+        : AktDoku_(AktDoku), switches_(switches), tables_(tables), tree_(tree), info_(info), viewer_(viewer),
+          panels_(panels)
     {}
 
     // Reads the row of this table; without rows nothing is shown.
@@ -26,7 +28,8 @@ public:
     void beginTable();
 
 private:
-    SessionState& session_;
+    CurrentDocument& AktDoku_;
+    const TreeSwitches& switches_;
     DocumentTables& tables_;
     TreePanel& tree_;
     InfoPanel& info_;

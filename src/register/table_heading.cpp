@@ -14,7 +14,7 @@ std::string TableHeading::countText() const
     if (!table.isOpen())
         return {};
     std::string text =
-        fmt::format("  Solid Edge - Dokumente, {}, Anzahl: {}", session_.plural(tables_.tab()), table.count());
+        fmt::format("  Solid Edge - Dokumente, {}, Anzahl: {}", labels_.plural(tables_.tab()), table.count());
     const bool quickFilter = !table.narrowing().quickFilter.empty() && table.rows().RecordCount() > 0;
     if (!filterRows().empty() || quickFilter)
         text += fmt::format("; Filteranzahl: {}", table.visible().RecordCount());
@@ -23,7 +23,7 @@ std::string TableHeading::countText() const
 
 std::string TableHeading::accessText() const
 {
-    return isStatusLimited() ? tables_.current().narrowing().statusLimit.legend : accessLine(session_);
+    return isStatusLimited() ? tables_.current().narrowing().statusLimit.legend : accessLine(rights_);
 }
 
 std::vector<FilterRow> TableHeading::filterRows() const

@@ -8,13 +8,16 @@
 
 namespace quelvarn {
 
-struct SessionState;
+struct Labels;
+struct Rights;
 
 // What stands over the table in front and tells of its rows.
 class TableHeading
 {
 public:
-    TableHeading(const SessionState& session, const DocumentTables& tables) : session_(session), tables_(tables) {}
+    TableHeading(const Labels& labels, const Rights& rights, const DocumentTables& tables)
+        : labels_(labels), rights_(rights), tables_(tables)
+    {}
 
     std::string countText() const;  // LabelSEDoku
     std::string accessText() const; // LblZugriffSEDoku: the limit of the statuses, or what the user may see
@@ -25,7 +28,8 @@ public:
     std::string_view backTip() const;
 
 private:
-    const SessionState& session_;
+    const Labels& labels_;
+    const Rights& rights_;
     const DocumentTables& tables_;
 };
 

@@ -11,6 +11,7 @@ namespace quelvarn {
 class DatabaseWatch;
 class ShownDocument;
 struct FilterState;
+struct SessionState;
 
 // The tabs of the eight tables and the rows in them.
 class TableTabs : public TableFollower

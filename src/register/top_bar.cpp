@@ -6,11 +6,13 @@
 #include "platform/clipboard.h"
 #include "platform/files.h"
 #include "register/document_jump.h"
+#include "register/favourites.h"
 #include "register/file_boxes.h"
 #include "register/table_tabs.h"
 #include "register/viewer_area.h"
 #include "session/error_report.h"
 #include "session/local_settings.h"
+#include "session/session_state.h"
 
 #include <algorithm>
 #include <iterator>
@@ -74,7 +76,7 @@ bool TopBar::usable(std::string_view key) const
         return key == "Anschauen";
     // Where use is not registered its box tells what to do; the list of users has no page yet.
     if (key == "In Benutzung..")
-        return !session_.use.CheckInOutOn;
+        return !use_.CheckInOutOn;
     const auto* command = std::ranges::find(COMMANDS, key, &Command::key);
     return command != std::end(COMMANDS) && (!command->needsDocument || tables_.current().hasRows());
 }
@@ -84,7 +86,7 @@ bool TopBar::pressed(std::string_view key) const
     return (key == "Anschauen" && viewer_.isInFront()) || (key == "Favoriten...." && favourites_.showsFavourites());
 }
 
-void TopBar::rebuild(bool /*an*/)
+void TopBar::rebuild(bool /*on*/)
 {
     tabs_.rebuild();
 }
@@ -94,12 +96,12 @@ void TopBar::openInViewer(bool on)
     viewer_.showDocument(on);
 }
 
-void TopBar::pathToClipboard(bool /*an*/)
+void TopBar::pathToClipboard(bool /*on*/)
 {
-    ports_.clipboard.setText(session_.AktDoku.filename);
+    ports_.clipboard.setText(AktDoku_.filename);
 }
 
-void TopBar::pathFromClipboard(bool /*an*/)
+void TopBar::pathFromClipboard(bool /*on*/)
 {
     std::string documentPath = ports_.clipboard.text();
     if (documentPath.empty())
@@ -124,7 +126,7 @@ void TopBar::switchTo(const std::string& documentPath)
         ports_.boxes.warn("Suchergebnis", notFound(documentPath, type));
 }
 
-void TopBar::toFavourites(bool /*an*/)
+void TopBar::toFavourites(bool /*on*/)
 {
     favourites_.toFavourites();
 }
@@ -135,9 +137,9 @@ void TopBar::showFavourites(bool on)
 }
 
 // The list of users behind the button is there only when uses are registered.
-void TopBar::inUse(bool /*an*/)
+void TopBar::inUse(bool /*on*/)
 {
-    if (!session_.use.CheckInOutOn)
+    if (!use_.CheckInOutOn)
         ports_.boxes.warn("CheckInOut der Benutzung",
                           lines({
                               "Die Benutzung wird nicht registriert, da 'CheckInOut' in der",
@@ -153,7 +155,7 @@ void TopBar::inUse(bool /*an*/)
                           }));
 }
 
-void TopBar::printers(bool /*an*/)
+void TopBar::printers(bool /*on*/)
 {
     if (printerDialog)
         printerDialog();

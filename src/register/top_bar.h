@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/ports.h"
-#include "register/favourites.h"
+#include "session/operations.h"
 
 #include <functional>
 #include <string>
@@ -11,24 +10,24 @@ namespace quelvarn {
 
 class DocumentTables;
 class DocumentJump;
+class Favourites;
 class TableTabs;
 class ViewerArea;
-struct SessionState;
+struct CurrentDocument;
+struct UseSettings;
 
 // What the buttons over the tables do with the document shown (ToolbarSEDokTop).
 class TopBar
 {
 public:
-    TopBar(SessionState& session, Operations& operations, DocumentTables& tables, TableTabs& tabs, ViewerArea& viewer,
-           DocumentJump& jump)
-        : session_(session), operations_(operations), ports_(operations.ports()), tables_(tables), tabs_(tabs),
-          viewer_(viewer), jump_(jump), favourites_(session, operations, tables, tabs, jump)
+    TopBar(const UseSettings& use, const CurrentDocument& AktDoku, Operations& operations, DocumentTables& tables,
+           TableTabs& tabs, ViewerArea& viewer, DocumentJump& jump, Favourites& favourites)
+        : use_(use), AktDoku_(AktDoku), operations_(operations), ports_(operations.ports()), tables_(tables),
+          tabs_(tabs), viewer_(viewer), jump_(jump), favourites_(favourites)
     {}
 
-    // A button was clicked, told apart by its key; a key without work does nothing. `an` counts for toggles.
+    // A button was clicked, told apart by its key; a key without work does nothing. `on` counts for toggles.
     void click(std::string_view key, bool on = true);
-
-    Favourites& favourites() { return favourites_; }
 
     // --- state ---
     bool usable(std::string_view key) const;
@@ -50,14 +49,15 @@ private:
     void printers(bool on);
     void switchTo(const std::string& documentPath);
 
-    SessionState& session_;
+    const UseSettings& use_;
+    const CurrentDocument& AktDoku_;
     Operations& operations_;
     Ports& ports_;
     DocumentTables& tables_;
     TableTabs& tabs_;
     ViewerArea& viewer_;
     DocumentJump& jump_;
-    Favourites favourites_;
+    Favourites& favourites_;
 };
 
 } // namespace quelvarn

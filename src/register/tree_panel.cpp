@@ -15,11 +15,11 @@ void TreePanel::BaumAufbauen(int tab)
     const DokuRecord& record = table.record();
     facts_ = {};
     operations_.report([&] {
-        if (session_.Tree.Node)
-            findPropertyFacts(facts_, record, table.type(), session_);
-        findFacts(facts_, record, table.type(), session_, operations_.ports());
+        if (switches_.Node)
+            findPropertyFacts(facts_, record, table.type(), connection_, switches_);
+        findFacts(facts_, record, table.type(), connection_, switches_, operations_.ports());
     });
-    trees_[static_cast<std::size_t>(tab)] = treeOf(record, facts_, table.type(), session_.Tree);
+    trees_[static_cast<std::size_t>(tab)] = treeOf(record, facts_, table.type(), switches_);
 }
 
 void TreePanel::unfold()
@@ -33,9 +33,9 @@ void TreePanel::KinderAufbauen()
     if (tree.roots.empty())
         return;
     const DocumentTable& table = tables_.current();
-    operations_.report([&] { findPropertyFacts(facts_, table.record(), table.type(), session_); });
+    operations_.report([&] { findPropertyFacts(facts_, table.record(), table.type(), connection_, switches_); });
     std::string chosen = std::move(tree.chosen);
-    tree = treeOf(table.record(), facts_, table.type(), session_.Tree);
+    tree = treeOf(table.record(), facts_, table.type(), switches_);
     tree.chosen = std::move(chosen);
     tree.roots.front().open = true;
 }

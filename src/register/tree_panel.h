@@ -12,14 +12,15 @@
 namespace quelvarn {
 
 class DocumentTables;
-struct SessionState;
+class Connection;
+struct TreeSwitches;
 
 // The property trees of the eight tables. Each is that of the current row of its table.
 class TreePanel
 {
 public:
-    TreePanel(SessionState& session, Operations& operations, DocumentTables& tables)
-        : session_(session), operations_(operations), tables_(tables)
+    TreePanel(Connection& connection, const TreeSwitches& switches, Operations& operations, DocumentTables& tables)
+        : connection_(connection), switches_(switches), operations_(operations), tables_(tables)
     {}
 
     // --- operations on the tree in front ---
@@ -43,7 +44,8 @@ private:
     PropertyTree& inFront();
     void KinderAufbauen();
 
-    SessionState& session_;
+    Connection& connection_;
+    const TreeSwitches& switches_;
     Operations& operations_;
     DocumentTables& tables_;
     std::array<PropertyTree, DOCUMENT_TYPE_COUNT> trees_;

@@ -4,9 +4,9 @@
 
 namespace quelvarn {
 
-struct SessionState;
+struct Rights;
 
 // The text of LblZugriffSEDoku for these rights.
-std::string accessLine(const SessionState& session);
+std::string accessLine(const Rights& rights);
 
 } // namespace quelvarn

@@ -150,7 +150,7 @@ void discard(SessionState& session)
     separate(session);
     session.database.DatenbankPfad.clear();
     session.use.CheckInOutOn = session.use.ForwardOn = session.pages.ActiveQuelvarn = false;
-    setZeitintervall(session, 0);
+    setZeitintervall(session.use, 0);
 }
 
 } // namespace

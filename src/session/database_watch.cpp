@@ -19,19 +19,19 @@ constexpr std::string_view REPLACED = "Die Datenbank wurde durch eine andere Dat
 
 } // namespace
 
-DatabaseWatch::DatabaseWatch(SessionState& session, Ports& ports, std::function<void()> openAgain)
-    : session_(session), ports_(ports), openAgain_(std::move(openAgain))
+DatabaseWatch::DatabaseWatch(OpenDatabase& database, Ports& ports, std::function<void()> openAgain)
+    : database_(database), ports_(ports), openAgain_(std::move(openAgain))
 {}
 
 void DatabaseWatch::tick()
 {
-    const FileState now = session_.database.connection.fileState();
+    const FileState now = database_.connection.fileState();
     if (now == FileState::Replaced)
         return tickReplaced();
     if (now == FileState::Gone && told_ != now)
         ports_.boxes.warn(TITLE, lines({
                                      "Die Datenbank ist nicht mehr vorhanden.",
-                                     session_.database.DatenbankPfad,
+                                     database_.DatenbankPfad,
                                      "",
                                      "Angezeigt wird, was schon gelesen ist.",
                                      "Sobald die Datei wieder da ist, geht es ohne Neustart weiter.",
@@ -47,7 +47,7 @@ void DatabaseWatch::tickReplaced()
         requireRegister();
     } catch (const RuntimeError& fault) {
         if (std::exchange(told_, FileState::Replaced) != FileState::Replaced)
-            ports_.boxes.warn(TITLE, lines({REPLACED, session_.database.DatenbankPfad, "",
+            ports_.boxes.warn(TITLE, lines({REPLACED, database_.DatenbankPfad, "",
                                             "Sie lässt sich nicht öffnen:", fault.description(), "",
                                             "Angezeigt wird, was aus der vorigen gelesen ist."}));
         return;
@@ -57,8 +57,8 @@ void DatabaseWatch::tickReplaced()
 
 bool DatabaseWatch::stillOpen()
 {
-    if (session_.database.connection.fileState() != FileState::Replaced) {
-        session_.database.connection.checkFile();
+    if (database_.connection.fileState() != FileState::Replaced) {
+        database_.connection.checkFile();
         return true;
     }
     requireRegister();
@@ -69,15 +69,15 @@ bool DatabaseWatch::stillOpen()
 void DatabaseWatch::requireRegister() const
 {
     Connection other;
-    other.setPatience(session_.database.connection.patience());
-    other.Open(ports_.files.systemPath(session_.database.DatenbankPfad));
+    other.setPatience(database_.connection.patience());
+    other.Open(ports_.files.systemPath(database_.DatenbankPfad));
     Recordset().Open("SELECT * FROM Ini WHERE Feld1 = ''", other);
 }
 
 void DatabaseWatch::openReplacement()
 {
     told_ = FileState::Same;
-    ports_.boxes.tell(TITLE, lines({REPLACED, session_.database.DatenbankPfad, "", "Sie wird neu geöffnet."}));
+    ports_.boxes.tell(TITLE, lines({REPLACED, database_.DatenbankPfad, "", "Sie wird neu geöffnet."}));
     openAgain_();
 }
 

@@ -7,7 +7,7 @@
 
 namespace quelvarn {
 
-struct SessionState;
+struct OpenDatabase;
 
 // Looks whether the file of the open database is still the one that was opened. Another register in its place is
 // opened by itself; of a file that is gone the user is told, and what is shown stays until it is back.
@@ -15,7 +15,7 @@ class DatabaseWatch
 {
 public:
     // `openAgain` opens the session's database like one that was chosen, with boxes of its own.
-    DatabaseWatch(SessionState& session, Ports& ports, std::function<void()> openAgain);
+    DatabaseWatch(OpenDatabase& database, Ports& ports, std::function<void()> openAgain);
 
     // In the time of the timer. Each state is told once; one of a share that does not answer is not told at all.
     void tick();
@@ -28,7 +28,7 @@ private:
     void openReplacement();
     void tickReplaced();
 
-    SessionState& session_;
+    OpenDatabase& database_;
     Ports& ports_;
     std::function<void()> openAgain_;
     FileState told_ = FileState::Same;

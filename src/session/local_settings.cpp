@@ -16,9 +16,9 @@ namespace quelvarn {
 
 namespace {
 
-std::string settingsFile(const SessionState& session)
+std::string settingsFile(const SessionFolders& folders)
 {
-    return session.folders.OrdnerDatenbankPfad + "\\Quelvarnis.ini";
+    return folders.OrdnerDatenbankPfad + "\\Quelvarnis.ini";
 }
 
 std::string lastRow(std::string_view text)
@@ -33,20 +33,20 @@ std::string lastRow(std::string_view text)
 
 } // namespace
 
-std::string LeseDatenbankPfad(const SessionState& session, const Ports& ports)
+std::string LeseDatenbankPfad(const SessionFolders& folders, const Ports& ports)
 {
     try {
-        const std::string documentPath = lastRow(decodeFileText(ports.files.read(settingsFile(session))));
+        const std::string documentPath = lastRow(decodeFileText(ports.files.read(settingsFile(folders))));
         return documentPath.ends_with(".mdb") && ports.files.fileExists(documentPath) ? documentPath : "";
     } catch (const RuntimeError&) {
         return ""; // No such file yet: nobody opened a database on this computer.
     }
 }
 
-bool SchreibeDatenbankPfad(const SessionState& session, const Ports& ports, std::string_view documentPath)
+bool SchreibeDatenbankPfad(const SessionFolders& folders, const Ports& ports, std::string_view documentPath)
 {
     try {
-        ports.files.write(settingsFile(session), encodeFileText(std::string(documentPath) + "\r\n"));
+        ports.files.write(settingsFile(folders), encodeFileText(std::string(documentPath) + "\r\n"));
         return true;
     } catch (const RuntimeError&) {
         return false;

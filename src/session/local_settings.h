@@ -9,8 +9,8 @@ namespace quelvarn {
 
 // Quelvarnis.ini in OrdnerDatenbankPfad: its last line is the path of the database.
 // "" when there is none, the file it names is missing, or the name does not end in ".mdb".
-std::string LeseDatenbankPfad(const SessionState& session, const Ports& ports);
-bool SchreibeDatenbankPfad(const SessionState& session, const Ports& ports, std::string_view documentPath);
+std::string LeseDatenbankPfad(const SessionFolders& folders, const Ports& ports);
+bool SchreibeDatenbankPfad(const SessionFolders& folders, const Ports& ports, std::string_view documentPath);
 
 // The document type code; 0 and a warning box for an ending that is none.
 int DateiTyp(std::string_view documentPath, Boxes& boxes);

@@ -35,42 +35,42 @@ void refuse(Boxes& boxes, int status, bool owner, std::string_view ofWhat)
 
 } // namespace
 
-void formStatusSection(SessionState& session)
+void formStatusSection(Rights& rights)
 {
-    session.rights.WhereStatus.clear();
-    session.rights.AndStatus.clear();
+    rights.WhereStatus.clear();
+    rights.AndStatus.clear();
     // The sum decides, not the six values.
-    if (std::accumulate(session.rights.Sichtbar.begin(), session.rights.Sichtbar.end(), 0) == STATUS_COUNT)
+    if (std::accumulate(rights.Sichtbar.begin(), rights.Sichtbar.end(), 0) == STATUS_COUNT)
         return;
 
     std::string conditions;
     for (int status = 0; status < STATUS_COUNT; ++status) {
-        if (session.rights.Sichtbar[static_cast<std::size_t>(status)] != 1)
+        if (rights.Sichtbar[static_cast<std::size_t>(status)] != 1)
             continue;
         if (conditions.empty() && status > 0)
             conditions = fmt::format(" Status = {}", status);
         else
             conditions += fmt::format("{}Status = {}", conditions.empty() ? "" : " OR ", status);
     }
-    session.rights.WhereStatus = " WHERE (" + conditions + ")";
+    rights.WhereStatus = " WHERE (" + conditions + ")";
     // Only behind AND does a first status 0 have a blank before it.
-    session.rights.AndStatus = fmt::format(" AND ({}{})", session.rights.Sichtbar[0] == 1 ? " " : "", conditions);
+    rights.AndStatus = fmt::format(" AND ({}{})", rights.Sichtbar[0] == 1 ? " " : "", conditions);
 }
 
-bool PruefeLoeschenDB(const SessionState& session, Boxes& boxes, int Status, int CodeA, int CodeB)
+bool PruefeLoeschenDB(const Rights& rights, Boxes& boxes, int Status, int CodeA, int CodeB)
 {
     if (!knownStatus(Status))
         return true;
-    const int right = session.rights.LoeschRecht[static_cast<std::size_t>(Status)];
+    const int right = rights.LoeschRecht[static_cast<std::size_t>(Status)];
     if (right == CodeA || right == CodeB || right == CODE_ALL)
         return true;
     refuse(boxes, Status, CodeA == CODE_OWN_ROW, "aus der Datenbank");
     return false;
 }
 
-bool PruefeLoeschenDatei(const SessionState& session, Boxes& boxes, int Status, int Mindestcode)
+bool PruefeLoeschenDatei(const Rights& rights, Boxes& boxes, int Status, int Mindestcode)
 {
-    if (!knownStatus(Status) || session.rights.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
+    if (!knownStatus(Status) || rights.LoeschRecht[static_cast<std::size_t>(Status)] >= Mindestcode)
         return true;
     refuse(boxes, Status, Mindestcode == CODE_OWN_FILE, "aus dem Verzeichnis");
     return false;

@@ -46,6 +46,10 @@ struct Labels
     // Property key in lower case ("autor") to the label to show.
     std::map<std::string, std::string, std::less<>> Bezeichnungen;
     std::array<std::string, 3> SondertabelleName{"Sondertabelle1", "Sondertabelle2", "Sondertabelle3"};
+
+    // "Bauteil" or the configured name of a special table.
+    std::string singular(int tab) const;
+    std::string plural(int tab) const;
 };
 
 struct Rights
@@ -101,10 +105,6 @@ struct SessionState
 
     CurrentDocument AktDoku;
     FileInfo Dateiinfo;
-
-    // "Bauteil" or the configured name of a special table.
-    std::string singular(int tab) const;
-    std::string plural(int tab) const;
 };
 
 } // namespace quelvarn

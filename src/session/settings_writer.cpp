@@ -17,15 +17,15 @@ namespace {
 constexpr std::size_t LONGEST_SEARCH_TEXT = 50;
 constexpr std::string_view EMPTY = "Leer"; // The next start replaces it by the default.
 
-void writeTreeSwitches(IniRows& ini, const SessionState& session)
+void writeTreeSwitches(IniRows& ini, const SessionUser& user, const TreeSwitches& switches)
 {
-    Recordset rows = ini.rows(session.user.Anwender, "Treeview");
+    Recordset rows = ini.rows(user.Anwender, "Treeview");
     for (; !rows.eof(); rows.MoveNext()) {
         const std::string key = textOrEmpty(rows, "Feld3");
         const auto option = std::find_if(TREE_SWITCHES.begin(), TREE_SWITCHES.end(),
                                          [&](const TreeSwitchRow& candidate) { return equalText(candidate.key, key); });
         if (option != TREE_SWITCHES.end())
-            ini.update(rows, "Feld4", session.Tree.*option->field ? "1" : "0");
+            ini.update(rows, "Feld4", switches.*option->field ? "1" : "0");
     }
 }
 
@@ -39,21 +39,21 @@ bool standsSoInTable(Recordset& rows, const std::vector<std::string>& texts)
     return count == texts.size();
 }
 
-void writeSearchTexts(IniRows& ini, const SessionState& session)
+void writeSearchTexts(IniRows& ini, const SessionUser& user, const PageSettings& pages)
 {
     std::vector<std::string> texts;
-    for (const std::string& text : session.pages.SearchTexts)
+    for (const std::string& text : pages.SearchTexts)
         if (!text.empty())
             texts.emplace_back(rightCharacters(text, LONGEST_SEARCH_TEXT));
 
-    Recordset rows = ini.searchTexts(session.user.Anwender);
+    Recordset rows = ini.searchTexts(user.Anwender);
     if (standsSoInTable(rows, texts))
         return;
     ini.writeAlone();
-    rows = ini.searchTexts(session.user.Anwender);
+    rows = ini.searchTexts(user.Anwender);
     ini.remove(rows);
     for (std::size_t index = 0; index < texts.size(); ++index)
-        ini.append({session.user.Anwender, "Suchen/Filtern", searchTextName(index), texts[index]});
+        ini.append({user.Anwender, "Suchen/Filtern", searchTextName(index), texts[index]});
 }
 
 } // namespace
@@ -83,14 +83,14 @@ void writeStartPage(SessionState& session)
     Recordset offline = ini.rows(OWNER_ALL, "Plot", "Offline");
     ini.updateAll(offline, "Feld4", session.orders.OfflineTool);
 
-    writeTreeSwitches(ini, session);
+    writeTreeSwitches(ini, session.user, session.Tree);
     ini.commit();
 }
 
 void writeDocumentPage(SessionState& session, int tab)
 {
     IniRows ini(session.database.connection);
-    writeSearchTexts(ini, session);
+    writeSearchTexts(ini, session.user, session.pages);
 
     const DocumentType& type = DOCUMENT_TYPES[static_cast<std::size_t>(tab)];
     Recordset start = ini.rows(session.user.Anwender, "Starttabelle");

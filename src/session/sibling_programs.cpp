@@ -26,9 +26,9 @@ bool contains(std::string_view title, std::string_view addressCode)
 
 int runningCopies(const Ports& ports)
 {
-    const std::vector<std::string> title = ports.programs.windowTitle();
+    const std::vector<std::string> titles = ports.programs.windowTitles();
     return static_cast<int>(
-        std::count_if(title.begin(), title.end(), [](const std::string& t) { return contains(t, QUELVARN); }));
+        std::count_if(titles.begin(), titles.end(), [](const std::string& t) { return contains(t, QUELVARN); }));
 }
 
 bool CheckAlreadyRunning(const Ports& ports)
@@ -48,7 +48,7 @@ bool CheckAlreadyRunning(const Ports& ports)
 bool CheckSiblingsRunning(const Ports& ports)
 {
     try {
-        for (const std::string& title : ports.programs.windowTitle()) {
+        for (const std::string& title : ports.programs.windowTitles()) {
             const bool Harvel = contains(title, HARVEL);
             if (!Harvel && !contains(title, TALVIK))
                 continue;
@@ -68,8 +68,8 @@ bool CheckSiblingsRunning(const Ports& ports)
 bool IsHarvelRunning(const Ports& ports)
 {
     try {
-        const std::vector<std::string> title = ports.programs.windowTitle();
-        return std::any_of(title.begin(), title.end(), [](const std::string& t) { return contains(t, HARVEL); });
+        const std::vector<std::string> titles = ports.programs.windowTitles();
+        return std::any_of(titles.begin(), titles.end(), [](const std::string& t) { return contains(t, HARVEL); });
     } catch (const RuntimeError&) {
         return false;
     }

@@ -16,7 +16,7 @@ namespace quelvarn {
 Workplace::Workplace(SessionState& session, Ports& ports, Appearance& appearance, std::function<void()> programEnd)
     : appearance_(appearance), programEnd_(std::move(programEnd)), slotGuard_(ports.boxes, [this] { programEnd_(); }),
       viewer_(ports.files), program_(session, ports, viewer_),
-      window_(std::make_unique<MDIForm1>(program_.frame, session, appearance))
+      window_(std::make_unique<MDIForm1>(program_.frame, session.user, appearance))
 {
     auto* appearanceFrame = new AppearanceFrame(appearance);
     appearanceFrame->changed = [this] {

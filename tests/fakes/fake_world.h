@@ -60,7 +60,7 @@ public:
 class FakePrograms : public RunningPrograms
 {
 public:
-    std::vector<std::string> windowTitle() const override
+    std::vector<std::string> windowTitles() const override
     {
         std::vector<std::string> all = other;
         if (!own.empty())

@@ -42,7 +42,7 @@ protected:
         session_.rights.Sichtbar = {};
         for (const char status : statuses)
             session_.rights.Sichtbar[static_cast<std::size_t>(status - '0')] = 1;
-        formStatusSection(session_);
+        formStatusSection(session_.rights);
     }
 
     using Values = std::initializer_list<std::pair<const char*, Value>>;

@@ -51,7 +51,7 @@ protected:
 
     Operations operations_{ports_};
     FilterState filter_;
-    DocumentTables tables_{session_, operations_};
+    DocumentTables tables_{session_.database.connection, session_.rights, operations_};
     FilterContext context_{session_, operations_, filter_, tables_};
 };
 

@@ -99,7 +99,7 @@ protected:
         TypeFilter& state = context_.state();
         state.FilterSchritte[static_cast<std::size_t>(state.FilterAnzahl++)] = {Feldname, value, code, ""};
     }
-    std::string saved(const std::string& name) { return SavedFilterString(session_, context_.tab, name); }
+    std::string saved(const std::string& name) { return SavedFilterString(session_.pages, context_.tab, name); }
 };
 
 TEST_F(SavedFilterTest, ARefusedNameSaysWhyAndSavesNothing)
@@ -124,11 +124,11 @@ TEST_F(SavedFilterTest, ARefusedNameSaysWhyAndSavesNothing)
         world_.boxes.expect("Filterwerte", testCase.text);
         EXPECT_FALSE(saveFilter(context_, testCase.name));
     }
-    EXPECT_THAT(savedNames(session_, 0), ElementsAre("Alt"));
+    EXPECT_THAT(savedNames(session_.pages, 0), ElementsAre("Alt"));
     context_.state().FilterSchritte[0].value = "A100";
     EXPECT_TRUE(saveFilter(context_, fifty));
     EXPECT_TRUE(saveFilter(context_, "alt")); // Names are compared exactly.
-    EXPECT_THAT(savedNames(session_, 1), IsEmpty());
+    EXPECT_THAT(savedNames(session_.pages, 1), IsEmpty());
 }
 
 TEST_F(SavedFilterTest, TheStoredFormHoldsFiveStepsAndTheTickedStatuses)
@@ -145,7 +145,7 @@ TEST_F(SavedFilterTest, TheStoredFormHoldsFiveStepsAndTheTickedStatuses)
                                "Hauptmerkmal_G\\x\\0\\Hauptmerkmal_G|\\110010\\\\Status|");
     removeFilter(context_, "nur status");
     removeFilter(context_, "Nur Status");
-    EXPECT_THAT(savedNames(session_, 0), ElementsAre("Sieben"));
+    EXPECT_THAT(savedNames(session_.pages, 0), ElementsAre("Sieben"));
 }
 
 TEST_F(SavedFilterTest, AFilterInUseReplacesTheOneBefore)
@@ -218,17 +218,20 @@ TEST_F(SavedFilterTest, StarsAreAddedWhereAValueBeginsWithOne)
 
 TEST_F(SavedFilterTest, TheFavouritesMenuTakesTwentyFive)
 {
-    EXPECT_EQ(favouriteList(session_, 4).box->text, "Es sind keine gespeicherten Filter für Schweißteile vorhanden!");
+    EXPECT_EQ(favouriteList(session_.pages, session_.labels, 4).box->text,
+              "Es sind keine gespeicherten Filter für Schweißteile vorhanden!");
     session_.labels.SondertabelleName[1] = "Normteile";
-    EXPECT_EQ(favouriteList(session_, 6).box->text, "Es sind keine gespeicherten Filter für Normteile vorhanden!");
+    EXPECT_EQ(favouriteList(session_.pages, session_.labels, 6).box->text,
+              "Es sind keine gespeicherten Filter für Normteile vorhanden!");
     step("Projekt", "A1");
     for (int i = 1; i <= 26; ++i) {
         ASSERT_TRUE(saveFilter(context_, std::to_string(i)));
-        const FilterFavourites favourites = favouriteList(session_, 0);
+        const FilterFavourites favourites = favouriteList(session_.pages, session_.labels, 0);
         EXPECT_EQ(favourites.names.size(), static_cast<std::size_t>(std::min(i, 25)));
         EXPECT_EQ(favourites.box.has_value(), i > 25);
     }
-    EXPECT_EQ(favouriteList(session_, 0).box->text, "Das Formular ist auf max. 25 Filter ausgelegt!");
+    EXPECT_EQ(favouriteList(session_.pages, session_.labels, 0).box->text,
+              "Das Formular ist auf max. 25 Filter ausgelegt!");
 }
 
 } // namespace

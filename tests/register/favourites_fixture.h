@@ -38,7 +38,7 @@ protected:
         row("Ini", {{"Feld1", user}, {"Feld2", "Favoriten"}, {"Feld3", type}, {"Feld4", DokuBez}, {"Feld5", RevBez}});
     }
 
-    Favourites& favourites_ = program_.topBar.favourites();
+    Favourites& favourites_ = program_.favourites;
 };
 
 } // namespace quelvarn

@@ -41,7 +41,7 @@ protected:
 
     void expectFilterQuestion(int tab, Answer answer)
     {
-        const std::string name = session_.plural(tab);
+        const std::string name = session_.labels.plural(tab);
         world_.boxes.expect("Filterung der Tabelle '" + name + "' aufheben?",
                             "ACHTUNG: Tabelle '" + name + "' ist gefiltert!\n" +
                                 (tab == 3 ? "Die zugehörige Zeichnung" : "Das zugehörige Dokument") +

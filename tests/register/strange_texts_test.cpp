@@ -120,8 +120,8 @@ protected:
         filters.setField("Filterstring", text);
         filters.Update();
         SaveFilterRows(session, 0);
-        writeFavourite(session, DOCUMENT_TYPES[0], {text, text});
-        writeFavourite(session, DOCUMENT_TYPES[0], {text, text});
+        writeFavourite(session.database.connection, session.user, DOCUMENT_TYPES[0], {text, text});
+        writeFavourite(session.database.connection, session.user, DOCUMENT_TYPES[0], {text, text});
     }
 
     void insertDocuments()
@@ -188,8 +188,8 @@ TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
             others = rowsOfOthers(user);
         EXPECT_FALSE(first.pages.ActiveQuelvarn) << user;
         EXPECT_THAT(first.pages.SearchTexts, IsEmpty()) << user;
-        EXPECT_THAT(savedNames(first, 0), IsEmpty()) << user;
-        EXPECT_THAT(readFavourites(first, DOCUMENT_TYPES[0]), IsEmpty()) << user;
+        EXPECT_THAT(savedNames(first.pages, 0), IsEmpty()) << user;
+        EXPECT_THAT(readFavourites(first.database.connection, first.user, DOCUMENT_TYPES[0]), IsEmpty()) << user;
         save(first, user);
         EXPECT_EQ(rowsOfOthers(user), others) << user;
 
@@ -200,14 +200,14 @@ TEST_P(StrangeTexts, AsLoginNamesReachTheirOwnRowsAlone)
         EXPECT_TRUE(second.pages.ActiveQuelvarn && !second.Tree.Node) << user;
         EXPECT_EQ(second.pages.Starttabelle, "Zeichnungen") << user;
         EXPECT_EQ(second.pages.SearchTexts.size(), 1U) << user;
-        EXPECT_THAT(savedNames(second, 0), ElementsAre(user));
-        EXPECT_EQ(SavedFilterString(second, 0, user), user);
-        const auto favourites = readFavourites(second, DOCUMENT_TYPES[0]);
+        EXPECT_THAT(savedNames(second.pages, 0), ElementsAre(user));
+        EXPECT_EQ(SavedFilterString(second.pages, 0, user), user);
+        const auto favourites = readFavourites(second.database.connection, second.user, DOCUMENT_TYPES[0]);
         ASSERT_EQ(favourites.size(), 1U) << user;
         EXPECT_EQ(favourites.front().DokuBez, user);
-        removeFavourites(second, DOCUMENT_TYPES[0], favourites);
+        removeFavourites(second.database.connection, second.user, DOCUMENT_TYPES[0], favourites);
         EXPECT_EQ(rowsOfOthers(user), others) << user;
-        writeFavourite(second, DOCUMENT_TYPES[0], {user, user});
+        writeFavourite(second.database.connection, second.user, DOCUMENT_TYPES[0], {user, user});
     }
 }
 

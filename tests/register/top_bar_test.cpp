@@ -131,7 +131,7 @@ TEST_F(TopBarTest, TheOtherKeys)
     bar_.click("Zu Favoriten");
     bar_.click("Favoriten....", true);
     EXPECT_TRUE(bar_.pressed("Favoriten...."));
-    EXPECT_EQ(bar_.favourites().list()->RecordCount(), 1u);
+    EXPECT_EQ(program_.favourites.list()->RecordCount(), 1u);
     bar_.click("Favoriten....", false);
     EXPECT_FALSE(bar_.pressed("Favoriten...."));
 }

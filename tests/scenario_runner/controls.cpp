@@ -288,7 +288,7 @@ std::string textOf(const std::string& name)
 {
     auto& widget = control(name);
     // A label may show a shortened text; the whole one is kept beside it.
-    for (const char* property : {"vollerText", "text", "currentText", "plainText", "title", "windowTitle"})
+    for (const char* property : {"fullText", "text", "currentText", "plainText", "title", "windowTitle"})
         if (const auto value = widget.property(property); value.isValid() && value.canConvert<QString>())
             return plain(value.toString());
     throw Difference(fmt::format("{} has no text", name));

@@ -79,7 +79,7 @@ TEST_P(FirstLogin, FillsTheSessionAndASecondStartChangesNothing)
         EXPECT_EQ(session.rights.WhereStatus, " WHERE ( Status = 3 OR Status = 4)");
         EXPECT_EQ(session.labels.Bezeichnungen.at("projekt"), "Auftrag");
         EXPECT_EQ(session.labels.Bezeichnungen.at("stichwörter"), "Stichwörter");
-        EXPECT_EQ(session.plural(6) + session.singular(5), "NormteileSondertabelle1");
+        EXPECT_EQ(session.labels.plural(6) + session.labels.singular(5), "NormteileSondertabelle1");
         EXPECT_EQ(session.orders.PlotPfad, "W:\\Plot");
         EXPECT_TRUE(session.use.CheckInOutOn && session.use.ForwardOn && session.use.MeldenWeiterleiten &&
                     session.use.MeldenWorkflow);

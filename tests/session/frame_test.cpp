@@ -104,7 +104,7 @@ TEST_F(Frame, WithADatabaseTheDocumentPageComesFirst)
                                                  "Baugruppe", "", "Zeichnung", "", "Schweißteil", ""));
     EXPECT_EQ(frame.TimerDBUpdate().interval, 30000);
     EXPECT_TRUE(frame.TimerCheckInOut().on && frame.TimerWorkflow().on);
-    EXPECT_EQ(notificationText(session), "Innerhalb 30,0 Sek. benachrichtigen Ja/Nein.");
+    EXPECT_EQ(notificationText(session.use), "Innerhalb 30,0 Sek. benachrichtigen Ja/Nein.");
 
     frame.toPage(Page::Start);
     EXPECT_EQ(start.LabelDB() + start.fileNamePanel() + "+" + start.pathNamePanel(),

@@ -108,23 +108,23 @@ TEST_F(Program, LastDatabaseIsTheLastLineOfTheLocalFile)
         {"W:\\Übersicht\\werk.mdb\r\n", "W:\\Übersicht\\werk.mdb"}, // Saved as UTF-8 by an editor.
         {"\xEF\xBB\xBFW:\\Übersicht\\werk.mdb", "W:\\Übersicht\\werk.mdb"},
     };
-    EXPECT_EQ(LeseDatenbankPfad(session, ports), "");
+    EXPECT_EQ(LeseDatenbankPfad(session.folders, ports), "");
     for (const auto& testCase : cases) {
         world.files.create("C:\\Quelvarnis.ini", testCase.content);
-        EXPECT_EQ(LeseDatenbankPfad(session, ports), testCase.documentPath) << testCase.content;
+        EXPECT_EQ(LeseDatenbankPfad(session.folders, ports), testCase.documentPath) << testCase.content;
     }
     // In the code page of older programs where it can hold the path, and never in a way that reads as another one.
     for (const std::string documentPath :
          {"W:\\Übersicht\\werk.mdb", "W:\\Łódź\\Ωмега\\werk.mdb", "W:\\Ã¼\\werk.mdb"}) {
         world.files.create(documentPath, "");
-        EXPECT_TRUE(SchreibeDatenbankPfad(session, ports, documentPath));
-        EXPECT_EQ(LeseDatenbankPfad(session, ports), documentPath);
+        EXPECT_TRUE(SchreibeDatenbankPfad(session.folders, ports, documentPath));
+        EXPECT_EQ(LeseDatenbankPfad(session.folders, ports), documentPath);
     }
-    EXPECT_TRUE(SchreibeDatenbankPfad(session, ports, "W:\\Übersicht\\werk.mdb"));
+    EXPECT_TRUE(SchreibeDatenbankPfad(session.folders, ports, "W:\\Übersicht\\werk.mdb"));
     EXPECT_EQ(world.files.read("C:\\Quelvarnis.ini"), "W:\\\xDC"
                                                       "bersicht\\werk.mdb\r\n");
     world.files.lock("C:\\Quelvarnis.ini");
-    EXPECT_FALSE(SchreibeDatenbankPfad(session, ports, "W:\\x.mdb"));
+    EXPECT_FALSE(SchreibeDatenbankPfad(session.folders, ports, "W:\\x.mdb"));
 }
 
 TEST_F(Program, NetworkPathsBecomeDrivePathsWhereTheShareIsMapped)

@@ -47,10 +47,10 @@ TEST(Rights, StatusScopeAndAccessLineFollowTheVisibleStatuses)
     for (const auto& testCase : cases) {
         SessionState session;
         session.rights.Sichtbar = testCase.visible;
-        formStatusSection(session);
+        formStatusSection(session.rights);
         EXPECT_EQ(session.rights.WhereStatus, testCase.where);
         EXPECT_EQ(session.rights.AndStatus, testCase.both);
-        EXPECT_EQ(accessLine(session), testCase.row);
+        EXPECT_EQ(accessLine(session.rights), testCase.row);
     }
 }
 
@@ -67,12 +67,12 @@ TEST(Rights, DeletionCodesDecideForOwnAndForeignRowsAndFiles)
         session.rights.LoeschRecht.fill(code);
         FakeBoxes boxes;
         boxes.allowHints();
-        EXPECT_EQ(PruefeLoeschenDB(session, boxes, 3, 1, 5), allowed[code][0]) << code;
-        EXPECT_EQ(PruefeLoeschenDB(session, boxes, 3, 2, 6), allowed[code][1]) << code;
-        EXPECT_EQ(PruefeLoeschenDatei(session, boxes, 3, 5), allowed[code][2]) << code;
-        EXPECT_EQ(PruefeLoeschenDatei(session, boxes, 3, 6), allowed[code][3]) << code;
-        EXPECT_TRUE(PruefeLoeschenDB(session, boxes, 7, 1, 5));
-        EXPECT_TRUE(PruefeLoeschenDatei(session, boxes, -1, 6));
+        EXPECT_EQ(PruefeLoeschenDB(session.rights, boxes, 3, 1, 5), allowed[code][0]) << code;
+        EXPECT_EQ(PruefeLoeschenDB(session.rights, boxes, 3, 2, 6), allowed[code][1]) << code;
+        EXPECT_EQ(PruefeLoeschenDatei(session.rights, boxes, 3, 5), allowed[code][2]) << code;
+        EXPECT_EQ(PruefeLoeschenDatei(session.rights, boxes, 3, 6), allowed[code][3]) << code;
+        EXPECT_TRUE(PruefeLoeschenDB(session.rights, boxes, 7, 1, 5));
+        EXPECT_TRUE(PruefeLoeschenDatei(session.rights, boxes, -1, 6));
     }
 }
 
@@ -89,10 +89,10 @@ TEST(Rights, RefusalsTellStatusAndOwnership)
     boxes.expect(title, begin + "\n aus der Datenbank" + fremd + end);
     boxes.expect(title, begin + " aus dem Verzeichnis." + also + end);
     boxes.expect(title, begin + "\n aus dem Verzeichnis" + fremd + end);
-    PruefeLoeschenDB(session, boxes, 4, 1, 5);
-    PruefeLoeschenDB(session, boxes, 4, 2, 6);
-    PruefeLoeschenDatei(session, boxes, 4, 5);
-    PruefeLoeschenDatei(session, boxes, 4, 6);
+    PruefeLoeschenDB(session.rights, boxes, 4, 1, 5);
+    PruefeLoeschenDB(session.rights, boxes, 4, 2, 6);
+    PruefeLoeschenDatei(session.rights, boxes, 4, 5);
+    PruefeLoeschenDatei(session.rights, boxes, 4, 6);
     EXPECT_EQ(boxes.last().icon, Icon::Warning);
 }
 

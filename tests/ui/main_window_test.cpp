@@ -37,7 +37,7 @@ protected:
     SlotGuard slotGuard_{world_.boxes, [] {}};
     Appearance appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
     MainWindow model_{session_, operations_, {}};
-    MDIForm1 window_{model_, session_, appearance_};
+    MDIForm1 window_{model_, session_.user, appearance_};
 };
 
 TEST_F(MDIForm1Test, HasAFixedSizeInTwips)

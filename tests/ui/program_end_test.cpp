@@ -54,7 +54,7 @@ protected:
     SlotGuard guard_{messages_, [this] { events_ += "cancelled "; }};
     Appearance appearance_{QString::fromStdString((folder_ / "Darstellung.ini").string())};
     MainWindow model_{session_, operations_, {}};
-    MDIForm1 window_{model_, session_, appearance_};
+    MDIForm1 window_{model_, session_.user, appearance_};
     ProgramEnd end_{messages_, patience_, progress_};
     std::string events_;
 };

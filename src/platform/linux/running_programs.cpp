@@ -74,7 +74,7 @@ LinuxRunningPrograms::~LinuxRunningPrograms()
         fs::remove(ownFile_, ignored);
 }
 
-std::vector<std::string> LinuxRunningPrograms::windowTitle() const
+std::vector<std::string> LinuxRunningPrograms::windowTitles() const
 {
     std::vector<std::string> result;
     for (const fs::path& folder : folders_) {

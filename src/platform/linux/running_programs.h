@@ -17,7 +17,7 @@ public:
     explicit LinuxRunningPrograms(std::vector<std::filesystem::path> folders);
     ~LinuxRunningPrograms() override;
 
-    std::vector<std::string> windowTitle() const override;
+    std::vector<std::string> windowTitles() const override;
     void ownTitle(std::string_view title) override;
 
     // In the user's run folder; beneath the folder for temporary files when he has none, or it is full.

@@ -70,7 +70,7 @@ private:
 WindowsRunningPrograms::WindowsRunningPrograms() = default;
 WindowsRunningPrograms::~WindowsRunningPrograms() = default;
 
-std::vector<std::string> WindowsRunningPrograms::windowTitle() const
+std::vector<std::string> WindowsRunningPrograms::windowTitles() const
 {
     std::vector<HWND> windowList;
     if (!EnumWindows(remember, reinterpret_cast<LPARAM>(&windowList)))

@@ -14,7 +14,7 @@ public:
     WindowsRunningPrograms();
     ~WindowsRunningPrograms() override;
 
-    std::vector<std::string> windowTitle() const override;
+    std::vector<std::string> windowTitles() const override;
     // Shows the caption on an invisible window of its own. To be called on one thread, which has a message loop.
     void ownTitle(std::string_view title) override;
 

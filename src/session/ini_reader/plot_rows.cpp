@@ -28,16 +28,16 @@ void warnPrinterTable(Boxes& boxes, std::string_view key)
                                                         key));
 }
 
-void adoptPrinters(SessionState& session, Recordset& rows)
+void adoptPrinters(OrderSettings& orders, Recordset& rows)
 {
     for (; !rows.eof(); rows.MoveNext()) {
         const std::string key = requiredText(rows, "Feld4");
-        for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index)
+        for (std::size_t index = 0; index < orders.PlotDrucker.size(); ++index)
             if (key == sheetKey(index))
-                session.orders.PlotDrucker[index] = requiredText(rows, "Feld5");
+                orders.PlotDrucker[index] = requiredText(rows, "Feld5");
     }
-    session.orders.PlotDruckerKomplett =
-        std::none_of(session.orders.PlotDrucker.begin(), session.orders.PlotDrucker.end(),
+    orders.PlotDruckerKomplett =
+        std::none_of(orders.PlotDrucker.begin(), orders.PlotDrucker.end(),
                      [](const std::string& printers) { return toUpper(printers) == toUpper(NOT_GIVEN); });
 }
 
@@ -73,18 +73,18 @@ void readOfflineTool(StartRun& run)
 
 void readPlotDrucker(StartRun& run)
 {
-    SessionState& session = run.session;
-    session.orders.PlotDrucker.fill("");
-    session.orders.PlotDruckerKomplett = false;
+    OrderSettings& orders = run.session.orders;
+    orders.PlotDrucker.fill("");
+    orders.PlotDruckerKomplett = false;
     Recordset rows = run.ini.rows(OWNER_ALL, "Plot", "Printer");
-    if (rows.RecordCount() == session.orders.PlotDrucker.size())
-        return adoptPrinters(session, rows);
+    if (rows.RecordCount() == orders.PlotDrucker.size())
+        return adoptPrinters(orders, rows);
     if (!rows.empty())
         return warnPrinterTable(run.ports.boxes, "Printer");
 
-    for (std::size_t index = 0; index < session.orders.PlotDrucker.size(); ++index) {
+    for (std::size_t index = 0; index < orders.PlotDrucker.size(); ++index) {
         run.ini.append({OWNER_ALL, "Plot", "Printer", sheetKey(index), NOT_GIVEN});
-        session.orders.PlotDrucker[index] = NOT_GIVEN;
+        orders.PlotDrucker[index] = NOT_GIVEN;
     }
 }
 

@@ -44,15 +44,15 @@ std::string welcome(std::string_view user)
     });
 }
 
-void read(SessionState& session, Recordset& rows)
+void read(Rights& rights, Recordset& rows)
 {
     for (rows.MoveFirst(); !rows.eof(); rows.MoveNext()) {
         const std::string key = toLower(textOrEmpty(rows, "Feld3"));
-        for (std::size_t status = 0; status < session.rights.Sichtbar.size(); ++status) {
+        for (std::size_t status = 0; status < rights.Sichtbar.size(); ++status) {
             if (key != fmt::format("{}_status", status))
                 continue;
-            session.rights.Sichtbar[status] = numberOrZero(rows, "Feld4");
-            session.rights.LoeschRecht[status] = numberOrZero(rows, "Feld5");
+            rights.Sichtbar[status] = numberOrZero(rows, "Feld4");
+            rights.LoeschRecht[status] = numberOrZero(rows, "Feld5");
         }
     }
 }
@@ -80,7 +80,7 @@ void readRights(StartRun& run)
     if (run.newUser)
         add(run);
     else
-        read(run.session, rows);
+        read(run.session.rights, rows);
 }
 
 void applyRights(StartRun& run)
@@ -88,7 +88,7 @@ void applyRights(StartRun& run)
     if (run.newUser)
         run.ports.boxes.tell("", welcome(run.session.user.Anwender));
     run.section = "Berechtigung auswerten";
-    formStatusSection(run.session);
+    formStatusSection(run.session.rights);
 }
 
 } // namespace quelvarn

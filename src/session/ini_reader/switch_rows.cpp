@@ -45,11 +45,10 @@ bool readOption(StartRun& run, std::string_view key, std::string_view check1, st
     return false;
 }
 
-bool openUseRegistry(SessionState& session)
+bool openUseRegistry(OpenDatabase& database, UseSettings& use)
 {
     try {
-        session.use.CheckInOut.Open("Select * From CheckInOut", session.database.connection, CursorType::Dynamic,
-                                    LockType::Optimistic);
+        use.CheckInOut.Open("Select * From CheckInOut", database.connection, CursorType::Dynamic, LockType::Optimistic);
         return true;
     } catch (const DatabaseFault& fault) {
         if (fault.kind() != FaultKind::Other)
@@ -83,14 +82,15 @@ void readCheckInOut(StartRun& run)
 {
     run.session.use.CheckInOutOn =
         readOption(run, "CheckInOut", "- Beendigung 'In Arbeit'", "- Beendigung 'In Durchsicht'") &&
-        openUseRegistry(run.session);
+        openUseRegistry(run.session.database, run.session.use);
 }
 
 void readForward(StartRun& run)
 {
     // Forwarding lives in the table of the use registry, whether or not that is kept itself.
-    run.session.use.ForwardOn = readOption(run, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
-                                (run.session.use.CheckInOutOn || openUseRegistry(run.session));
+    run.session.use.ForwardOn =
+        readOption(run, "Forward", "- Weiterleiten von Dokumenten", "- Workflow") &&
+        (run.session.use.CheckInOutOn || openUseRegistry(run.session.database, run.session.use));
 }
 
 void readMessageSwitches(StartRun& run)
@@ -110,10 +110,10 @@ void readActiveQuelvarn(StartRun& run)
         run.ini.append({user, "ActiveQuelvarn", "0"});
 }
 
-void setZeitintervall(SessionState& session, int milliseconds)
+void setZeitintervall(UseSettings& use, int milliseconds)
 {
-    session.use.Zeitintervall = milliseconds;
-    session.use.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSeconds(milliseconds / 1000.0));
+    use.Zeitintervall = milliseconds;
+    use.ZeitintervallText = fmt::format(" (Zeitintervall = {} Sek.)", formatSeconds(milliseconds / 1000.0));
 }
 
 void readZeitintervall(StartRun& run)
@@ -129,7 +129,7 @@ void readZeitintervall(StartRun& run)
         run.ports.boxes.warn("Zeitintervall", "Der Maximalwert für den Zeitintervall ist 65.535");
         value = GREATEST_INTERVAL;
     }
-    setZeitintervall(run.session, static_cast<int>(value));
+    setZeitintervall(run.session.use, static_cast<int>(value));
 }
 
 void readStarttabelle(StartRun& run)

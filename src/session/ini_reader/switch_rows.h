@@ -3,7 +3,7 @@
 namespace quelvarn {
 
 struct StartRun;
-struct SessionState;
+struct UseSettings;
 
 // Each reads its rows into the session and adds or mends what is missing or wrong (see StartRun).
 void readCheckInOut(StartRun& run);
@@ -14,6 +14,6 @@ void readZeitintervall(StartRun& run);
 void readStarttabelle(StartRun& run);
 void readTreeview(StartRun& run);
 
-void setZeitintervall(SessionState& session, int milliseconds);
+void setZeitintervall(UseSettings& use, int milliseconds);
 
 } // namespace quelvarn

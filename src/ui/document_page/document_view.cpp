@@ -36,7 +36,7 @@ constexpr int FIRST_SPECIAL_TABLE = 5;
 
 FormSEDoku::FormSEDoku(Program& program, QtViewer& viewer)
     : program_(program), viewer_(viewer), LabelSEDoku_(new ShortLabel), LblZugriffSEDoku_(new ShortLabel),
-      above_(new TopBarView(program.topBar, this)),
+      above_(new TopBarView(program.topBar, program.favourites, this)),
       left_(new LeftBarView(program.leftBar, program.tabs, program.heading)),
       info_(new InfoArea(program.info, program.relationActions, viewer)), status_(new StatusBarDatei)
 {
@@ -191,7 +191,7 @@ void FormSEDoku::showTab()
 {
     const QSignalBlocker still(SSTabDGDoku_);
     for (int tab = 0; tab < DOCUMENT_TYPE_COUNT; ++tab) {
-        const QString name = toQt(program_.session.plural(tab));
+        const QString name = toQt(program_.session.labels.plural(tab));
         const QString text = asCaption(name);
         if (SSTabDGDoku_->tabText(tab) == text)
             continue;

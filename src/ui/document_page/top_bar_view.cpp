@@ -12,9 +12,9 @@
 
 namespace quelvarn {
 
-TopBarView::TopBarView(TopBar& model, QObject* parent)
+TopBarView::TopBarView(TopBar& model, Favourites& favourites, QObject* parent)
     : QObject(parent), model_(model), ToolbarSEDokTop_(newToolbarSEDokTop()),
-      FrmFavoriten_(new FavouritesPanel(model.favourites()))
+      FrmFavoriten_(new FavouritesPanel(favourites))
 {
     for (QAction* button : ToolbarSEDokTop_->actions())
         connect(button, &QAction::triggered, this,

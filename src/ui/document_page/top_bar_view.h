@@ -6,6 +6,7 @@ class QToolBar;
 
 namespace quelvarn {
 
+class Favourites;
 class FavouritesPanel;
 class TopBar;
 
@@ -15,7 +16,7 @@ class TopBarView : public QObject
     Q_OBJECT
 
 public:
-    TopBarView(TopBar& model, QObject* parent);
+    TopBarView(TopBar& model, Favourites& favourites, QObject* parent);
 
     void refresh();
     // What the bar has brought up goes away.

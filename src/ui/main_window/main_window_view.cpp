@@ -41,8 +41,8 @@ constexpr std::array<PageRoute, 3> PAGE_ROUTES{{
 
 } // namespace
 
-MDIForm1::MDIForm1(MainWindow& model, const SessionState& session, const Appearance& appearance)
-    : model_(model), session_(session), appearance_(appearance), tools_(new ToolbarMidiFrm(model)),
+MDIForm1::MDIForm1(MainWindow& model, const SessionUser& user, const Appearance& appearance)
+    : model_(model), user_(user), appearance_(appearance), tools_(new ToolbarMidiFrm(model)),
       pages_(new QStackedWidget), status_(new StatusBarUpdate),
       timerDBUpdate_(newTimerSetting("TimerDBUpdate", [this] { model_.tickDBUpdate(); })),
       timerCheckInOut_(newTimerSetting("TimerCheckInOut", {}))
@@ -103,7 +103,7 @@ void MDIForm1::setPages(QWidget& start, QWidget& filter, QWidget& documents)
 
 void MDIForm1::configureSize()
 {
-    const QSize size = fromTwips(WINDOW_WIDTH, session_.user.FensterHoehe, *screen());
+    const QSize size = fromTwips(WINDOW_WIDTH, user_.FensterHoehe, *screen());
     const bool free = appearance_.windowFree();
     setWindowFlag(Qt::WindowMaximizeButtonHint, free);
     setMinimumSize(free ? size * 0.8 : size);

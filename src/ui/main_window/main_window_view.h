@@ -15,7 +15,7 @@ class MainWindow;
 class PageButton;
 class StatusBarUpdate;
 class ToolbarMidiFrm;
-struct SessionState;
+struct SessionUser;
 
 // The frame of the program: the ways to the pages, tool bar, the page in front, change indicators.
 class MDIForm1 : public QWidget
@@ -23,7 +23,7 @@ class MDIForm1 : public QWidget
     Q_OBJECT
 
 public:
-    MDIForm1(MainWindow& model, const SessionState& session, const Appearance& appearance);
+    MDIForm1(MainWindow& model, const SessionUser& user, const Appearance& appearance);
 
     // In the order start page, filter page, document page.
     void setPages(QWidget& start, QWidget& filter, QWidget& documents);
@@ -44,7 +44,7 @@ private:
     void showTimers();
 
     MainWindow& model_;
-    const SessionState& session_;
+    const SessionUser& user_;
     const Appearance& appearance_;
     std::array<PageButton*, 3> pageButtons_{};
     ToolbarMidiFrm* tools_;

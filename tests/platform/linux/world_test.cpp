@@ -42,7 +42,7 @@ TEST(RunningPrograms, KnowEachOtherAsLongAsTheyLive)
     TempFolder folder;
     const fs::path captions = folder / "run/quelvarn";
     LinuxRunningPrograms own({captions});
-    EXPECT_THAT(own.windowTitle(), UnorderedElementsAre());
+    EXPECT_THAT(own.windowTitles(), UnorderedElementsAre());
     own.ownTitle("noch keiner");
     own.ownTitle("W:\\x.mdb    Quelvarn Version 2.0");
 
@@ -53,11 +53,11 @@ TEST(RunningPrograms, KnowEachOtherAsLongAsTheyLive)
         pause();
         _exit(0);
     }
-    EXPECT_TRUE(comesTrue([&] { return own.windowTitle().size() == 2; }));
-    EXPECT_THAT(own.windowTitle(), UnorderedElementsAre("W:\\x.mdb    Quelvarn Version 2.0", "Harvel Version 2.1"));
+    EXPECT_TRUE(comesTrue([&] { return own.windowTitles().size() == 2; }));
+    EXPECT_THAT(own.windowTitles(), UnorderedElementsAre("W:\\x.mdb    Quelvarn Version 2.0", "Harvel Version 2.1"));
     kill(child, SIGKILL);
     // Dead, though its number is still taken until it has been waited for.
-    EXPECT_TRUE(comesTrue([&] { return own.windowTitle().size() == 1; }));
+    EXPECT_TRUE(comesTrue([&] { return own.windowTitles().size() == 1; }));
     EXPECT_FALSE(fs::exists(captions / std::to_string(child)));
     waitpid(child, nullptr, 0);
 }
@@ -70,7 +70,7 @@ TEST(RunningPrograms, LeaveNothingBehindAndSeeThroughNumbersUsedAgain)
         own.ownTitle("Quelvarn Version 2.0");
         std::ofstream(folder / "1") << "99999999999999\nTalvik Version 2.0\n";
         std::ofstream(folder / "notiz") << "kein Programm\n";
-        EXPECT_THAT(own.windowTitle(), UnorderedElementsAre("Quelvarn Version 2.0"));
+        EXPECT_THAT(own.windowTitles(), UnorderedElementsAre("Quelvarn Version 2.0"));
     }
     EXPECT_FALSE(fs::exists(folder / std::to_string(getpid())));
     EXPECT_FALSE(fs::exists(folder / "1"));
@@ -87,13 +87,13 @@ TEST(RunningPrograms, GoOnWithTheNextFolderOrUnseen)
     LinuxRunningPrograms own({full, file / "quelvarn", file, folder / "second"});
     own.ownTitle("Quelvarn Version 2.0");
     LinuxRunningPrograms other({folder / "first", folder / "second"});
-    EXPECT_THAT(other.windowTitle(), UnorderedElementsAre("Quelvarn Version 2.0"));
+    EXPECT_THAT(other.windowTitles(), UnorderedElementsAre("Quelvarn Version 2.0"));
     other.ownTitle("Harvel Version 2.1");
-    EXPECT_EQ(other.windowTitle().size(), 2U);
+    EXPECT_EQ(other.windowTitles().size(), 2U);
 
     LinuxRunningPrograms nowhere({full});
     nowhere.ownTitle("Talvik Version 2.0");
-    EXPECT_THAT(nowhere.windowTitle(), UnorderedElementsAre());
+    EXPECT_THAT(nowhere.windowTitles(), UnorderedElementsAre());
 }
 
 TEST(DefaultApplication, HandsOverThePathAsOneWord)

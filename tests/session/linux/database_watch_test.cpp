@@ -57,7 +57,7 @@ protected:
 
     MainWindow frame{session, operations, {}};
     StartPage start{session, operations, frame};
-    DatabaseWatch watch{session, ports, [this] { start.openAgain(); }};
+    DatabaseWatch watch{session.database, ports, [this] { start.openAgain(); }};
 };
 
 TEST_F(DatabaseWatching, AFileThatIsGoneIsToldOnceUntilItIsBack)

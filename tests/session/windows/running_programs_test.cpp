@@ -80,7 +80,7 @@ private:
 
 std::ptrdiff_t times(const RunningPrograms& programs, const std::string& caption)
 {
-    const std::vector<std::string> all = programs.windowTitle();
+    const std::vector<std::string> all = programs.windowTitles();
     return std::count(all.begin(), all.end(), caption);
 }
 
